@@ -1,0 +1,9 @@
+/* Everything libqvxs offers. The headers stand in the order of the library's entry table. */
+#ifndef QVX_QVXS_H
+#define QVX_QVXS_H
+
+#include <qvx/qvxs_support.h>
+#include <qvx/qvxs_vector.h>
+#include <qvx/qvxs_convert.h>
+
+#endif

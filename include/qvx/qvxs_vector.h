@@ -1,0 +1,402 @@
+/* Element-wise arithmetic, initialisation, logic and shifts. */
+#ifndef QVX_QVXS_VECTOR_H
+#define QVX_QVXS_VECTOR_H
+
+#include <qvx/qvxdefs.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/** dst[n] = src1[n] + src2[n]; the _I forms: srcDst[n] = srcDst[n] + src[n].
+ *  Integer results are exact, times 2^-scaleFactor where there is one, rounded to nearest with ties to even, saturated. The
+ *  joined types widen: 8u16u is exact, 16s32f converts first, 16s32s_I adds 16-bit elements to 32-bit ones.
+ *  64s_Sfs departs in one case: where the signs of the operands differ or one is zero, the sum is not negative and
+ *  scaleFactor is 2 to 63, an exact tie gives 0 (6 + 0 at scale factor 2 gives 0; 3 + 3 gives 2).
+ *  Float results are one IEEE addition in the element's type and the caller's rounding mode.
+ *  pSrc1, pSrc2, pDst: len elements each, any alignment. Any scaleFactor is allowed. dst may be a source itself only in the
+ *  _I forms; other overlaps have no defined result.
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). The complex forms test len before the pointers. */
+QVXS_API(QvxStatus, qvxsAdd_8u_Sfs, (const Qvx8u* pSrc1, const Qvx8u* pSrc2, Qvx8u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAdd_8u_ISfs, (const Qvx8u* pSrc, Qvx8u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAdd_8u16u, (const Qvx8u* pSrc1, const Qvx8u* pSrc2, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_16s, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx16s* pDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_16s_I, (const Qvx16s* pSrc, Qvx16s* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_16s_Sfs, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAdd_16s_ISfs, (const Qvx16s* pSrc, Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAdd_16u, (const Qvx16u* pSrc1, const Qvx16u* pSrc2, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_16u_Sfs, (const Qvx16u* pSrc1, const Qvx16u* pSrc2, Qvx16u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAdd_16u_ISfs, (const Qvx16u* pSrc, Qvx16u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAdd_16sc_Sfs, (const Qvx16sc* pSrc1, const Qvx16sc* pSrc2, Qvx16sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAdd_16sc_ISfs, (const Qvx16sc* pSrc, Qvx16sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAdd_16s32f, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_16s32s_I, (const Qvx16s* pSrc, Qvx32s* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_32u, (const Qvx32u* pSrc1, const Qvx32u* pSrc2, Qvx32u* pDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_32s_Sfs, (const Qvx32s* pSrc1, const Qvx32s* pSrc2, Qvx32s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAdd_32s_ISfs, (const Qvx32s* pSrc, Qvx32s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAdd_32sc_Sfs, (const Qvx32sc* pSrc1, const Qvx32sc* pSrc2, Qvx32sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAdd_32sc_ISfs, (const Qvx32sc* pSrc, Qvx32sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAdd_32f, (const Qvx32f* pSrc1, const Qvx32f* pSrc2, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_32f_I, (const Qvx32f* pSrc, Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_32fc, (const Qvx32fc* pSrc1, const Qvx32fc* pSrc2, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_32fc_I, (const Qvx32fc* pSrc, Qvx32fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_64f, (const Qvx64f* pSrc1, const Qvx64f* pSrc2, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_64f_I, (const Qvx64f* pSrc, Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_64fc, (const Qvx64fc* pSrc1, const Qvx64fc* pSrc2, Qvx64fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_64fc_I, (const Qvx64fc* pSrc, Qvx64fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAdd_64s_Sfs, (const Qvx64s* pSrc1, const Qvx64s* pSrc2, Qvx64s* pDst, int len, int scaleFactor));
+
+/** dst[n] = src[n] + val; the _I forms: srcDst[n] = srcDst[n] + val. Rounding, saturation and shapes as qvxsAdd.
+ *  A real float val of 0 (of either sign) leaves every bit of the source as it is.
+ *  64s_Sfs and 64u_Sfs take the rounding of the scaled result as an argument, the last one: toward zero, nearest even, or
+ *  nearest with ties away from zero (2, and any other value); their len is unsigned. They give zeros at scale factors above
+ *  64, but for val = -2^63 at 65 with ties away from zero, where -2^64 gives -1.
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1; for 64s_Sfs and 64u_Sfs len 0, and a len from 2^31 on where
+ *  the call comes down to a copy (val 0, scale factor 0) or to zeros). */
+QVXS_API(QvxStatus, qvxsAddC_8u_Sfs, (const Qvx8u* pSrc, Qvx8u val, Qvx8u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddC_8u_ISfs, (Qvx8u val, Qvx8u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddC_16s_I, (Qvx16s val, Qvx16s* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAddC_16s_Sfs, (const Qvx16s* pSrc, Qvx16s val, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddC_16s_ISfs, (Qvx16s val, Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddC_16u_Sfs, (const Qvx16u* pSrc, Qvx16u val, Qvx16u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddC_16u_ISfs, (Qvx16u val, Qvx16u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddC_16sc_Sfs, (const Qvx16sc* pSrc, Qvx16sc val, Qvx16sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddC_16sc_ISfs, (Qvx16sc val, Qvx16sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddC_32s_Sfs, (const Qvx32s* pSrc, Qvx32s val, Qvx32s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddC_32s_ISfs, (Qvx32s val, Qvx32s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddC_32sc_Sfs, (const Qvx32sc* pSrc, Qvx32sc val, Qvx32sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddC_32sc_ISfs, (Qvx32sc val, Qvx32sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddC_32f, (const Qvx32f* pSrc, Qvx32f val, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsAddC_32f_I, (Qvx32f val, Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAddC_32fc, (const Qvx32fc* pSrc, Qvx32fc val, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsAddC_32fc_I, (Qvx32fc val, Qvx32fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAddC_64f, (const Qvx64f* pSrc, Qvx64f val, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsAddC_64f_I, (Qvx64f val, Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAddC_64fc, (const Qvx64fc* pSrc, Qvx64fc val, Qvx64fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsAddC_64fc_I, (Qvx64fc val, Qvx64fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAddC_64s_Sfs, (const Qvx64s* pSrc, Qvx64s val, Qvx64s* pDst, Qvx32u len, int scaleFactor, QvxRoundMode rndMode));
+QVXS_API(QvxStatus, qvxsAddC_64u_Sfs, (const Qvx64u* pSrc, Qvx64u val, Qvx64u* pDst, Qvx32u len, int scaleFactor, QvxRoundMode rndMode));
+
+/** srcDst[n] = srcDst[n] + src1[n] * src2[n].
+ *  16s_Sfs, 16s32s_Sfs: the exact sum of both times 2^-scaleFactor, nearest even, saturated; zeros above scale factor 31.
+ *  32s_Sfs goes through Qvx64f: ((src1 * 2^-scaleFactor) * src2) + srcDst * 2^-scaleFactor, every step rounded to nearest,
+ *  then saturated and rounded to nearest even. It is exact while the product needs no more than 53 bits.
+ *  Float forms round the product and then the sum; they do not fuse the two.
+ *  All vectors: len elements, any alignment. Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
+QVXS_API(QvxStatus, qvxsAddProduct_16s_Sfs, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddProduct_16s32s_Sfs, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx32s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddProduct_32s_Sfs, (const Qvx32s* pSrc1, const Qvx32s* pSrc2, Qvx32s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsAddProduct_32f, (const Qvx32f* pSrc1, const Qvx32f* pSrc2, Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAddProduct_64f, (const Qvx64f* pSrc1, const Qvx64f* pSrc2, Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAddProduct_32fc, (const Qvx32fc* pSrc1, const Qvx32fc* pSrc2, Qvx32fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAddProduct_64fc, (const Qvx64fc* pSrc1, const Qvx64fc* pSrc2, Qvx64fc* pSrcDst, int len));
+
+/** srcDst[n] = srcDst[n] + src[n] * val; otherwise as qvxsAddProduct. */
+QVXS_API(QvxStatus, qvxsAddProductC_32f, (const Qvx32f* pSrc, Qvx32f val, Qvx32f* pSrcDst, int len));
+
+/** dst[n] = src2[n] - src1[n]: the second source minus the first. The _I forms: srcDst[n] = srcDst[n] - src[n].
+ *  Rounding, saturation (unsigned differences at 0), shapes and returns as qvxsAdd; the complex forms test len first. */
+QVXS_API(QvxStatus, qvxsSub_8u_Sfs, (const Qvx8u* pSrc1, const Qvx8u* pSrc2, Qvx8u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSub_8u_ISfs, (const Qvx8u* pSrc, Qvx8u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSub_16s, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx16s* pDst, int len));
+QVXS_API(QvxStatus, qvxsSub_16s_I, (const Qvx16s* pSrc, Qvx16s* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSub_16s_Sfs, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSub_16s_ISfs, (const Qvx16s* pSrc, Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSub_16u_Sfs, (const Qvx16u* pSrc1, const Qvx16u* pSrc2, Qvx16u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSub_16u_ISfs, (const Qvx16u* pSrc, Qvx16u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSub_16sc_Sfs, (const Qvx16sc* pSrc1, const Qvx16sc* pSrc2, Qvx16sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSub_16sc_ISfs, (const Qvx16sc* pSrc, Qvx16sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSub_16s32f, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsSub_32s_Sfs, (const Qvx32s* pSrc1, const Qvx32s* pSrc2, Qvx32s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSub_32s_ISfs, (const Qvx32s* pSrc, Qvx32s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSub_32sc_Sfs, (const Qvx32sc* pSrc1, const Qvx32sc* pSrc2, Qvx32sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSub_32sc_ISfs, (const Qvx32sc* pSrc, Qvx32sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSub_32f, (const Qvx32f* pSrc1, const Qvx32f* pSrc2, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsSub_32f_I, (const Qvx32f* pSrc, Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSub_32fc, (const Qvx32fc* pSrc1, const Qvx32fc* pSrc2, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSub_32fc_I, (const Qvx32fc* pSrc, Qvx32fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSub_64f, (const Qvx64f* pSrc1, const Qvx64f* pSrc2, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsSub_64f_I, (const Qvx64f* pSrc, Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSub_64fc, (const Qvx64fc* pSrc1, const Qvx64fc* pSrc2, Qvx64fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSub_64fc_I, (const Qvx64fc* pSrc, Qvx64fc* pSrcDst, int len));
+
+/** dst[n] = src[n] - val; the _I forms: srcDst[n] = srcDst[n] - val. Otherwise as qvxsAddC: a real float val of 0 leaves every
+ *  bit as it is. */
+QVXS_API(QvxStatus, qvxsSubC_8u_Sfs, (const Qvx8u* pSrc, Qvx8u val, Qvx8u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubC_8u_ISfs, (Qvx8u val, Qvx8u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubC_16s_I, (Qvx16s val, Qvx16s* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSubC_16s_Sfs, (const Qvx16s* pSrc, Qvx16s val, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubC_16s_ISfs, (Qvx16s val, Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubC_16u_Sfs, (const Qvx16u* pSrc, Qvx16u val, Qvx16u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubC_16u_ISfs, (Qvx16u val, Qvx16u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubC_16sc_Sfs, (const Qvx16sc* pSrc, Qvx16sc val, Qvx16sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubC_16sc_ISfs, (Qvx16sc val, Qvx16sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubC_32s_Sfs, (const Qvx32s* pSrc, Qvx32s val, Qvx32s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubC_32s_ISfs, (Qvx32s val, Qvx32s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubC_32sc_Sfs, (const Qvx32sc* pSrc, Qvx32sc val, Qvx32sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubC_32sc_ISfs, (Qvx32sc val, Qvx32sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubC_32f, (const Qvx32f* pSrc, Qvx32f val, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsSubC_32f_I, (Qvx32f val, Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSubC_32fc, (const Qvx32fc* pSrc, Qvx32fc val, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSubC_32fc_I, (Qvx32fc val, Qvx32fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSubC_64f, (const Qvx64f* pSrc, Qvx64f val, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsSubC_64f_I, (Qvx64f val, Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSubC_64fc, (const Qvx64fc* pSrc, Qvx64fc val, Qvx64fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSubC_64fc_I, (Qvx64fc val, Qvx64fc* pSrcDst, int len));
+
+/** dst[n] = val - src[n]; the _I forms: srcDst[n] = val - srcDst[n]. Otherwise as qvxsSubC. */
+QVXS_API(QvxStatus, qvxsSubCRev_8u_Sfs, (const Qvx8u* pSrc, Qvx8u val, Qvx8u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubCRev_8u_ISfs, (Qvx8u val, Qvx8u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubCRev_16s_Sfs, (const Qvx16s* pSrc, Qvx16s val, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubCRev_16s_ISfs, (Qvx16s val, Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubCRev_16u_Sfs, (const Qvx16u* pSrc, Qvx16u val, Qvx16u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubCRev_16u_ISfs, (Qvx16u val, Qvx16u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubCRev_16sc_Sfs, (const Qvx16sc* pSrc, Qvx16sc val, Qvx16sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubCRev_16sc_ISfs, (Qvx16sc val, Qvx16sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubCRev_32s_Sfs, (const Qvx32s* pSrc, Qvx32s val, Qvx32s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubCRev_32s_ISfs, (Qvx32s val, Qvx32s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubCRev_32sc_Sfs, (const Qvx32sc* pSrc, Qvx32sc val, Qvx32sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubCRev_32sc_ISfs, (Qvx32sc val, Qvx32sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSubCRev_32f, (const Qvx32f* pSrc, Qvx32f val, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsSubCRev_32f_I, (Qvx32f val, Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSubCRev_32fc, (const Qvx32fc* pSrc, Qvx32fc val, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSubCRev_32fc_I, (Qvx32fc val, Qvx32fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSubCRev_64f, (const Qvx64f* pSrc, Qvx64f val, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsSubCRev_64f_I, (Qvx64f val, Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSubCRev_64fc, (const Qvx64fc* pSrc, Qvx64fc val, Qvx64fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSubCRev_64fc_I, (Qvx64fc val, Qvx64fc* pSrcDst, int len));
+
+/** dst[n] = src1[n] * src2[n]; the _I forms: srcDst[n] = srcDst[n] * src[n].
+ *  Integer results are exact, times 2^-scaleFactor where there is one, rounded to nearest with ties to even, saturated. A
+ *  complex product is (re1*re2 - im1*im2, re1*im2 + im1*re2); for integers each part is scaled, rounded and saturated once.
+ *  32s_Sfs and 32s_ISfs go through Qvx64f: (src1 * 2^-scaleFactor) * src2, nearest even twice, so the last bits of a result
+ *  near the top of the range can differ from the exact product's; qvxsMulC_32s_Sfs is exact.
+ *  16u16s multiplies an unsigned by a signed vector; 32s32sc and 32f32fc a real (src1, or src) by a complex one; 8u16u, 16s32s
+ *  and 16s32f widen. Float products round every operation once in the element's type; nothing is fused.
+ *  Shapes and returns as qvxsAdd, but len is tested after the pointers in all forms. */
+QVXS_API(QvxStatus, qvxsMul_8u_Sfs, (const Qvx8u* pSrc1, const Qvx8u* pSrc2, Qvx8u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_8u_ISfs, (const Qvx8u* pSrc, Qvx8u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_8u16u, (const Qvx8u* pSrc1, const Qvx8u* pSrc2, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsMul_16s, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx16s* pDst, int len));
+QVXS_API(QvxStatus, qvxsMul_16s_I, (const Qvx16s* pSrc, Qvx16s* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsMul_16s_Sfs, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_16s_ISfs, (const Qvx16s* pSrc, Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_16u_Sfs, (const Qvx16u* pSrc1, const Qvx16u* pSrc2, Qvx16u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_16u_ISfs, (const Qvx16u* pSrc, Qvx16u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_16u16s_Sfs, (const Qvx16u* pSrc1, const Qvx16s* pSrc2, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_16s32s_Sfs, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx32s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_16s32f, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsMul_16sc_Sfs, (const Qvx16sc* pSrc1, const Qvx16sc* pSrc2, Qvx16sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_16sc_ISfs, (const Qvx16sc* pSrc, Qvx16sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_32s_Sfs, (const Qvx32s* pSrc1, const Qvx32s* pSrc2, Qvx32s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_32s_ISfs, (const Qvx32s* pSrc, Qvx32s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_32sc_Sfs, (const Qvx32sc* pSrc1, const Qvx32sc* pSrc2, Qvx32sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_32sc_ISfs, (const Qvx32sc* pSrc, Qvx32sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_32s32sc_Sfs, (const Qvx32s* pSrc1, const Qvx32sc* pSrc2, Qvx32sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_32s32sc_ISfs, (const Qvx32s* pSrc, Qvx32sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMul_32f, (const Qvx32f* pSrc1, const Qvx32f* pSrc2, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsMul_32f_I, (const Qvx32f* pSrc, Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsMul_32fc, (const Qvx32fc* pSrc1, const Qvx32fc* pSrc2, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsMul_32fc_I, (const Qvx32fc* pSrc, Qvx32fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsMul_32f32fc, (const Qvx32f* pSrc1, const Qvx32fc* pSrc2, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsMul_32f32fc_I, (const Qvx32f* pSrc, Qvx32fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsMul_64f, (const Qvx64f* pSrc1, const Qvx64f* pSrc2, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsMul_64f_I, (const Qvx64f* pSrc, Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsMul_64fc, (const Qvx64fc* pSrc1, const Qvx64fc* pSrc2, Qvx64fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsMul_64fc_I, (const Qvx64fc* pSrc, Qvx64fc* pSrcDst, int len));
+
+/** The low 32 bits of src1[n] * src2[n] / 2^scaleFactor: the exact product is shifted (right: arithmetically, without
+ *  rounding) and its low word kept, so a result beyond 32 bits wraps. Above scale factor 62 the result is 0; below -31 it is
+ *  the extreme of the product's sign, or 0. Returns as qvxsMul. */
+QVXS_API(QvxStatus, qvxsMul_Low_32s_Sfs, (const Qvx32s* pSrc1, const Qvx32s* pSrc2, Qvx32s* pDst, int len, int scaleFactor));
+
+/** dst[n] = src[n] * val; the _I forms: srcDst[n] = srcDst[n] * val.
+ *  Integer results are exact, times 2^-scaleFactor where there is one, rounded to nearest with ties to even, saturated.
+ *  32f16s_Sfs: the float product src * (val * 2^-scaleFactor), scaleFactor limited to -127 to 126, saturated to 16 bits and
+ *  rounded to nearest even whatever the caller's rounding mode; a product that is not a number gives 32767.
+ *  64s_ISfs: the 64-bit product saturates before a scale factor above 0 shrinks it. 64f64s_ISfs: val is a float, taken as its
+ *  53-bit fraction and power of two, so it saturates the same way: the product with the fraction must fit 64 bits. If val's
+ *  bits, taken as a signed integer, have the absolute value 0x90000012CD94, every non-zero element goes to the 64-bit extreme.
+ *  The len of both is unsigned: only 0 is refused. Otherwise as qvxsMul. */
+QVXS_API(QvxStatus, qvxsMulC_8u_Sfs, (const Qvx8u* pSrc, Qvx8u val, Qvx8u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_8u_ISfs, (Qvx8u val, Qvx8u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_16s_I, (Qvx16s val, Qvx16s* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsMulC_16s_Sfs, (const Qvx16s* pSrc, Qvx16s val, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_16s_ISfs, (Qvx16s val, Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_16u_Sfs, (const Qvx16u* pSrc, Qvx16u val, Qvx16u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_16u_ISfs, (Qvx16u val, Qvx16u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_16sc_Sfs, (const Qvx16sc* pSrc, Qvx16sc val, Qvx16sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_16sc_ISfs, (Qvx16sc val, Qvx16sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_32s_Sfs, (const Qvx32s* pSrc, Qvx32s val, Qvx32s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_32s_ISfs, (Qvx32s val, Qvx32s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_32sc_Sfs, (const Qvx32sc* pSrc, Qvx32sc val, Qvx32sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_32sc_ISfs, (Qvx32sc val, Qvx32sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_32f, (const Qvx32f* pSrc, Qvx32f val, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsMulC_32f_I, (Qvx32f val, Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsMulC_32fc, (const Qvx32fc* pSrc, Qvx32fc val, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsMulC_32fc_I, (Qvx32fc val, Qvx32fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsMulC_64f, (const Qvx64f* pSrc, Qvx64f val, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsMulC_64f_I, (Qvx64f val, Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsMulC_64fc, (const Qvx64fc* pSrc, Qvx64fc val, Qvx64fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsMulC_64fc_I, (Qvx64fc val, Qvx64fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsMulC_32f16s_Sfs, (const Qvx32f* pSrc, Qvx32f val, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_64s_ISfs, (Qvx64s val, Qvx64s* pSrcDst, Qvx32u len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsMulC_64f64s_ISfs, (Qvx64f val, Qvx64s* pSrcDst, Qvx32u len, int scaleFactor));
+
+/** dst[n] = src[n] * val as a float product, converted in the caller's rounding mode and saturated from 32 bits to 16: what
+ *  32 bits cannot hold (2^31 and above, not a number) becomes -32768, whatever its sign. Returns as qvxsMul. */
+QVXS_API(QvxStatus, qvxsMulC_Low_32f16s, (const Qvx32f* pSrc, Qvx32f val, Qvx16s* pDst, int len));
+
+/** dst[n] = src[n]. The vectors may not overlap; see qvxsMove. From the size of the last-level cache on, the data passes it by.
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
+QVXS_API(QvxStatus, qvxsCopy_8u, (const Qvx8u* pSrc, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsCopy_16s, (const Qvx16s* pSrc, Qvx16s* pDst, int len));
+QVXS_API(QvxStatus, qvxsCopy_16sc, (const Qvx16sc* pSrc, Qvx16sc* pDst, int len));
+QVXS_API(QvxStatus, qvxsCopy_32s, (const Qvx32s* pSrc, Qvx32s* pDst, int len));
+QVXS_API(QvxStatus, qvxsCopy_32sc, (const Qvx32sc* pSrc, Qvx32sc* pDst, int len));
+QVXS_API(QvxStatus, qvxsCopy_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsCopy_32fc, (const Qvx32fc* pSrc, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsCopy_64s, (const Qvx64s* pSrc, Qvx64s* pDst, int len));
+QVXS_API(QvxStatus, qvxsCopy_64sc, (const Qvx64sc* pSrc, Qvx64sc* pDst, int len));
+QVXS_API(QvxStatus, qvxsCopy_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsCopy_64fc, (const Qvx64fc* pSrc, Qvx64fc* pDst, int len));
+
+/** dst[n] = src[n], where the vectors may overlap in any way. Returns as qvxsCopy. */
+QVXS_API(QvxStatus, qvxsMove_8u, (const Qvx8u* pSrc, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsMove_16s, (const Qvx16s* pSrc, Qvx16s* pDst, int len));
+QVXS_API(QvxStatus, qvxsMove_16sc, (const Qvx16sc* pSrc, Qvx16sc* pDst, int len));
+QVXS_API(QvxStatus, qvxsMove_32s, (const Qvx32s* pSrc, Qvx32s* pDst, int len));
+QVXS_API(QvxStatus, qvxsMove_32sc, (const Qvx32sc* pSrc, Qvx32sc* pDst, int len));
+QVXS_API(QvxStatus, qvxsMove_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsMove_32fc, (const Qvx32fc* pSrc, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsMove_64s, (const Qvx64s* pSrc, Qvx64s* pDst, int len));
+QVXS_API(QvxStatus, qvxsMove_64sc, (const Qvx64sc* pSrc, Qvx64sc* pDst, int len));
+QVXS_API(QvxStatus, qvxsMove_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsMove_64fc, (const Qvx64fc* pSrc, Qvx64fc* pDst, int len));
+
+/** dst[n] = 0. Returns as qvxsCopy. */
+QVXS_API(QvxStatus, qvxsZero_8u, (Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsZero_16s, (Qvx16s* pDst, int len));
+QVXS_API(QvxStatus, qvxsZero_16sc, (Qvx16sc* pDst, int len));
+QVXS_API(QvxStatus, qvxsZero_32s, (Qvx32s* pDst, int len));
+QVXS_API(QvxStatus, qvxsZero_32sc, (Qvx32sc* pDst, int len));
+QVXS_API(QvxStatus, qvxsZero_32f, (Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsZero_32fc, (Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsZero_64s, (Qvx64s* pDst, int len));
+QVXS_API(QvxStatus, qvxsZero_64sc, (Qvx64sc* pDst, int len));
+QVXS_API(QvxStatus, qvxsZero_64f, (Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsZero_64fc, (Qvx64fc* pDst, int len));
+
+/** dst[n] = val, bit for bit. Returns as qvxsCopy. */
+QVXS_API(QvxStatus, qvxsSet_8u, (Qvx8u val, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsSet_16s, (Qvx16s val, Qvx16s* pDst, int len));
+QVXS_API(QvxStatus, qvxsSet_16sc, (Qvx16sc val, Qvx16sc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSet_32s, (Qvx32s val, Qvx32s* pDst, int len));
+QVXS_API(QvxStatus, qvxsSet_32sc, (Qvx32sc val, Qvx32sc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSet_32f, (Qvx32f val, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsSet_32fc, (Qvx32fc val, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSet_64s, (Qvx64s val, Qvx64s* pDst, int len));
+QVXS_API(QvxStatus, qvxsSet_64sc, (Qvx64sc val, Qvx64sc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSet_64f, (Qvx64f val, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsSet_64fc, (Qvx64fc val, Qvx64fc* pDst, int len));
+
+/** Copies len bits. Bit 0 of a byte is its most significant one; an offset counts bits from the first byte on and may be above
+ *  7. The bits of dst around the copied ones are kept. The vectors may not overlap.
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1 or a negative offset). */
+QVXS_API(QvxStatus, qvxsCopy_1u, (const Qvx8u* pSrc, int srcBitOffset, Qvx8u* pDst, int dstBitOffset, int len));
+
+/** dst[n] = src1[n] & src2[n]; the _I form: srcDst[n] &= src[n].
+ *  Here and in the bit operations below: len elements, any alignment; in place only in the _I forms.
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
+QVXS_API(QvxStatus, qvxsAnd_8u, (const Qvx8u* pSrc1, const Qvx8u* pSrc2, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsAnd_8u_I, (const Qvx8u* pSrc, Qvx8u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAnd_16u, (const Qvx16u* pSrc1, const Qvx16u* pSrc2, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsAnd_16u_I, (const Qvx16u* pSrc, Qvx16u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAnd_32u, (const Qvx32u* pSrc1, const Qvx32u* pSrc2, Qvx32u* pDst, int len));
+QVXS_API(QvxStatus, qvxsAnd_32u_I, (const Qvx32u* pSrc, Qvx32u* pSrcDst, int len));
+
+/** dst[n] = src1[n] | src2[n]; the _I form: srcDst[n] |= src[n]. */
+QVXS_API(QvxStatus, qvxsOr_8u, (const Qvx8u* pSrc1, const Qvx8u* pSrc2, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsOr_8u_I, (const Qvx8u* pSrc, Qvx8u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsOr_16u, (const Qvx16u* pSrc1, const Qvx16u* pSrc2, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsOr_16u_I, (const Qvx16u* pSrc, Qvx16u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsOr_32u, (const Qvx32u* pSrc1, const Qvx32u* pSrc2, Qvx32u* pDst, int len));
+QVXS_API(QvxStatus, qvxsOr_32u_I, (const Qvx32u* pSrc, Qvx32u* pSrcDst, int len));
+
+/** dst[n] = src1[n] ^ src2[n]; the _I form: srcDst[n] ^= src[n]. */
+QVXS_API(QvxStatus, qvxsXor_8u, (const Qvx8u* pSrc1, const Qvx8u* pSrc2, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsXor_8u_I, (const Qvx8u* pSrc, Qvx8u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsXor_16u, (const Qvx16u* pSrc1, const Qvx16u* pSrc2, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsXor_16u_I, (const Qvx16u* pSrc, Qvx16u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsXor_32u, (const Qvx32u* pSrc1, const Qvx32u* pSrc2, Qvx32u* pDst, int len));
+QVXS_API(QvxStatus, qvxsXor_32u_I, (const Qvx32u* pSrc, Qvx32u* pSrcDst, int len));
+
+/** dst[n] = src[n] & val; the _I form: srcDst[n] &= val. */
+QVXS_API(QvxStatus, qvxsAndC_8u, (const Qvx8u* pSrc, Qvx8u val, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsAndC_8u_I, (Qvx8u val, Qvx8u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAndC_16u, (const Qvx16u* pSrc, Qvx16u val, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsAndC_16u_I, (Qvx16u val, Qvx16u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAndC_32u, (const Qvx32u* pSrc, Qvx32u val, Qvx32u* pDst, int len));
+QVXS_API(QvxStatus, qvxsAndC_32u_I, (Qvx32u val, Qvx32u* pSrcDst, int len));
+
+/** dst[n] = src[n] | val; the _I form: srcDst[n] |= val. */
+QVXS_API(QvxStatus, qvxsOrC_8u, (const Qvx8u* pSrc, Qvx8u val, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsOrC_8u_I, (Qvx8u val, Qvx8u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsOrC_16u, (const Qvx16u* pSrc, Qvx16u val, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsOrC_16u_I, (Qvx16u val, Qvx16u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsOrC_32u, (const Qvx32u* pSrc, Qvx32u val, Qvx32u* pDst, int len));
+QVXS_API(QvxStatus, qvxsOrC_32u_I, (Qvx32u val, Qvx32u* pSrcDst, int len));
+
+/** dst[n] = src[n] ^ val; the _I form: srcDst[n] ^= val. */
+QVXS_API(QvxStatus, qvxsXorC_8u, (const Qvx8u* pSrc, Qvx8u val, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsXorC_8u_I, (Qvx8u val, Qvx8u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsXorC_16u, (const Qvx16u* pSrc, Qvx16u val, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsXorC_16u_I, (Qvx16u val, Qvx16u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsXorC_32u, (const Qvx32u* pSrc, Qvx32u val, Qvx32u* pDst, int len));
+QVXS_API(QvxStatus, qvxsXorC_32u_I, (Qvx32u val, Qvx32u* pSrcDst, int len));
+
+/** dst[n] = ~src[n]; the _I form: srcDst[n] = ~srcDst[n]. */
+QVXS_API(QvxStatus, qvxsNot_8u, (const Qvx8u* pSrc, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsNot_8u_I, (Qvx8u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsNot_16u, (const Qvx16u* pSrc, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsNot_16u_I, (Qvx16u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsNot_32u, (const Qvx32u* pSrc, Qvx32u* pDst, int len));
+QVXS_API(QvxStatus, qvxsNot_32u_I, (Qvx32u* pSrcDst, int len));
+
+/** dst[n] = src[n] shifted left by val bits; bits beyond the element are lost, signed elements too. A val of the element's
+ *  width or above gives 0. Returns as qvxsAnd; qvxStatNegShift (val < 0, tested last). */
+QVXS_API(QvxStatus, qvxsLShiftC_8u, (const Qvx8u* pSrc, int val, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsLShiftC_8u_I, (int val, Qvx8u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsLShiftC_16u, (const Qvx16u* pSrc, int val, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsLShiftC_16u_I, (int val, Qvx16u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsLShiftC_16s, (const Qvx16s* pSrc, int val, Qvx16s* pDst, int len));
+QVXS_API(QvxStatus, qvxsLShiftC_16s_I, (int val, Qvx16s* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsLShiftC_32s, (const Qvx32s* pSrc, int val, Qvx32s* pDst, int len));
+QVXS_API(QvxStatus, qvxsLShiftC_32s_I, (int val, Qvx32s* pSrcDst, int len));
+
+/** dst[n] = src[n] shifted right by val bits, without rounding: unsigned elements fill with zeros, signed ones with their sign.
+ *  From the element's width on: 0, or -1 for a negative element. Returns as qvxsLShiftC. */
+QVXS_API(QvxStatus, qvxsRShiftC_8u, (const Qvx8u* pSrc, int val, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsRShiftC_8u_I, (int val, Qvx8u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsRShiftC_16u, (const Qvx16u* pSrc, int val, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsRShiftC_16u_I, (int val, Qvx16u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsRShiftC_16s, (const Qvx16s* pSrc, int val, Qvx16s* pDst, int len));
+QVXS_API(QvxStatus, qvxsRShiftC_16s_I, (int val, Qvx16s* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsRShiftC_32s, (const Qvx32s* pSrc, int val, Qvx32s* pDst, int len));
+QVXS_API(QvxStatus, qvxsRShiftC_32s_I, (int val, Qvx32s* pSrcDst, int len));
+
+/** The byte order of every element reversed. 24u: elements of three bytes, without gaps. Returns as qvxsAnd. */
+QVXS_API(QvxStatus, qvxsSwapBytes_16u, (const Qvx16u* pSrc, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsSwapBytes_16u_I, (Qvx16u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSwapBytes_24u, (const Qvx8u* pSrc, Qvx8u* pDst, int len));
+QVXS_API(QvxStatus, qvxsSwapBytes_24u_I, (Qvx8u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSwapBytes_32u, (const Qvx32u* pSrc, Qvx32u* pDst, int len));
+QVXS_API(QvxStatus, qvxsSwapBytes_32u_I, (Qvx32u* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSwapBytes_64u, (const Qvx64u* pSrc, Qvx64u* pDst, int len));
+QVXS_API(QvxStatus, qvxsSwapBytes_64u_I, (Qvx64u* pSrcDst, int len));
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,153 @@
+// Floats to integers with a scale factor and a round mode.
+//
+// Values are clipped as floats, so that no element needs a branch: against the upper limit by a minimum that gives the limit
+// for what is not a number, while what lies below the range converts to the most negative integer and saturates on the way to
+// a narrower type.
+#include <cmath>
+
+#include "convert/packed24.h"
+#include "frame/power.h"
+#include "frame/rounding.h"
+
+using namespace qvx;
+
+namespace {
+
+template <class V> V clippedAbove(V v, LaneOf<V> most) { return hn::Min(v, same<V>(most)); }
+template <class V> V clippedBelow(V v, LaneOf<V> least) { return hn::Max(v, same<V>(least)); }
+
+// Float lanes to int32 lanes; the processor's mode must be the nearest for qvxRoundNearestEven.
+template <int kMode> struct ToInt {
+  template <class V> auto operator()(V v) const {
+    if constexpr (kMode == qvxRoundTowardZero) return toIntTruncated(v);
+    else if constexpr (kMode == qvxRoundNearestEven) return toInt(v);
+    else return toIntTruncated(v + hn::CopySignToAbs(same<V>(LaneOf<V>(0.5)), v));
+  }
+};
+
+// Runs `with` on the conversion of the round mode. half: the processor's mode in which the half is added.
+template <class With> QvxStatus byMode(QvxRoundMode mode, Rounding half, const With& with) {
+  if (mode == qvxRoundTowardZero) return with(ToInt<qvxRoundTowardZero>());
+  const RoundingScope scope(mode == qvxRoundNearestEven ? Rounding::kNearest : half);
+  return mode == qvxRoundNearestEven ? with(ToInt<qvxRoundNearestEven>()) : with(ToInt<qvxRoundHalfAway>());
+}
+
+// 32-bit floats to 8 and 16 bits.
+template <class T> QvxStatus toNarrow(const Qvx32f* src, T* dst, int len, QvxRoundMode mode, int scaleFactor) {
+  const QvxStatus status = check(len, src, dst);
+  if (status != qvxStatOk) return status;
+  const Qvx32f factor = powerOfTwo<Qvx32f>(-int64_t{scaleFactor});
+  return byMode(mode, Rounding::kNearest, [=](auto convert) {
+    return loop(
+        [=](auto v) {
+          auto scaled = v * same<decltype(v)>(factor);
+          if constexpr (std::is_unsigned_v<T>) scaled = clippedBelow(scaled, 0);
+          return convertLanes<T>(convert(clippedAbove(scaled, std::numeric_limits<T>::max())));
+        },
+        destination(dst), elements(len), source(src));
+  });
+}
+
+// 24 bits: clipped from below first, so that what is not a number becomes the lower limit.
+template <class T> QvxStatus to24(const Qvx32f* src, Qvx8u* dst, int len, int scaleFactor) {
+  using Range = Range24<T>;
+  const QvxStatus status = check(len, src, dst);
+  if (status != qvxStatOk) return status;
+  const Qvx32f factor = powerOfTwo<Qvx32f>(-int64_t{scaleFactor});
+  const RoundingScope nearest(Rounding::kNearest);
+  return loop(
+      [=](auto v) { return toInt(clippedAbove(clippedBelow(v * same<decltype(v)>(factor), Range::kLeast), Range::kMost)); },
+      To24<Qvx32s>{dst}, elements(len), source(src));
+}
+
+// 64-bit floats to 64 bits. What is not a number, and everything if the factor underflows, gives 0.
+template <int kMode> struct ToInt64 {
+  double factor1;
+  double factor2;  // 1, but where one factor would overflow
+
+  template <class V> auto operator()(V x) const {
+    const V v = x * same<V>(factor1) * same<V>(factor2);
+    V whole = hn::Trunc(v);
+    if constexpr (kMode == qvxRoundNearestEven) whole = hn::Round(v);
+    if constexpr (kMode == qvxRoundHalfAway) {
+      const auto up = hn::Abs(v - whole) >= same<V>(0.5);
+      whole = whole + hn::IfThenElseZero(up, hn::CopySignToAbs(same<V>(1.0), v));
+    }
+    // Infinities and beyond are taken out before the conversion, which differs between variants there.
+    const V most = same<V>(0x1p63);
+    const auto above = whole >= most;
+    const auto below = whole <= hn::Neg(most);
+    const auto inside = hn::Abs(whole) < most;
+    const hn::Rebind<int64_t, TagOf<V>> di;
+    const auto number = hn::ConvertTo(di, hn::IfThenElseZero(inside, whole));
+    const auto high = hn::IfThenElseZero(hn::RebindMask(di, above), hn::Set(di, INT64_MAX));
+    const auto low = hn::IfThenElseZero(hn::RebindMask(di, below), hn::Set(di, INT64_MIN));
+    return number | high | low;
+  }
+};
+
+}  // namespace
+
+QvxStatus qvxsConvert_32f32s_Sfs(const Qvx32f* a, Qvx32s* d, int len, QvxRoundMode mode, int sf) {
+  const QvxStatus status = check(len, a, d);
+  if (status != qvxStatOk) return status;
+  const Qvx32f factor = powerOfTwo<Qvx32f>(-int64_t{sf});
+  return byMode(mode, Rounding::kCallers, [=](auto convert) {
+    return loop(
+        [=](auto v) {
+          using V = decltype(v);
+          const V scaled = v * same<V>(factor);
+          // The largest number has no float of its own: what is not below 2^31 has its indefinite value turned over.
+          const auto tooLarge = hn::VecFromMask(TagOf<V>(), hn::Not(scaled < same<V>(0x1p31F)));
+          return convert(scaled) ^ as<int32_t>(tooLarge);
+        },
+        destination(d), elements(len), source(a));
+  });
+}
+
+QvxStatus qvxsConvert_64f32s_Sfs(const Qvx64f* a, Qvx32s* d, int len, QvxRoundMode mode, int sf) {
+  const QvxStatus status = check(len, a, d);
+  if (status != qvxStatOk) return status;
+  const Qvx64f factor = powerOfTwo<Qvx64f>(-int64_t{sf});
+  return byMode(mode, Rounding::kCallers, [=](auto convert) {
+    return loop([=](auto v) { return convert(clippedAbove(v * same<decltype(v)>(factor), INT32_MAX)); }, destination(d),
+                elements(len), source(a));
+  });
+}
+
+QvxStatus qvxsConvert_64f16s_Sfs(const Qvx64f* a, Qvx16s* d, int len, QvxRoundMode mode, int sf) {
+  const QvxStatus status = check(len, a, d);
+  if (status != qvxStatOk) return status;
+  const Qvx64f factor = powerOfTwo<Qvx64f>(-std::clamp(sf, -1008, 1022));
+  return byMode(mode, Rounding::kTowardZero, [=](auto convert) {
+    return loop(
+        [=](auto v) {
+          const auto clipped = clippedBelow(clippedAbove(v * same<decltype(v)>(factor), INT16_MAX), INT16_MIN);
+          return convertLanes<int16_t>(convert(clipped));
+        },
+        destination(d), elements(len), source(a));
+  });
+}
+
+QvxStatus qvxsConvert_64f64s_Sfs(const Qvx64f* a, Qvx64s* d, Qvx32u len, QvxRoundMode mode, int sf) {
+  const QvxStatus status = check(Unsigned{len}, a, d);
+  if (status != qvxStatOk) return status;
+  const auto with = [=](auto kernel) { return loop(kernel, destination(d), len, source(a)); };
+  const int64_t exponent = -int64_t{sf};
+  if (exponent < -1074) return with([](auto v) { return hn::Zero(hn::Rebind<int64_t, TagOf<decltype(v)>>()); });
+  const double factor1 = powerOfTwo<double>(std::min<int64_t>(exponent, 1000));
+  const double factor2 = powerOfTwo<double>(std::max<int64_t>(exponent - 1000, 0));
+  const RoundingScope nearest(Rounding::kNearest);
+  if (mode == qvxRoundTowardZero) return with(ToInt64<qvxRoundTowardZero>{factor1, factor2});
+  if (mode == qvxRoundNearestEven) return with(ToInt64<qvxRoundNearestEven>{factor1, factor2});
+  return with(ToInt64<qvxRoundHalfAway>{factor1, factor2});
+}
+
+// clang-format off
+QvxStatus qvxsConvert_32f8s_Sfs(const Qvx32f* a, Qvx8s* d, int len, QvxRoundMode mode, int sf) { return toNarrow(a, d, len, mode, sf); }
+QvxStatus qvxsConvert_32f8u_Sfs(const Qvx32f* a, Qvx8u* d, int len, QvxRoundMode mode, int sf) { return toNarrow(a, d, len, mode, sf); }
+QvxStatus qvxsConvert_32f16s_Sfs(const Qvx32f* a, Qvx16s* d, int len, QvxRoundMode mode, int sf) { return toNarrow(a, d, len, mode, sf); }
+QvxStatus qvxsConvert_32f16u_Sfs(const Qvx32f* a, Qvx16u* d, int len, QvxRoundMode mode, int sf) { return toNarrow(a, d, len, mode, sf); }
+QvxStatus qvxsConvert_32f24u_Sfs(const Qvx32f* a, Qvx8u* d, int len, int sf) { return to24<Qvx32u>(a, d, len, sf); }
+QvxStatus qvxsConvert_32f24s_Sfs(const Qvx32f* a, Qvx8u* d, int len, int sf) { return to24<Qvx32s>(a, d, len, sf); }
+// clang-format on

@@ -1,0 +1,226 @@
+// The loop engine of all element-wise functions: check the arguments, then dst[i] = kernel(src[i]...) for any number of sources.
+//
+// A kernel is a function of whole vectors. The tail is one partial vector that goes through the same kernel, so no element is
+// computed in another way than its neighbours, and no byte outside the caller's vectors is read or written.
+#pragma once
+
+#include <algorithm>
+#include <utility>
+
+#include "frame/check.h"
+#include "frame/scale.h"
+#include "frame/simd.h"
+
+namespace qvx {
+
+// ---- elements
+
+// The lanes that a complex element is made of; a real element is its own.
+template <class T> struct PartsOf {
+  using Type = T;
+  static constexpr size_t kCount = 1;
+};
+template <> struct PartsOf<Qvx16sc> {
+  using Type = Qvx16s;
+  static constexpr size_t kCount = 2;
+};
+template <> struct PartsOf<Qvx32sc> {
+  using Type = Qvx32s;
+  static constexpr size_t kCount = 2;
+};
+template <> struct PartsOf<Qvx64sc> {
+  using Type = Qvx64s;
+  static constexpr size_t kCount = 2;
+};
+template <> struct PartsOf<Qvx32fc> {
+  using Type = Qvx32f;
+  static constexpr size_t kCount = 2;
+};
+template <> struct PartsOf<Qvx64fc> {
+  using Type = Qvx64f;
+  static constexpr size_t kCount = 2;
+};
+template <class T> using Part = typename PartsOf<T>::Type;
+
+template <class T> Part<T>* parts(T* p) { return reinterpret_cast<Part<T>*>(p); }
+template <class T> const Part<T>* parts(const T* p) { return reinterpret_cast<const Part<T>*>(p); }
+
+// ---- sources and destinations: anything that can give, or take, N lanes at a lane index
+
+template <class T> struct Source {
+  using Lane = Part<T>;
+  const Lane* p;
+
+  template <size_t N> auto get(size_t at) const { return load(Lanes<Lane, N>(), p + at); }
+  template <size_t N> auto get(size_t at, size_t n) const { return loadFirst(Lanes<Lane, N>(), p + at, n); }
+};
+
+template <class T> struct Destination {
+  using Lane = Part<T>;
+  Lane* p;
+
+  template <size_t N, class V> void put(V v, size_t at) const { store(v, Lanes<Lane, N>(), p + at); }
+  template <size_t N, class V> void put(V v, size_t at, size_t n) const { storeFirst(v, Lanes<Lane, N>(), p + at, n); }
+  // Lanes up to the first address from which no store of N lanes is split between cache lines.
+  template <size_t N> size_t misaligned() const {
+    const size_t bytes = reinterpret_cast<uintptr_t>(p) % (N * sizeof(Lane));
+    return bytes % sizeof(T) == 0 ? (N - bytes / sizeof(Lane)) % N : 0;
+  }
+};
+
+// One value for all elements.
+template <class T> struct Constant {
+  using Lane = Part<T>;
+  T value;
+
+  template <size_t N> auto get(size_t) const {
+    const Lanes<Lane, N> d;
+    if constexpr (PartsOf<T>::kCount == 1) {
+      return hn::Set(d, value);
+    } else {
+      return hn::OddEven(hn::Set(d, value.im), hn::Set(d, value.re));
+    }
+  }
+  template <size_t N> auto get(size_t at, size_t) const { return get<N>(at); }
+};
+
+template <class T> Constant(T) -> Constant<T>;
+
+// A real vector beside complex ones: every element stands for both parts.
+template <class T> struct Doubled {
+  using Lane = T;
+  const T* p;
+
+  template <size_t N> static auto twice(Vec<Lanes<T, N / 2>> v) {
+    using U = hwy::UnsignedFromSize<sizeof(T)>;
+    using Wide = hwy::UnsignedFromSize<2 * sizeof(T)>;
+    const auto wide = hn::PromoteTo(Lanes<Wide, N / 2>(), hn::BitCast(Lanes<U, N / 2>(), v));
+    return hn::BitCast(Lanes<T, N>(), wide | hn::ShiftLeft<8 * sizeof(T)>(wide));
+  }
+  template <size_t N> auto get(size_t at) const { return twice<N>(load(Lanes<T, N / 2>(), p + at / 2)); }
+  template <size_t N> auto get(size_t at, size_t n) const { return twice<N>(loadFirst(Lanes<T, N / 2>(), p + at / 2, n / 2)); }
+};
+
+template <class T> Doubled(const T*) -> Doubled<T>;
+
+template <class T> Source<T> source(const T* p) { return {parts(p)}; }
+template <class T> Constant<T> source(Constant<T> c) { return c; }
+template <class T> Doubled<T> source(Doubled<T> d) { return d; }
+template <class T> Destination<T> destination(T* p) { return {parts(p)}; }
+
+template <class T> const T* pointerOf(const T* p) { return p; }
+template <class T> const T* pointerOf(Doubled<T> d) { return d.p; }
+inline constexpr char kNotNull = 0;
+template <class T> const char* pointerOf(Constant<T>) { return &kNotNull; }
+
+// ---- the loop
+
+// From this many vectors on, the loop starts at the first address from which no store is split between cache lines. Misaligned
+// 16-bit sums of 4096 elements take half the time that way; below 8 vectors there is nothing to gain.
+inline constexpr size_t kWorthAligning = 8;
+
+// The ends of a vector are whole vectors too, which overlap their neighbours: what they give is computed before anything is
+// stored and stored after everything else, so that a source may be the destination. Only fewer elements than fill 16 bytes
+// take a partial vector: masked stores cost 1 ns more than that.
+//
+// It cannot fail. It gives the status of success so that the checked function can end in a jump to it: 1 ns at 16 elements.
+template <size_t N, size_t kWidest, class Kernel, class Dst, class... Src>
+QvxStatus loopOf(Kernel kernel, Dst dst, size_t n, Src... src) {
+  const auto at = [&](size_t i) { return kernel(src.template get<N>(i)...); };
+  if (n < N) {
+    if constexpr (N * kWidest > 16) {
+      return loopOf<N / 2, kWidest>(kernel, dst, n, src...);
+    } else {
+      dst.template put<N>(kernel(src.template get<N>(0, n)...), 0, n);
+      return qvxStatOk;
+    }
+  }
+  const auto first = at(0);
+  const auto last = at(n - N);
+  if (N * kWidest == kVectorBytes && n > 2 * N) {
+    size_t i = N;
+    if (n >= kWorthAligning * N && dst.template misaligned<N>() != 0) i = dst.template misaligned<N>();
+    for (; i + 2 * N < n; i += 2 * N) {
+      dst.template put<N>(at(i), i);
+      dst.template put<N>(at(i + N), i + N);
+    }
+    if (i + N < n) dst.template put<N>(at(i), i);
+  }
+  dst.template put<N>(first, 0);
+  dst.template put<N>(last, n - N);
+  return qvxStatOk;
+}
+
+// As many lanes at a time as one register has of the widest type: that of a vector or, if the kernel computes in a wider one,
+// that of Inner.
+template <class Inner = uint8_t, class Kernel, class Dst, class... Src>
+QvxStatus loop(Kernel kernel, Dst dst, size_t n, Src... src) {
+  constexpr size_t kWidest = std::max({sizeof(Inner), sizeof(typename Dst::Lane), sizeof(typename Src::Lane)...});
+  return loopOf<kVectorBytes / kWidest, kWidest>(kernel, dst, n, src...);
+}
+
+// Lanes of one type to lanes of another, by value; floats that do not fit round in the processor's mode.
+template <class To, class V> auto convertLanes(V v) {
+  using From = LaneOf<V>;
+  const hn::Rebind<To, TagOf<V>> d;
+  if constexpr (std::is_same_v<To, From>) {
+    return v;
+  } else if constexpr (std::is_same_v<To, float> && std::is_integral_v<From>) {
+    if constexpr (std::is_same_v<From, uint32_t>) return hn::ConvertTo(d, as<int32_t>(v));  // callers have no more than 31 bits
+    else return hn::ConvertTo(d, convertLanes<int32_t>(v));
+  } else if constexpr (std::is_same_v<To, double> && sizeof(From) == 2) {
+    return hn::PromoteTo(d, convertLanes<int32_t>(v));
+  } else if constexpr (sizeof(From) == sizeof(To)) {
+    return hn::ConvertTo(d, v);
+  } else if constexpr (sizeof(From) > sizeof(To)) {
+    return hn::DemoteTo(d, v);
+  } else {
+    return hn::PromoteTo(d, v);
+  }
+}
+
+// ---- fits: how an operation's result becomes the destination's element
+
+// A source narrower than the destination is widened before the operation; one of another kind but no narrower is left to it.
+template <class Lane, class V> auto widened(V v) {
+  if constexpr (sizeof(LaneOf<V>) < sizeof(Lane)) return convertLanes<Lane>(v);
+  else return v;
+}
+
+// As it is: integers saturated.
+struct AsIs {
+  template <class Op, class Dst, class... Src> QvxStatus run(Op op, Dst dst, size_t n, Src... src) const {
+    return loop([op](auto... v) { return op(widened<typename Dst::Lane>(v)...); }, dst, n, src...);
+  }
+};
+
+// Times 2^-scaleFactor. An operation brings three things: op(v...) saturates; Op::kMaxScale<T> is the last scale factor that
+// can leave anything but zeros; Op::scaleDown<T>(s, with) runs `with` on the kernel for the places s above 0.
+struct Scaled {
+  int scaleFactor;
+
+  template <class Op, class Dst, class... Src> QvxStatus run(Op op, Dst dst, size_t n, Src... src) const {
+    using Lane = typename Dst::Lane;
+    const auto with = [&](auto kernel) {
+      return loop([kernel](auto... v) { return kernel(widened<Lane>(v)...); }, dst, n, src...);
+    };
+    if (scaleFactor == 0) return with(op);
+    if (scaleFactor > Op::template kMaxScale<Lane>) return loop([](auto zero) { return zero; }, dst, n, Constant<Lane>{0});
+    if (scaleFactor > 0) return Op::template scaleDown<Lane>(scaleFactor, with);
+    // One place less than a signed lane's width, or all of an unsigned one's, already send every non-zero value out.
+    constexpr int kMost = 8 * sizeof(Lane) - std::is_signed_v<Lane>;
+    const int places = scaleFactor < -kMost ? kMost : -scaleFactor;
+    return with([op, places](auto... v) { return saturatedShiftLeft(op(v...), places); });
+  }
+};
+
+// ---- the whole function
+
+// dst = Op(src...) over len elements; len is an int, a LengthFirst or an Unsigned.
+template <class Op, class Length, class Fit, class T, class... Src> QvxStatus map(T* dst, Length len, Fit fit, Src... src) {
+  const QvxStatus status = check(len, pointerOf(src)..., dst);
+  if (status != qvxStatOk) return status;
+  return fit.run(Op(), destination(dst), elements(len) * PartsOf<T>::kCount, source(src)...);
+}
+
+}  // namespace qvx

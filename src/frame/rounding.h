@@ -1,0 +1,39 @@
+// The processor's rounding mode, set for the length of a call and put back.
+#pragma once
+
+#include <cstdint>
+
+namespace qvx {
+
+enum class Rounding : uint32_t { kNearest = 0x0000, kTowardZero = 0x6000, kCallers = 0xFFFF };
+
+class RoundingScope {
+ public:
+  explicit RoundingScope(Rounding mode) : saved_(read()) {
+    const uint32_t wanted = mode == Rounding::kCallers ? saved_ : (saved_ & ~kField) | static_cast<uint32_t>(mode);
+    changed_ = wanted != saved_;
+    if (changed_) write(wanted);
+  }
+  ~RoundingScope() {
+    if (changed_) write(saved_);
+  }
+  RoundingScope(const RoundingScope&) = delete;
+  RoundingScope& operator=(const RoundingScope&) = delete;
+
+ private:
+  static constexpr uint32_t kField = 0x6000;
+
+  // The compiler knows nothing of the control word. The clobber pins the kernel's loads behind the change and its stores
+  // before the return to the saved word, and so all arithmetic between them.
+  static uint32_t read() {
+    uint32_t word;
+    __asm__ volatile("stmxcsr %0" : "=m"(word) : : "memory");
+    return word;
+  }
+  static void write(uint32_t word) { __asm__ volatile("ldmxcsr %0" : : "m"(word) : "memory"); }
+
+  uint32_t saved_;
+  bool changed_;
+};
+
+}  // namespace qvx

@@ -1,0 +1,243 @@
+// Scaled integer arithmetic: an exact result times 2^-scaleFactor, rounded to nearest with ties to even, saturated.
+//
+// `scaled` is the definition. The vector forms below it are the same function for results that do not fit a lane: a sum keeps
+// its 17th (33rd, 65th) bit apart, a product stands in two halves. None of them leaves the width of its operands longer than
+// it must: that is where the speed comes from (16-bit sums take 8 instructions for 32 elements, 18 in 32-bit lanes).
+#pragma once
+
+#include <algorithm>
+#include <limits>
+
+#include "frame/simd.h"
+#include "qvx/qvxdefs.h"
+
+namespace qvx {
+
+template <class T> constexpr T saturate(__int128 v) {
+  using Limits = std::numeric_limits<T>;
+  return static_cast<T>(std::clamp<__int128>(v, Limits::min(), Limits::max()));
+}
+
+template <class T> constexpr T scaled(__int128 v, int scaleFactor) {
+  if (scaleFactor > 0) {
+    const int s = std::min(scaleFactor, 127);
+    const __int128 floor = v >> s;
+    const __int128 fraction = v - (floor << s);
+    const __int128 half = __int128{1} << (s - 1);
+    return saturate<T>(floor + (fraction > half || (fraction == half && (floor & 1) != 0)));
+  }
+  // 64 places push every non-zero value out of every range, and a value beyond the range stays there.
+  return saturate<T>(__int128{saturate<T>(v)} << std::min(-static_cast<int64_t>(scaleFactor), int64_t{63}));
+}
+
+// ---- lanes that hold the result
+
+template <class V> V saturatedAdd(V a, V b) {
+  using T = LaneOf<V>;
+  if constexpr (std::is_floating_point_v<T>) {
+    return a + b;
+  } else if constexpr (sizeof(T) <= 2) {
+    return hn::SaturatedAdd(a, b);
+  } else if constexpr (std::is_unsigned_v<T>) {
+    return hn::Min(a, hn::Not(b)) + b;
+  } else {
+    const V sum = a + b;
+    const V extreme = hn::BroadcastSignBit(a) ^ same<V>(std::numeric_limits<T>::max());
+    return hn::IfNegativeThenElse(hn::AndNot(a ^ b, a ^ sum), extreme, sum);
+  }
+}
+
+// a - b
+template <class V> V saturatedSub(V a, V b) {
+  using T = LaneOf<V>;
+  if constexpr (std::is_floating_point_v<T>) {
+    return a - b;
+  } else if constexpr (sizeof(T) <= 2) {
+    return hn::SaturatedSub(a, b);
+  } else {
+    static_assert(std::is_signed_v<T>);
+    const V difference = a - b;
+    const V extreme = hn::BroadcastSignBit(a) ^ same<V>(std::numeric_limits<T>::max());
+    return hn::IfNegativeThenElse((a ^ b) & (a ^ difference), extreme, difference);
+  }
+}
+
+// v * 2^places, saturated. From the lane's width on every non-zero lane is beyond the range.
+template <class V> V saturatedShiftLeft(V v, int places) {
+  using T = LaneOf<V>;
+  const V shifted = hn::ShiftLeftSame(v, places);
+  const auto kept = hn::ShiftRightSame(shifted, places) == v;
+  V extreme = same<V>(std::numeric_limits<T>::max());
+  if constexpr (std::is_signed_v<T>) extreme = extreme ^ hn::BroadcastSignBit(v);
+  return hn::IfThenElse(kept, shifted, extreme);
+}
+
+// 1 where the quotient v / 2^s is even. Taking it from v turns "half up" into "half to even": only an exact half can tell.
+template <class V> V evenQuotient(V v, int s) {
+  using T = LaneOf<V>;
+  return hn::AndNot(as<T>(hn::ShiftRightSame(as<std::make_unsigned_t<T>>(v), s)), same<V>(1));
+}
+
+// v / 2^s, nearest even, for s from 1 to the lane's width - 1 (16 for unsigned 16-bit lanes). No intermediate overflows.
+template <class V> V roundedShift(V v, int s) {
+  using T = LaneOf<V>;
+  if constexpr (std::is_same_v<T, int16_t>) {
+    // The Q15 product with 2^(15-s) is the shift with a half added, in 17 bits.
+    return hn::MulFixedPoint15(hn::SaturatedSub(v, evenQuotient(v, s)), same<V>(static_cast<T>(1 << (15 - s))));
+  } else if constexpr (std::is_same_v<T, uint16_t>) {
+    // The average adds in 17 bits and halves.
+    const V half = same<V>(static_cast<T>((1 << (s - 1)) - 1));
+    return hn::ShiftRightSame(hn::AverageRound(hn::SaturatedSub(v, evenQuotient(v, s)), half), s - 1);
+  } else {
+    using U = std::make_unsigned_t<T>;
+    const V floor = hn::ShiftRightSame(v, s);
+    const V fraction = v & same<V>(static_cast<T>((U{1} << s) - 1));
+    const V carry = fraction + same<V>(static_cast<T>((U{1} << (s - 1)) - 1)) + (floor & same<V>(1));
+    return floor + as<T>(hn::ShiftRightSame(as<U>(carry), s));
+  }
+}
+
+// The same for lanes in which v + 2^(s-1) does not overflow: three instructions fewer.
+template <class V> V roundedShiftRoomy(V v, int s) {
+  using T = LaneOf<V>;
+  return hn::ShiftRightSame(v - evenQuotient(v, s) + same<V>(static_cast<T>(T{1} << (s - 1))), s);
+}
+
+// ---- sums and differences: one bit more than a lane
+
+// The exact value 2 * half + (odd & 1); the other bits of odd mean nothing.
+template <class V> struct Halved {
+  V half;
+  V odd;
+};
+
+template <class V> Halved<V> halvedSum(V a, V b) {
+  const V differing = a ^ b;
+  return {(a & b) + hn::ShiftRight<1>(differing), differing};
+}
+
+// a - b, signed
+template <class V> Halved<V> halvedDifference(V a, V b) {
+  const V differing = a ^ b;
+  return {hn::ShiftRight<1>(differing) - hn::AndNot(a, b), differing};
+}
+
+// The three forms of value / 2^s, nearest even. From s = 3 on the odd bit can only break a tie, so it may be or-ed into half.
+struct ShiftOne {
+  template <class V> V operator()(Halved<V> v) const { return v.half + (v.odd & v.half & same<V>(1)); }
+};
+struct ShiftTwo {
+  template <class V> V operator()(Halved<V> v) const {
+    const V floor = hn::ShiftRight<1>(v.half);
+    return floor + (v.half & (v.odd | floor) & same<V>(1));
+  }
+};
+struct ShiftMore {
+  int s;
+  template <class V> V operator()(Halved<V> v) const { return roundedShift(hn::OrAnd(v.half, v.odd, same<V>(1)), s - 1); }
+};
+
+// The same with a round mode. A value that fits its lane is {v >> 1, v}.
+template <int kMode> struct ShiftByMode {
+  int s;
+  template <class V> V operator()(Halved<V> v) const {
+    using T = LaneOf<V>;
+    using U = std::make_unsigned_t<T>;
+    const int t = s - 1;
+    const V odd = v.odd & same<V>(1);
+    const V floor = hn::ShiftRightSame(v.half, t);
+    const V fraction = v.half & same<V>(static_cast<T>((U{1} << t) - 1));  // and half a unit more where odd
+    V negative = same<V>(0);
+    if constexpr (std::is_signed_v<T>) negative = hn::BroadcastSignBit(v.half);
+    if constexpr (kMode == qvxRoundTowardZero) {
+      return floor - hn::AndNot(hn::VecFromMask(TagOf<V>(), (fraction | odd) == same<V>(0)), negative);
+    } else if constexpr (kMode == qvxRoundNearestEven) {
+      if (t == 0) return ShiftOne()(v);
+      const V carry = fraction + same<V>(static_cast<T>((U{1} << (t - 1)) - 1)) + ((odd | floor) & same<V>(1));
+      return floor + as<T>(hn::ShiftRightSame(as<U>(carry), t));
+    } else {
+      if (t == 0) return floor + hn::AndNot(negative, odd);
+      // A negative half stays at the floor, which is the side away from zero.
+      const V carry = fraction + same<V>(static_cast<T>(U{1} << (t - 1))) + hn::AndNot(odd, negative);
+      return floor + as<T>(hn::ShiftRightSame(as<U>(carry), t));
+    }
+  }
+};
+
+// ---- products: twice the bits of a lane
+
+// Low and high half of every 16-bit product.
+template <class Low, class High> struct SplitProduct {
+  Low low;
+  High high;
+};
+
+template <class A, class B> auto splitProduct(A a, B b) {
+  if constexpr (std::is_same_v<A, B>) {
+    return SplitProduct<decltype(as<uint16_t>(a)), A>{as<uint16_t>(a * b), hn::MulHigh(a, b)};
+  } else {  // unsigned by signed: the unsigned high half is too large by a where b is negative
+    const auto unsignedB = as<uint16_t>(b);
+    const auto high = hn::MulHigh(a, unsignedB) - (a & as<uint16_t>(hn::BroadcastSignBit(b)));
+    return SplitProduct<A, B>{a * unsignedB, as<int16_t>(high)};
+  }
+}
+
+// The products whole, in the order of widen().
+template <class Low, class High> auto joined(SplitProduct<Low, High> v) {
+  using Wide = std::conditional_t<std::is_signed_v<LaneOf<High>>, int32_t, uint32_t>;
+  const TagOf<High> d;
+  const High low = as<LaneOf<High>>(v.low);
+  return Pair<Vec<hn::Repartition<Wide, TagOf<High>>>>{as<Wide>(hn::InterleaveLower(d, low, v.high)),
+                                                       as<Wide>(hn::InterleaveUpper(d, low, v.high))};
+}
+
+// Both halves through one function.
+template <class V, class F> auto each(Pair<V> v, F f) { return Pair<decltype(f(v.lo))>{f(v.lo), f(v.hi)}; }
+
+// The four forms of a 16-bit product / 2^s. Up to s = 15 the even quotient is told, and taken off, in the low half: only an
+// exact half can tell the difference, and there the low half is not zero. Far shifts need the low half as one sticky bit only.
+struct ShiftLow {
+  int s;
+  template <class Low, class High> auto operator()(SplitProduct<Low, High> v) const {
+    v.low = hn::SaturatedSub(v.low, evenQuotient(v.low, s));
+    return narrow<LaneOf<High>>(each(joined(v), [s = s](auto wide) {
+      using W = decltype(wide);
+      return hn::ShiftRightSame(wide + same<W>(static_cast<LaneOf<W>>(LaneOf<W>{1} << (s - 1))), s);
+    }));
+  }
+};
+struct ShiftWhole {
+  int s;
+  template <class Low, class High> auto operator()(SplitProduct<Low, High> v) const {
+    return narrow<LaneOf<High>>(each(joined(v), [s = s](auto wide) { return roundedShift(wide, s); }));
+  }
+};
+struct ShiftHigh {
+  int s;
+  template <class Low, class High> auto operator()(SplitProduct<Low, High> v) const {
+    const auto sticky = hn::Min(v.low, same<Low>(1));
+    return roundedShift(v.high | as<LaneOf<High>>(sticky), s - 16);
+  }
+};
+
+// 64-bit products of the even and of the odd 32-bit lanes.
+template <class V> struct EvenOdd {
+  V even;
+  V odd;
+};
+
+template <class V> auto wideProduct(V a, V b) {
+  const auto odd = hn::MulEven(hn::Shuffle2301(a), hn::Shuffle2301(b));
+  return EvenOdd<decltype(odd)>{hn::MulEven(a, b), odd};
+}
+
+// Back to 32-bit lanes, saturated.
+template <class V> auto narrow(EvenOdd<V> v) {
+  const auto clamp = [](V x) { return hn::Min(hn::Max(x, same<V>(INT32_MIN)), same<V>(INT32_MAX)); };
+  const auto odd = as<int32_t>(hn::ShiftLeft<32>(clamp(v.odd)));
+  return hn::OddEven(odd, as<int32_t>(clamp(v.even)));
+}
+
+template <class V, class F> auto each(EvenOdd<V> v, F f) { return EvenOdd<decltype(f(v.even))>{f(v.even), f(v.odd)}; }
+
+}  // namespace qvx

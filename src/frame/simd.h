@@ -1,0 +1,200 @@
+// The library's window on Highway, and the only file that knows its namespaces, its quirks and raw intrinsics.
+//
+// Kernels are written on whole vectors of the variant's widest register and on `Lanes<T, N>`, a tag for N elements of T;
+// N times the size of T may be anything from 4 bytes to a register.
+#pragma once
+
+#include <hwy/highway.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <type_traits>
+
+namespace qvx {
+
+namespace hn = hwy::HWY_NAMESPACE;
+
+// Highway falls back to a lower target without a word if a flag is missing: then the variant would be one in name only.
+static_assert(HWY_TARGET == QVXS_EXPECTED_TARGET, "the compiler's flags do not give this variant its instruction set");
+inline constexpr bool kHasMasks = HWY_TARGET == HWY_AVX3;
+
+inline constexpr size_t kVectorBytes = HWY_LANES(uint8_t);
+
+template <class T, size_t N> using Lanes = hn::FixedTag<T, N>;
+template <class D> using Vec = hn::Vec<D>;
+template <class V> using TagOf = hn::DFromV<V>;
+template <class V> using LaneOf = hn::TFromV<V>;
+template <class V> inline constexpr size_t kLanesOf = hn::MaxLanes(TagOf<V>());
+
+namespace detail {
+
+// The first `bytes` (0 to 16) bytes at p, zeros behind them: two overlapping loads of the largest width that fits, since a
+// round trip through the stack costs a failed store forwarding (about 4 ns).
+inline __m128i loadBytes(const uint8_t* p, size_t bytes) {
+  const auto at = [p](size_t offset, auto word) { return std::memcpy(&word, p + offset, sizeof(word)), word; };
+  uint64_t low = 0;
+  uint64_t high = 0;
+  if (bytes >= 8) {
+    low = at(0, uint64_t{});
+    const size_t half = 4 * (16 - bytes);  // shifted twice, because bytes == 8 needs a shift by 64
+    high = at(bytes - 8, uint64_t{}) >> half >> half;
+  } else if (bytes >= 4) {
+    low = at(0, uint32_t{}) | uint64_t{at(bytes - 4, uint32_t{})} << (8 * (bytes - 4));
+  } else if (bytes >= 2) {
+    low = at(0, uint16_t{}) | uint64_t{at(bytes - 2, uint16_t{})} << (8 * (bytes - 2));
+  } else if (bytes == 1) {
+    low = *p;
+  }
+  return _mm_set_epi64x(static_cast<int64_t>(high), static_cast<int64_t>(low));
+}
+
+inline void storeBytes(__m128i v, uint8_t* p, size_t bytes) {
+  const auto put = [p](size_t offset, auto word) { std::memcpy(p + offset, &word, sizeof(word)); };
+  const auto low = static_cast<uint64_t>(_mm_cvtsi128_si64(v));
+  if (bytes >= 8) {
+    const auto high = static_cast<uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(v, v)));
+    const size_t half = 4 * (bytes - 8);
+    put(0, low);
+    put(bytes - 8, (low >> half >> half) | (bytes == 8 ? 0 : high << (8 * (16 - bytes))));
+  } else if (bytes >= 4) {
+    put(0, static_cast<uint32_t>(low));
+    put(bytes - 4, static_cast<uint32_t>(low >> (8 * (bytes - 4))));
+  } else if (bytes >= 2) {
+    put(0, static_cast<uint16_t>(low));
+    put(bytes - 2, static_cast<uint16_t>(low >> (8 * (bytes - 2))));
+  } else if (bytes == 1) {
+    *p = static_cast<uint8_t>(low);
+  }
+}
+
+// Instructions without a Highway operation of just their meaning: saturating packs that keep to 128-bit blocks, and float to
+// integer conversions that leave the processor's indefinite value (the most negative integer) for all they cannot represent.
+inline __m128i packU8(__m128i lo, __m128i hi) { return _mm_packus_epi16(lo, hi); }
+inline __m128i packS8(__m128i lo, __m128i hi) { return _mm_packs_epi16(lo, hi); }
+inline __m128i packS16(__m128i lo, __m128i hi) { return _mm_packs_epi32(lo, hi); }
+inline __m128i toIntNearest(__m128 v) { return _mm_cvtps_epi32(v); }
+inline __m128i toIntTruncated(__m128 v) { return _mm_cvttps_epi32(v); }
+inline __m128i toIntNearest(__m128d v) { return _mm_cvtpd_epi32(v); }
+inline __m128i toIntTruncated(__m128d v) { return _mm_cvttpd_epi32(v); }
+#if HWY_TARGET <= HWY_AVX2
+inline __m128i packU16(__m128i lo, __m128i hi) { return _mm_packus_epi32(lo, hi); }
+inline __m256i packU8(__m256i lo, __m256i hi) { return _mm256_packus_epi16(lo, hi); }
+inline __m256i packS8(__m256i lo, __m256i hi) { return _mm256_packs_epi16(lo, hi); }
+inline __m256i packS16(__m256i lo, __m256i hi) { return _mm256_packs_epi32(lo, hi); }
+inline __m256i packU16(__m256i lo, __m256i hi) { return _mm256_packus_epi32(lo, hi); }
+inline __m256i toIntNearest(__m256 v) { return _mm256_cvtps_epi32(v); }
+inline __m256i toIntTruncated(__m256 v) { return _mm256_cvttps_epi32(v); }
+inline __m128i toIntNearest(__m256d v) { return _mm256_cvtpd_epi32(v); }
+inline __m128i toIntTruncated(__m256d v) { return _mm256_cvttpd_epi32(v); }
+#else
+inline __m128i packU16(__m128i lo, __m128i hi) {  // for lanes from -2^31 + 2^15 on, which is all that callers have
+  const __m128i bias = _mm_set1_epi32(0x8000);
+  const __m128i packed = _mm_packs_epi32(_mm_sub_epi32(lo, bias), _mm_sub_epi32(hi, bias));
+  return _mm_xor_si128(packed, _mm_set1_epi16(INT16_MIN));
+}
+#endif
+#if HWY_TARGET == HWY_AVX3
+inline __m512i packU8(__m512i lo, __m512i hi) { return _mm512_packus_epi16(lo, hi); }
+inline __m512i packS8(__m512i lo, __m512i hi) { return _mm512_packs_epi16(lo, hi); }
+inline __m512i packS16(__m512i lo, __m512i hi) { return _mm512_packs_epi32(lo, hi); }
+inline __m512i packU16(__m512i lo, __m512i hi) { return _mm512_packus_epi32(lo, hi); }
+inline __m512i toIntNearest(__m512 v) { return _mm512_cvtps_epi32(v); }
+inline __m512i toIntTruncated(__m512 v) { return _mm512_cvttps_epi32(v); }
+inline __m256i toIntNearest(__m512d v) { return _mm512_cvtpd_epi32(v); }
+inline __m256i toIntTruncated(__m512d v) { return _mm512_cvttpd_epi32(v); }
+#endif
+
+}  // namespace detail
+
+template <class D> Vec<D> load(D d, const hn::TFromD<D>* p) { return hn::LoadU(d, p); }
+
+template <class D> void store(Vec<D> v, D d, hn::TFromD<D>* p) { hn::StoreU(v, d, p); }
+
+// The first n lanes (0 to all) from memory, the rest zero. Nothing behind them is read.
+template <class D> Vec<D> loadFirst(D d, const hn::TFromD<D>* p, size_t n) {
+  using T = hn::TFromD<D>;
+  constexpr size_t kBytes = hn::MaxLanes(D()) * sizeof(T);
+  [[maybe_unused]] const auto* bytes = reinterpret_cast<const uint8_t*>(p);
+  if constexpr (kHasMasks || (kBytes == 32 && sizeof(T) >= 4)) {
+    return hn::MaskedLoad(hn::FirstN(d, n), d, p);
+  } else if constexpr (kBytes == 32) {
+    const Lanes<T, 16 / sizeof(T)> half;
+    const size_t count = n * sizeof(T);
+    const auto part = [&](size_t from, size_t size) { return Vec<decltype(half)>{detail::loadBytes(bytes + from, size)}; };
+    if (count < 16) return hn::ZeroExtendVector(d, part(0, count));
+    return hn::Combine(d, part(16, count - 16), load(half, p));
+  } else if constexpr (std::is_same_v<T, float>) {
+    return Vec<D>{_mm_castsi128_ps(detail::loadBytes(bytes, n * sizeof(T)))};
+  } else if constexpr (std::is_same_v<T, double>) {
+    return Vec<D>{_mm_castsi128_pd(detail::loadBytes(bytes, n * sizeof(T)))};
+  } else {
+    return Vec<D>{detail::loadBytes(bytes, n * sizeof(T))};
+  }
+}
+
+// Stores the first n lanes (0 to all). Nothing behind them is written.
+template <class D> void storeFirst(Vec<D> v, D d, hn::TFromD<D>* p, size_t n) {
+  using T = hn::TFromD<D>;
+  constexpr size_t kBytes = hn::MaxLanes(D()) * sizeof(T);
+  [[maybe_unused]] auto* bytes = reinterpret_cast<uint8_t*>(p);
+  if constexpr (kHasMasks || (kBytes == 32 && sizeof(T) >= 4)) {
+    hn::BlendedStore(v, hn::FirstN(d, n), d, p);
+  } else if constexpr (kBytes == 32) {
+    const Lanes<T, 16 / sizeof(T)> half;
+    const size_t count = n * sizeof(T);
+    const auto low = hn::LowerHalf(half, v);
+    if (count < 16) return detail::storeBytes(low.raw, bytes, count);
+    store(low, half, p);
+    detail::storeBytes(hn::UpperHalf(half, v).raw, bytes + 16, count - 16);
+  } else if constexpr (std::is_same_v<T, float>) {
+    detail::storeBytes(_mm_castps_si128(v.raw), bytes, n * sizeof(T));
+  } else if constexpr (std::is_same_v<T, double>) {
+    detail::storeBytes(_mm_castpd_si128(v.raw), bytes, n * sizeof(T));
+  } else {
+    detail::storeBytes(v.raw, bytes, n * sizeof(T));
+  }
+}
+
+// A vector of the same bits.
+template <class T, class V> auto as(V v) { return hn::BitCast(hn::Repartition<T, TagOf<V>>(), v); }
+
+template <class V> V same(LaneOf<V> value) { return hn::Set(TagOf<V>(), value); }
+
+// Two vectors of lanes twice as wide as To's, in the order of widen(), as one vector of To: saturated and in order again.
+template <class V> struct Pair {
+  V lo;
+  V hi;
+};
+
+template <class To, class V> auto narrow(Pair<V> v) {
+  using From = LaneOf<V>;
+  static_assert(sizeof(From) == 2 * sizeof(To) && sizeof(From) <= 4);
+  const hn::Repartition<To, TagOf<V>> d;
+  if constexpr (std::is_same_v<To, uint8_t>) {
+    return Vec<decltype(d)>{detail::packU8(v.lo.raw, v.hi.raw)};
+  } else if constexpr (std::is_same_v<To, int8_t>) {
+    return Vec<decltype(d)>{detail::packS8(v.lo.raw, v.hi.raw)};
+  } else if constexpr (std::is_same_v<To, int16_t>) {
+    return Vec<decltype(d)>{detail::packS16(v.lo.raw, v.hi.raw)};
+  } else {
+    return Vec<decltype(d)>{detail::packU16(v.lo.raw, v.hi.raw)};
+  }
+}
+
+// The lanes of a whole vector at twice their width: low and high half of every 128-bit block, which costs one instruction each
+// where the order of elements would cost a shuffle across blocks.
+template <class To, class V> auto widen(V v) {
+  static_assert(sizeof(To) == 2 * sizeof(LaneOf<V>));
+  const TagOf<V> d;
+  V above = hn::Zero(d);
+  if constexpr (std::is_signed_v<LaneOf<V>>) above = hn::BroadcastSignBit(v);
+  return Pair<Vec<hn::Repartition<To, TagOf<V>>>>{as<To>(hn::InterleaveLower(d, v, above)),
+                                                  as<To>(hn::InterleaveUpper(d, v, above))};
+}
+
+// Floats to 32-bit integers in the processor's rounding mode, or truncated. What no int32 can hold becomes INT32_MIN.
+template <class V> auto toInt(V v) { return Vec<hn::Rebind<int32_t, TagOf<V>>>{detail::toIntNearest(v.raw)}; }
+template <class V> auto toIntTruncated(V v) { return Vec<hn::Rebind<int32_t, TagOf<V>>>{detail::toIntTruncated(v.raw)}; }
+
+}  // namespace qvx

@@ -1,0 +1,57 @@
+// dst = src1 + src2 and dst = src + val
+#include "vector/sum.h"
+
+using namespace qvx;
+
+// clang-format off
+QvxStatus qvxsAdd_8u_Sfs(const Qvx8u* a, const Qvx8u* b, Qvx8u* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, b); }
+QvxStatus qvxsAdd_8u_ISfs(const Qvx8u* a, Qvx8u* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, d); }
+QvxStatus qvxsAdd_8u16u(const Qvx8u* a, const Qvx8u* b, Qvx16u* d, int len) { return map<Sum>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsAdd_16s(const Qvx16s* a, const Qvx16s* b, Qvx16s* d, int len) { return map<Sum>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsAdd_16s_I(const Qvx16s* a, Qvx16s* d, int len) { return map<Sum>(d, len, AsIs{}, a, d); }
+QvxStatus qvxsAdd_16s_Sfs(const Qvx16s* a, const Qvx16s* b, Qvx16s* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, b); }
+QvxStatus qvxsAdd_16s_ISfs(const Qvx16s* a, Qvx16s* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, d); }
+QvxStatus qvxsAdd_16u(const Qvx16u* a, const Qvx16u* b, Qvx16u* d, int len) { return map<Sum>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsAdd_16u_Sfs(const Qvx16u* a, const Qvx16u* b, Qvx16u* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, b); }
+QvxStatus qvxsAdd_16u_ISfs(const Qvx16u* a, Qvx16u* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, d); }
+QvxStatus qvxsAdd_16sc_Sfs(const Qvx16sc* a, const Qvx16sc* b, Qvx16sc* d, int len, int sf) { return map<Sum>(d, LengthFirst{len}, Scaled{sf}, a, b); }
+QvxStatus qvxsAdd_16sc_ISfs(const Qvx16sc* a, Qvx16sc* d, int len, int sf) { return map<Sum>(d, LengthFirst{len}, Scaled{sf}, a, d); }
+QvxStatus qvxsAdd_16s32f(const Qvx16s* a, const Qvx16s* b, Qvx32f* d, int len) { return map<Sum>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsAdd_16s32s_I(const Qvx16s* a, Qvx32s* d, int len) { return map<Sum>(d, len, AsIs{}, a, d); }
+QvxStatus qvxsAdd_32u(const Qvx32u* a, const Qvx32u* b, Qvx32u* d, int len) { return map<Sum>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsAdd_32s_Sfs(const Qvx32s* a, const Qvx32s* b, Qvx32s* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, b); }
+QvxStatus qvxsAdd_32s_ISfs(const Qvx32s* a, Qvx32s* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, d); }
+QvxStatus qvxsAdd_32sc_Sfs(const Qvx32sc* a, const Qvx32sc* b, Qvx32sc* d, int len, int sf) { return map<Sum>(d, LengthFirst{len}, Scaled{sf}, a, b); }
+QvxStatus qvxsAdd_32sc_ISfs(const Qvx32sc* a, Qvx32sc* d, int len, int sf) { return map<Sum>(d, LengthFirst{len}, Scaled{sf}, a, d); }
+QvxStatus qvxsAdd_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Sum>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsAdd_32f_I(const Qvx32f* a, Qvx32f* d, int len) { return map<Sum>(d, len, AsIs{}, a, d); }
+QvxStatus qvxsAdd_32fc(const Qvx32fc* a, const Qvx32fc* b, Qvx32fc* d, int len) { return map<Sum>(d, LengthFirst{len}, AsIs{}, a, b); }
+QvxStatus qvxsAdd_32fc_I(const Qvx32fc* a, Qvx32fc* d, int len) { return map<Sum>(d, LengthFirst{len}, AsIs{}, a, d); }
+QvxStatus qvxsAdd_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Sum>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsAdd_64f_I(const Qvx64f* a, Qvx64f* d, int len) { return map<Sum>(d, len, AsIs{}, a, d); }
+QvxStatus qvxsAdd_64fc(const Qvx64fc* a, const Qvx64fc* b, Qvx64fc* d, int len) { return map<Sum>(d, LengthFirst{len}, AsIs{}, a, b); }
+QvxStatus qvxsAdd_64fc_I(const Qvx64fc* a, Qvx64fc* d, int len) { return map<Sum>(d, LengthFirst{len}, AsIs{}, a, d); }
+
+// A float constant of 0 copies: adding it would turn -0 into 0.
+QvxStatus qvxsAddC_8u_Sfs(const Qvx8u* a, Qvx8u val, Qvx8u* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, Constant{val}); }
+QvxStatus qvxsAddC_8u_ISfs(Qvx8u val, Qvx8u* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, d, Constant{val}); }
+QvxStatus qvxsAddC_16s_I(Qvx16s val, Qvx16s* d, int len) { return map<Sum>(d, len, AsIs{}, d, Constant{val}); }
+QvxStatus qvxsAddC_16s_Sfs(const Qvx16s* a, Qvx16s val, Qvx16s* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, Constant{val}); }
+QvxStatus qvxsAddC_16s_ISfs(Qvx16s val, Qvx16s* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, d, Constant{val}); }
+QvxStatus qvxsAddC_16u_Sfs(const Qvx16u* a, Qvx16u val, Qvx16u* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, Constant{val}); }
+QvxStatus qvxsAddC_16u_ISfs(Qvx16u val, Qvx16u* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, d, Constant{val}); }
+QvxStatus qvxsAddC_16sc_Sfs(const Qvx16sc* a, Qvx16sc val, Qvx16sc* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, Constant{val}); }
+QvxStatus qvxsAddC_16sc_ISfs(Qvx16sc val, Qvx16sc* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, d, Constant{val}); }
+QvxStatus qvxsAddC_32s_Sfs(const Qvx32s* a, Qvx32s val, Qvx32s* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, Constant{val}); }
+QvxStatus qvxsAddC_32s_ISfs(Qvx32s val, Qvx32s* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, d, Constant{val}); }
+QvxStatus qvxsAddC_32sc_Sfs(const Qvx32sc* a, Qvx32sc val, Qvx32sc* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, Constant{val}); }
+QvxStatus qvxsAddC_32sc_ISfs(Qvx32sc val, Qvx32sc* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, d, Constant{val}); }
+QvxStatus qvxsAddC_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return val == 0 ? qvxsCopy_32f(a, d, len) : map<Sum>(d, len, AsIs{}, a, Constant{val}); }
+QvxStatus qvxsAddC_32f_I(Qvx32f val, Qvx32f* d, int len) { return val == 0 ? check(len, d) : map<Sum>(d, len, AsIs{}, d, Constant{val}); }
+QvxStatus qvxsAddC_32fc(const Qvx32fc* a, Qvx32fc val, Qvx32fc* d, int len) { return map<Sum>(d, len, AsIs{}, a, Constant{val}); }
+QvxStatus qvxsAddC_32fc_I(Qvx32fc val, Qvx32fc* d, int len) { return map<Sum>(d, len, AsIs{}, d, Constant{val}); }
+QvxStatus qvxsAddC_64f(const Qvx64f* a, Qvx64f val, Qvx64f* d, int len) { return val == 0 ? qvxsCopy_64f(a, d, len) : map<Sum>(d, len, AsIs{}, a, Constant{val}); }
+QvxStatus qvxsAddC_64f_I(Qvx64f val, Qvx64f* d, int len) { return val == 0 ? check(len, d) : map<Sum>(d, len, AsIs{}, d, Constant{val}); }
+QvxStatus qvxsAddC_64fc(const Qvx64fc* a, Qvx64fc val, Qvx64fc* d, int len) { return map<Sum>(d, len, AsIs{}, a, Constant{val}); }
+QvxStatus qvxsAddC_64fc_I(Qvx64fc val, Qvx64fc* d, int len) { return map<Sum>(d, len, AsIs{}, d, Constant{val}); }
+// clang-format on

@@ -1,0 +1,134 @@
+// Real and complex products as operations of the loop engine.
+#pragma once
+
+#include "frame/map.h"
+
+namespace qvx {
+
+// A product that its lanes hold.
+struct FittingProduct {
+  template <class T> static constexpr int kMaxScale = 8 * sizeof(T) - 2;
+
+  template <class V> V operator()(V a, V b) const { return a * b; }
+
+  template <class T, class With> static QvxStatus scaleDown(int s, const With& with) {
+    return with([s](auto a, auto b) { return roundedShiftRoomy(a * b, s); });
+  }
+};
+
+// A real product: exact in twice the bits of its operands, then saturated or shifted back.
+struct Product {
+  // The product of 16-bit operands of both kinds reaches 2^31 - 2^15, so 31 places can still leave a 1.
+  template <class T>
+  static constexpr int kMaxScale = 8 * int{sizeof(T)} * 2 - (std::is_same_v<T, int16_t> ? 1
+                                                             : std::is_signed_v<T>      ? 2
+                                                                                        : 0);
+
+  template <class A, class B> B operator()(A a, B b) const {
+    using T = LaneOf<B>;
+    if constexpr (std::is_floating_point_v<T>) {
+      return a * b;
+    } else if constexpr (sizeof(T) == 1) {
+      return narrow8(a, b, [](auto wide) { return wide; });
+    } else if constexpr (std::is_same_v<T, uint16_t>) {
+      return (a * b) | hn::VecFromMask(TagOf<B>(), hn::MulHigh(a, b) != hn::Zero(TagOf<B>()));
+    } else if constexpr (sizeof(T) == 2) {
+      return narrow<T>(joined(splitProduct(a, b)));
+    } else {
+      return narrow(wideProduct(a, b));
+    }
+  }
+
+  template <class T, class With> static QvxStatus scaleDown(int s, const With& with) {
+    if constexpr (sizeof(T) == 1) {
+      return with([s](auto a, auto b) { return narrow8(a, b, [s](auto wide) { return roundedShift(wide, s); }); });
+    } else if constexpr (sizeof(T) == 4) {
+      return with(
+          [s](auto a, auto b) { return narrow(each(wideProduct(a, b), [s](auto wide) { return roundedShiftRoomy(wide, s); })); });
+    } else if (s <= 15) {
+      return with([s](auto a, auto b) { return ShiftLow{s}(splitProduct(a, b)); });
+    } else if (s <= 17) {
+      return with([s](auto a, auto b) { return ShiftWhole{s}(splitProduct(a, b)); });
+    } else {
+      return with([s](auto a, auto b) { return ShiftHigh{s}(splitProduct(a, b)); });
+    }
+  }
+
+ private:
+  // The pack to 8 bits takes its lanes as signed, so they are clamped before.
+  template <class V, class F> static V narrow8(V a, V b, F f) {
+    const auto wideA = widen<uint16_t>(a);
+    const auto wideB = widen<uint16_t>(b);
+    const auto clamped = [f](auto x, auto y) { return hn::Min(f(x * y), same<decltype(x)>(255)); };
+    return narrow<uint8_t>(Pair<decltype(wideA.lo)>{clamped(wideA.lo, wideB.lo), clamped(wideA.hi, wideB.hi)});
+  }
+};
+
+// Real and imaginary parts of the products of complex integers, in lanes twice as wide.
+template <class V> struct Complex {
+  V re;
+  V im;
+};
+
+template <class V, class F> auto each(Complex<V> v, F f) { return Complex<decltype(f(v.re))>{f(v.re), f(v.im)}; }
+
+// (re1*re2 - im1*im2, re1*im2 + im1*re2); one integer value, the square of the most negative number, does not fit twice the
+// bits: it is taken as the largest that does, which saturates and rounds alike.
+struct ComplexProduct {
+  template <class T> static constexpr int kMaxScale = 16 * sizeof(T) - 1;
+
+  template <class V> V operator()(V a, V b) const {
+    using T = LaneOf<V>;
+    if constexpr (std::is_floating_point_v<T>) {
+      const TagOf<V> d;
+      const V minusEven = hn::OddEven(hn::Zero(d), hn::SignBit(d));
+      return hn::DupEven(a) * b + ((hn::DupOdd(a) * swapped(b)) ^ minusEven);
+    } else {
+      return interleaved<T>(wide(a, b));
+    }
+  }
+
+  template <class T, class With> static QvxStatus scaleDown(int s, const With& with) {
+    return with([s](auto a, auto b) { return interleaved<T>(each(wide(a, b), [s](auto v) { return roundedShift(v, s); })); });
+  }
+
+ private:
+  // Real and imaginary parts exchanged.
+  template <class V> static V swapped(V v) {
+    if constexpr (sizeof(LaneOf<V>) == 2) return as<int16_t>(hn::RotateRight<16>(as<uint32_t>(v)));
+    else if constexpr (sizeof(LaneOf<V>) == 4) return hn::Shuffle2301(v);
+    else return hn::Shuffle01(v);
+  }
+
+  template <class V> static auto wide(V a, V b) {
+    const TagOf<V> d;
+    using T = LaneOf<V>;
+    using Wide = std::conditional_t<sizeof(T) == 2, int32_t, int64_t>;
+    using W = Vec<hn::Repartition<Wide, TagOf<V>>>;
+    const auto noOverflow = [](W v) { return v + hn::VecFromMask(TagOf<W>(), v == same<W>(std::numeric_limits<Wide>::min())); };
+    if constexpr (sizeof(T) == 2) {
+      const TagOf<W> dw;
+      W unused = hn::Zero(dw);
+      // -im2 may not fit, ~im2 = -im2 - 1 does: the product with it lacks one im1.
+      const V conjugate = b ^ hn::OddEven(same<V>(-1), hn::Zero(d));
+      const W re = hn::ReorderWidenMulAccumulate(dw, a, conjugate, hn::ShiftRight<16>(as<int32_t>(a)), unused);
+      const W im = hn::ReorderWidenMulAccumulate(dw, a, swapped(b), hn::Zero(dw), unused);
+      return Complex<W>{re, noOverflow(im)};
+    } else {
+      const auto straight = wideProduct(a, b);
+      const auto crossed = wideProduct(a, swapped(b));
+      return Complex<W>{straight.even - straight.odd, noOverflow(crossed.even + crossed.odd)};
+    }
+  }
+
+  template <class T, class V> static auto interleaved(Complex<V> v) {
+    if constexpr (sizeof(T) == 4) {
+      return narrow(EvenOdd<V>{v.re, v.im});
+    } else {
+      const TagOf<V> d;
+      return narrow<T>(Pair<V>{hn::InterleaveLower(d, v.re, v.im), hn::InterleaveUpper(d, v.re, v.im)});
+    }
+  }
+};
+
+}  // namespace qvx

@@ -1,0 +1,54 @@
+// Sum and difference as operations of the loop engine.
+#pragma once
+
+#include "frame/map.h"
+
+namespace qvx {
+
+// 8-bit lanes know no shifts and go through 16-bit ones, where the result fits; all others halve.
+template <class Exact> struct ScaledSum {
+  template <class T, class With> static QvxStatus scaleDown(int s, const With& with) {
+    if constexpr (sizeof(T) == 1) {
+      return with([s](auto a, auto b) {
+        const auto wideA = widen<int16_t>(a);
+        const auto wideB = widen<int16_t>(b);
+        const auto half = [s](auto x, auto y) { return roundedShift(Exact::wide(x, y), s); };
+        return narrow<T>(Pair<decltype(wideA.lo)>{half(wideA.lo, wideB.lo), half(wideA.hi, wideB.hi)});
+      });
+    } else if (s == 1) {
+      return with([](auto a, auto b) { return ShiftOne()(Exact::halved(a, b)); });
+    } else if (s == 2) {
+      return with([](auto a, auto b) { return ShiftTwo()(Exact::halved(a, b)); });
+    } else {
+      return with([s](auto a, auto b) { return ShiftMore{s}(Exact::halved(a, b)); });
+    }
+  }
+};
+
+struct Sum : ScaledSum<Sum> {
+  template <class T> static constexpr int kMaxScale = 8 * sizeof(T) + std::is_unsigned_v<T>;
+
+  template <class V> V operator()(V a, V b) const { return saturatedAdd(a, b); }
+  template <class V> static V wide(V a, V b) { return a + b; }
+  template <class V> static Halved<V> halved(V a, V b) { return halvedSum(a, b); }
+};
+
+// The second operand minus the first.
+struct Difference : ScaledSum<Difference> {
+  template <class T> static constexpr int kMaxScale = 8 * sizeof(T);
+
+  template <class V> V operator()(V a, V b) const { return saturatedSub(b, a); }
+  template <class V> static V wide(V a, V b) { return b - a; }
+  template <class V> static Halved<V> halved(V a, V b) { return halvedDifference(b, a); }
+
+  template <class T, class With> static QvxStatus scaleDown(int s, const With& with) {
+    if constexpr (std::is_same_v<T, uint16_t>) {
+      // What is below 0 ends there at any scale, and the rest fits a lane.
+      return with([s](auto a, auto b) { return roundedShift(hn::SaturatedSub(b, a), s); });
+    } else {
+      return ScaledSum::template scaleDown<T>(s, with);
+    }
+  }
+};
+
+}  // namespace qvx
