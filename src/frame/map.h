@@ -170,8 +170,8 @@ template <class To, class V> auto convertLanes(V v) {
     else return hn::ConvertTo(d, convertLanes<int32_t>(v));
   } else if constexpr (std::is_same_v<To, double> && sizeof(From) == 2) {
     return hn::PromoteTo(d, convertLanes<int32_t>(v));
-  } else if constexpr (sizeof(From) == sizeof(To)) {
-    return hn::ConvertTo(d, v);
+  } else if constexpr (std::is_same_v<To, double> && sizeof(From) == 8) {
+    return toDouble(v);
   } else if constexpr (sizeof(From) > sizeof(To)) {
     return hn::DemoteTo(d, v);
   } else {

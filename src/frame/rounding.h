@@ -20,6 +20,12 @@ class RoundingScope {
   RoundingScope(const RoundingScope&) = delete;
   RoundingScope& operator=(const RoundingScope&) = delete;
 
+  // A scalar whose arithmetic must not leave the scope: it belongs to no memory that could pin it.
+  template <class T> static T pinned(T v) {
+    __asm__ volatile("" : "+x"(v) : : "memory");
+    return v;
+  }
+
  private:
   static constexpr uint32_t kField = 0x6000;
 

@@ -43,7 +43,7 @@ template <class V> V saturatedAdd(V a, V b) {
   } else {
     const V sum = a + b;
     const V extreme = hn::BroadcastSignBit(a) ^ same<V>(std::numeric_limits<T>::max());
-    return hn::IfNegativeThenElse(hn::AndNot(a ^ b, a ^ sum), extreme, sum);
+    return ifNegative(hn::AndNot(a ^ b, a ^ sum), extreme, sum);
   }
 }
 
@@ -58,7 +58,7 @@ template <class V> V saturatedSub(V a, V b) {
     static_assert(std::is_signed_v<T>);
     const V difference = a - b;
     const V extreme = hn::BroadcastSignBit(a) ^ same<V>(std::numeric_limits<T>::max());
-    return hn::IfNegativeThenElse((a ^ b) & (a ^ difference), extreme, difference);
+    return ifNegative((a ^ b) & (a ^ difference), extreme, difference);
   }
 }
 
@@ -124,7 +124,15 @@ template <class V> Halved<V> halvedDifference(V a, V b) {
 
 // The three forms of value / 2^s, nearest even. From s = 3 on the odd bit can only break a tie, so it may be or-ed into half.
 struct ShiftOne {
-  template <class V> V operator()(Halved<V> v) const { return v.half + (v.odd & v.half & same<V>(1)); }
+  template <class V> V operator()(Halved<V> v) const {
+    using T = LaneOf<V>;
+    const V up = v.odd & v.half & same<V>(1);
+    // A difference can round up to one above the largest lane.
+    if constexpr (sizeof(T) <= 2) return hn::SaturatedAdd(v.half, up);
+    const V sum = v.half + up;
+    if constexpr (std::is_unsigned_v<T>) return sum;
+    else return sum + hn::BroadcastSignBit(hn::AndNot(v.half, sum));
+  }
 };
 struct ShiftTwo {
   template <class V> V operator()(Halved<V> v) const {
@@ -158,7 +166,7 @@ template <int kMode> struct ShiftByMode {
     } else {
       if (t == 0) return floor + hn::AndNot(negative, odd);
       // A negative half stays at the floor, which is the side away from zero.
-      const V carry = fraction + same<V>(static_cast<T>(U{1} << (t - 1))) + hn::AndNot(odd, negative);
+      const V carry = fraction + same<V>(static_cast<T>(U{1} << (t - 1))) + negative + (odd & negative);
       return floor + as<T>(hn::ShiftRightSame(as<U>(carry), t));
     }
   }

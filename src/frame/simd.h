@@ -193,6 +193,20 @@ template <class To, class V> auto widen(V v) {
                                                   as<To>(hn::InterleaveUpper(d, v, above))};
 }
 
+// yes where the lane's sign bit is set. Highway's own operation takes the other bits too on SSSE3.
+template <class V> V ifNegative(V lane, V yes, V no) {
+  if constexpr (HWY_TARGET == HWY_SSSE3) return hn::IfVecThenElse(hn::BroadcastSignBit(lane), yes, no);
+  else return hn::IfNegativeThenElse(lane, yes, no);
+}
+
+// 64-bit integers to doubles in the processor's rounding mode. Where there is no instruction, Highway's sum of two halves gives
+// -0 for 0 when rounding down.
+template <class V> auto toDouble(V v) {
+  const auto converted = hn::ConvertTo(hn::Rebind<double, TagOf<V>>(), v);
+  if constexpr (kHasMasks) return converted;
+  else return hn::BitCast(TagOf<decltype(converted)>(), hn::IfThenZeroElse(v == same<V>(0), hn::BitCast(TagOf<V>(), converted)));
+}
+
 // Floats to 32-bit integers in the processor's rounding mode, or truncated. What no int32 can hold becomes INT32_MIN.
 template <class V> auto toInt(V v) { return Vec<hn::Rebind<int32_t, TagOf<V>>>{detail::toIntNearest(v.raw)}; }
 template <class V> auto toIntTruncated(V v) { return Vec<hn::Rebind<int32_t, TagOf<V>>>{detail::toIntTruncated(v.raw)}; }

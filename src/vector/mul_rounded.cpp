@@ -1,4 +1,5 @@
 // The products that are not the exact one: through floats, or the low word alone.
+#include "frame/power.h"
 #include "vector/product.h"
 #include "vector/rounded_product.h"
 
@@ -47,7 +48,7 @@ struct PackedTo16 {
 
 QvxStatus qvxsMulC_32f16s_Sfs(const Qvx32f* a, Qvx32f val, Qvx16s* d, int len, int sf) {
   const RoundingScope nearest(Rounding::kNearest);
-  const Qvx32f factor = val * std::ldexp(1.0F, -std::clamp(sf, -127, 126));
+  const Qvx32f factor = RoundingScope::pinned(val) * powerOfTwo<Qvx32f>(-std::clamp(sf, -127, 126));
   return map<ClampedTo16>(d, len, AsIs{}, a, Constant{factor});
 }
 

@@ -1,9 +1,8 @@
 // 32-bit products by way of 64-bit floats: rounded to 53 bits once before they are rounded to an integer.
 #pragma once
 
-#include <cmath>
-
 #include "frame/map.h"
+#include "frame/power.h"
 #include "frame/rounding.h"
 
 namespace qvx {
@@ -14,7 +13,7 @@ struct ScaledFloat {
 
   template <class Op, class Dst, class... Src> QvxStatus run(Op op, Dst dst, size_t n, Src... src) const {
     // Beyond these every result is 0 or an extreme already.
-    const double factor = std::ldexp(1.0, -std::clamp(scaleFactor, -64, 64));
+    const auto factor = powerOfTwo<double>(-std::clamp(scaleFactor, -64, 64));
     const RoundingScope nearest(Rounding::kNearest);
     const auto inFloat = [op, factor](auto... x) { return op(factor, x...); };
     return loop([inFloat](auto... v) { return inDoubles(inFloat, v...); }, dst, n, src...);

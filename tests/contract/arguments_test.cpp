@@ -1,0 +1,146 @@
+// The argument rules, held by every function: which status, in which order, and nothing written on an error.
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstring>
+#include <map>
+#include <set>
+
+#include "support/exports.h"
+
+namespace {
+
+using tests::Export;
+using tests::Parameter;
+
+// The functions that test their length before their pointers.
+bool testsLengthFirst(const Export& e) {
+  static const std::set<std::string> stems = {"qvxsAdd", "qvxsSub"};
+  const size_t tag = e.name.find('_');
+  return stems.count(e.name.substr(0, tag)) != 0 && e.name.find("c", tag) != std::string::npos;
+}
+
+bool refusesHalfAway(const Export& e) {
+  static const std::set<std::string> names = {"qvxsConvert_32f16f", "qvxsConvert_16s16f", "qvxsConvert_16f16s_Sfs"};
+  return names.count(e.name) != 0;
+}
+
+bool isShift(const Export& e) { return e.name.find("ShiftC") != std::string::npos; }
+
+// Arguments of a call that succeeds, of which any may be replaced. Sources and destinations are separate blocks.
+class Plain : public tests::Arguments {
+ public:
+  explicit Plain(const Export& e) : export_(e) {
+    for (auto& block : blocks_) block.assign(kBytes, 0x5A);
+  }
+
+  Plain& set(const std::string& parameter, int64_t value) { return values_[parameter] = value, *this; }
+  Plain& setNull(size_t index) { return nulls_.insert(index), *this; }
+
+  void* pointer(size_t index, size_t, bool isConst, char) override {
+    if (!isConst) outputs_.insert(index);
+    return nulls_.count(index) != 0 ? nullptr : blocks_[index].data();
+  }
+  int64_t integer(size_t index) override {
+    const std::string& name = export_.parameters[index].name;
+    if (values_.count(name) != 0) return values_[name];
+    return name == "len" ? kLength : name == "val" || name == "rndMode" ? 1 : 0;
+  }
+  double real(size_t) override { return 1.5; }
+
+  QvxStatus call() { return export_.call(export_.address, *this); }
+  bool wrote() const {
+    for (size_t index : outputs_) {
+      for (uint8_t byte : blocks_[index]) {
+        if (byte != 0x5A) return true;
+      }
+    }
+    return false;
+  }
+
+ private:
+  static constexpr int kLength = 3;
+  static constexpr size_t kBytes = 256;
+  const Export& export_;
+  std::vector<uint8_t> blocks_[8];
+  std::map<std::string, int64_t> values_;
+  std::set<size_t> nulls_;
+  std::set<size_t> outputs_;
+};
+
+void expectRefused(Plain call, QvxStatus status, const std::string& what) {
+  EXPECT_EQ(call.call(), status) << what;
+  EXPECT_FALSE(call.wrote()) << what;
+}
+
+class Contract : public testing::TestWithParam<Export> {};
+
+TEST_P(Contract, NullPointers) {
+  const Export& e = GetParam();
+  for (size_t i = 0; i < e.parameters.size(); ++i) {
+    if (!e.parameters[i].isPointer()) continue;
+    expectRefused(Plain(e).setNull(i), qvxStatNullPtr, e.parameters[i].name);
+    const QvxStatus first = testsLengthFirst(e) ? qvxStatBadSize : qvxStatNullPtr;
+    expectRefused(Plain(e).setNull(i).set("len", 0), first, e.parameters[i].name + ", len 0");
+    if (isShift(e)) expectRefused(Plain(e).setNull(i).set("val", -1), qvxStatNullPtr, "negative shift");
+    if (isShift(e)) expectRefused(Plain(e).setNull(i).set("val", 0), qvxStatNullPtr, "shift by 0");
+  }
+}
+
+TEST_P(Contract, Lengths) {
+  const Export& e = GetParam();
+  const bool isUnsigned = e.parameters[e.indexOf("len")].type == "Qvx32u";
+  for (const int64_t len : {0, -1, INT_MIN}) {
+    if (len < 0 && isUnsigned) continue;
+    expectRefused(Plain(e).set("len", len), qvxStatBadSize, "len " + std::to_string(len));
+    if (isShift(e)) expectRefused(Plain(e).set("len", len).set("val", -1), qvxStatBadSize, "negative shift");
+    if (isShift(e)) expectRefused(Plain(e).set("len", len).set("val", 99), qvxStatBadSize, "shift beyond the width");
+    if (e.indexOf("scaleFactor") >= 0) {
+      expectRefused(Plain(e).set("len", len).set("scaleFactor", 99), qvxStatBadSize, "scale factor with zeros only");
+    }
+    if (refusesHalfAway(e)) expectRefused(Plain(e).set("len", len).set("rndMode", 2), qvxStatBadSize, "bad mode");
+  }
+}
+
+TEST_P(Contract, Success) {
+  const Export& e = GetParam();
+  Plain call(e);
+  EXPECT_EQ(call.call(), qvxStatOk);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Contract, testing::ValuesIn([] {
+                           std::vector<Export> withStatus;
+                           for (const Export& e : tests::exportTable()) {
+                             if (e.call) withStatus.push_back(e);
+                           }
+                           return withStatus;
+                         }()),
+                         [](const auto& info) { return info.param.name; });
+
+TEST(Refusals, OfTheFamilies) {
+  for (const Export& e : tests::exportTable()) {
+    if (!e.call) continue;
+    if (isShift(e)) {
+      expectRefused(Plain(e).set("val", -1), qvxStatNegShift, e.name);
+      expectRefused(Plain(e).set("val", INT_MIN), qvxStatNegShift, e.name);
+    }
+    if (refusesHalfAway(e)) {
+      expectRefused(Plain(e).set("rndMode", qvxRoundHalfAway), qvxStatBadRoundMode, e.name);
+    } else if (e.indexOf("rndMode") >= 0) {
+      EXPECT_EQ(Plain(e).set("rndMode", qvxRoundHalfAway).call(), qvxStatOk) << e.name;
+    }
+    for (const char* offset : {"srcBitOffset", "dstBitOffset"}) {
+      if (e.indexOf(offset) >= 0) expectRefused(Plain(e).set(offset, -1), qvxStatBadSize, e.name);
+    }
+  }
+}
+
+// An unsigned length lets a negative argument through, but a call that comes down to a copy or to zeros meets their own test.
+TEST(Refusals, OfUnsignedLengthsByWayOfCopyAndZero) {
+  Qvx64s v[1] = {5};
+  EXPECT_EQ(qvxsAddC_64s_Sfs(v, 0, v, static_cast<Qvx32u>(-1), 0, 0), qvxStatBadSize);
+  EXPECT_EQ(qvxsAddC_64s_Sfs(v, 1, v, static_cast<Qvx32u>(-1), 70, 0), qvxStatBadSize);
+  EXPECT_EQ(v[0], 5);
+}
+
+}  // namespace

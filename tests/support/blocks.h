@@ -1,0 +1,60 @@
+// Memory whose ends bite: a block between unreadable pages, with canaries in the slack.
+#pragma once
+
+#include <sys/mman.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+
+namespace tests {
+
+class Block {
+ public:
+  explicit Block(size_t capacity) : capacity_((capacity + kPage - 1) / kPage * kPage) {
+    void* p = mmap(nullptr, capacity_ + 2 * kPage, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (p == MAP_FAILED) std::abort();
+    base_ = static_cast<uint8_t*>(p) + kPage;
+    if (mprotect(base_, capacity_, PROT_READ | PROT_WRITE) != 0) std::abort();
+  }
+  ~Block() { munmap(base_ - kPage, capacity_ + 2 * kPage); }
+  Block(const Block&) = delete;
+  Block& operator=(const Block&) = delete;
+
+  // A vector of these bytes that ends at the unreadable page, or `offset` bytes behind the start of the block.
+  uint8_t* atEnd(size_t bytes) { return place(base_ + capacity_ - bytes, bytes); }
+  uint8_t* atOffset(size_t offset, size_t bytes) { return place(base_ + offset, bytes); }
+
+  // Whether the bytes around the vector placed last are as they were.
+  bool isIntact() const {
+    for (const uint8_t* p = vector_ - lead(); p < vector_; ++p) {
+      if (*p != kCanary) return false;
+    }
+    const uint8_t* end = vector_ + bytes_;
+    for (const uint8_t* p = end; p < end + trail(); ++p) {
+      if (*p != kCanary) return false;
+    }
+    return true;
+  }
+
+ private:
+  static constexpr size_t kPage = 4096;
+  static constexpr size_t kSlack = 128;  // two of the widest vectors
+  static constexpr uint8_t kCanary = 0xC9;
+
+  size_t lead() const { return std::min<size_t>(kSlack, static_cast<size_t>(vector_ - base_)); }
+  size_t trail() const { return std::min<size_t>(kSlack, static_cast<size_t>(base_ + capacity_ - vector_ - bytes_)); }
+  uint8_t* place(uint8_t* p, size_t bytes) {
+    vector_ = p;
+    bytes_ = bytes;
+    std::memset(p - lead(), kCanary, lead() + bytes + trail());
+    return p;
+  }
+
+  size_t capacity_;
+  uint8_t* base_;
+  uint8_t* vector_ = nullptr;
+  size_t bytes_ = 0;
+};
+
+}  // namespace tests

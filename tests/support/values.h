@@ -1,0 +1,73 @@
+// Test data: random, with the values that break things mixed in.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <qvx/qvxdefs.h>
+
+#include <bit>
+#include <limits>
+#include <random>
+#include <type_traits>
+#include <vector>
+
+namespace tests {
+
+using Random = std::mt19937_64;
+
+template <class T> inline constexpr bool isComplex = std::is_class_v<T>;
+
+// Integers: the extremes and their neighbours, powers of two and their neighbours, everything else.
+template <class T> T value(Random& random) {
+  if constexpr (isComplex<T>) {
+    using Part = decltype(T::re);
+    const Part re = value<Part>(random);
+    return {re, value<Part>(random)};
+  } else if constexpr (std::is_integral_v<T>) {
+    using U = std::make_unsigned_t<T>;
+    const uint64_t bits = random();
+    const int shift = static_cast<int>(bits >> 8 & 63) % static_cast<int>(8 * sizeof(T));
+    const int near = static_cast<int>(bits >> 16 & 3) - 1;
+    switch (bits & 7) {
+      case 0:
+        return static_cast<T>(static_cast<U>(std::numeric_limits<T>::min()) + static_cast<U>(near < 0 ? 0 : near));
+      case 1:
+        return static_cast<T>(static_cast<U>(std::numeric_limits<T>::max()) - static_cast<U>(near < 0 ? 0 : near));
+      case 2:
+        return static_cast<T>((U{1} << shift) + static_cast<U>(near));
+      case 3:
+        return static_cast<T>(static_cast<U>(0) - ((U{1} << shift) + static_cast<U>(near)));
+      case 4:
+        return static_cast<T>(near);
+      default:
+        return static_cast<T>(static_cast<U>(random()) >> ((bits & 7) == 5 ? shift : 0));
+    }
+  } else {
+    // Moderate numbers with fractions; some are whole, halves, zero or very small.
+    const uint64_t bits = random();
+    const T x = static_cast<T>(
+        std::ldexp(static_cast<double>(static_cast<int64_t>(random())), -63 + static_cast<int>(bits >> 8 & 31) - 8));
+    switch (bits & 7) {
+      case 0:
+        return std::copysign(T(0), x);
+      case 1:
+        return std::trunc(x);
+      case 2:
+        return std::trunc(x) + T(0.5);
+      case 3:
+        return x * T(1e-30);
+      default:
+        return x;
+    }
+  }
+}
+
+template <class T> std::vector<T> values(size_t n, Random& random) {
+  std::vector<T> v(n);
+  for (T& x : v) x = value<T>(random);
+  return v;
+}
+
+// The same data in every run; the seed is in the trace of a failure.
+inline uint64_t seed() { return 20240229; }
+
+}  // namespace tests
