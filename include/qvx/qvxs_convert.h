@@ -62,12 +62,12 @@ QVXS_API(QvxStatus, qvxsConvert_32u24u_Sfs, (const Qvx32u* pSrc, Qvx8u* pDst, in
 QVXS_API(QvxStatus, qvxsConvert_32s24s_Sfs, (const Qvx32s* pSrc, Qvx8u* pDst, int len, int scaleFactor));
 
 /** dst[n] = src[n] * 2^-scaleFactor, rounded as rndMode says (anything but 0 and 1 is qvxRoundHalfAway), saturated.
- *  16s8s: zeros above scale factor 17; its len is unsigned, and only 0 is refused. 64s32s: scaleFactor is limited to -31 to 63. */
+ *  16s8s: len is unsigned, and only 0 is refused. 64s32s: scaleFactor is limited to -31 to 63. */
 QVXS_API(QvxStatus, qvxsConvert_16s8s_Sfs, (const Qvx16s* pSrc, Qvx8s* pDst, Qvx32u len, QvxRoundMode rndMode, int scaleFactor));
 QVXS_API(QvxStatus, qvxsConvert_64s32s_Sfs, (const Qvx64s* pSrc, Qvx32s* pDst, int len, QvxRoundMode rndMode, int scaleFactor));
 
 /** dst[n] = src[n] * 2^-scaleFactor, saturated to 24 bits, rounded to nearest even whatever the caller's rounding mode.
- *  Not a number gives the lower limit. scaleFactor is limited to -127 to 126. */
+ *  Not a number gives the lower limit. */
 QVXS_API(QvxStatus, qvxsConvert_32f24u_Sfs, (const Qvx32f* pSrc, Qvx8u* pDst, int len, int scaleFactor));
 QVXS_API(QvxStatus, qvxsConvert_32f24s_Sfs, (const Qvx32f* pSrc, Qvx8u* pDst, int len, int scaleFactor));
 

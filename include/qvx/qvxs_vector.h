@@ -214,10 +214,10 @@ QVXS_API(QvxStatus, qvxsMul_Low_32s_Sfs, (const Qvx32s* pSrc1, const Qvx32s* pSr
  *  Integer results are exact, times 2^-scaleFactor where there is one, rounded to nearest with ties to even, saturated.
  *  32f16s_Sfs: the float product src * (val * 2^-scaleFactor), scaleFactor limited to -127 to 126, saturated to 16 bits and
  *  rounded to nearest even whatever the caller's rounding mode; a product that is not a number gives 32767.
- *  64s_ISfs: the 64-bit product saturates before a scale factor above 0 shrinks it. 64f64s_ISfs: val is a float, taken as its
- *  53-bit fraction and power of two, so it saturates the same way: the product with the fraction must fit 64 bits. If val's
- *  bits, taken as a signed integer, have the absolute value 0x90000012CD94, every non-zero element goes to the 64-bit extreme.
- *  The len of both is unsigned: only 0 is refused. Otherwise as qvxsMul. */
+ *  64f64s_ISfs multiplies integers by a float exactly: the product with its 53-bit fraction takes its power of two along with
+ *  the scale factor. If val's bits, as a signed integer, have the absolute value 0x90000012CD94, every element but 0 goes to the
+ *  64-bit extreme of the product's sign.
+ *  The len of 64s_ISfs and 64f64s_ISfs is unsigned: only 0 is refused. Otherwise as qvxsMul. */
 QVXS_API(QvxStatus, qvxsMulC_8u_Sfs, (const Qvx8u* pSrc, Qvx8u val, Qvx8u* pDst, int len, int scaleFactor));
 QVXS_API(QvxStatus, qvxsMulC_8u_ISfs, (Qvx8u val, Qvx8u* pSrcDst, int len, int scaleFactor));
 QVXS_API(QvxStatus, qvxsMulC_16s_I, (Qvx16s val, Qvx16s* pSrcDst, int len));

@@ -5,7 +5,7 @@
 // a narrower type.
 #include <cmath>
 
-#include "convert/packed24.h"
+#include "frame/packed24.h"
 #include "frame/power.h"
 #include "frame/rounding.h"
 
@@ -16,20 +16,25 @@ namespace {
 template <class V> V clippedAbove(V v, LaneOf<V> most) { return hn::Min(v, same<V>(most)); }
 template <class V> V clippedBelow(V v, LaneOf<V> least) { return hn::Max(v, same<V>(least)); }
 
-// Float lanes to int32 lanes; the processor's mode must be the nearest for qvxRoundNearestEven.
+// Float lanes to int32 lanes.
 template <int kMode> struct ToInt {
   template <class V> auto operator()(V v) const {
     if constexpr (kMode == qvxRoundTowardZero) return toIntTruncated(v);
-    else if constexpr (kMode == qvxRoundNearestEven) return toInt(v);
+    else if constexpr (kMode == qvxRoundNearestEven) return toIntNearest(v);
     else return toIntTruncated(v + hn::CopySignToAbs(same<V>(LaneOf<V>(0.5)), v));
   }
 };
 
-// Runs `with` on the conversion of the round mode. half: the processor's mode in which the half is added.
+// Runs `with` on the conversion of the round mode. half: the processor's mode in which the half is added. The product before it
+// is exact, or too small or too large for the mode to matter.
 template <class With> QvxStatus byMode(QvxRoundMode mode, Rounding half, const With& with) {
   if (mode == qvxRoundTowardZero) return with(ToInt<qvxRoundTowardZero>());
-  const RoundingScope scope(mode == qvxRoundNearestEven ? Rounding::kNearest : half);
-  return mode == qvxRoundNearestEven ? with(ToInt<qvxRoundNearestEven>()) : with(ToInt<qvxRoundHalfAway>());
+  if (mode == qvxRoundNearestEven) {
+    const RoundingScope scope(kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest);
+    return with(ToInt<qvxRoundNearestEven>());
+  }
+  const RoundingScope scope(half);
+  return with(ToInt<qvxRoundHalfAway>());
 }
 
 // 32-bit floats to 8 and 16 bits.
@@ -38,13 +43,16 @@ template <class T> QvxStatus toNarrow(const Qvx32f* src, T* dst, int len, QvxRou
   if (status != qvxStatOk) return status;
   const Qvx32f factor = powerOfTwo<Qvx32f>(-int64_t{scaleFactor});
   return byMode(mode, Rounding::kNearest, [=](auto convert) {
-    return loop(
-        [=](auto v) {
-          auto scaled = v * same<decltype(v)>(factor);
-          if constexpr (std::is_unsigned_v<T>) scaled = clippedBelow(scaled, 0);
-          return convertLanes<T>(convert(clippedAbove(scaled, std::numeric_limits<T>::max())));
-        },
-        destination(dst), elements(len), source(src));
+    const auto toInts = [=](auto v) {
+      auto scaled = v * same<decltype(v)>(factor);
+      if constexpr (std::is_unsigned_v<T>) scaled = clippedBelow(scaled, 0);
+      return convert(clippedAbove(scaled, std::numeric_limits<T>::max()));
+    };
+    if constexpr (sizeof(T) == 2) {
+      return loop([=](auto pair) { return narrowInOrder<T>(each(pair, toInts)); }, destination(dst), elements(len), InPairs{src});
+    } else {
+      return loop([=](auto v) { return convertLanes<T>(toInts(v)); }, destination(dst), elements(len), source(src));
+    }
   });
 }
 
@@ -61,30 +69,34 @@ template <class T> QvxStatus to24(const Qvx32f* src, Qvx8u* dst, int len, int sc
 }
 
 // 64-bit floats to 64 bits. What is not a number, and everything if the factor underflows, gives 0.
-template <int kMode> struct ToInt64 {
+template <int kMode, bool kTwoFactors> struct ToInt64 {
   double factor1;
-  double factor2;  // 1, but where one factor would overflow
+  double factor2;  // where one would overflow
 
   template <class V> auto operator()(V x) const {
-    const V v = x * same<V>(factor1) * same<V>(factor2);
+    V v = x * same<V>(factor1);
+    if constexpr (kTwoFactors) v = v * same<V>(factor2);
     V whole = hn::Trunc(v);
     if constexpr (kMode == qvxRoundNearestEven) whole = hn::Round(v);
     if constexpr (kMode == qvxRoundHalfAway) {
       const auto up = hn::Abs(v - whole) >= same<V>(0.5);
       whole = whole + hn::IfThenElseZero(up, hn::CopySignToAbs(same<V>(1.0), v));
     }
-    // Infinities and beyond are taken out before the conversion, which differs between variants there.
-    const V most = same<V>(0x1p63);
-    const auto above = whole >= most;
-    const auto below = whole <= hn::Neg(most);
-    const auto inside = hn::Abs(whole) < most;
+    // What is too small has the most negative integer from the conversion, on all variants if it is sent to just there.
+    const auto number = toInt64(hn::Max(whole, same<V>(-0x1p63)));
+    using N = std::remove_const_t<decltype(number)>;
     const hn::Rebind<int64_t, TagOf<V>> di;
-    const auto number = hn::ConvertTo(di, hn::IfThenElseZero(inside, whole));
-    const auto high = hn::IfThenElseZero(hn::RebindMask(di, above), hn::Set(di, INT64_MAX));
-    const auto low = hn::IfThenElseZero(hn::RebindMask(di, below), hn::Set(di, INT64_MIN));
-    return number | high | low;
+    const N limited = hn::IfThenElse(hn::RebindMask(di, whole >= same<V>(0x1p63)), same<N>(INT64_MAX), number);
+    return hn::IfThenElseZero(hn::RebindMask(di, whole == whole), limited);
   }
 };
+
+template <bool kTwoFactors, class With>
+QvxStatus toInt64ByMode(QvxRoundMode mode, double factor1, double factor2, const With& with) {
+  if (mode == qvxRoundTowardZero) return with(ToInt64<qvxRoundTowardZero, kTwoFactors>{factor1, factor2});
+  if (mode == qvxRoundNearestEven) return with(ToInt64<qvxRoundNearestEven, kTwoFactors>{factor1, factor2});
+  return with(ToInt64<qvxRoundHalfAway, kTwoFactors>{factor1, factor2});
+}
 
 }  // namespace
 
@@ -137,10 +149,9 @@ QvxStatus qvxsConvert_64f64s_Sfs(const Qvx64f* a, Qvx64s* d, Qvx32u len, QvxRoun
   if (exponent < -1074) return with([](auto v) { return hn::Zero(hn::Rebind<int64_t, TagOf<decltype(v)>>()); });
   const double factor1 = powerOfTwo<double>(std::min<int64_t>(exponent, 1000));
   const double factor2 = powerOfTwo<double>(std::max<int64_t>(exponent - 1000, 0));
-  const RoundingScope nearest(Rounding::kNearest);
-  if (mode == qvxRoundTowardZero) return with(ToInt64<qvxRoundTowardZero>{factor1, factor2});
-  if (mode == qvxRoundNearestEven) return with(ToInt64<qvxRoundNearestEven>{factor1, factor2});
-  return with(ToInt64<qvxRoundHalfAway>{factor1, factor2});
+  const RoundingScope nearest(kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest);
+  if (factor2 != 1) return toInt64ByMode<true>(mode, factor1, factor2, with);
+  return toInt64ByMode<false>(mode, factor1, factor2, with);
 }
 
 // clang-format off

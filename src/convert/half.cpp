@@ -1,6 +1,6 @@
 // IEEE 754 binary16, a storage form: 32-bit floats in all arithmetic.
 //
-// The conversions follow the processor's rounding mode. Variants without an instruction for them compute the same bits.
+// Variants without an instruction for the conversions compute the same bits, under the processor's rounding mode.
 #include "frame/map.h"
 #include "frame/power.h"
 #include "frame/rounding.h"
@@ -62,11 +62,12 @@ template <bool kNearest> struct ToHalf {
 
  private:
 #if HWY_TARGET <= HWY_AVX2
-  static auto raw(__m128 v) { return _mm_cvtps_ph(v, _MM_FROUND_CUR_DIRECTION); }
-  static auto raw(__m256 v) { return _mm256_cvtps_ph(v, _MM_FROUND_CUR_DIRECTION); }
+  static constexpr int kRounding = (kNearest ? _MM_FROUND_TO_NEAREST_INT : _MM_FROUND_TO_ZERO) | _MM_FROUND_NO_EXC;
+  static auto raw(__m128 v) { return _mm_cvtps_ph(v, kRounding); }
+  static auto raw(__m256 v) { return _mm256_cvtps_ph(v, kRounding); }
 #endif
 #if HWY_TARGET == HWY_AVX3
-  static auto raw(__m512 v) { return _mm512_cvtps_ph(v, _MM_FROUND_CUR_DIRECTION); }
+  static auto raw(__m512 v) { return _mm512_cvtps_ph(v, kRounding); }
 #endif
 };
 
@@ -84,7 +85,7 @@ template <class T> QvxStatus toHalf(const T* src, Qvx16f* dst, int len, QvxRound
                        source(src));
   };
   const bool nearest = mode == qvxRoundNearestEven;
-  const RoundingScope scope(nearest ? Rounding::kNearest : Rounding::kTowardZero);
+  const RoundingScope scope(kHasInstruction ? Rounding::kCallers : nearest ? Rounding::kNearest : Rounding::kTowardZero);
   return nearest ? with(ToHalf<true>()) : with(ToHalf<false>());
 }
 
@@ -100,13 +101,17 @@ QvxStatus qvxsConvert_16f16s_Sfs(const Qvx16f* a, Qvx16s* d, int len, QvxRoundMo
   const QvxStatus status = checkHalf(a, d, len, mode);
   if (status != qvxStatOk) return status;
   const float factor = powerOfTwo<float>(-int64_t{sf});
-  const RoundingScope scope(mode == qvxRoundNearestEven ? Rounding::kNearest : Rounding::kTowardZero);
-  return loop<float>(
-      [factor](auto v) {
-        const auto scaled = FromHalf()(v) * hn::Set(hn::Rebind<float, TagOf<decltype(v)>>(), factor);
-        return convertLanes<int16_t>(toInt(hn::Min(scaled, same<std::remove_const_t<decltype(scaled)>>(32767.0F))));
-      },
-      destination(d), elements(len), source(a));
+  const auto with = [=](auto convert) {
+    return loop<float>(
+        [=](auto v) {
+          const auto scaled = FromHalf()(v) * hn::Set(hn::Rebind<float, TagOf<decltype(v)>>(), factor);
+          return convertLanes<int16_t>(convert(hn::Min(scaled, same<std::remove_const_t<decltype(scaled)>>(32767.0F))));
+        },
+        destination(d), elements(len), source(a));
+  };
+  if (mode != qvxRoundNearestEven) return with([](auto v) { return toIntTruncated(v); });
+  const RoundingScope scope(kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest);
+  return with([](auto v) { return toIntNearest(v); });
 }
 
 // clang-format off

@@ -1,5 +1,5 @@
 // Integers to narrower integers.
-#include "convert/packed24.h"
+#include "frame/packed24.h"
 
 using namespace qvx;
 
@@ -8,14 +8,9 @@ namespace {
 // Saturated to the destination, which may be 24 bits of a 32-bit lane.
 template <class V> V clamped(V v, LaneOf<V> least, LaneOf<V> most) { return hn::Min(hn::Max(v, same<V>(least)), same<V>(most)); }
 
-struct Into16 {
-  template <class V> auto operator()(V v) const { return convertLanes<int16_t>(v); }
-};
-
-// 64-bit lanes within the range of 32 bits.
-template <class V> auto lowWords(V v) {
-  const hn::Rebind<int32_t, TagOf<V>> d;
-  return hn::BitCast(d, hn::TruncateTo(hn::RebindToUnsigned<decltype(d)>(), as<uint64_t>(v)));
+// 32 to 16 bits after a function of 32-bit lanes.
+template <class F> QvxStatus to16(const Qvx32s* src, Qvx16s* dst, int len, F f) {
+  return loop([f](auto pair) { return narrowInOrder<int16_t>(each(pair, f)); }, destination(dst), elements(len), InPairs{src});
 }
 
 // Runs `with` on the shift kernel of the round mode; anything but the two others is half away.
@@ -40,13 +35,22 @@ template <class T> QvxStatus to24(const T* src, Qvx8u* dst, int len, int scaleFa
 
 }  // namespace
 
+QvxStatus qvxsConvert_32s16s(const Qvx32s* a, Qvx16s* d, int len) {
+  const QvxStatus status = check(len, a, d);
+  return status != qvxStatOk ? status : to16(a, d, len, [](auto v) { return v; });
+}
+
 QvxStatus qvxsConvert_32s16s_Sfs(const Qvx32s* a, Qvx16s* d, int len, int sf) {
+  if (sf == 0) return qvxsConvert_32s16s(a, d, len);
   const QvxStatus status = check(len, a, d);
   if (status != qvxStatOk) return status;
-  const auto with = [=](auto kernel) { return loop(kernel, destination(d), elements(len), source(a)); };
-  if (sf == 0) return with(Into16());
-  if (sf > 0) return with([s = std::min(sf, 31)](auto v) { return Into16()(roundedShift(v, s)); });
-  return with([places = -std::max(sf, -15)](auto v) { return saturatedShiftLeft(Into16()(v), places); });
+  if (sf > 15) return to16(a, d, len, [s = std::min(sf, 31)](auto v) { return roundedShift(v, s); });
+  if (sf > 0) {
+    // What the limit takes off is far beyond 16 bits, and leaves room for the half.
+    const Qvx32s most = INT32_MAX - (1 << (sf - 1));
+    return to16(a, d, len, [=](auto v) { return roundedShiftRoomy(hn::Min(v, same<decltype(v)>(most)), sf); });
+  }
+  return to16(a, d, len, [places = -std::max(sf, -15)](auto v) { return saturatedShiftLeft(v, places); });
 }
 
 QvxStatus qvxsConvert_16s8s_Sfs(const Qvx16s* a, Qvx8s* d, Qvx32u len, QvxRoundMode mode, int sf) {
@@ -69,19 +73,17 @@ QvxStatus qvxsConvert_64s32s_Sfs(const Qvx64s* a, Qvx32s* d, int len, QvxRoundMo
   const QvxStatus status = check(len, a, d);
   if (status != qvxStatOk) return status;
   const auto with = [=](auto kernel) {
-    return loop([kernel](auto v) { return lowWords(clamped(kernel(v), INT32_MIN, INT32_MAX)); }, destination(d), elements(len),
-                source(a));
+    return loop([kernel](auto v) { return saturatedTo32(kernel(v)); }, destination(d), elements(len), source(a));
   };
-  if (sf > 0) {
-    return byMode(mode, std::min(sf, 63), [&](auto shift) {
-      return with([shift](auto v) { return shift(Halved<decltype(v)>{hn::ShiftRight<1>(v), v}); });
-    });
-  }
-  return with([places = -std::max(sf, -31)](auto v) { return saturatedShiftLeft(v, places); });
+  if (sf <= 0) return with([places = -std::max(sf, -31)](auto v) { return saturatedShiftLeft(v, places); });
+  const int places = std::min(sf, 63);
+  if (mode == qvxRoundNearestEven) return with([places](auto v) { return roundedShift(v, places); });
+  return byMode(mode, places, [&](auto shift) {
+    return with([shift](auto v) { return shift(Halved<decltype(v)>{hn::ShiftRight<1>(v), v}); });
+  });
 }
 
 // clang-format off
-QvxStatus qvxsConvert_32s16s(const Qvx32s* a, Qvx16s* d, int len) { return map<Into16>(d, len, AsIs{}, a); }
 QvxStatus qvxsConvert_32u24u_Sfs(const Qvx32u* a, Qvx8u* d, int len, int sf) { return to24(a, d, len, sf); }
 QvxStatus qvxsConvert_32s24s_Sfs(const Qvx32s* a, Qvx8u* d, int len, int sf) { return to24(a, d, len, sf); }
 // clang-format on

@@ -1,5 +1,5 @@
 // To types that hold every value of the source, and from integers to floats.
-#include "convert/packed24.h"
+#include "frame/packed24.h"
 #include "frame/power.h"
 
 using namespace qvx;

@@ -78,24 +78,27 @@ template <class V> V evenQuotient(V v, int s) {
   return hn::AndNot(as<T>(hn::ShiftRightSame(as<std::make_unsigned_t<T>>(v), s)), same<V>(1));
 }
 
-// v / 2^s, nearest even, for s from 1 to the lane's width - 1 (16 for unsigned 16-bit lanes). No intermediate overflows.
-template <class V> V roundedShift(V v, int s) {
+// (v - less + 2^(s-1)) / 2^s, floored, for s from 1 to the lane's width - 1 (16 for unsigned 16-bit lanes) and less of 0 or 1.
+// No intermediate overflows.
+template <class V> V halfUp(V v, V less, int s) {
   using T = LaneOf<V>;
   if constexpr (std::is_same_v<T, int16_t>) {
     // The Q15 product with 2^(15-s) is the shift with a half added, in 17 bits.
-    return hn::MulFixedPoint15(hn::SaturatedSub(v, evenQuotient(v, s)), same<V>(static_cast<T>(1 << (15 - s))));
+    return hn::MulFixedPoint15(hn::SaturatedSub(v, less), same<V>(static_cast<T>(1 << (15 - s))));
   } else if constexpr (std::is_same_v<T, uint16_t>) {
     // The average adds in 17 bits and halves.
     const V half = same<V>(static_cast<T>((1 << (s - 1)) - 1));
-    return hn::ShiftRightSame(hn::AverageRound(hn::SaturatedSub(v, evenQuotient(v, s)), half), s - 1);
+    return hn::ShiftRightSame(hn::AverageRound(hn::SaturatedSub(v, less), half), s - 1);
   } else {
     using U = std::make_unsigned_t<T>;
-    const V floor = hn::ShiftRightSame(v, s);
     const V fraction = v & same<V>(static_cast<T>((U{1} << s) - 1));
-    const V carry = fraction + same<V>(static_cast<T>((U{1} << (s - 1)) - 1)) + (floor & same<V>(1));
-    return floor + as<T>(hn::ShiftRightSame(as<U>(carry), s));
+    const V carry = fraction + same<V>(static_cast<T>(U{1} << (s - 1))) - less;
+    return hn::ShiftRightSame(v, s) + as<T>(hn::ShiftRightSame(as<U>(carry), s));
   }
 }
+
+// v / 2^s, nearest even; s as above.
+template <class V> V roundedShift(V v, int s) { return halfUp(v, evenQuotient(v, s), s); }
 
 // The same for lanes in which v + 2^(s-1) does not overflow: three instructions fewer.
 template <class V> V roundedShiftRoomy(V v, int s) {
@@ -112,17 +115,22 @@ template <class V> struct Halved {
 };
 
 template <class V> Halved<V> halvedSum(V a, V b) {
+  a = held(a);
+  b = held(b);
   const V differing = a ^ b;
   return {(a & b) + hn::ShiftRight<1>(differing), differing};
 }
 
 // a - b, signed
 template <class V> Halved<V> halvedDifference(V a, V b) {
+  a = held(a);
+  b = held(b);
   const V differing = a ^ b;
   return {hn::ShiftRight<1>(differing) - hn::AndNot(a, b), differing};
 }
 
-// The three forms of value / 2^s, nearest even. From s = 3 on the odd bit can only break a tie, so it may be or-ed into half.
+// The two forms of value / 2^s, nearest even. From s = 2 on the odd bit is below the half unit: without it an even quotient has
+// to be kept from rounding up at an exact half, with it there is none.
 struct ShiftOne {
   template <class V> V operator()(Halved<V> v) const {
     using T = LaneOf<V>;
@@ -134,15 +142,15 @@ struct ShiftOne {
     else return sum + hn::BroadcastSignBit(hn::AndNot(v.half, sum));
   }
 };
-struct ShiftTwo {
-  template <class V> V operator()(Halved<V> v) const {
-    const V floor = hn::ShiftRight<1>(v.half);
-    return floor + (v.half & (v.odd | floor) & same<V>(1));
-  }
-};
 struct ShiftMore {
   int s;
-  template <class V> V operator()(Halved<V> v) const { return roundedShift(hn::OrAnd(v.half, v.odd, same<V>(1)), s - 1); }
+  template <class V> V operator()(Halved<V> v) const {
+    using T = LaneOf<V>;
+    using U = std::make_unsigned_t<T>;
+    const int t = s - 1;
+    const V tieDown = neither(as<T>(hn::ShiftRightSame(as<U>(v.half), t)), v.odd, same<V>(1));
+    return halfUp(v.half, tieDown, t);
+  }
 };
 
 // The same with a round mode. A value that fits its lane is {v >> 1, v}.
@@ -181,6 +189,8 @@ template <class Low, class High> struct SplitProduct {
 };
 
 template <class A, class B> auto splitProduct(A a, B b) {
+  a = held(a);
+  b = held(b);
   if constexpr (std::is_same_v<A, B>) {
     return SplitProduct<decltype(as<uint16_t>(a)), A>{as<uint16_t>(a * b), hn::MulHigh(a, b)};
   } else {  // unsigned by signed: the unsigned high half is too large by a where b is negative
@@ -241,6 +251,14 @@ template <class V> auto wideProduct(V a, V b) {
 
 // Back to 32-bit lanes, saturated.
 template <class V> auto narrow(EvenOdd<V> v) {
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (sizeof(v.even.raw) == 64) {
+    const __m512i order = _mm512_setr_epi32(0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23);
+    const __m512i even = _mm512_castsi256_si512(saturatedTo32(v.even).raw);
+    const __m512i odd = _mm512_castsi256_si512(saturatedTo32(v.odd).raw);
+    return Vec<hn::Repartition<int32_t, TagOf<V>>>{_mm512_permutex2var_epi32(even, order, odd)};
+  }
+#endif
   const auto clamp = [](V x) { return hn::Min(hn::Max(x, same<V>(INT32_MIN)), same<V>(INT32_MAX)); };
   const auto odd = as<int32_t>(hn::ShiftLeft<32>(clamp(v.odd)));
   return hn::OddEven(odd, as<int32_t>(clamp(v.even)));

@@ -7,7 +7,7 @@
 
 namespace qvx {
 
-// Vectors of at least as many bytes as the last-level cache are streamed. Some processors report all their caches as one
+// Vectors larger than the last-level cache are streamed. Some processors report all their caches as one
 // (384 MiB where a core reaches 32), so what they say counts up to 32 MiB, and that is taken where they say nothing. At 64 MiB
 // a streamed fill takes 0.46 of the time of an ordinary one, a streamed copy 0.79.
 inline bool isStreamed(size_t bytes) {
@@ -15,7 +15,7 @@ inline bool isStreamed(size_t bytes) {
   constexpr long kMost = 32L << 20;
   if (bytes < kLeast) return false;
   const long reported = sysconf(_SC_LEVEL3_CACHE_SIZE);
-  return bytes >= static_cast<size_t>(reported > 0 && reported < kMost ? reported : kMost);
+  return bytes > static_cast<size_t>(reported > 0 && reported < kMost ? reported : kMost);
 }
 
 // dst = get(byte) for whole vectors, dst aligned by one overlapping vector at the start and closed by one at the end. get must

@@ -25,7 +25,7 @@ QvxStatus copyForward(const uint8_t* src, uint8_t* dst, size_t bytes) {
 }
 
 QvxStatus copyApart(const uint8_t* src, uint8_t* dst, size_t bytes) {
-  if (!isStreamed(bytes)) return copyForward(src, dst, bytes);
+  if (bytes < kLibraryCopies || !isStreamed(bytes)) return copyForward(src, dst, bytes);
   // 1 KiB ahead hides the memory's latency, which the processor's own prefetch does not with streamed stores.
   stream(dst, bytes, [src](size_t i) {
     __builtin_prefetch(src + i + 1024);
@@ -72,6 +72,12 @@ template <class T> QvxStatus fill(T val, T* dst, int len) {
   const Constant<T> value{val};
   constexpr size_t kLanes = kVectorBytes / sizeof(Part<T>);
   const size_t bytes = elements(len) * sizeof(T);
+  if constexpr (sizeof(T) == 1) {
+    if (bytes >= kLibraryFills && !isStreamed(bytes)) {
+      std::memset(dst, val, bytes);
+      return qvxStatOk;
+    }
+  }
   // A streamed store is aligned, and a misaligned element would have to be rotated for it.
   if (!isStreamed(bytes) || reinterpret_cast<uintptr_t>(dst) % sizeof(T) != 0) {
     return loop(Same(), destination(dst), elements(len) * PartsOf<T>::kCount, value);

@@ -82,7 +82,8 @@ struct ComplexProduct {
     if constexpr (std::is_floating_point_v<T>) {
       const TagOf<V> d;
       const V minusEven = hn::OddEven(hn::Zero(d), hn::SignBit(d));
-      return hn::DupEven(a) * b + ((hn::DupOdd(a) * swapped(b)) ^ minusEven);
+      // Arranged so that all of a constant b is outside the loop.
+      return a * hn::DupEven(b) + swapped(a) * (hn::DupOdd(b) ^ minusEven);
     } else {
       return interleaved<T>(wide(a, b));
     }

@@ -17,8 +17,6 @@ template <class Exact> struct ScaledSum {
       });
     } else if (s == 1) {
       return with([](auto a, auto b) { return ShiftOne()(Exact::halved(a, b)); });
-    } else if (s == 2) {
-      return with([](auto a, auto b) { return ShiftTwo()(Exact::halved(a, b)); });
     } else {
       return with([s](auto a, auto b) { return ShiftMore{s}(Exact::halved(a, b)); });
     }

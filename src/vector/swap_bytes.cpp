@@ -1,32 +1,29 @@
 // The bytes of every element in reverse.
-#include "frame/map.h"
+#include "frame/packed24.h"
 
 using namespace qvx;
 
 namespace {
 
+template <class V> V bytesReversed(V v) {
+  constexpr uint8_t kLast = sizeof(LaneOf<V>) - 1;
+  const Lanes<uint8_t, kLanesOf<V>*(kLast + 1)> d;
+  return as<LaneOf<V>>(hn::TableLookupBytes(as<uint8_t>(v), hn::Iota(d, 0) ^ hn::Set(d, kLast)));
+}
+
 struct Swap {
-  template <class V> V operator()(V v) const {
-    using T = LaneOf<V>;
-    const Lanes<uint8_t, kLanesOf<V> * sizeof(T)> d;
-    const auto order = hn::Iota(d, 0) ^ hn::Set(d, sizeof(T) - 1);
-    return as<T>(hn::TableLookupBytes(as<uint8_t>(v), order));
-  }
+  template <class V> V operator()(V v) const { return bytesReversed(v); }
 };
 
-// Three bytes an element: five of them and the first byte of the sixth at a time. That byte is written back as it was, so
-// the next round finds it unharmed in place too.
+// In 32-bit lanes whose highest byte is 0.
+struct Swap24 {
+  template <class V> V operator()(V v) const { return hn::ShiftRight<8>(bytesReversed(v)); }
+};
+
 QvxStatus swap24(const Qvx8u* src, Qvx8u* dst, int len) {
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;
-  const Lanes<uint8_t, 16> d;
-  alignas(16) static constexpr uint8_t kOrder[16] = {2, 1, 0, 5, 4, 3, 8, 7, 6, 11, 10, 9, 14, 13, 12, 15};
-  const auto order = load(d, kOrder);
-  const size_t bytes = 3 * elements(len);
-  size_t i = 0;
-  for (; i + 16 <= bytes; i += 15) store(hn::TableLookupBytes(load(d, src + i), order), d, dst + i);
-  if (i < bytes) storeFirst(hn::TableLookupBytes(loadFirst(d, src + i, bytes - i), order), d, dst + i, bytes - i);
-  return qvxStatOk;
+  return loop(Swap24(), To24<Qvx32u>{dst}, elements(len), From24<Qvx32u>{src});
 }
 
 }  // namespace
