@@ -140,7 +140,7 @@ template <class Op> struct Rounded : Elementwise<Op> {
 // Through doubles: (a * 2^-s) * b [+ c * 2^-s].
 template <class Op> struct ThroughDoubles : Elementwise<Op> {
   template <class D, class... E, class L> static void dispatch(const L& loop, int s) {
-    const double factor = std::ldexp(1.0, -s);
+    const double factor = powerOfTwo<double>(-s);
     const auto rounded = [](double v) {
       return static_cast<int32_t>(std::rint(std::max(std::min(v, 2147483647.0), -2147483648.0)));
     };
@@ -183,7 +183,7 @@ struct ProductOf64s : Elementwise<Product> {
 // Float sources times a constant to 16 bits.
 struct FloatProductTo16 : Elementwise<Product> {
   template <class D, class... E, class L> static void dispatch(const L& loop, int s) {
-    const float factor = std::ldexp(1.0F, -s);
+    const float factor = powerOfTwo<float>(-s);
     loop([factor](float a, float c) {
       return static_cast<int16_t>(std::rint(std::max(std::min(a * (c * factor), 32767.0F), -32768.0F)));
     });

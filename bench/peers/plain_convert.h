@@ -22,7 +22,7 @@ struct Cast : Conversion {
 // Integers to floats, times 2^-s.
 struct CastScaled : Conversion {
   template <class D, class E, class L> static void dispatch(const L& loop, int s) {
-    loop([factor = std::ldexp(D(1), -s)](E v) { return static_cast<D>(v) * factor; });
+    loop([factor = powerOfTwo<D>(-s)](E v) { return static_cast<D>(v) * factor; });
   }
 };
 
@@ -37,7 +37,7 @@ template <class D, class S> D clipped(S v) {
 
 struct FloatToInteger : Conversion {
   template <class D, class S, class L> static void dispatch(const L& loop, QvxRoundMode mode, int s) {
-    const S factor = std::ldexp(S(1), -s);
+    const S factor = powerOfTwo<S>(-s);
     if (mode == qvxRoundTowardZero) loop([factor](S v) { return clipped<D>(v * factor); });
     else if (mode == qvxRoundNearestEven) loop([factor](S v) { return clipped<D>(std::rint(v * factor)); });
     else loop([factor](S v) { return clipped<D>(v * factor + std::copysign(S(0.5), v)); });
@@ -76,7 +76,7 @@ struct FromHalf : Conversion {
     loop([](uint16_t v) { return static_cast<float>(std::bit_cast<_Float16>(v)); });
   }
   template <class D, class E, class L> static void dispatch(const L& loop, QvxRoundMode, int s) {
-    loop([factor = std::ldexp(1.0F, -s)](uint16_t v) {
+    loop([factor = powerOfTwo<float>(-s)](uint16_t v) {
       const float scaled = static_cast<float>(std::bit_cast<_Float16>(v)) * factor;
       const float below = scaled < 32767.0F ? scaled : 32767.0F;
       return static_cast<int16_t>(std::rint(below > -32768.0F ? below : -32768.0F));
@@ -110,7 +110,7 @@ template <class T> [[gnu::noipa]] void to24(const T* __restrict a, Qvx8u* __rest
 }
 
 template <class T> [[gnu::noipa]] void floatTo24(const Qvx32f* __restrict a, Qvx8u* __restrict d, int n, int s) {
-  const float factor = std::ldexp(1.0F, -s);
+  const float factor = powerOfTwo<float>(-s);
   for (int i = 0; i < n; ++i) {
     const float v = std::clamp<float>(a[i] * factor, kLeast24<T>, kMost24<T>);
     write24(static_cast<uint32_t>(static_cast<int32_t>(std::rint(v))), d + 3 * i);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <limits>
 #include <type_traits>
@@ -65,6 +66,13 @@ template <class T, class W> T saturate(W v) {
     return static_cast<T>(v < W(Limits::max()) ? v : W(Limits::max()));
   }
 }
+
+// 2^exponent without a call, as far as it is a normal number.
+inline float powerOfTwo(float, int exponent) { return std::bit_cast<float>((127 + std::clamp(exponent, -126, 127)) << 23); }
+inline double powerOfTwo(double, int exponent) {
+  return std::bit_cast<double>(static_cast<int64_t>(1023 + std::clamp(exponent, -1022, 1023)) << 52);
+}
+template <class S> S powerOfTwo(int exponent) { return powerOfTwo(S(), exponent); }
 
 // v / 2^s, nearest even.
 template <class W> W halfEven(W v, int s) { return (v + ((W(1) << (s - 1)) - 1) + ((v >> s) & 1)) >> s; }
