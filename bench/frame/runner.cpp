@@ -1,0 +1,100 @@
+#include "frame/runner.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <limits>
+
+#include "frame/report.h"
+
+namespace bench {
+
+namespace {
+
+// The minimum of 5 short runs: what another process takes away only ever adds.
+constexpr double kMinSeconds = 0.008;
+constexpr int kRepetitions = 5;
+// A cell that looks behind is measured again, all contenders of it alike: two looks once gave 0.54 where a quiet machine gives
+// 0.99.
+constexpr double kWorthAnotherLook = 1.0;
+constexpr int kMostLooks = 3;
+
+class Minima : public benchmark::BenchmarkReporter {
+ public:
+  explicit Minima(Times& times) : times_(times) {}
+  bool ReportContext(const Context&) override { return true; }
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& run : runs) {
+      if (run.run_type != Run::RT_Iteration) continue;
+      double& least = times_[static_cast<size_t>(run.family_index)];
+      least = std::min(least, run.GetAdjustedCPUTime());
+    }
+  }
+
+ private:
+  Times& times_;
+};
+
+// The contenders take turns in random order.
+void measure(const Case& c, const Vectors& v, Times& times) {
+  for (const Contender& contender : c.contenders) {
+    benchmark::RegisterBenchmark(contender.peer.c_str(), [&](benchmark::State& state) { contender.timed(state, v); })
+        ->MinTime(kMinSeconds)
+        ->Repetitions(kRepetitions);
+  }
+  Minima minima(times);
+  benchmark::RunSpecifiedBenchmarks(&minima, ".");
+  benchmark::ClearRegisteredBenchmarks();
+}
+
+Times measured(const Case& c, const Vectors& v) {
+  Times times(c.contenders.size(), std::numeric_limits<double>::infinity());
+  measure(c, v, times);
+  const auto behind = [&](double t) { return t / times[0] < kWorthAnotherLook; };
+  for (int look = 1; look < kMostLooks && std::any_of(times.begin() + 1, times.end(), behind); ++look) measure(c, v, times);
+  return times;
+}
+
+// Ours and the peer, once on the same data.
+bool agrees(const Case& c, const Contender& peer, const Vectors& v) {
+  const auto fresh = [&] {
+    c.fillSources(v);
+    c.fillDestination(v);
+  };
+  fresh();
+  c.contenders[0].once(v);
+  c.saveDestination(v);
+  fresh();
+  peer.once(v);
+  if (c.agrees(v, peer.agreement)) return true;
+  std::fprintf(stderr, "MISMATCH: %s differs from %s at n=%d\n", c.name.c_str(), peer.peer.c_str(), v.n);
+  std::printf("**MISMATCH: %s differs from %s at n=%d**\n", c.name.c_str(), peer.peer.c_str(), v.n);
+  return false;
+}
+
+}  // namespace
+
+int run(const Suite& suite, const std::regex& filter) {
+  const Slabs slabs;
+  Report report;
+  report.head();
+  int mismatches = 0;
+  for (const Table table : {Table::kAligned, Table::kMisaligned, Table::kLarge}) {
+    bool open = false;
+    for (const Case& c : suite.cases()) {
+      if (c.table != table || !std::regex_search(c.name, filter)) continue;
+      if (!open) report.open(table);
+      open = true;
+      std::vector<Times> bySize;
+      for (const int n : c.sizes) {
+        const Vectors v{slabs, n, c.misaligned, c.overlap};
+        for (size_t i = 1; i < c.contenders.size(); ++i) mismatches += !agrees(c, c.contenders[i], v);
+        bySize.push_back(measured(c, v));
+      }
+      report.row(c, bySize);
+    }
+  }
+  report.tail();
+  return mismatches;
+}
+
+}  // namespace bench

@@ -1,0 +1,145 @@
+// A benchmark is one line: suite.row("Add_32f", qvxsAdd_32f, plain::Direct<plain::Sum>()).against("VOLK", volk::add);
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <cstring>
+#include <functional>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "frame/call.h"
+#include "peers/plain_loop.h"
+
+namespace bench {
+
+// How the output of a peer has to agree with ours.
+enum class Agreement {
+  kBitwise,
+  kFused,   // floats up to a few roundings: the peer's compiler fuses multiplications and additions, the library never does
+  kDiffers  // another rule; only the work is comparable
+};
+
+struct Contender {
+  std::string peer;
+  std::function<void(const Vectors&)> once;
+  std::function<void(benchmark::State&, const Vectors&)> timed;
+  Agreement agreement;
+};
+
+enum class Table { kAligned, kMisaligned, kLarge };
+
+inline const std::vector<int> kSizes = {16, 256, 4096, 65536, 4 << 20};
+
+struct Case {
+  std::string name;
+  Table table = Table::kAligned;
+  std::vector<int> sizes = kSizes;
+  int misaligned = 0;
+  int overlap = 0;
+  std::function<void(const Vectors&)> fillSources;
+  std::function<void(const Vectors&)> fillDestination;
+  std::function<void(const Vectors&)> saveDestination;
+  std::function<bool(const Vectors&, Agreement)> agrees;  // the saved destination with the present one
+  std::vector<Contender> contenders;                      // ours first
+};
+
+template <class T> bool near(T ours, T peers) {
+  // Products of elements up to 1000 cancel: the error is one of the largest product.
+  return ours == peers || std::abs(ours - peers) <= std::numeric_limits<T>::epsilon() * T(4e6);
+}
+
+template <class T> bool agree(const std::byte* ours, const std::byte* peers, size_t bytes, Agreement agreement) {
+  if (agreement == Agreement::kDiffers || std::memcmp(ours, peers, bytes) == 0) return true;
+  if constexpr (std::is_floating_point_v<T>) {
+    if (agreement != Agreement::kFused) return false;
+    const auto* a = reinterpret_cast<const T*>(ours);
+    return std::equal(a, a + bytes / sizeof(T), reinterpret_cast<const T*>(peers), near<T>);
+  }
+  return false;
+}
+
+template <class F, class Peer, class Scalars>
+Contender contender(std::string name, Peer peer, Scalars scalars, Agreement agreement) {
+  const auto once = [=](const Vectors& v) { std::apply(peer, Signature<F>::arguments(v, scalars)); };
+  const auto timed = [=](benchmark::State& state, const Vectors& v) {
+    std::apply(
+        [&state, call = peer](auto... arguments) {
+          for (auto _ : state) {
+            call(arguments...);
+            benchmark::ClobberMemory();
+          }
+        },
+        Signature<F>::arguments(v, scalars));
+  };
+  return {std::move(name), once, timed, agreement};
+}
+
+// The line's handle, to add peers and conditions to it.
+template <class F, class Scalars> class Row {
+ public:
+  Row(Case& row, Scalars scalars) : case_(row), scalars_(scalars) {}
+
+  template <class Peer> Row& against(std::string name, Peer peer, Agreement agreement = Agreement::kBitwise) {
+    case_.contenders.push_back(contender<F>(std::move(name), peer, scalars_, agreement));
+    return *this;
+  }
+  // The plain loop of an operation for this very signature.
+  template <class Op> Row& plain(Op, Agreement agreement = Agreement::kBitwise) {
+    return against("plain", plain::loopFor<Op, F>(), agreement);
+  }
+  Row& misaligned() {
+    case_.table = Table::kMisaligned;
+    case_.misaligned = 1;
+    case_.name += ", misaligned";
+    return *this;
+  }
+  Row& overlapping(int elements) {
+    case_.overlap = elements;
+    case_.name += ", overlapping";
+    return *this;
+  }
+  Row& large(int n) {
+    case_.table = Table::kLarge;
+    case_.sizes = {n};
+    return *this;
+  }
+
+ private:
+  Case& case_;
+  Scalars scalars_;
+};
+
+class Suite {
+ public:
+  // scalars: all scalar arguments but the length, in their order.
+  template <class R, class... P, class... S> auto row(std::string name, R (*ours)(P...), S... scalars) {
+    using F = R (*)(P...);
+    using T = typename Signature<F>::Destination;
+    constexpr size_t kAt = Signature<F>::destinationAt();
+    static_assert(sizeof...(S) == Signature<F>::scalarsBefore(sizeof...(P)));
+    const std::tuple given(scalars...);
+    Case& c = cases_.emplace_back();
+    c.name = std::move(name);
+    c.fillSources = Signature<F>::fillSources;
+    c.fillDestination = [](const Vectors& v) { fill<T>(Signature<F>::template pointer<kAt>(v), v.n, 99); };
+    c.saveDestination = [](const Vectors& v) {
+      std::memcpy(v.slabs.saved(), Signature<F>::template pointer<kAt>(v), bytesOf<T>(v.n));
+    };
+    c.agrees = [](const Vectors& v, Agreement agreement) {
+      const auto* peers = reinterpret_cast<const std::byte*>(Signature<F>::template pointer<kAt>(v));
+      return agree<Part<T>>(v.slabs.saved(), peers, bytesOf<T>(v.n), agreement);
+    };
+    c.contenders.push_back(contender<F>("ours", ours, given, Agreement::kBitwise));
+    return Row<F, std::tuple<S...>>(c, given);
+  }
+
+  const std::vector<Case>& cases() const { return cases_; }
+
+ private:
+  std::vector<Case> cases_;
+};
+
+}  // namespace bench

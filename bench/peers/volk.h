@@ -1,0 +1,64 @@
+// VOLK's kernels in the order of our arguments. The conversions of floats multiply by a scalar, those to floats divide by one: it
+// is made from the scale factor, so that the work is equal. They are inlined into the timing loop: no call more than its own.
+#pragma once
+
+#include <volk/volk.h>
+
+#include <bit>
+#include <cstring>
+
+#include "qvx/qvxs.h"
+
+namespace volk {
+
+inline const lv_32fc_t* complex(const Qvx32fc* p) { return reinterpret_cast<const lv_32fc_t*>(p); }
+inline lv_32fc_t* complex(Qvx32fc* p) { return reinterpret_cast<lv_32fc_t*>(p); }
+inline int32_t* asSigned(Qvx32u* p) { return reinterpret_cast<int32_t*>(p); }
+inline const int32_t* asSigned(const Qvx32u* p) { return reinterpret_cast<const int32_t*>(p); }
+inline float powerOfTwo(int exponent) { return std::bit_cast<float>((127 + exponent) << 23); }
+
+using F = const float*;
+using C = const Qvx32fc*;
+
+// clang-format off
+inline constexpr auto add32f = [](F a, F b, float* d, int n) { volk_32f_x2_add_32f(d, a, b, n); };
+inline constexpr auto sub32f = [](F a, F b, float* d, int n) { volk_32f_x2_subtract_32f(d, b, a, n); };
+inline constexpr auto mul32f = [](F a, F b, float* d, int n) { volk_32f_x2_multiply_32f(d, a, b, n); };
+inline constexpr auto addC32f = [](F a, float c, float* d, int n) { volk_32f_s32f_add_32f(d, a, c, n); };
+inline constexpr auto mulC32f = [](F a, float c, float* d, int n) { volk_32f_s32f_multiply_32f(d, a, c, n); };
+inline constexpr auto add64f = [](const double* a, const double* b, double* d, int n) { volk_64f_x2_add_64f(d, a, b, n); };
+inline constexpr auto mul64f = [](const double* a, const double* b, double* d, int n) { volk_64f_x2_multiply_64f(d, a, b, n); };
+inline constexpr auto add32fc = [](C a, C b, Qvx32fc* d, int n) { volk_32fc_x2_add_32fc(complex(d), complex(a), complex(b), n); };
+inline constexpr auto mul32fc = [](C a, C b, Qvx32fc* d, int n) { volk_32fc_x2_multiply_32fc(complex(d), complex(a), complex(b), n); };
+inline constexpr auto mul32f32fc = [](F a, C b, Qvx32fc* d, int n) { volk_32fc_32f_multiply_32fc(complex(d), complex(b), a, n); };
+inline constexpr auto mulC32fc = [](C a, Qvx32fc c, Qvx32fc* d, int n) { volk_32fc_s32fc_multiply_32fc(complex(d), complex(a), {c.re, c.im}, n); };
+
+inline constexpr auto and32u = [](const Qvx32u* a, const Qvx32u* b, Qvx32u* d, int n) { volk_32i_x2_and_32i(asSigned(d), asSigned(a), asSigned(b), n); };
+inline constexpr auto or32u = [](const Qvx32u* a, const Qvx32u* b, Qvx32u* d, int n) { volk_32i_x2_or_32i(asSigned(d), asSigned(a), asSigned(b), n); };
+inline constexpr auto swap16u = [](Qvx16u* d, int n) { volk_16u_byteswap(d, n); };
+inline constexpr auto swap32u = [](Qvx32u* d, int n) { volk_32u_byteswap(d, n); };
+inline constexpr auto swap64u = [](Qvx64u* d, int n) { volk_64u_byteswap(d, n); };
+
+inline constexpr auto to32f = [](auto* a, float* d, int n) {
+  using T = std::remove_cvref_t<decltype(*a)>;
+  if constexpr (sizeof(T) == 1) volk_8i_s32f_convert_32f(d, a, 1.0F, n);
+  else if constexpr (sizeof(T) == 2) volk_16i_s32f_convert_32f(d, a, 1.0F, n);
+  else volk_32i_s32f_convert_32f(d, a, 1.0F, n);
+};
+inline constexpr auto to32fScaled = [](auto* a, float* d, int n, int s) {
+  using T = std::remove_cvref_t<decltype(*a)>;
+  if constexpr (sizeof(T) == 2) volk_16i_s32f_convert_32f(d, a, powerOfTwo(s), n);
+  else volk_32i_s32f_convert_32f(d, a, powerOfTwo(s), n);
+};
+inline constexpr auto from32f = [](F a, auto* d, int n, QvxRoundMode, int s) {
+  using T = std::remove_pointer_t<decltype(d)>;
+  if constexpr (sizeof(T) == 1) volk_32f_s32f_convert_8i(d, a, powerOfTwo(-s), n);
+  else if constexpr (sizeof(T) == 2) volk_32f_s32f_convert_16i(d, a, powerOfTwo(-s), n);
+  else volk_32f_s32f_convert_32i(d, a, powerOfTwo(-s), n);
+};
+inline constexpr auto to16s = [](const Qvx8s* a, Qvx16s* d, int n) { volk_8i_convert_16i(d, a, n); };  // times 256
+inline constexpr auto to64f = [](F a, double* d, int n) { volk_32f_convert_64f(d, a, n); };
+inline constexpr auto from64f = [](const double* a, float* d, int n) { volk_64f_convert_32f(d, a, n); };
+// clang-format on
+
+}  // namespace volk
