@@ -48,7 +48,7 @@ std::vector<Track> open(const Options& options) {
 
 // A minute is mixed in less time than it takes to look at a bar.
 bool wantsProgress(const MixFormat& format) {
-  return format.frames > 60 * int64_t{format.sampleRate} && isatty(STDERR_FILENO) != 0;
+  return format.frames > 60 * int64_t{format.sampleRate} && format.frames < SF_COUNT_MAX && isatty(STDERR_FILENO) != 0;
 }
 
 void showProgress(int64_t done, int64_t all) {

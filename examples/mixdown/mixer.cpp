@@ -12,6 +12,9 @@ void check(QvxStatus status) {
   if (status != qvxStatOk) throw std::logic_error("qvxs refused a call with status " + std::to_string(status));
 }
 
+// The sizes in a WAV file have 32 bits, and the headers are far below 1 KiB.
+constexpr int64_t kWavBytes = UINT32_MAX - 1024;
+
 double decibels(double amplitude) { return 20 * std::log10(amplitude); }
 
 // Reads a block in the type that holds the file's samples and converts it to float.
@@ -36,9 +39,6 @@ SndfileHandle createWav(const std::vector<Track>& tracks, const MixFormat& forma
   for (const Track& track : tracks) {
     std::error_code missing;  // the usual case: there is no output yet
     if (std::filesystem::equivalent(path, track.path(), missing)) throw std::runtime_error(path + ": is one of the files to mix");
-  }
-  if (format.frames > (UINT32_MAX - 1024) / (2 * int64_t{format.channels})) {
-    throw std::runtime_error(path + ": the mix is longer than the 4 GiB that a WAV file holds");
   }
   SndfileHandle file(path, SFM_WRITE, SF_FORMAT_WAV | SF_FORMAT_PCM_16, format.channels, format.sampleRate);
   if (file.error() != SF_ERR_NO_ERROR) throw std::runtime_error(path + ": " + file.strError());
@@ -134,10 +134,12 @@ Level mix(std::vector<Track>& tracks, const MixFormat& format, const std::string
     if (frames == 0) return level;
 
     const int len = frames * format.channels;
+    done += frames;
+    if (done > kWavBytes / (2 * format.channels)) throw std::runtime_error(output + ": a WAV file holds no more than 4 GiB");
     level.add(sum.get(), len);
     // Full scale is 1 in the sum and 2^15 in the file: a scale factor of -15. What is beyond saturates.
     check(qvxsConvert_32f16s_Sfs(sum.get(), out.get(), len, mode, -15));
     if (file.writef(out.get(), frames) != frames) throw std::runtime_error(output + ": " + file.strError());
-    progress(done += frames);
+    progress(done);
   }
 }

@@ -66,7 +66,7 @@ class Track {
 struct MixFormat {
   int sampleRate;
   int channels;
-  int64_t frames;  // of the longest track
+  int64_t frames;  // of the longest track; SF_COUNT_MAX if a file does not tell
 };
 
 // What the tracks have in common; throws if they cannot be mixed: one sample rate, and either one channel or as many as the rest.
