@@ -73,20 +73,25 @@ void printTable(const std::vector<Track>& tracks, const std::string& output, con
   printRow("", level, output);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
   CLI::App app("Mixes audio files into one: gain, sum, saturation to 16 bits, and a table of the levels.");
   Options options;
   declare(app, options);
   CLI11_PARSE(app, argc, argv);
+  std::vector<Track> tracks = open(options);
+  const MixFormat format = commonFormat(tracks);
+  std::function<void(int64_t)> progress = [](int64_t) {};
+  if (wantsProgress(format)) progress = [all = format.frames](int64_t done) { showProgress(done, all); };
+  const Level level = mix(tracks, format, options.output, kRoundModes.at(options.rounding), progress);
+  printTable(tracks, options.output, level);
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
   try {
-    std::vector<Track> tracks = open(options);
-    const MixFormat format = commonFormat(tracks);
-    std::function<void(int64_t)> progress = [](int64_t) {};
-    if (wantsProgress(format)) progress = [all = format.frames](int64_t done) { showProgress(done, all); };
-    const Level level = mix(tracks, format, options.output, kRoundModes.at(options.rounding), progress);
-    printTable(tracks, options.output, level);
+    return run(argc, argv);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "mixdown: %s\n", error.what());
     return 1;

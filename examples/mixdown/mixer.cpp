@@ -135,7 +135,8 @@ Level mix(std::vector<Track>& tracks, const MixFormat& format, const std::string
 
     const int len = frames * format.channels;
     done += frames;
-    if (done > kWavBytes / (2 * format.channels)) throw std::runtime_error(output + ": a WAV file holds no more than 4 GiB");
+    if (done > kWavBytes / (int64_t{2} * format.channels))
+      throw std::runtime_error(output + ": a WAV file holds no more than 4 GiB");
     level.add(sum.get(), len);
     // Full scale is 1 in the sum and 2^15 in the file: a scale factor of -15. What is beyond saturates.
     check(qvxsConvert_32f16s_Sfs(sum.get(), out.get(), len, mode, -15));
