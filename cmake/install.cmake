@@ -1,24 +1,33 @@
 # Headers, the core library, every variant where the loader looks for it, pkg-config files and a CMake package.
 include(CMakePackageConfigHelpers)
 
+if(NOT "u8" IN_LIST QVXS_VARIANTS)
+  install(CODE "message(FATAL_ERROR \"Programs link against u8, which this build lacks: add it to QVXS_VARIANTS\")")
+  return()
+endif()
+
 install(DIRECTORY include/qvx DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(TARGETS qvxcore EXPORT qvxs LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+
+# A program's own run path does not reach the libraries of its libraries, so each variant brings the way to the core with it.
+set_target_properties(qvxs_u8 PROPERTIES EXPORT_NAME qvxs)
+install(TARGETS qvxcore qvxs_u8 EXPORT qvxs LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 foreach(variant IN LISTS QVXS_VARIANTS)
-  if(variant STREQUAL u8)
-    set(namelink "")
-  else()
-    set(namelink NAMELINK_SKIP)  # programs link against the one in the plain folder
+  set_target_properties(qvxs_${variant} PROPERTIES INSTALL_RPATH $ORIGIN)
+  if(NOT variant STREQUAL u8)
+    set_target_properties(qvxs_${variant} PROPERTIES INSTALL_RPATH $ORIGIN/../..)
+    install(TARGETS qvxs_${variant} LIBRARY DESTINATION ${QVXS_LIBDIR_${variant}} NAMELINK_SKIP)
   endif()
-  install(TARGETS qvxs_${variant} LIBRARY DESTINATION ${QVXS_LIBDIR_${variant}} ${namelink})
 endforeach()
-install(EXPORT qvxs NAMESPACE qvx:: FILE qvxsTargets.cmake DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/qvxs)
 
-configure_package_config_file(cmake/qvxsConfig.cmake.in qvxsConfig.cmake
-  INSTALL_DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/qvxs PATH_VARS CMAKE_INSTALL_INCLUDEDIR CMAKE_INSTALL_LIBDIR)
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/qvxs)
+install(EXPORT qvxs NAMESPACE qvx:: FILE qvxsConfig.cmake DESTINATION ${package_dir})
 write_basic_package_version_file(qvxsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
-install(FILES ${PROJECT_BINARY_DIR}/qvxsConfig.cmake ${PROJECT_BINARY_DIR}/qvxsConfigVersion.cmake
-  DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/qvxs)
+install(FILES ${PROJECT_BINARY_DIR}/qvxsConfigVersion.cmake DESTINATION ${package_dir})
 
+# The prefix is where the file lies, so an installed tree may be moved.
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX} OUTPUT_VARIABLE QVXS_LIBDIR)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_INCLUDEDIR BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX} OUTPUT_VARIABLE QVXS_INCLUDEDIR)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig OUTPUT_VARIABLE QVXS_PREFIX)
 foreach(package qvxs qvxcore)
   configure_file(cmake/${package}.pc.in ${package}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,0 +1,229 @@
+// The mixdown program against a mix computed here, one sample at a time.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <stdlib.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <sndfile.hh>
+#include <sstream>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace {
+
+// Samples of full scale 1, interleaved.
+struct Audio {
+  int channels;
+  std::vector<double> samples;
+};
+
+struct Outcome {
+  int exitCode;
+  std::string out;
+  std::string err;
+};
+
+double gainOf(double db) { return static_cast<float>(std::pow(10, db / 20)); }
+
+// Sums and products of two floats are exact, or nearly so, in double: one rounding to float is what float arithmetic does.
+double rounded(double x) { return static_cast<float>(x); }
+
+class Mixdown : public ::testing::Test {
+ protected:
+  Mixdown() {
+    char folder[] = "/tmp/mixdown.XXXXXX";
+    folder_ = mkdtemp(folder);
+  }
+  ~Mixdown() override { std::filesystem::remove_all(folder_); }
+
+  std::string at(const std::string& name) const { return folder_ + "/" + name; }
+
+  // Random samples, exact in the file's type; peak 1.5 goes beyond full scale in float files.
+  Audio write(const std::string& name, int subtype, int channels, int frames, int rate = 8000) {
+    const bool isFloat = subtype == SF_FORMAT_FLOAT || subtype == SF_FORMAT_DOUBLE;
+    const double step = subtype == SF_FORMAT_PCM_U8 ? 0x1p-7 : subtype == SF_FORMAT_PCM_16 ? 0x1p-15 : 0x1p-23;
+    const double peak = isFloat ? 1.5 : 1 - step;
+    std::uniform_real_distribution<double> any(-peak, peak);
+    Audio audio{channels, std::vector<double>(static_cast<size_t>(channels) * frames)};
+    for (double& x : audio.samples) x = std::nearbyint(any(random_) / step) * step;
+    if (isFloat) std::tie(audio.samples[0], audio.samples[1]) = std::pair(1.0, -1.0);  // beyond 16 bits, and just not
+    SndfileHandle file(at(name), SFM_WRITE, SF_FORMAT_WAV | subtype, channels, rate);
+    if (isFloat) {
+      file.writef(audio.samples.data(), frames);
+    } else {  // libsndfile takes a double of 1 for 32767; ints keep their bits
+      std::vector<int> ints;
+      for (const double x : audio.samples) ints.push_back(static_cast<int>(x * 0x1p31));
+      file.writef(ints.data(), frames);
+    }
+    EXPECT_EQ(file.error(), SF_ERR_NO_ERROR) << file.strError();
+    return audio;
+  }
+
+  // Noise of 80000 samples, of whose file the second half is missing.
+  void writeCut(const std::string& name) {
+    const Audio noise = write("noise.wav", SF_FORMAT_FLOAT, 1, 80000);
+    SndfileHandle(at(name), SFM_WRITE, SF_FORMAT_OGG | SF_FORMAT_VORBIS, 1, 8000).writef(noise.samples.data(), 80000);
+    std::filesystem::resize_file(at(name), std::filesystem::file_size(at(name)) / 2);
+  }
+
+  std::vector<short> readMix(int channels) {
+    SndfileHandle file(at("mix.wav"));
+    EXPECT_EQ(file.format(), SF_FORMAT_WAV | SF_FORMAT_PCM_16);
+    EXPECT_EQ(file.channels(), channels);
+    std::vector<short> samples(static_cast<size_t>(file.frames()) * channels);
+    file.readf(samples.data(), file.frames());
+    return samples;
+  }
+
+  // Arguments are given as a user would type them in the folder of the files.
+  Outcome run(const std::string& arguments, const std::string& wrapped = "%") {
+    std::string command = wrapped;
+    command.replace(command.find('%'), 1, MIXDOWN " " + arguments);
+    const int status = std::system(("cd " + folder_ + " && " + command + " >out 2>err").c_str());
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, text("out"), text("err")};
+  }
+
+  // The last number before the file's name: its clipped samples.
+  static long clippedOf(const std::string& table, const std::string& name) {
+    std::istringstream lines(table);
+    for (std::string line; std::getline(lines, line);) {
+      const size_t end = line.rfind("  " + name);
+      if (end != std::string::npos) return std::stol(line.substr(line.rfind(' ', end - 1)));
+    }
+    return -1;
+  }
+
+  std::mt19937 random_{20};
+
+ private:
+  std::string text(const std::string& name) {
+    std::stringstream all;
+    all << std::ifstream(at(name)).rdbuf();
+    return all.str();
+  }
+
+  std::string folder_;
+};
+
+// Every type of sample that is decoded in its own way, mono among stereo, lengths that end within a block and on its boundary,
+// silence behind the shorter files, saturation, all round modes.
+TEST_F(Mixdown, equalsTheSumComputedSampleBySample) {
+  const Audio tracks[] = {write("a.wav", SF_FORMAT_PCM_16, 2, 10001), write("b.wav", SF_FORMAT_PCM_24, 1, 8192),
+                          write("c.wav", SF_FORMAT_FLOAT, 2, 4096), write("d.wav", SF_FORMAT_DOUBLE, 2, 5),
+                          write("e.wav", SF_FORMAT_PCM_U8, 1, 9000)};
+  const double gains[] = {-3, 2.5, 0, 6, -0.1};
+  std::vector<double> sum(2 * 10001);
+  std::vector<long> clipped;
+  const auto beyond = [](double x) { return x < -1 || x > 32767.0 / 32768; };
+  for (size_t t = 0; t < std::size(tracks); ++t) {
+    const size_t spread = 2 / tracks[t].channels;
+    clipped.push_back(0);
+    for (size_t i = 0; i < spread * tracks[t].samples.size(); ++i) {
+      const double x = rounded(tracks[t].samples[i / spread] * gainOf(gains[t]));
+      clipped.back() += i % spread == 0 && beyond(x);
+      sum[i] = rounded(sum[i] + x);
+    }
+  }
+  clipped.push_back(std::count_if(sum.begin(), sum.end(), beyond));
+  ASSERT_GT(clipped.back(), 100);
+
+  double (*const toward[])(double) = {std::nearbyint, std::trunc, std::round};
+  const char* const names[] = {"nearest", "zero", "away"};
+  for (int mode = 0; mode < 3; ++mode) {
+    const auto result =
+        run("-g -3 -g 2.5 -g 0 -g 6 -g -0.1 a.wav b.wav c.wav d.wav e.wav -o mix.wav -r " + std::string(names[mode]));
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    const std::vector<short> mix = readMix(2);
+    ASSERT_EQ(mix.size(), sum.size());
+    for (size_t i = 0; i < mix.size(); ++i) {
+      ASSERT_EQ(mix[i], std::clamp(toward[mode](sum[i] * 32768), -32768.0, 32767.0)) << "sample " << i << " to " << names[mode];
+    }
+    const char* const files[] = {"a.wav", "b.wav", "c.wav", "d.wav", "e.wav", "mix.wav"};
+    for (int f = 0; f < 6; ++f) EXPECT_EQ(clippedOf(result.out, files[f]), clipped[f]) << files[f] << "\n" << result.out;
+  }
+}
+
+// A full-scale square wave is 0 dB, and half of it 6.02 dB less, in peak as in RMS; silence has no level.
+TEST_F(Mixdown, levelsAreRelativeToFullScale) {
+  for (const auto& [name, amplitude] : {std::pair("full.wav", -32768), std::pair("none.wav", 0)}) {
+    SndfileHandle file(at(name), SFM_WRITE, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1, 8000);
+    const std::vector<short> square(5000, static_cast<short>(amplitude));
+    file.writef(square.data(), 5000);
+  }
+  const auto result = run("-g -6.0206 full.wav none.wav -o mix.wav");
+  EXPECT_EQ(result.out,
+            " gain dB  peak dBFS  RMS dBFS   clipped  file\n"
+            "   -6.02      -6.02     -6.02         0  full.wav\n"
+            "    0.00       -inf      -inf         0  none.wav\n"
+            "              -6.02     -6.02         0  mix.wav\n");
+}
+
+TEST_F(Mixdown, refusesWhatItCannotMix) {
+  write("mono.wav", SF_FORMAT_PCM_16, 1, 100);
+  write("stereo.wav", SF_FORMAT_PCM_16, 2, 100);
+  write("three.wav", SF_FORMAT_PCM_16, 3, 100);
+  write("fast.wav", SF_FORMAT_PCM_16, 1, 100, 44100);
+  std::ofstream(at("text.wav")) << "no sound at all";
+  const struct {
+    const char* arguments;
+    const char* message;
+  } cases[] = {
+      {"absent.wav -o mix.wav", "File does not exist: absent.wav"},
+      {"mono.wav text.wav -o mix.wav", "text.wav: Format not recognised"},
+      {"mono.wav fast.wav -o mix.wav", "fast.wav has 44100 Hz, but mono.wav has 8000 Hz"},
+      {"mono.wav stereo.wav three.wav -o mix.wav", "stereo.wav has 2 channels, but three.wav has 3 channels"},
+      {"mono.wav -g 1 -g 2 -o mix.wav", "more gains than files"},
+      {"mono.wav -g loud -o mix.wav", "loud"},
+      {"mono.wav -r up -o mix.wav", "up not in"},
+      {"mono.wav", "--output is required"},
+  };
+  for (const auto& c : cases) {
+    const auto result = run(c.arguments);
+    EXPECT_GT(result.exitCode, 0) << c.arguments;
+    EXPECT_NE(result.err.find(c.message), std::string::npos) << c.arguments << "\n" << result.err;
+    EXPECT_FALSE(std::filesystem::exists(at("mix.wav"))) << c.arguments;
+  }
+  EXPECT_GT(run("mono.wav -o no/folder.wav").exitCode, 0);
+
+  const auto size = std::filesystem::file_size(at("mono.wav"));
+  EXPECT_NE(run("mono.wav -o ./mono.wav").err.find("is one of the files to mix"), std::string::npos);
+  EXPECT_EQ(std::filesystem::file_size(at("mono.wav")), size);
+}
+
+// The length of such a file is not known before its end.
+TEST_F(Mixdown, mixesWhatIsLeftOfACutFile) {
+  writeCut("cut.oga");
+  const auto result = run("cut.oga -o mix.wav");
+  EXPECT_EQ(result.exitCode, 0) << result.err;
+  EXPECT_GT(readMix(1).size(), 20000u);
+}
+
+TEST_F(Mixdown, writesThatFailAreReported) {
+  write("mono.wav", SF_FORMAT_PCM_16, 1, 40000);
+  const auto result = run("mono.wav -o mix.wav", "(trap '' XFSZ; ulimit -f 8; %)");
+  EXPECT_GT(result.exitCode, 0);
+  EXPECT_NE(result.err.find("mix.wav: "), std::string::npos) << result.err;
+}
+
+TEST_F(Mixdown, showsProgressOfLongFilesOnTerminalsOnly) {
+  const int terminal = posix_openpt(O_RDWR);
+  if (terminal < 0) GTEST_SKIP() << "this system has no pseudo-terminals";
+  close(terminal);
+  writeCut("cut.oga");
+  write("long.wav", SF_FORMAT_PCM_16, 1, 61 * 8000);
+  write("short.wav", SF_FORMAT_PCM_16, 1, 59 * 8000);
+  const std::string onTerminal = "script -qec '%' /dev/null </dev/null";
+  EXPECT_NE(run("long.wav -o mix.wav", onTerminal).out.find("100 %"), std::string::npos);
+  EXPECT_EQ(run("short.wav -o mix.wav", onTerminal).out.find("100 %"), std::string::npos);
+  EXPECT_EQ(run("cut.oga -o mix.wav", onTerminal).out.find(" %"), std::string::npos);
+  EXPECT_EQ(run("long.wav -o mix.wav").err, "");
+}
+
+}  // namespace
