@@ -3,7 +3,8 @@
 #define QVX_QVXS_H
 
 #include <qvx/qvxs_support.h>
-#include <qvx/qvxs_vector.h>
+#include <qvx/qvxs_arith.h>
+#include <qvx/qvxs_init.h>
 #include <qvx/qvxs_convert.h>
 
 #endif

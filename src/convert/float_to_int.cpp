@@ -63,9 +63,10 @@ template <class T> QvxStatus to24(const Qvx32f* src, Qvx8u* dst, int len, int sc
   if (status != qvxStatOk) return status;
   const Qvx32f factor = powerOfTwo<Qvx32f>(-int64_t{scaleFactor});
   const RoundingScope nearest(Rounding::kNearest);
-  return loop(
-      [=](auto v) { return toInt(clippedAbove(clippedBelow(v * same<decltype(v)>(factor), Range::kLeast), Range::kMost)); },
-      To24<Qvx32s>{dst}, elements(len), source(src));
+  const auto toInts = [=](auto v) {
+    return toIntNearest(clippedAbove(clippedBelow(v * same<decltype(v)>(factor), Range::kLeast), Range::kMost));
+  };
+  return loop([=](auto quad) { return each(quad, toInts); }, To24<Qvx32s>{dst}, elements(len), Quads{src});
 }
 
 // 64-bit floats to 64 bits. What is not a number, and everything if the factor underflows, gives 0.

@@ -25,7 +25,9 @@ template <class T> QvxStatus to24(const T* src, Qvx8u* dst, int len, int scaleFa
   using Range = Range24<T>;
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;
-  const auto with = [=](auto kernel) { return loop(kernel, To24<T>{dst}, elements(len), source(src)); };
+  const auto with = [=](auto kernel) {
+    return loop([kernel](auto quad) { return each(quad, kernel); }, To24<T>{dst}, elements(len), Quads{src});
+  };
   if (scaleFactor > 0) {
     return with([s = std::min(scaleFactor, 31)](auto v) { return clamped(roundedShift(v, s), Range::kLeast, Range::kMost); });
   }

@@ -13,7 +13,7 @@ template <class To> struct Into {
 template <class T, class From> QvxStatus from24(From source, T* dst, int len) {
   const QvxStatus status = check(len, source.p, dst);
   if (status != qvxStatOk) return status;
-  return loop(Into<T>(), destination(dst), elements(len), source);
+  return loop([](auto quad) { return each(quad, Into<T>()); }, Quads{dst}, elements(len), source);
 }
 
 // Times an exact power of two; the limits keep its exponent a normal one.

@@ -1,91 +1,195 @@
-// Three-byte integers as a source and a destination of the loop engine. Lanes are 32-bit.
+// Three-byte integers as a source and a destination of the loop engine, four registers of 32-bit lanes at a time: as many
+// elements as bytes in a register, so that memory is read and written in whole registers. Masked or overlapping accesses, which
+// fewer elements would need, take twice the time beyond the cache.
 #pragma once
 
 #include "frame/map.h"
 
 namespace qvx {
 
-// Byte order tables for one 128-bit block of four elements; -1 gives zero.
-inline constexpr int8_t kUnsigned24[16] = {0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11, -1};
-inline constexpr int8_t kSigned24[16] = {-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11};  // in the high bytes
-inline constexpr int8_t kPacked24[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1};
-
 template <class T> struct Range24 {
   static constexpr T kLeast = std::is_signed_v<T> ? -(1 << 23) : 0;
   static constexpr T kMost = std::is_signed_v<T> ? (1 << 23) - 1 : (1 << 24) - 1;
 };
 
-template <class T> struct From24 {
-  using Lane = T;
+template <class V> struct Quad {
+  V a, b, c, d;
+};
+
+template <class V, class F> auto each(Quad<V> q, F f) { return Quad<decltype(f(q.a))>{f(q.a), f(q.b), f(q.c), f(q.d)}; }
+
+// f of 0 to 3, for the registers of a quad from memory; and f with each register and its number, for those to memory. Written
+// out, since a loop over them would leave them in memory.
+template <class F> auto quadOf(F f) { return Quad<decltype(f(0))>{f(0), f(1), f(2), f(3)}; }
+template <class V, class F> void forEach(Quad<V> q, F f) {
+  f(q.a, size_t{0});
+  f(q.b, size_t{1});
+  f(q.c, size_t{2});
+  f(q.d, size_t{3});
+}
+
+// How many of n elements, of which a register holds N, fall to register k.
+template <size_t N> size_t shareOf(size_t k, size_t n) { return std::min(n - std::min(n, k * N), N); }
+
+// The other side of a conversion: elements of 32 bits.
+template <class T> struct Quads {
+  using Lane = uint8_t;  // counts as one byte, for the engine to take as many elements as a register has bytes
+  T* p;
+  using Element = std::remove_const_t<T>;
+
+  template <size_t N> auto get(size_t at) const {
+    return quadOf([from = p + at](size_t k) { return load(Lanes<Element, N / 4>(), from + k * N / 4); });
+  }
+  template <size_t N> auto get(size_t at, size_t n) const {
+    return quadOf([from = p + at, n](size_t k) {
+      return loadFirst(Lanes<Element, N / 4>(), from + std::min(n, k * N / 4), shareOf<N / 4>(k, n));
+    });
+  }
+  template <size_t N, class V> void put(Quad<V> q, size_t at) const {
+    forEach(q, [to = p + at](V v, size_t k) { store(v, TagOf<V>(), to + k * N / 4); });
+  }
+  template <size_t N, class V> void put(Quad<V> q, size_t at, size_t n) const {
+    forEach(q, [to = p + at, n](V v, size_t k) {
+      storeFirst(v, TagOf<V>(), to + std::min(n, k * N / 4), shareOf<N / 4>(k, n));
+    });
+  }
+  template <size_t N> size_t misaligned() const {
+    const size_t bytes = reinterpret_cast<uintptr_t>(p) % N;
+    return bytes % sizeof(T) == 0 ? (N - bytes) % N / sizeof(T) : 0;
+  }
+};
+template <class T> Quads(T*) -> Quads<T>;
+
+namespace detail {
+
+// Byte order tables for one 128-bit block of four elements; -1 gives zero.
+inline constexpr int8_t kUnsigned24[16] = {0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11, -1};
+inline constexpr int8_t kSigned24[16] = {-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, -1, 9, 10, 11};  // in the high bytes
+inline constexpr int8_t kReversed24[16] = {2, 1, 0, 5, 4, 3, 8, 7, 6, 11, 10, 9, -1, -1, -1, -1};
+inline constexpr int8_t kPacked24[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1};
+
+#if HWY_TARGET == HWY_AVX3
+// Every block gets three dwords, and one to spare, of 64 packed bytes from dword `first` on.
+inline __m512i spread24(__m512i packed, int first) {
+  const __m512i order = _mm512_setr_epi32(0, 1, 2, 3, 3, 4, 5, 6, 6, 7, 8, 9, 9, 10, 11, 12);
+  return _mm512_permutexvar_epi32(_mm512_add_epi32(order, _mm512_set1_epi32(first)), packed);
+}
+
+// And back: packed register k of three is made of two neighbours of four.
+inline __m512i dense24(__m512i below, __m512i above, int k) {
+  const __m512i dwords = _mm512_setr_epi32(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 16, 17, 18, 20);
+  const __m512i later = _mm512_setr_epi32(5, 6, 8, 9, 10, 12, 13, 14, 16, 17, 18, 20, 21, 22, 24, 25);
+  const __m512i last = _mm512_setr_epi32(10, 12, 13, 14, 16, 17, 18, 20, 21, 22, 24, 25, 26, 28, 29, 30);
+  return _mm512_permutex2var_epi32(below, k == 0 ? dwords : k == 1 ? later : last, above);
+}
+#endif
+
+}  // namespace detail
+
+// What stands in a block of 16 bytes: four 32-bit lanes, or twelve packed bytes with those of every element in reverse.
+enum class Block24 { kLanes, kReversed };
+
+template <class T, Block24 kBlock = Block24::kLanes> struct From24 {
+  using Lane = uint8_t;
   const uint8_t* p;
 
-  // Every block gets the 12 bytes of its elements, and nothing behind the last one is read.
   template <size_t N> auto get(size_t at) const {
     const uint8_t* bytes = p + 3 * at;
-    const Lanes<uint8_t, 4 * N> d;
-    if constexpr (N == 16) {
-      alignas(64) static constexpr int32_t kSpread[16] = {0, 1, 2, 3, 3, 4, 5, 6, 6, 7, 8, 9, 9, 10, 11, 12};
-      const Lanes<int32_t, N> d32;
-      const auto dense = hn::MaskedLoad(hn::FirstN(d32, 12), d32, reinterpret_cast<const int32_t*>(bytes));
-      return ordered<N>(as<uint8_t>(hn::TableLookupLanes(dense, hn::SetTableIndices(d32, kSpread))), 0);
-    } else if constexpr (N == 8) {
-      const Lanes<uint8_t, 16> half;
-      return ordered<N>(hn::Combine(d, load(half, bytes + 8), load(half, bytes)), 4);
-    } else {
-      return get<N>(at, N);
+#if HWY_TARGET == HWY_AVX3
+    if constexpr (N == 64) {
+      // Whole registers, 48 bytes apart, of which the last begins early enough not to end behind the elements.
+      return quadOf([bytes](size_t k) {
+        const auto packed = load(Lanes<uint8_t, N>(), bytes + (k < 3 ? 48 * k : 128));
+        return ordered<N / 4>(Vec<Lanes<uint8_t, N>>{detail::spread24(packed.raw, k < 3 ? 0 : 4)}, 0);
+      });
+    } else
+#endif
+    {
+      return quadOf([bytes](size_t k) { return one<N / 4>(bytes + k * 3 * N / 4); });
     }
   }
   template <size_t N> auto get(size_t at, size_t n) const {
-    static_assert(N == 4);
-    return ordered<N>(loadFirst(Lanes<uint8_t, 16>(), p + 3 * at, 3 * n), 0);
+    static_assert(N == 16);
+    return quadOf([bytes = p + 3 * at, n](size_t k) { return some(bytes + 3 * std::min(n, 4 * k), shareOf<4>(k, n)); });
   }
 
  private:
-  // highOffset: where the elements begin in the upper half.
+  // One register: four elements or eight.
+  template <size_t N> static auto one(const uint8_t* bytes) {
+    const Lanes<uint8_t, 16> half;
+    if constexpr (N == 8) {
+      return ordered<N>(hn::Combine(Lanes<uint8_t, 4 * N>(), load(half, bytes + 8), load(half, bytes)), 4);
+    } else {
+      return some(bytes, N);
+    }
+  }
+  static auto some(const uint8_t* bytes, size_t n) { return ordered<4>(loadFirst(Lanes<uint8_t, 16>(), bytes, 3 * n), 0); }
+
+  // highOffset: where the elements begin in the upper block of two.
   template <size_t N> static auto ordered(Vec<Lanes<uint8_t, 4 * N>> bytes, int8_t highOffset) {
     const Lanes<int8_t, 4 * N> d;
-    auto order = hn::LoadDup128(d, std::is_signed_v<T> ? kSigned24 : kUnsigned24);
+    constexpr bool kSigned = std::is_signed_v<T>;
+    const int8_t* table = kSigned ? detail::kSigned24 : detail::kUnsigned24;
+    if constexpr (kBlock == Block24::kReversed) table = detail::kReversed24;
+    auto order = hn::LoadDup128(d, table);
     if constexpr (N == 8) {
       const auto offset = hn::ConcatUpperLower(d, hn::Set(d, highOffset), hn::Zero(d));
       order = hn::IfThenElse(order < hn::Zero(d), order, order + offset);
     }
     const auto lanes = as<T>(hn::TableLookupBytesOr0(bytes, as<uint8_t>(order)));
-    if constexpr (std::is_signed_v<T>) return hn::ShiftRight<8>(lanes);
+    if constexpr (kSigned) return hn::ShiftRight<8>(lanes);
     else return lanes;
   }
 };
 
 // Takes lanes that fit 24 bits.
-template <class T> struct To24 {
-  using Lane = T;
+template <class T, Block24 kBlock = Block24::kLanes> struct To24 {
+  using Lane = uint8_t;
   uint8_t* p;
 
-  template <size_t N> static constexpr size_t misaligned() { return 0; }
-  template <size_t N, class V> void put(V v, size_t at) const {
+  template <size_t N> size_t misaligned() const {
+    // One of the next three boundaries is a whole number of elements away, since N is not a multiple of 3.
+    size_t bytes = (N - reinterpret_cast<uintptr_t>(p) % N) % N;
+    while (bytes % 3 != 0) bytes += N;
+    return bytes / 3;
+  }
+  template <size_t N, class V> void put(Quad<V> q, size_t at) const {
     uint8_t* bytes = p + 3 * at;
-    const auto packed = packedBlocks(v);
-    if constexpr (N == 16) {
-      alignas(64) static constexpr int32_t kDense[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 15, 15, 15, 15};
-      const Lanes<int32_t, N> d32;
-      const auto dense = hn::TableLookupLanes(as<int32_t>(packed), hn::SetTableIndices(d32, kDense));
-      hn::BlendedStore(dense, hn::FirstN(d32, 12), d32, reinterpret_cast<int32_t*>(bytes));
-    } else if constexpr (N == 8) {
-      const Lanes<uint8_t, 16> half;
-      store(hn::LowerHalf(half, packed), half, bytes);  // four bytes too far, which the next store mends
-      storeFirst(hn::UpperHalf(half, packed), half, bytes + 12, 12);
-    } else {
-      put<N>(v, at, N);
+    const auto blocks = each(q, [](V v) { return packed(v); });
+#if HWY_TARGET == HWY_AVX3
+    if constexpr (N == 64) {
+      const Lanes<uint8_t, N> d;
+      using B = Vec<Lanes<uint8_t, N>>;
+      store(B{detail::dense24(blocks.a.raw, blocks.b.raw, 0)}, d, bytes);
+      store(B{detail::dense24(blocks.b.raw, blocks.c.raw, 1)}, d, bytes + N);
+      store(B{detail::dense24(blocks.c.raw, blocks.d.raw, 2)}, d, bytes + 2 * N);
+    } else
+#endif
+    {
+      forEach(blocks, [bytes](auto v, size_t k) { one(v, bytes + k * 3 * N / 4); });
     }
   }
-  template <size_t N, class V> void put(V v, size_t at, size_t n) const {
-    static_assert(N == 4);
-    storeFirst(packedBlocks(v), Lanes<uint8_t, 16>(), p + 3 * at, 3 * n);
+  template <size_t N, class V> void put(Quad<V> q, size_t at, size_t n) const {
+    static_assert(N == 16);
+    forEach(q, [bytes = p + 3 * at, n](V v, size_t k) {
+      storeFirst(packed(v), Lanes<uint8_t, 16>(), bytes + 3 * std::min(n, 4 * k), 3 * shareOf<4>(k, n));
+    });
   }
 
  private:
-  template <class V> static auto packedBlocks(V v) {
+  template <class V> static auto packed(V v) {
+    if constexpr (kBlock == Block24::kReversed) return as<uint8_t>(v);
     const auto bytes = as<int8_t>(v);
-    return as<uint8_t>(hn::TableLookupBytesOr0(bytes, hn::LoadDup128(TagOf<decltype(bytes)>(), kPacked24)));
+    return as<uint8_t>(hn::TableLookupBytesOr0(bytes, hn::LoadDup128(TagOf<decltype(bytes)>(), detail::kPacked24)));
+  }
+  template <class V> static void one(V blocks, uint8_t* bytes) {
+    const Lanes<uint8_t, 16> half;
+    if constexpr (sizeof(blocks.raw) == 32) {
+      store(hn::LowerHalf(half, blocks), half, bytes);  // four bytes too far, which the next store mends
+      storeFirst(hn::UpperHalf(half, blocks), half, bytes + 12, 12);
+    } else {
+      storeFirst(blocks, half, bytes, 12);
+    }
   }
 };
 

@@ -14,19 +14,18 @@
 namespace qvx {
 
 template <class T> constexpr T saturate(__int128 v) {
-  using Limits = std::numeric_limits<T>;
-  return static_cast<T>(std::clamp<__int128>(v, Limits::min(), Limits::max()));
+  const auto low = static_cast<T>(v);
+  return low == v ? low : v < 0 ? std::numeric_limits<T>::min() : std::numeric_limits<T>::max();
 }
 
+// For |v| up to 2^126, which all products of 64-bit elements are.
 template <class T> constexpr T scaled(__int128 v, int scaleFactor) {
+  if (scaleFactor > 126) return 0;
   if (scaleFactor > 0) {
-    const int s = std::min(scaleFactor, 127);
-    const __int128 floor = v >> s;
-    const __int128 fraction = v - (floor << s);
-    const __int128 half = __int128{1} << (s - 1);
-    return saturate<T>(floor + (fraction > half || (fraction == half && (floor & 1) != 0)));
+    const __int128 half = __int128{1} << (scaleFactor - 1);
+    return saturate<T>((v + half - 1 + ((v >> scaleFactor) & 1)) >> scaleFactor);
   }
-  // 64 places push every non-zero value out of every range, and a value beyond the range stays there.
+  // 63 places push every value but 0 out of every range or to its edge, and a value beyond the range stays there.
   return saturate<T>(__int128{saturate<T>(v)} << std::min(-static_cast<int64_t>(scaleFactor), int64_t{63}));
 }
 

@@ -17,14 +17,36 @@ struct Same {
 constexpr size_t kLibraryCopies = size_t{32} << 10;
 constexpr size_t kLibraryFills = size_t{1} << 20;
 
+// Three to eight registers: all loads before all stores, the second half counted from the end. Saves the loop's 1 ns.
+template <size_t kHalf> QvxStatus copyShort(const uint8_t* src, uint8_t* dst, size_t bytes) {
+  constexpr size_t N = kVectorBytes;
+  const Lanes<uint8_t, N> d;
+  Vec<Lanes<uint8_t, N>> v[2 * kHalf];
+  const size_t back = bytes - kHalf * N;
+#pragma GCC unroll 4
+  for (size_t k = 0; k < kHalf; ++k) {
+    v[k] = load(d, src + k * N);
+    v[kHalf + k] = load(d, src + back + k * N);
+  }
+#pragma GCC unroll 4
+  for (size_t k = 0; k < kHalf; ++k) {
+    store(v[k], d, dst + k * N);
+    store(v[kHalf + k], d, dst + back + k * N);
+  }
+  return qvxStatOk;
+}
+
 // A source may start anywhere at or behind dst: no byte is read after it was stored to.
-QvxStatus copyForward(const uint8_t* src, uint8_t* dst, size_t bytes) {
+[[gnu::flatten]] QvxStatus copyForward(const uint8_t* src, uint8_t* dst, size_t bytes) {
+  if (bytes <= 2 * kVectorBytes) return loop(Same(), destination(dst), bytes, source(src));
+  if (bytes <= 4 * kVectorBytes) return copyShort<2>(src, dst, bytes);
+  if (bytes <= 8 * kVectorBytes) return copyShort<4>(src, dst, bytes);
   if (bytes < kLibraryCopies) return loop(Same(), destination(dst), bytes, source(src));
   std::memmove(dst, src, bytes);
   return qvxStatOk;
 }
 
-QvxStatus copyApart(const uint8_t* src, uint8_t* dst, size_t bytes) {
+[[gnu::flatten]] QvxStatus copyApart(const uint8_t* src, uint8_t* dst, size_t bytes) {
   if (bytes < kLibraryCopies || !isStreamed(bytes)) return copyForward(src, dst, bytes);
   // 1 KiB ahead hides the memory's latency, which the processor's own prefetch does not with streamed stores.
   stream(dst, bytes, [src](size_t i) {

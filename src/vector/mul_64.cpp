@@ -14,15 +14,16 @@ template <class F> void each(Qvx64s* p, Qvx32u len, F f) {
   for (size_t i = 0; i < len; ++i) p[i] = f(p[i]);
 }
 
-// scaleFactor in 64 bits: the float form adds its exponent to the caller's.
+// scaleFactor in 64 bits: the float form adds its exponent to the caller's. Each sign of it has a loop of its own, since the
+// compiler does not take the test out of one.
 void multiply(Qvx64s val, Qvx64s* d, Qvx32u len, int64_t scaleFactor) {
-  if (val == 0) {
+  const auto s = static_cast<int>(std::clamp<int64_t>(scaleFactor, -63, 127));
+  if (val == 0 || s == 127) {
     std::memset(d, 0, size_t{len} * sizeof(*d));
-  } else if (scaleFactor == 0) {
-    each(d, len, [=](Qvx64s x) { return saturate<Qvx64s>(__int128{x} * val); });
-  } else {
-    const int s = static_cast<int>(std::clamp<int64_t>(scaleFactor, -64, 127));
+  } else if (s > 0) {
     each(d, len, [=](Qvx64s x) { return scaled<Qvx64s>(__int128{x} * val, s); });
+  } else {
+    each(d, len, [=](Qvx64s x) { return scaled<Qvx64s>(__int128{x} * val, s < 0 ? s : 0); });
   }
 }
 

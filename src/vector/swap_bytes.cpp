@@ -5,25 +5,19 @@ using namespace qvx;
 
 namespace {
 
-template <class V> V bytesReversed(V v) {
-  constexpr uint8_t kLast = sizeof(LaneOf<V>) - 1;
-  const Lanes<uint8_t, kLanesOf<V>*(kLast + 1)> d;
-  return as<LaneOf<V>>(hn::TableLookupBytes(as<uint8_t>(v), hn::Iota(d, 0) ^ hn::Set(d, kLast)));
-}
-
 struct Swap {
-  template <class V> V operator()(V v) const { return bytesReversed(v); }
-};
-
-// In 32-bit lanes whose highest byte is 0.
-struct Swap24 {
-  template <class V> V operator()(V v) const { return hn::ShiftRight<8>(bytesReversed(v)); }
+  template <class V> V operator()(V v) const {
+    constexpr uint8_t kLast = sizeof(LaneOf<V>) - 1;
+    const Lanes<uint8_t, kLanesOf<V>*(kLast + 1)> d;
+    return as<LaneOf<V>>(hn::TableLookupBytes(as<uint8_t>(v), hn::Iota(d, 0) ^ hn::Set(d, kLast)));
+  }
 };
 
 QvxStatus swap24(const Qvx8u* src, Qvx8u* dst, int len) {
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;
-  return loop(Swap24(), To24<Qvx32u>{dst}, elements(len), From24<Qvx32u>{src});
+  constexpr auto kReversed = Block24::kReversed;
+  return loop([](auto quad) { return quad; }, To24<Qvx32u, kReversed>{dst}, elements(len), From24<Qvx32u, kReversed>{src});
 }
 
 }  // namespace
