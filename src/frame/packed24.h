@@ -12,9 +12,7 @@ template <class T> struct Range24 {
   static constexpr T kMost = std::is_signed_v<T> ? (1 << 23) - 1 : (1 << 24) - 1;
 };
 
-template <class V> struct Quad {
-  V a, b, c, d;
-};
+template <class V> struct Quad { V a, b, c, d; };
 
 template <class V, class F> auto each(Quad<V> q, F f) { return Quad<decltype(f(q.a))>{f(q.a), f(q.b), f(q.c), f(q.d)}; }
 
@@ -49,9 +47,7 @@ template <class T> struct Quads {
     forEach(q, [to = p + at](V v, size_t k) { store(v, TagOf<V>(), to + k * N / 4); });
   }
   template <size_t N, class V> void put(Quad<V> q, size_t at, size_t n) const {
-    forEach(q, [to = p + at, n](V v, size_t k) {
-      storeFirst(v, TagOf<V>(), to + std::min(n, k * N / 4), shareOf<N / 4>(k, n));
-    });
+    forEach(q, [to = p + at, n](V v, size_t k) { storeFirst(v, TagOf<V>(), to + std::min(n, k * N / 4), shareOf<N / 4>(k, n)); });
   }
   template <size_t N> size_t misaligned() const {
     const size_t bytes = reinterpret_cast<uintptr_t>(p) % N;

@@ -45,10 +45,10 @@ struct Product {
     } else if constexpr (sizeof(T) == 4) {
       return with(
           [s](auto a, auto b) { return narrow(each(wideProduct(a, b), [s](auto wide) { return roundedShiftRoomy(wide, s); })); });
-    } else if (s <= 15) {
-      return with([s](auto a, auto b) { return ShiftLow{s}(splitProduct(a, b)); });
-    } else if (s <= 17) {
-      return with([s](auto a, auto b) { return ShiftWhole{s}(splitProduct(a, b)); });
+    } else if (s < 16) {
+      return with([s](auto a, auto b) { return ShiftLow<false>{s}(splitProduct(a, b)); });
+    } else if (s == 16) {
+      return with([s](auto a, auto b) { return ShiftLow<true>{s}(splitProduct(a, b)); });
     } else {
       return with([s](auto a, auto b) { return ShiftHigh{s}(splitProduct(a, b)); });
     }
