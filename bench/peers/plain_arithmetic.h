@@ -162,13 +162,13 @@ struct LowProduct : Elementwise<Product> {
   }
 };
 
-// 64-bit products saturate before they are scaled down.
+// 64-bit products have 127 bits, which are scaled whole.
 struct ProductOf64s : Elementwise<Product> {
   template <class D, class... E, class L> static void dispatch(const L& loop, int s) {
     if (s <= 0) Scaled<Product>::dispatch<D, int64_t, int64_t>(loop, s);
     else
       loop([s = std::min(s, 126)](int64_t a, int64_t b) {
-        return static_cast<int64_t>(halfEven<__int128>(saturate<int64_t>(static_cast<__int128>(a) * b), s));
+        return saturate<int64_t>(halfEven<__int128>(static_cast<__int128>(a) * b, s));
       });
   }
 };

@@ -119,6 +119,12 @@ template <class T> const char* pointerOf(Constant<T>) { return &kNotNull; }
 
 // ---- the loop
 
+// What an element of a source is to the memory: a constant is nothing.
+template <class Src> constexpr size_t bytesRead() {
+  if constexpr (requires(Src s) { s.value; }) return 0;
+  else return sizeof(typename Src::Lane);
+}
+
 // From this many vectors on, the loop starts at the first address from which no store is split between cache lines. Misaligned
 // 16-bit sums of 4096 elements take half the time that way; below 8 vectors there is nothing to gain.
 inline constexpr size_t kWorthAligning = 8;
@@ -150,11 +156,16 @@ template <size_t N, size_t kWidest, class Kernel, class Dst, class... Src>
   if (N * kWidest == kVectorBytes && n > 2 * N) {
     size_t i = N;
     if (n >= kWorthAligning * N && dst.template misaligned<N>() != 0) i = dst.template misaligned<N>();
-    for (; i + 2 * N < n; i += 2 * N) {
+    // Two at a time: sums of 32-bit floats take 0.76 of the time. But fills beyond the first-level cache, which do nothing but
+    // store, take up to 1.7 times as long in pairs.
+    constexpr size_t kFillsInPairs = size_t{32} << 10;
+    constexpr bool kFills = ((bytesRead<Src>() == 0) && ...);
+    const bool inPairs = !kFills || n * sizeof(typename Dst::Lane) < kFillsInPairs;
+    for (; inPairs && i + 2 * N < n; i += 2 * N) {
       dst.template put<N>(at(i), i);
       dst.template put<N>(at(i + N), i + N);
     }
-    if (i + N < n) dst.template put<N>(at(i), i);
+    for (; i + N < n; i += N) dst.template put<N>(at(i), i);
   }
   dst.template put<N>(first, 0);
   dst.template put<N>(last, n - N);
