@@ -39,7 +39,7 @@ template <bool kNearest> struct ToHalf {
   auto operator()(V v) const {
     const hn::Rebind<uint16_t, TagOf<V>> d16;
     if constexpr (kHasInstruction) {
-      return Vec<decltype(d16)>{raw(v.raw)};
+      return toHalf<kNearest>(v);
     } else {
       const auto bits = as<uint32_t>(v);
       using W = decltype(bits + bits);
@@ -59,16 +59,6 @@ template <bool kNearest> struct ToHalf {
       return hn::TruncateTo(d16, result | sign);
     }
   }
-
- private:
-#if HWY_TARGET <= HWY_AVX2
-  static constexpr int kRounding = (kNearest ? _MM_FROUND_TO_NEAREST_INT : _MM_FROUND_TO_ZERO) | _MM_FROUND_NO_EXC;
-  static auto raw(__m128 v) { return _mm_cvtps_ph(v, kRounding); }
-  static auto raw(__m256 v) { return _mm256_cvtps_ph(v, kRounding); }
-#endif
-#if HWY_TARGET == HWY_AVX3
-  static auto raw(__m512 v) { return _mm512_cvtps_ph(v, kRounding); }
-#endif
 };
 
 QvxStatus checkHalf(const void* src, const void* dst, int len, QvxRoundMode mode) {
@@ -77,7 +67,7 @@ QvxStatus checkHalf(const void* src, const void* dst, int len, QvxRoundMode mode
   return mode == qvxRoundHalfAway ? qvxStatBadRoundMode : qvxStatOk;
 }
 
-template <class T> QvxStatus toHalf(const T* src, Qvx16f* dst, int len, QvxRoundMode mode) {
+template <class T> QvxStatus halves(const T* src, Qvx16f* dst, int len, QvxRoundMode mode) {
   const QvxStatus status = checkHalf(src, dst, len, mode);
   if (status != qvxStatOk) return status;
   const auto with = [=](auto convert) {
@@ -115,6 +105,6 @@ QvxStatus qvxsConvert_16f16s_Sfs(const Qvx16f* a, Qvx16s* d, int len, QvxRoundMo
 }
 
 // clang-format off
-QvxStatus qvxsConvert_32f16f(const Qvx32f* a, Qvx16f* d, int len, QvxRoundMode mode) { return toHalf(a, d, len, mode); }
-QvxStatus qvxsConvert_16s16f(const Qvx16s* a, Qvx16f* d, int len, QvxRoundMode mode) { return toHalf(a, d, len, mode); }
+QvxStatus qvxsConvert_32f16f(const Qvx32f* a, Qvx16f* d, int len, QvxRoundMode mode) { return halves(a, d, len, mode); }
+QvxStatus qvxsConvert_16s16f(const Qvx16s* a, Qvx16f* d, int len, QvxRoundMode mode) { return halves(a, d, len, mode); }
 // clang-format on

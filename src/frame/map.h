@@ -153,13 +153,16 @@ template <size_t N, size_t kWidest, class Kernel, class Dst, class... Src>
     return qvxStatOk;
   }
   const auto last = at(n - N);
-  if (N * kWidest == kVectorBytes && n > 2 * N) {
+  constexpr bool kFills = ((bytesRead<Src>() == 0) && ...);  // with one and the same register
+  if (kFills && n > 2 * N && n <= 4 * N) {
+    dst.template put<N>(first, N);
+    dst.template put<N>(first, n - 2 * N);
+  } else if (N * kWidest == kVectorBytes && n > 2 * N) {
     size_t i = N;
     if (n >= kWorthAligning * N && dst.template misaligned<N>() != 0) i = dst.template misaligned<N>();
     // Two at a time: sums of 32-bit floats take 0.76 of the time. But fills beyond the first-level cache, which do nothing but
     // store, take up to 1.7 times as long in pairs.
     constexpr size_t kFillsInPairs = size_t{32} << 10;
-    constexpr bool kFills = ((bytesRead<Src>() == 0) && ...);
     const bool inPairs = !kFills || n * sizeof(typename Dst::Lane) < kFillsInPairs;
     for (; inPairs && i + 2 * N < n; i += 2 * N) {
       dst.template put<N>(at(i), i);

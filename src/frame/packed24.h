@@ -64,21 +64,13 @@ inline constexpr int8_t kSigned24[16] = {-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, 
 inline constexpr int8_t kReversed24[16] = {2, 1, 0, 5, 4, 3, 8, 7, 6, 11, 10, 9, -1, -1, -1, -1};
 inline constexpr int8_t kPacked24[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1};
 
-#if HWY_TARGET == HWY_AVX3
-// Every block gets three dwords, and one to spare, of 64 packed bytes from dword `first` on.
-inline __m512i spread24(__m512i packed, int first) {
-  const __m512i order = _mm512_setr_epi32(0, 1, 2, 3, 3, 4, 5, 6, 6, 7, 8, 9, 9, 10, 11, 12);
-  return _mm512_permutexvar_epi32(_mm512_add_epi32(order, _mm512_set1_epi32(first)), packed);
-}
-
-// And back: packed register k of three is made of two neighbours of four.
-inline __m512i dense24(__m512i below, __m512i above, int k) {
-  const __m512i dwords = _mm512_setr_epi32(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 16, 17, 18, 20);
-  const __m512i later = _mm512_setr_epi32(5, 6, 8, 9, 10, 12, 13, 14, 16, 17, 18, 20, 21, 22, 24, 25);
-  const __m512i last = _mm512_setr_epi32(10, 12, 13, 14, 16, 17, 18, 20, 21, 22, 24, 25, 26, 28, 29, 30);
-  return _mm512_permutex2var_epi32(below, k == 0 ? dwords : k == 1 ? later : last, above);
-}
-#endif
+// For a register of four blocks: every block gets three dwords, and one to spare, of packed bytes from dword 0 or dword 4 on; and
+// back, where packed register k of three is made of two neighbours of four.
+alignas(64) inline constexpr int32_t kSpread24[2][16] = {{0, 1, 2, 3, 3, 4, 5, 6, 6, 7, 8, 9, 9, 10, 11, 12},
+                                                         {4, 5, 6, 7, 7, 8, 9, 10, 10, 11, 12, 13, 13, 14, 15, 15}};
+alignas(64) inline constexpr int32_t kDense24[3][16] = {{0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 16, 17, 18, 20},
+                                                        {5, 6, 8, 9, 10, 12, 13, 14, 16, 17, 18, 20, 21, 22, 24, 25},
+                                                        {10, 12, 13, 14, 16, 17, 18, 20, 21, 22, 24, 25, 26, 28, 29, 30}};
 
 }  // namespace detail
 
@@ -94,9 +86,11 @@ template <class T, Block24 kBlock = Block24::kLanes> struct From24 {
 #if HWY_TARGET == HWY_AVX3
     if constexpr (N == 64) {
       // Whole registers, 48 bytes apart, of which the last begins early enough not to end behind the elements.
-      return quadOf([bytes](size_t k) {
-        const auto packed = load(Lanes<uint8_t, N>(), bytes + (k < 3 ? 48 * k : 128));
-        return ordered<N / 4>(Vec<Lanes<uint8_t, N>>{detail::spread24(packed.raw, k < 3 ? 0 : 4)}, 0);
+      const Lanes<int32_t, N / 4> d;
+      return quadOf([bytes, d](size_t k) {
+        const auto packed = as<int32_t>(load(Lanes<uint8_t, N>(), bytes + (k < 3 ? 48 * k : 128)));
+        const auto spread = hn::TableLookupLanes(packed, hn::SetTableIndices(d, detail::kSpread24[k / 3]));
+        return ordered<N / 4>(as<uint8_t>(spread), 0);
       });
     } else
 #endif
@@ -155,10 +149,9 @@ template <class T, Block24 kBlock = Block24::kLanes> struct To24 {
 #if HWY_TARGET == HWY_AVX3
     if constexpr (N == 64) {
       const Lanes<uint8_t, N> d;
-      using B = Vec<Lanes<uint8_t, N>>;
-      store(B{detail::dense24(blocks.a.raw, blocks.b.raw, 0)}, d, bytes);
-      store(B{detail::dense24(blocks.b.raw, blocks.c.raw, 1)}, d, bytes + N);
-      store(B{detail::dense24(blocks.c.raw, blocks.d.raw, 2)}, d, bytes + 2 * N);
+      store(lanesOfTwo(blocks.a, blocks.b, detail::kDense24[0]), d, bytes);
+      store(lanesOfTwo(blocks.b, blocks.c, detail::kDense24[1]), d, bytes + N);
+      store(lanesOfTwo(blocks.c, blocks.d, detail::kDense24[2]), d, bytes + 2 * N);
     } else
 #endif
     {

@@ -248,10 +248,9 @@ template <class V> auto wideProduct(V a, V b) {
 template <class V> auto narrow(EvenOdd<V> v) {
 #if HWY_TARGET == HWY_AVX3
   if constexpr (sizeof(v.even.raw) == 64) {
-    const __m512i order = _mm512_setr_epi32(0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23);
-    const __m512i even = _mm512_castsi256_si512(saturatedTo32(v.even).raw);
-    const __m512i odd = _mm512_castsi256_si512(saturatedTo32(v.odd).raw);
-    return Vec<hn::Repartition<int32_t, TagOf<V>>>{_mm512_permutex2var_epi32(even, order, odd)};
+    alignas(64) static constexpr int32_t kInTurn[16] = {0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23};
+    const Lanes<int32_t, 16> d;
+    return lanesOfTwo(hn::ZeroExtendVector(d, saturatedTo32(v.even)), hn::ZeroExtendVector(d, saturatedTo32(v.odd)), kInTurn);
   }
 #endif
   const auto clamp = [](V x) { return hn::Min(hn::Max(x, same<V>(INT32_MIN)), same<V>(INT32_MAX)); };

@@ -93,6 +93,9 @@ inline __m128i toIntNearest(__m128 v) { return _mm_cvttps_epi32(_mm_round_ps(v, 
 inline __m128i toIntNearest(__m128d v) { return _mm_cvttpd_epi32(_mm_round_pd(v, kNearest)); }
 inline __m256i toIntNearest(__m256 v) { return _mm256_cvttps_epi32(_mm256_round_ps(v, kNearest)); }
 inline __m128i toIntNearest(__m256d v) { return _mm256_cvttpd_epi32(_mm256_round_pd(v, kNearest)); }
+constexpr int kToward0 = _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC;
+template <int kMode> __m128i toHalf(__m128 v) { return _mm_cvtps_ph(v, kMode); }
+template <int kMode> __m128i toHalf(__m256 v) { return _mm256_cvtps_ph(v, kMode); }
 #else
 inline __m128i packU16(__m128i lo, __m128i hi) {  // for lanes from -2^31 + 2^15 on, which is all that callers have
   const __m128i bias = _mm_set1_epi32(0x8000);
@@ -111,6 +114,7 @@ inline __m256i toIntCurrent(__m512d v) { return _mm512_cvtpd_epi32(v); }
 inline __m256i toIntTruncated(__m512d v) { return _mm512_cvttpd_epi32(v); }
 inline __m512i toIntNearest(__m512 v) { return _mm512_cvt_roundps_epi32(v, kNearest); }
 inline __m256i toIntNearest(__m512d v) { return _mm512_cvt_roundpd_epi32(v, kNearest); }
+template <int kMode> __m256i toHalf(__m512 v) { return _mm512_cvtps_ph(v, kMode); }
 inline __m128i toInt64(__m128d v) { return _mm_cvttpd_epi64(v); }
 inline __m256i toInt64(__m256d v) { return _mm256_cvttpd_epi64(v); }
 inline __m512i toInt64(__m512d v) { return _mm512_cvttpd_epi64(v); }
@@ -169,6 +173,9 @@ template <class D> void storeFirst(Vec<D> v, D d, hn::TFromD<D>* p, size_t n) {
     detail::storeBytes(v.raw, bytes, n * sizeof(T));
   }
 }
+
+// Orders streamed stores before all later ones.
+inline void storeFence() { _mm_sfence(); }
 
 // A vector of the same bits.
 template <class T, class V> auto as(V v) { return hn::BitCast(hn::Repartition<T, TagOf<V>>(), v); }
@@ -252,6 +259,13 @@ template <class V> auto toIntNearest(V v) {
 #endif
 }
 
+#if HWY_TARGET <= HWY_AVX2
+// Floats to binary16 in uint16_t lanes, to nearest or toward zero whatever the processor's mode.
+template <bool kNearest, class V> auto toHalf(V v) {
+  return Vec<hn::Rebind<uint16_t, TagOf<V>>>{detail::toHalf < kNearest ? detail::kNearest : detail::kToward0 > (v.raw)};
+}
+#endif
+
 // Doubles truncated to 64-bit integers. Variants differ beyond the range of those.
 template <class V> auto toInt64(V v) {
   const hn::Rebind<int64_t, TagOf<V>> d;
@@ -272,6 +286,14 @@ template <class V> auto saturatedTo32(V v) {
   return hn::BitCast(d, hn::TruncateTo(hn::RebindToUnsigned<decltype(d)>(), as<uint64_t>(clamped)));
 #endif
 }
+
+#if HWY_TARGET == HWY_AVX3
+// Sixteen of the 32-bit lanes of two registers: 0 to 15 count those of the first, 16 to 31 those of the second.
+template <class V> V lanesOfTwo(V a, V b, const int32_t (&order)[16]) {
+  static_assert(sizeof(a.raw) == 64);
+  return V{_mm512_permutex2var_epi32(a.raw, _mm512_load_si512(order), b.raw)};
+}
+#endif
 
 // narrow() for two vectors that follow each other in memory.
 template <class To, class V> auto narrowInOrder(Pair<V> v) {

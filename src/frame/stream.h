@@ -30,7 +30,7 @@ template <class Get> void stream(uint8_t* dst, size_t bytes, const Get& get) {
   }
   for (; i + N <= bytes; i += N) hn::Stream(get(i), d, dst + i);
   store(get(bytes - N), d, dst + bytes - N);
-  _mm_sfence();
+  storeFence();
 }
 
 }  // namespace qvx

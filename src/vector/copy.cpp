@@ -36,18 +36,12 @@ template <size_t kHalf> QvxStatus copyShort(const uint8_t* src, uint8_t* dst, si
   return qvxStatOk;
 }
 
-// A source may start anywhere at or behind dst: no byte is read after it was stored to.
-[[gnu::flatten]] QvxStatus copyForward(const uint8_t* src, uint8_t* dst, size_t bytes) {
-  if (bytes <= 2 * kVectorBytes) return loop(Same(), destination(dst), bytes, source(src));
-  if (bytes <= 4 * kVectorBytes) return copyShort<2>(src, dst, bytes);
-  if (bytes <= 8 * kVectorBytes) return copyShort<4>(src, dst, bytes);
-  if (bytes < kLibraryCopies) return loop(Same(), destination(dst), bytes, source(src));
-  std::memmove(dst, src, bytes);
-  return qvxStatOk;
-}
-
-[[gnu::flatten]] QvxStatus copyApart(const uint8_t* src, uint8_t* dst, size_t bytes) {
-  if (bytes < kLibraryCopies || !isStreamed(bytes)) return copyForward(src, dst, bytes);
+// From kLibraryCopies on; a function of its own, as are the other far ones, to keep the registers it needs out of the near one.
+[[gnu::noinline]] QvxStatus copyFar(const uint8_t* src, uint8_t* dst, size_t bytes, bool apart) {
+  if (!apart || !isStreamed(bytes)) {
+    std::memmove(dst, src, bytes);
+    return qvxStatOk;
+  }
   // 1 KiB ahead hides the memory's latency, which the processor's own prefetch does not with streamed stores.
   stream(dst, bytes, [src](size_t i) {
     __builtin_prefetch(src + i + 1024);
@@ -56,10 +50,19 @@ template <size_t kHalf> QvxStatus copyShort(const uint8_t* src, uint8_t* dst, si
   return qvxStatOk;
 }
 
+// The source may start anywhere at or behind dst: no byte is read after it was stored to. apart: they do not overlap.
+[[gnu::flatten]] QvxStatus copyForward(const uint8_t* src, uint8_t* dst, size_t bytes, bool apart) {
+  if (bytes <= 2 * kVectorBytes) return loop(Same(), destination(dst), bytes, source(src));
+  if (bytes <= 4 * kVectorBytes) return copyShort<2>(src, dst, bytes);
+  if (bytes <= 8 * kVectorBytes) return copyShort<4>(src, dst, bytes);
+  if (bytes < kLibraryCopies) return loop(Same(), destination(dst), bytes, source(src));
+  return copyFar(src, dst, bytes, apart);
+}
+
 template <class T> QvxStatus copy(const T* src, T* dst, int len) {
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;
-  return copyApart(reinterpret_cast<const uint8_t*>(src), reinterpret_cast<uint8_t*>(dst), elements(len) * sizeof(T));
+  return copyForward(reinterpret_cast<const uint8_t*>(src), reinterpret_cast<uint8_t*>(dst), elements(len) * sizeof(T), true);
 }
 
 template <class T> QvxStatus move(const T* src, T* dst, int len) {
@@ -70,10 +73,34 @@ template <class T> QvxStatus move(const T* src, T* dst, int len) {
   const size_t bytes = elements(len) * sizeof(T);
   const size_t ahead = static_cast<size_t>(to - from);  // huge if dst lies before src
   const size_t behind = static_cast<size_t>(from - to);
-  if (ahead >= bytes && behind >= bytes) return copyApart(from, to, bytes);
-  if (ahead >= bytes) return copyForward(from, to, bytes);
+  if (ahead >= bytes) return copyForward(from, to, bytes, behind >= bytes);
   std::memmove(to, from, bytes);
   return qvxStatOk;
+}
+
+// From kLibraryFills on.
+template <class T> [[gnu::noinline]] QvxStatus fillFar(T val, T* dst, size_t len) {
+  const Constant<T> value{val};
+  constexpr size_t kLanes = kVectorBytes / sizeof(Part<T>);
+  const size_t bytes = len * sizeof(T);
+  // A streamed store is aligned, and a misaligned element would have to be rotated for it.
+  if (isStreamed(bytes) && reinterpret_cast<uintptr_t>(dst) % sizeof(T) == 0) {
+    stream(reinterpret_cast<uint8_t*>(dst), bytes, [value](size_t) { return as<uint8_t>(value.template get<kLanes>(0)); });
+    return qvxStatOk;
+  }
+  if constexpr (sizeof(T) == 1) {
+    std::memset(dst, val, bytes);
+    return qvxStatOk;
+  } else {
+    return loop(Same(), destination(dst), len * PartsOf<T>::kCount, value);
+  }
+}
+
+template <class T> QvxStatus fill(T val, T* dst, int len) {
+  const QvxStatus status = check(len, dst);
+  if (status != qvxStatOk) return status;
+  if (elements(len) * sizeof(T) >= kLibraryFills) return fillFar(val, dst, elements(len));
+  return loop(Same(), destination(dst), elements(len) * PartsOf<T>::kCount, Constant<T>{val});
 }
 
 template <class T> QvxStatus zero(T* dst, int len) {
@@ -81,31 +108,8 @@ template <class T> QvxStatus zero(T* dst, int len) {
   if (status != qvxStatOk) return status;
   auto* to = reinterpret_cast<uint8_t*>(dst);
   const size_t bytes = elements(len) * sizeof(T);
-  const auto none = Constant<uint8_t>{0};
-  if (bytes < kLibraryFills) return loop(Same(), destination(to), bytes, none);
-  if (!isStreamed(bytes)) std::memset(to, 0, bytes);
-  else stream(to, bytes, [none](size_t) { return none.get<kVectorBytes>(0); });
-  return qvxStatOk;
-}
-
-template <class T> QvxStatus fill(T val, T* dst, int len) {
-  const QvxStatus status = check(len, dst);
-  if (status != qvxStatOk) return status;
-  const Constant<T> value{val};
-  constexpr size_t kLanes = kVectorBytes / sizeof(Part<T>);
-  const size_t bytes = elements(len) * sizeof(T);
-  if constexpr (sizeof(T) == 1) {
-    if (bytes >= kLibraryFills && !isStreamed(bytes)) {
-      std::memset(dst, val, bytes);
-      return qvxStatOk;
-    }
-  }
-  // A streamed store is aligned, and a misaligned element would have to be rotated for it.
-  if (!isStreamed(bytes) || reinterpret_cast<uintptr_t>(dst) % sizeof(T) != 0) {
-    return loop(Same(), destination(dst), elements(len) * PartsOf<T>::kCount, value);
-  }
-  stream(reinterpret_cast<uint8_t*>(dst), bytes, [value](size_t) { return as<uint8_t>(value.template get<kLanes>(0)); });
-  return qvxStatOk;
+  if (bytes >= kLibraryFills) return fillFar(uint8_t{0}, to, bytes);
+  return loop(Same(), destination(to), bytes, Constant<uint8_t>{0});
 }
 
 }  // namespace
