@@ -16,7 +16,8 @@ struct SumWithZeroTies : Sum {
       return with([shift, s](auto a, auto b) {
         using V = decltype(a);
         const V zero = same<V>(0);
-        const auto tie = ((a + b) & same<V>((T{1} << s) - 1)) == same<V>(T{1} << (s - 1));
+        const auto tie =
+            ((a + b) & same<V>(static_cast<T>((uint64_t{1} << s) - 1))) == same<V>(static_cast<T>(uint64_t{1} << (s - 1)));
         const auto bothPositive = hn::And(a > zero, b > zero);
         const V negative = hn::BroadcastSignBit(halvedSum(a, b).half);
         const auto kept = hn::Or(hn::Or(hn::Not(tie), bothPositive), negative != zero);

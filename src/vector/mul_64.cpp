@@ -10,8 +10,15 @@ namespace {
 // This one constant, of either sign, sends every element to an extreme.
 constexpr Qvx64s kOverflowingBits = 0x90000012CD94;
 
+// By way of memcpy, since p may lie at any address.
 template <class F> void each(Qvx64s* p, Qvx32u len, F f) {
-  for (size_t i = 0; i < len; ++i) p[i] = f(p[i]);
+  auto* bytes = reinterpret_cast<unsigned char*>(p);
+  for (size_t i = 0; i < len; ++i) {
+    Qvx64s x;
+    std::memcpy(&x, bytes + i * sizeof(x), sizeof(x));
+    x = f(x);
+    std::memcpy(bytes + i * sizeof(x), &x, sizeof(x));
+  }
 }
 
 // scaleFactor in 64 bits: the float form adds its exponent to the caller's. Each sign of it has a loop of its own, since the
@@ -23,7 +30,7 @@ void multiply(Qvx64s val, Qvx64s* d, Qvx32u len, int64_t scaleFactor) {
   } else if (s > 0) {
     each(d, len, [=](Qvx64s x) { return scaled<Qvx64s>(__int128{x} * val, s); });
   } else {
-    each(d, len, [=](Qvx64s x) { return scaled<Qvx64s>(__int128{x} * val, s < 0 ? s : 0); });
+    each(d, len, [=](Qvx64s x) { return scaled<Qvx64s>(__int128{x} * val, std::min(s, 0)); });
   }
 }
 
