@@ -162,6 +162,23 @@ struct LowProduct : Elementwise<Product> {
   }
 };
 
+// The rule in the words of its definition, for any scale factor: what a user writes who does not know the shift form.
+template <class Op>
+[[gnu::noipa]] void byDefinition(const int16_t* __restrict a, const int16_t* __restrict b, int16_t* __restrict d, int n, int s) {
+  for (int i = 0; i < n; ++i) {
+    int64_t v = Op()(int64_t{a[i]}, int64_t{b[i]});
+    if (s > 0) {
+      const int64_t floor = v >> s;
+      const int64_t fraction = v - floor * (int64_t{1} << s);
+      const int64_t half = int64_t{1} << (s - 1);
+      v = floor + (fraction > half || (fraction == half && (floor & 1) != 0));
+    } else {
+      v *= int64_t{1} << -s;
+    }
+    d[i] = saturate<int16_t>(v);
+  }
+}
+
 // 64-bit products have 127 bits, which are scaled whole.
 struct ProductOf64s : Elementwise<Product> {
   template <class D, class... E, class L> static void dispatch(const L& loop, int s) {
