@@ -47,7 +47,8 @@ template <class T> void sumsByMode(QvxStatus (*f)(const T*, T, T*, Qvx32u, int, 
         SCOPED_TRACE("constant " + show(c) + ", mode " + std::to_string(mode) + ", scale factor " + std::to_string(s));
         Random random(seed());
         std::vector<T> source = values<T>(120, random);
-        for (int i = -12; i < 12; ++i) source.push_back(static_cast<T>(static_cast<uint64_t>(i) - static_cast<uint64_t>(c)));  // small sums: ties
+        for (int i = -12; i < 12; ++i)
+          source.push_back(static_cast<T>(static_cast<uint64_t>(i) - static_cast<uint64_t>(c)));  // small sums: ties
         const bool isOnlyTie = std::is_signed_v<T> && s == 65 && c == std::numeric_limits<T>::min() && mode == qvxRoundHalfAway;
         Elementwise<T, T> trial(std::make_tuple(source),
                                 [=](T a) { return s > 64 && !isOnlyTie ? T{0} : scaled<T>(Wide{a} + c, s, rounding); });
