@@ -158,24 +158,20 @@ template <int kMode> struct ShiftByMode {
   int s;
   template <class V> V operator()(Halved<V> v) const {
     using T = LaneOf<V>;
-    using U = std::make_unsigned_t<T>;
+    const V one = same<V>(1);
+    const V odd = v.odd & one;
     const int t = s - 1;
-    const V odd = v.odd & same<V>(1);
-    const V floor = hn::ShiftRightSame(v.half, t);
-    const V fraction = v.half & same<V>(static_cast<T>((U{1} << t) - 1));  // and half a unit more where odd
     V negative = same<V>(0);
     if constexpr (std::is_signed_v<T>) negative = hn::BroadcastSignBit(v.half);
-    if constexpr (kMode == qvxRoundTowardZero) {
-      return floor - hn::AndNot(hn::VecFromMask(TagOf<V>(), (fraction | odd) == same<V>(0)), negative);
-    } else if constexpr (kMode == qvxRoundNearestEven) {
-      if (t == 0) return ShiftOne()(v);
-      const V carry = fraction + same<V>(static_cast<T>((U{1} << (t - 1)) - 1)) + ((odd | floor) & same<V>(1));
-      return floor + as<T>(hn::ShiftRightSame(as<U>(carry), t));
+    if constexpr (kMode == qvxRoundNearestEven) {
+      return s == 1 ? ShiftOne()(v) : ShiftMore{s}(v);
+    } else if constexpr (kMode == qvxRoundTowardZero) {
+      const V fraction = v.half & same<V>(static_cast<T>((std::make_unsigned_t<T>{1} << t) - 1));
+      const V exact = hn::VecFromMask(TagOf<V>(), (fraction | odd) == same<V>(0));
+      return hn::ShiftRightSame(v.half, t) - hn::AndNot(exact, negative);
     } else {
-      if (t == 0) return floor + hn::AndNot(negative, odd);
       // A negative half stays at the floor, which is the side away from zero.
-      const V carry = fraction + same<V>(static_cast<T>(U{1} << (t - 1))) + negative + (odd & negative);
-      return floor + as<T>(hn::ShiftRightSame(as<U>(carry), t));
+      return s == 1 ? v.half + hn::AndNot(negative, odd) : halfUp(v.half, hn::AndNot(odd, negative & one), t);
     }
   }
 };
