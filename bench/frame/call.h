@@ -67,6 +67,20 @@ template <class R, class... P> struct Signature<R (*)(P...)> {
     [&]<size_t... I>(std::index_sequence<I...>) { (one(std::integral_constant<size_t, I>()), ...); }
     (std::make_index_sequence<kCount>());
   }
+
+  // The sources from `least` to `most` instead.
+  static void fillSourcesWithin(const Vectors& v, double least, double most) {
+    fillSources(v);
+    const auto one = [&]<size_t I>(std::integral_constant<size_t, I>) {
+      using T = std::remove_const_t<std::remove_pointer_t<Parameter<I>>>;
+      if constexpr (kPointer[I] && kSource[I]) {
+        auto* p = reinterpret_cast<Part<T>*>(const_cast<T*>(pointer<I>(v)));
+        fit(p, static_cast<size_t>(v.n) * sizeof(T) / sizeof(*p), least, most);
+      }
+    };
+    [&]<size_t... I>(std::index_sequence<I...>) { (one(std::integral_constant<size_t, I>()), ...); }
+    (std::make_index_sequence<kCount>());
+  }
 };
 
 }  // namespace bench

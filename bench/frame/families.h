@@ -15,5 +15,6 @@ void widen(Suite& suite);
 void narrow(Suite& suite);
 void floatToInt(Suite& suite);
 void half(Suite& suite);
+void sqrt(Suite& suite);
 
 }  // namespace bench

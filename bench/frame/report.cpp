@@ -52,8 +52,10 @@ void Report::head() {
 void Report::open(Table table) {
   const char* const title = table == Table::kAligned      ? "Vectors at 64-byte boundaries, data warm"
                             : table == Table::kMisaligned ? "All vectors one element behind a 64-byte boundary"
-                                                          : "Beyond the caches: 64 MB";
-  std::printf("\n## %s\n\n%s\n", title, columns(table == Table::kLarge ? std::vector{64 << 20} : kSizes).c_str());
+                            : table == Table::kLarge      ? "Beyond the caches: 64 MB"
+                                                          : "Two threads";
+  const std::vector<int> sizes = table == Table::kLarge ? std::vector{64 << 20} : table == Table::kTeam ? kTeamSizes : kSizes;
+  std::printf("\n## %s\n\n%s\n", title, columns(sizes).c_str());
 }
 
 void Report::row(const Case& c, const std::vector<Times>& bySize) {
@@ -64,6 +66,7 @@ void Report::row(const Case& c, const std::vector<Times>& bySize) {
       const double ours = bySize[i][0];
       const double ratio = bySize[i][peer] / ours;
       std::printf(" %.*f (%.2f) |", ours < 100 ? 1 : 0, ours, ratio);
+      if (c.table == Table::kTeam) continue;  // one thread is no peer to be behind
       cells_.push_back({c.name + ", n=" + lengthText(c.sizes[i]) + ", " + peerName, ratio});
       ratiosByPeer_[peerName].push_back(ratio);
     }

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "frame/report.h"
+#include "qvx/qvxcore.h"
 
 namespace bench {
 
@@ -20,28 +21,34 @@ constexpr int kMostLooks = 3;
 
 class Minima : public benchmark::BenchmarkReporter {
  public:
-  explicit Minima(Times& times) : times_(times) {}
+  Minima(Times& times, bool inTeam) : times_(times), inTeam_(inTeam) {}
   bool ReportContext(const Context&) override { return true; }
   void ReportRuns(const std::vector<Run>& runs) override {
     for (const Run& run : runs) {
       if (run.run_type != Run::RT_Iteration) continue;
       double& least = times_[static_cast<size_t>(run.family_index)];
-      least = std::min(least, run.GetAdjustedCPUTime());
+      least = std::min(least, inTeam_ ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime());
     }
   }
 
  private:
   Times& times_;
+  bool inTeam_;
 };
 
 // The contenders take turns in random order.
 void measure(const Case& c, const Vectors& v, Times& times) {
   for (const Contender& contender : c.contenders) {
-    benchmark::RegisterBenchmark(contender.peer.c_str(), [&](benchmark::State& state) { contender.timed(state, v); })
+    benchmark::RegisterBenchmark(contender.peer.c_str(),
+                                 [&](benchmark::State& state) {
+                                   qvxSetNumThreads(contender.threads);
+                                   contender.timed(state, v);
+                                 })
         ->MinTime(kMinSeconds)
-        ->Repetitions(kRepetitions);
+        ->Repetitions(kRepetitions)
+        ->UseRealTime();
   }
-  Minima minima(times);
+  Minima minima(times, c.table == Table::kTeam);
   benchmark::RunSpecifiedBenchmarks(&minima, ".");
   benchmark::ClearRegisteredBenchmarks();
 }
@@ -78,7 +85,7 @@ int run(const Suite& suite, const std::regex& filter) {
   Report report;
   report.head();
   int mismatches = 0;
-  for (const Table table : {Table::kAligned, Table::kMisaligned, Table::kLarge}) {
+  for (const Table table : {Table::kAligned, Table::kMisaligned, Table::kLarge, Table::kTeam}) {
     bool open = false;
     for (const Case& c : suite.cases()) {
       if (c.table != table || !std::regex_search(c.name, filter)) continue;

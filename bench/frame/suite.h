@@ -27,11 +27,13 @@ struct Contender {
   std::function<void(const Vectors&)> once;
   std::function<void(benchmark::State&, const Vectors&)> timed;
   Agreement agreement;
+  int threads = 1;
 };
 
-enum class Table { kAligned, kMisaligned, kLarge };
+enum class Table { kAligned, kMisaligned, kLarge, kTeam };
 
 inline const std::vector<int> kSizes = {16, 256, 4096, 65536, 4 << 20};
+inline const std::vector<int> kTeamSizes = {512, 1024, 2048, 4096, 8192, 16384, 65536, 1 << 20};
 
 struct Case {
   std::string name;
@@ -99,6 +101,20 @@ template <class F, class Scalars> class Row {
   Row& overlapping(int elements) {
     case_.overlap = elements;
     case_.name += ", overlapping";
+    return *this;
+  }
+  Row& within(double least, double most) {
+    case_.fillSources = [=](const Vectors& v) { Signature<F>::fillSourcesWithin(v, least, most); };
+    return *this;
+  }
+  // The same call with two threads beside it with one, in real time: where does a team begin to pay?
+  Row& inTeam() {
+    case_.table = Table::kTeam;
+    case_.sizes = kTeamSizes;
+    Contender alone = case_.contenders[0];
+    alone.peer = "one thread";
+    case_.contenders[0].threads = 2;
+    case_.contenders.push_back(alone);
     return *this;
   }
   Row& large(int n) {

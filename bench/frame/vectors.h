@@ -63,4 +63,16 @@ template <class T> void fill(void* p, int n, uint64_t seed) {
   else fillBits(p, bytesOf<T>(n), seed);
 }
 
+// What fill() gave, brought into a range.
+template <class T> void fit(T* p, size_t count, double least, double most) {
+  for (size_t i = 0; i < count; ++i) {
+    if constexpr (std::is_floating_point_v<T>) {
+      p[i] = static_cast<T>(least + (static_cast<double>(p[i]) + 1000) / 2000 * (most - least));
+    } else {
+      const auto range = static_cast<uint64_t>(most - least) + 1;
+      p[i] = static_cast<T>(static_cast<int64_t>(least) + static_cast<int64_t>(static_cast<uint64_t>(p[i]) % range));
+    }
+  }
+}
+
 }  // namespace bench

@@ -26,6 +26,7 @@ inline constexpr auto sub32f = [](F a, F b, float* d, int n) { volk_32f_x2_subtr
 inline constexpr auto mul32f = [](F a, F b, float* d, int n) { volk_32f_x2_multiply_32f(d, a, b, n); };
 inline constexpr auto addC32f = [](F a, float c, float* d, int n) { volk_32f_s32f_add_32f(d, a, c, n); };
 inline constexpr auto mulC32f = [](F a, float c, float* d, int n) { volk_32f_s32f_multiply_32f(d, a, c, n); };
+inline constexpr auto sqrt32f = [](F a, float* d, int n) { volk_32f_sqrt_32f(d, a, n); };
 inline constexpr auto add64f = [](const double* a, const double* b, double* d, int n) { volk_64f_x2_add_64f(d, a, b, n); };
 inline constexpr auto mul64f = [](const double* a, const double* b, double* d, int n) { volk_64f_x2_multiply_64f(d, a, b, n); };
 inline constexpr auto add32fc = [](C a, C b, Qvx32fc* d, int n) { volk_32fc_x2_add_32fc(complex(d), complex(a), complex(b), n); };

@@ -4,6 +4,7 @@
 
 #include <qvx/qvxs_support.h>
 #include <qvx/qvxs_arith.h>
+#include <qvx/qvxs_math.h>
 #include <qvx/qvxs_init.h>
 #include <qvx/qvxs_convert.h>
 

@@ -39,11 +39,15 @@ template <class T> struct Source {
 
   template <size_t N> auto get(size_t at) const { return load(Lanes<Lane, N>(), p + at); }
   template <size_t N> auto get(size_t at, size_t n) const { return loadFirst(Lanes<Lane, N>(), p + at, n); }
+  Source from(size_t at) const { return {p + at}; }
 };
 
 template <class T> struct Destination {
   using Lane = Part<T>;
+  static constexpr size_t kParts = PartsOf<T>::kCount;
   Lane* p;
+
+  Destination from(size_t at) const { return {p + at}; }
 
   template <size_t N, class V> void put(V v, size_t at) const { store(v, Lanes<Lane, N>(), p + at); }
   template <size_t N, class V> void put(V v, size_t at, size_t n) const { storeFirst(v, Lanes<Lane, N>(), p + at, n); }
@@ -68,9 +72,26 @@ template <class T> struct Constant {
     }
   }
   template <size_t N> auto get(size_t at, size_t) const { return get<N>(at); }
+  Constant from(size_t) const { return *this; }
 };
 
 template <class T> Constant(T) -> Constant<T>;
+
+// A vector in which a zero counts against the caller: where others have zeros behind the end, this one has ones.
+template <class T> struct OnesBehind {
+  using Lane = Part<T>;
+  const T* p;
+
+  template <size_t N> auto get(size_t at) const { return load(Lanes<Lane, N>(), parts(p) + at); }
+  template <size_t N> auto get(size_t at, size_t n) const {
+    const Lanes<Lane, N> d;
+    return hn::IfThenElse(hn::FirstN(d, n), loadFirst(d, parts(p) + at, n), hn::Set(d, Lane{1}));
+  }
+  OnesBehind from(size_t at) const { return {p + at / PartsOf<T>::kCount}; }
+};
+
+template <class T> OnesBehind(const T*) -> OnesBehind<T>;
+template <class T> OnesBehind(T*) -> OnesBehind<T>;
 
 // A real vector beside complex ones: every element stands for both parts.
 template <class T> struct Doubled {
@@ -85,6 +106,7 @@ template <class T> struct Doubled {
   }
   template <size_t N> auto get(size_t at) const { return twice<N>(load(Lanes<T, N / 2>(), p + at / 2)); }
   template <size_t N> auto get(size_t at, size_t n) const { return twice<N>(loadFirst(Lanes<T, N / 2>(), p + at / 2, n / 2)); }
+  Doubled from(size_t at) const { return {p + at / 2}; }
 };
 
 template <class T> Doubled(const T*) -> Doubled<T>;
@@ -104,18 +126,73 @@ template <class T> struct InPairs {
     const size_t low = std::min(n, N / 2);
     return Pair<Vec<Lanes<T, N / 2>>>{loadFirst(d, p + at, low), n == low ? hn::Zero(d) : loadFirst(d, p + at + low, n - low)};
   }
+  InPairs from(size_t at) const { return {p + at}; }
 };
 template <class T> InPairs(const T*) -> InPairs<T>;
+
+// The number of the first element and how many there are, for kernels that have to tell which one it was.
+struct Place {
+  size_t at;
+  size_t count;
+};
+struct Places {
+  using Lane = uint8_t;
+  size_t first = 0;
+
+  template <size_t N> Place get(size_t at) const { return {first + at, N}; }
+  template <size_t N> Place get(size_t at, size_t n) const { return {first + at, n}; }
+  Places from(size_t at) const { return {first + at}; }
+};
 
 template <class T> Source<T> source(const T* p) { return {parts(p)}; }
 template <class T> Constant<T> source(Constant<T> c) { return c; }
 template <class T> Doubled<T> source(Doubled<T> d) { return d; }
+template <class T> OnesBehind<T> source(OnesBehind<T> v) { return v; }
+template <class T> InPairs<T> source(InPairs<T> v) { return v; }
 template <class T> Destination<T> destination(T* p) { return {parts(p)}; }
 
 template <class T> const T* pointerOf(const T* p) { return p; }
 template <class T> const T* pointerOf(Doubled<T> d) { return d.p; }
+template <class T> const T* pointerOf(OnesBehind<T> v) { return v.p; }
+template <class T> const T* pointerOf(InPairs<T> v) { return v.p; }
 inline constexpr char kNotNull = 0;
 template <class T> const char* pointerOf(Constant<T>) { return &kNotNull; }
+
+// ---- warnings: a kernel with a kWarning is called with a Flag before its vectors, which it raises in the lanes that have no
+// proper result. The loop's status is then that warning.
+
+class Flag {
+ public:
+  template <class D, class M> void raise(D d, M mask) { lanes_ |= maskBits(d, mask); }
+  bool isRaised() const { return lanes_ != 0; }
+
+ private:
+  uint64_t lanes_ = 0;
+};
+
+template <QvxStatus kStatus, class Kernel> struct Warns : Kernel { static constexpr QvxStatus kWarning = kStatus; };
+template <QvxStatus kStatus, class Kernel> Warns<kStatus, Kernel> warns(Kernel kernel) { return {kernel}; }
+
+template <class Kernel> inline constexpr bool kWarns = requires { Kernel::kWarning; };
+
+template <class Kernel, class... V> auto call(const Kernel& kernel, [[maybe_unused]] Flag& flag, V... v) {
+  if constexpr (kWarns<Kernel>) return kernel(flag, v...);
+  else return kernel(v...);
+}
+
+template <class Kernel> QvxStatus statusOf([[maybe_unused]] const Flag& flag) {
+  if constexpr (kWarns<Kernel>) return flag.isRaised() ? Kernel::kWarning : qvxStatOk;
+  else return qvxStatOk;
+}
+
+// An operation's arguments brought to the right lanes before it is called, its warnings kept.
+template <class Op, class Prepare> auto behind(Prepare prepare, Op op) {
+  if constexpr (kWarns<Op>) {
+    return warns<Op::kWarning>([=](Flag& flag, auto... v) { return op(flag, prepare(v)...); });
+  } else {
+    return [=](auto... v) { return op(prepare(v)...); };
+  }
+}
 
 // ---- the loop
 
@@ -133,24 +210,25 @@ inline constexpr size_t kWorthAligning = 8;
 // stored and stored after everything else, so that a source may be the destination. Only fewer elements than fill 16 bytes
 // take a partial vector: masked stores cost 1 ns more than that.
 //
-// It cannot fail. It gives the status of success so that the checked function can end in a jump to it: 1 ns at 16 elements.
+// It gives the status so that the checked function can end in a jump to it: 1 ns at 16 elements.
 //
 // Flattened: a kernel that the compiler leaves as a function of its own finds its constants in memory, and takes twice the time.
 template <size_t N, size_t kWidest, class Kernel, class Dst, class... Src>
 [[gnu::flatten]] QvxStatus loopOf(Kernel kernel, Dst dst, size_t n, Src... src) {
-  const auto at = [&](size_t i) { return kernel(src.template get<N>(i)...); };
+  Flag flag;
+  const auto at = [&](size_t i) { return call(kernel, flag, src.template get<N>(i)...); };
   if (n < N) {
     if constexpr (N * kWidest > 16) {
       return loopOf<N / 2, kWidest>(kernel, dst, n, src...);
     } else {
-      dst.template put<N>(kernel(src.template get<N>(0, n)...), 0, n);
-      return qvxStatOk;
+      dst.template put<N>(call(kernel, flag, src.template get<N>(0, n)...), 0, n);
+      return statusOf<Kernel>(flag);
     }
   }
   const auto first = at(0);
   if (n == N) {
     dst.template put<N>(first, 0);
-    return qvxStatOk;
+    return statusOf<Kernel>(flag);
   }
   const auto last = at(n - N);
   constexpr bool kFills = ((bytesRead<Src>() == 0) && ...);  // with one and the same register
@@ -172,7 +250,7 @@ template <size_t N, size_t kWidest, class Kernel, class Dst, class... Src>
   }
   dst.template put<N>(first, 0);
   dst.template put<N>(last, n - N);
-  return qvxStatOk;
+  return statusOf<Kernel>(flag);
 }
 
 // As many lanes at a time as one register has of the widest type: that of a vector or, if the kernel computes in a wider one,
@@ -214,7 +292,7 @@ template <class Lane, class V> auto widened(V v) {
 // As it is: integers saturated.
 struct AsIs {
   template <class Op, class Dst, class... Src> QvxStatus run(Op op, Dst dst, size_t n, Src... src) const {
-    return loop([op](auto... v) { return op(widened<typename Dst::Lane>(v)...); }, dst, n, src...);
+    return loop(behind([](auto v) { return widened<typename Dst::Lane>(v); }, op), dst, n, src...);
   }
 };
 

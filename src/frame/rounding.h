@@ -1,4 +1,4 @@
-// The processor's rounding mode, set for the length of a call and put back.
+// The processor's control word: its rounding mode, set for the length of a call and put back.
 #pragma once
 
 #include <cstdint>
@@ -7,17 +7,26 @@ namespace qvx {
 
 enum class Rounding : uint32_t { kNearest = 0x0000, kTowardZero = 0x6000, kCallers = 0xFFFF };
 
+// The compiler knows nothing of the control word. The clobber pins a kernel's loads behind a change and its stores before the
+// return to the saved word, and so all arithmetic between them.
+inline uint32_t controlWord() {
+  uint32_t word;
+  __asm__ volatile("stmxcsr %0" : "=m"(word) : : "memory");
+  return word;
+}
+inline void setControlWord(uint32_t word) { __asm__ volatile("ldmxcsr %0" : : "m"(word) : "memory"); }
+
 class RoundingScope {
  public:
   explicit RoundingScope(Rounding mode) : changed_(false) {
     if (mode == Rounding::kCallers || (mode == Rounding::kNearest && roundsToNearest())) return;
-    saved_ = read();
+    saved_ = controlWord();
     const uint32_t wanted = (saved_ & ~kField) | static_cast<uint32_t>(mode);
     changed_ = wanted != saved_;
-    if (changed_) write(wanted);
+    if (changed_) setControlWord(wanted);
   }
   ~RoundingScope() {
-    if (changed_) write(saved_);
+    if (changed_) setControlWord(saved_);
   }
   RoundingScope(const RoundingScope&) = delete;
   RoundingScope& operator=(const RoundingScope&) = delete;
@@ -38,15 +47,6 @@ class RoundingScope {
     const float below = pinned(one + 0x1p-25F);
     return above != 1.0F && below == 1.0F;
   }
-
-  // The compiler knows nothing of the control word. The clobber pins the kernel's loads behind the change and its stores
-  // before the return to the saved word, and so all arithmetic between them.
-  static uint32_t read() {
-    uint32_t word;
-    __asm__ volatile("stmxcsr %0" : "=m"(word) : : "memory");
-    return word;
-  }
-  static void write(uint32_t word) { __asm__ volatile("ldmxcsr %0" : : "m"(word) : "memory"); }
 
   uint32_t saved_ = 0;
   bool changed_;

@@ -174,6 +174,15 @@ template <class D> void storeFirst(Vec<D> v, D d, hn::TFromD<D>* p, size_t n) {
   }
 }
 
+// A bit for every lane of a mask.
+template <class D, class M> uint64_t maskBits([[maybe_unused]] D d, M mask) {
+#if HWY_TARGET == HWY_AVX3
+  return mask.raw;
+#else
+  return hn::detail::BitsFromMask(mask);
+#endif
+}
+
 // Orders streamed stores before all later ones.
 inline void storeFence() { _mm_sfence(); }
 

@@ -1,0 +1,28 @@
+// Square roots of floats.
+#include "frame/team.h"
+
+using namespace qvx;
+
+namespace {
+
+struct Root {
+  static constexpr QvxStatus kWarning = qvxWarnSqrtNegArg;
+
+  template <class V> V operator()(Flag& flag, V x) const {
+    const TagOf<V> d;
+    flag.raise(d, x < hn::Zero(d));
+    return hn::Sqrt(x);
+  }
+};
+
+constexpr TeamRule kRoot32f = {.threaded = 4096, .worthIt = 16384};
+constexpr TeamRule kRoot64f = {.threaded = 512, .worthIt = 8192};
+
+}  // namespace
+
+// clang-format off
+QvxStatus qvxsSqrt_32f(const Qvx32f* a, Qvx32f* d, int len) { return map<Root>(d, len, InTeam<kRoot32f>{}, a); }
+QvxStatus qvxsSqrt_32f_I(Qvx32f* d, int len) { return map<Root>(d, len, InTeam<kRoot32f>{}, d); }
+QvxStatus qvxsSqrt_64f(const Qvx64f* a, Qvx64f* d, int len) { return map<Root>(d, len, InTeam<kRoot64f>{}, a); }
+QvxStatus qvxsSqrt_64f_I(Qvx64f* d, int len) { return map<Root>(d, len, InTeam<kRoot64f>{}, d); }
+// clang-format on
