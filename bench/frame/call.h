@@ -9,8 +9,11 @@
 
 namespace bench {
 
-template <class F> struct Signature;
-template <class R, class... P> struct Signature<R (*)(P...)> {
+// The place of the length: behind the destination, or before it in reductions, whose destination is one element.
+enum class Shape { kMap, kReduction };
+
+template <class F, Shape kShape = Shape::kMap> struct Signature;
+template <class R, class... P, Shape kShape> struct Signature<R (*)(P...), kShape> {
   using Parameters = std::tuple<P...>;
   template <size_t I> using Parameter = std::tuple_element_t<I, Parameters>;
   static constexpr size_t kCount = sizeof...(P);
@@ -23,7 +26,9 @@ template <class R, class... P> struct Signature<R (*)(P...)> {
     while (!kPointer[i] || kSource[i]) ++i;
     return i;
   }
-  static constexpr size_t kLength = destinationAt() + 1;
+  static constexpr size_t kLength = kShape == Shape::kMap ? destinationAt() + 1 : destinationAt() - 1;
+  // Elements of the destination.
+  static int results(const Vectors& v) { return kShape == Shape::kMap ? v.n : 1; }
   using Destination = std::remove_pointer_t<Parameter<destinationAt()>>;
 
   static constexpr size_t sourcesBefore(size_t at) {
@@ -40,7 +45,8 @@ template <class R, class... P> struct Signature<R (*)(P...)> {
   template <size_t I> static auto pointer(const Vectors& v) {
     using T = Parameter<I>;
     if constexpr (!kSource[I]) {
-      return reinterpret_cast<T>(v.slabs.destination()) + v.misaligned;
+      // Further results lie a cache line behind the first.
+      return reinterpret_cast<T>(v.slabs.destination() + 64 * (I - destinationAt())) + v.misaligned;
     } else {
       const bool shared = v.overlap != 0 && sourcesBefore(I) == 0;
       std::byte* slab = shared ? v.slabs.destination() : v.slabs.source(sourcesBefore(I));

@@ -16,5 +16,6 @@ void narrow(Suite& suite);
 void floatToInt(Suite& suite);
 void half(Suite& suite);
 void sqrt(Suite& suite);
+void sum(Suite& suite);
 
 }  // namespace bench

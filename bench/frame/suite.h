@@ -19,6 +19,7 @@ namespace bench {
 enum class Agreement {
   kBitwise,
   kFused,   // floats up to a few roundings: the peer's compiler fuses multiplications and additions, the library never does
+  kSummed,  // sums in another order
   kDiffers  // another rule; only the work is comparable
 };
 
@@ -53,19 +54,26 @@ template <class T> bool near(T ours, T peers) {
   return ours == peers || std::abs(ours - peers) <= std::numeric_limits<T>::epsilon() * T(4e6);
 }
 
+// Sums of up to 4 Mi products of elements up to 1000, most of which cancel.
+template <class T> bool nearSum(T ours, T peers) {
+  return ours == peers || std::abs(ours - peers) <= std::numeric_limits<T>::epsilon() * T(1e10) + T(1e-5) * std::abs(ours);
+}
+
 template <class T> bool agree(const std::byte* ours, const std::byte* peers, size_t bytes, Agreement agreement) {
   if (agreement == Agreement::kDiffers || std::memcmp(ours, peers, bytes) == 0) return true;
   if constexpr (std::is_floating_point_v<T>) {
-    if (agreement != Agreement::kFused) return false;
     const auto* a = reinterpret_cast<const T*>(ours);
+    if (agreement == Agreement::kSummed)
+      return std::equal(a, a + bytes / sizeof(T), reinterpret_cast<const T*>(peers), nearSum<T>);
+    if (agreement != Agreement::kFused) return false;
     return std::equal(a, a + bytes / sizeof(T), reinterpret_cast<const T*>(peers), near<T>);
   }
   return false;
 }
 
-template <class F, class Peer, class Scalars>
+template <class F, Shape kShape, class Peer, class Scalars>
 Contender contender(std::string name, Peer peer, Scalars scalars, Agreement agreement) {
-  const auto once = [=](const Vectors& v) { std::apply(peer, Signature<F>::arguments(v, scalars)); };
+  const auto once = [=](const Vectors& v) { std::apply(peer, Signature<F, kShape>::arguments(v, scalars)); };
   const auto timed = [=](benchmark::State& state, const Vectors& v) {
     std::apply(
         [&state, call = peer](auto... arguments) {
@@ -74,18 +82,18 @@ Contender contender(std::string name, Peer peer, Scalars scalars, Agreement agre
             benchmark::ClobberMemory();
           }
         },
-        Signature<F>::arguments(v, scalars));
+        Signature<F, kShape>::arguments(v, scalars));
   };
   return {std::move(name), once, timed, agreement};
 }
 
 // The line's handle, to add peers and conditions to it.
-template <class F, class Scalars> class Row {
+template <class F, Shape kShape, class Scalars> class Row {
  public:
   Row(Case& row, Scalars scalars) : case_(row), scalars_(scalars) {}
 
   template <class Peer> Row& against(std::string name, Peer peer, Agreement agreement = Agreement::kBitwise) {
-    case_.contenders.push_back(contender<F>(std::move(name), peer, scalars_, agreement));
+    case_.contenders.push_back(contender<F, kShape>(std::move(name), peer, scalars_, agreement));
     return *this;
   }
   // The plain loop of an operation for this very signature.
@@ -104,7 +112,7 @@ template <class F, class Scalars> class Row {
     return *this;
   }
   Row& within(double least, double most) {
-    case_.fillSources = [=](const Vectors& v) { Signature<F>::fillSourcesWithin(v, least, most); };
+    case_.fillSources = [=](const Vectors& v) { Signature<F, kShape>::fillSourcesWithin(v, least, most); };
     return *this;
   }
   // The same call with two threads beside it with one, in real time: where does a team begin to pay?
@@ -131,30 +139,38 @@ template <class F, class Scalars> class Row {
 class Suite {
  public:
   // scalars: all scalar arguments but the length, in their order.
-  template <class R, class... P, class... S> auto row(std::string name, R (*ours)(P...), S... scalars) {
-    using F = R (*)(P...);
-    using T = typename Signature<F>::Destination;
-    constexpr size_t kAt = Signature<F>::destinationAt();
-    static_assert(sizeof...(S) == Signature<F>::scalarsBefore(sizeof...(P)));
-    const std::tuple given(scalars...);
-    Case& c = cases_.emplace_back();
-    c.name = std::move(name);
-    c.fillSources = Signature<F>::fillSources;
-    c.fillDestination = [](const Vectors& v) { fill<T>(Signature<F>::template pointer<kAt>(v), v.n, 99); };
-    c.saveDestination = [](const Vectors& v) {
-      std::memcpy(v.slabs.saved(), Signature<F>::template pointer<kAt>(v), bytesOf<T>(v.n));
-    };
-    c.agrees = [](const Vectors& v, Agreement agreement) {
-      const auto* peers = reinterpret_cast<const std::byte*>(Signature<F>::template pointer<kAt>(v));
-      return agree<Part<T>>(v.slabs.saved(), peers, bytesOf<T>(v.n), agreement);
-    };
-    c.contenders.push_back(contender<F>("ours", ours, given, Agreement::kBitwise));
-    return Row<F, std::tuple<S...>>(c, given);
+  template <class F, class... S> auto row(std::string name, F ours, S... scalars) {
+    return add<Shape::kMap>(std::move(name), ours, scalars...);
+  }
+  template <class F, class... S> auto reduction(std::string name, F ours, S... scalars) {
+    return add<Shape::kReduction>(std::move(name), ours, scalars...);
   }
 
   const std::vector<Case>& cases() const { return cases_; }
 
  private:
+  template <Shape kShape, class R, class... P, class... S> auto add(std::string name, R (*ours)(P...), S... scalars) {
+    using F = R (*)(P...);
+    using Call = Signature<F, kShape>;
+    using T = typename Call::Destination;
+    constexpr size_t kAt = Call::destinationAt();
+    static_assert(sizeof...(S) == Call::scalarsBefore(sizeof...(P)));
+    const std::tuple given(scalars...);
+    Case& c = cases_.emplace_back();
+    c.name = std::move(name);
+    c.fillSources = Call::fillSources;
+    c.fillDestination = [](const Vectors& v) { fill<T>(Call::template pointer<kAt>(v), Call::results(v), 99); };
+    c.saveDestination = [](const Vectors& v) {
+      std::memcpy(v.slabs.saved(), Call::template pointer<kAt>(v), bytesOf<T>(Call::results(v)));
+    };
+    c.agrees = [](const Vectors& v, Agreement agreement) {
+      const auto* peers = reinterpret_cast<const std::byte*>(Call::template pointer<kAt>(v));
+      return agree<Part<T>>(v.slabs.saved(), peers, bytesOf<T>(Call::results(v)), agreement);
+    };
+    c.contenders.push_back(contender<F, kShape>("ours", ours, given, Agreement::kBitwise));
+    return Row<F, kShape, std::tuple<S...>>(c, given);
+  }
+
   std::vector<Case> cases_;
 };
 

@@ -60,6 +60,9 @@ inline constexpr auto from32f = [](F a, auto* d, int n, QvxRoundMode, int s) {
 inline constexpr auto to16s = [](const Qvx8s* a, Qvx16s* d, int n) { volk_8i_convert_16i(d, a, n); };  // times 256
 inline constexpr auto to64f = [](F a, double* d, int n) { volk_32f_convert_64f(d, a, n); };
 inline constexpr auto from64f = [](const double* a, float* d, int n) { volk_64f_convert_32f(d, a, n); };
+
+inline constexpr auto sum32f = [](F a, int n, float* r, int) { volk_32f_accumulator_s32f(r, a, n); };
+inline constexpr auto meanStdDev32f = [](F a, int n, float* mean, float* deviation, int) { volk_32f_stddev_and_mean_32f_x2(deviation, mean, a, n); };
 // clang-format on
 
 }  // namespace volk

@@ -7,5 +7,6 @@
 #include <qvx/qvxs_math.h>
 #include <qvx/qvxs_init.h>
 #include <qvx/qvxs_convert.h>
+#include <qvx/qvxs_stats.h>
 
 #endif

@@ -1,7 +1,10 @@
 // The processor's control word: its rounding mode, set for the length of a call and put back.
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace qvx {
 
@@ -51,5 +54,13 @@ class RoundingScope {
   uint32_t saved_ = 0;
   bool changed_;
 };
+
+// v to an integer of R in the mode of the scope, saturated. For numbers only.
+template <class R> R roundedTo(double v) {
+  constexpr double kLeast = std::numeric_limits<R>::min();
+  constexpr double kMost = std::numeric_limits<R>::max();
+  static_assert(sizeof(R) <= 4, "the limits have to be doubles");
+  return static_cast<R>(std::lrint(std::min(std::max(v, kLeast), kMost)));
+}
 
 }  // namespace qvx

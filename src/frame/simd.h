@@ -77,7 +77,9 @@ inline __m128i toIntCurrent(__m128 v) { return _mm_cvtps_epi32(v); }
 inline __m128i toIntTruncated(__m128 v) { return _mm_cvttps_epi32(v); }
 inline __m128i toIntCurrent(__m128d v) { return _mm_cvtpd_epi32(v); }
 inline __m128i toIntTruncated(__m128d v) { return _mm_cvttpd_epi32(v); }
+inline __m128i pairProducts(__m128i a, __m128i b) { return _mm_madd_epi16(a, b); }
 #if HWY_TARGET <= HWY_AVX2
+inline __m256i pairProducts(__m256i a, __m256i b) { return _mm256_madd_epi16(a, b); }
 inline __m128i packU16(__m128i lo, __m128i hi) { return _mm_packus_epi32(lo, hi); }
 inline __m256i packU8(__m256i lo, __m256i hi) { return _mm256_packus_epi16(lo, hi); }
 inline __m256i packS8(__m256i lo, __m256i hi) { return _mm256_packs_epi16(lo, hi); }
@@ -104,6 +106,7 @@ inline __m128i packU16(__m128i lo, __m128i hi) {  // for lanes from -2^31 + 2^15
 }
 #endif
 #if HWY_TARGET == HWY_AVX3
+inline __m512i pairProducts(__m512i a, __m512i b) { return _mm512_madd_epi16(a, b); }
 inline __m512i packU8(__m512i lo, __m512i hi) { return _mm512_packus_epi16(lo, hi); }
 inline __m512i packS8(__m512i lo, __m512i hi) { return _mm512_packs_epi16(lo, hi); }
 inline __m512i packS16(__m512i lo, __m512i hi) { return _mm512_packs_epi32(lo, hi); }
@@ -228,6 +231,11 @@ template <class To, class V> auto narrow(Pair<V> v) {
   } else {
     return Vec<decltype(d)>{detail::packU16(v.lo.raw, v.hi.raw)};
   }
+}
+
+// a[0] * b[0] + a[1] * b[1] and so on, in lanes of 32 bits: exact, but for four times -32768, whose 2^31 wraps to -2^31.
+template <class V> auto pairProducts(V a, V b) {
+  return Vec<hn::RepartitionToWide<TagOf<V>>>{detail::pairProducts(a.raw, b.raw)};
 }
 
 // The lanes of a whole vector at twice their width: low and high half of every 128-bit block, which costs one instruction each

@@ -15,6 +15,13 @@ namespace tests {
 using Random = std::mt19937_64;
 
 template <class T> inline constexpr bool isComplex = std::is_class_v<T>;
+template <class T> struct PartOf { using Type = T; };
+template <class T>
+requires isComplex<T>
+struct PartOf<T> {
+  using Type = decltype(T::re);
+};
+template <class T> using Part = typename PartOf<T>::Type;
 
 // Integers: the extremes and their neighbours, powers of two and their neighbours, everything else.
 template <class T> T value(Random& random) {

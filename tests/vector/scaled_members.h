@@ -16,13 +16,6 @@ inline std::vector<int> scaleFactors() {
 // The paths of the kernels differ by scale factor; these reach all of them at every length.
 inline constexpr int kPathScales[] = {-9, -1, 0, 1, 2, 3, 12, 16, 17, 20, 33};
 
-template <class T> struct PartOf { using Type = T; };
-template <class T>
-requires isComplex<T>
-struct PartOf<T> {
-  using Type = decltype(T::re);
-};
-
 // An exact operation on each part: of a real element there is one.
 template <class Exact> auto partwise(Exact exact) {
   return [exact]<class T>(T a, T b, int s) {

@@ -1,0 +1,131 @@
+// The reduction engine: one value of one or more vectors, on the sources of the loop engine.
+//
+// A reduction says how its lanes gather. An accumulator A is a vector or a struct of vectors:
+//
+//   A start(v...)        the accumulator after the first N lanes of each source
+//   A add(A a, v...)     after N more
+//   A join(A a, A b)     of two accumulators
+//   Total total(A a)     of all lanes; totals of slices are added with +=
+//
+//   kSlice     elements that an accumulator takes without overflow, or without losing more accuracy than the reduction states;
+//              longer vectors are gathered slice by slice
+//   kFlight    accumulators at work at the same time, to cover the latency of `add`
+//   kRepeats   whether an element may be added twice, as into a maximum. Then the end of a vector is a whole vector that overlaps
+//              its neighbour; else it is a partial one, and the zeros behind it must add nothing.
+//   Inner      the widest lane type that is computed in
+//
+// Which lane an element falls into depends on its index alone, never on its address.
+#pragma once
+
+#include "frame/map.h"
+
+namespace qvx {
+
+// The number of elements that a 32-bit length can tell.
+inline constexpr size_t kMostElements = size_t{1} << 31;
+
+// What most reductions are: sums of which slices are no matter.
+struct Reduction {
+  using Inner = uint8_t;
+  static constexpr size_t kSlice = kMostElements;
+  static constexpr size_t kFlight = 4;
+  static constexpr bool kRepeats = false;
+
+  template <class V> static V join(V a, V b) { return a + b; }
+  template <class V> static Pair<V> join(Pair<V> a, Pair<V> b) { return {a.lo + b.lo, a.hi + b.hi}; }
+};
+
+// The lanes of v brought together by join, until M are left.
+template <size_t M, class V, class Join> auto folded(V v, Join join) {
+  if constexpr (kLanesOf<V> == M) {
+    return v;
+  } else {
+    const hn::Half<TagOf<V>> half;
+    return folded<M>(join(hn::LowerHalf(half, v), hn::UpperHalf(half, v)), join);
+  }
+}
+template <size_t M, class V> auto folded(V v) {
+  return folded<M>(v, [](auto a, auto b) { return a + b; });
+}
+template <class V> LaneOf<V> sumOfLanes(V v) { return hn::GetLane(folded<1>(v)); }
+
+// Both halves of v in lanes of Wide, added.
+template <class Wide, class V> auto halvesAdded(V v) {
+  const hn::Half<TagOf<V>> half;
+  const hn::Rebind<Wide, decltype(half)> wide;
+  return hn::PromoteTo(wide, hn::LowerHalf(half, v)) + hn::PromoteTo(wide, hn::UpperHalf(half, v));
+}
+
+// A sum of lanes of 32 bits that may pass 32 bits: the wrapped sum, and the sum of the upper halves, which tells how often it
+// wrapped. Three instructions a vector, where lanes of 64 bits take four and a shuffle. For up to 2^16 vectors.
+template <class V> struct LongSum {
+  V wrapped;
+  V upper;
+
+  static LongSum of(V v) { return {v, hn::ShiftRight<16>(v)}; }
+  LongSum plus(V v) const { return {wrapped + v, upper + hn::ShiftRight<16>(v)}; }
+  LongSum plus(LongSum other) const { return {wrapped + other.wrapped, upper + other.upper}; }
+
+  // The lanes' sums. The upper halves give each to within 2^32 from below; the wrapped sum gives the rest.
+  auto sums() const {
+    using Wide = std::conditional_t<std::is_signed_v<LaneOf<V>>, int64_t, uint64_t>;
+    const V below = wrapped - hn::ShiftLeft<16>(upper);
+    return halvesAdded<uint64_t>(as<uint32_t>(below)) + as<uint64_t>(hn::ShiftLeft<16>(halvesAdded<Wide>(upper)));
+  }
+};
+
+namespace detail {
+
+// a[kFrom] to a[kFrom + kCount - 1] joined, as a tree.
+template <class R, size_t kFrom, size_t kCount, class A> A joined(const A* a) {
+  if constexpr (kCount == 1) return a[kFrom];
+  else return R::join(joined<R, kFrom, kCount / 2>(a), joined<R, kFrom + kCount / 2, kCount - kCount / 2>(a));
+}
+
+// n from 1 to kSlice.
+template <size_t N, class R, class... Src> [[gnu::flatten]] auto gathered(R r, size_t n, Src... src) {
+  const auto started = [&](size_t i) { return r.start(src.template get<N>(i)...); };
+  const auto added = [&](auto a, size_t i) { return r.add(a, src.template get<N>(i)...); };
+  if (n < N) {
+    constexpr size_t kNarrowest = 16 / std::max({sizeof(typename R::Inner), sizeof(typename Src::Lane)...});
+    if constexpr (R::kRepeats && N > kNarrowest) return gathered<N / 2>(r, n, src...);
+    else return r.total(r.start(src.template get<N>(0, n)...));
+  }
+  auto all = started(0);
+  size_t i = N;
+  constexpr size_t kRound = R::kFlight * N;
+  if (n >= 2 * kRound) {
+    [&]<size_t... K>(std::index_sequence<K...>) {
+      decltype(all) a[] = {all, started((K + 1) * N)...};
+      for (i = kRound; i + kRound <= n; i += kRound) {
+        a[0] = added(a[0], i);
+        ((a[K + 1] = added(a[K + 1], i + (K + 1) * N)), ...);
+      }
+      all = joined<R, 0, R::kFlight>(a);
+    }
+    (std::make_index_sequence<R::kFlight - 1>());
+  }
+  for (; i + N <= n; i += N) all = added(all, i);
+  if (i < n) all = R::kRepeats ? added(all, n - N) : r.add(all, src.template get<N>(i, n - i)...);
+  return r.total(all);
+}
+
+template <size_t N, class R, class... Src> [[gnu::noinline]] auto gatheredInSlices(R r, size_t n, Src... src) {
+  auto total = gathered<N>(r, R::kSlice, src...);
+  for (size_t at = R::kSlice; at < n; at += R::kSlice) total += gathered<N>(r, std::min(n - at, R::kSlice), src.from(at)...);
+  return total;
+}
+
+}  // namespace detail
+
+// The total over n lanes, 1 or more.
+template <class R, class... Src> [[gnu::always_inline]] inline auto reduce(R r, size_t n, Src... src) {
+  constexpr size_t kWidest = std::max({sizeof(typename R::Inner), sizeof(typename Src::Lane)...});
+  constexpr size_t N = kVectorBytes / kWidest;
+  if constexpr (R::kSlice < kMostElements) {
+    if (n > R::kSlice) return detail::gatheredInSlices<N>(r, n, src...);
+  }
+  return detail::gathered<N>(r, n, src...);
+}
+
+}  // namespace qvx

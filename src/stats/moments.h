@@ -1,0 +1,130 @@
+// Sums, and sums of squares, of the elements of a vector.
+#pragma once
+
+#include "frame/power.h"
+#include "frame/reduce.h"
+
+namespace qvx {
+
+// 2^-scaleFactor, finite: that is far enough up for any integer but 0, which stays 0.
+inline double scaleFactorOf(int scaleFactor) { return powerOfTwo<double>(std::min(-int64_t{scaleFactor}, int64_t{1023})); }
+
+// The total of interleaved complex lanes.
+template <class T> struct ComplexTotal {
+  T re;
+  T im;
+  ComplexTotal& operator+=(ComplexTotal other) { return re += other.re, im += other.im, *this; }
+};
+template <size_t kParts, class V> auto laneTotals(V v) {
+  if constexpr (kParts == 1) {
+    return sumOfLanes(v);
+  } else {
+    const auto two = folded<2>(v);
+    return ComplexTotal<LaneOf<V>>{hn::ExtractLane(two, 0), hn::ExtractLane(two, 1)};
+  }
+}
+
+// Floats in lanes of doubles.
+template <size_t kParts> struct SumInDoubles : Reduction {
+  using Inner = double;
+  static constexpr size_t kFlight = 8;
+  static constexpr size_t kSlice = 1 << 16;
+
+  template <class V> auto start(V v) const { return widened<double>(v); }
+  template <class A, class V> A add(A a, V v) const { return a + widened<double>(v); }
+  template <class A> auto total(A a) const { return laneTotals<kParts>(a); }
+};
+
+// 32-bit floats in lanes of their own, the lanes in doubles: a lane takes 512 elements at most.
+template <size_t kParts> struct SumInFloats : Reduction {
+  static constexpr size_t kFlight = 8;
+  static constexpr size_t kSlice = 1 << 14;
+
+  template <class V> V start(V v) const { return v; }
+  template <class V> V add(V a, V v) const { return a + v; }
+  template <class V> auto total(V a) const { return laneTotals<kParts>(halvesAdded<double>(a)); }
+};
+
+// 16-bit integers, exactly. Each lane takes two elements at a time: 65534 of them stay within 32 bits.
+struct Sum16 : Reduction {
+  static constexpr size_t kSlice = 1 << 17;
+  template <class V> auto start(V v) const { return pairProducts(v, same<V>(1)); }
+  template <class A, class V> A add(A a, V v) const { return a + pairProducts(v, same<V>(1)); }
+  template <class A> int64_t total(A a) const { return sumOfLanes(halvesAdded<int64_t>(a)); }
+};
+struct Sum16Complex : Reduction {
+  static constexpr size_t kSlice = 1 << 17;
+  template <class V> auto start(V v) const {
+    using A = decltype(pairProducts(v, v));
+    return Pair<A>{pairProducts(v, as<int16_t>(same<A>(1))), pairProducts(v, as<int16_t>(same<A>(1 << 16)))};
+  }
+  template <class A, class V> Pair<A> add(Pair<A> a, V v) const { return join(a, start(v)); }
+  template <class A> ComplexTotal<int64_t> total(Pair<A> a) const {
+    return {sumOfLanes(halvesAdded<int64_t>(a.lo)), sumOfLanes(halvesAdded<int64_t>(a.hi))};
+  }
+};
+
+// 32-bit integers in lanes of 64 bits, which no length can fill.
+struct Sum32 : Reduction {
+  using Inner = int64_t;
+  static constexpr size_t kFlight = 8;
+  template <class V> auto start(V v) const { return widened<int64_t>(v); }
+  template <class A, class V> A add(A a, V v) const { return a + widened<int64_t>(v); }
+  template <class A> int64_t total(A a) const { return sumOfLanes(a); }
+};
+
+// Sum and sum of squares.
+template <class T> struct Moments {
+  T sum;
+  T squares;
+  Moments& operator+=(Moments other) { return sum += other.sum, squares += other.squares, *this; }
+};
+
+struct MomentsInDoubles : Reduction {
+  using Inner = double;
+  static constexpr size_t kSlice = 1 << 16;
+
+  template <class V> auto start(V v) const {
+    const auto x = widened<double>(v);
+    return Pair<std::remove_const_t<decltype(x)>>{x, x * x};
+  }
+  template <class A, class V> Pair<A> add(Pair<A> a, V v) const {
+    const auto x = widened<double>(v);
+    return {a.lo + x, hn::MulAdd(x, x, a.hi)};
+  }
+  template <class A> Moments<double> total(Pair<A> a) const { return {sumOfLanes(a.lo), sumOfLanes(a.hi)}; }
+};
+
+struct MomentsInFloats : Reduction {
+  static constexpr size_t kSlice = 1 << 14;
+
+  template <class V> Pair<V> start(V v) const { return {v, v * v}; }
+  template <class V> Pair<V> add(Pair<V> a, V v) const { return {a.lo + v, hn::MulAdd(v, v, a.hi)}; }
+  template <class V> Moments<double> total(Pair<V> a) const {
+    return {sumOfLanes(halvesAdded<double>(a.lo)), sumOfLanes(halvesAdded<double>(a.hi))};
+  }
+};
+
+// 16-bit integers, exactly. A pair of squares is at most 2^31, an unsigned number.
+struct Moments16 : Reduction {
+  static constexpr size_t kSlice = 1 << 17;
+
+  template <class V> struct Lanes {
+    V sum;
+    LongSum<Vec<hn::RebindToUnsigned<TagOf<V>>>> squares;
+  };
+  template <class V> auto start(V v) const {
+    const auto sum = pairProducts(v, same<V>(1));
+    using A = std::remove_const_t<decltype(sum)>;
+    return Lanes<A>{sum, LongSum<decltype(as<uint32_t>(sum))>::of(as<uint32_t>(pairProducts(v, v)))};
+  }
+  template <class A, class V> Lanes<A> add(Lanes<A> a, V v) const {
+    return {a.sum + pairProducts(v, same<V>(1)), a.squares.plus(as<uint32_t>(pairProducts(v, v)))};
+  }
+  template <class A> static Lanes<A> join(Lanes<A> a, Lanes<A> b) { return {a.sum + b.sum, a.squares.plus(b.squares)}; }
+  template <class A> Moments<int64_t> total(Lanes<A> a) const {
+    return {sumOfLanes(halvesAdded<int64_t>(a.sum)), static_cast<int64_t>(sumOfLanes(a.squares.sums()))};
+  }
+};
+
+}  // namespace qvx

@@ -1,0 +1,85 @@
+// Sample standard deviations, alone and with the mean.
+#include <cmath>
+
+#include "frame/rounding.h"
+#include "stats/moments.h"
+
+using namespace qvx;
+
+namespace {
+
+constexpr int kFast = 1;
+constexpr int kFewest = 2;  // elements that have a deviation
+
+template <class... T> QvxStatus checkTwo(int len, const T*... pointers) {
+  const QvxStatus status = check(len, pointers...);
+  return status == qvxStatOk && len < kFewest ? qvxStatBadSize : status;
+}
+
+template <class M> double deviation(M m, double n) {
+  const auto sum = static_cast<double>(m.sum);
+  const double numerator = static_cast<double>(m.squares) * n - sum * sum;
+  // A comparison that is false for NaN, which passes.
+  return std::sqrt((numerator < 0 ? 0 : numerator) / (n * (n - 1)));
+}
+
+template <class T> Moments<double> moments(const T* src, int len, int hint) {
+  if constexpr (sizeof(T) == 4) {
+    if (hint == kFast) return reduce(MomentsInFloats(), elements(len), source(src));
+  }
+  return reduce(MomentsInDoubles(), elements(len), source(src));
+}
+
+template <class T> QvxStatus deviationOfFloats(const T* src, int len, T* dev, int hint) {
+  const QvxStatus status = checkTwo(len, src, dev);
+  if (status != qvxStatOk) return status;
+  *dev = static_cast<T>(deviation(moments(src, len, hint), len));
+  return qvxStatOk;
+}
+
+template <class T> QvxStatus meanAndDeviationOfFloats(const T* src, int len, T* mean, T* dev, int hint) {
+  const QvxStatus status = checkTwo(len, src, mean, dev);
+  if (status != qvxStatOk) return status;
+  const Moments<double> m = moments(src, len, hint);
+  *mean = static_cast<T>(m.sum / len);
+  *dev = static_cast<T>(deviation(m, len));
+  return qvxStatOk;
+}
+
+// The moments as doubles that no arithmetic before the rounding scope can have used.
+Moments<double> pinned(Moments<int64_t> m) {
+  return {RoundingScope::pinned(static_cast<double>(m.sum)), RoundingScope::pinned(static_cast<double>(m.squares))};
+}
+
+template <class R> QvxStatus deviationOfIntegers(const Qvx16s* src, int len, R* dev, int scaleFactor) {
+  const QvxStatus status = checkTwo(len, src, dev);
+  if (status != qvxStatOk) return status;
+  const RoundingScope nearest(Rounding::kNearest);
+  const Moments<double> m = pinned(reduce(Moments16(), elements(len), source(src)));
+  *dev = roundedTo<R>(deviation(m, len) * scaleFactorOf(scaleFactor));
+  return qvxStatOk;
+}
+
+template <class R> QvxStatus meanAndDeviationOfIntegers(const Qvx16s* src, int len, R* mean, R* dev, int scaleFactor) {
+  const QvxStatus status = checkTwo(len, src, mean, dev);
+  if (status != qvxStatOk) return status;
+  const RoundingScope nearest(Rounding::kNearest);
+  const double factor = scaleFactorOf(scaleFactor);
+  const Moments<double> m = pinned(reduce(Moments16(), elements(len), source(src)));
+  *mean = roundedTo<R>(m.sum / len * factor);
+  *dev = roundedTo<R>(deviation(m, len) * factor);
+  return qvxStatOk;
+}
+
+}  // namespace
+
+// clang-format off
+QvxStatus qvxsStdDev_32f(const Qvx32f* a, int len, Qvx32f* dev, int hint) { return deviationOfFloats(a, len, dev, hint); }
+QvxStatus qvxsStdDev_64f(const Qvx64f* a, int len, Qvx64f* dev) { return deviationOfFloats(a, len, dev, 0); }
+QvxStatus qvxsStdDev_16s_Sfs(const Qvx16s* a, int len, Qvx16s* dev, int sf) { return deviationOfIntegers(a, len, dev, sf); }
+QvxStatus qvxsStdDev_16s32s_Sfs(const Qvx16s* a, int len, Qvx32s* dev, int sf) { return deviationOfIntegers(a, len, dev, sf); }
+QvxStatus qvxsMeanStdDev_32f(const Qvx32f* a, int len, Qvx32f* mean, Qvx32f* dev, int hint) { return meanAndDeviationOfFloats(a, len, mean, dev, hint); }
+QvxStatus qvxsMeanStdDev_64f(const Qvx64f* a, int len, Qvx64f* mean, Qvx64f* dev) { return meanAndDeviationOfFloats(a, len, mean, dev, 0); }
+QvxStatus qvxsMeanStdDev_16s_Sfs(const Qvx16s* a, int len, Qvx16s* mean, Qvx16s* dev, int sf) { return meanAndDeviationOfIntegers(a, len, mean, dev, sf); }
+QvxStatus qvxsMeanStdDev_16s32s_Sfs(const Qvx16s* a, int len, Qvx32s* mean, Qvx32s* dev, int sf) { return meanAndDeviationOfIntegers(a, len, mean, dev, sf); }
+// clang-format on
