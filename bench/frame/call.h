@@ -26,7 +26,12 @@ template <class R, class... P, Shape kShape> struct Signature<R (*)(P...), kShap
     while (!kPointer[i] || kSource[i]) ++i;
     return i;
   }
-  static constexpr size_t kLength = kShape == Shape::kMap ? destinationAt() + 1 : destinationAt() - 1;
+  static constexpr size_t kLength = [] {
+    size_t at = destinationAt();
+    if (kShape == Shape::kReduction) return at - 1;
+    while (kPointer[at]) ++at;
+    return at;
+  }();
   // Elements of the destination.
   static int results(const Vectors& v) { return kShape == Shape::kMap ? v.n : 1; }
   using Destination = std::remove_pointer_t<Parameter<destinationAt()>>;
@@ -45,8 +50,10 @@ template <class R, class... P, Shape kShape> struct Signature<R (*)(P...), kShap
   template <size_t I> static auto pointer(const Vectors& v) {
     using T = Parameter<I>;
     if constexpr (!kSource[I]) {
-      // Further results lie a cache line behind the first.
-      return reinterpret_cast<T>(v.slabs.destination() + 64 * (I - destinationAt())) + v.misaligned;
+      // A second vector takes the slab of the third source; further results of a reduction lie a cache line behind the first.
+      constexpr size_t kBehind = I - destinationAt();
+      if (kShape == Shape::kMap && kBehind > 0) return reinterpret_cast<T>(v.slabs.source(2)) + v.misaligned;
+      return reinterpret_cast<T>(v.slabs.destination() + 64 * kBehind) + v.misaligned;
     } else {
       const bool shared = v.overlap != 0 && sourcesBefore(I) == 0;
       std::byte* slab = shared ? v.slabs.destination() : v.slabs.source(sourcesBefore(I));

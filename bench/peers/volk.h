@@ -61,6 +61,16 @@ inline constexpr auto to16s = [](const Qvx8s* a, Qvx16s* d, int n) { volk_8i_con
 inline constexpr auto to64f = [](F a, double* d, int n) { volk_32f_convert_64f(d, a, n); };
 inline constexpr auto from64f = [](const double* a, float* d, int n) { volk_64f_convert_32f(d, a, n); };
 
+inline const lv_16sc_t* complex(const Qvx16sc* p) { return reinterpret_cast<const lv_16sc_t*>(p); }
+inline constexpr auto real16sc = [](const Qvx16sc* a, Qvx16s* d, int n) { volk_16ic_deinterleave_real_16i(d, complex(a), n); };
+inline constexpr auto real32fc = [](C a, float* d, int n) { volk_32fc_deinterleave_real_32f(d, complex(a), n); };
+inline constexpr auto imag32fc = [](C a, float* d, int n) { volk_32fc_deinterleave_imag_32f(d, complex(a), n); };
+inline constexpr auto split16sc = [](const Qvx16sc* a, Qvx16s* re, Qvx16s* im, int n) { volk_16ic_deinterleave_16i_x2(re, im, complex(a), n); };
+inline constexpr auto split32fc = [](C a, float* re, float* im, int n) { volk_32fc_deinterleave_32f_x2(re, im, complex(a), n); };
+inline constexpr auto join32f = [](F re, F im, Qvx32fc* d, int n) { volk_32f_x2_interleave_32fc(complex(d), re, im, n); };
+inline constexpr auto conj32fc = [](C a, Qvx32fc* d, int n) { volk_32fc_conjugate_32fc(complex(d), complex(a), n); };
+inline constexpr auto power32fc = [](C a, float* d, int n) { volk_32fc_magnitude_squared_32f(d, complex(a), n); };
+
 inline constexpr auto sum32f = [](F a, int n, float* r, int) { volk_32f_accumulator_s32f(r, a, n); };
 inline constexpr auto meanStdDev32f = [](F a, int n, float* mean, float* deviation, int) { volk_32f_stddev_and_mean_32f_x2(deviation, mean, a, n); };
 // clang-format on

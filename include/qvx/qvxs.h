@@ -7,6 +7,7 @@
 #include <qvx/qvxs_math.h>
 #include <qvx/qvxs_init.h>
 #include <qvx/qvxs_convert.h>
+#include <qvx/qvxs_complex.h>
 #include <qvx/qvxs_stats.h>
 
 #endif

@@ -289,6 +289,10 @@ template <class Lane, class V> auto widened(V v) {
   else return v;
 }
 
+template <class Lane, class V> auto widened(Pair<V> v) {
+  return each(v, [](auto part) { return widened<Lane>(part); });
+}
+
 // As it is: integers saturated.
 struct AsIs {
   template <class Op, class Dst, class... Src> QvxStatus run(Op op, Dst dst, size_t n, Src... src) const {

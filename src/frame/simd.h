@@ -312,6 +312,64 @@ template <class V> V lanesOfTwo(V a, V b, const int32_t (&order)[16]) {
 }
 #endif
 
+#if HWY_TARGET == HWY_AVX3
+namespace detail {
+template <class T> struct InTurn {
+  static constexpr size_t kLanes = 64 / sizeof(T);
+  T low[kLanes];
+  T high[kLanes];
+  constexpr InTurn() : low(), high() {
+    for (size_t i = 0; i < kLanes; ++i) {
+      low[i] = static_cast<T>(i / 2 + i % 2 * kLanes);
+      high[i] = static_cast<T>(low[i] + kLanes / 2);
+    }
+  }
+};
+template <class T> alignas(64) inline constexpr InTurn<T> kInTurn;
+template <class T> __m512i lanesOfBoth(__m512i a, const T* order, __m512i b) {
+  const __m512i index = _mm512_load_si512(order);
+  if constexpr (sizeof(T) == 2) return _mm512_permutex2var_epi16(a, index, b);
+  else if constexpr (sizeof(T) == 4) return _mm512_permutex2var_epi32(a, index, b);
+  else return _mm512_permutex2var_epi64(a, index, b);
+}
+}  // namespace detail
+#endif
+
+// The lanes of both vectors in turn: lo[0], hi[0], lo[1] ... in the first of the result. And back.
+template <class V> Pair<V> interleaved(Pair<V> v) {
+  const TagOf<V> d;
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (sizeof(v.lo.raw) == 64) {
+    using T = hwy::UnsignedFromSize<sizeof(LaneOf<V>)>;
+    const auto lo = as<uint8_t>(v.lo);
+    const auto hi = as<uint8_t>(v.hi);
+    using B = std::remove_const_t<decltype(lo)>;
+    return {as<LaneOf<V>>(B{detail::lanesOfBoth(lo.raw, detail::kInTurn<T>.low, hi.raw)}),
+            as<LaneOf<V>>(B{detail::lanesOfBoth(lo.raw, detail::kInTurn<T>.high, hi.raw)})};
+  }
+#endif
+  const V lower = hn::InterleaveLower(d, v.lo, v.hi);
+  const V upper = hn::InterleaveUpper(d, v.lo, v.hi);
+  if constexpr (kLanesOf<V> * sizeof(LaneOf<V>) <= 16) return {lower, upper};
+  else return {hn::ConcatLowerLower(d, upper, lower), hn::ConcatUpperUpper(d, upper, lower)};
+}
+template <class V> Pair<V> deinterleaved(Pair<V> v) {
+  const TagOf<V> d;
+  return {hn::ConcatEven(d, v.hi, v.lo), hn::ConcatOdd(d, v.hi, v.lo)};
+}
+
+// The lanes from the last to the first.
+template <class V> V reversed(V v) {
+  const TagOf<V> d;
+  if constexpr (sizeof(LaneOf<V>) == 1) {
+    const V inBlocks = hn::TableLookupBytes(v, hn::AndNot(hn::Iota(d, 0), same<V>(15)));
+    if constexpr (kLanesOf<V> <= 16) return inBlocks;
+    else return hn::ReverseBlocks(d, inBlocks);
+  } else {
+    return hn::Reverse(d, v);
+  }
+}
+
 // narrow() for two vectors that follow each other in memory.
 template <class To, class V> auto narrowInOrder(Pair<V> v) {
   auto packed = narrow<To>(v);

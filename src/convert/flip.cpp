@@ -1,0 +1,108 @@
+// Vectors from their last element to their first.
+#include "frame/map.h"
+
+using namespace qvx;
+
+namespace {
+
+// Lanes as wide as the element, but the widest element has a lane for each part.
+template <class T>
+using Word = std::conditional_t<(sizeof(T) > 8), Part<T>, hwy::UnsignedFromSize<std::min<size_t>(sizeof(T), 8)>>;
+template <class T> inline constexpr size_t kWords = sizeof(T) / sizeof(Word<T>);
+
+template <class T> Word<T>* words(T* p) { return reinterpret_cast<Word<T>*>(p); }
+template <class T> const Word<T>* words(const T* p) { return reinterpret_cast<const Word<T>*>(p); }
+
+template <size_t kWordsOfElement, class V> V flipped(V v) {
+  if constexpr (kWordsOfElement == 1) return reversed(v);
+  else return hn::Reverse2(TagOf<V>(), reversed(v));
+}
+
+// The first n elements, which fill no vector of 16 bytes, flipped to the front of it.
+template <size_t kElementBytes, class V> V flippedFirst(V v, size_t n) {
+  const Lanes<uint8_t, 16> d;
+  const auto last = hn::Set(d, static_cast<uint8_t>((n - 1) * kElementBytes));
+  const auto element = hn::AndNot(hn::Set(d, kElementBytes - 1), hn::Iota(d, 0));
+  const auto within = hn::And(hn::Set(d, kElementBytes - 1), hn::Iota(d, 0));
+  return as<LaneOf<V>>(hn::TableLookupBytesOr0(as<uint8_t>(v), last - element + within));
+}
+
+// A source that is read from its end.
+template <class T> struct Flipped {
+  using Lane = Word<T>;
+  const Lane* p;
+  size_t lanes;
+
+  template <size_t N> auto get(size_t at) const { return flipped<kWords<T>>(load(Lanes<Lane, N>(), p + lanes - at - N)); }
+  template <size_t N> auto get(size_t, size_t n) const {
+    return flippedFirst<sizeof(T)>(loadFirst(Lanes<Lane, N>(), p, n), n / kWords<T>);
+  }
+};
+
+template <class Op, class T> QvxStatus flip(const T* src, T* dst, int len, Op op) {
+  const QvxStatus status = check(len, src, dst);
+  if (status != qvxStatOk) return status;
+  const size_t lanes = elements(len) * kWords<T>;
+  const Flipped<T> flipped{words(src), lanes};
+  if constexpr (kWords<T> == 1) return loop(op, destination(words(dst)), lanes, flipped);
+  else return loop(op, destination(dst), lanes, flipped);
+}
+
+// The lanes between two ends: both are read before either is written.
+template <size_t kWordsOfElement, size_t N, class T> void flipBetween(T* p, size_t n) {
+  const Lanes<T, N> d;
+  for (; n >= 2 * N; p += N, n -= 2 * N) {
+    const auto first = flipped<kWordsOfElement>(load(d, p));
+    const auto last = flipped<kWordsOfElement>(load(d, p + n - N));
+    store(last, d, p);
+    store(first, d, p + n - N);
+  }
+  if (n >= N) {
+    const auto first = flipped<kWordsOfElement>(load(d, p));
+    const auto last = flipped<kWordsOfElement>(load(d, p + n - N));
+    store(last, d, p);
+    store(first, d, p + n - N);
+  } else if constexpr (N * sizeof(T) > 16) {
+    flipBetween<kWordsOfElement, N / 2>(p, n);
+  } else if (n > kWordsOfElement) {
+    storeFirst(flippedFirst<kWordsOfElement * sizeof(T)>(loadFirst(d, p, n), n / kWordsOfElement), d, p, n);
+  }
+}
+
+template <class T> QvxStatus flipInPlace(T* dst, int len) {
+  const QvxStatus status = check(len, dst);
+  if (status == qvxStatOk) flipBetween<kWords<T>, kVectorBytes / sizeof(Word<T>)>(words(dst), elements(len) * kWords<T>);
+  return status;
+}
+
+constexpr auto asIs = [](auto v) { return v; };
+
+// Conjugates, in words of the element.
+constexpr auto conjugate16 = [](auto v) {
+  const auto z = as<int16_t>(v);
+  const TagOf<std::remove_const_t<decltype(z)>> d;
+  return as<uint32_t>(hn::OddEven(hn::SaturatedSub(hn::Zero(d), z), z));
+};
+constexpr auto conjugate32 = [](auto v) { return v ^ same<decltype(v)>(uint64_t{1} << 63); };
+constexpr auto conjugate64 = [](auto v) { return hn::OddEven(hn::Neg(v), v); };
+
+}  // namespace
+
+// clang-format off
+QvxStatus qvxsConjFlip_16sc(const Qvx16sc* a, Qvx16sc* d, int len) { return flip(a, d, len, conjugate16); }
+QvxStatus qvxsConjFlip_32fc(const Qvx32fc* a, Qvx32fc* d, int len) { return flip(a, d, len, conjugate32); }
+QvxStatus qvxsConjFlip_64fc(const Qvx64fc* a, Qvx64fc* d, int len) { return flip(a, d, len, conjugate64); }
+
+QvxStatus qvxsFlip_8u(const Qvx8u* a, Qvx8u* d, int len) { return flip(a, d, len, asIs); }
+QvxStatus qvxsFlip_8u_I(Qvx8u* d, int len) { return flipInPlace(d, len); }
+QvxStatus qvxsFlip_16u(const Qvx16u* a, Qvx16u* d, int len) { return flip(a, d, len, asIs); }
+QvxStatus qvxsFlip_16u_I(Qvx16u* d, int len) { return flipInPlace(d, len); }
+QvxStatus qvxsFlip_32f(const Qvx32f* a, Qvx32f* d, int len) { return flip(a, d, len, asIs); }
+QvxStatus qvxsFlip_32f_I(Qvx32f* d, int len) { return flipInPlace(d, len); }
+QvxStatus qvxsFlip_64f(const Qvx64f* a, Qvx64f* d, int len) { return flip(a, d, len, asIs); }
+QvxStatus qvxsFlip_64f_I(Qvx64f* d, int len) { return flipInPlace(d, len); }
+QvxStatus qvxsFlip_32fc(const Qvx32fc* a, Qvx32fc* d, int len) { return flip(a, d, len, asIs); }
+QvxStatus qvxsFlip_32fc_I(Qvx32fc* d, int len) { return flipInPlace(d, len); }
+QvxStatus qvxsFlip_64fc(const Qvx64fc* a, Qvx64fc* d, int len) { return flip(a, d, len, asIs); }
+QvxStatus qvxsFlip_64fc_I(Qvx64fc* d, int len) { return flipInPlace(d, len); }
+// clang-format on

@@ -1,0 +1,77 @@
+// Complex vectors as two real ones, in memory or in registers: sources and destinations of the loop engine.
+#pragma once
+
+#include "frame/map.h"
+
+namespace qvx {
+
+// Interleaved parts, as a Pair of the real and the imaginary ones.
+template <class T> struct Deinterleaved {
+  using Lane = T;
+  const T* p;
+
+  template <size_t N> auto get(size_t at) const {
+    const Lanes<T, N> d;
+    return deinterleaved(Pair<Vec<Lanes<T, N>>>{load(d, p + 2 * at), load(d, p + 2 * at + N)});
+  }
+  template <size_t N> auto get(size_t at, size_t n) const {
+    const Lanes<T, N> d;
+    const size_t low = std::min(2 * n, N);
+    const auto high = 2 * n == low ? hn::Zero(d) : loadFirst(d, p + 2 * at + low, 2 * n - low);
+    return deinterleaved(Pair<Vec<Lanes<T, N>>>{loadFirst(d, p + 2 * at, low), high});
+  }
+  Deinterleaved from(size_t at) const { return {p + 2 * at}; }
+};
+template <class T> Deinterleaved<Part<T>> deinterleaved(const T* p) { return {parts(p)}; }
+
+// A Pair of real and imaginary parts to two vectors.
+template <class T> struct SplitDestination {
+  using Lane = T;
+  static constexpr size_t kParts = 1;
+  T* re;
+  T* im;
+
+  template <size_t N, class V> void put(Pair<V> v, size_t at) const {
+    store(v.lo, Lanes<T, N>(), re + at);
+    store(v.hi, Lanes<T, N>(), im + at);
+  }
+  template <size_t N, class V> void put(Pair<V> v, size_t at, size_t n) const {
+    storeFirst(v.lo, Lanes<T, N>(), re + at, n);
+    storeFirst(v.hi, Lanes<T, N>(), im + at, n);
+  }
+  template <size_t N> size_t misaligned() const { return Destination<T>{re}.template misaligned<N>(); }
+  SplitDestination from(size_t at) const { return {re + at, im + at}; }
+};
+
+// A Pair of real and imaginary parts, interleaved.
+template <class T> struct InterleavedDestination {
+  using Lane = T;
+  static constexpr size_t kParts = 1;
+  T* p;
+
+  template <size_t N, class V> void put(Pair<V> v, size_t at) const {
+    const Lanes<T, N> d;
+    const Pair<V> both = interleaved(v);
+    store(both.lo, d, p + 2 * at);
+    store(both.hi, d, p + 2 * at + N);
+  }
+  template <size_t N, class V> void put(Pair<V> v, size_t at, size_t n) const {
+    const Lanes<T, N> d;
+    const Pair<V> both = interleaved(v);
+    const size_t low = std::min(2 * n, N);
+    storeFirst(both.lo, d, p + 2 * at, low);
+    if (2 * n > low) storeFirst(both.hi, d, p + 2 * at + low, 2 * n - low);
+  }
+  // A vector of the destination has twice as many bytes as one of a part: N elements never split at the same place.
+  template <size_t N> size_t misaligned() const {
+    const size_t bytes = reinterpret_cast<uintptr_t>(p) % (N * sizeof(T));
+    return bytes % (2 * sizeof(T)) == 0 ? (N - bytes / sizeof(T)) % N / 2 : 0;
+  }
+  InterleavedDestination from(size_t at) const { return {p + 2 * at}; }
+};
+
+template <class T> Deinterleaved<T> source(Deinterleaved<T> v) { return v; }
+template <class T> const T* pointerOf(Deinterleaved<T> v) { return v.p; }
+template <class T> InterleavedDestination<T> destination(InterleavedDestination<T> v) { return v; }
+
+}  // namespace qvx
