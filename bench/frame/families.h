@@ -15,6 +15,7 @@ void widen(Suite& suite);
 void narrow(Suite& suite);
 void floatToInt(Suite& suite);
 void half(Suite& suite);
+void sqr(Suite& suite);
 void sqrt(Suite& suite);
 void sum(Suite& suite);
 

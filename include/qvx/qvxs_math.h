@@ -8,15 +8,69 @@
 extern "C" {
 #endif
 
-/** dst[n] = square root of src[n], the principal one; the _I forms: of srcDst[n].
- *  Floats: correctly rounded. A real element below 0 becomes the processor's quiet NaN.
+/** dst[n] = src[n]^2; integers times 2^-scaleFactor, nearest even, saturated; the _I and _ISfs forms: of srcDst[n].
+ *  Exact but for that one rounding. Floats: one multiplication; complex floats: re*re - im*im and re*im + im*re, each operation
+ *  rounded by itself.
+ *  pSrc, pDst: len elements each, any alignment.
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
+QVXS_API(QvxStatus, qvxsSqr_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsSqr_32f_I, (Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSqr_32fc, (const Qvx32fc* pSrc, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSqr_32fc_I, (Qvx32fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSqr_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsSqr_64f_I, (Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSqr_64fc, (const Qvx64fc* pSrc, Qvx64fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSqr_64fc_I, (Qvx64fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSqr_8u_Sfs, (const Qvx8u* pSrc, Qvx8u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqr_8u_ISfs, (Qvx8u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqr_16u_Sfs, (const Qvx16u* pSrc, Qvx16u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqr_16u_ISfs, (Qvx16u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqr_16s_Sfs, (const Qvx16s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqr_16s_ISfs, (Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqr_16sc_Sfs, (const Qvx16sc* pSrc, Qvx16sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqr_16sc_ISfs, (Qvx16sc* pSrcDst, int len, int scaleFactor));
+
+/** dst[n] = square root of src[n], the principal one; integers times 2^-scaleFactor, nearest even, saturated; the _I and _ISfs
+ *  forms: of srcDst[n].
+ *  Real floats: correctly rounded. Integers: the root of the exact value, rounded once, at every scale factor; of 16sc each part
+ *  of the exact complex root. Complex floats: each part within 0.501 (32fc) and 2 (64fc) units in its last place, without
+ *  overflow or loss for parts of any size; zeros, infinities and what is not a number as csqrt has them.
+ *  A real element below 0 has no root: floats become the processor's quiet NaN, integers 0.
  *  pSrc, pDst: len elements each, any alignment. Long vectors may be divided between two threads.
  *  Returns qvxStatOk; qvxWarnSqrtNegArg if a real element was below 0 (the others are complete); qvxStatNullPtr;
  *  qvxStatBadSize (len < 1). */
 QVXS_API(QvxStatus, qvxsSqrt_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
 QVXS_API(QvxStatus, qvxsSqrt_32f_I, (Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSqrt_32fc, (const Qvx32fc* pSrc, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSqrt_32fc_I, (Qvx32fc* pSrcDst, int len));
 QVXS_API(QvxStatus, qvxsSqrt_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
 QVXS_API(QvxStatus, qvxsSqrt_64f_I, (Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSqrt_64fc, (const Qvx64fc* pSrc, Qvx64fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsSqrt_64fc_I, (Qvx64fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsSqrt_8u_Sfs, (const Qvx8u* pSrc, Qvx8u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqrt_8u_ISfs, (Qvx8u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqrt_16u_Sfs, (const Qvx16u* pSrc, Qvx16u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqrt_16u_ISfs, (Qvx16u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqrt_16s_Sfs, (const Qvx16s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqrt_16s_ISfs, (Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqrt_16sc_Sfs, (const Qvx16sc* pSrc, Qvx16sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqrt_16sc_ISfs, (Qvx16sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqrt_64s_Sfs, (const Qvx64s* pSrc, Qvx64s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqrt_64s_ISfs, (Qvx64s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqrt_32s16s_Sfs, (const Qvx32s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsSqrt_64s16s_Sfs, (const Qvx64s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
+
+/** dst[n] = |src[n]|; the _I forms: of srcDst[n]. The most negative integer becomes the largest; floats lose their sign bit.
+ *  pSrc, pDst: len elements each, any alignment.
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
+QVXS_API(QvxStatus, qvxsAbs_16s, (const Qvx16s* pSrc, Qvx16s* pDst, int len));
+QVXS_API(QvxStatus, qvxsAbs_16s_I, (Qvx16s* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAbs_32s, (const Qvx32s* pSrc, Qvx32s* pDst, int len));
+QVXS_API(QvxStatus, qvxsAbs_32s_I, (Qvx32s* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAbs_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsAbs_32f_I, (Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsAbs_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsAbs_64f_I, (Qvx64f* pSrcDst, int len));
 
 #ifdef __cplusplus
 }
