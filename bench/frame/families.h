@@ -17,6 +17,7 @@ void floatToInt(Suite& suite);
 void half(Suite& suite);
 void sqr(Suite& suite);
 void sqrt(Suite& suite);
+void integerMath(Suite& suite);
 void sum(Suite& suite);
 
 }  // namespace bench

@@ -38,7 +38,7 @@ template <class Op> struct WithItself {
 };
 
 // A function of one real, times 2^-s, to an integer. kScalar: one element at a time, as where the function is a call.
-template <auto kFunction, class Real, bool kScalar = false> struct Rounded {
+template <auto kFunction, class Real, bool kScalar = false> struct RoundedFunction {
   static constexpr bool kAccumulates = false;
   template <class D, class E, class L> static void dispatch(const L& loop, int s) {
     const Real factor = powerOfTwo<Real>(-s);

@@ -6,10 +6,10 @@
 namespace bench {
 
 namespace {
-using Scaled = plain::Rounded<plain::rootOrZero, float>;
-using ScaledScalar = plain::Rounded<plain::rootOrZero, float, true>;
-using ScaledInDoubles = plain::Rounded<plain::rootOrZero, double>;
-using ScaledInDoublesScalar = plain::Rounded<plain::rootOrZero, double, true>;
+using Scaled = plain::RoundedFunction<plain::rootOrZero, float>;
+using ScaledScalar = plain::RoundedFunction<plain::rootOrZero, float, true>;
+using ScaledInDoubles = plain::RoundedFunction<plain::rootOrZero, double>;
+using ScaledInDoublesScalar = plain::RoundedFunction<plain::rootOrZero, double, true>;
 constexpr auto kDiffers = Agreement::kDiffers;
 }  // namespace
 
@@ -26,7 +26,7 @@ void sqrt(Suite& s) {
   s.row("Sqrt_16s_Sfs, scale 0", qvxsSqrt_16s_Sfs, 0).plain(Scaled()).against("scalar", plain::loopFor<ScaledScalar, decltype(&qvxsSqrt_16s_Sfs)>());
   s.row("Sqrt_16s_Sfs, scale -7", qvxsSqrt_16s_Sfs, -7).plain(Scaled(), kDiffers).against("scalar", plain::loopFor<ScaledScalar, decltype(&qvxsSqrt_16s_Sfs)>(), kDiffers);
   s.row("Sqrt_16s_Sfs, scale 2", qvxsSqrt_16s_Sfs, 2).plain(Scaled()).against("scalar", plain::loopFor<ScaledScalar, decltype(&qvxsSqrt_16s_Sfs)>());
-  s.row("Sqrt_16sc_Sfs, scale 0", qvxsSqrt_16sc_Sfs, 0).plain(plain::Rounded<plain::rootOrZero, double>(), kDiffers);
+  s.row("Sqrt_16sc_Sfs, scale 0", qvxsSqrt_16sc_Sfs, 0).plain(plain::RoundedFunction<plain::rootOrZero, double>(), kDiffers);
   s.row("Sqrt_64s_Sfs, scale 0", qvxsSqrt_64s_Sfs, 0).plain(ScaledInDoubles()).against("bit trials", plain::bitTrials, kDiffers);
   s.row("Sqrt_64s_Sfs, scale 3", qvxsSqrt_64s_Sfs, 3).plain(ScaledInDoubles());
   s.row("Sqrt_64s_Sfs, scale -8", qvxsSqrt_64s_Sfs, -8).plain(ScaledInDoubles()).against("bit trials", plain::bitTrials, kDiffers);

@@ -60,6 +60,11 @@ QVXS_API(QvxStatus, qvxsSqrt_64s_ISfs, (Qvx64s* pSrcDst, int len, int scaleFacto
 QVXS_API(QvxStatus, qvxsSqrt_32s16s_Sfs, (const Qvx32s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
 QVXS_API(QvxStatus, qvxsSqrt_64s16s_Sfs, (const Qvx64s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
 
+/** dst[n] = cube root of src[n], times 2^-scaleFactor, half a unit rounded up, saturated. Exact but for that one rounding.
+ *  pSrc, pDst: len elements each, any alignment.
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
+QVXS_API(QvxStatus, qvxsCubrt_32s16s_Sfs, (const Qvx32s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
+
 /** dst[n] = |src[n]|; the _I forms: of srcDst[n]. The most negative integer becomes the largest; floats lose their sign bit.
  *  pSrc, pDst: len elements each, any alignment.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
@@ -71,6 +76,18 @@ QVXS_API(QvxStatus, qvxsAbs_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
 QVXS_API(QvxStatus, qvxsAbs_32f_I, (Qvx32f* pSrcDst, int len));
 QVXS_API(QvxStatus, qvxsAbs_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
 QVXS_API(QvxStatus, qvxsAbs_64f_I, (Qvx64f* pSrcDst, int len));
+
+/** dst[n] = e^src[n], times 2^-scaleFactor, half a unit rounded up, saturated; the _ISfs forms: of srcDst[n].
+ *  e^x is taken as the nearest double: results of 64 bits have its 53. Where it is beyond all doubles, from x = 710 on, the result
+ *  is the largest number at any scale factor.
+ *  pSrc, pDst: len elements each, any alignment.
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
+QVXS_API(QvxStatus, qvxsExp_16s_Sfs, (const Qvx16s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsExp_16s_ISfs, (Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsExp_32s_Sfs, (const Qvx32s* pSrc, Qvx32s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsExp_32s_ISfs, (Qvx32s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsExp_64s_Sfs, (const Qvx64s* pSrc, Qvx64s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsExp_64s_ISfs, (Qvx64s* pSrcDst, int len, int scaleFactor));
 
 #ifdef __cplusplus
 }
