@@ -5,6 +5,7 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <utility>
 
 #include "frame/check.h"
@@ -149,6 +150,7 @@ template <class T> Constant<T> source(Constant<T> c) { return c; }
 template <class T> Doubled<T> source(Doubled<T> d) { return d; }
 template <class T> OnesBehind<T> source(OnesBehind<T> v) { return v; }
 template <class T> InPairs<T> source(InPairs<T> v) { return v; }
+inline Places source(Places places) { return places; }
 template <class T> Destination<T> destination(T* p) { return {parts(p)}; }
 
 template <class T> const T* pointerOf(const T* p) { return p; }
@@ -157,6 +159,7 @@ template <class T> const T* pointerOf(OnesBehind<T> v) { return v.p; }
 template <class T> const T* pointerOf(InPairs<T> v) { return v.p; }
 inline constexpr char kNotNull = 0;
 template <class T> const char* pointerOf(Constant<T>) { return &kNotNull; }
+inline const char* pointerOf(Places) { return &kNotNull; }
 
 // ---- warnings: a kernel with a kWarning is called with a Flag before its vectors, which it raises in the lanes that have no
 // proper result. The loop's status is then that warning.
@@ -170,24 +173,57 @@ class Flag {
   uint64_t lanes_ = 0;
 };
 
+// For two kinds of warning, of which the first element's stands: what a kernel with a type `Watch` is called with instead. A
+// vector's two ends are computed before what is between them, so the elements are told apart by number.
+class FirstFlag {
+ public:
+  // kind(lane) is the warning for a raised lane.
+  template <class Kind> void raise(Place place, uint64_t lanes, Kind kind) {
+    if (lanes == 0) return;
+    const auto lane = static_cast<size_t>(std::countr_zero(lanes));
+    if (place.at + lane >= at_) return;
+    at_ = place.at + lane;
+    status_ = kind(lane);
+  }
+  QvxStatus status() const { return status_; }
+
+ private:
+  size_t at_ = ~size_t{0};
+  QvxStatus status_ = qvxStatOk;
+};
+
 template <QvxStatus kStatus, class Kernel> struct Warns : Kernel { static constexpr QvxStatus kWarning = kStatus; };
 template <QvxStatus kStatus, class Kernel> Warns<kStatus, Kernel> warns(Kernel kernel) { return {kernel}; }
+template <class Type, class Kernel> struct Watched : Kernel { using Watch = Type; };
+template <class Type, class Kernel> Watched<Type, Kernel> watched(Kernel kernel) { return {kernel}; }
 
-template <class Kernel> inline constexpr bool kWarns = requires { Kernel::kWarning; };
+template <class Kernel> inline constexpr bool kWarnsOfFirst = requires { typename Kernel::Watch; };
+template <class Kernel> inline constexpr bool kWarns = kWarnsOfFirst<Kernel> || requires { Kernel::kWarning; };
 
-template <class Kernel, class... V> auto call(const Kernel& kernel, [[maybe_unused]] Flag& flag, V... v) {
-  if constexpr (kWarns<Kernel>) return kernel(flag, v...);
+template <class Kernel> struct WatchFor { using Type = Flag; };
+template <class Kernel>
+requires kWarnsOfFirst<Kernel>
+struct WatchFor<Kernel> {
+  using Type = typename Kernel::Watch;
+};
+
+template <class Kernel, class Watch, class... V> auto call(const Kernel& kernel, [[maybe_unused]] Watch& watch, V... v) {
+  if constexpr (kWarns<Kernel>) return kernel(watch, v...);
   else return kernel(v...);
 }
 
-template <class Kernel> QvxStatus statusOf([[maybe_unused]] const Flag& flag) {
-  if constexpr (kWarns<Kernel>) return flag.isRaised() ? Kernel::kWarning : qvxStatOk;
+template <class Kernel, class Watch> QvxStatus statusOf([[maybe_unused]] const Watch& watch) {
+  if constexpr (kWarnsOfFirst<Kernel>) return watch.status();
+  else if constexpr (kWarns<Kernel>) return watch.isRaised() ? Kernel::kWarning : qvxStatOk;
   else return qvxStatOk;
 }
 
 // An operation's arguments brought to the right lanes before it is called, its warnings kept.
 template <class Op, class Prepare> auto behind(Prepare prepare, Op op) {
-  if constexpr (kWarns<Op>) {
+  if constexpr (kWarnsOfFirst<Op>) {
+    using Watch = typename Op::Watch;
+    return watched<Watch>([=](Watch& watch, auto... v) { return op(watch, prepare(v)...); });
+  } else if constexpr (kWarns<Op>) {
     return warns<Op::kWarning>([=](Flag& flag, auto... v) { return op(flag, prepare(v)...); });
   } else {
     return [=](auto... v) { return op(prepare(v)...); };
@@ -215,7 +251,7 @@ inline constexpr size_t kWorthAligning = 8;
 // Flattened: a kernel that the compiler leaves as a function of its own finds its constants in memory, and takes twice the time.
 template <size_t N, size_t kWidest, class Kernel, class Dst, class... Src>
 [[gnu::flatten]] QvxStatus loopOf(Kernel kernel, Dst dst, size_t n, Src... src) {
-  Flag flag;
+  typename WatchFor<Kernel>::Type flag;
   const auto at = [&](size_t i) { return call(kernel, flag, src.template get<N>(i)...); };
   if (n < N) {
     if constexpr (N * kWidest > 16) {
@@ -285,7 +321,8 @@ template <class To, class V> auto convertLanes(V v) {
 
 // A source narrower than the destination is widened before the operation; one of another kind but no narrower is left to it.
 template <class Lane, class V> auto widened(V v) {
-  if constexpr (sizeof(LaneOf<V>) < sizeof(Lane)) return convertLanes<Lane>(v);
+  if constexpr (std::is_same_v<V, Place>) return v;
+  else if constexpr (sizeof(LaneOf<V>) < sizeof(Lane)) return convertLanes<Lane>(v);
   else return v;
 }
 

@@ -124,6 +124,40 @@ inline __m512i toInt64(__m512d v) { return _mm512_cvttpd_epi64(v); }
 inline __m128i saturatedTo32(__m128i v) { return _mm_cvtsepi64_epi32(v); }
 inline __m128i saturatedTo32(__m256i v) { return _mm256_cvtsepi64_epi32(v); }
 inline __m256i saturatedTo32(__m512i v) { return _mm512_cvtsepi64_epi32(v); }
+
+// Instructions that take a rounding mode or two registers of table exist, or are as fast, for the widest register. Narrower ones
+// go through it, which costs nothing: what their upper lanes give is dropped.
+inline __m512 whole(__m128 v) { return _mm512_castps128_ps512(v); }
+inline __m512 whole(__m256 v) { return _mm512_castps256_ps512(v); }
+inline __m512 whole(__m512 v) { return v; }
+inline __m512d whole(__m128d v) { return _mm512_castpd128_pd512(v); }
+inline __m512d whole(__m256d v) { return _mm512_castpd256_pd512(v); }
+inline __m512d whole(__m512d v) { return v; }
+inline __m512i whole(__m128i v) { return _mm512_castsi128_si512(v); }
+inline __m512i whole(__m256i v) { return _mm512_castsi256_si512(v); }
+inline __m512i whole(__m512i v) { return v; }
+inline void partOf(__m512 v, __m128& part) { part = _mm512_castps512_ps128(v); }
+inline void partOf(__m512 v, __m256& part) { part = _mm512_castps512_ps256(v); }
+inline void partOf(__m512 v, __m512& part) { part = v; }
+inline void partOf(__m512d v, __m128d& part) { part = _mm512_castpd512_pd128(v); }
+inline void partOf(__m512d v, __m256d& part) { part = _mm512_castpd512_pd256(v); }
+inline void partOf(__m512d v, __m512d& part) { part = v; }
+
+inline __m512 mulAddNearest(__m512 a, __m512 b, __m512 c) { return _mm512_fmadd_round_ps(a, b, c, kNearest); }
+inline __m512d mulAddNearest(__m512d a, __m512d b, __m512d c) { return _mm512_fmadd_round_pd(a, b, c, kNearest); }
+inline __m512 scaled(__m512 v, __m512 exponent) { return _mm512_scalef_ps(v, exponent); }
+inline __m512d scaled(__m512d v, __m512d exponent) { return _mm512_scalef_pd(v, exponent); }
+inline __m512 exponent(__m512 v) { return _mm512_getexp_ps(v); }
+inline __m512d exponent(__m512d v) { return _mm512_getexp_pd(v); }
+inline __m512 mantissa(__m512 v) { return _mm512_getmant_ps(v, _MM_MANT_NORM_p75_1p5, _MM_MANT_SIGN_src); }
+inline __m512d mantissa(__m512d v) { return _mm512_getmant_pd(v, _MM_MANT_NORM_p75_1p5, _MM_MANT_SIGN_src); }
+inline __m512 lookup(__m512i i, const float (&t)[16]) { return _mm512_permutexvar_ps(i, _mm512_load_ps(t)); }
+inline __m512 lookup(__m512i i, const float (&t)[32]) {
+  return _mm512_permutex2var_ps(_mm512_load_ps(t), i, _mm512_load_ps(t + 16));
+}
+inline __m512d lookup(__m512i i, const double (&t)[16]) {
+  return _mm512_permutex2var_pd(_mm512_load_pd(t), i, _mm512_load_pd(t + 8));
+}
 #endif
 
 }  // namespace detail
@@ -251,7 +285,8 @@ template <class To, class V> auto widen(V v) {
 
 // yes where the lane's sign bit is set. Highway's own operation takes the other bits too on SSSE3.
 template <class V> V ifNegative(V lane, V yes, V no) {
-  if constexpr (HWY_TARGET == HWY_SSSE3) return hn::IfVecThenElse(hn::BroadcastSignBit(lane), yes, no);
+  using Signed = hwy::SignedFromSize<sizeof(LaneOf<V>)>;
+  if constexpr (HWY_TARGET == HWY_SSSE3) return hn::IfVecThenElse(as<LaneOf<V>>(hn::BroadcastSignBit(as<Signed>(lane))), yes, no);
   else return hn::IfNegativeThenElse(lane, yes, no);
 }
 
@@ -309,6 +344,39 @@ template <class V> auto saturatedTo32(V v) {
 template <class V> V lanesOfTwo(V a, V b, const int32_t (&order)[16]) {
   static_assert(sizeof(a.raw) == 64);
   return V{_mm512_permutex2var_epi32(a.raw, _mm512_load_si512(order), b.raw)};
+}
+#endif
+
+#if HWY_TARGET == HWY_AVX3
+// A table of 16 or 32 floats or 16 doubles, 64-byte aligned, that stays in registers; of the index only the bits that count.
+template <class V, class T, size_t kEntries> V lookup(Vec<hn::RebindToUnsigned<TagOf<V>>> index, const T (&table)[kEntries]) {
+  V v;
+  detail::partOf(detail::lookup(detail::whole(index.raw), table), v.raw);
+  return v;
+}
+
+// a * b + c, to nearest whatever the processor's mode.
+template <class V> V mulAddNearest(V a, V b, V c) {
+  detail::partOf(detail::mulAddNearest(detail::whole(a.raw), detail::whole(b.raw), detail::whole(c.raw)), a.raw);
+  return a;
+}
+
+// v * 2^floor(exponent), rounded once, for any exponent.
+template <class V> V scaledBy(V v, V exponent) {
+  detail::partOf(detail::scaled(detail::whole(v.raw), detail::whole(exponent.raw)), v.raw);
+  return v;
+}
+
+// The mantissa between 0.75 and 1.5, with v's sign.
+template <class V> V mantissaOf(V v) {
+  detail::partOf(detail::mantissa(detail::whole(v.raw)), v.raw);
+  return v;
+}
+
+// The exponent floor(log2 |v|): infinite for zero and infinity; what is not a number stays so.
+template <class V> V exponentOf(V v) {
+  detail::partOf(detail::exponent(detail::whole(v.raw)), v.raw);
+  return v;
 }
 #endif
 
