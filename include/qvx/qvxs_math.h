@@ -77,6 +77,17 @@ QVXS_API(QvxStatus, qvxsAbs_32f_I, (Qvx32f* pSrcDst, int len));
 QVXS_API(QvxStatus, qvxsAbs_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
 QVXS_API(QvxStatus, qvxsAbs_64f_I, (Qvx64f* pSrcDst, int len));
 
+/** dst[n] = e to the power of src[n]; the _I forms: of srcDst[n]. 32f64f: from a float, computed and given as a double.
+ *  Accuracy: 1.0 ULP, with AVX-512 0.80 ULP, subnormal results included. -infinity gives 0, results too
+ *  large infinity, NaN gives NaN; all without a warning.
+ *  pSrc, pDst: len elements each, any alignment.
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
+QVXS_API(QvxStatus, qvxsExp_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsExp_32f_I, (Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsExp_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsExp_64f_I, (Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsExp_32f64f, (const Qvx32f* pSrc, Qvx64f* pDst, int len));
+
 /** dst[n] = e^src[n], times 2^-scaleFactor, half a unit rounded up, saturated; the _ISfs forms: of srcDst[n].
  *  e^x is taken as the nearest double: results of 64 bits have its 53. Where it is beyond all doubles, from x = 710 on, the result
  *  is the largest number at any scale factor.
@@ -89,17 +100,6 @@ QVXS_API(QvxStatus, qvxsExp_32s_ISfs, (Qvx32s* pSrcDst, int len, int scaleFactor
 QVXS_API(QvxStatus, qvxsExp_64s_Sfs, (const Qvx64s* pSrc, Qvx64s* pDst, int len, int scaleFactor));
 QVXS_API(QvxStatus, qvxsExp_64s_ISfs, (Qvx64s* pSrcDst, int len, int scaleFactor));
 
-/** dst[n] = e to the power of src[n]; the _I forms: of srcDst[n]. 32f64f: from a float, computed and given as a double.
- *  Accuracy: 1.0 ULP, with AVX-512 0.80 ULP, subnormal results included. -infinity gives 0, results too
- *  large infinity, NaN gives NaN; all without a warning.
- *  pSrc, pDst: len elements each, any alignment.
- *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
-QVXS_API(QvxStatus, qvxsExp_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
-QVXS_API(QvxStatus, qvxsExp_32f_I, (Qvx32f* pSrcDst, int len));
-QVXS_API(QvxStatus, qvxsExp_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
-QVXS_API(QvxStatus, qvxsExp_64f_I, (Qvx64f* pSrcDst, int len));
-QVXS_API(QvxStatus, qvxsExp_32f64f, (const Qvx32f* pSrc, Qvx64f* pDst, int len));
-
 /** dst[n] = natural logarithm of src[n]; the _I forms: of srcDst[n]. 64f32f: of a double, given as a float.
  *  Accuracy: 0.85 ULP, 64f with AVX-512 1.1 ULP, subnormal arguments included; 64f32f: 0.51 ULP.
  *  +0 gives -infinity, a negative number and -0 the NaN 0xFFC00000 (0xFFF8000000000000), infinity and NaN themselves.
@@ -111,6 +111,21 @@ QVXS_API(QvxStatus, qvxsLn_32f_I, (Qvx32f* pSrcDst, int len));
 QVXS_API(QvxStatus, qvxsLn_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
 QVXS_API(QvxStatus, qvxsLn_64f_I, (Qvx64f* pSrcDst, int len));
 QVXS_API(QvxStatus, qvxsLn_64f32f, (const Qvx64f* pSrc, Qvx32f* pDst, int len));
+
+/** dst[n] = natural logarithm of src[n], times 2^-scaleFactor, nearest even, saturated; the _ISfs forms: of srcDst[n].
+ *  Rounded once, from the exact logarithm. An element below 1 gives the most negative number of the destination's type.
+ *  pSrc, pDst: len elements each, any alignment.
+ *  Returns qvxStatOk; if elements were below 1 (everything is written), by the first of them: qvxWarnLnZeroArg if it was 0,
+ *  qvxWarnLnNegArg if it was less; qvxStatNullPtr; qvxStatBadSize (len < 1). */
+QVXS_API(QvxStatus, qvxsLn_16s_Sfs, (const Qvx16s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsLn_16s_ISfs, (Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsLn_32s_Sfs, (const Qvx32s* pSrc, Qvx32s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsLn_32s_ISfs, (Qvx32s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsLn_32s16s_Sfs, (const Qvx32s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
+
+/** dst[n] = 10 times the decimal logarithm of src[n], the rest as with integer logarithms qvxsLn. */
+QVXS_API(QvxStatus, qvxs10Log10_32s_Sfs, (const Qvx32s* pSrc, Qvx32s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxs10Log10_32s_ISfs, (Qvx32s* pSrcDst, int len, int scaleFactor));
 
 #ifdef __cplusplus
 }
