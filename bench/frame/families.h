@@ -15,8 +15,29 @@ void widen(Suite& suite);
 void narrow(Suite& suite);
 void floatToInt(Suite& suite);
 void half(Suite& suite);
+void sqr(Suite& suite);
 void sqrt(Suite& suite);
+void integerMath(Suite& suite);
 void sum(Suite& suite);
 void complexForms(Suite& suite);
+
+// In the order of the library's entry table.
+inline constexpr void (*kFamilies[])(Suite&) = {
+    add,
+    sub,
+    mul,
+    copy,
+    logic,
+    shift,
+    widen,
+    narrow,
+    floatToInt,
+    half,
+    sqr,
+    sqrt,
+    integerMath,
+    sum,
+    complexForms,
+};
 
 }  // namespace bench

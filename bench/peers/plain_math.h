@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <complex>
 
 #include "peers/plain_loop.h"
 
@@ -16,5 +17,62 @@ template <auto kFunction> struct Each {
 };
 
 inline constexpr auto squareRoot = [](auto x) { return std::sqrt(x); };
+
+// Each element as a complex number of the standard library.
+inline constexpr auto complexRoot = [](auto z) {
+  const auto root = std::sqrt(std::complex(z.re, z.im));
+  return decltype(z){root.real(), root.imag()};
+};
+inline constexpr auto magnitude = [](auto x) {
+  using T = decltype(x);
+  if constexpr (std::is_floating_point_v<T>) return std::abs(x);
+  else return x == std::numeric_limits<T>::min() ? std::numeric_limits<T>::max() : static_cast<T>(x < 0 ? -x : x);
+};
+
+// An operation of two elements on one and itself.
+template <class Op> struct WithItself {
+  static constexpr bool kAccumulates = false;
+  template <class D, class E, class L, class... X> static void dispatch(const L& loop, X... scalars) {
+    Op::template dispatch<D, E, E>([&](auto kernel) { loop([kernel](E e) { return kernel(e, e); }); }, scalars...);
+  }
+};
+
+// A function of one real, times 2^-s, to an integer. kScalar: one element at a time, as where the function is a call.
+template <auto kFunction, class Real, bool kScalar = false> struct RoundedFunction {
+  static constexpr bool kAccumulates = false;
+  template <class D, class E, class L> static void dispatch(const L& loop, int s) {
+    const Real factor = powerOfTwo<Real>(-s);
+    const auto one = [factor](auto x) { return std::nearbyint(static_cast<Real>(kFunction(static_cast<Real>(x))) * factor); };
+    const auto limited = [](Real v) {
+      using Limits = std::numeric_limits<D>;
+      return v >= static_cast<Real>(Limits::max())  ? Limits::max()
+             : v > static_cast<Real>(Limits::min()) ? static_cast<D>(v)
+                                                    : Limits::min();
+    };
+    loop([=](E x) {
+      if constexpr (kScalar) __asm__ volatile("");
+      if constexpr (kIsComplex<E>) {
+        const auto root = std::sqrt(std::complex<Real>(x.re, x.im)) * factor;
+        return D{saturate<Part<D>>(std::nearbyint(root.real())), saturate<Part<D>>(std::nearbyint(root.imag()))};
+      } else {
+        return limited(one(x));
+      }
+    });
+  }
+};
+inline constexpr auto rootOrZero = [](auto x) { return std::sqrt(x > 0 ? x : 0); };
+
+// By trial of one bit of the result after the other.
+inline constexpr auto bitTrials = [](const int64_t* src, int64_t* dst, int n, int s) {
+  for (int i = 0; i < n; ++i) {
+    const auto x = static_cast<unsigned __int128>(src[i] > 0 ? src[i] : 0);
+    uint64_t root = 0;
+    for (int bit = 31 - s; bit >= 0; --bit) {
+      const uint64_t trial = root | uint64_t{1} << bit;
+      if (static_cast<unsigned __int128>(trial) * trial <= x << (-2 * s)) root = trial;
+    }
+    dst[i] = static_cast<int64_t>(root);
+  }
+};
 
 }  // namespace plain

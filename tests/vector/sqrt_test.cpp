@@ -1,0 +1,112 @@
+// Square roots of reals: floats, and integers at every scale factor.
+#include <qvx/qvxs.h>
+
+#include <cmath>
+
+#include "reference/roots.h"
+#include "reference/scaled.h"
+#include "vector/unary_members.h"
+
+namespace {
+
+using namespace tests;
+
+constexpr auto kWarning = kBelow0<qvxWarnSqrtNegArg>;
+
+template <class D> constexpr auto rootInto() {
+  return [](auto x, int s) { return reference::saturated<D>(reference::nearestRoot(static_cast<int64_t>(x), s)); };
+}
+
+template <class T> std::vector<T> floats() {
+  Random random(seed());
+  std::vector<T> v = values<T>(900, random);
+  // The first 600 without a warning, with zeros of both signs and the limits of the range.
+  for (size_t i = 0; i < 600; ++i) v[i] = std::fabs(v[i]);
+  using Limits = std::numeric_limits<T>;
+  const T hard[] = {0, -T(0), Limits::infinity(), Limits::max(), Limits::min(), Limits::denorm_min(), Limits::quiet_NaN()};
+  std::copy(std::begin(hard), std::end(hard), v.begin() + 20);
+  v.insert(v.end(), {-Limits::infinity(), -Limits::denorm_min(), -Limits::max()});
+  return v;
+}
+
+template <class T> void floatRoots(QvxStatus (*f)(const T*, T*, int), QvxStatus (*inPlace)(T*, int)) {
+  unary(
+      f, inPlace, floats<T>(), [](T x) { return std::sqrt(x); }, kWarning);
+  // The substitute is the processor's own: its sign bit is set.
+  const T negative = -4;
+  T root = 0;
+  EXPECT_EQ(f(&negative, &root, 1), qvxWarnSqrtNegArg);
+  EXPECT_TRUE(std::isnan(root) && std::signbit(root));
+}
+
+TEST(Sqrt, Floats) {
+  floatRoots(qvxsSqrt_32f, qvxsSqrt_32f_I);
+  floatRoots(qvxsSqrt_64f, qvxsSqrt_64f_I);
+}
+
+TEST(Sqrt, AllNarrowSources) {
+  const std::vector<int> far = {INT32_MIN, INT32_MAX};
+  scaledUnary(qvxsSqrt_8u_Sfs, qvxsSqrt_8u_ISfs, allOf<Qvx8u>(), rootInto<Qvx8u>(), range(-12, 8, far), {-8, -3, 0, 1, 4});
+  scaledUnary(qvxsSqrt_16u_Sfs, qvxsSqrt_16u_ISfs, allOf<Qvx16u>(), rootInto<Qvx16u>(), range(-18, 12, far), {-16, -7, 0, 1, 8});
+  scaledUnary(qvxsSqrt_16s_Sfs, qvxsSqrt_16s_ISfs, allOf<Qvx16s>(), rootInto<Qvx16s>(), range(-18, 12, far),
+              {-15, -7, 0, 1, 8, 9}, kWarning);
+}
+
+// Sources at which the root times 2^-s steps from one integer to the next, with their neighbours: squares of k + 1/2 and of k.
+template <class T> std::vector<T> steps(int s) {
+  std::vector<T> v;
+  Random random(seed() + static_cast<unsigned>(s + 100));
+  const auto add = [&](long double x) {
+    if (!(x < static_cast<long double>(std::numeric_limits<T>::max()) - 2)) return;
+    for (int near = -2; near <= 2; ++near) v.push_back(static_cast<T>(static_cast<T>(x) + near));
+  };
+  const long double most = std::sqrt(static_cast<long double>(std::numeric_limits<T>::max()));
+  for (int i = 0; i < 1500; ++i) {
+    const auto uniform = static_cast<long double>(random()) * 0x1p-64L;
+    const long double root = i % 2 != 0 ? uniform * most : std::exp(uniform * std::log(most));
+    const long double result = std::floor(std::ldexp(root, -s));
+    add(std::pow(std::ldexp(result + 0.5L, s), 2.0L));
+    add(std::pow(std::floor(root), 2.0L));
+  }
+  for (const T x : values<T>(2000, random)) v.push_back(x);
+  return v;
+}
+
+TEST(Sqrt, To16BitsAroundEveryStep) {
+  std::vector<int> scales = range(-17, 34, {INT32_MIN, -40, 40, INT32_MAX});
+  for (const int s : scales) {
+    scaledUnary(qvxsSqrt_32s16s_Sfs, noInPlaceOf<Qvx16s>, steps<Qvx32s>(s), rootInto<Qvx16s>(), {s}, {}, kWarning);
+    scaledUnary(qvxsSqrt_64s16s_Sfs, noInPlaceOf<Qvx16s>, steps<Qvx64s>(s), rootInto<Qvx16s>(), {s}, {}, kWarning);
+    if (HasFailure()) return;
+  }
+  scaledUnary(qvxsSqrt_32s16s_Sfs, noInPlaceOf<Qvx16s>, steps<Qvx32s>(0), rootInto<Qvx16s>(), {}, {-15, -3, 0, 1, 16, 17},
+              kWarning);
+  scaledUnary(qvxsSqrt_64s16s_Sfs, noInPlaceOf<Qvx16s>, steps<Qvx64s>(0), rootInto<Qvx16s>(), {}, {-15, -3, 0, 1, 32, 33},
+              kWarning);
+}
+
+TEST(Sqrt, Of64BitsAroundEveryStep) {
+  for (const int s : range(-66, 36, {INT32_MIN, INT32_MAX})) {
+    scaledUnary(qvxsSqrt_64s_Sfs, qvxsSqrt_64s_ISfs, steps<Qvx64s>(s), rootInto<Qvx64s>(), {s}, {}, kWarning);
+    if (HasFailure()) return;
+  }
+  scaledUnary(qvxsSqrt_64s_Sfs, qvxsSqrt_64s_ISfs, steps<Qvx64s>(0), rootInto<Qvx64s>(), {}, {-63, -31, -1, 0, 1, 32, 33},
+              kWarning);
+}
+
+// Integer results do not depend on the caller's rounding mode.
+TEST(Sqrt, IntegersInEveryRoundingMode) {
+  for (const int mode : kModes) {
+    for (const int s : {-40, -15, -4, 0, 1, 7}) {
+      SCOPED_TRACE(std::to_string(mode) + ", scale factor " + std::to_string(s));
+      Elementwise<Qvx16s, Qvx16s> narrow(std::make_tuple(allOf<Qvx16s>()), [=](Qvx16s x) { return rootInto<Qvx16s>()(x, s); });
+      narrow.warns(kWarning).runOnce(inMode(mode, [=](auto a, auto d, int n) { return qvxsSqrt_16s_Sfs(a, d, n, s); }));
+      Elementwise<Qvx16s, Qvx32s> middle(std::make_tuple(steps<Qvx32s>(s)), [=](Qvx32s x) { return rootInto<Qvx16s>()(x, s); });
+      middle.warns(kWarning).runOnce(inMode(mode, [=](auto a, auto d, int n) { return qvxsSqrt_32s16s_Sfs(a, d, n, s); }));
+      Elementwise<Qvx64s, Qvx64s> wide(std::make_tuple(steps<Qvx64s>(s)), [=](Qvx64s x) { return rootInto<Qvx64s>()(x, s); });
+      wide.warns(kWarning).runOnce(inMode(mode, [=](auto a, auto d, int n) { return qvxsSqrt_64s_Sfs(a, d, n, s); }));
+    }
+  }
+}
+
+}  // namespace
