@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """The numbers of src/vector/*.h: minimax polynomials, and the logarithm's tables of reciprocals. Needs mpmath.
 
-usage: minimax.py exp | ln | tables | arctan
+usage: minimax.py exp | ln | tables | arctan | sin
 
 A polynomial p of degree n is fitted by Remez exchange so that the largest |weight(x) * (p(x) - f(x))| on the interval is least;
 its coefficients are then rounded to the lane's type, lowest power first. "error" is what remains of that largest value after
@@ -11,7 +11,7 @@ import random
 import struct
 import sys
 
-from mpmath import mp, mpf, log, exp, atan, atanh, log1p, expm1, cos, pi, matrix, lu_solve, polyval, nint, sqrt
+from mpmath import mp, mpf, log, exp, atan, atanh, log1p, expm1, cos, sin, pi, matrix, lu_solve, polyval, nint, sqrt
 
 mp.dps = 60
 PLACES = {'float': 24, 'double': 53}
@@ -151,5 +151,21 @@ def fit_arctan():
         fit('arctan', lane, q, lambda z: z + mpf(10)**-30, degree, 0, 1)
 
 
+def fit_sin():
+    def s(z):  # sin r = r + r z s(z), z = r^2
+        return series(z, lambda z: (sin(sqrt(z)) / sqrt(z) - 1) / z, lambda k: mpf((-1)**(k + 1)) / mp.factorial(2 * k + 3))
+    def c(z):  # cos r = 1 - z/2 + z^2 c(z)
+        return series(z, lambda z: (cos(sqrt(z)) - 1 + z / 2) / z**2, lambda k: mpf((-1)**k) / mp.factorial(2 * k + 4))
+    reach = (pi / 4)**2 * mpf('1.0001')
+    for degree in (2, 5):
+        fit('sin', 'double', s, lambda z: z + mpf(10)**-30, degree, 0, reach)
+        fit('cos', 'double', c, lambda z: z**2 + mpf(10)**-30, degree, 0, reach)
+    rest = pi / 2
+    for bits in (33, 33, 53):
+        part = mp.floor(rest * 2**(bits - 1 - int(mp.floor(log(rest, 2))))) / 2**(bits - 1 - int(mp.floor(log(rest, 2))))
+        print('pi/2: ' + float(part).hex())
+        rest -= part
+
+
 if __name__ == '__main__':
-    {'exp': fit_exp, 'ln': fit_ln, 'tables': tables, 'arctan': fit_arctan}[sys.argv[1]]()
+    {'exp': fit_exp, 'ln': fit_ln, 'tables': tables, 'arctan': fit_arctan, 'sin': fit_sin}[sys.argv[1]]()

@@ -1,23 +1,9 @@
 // re^2 + im^2.
-#include "frame/complex.h"
+#include "convert/power.h"
 
 using namespace qvx;
 
 namespace {
-
-struct Power {
-  template <class V> V operator()(V re, V im) const { return re * re + im * im; }
-  template <class V> V operator()(Pair<V> z) const { return (*this)(z.lo, z.hi); }
-};
-
-// Of 16-bit parts side by side: exact, up to 2^31 in lanes of 32 bits.
-template <class V> auto powerOf16(V z) { return as<uint32_t>(pairProducts(as<int16_t>(z), as<int16_t>(z))); }
-
-// The same as floats, rounded once. As a signed integer only 2^31 is negative, and its magnitude is right.
-template <class V> auto toFloat(V power) {
-  const auto i = as<int32_t>(power);
-  return hn::Abs(hn::ConvertTo(hn::Rebind<float, TagOf<std::remove_const_t<decltype(i)>>>(), i));
-}
 
 // Lanes that hold the result times 2^-scaleFactor, not above kMost. What the lanes hold is at most half their range.
 template <class Lane, Lane kMost, class With> QvxStatus scaledPower(int scaleFactor, const With& with) {
@@ -58,29 +44,6 @@ QvxStatus power16(const Qvx16s* re, const Qvx16s* im, Qvx16s* dst, int len, int 
   });
 }
 
-struct Power16ToFloat {
-  template <class V> auto operator()(V z) const { return toFloat(powerOf16(z)); }
-  // Split parts, widened: put side by side again.
-  template <class V> auto operator()(V re, V im) const {
-    const auto low = [](V v) { return hn::PromoteTo(hn::Rebind<uint32_t, TagOf<V>>(), as<uint16_t>(v)); };
-    return (*this)(low(re) | hn::ShiftLeft<16>(low(im)));
-  }
-};
-
-template <class Kernel, class... Src> QvxStatus toFloats(Qvx32f* dst, int len, Kernel kernel, Src... src) {
-  const QvxStatus status = check(len, pointerOf(src)..., dst);
-  return status == qvxStatOk ? loop(kernel, destination(dst), elements(len), source(src)...) : status;
-}
-
-// 32-bit parts: exact, up to 2^63 in lanes of 64 bits.
-struct PowerOf32 {
-  template <class V> auto operator()(V z) const {
-    const auto magnitude = as<uint32_t>(hn::Abs(as<int32_t>(z)));
-    const auto odd = as<uint32_t>(hn::ShiftRight<32>(as<uint64_t>(magnitude)));
-    return hn::MulEven(magnitude, magnitude) + hn::MulEven(odd, odd);
-  }
-};
-
 QvxStatus power32Complex(const Qvx32sc* src, Qvx32s* dst, int len, int scaleFactor) {
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;
@@ -95,12 +58,12 @@ QvxStatus power32Complex(const Qvx32sc* src, Qvx32s* dst, int len, int scaleFact
 // clang-format off
 QvxStatus qvxsPowerSpectr_32fc(const Qvx32fc* a, Qvx32f* d, int len) { return map<Power>(d, len, AsIs{}, deinterleaved(a)); }
 QvxStatus qvxsPowerSpectr_64fc(const Qvx64fc* a, Qvx64f* d, int len) { return map<Power>(d, len, AsIs{}, deinterleaved(a)); }
-QvxStatus qvxsPowerSpectr_16sc32f(const Qvx16sc* a, Qvx32f* d, int len) { return toFloats(d, len, Power16ToFloat(), reinterpret_cast<const uint32_t*>(a)); }
+QvxStatus qvxsPowerSpectr_16sc32f(const Qvx16sc* a, Qvx32f* d, int len) { return map<Power16ToFloat>(d, len, InOwnLanes{}, reinterpret_cast<const uint32_t*>(a)); }
 QvxStatus qvxsPowerSpectr_16sc_Sfs(const Qvx16sc* a, Qvx16s* d, int len, int sf) { return power16Complex(a, d, len, sf); }
 QvxStatus qvxsPowerSpectr_32f(const Qvx32f* re, const Qvx32f* im, Qvx32f* d, int len) { return map<Power>(d, len, AsIs{}, re, im); }
 QvxStatus qvxsPowerSpectr_64f(const Qvx64f* re, const Qvx64f* im, Qvx64f* d, int len) { return map<Power>(d, len, AsIs{}, re, im); }
 QvxStatus qvxsPowerSpectr_16s_Sfs(const Qvx16s* re, const Qvx16s* im, Qvx16s* d, int len, int sf) { return power16(re, im, d, len, sf); }
-QvxStatus qvxsPowerSpectr_16s32f(const Qvx16s* re, const Qvx16s* im, Qvx32f* d, int len) { return toFloats(d, len, Power16ToFloat(), re, im); }
+QvxStatus qvxsPowerSpectr_16s32f(const Qvx16s* re, const Qvx16s* im, Qvx32f* d, int len) { return map<Power16ToFloat>(d, len, InOwnLanes{}, re, im); }
 
 QvxStatus qvxsMagSquared_32fc64f(const Qvx32fc* a, Qvx64f* d, int len) { return map<Power>(d, len, AsIs{}, deinterleaved(a)); }
 QvxStatus qvxsMagSquared_32sc32s_Sfs(const Qvx32sc* a, Qvx32s* d, int len, int sf) { return power32Complex(a, d, len, sf); }

@@ -337,6 +337,13 @@ struct AsIs {
   }
 };
 
+// Sources in lanes of their own: the operation sees to everything.
+struct InOwnLanes {
+  template <class Op, class Dst, class... Src> QvxStatus run(Op op, Dst dst, size_t n, Src... src) const {
+    return loop(op, dst, n, src...);
+  }
+};
+
 // Times 2^-scaleFactor. An operation brings three things: op(v...) saturates; Op::kMaxScale<T> is the last scale factor that
 // can leave anything but zeros; Op::scaleDown<T>(s, with) runs `with` on the kernel for the places s above 0.
 struct Scaled {

@@ -1,66 +1,12 @@
 // Square roots of integers: exactly rounded at every scale factor.
 #include <cmath>
 
-#include "frame/power.h"
 #include "frame/team.h"
+#include "vector/integer_root.h"
 
 using namespace qvx;
 
 namespace {
-
-// Roots of 32-bit lanes through floats, of 64-bit ones through doubles. These are wrong by far less than 1/2, and so their
-// integer part k is the result or one below it. Which of the two is asked of the square of k + 1/2, in integers: no tie is lost
-// to the float's rounding, and neither the processor's mode nor the variant shows.
-template <class V> V integerPart(V x, double factor) {
-  if constexpr (sizeof(LaneOf<V>) == 4) {
-    const auto root = hn::Sqrt(convertLanes<float>(x));
-    return toIntTruncated(root * same<decltype(root)>(static_cast<float>(factor)));
-  } else {
-    const auto root = hn::Sqrt(toDouble(x));
-    return toInt64(root * same<decltype(root)>(factor));
-  }
-}
-
-template <class V> V timesSuccessor(V k) {
-  const V next = k + same<V>(1);
-  if constexpr (sizeof(LaneOf<V>) == 4) return k * next;
-  else return as<int64_t>(hn::MulEven(as<uint32_t>(k), as<uint32_t>(next)));
-}
-
-// k + 1 in the lanes where x is beyond the tie.
-template <class V> V decided(V k, V x, V tie) { return k - hn::VecFromMask(TagOf<V>(), x - tie > hn::Zero(TagOf<V>())); }
-
-// sqrt(x) * 2^s for destinations of kBits bits. There is no tie: (k + 1/2)^2 is not an integer. What is cut off at `most` has
-// the root 2^kBits, which saturates; 2^(2 * kBits) may wrap to 0, but so does its tie.
-template <int kBits> struct RootEnlarged {
-  int s;
-
-  template <class V> V operator()(V x) const {
-    using T = LaneOf<V>;
-    constexpr int kMostBits = 8 * sizeof(T) - 2;
-    const V cut = hn::Min(x, same<V>(T{1} << std::min(2 * (kBits - s), kMostBits)));
-    const V k = integerPart(cut, powerOfTwo<double>(s));
-    const V square = hn::ShiftLeftSame(hn::ShiftLeftSame(cut, s), s);
-    return decided(k, square, timesSuccessor(k));
-  }
-};
-
-// sqrt(x) * 2^-s for s from 0 on. At a tie only an odd k goes up.
-struct RootReduced {
-  int s;
-
-  template <class V> V operator()(V x) const {
-    using T = LaneOf<V>;
-    const V k = integerPart(x, powerOfTwo<double>(-s));
-    V tie = timesSuccessor(k);
-    if (s > 0) tie = hn::ShiftLeftSame(hn::ShiftLeftSame(tie, s), s) + same<V>(T{1} << (2 * s - 2)) - (k & same<V>(1));
-    return decided(k, x, tie);
-  }
-};
-
-struct NoRoot {
-  template <class V> V operator()(V) const { return hn::Zero(TagOf<V>()); }
-};
 
 // A root in the lanes that it needs. To is where the results go, From where they come from.
 template <class From, class To> struct IntegerRoot {
@@ -102,18 +48,6 @@ template <class From, class To> struct IntegerRoot {
   template <class T, class Root, class V> static V inLanes16(Root root, V v) {
     using Wide = std::conditional_t<std::is_signed_v<T>, int32_t, uint32_t>;
     return narrow<T>(qvx::each(widen<Wide>(v), [&](auto half) { return root(as<int32_t>(half)); }));
-  }
-};
-
-// The roots times 2^-scaleFactor.
-struct ScaledRoot {
-  int scaleFactor;
-
-  template <class Op, class Dst, class Src> QvxStatus run(Op, Dst dst, size_t n, Src src) const {
-    const auto with = [&](auto root) { return loop(Op::kernel(root), dst, n, src); };
-    if (scaleFactor > Op::kMaxScale) return with(NoRoot());
-    if (scaleFactor >= 0) return with(RootReduced{scaleFactor});
-    return with(RootEnlarged<Op::kBits>{scaleFactor < -Op::kBits ? Op::kBits : -scaleFactor});
   }
 };
 

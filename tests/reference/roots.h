@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdint>
 
+#include "reference/scaled.h"
+
 namespace reference {
 
 using Natural = unsigned __int128;
@@ -17,7 +19,7 @@ inline Natural rootFloor(Natural v) {
 }
 
 // sqrt(x) * 2^-s, nearest even; x below 0 counts as 0. From 2^63 on any number may stand for the result.
-inline __int128 nearestRoot(int64_t x, int64_t s) {
+inline __int128 nearestRoot(__int128 x, int64_t s) {
   if (x <= 0) return 0;
   auto v = static_cast<Natural>(x);
   if (s <= 0) {
@@ -33,5 +35,8 @@ inline __int128 nearestRoot(int64_t x, int64_t s) {
   const bool up = 4 * v > middle * middle || (4 * v == middle * middle && n % 2 == 1);
   return static_cast<__int128>(n + up);
 }
+
+// The same, saturated.
+template <class T> T scaledRoot(__int128 x, int s) { return saturated<T>(nearestRoot(x, s)); }
 
 }  // namespace reference
