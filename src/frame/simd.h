@@ -18,6 +18,7 @@ namespace hn = hwy::HWY_NAMESPACE;
 // Highway falls back to a lower target without a word if a flag is missing: then the variant would be one in name only.
 static_assert(HWY_TARGET == QVXS_EXPECTED_TARGET, "the compiler's flags do not give this variant its instruction set");
 inline constexpr bool kHasMasks = HWY_TARGET == HWY_AVX3;
+inline constexpr bool kFuses = HWY_TARGET <= HWY_AVX2;  // multiplications with additions, rounded once
 
 inline constexpr size_t kVectorBytes = HWY_LANES(uint8_t);
 
