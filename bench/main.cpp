@@ -11,7 +11,7 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&count, flags);
 
   bench::Suite suite;
-  for (const auto family : {bench::add, bench::sub, bench::mul, bench::copy, bench::logic, bench::shift, bench::widen,
+  for (const auto family : {bench::add, bench::sub, bench::mul, bench::div, bench::copy, bench::logic, bench::shift, bench::widen,
                             bench::narrow, bench::floatToInt, bench::half, bench::sqrt, bench::sum, bench::complexForms}) {
     family(suite);
   }

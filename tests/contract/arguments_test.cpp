@@ -31,6 +31,7 @@ bool isOptional(const Export& e, const Parameter& parameter) {
   const auto found = optional.find(e.name.substr(0, e.name.find('_')));
   return found != optional.end() && found->second.count(parameter.name) != 0;
 }
+
 bool refusesOtherModes(const Export& e) { return e.name.find("Div_Round") != std::string::npos; }
 
 // Division by a constant, but for the one that takes a zero as a warning.
