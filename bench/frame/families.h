@@ -8,6 +8,7 @@ namespace bench {
 void add(Suite& suite);
 void sub(Suite& suite);
 void mul(Suite& suite);
+void div(Suite& suite);
 void copy(Suite& suite);
 void logic(Suite& suite);
 void shift(Suite& suite);

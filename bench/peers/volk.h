@@ -24,6 +24,7 @@ using C = const Qvx32fc*;
 inline constexpr auto add32f = [](F a, F b, float* d, int n) { volk_32f_x2_add_32f(d, a, b, n); };
 inline constexpr auto sub32f = [](F a, F b, float* d, int n) { volk_32f_x2_subtract_32f(d, b, a, n); };
 inline constexpr auto mul32f = [](F a, F b, float* d, int n) { volk_32f_x2_multiply_32f(d, a, b, n); };
+inline constexpr auto div32f = [](F a, F b, float* d, int n) { volk_32f_x2_divide_32f(d, b, a, n); };
 inline constexpr auto addC32f = [](F a, float c, float* d, int n) { volk_32f_s32f_add_32f(d, a, c, n); };
 inline constexpr auto mulC32f = [](F a, float c, float* d, int n) { volk_32f_s32f_multiply_32f(d, a, c, n); };
 inline constexpr auto sqrt32f = [](F a, float* d, int n) { volk_32f_sqrt_32f(d, a, n); };
@@ -32,6 +33,7 @@ inline constexpr auto mul64f = [](const double* a, const double* b, double* d, i
 inline constexpr auto add32fc = [](C a, C b, Qvx32fc* d, int n) { volk_32fc_x2_add_32fc(complex(d), complex(a), complex(b), n); };
 inline constexpr auto mul32fc = [](C a, C b, Qvx32fc* d, int n) { volk_32fc_x2_multiply_32fc(complex(d), complex(a), complex(b), n); };
 inline constexpr auto mul32f32fc = [](F a, C b, Qvx32fc* d, int n) { volk_32fc_32f_multiply_32fc(complex(d), complex(b), a, n); };
+inline constexpr auto div32fc = [](C a, C b, Qvx32fc* d, int n) { volk_32fc_x2_divide_32fc(complex(d), complex(b), complex(a), n); };
 inline constexpr auto mulC32fc = [](C a, Qvx32fc c, Qvx32fc* d, int n) { volk_32fc_s32fc_multiply_32fc(complex(d), complex(a), {c.re, c.im}, n); };
 
 inline constexpr auto and32u = [](const Qvx32u* a, const Qvx32u* b, Qvx32u* d, int n) { volk_32i_x2_and_32i(asSigned(d), asSigned(a), asSigned(b), n); };

@@ -1,4 +1,4 @@
-/* Element-wise arithmetic: sums, differences, products. */
+/* Element-wise arithmetic: sums, differences, products, quotients. */
 #ifndef QVX_QVXS_ARITH_H
 #define QVX_QVXS_ARITH_H
 
@@ -246,6 +246,92 @@ QVXS_API(QvxStatus, qvxsMulC_64f64s_ISfs, (Qvx64f val, Qvx64s* pSrcDst, Qvx32u l
 /** dst[n] = src[n] * val as a float product, converted in the caller's rounding mode and saturated from 32 bits to 16: what
  *  32 bits cannot hold (2^31 and above, not a number) becomes -32768, whatever its sign. Returns as qvxsMul. */
 QVXS_API(QvxStatus, qvxsMulC_Low_32f16s, (const Qvx32f* pSrc, Qvx32f val, Qvx16s* pDst, int len));
+
+/** dst[n] = src2[n] / src1[n], the first source being the divisor; the _I forms: srcDst[n] = srcDst[n] / src[n].
+ *  Floats: one IEEE division in the element's type and the caller's rounding mode, at zero divisors too (infinity, NaN).
+ *  Complex floats, for a divisor c + di and a dividend a + bi: ((ac + bd) + (bc - ad)i) / (cc + dd), every operation rounded by
+ *  itself. So a divisor whose cc + dd leaves the range of the type gives what the formula gives: 0 or NaN above (|c + di| from
+ *  1.8e19 on in 32fc, 1.3e154 in 64fc), infinities and NaN below (under 2.6e-23 and 1.5e-162), and less than full accuracy where
+ *  cc + dd is subnormal (under 1.1e-19 and 1.5e-154). A zero divisor gives NaN in both parts.
+ *  Integers: the exact quotient times 2^-scaleFactor, rounded to nearest with ties to even, saturated. 32s and 32s16s go through
+ *  Qvx64f: (src2 * 2^-scaleFactor) / src1 is rounded to 53 bits before it is rounded to an integer, which only negative scale
+ *  factors can show. 16sc: both parts of the exact complex quotient. 32s16s has two Qvx32s sources and saturates to 16 bits.
+ *  Zero divisors in integers: the largest number for a positive dividend, the smallest for a negative one, 0 for 0 (in 16sc by
+ *  the sign of each part). Far scale factors: beyond -30 to 15 (8u, 16u, 16s), -32 to 32 (16sc) and -62 to 32 (32s, 32s16s) a
+ *  quotient of 0 stays 0; any other saturates by its sign below and becomes 0 above, unless its divisor is zero.
+ *  pSrc1, pSrc2, pDst: len elements each, any alignment. dst may be a source itself only in the _I forms. Long vectors may be
+ *  divided between two threads.
+ *  Returns qvxStatOk; qvxWarnDivByZero if a divisor was zero (the others are complete); qvxStatNullPtr; qvxStatBadSize
+ *  (len < 1). */
+QVXS_API(QvxStatus, qvxsDiv_32f, (const Qvx32f* pSrc1, const Qvx32f* pSrc2, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsDiv_64f, (const Qvx64f* pSrc1, const Qvx64f* pSrc2, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsDiv_32fc, (const Qvx32fc* pSrc1, const Qvx32fc* pSrc2, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsDiv_64fc, (const Qvx64fc* pSrc1, const Qvx64fc* pSrc2, Qvx64fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsDiv_8u_Sfs, (const Qvx8u* pSrc1, const Qvx8u* pSrc2, Qvx8u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_16u_Sfs, (const Qvx16u* pSrc1, const Qvx16u* pSrc2, Qvx16u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_16s_Sfs, (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_16sc_Sfs, (const Qvx16sc* pSrc1, const Qvx16sc* pSrc2, Qvx16sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_32s_Sfs, (const Qvx32s* pSrc1, const Qvx32s* pSrc2, Qvx32s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_32s16s_Sfs, (const Qvx32s* pSrc1, const Qvx32s* pSrc2, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_32f_I, (const Qvx32f* pSrc, Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsDiv_64f_I, (const Qvx64f* pSrc, Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsDiv_32fc_I, (const Qvx32fc* pSrc, Qvx32fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsDiv_64fc_I, (const Qvx64fc* pSrc, Qvx64fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsDiv_8u_ISfs, (const Qvx8u* pSrc, Qvx8u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_16u_ISfs, (const Qvx16u* pSrc, Qvx16u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_16s_ISfs, (const Qvx16s* pSrc, Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_16sc_ISfs, (const Qvx16sc* pSrc, Qvx16sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_32s_ISfs, (const Qvx32s* pSrc, Qvx32s* pSrcDst, int len, int scaleFactor));
+
+/** dst[n] = src[n] / val; the _I forms: srcDst[n] = srcDst[n] / val.
+ *  Floats are multiplied by the reciprocal of val, which is rounded to the element's type first: the last bit can differ from
+ *  the quotient's, and a subnormal val has no finite reciprocal. A complex val: r = 1 / (re*re + im*im), then a product with
+ *  (re * r, -im * r).
+ *  Integers: as qvxsDiv, the exact quotient scaled, rounded to nearest even and saturated; far scale factors are those beyond
+ *  -30 to 15.
+ *  64s_ISfs multiplies too: by floor(2^(63 + k) / |val|), k being the largest with 2^k below |val|, at the scale factor
+ *  scaleFactor + k + 63 of qvxsMulC_64s_ISfs; a val of 1 or -1 goes there as it is. So an exact tie rounds toward 0, and large
+ *  quotients can be off by one. Its len is unsigned (only 0 is refused), and a val of 0 is a warning: every element but 0 becomes
+ *  the largest or smallest number by its sign.
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize; qvxStatDivByZero if val is 0 (a complex one in both parts), when nothing is
+ *  written; qvxWarnDivByZero (64s_ISfs only). */
+QVXS_API(QvxStatus, qvxsDivC_32f, (const Qvx32f* pSrc, Qvx32f val, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsDivC_64f, (const Qvx64f* pSrc, Qvx64f val, Qvx64f* pDst, int len));
+QVXS_API(QvxStatus, qvxsDivC_32fc, (const Qvx32fc* pSrc, Qvx32fc val, Qvx32fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsDivC_64fc, (const Qvx64fc* pSrc, Qvx64fc val, Qvx64fc* pDst, int len));
+QVXS_API(QvxStatus, qvxsDivC_8u_Sfs, (const Qvx8u* pSrc, Qvx8u val, Qvx8u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDivC_16u_Sfs, (const Qvx16u* pSrc, Qvx16u val, Qvx16u* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDivC_16s_Sfs, (const Qvx16s* pSrc, Qvx16s val, Qvx16s* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDivC_16sc_Sfs, (const Qvx16sc* pSrc, Qvx16sc val, Qvx16sc* pDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDivC_32f_I, (Qvx32f val, Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsDivC_64f_I, (Qvx64f val, Qvx64f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsDivC_32fc_I, (Qvx32fc val, Qvx32fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsDivC_64fc_I, (Qvx64fc val, Qvx64fc* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsDivC_8u_ISfs, (Qvx8u val, Qvx8u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDivC_16u_ISfs, (Qvx16u val, Qvx16u* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDivC_16s_ISfs, (Qvx16s val, Qvx16s* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDivC_16sc_ISfs, (Qvx16sc val, Qvx16sc* pSrcDst, int len, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDivC_64s_ISfs, (Qvx64s val, Qvx64s* pSrcDst, Qvx32u len, int scaleFactor));
+
+/** dst[n] = val / src[n]; the _I forms: val / srcDst[n]. 16u is rounded to nearest even. Otherwise as qvxsDiv, with val for
+ *  every dividend: a zero element warns, and gives infinity or NaN in 32f, 65535 (0 if val is 0) in 16u. */
+QVXS_API(QvxStatus, qvxsDivCRev_32f, (const Qvx32f* pSrc, Qvx32f val, Qvx32f* pDst, int len));
+QVXS_API(QvxStatus, qvxsDivCRev_16u, (const Qvx16u* pSrc, Qvx16u val, Qvx16u* pDst, int len));
+QVXS_API(QvxStatus, qvxsDivCRev_32f_I, (Qvx32f val, Qvx32f* pSrcDst, int len));
+QVXS_API(QvxStatus, qvxsDivCRev_16u_I, (Qvx16u val, Qvx16u* pSrcDst, int len));
+
+/** qvxsDiv with a round mode: qvxRoundTowardZero, qvxRoundNearestEven, qvxRoundHalfAway. Far scale factors are those beyond -30
+ *  to 16. Long vectors may be divided between all threads there are.
+ *  Returns as qvxsDiv; qvxStatBadRoundMode for any other mode. */
+QVXS_API(QvxStatus, qvxsDiv_Round_8u_Sfs,
+         (const Qvx8u* pSrc1, const Qvx8u* pSrc2, Qvx8u* pDst, int len, QvxRoundMode rndMode, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_Round_8u_ISfs, (const Qvx8u* pSrc, Qvx8u* pSrcDst, int len, QvxRoundMode rndMode, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_Round_16u_Sfs,
+         (const Qvx16u* pSrc1, const Qvx16u* pSrc2, Qvx16u* pDst, int len, QvxRoundMode rndMode, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_Round_16u_ISfs, (const Qvx16u* pSrc, Qvx16u* pSrcDst, int len, QvxRoundMode rndMode, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_Round_16s_Sfs,
+         (const Qvx16s* pSrc1, const Qvx16s* pSrc2, Qvx16s* pDst, int len, QvxRoundMode rndMode, int scaleFactor));
+QVXS_API(QvxStatus, qvxsDiv_Round_16s_ISfs, (const Qvx16s* pSrc, Qvx16s* pSrcDst, int len, QvxRoundMode rndMode, int scaleFactor));
 
 #ifdef __cplusplus
 }

@@ -8,22 +8,11 @@
 #include "frame/packed24.h"
 #include "frame/power.h"
 #include "frame/rounding.h"
+#include "frame/to_int.h"
 
 using namespace qvx;
 
 namespace {
-
-template <class V> V clippedAbove(V v, LaneOf<V> most) { return hn::Min(v, same<V>(most)); }
-template <class V> V clippedBelow(V v, LaneOf<V> least) { return hn::Max(v, same<V>(least)); }
-
-// Float lanes to int32 lanes.
-template <int kMode> struct ToInt {
-  template <class V> auto operator()(V v) const {
-    if constexpr (kMode == qvxRoundTowardZero) return toIntTruncated(v);
-    else if constexpr (kMode == qvxRoundNearestEven) return toIntNearest(v);
-    else return toIntTruncated(v + hn::CopySignToAbs(same<V>(LaneOf<V>(0.5)), v));
-  }
-};
 
 // Runs `with` on the conversion of the round mode. half: the processor's mode in which the half is added. The product before it
 // is exact, or too small or too large for the mode to matter.

@@ -17,7 +17,7 @@ struct Angle {
     } else {
       const hn::Half<TagOf<V>> half;
       const auto of = [](auto re, auto im) {
-        return convertLanes<float>(phase(convertLanes<double>(im), convertLanes<double>(re)));
+        return convertLanes<float>(phase<false>(convertLanes<double>(im), convertLanes<double>(re)));
       };
       return hn::Combine(TagOf<V>(), of(hn::UpperHalf(half, re), hn::UpperHalf(half, im)),
                          of(hn::LowerHalf(half, re), hn::LowerHalf(half, im)));

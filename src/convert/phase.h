@@ -1,7 +1,8 @@
 // The angle of a complex number, from -pi to pi: arctan(y / x) with the quadrant of the signs.
 //
-// Float: error below 1.0 ULP. Double: below 1.4 ULP. Zeros, infinities and what is not a number as the C library's atan2 has
-// them. The quotient has a rounding of its own, which a float has no room for: its remainder is taken along.
+// Error below 1.0 ULP, for a float or a double. Zeros, infinities and what is not a number as the C library's atan2 has them.
+// The quotient has a rounding of its own, too much beside the arctangent's: its remainder is taken along. kRemainder false:
+// without it, for doubles that become floats.
 #pragma once
 
 #include <cmath>
@@ -15,11 +16,46 @@ namespace detail {
 
 // Between these neither a sum nor a remainder leaves the range of normal numbers; what lies beyond is left to the C library.
 template <class T> inline constexpr T kLeastSize = sizeof(T) == 4 ? T(0x1p-100) : T(0x1p-960);
-template <class T> inline constexpr T kMostSize = sizeof(T) == 4 ? T(0x1p120) : T(0x1p1000);
+template <class T> inline constexpr T kMostSize = sizeof(T) == 4 ? T(0x1p120) : T(0x1p960);
+
+// c - a * b with one rounding, or very nearly so.
+template <class V> V remainderOf(V a, V b, V c) {
+  if constexpr (kFuses) {
+    return hn::NegMulAdd(a, b, c);
+  } else {
+    const V product = a * b;
+    const auto upper = [](V v) {  // of its digits a half
+      const V large = v * same<V>(0x1p27 + 1);
+      return large - (large - v);
+    };
+    const V aHigh = upper(a);
+    const V bHigh = upper(b);
+    const V aLow = a - aHigh;
+    const V bLow = b - bHigh;
+    return (c - product) - (((aHigh * bHigh - product) + aHigh * bLow + aLow * bHigh) + aLow * bLow);
+  }
+}
+
+// num / den, and what that is wrong by. den is exact but for denLow.
+template <class V> Pair<V> quotient(V num, V den, V denLow) {
+  if constexpr (sizeof(LaneOf<V>) == 4) {
+    const V t = num / den;
+    const V rest = hn::NegMulAdd(t, denLow, remainderOf(t, den, num));
+    return {t, rest * hn::ApproximateReciprocal(den)};
+  } else if constexpr (kFuses) {  // one division for both
+    const V inverse = same<V>(1) / den;
+    const V near = num * inverse;
+    const V t = hn::MulAdd(remainderOf(near, den, num), inverse, near);
+    return {t, hn::NegMulAdd(t, denLow, remainderOf(t, den, num)) * inverse};
+  } else {
+    const V t = num / den;
+    return {t, (remainderOf(t, den, num) - t * denLow) / den};
+  }
+}
 
 }  // namespace detail
 
-template <class V> V phase(V y, V x) {
+template <bool kRemainder = true, class V> V phase(V y, V x) {
   using T = LaneOf<V>;
   using C = detail::ArctanNumbers<T>;
   const TagOf<V> d;
@@ -37,14 +73,10 @@ template <class V> V phase(V y, V x) {
   const V sum = up + along;
   const V num = ofRange(up, up - along, hn::Xor(along, signBit));
   const V den = hn::IfThenElse(isZero, same<V>(1), ofRange(along, sum, up));
-  const V t = num / den;
+  const V denLow = hn::IfThenElseZero(hn::AndNot(isLarge, isMiddle), hn::Min(up, along) - (sum - size));
+  const auto [t, wrong] = kRemainder ? detail::quotient(num, den, denLow) : Pair<V>{num / den, zero};
   const V z = t * t;
-  V low = ofRange(zero, same<V>(C::kHalfPiLow / 2), same<V>(C::kHalfPiLow));
-  if constexpr (sizeof(T) == 4) {
-    const V denLow = hn::IfThenElseZero(hn::AndNot(isLarge, isMiddle), hn::Min(up, along) - (sum - size));
-    const V remainder = hn::NegMulAdd(t, denLow, hn::NegMulAdd(t, den, num));
-    low = hn::MulAdd(remainder, hn::ApproximateReciprocal(den), low);
-  }
+  const V low = ofRange(zero, same<V>(C::kHalfPiLow / 2), same<V>(C::kHalfPiLow)) + wrong;
   const V high = ofRange(zero, same<V>(C::kHalfPi / 2), same<V>(C::kHalfPi));
   const V more = hn::MulAdd(t, z * polynomial(z, C::kQ), low);
   const V angle = high + t;
@@ -59,7 +91,7 @@ template <class V> V phase(V y, V x) {
   const uint64_t far = maskBits(d, hn::Not(hn::Or(isNear, hn::And(isZero, y == y))));
   if (HWY_LIKELY(far == 0)) return result;
   return redone(
-      far, result, [](T imaginary, T real) { return std::atan2(imaginary, real); }, y, x);
+      far, result, [](double imaginary, double real) { return static_cast<T>(std::atan2(imaginary, real)); }, y, x);
 }
 
 }  // namespace qvx

@@ -64,6 +64,13 @@ struct Product {
   }
 };
 
+// Real and imaginary parts exchanged.
+template <class V> V swapped(V v) {
+  if constexpr (sizeof(LaneOf<V>) == 2) return as<int16_t>(hn::RotateRight<16>(as<uint32_t>(v)));
+  else if constexpr (sizeof(LaneOf<V>) == 4) return hn::Shuffle2301(v);
+  else return hn::Shuffle01(v);
+}
+
 // Real and imaginary parts of the products of complex integers, in lanes twice as wide.
 template <class V> struct Complex {
   V re;
@@ -94,13 +101,6 @@ struct ComplexProduct {
   }
 
  private:
-  // Real and imaginary parts exchanged.
-  template <class V> static V swapped(V v) {
-    if constexpr (sizeof(LaneOf<V>) == 2) return as<int16_t>(hn::RotateRight<16>(as<uint32_t>(v)));
-    else if constexpr (sizeof(LaneOf<V>) == 4) return hn::Shuffle2301(v);
-    else return hn::Shuffle01(v);
-  }
-
   template <class V> static auto wide(V a, V b) {
     const TagOf<V> d;
     using T = LaneOf<V>;

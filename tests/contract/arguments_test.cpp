@@ -32,6 +32,11 @@ bool isOptional(const Export& e, const Parameter& parameter) {
   return found != optional.end() && found->second.count(parameter.name) != 0;
 }
 
+bool refusesOtherModes(const Export& e) { return e.name.find("Div_Round") != std::string::npos; }
+
+// Division by a constant, but for the one that takes a zero as a warning.
+bool refusesZero(const Export& e) { return e.name.find("DivC_") != std::string::npos && e.name != "qvxsDivC_64s_ISfs"; }
+
 bool isShift(const Export& e) { return e.name.find("ShiftC") != std::string::npos; }
 
 // Arguments of a call that succeeds, of which any may be replaced. Sources and destinations are separate blocks.
@@ -53,7 +58,10 @@ class Plain : public tests::Arguments {
     if (values_.count(name) != 0) return values_[name];
     return name == "len" ? kLength : name == "val" || name == "rndMode" ? 1 : 0;
   }
-  double real(size_t) override { return 1.5; }
+  double real(size_t index) override {
+    const auto value = values_.find(export_.parameters[index].name);
+    return value != values_.end() ? static_cast<double>(value->second) : 1.5;
+  }
 
   QvxStatus call() { return export_.call(export_.address, *this); }
   bool wrote() const {
@@ -91,6 +99,8 @@ TEST_P(Contract, NullPointers) {
     expectRefused(Plain(e).setNull(i).set("len", 0), first, e.parameters[i].name + ", len 0");
     if (isShift(e)) expectRefused(Plain(e).setNull(i).set("val", -1), qvxStatNullPtr, "negative shift");
     if (isShift(e)) expectRefused(Plain(e).setNull(i).set("val", 0), qvxStatNullPtr, "shift by 0");
+    if (refusesZero(e)) expectRefused(Plain(e).setNull(i).set("val", 0), qvxStatNullPtr, "division by 0");
+    if (refusesOtherModes(e)) expectRefused(Plain(e).setNull(i).set("rndMode", 3), qvxStatNullPtr, "bad mode");
   }
 }
 
@@ -106,6 +116,8 @@ TEST_P(Contract, Lengths) {
       expectRefused(Plain(e).set("len", len).set("scaleFactor", 99), qvxStatBadSize, "scale factor with zeros only");
     }
     if (refusesHalfAway(e)) expectRefused(Plain(e).set("len", len).set("rndMode", 2), qvxStatBadSize, "bad mode");
+    if (refusesOtherModes(e)) expectRefused(Plain(e).set("len", len).set("rndMode", 3), qvxStatBadSize, "bad mode");
+    if (refusesZero(e)) expectRefused(Plain(e).set("len", len).set("val", 0), qvxStatBadSize, "division by 0");
   }
 }
 
@@ -130,6 +142,10 @@ TEST(Refusals, OfTheFamilies) {
     if (isShift(e)) {
       expectRefused(Plain(e).set("val", -1), qvxStatNegShift, e.name);
       expectRefused(Plain(e).set("val", INT_MIN), qvxStatNegShift, e.name);
+    }
+    if (refusesZero(e)) expectRefused(Plain(e).set("val", 0), qvxStatDivByZero, e.name);
+    if (refusesOtherModes(e)) {
+      for (const int mode : {-1, 3, INT_MIN, INT_MAX}) expectRefused(Plain(e).set("rndMode", mode), qvxStatBadRoundMode, e.name);
     }
     if (refusesHalfAway(e)) {
       expectRefused(Plain(e).set("rndMode", qvxRoundHalfAway), qvxStatBadRoundMode, e.name);

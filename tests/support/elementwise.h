@@ -13,8 +13,11 @@ namespace tests {
 
 inline constexpr int kOutOfPlace = -1;
 
+// Any number that is not one equals another.
 template <class T> bool sameBits(const T* a, const T* b, size_t n) {
-  if constexpr (std::is_floating_point_v<T>) {  // any number that is not one equals another
+  if constexpr (isComplex<T>) {
+    return sameBits(reinterpret_cast<const decltype(T::re)*>(a), reinterpret_cast<const decltype(T::re)*>(b), 2 * n);
+  } else if constexpr (std::is_floating_point_v<T>) {
     for (size_t i = 0; i < n; ++i) {
       if (std::memcmp(a + i, b + i, sizeof(T)) != 0 && !(a[i] != a[i] && b[i] != b[i])) return false;
     }

@@ -1,10 +1,9 @@
 // Products of two vectors, of a vector and a constant, and products added to the destination.
 #include <qvx/qvxs.h>
-#include <xmmintrin.h>
 
-#include <cfenv>
 #include <cmath>
 
+#include "support/rounding.h"
 #include "vector/scaled_members.h"
 
 namespace {
@@ -166,18 +165,6 @@ TEST(Mul, LowWord) {
 }
 
 // ---- floats to 16 bits
-
-// In all four rounding modes of the caller.
-template <class F> void inEveryRounding(F f) {
-  for (const int mode : {FE_TONEAREST, FE_DOWNWARD, FE_UPWARD, FE_TOWARDZERO}) {
-    SCOPED_TRACE("rounding " + std::to_string(mode));
-    std::fesetround(mode);
-    const unsigned before = _mm_getcsr() & 0xFFC0U;
-    f();
-    EXPECT_EQ(_mm_getcsr() & 0xFFC0U, before) << "the control word was changed";
-    std::fesetround(FE_TONEAREST);
-  }
-}
 
 std::vector<Qvx32f> hardFloats() {
   Random random(seed());

@@ -1,0 +1,77 @@
+// Quotients of floats: dst = src2 / src1, dst = src / val and dst = val / src
+#include "frame/complex.h"
+#include "frame/team.h"
+#include "vector/divisor.h"
+
+using namespace qvx;
+
+namespace {
+
+struct Quotient {
+  static constexpr QvxStatus kWarning = qvxWarnDivByZero;
+
+  template <class V> V operator()(Flag& flag, V a, V b) const {
+    const TagOf<V> d;
+    flag.raise(d, a == hn::Zero(d));
+    return b / a;
+  }
+};
+
+// b * conj(a) / |a|^2, both parts divided. One reciprocal for two elements would save half of the divisions, but then an
+// element's result would depend on its neighbour.
+struct ComplexQuotient {
+  static constexpr QvxStatus kWarning = qvxWarnDivByZero;
+
+  // Real parts in lo, imaginary ones in hi.
+  template <class V> Pair<V> operator()(Flag& flag, Pair<V> a, Pair<V> b) const {
+    const TagOf<V> d;
+    // By their bits: |a|^2 underflows for divisors that are not zero.
+    flag.raise(d, (a.lo | a.hi) == hn::Zero(d));
+    const V squares = a.lo * a.lo + a.hi * a.hi;
+    return {(a.lo * b.lo + a.hi * b.hi) / squares, (a.lo * b.hi - a.hi * b.lo) / squares};
+  }
+};
+
+template <TeamRule kRule, class T> QvxStatus divideComplex(const T* divisor, const T* dividend, T* dst, int len) {
+  const QvxStatus status = check(len, divisor, dividend, dst);
+  if (status != qvxStatOk) return status;
+  return InTeam<kRule>{}.run(ComplexQuotient(), InterleavedDestination<Part<T>>{parts(dst)}, elements(len),
+                             deinterleavedOnesBehind(divisor), deinterleaved(dividend));
+}
+
+// conj(val) / |val|^2 by the reciprocal of the squared magnitude.
+template <class T> T reciprocal(T val) {
+  const auto r = 1 / (val.re * val.re + val.im * val.im);
+  return {val.re * r, -val.im * r};
+}
+
+// What one thread takes 3 to 5 us for; a team costs about 1 us, and milliseconds where the second processor is busy.
+constexpr TeamRule kQuotient32f = {.threaded = 4096, .worthIt = 65536};
+constexpr TeamRule kQuotient64f = {.threaded = 1024, .worthIt = 32768};
+constexpr TeamRule kQuotient32fc = {.threaded = 1024, .worthIt = 32768};
+constexpr TeamRule kQuotient64fc = {.threaded = 1024, .worthIt = 16384};
+
+}  // namespace
+
+// clang-format off
+QvxStatus qvxsDiv_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesBehind{a}, b); }
+QvxStatus qvxsDiv_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient64f>{}, OnesBehind{a}, b); }
+QvxStatus qvxsDiv_32fc(const Qvx32fc* a, const Qvx32fc* b, Qvx32fc* d, int len) { return divideComplex<kQuotient32fc>(a, b, d, len); }
+QvxStatus qvxsDiv_64fc(const Qvx64fc* a, const Qvx64fc* b, Qvx64fc* d, int len) { return divideComplex<kQuotient64fc>(a, b, d, len); }
+QvxStatus qvxsDiv_32f_I(const Qvx32f* a, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesBehind{a}, d); }
+QvxStatus qvxsDiv_64f_I(const Qvx64f* a, Qvx64f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient64f>{}, OnesBehind{a}, d); }
+QvxStatus qvxsDiv_32fc_I(const Qvx32fc* a, Qvx32fc* d, int len) { return divideComplex<kQuotient32fc>(a, d, d, len); }
+QvxStatus qvxsDiv_64fc_I(const Qvx64fc* a, Qvx64fc* d, int len) { return divideComplex<kQuotient64fc>(a, d, d, len); }
+
+QvxStatus qvxsDivC_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return isZero(val) ? refused(len, a, d) : qvxsMulC_32f(a, 1 / val, d, len); }
+QvxStatus qvxsDivC_64f(const Qvx64f* a, Qvx64f val, Qvx64f* d, int len) { return isZero(val) ? refused(len, a, d) : qvxsMulC_64f(a, 1 / val, d, len); }
+QvxStatus qvxsDivC_32fc(const Qvx32fc* a, Qvx32fc val, Qvx32fc* d, int len) { return isZero(val) ? refused(len, a, d) : qvxsMulC_32fc(a, reciprocal(val), d, len); }
+QvxStatus qvxsDivC_64fc(const Qvx64fc* a, Qvx64fc val, Qvx64fc* d, int len) { return isZero(val) ? refused(len, a, d) : qvxsMulC_64fc(a, reciprocal(val), d, len); }
+QvxStatus qvxsDivC_32f_I(Qvx32f val, Qvx32f* d, int len) { return isZero(val) ? refused(len, d) : qvxsMulC_32f_I(1 / val, d, len); }
+QvxStatus qvxsDivC_64f_I(Qvx64f val, Qvx64f* d, int len) { return isZero(val) ? refused(len, d) : qvxsMulC_64f_I(1 / val, d, len); }
+QvxStatus qvxsDivC_32fc_I(Qvx32fc val, Qvx32fc* d, int len) { return isZero(val) ? refused(len, d) : qvxsMulC_32fc_I(reciprocal(val), d, len); }
+QvxStatus qvxsDivC_64fc_I(Qvx64fc val, Qvx64fc* d, int len) { return isZero(val) ? refused(len, d) : qvxsMulC_64fc_I(reciprocal(val), d, len); }
+
+QvxStatus qvxsDivCRev_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesBehind{a}, Constant{val}); }
+QvxStatus qvxsDivCRev_32f_I(Qvx32f val, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesBehind{d}, Constant{val}); }
+// clang-format on
