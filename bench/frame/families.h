@@ -16,6 +16,7 @@ void narrow(Suite& suite);
 void floatToInt(Suite& suite);
 void half(Suite& suite);
 void sqrt(Suite& suite);
+void math(Suite& suite);
 void sum(Suite& suite);
 
 }  // namespace bench
