@@ -6,6 +6,8 @@
 
 #include "qvx/qvxs.h"
 
+#pragma GCC diagnostic ignored "-Wignored-attributes"  // of the registers as template arguments
+
 namespace sleef {
 
 // kFunction over whole registers, the last of which overlaps its neighbour; load and store are those of its type.

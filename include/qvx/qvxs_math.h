@@ -48,7 +48,8 @@ QVXS_API(QvxStatus, qvxsLn_64f_I, (Qvx64f* pSrcDst, int len));
 QVXS_API(QvxStatus, qvxsLn_64f32f, (const Qvx64f* pSrc, Qvx32f* pDst, int len));
 
 /** *pSum = sum of the natural logarithms of src[0] to src[len - 1]. 32f64f: of floats, given as a double; 16s32f: of integers.
- *  Accuracy: that of a sum in double, and len * 2^-53 where the source is narrower. An element of +0 makes it -infinity, a negative one or -0 NaN.
+ *  Accuracy: that of a sum in double, and len * 2^-53 where the source is narrower.
+ *  An element of +0 makes it -infinity, a negative one or -0 NaN.
  *  pSrc: len elements, any alignment.
  *  Returns qvxStatOk; as the first element that was 0 or negative decides, qvxWarnLnZeroArg (it was 0, not -0) or qvxWarnLnNegArg,
  *  the sum being written; qvxStatNullPtr; qvxStatBadSize (len < 1). */
