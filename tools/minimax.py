@@ -147,8 +147,8 @@ def tables():
 def fit_arctan():
     def q(z):  # atan t = t + t z q(z), z = t^2
         return series(z, lambda z: (atan(sqrt(z)) / sqrt(z) - 1) / z, lambda k: mpf((-1)**(k + 1)) / (2 * k + 3))
-    for lane, degree in (('float', 7), ('double', 18)):
-        fit('arctan', lane, q, lambda z: z + mpf(10)**-30, degree, 0, 1)
+    for lane, degree in (('float', 5), ('double', 13)):
+        fit('arctan', lane, q, lambda z: z + mpf(10)**-30, degree, 0, mpf('0.4445'))
 
 
 def fit_sin():

@@ -18,6 +18,7 @@ void floatToInt(Suite& suite);
 void half(Suite& suite);
 void sqr(Suite& suite);
 void sqrt(Suite& suite);
+void math(Suite& suite);
 void integerMath(Suite& suite);
 void sum(Suite& suite);
 void complexForms(Suite& suite);
@@ -27,6 +28,7 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     add,
     sub,
     mul,
+    div,
     copy,
     logic,
     shift,
@@ -37,6 +39,7 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     sqr,
     sqrt,
     integerMath,
+    math,
     sum,
     complexForms,
 };

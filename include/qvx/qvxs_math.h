@@ -61,7 +61,7 @@ QVXS_API(QvxStatus, qvxsSqrt_32s16s_Sfs, (const Qvx32s* pSrc, Qvx16s* pDst, int 
 QVXS_API(QvxStatus, qvxsSqrt_64s16s_Sfs, (const Qvx64s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
 
 /** dst[n] = cube root of src[n], with its sign.
- *  Accuracy: 0.51 ULP, the same bits in every variant. Zeros and infinities give themselves, NaN gives NaN.
+ *  Accuracy: 0.52 ULP, the same bits in every variant. Zeros and infinities give themselves, NaN gives NaN.
  *  pSrc, pDst: len elements each, any alignment.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
 QVXS_API(QvxStatus, qvxsCubrt_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
@@ -84,8 +84,8 @@ QVXS_API(QvxStatus, qvxsAbs_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
 QVXS_API(QvxStatus, qvxsAbs_64f_I, (Qvx64f* pSrcDst, int len));
 
 /** dst[n] = e to the power of src[n]; the _I forms: of srcDst[n]. 32f64f: from a float, computed and given as a double.
- *  Accuracy: 1.0 ULP, with AVX-512 0.80 ULP, subnormal results included. -infinity gives 0, results too
- *  large infinity, NaN gives NaN; all without a warning.
+ *  Accuracy: 1.0 ULP, with AVX-512 0.81 ULP, subnormal results included. -infinity gives 0, results too large
+ *  infinity, NaN gives NaN; all without a warning.
  *  pSrc, pDst: len elements each, any alignment.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
 QVXS_API(QvxStatus, qvxsExp_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
@@ -133,8 +133,19 @@ QVXS_API(QvxStatus, qvxsLn_32s16s_Sfs, (const Qvx32s* pSrc, Qvx16s* pDst, int le
 QVXS_API(QvxStatus, qvxs10Log10_32s_Sfs, (const Qvx32s* pSrc, Qvx32s* pDst, int len, int scaleFactor));
 QVXS_API(QvxStatus, qvxs10Log10_32s_ISfs, (Qvx32s* pSrcDst, int len, int scaleFactor));
 
+/** *pSum = sum of the natural logarithms of src[0] to src[len - 1]. 32f64f: of floats, given as a double; 16s32f: of integers.
+ *  Accuracy: that of a sum in double, and len * 2^-53 where the source is narrower.
+ *  An element of +0 makes it -infinity, a negative one or -0 NaN.
+ *  pSrc: len elements, any alignment.
+ *  Returns qvxStatOk; as the first element that was 0 or negative decides, qvxWarnLnZeroArg (it was 0, not -0) or qvxWarnLnNegArg,
+ *  the sum being written; qvxStatNullPtr; qvxStatBadSize (len < 1). */
+QVXS_API(QvxStatus, qvxsSumLn_32f, (const Qvx32f* pSrc, int len, Qvx32f* pSum));
+QVXS_API(QvxStatus, qvxsSumLn_64f, (const Qvx64f* pSrc, int len, Qvx64f* pSum));
+QVXS_API(QvxStatus, qvxsSumLn_32f64f, (const Qvx32f* pSrc, int len, Qvx64f* pSum));
+QVXS_API(QvxStatus, qvxsSumLn_16s32f, (const Qvx16s* pSrc, int len, Qvx32f* pSum));
+
 /** dst[n] = arctangent of src[n], from -pi/2 to pi/2; the _I forms: of srcDst[n].
- *  Accuracy: 0.90 ULP. Zeros give themselves, infinities +-pi/2, NaN gives NaN.
+ *  Accuracy: 1.0 ULP (32f), 1.25 ULP (64f). Zeros give themselves, infinities +-pi/2, NaN gives NaN.
  *  pSrc, pDst: len elements each, any alignment.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
 QVXS_API(QvxStatus, qvxsArctan_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));

@@ -137,11 +137,26 @@ inline __m512d whole(__m512d v) { return v; }
 inline __m512i whole(__m128i v) { return _mm512_castsi128_si512(v); }
 inline __m512i whole(__m256i v) { return _mm512_castsi256_si512(v); }
 inline __m512i whole(__m512i v) { return v; }
-inline void partOf(__m512 v, __m128& part) { part = _mm512_castps512_ps128(v); }
-inline void partOf(__m512 v, __m256& part) { part = _mm512_castps512_ps256(v); }
+// Between a narrow part and its masked store GCC must not see that it is one: the two become one instruction then, a masked
+// extract to memory, which faults on lanes that are not stored.
+template <class R> void separate(R& part) { __asm__("" : "+v"(part)); }
+inline void partOf(__m512 v, __m128& part) {
+  part = _mm512_castps512_ps128(v);
+  separate(part);
+}
+inline void partOf(__m512 v, __m256& part) {
+  part = _mm512_castps512_ps256(v);
+  separate(part);
+}
 inline void partOf(__m512 v, __m512& part) { part = v; }
-inline void partOf(__m512d v, __m128d& part) { part = _mm512_castpd512_pd128(v); }
-inline void partOf(__m512d v, __m256d& part) { part = _mm512_castpd512_pd256(v); }
+inline void partOf(__m512d v, __m128d& part) {
+  part = _mm512_castpd512_pd128(v);
+  separate(part);
+}
+inline void partOf(__m512d v, __m256d& part) {
+  part = _mm512_castpd512_pd256(v);
+  separate(part);
+}
 inline void partOf(__m512d v, __m512d& part) { part = v; }
 
 inline __m512 mulAddNearest(__m512 a, __m512 b, __m512 c) { return _mm512_fmadd_round_ps(a, b, c, kNearest); }

@@ -1,6 +1,6 @@
 // The exponential function of whole vectors of float or double.
 //
-// Error below 0.80 ULP where a register holds a table (w4), below 1.0 ULP elsewhere, subnormal results included. -infinity gives
+// Error below 0.81 ULP where a register holds a table (w4), below 1.0 ULP elsewhere, subnormal results included. -infinity gives
 // 0, what is too large gives infinity, what is not a number itself. The rounding mode must be to nearest where
 // kRoundsByInstruction is not set.
 //

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstring>
 #include <random>
+#include <set>
 
 #include "support/exports.h"
 
@@ -92,6 +93,14 @@ class Sample : public tests::Arguments {
   std::vector<uint8_t> blocks_[8];
 };
 
+// Their order of operations is open, and a variant's own: only the status is the same. How far they may be off is tested
+// elsewhere.
+bool isElementaryFloat(const Export& e) {
+  static const std::set<std::string> stems = {"qvxsExp", "qvxsLn", "qvxsSumLn", "qvxsArctan"};
+  const size_t tag = e.name.find('_');
+  return stems.count(e.name.substr(0, tag)) != 0 && e.name.find('f', tag) != std::string::npos && e.indexOf("scaleFactor") < 0;
+}
+
 TEST(AllVariants, GiveTheSameBits) {
   const std::vector<Library> all = libraries();
   if (all.size() < 2) GTEST_SKIP() << "one variant only";
@@ -111,7 +120,8 @@ TEST(AllVariants, GiveTheSameBits) {
           for (size_t i = 1; i < all.size(); ++i, ++calls) {
             Sample other = sample();
             bool equal = e.call(functions[i], other) == status;
-            for (size_t b = 0; b < e.parameters.size(); ++b) equal = equal && first.blocks()[b] == other.blocks()[b];
+            for (size_t b = 0; b < e.parameters.size() && !isElementaryFloat(e); ++b)
+              equal = equal && first.blocks()[b] == other.blocks()[b];
             ASSERT_TRUE(equal) << e.name << " differs between " << all[0].variant << " and " << all[i].variant << ": length "
                                << len << ", scale factor " << s << ", mode " << mode;
           }

@@ -1,0 +1,14 @@
+// Plain loops compiled with -Ofast, in a file of their own: the compiler calls the C library's vector functions then, of about
+// 4 ULP, and handles no special values.
+#pragma once
+
+namespace ofast {
+
+void exp(const float* a, float* d, int n);
+void exp(const double* a, double* d, int n);
+void ln(const float* a, float* d, int n);
+void ln(const double* a, double* d, int n);
+void sumLn(const float* a, int n, float* sum);
+void sumLn(const double* a, int n, double* sum);
+
+}  // namespace ofast
