@@ -21,27 +21,28 @@ template <class V> V integerPart(V x, double factor) {
   }
 }
 
-template <class V> V timesSuccessor(V k) {
+// k * (k + 1), of which a lane's bits suffice; k has kBits bits.
+template <int kBits, class V> V timesSuccessor(V k) {
   const V next = k + same<V>(1);
-  if constexpr (sizeof(LaneOf<V>) == 4) return k * next;
-  else return as<int64_t>(hn::MulEven(as<uint32_t>(k), as<uint32_t>(next)));
+  if constexpr (sizeof(LaneOf<V>) == 8 && kBits <= 32) return as<int64_t>(hn::MulEven(as<uint32_t>(k), as<uint32_t>(next)));
+  else return k * next;
 }
 
 // k + 1 in the lanes where x is beyond the tie.
 template <class V> V decided(V k, V x, V tie) { return k - hn::VecFromMask(TagOf<V>(), x - tie > hn::Zero(TagOf<V>())); }
 
-// sqrt(x) * 2^s for destinations of kBits bits. There is no tie: (k + 1/2)^2 is not an integer. What is cut off at `most` has
-// the root 2^kBits, which saturates; 2^(2 * kBits) may wrap to 0, but so does its tie.
+// sqrt(x) * 2^s for destinations of kBits bits. There is no tie: (k + 1/2)^2 is not an integer. What is cut off has the root
+// 2^kBits, which saturates; 2^(2 * kBits) may wrap to 0, but so does its tie.
 template <int kBits> struct RootEnlarged {
   int s;
 
   template <class V> V operator()(V x) const {
     using T = LaneOf<V>;
-    constexpr int kMostBits = 8 * sizeof(T) - 2;
-    const V cut = hn::Min(x, same<V>(T{1} << std::min(2 * (kBits - s), kMostBits)));
+    const int bits = 2 * (kBits - s);
+    const V cut = bits < std::numeric_limits<T>::digits ? hn::Min(x, same<V>(T{1} << bits)) : x;
     const V k = integerPart(cut, powerOfTwo<double>(s));
     const V square = hn::ShiftLeftSame(hn::ShiftLeftSame(cut, s), s);
-    return decided(k, square, timesSuccessor(k));
+    return decided(k, square, timesSuccessor<kBits>(k));
   }
 };
 
@@ -52,7 +53,7 @@ struct RootReduced {
   template <class V> V operator()(V x) const {
     using T = LaneOf<V>;
     const V k = integerPart(x, powerOfTwo<double>(-s));
-    V tie = timesSuccessor(k);
+    V tie = timesSuccessor<32>(k);
     if (s > 0) tie = hn::ShiftLeftSame(hn::ShiftLeftSame(tie, s), s) + same<V>(T{1} << (2 * s - 2)) - (k & same<V>(1));
     return decided(k, x, tie);
   }
@@ -117,7 +118,9 @@ struct ScaledRoot {
   }
 };
 
-// ---- 64 bits times a power of two: the result outgrows a double, its square 64 bits
+// ---- 64 bits times a power of two: from 19 places on the result outgrows a double
+
+constexpr int kPlacesInLanes = 18;  // a root of 2^49.5 is wrong by 0.3 at most, in any rounding mode
 
 // The integer nearest to sqrt(x) * 2^s.
 Qvx64s enlargedRoot(Qvx64s x, int s) {
@@ -141,6 +144,10 @@ QvxStatus root64(const Qvx64s* src, Qvx64s* dst, int len, int sf) {
   if (sf >= 0) return map<IntegerRoot<Qvx64s, Qvx64s>>(dst, len, ScaledRoot{sf}, src);
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;
+  if (sf >= -kPlacesInLanes) {
+    const auto kernel = IntegerRoot<Qvx64s, Qvx64s>::kernel(RootEnlarged<63>{-sf});
+    return loop(kernel, destination(dst), elements(len), source(src));
+  }
   const int s = sf < -63 ? 63 : -sf;  // 1 times 2^63 saturates already
   bool negative = false;
   for (size_t i = 0; i < elements(len); ++i) {
@@ -156,8 +163,9 @@ using Root16s = IntegerRoot<Qvx16s, Qvx16s>;
 using Root32s16s = IntegerRoot<Qvx32s, Qvx16s>;
 using Root64s16s = IntegerRoot<Qvx64s, Qvx16s>;
 
-constexpr TeamRule kRoot8u = {.threaded = 2048, .worthIt = 65536};
-constexpr TeamRule kRoot16 = {.threaded = 2048, .worthIt = 65536};
+// Worth it where one thread takes 3 to 4 us.
+constexpr TeamRule kRoot8u = {.threaded = 2048, .worthIt = 32768};
+constexpr TeamRule kRoot16 = {.threaded = 2048, .worthIt = 32768};
 constexpr TeamRule kRoot32s16s = {.threaded = 1024, .worthIt = 32768};
 constexpr TeamRule kRoot64s16s = {.threaded = 512, .worthIt = 8192};
 
