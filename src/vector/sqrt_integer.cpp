@@ -31,17 +31,14 @@ template <int kBits, class V> V timesSuccessor(V k) {
 // k + 1 in the lanes where x is beyond the tie.
 template <class V> V decided(V k, V x, V tie) { return k - hn::VecFromMask(TagOf<V>(), x - tie > hn::Zero(TagOf<V>())); }
 
-// sqrt(x) * 2^s for destinations of kBits bits. There is no tie: (k + 1/2)^2 is not an integer. What is cut off has the root
-// 2^kBits, which saturates; 2^(2 * kBits) may wrap to 0, but so does its tie.
+// sqrt(x) * 2^s for destinations of kBits bits. There is no tie: (k + 1/2)^2 is not an integer. From 2^kBits on k saturates, and
+// the squares may wrap.
 template <int kBits> struct RootEnlarged {
   int s;
 
   template <class V> V operator()(V x) const {
-    using T = LaneOf<V>;
-    const int bits = 2 * (kBits - s);
-    const V cut = bits < std::numeric_limits<T>::digits ? hn::Min(x, same<V>(T{1} << bits)) : x;
-    const V k = integerPart(cut, powerOfTwo<double>(s));
-    const V square = hn::ShiftLeftSame(hn::ShiftLeftSame(cut, s), s);
+    const V k = integerPart(x, powerOfTwo<double>(s));
+    const V square = hn::ShiftLeftSame(hn::ShiftLeftSame(x, s), s);
     return decided(k, square, timesSuccessor<kBits>(k));
   }
 };

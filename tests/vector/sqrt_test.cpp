@@ -94,6 +94,30 @@ TEST(Sqrt, Of64BitsAroundEveryStep) {
               kWarning);
 }
 
+// One negative element among positive ones, wherever it stands, at scale factors of all kernels.
+template <class D, class S> void warnsAnywhere(QvxStatus (*f)(const S*, D*, int, int)) {
+  for (const int n : {1, 3, 17, 100}) {
+    for (const int s : {-64, -30, -3, 0, 2, 40}) {
+      std::vector<S> x(static_cast<size_t>(n), 9);
+      std::vector<D> y(x.size());
+      EXPECT_EQ(f(x.data(), y.data(), n, s), qvxStatOk);
+      for (S& one : x) {
+        one = -1;
+        EXPECT_EQ(f(x.data(), y.data(), n, s), qvxWarnSqrtNegArg) << &one - x.data() << " of " << n << ", scale factor " << s;
+        EXPECT_EQ(y[static_cast<size_t>(&one - x.data())], 0);
+        one = 9;
+      }
+    }
+  }
+}
+
+TEST(Sqrt, WarnsOfANegativeElementAnywhere) {
+  warnsAnywhere(qvxsSqrt_16s_Sfs);
+  warnsAnywhere(qvxsSqrt_32s16s_Sfs);
+  warnsAnywhere(qvxsSqrt_64s16s_Sfs);
+  warnsAnywhere(qvxsSqrt_64s_Sfs);
+}
+
 // Integer results do not depend on the caller's rounding mode.
 TEST(Sqrt, IntegersInEveryRoundingMode) {
   for (const int mode : kModes) {
