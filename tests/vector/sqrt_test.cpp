@@ -53,7 +53,8 @@ TEST(Sqrt, AllNarrowSources) {
 }
 
 // Sources at which the root times 2^-s steps from one integer to the next, with their neighbours: squares of k + 1/2 and of k.
-template <class T> std::vector<T> steps(int s) {
+template <class T> std::vector<T> steps(int scaleFactor) {
+  const int s = std::clamp(scaleFactor, -100, 100);
   std::vector<T> v;
   Random random(seed() + static_cast<unsigned>(s + 100));
   const auto add = [&](long double x) {
