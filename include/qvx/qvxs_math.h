@@ -60,6 +60,12 @@ QVXS_API(QvxStatus, qvxsSqrt_64s_ISfs, (Qvx64s* pSrcDst, int len, int scaleFacto
 QVXS_API(QvxStatus, qvxsSqrt_32s16s_Sfs, (const Qvx32s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
 QVXS_API(QvxStatus, qvxsSqrt_64s16s_Sfs, (const Qvx64s* pSrc, Qvx16s* pDst, int len, int scaleFactor));
 
+/** dst[n] = cube root of src[n], with its sign.
+ *  Accuracy: 0.51 ULP, the same bits in every variant. Zeros and infinities give themselves, NaN gives NaN.
+ *  pSrc, pDst: len elements each, any alignment.
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
+QVXS_API(QvxStatus, qvxsCubrt_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
+
 /** dst[n] = cube root of src[n], times 2^-scaleFactor, half a unit rounded up, saturated. Exact but for that one rounding.
  *  pSrc, pDst: len elements each, any alignment.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
@@ -126,35 +132,6 @@ QVXS_API(QvxStatus, qvxsLn_32s16s_Sfs, (const Qvx32s* pSrc, Qvx16s* pDst, int le
 /** dst[n] = 10 times the decimal logarithm of src[n], the rest as with integer logarithms qvxsLn. */
 QVXS_API(QvxStatus, qvxs10Log10_32s_Sfs, (const Qvx32s* pSrc, Qvx32s* pDst, int len, int scaleFactor));
 QVXS_API(QvxStatus, qvxs10Log10_32s_ISfs, (Qvx32s* pSrcDst, int len, int scaleFactor));
-
-/** dst[n] = cube root of src[n], with its sign.
- *  Accuracy: 0.51 ULP, the same bits in every variant. Zeros and infinities give themselves, NaN gives NaN.
- *  pSrc, pDst: len elements each, any alignment.
- *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
-QVXS_API(QvxStatus, qvxsCubrt_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
-
-/** dst[n] = e to the power of src[n]; the _I forms: of srcDst[n]. 32f64f: from a float, computed and given as a double.
- *  Accuracy: 1.0 ULP, with AVX-512 0.80 ULP, subnormal results included. -infinity gives 0, results too
- *  large infinity, NaN gives NaN; all without a warning.
- *  pSrc, pDst: len elements each, any alignment.
- *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
-QVXS_API(QvxStatus, qvxsExp_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
-QVXS_API(QvxStatus, qvxsExp_32f_I, (Qvx32f* pSrcDst, int len));
-QVXS_API(QvxStatus, qvxsExp_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
-QVXS_API(QvxStatus, qvxsExp_64f_I, (Qvx64f* pSrcDst, int len));
-QVXS_API(QvxStatus, qvxsExp_32f64f, (const Qvx32f* pSrc, Qvx64f* pDst, int len));
-
-/** dst[n] = natural logarithm of src[n]; the _I forms: of srcDst[n]. 64f32f: of a double, given as a float.
- *  Accuracy: 0.85 ULP, 64f with AVX-512 1.1 ULP, subnormal arguments included; 64f32f: 0.51 ULP.
- *  +0 gives -infinity, a negative number and -0 the NaN 0xFFC00000 (0xFFF8000000000000), infinity and NaN themselves.
- *  pSrc, pDst: len elements each, any alignment.
- *  Returns qvxStatOk; as the first element that was 0 or negative decides, qvxWarnLnZeroArg (it was +0) or qvxWarnLnNegArg, the
- *  vector being complete; qvxStatNullPtr; qvxStatBadSize (len < 1). */
-QVXS_API(QvxStatus, qvxsLn_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len));
-QVXS_API(QvxStatus, qvxsLn_32f_I, (Qvx32f* pSrcDst, int len));
-QVXS_API(QvxStatus, qvxsLn_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len));
-QVXS_API(QvxStatus, qvxsLn_64f_I, (Qvx64f* pSrcDst, int len));
-QVXS_API(QvxStatus, qvxsLn_64f32f, (const Qvx64f* pSrc, Qvx32f* pDst, int len));
 
 /** dst[n] = arctangent of src[n], from -pi/2 to pi/2; the _I forms: of srcDst[n].
  *  Accuracy: 0.90 ULP. Zeros give themselves, infinities +-pi/2, NaN gives NaN.
