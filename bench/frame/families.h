@@ -25,23 +25,7 @@ void complexForms(Suite& suite);
 
 // In the order of the library's entry table.
 inline constexpr void (*kFamilies[])(Suite&) = {
-    add,
-    sub,
-    mul,
-    div,
-    copy,
-    logic,
-    shift,
-    widen,
-    narrow,
-    floatToInt,
-    half,
-    sqr,
-    sqrt,
-    integerMath,
-    math,
-    sum,
-    complexForms,
+    add, sub, mul, div, copy, logic, shift, widen, narrow, floatToInt, half, sqr, sqrt, integerMath, math, sum, complexForms,
 };
 
 }  // namespace bench

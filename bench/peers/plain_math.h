@@ -42,25 +42,27 @@ template <auto kFunction, class Real, bool kScalar = false> struct RoundedFuncti
   static constexpr bool kAccumulates = false;
   template <class D, class E, class L> static void dispatch(const L& loop, int s) {
     const Real factor = powerOfTwo<Real>(-s);
-    const auto one = [factor](auto x) { return std::nearbyint(static_cast<Real>(kFunction(static_cast<Real>(x))) * factor); };
+    using Limits = std::numeric_limits<Part<D>>;
     const auto limited = [](Real v) {
-      using Limits = std::numeric_limits<D>;
-      return v >= static_cast<Real>(Limits::max())  ? Limits::max()
-             : v > static_cast<Real>(Limits::min()) ? static_cast<D>(v)
-                                                    : Limits::min();
+      const Real whole = std::nearbyint(v);
+      if (whole >= static_cast<Real>(Limits::max())) return Limits::max();
+      return whole > static_cast<Real>(Limits::min()) ? static_cast<Part<D>>(whole) : Limits::min();
     };
     loop([=](E x) {
       if constexpr (kScalar) __asm__ volatile("");
       if constexpr (kIsComplex<E>) {
-        const auto root = std::sqrt(std::complex<Real>(x.re, x.im)) * factor;
-        return D{saturate<Part<D>>(std::nearbyint(root.real())), saturate<Part<D>>(std::nearbyint(root.imag()))};
+        const auto y = kFunction(std::complex<Real>(x.re, x.im));
+        return D{limited(y.real() * factor), limited(y.imag() * factor)};
       } else {
-        return limited(one(x));
+        return limited(kFunction(static_cast<Real>(x)) * factor);
       }
     });
   }
 };
-inline constexpr auto rootOrZero = [](auto x) { return std::sqrt(x > 0 ? x : 0); };
+inline constexpr auto rootOrZero = [](auto x) {
+  if constexpr (std::is_floating_point_v<decltype(x)>) return std::sqrt(x > 0 ? x : 0);
+  else return std::sqrt(x);
+};
 
 // By trial of one bit of the result after the other.
 inline constexpr auto bitTrials = [](const int64_t* src, int64_t* dst, int n, int s) {

@@ -1,6 +1,7 @@
 // The arctangent of whole vectors of float or double.
 //
-// Error below 1.0 ULP (float), 1.25 ULP (double). Infinities give the halves of pi nearest to them, zeros and what is not a number themselves.
+// Error below 1.0 ULP (float), 1.25 ULP (double). Infinities give the halves of pi nearest to them, zeros and what is not a
+// number themselves.
 //
 // Below 2/3 it is t + t z q(z) with t = x and z = t^2. To 1.6 t is the tangent of what x's angle is above pi/4, (x - 1) / (x +
 // 1), and from there on of what it is above pi/2, -1 / x. Two ranges, below and above 1, would need 21 coefficients in double

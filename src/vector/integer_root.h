@@ -28,18 +28,15 @@ template <class V> V timesSuccessor(V k) {
 // k + 1 in the lanes where x is beyond the tie.
 template <class V> V decided(V k, V x, V tie) { return k - hn::VecFromMask(TagOf<V>(), x - tie > hn::Zero(TagOf<V>())); }
 
-// sqrt(x) * 2^s for destinations of kBits bits. There is no tie: (k + 1/2)^2 is not an integer. What is cut off at `most` has
-// the root 2^kBits, which saturates; 2^(2 * kBits) may wrap to 0, but so does its tie.
+// sqrt(x) * 2^s for destinations of kBits bits. There is no tie: (k + 1/2)^2 is not an integer. From 2^kBits on k saturates, and
+// the squares may wrap.
 template <int kBits> struct RootEnlarged {
   int s;
 
   template <class V> V operator()(V x) const {
-    using T = LaneOf<V>;
-    constexpr int kMostBits = 8 * sizeof(T) - 2;
-    const V cut = hn::Min(x, same<V>(T{1} << std::min(2 * (kBits - s), kMostBits)));
-    const V k = integerPart(cut, powerOfTwo<double>(s));
-    const V square = hn::ShiftLeftSame(hn::ShiftLeftSame(cut, s), s);
-    return decided(k, square, timesSuccessor(k));
+    const V k = integerPart(x, powerOfTwo<double>(s));
+    const V square = hn::ShiftLeftSame(hn::ShiftLeftSame(x, s), s);
+    return decided(k, square, timesSuccessor<kBits>(k));
   }
 };
 

@@ -53,7 +53,8 @@ TEST(Sqrt, AllNarrowSources) {
 }
 
 // Sources at which the root times 2^-s steps from one integer to the next, with their neighbours: squares of k + 1/2 and of k.
-template <class T> std::vector<T> steps(int s) {
+template <class T> std::vector<T> steps(int scaleFactor) {
+  const int s = std::clamp(scaleFactor, -100, 100);
   std::vector<T> v;
   Random random(seed() + static_cast<unsigned>(s + 100));
   const auto add = [&](long double x) {
@@ -92,6 +93,30 @@ TEST(Sqrt, Of64BitsAroundEveryStep) {
   }
   scaledUnary(qvxsSqrt_64s_Sfs, qvxsSqrt_64s_ISfs, steps<Qvx64s>(0), rootInto<Qvx64s>(), {}, {-63, -31, -1, 0, 1, 32, 33},
               kWarning);
+}
+
+// One negative element among positive ones, wherever it stands, at scale factors of all kernels.
+template <class D, class S> void warnsAnywhere(QvxStatus (*f)(const S*, D*, int, int)) {
+  for (const int n : {1, 3, 17, 100}) {
+    for (const int s : {-64, -30, -3, 0, 2, 40}) {
+      std::vector<S> x(static_cast<size_t>(n), 9);
+      std::vector<D> y(x.size());
+      EXPECT_EQ(f(x.data(), y.data(), n, s), qvxStatOk);
+      for (S& one : x) {
+        one = -1;
+        EXPECT_EQ(f(x.data(), y.data(), n, s), qvxWarnSqrtNegArg) << &one - x.data() << " of " << n << ", scale factor " << s;
+        EXPECT_EQ(y[static_cast<size_t>(&one - x.data())], 0);
+        one = 9;
+      }
+    }
+  }
+}
+
+TEST(Sqrt, WarnsOfANegativeElementAnywhere) {
+  warnsAnywhere(qvxsSqrt_16s_Sfs);
+  warnsAnywhere(qvxsSqrt_32s16s_Sfs);
+  warnsAnywhere(qvxsSqrt_64s16s_Sfs);
+  warnsAnywhere(qvxsSqrt_64s_Sfs);
 }
 
 // Integer results do not depend on the caller's rounding mode.
