@@ -14,8 +14,9 @@ namespace qvx {
 
 namespace detail {
 
-// Between these neither a sum nor a remainder leaves the range of normal numbers; what lies beyond is left to the C library.
-template <class T> inline constexpr T kLeastSize = sizeof(T) == 4 ? T(0x1p-100) : T(0x1p-960);
+// Between these neither a sum nor a remainder leaves the range of normal numbers; what lies beyond is left to the C library, but
+// for zeros.
+template <class T> inline constexpr T kLeastSize = sizeof(T) == 4 ? T(0x1p-100) : T(0x1p-900);
 template <class T> inline constexpr T kMostSize = sizeof(T) == 4 ? T(0x1p120) : T(0x1p960);
 
 // c - a * b with one rounding, or very nearly so.
@@ -76,7 +77,9 @@ template <bool kRemainder = true, class V> V phase(V y, V x) {
   const V denLow = hn::IfThenElseZero(hn::AndNot(isLarge, isMiddle), hn::Min(up, along) - (sum - size));
   const auto [t, wrong] = kRemainder ? detail::quotient(num, den, denLow) : Pair<V>{num / den, zero};
   const V z = t * t;
-  const V low = ofRange(zero, same<V>(C::kHalfPiLow / 2), same<V>(C::kHalfPiLow)) + wrong;
+  // The arctangent's slope 1 / (1 + z) turns what the quotient is wrong by into what the angle is, near enough.
+  const V low =
+      hn::NegMulAdd(wrong * same<V>(T(0.72)), z, wrong) + ofRange(zero, same<V>(C::kHalfPiLow / 2), same<V>(C::kHalfPiLow));
   const V high = ofRange(zero, same<V>(C::kHalfPi / 2), same<V>(C::kHalfPi));
   const V more = hn::MulAdd(t, z * polynomial(z, C::kQ), low);
   const V angle = high + t;
@@ -87,8 +90,10 @@ template <bool kRemainder = true, class V> V phase(V y, V x) {
   const V leftRest = ((pi - left) - angle) + (same<V>(2 * C::kHalfPiLow) - rest);
   const V result = ifNegative(x, left + leftRest, angle + rest) ^ (y & signBit);
 
-  const auto isNear = hn::And(size >= same<V>(detail::kLeastSize<T>), size <= same<V>(detail::kMostSize<T>));
-  const uint64_t far = maskBits(d, hn::Not(hn::Or(isNear, hn::And(isZero, y == y))));
+  const V smaller = hn::Min(up, along);
+  const auto isFine = [&](V v) { return hn::Or(v >= same<V>(detail::kLeastSize<T>), v == zero); };
+  const auto isNear = hn::And(hn::And(isFine(smaller), isFine(size)), size <= same<V>(detail::kMostSize<T>));
+  const uint64_t far = maskBits(d, hn::Not(hn::And(isNear, y == y)));
   if (HWY_LIKELY(far == 0)) return result;
   return redone(
       far, result, [](double imaginary, double real) { return static_cast<T>(std::atan2(imaginary, real)); }, y, x);

@@ -19,10 +19,11 @@ template <class V> V integerPart(V x, double factor) {
   }
 }
 
-template <class V> V timesSuccessor(V k) {
+// k * (k + 1), of which a lane's bits suffice; k has kBits bits.
+template <int kBits, class V> V timesSuccessor(V k) {
   const V next = k + same<V>(1);
-  if constexpr (sizeof(LaneOf<V>) == 4) return k * next;
-  else return as<int64_t>(hn::MulEven(as<uint32_t>(k), as<uint32_t>(next)));
+  if constexpr (sizeof(LaneOf<V>) == 8 && kBits <= 32) return as<int64_t>(hn::MulEven(as<uint32_t>(k), as<uint32_t>(next)));
+  else return k * next;
 }
 
 // k + 1 in the lanes where x is beyond the tie.
@@ -47,7 +48,7 @@ struct RootReduced {
   template <class V> V operator()(V x) const {
     using T = LaneOf<V>;
     const V k = integerPart(x, powerOfTwo<double>(-s));
-    V tie = timesSuccessor(k);
+    V tie = timesSuccessor<32>(k);
     if (s > 0) tie = hn::ShiftLeftSame(hn::ShiftLeftSame(tie, s), s) + same<V>(T{1} << (2 * s - 2)) - (k & same<V>(1));
     return decided(k, x, tie);
   }
