@@ -21,6 +21,8 @@ void sqrt(Suite& suite);
 void math(Suite& suite);
 void integerMath(Suite& suite);
 void sum(Suite& suite);
+void norm(Suite& suite);
+void dotProduct(Suite& suite);
 void complexForms(Suite& suite);
 
 // In the order of the library's entry table.
@@ -41,6 +43,8 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     integerMath,
     math,
     sum,
+    norm,
+    dotProduct,
     complexForms,
 };
 
