@@ -339,7 +339,9 @@ template <class V> auto twice(V v) {
         hn::PromoteTo(Lanes<hwy::UnsignedFromSize<2 * sizeof(T)>, N / 2>(), as<hwy::UnsignedFromSize<sizeof(T)>>(v));
     return as<T>(wide | hn::ShiftLeft<8 * sizeof(T)>(wide));
   } else {
+#if HWY_TARGET <= HWY_AVX2
     return as<T>(detail::twice(as<hwy::FloatFromSize<sizeof(T)>>(v)));
+#endif
   }
 }
 

@@ -37,7 +37,7 @@ template <class Lane> struct ComplexProducts : Reduction {
 template <class D>
 constexpr auto to = [](auto sum) {
   if constexpr (PartsOf<D>::kCount == 1) return static_cast<D>(sum);
-  else return D{static_cast<Part<D>>(sum.re), static_cast<Part<D>>(sum.im)};
+  else return complexOf<D>(sum.re, sum.im);
 };
 
 template <class R, class D, class... Src> QvxStatus dotProduct(D* result, int len, Src... src) {

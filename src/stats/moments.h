@@ -16,12 +16,22 @@ template <class T> struct ComplexTotal {
   ComplexTotal& operator+=(ComplexTotal other) { return re += other.re, im += other.im, *this; }
 };
 template <size_t kParts, class V> auto laneTotals(V v) {
+  using Total = std::conditional_t<std::is_same_v<LaneOf<V>, float>, double, LaneOf<V>>;
   if constexpr (kParts == 1) {
-    return sumOfLanes(v);
+    return static_cast<Total>(sumOfLanes(v));
   } else {
     const auto two = folded<2>(v);
-    return ComplexTotal<LaneOf<V>>{hn::ExtractLane(two, 0), hn::ExtractLane(two, 1)};
+    return ComplexTotal<Total>{hn::ExtractLane(two, 0), hn::ExtractLane(two, 1)};
   }
+}
+
+// Part by part: a compiler that sees both converts them by way of the stack, where loading the two waits 4 ns for their stores.
+template <class D> D complexOf(double re, double im) {
+  const auto part = [](double v) {
+    __asm__("" : "+x"(v));
+    return static_cast<Part<D>>(v);
+  };
+  return {part(re), part(im)};
 }
 
 // A sum of floats in lanes of Lane, complex ones in lanes of their own. A Term is what it takes of the elements: first(v...) is
@@ -34,10 +44,7 @@ template <class Lane, class Term, size_t kParts = 1> struct FloatSum : Reduction
 
   template <class... V> auto start(V... v) const { return Term::first(widened<Lane>(v)...); }
   template <class A, class... V> A add(A a, V... v) const { return Term::onto(a, widened<Lane>(v)...); }
-  template <class A> auto total(A a) const {
-    if constexpr (sizeof(Lane) == 4) return laneTotals<kParts>(halvesAdded<double>(a));
-    else return laneTotals<kParts>(a);
-  }
+  template <class A> auto total(A a) const { return laneTotals<kParts>(a); }
 };
 
 struct Elements {

@@ -24,7 +24,7 @@ template <class T, class Finish> QvxStatus sumFloats(const T* src, int len, T* r
     return sumOf<FloatSum<double, Elements, kParts>>(src, len);
   }();
   if constexpr (kParts == 1) *result = static_cast<T>(finish(sum));
-  else *result = {static_cast<Part<T>>(finish(sum.re)), static_cast<Part<T>>(finish(sum.im))};
+  else *result = complexOf<T>(finish(sum.re), finish(sum.im));
   return qvxStatOk;
 }
 
