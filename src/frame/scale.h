@@ -251,8 +251,8 @@ template <class V> struct EvenOdd {
 };
 
 template <class V> auto wideProduct(V a, V b) {
-  const auto odd = hn::MulEven(hn::Shuffle2301(a), hn::Shuffle2301(b));
-  return EvenOdd<decltype(odd)>{hn::MulEven(a, b), odd};
+  const auto odd = evenProducts(hn::Shuffle2301(a), hn::Shuffle2301(b));
+  return EvenOdd<decltype(odd)>{evenProducts(a, b), odd};
 }
 
 // Back to 32-bit lanes, saturated.

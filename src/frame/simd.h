@@ -315,6 +315,18 @@ template <class V> auto pairProducts(V a, V b) {
   return Vec<hn::RepartitionToWide<TagOf<V>>>{detail::pairProducts(a.raw, b.raw)};
 }
 
+// The 64-bit products of the even lanes of 32 bits. Highway's go through memory on SSSE3, which only multiplies unsigned numbers:
+// a negative one counts as 2^32 more there, and its partner is taken off the upper half again.
+template <class V> auto evenProducts(V a, V b) {
+  if constexpr (HWY_TARGET == HWY_SSSE3 && std::is_signed_v<LaneOf<V>>) {
+    const auto product = as<int64_t>(hn::MulEven(as<uint32_t>(a), as<uint32_t>(b)));
+    const V excess = (hn::BroadcastSignBit(a) & b) + (hn::BroadcastSignBit(b) & a);
+    return product - hn::ShiftLeft<32>(as<int64_t>(excess));
+  } else {
+    return hn::MulEven(a, b);
+  }
+}
+
 // The lanes of a whole vector at twice their width: low and high half of every 128-bit block, which costs one instruction each
 // where the order of elements would cost a shuffle across blocks.
 template <class To, class V> auto widen(V v) {

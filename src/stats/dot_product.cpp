@@ -14,7 +14,8 @@ struct Products {
 template <class Lane> struct ComplexProducts : Reduction {
   using Like = FloatSum<Lane, Products, 2>;
   using Inner = Lane;
-  static constexpr size_t kSlice = Like::kSlice;
+  // Half as many accumulators: half the slice keeps a 32-bit lane at 512 elements.
+  static constexpr size_t kSlice = sizeof(Lane) == 4 ? Like::kSlice / 2 : Like::kSlice;
 
   template <class V> auto start(V v, V w) const {
     const auto a = widened<Lane>(v);

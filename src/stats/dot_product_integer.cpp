@@ -38,7 +38,7 @@ struct Products32 {
   static constexpr size_t kSlice = kMostElements;
   template <class U, class V> static auto of(U v, V b) {
     const V a = widened<int32_t>(v);
-    return hn::MulEven(a, b) + hn::MulEven(hn::Shuffle2301(a), hn::Shuffle2301(b));
+    return evenProducts(a, b) + evenProducts(hn::Shuffle2301(a), hn::Shuffle2301(b));
   }
 };
 struct ComplexProducts32 {
@@ -47,8 +47,8 @@ struct ComplexProducts32 {
   template <class V> static auto of(V a, V b) {
     const V c = hn::Shuffle2301(a);
     const V d = hn::Shuffle2301(b);
-    const auto re = hn::MulEven(a, b) - hn::MulEven(c, d);
-    return Complex<std::remove_const_t<decltype(re)>>{re, hn::MulEven(a, d) + hn::MulEven(c, b)};
+    const auto re = evenProducts(a, b) - evenProducts(c, d);
+    return Complex<std::remove_const_t<decltype(re)>>{re, evenProducts(a, d) + evenProducts(c, b)};
   }
 };
 struct MixedProducts32 {
@@ -56,8 +56,8 @@ struct MixedProducts32 {
   static constexpr bool kImOfPairs = false;
   template <class U, class V> static auto of(U a, V b) {
     const auto even = as<int32_t>(hn::PromoteTo(hn::RepartitionToWide<hn::RebindToUnsigned<TagOf<V>>>(), as<uint32_t>(a)));
-    const auto re = hn::MulEven(even, b);
-    return Complex<std::remove_const_t<decltype(re)>>{re, hn::MulEven(even, hn::Shuffle2301(b))};
+    const auto re = evenProducts(even, b);
+    return Complex<std::remove_const_t<decltype(re)>>{re, evenProducts(even, hn::Shuffle2301(b))};
   }
 };
 
