@@ -21,11 +21,33 @@ void sqrt(Suite& suite);
 void math(Suite& suite);
 void integerMath(Suite& suite);
 void sum(Suite& suite);
+void norm(Suite& suite);
+void dotProduct(Suite& suite);
 void complexForms(Suite& suite);
 
+// clang-format off
 // In the order of the library's entry table.
 inline constexpr void (*kFamilies[])(Suite&) = {
-    add, sub, mul, div, copy, logic, shift, widen, narrow, floatToInt, half, sqr, sqrt, integerMath, math, sum, complexForms,
+    add,
+    sub,
+    mul,
+    div,
+    sqr,
+    sqrt,
+    integerMath,
+    math,
+    copy,
+    logic,
+    shift,
+    widen,
+    narrow,
+    floatToInt,
+    half,
+    complexForms,
+    sum,
+    norm,
+    dotProduct,
 };
+// clang-format on
 
 }  // namespace bench

@@ -74,6 +74,12 @@ inline constexpr auto conj32fc = [](C a, Qvx32fc* d, int n) { volk_32fc_conjugat
 inline constexpr auto power32fc = [](C a, float* d, int n) { volk_32fc_magnitude_squared_32f(d, complex(a), n); };
 
 inline constexpr auto sum32f = [](F a, int n, float* r, int) { volk_32f_accumulator_s32f(r, a, n); };
+inline constexpr auto dot32f = [](F a, F b, int n, float* r) { volk_32f_x2_dot_prod_32f(r, a, b, n); };
+inline constexpr auto dot32fc = [](C a, C b, int n, Qvx32fc* r) { volk_32fc_x2_dot_prod_32fc(complex(r), complex(a), complex(b), n); };
+inline constexpr auto dot32f32fc = [](F a, C b, int n, Qvx32fc* r) { volk_32fc_32f_dot_prod_32fc(complex(r), complex(b), a, n); };
+inline constexpr auto dot16sc = [](const Qvx16sc* a, const Qvx16sc* b, int n, Qvx16sc* r, int) {
+  volk_16ic_x2_dot_prod_16ic(reinterpret_cast<lv_16sc_t*>(r), reinterpret_cast<const lv_16sc_t*>(a), reinterpret_cast<const lv_16sc_t*>(b), n);
+};
 inline constexpr auto meanStdDev32f = [](F a, int n, float* mean, float* deviation, int) { volk_32f_stddev_and_mean_32f_x2(deviation, mean, a, n); };
 // clang-format on
 

@@ -9,5 +9,6 @@
 #include <qvx/qvxs_convert.h>
 #include <qvx/qvxs_complex.h>
 #include <qvx/qvxs_stats.h>
+#include <qvx/qvxs_norm.h>
 
 #endif

@@ -99,18 +99,44 @@ template <class T> struct Doubled {
   using Lane = T;
   const T* p;
 
-  template <size_t N> static auto twice(Vec<Lanes<T, N / 2>> v) {
-    using U = hwy::UnsignedFromSize<sizeof(T)>;
-    using Wide = hwy::UnsignedFromSize<2 * sizeof(T)>;
-    const auto wide = hn::PromoteTo(Lanes<Wide, N / 2>(), hn::BitCast(Lanes<U, N / 2>(), v));
-    return hn::BitCast(Lanes<T, N>(), wide | hn::ShiftLeft<8 * sizeof(T)>(wide));
-  }
-  template <size_t N> auto get(size_t at) const { return twice<N>(load(Lanes<T, N / 2>(), p + at / 2)); }
-  template <size_t N> auto get(size_t at, size_t n) const { return twice<N>(loadFirst(Lanes<T, N / 2>(), p + at / 2, n / 2)); }
+  template <size_t N> auto get(size_t at) const { return twice(load(Lanes<T, N / 2>(), p + at / 2)); }
+  template <size_t N> auto get(size_t at, size_t n) const { return twice(loadFirst(Lanes<T, N / 2>(), p + at / 2, n / 2)); }
   Doubled from(size_t at) const { return {p + at / 2}; }
 };
 
 template <class T> Doubled(const T*) -> Doubled<T>;
+
+// The same, every element once: for kernels that widen it to the size of a complex element.
+template <class T> struct Beside {
+  using Lane = T;
+  const T* p;
+
+  template <size_t N> auto get(size_t at) const { return load(Lanes<T, N / 2>(), p + at / 2); }
+  template <size_t N> auto get(size_t at, size_t n) const { return loadFirst(Lanes<T, N / 2>(), p + at / 2, n / 2); }
+  Beside from(size_t at) const { return {p + at / 2}; }
+};
+
+template <class T> Beside(const T*) -> Beside<T>;
+
+// A complex vector as real parts and imaginary parts, N of each, for reductions: the order of elements is not kept.
+template <class T> struct ByParts {
+  using Lane = Part<T>;
+  const T* p;
+
+  template <size_t N> auto get(size_t at) const {
+    const Lanes<Lane, N> d;
+    return evenAndOdd(load(d, parts(p + at)), load(d, parts(p + at) + N));
+  }
+  template <size_t N> auto get(size_t at, size_t n) const {
+    const Lanes<Lane, N> d;
+    const size_t low = std::min(2 * n, N);
+    const auto first = loadFirst(d, parts(p + at), low);
+    return evenAndOdd(first, 2 * n == low ? hn::Zero(d) : loadFirst(d, parts(p + at) + low, 2 * n - low));
+  }
+  ByParts from(size_t at) const { return {p + at}; }
+};
+
+template <class T> ByParts(const T*) -> ByParts<T>;
 
 // A vector of elements twice as wide as the destination's, for narrowInOrder: a whole register is stored at a time then, where
 // half a register would be the store's bound (32s to 16s takes 1.4 times as long that way).
@@ -148,6 +174,8 @@ struct Places {
 template <class T> Source<T> source(const T* p) { return {parts(p)}; }
 template <class T> Constant<T> source(Constant<T> c) { return c; }
 template <class T> Doubled<T> source(Doubled<T> d) { return d; }
+template <class T> Beside<T> source(Beside<T> v) { return v; }
+template <class T> ByParts<T> source(ByParts<T> v) { return v; }
 template <class T> OnesBehind<T> source(OnesBehind<T> v) { return v; }
 template <class T> InPairs<T> source(InPairs<T> v) { return v; }
 inline Places source(Places places) { return places; }
@@ -155,6 +183,8 @@ template <class T> Destination<T> destination(T* p) { return {parts(p)}; }
 
 template <class T> const T* pointerOf(const T* p) { return p; }
 template <class T> const T* pointerOf(Doubled<T> d) { return d.p; }
+template <class T> const T* pointerOf(Beside<T> v) { return v.p; }
+template <class T> const T* pointerOf(ByParts<T> v) { return v.p; }
 template <class T> const T* pointerOf(OnesBehind<T> v) { return v.p; }
 template <class T> const T* pointerOf(InPairs<T> v) { return v.p; }
 inline constexpr char kNotNull = 0;
@@ -324,6 +354,10 @@ template <class Lane, class V> auto widened(V v) {
   if constexpr (std::is_same_v<V, Place>) return v;
   else if constexpr (sizeof(LaneOf<V>) < sizeof(Lane)) return convertLanes<Lane>(v);
   else return v;
+}
+template <class Lane, class V> auto widened(Complex<V> v) {
+  const auto re = widened<Lane>(v.re);
+  return Complex<std::remove_const_t<decltype(re)>>{re, widened<Lane>(v.im)};
 }
 
 template <class Lane, class V> auto widened(Pair<V> v) {

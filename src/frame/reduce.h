@@ -56,21 +56,34 @@ template <class Wide, class V> auto halvesAdded(V v) {
   return hn::PromoteTo(wide, hn::LowerHalf(half, v)) + hn::PromoteTo(wide, hn::UpperHalf(half, v));
 }
 
-// A sum of lanes of 32 bits that may pass 32 bits: the wrapped sum, and the sum of the upper halves, which tells how often it
-// wrapped. Three instructions a vector, where lanes of 64 bits take four and a shuffle. For up to 2^16 vectors.
-template <class V> struct LongSum {
+// An exact sum of lanes that may pass their width: the wrapped sum, and the sum of the upper halves, which tells how often it
+// wrapped. Three instructions a vector, where widening the lanes takes four and a shuffle. For up to 2^16 lanes of 32 bits in
+// all, 2^15 of pairs, or any number of 64 bits.
+//
+// kOfPairs: the lanes are sums of two products. One such sum does not fit: that of four times the most negative number, which
+// reads as minus itself. The upper half of the lane less 1 is right for that one too, at one instruction more; what it leaves
+// to the lower half is from 1 to 2^16 then, not from 0 to 2^16 - 1.
+template <class V, bool kOfPairs = false> struct LongSum {
+  using Lane = LaneOf<V>;
+  static constexpr int kHalf = 4 * sizeof(Lane);
   V wrapped;
   V upper;
 
-  static LongSum of(V v) { return {v, hn::ShiftRight<16>(v)}; }
-  LongSum plus(V v) const { return {wrapped + v, upper + hn::ShiftRight<16>(v)}; }
-  LongSum plus(LongSum other) const { return {wrapped + other.wrapped, upper + other.upper}; }
+  static V upperHalf(V v) {
+    if constexpr (kOfPairs) return hn::ShiftRight<kHalf>(v - same<V>(1));
+    else return hn::ShiftRight<kHalf>(v);
+  }
+  static LongSum of(V v) { return {v, upperHalf(v)}; }
+  LongSum plus(V v) const { return {wrapped + v, upper + upperHalf(v)}; }
+  LongSum operator+(LongSum other) const { return {wrapped + other.wrapped, upper + other.upper}; }
 
-  // The lanes' sums. The upper halves give each to within 2^32 from below; the wrapped sum gives the rest.
-  auto sums() const {
-    using Wide = std::conditional_t<std::is_signed_v<LaneOf<V>>, int64_t, uint64_t>;
-    const V below = wrapped - hn::ShiftLeft<16>(upper);
-    return halvesAdded<uint64_t>(as<uint32_t>(below)) + as<uint64_t>(hn::ShiftLeft<16>(halvesAdded<Wide>(upper)));
+  // The upper halves give the sum to within one wrap from below; the wrapped sum gives the rest.
+  auto total() const {
+    using Wide = std::conditional_t<sizeof(Lane) == 4, int64_t, __int128>;
+    using Bits = std::make_unsigned_t<Lane>;
+    const Lane above = sumOfLanes(upper);
+    const auto rest = static_cast<Bits>(static_cast<Bits>(sumOfLanes(wrapped)) - (static_cast<Bits>(above) << kHalf));
+    return Wide{above} * (Wide{1} << kHalf) + rest;
   }
 };
 
@@ -126,6 +139,19 @@ template <class R, class... Src> [[gnu::always_inline]] inline auto reduce(R r, 
     if (n > R::kSlice) return detail::gatheredInSlices<N>(r, n, src...);
   }
   return detail::gathered<N>(r, n, src...);
+}
+
+// The lanes that stand for one element.
+template <class Src> inline constexpr size_t kLanesEach = 1;
+template <class T> inline constexpr size_t kLanesEach<const T*> = PartsOf<T>::kCount;
+
+// The whole function: *result = finish(the total over len elements).
+template <class R, class D, class Finish, class... Src>
+[[gnu::always_inline]] inline QvxStatus reduceTo(D* result, int len, Finish finish, Src... src) {
+  const QvxStatus status = check(len, pointerOf(src)..., result);
+  if (status != qvxStatOk) return status;
+  *result = finish(reduce(R(), elements(len) * std::max({kLanesEach<Src>...}), source(src)...));
+  return qvxStatOk;
 }
 
 }  // namespace qvx

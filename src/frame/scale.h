@@ -14,7 +14,7 @@
 namespace qvx {
 
 // By one comparison: clamping 128 bits takes five times as long.
-template <class T> constexpr T saturate(__int128 v) {
+template <class T, class Wide> constexpr T saturate(Wide v) {
   const auto low = static_cast<T>(v);
   return low == v ? low : v < 0 ? std::numeric_limits<T>::min() : std::numeric_limits<T>::max();
 }
@@ -28,6 +28,21 @@ template <class T> constexpr T scaled(__int128 v, int scaleFactor) {
   }
   // 63 places push every value but 0 out of every range or to its edge, and a value beyond the range stays there.
   return saturate<T>(__int128{saturate<T>(v)} << std::min(-static_cast<int64_t>(scaleFactor), int64_t{63}));
+}
+
+// The same for all values of 64 bits: nothing here leaves them.
+template <class T> constexpr T scaled(int64_t v, int scaleFactor) {
+  if (scaleFactor > 63) return 0;  // half a unit at most, and 0 is even
+  if (scaleFactor > 0) {
+    const int64_t quotient = v >> scaleFactor;
+    const uint64_t fraction = static_cast<uint64_t>(v) << (64 - scaleFactor);  // of 2^64; its last bit is free for the tie
+    const bool isOdd = (quotient & 1) != 0;
+    return saturate<T>(quotient + (fraction + isOdd > uint64_t{1} << 63));
+  }
+  const auto places = static_cast<int>(std::min(-static_cast<int64_t>(scaleFactor), int64_t{63}));
+  const auto shifted = static_cast<int64_t>(static_cast<uint64_t>(v) << places);
+  if (shifted >> places != v) return v < 0 ? std::numeric_limits<T>::min() : std::numeric_limits<T>::max();
+  return saturate<T>(shifted);
 }
 
 // ---- lanes that hold the result
@@ -236,8 +251,8 @@ template <class V> struct EvenOdd {
 };
 
 template <class V> auto wideProduct(V a, V b) {
-  const auto odd = hn::MulEven(hn::Shuffle2301(a), hn::Shuffle2301(b));
-  return EvenOdd<decltype(odd)>{hn::MulEven(a, b), odd};
+  const auto odd = evenProducts(hn::Shuffle2301(a), hn::Shuffle2301(b));
+  return EvenOdd<decltype(odd)>{evenProducts(a, b), odd};
 }
 
 // Back to 32-bit lanes, saturated.

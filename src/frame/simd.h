@@ -79,8 +79,20 @@ inline __m128i toIntTruncated(__m128 v) { return _mm_cvttps_epi32(v); }
 inline __m128i toIntCurrent(__m128d v) { return _mm_cvtpd_epi32(v); }
 inline __m128i toIntTruncated(__m128d v) { return _mm_cvttpd_epi32(v); }
 inline __m128i pairProducts(__m128i a, __m128i b) { return _mm_madd_epi16(a, b); }
+inline __m128 evens(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0x88); }
+inline __m128 odds(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0xDD); }
 #if HWY_TARGET <= HWY_AVX2
 inline __m256i pairProducts(__m256i a, __m256i b) { return _mm256_madd_epi16(a, b); }
+inline __m256 evens(__m256 x, __m256 y) { return _mm256_shuffle_ps(x, y, 0x88); }
+inline __m256 odds(__m256 x, __m256 y) { return _mm256_shuffle_ps(x, y, 0xDD); }
+template <class V> auto twice(V v) {
+  if constexpr (std::is_same_v<LaneOf<V>, double>) {
+    return Vec<Lanes<double, 4>>{_mm256_permute4x64_pd(_mm256_castpd128_pd256(v.raw), 0x50)};
+  } else {
+    return Vec<Lanes<float, 8>>{
+        _mm256_permutevar8x32_ps(_mm256_castps128_ps256(v.raw), _mm256_setr_epi32(0, 0, 1, 1, 2, 2, 3, 3))};
+  }
+}
 inline __m128i packU16(__m128i lo, __m128i hi) { return _mm_packus_epi32(lo, hi); }
 inline __m256i packU8(__m256i lo, __m256i hi) { return _mm256_packus_epi16(lo, hi); }
 inline __m256i packS8(__m256i lo, __m256i hi) { return _mm256_packs_epi16(lo, hi); }
@@ -108,6 +120,15 @@ inline __m128i packU16(__m128i lo, __m128i hi) {  // for lanes from -2^31 + 2^15
 #endif
 #if HWY_TARGET == HWY_AVX3
 inline __m512i pairProducts(__m512i a, __m512i b) { return _mm512_madd_epi16(a, b); }
+inline __m512 evens(__m512 x, __m512 y) { return _mm512_shuffle_ps(x, y, 0x88); }
+inline __m512 odds(__m512 x, __m512 y) { return _mm512_shuffle_ps(x, y, 0xDD); }
+inline auto twice(hn::Vec256<double> v) {
+  return Vec<Lanes<double, 8>>{_mm512_permutexvar_pd(_mm512_setr_epi64(0, 0, 1, 1, 2, 2, 3, 3), _mm512_castpd256_pd512(v.raw))};
+}
+inline auto twice(hn::Vec256<float> v) {
+  const __m512i order = _mm512_setr_epi32(0, 0, 1, 1, 2, 2, 3, 3, 4, 4, 5, 5, 6, 6, 7, 7);
+  return Vec<Lanes<float, 16>>{_mm512_permutexvar_ps(order, _mm512_castps256_ps512(v.raw))};
+}
 inline __m512i packU8(__m512i lo, __m512i hi) { return _mm512_packus_epi16(lo, hi); }
 inline __m512i packS8(__m512i lo, __m512i hi) { return _mm512_packs_epi16(lo, hi); }
 inline __m512i packS16(__m512i lo, __m512i hi) { return _mm512_packs_epi32(lo, hi); }
@@ -268,6 +289,12 @@ template <class V> struct Pair {
   V hi;
 };
 
+// The real and the imaginary parts of complex elements.
+template <class V> struct Complex {
+  V re;
+  V im;
+};
+
 template <class To, class V> auto narrow(Pair<V> v) {
   using From = LaneOf<V>;
   static_assert(sizeof(From) == 2 * sizeof(To) && sizeof(From) <= 4);
@@ -288,6 +315,18 @@ template <class V> auto pairProducts(V a, V b) {
   return Vec<hn::RepartitionToWide<TagOf<V>>>{detail::pairProducts(a.raw, b.raw)};
 }
 
+// The 64-bit products of the even lanes of 32 bits. Highway's go through memory on SSSE3, which only multiplies unsigned numbers:
+// a negative one counts as 2^32 more there, and its partner is taken off the upper half again.
+template <class V> auto evenProducts(V a, V b) {
+  if constexpr (HWY_TARGET == HWY_SSSE3 && std::is_signed_v<LaneOf<V>>) {
+    const auto product = as<int64_t>(hn::MulEven(as<uint32_t>(a), as<uint32_t>(b)));
+    const V excess = (hn::BroadcastSignBit(a) & b) + (hn::BroadcastSignBit(b) & a);
+    return product - hn::ShiftLeft<32>(as<int64_t>(excess));
+  } else {
+    return hn::MulEven(a, b);
+  }
+}
+
 // The lanes of a whole vector at twice their width: low and high half of every 128-bit block, which costs one instruction each
 // where the order of elements would cost a shuffle across blocks.
 template <class To, class V> auto widen(V v) {
@@ -297,6 +336,40 @@ template <class To, class V> auto widen(V v) {
   if constexpr (std::is_signed_v<LaneOf<V>>) above = hn::BroadcastSignBit(v);
   return Pair<Vec<hn::Repartition<To, TagOf<V>>>>{as<To>(hn::InterleaveLower(d, v, above)),
                                                   as<To>(hn::InterleaveUpper(d, v, above))};
+}
+
+// Every lane twice, in a vector of twice as many.
+template <class V> auto twice(V v) {
+  using T = LaneOf<V>;
+  constexpr size_t N = 2 * kLanesOf<V>;
+  const Lanes<T, N> d;
+  if constexpr (sizeof(T) * N <= 16) {
+    const Lanes<T, 16 / sizeof(T)> whole;
+    return Vec<decltype(d)>{hn::InterleaveLower(whole, Vec<decltype(whole)>{v.raw}, Vec<decltype(whole)>{v.raw}).raw};
+  } else if constexpr (sizeof(T) < 4) {
+    const auto wide =
+        hn::PromoteTo(Lanes<hwy::UnsignedFromSize<2 * sizeof(T)>, N / 2>(), as<hwy::UnsignedFromSize<sizeof(T)>>(v));
+    return as<T>(wide | hn::ShiftLeft<8 * sizeof(T)>(wide));
+  } else {
+#if HWY_TARGET <= HWY_AVX2
+    return as<T>(detail::twice(as<hwy::FloatFromSize<sizeof(T)>>(v)));
+#endif
+  }
+}
+
+// The even and the odd lanes of two vectors, within their 128-bit blocks: x0 x2 y0 y2 x4 x6 y4 y6 of floats.
+template <class V> Complex<V> evenAndOdd(V x, V y) {
+  const TagOf<V> d;
+  if constexpr (sizeof(LaneOf<V>) == 4 && kLanesOf<V> >= 4)
+    return {V{detail::evens(x.raw, y.raw)}, V{detail::odds(x.raw, y.raw)}};
+  else return {hn::InterleaveLower(d, x, y), hn::InterleaveUpper(d, x, y)};
+}
+
+// Real and imaginary parts exchanged, in vectors of interleaved ones.
+template <class V> V swapped(V v) {
+  if constexpr (sizeof(LaneOf<V>) == 2) return as<int16_t>(hn::RotateRight<16>(as<uint32_t>(v)));
+  else if constexpr (sizeof(LaneOf<V>) == 4) return hn::Shuffle2301(v);
+  else return hn::Shuffle01(v);
 }
 
 // yes where the lane's sign bit is set. Highway's own operation takes the other bits too on SSSE3.

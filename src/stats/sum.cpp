@@ -19,12 +19,12 @@ template <class T, class Finish> QvxStatus sumFloats(const T* src, int len, T* r
   if (status != qvxStatOk) return status;
   auto sum = [&] {
     if constexpr (sizeof(Part<T>) == 4) {
-      if (hint == kFast) return sumOf<SumInFloats<kParts>>(src, len);
+      if (hint == kFast) return sumOf<FloatSum<float, Elements, kParts>>(src, len);
     }
-    return sumOf<SumInDoubles<kParts>>(src, len);
+    return sumOf<FloatSum<double, Elements, kParts>>(src, len);
   }();
   if constexpr (kParts == 1) *result = static_cast<T>(finish(sum));
-  else *result = {static_cast<Part<T>>(finish(sum.re)), static_cast<Part<T>>(finish(sum.im))};
+  else *result = complexOf<T>(finish(sum.re), finish(sum.im));
   return qvxStatOk;
 }
 

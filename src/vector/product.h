@@ -64,19 +64,7 @@ struct Product {
   }
 };
 
-// Real and imaginary parts exchanged.
-template <class V> V swapped(V v) {
-  if constexpr (sizeof(LaneOf<V>) == 2) return as<int16_t>(hn::RotateRight<16>(as<uint32_t>(v)));
-  else if constexpr (sizeof(LaneOf<V>) == 4) return hn::Shuffle2301(v);
-  else return hn::Shuffle01(v);
-}
-
-// Real and imaginary parts of the products of complex integers, in lanes twice as wide.
-template <class V> struct Complex {
-  V re;
-  V im;
-};
-
+// Both parts of products of complex integers through one function.
 template <class V, class F> auto each(Complex<V> v, F f) { return Complex<decltype(f(v.re))>{f(v.re), f(v.im)}; }
 
 // (re1*re2 - im1*im2, re1*im2 + im1*re2); one integer value, the square of the most negative number, does not fit twice the

@@ -102,6 +102,13 @@ bool isElementaryFloat(const Export& e) {
   return stems.count(e.name.substr(0, tag)) != 0 && e.name.find('f', tag) != std::string::npos && e.indexOf("scaleFactor") < 0;
 }
 
+// The lanes that a reduction of floats adds up in differ, and with them its rounding: its own tests know how far.
+bool reducesFloats(const Export& e) {
+  static const std::set<std::string> stems = {"Sum", "Mean", "StdDev", "MeanStdDev", "Norm", "NormDiff", "DotProd"};
+  const size_t stem = std::strlen("qvxs");
+  return stems.count(e.name.substr(stem, e.name.find('_') - stem)) != 0 && e.parameters[0].type.find('f') != std::string::npos;
+}
+
 TEST(AllVariants, GiveTheSameBits) {
   const std::vector<Library> all = libraries();
   if (all.size() < 2) GTEST_SKIP() << "one variant only";
@@ -121,7 +128,7 @@ TEST(AllVariants, GiveTheSameBits) {
           for (size_t i = 1; i < all.size(); ++i, ++calls) {
             Sample other = sample();
             bool equal = e.call(functions[i], other) == status;
-            for (size_t b = 0; b < e.parameters.size() && !isElementaryFloat(e); ++b)
+            for (size_t b = 0; b < e.parameters.size() && !isElementaryFloat(e) && !reducesFloats(e); ++b)
               equal = equal && first.blocks()[b] == other.blocks()[b];
             ASSERT_TRUE(equal) << e.name << " differs between " << all[0].variant << " and " << all[i].variant << ": length "
                                << len << ", scale factor " << s << ", mode " << mode;

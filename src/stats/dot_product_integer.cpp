@@ -1,0 +1,137 @@
+// Dot products of vectors of integers: the exact sum, rounded once at most.
+#include "stats/moments.h"
+
+using namespace qvx;
+
+namespace {
+
+// A product's lanes hold sums of two products, or real and imaginary parts. Every real part fits its lane; kImOfPairs says
+// whether an imaginary one may be twice the square of the most negative number, which does not.
+
+struct Products16 {
+  static constexpr size_t kSlice = 1 << 16;
+  template <class V> static auto of(V a, V b) { return pairProducts(a, b); }
+};
+struct ComplexProducts16 {
+  static constexpr size_t kSlice = 1 << 16;
+  static constexpr bool kImOfPairs = true;
+  template <class V> static auto of(V a, V b) {
+    const V zero = same<V>(0);
+    // -im may not fit, ~im = -im - 1 does: the product with it lacks one im of the other.
+    const V conjugate = b ^ hn::OddEven(same<V>(-1), zero);
+    const auto re = pairProducts(a, conjugate) + hn::ShiftRight<16>(as<int32_t>(a));
+    return Complex<std::remove_const_t<decltype(re)>>{re, pairProducts(a, swapped(b))};
+  }
+};
+struct MixedProducts16 {
+  static constexpr size_t kSlice = 1 << 16;
+  static constexpr bool kImOfPairs = false;
+  template <class U, class V> static auto of(U a, V b) {
+    const auto low = hn::PromoteTo(hn::RepartitionToWide<hn::RebindToUnsigned<TagOf<V>>>(), as<uint16_t>(a));
+    const auto re = pairProducts(as<int16_t>(low), b);
+    return Complex<std::remove_const_t<decltype(re)>>{re, pairProducts(as<int16_t>(hn::ShiftLeft<16>(low)), b)};
+  }
+};
+
+// In lanes of 64 bits no slice is too long.
+struct Products32 {
+  static constexpr size_t kSlice = kMostElements;
+  template <class U, class V> static auto of(U v, V b) {
+    const V a = widened<int32_t>(v);
+    return evenProducts(a, b) + evenProducts(hn::Shuffle2301(a), hn::Shuffle2301(b));
+  }
+};
+struct ComplexProducts32 {
+  static constexpr size_t kSlice = kMostElements;
+  static constexpr bool kImOfPairs = true;
+  template <class V> static auto of(V a, V b) {
+    const V c = hn::Shuffle2301(a);
+    const V d = hn::Shuffle2301(b);
+    const auto re = evenProducts(a, b) - evenProducts(c, d);
+    return Complex<std::remove_const_t<decltype(re)>>{re, evenProducts(a, d) + evenProducts(c, b)};
+  }
+};
+struct MixedProducts32 {
+  static constexpr size_t kSlice = kMostElements;
+  static constexpr bool kImOfPairs = false;
+  template <class U, class V> static auto of(U a, V b) {
+    const auto even = as<int32_t>(hn::PromoteTo(hn::RepartitionToWide<hn::RebindToUnsigned<TagOf<V>>>(), as<uint32_t>(a)));
+    const auto re = evenProducts(even, b);
+    return Complex<std::remove_const_t<decltype(re)>>{re, evenProducts(even, hn::Shuffle2301(b))};
+  }
+};
+
+template <class Re, class Im> struct ComplexSum {
+  Re re;
+  Im im;
+  template <class V> ComplexSum plus(Complex<V> v) const { return {re.plus(v.re), im.plus(v.im)}; }
+  ComplexSum operator+(ComplexSum other) const { return {re + other.re, im + other.im}; }
+  auto total() const { return ComplexTotal<decltype(re.total())>{re.total(), im.total()}; }
+};
+
+template <class Product> struct ExactSum : Reduction {
+  static constexpr size_t kSlice = Product::kSlice;
+
+  template <class U, class V> auto start(U a, V b) const { return first(Product::of(a, b)); }
+  template <class A, class U, class V> A add(A sum, U a, V b) const { return sum.plus(Product::of(a, b)); }
+  template <class A> static A join(A a, A b) { return a + b; }
+  template <class A> auto total(A sum) const { return sum.total(); }
+
+ private:
+  template <class V> static auto first(V v) { return LongSum<V, true>::of(v); }
+  template <class V> static auto first(Complex<V> v) {
+    using Im = LongSum<V, Product::kImOfPairs>;
+    return ComplexSum<LongSum<V>, Im>{LongSum<V>::of(v.re), Im::of(v.im)};
+  }
+};
+
+// Most sums fit 64 bits, in which scaling takes a third of the time.
+template <class R> R scaledSum(int64_t sum, int scaleFactor) { return scaled<R>(sum, scaleFactor); }
+template <class R> R scaledSum(__int128 sum, int scaleFactor) {
+  const auto low = static_cast<int64_t>(sum);
+  return low == sum ? scaled<R>(low, scaleFactor) : scaled<R>(sum, scaleFactor);
+}
+
+template <class D, class Finish, class Sum> D eachPart(Finish finish, Sum sum) {
+  if constexpr (PartsOf<D>::kCount == 1) return finish(sum);
+  else return {finish(sum.re), finish(sum.im)};
+}
+
+// As it is, or as a float after one rounding.
+template <class Product, class D, class... Src> QvxStatus dotProduct(D* result, int len, Src... src) {
+  const auto finish = [](auto sum) { return eachPart<D>([](int64_t part) { return static_cast<Part<D>>(part); }, sum); };
+  return reduceTo<ExactSum<Product>>(result, len, finish, src...);
+}
+
+template <class Product, class D, class... Src> QvxStatus scaledDotProduct(D* result, int len, int scaleFactor, Src... src) {
+  const auto finish = [=](auto sum) {
+    return eachPart<D>([=](auto part) { return scaledSum<Part<D>>(part, scaleFactor); }, sum);
+  };
+  return reduceTo<ExactSum<Product>>(result, len, finish, src...);
+}
+
+// More than 14 places up count as 14: a sum of 1 stays apart from larger ones.
+int atLeastMinus14(int scaleFactor) { return std::max(scaleFactor, -14); }
+// From 93 places down on, only the sum of the longest vector of the most negative numbers leaves anything: a 1 for any more.
+int atMost93(int scaleFactor) { return std::min(scaleFactor, 93); }
+
+}  // namespace
+
+// clang-format off
+QvxStatus qvxsDotProd_16s32f(const Qvx16s* a, const Qvx16s* b, int len, Qvx32f* dp) { return dotProduct<Products16>(dp, len, a, b); }
+QvxStatus qvxsDotProd_16sc32fc(const Qvx16sc* a, const Qvx16sc* b, int len, Qvx32fc* dp) { return dotProduct<ComplexProducts16>(dp, len, a, b); }
+QvxStatus qvxsDotProd_16s16sc32fc(const Qvx16s* a, const Qvx16sc* b, int len, Qvx32fc* dp) { return dotProduct<MixedProducts16>(dp, len, Beside{a}, b); }
+QvxStatus qvxsDotProd_16s64s(const Qvx16s* a, const Qvx16s* b, int len, Qvx64s* dp) { return dotProduct<Products16>(dp, len, a, b); }
+QvxStatus qvxsDotProd_16sc64sc(const Qvx16sc* a, const Qvx16sc* b, int len, Qvx64sc* dp) { return dotProduct<ComplexProducts16>(dp, len, a, b); }
+QvxStatus qvxsDotProd_16s16sc64sc(const Qvx16s* a, const Qvx16sc* b, int len, Qvx64sc* dp) { return dotProduct<MixedProducts16>(dp, len, Beside{a}, b); }
+QvxStatus qvxsDotProd_16s_Sfs(const Qvx16s* a, const Qvx16s* b, int len, Qvx16s* dp, int sf) { return scaledDotProduct<Products16>(dp, len, atLeastMinus14(sf), a, b); }
+QvxStatus qvxsDotProd_16sc_Sfs(const Qvx16sc* a, const Qvx16sc* b, int len, Qvx16sc* dp, int sf) { return scaledDotProduct<ComplexProducts16>(dp, len, sf, a, b); }
+QvxStatus qvxsDotProd_16s16sc_Sfs(const Qvx16s* a, const Qvx16sc* b, int len, Qvx16sc* dp, int sf) { return scaledDotProduct<MixedProducts16>(dp, len, sf, Beside{a}, b); }
+QvxStatus qvxsDotProd_16s32s_Sfs(const Qvx16s* a, const Qvx16s* b, int len, Qvx32s* dp, int sf) { return scaledDotProduct<Products16>(dp, len, sf, a, b); }
+QvxStatus qvxsDotProd_16sc32sc_Sfs(const Qvx16sc* a, const Qvx16sc* b, int len, Qvx32sc* dp, int sf) { return scaledDotProduct<ComplexProducts16>(dp, len, sf, a, b); }
+QvxStatus qvxsDotProd_16s16sc32sc_Sfs(const Qvx16s* a, const Qvx16sc* b, int len, Qvx32sc* dp, int sf) { return scaledDotProduct<MixedProducts16>(dp, len, sf, Beside{a}, b); }
+QvxStatus qvxsDotProd_32s_Sfs(const Qvx32s* a, const Qvx32s* b, int len, Qvx32s* dp, int sf) { return scaledDotProduct<Products32>(dp, len, atMost93(sf), a, b); }
+QvxStatus qvxsDotProd_32sc_Sfs(const Qvx32sc* a, const Qvx32sc* b, int len, Qvx32sc* dp, int sf) { return scaledDotProduct<ComplexProducts32>(dp, len, atMost93(sf), a, b); }
+QvxStatus qvxsDotProd_32s32sc_Sfs(const Qvx32s* a, const Qvx32sc* b, int len, Qvx32sc* dp, int sf) { return scaledDotProduct<MixedProducts32>(dp, len, atMost93(sf), Beside{a}, b); }
+QvxStatus qvxsDotProd_16s32s32s_Sfs(const Qvx16s* a, const Qvx32s* b, int len, Qvx32s* dp, int sf) { return scaledDotProduct<Products32>(dp, len, atMost93(sf), a, b); }
+// clang-format on
