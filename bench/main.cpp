@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
 
   bench::Suite suite;
   for (const auto family : {bench::add, bench::sub, bench::mul, bench::copy, bench::logic, bench::shift, bench::widen,
-                            bench::narrow, bench::floatToInt, bench::half, bench::sqrt, bench::sum}) {
+                            bench::narrow, bench::floatToInt, bench::half, bench::sqrt, bench::sum, bench::extrema}) {
     family(suite);
   }
   const int mismatches = bench::run(suite, std::regex(argc > 1 ? argv[1] : ""));

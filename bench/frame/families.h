@@ -17,5 +17,6 @@ void floatToInt(Suite& suite);
 void half(Suite& suite);
 void sqrt(Suite& suite);
 void sum(Suite& suite);
+void extrema(Suite& suite);
 
 }  // namespace bench
