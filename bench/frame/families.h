@@ -21,6 +21,7 @@ void sqrt(Suite& suite);
 void math(Suite& suite);
 void integerMath(Suite& suite);
 void sum(Suite& suite);
+void extrema(Suite& suite);
 void norm(Suite& suite);
 void dotProduct(Suite& suite);
 void complexForms(Suite& suite);
@@ -45,6 +46,7 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     half,
     complexForms,
     sum,
+    extrema,
     norm,
     dotProduct,
 };

@@ -81,6 +81,21 @@ inline constexpr auto dot16sc = [](const Qvx16sc* a, const Qvx16sc* b, int n, Qv
   volk_16ic_x2_dot_prod_16ic(reinterpret_cast<lv_16sc_t*>(r), reinterpret_cast<const lv_16sc_t*>(a), reinterpret_cast<const lv_16sc_t*>(b), n);
 };
 inline constexpr auto meanStdDev32f = [](F a, int n, float* mean, float* deviation, int) { volk_32f_stddev_and_mean_32f_x2(deviation, mean, a, n); };
+inline constexpr auto maxEvery32f = [](F a, F b, float* d, int n) { volk_32f_x2_max_32f(d, a, b, n); };
+inline constexpr auto minEvery32f = [](F a, F b, float* d, int n) { volk_32f_x2_min_32f(d, a, b, n); };
+inline constexpr auto maxEvery64f = [](const double* a, const double* b, double* d, int n) { volk_64f_x2_max_64f(d, a, b, n); };
+inline constexpr auto maxIndex32f = [](F a, int n, float* max, int* index) {
+  uint32_t at;
+  volk_32f_index_max_32u(&at, a, n);
+  *max = a[at];
+  *index = static_cast<int>(at);
+};
+inline constexpr auto minIndex32f = [](F a, int n, float* min, int* index) {
+  uint32_t at;
+  volk_32f_index_min_32u(&at, a, n);
+  *min = a[at];
+  *index = static_cast<int>(at);
+};
 // clang-format on
 
 }  // namespace volk

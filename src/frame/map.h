@@ -84,15 +84,26 @@ template <class T> struct OnesBehind {
   const T* p;
 
   template <size_t N> auto get(size_t at) const { return load(Lanes<Lane, N>(), parts(p) + at); }
-  template <size_t N> auto get(size_t at, size_t n) const {
-    const Lanes<Lane, N> d;
-    return hn::IfThenElse(hn::FirstN(d, n), loadFirst(d, parts(p) + at, n), hn::Set(d, Lane{1}));
-  }
+  template <size_t N> auto get(size_t at, size_t n) const { return loadFirstOr(Lanes<Lane, N>(), parts(p) + at, n, Lane{1}); }
   OnesBehind from(size_t at) const { return {p + at / PartsOf<T>::kCount}; }
 };
 
 template <class T> OnesBehind(const T*) -> OnesBehind<T>;
 template <class T> OnesBehind(T*) -> OnesBehind<T>;
+
+// A vector behind whose end stands an element that leaves a reduction as it is. By its address: a float beside a pointer would
+// travel through the stack.
+template <class T> struct PaddedWith {
+  using Lane = T;
+  const T* behind;
+  const T* p;
+
+  template <size_t N> auto get(size_t at) const { return load(Lanes<T, N>(), p + at); }
+  template <size_t N> auto get(size_t at, size_t n) const { return loadFirstOr(Lanes<T, N>(), p + at, n, *behind); }
+  PaddedWith from(size_t at) const { return {behind, p + at}; }
+};
+
+template <class T> PaddedWith(const T*, const T*) -> PaddedWith<T>;
 
 // A real vector beside complex ones: every element stands for both parts.
 template <class T> struct Doubled {

@@ -17,6 +17,8 @@
 // Which lane an element falls into depends on its index alone, never on its address.
 #pragma once
 
+#include <bit>
+
 #include "frame/map.h"
 
 namespace qvx {
@@ -152,6 +154,33 @@ template <class R, class D, class Finish, class... Src>
   if (status != qvxStatOk) return status;
   *result = finish(reduce(R(), elements(len) * std::max({kLanesEach<Src>...}), source(src)...));
   return qvxStatOk;
+}
+
+namespace detail {
+
+template <size_t N, class Is, class Src> [[gnu::flatten]] size_t firstOf(Is is, size_t n, Src src) {
+  const auto found = [&](auto v) { return maskBits(TagOf<decltype(v)>(), is(v)); };
+  const auto first = [](uint64_t lanes) { return static_cast<size_t>(std::countr_zero(lanes)); };
+  if (n < N) {
+    if constexpr (N * sizeof(typename Src::Lane) > 16) return firstOf<N / 2>(is, n, src);
+    const size_t at = first(found(src.template get<N>(0, n)));
+    return std::min(at, n);
+  }
+  size_t i = 0;
+  for (; i + N <= n; i += N) {
+    if (const uint64_t lanes = found(src.template get<N>(i))) return i + first(lanes);
+  }
+  if (i == n) return n;
+  // None of the elements that this vector shares with the one before is such a one.
+  const uint64_t lanes = found(src.template get<N>(n - N));
+  return lanes == 0 ? n : n - N + first(lanes);
+}
+
+}  // namespace detail
+
+// The index of the first of n elements, 1 or more, for which is(v) gives a lane of its mask; n if there is none.
+template <class Is, class Src> size_t firstWhere(Is is, size_t n, Src src) {
+  return detail::firstOf<kVectorBytes / sizeof(typename Src::Lane)>(is, n, src);
 }
 
 }  // namespace qvx

@@ -225,6 +225,11 @@ template <class D> Vec<D> loadFirst(D d, const hn::TFromD<D>* p, size_t n) {
   }
 }
 
+// The first n lanes (0 to all) from memory, the rest a value of the caller's choice.
+template <class D> Vec<D> loadFirstOr(D d, const hn::TFromD<D>* p, size_t n, hn::TFromD<D> behind) {
+  return hn::IfThenElse(hn::FirstN(d, n), loadFirst(d, p, n), hn::Set(d, behind));
+}
+
 // Stores the first n lanes (0 to all). Nothing behind them is written.
 template <class D> void storeFirst(Vec<D> v, D d, hn::TFromD<D>* p, size_t n) {
   using T = hn::TFromD<D>;
@@ -264,6 +269,11 @@ inline void storeFence() { _mm_sfence(); }
 template <class T, class V> auto as(V v) { return hn::BitCast(hn::Repartition<T, TagOf<V>>(), v); }
 
 template <class V> V same(LaneOf<V> value) { return hn::Set(TagOf<V>(), value); }
+
+// v where it is greater (less) than held, else held: also where one of them is a NaN, and where both are zeros. That is what
+// the processor's own instruction gives for this order of operands.
+template <class V> V greater(V v, V held) { return hn::Max(v, held); }
+template <class V> V less(V v, V held) { return hn::Min(v, held); }
 
 // The bits of `among` that are set in neither a nor b.
 template <class V> V neither(V a, V b, V among) {
@@ -385,6 +395,12 @@ template <class V> auto toDouble(V v) {
   const auto converted = hn::ConvertTo(hn::Rebind<double, TagOf<V>>(), v);
   if constexpr (kHasMasks) return converted;
   else return hn::BitCast(TagOf<decltype(converted)>(), hn::IfThenZeroElse(v == same<V>(0), hn::BitCast(TagOf<V>(), converted)));
+}
+
+// Whether lanes can be loaded each from a place of its own: the 32 bits at p + 2 * at[i] bytes.
+inline constexpr bool kGathers = HWY_TARGET <= HWY_AVX2;
+template <class V> V loadEach(const uint16_t* p, V at) {
+  return hn::GatherOffset(TagOf<V>(), reinterpret_cast<const int32_t*>(p), at + at);
 }
 
 // Floats to 32-bit integers: in the processor's rounding mode, truncated, or to nearest whatever the mode (SSSE3 has no such

@@ -2,6 +2,7 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <random>
@@ -32,6 +33,10 @@ std::vector<Library> libraries() {
   return all;
 }
 
+bool hasOneOf(const std::string& name, std::initializer_list<const char*> parts) {
+  return std::any_of(parts.begin(), parts.end(), [&](const char* part) { return name.find(part) != name.npos; });
+}
+
 // One set of arguments: random blocks by the kind of their elements, and the given integers by name.
 class Sample : public tests::Arguments {
  public:
@@ -41,7 +46,7 @@ class Sample : public tests::Arguments {
         len_(len),
         scaleFactor_(scaleFactor),
         mode_(mode),
-        hasSpecials_(e.name.find("Convert") != e.name.npos) {}
+        hasSpecials_(hasOneOf(e.name, {"Convert", "Max", "Min"})) {}
 
   void* pointer(size_t index, size_t elementSize, bool, char kind) override {
     std::vector<uint8_t>& block = blocks_[index];
@@ -53,7 +58,7 @@ class Sample : public tests::Arguments {
   }
   int64_t integer(size_t index) override {
     const std::string& name = export_.parameters[index].name;
-    if (name == "len") return len_;
+    if (name == "len" || name == "tblLen") return len_;
     if (name == "scaleFactor") return scaleFactor_;
     if (name == "rndMode") return mode_;
     if (name == "srcBitOffset" || name == "dstBitOffset") return (scaleFactor_ & 15) + static_cast<int>(index);

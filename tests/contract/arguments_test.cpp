@@ -13,27 +13,30 @@ namespace {
 using tests::Export;
 using tests::Parameter;
 
+bool isOf(const Export& e, const std::set<std::string>& stems) { return stems.count(e.name.substr(0, e.name.find('_'))) != 0; }
+
 // The functions that test their length before their pointers.
 bool testsLengthFirst(const Export& e) {
-  static const std::set<std::string> stems = {"qvxsAdd", "qvxsSub"};
-  const size_t tag = e.name.find('_');
-  return stems.count(e.name.substr(0, tag)) != 0 && e.name.find("c", tag) != std::string::npos;
+  const bool isComplex = e.name.find("c", e.name.find('_')) != std::string::npos;
+  return isOf(e, {"qvxsMaxOrder"}) || (isComplex && isOf(e, {"qvxsAdd", "qvxsSub"}));
 }
+
+// Pointers that may be null.
+bool isOptional(const Export& e, const Parameter& p) {
+  static const std::set<std::string> stems = {"qvxsMaxIndx", "qvxsMinIndx", "qvxsMaxAbsIndx", "qvxsMinAbsIndx"};
+  return (p.name == "pIndx" && isOf(e, stems)) || (p.name != "pDst" && isOf(e, {"qvxsRealToCplx"}));
+}
+
+// Each of which has to be 1 or more.
+const char* const kLengths[] = {"len", "tblLen"};
 
 bool refusesHalfAway(const Export& e) {
   static const std::set<std::string> names = {"qvxsConvert_32f16f", "qvxsConvert_16s16f", "qvxsConvert_16f16s_Sfs"};
   return names.count(e.name) != 0;
 }
 
-// Pointers that may be null; what the function does then is its family's test.
-bool isOptional(const Export& e, const Parameter& parameter) {
-  static const std::map<std::string, std::set<std::string>> optional = {
-      {"qvxsRealToCplx", {"pSrcRe", "pSrcIm"}},
-      {"qvxsCartToPolar", {"pDstMagn", "pDstPhase"}},  // each has a status of its own, and the other is written
-  };
-  const auto found = optional.find(e.name.substr(0, e.name.find('_')));
-  return found != optional.end() && found->second.count(parameter.name) != 0;
-}
+// A function of two halves, each with a status of its own: one refused, the other is written.
+bool isInHalves(const Export& e) { return e.name.find("CartToPolar") != std::string::npos; }
 
 bool refusesOtherModes(const Export& e) { return e.name.find("Div_Round") != std::string::npos; }
 
@@ -59,7 +62,7 @@ class Plain : public tests::Arguments {
   int64_t integer(size_t index) override {
     const std::string& name = export_.parameters[index].name;
     if (values_.count(name) != 0) return values_[name];
-    return name == "len" ? kLength : name == "val" || name == "rndMode" ? 1 : 0;
+    return name == "len" || name == "tblLen" ? kLength : name == "val" || name == "rndMode" ? 1 : 0;
   }
   double real(size_t index) override {
     const auto value = values_.find(export_.parameters[index].name);
@@ -96,10 +99,18 @@ class Contract : public testing::TestWithParam<Export> {};
 TEST_P(Contract, NullPointers) {
   const Export& e = GetParam();
   for (size_t i = 0; i < e.parameters.size(); ++i) {
-    if (!e.parameters[i].isPointer() || isOptional(e, e.parameters[i])) continue;
+    if (!e.parameters[i].isPointer() || (isInHalves(e) && e.parameters[i].name.find("pDst") == 0)) continue;
+    if (isOptional(e, e.parameters[i])) {
+      EXPECT_EQ(Plain(e).setNull(i).call(), qvxStatOk);
+      expectRefused(Plain(e).setNull(i).set("len", 0), qvxStatBadSize, e.parameters[i].name);
+      continue;
+    }
     expectRefused(Plain(e).setNull(i), qvxStatNullPtr, e.parameters[i].name);
     const QvxStatus first = testsLengthFirst(e) ? qvxStatBadSize : qvxStatNullPtr;
-    expectRefused(Plain(e).setNull(i).set("len", 0), first, e.parameters[i].name + ", len 0");
+    for (const char* length : kLengths) {
+      if (e.indexOf(length) < 0) continue;
+      expectRefused(Plain(e).setNull(i).set(length, 0), first, e.parameters[i].name + ", " + length + " 0");
+    }
     if (isShift(e)) expectRefused(Plain(e).setNull(i).set("val", -1), qvxStatNullPtr, "negative shift");
     if (isShift(e)) expectRefused(Plain(e).setNull(i).set("val", 0), qvxStatNullPtr, "shift by 0");
     if (refusesZero(e)) expectRefused(Plain(e).setNull(i).set("val", 0), qvxStatNullPtr, "division by 0");
@@ -109,10 +120,14 @@ TEST_P(Contract, NullPointers) {
 
 TEST_P(Contract, Lengths) {
   const Export& e = GetParam();
-  const bool isUnsigned = e.parameters[e.indexOf("len")].type == "Qvx32u";
+  const int at = e.indexOf("len");
+  const bool isUnsigned = at >= 0 && e.parameters[at].type == "Qvx32u";
   for (const int64_t len : {0, -1, INT_MIN}) {
     if (len < 0 && isUnsigned) continue;
-    expectRefused(Plain(e).set("len", len), qvxStatBadSize, "len " + std::to_string(len));
+    for (const char* length : kLengths) {
+      if (e.indexOf(length) < 0) continue;
+      expectRefused(Plain(e).set(length, len), qvxStatBadSize, length + (" " + std::to_string(len)));
+    }
     if (isShift(e)) expectRefused(Plain(e).set("len", len).set("val", -1), qvxStatBadSize, "negative shift");
     if (isShift(e)) expectRefused(Plain(e).set("len", len).set("val", 99), qvxStatBadSize, "shift beyond the width");
     if (e.indexOf("scaleFactor") >= 0) {

@@ -1,0 +1,94 @@
+// How many binary digits the largest magnitude of a vector takes.
+#include <bit>
+#include <limits>
+
+#include "frame/reduce.h"
+
+using namespace qvx;
+
+namespace {
+
+// All bits that any magnitude has: the highest is that of the largest.
+struct MagnitudeBits : Reduction {
+  static constexpr bool kRepeats = true;
+
+  template <class V> static auto start(V v) { return as<std::make_unsigned_t<LaneOf<V>>>(hn::Abs(v)); }
+  template <class A, class V> static A add(A a, V v) { return a | start(v); }
+  template <class A> static A join(A a, A b) { return a | b; }
+  template <class A> static auto total(A a) {
+    return hn::GetLane(folded<1>(a, [](auto x, auto y) { return x | y; }));
+  }
+};
+
+template <class T> QvxStatus orderOfIntegers(const T* src, int len, int* order) {
+  const QvxStatus status = check(LengthFirst{len}, src, order);
+  if (status != qvxStatOk) return status;
+  *order = std::bit_width(reduce(MagnitudeBits(), elements(len), source(src)));
+  return qvxStatOk;
+}
+
+// The order of a float stands in its upper 32 bits, and so does whether it is finite: lanes of 32 bits serve both types.
+template <class T> struct Upper {
+  using Bits = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
+  static constexpr int kBelow = 8 * sizeof(T) - 32;
+  static constexpr int kFraction = std::numeric_limits<T>::digits - 1 - kBelow;
+  static constexpr int kBias = std::numeric_limits<T>::max_exponent - 2;  // 1 has order 1
+  static constexpr Bits kMagnitude = Bits{INT32_MAX} << kBelow;
+  static constexpr int32_t kGreatest = static_cast<int32_t>((uint32_t{2 * kBias + 3} << kFraction) - 1);  // finite
+
+  template <class V> static auto of(V v) {
+    return as<int32_t>(as<Bits>(v) & hn::Set(hn::RebindToUnsigned<TagOf<V>>(), kMagnitude));
+  }
+};
+static_assert(Upper<float>::kGreatest == 0x7F7FFFFF && Upper<double>::kGreatest == 0x7FEFFFFF);
+
+template <class T> struct GreatestUpper : Reduction {
+  static constexpr bool kRepeats = true;
+
+  template <class V> static auto start(V v) { return Upper<T>::of(v); }
+  template <class A, class V> static A add(A a, V v) { return hn::Max(a, Upper<T>::of(v)); }
+  template <class A> static A join(A a, A b) { return hn::Max(a, b); }
+  template <class A> static int32_t total(A a) {
+    return hn::GetLane(folded<1>(a, [](auto x, auto y) { return hn::Max(x, y); }));
+  }
+};
+
+// The same with zeros for all that is not finite.
+template <class T> struct GreatestFiniteUpper : GreatestUpper<T> {
+  template <class V> static auto start(V v) {
+    const auto upper = Upper<T>::of(v);
+    return hn::IfThenZeroElse(upper > same<decltype(upper)>(Upper<T>::kGreatest), upper);
+  }
+  template <class A, class V> static A add(A a, V v) { return hn::Max(a, start(v)); }
+};
+
+// Whether there is a number so small that its upper 32 bits are zeros. Asked only where no finite element has others.
+template <class T> bool hasTiny(const T* src, size_t n) {
+  if constexpr (sizeof(T) == 4) return false;
+  const auto isTiny = [](auto v) {
+    using V = decltype(v);
+    return hn::And(v != same<V>(0), hn::Abs(v) < same<V>(std::numeric_limits<T>::min()));
+  };
+  return firstWhere(isTiny, n, source(src)) < n;
+}
+
+template <class T> QvxStatus orderOfFloats(const T* src, int len, int* order) {
+  const QvxStatus status = check(LengthFirst{len}, src, order);
+  if (status != qvxStatOk) return status;
+  const size_t n = elements(len);
+  int32_t greatest = reduce(GreatestUpper<T>(), n, source(src));
+  const bool isFinite = greatest <= Upper<T>::kGreatest;
+  if (!isFinite) greatest = reduce(GreatestFiniteUpper<T>(), n, source(src));
+  const bool isZero = greatest == 0 && !hasTiny(src, n);
+  *order = isZero ? 0 : (greatest >> Upper<T>::kFraction) - Upper<T>::kBias;
+  return isFinite ? qvxStatOk : qvxWarnNotFinite;
+}
+
+}  // namespace
+
+// clang-format off
+QvxStatus qvxsMaxOrder_16s(const Qvx16s* a, int len, int* order) { return orderOfIntegers(a, len, order); }
+QvxStatus qvxsMaxOrder_32s(const Qvx32s* a, int len, int* order) { return orderOfIntegers(a, len, order); }
+QvxStatus qvxsMaxOrder_32f(const Qvx32f* a, int len, int* order) { return orderOfFloats(a, len, order); }
+QvxStatus qvxsMaxOrder_64f(const Qvx64f* a, int len, int* order) { return orderOfFloats(a, len, order); }
+// clang-format on
