@@ -7,5 +7,7 @@
 #include <qvx/qvxs_math.h>
 #include <qvx/qvxs_init.h>
 #include <qvx/qvxs_convert.h>
+#include <qvx/qvxs_compand.h>
+#include <qvx/qvxs_threshold.h>
 
 #endif

@@ -73,6 +73,7 @@ inline void storeBytes(__m128i v, uint8_t* p, size_t bytes) {
 inline __m128i packU8(__m128i lo, __m128i hi) { return _mm_packus_epi16(lo, hi); }
 inline __m128i packS8(__m128i lo, __m128i hi) { return _mm_packs_epi16(lo, hi); }
 inline __m128i packS16(__m128i lo, __m128i hi) { return _mm_packs_epi32(lo, hi); }
+inline __m128i pairProducts(__m128i a, __m128i b) { return _mm_madd_epi16(a, b); }
 inline __m128i toIntCurrent(__m128 v) { return _mm_cvtps_epi32(v); }
 inline __m128i toIntTruncated(__m128 v) { return _mm_cvttps_epi32(v); }
 inline __m128i toIntCurrent(__m128d v) { return _mm_cvtpd_epi32(v); }
@@ -85,6 +86,7 @@ inline __m256i packS16(__m256i lo, __m256i hi) { return _mm256_packs_epi32(lo, h
 inline __m256i packU16(__m256i lo, __m256i hi) { return _mm256_packus_epi32(lo, hi); }
 inline __m256i toIntCurrent(__m256 v) { return _mm256_cvtps_epi32(v); }
 inline __m256i toIntTruncated(__m256 v) { return _mm256_cvttps_epi32(v); }
+inline __m256i pairProducts(__m256i a, __m256i b) { return _mm256_madd_epi16(a, b); }
 inline __m128i toIntCurrent(__m256d v) { return _mm256_cvtpd_epi32(v); }
 inline __m128i toIntTruncated(__m256d v) { return _mm256_cvttpd_epi32(v); }
 // To nearest whatever the processor's mode: a wide register takes the mode with the instruction, the others round first.
@@ -108,6 +110,7 @@ inline __m512i packU8(__m512i lo, __m512i hi) { return _mm512_packus_epi16(lo, h
 inline __m512i packS8(__m512i lo, __m512i hi) { return _mm512_packs_epi16(lo, hi); }
 inline __m512i packS16(__m512i lo, __m512i hi) { return _mm512_packs_epi32(lo, hi); }
 inline __m512i packU16(__m512i lo, __m512i hi) { return _mm512_packus_epi32(lo, hi); }
+inline __m512i pairProducts(__m512i a, __m512i b) { return _mm512_madd_epi16(a, b); }
 inline __m512i toIntCurrent(__m512 v) { return _mm512_cvtps_epi32(v); }
 inline __m512i toIntTruncated(__m512 v) { return _mm512_cvttps_epi32(v); }
 inline __m256i toIntCurrent(__m512d v) { return _mm512_cvtpd_epi32(v); }
@@ -183,6 +186,22 @@ template <class D, class M> uint64_t maskBits([[maybe_unused]] D d, M mask) {
 #endif
 }
 
+// A mask of lanes as that of as many lanes of another width.
+template <class To, class From, class M> auto maskAs([[maybe_unused]] To d, [[maybe_unused]] From from, M mask) {
+#if HWY_TARGET == HWY_AVX3
+  return hn::Mask<To>{static_cast<decltype(hn::Mask<To>::raw)>(mask.raw)};
+#else
+  if constexpr (sizeof(hn::TFromD<To>) == sizeof(hn::TFromD<From>)) {
+    return hn::RebindMask(d, mask);
+  } else {
+    static_assert(2 * sizeof(hn::TFromD<To>) == sizeof(hn::TFromD<From>));
+    const hn::RebindToUnsigned<To> narrow;
+    const auto lanes = hn::BitCast(hn::RebindToUnsigned<From>(), hn::VecFromMask(from, mask));
+    return hn::MaskFromVec(hn::BitCast(d, hn::TruncateTo(narrow, lanes)));
+  }
+#endif
+}
+
 // Orders streamed stores before all later ones.
 inline void storeFence() { _mm_sfence(); }
 
@@ -239,6 +258,11 @@ template <class To, class V> auto widen(V v) {
   if constexpr (std::is_signed_v<LaneOf<V>>) above = hn::BroadcastSignBit(v);
   return Pair<Vec<hn::Repartition<To, TagOf<V>>>>{as<To>(hn::InterleaveLower(d, v, above)),
                                                   as<To>(hn::InterleaveUpper(d, v, above))};
+}
+
+// Sums of the products of neighbouring 16-bit lanes, in 32-bit ones. Only 2^31 does not fit.
+template <class V> auto pairProducts(V a, V b) {
+  return Vec<hn::RepartitionToWide<TagOf<V>>>{detail::pairProducts(a.raw, b.raw)};
 }
 
 // yes where the lane's sign bit is set. Highway's own operation takes the other bits too on SSSE3.
