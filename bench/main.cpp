@@ -11,8 +11,9 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&count, flags);
 
   bench::Suite suite;
-  for (const auto family : {bench::add, bench::sub, bench::mul, bench::copy, bench::logic, bench::shift, bench::widen,
-                            bench::narrow, bench::floatToInt, bench::half, bench::sqrt}) {
+  for (const auto family :
+       {bench::add, bench::sub, bench::mul, bench::copy, bench::logic, bench::shift, bench::widen, bench::narrow,
+        bench::floatToInt, bench::half, bench::sqrt, bench::threshold, bench::compand, bench::channels}) {
     family(suite);
   }
   const int mismatches = bench::run(suite, std::regex(argc > 1 ? argv[1] : ""));

@@ -16,5 +16,8 @@ void narrow(Suite& suite);
 void floatToInt(Suite& suite);
 void half(Suite& suite);
 void sqrt(Suite& suite);
+void threshold(Suite& suite);
+void compand(Suite& suite);
+void channels(Suite& suite);
 
 }  // namespace bench

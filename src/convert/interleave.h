@@ -45,24 +45,21 @@ struct Tile {
 };
 
 // Tiles of kFrames and kGroup channels over a buffer; the last ones begin early enough to be full where there is enough for that.
-// writes: whether a whole row that is not its frame's last may spoil what follows, so that groups behind it must come later, and
-// a frame's last, if it is not its only one, must be cut.
+// writes: whole rows spoil what follows them. Behind the first group of channels that must be groups yet to come, not the next
+// frame, whose first group is there already.
 template <size_t kFrames, size_t kGroup, size_t kRowBytes, class F>
 void forEachTile(size_t channels, size_t frames, size_t elementBytes, bool writes, F f) {
   const size_t groups = (channels + kGroup - 1) / kGroup;
   const size_t perGroup = std::min(channels, kGroup);
-  // The last frames, in whose last row a register would end behind the buffer.
-  const size_t beyond = kRowBytes - perGroup * elementBytes;
-  const size_t cut = (beyond + channels * elementBytes - 1) / (channels * elementBytes);
-  const size_t uncut = frames - std::min(frames, cut);
+  const size_t inAll = channels * frames * elementBytes;
   for (size_t frame = 0; frame < frames; frame += kFrames) {
     const size_t first = frames < kFrames ? 0 : std::min(frame, frames - kFrames);
     for (size_t g = 0; g < groups; ++g) {
       const size_t channel = std::min(g * kGroup, channels - perGroup);
-      const bool isLast = g + 1 == groups;
-      size_t whole = !isLast ? kFrames : first < uncut ? std::min(uncut - first, kFrames) : 0;
-      if (beyond > 0 && isLast && groups > 1 && writes) whole = 0;
-      f(Tile{first, std::min(frames, kFrames), channel, perGroup, channels, whole});
+      Tile t{first, std::min(frames, kFrames), channel, perGroup, channels, std::min(frames, kFrames)};
+      while (t.whole > 0 && t.at(t.whole - 1) * elementBytes + kRowBytes > inAll) --t.whole;
+      if (writes && g > 0 && channel * elementBytes + kRowBytes > channels * elementBytes) t.whole = 0;
+      f(t);
     }
   }
 }
