@@ -45,11 +45,17 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     floatToInt,
     half,
     complexForms,
+    compand,
+    channels,
+    threshold,
     sum,
     extrema,
     norm,
     dotProduct,
 };
 // clang-format on
+void threshold(Suite& suite);
+void compand(Suite& suite);
+void channels(Suite& suite);
 
 }  // namespace bench

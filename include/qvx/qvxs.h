@@ -8,6 +8,8 @@
 #include <qvx/qvxs_init.h>
 #include <qvx/qvxs_convert.h>
 #include <qvx/qvxs_complex.h>
+#include <qvx/qvxs_compand.h>
+#include <qvx/qvxs_threshold.h>
 #include <qvx/qvxs_stats.h>
 #include <qvx/qvxs_norm.h>
 

@@ -74,6 +74,16 @@ alignas(64) inline constexpr int32_t kDense24[3][16] = {{0, 1, 2, 4, 5, 6, 8, 9,
 
 }  // namespace detail
 
+// Four 32-bit lanes of every block to 12 bytes and four of 0, and twelve bytes to signed lanes.
+template <class V> auto packed24(V v) {
+  const auto bytes = as<int8_t>(v);
+  return as<uint8_t>(hn::TableLookupBytesOr0(bytes, hn::LoadDup128(TagOf<decltype(bytes)>(), detail::kPacked24)));
+}
+template <class V> auto unpacked24(V bytes) {
+  const auto order = hn::LoadDup128(hn::Repartition<int8_t, TagOf<V>>(), detail::kSigned24);
+  return hn::ShiftRight<8>(as<int32_t>(hn::TableLookupBytesOr0(bytes, as<uint8_t>(order))));
+}
+
 // What stands in a block of 16 bytes: four 32-bit lanes, or twelve packed bytes with those of every element in reverse.
 enum class Block24 { kLanes, kReversed };
 
@@ -168,8 +178,7 @@ template <class T, Block24 kBlock = Block24::kLanes> struct To24 {
  private:
   template <class V> static auto packed(V v) {
     if constexpr (kBlock == Block24::kReversed) return as<uint8_t>(v);
-    const auto bytes = as<int8_t>(v);
-    return as<uint8_t>(hn::TableLookupBytesOr0(bytes, hn::LoadDup128(TagOf<decltype(bytes)>(), detail::kPacked24)));
+    else return packed24(v);
   }
   template <class V> static void one(V blocks, uint8_t* bytes) {
     const Lanes<uint8_t, 16> half;

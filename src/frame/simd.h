@@ -82,7 +82,6 @@ inline __m128i pairProducts(__m128i a, __m128i b) { return _mm_madd_epi16(a, b);
 inline __m128 evens(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0x88); }
 inline __m128 odds(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0xDD); }
 #if HWY_TARGET <= HWY_AVX2
-inline __m256i pairProducts(__m256i a, __m256i b) { return _mm256_madd_epi16(a, b); }
 inline __m256 evens(__m256 x, __m256 y) { return _mm256_shuffle_ps(x, y, 0x88); }
 inline __m256 odds(__m256 x, __m256 y) { return _mm256_shuffle_ps(x, y, 0xDD); }
 template <class V> auto twice(V v) {
@@ -100,6 +99,7 @@ inline __m256i packS16(__m256i lo, __m256i hi) { return _mm256_packs_epi32(lo, h
 inline __m256i packU16(__m256i lo, __m256i hi) { return _mm256_packus_epi32(lo, hi); }
 inline __m256i toIntCurrent(__m256 v) { return _mm256_cvtps_epi32(v); }
 inline __m256i toIntTruncated(__m256 v) { return _mm256_cvttps_epi32(v); }
+inline __m256i pairProducts(__m256i a, __m256i b) { return _mm256_madd_epi16(a, b); }
 inline __m128i toIntCurrent(__m256d v) { return _mm256_cvtpd_epi32(v); }
 inline __m128i toIntTruncated(__m256d v) { return _mm256_cvttpd_epi32(v); }
 // To nearest whatever the processor's mode: a wide register takes the mode with the instruction, the others round first.
@@ -119,7 +119,6 @@ inline __m128i packU16(__m128i lo, __m128i hi) {  // for lanes from -2^31 + 2^15
 }
 #endif
 #if HWY_TARGET == HWY_AVX3
-inline __m512i pairProducts(__m512i a, __m512i b) { return _mm512_madd_epi16(a, b); }
 inline __m512 evens(__m512 x, __m512 y) { return _mm512_shuffle_ps(x, y, 0x88); }
 inline __m512 odds(__m512 x, __m512 y) { return _mm512_shuffle_ps(x, y, 0xDD); }
 inline auto twice(hn::Vec256<double> v) {
@@ -133,6 +132,7 @@ inline __m512i packU8(__m512i lo, __m512i hi) { return _mm512_packus_epi16(lo, h
 inline __m512i packS8(__m512i lo, __m512i hi) { return _mm512_packs_epi16(lo, hi); }
 inline __m512i packS16(__m512i lo, __m512i hi) { return _mm512_packs_epi32(lo, hi); }
 inline __m512i packU16(__m512i lo, __m512i hi) { return _mm512_packus_epi32(lo, hi); }
+inline __m512i pairProducts(__m512i a, __m512i b) { return _mm512_madd_epi16(a, b); }
 inline __m512i toIntCurrent(__m512 v) { return _mm512_cvtps_epi32(v); }
 inline __m512i toIntTruncated(__m512 v) { return _mm512_cvttps_epi32(v); }
 inline __m256i toIntCurrent(__m512d v) { return _mm512_cvtpd_epi32(v); }
@@ -259,6 +259,22 @@ template <class D, class M> uint64_t maskBits([[maybe_unused]] D d, M mask) {
   return mask.raw;
 #else
   return hn::detail::BitsFromMask(mask);
+#endif
+}
+
+// A mask of lanes as that of as many lanes of another width.
+template <class To, class From, class M> auto maskAs([[maybe_unused]] To d, [[maybe_unused]] From from, M mask) {
+#if HWY_TARGET == HWY_AVX3
+  return hn::Mask<To>{static_cast<decltype(hn::Mask<To>::raw)>(mask.raw)};
+#else
+  if constexpr (sizeof(hn::TFromD<To>) == sizeof(hn::TFromD<From>)) {
+    return hn::RebindMask(d, mask);
+  } else {
+    static_assert(2 * sizeof(hn::TFromD<To>) == sizeof(hn::TFromD<From>));
+    const hn::RebindToUnsigned<To> narrow;
+    const auto lanes = hn::BitCast(hn::RebindToUnsigned<From>(), hn::VecFromMask(from, mask));
+    return hn::MaskFromVec(hn::BitCast(d, hn::TruncateTo(narrow, lanes)));
+  }
 #endif
 }
 

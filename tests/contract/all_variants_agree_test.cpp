@@ -46,27 +46,39 @@ class Sample : public tests::Arguments {
         len_(len),
         scaleFactor_(scaleFactor),
         mode_(mode),
-        hasSpecials_(hasOneOf(e.name, {"Convert", "Max", "Min"})) {}
+        hasSpecials_(hasOneOf(e.name, {"Convert", "Max", "Min", "Threshold", "Lin", "Join"})) {}
 
   void* pointer(size_t index, size_t elementSize, bool, char kind) override {
+    if (kind == 'p' || kind == 'P') {  // one channel a parameter that the function does not have
+      for (size_t c = 0; c < kChannels; ++c) channels_[c] = pointer(kFirstChannel + c, sizeof(float), false, 'f');
+      return channels_;
+    }
     std::vector<uint8_t>& block = blocks_[index];
     if (block.empty()) {
-      block.resize((static_cast<size_t>(len_) + 64) * std::max<size_t>(elementSize, 3) + 16);
+      const size_t elements = (static_cast<size_t>(len_) + 64) * (export_.indexOf("nChannels") >= 0 ? kChannels : 1);
+      block.resize(elements * std::max<size_t>(elementSize, 4) + 16);
       fill(block, kind);
     }
     return block.data() + 1;  // misaligned on purpose: any address is allowed
   }
   int64_t integer(size_t index) override {
     const std::string& name = export_.parameters[index].name;
-    if (name == "len" || name == "tblLen") return len_;
+    if (name == "len" || name == "tblLen" || name == "chanLen") return len_;
+    if (name == "nChannels") return static_cast<int64_t>(1 + static_cast<size_t>(len_) % kChannels);
+    if (name == "relOp") return len_ % 2 * 4;
+    if (name == "level") return static_cast<int64_t>(seedOf(index) & 0x7FFF);
     if (name == "scaleFactor") return scaleFactor_;
     if (name == "rndMode") return mode_;
     if (name == "srcBitOffset" || name == "dstBitOffset") return (scaleFactor_ & 15) + static_cast<int>(index);
     if (export_.name.find("ShiftC") != std::string::npos) return scaleFactor_ & 31;
     return static_cast<int64_t>(seedOf(index));
   }
-  double real(size_t index) override { return std::ldexp(static_cast<double>(static_cast<int64_t>(seedOf(index))), -60); }
+  double real(size_t index) override {
+    const double x = std::ldexp(static_cast<double>(static_cast<int64_t>(seedOf(index))), -60);
+    return export_.parameters[index].name == "level" ? std::fabs(x) : x;
+  }
   const std::vector<uint8_t>* blocks() const { return blocks_; }
+  static constexpr size_t kBlocks = 15;
 
  private:
   uint64_t seedOf(size_t index) const { return std::mt19937_64(static_cast<uint64_t>(len_) * 977 + index)(); }
@@ -95,7 +107,10 @@ class Sample : public tests::Arguments {
   int scaleFactor_;
   int mode_;
   bool hasSpecials_;
-  std::vector<uint8_t> blocks_[8];
+  static constexpr size_t kFirstChannel = 8;
+  static constexpr size_t kChannels = 7;
+  std::vector<uint8_t> blocks_[kBlocks];
+  void* channels_[kChannels];
 };
 
 // Their order of operations is open, and a variant's own: only the status is the same. How far they may be off is tested
@@ -133,7 +148,7 @@ TEST(AllVariants, GiveTheSameBits) {
           for (size_t i = 1; i < all.size(); ++i, ++calls) {
             Sample other = sample();
             bool equal = e.call(functions[i], other) == status;
-            for (size_t b = 0; b < e.parameters.size() && !isElementaryFloat(e) && !reducesFloats(e); ++b)
+            for (size_t b = 0; b < Sample::kBlocks && !isElementaryFloat(e) && !reducesFloats(e); ++b)
               equal = equal && first.blocks()[b] == other.blocks()[b];
             ASSERT_TRUE(equal) << e.name << " differs between " << all[0].variant << " and " << all[i].variant << ": length "
                                << len << ", scale factor " << s << ", mode " << mode;

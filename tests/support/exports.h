@@ -35,9 +35,10 @@ class Arguments {
   }
 
  private:
-  // i: integers, f: 32-bit floats, d: 64-bit floats
+  // i: integers, f: 32-bit floats, d: 64-bit floats, p: pointers to sources, P: pointers to destinations
   template <class T> static constexpr char kindOf() {
-    if constexpr (std::is_class_v<T>) return kindOf<decltype(T::re)>();
+    if constexpr (std::is_pointer_v<T>) return std::is_const_v<std::remove_pointer_t<T>> ? 'p' : 'P';
+    else if constexpr (std::is_class_v<T>) return kindOf<decltype(T::re)>();
     else return std::is_same_v<T, float> ? 'f' : std::is_same_v<T, double> ? 'd' : 'i';
   }
 };
@@ -46,6 +47,7 @@ struct Parameter {
   std::string type;
   std::string name;
   bool isPointer() const { return type.find('*') != std::string::npos; }
+  bool isArrayOfPointers() const { return type.find('*') != type.rfind('*'); }
 };
 
 struct Export {

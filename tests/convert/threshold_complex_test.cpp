@@ -1,0 +1,201 @@
+// Thresholds of complex elements by magnitude.
+#include <qvx/qvxs.h>
+
+#include "convert/conversion.h"
+#include "reference/level.h"
+
+namespace {
+
+using namespace tests;
+using reference::Long;
+using reference::Point;
+
+enum class Relation { kBelow = 0, kAbove = 4 };
+
+// ---- 16-bit integers: exact
+
+using Circle16 = Qvx16sc (*)(Qvx16sc, Qvx16s);
+
+bool passes(Qvx16sc v, Qvx16s level, Relation relation) {
+  const int64_t square = int64_t{v.re} * v.re + int64_t{v.im} * v.im;
+  return relation == Relation::kBelow ? square < int64_t{level} * level : square > int64_t{level} * level;
+}
+
+Qvx16sc clipped(Qvx16sc v, Qvx16s level, Relation relation) {
+  if (!passes(v, level, relation)) return v;
+  const int64_t square = int64_t{v.re} * v.re + int64_t{v.im} * v.im;
+  if (square == 0) return {level, 0};
+  return {reference::quotientOnCircle(v.re, level, square), reference::quotientOnCircle(v.im, level, square)};
+}
+
+// Random elements, Pythagorean ones just at the level and beside it, and those whose quotient lies 2^-32 below a half.
+std::vector<Qvx16sc> hard16(Qvx16s level) {
+  Random random(seed());
+  std::vector<Qvx16sc> v = values<Qvx16sc>(3000, random);
+  for (int i = -1; i <= 1; ++i) {
+    const auto third = static_cast<Qvx16s>(level / 5 * 3 + i);
+    const auto fourth = static_cast<Qvx16s>(level / 5 * 4);
+    v.push_back({third, static_cast<Qvx16s>(-fourth)});
+    v.push_back({static_cast<Qvx16s>(level + (level == 32767 ? 0 : i)), 0});
+  }
+  if (level < 16384) v.push_back({1, static_cast<Qvx16s>(2 * level)}), v.push_back({static_cast<Qvx16s>(-2 * level), -1});
+  v.push_back({0, 0}), v.push_back({-32768, -32768}), v.push_back({32767, -32768});
+  return v;
+}
+
+TEST(ComplexThreshold, Of16BitsIsExact) {
+  for (const Qvx16s level : {0, 1, 2, 5, 100, 1235, 16383, 30000, 32767}) {
+    for (const Relation relation : {Relation::kBelow, Relation::kAbove}) {
+      SCOPED_TRACE("level " + std::to_string(level) + ", relation " + std::to_string(static_cast<int>(relation)));
+      Elementwise<Qvx16sc, Qvx16sc> clip(std::make_tuple(hard16(level)), [=](Qvx16sc v) { return clipped(v, level, relation); });
+      const int relOp = static_cast<int>(relation);
+      const auto call = [=](const Qvx16sc* a, Qvx16sc* d, int n) { return qvxsThreshold_16sc(a, d, n, level, relOp); };
+      clip.run(call);
+      clip.run([=](const Qvx16sc*, Qvx16sc* d, int n) { return qvxsThreshold_16sc_I(d, n, level, relOp); }, 0);
+      for (const int rounding : kRoundings) clip.runOnce(underRounding(rounding, call));
+      const bool isBelow = relation == Relation::kBelow;
+      clip.runOnce([=](const Qvx16sc* a, Qvx16sc* d, int n) {
+        return isBelow ? qvxsThreshold_LT_16sc(a, d, n, level) : qvxsThreshold_GT_16sc(a, d, n, level);
+      });
+      clip.runOnce([=](const Qvx16sc*, Qvx16sc* d,
+                       int n) { return isBelow ? qvxsThreshold_LT_16sc_I(d, n, level) : qvxsThreshold_GT_16sc_I(d, n, level); },
+                   0);
+      const Qvx16sc value = {-3, 32767};
+      Elementwise<Qvx16sc, Qvx16sc> replace(std::make_tuple(hard16(level)),
+                                            [=](Qvx16sc v) { return passes(v, level, relation) ? value : v; });
+      replace.run([=](const Qvx16sc* a, Qvx16sc* d, int n) {
+        return isBelow ? qvxsThreshold_LTVal_16sc(a, d, n, level, value) : qvxsThreshold_GTVal_16sc(a, d, n, level, value);
+      });
+      replace.run(
+          [=](const Qvx16sc*, Qvx16sc* d, int n) {
+            return isBelow ? qvxsThreshold_LTVal_16sc_I(d, n, level, value) : qvxsThreshold_GTVal_16sc_I(d, n, level, value);
+          },
+          0);
+    }
+  }
+}
+
+// ---- floats
+
+// Elements of every size, so that no square overflows unnoticed, near the level, on the axes, zeros, infinities, no numbers.
+template <class C> std::vector<C> hardFloats(double level) {
+  using T = decltype(C::re);
+  Random random(seed());
+  std::vector<C> v;
+  const auto add = [&v](double re, double im) { v.push_back({static_cast<T>(re), static_cast<T>(im)}); };
+  for (int i = 0; i < 600; ++i) {
+    const double angle = 1e-3 * static_cast<double>(random() % 6283);
+    const int most = std::numeric_limits<T>::max_exponent - 2;
+    const double size = i % 2 == 0 ? std::ldexp(1 + 1e-3 * static_cast<double>(random() % 1000),
+                                                static_cast<int>(random() % (2 * static_cast<uint64_t>(most))) - most)
+                                   : level * (0.5 + 1e-3 * static_cast<double>(random() % 1000));
+    add(size * std::cos(angle), size * std::sin(angle));
+  }
+  const double inf = std::numeric_limits<double>::infinity();
+  const double tiny = std::numeric_limits<T>::denorm_min();
+  const double huge = std::numeric_limits<T>::max();
+  for (const double x : {0.0, -0.0, tiny, huge, -huge, inf, -inf, level, -level, 3 * level / 5, static_cast<double>(NAN)}) {
+    for (const double y : {0.0, -0.0, tiny, huge, inf, -inf, 4 * level / 5, static_cast<double>(NAN)}) add(x, y), add(y, x);
+  }
+  return v;
+}
+
+template <class C> bool hasNoNumber(C v) { return v.re != v.re || v.im != v.im; }
+
+// The larger part within `roundings` of the element's type, the smaller one likewise as part of the magnitude.
+template <class C>::testing::AssertionResult near(C got, Point want, double roundings) {
+  using T = decltype(C::re);
+  const Long unit = std::max({fabsl(want.re), fabsl(want.im), Long{std::numeric_limits<T>::min()}});
+  const Long allowed = unit * std::numeric_limits<T>::epsilon() * roundings;
+  const auto isNear = [=](T a, Long b) {
+    if (fabsl(b) > std::numeric_limits<T>::max()) return std::isinf(a) || fabsl(a) >= std::numeric_limits<T>::max();
+    return fabsl(a - b) <= allowed && std::signbit(a) == std::signbit(b);
+  };
+  if (isNear(got.re, want.re) && isNear(got.im, want.im)) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << show(got) << ", not " << static_cast<double>(want.re) << " and "
+                                       << static_cast<double>(want.im);
+}
+
+// Every element alone against the definition; then the same results at all lengths, places and in place.
+template <class C, class F, class FI, class Expect> void alone(F f, FI inPlace, const std::vector<C>& source, Expect expect) {
+  const auto one = [f](C v) {
+    C d;
+    EXPECT_GE(f(&v, &d, 1), qvxStatOk);
+    return d;
+  };
+  for (const C v : source) expect(v, one(v));
+  if (testing::Test::HasFailure()) return;
+  Elementwise<C, C> trial(std::make_tuple(source), one);
+  trial.run(f);
+  trial.run([=](const C*, C* d, int n) { return inPlace(d, n); }, 0);
+}
+
+template <class C, class... F> void floats(double roundings, F... functions) {
+  using T = decltype(C::re);
+  const auto [clip, clipI, lt, ltI, gt, gtI, ltVal, ltValI, gtVal, gtValI] = std::tuple(functions...);
+  for (const double level : {1.0, 5.0, 1e-30, 3e37, static_cast<double>(std::numeric_limits<T>::max()) / 2,
+                             static_cast<double>(std::numeric_limits<T>::min())}) {
+    const T l = static_cast<T>(level);
+    const auto source = hardFloats<C>(l);
+    for (const Relation relation : {Relation::kBelow, Relation::kAbove}) {
+      SCOPED_TRACE("level " + show(l) + ", relation " + std::to_string(static_cast<int>(relation)));
+      const bool isBelow = relation == Relation::kBelow;
+      // Within a few roundings of the level either is right, where squares are rounded at all.
+      const Long doubtful = std::is_same_v<T, float> ? 0 : l * Long{4e-16};
+      const auto side = [=](C v) {
+        const Long distance = reference::magnitude(v) - l;
+        if (fabsl(distance) < doubtful) return 0;
+        return (isBelow ? distance < 0 : distance > 0) ? 1 : -1;
+      };
+      const auto isKept = [](C v, C d) { return std::memcmp(&v, &d, sizeof(C)) == 0; };
+      const auto expectClip = [=](C v, C d) {
+        if (hasNoNumber(v) || side(v) < 0) {
+          EXPECT_TRUE(isKept(v, d)) << show(v) << " became " << show(d);
+        } else if (side(v) > 0) {
+          EXPECT_TRUE(near(d, reference::onCircle(v, l), roundings)) << " from " << show(v);
+        }
+      };
+      const int relOp = static_cast<int>(relation);
+      alone<C>([=, f = clip](const C* a, C* d, int n) { return f(a, d, n, l, relOp); },
+               [=, f = clipI](C* d, int n) { return f(d, n, l, relOp); }, source, expectClip);
+      alone<C>([=, f = isBelow ? lt : gt](const C* a, C* d, int n) { return f(a, d, n, l); },
+               [=, f = isBelow ? ltI : gtI](C* d, int n) { return f(d, n, l); }, source, expectClip);
+      const C value = {T(0.25), T(-7)};
+      alone<C>([=, f = isBelow ? ltVal : gtVal](const C* a, C* d, int n) { return f(a, d, n, l, value); },
+               [=, f = isBelow ? ltValI : gtValI](C* d, int n) { return f(d, n, l, value); }, source,
+               [=](C v, C d) {
+                 if (!hasNoNumber(v) && side(v) == 0) return;
+                 const C want = hasNoNumber(v) || side(v) < 0 ? v : value;
+                 EXPECT_TRUE(isKept(want, d)) << show(v) << " became " << show(d);
+               });
+    }
+  }
+}
+
+TEST(ComplexThreshold, OfFloats) {
+  floats<Qvx32fc>(0.51, qvxsThreshold_32fc, qvxsThreshold_32fc_I, qvxsThreshold_LT_32fc, qvxsThreshold_LT_32fc_I,
+                  qvxsThreshold_GT_32fc, qvxsThreshold_GT_32fc_I, qvxsThreshold_LTVal_32fc, qvxsThreshold_LTVal_32fc_I,
+                  qvxsThreshold_GTVal_32fc, qvxsThreshold_GTVal_32fc_I);
+  floats<Qvx64fc>(2, qvxsThreshold_64fc, qvxsThreshold_64fc_I, qvxsThreshold_LT_64fc, qvxsThreshold_LT_64fc_I,
+                  qvxsThreshold_GT_64fc, qvxsThreshold_GT_64fc_I, qvxsThreshold_LTVal_64fc, qvxsThreshold_LTVal_64fc_I,
+                  qvxsThreshold_GTVal_64fc, qvxsThreshold_GTVal_64fc_I);
+}
+
+// An element of just the level is on neither side, and a level of 0 copies or clears without looking at what is no number.
+TEST(ComplexThreshold, AtTheLevelAndLevelZero) {
+  const Qvx32fc v[3] = {{3, 4}, {-5, 0}, {0, -5}};
+  Qvx32fc d[3];
+  for (const int relOp : {0, 4}) {
+    ASSERT_EQ(qvxsThreshold_32fc(v, d, 3, 5, relOp), qvxStatOk);
+    EXPECT_EQ(std::memcmp(v, d, sizeof(v)), 0);
+  }
+  const Qvx64fc odd[3] = {{NAN, 1}, {-0.0, 0.0}, {INFINITY, -2}};
+  const Qvx64fc zeros[3] = {};
+  Qvx64fc e[3];
+  ASSERT_EQ(qvxsThreshold_64fc(odd, e, 3, 0, 0), qvxStatOk);
+  EXPECT_EQ(std::memcmp(odd, e, sizeof(e)), 0);
+  ASSERT_EQ(qvxsThreshold_GT_64fc(odd, e, 3, -0.0), qvxStatOk);
+  EXPECT_EQ(std::memcmp(zeros, e, sizeof(e)), 0);
+}
+
+}  // namespace
