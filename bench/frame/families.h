@@ -9,6 +9,10 @@ void add(Suite& suite);
 void sub(Suite& suite);
 void mul(Suite& suite);
 void div(Suite& suite);
+void sqr(Suite& suite);
+void sqrt(Suite& suite);
+void math(Suite& suite);
+void integerMath(Suite& suite);
 void copy(Suite& suite);
 void logic(Suite& suite);
 void shift(Suite& suite);
@@ -16,15 +20,14 @@ void widen(Suite& suite);
 void narrow(Suite& suite);
 void floatToInt(Suite& suite);
 void half(Suite& suite);
-void sqr(Suite& suite);
-void sqrt(Suite& suite);
-void math(Suite& suite);
-void integerMath(Suite& suite);
+void complexForms(Suite& suite);
+void compand(Suite& suite);
+void channels(Suite& suite);
+void threshold(Suite& suite);
 void sum(Suite& suite);
 void extrema(Suite& suite);
 void norm(Suite& suite);
 void dotProduct(Suite& suite);
-void complexForms(Suite& suite);
 
 // clang-format off
 // In the order of the library's entry table.
@@ -35,8 +38,8 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     div,
     sqr,
     sqrt,
-    integerMath,
     math,
+    integerMath,
     copy,
     logic,
     shift,
@@ -54,8 +57,5 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     dotProduct,
 };
 // clang-format on
-void threshold(Suite& suite);
-void compand(Suite& suite);
-void channels(Suite& suite);
 
 }  // namespace bench
