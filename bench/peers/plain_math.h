@@ -23,7 +23,7 @@ inline constexpr auto complexRoot = [](auto z) {
   const auto root = std::sqrt(std::complex(z.re, z.im));
   return decltype(z){root.real(), root.imag()};
 };
-inline constexpr auto magnitude = [](auto x) {
+inline constexpr auto absolute = [](auto x) {
   using T = decltype(x);
   if constexpr (std::is_floating_point_v<T>) return std::abs(x);
   else return x == std::numeric_limits<T>::min() ? std::numeric_limits<T>::max() : static_cast<T>(x < 0 ? -x : x);

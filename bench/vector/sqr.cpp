@@ -22,7 +22,7 @@ void sqr(Suite& s) {
     s.row("Sqr_16s_Sfs" + at, qvxsSqr_16s_Sfs, scale).plain(Scaled());
     s.row("Sqr_16sc_Sfs" + at, qvxsSqr_16sc_Sfs, scale).plain(Scaled());
   }
-  const auto magnitude = plain::Each<plain::magnitude>();
+  const auto magnitude = plain::Each<plain::absolute>();
   s.row("Abs_16s", qvxsAbs_16s).plain(magnitude);
   s.row("Abs_32s", qvxsAbs_32s).plain(magnitude);
   s.row("Abs_32f", qvxsAbs_32f).plain(magnitude);
