@@ -5,8 +5,8 @@
 
 namespace qvx {
 
-// Interleaved parts, as a Pair of the real and the imaginary ones. kBehind: the real part of what stands behind the end.
-template <class T, int kBehind = 0> struct Deinterleaved {
+// Interleaved parts, as a Pair of the real and the imaginary ones.
+template <class T> struct Deinterleaved {
   using Lane = T;
   const T* p;
 
@@ -18,14 +18,56 @@ template <class T, int kBehind = 0> struct Deinterleaved {
     const Lanes<T, N> d;
     const size_t low = std::min(2 * n, N);
     const auto high = 2 * n == low ? hn::Zero(d) : loadFirst(d, p + 2 * at + low, 2 * n - low);
-    const auto both = deinterleaved(Pair<Vec<Lanes<T, N>>>{loadFirst(d, p + 2 * at, low), high});
-    if constexpr (kBehind == 0) return both;
-    else return decltype(both){hn::IfThenElse(hn::FirstN(d, n), both.lo, hn::Set(d, T(kBehind))), both.hi};
+    return deinterleaved(Pair<Vec<Lanes<T, N>>>{loadFirst(d, p + 2 * at, low), high});
   }
   Deinterleaved from(size_t at) const { return {p + 2 * at}; }
 };
 template <class T> Deinterleaved<Part<T>> deinterleaved(const T* p) { return {parts(p)}; }
-template <class T> Deinterleaved<Part<T>, 1> deinterleavedOnesBehind(const T* p) { return {parts(p)}; }
+
+// The same as a Complex, N of each part, whose elements stand in another order: that costs a shuffle within blocks of 128 bits,
+// a third of one across them. For reductions, and for ComplexDestination, which puts them back. kBehind: the real part of what
+// stands behind the end.
+template <class T, int kBehind = 0> struct ByParts {
+  using Lane = Part<T>;
+  const T* p;
+
+  template <size_t N> auto get(size_t at) const {
+    const Lanes<Lane, N> d;
+    return evenAndOdd(load(d, parts(p + at)), load(d, parts(p + at) + N));
+  }
+  template <size_t N> auto get(size_t at, size_t n) const {
+    const Lanes<Lane, N> d;
+    const size_t low = std::min(2 * n, N);
+    const auto first = loadFirst(d, parts(p + at), low);
+    auto z = evenAndOdd(first, 2 * n == low ? hn::Zero(d) : loadFirst(d, parts(p + at) + low, 2 * n - low));
+    // Within one block, which a partial vector is, the order is that of the elements.
+    if constexpr (kBehind != 0) z.re = hn::IfThenElse(hn::FirstN(d, n), z.re, hn::Set(d, Lane{kBehind}));
+    return z;
+  }
+  ByParts from(size_t at) const { return {p + at}; }
+};
+
+template <class T> ByParts(const T*) -> ByParts<T>;
+
+template <class T> struct ComplexDestination {
+  using Lane = Part<T>;
+  static constexpr size_t kParts = 1;
+  T* p;
+
+  template <size_t N, class V> void put(Complex<V> v, size_t at) const {
+    const Lanes<Lane, N> d;
+    store(hn::InterleaveLower(d, v.re, v.im), d, parts(p + at));
+    store(hn::InterleaveUpper(d, v.re, v.im), d, parts(p + at) + N);
+  }
+  template <size_t N, class V> void put(Complex<V> v, size_t at, size_t n) const {
+    const Lanes<Lane, N> d;
+    const size_t low = std::min(2 * n, N);
+    storeFirst(hn::InterleaveLower(d, v.re, v.im), d, parts(p + at), low);
+    if (2 * n > low) storeFirst(hn::InterleaveUpper(d, v.re, v.im), d, parts(p + at) + low, 2 * n - low);
+  }
+  template <size_t N> size_t misaligned() const { return Destination<T>{parts(p)}.template misaligned<N>() / 2; }
+  ComplexDestination from(size_t at) const { return {p + at}; }
+};
 
 // A Pair of real and imaginary parts to two vectors.
 template <class T> struct SplitDestination {
@@ -65,7 +107,6 @@ template <class T> struct InterleavedDestination {
     storeFirst(both.lo, d, p + 2 * at, low);
     if (2 * n > low) storeFirst(both.hi, d, p + 2 * at + low, 2 * n - low);
   }
-  // A vector of the destination has twice as many bytes as one of a part: N elements never split at the same place.
   template <size_t N> size_t misaligned() const {
     const size_t bytes = reinterpret_cast<uintptr_t>(p) % (N * sizeof(T));
     return bytes % (2 * sizeof(T)) == 0 ? (N - bytes / sizeof(T)) % N / 2 : 0;
@@ -73,8 +114,10 @@ template <class T> struct InterleavedDestination {
   InterleavedDestination from(size_t at) const { return {p + 2 * at}; }
 };
 
-template <class T, int kBehind> Deinterleaved<T, kBehind> source(Deinterleaved<T, kBehind> v) { return v; }
-template <class T, int kBehind> const T* pointerOf(Deinterleaved<T, kBehind> v) { return v.p; }
+template <class T> Deinterleaved<T> source(Deinterleaved<T> v) { return v; }
+template <class T> const T* pointerOf(Deinterleaved<T> v) { return v.p; }
+template <class T, int kBehind> ByParts<T, kBehind> source(ByParts<T, kBehind> v) { return v; }
+template <class T, int kBehind> const T* pointerOf(ByParts<T, kBehind> v) { return v.p; }
 template <class T> InterleavedDestination<T> destination(InterleavedDestination<T> v) { return v; }
 
 }  // namespace qvx

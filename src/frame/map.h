@@ -129,26 +129,6 @@ template <class T> struct Beside {
 
 template <class T> Beside(const T*) -> Beside<T>;
 
-// A complex vector as real parts and imaginary parts, N of each, for reductions: the order of elements is not kept.
-template <class T> struct ByParts {
-  using Lane = Part<T>;
-  const T* p;
-
-  template <size_t N> auto get(size_t at) const {
-    const Lanes<Lane, N> d;
-    return evenAndOdd(load(d, parts(p + at)), load(d, parts(p + at) + N));
-  }
-  template <size_t N> auto get(size_t at, size_t n) const {
-    const Lanes<Lane, N> d;
-    const size_t low = std::min(2 * n, N);
-    const auto first = loadFirst(d, parts(p + at), low);
-    return evenAndOdd(first, 2 * n == low ? hn::Zero(d) : loadFirst(d, parts(p + at) + low, 2 * n - low));
-  }
-  ByParts from(size_t at) const { return {p + at}; }
-};
-
-template <class T> ByParts(const T*) -> ByParts<T>;
-
 // A vector of elements twice as wide as the destination's, for narrowInOrder: a whole register is stored at a time then, where
 // half a register would be the store's bound (32s to 16s takes 1.4 times as long that way).
 template <class T> struct InPairs {
@@ -186,7 +166,6 @@ template <class T> Source<T> source(const T* p) { return {parts(p)}; }
 template <class T> Constant<T> source(Constant<T> c) { return c; }
 template <class T> Doubled<T> source(Doubled<T> d) { return d; }
 template <class T> Beside<T> source(Beside<T> v) { return v; }
-template <class T> ByParts<T> source(ByParts<T> v) { return v; }
 template <class T> OnesBehind<T> source(OnesBehind<T> v) { return v; }
 template <class T> InPairs<T> source(InPairs<T> v) { return v; }
 inline Places source(Places places) { return places; }
@@ -195,7 +174,6 @@ template <class T> Destination<T> destination(T* p) { return {parts(p)}; }
 template <class T> const T* pointerOf(const T* p) { return p; }
 template <class T> const T* pointerOf(Doubled<T> d) { return d.p; }
 template <class T> const T* pointerOf(Beside<T> v) { return v.p; }
-template <class T> const T* pointerOf(ByParts<T> v) { return v.p; }
 template <class T> const T* pointerOf(OnesBehind<T> v) { return v.p; }
 template <class T> const T* pointerOf(InPairs<T> v) { return v.p; }
 inline constexpr char kNotNull = 0;

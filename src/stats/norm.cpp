@@ -2,6 +2,7 @@
 #include <cmath>
 #include <limits>
 
+#include "frame/complex.h"
 #include "stats/moments.h"
 
 using namespace qvx;

@@ -22,21 +22,20 @@ struct Quotient {
 struct ComplexQuotient {
   static constexpr QvxStatus kWarning = qvxWarnDivByZero;
 
-  // Real parts in lo, imaginary ones in hi.
-  template <class V> Pair<V> operator()(Flag& flag, Pair<V> a, Pair<V> b) const {
+  template <class V> Complex<V> operator()(Flag& flag, Complex<V> a, Complex<V> b) const {
     const TagOf<V> d;
     // By their bits: |a|^2 underflows for divisors that are not zero.
-    flag.raise(d, (a.lo | a.hi) == hn::Zero(d));
-    const V squares = a.lo * a.lo + a.hi * a.hi;
-    return {(a.lo * b.lo + a.hi * b.hi) / squares, (a.lo * b.hi - a.hi * b.lo) / squares};
+    flag.raise(d, (a.re | a.im) == hn::Zero(d));
+    const V squares = a.re * a.re + a.im * a.im;
+    return {(a.re * b.re + a.im * b.im) / squares, (a.re * b.im - a.im * b.re) / squares};
   }
 };
 
 template <TeamRule kRule, class T> QvxStatus divideComplex(const T* divisor, const T* dividend, T* dst, int len) {
   const QvxStatus status = check(len, divisor, dividend, dst);
   if (status != qvxStatOk) return status;
-  return InTeam<kRule>{}.run(ComplexQuotient(), InterleavedDestination<Part<T>>{parts(dst)}, elements(len),
-                             deinterleavedOnesBehind(divisor), deinterleaved(dividend));
+  return InTeam<kRule, InOwnLanes>{}.run(ComplexQuotient(), ComplexDestination<T>{dst}, elements(len), ByParts<T, 1>{divisor},
+                                         ByParts<T>{dividend});
 }
 
 // conj(val) / |val|^2 by the reciprocal of the squared magnitude.
