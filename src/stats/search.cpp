@@ -121,7 +121,7 @@ size_t nearestInPairs(const Table& table, const Qvx16u* vals, Qvx16u* outVals, i
   return i;
 }
 
-// Offsets within larger tables, most of whose entries are duplicates, pass 32 bits.
+// An offset in bytes has to fit a lane, so from 2^30 entries on it does not work. Beyond 2^16 all further entries are duplicates.
 constexpr uint32_t kLargestInLanes = 1 << 16;
 
 void nearestOf(const Table& table, const Qvx16u* vals, Qvx16u* outVals, int* outIndx, size_t n) {
