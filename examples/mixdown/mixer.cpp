@@ -102,6 +102,7 @@ MixFormat commonFormat(const std::vector<Track>& tracks) {
 Level mix(std::vector<Track>& tracks, const MixFormat& format, const std::string& output, QvxRoundMode mode,
           const std::function<void(int64_t)>& progress) {
   std::vector<std::string> inputs;
+  inputs.reserve(tracks.size());
   for (const Track& track : tracks) inputs.push_back(track.path());
   AudioWriter file(output, SF_FORMAT_WAV | SF_FORMAT_PCM_16, format.channels, format.sampleRate, inputs);
   const int blockLen = kBlockFrames * format.channels;
