@@ -220,6 +220,18 @@ TEST_F(G711, filesWithoutSamplesStaySo) {
   EXPECT_TRUE(read16s("linear.wav", SF_FORMAT_PCM_16, 1).empty());
 }
 
+// What is missing at the end of a file costs no more than the frame that it cuts.
+TEST_F(G711, cutFilesEndWithTheirLastWholeFrame) {
+  const std::vector<short> samples(200, 1000);
+  write("cut.wav", samples, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 2);
+  std::filesystem::resize_file(at("cut.wav"), std::filesystem::file_size(at("cut.wav")) - 6);
+  expectSuccess("encode cut.wav -o codes.raw --raw");
+  EXPECT_EQ(text("codes.raw").size(), 196U);
+  std::ofstream(at("codes.raw"), std::ios::app) << '\x55';
+  expectSuccess("decode codes.raw --raw --channels 2 -o linear.wav");
+  EXPECT_EQ(read16s("linear.wav", SF_FORMAT_PCM_16, 2).size(), 196U);
+}
+
 TEST_F(G711, refusesWhatItCannotDo) {
   write("mono.wav", std::vector<short>(100, 1000), SF_FORMAT_WAV | SF_FORMAT_PCM_16);
   write("silence.wav", std::vector<short>(100), SF_FORMAT_WAV | SF_FORMAT_PCM_16);
