@@ -2,26 +2,17 @@
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 #include <stdexcept>
 
 namespace {
 
-// Every function reports; a refused call is a fault of this program.
-void check(QvxStatus status) {
-  if (status != qvxStatOk) throw std::logic_error("qvxs refused a call with status " + std::to_string(status));
-}
-
-// The sizes in a WAV file have 32 bits, and the headers are far below 1 KiB.
-constexpr int64_t kWavBytes = UINT32_MAX - 1024;
-
 double decibels(double amplitude) { return 20 * std::log10(amplitude); }
 
 // Reads a block in the type that holds the file's samples and converts it to float.
-template <class T, class Convert> std::function<int(Qvx32f*)> decoder(SndfileHandle file, T* allocated, Convert convert) {
+template <class T, class Convert> std::function<int(Qvx32f*)> decoder(AudioReader file, T* allocated, Convert convert) {
   std::shared_ptr<T[]> raw = vector(allocated);
   return [file, raw, convert](Qvx32f* dst) mutable {
-    const auto frames = static_cast<int>(file.readf(raw.get(), kBlockFrames));
+    const auto frames = file.read(raw.get());
     if (frames > 0) check(convert(raw.get(), dst, frames * file.channels()));
     return frames;
   };
@@ -34,16 +25,6 @@ template <class T, class Convert> std::function<int(Qvx32f*)> decoder(SndfileHan
 std::string hertz(const Track& track) { return std::to_string(track.sampleRate()) + " Hz"; }
 
 std::string channels(const Track& track) { return std::to_string(track.channels()) + " channels"; }
-
-SndfileHandle createWav(const std::vector<Track>& tracks, const MixFormat& format, const std::string& path) {
-  for (const Track& track : tracks) {
-    std::error_code missing;  // the usual case: there is no output yet
-    if (std::filesystem::equivalent(path, track.path(), missing)) throw std::runtime_error(path + ": is one of the files to mix");
-  }
-  SndfileHandle file(path, SFM_WRITE, SF_FORMAT_WAV | SF_FORMAT_PCM_16, format.channels, format.sampleRate);
-  if (file.error() != SF_ERR_NO_ERROR) throw std::runtime_error(path + ": " + file.strError());
-  return file;
-}
 
 }  // namespace
 
@@ -61,22 +42,21 @@ double Level::peakDb() const { return decibels(peak); }
 
 double Level::rmsDb() const { return decibels(samples > 0 ? std::sqrt(squares / static_cast<double>(samples)) : 0); }
 
-Track::Track(const std::string& path, double gainDb) : path_(path), gainDb_(gainDb), file_(path) {
-  if (file_.error() != SF_ERR_NO_ERROR) throw std::runtime_error(path + ": " + file_.strError());
+Track::Track(const std::string& path, double gainDb) : gainDb_(gainDb), file_(path) {
   decode_ = makeDecoder();
   samples_ = vector(qvxsMalloc_32f(kBlockFrames * channels()));
 }
 
 Track::Decoder Track::makeDecoder() const {
   const int blockLen = kBlockFrames * channels();
-  switch (file_.format() & SF_FORMAT_SUBMASK) {
+  switch (file_.subtype()) {
     case SF_FORMAT_FLOAT:
     case SF_FORMAT_VORBIS:
     case SF_FORMAT_OPUS:
     case SF_FORMAT_MPEG_LAYER_I:
     case SF_FORMAT_MPEG_LAYER_II:
     case SF_FORMAT_MPEG_LAYER_III:  // floats already, and lossy decoders may go beyond full scale
-      return [file = file_](Qvx32f* dst) mutable { return static_cast<int>(file.readf(dst, kBlockFrames)); };
+      return [file = file_](Qvx32f* dst) mutable { return file.read(dst); };
     case SF_FORMAT_DOUBLE:
       return decoder(file_, qvxsMalloc_64f(blockLen), qvxsConvert_64f32f);
     case SF_FORMAT_PCM_24:
@@ -95,7 +75,6 @@ Track::Decoder Track::makeDecoder() const {
 
 int Track::addTo(Qvx32f* sum, int sumChannels) {
   const int frames = decode_(samples_.get());
-  if (file_.error() != SF_ERR_NO_ERROR) throw std::runtime_error(path_ + ": " + file_.strError());
   if (frames == 0) return 0;
   const int len = frames * channels();
   check(qvxsMulC_32f_I(static_cast<Qvx32f>(std::pow(10, gainDb_ / 20)), samples_.get(), len));
@@ -122,7 +101,10 @@ MixFormat commonFormat(const std::vector<Track>& tracks) {
 
 Level mix(std::vector<Track>& tracks, const MixFormat& format, const std::string& output, QvxRoundMode mode,
           const std::function<void(int64_t)>& progress) {
-  SndfileHandle file = createWav(tracks, format, output);
+  std::vector<std::string> inputs;
+  inputs.reserve(tracks.size());
+  for (const Track& track : tracks) inputs.push_back(track.path());
+  AudioWriter file(output, SF_FORMAT_WAV | SF_FORMAT_PCM_16, format.channels, format.sampleRate, inputs);
   const int blockLen = kBlockFrames * format.channels;
   const auto sum = vector(qvxsMalloc_32f(blockLen));
   const auto out = vector(qvxsMalloc_16s(blockLen));
@@ -135,12 +117,10 @@ Level mix(std::vector<Track>& tracks, const MixFormat& format, const std::string
 
     const int len = frames * format.channels;
     done += frames;
-    if (done > kWavBytes / (int64_t{2} * format.channels))
-      throw std::runtime_error(output + ": a WAV file holds no more than 4 GiB");
     level.add(sum.get(), len);
     // Full scale is 1 in the sum and 2^15 in the file: a scale factor of -15. What is beyond saturates.
     check(qvxsConvert_32f16s_Sfs(sum.get(), out.get(), len, mode, -15));
-    if (file.writef(out.get(), frames) != frames) throw std::runtime_error(output + ": " + file.strError());
+    file.write(out.get(), frames);
     progress(done);
   }
 }

@@ -1,28 +1,9 @@
 // Mixing of audio files: decoding, gain, sum, and the way back to 16 bits.
 #pragma once
 
-#include <qvx/qvxs.h>
-
-#include <cstdint>
 #include <functional>
-#include <memory>
-#include <sndfile.hh>
-#include <string>
-#include <vector>
 
-// Vectors of the library that release themselves: vector(qvxsMalloc_32f(len)).
-struct Release {
-  void operator()(void* vector) const { qvxsFree(vector); }
-};
-template <class T> using Vector = std::unique_ptr<T[], Release>;
-
-template <class T> Vector<T> vector(T* allocated) {
-  if (allocated == nullptr) throw std::bad_alloc();
-  return Vector<T>(allocated);
-}
-
-// Files are read, summed and written in blocks of this many frames, so that a mix may be longer than memory.
-inline constexpr int kBlockFrames = 4096;
+#include "../support/audio.h"
 
 // The level of a signal whose full scale is 1.
 struct Level {
@@ -40,11 +21,11 @@ class Track {
  public:
   Track(const std::string& path, double gainDb);
 
-  const std::string& path() const { return path_; }
+  const std::string& path() const { return file_.path(); }
   double gainDb() const { return gainDb_; }
   const Level& level() const { return level_; }  // after the gain
   int channels() const { return file_.channels(); }
-  int sampleRate() const { return file_.samplerate(); }
+  int sampleRate() const { return file_.sampleRate(); }
   int64_t frames() const { return file_.frames(); }
 
   // Adds the next block, gain applied, to a sum of that many channels; a mono file goes to all of them. Returns the number of
@@ -55,9 +36,8 @@ class Track {
   using Decoder = std::function<int(Qvx32f*)>;
   Decoder makeDecoder() const;
 
-  std::string path_;
   double gainDb_;
-  SndfileHandle file_;
+  AudioReader file_;
   Decoder decode_;
   Vector<Qvx32f> samples_;
   Level level_;

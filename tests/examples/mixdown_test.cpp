@@ -1,20 +1,13 @@
 // The mixdown program against a mix computed here, one sample at a time.
 #include <fcntl.h>
-#include <gtest/gtest.h>
-#include <stdlib.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
-#include <fstream>
 #include <random>
-#include <sndfile.hh>
-#include <sstream>
-#include <string>
 #include <tuple>
-#include <vector>
+
+#include "program.h"
 
 namespace {
 
@@ -24,26 +17,14 @@ struct Audio {
   std::vector<double> samples;
 };
 
-struct Outcome {
-  int exitCode;
-  std::string out;
-  std::string err;
-};
-
 double gainOf(double db) { return static_cast<float>(std::pow(10, db / 20)); }
 
 // Sums and products of two floats are exact, or nearly so, in double: one rounding to float is what float arithmetic does.
 double rounded(double x) { return static_cast<float>(x); }
 
-class Mixdown : public ::testing::Test {
+class Mixdown : public ProgramTest {
  protected:
-  Mixdown() {
-    char folder[] = "/tmp/mixdown.XXXXXX";
-    folder_ = mkdtemp(folder);
-  }
-  ~Mixdown() override { std::filesystem::remove_all(folder_); }
-
-  std::string at(const std::string& name) const { return folder_ + "/" + name; }
+  Mixdown() : ProgramTest(PROGRAM) {}
 
   // Random samples, exact in the file's type; peak 1.5 goes beyond full scale in float files.
   Audio write(const std::string& name, int subtype, int channels, int frames, int rate = 8000) {
@@ -73,22 +54,7 @@ class Mixdown : public ::testing::Test {
     std::filesystem::resize_file(at(name), std::filesystem::file_size(at(name)) / 2);
   }
 
-  std::vector<short> readMix(int channels) {
-    SndfileHandle file(at("mix.wav"));
-    EXPECT_EQ(file.format(), SF_FORMAT_WAV | SF_FORMAT_PCM_16);
-    EXPECT_EQ(file.channels(), channels);
-    std::vector<short> samples(static_cast<size_t>(file.frames()) * channels);
-    file.readf(samples.data(), file.frames());
-    return samples;
-  }
-
-  // Arguments are given as a user would type them in the folder of the files.
-  Outcome run(const std::string& arguments, const std::string& wrapped = "%") {
-    std::string command = wrapped;
-    command.replace(command.find('%'), 1, MIXDOWN " " + arguments);
-    const int status = std::system(("cd " + folder_ + " && " + command + " >out 2>err").c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, text("out"), text("err")};
-  }
+  std::vector<short> readMix(int channels) const { return read16s("mix.wav", SF_FORMAT_PCM_16, channels); }
 
   // The last number before the file's name: its clipped samples.
   static long clippedOf(const std::string& table, const std::string& name) {
@@ -101,15 +67,6 @@ class Mixdown : public ::testing::Test {
   }
 
   std::mt19937 random_{20};
-
- private:
-  std::string text(const std::string& name) {
-    std::stringstream all;
-    all << std::ifstream(at(name)).rdbuf();
-    return all.str();
-  }
-
-  std::string folder_;
 };
 
 // Every type of sample that is decoded in its own way, mono among stereo, lengths that end within a block and on its boundary,
@@ -193,7 +150,7 @@ TEST_F(Mixdown, refusesWhatItCannotMix) {
   EXPECT_GT(run("mono.wav -o no/folder.wav").exitCode, 0);
 
   const auto size = std::filesystem::file_size(at("mono.wav"));
-  EXPECT_NE(run("mono.wav -o ./mono.wav").err.find("is one of the files to mix"), std::string::npos);
+  EXPECT_NE(run("mono.wav -o ./mono.wav").err.find("is a file to read as well"), std::string::npos);
   EXPECT_EQ(std::filesystem::file_size(at("mono.wav")), size);
 }
 

@@ -1,0 +1,112 @@
+// g711: audio files to A-law or mu-law codes and back, and what that costs in signal-to-noise ratio.
+#include <CLI/CLI.hpp>
+#include <cmath>
+#include <cstdio>
+#include <map>
+
+#include "codec.h"
+#include "distortion.h"
+
+namespace {
+
+struct Options {
+  std::string input;
+  std::string output;
+  std::string law = "a";
+  bool raw = false;
+  int sampleRate = 8000;
+  int channels = 1;
+  bool sine = false;
+};
+
+const std::map<std::string, const Law*> kLawNames = {{"a", &kALaw}, {"mu", &kMuLaw}};
+
+CLI::Option* addInput(CLI::App* command, Options& options, const char* what) {
+  return command->add_option("file", options.input, what)->check(CLI::ExistingFile);
+}
+
+CLI::Option* addLaw(CLI::App* command, Options& options) {
+  return command->add_option("-l,--law", options.law, "A-law or mu-law")->check(CLI::IsMember(kLawNames))->capture_default_str();
+}
+
+void declareEncode(CLI::App& app, Options& options) {
+  CLI::App* command = app.add_subcommand("encode", "Writes the codes of an audio file");
+  addInput(command, options, "The audio file; rate and channels are kept")->required();
+  command->add_option("-o,--output", options.output, "The file of codes to write")->required();
+  addLaw(command, options);
+  command->add_flag("-r,--raw", options.raw, "Write the codes alone, not a WAV file");
+  command->callback(
+      [&] { encode(options.input, options.output, *kLawNames.at(options.law), options.raw ? SF_FORMAT_RAW : SF_FORMAT_WAV); });
+}
+
+void declareDecode(CLI::App& app, Options& options) {
+  CLI::App* command = app.add_subcommand("decode", "Writes the 16-bit WAV file that codes stand for");
+  addInput(command, options, "An audio file that holds codes; with --raw, a file of codes alone")->required();
+  command->add_option("-o,--output", options.output, "The 16-bit WAV file to write")->required();
+  CLI::Option* raw = command->add_flag("-r,--raw", options.raw, "The file holds codes alone: the next three say what they are");
+  addLaw(command, options)->needs(raw);
+  command->add_option("--rate", options.sampleRate, "Sample rate")
+      ->check(CLI::Range(1, 655350))
+      ->capture_default_str()
+      ->needs(raw);
+  command->add_option("--channels", options.channels, "Channels")->check(CLI::Range(1, 1024))->capture_default_str()->needs(raw);
+  command->callback([&] {
+    AudioReader input = options.raw ? AudioReader(options.input, SF_FORMAT_RAW | kLawNames.at(options.law)->subtype,
+                                                  options.channels, options.sampleRate)
+                                    : AudioReader(options.input);
+    decode(input, options.output);
+  });
+}
+
+void printRow(const char* first, const Distortion& row) {
+  const double level = std::round(row.levelDbfs() * 100) / 100 + 0.0;  // the sum of -0 and 0 is 0
+  std::printf("%6s %10.2f", first, level);
+  for (size_t law = 0; law < kLaws.size(); ++law) {
+    std::printf(" %8.2f %8.2f", level + kLaws[law]->fullScaleDbm0, row.snrDb(law));
+  }
+  std::printf(" %8lld\n", static_cast<long long>(row.blocks));
+}
+
+void printTable(const DistortionByLevel& rows, bool withTotal) {
+  std::printf("%17s", "");
+  for (const Law* law : kLaws) std::printf(" %17s", law->name);
+  std::printf("\n%6s %10s %8s %8s %8s %8s %8s\n", "dBFS", "mean dBFS", "dBm0", "SNR dB", "dBm0", "SNR dB", "blocks");
+  Distortion total;
+  for (const auto& [level, row] : rows) {
+    printRow(std::to_string(level).c_str(), row);
+    total.add(row);
+  }
+  if (withTotal) printRow("all", total);
+}
+
+void declareSnr(CLI::App& app, Options& options) {
+  CLI::App* command = app.add_subcommand("snr", "Prints signal-to-noise ratios after encoding and decoding, by input level");
+  CLI::App* source = command->add_option_group("signal");
+  addInput(source, options, "The audio file, by the levels of blocks of 20 ms");
+  source->add_flag("-s,--sine", options.sine, "Sines of 1013 Hz at 8000 Hz, -60 to 0 dBFS");
+  source->require_option(1);
+  command->callback([&] { printTable(options.sine ? distortionOfSines() : distortionOf(options.input), !options.sine); });
+}
+
+int run(int argc, char** argv) {
+  CLI::App app(
+      "Encodes audio by G.711, decodes it, and tells the signal-to-noise ratio. 0 dBFS is a sine that reaches full scale.");
+  app.require_subcommand(1);
+  Options options;
+  declareEncode(app, options);
+  declareDecode(app, options);
+  declareSnr(app, options);
+  CLI11_PARSE(app, argc, argv);
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return run(argc, argv);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "g711: %s\n", error.what());
+    return 1;
+  }
+}
