@@ -9,7 +9,7 @@ extern "C" {
 #endif
 
 /** *pSum = src[0] + ... + src[len - 1].
- *  32f, 32fc: hint 1 adds in 32-bit floats: the error is at most 2e-5 of the sum of the magnitudes; any other hint adds in
+ *  32f, 32fc: hint 1 adds in 32-bit floats: the error is at most 3.1e-5 of the sum of the magnitudes; any other hint adds in
  *  64-bit floats and rounds once. 64f, 64fc: added in 64-bit floats, the error is at most 3e-12 of the sum of the magnitudes.
  *  The order of the additions is not that of the elements.
  *  Integers: the exact sum times 2^-scaleFactor, rounded to nearest with ties to even, saturated; any scaleFactor is allowed.

@@ -27,6 +27,7 @@ struct Divided {
 };
 
 constexpr auto kNegative = qvxWarnSqrtNegArg;
+constexpr auto kZero = qvxWarnDivByZero;
 
 // clang-format off
 const Divided kDivided[] = {
@@ -40,6 +41,25 @@ const Divided kDivided[] = {
     {"qvxsSqrt_16sc_Sfs", 256}, {"qvxsSqrt_16sc_ISfs", 256},
     {"qvxsSqrt_32s16s_Sfs", 1024, kNegative, "pSrc", -1},
     {"qvxsSqrt_64s16s_Sfs", 512, kNegative, "pSrc", -1},
+    {"qvxsDiv_32f", 4096, kZero, "pSrc1", 0}, {"qvxsDiv_32f_I", 4096, kZero, "pSrc", 0},
+    {"qvxsDiv_64f", 1024, kZero, "pSrc1", 0}, {"qvxsDiv_64f_I", 1024, kZero, "pSrc", 0},
+    {"qvxsDiv_32fc", 1024, kZero, "pSrc1", 0}, {"qvxsDiv_32fc_I", 1024, kZero, "pSrc", 0},
+    {"qvxsDiv_64fc", 1024, kZero, "pSrc1", 0}, {"qvxsDiv_64fc_I", 1024, kZero, "pSrc", 0},
+    {"qvxsDiv_8u_Sfs", 1024, kZero, "pSrc1", 0}, {"qvxsDiv_8u_ISfs", 1024, kZero, "pSrc", 0},
+    {"qvxsDiv_16s_Sfs", 1024, kZero, "pSrc1", 0}, {"qvxsDiv_16s_ISfs", 1024, kZero, "pSrc", 0},
+    {"qvxsDiv_16sc_Sfs", 256, kZero, "pSrc1", 0}, {"qvxsDiv_16sc_ISfs", 256, kZero, "pSrc", 0},
+    {"qvxsDiv_32s_Sfs", 1024, kZero, "pSrc1", 0}, {"qvxsDiv_32s_ISfs", 1024, kZero, "pSrc", 0},
+    {"qvxsDiv_32s16s_Sfs", 1024, kZero, "pSrc1", 0},
+    {"qvxsDiv_Round_8u_Sfs", 512, kZero, "pSrc1", 0}, {"qvxsDiv_Round_8u_ISfs", 512, kZero, "pSrc", 0},
+    {"qvxsDiv_Round_16u_Sfs", 1024, kZero, "pSrc1", 0}, {"qvxsDiv_Round_16u_ISfs", 1024, kZero, "pSrc", 0},
+    {"qvxsDiv_Round_16s_Sfs", 1024, kZero, "pSrc1", 0}, {"qvxsDiv_Round_16s_ISfs", 1024, kZero, "pSrc", 0},
+    {"qvxsDivC_8u_Sfs", 4096}, {"qvxsDivC_16s_Sfs", 4096}, {"qvxsDivC_16sc_Sfs", 1024},
+    {"qvxsDivCRev_16u", 2048, kZero, "pSrc", 0}, {"qvxsDivCRev_32f", 4096, kZero, "pSrc", 0},
+    {"qvxsThreshold_LTInv_32f", 8192}, {"qvxsThreshold_LTInv_64f", 2048},
+    {"qvxsThreshold_LTInv_32fc", 2048}, {"qvxsThreshold_LTInv_64fc", 512},
+    {"qvxsMagnitude_32f", 4096}, {"qvxsMagnitude_64f", 256}, {"qvxsMagnitude_32fc", 2048}, {"qvxsMagnitude_64fc", 256},
+    {"qvxsMagnitude_16sc32f", 4096}, {"qvxsMagnitude_16s32f", 2048}, {"qvxsMagnitude_16s_Sfs", 2048},
+    {"qvxsMagnitude_16sc_Sfs", 2048}, {"qvxsMagnitude_32sc_Sfs", 256},
 };
 // clang-format on
 
