@@ -148,8 +148,8 @@ int32_t exactPart(int32_t part, uint32_t square, int level) {
   return part < 0 ? -static_cast<int32_t>(whole) : static_cast<int32_t>(whole);
 }
 
-// The quotients come from doubles, which are off by 2^-25.5 at most whatever the rounding mode. One of those nearer than 2^-24 to
-// the middle of two integers, 1 in 10^7, sends its vector to exactPart.
+// The quotients come from doubles, which are off by 2^-36 at most whatever the rounding mode. One of those nearer than 2^-30 to
+// the middle of two integers, 1 in 10^9, sends its vector to exactPart.
 template <Side kSide> struct Clip16 {
   int level;
 
@@ -168,7 +168,7 @@ template <Side kSide> struct Clip16 {
     const W wholeIm = toIntNearest(im);
     const auto behind = hn::Max(hn::Abs(re - convertLanes<double>(wholeRe)), hn::Abs(im - convertLanes<double>(wholeIm)));
     using F = std::remove_const_t<decltype(behind)>;
-    if (!hn::AllTrue(TagOf<F>(), behind < same<F>(0.5 - 0x1p-24))) [[unlikely]]
+    if (!hn::AllTrue(TagOf<F>(), behind < same<F>(0.5 - 0x1p-30))) [[unlikely]]
       return as<int16_t>(hn::IfThenElse(beyond, exact(both, less1), both));
     if constexpr (kSide == Side::kBelow) wholeRe = hn::IfThenElse(less1 == same<W>(-1), same<W>(level), wholeRe);
     const V clipped = hn::OddEven(as<int16_t>(hn::ShiftLeft<16>(wholeIm)), as<int16_t>(wholeRe));
@@ -179,8 +179,7 @@ template <Side kSide> struct Clip16 {
   template <class W> auto factor(W less1) const {
     const auto square = convertLanes<double>(less1);
     using F = std::remove_const_t<decltype(square)>;
-    if constexpr (kHasMasks) return nearQuotientByRoot<Usual>(same<F>(level), square + same<F>(1));
-    else return same<F>(level) / hn::Sqrt(square + same<F>(1));
+    return same<F>(level) / hn::Sqrt(square + same<F>(1));
   }
 
   template <class W> [[gnu::noinline]] W exact(W both, W less1) const {

@@ -624,15 +624,6 @@ struct Quiet {
 #endif
 };
 
-// The same in the caller's rounding mode, with the usual flags.
-struct Usual {
-  template <class V> static V product(V a, V b) { return a * b; }
-  template <class V> static V mulAdd(V a, V b, V c) { return hn::MulAdd(a, b, c); }
-  template <class V> static V negMulAdd(V a, V b, V c) { return hn::NegMulAdd(a, b, c); }
-  template <class V> static auto toDouble(V v) { return hn::PromoteTo(hn::Rebind<double, TagOf<V>>(), v); }
-  template <class V> static auto toFloat(V v) { return hn::DemoteTo(hn::Rebind<float, TagOf<V>>(), v); }
-};
-
 // narrow() for two vectors that follow each other in memory.
 template <class To, class V> auto narrowInOrder(Pair<V> v) {
   auto packed = narrow<To>(v);
