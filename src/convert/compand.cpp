@@ -48,8 +48,8 @@ template <class Law> struct To16s {
 
 // ---- codes to floats
 //
-// Segment and bits of a code, and the half step behind them, are the exponent and the fraction of a half: three operations on 16
-// bits and a conversion in place of a lookup and two conversions, 0.4 of the time. Subnormal halves are numbers in any mode.
+// Segment and bits of a code, and the half step behind them, are the exponent and the fraction of a half: A-law takes 0.3 of the
+// time of a lookup and two conversions that way, mu-law 0.6. Subnormal halves are numbers in any mode.
 
 constexpr bool kConvertsHalves = HWY_TARGET <= HWY_AVX2;
 

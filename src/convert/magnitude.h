@@ -52,7 +52,7 @@ template <class V> auto measured(Pair<V> x) {
 }
 
 // numerator / sqrt(square), off by 2^-40.6 of it at most; no number where the square is 0 or infinite. The root of 14 bits gets a
-// step of third order: in all a quarter of the time of a root and a division.
+// step of third order.
 template <class Arithmetic, class W> W nearQuotientByRoot(W numerator, W square) {
   const W near = nearReciprocalRoot(square);
   const W error = Arithmetic::negMulAdd(Arithmetic::product(square, near), near, same<W>(1));

@@ -30,7 +30,7 @@ template <Side kSide, class T> struct Replace {
 };
 
 // 32-bit elements as they lie in memory: a whole one is as wide as the double of its square, so the comparison's mask chooses
-// among elements (0.65 of the time of parts that are put together again).
+// among elements (0.6 of the time of parts that are put together again).
 template <class V> auto partsOf(V x) {
   const TagOf<V> d;
   const hn::Half<TagOf<V>> half;

@@ -75,9 +75,9 @@ template <class Arithmetic> struct QuietComplexReciprocal {
   double level;
   double perLevel;
 
-  explicit QuietComplexReciprocal(double least) : level(least) {
+  explicit QuietComplexReciprocal(double least) : level(least > 0 ? least : 0) {
     const Lanes<double, 2> d;
-    perLevel = hn::GetLane(Arithmetic::quotient(hn::Set(d, 1), hn::Set(d, least)));
+    perLevel = hn::GetLane(Arithmetic::quotient(hn::Set(d, 1), hn::Set(d, level)));
   }
 
   template <class V> Pair<V> operator()(Flag& flag, Pair<V> x) const {
@@ -98,8 +98,8 @@ template <class Arithmetic> struct QuietComplexReciprocal {
  private:
   template <class V> static Pair<V> conjugate(Pair<V> v) { return {v.lo, v.hi ^ same<V>(-0.0F)}; }
 
-  // There is no such root. Factors a bit smaller and a bit larger than the right one give the same results for all but 1 element
-  // in 10^4.
+  // A vector with special elements, or some below the level. Those take factors a bit smaller and a bit larger than the right
+  // one, which give the same results for all but 1 element in 10^4.
   template <class V, class W> [[gnu::noinline]] Pair<V> unusual(Flag& flag, Pair<V> x, Pair<W> value, W square) const {
     const auto bits = as<int64_t>(square);
     using Bits = std::remove_const_t<decltype(bits)>;
