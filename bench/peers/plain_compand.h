@@ -58,6 +58,25 @@ inline Qvx16s toLinear(float x) {
 inline constexpr auto floatToA = [](float x) { return linearToA(toLinear(x)); };
 inline constexpr auto floatToMu = [](float x) { return muOf(toLinear(x), x < 0); };
 
+// The same loop, a sample at a time: the empty statement keeps the compiler from doing many at once.
+template <auto kFunction, class S> [[gnu::noipa]] void encode(const S* __restrict a, Qvx8u* __restrict d, int n) {
+  for (int i = 0; i < n; ++i) {
+    unsigned code = kFunction(a[i]);
+    __asm__("" : "+r"(code));
+    d[i] = static_cast<Qvx8u>(code);
+  }
+}
+
+// By a table of the codes of all 65536 samples.
+template <auto kFunction> [[gnu::noipa]] void encodeByTable(const Qvx16s* __restrict a, Qvx8u* __restrict d, int n) {
+  static const auto table = [] {
+    std::array<Qvx8u, 65536> codes{};
+    for (int x = -32768; x < 32768; ++x) codes[static_cast<uint16_t>(x)] = kFunction(static_cast<Qvx16s>(x));
+    return codes;
+  }();
+  for (int i = 0; i < n; ++i) d[i] = table[static_cast<uint16_t>(a[i])];
+}
+
 // The table of all codes, asked of the library once.
 template <bool kToMu> [[gnu::noipa]] void lawToLaw(const Qvx8u* __restrict a, Qvx8u* __restrict d, int n) {
   static const auto table = [] {

@@ -131,7 +131,7 @@ QVXS_API(QvxStatus, qvxsThreshold_GTAbs_64f_I, (Qvx64f* pSrcDst, int len, Qvx64f
  *  Real forms round once. Complex forms compute as the complex threshold does: 32fc in Qvx64f, 64fc to a few roundings; an
  *  infinite element gives zeros, one with a part that is not a number two of those. A zero at level 0 becomes an infinity of
  *  its sign; the complex one has both parts +infinity.
- *  No floating-point exception reaches the caller: neither flag nor trap.
+ *  All rounds to nearest whatever the mode. No floating-point exception reaches the caller: neither flag nor trap.
  *  Long vectors (32f: 8192; 64f and 32fc: 2048; 64fc: 512 elements) may be divided between two threads.
  *  Returns as above; if there was a zero at level 0 (the vector is complete), qvxWarnInvZero below those lengths,
  *  qvxWarnDivByZero from there on; qvxStatNegThreshold (level < 0). */

@@ -45,10 +45,47 @@ struct FromMuLaw {
 template <class Law> struct To16s {
   template <class V> auto operator()(V codes) const { return Law()(convertLanes<int16_t>(codes)); }
 };
-template <class Law> struct To32f {
+
+// ---- codes to floats
+//
+// Segment and bits of a code, and the half step behind them, are the exponent and the fraction of a half: A-law takes 0.3 of the
+// time of a lookup and two conversions that way, mu-law 0.6. Subnormal halves are numbers in any mode.
+
+constexpr bool kConvertsHalves = HWY_TARGET <= HWY_AVX2;
+
+// sign-extended codes; kInverted: the bits that a law inverts; kAdded: what belongs to exponent and fraction besides.
+template <class V> auto asHalf(V code, int8_t inverted, int added) {
+  const V bits = (hn::ShiftLeft<6>(code) ^ same<V>(static_cast<int16_t>(inverted * 64))) & same<V>(static_cast<int16_t>(0x9FC0));
+  const auto half = hn::BitCast(hn::Rebind<hwy::float16_t, TagOf<V>>(), bits + same<V>(static_cast<int16_t>(added)));
+  return hn::PromoteTo(hn::Rebind<float, TagOf<V>>(), half);
+}
+
+// Segment 0 is as wide as segment 1 and has no leading bit, just as the subnormal numbers are.
+struct HalfOfALaw {
+  template <class V> auto operator()(V code) const {
+    const auto x = asHalf(code, int8_t{-0x2B}, 0x20);
+    return x * same<std::remove_const_t<decltype(x)>>(0x1p7F);
+  }
+};
+
+// All numbers are normal, and the bias of 33 is taken off again. The zero has no sign, whichever the code's is.
+struct HalfOfMuLaw {
+  template <class V> auto operator()(V code) const {
+    const auto x = asHalf(code, int8_t{-1}, 0x420);
+    using F = std::remove_const_t<decltype(x)>;
+    const F bias = hn::CopySign(same<F>(0x1.08p-14F), x);
+    return hn::IfThenElseZero(x != bias, x - bias) * same<F>(0x1p6F);
+  }
+};
+
+template <class Law, class Half> struct To32f {
   template <class V> auto operator()(V codes) const {
-    const auto x = convertLanes<float>(To16s<Law>()(codes));
-    return x * same<std::remove_const_t<decltype(x)>>(0x1p-15F);
+    if constexpr (kConvertsHalves) {
+      return Half()(convertLanes<int16_t>(as<int8_t>(codes)));
+    } else {
+      const auto x = convertLanes<float>(To16s<Law>()(codes));
+      return x * same<std::remove_const_t<decltype(x)>>(0x1p-15F);
+    }
   }
 };
 
@@ -164,9 +201,9 @@ template <class Kernel, class S, class D> QvxStatus apply(const S* src, D* dst, 
 
 // clang-format off
 QvxStatus qvxsALawToLin_8u16s(const Qvx8u* a, Qvx16s* d, int len) { return apply<To16s<FromALaw>>(a, d, len); }
-QvxStatus qvxsALawToLin_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return apply<To32f<FromALaw>>(a, d, len); }
+QvxStatus qvxsALawToLin_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return apply<To32f<FromALaw, HalfOfALaw>>(a, d, len); }
 QvxStatus qvxsMuLawToLin_8u16s(const Qvx8u* a, Qvx16s* d, int len) { return apply<To16s<FromMuLaw>>(a, d, len); }
-QvxStatus qvxsMuLawToLin_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return apply<To32f<FromMuLaw>>(a, d, len); }
+QvxStatus qvxsMuLawToLin_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return apply<To32f<FromMuLaw, HalfOfMuLaw>>(a, d, len); }
 QvxStatus qvxsLinToALaw_16s8u(const Qvx16s* a, Qvx8u* d, int len) { return apply<From16s<ToALaw>>(a, d, len); }
 QvxStatus qvxsLinToALaw_32f8u(const Qvx32f* a, Qvx8u* d, int len) { return fromFloat<ToALaw>(a, d, len); }
 QvxStatus qvxsLinToMuLaw_16s8u(const Qvx16s* a, Qvx8u* d, int len) { return apply<From16s<ToMuLaw>>(a, d, len); }

@@ -1,30 +1,25 @@
-// The magnitudes of complex floats beside a level, in 64-bit lanes, of which both parts of an element hold the same.
+// The magnitudes of complex floats beside a level, in 64-bit lanes, one for each element.
 #pragma once
 
 #include <limits>
 
-#include "frame/map.h"
+#include "frame/complex.h"
 
 namespace qvx {
 
-template <class V> auto inDoubles(V x) { return convertLanes<double>(x); }
-template <class V, class W> V fromDoubles(W x) { return convertLanes<LaneOf<V>>(x); }
-
-// For the real part in even lanes, for the imaginary part in odd ones.
-template <class W> W byPart(double re, double im) {
-  const TagOf<W> d;
-  return hn::OddEven(hn::Set(d, im), hn::Set(d, re));
+template <class V> auto inDoubles(Pair<V> x) {
+  return each(x, [](V part) { return convertLanes<double>(part); });
+}
+template <class V, class W> Pair<V> fromDoubles(Pair<W> x) {
+  return each(x, [](W part) { return convertLanes<LaneOf<V>>(part); });
 }
 
-template <class W> W squareOf(W x) {
-  const W squares = x * x;
-  return squares + hn::Reverse2(TagOf<W>(), squares);
-}
+template <class W> W squareOf(Pair<W> x) { return x.lo * x.lo + x.hi * x.hi; }
 
 // An element x as value / unit. The unit is a power of two: 1 for 32-bit elements, whose squares fit a double wherever they lie;
 // for 64-bit ones that which brings the larger part to 1 to 2, or as near to it as a normal number does.
 template <class W> struct Measured {
-  W value;
+  Pair<W> value;
   W unit;
   W square;  // |value|^2
 
@@ -40,28 +35,39 @@ template <class W> struct Measured {
   }
 };
 
-template <class V> auto measured(V x) {
+template <class V> auto measured(Pair<V> x) {
   const auto value = inDoubles(x);
-  using W = std::remove_const_t<decltype(value)>;
+  using W = std::remove_const_t<decltype(value.lo)>;
   if constexpr (std::is_same_v<LaneOf<V>, float>) {
-    return Measured<W>{value, same<W>(1), squareOf(value)};
+    // The squares of single parts are exact: fused or not, the sum is rounded once.
+    return Measured<W>{value, same<W>(1), kFuses ? hn::MulAdd(value.lo, value.lo, value.hi * value.hi) : squareOf(value)};
   } else {
-    const W part = hn::Abs(value);
     // The limit keeps the unit of infinity a positive number.
-    const W larger = hn::Min(hn::Max(part, hn::Reverse2(TagOf<W>(), part)), same<W>(0x1p1022));
+    const W larger = hn::Min(hn::Max(hn::Abs(value.lo), hn::Abs(value.hi)), same<W>(0x1p1022));
     const auto exponent = as<uint64_t>(larger) & same<decltype(as<uint64_t>(larger))>(0x7FF0000000000000);
     const W unit = as<double>(same<std::remove_const_t<decltype(exponent)>>(0x7FE0000000000000) - exponent);
-    const W scaled = value * unit;
+    const Pair<W> scaled = {value.lo * unit, value.hi * unit};
     return Measured<W>{scaled, unit, squareOf(scaled)};
   }
 }
 
+// numerator / sqrt(square), off by 2^-40.6 of it at most; no number where the square is 0 or infinite. The root of 14 bits gets a
+// step of third order.
+template <class Arithmetic, class W> W nearQuotientByRoot(W numerator, W square) {
+  const W near = nearReciprocalRoot(square);
+  const W error = Arithmetic::negMulAdd(Arithmetic::product(square, near), near, same<W>(1));
+  const W correction = Arithmetic::product(error, Arithmetic::mulAdd(error, same<W>(0.375), same<W>(0.5)));
+  const W quotient = Arithmetic::product(numerator, near);
+  return Arithmetic::mulAdd(quotient, correction, quotient);
+}
+
 template <class M, class W> bool isAny(M mask, W) { return !hn::AllFalse(TagOf<W>(), mask); }
 
-// The lanes of x where a mask of doubles is set, replaced.
-template <class V, class M> V replaced(M mask, V yes, V x) {
+// The elements of x where a mask of doubles is set, replaced.
+template <class V, class M> Pair<V> replaced(M mask, Pair<V> yes, Pair<V> x) {
   const hn::Rebind<double, TagOf<V>> wide;
-  return hn::IfThenElse(maskAs(TagOf<V>(), wide, mask), yes, x);
+  const auto narrow = maskAs(TagOf<V>(), wide, mask);
+  return {hn::IfThenElse(narrow, yes.lo, x.lo), hn::IfThenElse(narrow, yes.hi, x.hi)};
 }
 
 }  // namespace qvx

@@ -182,6 +182,23 @@ inline void partOf(__m512d v, __m512d& part) { part = v; }
 
 inline __m512 mulAddNearest(__m512 a, __m512 b, __m512 c) { return _mm512_fmadd_round_ps(a, b, c, kNearest); }
 inline __m512d mulAddNearest(__m512d a, __m512d b, __m512d c) { return _mm512_fmadd_round_pd(a, b, c, kNearest); }
+inline __m512d negMulAddNearest(__m512d a, __m512d b, __m512d c) { return _mm512_fnmadd_round_pd(a, b, c, kNearest); }
+inline __m512d productNearest(__m512d a, __m512d b) { return _mm512_mul_round_pd(a, b, kNearest); }
+inline __m512 quotientNearest(__m512 a, __m512 b) { return _mm512_div_round_ps(a, b, kNearest); }
+inline __m512d quotientNearest(__m512d a, __m512d b) { return _mm512_div_round_pd(a, b, kNearest); }
+inline __m512 greaterQuiet(__m512 v, __m512 held) { return _mm512_max_round_ps(v, held, _MM_FROUND_NO_EXC); }
+inline __m512d greaterQuiet(__m512d v, __m512d held) { return _mm512_max_round_pd(v, held, _MM_FROUND_NO_EXC); }
+inline __m512d toDoubleQuiet(__m128 v) { return _mm512_cvt_roundps_pd(_mm256_castps128_ps256(v), _MM_FROUND_NO_EXC); }
+inline __m512d toDoubleQuiet(__m256 v) { return _mm512_cvt_roundps_pd(v, _MM_FROUND_NO_EXC); }
+inline __m256 toFloatNearest(__m512d v) { return _mm512_cvt_roundpd_ps(v, kNearest); }
+inline void partOf(__m256 v, __m128& part) {
+  part = _mm256_castps256_ps128(v);
+  separate(part);
+}
+inline void partOf(__m256 v, __m256& part) { part = v; }
+inline __m128d nearReciprocalRoot(__m128d v) { return _mm_rsqrt14_pd(v); }
+inline __m256d nearReciprocalRoot(__m256d v) { return _mm256_rsqrt14_pd(v); }
+inline __m512d nearReciprocalRoot(__m512d v) { return _mm512_rsqrt14_pd(v); }
 inline __m512 scaled(__m512 v, __m512 exponent) { return _mm512_scalef_ps(v, exponent); }
 inline __m512d scaled(__m512d v, __m512d exponent) { return _mm512_scalef_pd(v, exponent); }
 inline __m512 exponent(__m512 v) { return _mm512_getexp_ps(v); }
@@ -540,6 +557,9 @@ template <class V> V mulAddNearest(V a, V b, V c) {
   return a;
 }
 
+// 1 / sqrt(v) of doubles, off by 2^-14 of it at most; processors differ in the bits behind.
+template <class V> V nearReciprocalRoot(V v) { return V{detail::nearReciprocalRoot(v.raw)}; }
+
 // v * 2^floor(exponent), rounded once, for any exponent.
 template <class V> V scaledBy(V v, V exponent) {
   detail::partOf(detail::scaled(detail::whole(v.raw), detail::whole(exponent.raw)), v.raw);
@@ -558,6 +578,51 @@ template <class V> V exponentOf(V v) {
   return v;
 }
 #endif
+
+// Arithmetic that raises no floating-point exception, neither as a trap nor as a flag, and rounds to nearest whatever the control
+// word says: an instruction of AVX-512 has both with it. Elsewhere it is the plain one, and a SilentScope around the call sees to
+// that.
+inline constexpr bool kQuietByInstruction = kHasMasks;
+struct Quiet {
+  template <class V> static V quotient(V a, V b) {
+#if HWY_TARGET == HWY_AVX3
+    detail::partOf(detail::quotientNearest(detail::whole(a.raw), detail::whole(b.raw)), a.raw);
+    return a;
+#else
+    return a / b;
+#endif
+  }
+  // As greater().
+  template <class V> static V max(V v, V held) {
+#if HWY_TARGET == HWY_AVX3
+    detail::partOf(detail::greaterQuiet(detail::whole(v.raw), detail::whole(held.raw)), v.raw);
+    return v;
+#else
+    return hn::Max(v, held);
+#endif
+  }
+#if HWY_TARGET == HWY_AVX3
+  template <class V> static V product(V a, V b) {
+    detail::partOf(detail::productNearest(detail::whole(a.raw), detail::whole(b.raw)), a.raw);
+    return a;
+  }
+  template <class V> static V mulAdd(V a, V b, V c) { return mulAddNearest(a, b, c); }
+  template <class V> static V negMulAdd(V a, V b, V c) {  // c - a * b
+    detail::partOf(detail::negMulAddNearest(detail::whole(a.raw), detail::whole(b.raw), detail::whole(c.raw)), a.raw);
+    return a;
+  }
+  template <class V> static auto toDouble(V v) {
+    Vec<hn::Rebind<double, TagOf<V>>> wide;
+    detail::partOf(detail::toDoubleQuiet(v.raw), wide.raw);
+    return wide;
+  }
+  template <class V> static auto toFloat(V v) {
+    Vec<hn::Rebind<float, TagOf<V>>> narrow;
+    detail::partOf(detail::toFloatNearest(detail::whole(v.raw)), narrow.raw);
+    return narrow;
+  }
+#endif
+};
 
 // narrow() for two vectors that follow each other in memory.
 template <class To, class V> auto narrowInOrder(Pair<V> v) {

@@ -53,6 +53,7 @@ void decodes(Kind kind, QvxStatus (*to16)(const Qvx8u*, Qvx16s*, int), QvxStatus
   integers.run(to16);
   Elementwise<Qvx32f, Qvx8u> floats(std::make_tuple(all<Qvx8u>(700)), [&](Qvx8u code) { return std::ldexp(values[code], -15); });
   floats.run(toFloat);
+  for (const int rounding : kRoundings) floats.runOnce(underRounding(rounding, toFloat));  // no zero becomes negative
 }
 
 TEST(Companding, AllCodesDecode) {

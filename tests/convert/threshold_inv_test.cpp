@@ -61,6 +61,8 @@ template <class T> void reals(QvxStatus (*f)(const T*, T*, int, T), QvxStatus (*
     below.warns([=](T x) { return x == 0 && level == 0 ? qvxWarnInvZero : qvxStatOk; });
     below.run([=](const T* a, T* d, int n) { return f(a, d, n, level); });
     below.run([=](const T*, T* d, int n) { return inPlace(d, n, level); }, 0);
+    const auto call = [=](const T* a, T* d, int n) { return f(a, d, n, level); };
+    for (const int rounding : kRoundings) below.runOnce(underRounding(rounding, call));  // to nearest in all of them
   }
 }
 
@@ -109,6 +111,8 @@ void complexes(QvxStatus (*f)(const C*, C*, int, T), QvxStatus (*inPlace)(C*, in
     trial.warns([=](C x) { return x.re == 0 && x.im == 0 && level == 0 ? qvxWarnInvZero : qvxStatOk; });
     trial.run([=](const C* a, C* d, int n) { return f(a, d, n, level); });
     trial.run([=](const C*, C* d, int n) { return inPlace(d, n, level); }, 0);
+    const auto call = [=](const C* a, C* d, int n) { return f(a, d, n, level); };
+    for (const int rounding : kRoundings) trial.runOnce(underRounding(rounding, call));
   }
 }
 
