@@ -5,8 +5,8 @@
 
 namespace qvx {
 
-// Interleaved parts, as a Pair of the real and the imaginary ones.
-template <class T> struct Deinterleaved {
+// Interleaved parts, as a Pair of the real and the imaginary ones. kBehind: the real part of what stands behind the end.
+template <class T, int kBehind = 0> struct Deinterleaved {
   using Lane = T;
   const T* p;
 
@@ -18,11 +18,14 @@ template <class T> struct Deinterleaved {
     const Lanes<T, N> d;
     const size_t low = std::min(2 * n, N);
     const auto high = 2 * n == low ? hn::Zero(d) : loadFirst(d, p + 2 * at + low, 2 * n - low);
-    return deinterleaved(Pair<Vec<Lanes<T, N>>>{loadFirst(d, p + 2 * at, low), high});
+    auto both = deinterleaved(Pair<Vec<Lanes<T, N>>>{loadFirst(d, p + 2 * at, low), high});
+    if constexpr (kBehind != 0) both.lo = hn::IfThenElse(hn::FirstN(d, n), both.lo, hn::Set(d, T{kBehind}));
+    return both;
   }
   Deinterleaved from(size_t at) const { return {p + 2 * at}; }
 };
 template <class T> Deinterleaved<Part<T>> deinterleaved(const T* p) { return {parts(p)}; }
+template <class T> Deinterleaved<Part<T>, 1> deinterleavedOnesBehind(const T* p) { return {parts(p)}; }
 
 // The same as a Complex, N of each part, whose elements stand in another order: that costs a shuffle within blocks of 128 bits,
 // a third of one across them. For reductions, and for ComplexDestination, which puts them back. kBehind: the real part of what
@@ -114,8 +117,8 @@ template <class T> struct InterleavedDestination {
   InterleavedDestination from(size_t at) const { return {p + 2 * at}; }
 };
 
-template <class T> Deinterleaved<T> source(Deinterleaved<T> v) { return v; }
-template <class T> const T* pointerOf(Deinterleaved<T> v) { return v.p; }
+template <class T, int kBehind> Deinterleaved<T, kBehind> source(Deinterleaved<T, kBehind> v) { return v; }
+template <class T, int kBehind> const T* pointerOf(Deinterleaved<T, kBehind> v) { return v.p; }
 template <class T, int kBehind> ByParts<T, kBehind> source(ByParts<T, kBehind> v) { return v; }
 template <class T, int kBehind> const T* pointerOf(ByParts<T, kBehind> v) { return v.p; }
 template <class T> InterleavedDestination<T> destination(InterleavedDestination<T> v) { return v; }
