@@ -123,4 +123,11 @@ template <class T, int kBehind> ByParts<T, kBehind> source(ByParts<T, kBehind> v
 template <class T, int kBehind> const T* pointerOf(ByParts<T, kBehind> v) { return v.p; }
 template <class T> InterleavedDestination<T> destination(InterleavedDestination<T> v) { return v; }
 
+// map() for operations on the parts: dst = Op(sources...) over len complex elements.
+template <class Op, class Fit, class T, class... Src> QvxStatus mapByParts(T* dst, int len, Fit fit, Src... src) {
+  const QvxStatus status = check(len, pointerOf(src)..., dst);
+  if (status != qvxStatOk) return status;
+  return fit.run(Op(), ComplexDestination<T>{dst}, elements(len), src...);
+}
+
 }  // namespace qvx

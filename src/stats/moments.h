@@ -6,6 +6,8 @@
 
 namespace qvx {
 
+inline constexpr int kFast = 1;  // the hint that asks for speed; any other asks for accuracy
+
 // 2^-scaleFactor, finite: that is far enough up for any integer but 0, which stays 0.
 inline double scaleFactorOf(int scaleFactor) { return powerOfTwo<double>(std::min(-int64_t{scaleFactor}, int64_t{1023})); }
 

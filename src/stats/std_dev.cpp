@@ -8,7 +8,6 @@ using namespace qvx;
 
 namespace {
 
-constexpr int kFast = 1;
 constexpr int kFewest = 2;  // elements that have a deviation
 
 template <class... T> QvxStatus checkTwo(int len, const T*... pointers) {

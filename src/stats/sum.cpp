@@ -6,8 +6,6 @@ using namespace qvx;
 
 namespace {
 
-constexpr int kFast = 1;  // the hint that asks for speed; any other asks for accuracy
-
 template <class Sum, class T> auto sumOf(const T* src, int len) {
   return reduce(Sum(), elements(len) * PartsOf<T>::kCount, source(src));
 }

@@ -32,10 +32,7 @@ struct ComplexQuotient {
 };
 
 template <TeamRule kRule, class T> QvxStatus divideComplex(const T* divisor, const T* dividend, T* dst, int len) {
-  const QvxStatus status = check(len, divisor, dividend, dst);
-  if (status != qvxStatOk) return status;
-  return InTeam<kRule, InOwnLanes>{}.run(ComplexQuotient(), ComplexDestination<T>{dst}, elements(len), ByParts<T, 1>{divisor},
-                                         ByParts<T>{dividend});
+  return mapByParts<ComplexQuotient>(dst, len, InTeam<kRule, InOwnLanes>{}, ByParts<T, 1>{divisor}, ByParts<T>{dividend});
 }
 
 // conj(val) / |val|^2 by the reciprocal of the squared magnitude.

@@ -2,6 +2,7 @@
 //
 // With the magnitude |z|, the larger part of the root is t = sqrt((|z| + |re|) / 2), and the smaller one |im| / (2t): no
 // difference cancels. Where re is negative, they change places.
+#include "frame/complex.h"
 #include "frame/power.h"
 #include "frame/rounding.h"
 #include "frame/team.h"
@@ -65,45 +66,6 @@ struct Root64 {
   }
 };
 
-// Two registers of complex numbers at a time, real parts in one and imaginary parts in the other: a root of half a register
-// takes as long as one of a whole.
-template <class T> struct Apart {
-  using Lane = hwy::UnsignedFromSize<sizeof(T) / 2>;
-  static constexpr size_t kParts = 2;
-  T* p;
-
-  template <size_t N> using Register = Lanes<std::remove_const_t<T>, N / 2>;
-
-  template <size_t N> static auto apart(Vec<Register<N>> low, Vec<Register<N>> high) {
-    const Register<N> d;
-    return Complex<Vec<Register<N>>>{hn::InterleaveLower(d, low, high), hn::InterleaveUpper(d, low, high)};
-  }
-  template <size_t N> auto get(size_t at) const {
-    const Register<N> d;
-    return apart<N>(load(d, p + at), load(d, p + at + N / 2));
-  }
-  template <size_t N> auto get(size_t at, size_t n) const {
-    const Register<N> d;
-    const size_t low = std::min(n, N / 2);
-    return apart<N>(loadFirst(d, p + at, low), n == low ? hn::Zero(d) : loadFirst(d, p + at + low, n - low));
-  }
-  template <size_t N, class V> void put(Complex<V> v, size_t at) const {
-    const Register<N> d;
-    store(hn::InterleaveLower(d, v.re, v.im), d, p + at);
-    store(hn::InterleaveUpper(d, v.re, v.im), d, p + at + N / 2);
-  }
-  template <size_t N, class V> void put(Complex<V> v, size_t at, size_t n) const {
-    const Register<N> d;
-    const size_t low = std::min(n, N / 2);
-    storeFirst(hn::InterleaveLower(d, v.re, v.im), d, p + at, low);
-    if (n > low) storeFirst(hn::InterleaveUpper(d, v.re, v.im), d, p + at + low, n - low);
-  }
-  template <size_t N> size_t misaligned() const {
-    return Destination<Qvx64fc>{const_cast<Qvx64f*>(p)}.template misaligned<N / 2>();
-  }
-  Apart from(size_t at) const { return {p + at}; }
-};
-
 // Each part of the exact root times 2^-scaleFactor, nearest even, saturated. In doubles: over all sources and scale factors no
 // part other than an exact one comes nearer to a tie than 2^-31 of its result's last bit, 16 times as far as the arithmetic can
 // be wrong in any rounding mode; and at a tie t, the smaller part and |z| are integers.
@@ -114,11 +76,10 @@ struct Root16 {
     const hn::Repartition<int32_t, TagOf<V>> d;
     const hn::Half<decltype(d)> dh;
     using W = Vec<decltype(d)>;
-    W unused = hn::Zero(d);
     const W pairs = as<int32_t>(z);
     const W re = hn::ShiftRight<16>(hn::ShiftLeft<16>(pairs));
     const W im = hn::ShiftRight<16>(pairs);
-    const W norm = hn::ReorderWidenMulAccumulate(d, z, z, hn::Zero(d), unused);
+    const W norm = pairProducts(z, z);
     const auto low = roots(hn::LowerHalf(dh, re), hn::LowerHalf(dh, im), hn::LowerHalf(dh, norm));
     const auto high = roots(hn::UpperHalf(dh, re), hn::UpperHalf(dh, im), hn::UpperHalf(dh, norm));
     const W rootRe = hn::Combine(d, high.re, low.re);
@@ -157,21 +118,13 @@ QvxStatus root16sc(const Qvx16sc* src, Qvx16sc* dst, int len, int sf) {
   });
 }
 
-QvxStatus root64fc(const Qvx64fc* src, Qvx64fc* dst, int len) {
-  const QvxStatus status = check(len, src, dst);
-  if (status != qvxStatOk) return status;
-  return inTeam<kRoot64fc>(elements(len), [=](size_t from, size_t count) {
-    return loop(Root64(), Apart<Qvx64f>{parts(dst + from)}, 2 * count, Apart<const Qvx64f>{parts(src + from)});
-  });
-}
-
 }  // namespace
 
 // clang-format off
 QvxStatus qvxsSqrt_32fc(const Qvx32fc* a, Qvx32fc* d, int len) { return map<Root32>(d, len, InTeam<kRoot32fc>{}, a); }
 QvxStatus qvxsSqrt_32fc_I(Qvx32fc* d, int len) { return map<Root32>(d, len, InTeam<kRoot32fc>{}, d); }
-QvxStatus qvxsSqrt_64fc(const Qvx64fc* a, Qvx64fc* d, int len) { return root64fc(a, d, len); }
-QvxStatus qvxsSqrt_64fc_I(Qvx64fc* d, int len) { return root64fc(d, d, len); }
+QvxStatus qvxsSqrt_64fc(const Qvx64fc* a, Qvx64fc* d, int len) { return mapByParts<Root64>(d, len, InTeam<kRoot64fc, InOwnLanes>{}, ByParts{a}); }
+QvxStatus qvxsSqrt_64fc_I(Qvx64fc* d, int len) { return mapByParts<Root64>(d, len, InTeam<kRoot64fc, InOwnLanes>{}, ByParts<Qvx64fc>{d}); }
 QvxStatus qvxsSqrt_16sc_Sfs(const Qvx16sc* a, Qvx16sc* d, int len, int sf) { return root16sc(a, d, len, sf); }
 QvxStatus qvxsSqrt_16sc_ISfs(Qvx16sc* d, int len, int sf) { return root16sc(d, d, len, sf); }
 // clang-format on
