@@ -59,13 +59,20 @@ template <class Order, class T> T* writeRootsOf(Spec<T>& spec, int order, T* blo
   return writeColumnRoots<L, Order>(spec.blocked.inner, m, n, end);
 }
 
-// More than small(order) points.
+// From here on two threads are faster than one.
+template <class T> inline constexpr int kTeamOrder = sizeof(T) == 4 ? 14 : 13;
+
+// More than those of smallTransform.
 template <class T, class Src, class Dst, class Fit>
 [[gnu::noinline]] void longTransform(const Spec<T>& spec, int order, Src src, Dst dst, T* y, Fit fit) {
   if (order > Orders<T>::kThreaded) {
     return blockedTransform<kWidest<T>>(spec.plan, spec.blocked, order, static_cast<size_t>(spec.workSize) / (2 * sizeof(T)), src, dst, y, fit);
   }
   constexpr size_t L = kWidest<T>;
+  if (spec.threads > 1 && order >= kTeamOrder<T>) {
+    const int threads = std::min(int{spec.threads}, ownGetNumThreads());
+    if (threads > 1) return transformInThreads<L>(threads, spec.plan, order, src, dst, y, fit);
+  }
   switch (foldOf<T>(order)) {
     case Fold::kSquare:
       if constexpr (L >= 8) return transformInSquare<L>(src, dst, spec.plan.rowRoots, fit);

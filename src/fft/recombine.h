@@ -59,7 +59,6 @@ template <bool kInverse, size_t L, class T> void recombineIn(const T* src, T* ds
 }
 
 template <bool kInverse, class T, size_t L = kWidest<T>> void recombine(const T* src, T* dst, size_t h, RealRoots<T> roots) {
-  if (h < 2) return;
   if (lanesForReal<T>(h) == L) return recombineIn<kInverse, L>(src, dst, h, roots);
   if constexpr (L > 1) recombine<kInverse, T, L * sizeof(T) <= 16 ? 1 : L / 2>(src, dst, h, roots);
 }
