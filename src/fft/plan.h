@@ -28,7 +28,7 @@ struct Levels {
 constexpr Levels levelsFor(int logRows) {
   // log2 of each
   constexpr const char* kWide[] = {"", "1", "2", "3", "4", "23", "33", "34", "233", "333", "343", "3422", "22422", "33322"};
-  constexpr const char* kNarrow[] = {"",     "1",   "2",    "3",    "22",    "23",    "33",    "223",
+  constexpr const char* kNarrow[] = {"",    "1",   "2",    "3",    "22",    "23",    "33",    "223",
                                      "233", "333", "2233", "3233", "32322", "32323", "33332", "333222"};
   Levels levels;
   for (const char* bits = kHasMasks ? kWide[logRows] : kNarrow[logRows]; *bits != 0; ++bits) {
@@ -52,9 +52,12 @@ inline constexpr size_t kWidestRadix = kHasMasks ? 16 : 8;
 
 template <class Step> QVX_INLINE void withRadix(size_t radix, Step step) {
   switch (radix) {
-    case 2: return step(std::integral_constant<size_t, 2>());
-    case 4: return step(std::integral_constant<size_t, 4>());
-    case 8: return step(std::integral_constant<size_t, 8>());
+    case 2:
+      return step(std::integral_constant<size_t, 2>());
+    case 4:
+      return step(std::integral_constant<size_t, 4>());
+    case 8:
+      return step(std::integral_constant<size_t, 8>());
     default:
       if constexpr (kHasMasks) return step(std::integral_constant<size_t, 16>());
   }

@@ -107,7 +107,8 @@ template <Layout kLayout, class T, class Fit> void longInverse(const Spec<T>& sp
 template <Layout kLayout, size_t N, class T, class Fit> [[gnu::noinline]] void smallForward(const T* src, T* dst, Fit fit) {
   using V = Vec<Lanes<T, 1>>;
   const Lanes<T, 1> d;
-  const auto spectrum = realForward<N, V>([src](size_t i) __attribute__((always_inline)) { return load(Lanes<T, 1>(), src + i); });
+  const auto spectrum =
+      realForward<N, V>([src](size_t i) __attribute__((always_inline)) { return load(Lanes<T, 1>(), src + i); });
   const auto put = [=](Complex<V> z, size_t re, size_t im) __attribute__((always_inline)) {
     const Complex<V> scaled = fit(z);
     store(scaled.re, d, dst + re);
@@ -130,31 +131,45 @@ template <Layout kLayout, size_t N, class T, class Fit> [[gnu::noinline]] void s
     spectrum.between[i + 1] = {load(d, pair), load(d, pair + 1)};
   });
   V x[N];
-  realInverse<N>(spectrum, [&](size_t i, V v) __attribute__((always_inline)) { x[i] = v; });
+  realInverse<N>(
+      spectrum, [&](size_t i, V v) __attribute__((always_inline)) { x[i] = v; });
   unrolled<N>([&](auto i) __attribute__((always_inline)) { store(fit(Complex<V>{x[i], x[i]}).re, d, dst + i); });
 }
 
-template <Layout kLayout, class T, class Fit> QVX_INLINE void forwardOf(const Spec<T>& spec, const T* src, T* dst, T* y, Fit fit) {
+template <Layout kLayout, class T, class Fit>
+QVX_INLINE void forwardOf(const Spec<T>& spec, const T* src, T* dst, T* y, Fit fit) {
   switch (spec.order) {
     case 0:
       inLanes<1>(Apart<const T>{src, src}, Apart<T>{dst, dst}, fit);
       if (kLayout == Layout::kCcs) dst[1] = 0;
       return;
-    case 1: return smallForward<kLayout, 2>(src, dst, fit);
-    case 2: return smallForward<kLayout, 4>(src, dst, fit);
-    case 3: return smallForward<kLayout, 8>(src, dst, fit);
-    case 4: return smallForward<kLayout, 16>(src, dst, fit);
-    default: return longForward<kLayout>(spec, src, dst, y, fit);
+    case 1:
+      return smallForward<kLayout, 2>(src, dst, fit);
+    case 2:
+      return smallForward<kLayout, 4>(src, dst, fit);
+    case 3:
+      return smallForward<kLayout, 8>(src, dst, fit);
+    case 4:
+      return smallForward<kLayout, 16>(src, dst, fit);
+    default:
+      return longForward<kLayout>(spec, src, dst, y, fit);
   }
 }
-template <Layout kLayout, class T, class Fit> QVX_INLINE void inverseOf(const Spec<T>& spec, const T* src, T* dst, T* y, Fit fit) {
+template <Layout kLayout, class T, class Fit>
+QVX_INLINE void inverseOf(const Spec<T>& spec, const T* src, T* dst, T* y, Fit fit) {
   switch (spec.order) {
-    case 0: return inLanes<1>(Apart<const T>{src, src}, Apart<T>{dst, dst}, fit);
-    case 1: return smallInverse<kLayout, 2>(src, dst, fit);
-    case 2: return smallInverse<kLayout, 4>(src, dst, fit);
-    case 3: return smallInverse<kLayout, 8>(src, dst, fit);
-    case 4: return smallInverse<kLayout, 16>(src, dst, fit);
-    default: return longInverse<kLayout>(spec, src, dst, y, fit);
+    case 0:
+      return inLanes<1>(Apart<const T>{src, src}, Apart<T>{dst, dst}, fit);
+    case 1:
+      return smallInverse<kLayout, 2>(src, dst, fit);
+    case 2:
+      return smallInverse<kLayout, 4>(src, dst, fit);
+    case 3:
+      return smallInverse<kLayout, 8>(src, dst, fit);
+    case 4:
+      return smallInverse<kLayout, 16>(src, dst, fit);
+    default:
+      return longInverse<kLayout>(spec, src, dst, y, fit);
   }
 }
 

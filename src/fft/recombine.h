@@ -12,8 +12,8 @@
 
 namespace qvx::fft {
 
-// C and D of k = 1 .. H/2 in groups of L, in the order of interleaved elements; or, for long sequences, the roots exp(-2 pi i k / N)
-// of k = 1 .. kFine, and of 0, kFine, 2 kFine ..., of which each k takes a product.
+// C and D of k = 1 .. H/2 in groups of L, in the order of interleaved elements; or, for long sequences, the roots exp(-2 pi i k /
+// N) of k = 1 .. kFine, and of 0, kFine, 2 kFine ..., of which each k takes a product.
 template <class T> struct RealRoots {
   const T* fine;
   const T* coarse;  // null where there is only one table

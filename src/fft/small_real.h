@@ -63,8 +63,10 @@ template <size_t N, class V, class Put> QVX_INLINE void realInverse(const HalfSp
       even.between[k] = sum(a, b);
       odd.between[k] = product(difference(a, b), rootOf<N, V>(k, true));
     });
-    realInverse<M>(even, [=](size_t i, V v) __attribute__((always_inline)) { put(2 * i, v); });
-    realInverse<M>(odd, [=](size_t i, V v) __attribute__((always_inline)) { put(2 * i + 1, v); });
+    realInverse<M>(
+        even, [=](size_t i, V v) __attribute__((always_inline)) { put(2 * i, v); });
+    realInverse<M>(
+        odd, [=](size_t i, V v) __attribute__((always_inline)) { put(2 * i + 1, v); });
   }
 }
 

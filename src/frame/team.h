@@ -26,8 +26,8 @@ struct TeamRule {
 // Threads have control words of their own. They work under the caller's, and what their arithmetic raised is raised in it.
 inline constexpr uint32_t kExceptionFlags = 0x3F;
 
-// part(thread, count) on each of `threads` threads, or fewer where the runtime gives no more; the worst of their statuses. A part may
-// wait for the others at a barrier.
+// part(thread, count) on each of `threads` threads, or fewer where the runtime gives no more; the worst of their statuses. A part
+// may wait for the others at a barrier.
 template <class Part> QvxStatus inThreads(int threads, Part part) {
   const uint32_t callers = controlWord();
   uint32_t raised = 0;

@@ -89,7 +89,9 @@ template <class C> std::vector<Exact> exact(const std::vector<C>& v) {
   for (const C& z : v) e.push_back({z.re, z.im});
   return e;
 }
-template <class C> bool sameBits(const std::vector<C>& a, const C* b) { return std::memcmp(a.data(), b, a.size() * sizeof(C)) == 0; }
+template <class C> bool sameBits(const std::vector<C>& a, const C* b) {
+  return std::memcmp(a.data(), b, a.size() * sizeof(C)) == 0;
+}
 
 TEST(ComplexFft, IsTheDefinition) {
   Random random(tests::seed());
@@ -103,7 +105,8 @@ TEST(ComplexFft, IsTheDefinition) {
         std::vector<Exact> expected = tests::dft(exact(x), inverse ? 1 : -1);
         std::vector<C> unscaled;
         for (const int flag : tests::kFlags) {
-          SCOPED_TRACE(testing::Message() << name << ", order " << order << (inverse ? ", inverse" : ", forward") << ", flag " << flag);
+          SCOPED_TRACE(testing::Message() << name << ", order " << order << (inverse ? ", inverse" : ", forward") << ", flag "
+                                          << flag);
           const tests::Record record(type.life, order, flag);
           std::vector<C> found(n);
           type.run(inverse, x.data(), found.data(), n, record.get(), nullptr);
