@@ -31,7 +31,7 @@ struct Contender {
   int threads = 1;
 };
 
-enum class Table { kAligned, kMisaligned, kLarge, kTeam };
+enum class Table { kAligned, kMisaligned, kLarge, kTeam, kTransforms };
 
 inline const std::vector<int> kSizes = {16, 256, 4096, 65536, 4 << 20};
 inline const std::vector<int> kTeamSizes = {512, 1024, 2048, 4096, 8192, 16384, 65536, 1 << 20};
@@ -47,6 +47,8 @@ struct Case {
   std::function<void(const Vectors&)> saveDestination;
   std::function<bool(const Vectors&, Agreement)> agrees;  // the saved destination with the present one
   std::vector<Contender> contenders;                      // ours first
+  std::function<double(int n)> operations;                // of transforms: what is counted in GFLOPS
+  bool inRealTime = false;
 };
 
 template <class T> bool near(T ours, T peers) {
@@ -119,6 +121,7 @@ template <class F, Shape kShape, class Scalars> class Row {
   // The same call with two threads beside it with one, in real time: where does a team begin to pay?
   Row& inTeam() {
     case_.table = Table::kTeam;
+    case_.inRealTime = true;
     case_.sizes = kTeamSizes;
     Contender alone = case_.contenders[0];
     alone.peer = "one thread";
@@ -146,6 +149,9 @@ class Suite {
   template <class F, class... S> auto reduction(std::string name, F ours, S... scalars) {
     return add<Shape::kReduction>(std::move(name), ours, scalars...);
   }
+
+  // A case that is no map or reduction.
+  void add(Case c) { cases_.push_back(std::move(c)); }
 
   const std::vector<Case>& cases() const { return cases_; }
 
