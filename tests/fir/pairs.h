@@ -91,6 +91,18 @@ template <class With> void forEachPair(With with) {
 }
 // clang-format on
 
+// Of full scale: floats from -1 to 1, integers of all sizes, the extremes among them.
+template <class T> T sample(Random& random) {
+  if constexpr (isComplex<T>) {
+    const auto re = sample<Part<T>>(random);
+    return {re, sample<Part<T>>(random)};
+  } else if constexpr (std::is_floating_point_v<T>) {
+    return static_cast<T>(std::ldexp(static_cast<double>(static_cast<int64_t>(random())), -63));
+  } else {
+    return static_cast<T>(random() & 7 ? random() : random() & 1 ? std::numeric_limits<T>::min() : std::numeric_limits<T>::max());
+  }
+}
+
 // ---- what a filter has to give
 
 template <class T> inline constexpr bool kIsFloat = std::is_floating_point_v<Part<T>>;
