@@ -44,6 +44,17 @@ template <class T, bool kSwapped> struct Interleaved {
       store(hn::InterleaveUpper(d, re, im), d, p + 2 * at + L);
     }
   }
+  // The same with the lanes in order.
+  template <size_t L> QVX_INLINE auto getInOrder(size_t at) const {
+    const Lanes<Lane, L> d;
+    const auto z = deinterleaved(Pair<Vec<Lanes<Lane, L>>>{load(d, p + 2 * at), load(d, p + 2 * at + L)});
+    return kSwapped ? Complex<Vec<Lanes<Lane, L>>>{z.hi, z.lo} : Complex<Vec<Lanes<Lane, L>>>{z.lo, z.hi};
+  }
+  template <size_t L, class V> QVX_INLINE void putInOrder(Complex<V> z, size_t at) const {
+    const auto both = interleaved(kSwapped ? Pair<V>{z.im, z.re} : Pair<V>{z.re, z.im});
+    store(both.lo, TagOf<V>(), p + 2 * at);
+    store(both.hi, TagOf<V>(), p + 2 * at + L);
+  }
   Interleaved from(size_t at) const { return {p + 2 * at}; }
 };
 
@@ -61,6 +72,8 @@ template <class T> struct Apart {
     store(z.re, TagOf<V>(), re + at);
     store(z.im, TagOf<V>(), im + at);
   }
+  template <size_t L> QVX_INLINE auto getInOrder(size_t at) const { return get<L>(at); }
+  template <size_t L, class V> QVX_INLINE void putInOrder(Complex<V> z, size_t at) const { put<L>(z, at); }
   Apart from(size_t at) const { return {re + at, im + at}; }
 };
 

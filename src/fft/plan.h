@@ -18,25 +18,21 @@ template <class T> constexpr size_t lanesFor(int order) {
   return lanes;
 }
 
-// The radices down the rows, the last pass's last. 16 needs 32 registers.
+// The radices down 2^logRows rows, the last pass's last. Measured: those of large strides stay small, since points a power of two
+// apart share a set of the cache; and 16 points need 32 registers.
 struct Levels {
   size_t count = 0;
   size_t radix[6] = {};
 };
 constexpr Levels levelsFor(int logRows) {
+  // log2 of each
+  constexpr const char* kWide[] = {"", "1", "2", "3", "4", "23", "33", "34", "233", "333", "343", "3422", "22422", "33322"};
+  constexpr const char* kNarrow[] = {"",     "1",   "2",    "3",    "22",    "23",    "33",    "223",
+                                     "233", "333", "2233", "3233", "32322", "32323", "33332", "333222"};
   Levels levels;
-  const auto add = [&](int bits) { levels.radix[levels.count++] = size_t{1} << bits; };
-  if (logRows == 1) {
-    add(1);
-    return levels;
+  for (const char* bits = kHasMasks ? kWide[logRows] : kNarrow[logRows]; *bits != 0; ++bits) {
+    levels.radix[levels.count++] = size_t{1} << (*bits - '0');
   }
-  if (logRows % 3 == 1) {
-    if (kHasMasks && logRows < 8) add(4), logRows -= 4;
-    else add(2), add(2), logRows -= 4;
-  } else if (logRows % 3 == 2) {
-    add(2), logRows -= 2;
-  }
-  for (; logRows > 0; logRows -= 3) add(3);
   return levels;
 }
 

@@ -1,39 +1,27 @@
 // Transforms of up to 32 points, whose roots are constants of the code.
 #pragma once
 
+#include "fft/folded.h"
 #include "fft/plan.h"
 
 namespace qvx::fft {
 
-// cos(2 pi k / 32)
-inline constexpr double kCosines[] = {1,
-                                      0.98078528040323044913,
-                                      0.92387953251128675613,
-                                      0.83146961230254523708,
-                                      0.70710678118654752440,
-                                      0.55557023301960222474,
-                                      0.38268343236508977173,
-                                      0.19509032201612826785,
-                                      0};
-constexpr double cosineOf32(size_t k) {
-  k %= 32;
-  if (k > 16) k = 32 - k;
-  return k <= 8 ? kCosines[k] : -kCosines[16 - k];
-}
-
-template <class T, size_t L, size_t kPoints, class Order> struct SmallRoots {
+// Roots of the row pass, its groups of L as a record would hold them.
+template <size_t L, class Order> struct RowIndex {
   static constexpr size_t R = kRowRadix<L>;
-  T row[kPoints / R * (R - 1) * 2];
-  constexpr SmallRoots() : row() {
-    for (size_t i = 0; i < kPoints / R * (R - 1); ++i) {
-      const size_t j = i / (L * (R - 1)) * L + Order::template element<L>(i % L);
-      const size_t x = j * (i / L % (R - 1) + 1) * (32 / kPoints);
-      row[i / L * 2 * L + i % L] = static_cast<T>(cosineOf32(x));
-      row[i / L * 2 * L + i % L + L] = static_cast<T>(cosineOf32(x + 8));  // -sin
-    }
+  constexpr size_t operator()(size_t group, size_t lane) const {
+    return (group / (R - 1) * L + Order::template element<L>(lane)) * (group % (R - 1) + 1);
   }
 };
-template <class T, size_t L, size_t kPoints, class Order> alignas(64) inline constexpr SmallRoots<T, L, kPoints, Order> kSmallRoots;
+template <class T, size_t L, size_t kPoints, class Order>
+alignas(64) inline constexpr ConstantRoots<T, L, kPoints / kRowRadix<L>*(kRowRadix<L> - 1) / L, kPoints, RowIndex<L, Order>>
+    kRowRoots;
+
+// The same in halves, where the row is one and in order.
+struct HalvesIndex {
+  constexpr size_t operator()(size_t group, size_t lane) const { return lane * (group + 1); }
+};
+template <class T, size_t L> alignas(64) inline constexpr ConstantRoots<T, L, L / 2 - 1, L * L / 2, HalvesIndex> kHalvesRoots;
 
 // Up to 8 points, one lane each.
 template <size_t kPoints, class Src, class Dst, class Fit> QVX_INLINE void inLanes(Src src, Dst dst, Fit fit) {
@@ -49,19 +37,35 @@ template <size_t kPoints, class Src, class Dst, class Fit> QVX_INLINE void inTwo
   constexpr size_t L = std::min(kWidest<T>, size_t{4});
   constexpr size_t R = kRowRadix<L>;
   constexpr size_t kRows = kPoints / R;
+  if constexpr (kPoints == L * L) return transformInSquare<L>(src, dst, kRowRoots<T, L, kPoints, Src>.group[0], fit);
   alignas(64) T y[2 * kPoints];
-  rowPass<L>(src, y, kRows, kSmallRoots<T, L, kPoints, Src>.row, 0, kRows);
+  rowPass<L>(src, y, kRows, kRowRoots<T, L, kPoints, Src>.group[0], 0, kRows);
   lastPass<kRows, L>(y, 1, dst, 0, 1, fit);
 }
 
-template <class Src, class Dst, class Fit> void smallTransform(int order, Src src, Dst dst, Fit fit) {
+template <size_t kPoints, class Src, class Dst, class Fit> QVX_INLINE void inHalves(Src src, Dst dst, Fit fit) {
+  using T = typename Dst::Lane;
+  constexpr size_t L = kPoints == 8 ? 4 : 8;
+  if constexpr (L <= kWidest<T>) transformInHalves<L>(src, dst, kHalvesRoots<T, L>.group[0], fit);
+  else if constexpr (kPoints == 8) inLanes<8>(src, dst, fit);
+  else inTwoPasses<kPoints>(src, dst, fit);
+}
+
+// Each a function of its own: a call of 8 points takes 5 ns, of which a stack frame for 32 would be one.
+template <int kOrder, class Src, class Dst, class Fit> [[gnu::noinline]] void smallTransformOf(Src src, Dst dst, Fit fit) {
+  if constexpr (kOrder <= 2) inLanes<(1 << kOrder)>(src, dst, fit);
+  else if constexpr (kOrder == 4) inTwoPasses<16>(src, dst, fit);
+  else inHalves<(1 << kOrder)>(src, dst, fit);
+}
+
+template <class Src, class Dst, class Fit> QVX_INLINE void smallTransform(int order, Src src, Dst dst, Fit fit) {
   switch (order) {
-    case 0: return inLanes<1>(src, dst, fit);
-    case 1: return inLanes<2>(src, dst, fit);
-    case 2: return inLanes<4>(src, dst, fit);
-    case 3: return inLanes<8>(src, dst, fit);
-    case 4: return inTwoPasses<16>(src, dst, fit);
-    default: return inTwoPasses<32>(src, dst, fit);
+    case 0: return smallTransformOf<0>(src, dst, fit);
+    case 1: return smallTransformOf<1>(src, dst, fit);
+    case 2: return smallTransformOf<2>(src, dst, fit);
+    case 3: return smallTransformOf<3>(src, dst, fit);
+    case 4: return smallTransformOf<4>(src, dst, fit);
+    default: return smallTransformOf<5>(src, dst, fit);
   }
 }
 
