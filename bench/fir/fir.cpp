@@ -80,11 +80,18 @@ template <class T, int kTaps, int kMost = 0> QvxStatus ours(const T* src, T* dst
   return qvxStatOk;
 }
 
+// A number of taps that the compiler does not know.
+template <int kTaps> int countOf() {
+  int taps = kTaps;
+  __asm__("" : "+r"(taps));
+  return taps;
+}
+
 template <class T, int kTaps>
 constexpr auto plainLoop = [](const T* src, T* dst, int n) {
   static const auto p = reversed(taps<T>(kTaps));
   static plain::History<T> history(kTaps);
-  plain::filter(history.with(src, n), p.data(), kTaps, dst, n);
+  plain::filter(history.with(src, n), p.data(), countOf<kTaps>(), dst, n);
   history.keep(n);
 };
 

@@ -208,9 +208,10 @@ QVXS_API(QvxStatus, qvxsFIRStreamGetStateSize_32f, (int tapsLen, int* pSize));
  *  Results of 16s, 16sc, 32s, 32sc are scaled by 2^-scaleFactor and saturated, of float arithmetic rounded to nearest even first.
  *  Of integer arithmetic, the sum is multiplied by 2^s with s = tapsFactor - scaleFactor: s below 0 rounds to nearest even, and
  *  counts as -31 if it is less; s above 0 wraps at 32 bits, and from 32 on gives 0.
- *  Accuracy: float sums are added in an order that depends on the call. A single result is off by at most 1.2e-7 (32f, 32fc
- *  arithmetic) or 2.3e-16 (64f, 64fc) of sum |h[k] * x[n - k]|, times the root of tapsLen; by way of the FFT, of the root mean
- *  square of x times the sum of |h[k]|. The number of threads never changes a bit.
+ *  Accuracy: float sums are added in an order that depends on the call. With noise, a result is off by 2.5 eps of the sum of
+ *  |h[k] * x[n - k]| at most, for any number of taps, eps 2^-23 (32f, 32fc arithmetic) or 2^-52 (64f, 64fc); by way of the FFT by
+ *  eps times the root mean square of x times the sum of |h[k]|, which is more where x is quiet beside what is near.
+ *  The number of threads never changes a bit.
  *  Returns qvxStatOk; qvxStatNullPtr; then qvxStatBadSize (numIters < 1); then qvxStatContextMismatch (not such a record). */
 QVXS_API(QvxStatus, qvxsFIR_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int numIters, QvxsFIRState_32f* pState));
 QVXS_API(QvxStatus, qvxsFIR_32f_I, (Qvx32f* pSrcDst, int numIters, QvxsFIRState_32f* pState));

@@ -69,11 +69,13 @@ template <class C, class T> void throughWindow(FloatRecord<C>& state, const T* s
   }
 }
 
-// The first outputs, whose windows reach back behind src, by way of the window's memory; the others straight from src.
+// The first outputs, whose windows reach back behind src, by way of the window's memory; the others straight from src, unless a
+// copy of them costs less than going in two steps (64 outputs of 16 taps take 0.6 of the time).
 template <class C> void straight(FloatRecord<C>& state, const C* src, C* dst, size_t n) {
+  constexpr size_t kWorthTwo = 16 * kVectorElements<C>;
   const auto taps = static_cast<size_t>(state.tapsLen);
   const size_t head = (taps - 1 + kVectorElements<C> - 1) / kVectorElements<C> * kVectorElements<C>;
-  if (n < head + kVectorElements<C>) return throughWindow(state, src, dst, n, 0);
+  if (n < head + kWorthTwo) return throughWindow(state, src, dst, n, 0);
   C* const window = state.delay.window;
   if (head > 0) {
     std::copy_n(src, head, window + taps);

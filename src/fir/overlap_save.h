@@ -9,8 +9,9 @@
 
 namespace qvx::fir {
 
-// Samples from which the blocks of a call may be divided between threads, each with buffers of its own.
-template <class C> inline constexpr size_t kBlocksThreaded = PartsOf<C>::kCount == 1 ? 1601 : 801;
+// Samples from which the blocks of a call are divided between threads, each with buffers of its own. They may be from 1601 real
+// and 801 complex ones on, but a block is done at 1 to 2 ns a sample, and a region costs up to 5 us.
+inline constexpr size_t kBlocksThreaded = 16384;
 
 // src: of the samples' type or already of the kernel's; it must not overlap dst. The delay line must be settled.
 template <class S, class Src>
@@ -54,7 +55,7 @@ QvxStatus overlapSave(S& state, const Src* src, typename S::Sample* dst, size_t 
     return worst;
   };
   const size_t blocks = (n + fresh - 1) / fresh;
-  if (n < kBlocksThreaded<C>) return all(0, blocks, 0);
+  if (n < kBlocksThreaded) return all(0, blocks, 0);
   return dividedBetween(std::min(ownGetNumThreads(), state.threads), blocks, all);
 }
 

@@ -9,9 +9,8 @@ namespace {
 
 // Outputs from which a call may be divided between threads.
 template <class T> inline constexpr size_t kThreaded = PartsOf<T>::kCount == 1 ? 1601 : 801;
-// Multiplications (of reals, of 32 bits) from which two threads are faster: the region costs about 3 us, in which one thread does
-// some 350000.
-inline constexpr size_t kWorthIt = 1 << 20;
+// Multiplications (of reals, of 32 bits) from which they are: a region costs up to 5 us, in which one thread does some 600000.
+inline constexpr size_t kWorthIt = 1 << 21;
 
 template <class K>
 void plain(const typename K::Element* x, const typename K::Tap* p, size_t taps, size_t count, typename K::Element* y) {

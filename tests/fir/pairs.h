@@ -110,6 +110,7 @@ template <class T> std::complex<long double> exact(T v) {
   if constexpr (isComplex<T>) return {static_cast<long double>(v.re), static_cast<long double>(v.im)};
   else return static_cast<long double>(v);
 }
+template <class T> std::array<long double, 2> exactParts(T v) { return {exact(v).real(), exact(v).imag()}; }
 template <class T> std::array<Part<T>, 2> partsOf(T v) {
   if constexpr (isComplex<T>) return {v.re, v.im};
   else return {v, 0};
@@ -135,18 +136,21 @@ template <class H, class T> struct FloatOracle {
 
   // newest: the last sample of a stream that has tapsLen samples at least.
   bool agrees(T y, const T* newest, int scaleFactor) const {
-    std::complex<long double> sum;
+    long double re = 0;
+    long double im = 0;
     long double size = 0;
     long double most = 0;
     for (size_t k = 0; k < taps.size(); ++k) {
-      const auto x = exact(newest[-static_cast<ptrdiff_t>(k)]);
-      sum += exact(taps[k]) * x;
-      size += std::abs(exact(taps[k]));
-      most = std::max(most, std::abs(x));
+      const auto h = exactParts(taps[k]);
+      const auto x = exactParts(newest[-static_cast<ptrdiff_t>(k)]);
+      re += h[0] * x[0] - h[1] * x[1];
+      im += h[0] * x[1] + h[1] * x[0];
+      size += std::abs(h[0]) + std::abs(h[1]);
+      most = std::max({most, std::abs(x[0]), std::abs(x[1])});
     }
     const auto parts = partsOf(y);
     const long double error = 2 * kEpsilon * size * most;
-    return isRounded(parts[0], sum.real(), error, scaleFactor) && isRounded(parts[1], sum.imag(), error, scaleFactor);
+    return isRounded(parts[0], re, error, scaleFactor) && isRounded(parts[1], im, error, scaleFactor);
   }
 };
 
