@@ -27,7 +27,7 @@ void divided(const typename K::Element* x, const typename K::Tap* p, size_t taps
   const size_t work = count * taps * PartsOf<T>::kCount * sizeof(T) / sizeof(float);
   if (count < kThreaded<T> || work < kWorthIt) return plain<K>(x, p, taps, count, y);
   const size_t tiles = count / kTileOutputs<K>;
-  dividedBetween(ownGetNumThreads(), tiles, [=](size_t from, size_t some) {
+  dividedBetween(ownGetNumThreads(), tiles, [=](size_t from, size_t some, size_t) {
     const size_t n = from * kTileOutputs<K>;
     plain<K>(x + n, p, taps, from + some == tiles ? count - n : some * kTileOutputs<K>, y + n);
     return qvxStatOk;
