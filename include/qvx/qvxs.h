@@ -13,5 +13,6 @@
 #include <qvx/qvxs_stats.h>
 #include <qvx/qvxs_norm.h>
 #include <qvx/qvxs_fft.h>
+#include <qvx/qvxs_fir.h>
 
 #endif

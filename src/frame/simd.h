@@ -504,6 +504,16 @@ template <class V> V lanesOfTwo(V a, V b, const int32_t (&order)[16]) {
   static_assert(sizeof(a.raw) == 64);
   return V{_mm512_permutex2var_epi32(a.raw, _mm512_load_si512(order), b.raw)};
 }
+
+// The same for lanes of any size in an order that is computed: from, from + 1 and so on to begin with.
+template <class V> auto laneNumbers(size_t from) {
+  const hn::RebindToUnsigned<TagOf<V>> d;
+  return hn::Iota(d, static_cast<hn::TFromD<decltype(d)>>(from));
+}
+template <class V> V lanesOfTwo(V a, V b, Vec<hn::RebindToUnsigned<TagOf<V>>> order) {
+  if constexpr (sizeof(LaneOf<V>) == 4) return V{_mm512_permutex2var_ps(a.raw, order.raw, b.raw)};
+  else return V{_mm512_permutex2var_pd(a.raw, order.raw, b.raw)};
+}
 #endif
 
 #if HWY_TARGET == HWY_AVX3
