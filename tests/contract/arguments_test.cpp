@@ -83,12 +83,13 @@ class Plain : public tests::Arguments {
     const std::string& name = export_.parameters[index].name;
     if (values_.count(name) != 0) return values_[name];
     static const std::set<std::string> lengths = {"len", "tblLen", "nChannels", "chanLen"};
-    return lengths.count(name) != 0 ? kLength : name == "val" || name == "rndMode" ? 1 : 0;
+    static const std::set<std::string> ones = {"val", "rndMode", "order", "numBq"};
+    return lengths.count(name) != 0 ? kLength : ones.count(name) != 0 ? 1 : 0;
   }
   double real(size_t index) override {
     const std::string& name = export_.parameters[index].name;
     if (reals_.count(name) != 0) return reals_[name];
-    return values_.count(name) != 0 ? static_cast<double>(values_[name]) : 1.5;
+    return values_.count(name) != 0 ? static_cast<double>(values_[name]) : name == "rFreq" ? 0.25 : 1.5;
   }
 
   QvxStatus call() { return export_.call(export_.address, *this); }
@@ -176,7 +177,7 @@ TEST_P(Contract, Success) {
 INSTANTIATE_TEST_SUITE_P(All, Contract, testing::ValuesIn([] {
                            std::vector<Export> withStatus;
                            for (const Export& e : tests::exportTable()) {
-                             if (e.call) withStatus.push_back(e);
+                             if (e.call && !e.handlesRecords()) withStatus.push_back(e);
                            }
                            return withStatus;
                          }()),
@@ -184,7 +185,7 @@ INSTANTIATE_TEST_SUITE_P(All, Contract, testing::ValuesIn([] {
 
 TEST(Refusals, OfTheFamilies) {
   for (const Export& e : tests::exportTable()) {
-    if (!e.call) continue;
+    if (!e.call || e.handlesRecords()) continue;
     if (isShift(e)) {
       expectRefused(Plain(e).set("val", -1), qvxStatNegShift, e.name);
       expectRefused(Plain(e).set("val", INT_MIN), qvxStatNegShift, e.name);

@@ -3,6 +3,7 @@
 
 #include <qvx/qvxdefs.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -22,7 +23,7 @@ class Arguments {
   template <class T> T get(size_t index) {
     if constexpr (std::is_pointer_v<T>) {
       using Element = std::remove_const_t<std::remove_pointer_t<T>>;
-      return static_cast<T>(pointer(index, sizeof(Element), std::is_const_v<std::remove_pointer_t<T>>, kindOf<Element>()));
+      return static_cast<T>(pointer(index, sizeOf<Element>(), std::is_const_v<std::remove_pointer_t<T>>, kindOf<Element>()));
     } else if constexpr (std::is_integral_v<T>) {
       return static_cast<T>(integer(index));
     } else if constexpr (std::is_floating_point_v<T>) {
@@ -35,10 +36,16 @@ class Arguments {
   }
 
  private:
-  // i: integers, f: 32-bit floats, d: 64-bit floats, p: pointers to sources, P: pointers to destinations
+  // Records are opaque, and have no size here.
+  template <class T> static constexpr size_t sizeOf() {
+    if constexpr (requires { sizeof(T); }) return sizeof(T);
+    else return 0;
+  }
+  // i: integers, f: 32-bit floats, d: 64-bit floats, p: pointers to sources, P: pointers to destinations, r: records
   template <class T> static constexpr char kindOf() {
     if constexpr (std::is_pointer_v<T>) return std::is_const_v<std::remove_pointer_t<T>> ? 'p' : 'P';
-    else if constexpr (std::is_class_v<T>) return kindOf<decltype(T::re)>();
+    else if constexpr (requires { T::re; }) return kindOf<decltype(T::re)>();
+    else if constexpr (std::is_class_v<T>) return 'r';
     else return std::is_same_v<T, float> ? 'f' : std::is_same_v<T, double> ? 'd' : 'i';
   }
 };
@@ -57,6 +64,11 @@ struct Export {
   // Null for the few that do not return a status.
   std::function<QvxStatus(void* address, Arguments&)> call;
 
+  // Builds, sizes or takes a record: its arguments are no plain vectors, and its family tests them.
+  bool handlesRecords() const {
+    return name.find("GetStateSize") != name.npos ||
+           std::any_of(parameters.begin(), parameters.end(), [](const Parameter& p) { return p.type.find("State") != p.type.npos; });
+  }
   int indexOf(std::string_view parameter) const {
     for (size_t i = 0; i < parameters.size(); ++i) {
       if (parameters[i].name == parameter) return static_cast<int>(i);
