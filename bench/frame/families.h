@@ -28,6 +28,7 @@ void sum(Suite& suite);
 void extrema(Suite& suite);
 void norm(Suite& suite);
 void dotProduct(Suite& suite);
+void iir(Suite& suite);
 
 // clang-format off
 // In the order of the library's entry table.
@@ -55,6 +56,7 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     extrema,
     norm,
     dotProduct,
+    iir,
 };
 // clang-format on
 

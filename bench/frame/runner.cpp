@@ -85,7 +85,7 @@ int run(const Suite& suite, const std::regex& filter) {
   Report report;
   report.head();
   int mismatches = 0;
-  for (const Table table : {Table::kAligned, Table::kMisaligned, Table::kLarge, Table::kTeam}) {
+  for (const Table table : {Table::kAligned, Table::kMisaligned, Table::kLarge, Table::kTeam, Table::kBlocks}) {
     bool open = false;
     for (const Case& c : suite.cases()) {
       if (c.table != table || !std::regex_search(c.name, filter)) continue;

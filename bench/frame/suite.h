@@ -31,9 +31,10 @@ struct Contender {
   int threads = 1;
 };
 
-enum class Table { kAligned, kMisaligned, kLarge, kTeam };
+enum class Table { kAligned, kMisaligned, kLarge, kTeam, kBlocks };
 
 inline const std::vector<int> kSizes = {16, 256, 4096, 65536, 4 << 20};
+inline const std::vector<int> kBlockSizes = {64, 1024, 65536};  // what filters are given at a time
 inline const std::vector<int> kTeamSizes = {512, 1024, 2048, 4096, 8192, 16384, 65536, 1 << 20};
 
 struct Case {
@@ -124,6 +125,11 @@ template <class F, Shape kShape, class Scalars> class Row {
     alone.peer = "one thread";
     case_.contenders[0].threads = 2;
     case_.contenders.push_back(alone);
+    return *this;
+  }
+  Row& inBlocks() {
+    case_.table = Table::kBlocks;
+    case_.sizes = kBlockSizes;
     return *this;
   }
   Row& large(int n) {
