@@ -6,6 +6,7 @@
 // (AVX-512). Two steps of delay from lane to lane keep what goes from one to the next off that path.
 #pragma once
 
+#include "frame/unroll.h"
 #include "iir/number.h"
 
 namespace qvx {
@@ -80,13 +81,8 @@ class Cascade {
     for (size_t s = 0; s < count; ++s) {
       for (size_t k = 0; k < 2; ++k) states[k][kAll - 1 - s] = line[2 * s + k];
     }
-    // Each group by its own name, and so in registers: loops over the groups would keep them in memory.
     Group groups[kGroups];
-    const auto each = [](auto one) {
-      [&]<size_t... G>(std::index_sequence<G...>) { (one(std::integral_constant<size_t, G>()), ...); }
-      (std::make_index_sequence<kGroups>());
-    };
-    each([&](auto g) {
+    unrolled<kGroups>([&](auto g) {
       const auto row = [&](size_t r) { return load(Wide(), table + r * kAll + g * kLanes); };
       const V zero = hn::Zero(Wide());
       const V lanesAbove = hn::Set(Wide(), static_cast<Lane>(kAll - 1 - g * kLanes)) - hn::Iota(Wide(), 0);
@@ -104,7 +100,7 @@ class Cascade {
     // kMasked: a lane that has no sample yet, or no more, keeps its state. ago: which of the last two outputs is the older.
     const auto step = [&](auto masked, size_t t, V Group::*ago) {
       const V in = t < n ? hn::Set(Wide(), work[t]) : hn::Zero(Wide());
-      each([&](auto g) {
+      unrolled<kGroups>([&](auto g) {
         Group& at = groups[g];
         V above = in;
         if constexpr (g + 1 < kGroups) above = groups[g + 1].*ago;
@@ -140,7 +136,7 @@ class Cascade {
       step(kMasked, t, &Group::y0);
       if (t + 1 < n + kLast) step(kMasked, t + 1, &Group::y1);
     }
-    each([&](auto g) {
+    unrolled<kGroups>([&](auto g) {
       store(groups[g].d0, Wide(), states[0] + g * kLanes);
       store(groups[g].d1, Wide(), states[1] + g * kLanes);
     });

@@ -3,7 +3,6 @@
 
 #include <qvx/qvxdefs.h>
 
-#include <algorithm>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -36,16 +35,16 @@ class Arguments {
   }
 
  private:
-  // Records are opaque, and have no size here.
+  template <class T> static constexpr bool kIsRecord = !requires { sizeof(T); };
   template <class T> static constexpr size_t sizeOf() {
-    if constexpr (requires { sizeof(T); }) return sizeof(T);
-    else return 0;
+    if constexpr (kIsRecord<T>) return 0;
+    else return sizeof(T);
   }
   // i: integers, f: 32-bit floats, d: 64-bit floats, p: pointers to sources, P: pointers to destinations, r: records
   template <class T> static constexpr char kindOf() {
-    if constexpr (std::is_pointer_v<T>) return std::is_const_v<std::remove_pointer_t<T>> ? 'p' : 'P';
-    else if constexpr (requires { T::re; }) return kindOf<decltype(T::re)>();
-    else if constexpr (std::is_class_v<T>) return 'r';
+    if constexpr (kIsRecord<T>) return 'r';
+    else if constexpr (std::is_pointer_v<T>) return std::is_const_v<std::remove_pointer_t<T>> ? 'p' : 'P';
+    else if constexpr (std::is_class_v<T>) return kindOf<decltype(T::re)>();
     else return std::is_same_v<T, float> ? 'f' : std::is_same_v<T, double> ? 'd' : 'i';
   }
 };
@@ -64,11 +63,6 @@ struct Export {
   // Null for the few that do not return a status.
   std::function<QvxStatus(void* address, Arguments&)> call;
 
-  // Builds, sizes or takes a record: its arguments are no plain vectors, and its family tests them.
-  bool handlesRecords() const {
-    return name.find("GetStateSize") != name.npos ||
-           std::any_of(parameters.begin(), parameters.end(), [](const Parameter& p) { return p.type.find("State") != p.type.npos; });
-  }
   int indexOf(std::string_view parameter) const {
     for (size_t i = 0; i < parameters.size(); ++i) {
       if (parameters[i].name == parameter) return static_cast<int>(i);
@@ -76,6 +70,17 @@ struct Export {
     return -1;
   }
 };
+
+// The functions that make, size, use or end a record; their families' tests hold their rules.
+inline bool handlesRecords(const Export& e) {
+  for (const char* part : {"GetSize", "GetStateSize"}) {
+    if (e.name.find(part) != std::string::npos) return true;
+  }
+  for (const Parameter& p : e.parameters) {
+    if (p.type.find("Spec") != std::string::npos || p.type.find("State") != std::string::npos) return true;
+  }
+  return false;
+}
 
 inline std::vector<Parameter> parse(std::string_view text) {
   std::vector<Parameter> parameters;
