@@ -29,6 +29,7 @@ void extrema(Suite& suite);
 void norm(Suite& suite);
 void dotProduct(Suite& suite);
 void fir(Suite& suite);
+void iir(Suite& suite);
 
 // clang-format off
 // In the order of the library's entry table.
@@ -57,6 +58,7 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     norm,
     dotProduct,
     fir,
+    iir,
 };
 // clang-format on
 

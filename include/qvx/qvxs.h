@@ -14,5 +14,6 @@
 #include <qvx/qvxs_norm.h>
 #include <qvx/qvxs_fft.h>
 #include <qvx/qvxs_fir.h>
+#include <qvx/qvxs_iir.h>
 
 #endif

@@ -79,9 +79,20 @@ inline __m128i toIntTruncated(__m128 v) { return _mm_cvttps_epi32(v); }
 inline __m128i toIntCurrent(__m128d v) { return _mm_cvtpd_epi32(v); }
 inline __m128i toIntTruncated(__m128d v) { return _mm_cvttpd_epi32(v); }
 inline __m128i pairProducts(__m128i a, __m128i b) { return _mm_madd_epi16(a, b); }
+template <int kBy> __m128d delayed(__m128d before, __m128d v) { return _mm_shuffle_pd(before, v, 0x1); }
+template <int kAt> __m128d everyLane(__m128d v) { return _mm_shuffle_pd(v, v, kAt * 0x3); }
+template <int kAt> __m128d everyBlock(__m128d v) { return v; }
 inline __m128 evens(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0x88); }
 inline __m128 odds(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0xDD); }
 #if HWY_TARGET <= HWY_AVX2
+template <int kBy> __m256d delayed(__m256d before, __m256d v) {
+  const __m256d middle = _mm256_permute2f128_pd(before, v, 0x21);
+  if constexpr (kBy == 2) return middle;
+  else if constexpr (kBy == 1) return _mm256_shuffle_pd(middle, v, 0x5);
+  else return _mm256_shuffle_pd(before, middle, 0x5);
+}
+template <int kAt> __m256d everyLane(__m256d v) { return _mm256_permute4x64_pd(v, kAt * 0x55); }
+template <int kAt> __m256d everyBlock(__m256d v) { return _mm256_permute2f128_pd(v, v, kAt * 0x11); }
 inline __m256 evens(__m256 x, __m256 y) { return _mm256_shuffle_ps(x, y, 0x88); }
 inline __m256 odds(__m256 x, __m256 y) { return _mm256_shuffle_ps(x, y, 0xDD); }
 template <class V> auto twice(V v) {
@@ -119,6 +130,11 @@ inline __m128i packU16(__m128i lo, __m128i hi) {  // for lanes from -2^31 + 2^15
 }
 #endif
 #if HWY_TARGET == HWY_AVX3
+template <int kBy> __m512d delayed(__m512d before, __m512d v) {
+  return _mm512_castsi512_pd(_mm512_alignr_epi64(_mm512_castpd_si512(v), _mm512_castpd_si512(before), 8 - kBy));
+}
+template <int kAt> __m512d everyLane(__m512d v) { return _mm512_permutexvar_pd(_mm512_set1_epi64(kAt), v); }
+template <int kAt> __m512d everyBlock(__m512d v) { return _mm512_shuffle_f64x2(v, v, kAt * 0x55); }
 inline __m512 evens(__m512 x, __m512 y) { return _mm512_shuffle_ps(x, y, 0x88); }
 inline __m512 odds(__m512 x, __m512 y) { return _mm512_shuffle_ps(x, y, 0xDD); }
 inline __m512 evenBlocks(__m512 a, __m512 b) { return _mm512_shuffle_f32x4(a, b, 0x88); }
@@ -406,6 +422,18 @@ template <class V> auto twice(V v) {
 #endif
   }
 }
+
+// Doubles as they were kBy lanes ago: the last kBy of the vector before, then the first of v. Up to a whole vector.
+template <size_t kBy, class V> V delayed(V before, V v) {
+  static_assert(std::is_same_v<LaneOf<V>, double> && kBy <= kLanesOf<V>);
+  if constexpr (kBy == 0) return v;
+  else if constexpr (kBy == kLanesOf<V>) return before;
+  else return V{detail::delayed<kBy>(before.raw, v.raw)};
+}
+
+// Doubles: one lane, or one block of two, in every place.
+template <size_t kAt, class V> V everyLane(V v) { return V{detail::everyLane<kAt>(v.raw)}; }
+template <size_t kAt, class V> V everyBlock(V v) { return V{detail::everyBlock<kAt>(v.raw)}; }
 
 // The even and the odd lanes of two vectors, within their 128-bit blocks: x0 x2 y0 y2 x4 x6 y4 y6 of floats.
 template <class V> Complex<V> evenAndOdd(V x, V y) {
