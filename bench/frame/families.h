@@ -21,6 +21,7 @@ void narrow(Suite& suite);
 void floatToInt(Suite& suite);
 void half(Suite& suite);
 void complexForms(Suite& suite);
+void polar(Suite& suite);
 void compand(Suite& suite);
 void channels(Suite& suite);
 void threshold(Suite& suite);
@@ -48,6 +49,7 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     floatToInt,
     half,
     complexForms,
+    polar,
     compand,
     channels,
     threshold,

@@ -508,7 +508,7 @@ template <class T> __m512i lanesOfBoth(__m512i a, const T* order, __m512i b) {
 }  // namespace detail
 #endif
 
-// The lanes of both vectors in turn: lo[0], hi[0], lo[1] ... in the first of the result. And back.
+// The lanes of both vectors in turn: lo[0], hi[0], lo[1] ... in the first of the result.
 template <class V> Pair<V> interleaved(Pair<V> v) {
   const TagOf<V> d;
 #if HWY_TARGET == HWY_AVX3
@@ -526,6 +526,25 @@ template <class V> Pair<V> interleaved(Pair<V> v) {
   if constexpr (kLanesOf<V> * sizeof(LaneOf<V>) <= 16) return {lower, upper};
   else return {hn::ConcatLowerLower(d, upper, lower), hn::ConcatUpperUpper(d, upper, lower)};
 }
+// The same of two half vectors in a whole one.
+template <class V> auto inTurn(Pair<V> v) {
+  using Whole = Vec<hn::Twice<TagOf<V>>>;
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (sizeof(Whole) == 64) {
+    using T = hwy::UnsignedFromSize<sizeof(LaneOf<V>)>;
+    const auto lo = as<uint8_t>(v.lo);
+    const auto hi = as<uint8_t>(v.hi);
+    const auto both = detail::lanesOfBoth(detail::whole(lo.raw), detail::kInTurn<T>.low, detail::whole(hi.raw));
+    return as<LaneOf<V>>(Vec<Lanes<uint8_t, 64>>{both});
+  } else
+#endif
+  {
+    static_assert(sizeof(V) <= 16);
+    const TagOf<V> d;
+    return hn::Combine(TagOf<Whole>(), hn::InterleaveUpper(d, v.lo, v.hi), hn::InterleaveLower(d, v.lo, v.hi));
+  }
+}
+// And back.
 template <class V> Pair<V> deinterleaved(Pair<V> v) {
   const TagOf<V> d;
   return {hn::ConcatEven(d, v.hi, v.lo), hn::ConcatOdd(d, v.hi, v.lo)};
