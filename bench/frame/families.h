@@ -29,6 +29,7 @@ void sum(Suite& suite);
 void extrema(Suite& suite);
 void norm(Suite& suite);
 void dotProduct(Suite& suite);
+void spectrum(Suite& suite);
 
 // clang-format off
 // In the order of the library's entry table.
@@ -57,6 +58,7 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     extrema,
     norm,
     dotProduct,
+    spectrum,
 };
 // clang-format on
 
