@@ -45,7 +45,7 @@ template <class Op, class T> QvxStatus product(Layout layout, const T* a, const 
 Qvx16s shifted(int32_t product, int scaleFactor) {
   if (scaleFactor > 0) return saturate<Qvx16s>(product >> std::min(scaleFactor, 31));
   const int places = static_cast<int>(std::min(-int64_t{scaleFactor}, int64_t{16}));
-  return saturate<Qvx16s>(int64_t{saturate<Qvx16s>(product)} << places);
+  return saturate<Qvx16s>(int64_t{product} << places);
 }
 QvxStatus product16(Layout layout, const Qvx16s* a, const Qvx16s* b, Qvx16s* dst, int len, int scaleFactor) {
   return product<Qvx16sc, ComplexProduct>(layout, a, b, dst, len, Scaled{scaleFactor},
