@@ -12,6 +12,7 @@
 #include <qvx/qvxs_threshold.h>
 #include <qvx/qvxs_stats.h>
 #include <qvx/qvxs_norm.h>
+#include <qvx/qvxs_fft.h>
 #include <qvx/qvxs_spectrum.h>
 
 #endif

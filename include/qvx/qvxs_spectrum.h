@@ -1,15 +1,11 @@
-/* Arithmetic on the packed spectra of real sequences.
+/* Arithmetic on the packed spectra of N real values, in the layouts Perm, Pack and CCS that qvxs_fft.h draws for even N. An odd N
+ * has no X[N/2]:
  *
- * The spectrum of N real values is the conjugate of itself read backwards, X[N - k] = conj(X[k]), so half of it is kept. Three
- * layouts, shown for N = 8 and N = 7 (Rk and Ik are the parts of X[k]; I0, and for even N also I4, are 0):
+ *                 0        1        2        3       ...  N-2             N-1             N
+ *    Perm, Pack   X[0]     Re X[1]  Im X[1]  Re X[2]      Re X[(N-1)/2]   Im X[(N-1)/2]
+ *    CCS          X[0]     0        Re X[1]  Im X[1]      Im X[(N-3)/2]   Re X[(N-1)/2]   Im X[(N-1)/2]
  *
- *   N = 8   Perm  R0 R4 R1 I1 R2 I2 R3 I3            N values; the real X[N/2] takes the place of I0
- *           Pack  R0 R1 I1 R2 I2 R3 I3 R4            N values; no place for a zero
- *           CCS   R0 I0 R1 I1 R2 I2 R3 I3 R4 I4      N + 2 values; pairs throughout
- *   N = 7   Perm  R0 R1 I1 R2 I2 R3 I3               Pack the same
- *           CCS   R0 I0 R1 I1 R2 I2 R3 I3            N + 1 values
- *
- * The length of every function is N. */
+ * len is N in every function. */
 #ifndef QVX_QVXS_SPECTRUM_H
 #define QVX_QVXS_SPECTRUM_H
 

@@ -47,10 +47,12 @@ template <class Record, class... Id> QvxStatus checkRecord(const Record* record,
 // A block that goes back unless somebody keeps it.
 class Block {
  public:
-  explicit Block(int64_t bytes) : p_(qvxMalloc(bytes)) {}
+  explicit Block(int64_t bytes) : p_(bytes > 0 ? qvxMalloc(bytes) : nullptr) {}
   Block(const Block&) = delete;
   Block& operator=(const Block&) = delete;
-  ~Block() { qvxFree(p_); }
+  ~Block() {
+    if (!isNull(p_)) qvxFree(p_);
+  }
 
   explicit operator bool() const { return p_ != nullptr; }
   Qvx8u* get() const { return static_cast<Qvx8u*>(p_); }

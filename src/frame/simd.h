@@ -121,6 +121,10 @@ inline __m128i packU16(__m128i lo, __m128i hi) {  // for lanes from -2^31 + 2^15
 #if HWY_TARGET == HWY_AVX3
 inline __m512 evens(__m512 x, __m512 y) { return _mm512_shuffle_ps(x, y, 0x88); }
 inline __m512 odds(__m512 x, __m512 y) { return _mm512_shuffle_ps(x, y, 0xDD); }
+inline __m512 evenBlocks(__m512 a, __m512 b) { return _mm512_shuffle_f32x4(a, b, 0x88); }
+inline __m512 oddBlocks(__m512 a, __m512 b) { return _mm512_shuffle_f32x4(a, b, 0xDD); }
+inline __m512d evenBlocks(__m512d a, __m512d b) { return _mm512_shuffle_f64x2(a, b, 0x88); }
+inline __m512d oddBlocks(__m512d a, __m512d b) { return _mm512_shuffle_f64x2(a, b, 0xDD); }
 inline auto twice(hn::Vec256<double> v) {
   return Vec<Lanes<double, 8>>{_mm512_permutexvar_pd(_mm512_setr_epi64(0, 0, 1, 1, 2, 2, 3, 3), _mm512_castpd256_pd512(v.raw))};
 }
@@ -298,6 +302,9 @@ template <class To, class From, class M> auto maskAs([[maybe_unused]] To d, [[ma
 // Orders streamed stores before all later ones.
 inline void storeFence() { _mm_sfence(); }
 
+// 1 / sqrt(x) to 12 bits, the same in every variant on one processor.
+inline float reciprocalRootEstimate(float x) { return _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(x))); }
+
 // A vector of the same bits.
 template <class T, class V> auto as(V v) { return hn::BitCast(hn::Repartition<T, TagOf<V>>(), v); }
 
@@ -406,6 +413,20 @@ template <class V> Complex<V> evenAndOdd(V x, V y) {
   if constexpr (sizeof(LaneOf<V>) == 4 && kLanesOf<V> >= 4)
     return {V{detail::evens(x.raw, y.raw)}, V{detail::odds(x.raw, y.raw)}};
   else return {hn::InterleaveLower(d, x, y), hn::InterleaveUpper(d, x, y)};
+}
+
+// The even or the odd ones of the 128-bit blocks of two vectors.
+template <class V> V evenBlocks(V a, V b) {
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (sizeof(a.raw) == 64) return V{detail::evenBlocks(a.raw, b.raw)};
+#endif
+  return hn::ConcatLowerLower(TagOf<V>(), b, a);
+}
+template <class V> V oddBlocks(V a, V b) {
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (sizeof(a.raw) == 64) return V{detail::oddBlocks(a.raw, b.raw)};
+#endif
+  return hn::ConcatUpperUpper(TagOf<V>(), b, a);
 }
 
 // Real and imaginary parts exchanged, in vectors of interleaved ones.

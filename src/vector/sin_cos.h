@@ -39,8 +39,38 @@ template <class V> struct SinCos {
   V cosine;
 };
 
-template <int kDigits, class V> SinCos<V> sinCos(V x) {
+// Of k quarter turns and r, which is at most an eighth of a turn, with `rest` the digits behind it.
+template <int kDigits, class V> SinCos<V> sinCosOfQuarters(V k, V r, V rest) {
   using C = detail::SinCosNumbers<kDigits>;
+  const V z = r * r;
+  const V half = same<V>(0.5) * z;
+  const V one = same<V>(1);
+  const V w = one - half;
+  V s = (r * z) * polynomial(z, C::kS);
+  V c = hn::MulAdd(z * z, polynomial(z, C::kC), (one - w) - half);
+  if constexpr (kDigits > 24) {
+    s = hn::MulAdd(rest, w, s);
+    c = hn::NegMulAdd(rest, r, c);
+  }
+  s = r + s;
+  c = w + c;
+
+  // Every quarter turn swaps the two, every second one turns a sign: the lowest bits of k, moved to the place of the sign.
+  const V signBit = same<V>(-0.0);
+  const auto quarter = as<uint64_t>(k + same<V>(0x1.8p52));
+  const V odd = as<double>(hn::ShiftLeft<63>(quarter));
+  const V turned = as<double>(hn::ShiftLeft<62>(quarter)) & signBit;
+  return {ifNegative(odd, c, s) ^ turned, ifNegative(odd, s, c) ^ turned ^ (odd & signBit)};
+}
+
+// Of an angle in whole turns, a fraction whose quarters and their remainder are exact. Error below 1 ULP.
+template <class V> SinCos<V> sinCosOfTurns(V turns) {
+  const V k = hn::Round(turns * same<V>(4));
+  const V r = hn::NegMulAdd(k, same<V>(0.25), turns) * same<V>(0x1.921fb54442d18p+2);
+  return sinCosOfQuarters<53>(k, r, hn::Zero(TagOf<V>()));
+}
+
+template <int kDigits, class V> SinCos<V> sinCos(V x) {
   const TagOf<V> d;
   const V signBit = same<V>(-0.0);
   const V size = hn::AndNot(signBit, x);
@@ -58,32 +88,15 @@ template <int kDigits, class V> SinCos<V> sinCos(V x) {
   } else {
     r = hn::NegMulAdd(k, kC, r);
   }
-  const V z = r * r;
-  const V half = same<V>(0.5) * z;
-  const V one = same<V>(1);
-  const V w = one - half;
-  V s = (r * z) * polynomial(z, C::kS);
-  V c = hn::MulAdd(z * z, polynomial(z, C::kC), (one - w) - half);
-  if constexpr (kDigits > 24) {
-    s = hn::MulAdd(rest, w, s);
-    c = hn::NegMulAdd(rest, r, c);
-  }
-  s = r + s;
-  c = w + c;
-
-  // Every quarter turn swaps the two, every second one turns a sign: the lowest bits of k, moved to the place of the sign.
-  const auto quarter = as<uint64_t>(k + same<V>(0x1.8p52));
-  const V odd = as<double>(hn::ShiftLeft<63>(quarter));
-  const V turned = as<double>(hn::ShiftLeft<62>(quarter)) & signBit;
-  const V sine = ifNegative(odd, c, s) ^ turned ^ (x & signBit);
-  const V cosine = ifNegative(odd, s, c) ^ turned ^ (odd & signBit);
+  SinCos<V> found = sinCosOfQuarters<kDigits>(k, r, rest);
+  found.sine = found.sine ^ (x & signBit);
 
   const uint64_t far = maskBits(d, hn::Not(size <= same<V>(detail::kFarAngle)));
-  if (HWY_LIKELY(far == 0)) return {sine, cosine};
+  if (HWY_LIKELY(far == 0)) return found;
   return {redone(
-              far, sine, [](double v) { return std::sin(v); }, x),
+              far, found.sine, [](double v) { return std::sin(v); }, x),
           redone(
-              far, cosine, [](double v) { return std::cos(v); }, x)};
+              far, found.cosine, [](double v) { return std::cos(v); }, x)};
 }
 
 }  // namespace qvx

@@ -22,7 +22,7 @@ class Arguments {
   template <class T> T get(size_t index) {
     if constexpr (std::is_pointer_v<T>) {
       using Element = std::remove_const_t<std::remove_pointer_t<T>>;
-      return static_cast<T>(pointer(index, sizeof(Element), std::is_const_v<std::remove_pointer_t<T>>, kindOf<Element>()));
+      return static_cast<T>(pointer(index, sizeOf<Element>(), std::is_const_v<std::remove_pointer_t<T>>, kindOf<Element>()));
     } else if constexpr (std::is_integral_v<T>) {
       return static_cast<T>(integer(index));
     } else if constexpr (std::is_floating_point_v<T>) {
@@ -35,9 +35,15 @@ class Arguments {
   }
 
  private:
-  // i: integers, f: 32-bit floats, d: 64-bit floats, p: pointers to sources, P: pointers to destinations
+  template <class T> static constexpr bool kIsRecord = !requires { sizeof(T); };
+  template <class T> static constexpr size_t sizeOf() {
+    if constexpr (kIsRecord<T>) return 0;
+    else return sizeof(T);
+  }
+  // i: integers, f: 32-bit floats, d: 64-bit floats, p: pointers to sources, P: pointers to destinations, r: records
   template <class T> static constexpr char kindOf() {
-    if constexpr (std::is_pointer_v<T>) return std::is_const_v<std::remove_pointer_t<T>> ? 'p' : 'P';
+    if constexpr (kIsRecord<T>) return 'r';
+    else if constexpr (std::is_pointer_v<T>) return std::is_const_v<std::remove_pointer_t<T>> ? 'p' : 'P';
     else if constexpr (std::is_class_v<T>) return kindOf<decltype(T::re)>();
     else return std::is_same_v<T, float> ? 'f' : std::is_same_v<T, double> ? 'd' : 'i';
   }
@@ -64,6 +70,17 @@ struct Export {
     return -1;
   }
 };
+
+// The functions that make, size, use or end a record; their families' tests hold their rules.
+inline bool handlesRecords(const Export& e) {
+  for (const char* part : {"GetSize", "GetStateSize"}) {
+    if (e.name.find(part) != std::string::npos) return true;
+  }
+  for (const Parameter& p : e.parameters) {
+    if (p.type.find("Spec") != std::string::npos || p.type.find("State") != std::string::npos) return true;
+  }
+  return false;
+}
 
 inline std::vector<Parameter> parse(std::string_view text) {
   std::vector<Parameter> parameters;

@@ -1,0 +1,147 @@
+// Transforms of 2, 4, 8 and 16 points, each point a vector of real and one of imaginary parts: the steps of every longer one.
+//
+// All are forward; an inverse transform is a forward one with real and imaginary parts exchanged on the way in and on the way out.
+#pragma once
+
+#include "frame/simd.h"
+#include "frame/unroll.h"
+
+namespace qvx::fft {
+
+// GCC would keep some of these out of line, and their operands in memory.
+#define QVX_INLINE [[gnu::always_inline]] inline
+
+template <class V> QVX_INLINE Complex<V> sum(Complex<V> a, Complex<V> b) { return {a.re + b.re, a.im + b.im}; }
+template <class V> QVX_INLINE Complex<V> difference(Complex<V> a, Complex<V> b) { return {a.re - b.re, a.im - b.im}; }
+template <class V> QVX_INLINE Complex<V> sumWithI(Complex<V> a, Complex<V> b) { return {a.re - b.im, a.im + b.re}; }
+template <class V> QVX_INLINE Complex<V> differenceWithI(Complex<V> a, Complex<V> b) { return {a.re + b.im, a.im - b.re}; }
+
+template <class V> QVX_INLINE Complex<V> product(Complex<V> z, Complex<V> w) {
+  return {hn::NegMulAdd(z.im, w.im, z.re * w.re), hn::MulAdd(z.re, w.im, z.im * w.re)};
+}
+template <class V> QVX_INLINE Complex<V> product(Complex<V> z, LaneOf<V> re, LaneOf<V> im) {
+  return product(z, Complex<V>{same<V>(re), same<V>(im)});
+}
+
+template <class V> QVX_INLINE void dft4(Complex<V>& x0, Complex<V>& x1, Complex<V>& x2, Complex<V>& x3) {
+  const Complex<V> even = sum(x0, x2);
+  const Complex<V> evenOff = difference(x0, x2);
+  const Complex<V> odd = sum(x1, x3);
+  const Complex<V> oddOff = difference(x1, x3);
+  x0 = sum(even, odd);
+  x1 = differenceWithI(evenOff, oddOff);
+  x2 = difference(even, odd);
+  x3 = sumWithI(evenOff, oddOff);
+}
+
+// The odd half is turned by multiples of an eighth, whose factor sqrt(1/2) goes into the sums that follow.
+template <class V> QVX_INLINE void dft8(Complex<V> (&x)[8]) {
+  const V half = same<V>(LaneOf<V>(0.70710678118654752440));
+  dft4(x[0], x[2], x[4], x[6]);
+  dft4(x[1], x[3], x[5], x[7]);
+  const Complex<V> one = {x[3].re + x[3].im, x[3].im - x[3].re};
+  const Complex<V> three = {x[7].im - x[7].re, x[7].re + x[7].im};
+  const Complex<V> y[] = {x[0], x[2], x[4], x[6]};
+  const Complex<V> second = x[5];
+  x[4] = difference(y[0], x[1]);
+  x[0] = sum(y[0], x[1]);
+  x[1] = {hn::MulAdd(half, one.re, y[1].re), hn::MulAdd(half, one.im, y[1].im)};
+  x[5] = {hn::NegMulAdd(half, one.re, y[1].re), hn::NegMulAdd(half, one.im, y[1].im)};
+  x[2] = differenceWithI(y[2], second);
+  x[6] = sumWithI(y[2], second);
+  x[3] = {hn::MulAdd(half, three.re, y[3].re), hn::NegMulAdd(half, three.im, y[3].im)};
+  x[7] = {hn::NegMulAdd(half, three.re, y[3].re), hn::MulAdd(half, three.im, y[3].im)};
+}
+
+template <class V> QVX_INLINE void dft16(Complex<V> (&x)[16]) {
+  using T = LaneOf<V>;
+  constexpr T kCos = T(0.92387953251128675613);
+  constexpr T kSin = T(0.38268343236508977173);
+  constexpr T kHalf = T(0.70710678118654752440);
+  unrolled<4>([&](auto i) __attribute__((always_inline)) { dft4(x[i], x[i + 4], x[i + 8], x[i + 12]); });
+  x[5] = product(x[5], kCos, -kSin);
+  x[6] = product(x[6], kHalf, -kHalf);
+  x[7] = product(x[7], kSin, -kCos);
+  x[9] = product(x[9], kHalf, -kHalf);
+  x[10] = {x[10].im, hn::Neg(x[10].re)};
+  x[11] = product(x[11], -kHalf, -kHalf);
+  x[13] = product(x[13], kSin, -kCos);
+  x[14] = product(x[14], -kHalf, -kHalf);
+  x[15] = product(x[15], -kCos, kSin);
+  unrolled<4>([&](auto i) __attribute__((always_inline)) { dft4(x[4 * i], x[4 * i + 1], x[4 * i + 2], x[4 * i + 3]); });
+  unrolled<4>([&](auto i) __attribute__((always_inline)) {
+    unrolled<i>([&](auto m) __attribute__((always_inline)) { std::swap(x[4 * i + m], x[4 * m + i]); });
+  });
+}
+
+// x[k] = sum of x[n] exp(-2 pi i n k / R)
+template <class V, size_t R> QVX_INLINE void dft(Complex<V> (&x)[R]) {
+  static_assert(R == 2 || R == 4 || R == 8 || R == 16);
+  if constexpr (R == 2) {
+    const Complex<V> off = difference(x[0], x[1]);
+    x[0] = sum(x[0], x[1]);
+    x[1] = off;
+  } else if constexpr (R == 4) {
+    dft4(x[0], x[1], x[2], x[3]);
+  } else if constexpr (R == 8) {
+    dft8(x);
+  } else {
+    dft16(x);
+  }
+}
+
+// ---- Transposition of as many vectors as they have lanes
+
+template <class V> QVX_INLINE void transposeInBlocks(V& a, V& b) {
+  const TagOf<V> d;
+  const V upper = hn::InterleaveUpper(d, a, b);
+  a = hn::InterleaveLower(d, a, b);
+  b = upper;
+}
+template <class V> QVX_INLINE void transposeInBlocks(V& a, V& b, V& c, V& e) {
+  const TagOf<V> d;
+  const auto lowA = as<double>(hn::InterleaveLower(d, a, b));
+  const auto highA = as<double>(hn::InterleaveUpper(d, a, b));
+  const auto lowC = as<double>(hn::InterleaveLower(d, c, e));
+  const auto highC = as<double>(hn::InterleaveUpper(d, c, e));
+  const TagOf<std::remove_const_t<decltype(lowA)>> pairs;
+  a = as<float>(hn::InterleaveLower(pairs, lowA, lowC));
+  b = as<float>(hn::InterleaveUpper(pairs, lowA, lowC));
+  c = as<float>(hn::InterleaveLower(pairs, highA, highC));
+  e = as<float>(hn::InterleaveUpper(pairs, highA, highC));
+}
+
+template <class V> QVX_INLINE void transposeBlocks(V (&)[1]) {}
+template <class V> QVX_INLINE void transposeBlocks(V (&r)[2]) {
+  const V odd = oddBlocks(r[0], r[1]);
+  r[0] = evenBlocks(r[0], r[1]);
+  r[1] = odd;
+}
+template <class V> QVX_INLINE void transposeBlocks(V (&r)[4]) {
+  const V even01 = evenBlocks(r[0], r[1]);
+  const V odd01 = oddBlocks(r[0], r[1]);
+  const V even23 = evenBlocks(r[2], r[3]);
+  const V odd23 = oddBlocks(r[2], r[3]);
+  r[0] = evenBlocks(even01, even23);
+  r[1] = evenBlocks(odd01, odd23);
+  r[2] = oddBlocks(even01, even23);
+  r[3] = oddBlocks(odd01, odd23);
+}
+
+// Lane i of r[k] goes to lane k of r[i].
+template <class V, size_t L> QVX_INLINE void transpose(V (&r)[L]) {
+  static_assert(L == kLanesOf<V>);
+  constexpr size_t kBlock = 16 / sizeof(LaneOf<V>);
+  unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) {
+    if constexpr (kBlock == 2) transposeInBlocks(r[2 * q], r[2 * q + 1]);
+    else transposeInBlocks(r[4 * q], r[4 * q + 1], r[4 * q + 2], r[4 * q + 3]);
+  });
+  unrolled<kBlock>([&](auto i) __attribute__((always_inline)) {
+    V blocks[L / kBlock];
+    unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) { blocks[q] = r[kBlock * q + i]; });
+    transposeBlocks(blocks);
+    unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) { r[kBlock * q + i] = blocks[q]; });
+  });
+}
+
+}  // namespace qvx::fft

@@ -1,0 +1,108 @@
+// A complex transform, whatever its length and whoever asks for it.
+#pragma once
+
+#include "fft/small.h"
+#include "fft/spec.h"
+
+namespace qvx::fft {
+
+// The lanes of a transform that keeps its roots in a record.
+template <class T, class Step> QVX_INLINE void withLanes(int order, Step step) {
+  constexpr size_t kFull = kWidest<T>;
+  if constexpr (kFull * kFull > 64) {
+    if (lanesFor<T>(order) != kFull) return step(std::integral_constant<size_t, kFull / 2>());
+  }
+  step(std::integral_constant<size_t, kFull>());
+}
+
+// Orders that the widest registers hold whole, and how.
+enum class Fold { kNone, kSquare, kHalves, kQuarters };
+template <class T> constexpr Fold foldOf(int order) {
+  constexpr int kSquare = 2 * log2Of(kWidest<T>);
+  if (order <= Orders<T>::kSmall || order > kSquare) return Fold::kNone;
+  return order == kSquare ? Fold::kSquare : order == kSquare - 1 ? Fold::kHalves : Fold::kQuarters;
+}
+
+// The roots of a transform of 2^order points, from `block` on. Order: that of the lanes in its source.
+template <class Order, class T> T* writePlan(Plan<T>& plan, int order, T* block) {
+  T* row = alignedUp<64>(block);
+  if (foldOf<T>(order) == Fold::kHalves || foldOf<T>(order) == Fold::kQuarters) {
+    constexpr size_t L = kWidest<T>;
+    const size_t n = size_t{1} << order;
+    plan = {row, nullptr};
+    writeRoots(
+        n, n - L, [](size_t i) { return i % L * (i / L + 1); },
+        [row](size_t i, double re, double im) {
+          row[i / L * 2 * L + i % L] = static_cast<T>(re);
+          row[i / L * 2 * L + i % L + L] = static_cast<T>(im);
+        });
+    return row + 2 * (n - L);
+  }
+  T* levels = row + rootSizes<T>(order).row;
+  plan = {row, levels};
+  T* end = levels;
+  withLanes<T>(order, [&](auto L) {
+    writeRowRoots<L, Order>(order, row);
+    const size_t rows = (size_t{1} << order) / kRowRadix<L>;
+    end = writeLevelRoots(levelsFor(log2Of(rows)), rows, levels);
+  });
+  return end;
+}
+template <class Order, class T> T* writeRootsOf(Spec<T>& spec, int order, T* block) {
+  if (order <= Orders<T>::kSmall) return block;
+  if (order <= Orders<T>::kThreaded) return writePlan<Order>(spec.plan, order, block);
+  constexpr size_t L = kWidest<T>;
+  const size_t n = size_t{1} << blockBits(order);
+  const size_t m = (size_t{1} << order) / n / n;
+  T* end = writePlan<Order>(spec.plan, blockBits(order), block);
+  end = writeColumnRoots<L, Order>(spec.blocked.outer, n, m * n, end);
+  return m > 1 ? writeColumnRoots<L, Order>(spec.blocked.inner, m, n, end) : end;
+}
+
+// More than small(order) points.
+template <class T, class Src, class Dst, class Fit>
+[[gnu::noinline]] void longTransform(const Spec<T>& spec, int order, Src src, Dst dst, T* y, Fit fit) {
+  if (order > Orders<T>::kThreaded) {
+    return blockedTransform<kWidest<T>>(spec.plan, spec.blocked, order, src, dst, y, fit);
+  }
+  constexpr size_t L = kWidest<T>;
+  switch (foldOf<T>(order)) {
+    case Fold::kSquare:
+      if constexpr (L >= 8) return transformInSquare<L>(src, dst, spec.plan.rowRoots, fit);
+      break;
+    case Fold::kHalves:
+      if constexpr (L >= 16) return transformInHalves<L>(src, dst, spec.plan.rowRoots, fit);
+      break;
+    case Fold::kQuarters:
+      if constexpr (L >= 16) return transformInQuarters(src, dst, spec.plan.rowRoots, fit);
+      break;
+    case Fold::kNone: break;
+  }
+  withLanes<T>(order, [&](auto L) { transform<L>(spec.plan, order, src, dst, y, fit); });
+}
+
+template <class T, class Src, class Dst, class Fit>
+QVX_INLINE void complexTransform(const Spec<T>& spec, int order, Src src, Dst dst, T* y, Fit fit) {
+  if (order <= Orders<T>::kSmall) smallTransform(order, src, dst, fit);
+  else longTransform(spec, order, src, dst, y, fit);
+}
+
+// As called: what the flag says of this direction, and working memory.
+template <bool kInverse, class Record, class Src, class Dst, class Run>
+QvxStatus called(const Record* spec, uint32_t id, Src src, Dst dst, Qvx8u* pBuffer, Run run) {
+  const QvxStatus status = checkRecord(spec, id);
+  if (status != qvxStatOk) return status;
+  if (isMissing(src) || isMissing(dst)) return qvxStatNullPtr;
+  using T = std::remove_const_t<decltype(spec->normFactor)>;
+  const auto scaled = [&](T* y) __attribute__((always_inline)) {
+    if (kInverse ? spec->invScaled : spec->fwdScaled) run(*spec, y, Times<T>{spec->normFactor});
+    else run(*spec, y, Plain{});
+    return qvxStatOk;
+  };
+  if (spec->workSize == 0) return scaled(nullptr);
+  if (!isNull(pBuffer)) return scaled(Carver<32>(pBuffer).template take<T>(0));
+  const Block own(spec->workSize);
+  return own ? scaled(reinterpret_cast<T*>(own.get())) : qvxStatNoMem;
+}
+
+}  // namespace qvx::fft

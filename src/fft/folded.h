@@ -1,0 +1,163 @@
+// Transforms of one block of the row pass: L*L points in L lanes, L*L/2 and L*L/4. All points stand in registers from the first
+// load to the last store.
+//
+// The first transforms go down R = L, L/2 or L/4 rows of L points, as the row pass does. Where their results, R to a point, would fill
+// but half or a quarter of a vector, vectors hold those of 2 or 4 points side by side.
+#pragma once
+
+#include <algorithm>
+
+#include "fft/passes.h"
+
+namespace qvx::fft {
+
+// cos(2 pi k / 32)
+inline constexpr double kCosines[] = {1,
+                                      0.98078528040323044913,
+                                      0.92387953251128675613,
+                                      0.83146961230254523708,
+                                      0.70710678118654752440,
+                                      0.55557023301960222474,
+                                      0.38268343236508977173,
+                                      0.19509032201612826785,
+                                      0};
+constexpr double cosineOf32(size_t k) {
+  k %= 32;
+  if (k > 16) k = 32 - k;
+  return k <= 8 ? kCosines[k] : -kCosines[16 - k];
+}
+
+// Groups of L roots exp(-2 pi i x / kPoints), kPoints up to 32: x(group, lane).
+template <class T, size_t L, size_t kGroups, size_t kPoints, class Index> struct ConstantRoots {
+  T group[kGroups][2 * L];
+  constexpr ConstantRoots() : group() {
+    for (size_t i = 0; i < kGroups * L; ++i) {
+      const size_t x = Index()(i / L, i % L) * (32 / kPoints);
+      group[i / L][i % L] = static_cast<T>(cosineOf32(x));
+      group[i / L][i % L + L] = static_cast<T>(cosineOf32(x + 8));  // -sin
+    }
+  }
+};
+
+// Results of even points are in the even blocks, of odd ones in the odd blocks.
+template <class T, size_t L> struct OddHalf {
+  static constexpr size_t kBlock = std::min(16 / sizeof(T), L / 2);
+  constexpr size_t operator()(size_t group, size_t lane) const { return lane / kBlock % 2 * (group + 1); }
+};
+
+template <class V> QVX_INLINE V evenHalves(V a, V b) {
+  if constexpr (sizeof(LaneOf<V>) == 4 && kLanesOf<V> == 4) {
+    return as<float>(hn::InterleaveLower(hn::Repartition<double, TagOf<V>>(), as<double>(a), as<double>(b)));
+  } else {
+    return evenBlocks(a, b);
+  }
+}
+template <class V> QVX_INLINE V oddHalves(V a, V b) {
+  if constexpr (sizeof(LaneOf<V>) == 4 && kLanesOf<V> == 4) {
+    return as<float>(hn::InterleaveUpper(hn::Repartition<double, TagOf<V>>(), as<double>(a), as<double>(b)));
+  } else {
+    return oddBlocks(a, b);
+  }
+}
+
+// r[k] lane j to r[j / 2]: lanes k of the even j and of the odd j, in blocks of 128 bits (64 where a vector has no more) in turn.
+template <class V, size_t R> QVX_INLINE void foldInHalves(V (&r)[R]) {
+  constexpr size_t kBlock = 16 / sizeof(LaneOf<V>);
+  if constexpr (R < kBlock) {
+    transposeInBlocks(r[0], r[1]);
+  } else {
+    unrolled<R / kBlock>([&](auto q) __attribute__((always_inline)) {
+      if constexpr (kBlock == 2) transposeInBlocks(r[2 * q], r[2 * q + 1]);
+      else transposeInBlocks(r[4 * q], r[4 * q + 1], r[4 * q + 2], r[4 * q + 3]);
+    });
+    V folded[R];
+    unrolled<kBlock / 2>([&](auto u) __attribute__((always_inline)) {
+      V blocks[2 * R / kBlock];
+      unrolled<2 * R / kBlock>([&](auto i) __attribute__((always_inline)) { blocks[i] = r[i / 2 * kBlock + 2 * u + i % 2]; });
+      transposeBlocks(blocks);
+      unrolled<2 * R / kBlock>([&](auto b) __attribute__((always_inline)) { folded[b * kBlock / 2 + u] = blocks[b]; });
+    });
+    unrolled<R>([&](auto i) __attribute__((always_inline)) { r[i] = folded[i]; });
+  }
+}
+
+template <class V, size_t R> QVX_INLINE void eachPart(Complex<V> (&x)[R], auto step) {
+  const auto of = [&](auto part) __attribute__((always_inline)) {
+    V r[R];
+    unrolled<R>([&](auto i) __attribute__((always_inline)) { r[i] = x[i].*part; });
+    step(r);
+    unrolled<R>([&](auto i) __attribute__((always_inline)) { x[i].*part = r[i]; });
+  };
+  of(&Complex<V>::re);
+  of(&Complex<V>::im);
+}
+
+// L * L points. rowRoots: as the row pass takes them.
+template <size_t L, class T, class Src, class Dst, class Fit>
+QVX_INLINE void transformInSquare(Src src, Dst dst, const T* rowRoots, Fit fit) {
+  using V = Vec<Lanes<T, L>>;
+  const auto element = [](size_t lane) { return Src::template element<L>(lane); };
+  Complex<V> x[L];
+  unrolled<L>([&](auto m) __attribute__((always_inline)) { x[m] = src.template get<L>(m * L); });
+  dft(x);
+  unrolled<L - 1>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowRoots + m * 2 * L)); });
+  const auto inOrder = [&](auto& r) __attribute__((always_inline)) {
+    V rows[L];
+    unrolled<L>([&](auto i) __attribute__((always_inline)) { rows[i] = r[element(i)]; });
+    transpose(rows);
+    unrolled<L>([&](auto i) __attribute__((always_inline)) { r[element(i)] = rows[i]; });
+  };
+  eachPart(x, inOrder);
+  dft(x);
+  unrolled<L>([&](auto k) __attribute__((always_inline)) { dst.template put<L>(fit(x[k]), k * L); });
+}
+
+// L * L / 2 points. rowRoots: R - 1 groups, k = 1.. of exp(-2 pi i j k / N), lanes j in order.
+template <size_t L, class T, class Src, class Dst, class Fit>
+QVX_INLINE void transformInHalves(Src src, Dst dst, const T* rowRoots, Fit fit) {
+  constexpr size_t R = L / 2;
+  using V = Vec<Lanes<T, L>>;
+  alignas(64) static constexpr ConstantRoots<T, L, R - 1, L, OddHalf<T, L>> kOdd;
+  Complex<V> x[R];
+  unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = src.template getInOrder<L>(m * L); });
+  dft(x);
+  unrolled<R - 1>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowRoots + m * 2 * L)); });
+  eachPart(x, [](auto& r) __attribute__((always_inline)) { foldInHalves(r); });
+  dft(x);
+  unrolled<R - 1>([&](auto k) __attribute__((always_inline)) { x[k + 1] = product(x[k + 1], group<L>(kOdd.group[k])); });
+  unrolled<R / 2>([&](auto p) __attribute__((always_inline)) {
+    const Complex<V> a = x[2 * p];
+    const Complex<V> b = x[2 * p + 1];
+    const Complex<V> even = {evenHalves(a.re, b.re), evenHalves(a.im, b.im)};
+    const Complex<V> odd = {oddHalves(a.re, b.re), oddHalves(a.im, b.im)};
+    dst.template putInOrder<L>(fit(sum(even, odd)), p * L);
+    dst.template putInOrder<L>(fit(difference(even, odd)), (p + R / 2) * L);
+  });
+}
+
+// 64 points in 16 lanes of 32 bits. rowRoots: 3 groups, as above.
+struct QuarterTurns {
+  constexpr size_t operator()(size_t group, size_t lane) const { return lane / 4 * (group + 1); }
+};
+template <class T, class Src, class Dst, class Fit>
+QVX_INLINE void transformInQuarters(Src src, Dst dst, const T* rowRoots, Fit fit) {
+  constexpr size_t L = 16;
+  using V = Vec<Lanes<T, L>>;
+  alignas(64) static constexpr ConstantRoots<T, L, 3, 16, QuarterTurns> kTurns;
+  Complex<V> x[4];
+  unrolled<4>([&](auto m) __attribute__((always_inline)) { x[m] = src.template getInOrder<L>(m * L); });
+  dft(x);
+  unrolled<3>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowRoots + m * 2 * L)); });
+  // Lane 4b + i of x[k] to block i of x[b], lane k.
+  eachPart(x, [](auto& r) __attribute__((always_inline)) {
+    transposeInBlocks(r[0], r[1], r[2], r[3]);
+    transposeBlocks(r);
+  });
+  dft(x);
+  unrolled<3>([&](auto k) __attribute__((always_inline)) { x[k + 1] = product(x[k + 1], group<L>(kTurns.group[k])); });
+  eachPart(x, [](auto& r) __attribute__((always_inline)) { transposeBlocks(r); });
+  dft(x);
+  unrolled<4>([&](auto k) __attribute__((always_inline)) { dst.template putInOrder<L>(fit(x[k]), k * L); });
+}
+
+}  // namespace qvx::fft

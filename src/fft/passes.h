@@ -1,0 +1,169 @@
+// The passes of a transform of N = R * rows points, R points apart by `rows`:
+//
+//   row pass     transforms of R points over whole vectors of neighbours; their results turned, and transposed so that a vector
+//                holds neighbouring results and every later pass can work without a shuffle
+//   inner pass   transforms of whole vectors down the rows, in place, turned by one root a vector
+//   last pass    the same without roots, from the work array to where the results stand in natural order
+//
+// The work array y holds vectors in groups: L real parts, L imaginary parts; row j has R / L groups.
+#pragma once
+
+#include "fft/butterfly.h"
+#include "frame/complex.h"
+
+namespace qvx::fft {
+
+// Points in the caller's memory. A vector of L of them may come with its lanes in another order, that of element(lane).
+template <class T, bool kSwapped> struct Interleaved {
+  using Lane = std::remove_const_t<T>;
+  T* p;
+
+  // Shuffles within blocks take half a block from either half of the points.
+  template <size_t L> static constexpr size_t element(size_t lane) {
+    constexpr size_t kHalf = 8 / sizeof(T);
+    return L == 1 ? 0 : lane / kHalf % 2 * (L / 2) + lane / (2 * kHalf) * kHalf + lane % kHalf;
+  }
+  template <size_t L> QVX_INLINE auto get(size_t at) const {
+    const Lanes<Lane, L> d;
+    using V = Vec<Lanes<Lane, L>>;
+    const V low = load(d, p + 2 * at);
+    const V high = load(d, p + 2 * at + L);
+    Complex<V> z{low, high};
+    if constexpr (L > 1) z = evenAndOdd(low, high);
+    return kSwapped ? Complex<V>{z.im, z.re} : z;
+  }
+  template <size_t L, class V> QVX_INLINE void put(Complex<V> z, size_t at) const {
+    const TagOf<V> d;
+    const V re = kSwapped ? z.im : z.re;
+    const V im = kSwapped ? z.re : z.im;
+    if constexpr (L == 1) {
+      store(re, d, p + 2 * at);
+      store(im, d, p + 2 * at + 1);
+    } else {
+      store(hn::InterleaveLower(d, re, im), d, p + 2 * at);
+      store(hn::InterleaveUpper(d, re, im), d, p + 2 * at + L);
+    }
+  }
+  // The same with the lanes in order.
+  template <size_t L> QVX_INLINE auto getInOrder(size_t at) const {
+    const Lanes<Lane, L> d;
+    const auto z = deinterleaved(Pair<Vec<Lanes<Lane, L>>>{load(d, p + 2 * at), load(d, p + 2 * at + L)});
+    return kSwapped ? Complex<Vec<Lanes<Lane, L>>>{z.hi, z.lo} : Complex<Vec<Lanes<Lane, L>>>{z.lo, z.hi};
+  }
+  template <size_t L, class V> QVX_INLINE void putInOrder(Complex<V> z, size_t at) const {
+    const auto both = interleaved(kSwapped ? Pair<V>{z.im, z.re} : Pair<V>{z.re, z.im});
+    store(both.lo, TagOf<V>(), p + 2 * at);
+    store(both.hi, TagOf<V>(), p + 2 * at + L);
+  }
+  Interleaved from(size_t at) const { return {p + 2 * at}; }
+};
+
+template <class T> struct Apart {
+  using Lane = std::remove_const_t<T>;
+  T* re;
+  T* im;
+
+  template <size_t L> static constexpr size_t element(size_t lane) { return lane; }
+  template <size_t L> QVX_INLINE auto get(size_t at) const {
+    const Lanes<Lane, L> d;
+    return Complex<Vec<Lanes<Lane, L>>>{load(d, re + at), load(d, im + at)};
+  }
+  template <size_t L, class V> QVX_INLINE void put(Complex<V> z, size_t at) const {
+    store(z.re, TagOf<V>(), re + at);
+    store(z.im, TagOf<V>(), im + at);
+  }
+  template <size_t L> QVX_INLINE auto getInOrder(size_t at) const { return get<L>(at); }
+  template <size_t L, class V> QVX_INLINE void putInOrder(Complex<V> z, size_t at) const { put<L>(z, at); }
+  Apart from(size_t at) const { return {re + at, im + at}; }
+};
+
+template <class T> bool isMissing(const T* v) { return isNull(v); }
+template <class T, bool kSwapped> bool isMissing(Interleaved<T, kSwapped> v) { return isNull(v.p); }
+template <class T> bool isMissing(Apart<T> v) { return isNull(v.re) || isNull(v.im); }
+
+// What is done to results on their way out.
+struct Plain {
+  template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const { return z; }
+};
+template <class T> struct Times {
+  T factor;
+  template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const { return {z.re * same<V>(factor), z.im * same<V>(factor)}; }
+};
+
+// The row pass takes as many points as a register has lanes, and as many as make it worth while.
+template <size_t L> inline constexpr size_t kRowRadix = L < 4 ? 4 : L;
+
+template <size_t L, class T> QVX_INLINE Complex<Vec<Lanes<T, L>>> group(const T* y) {
+  const Lanes<T, L> d;
+  return {load(d, y), load(d, y + L)};
+}
+template <size_t L, class T, class V> QVX_INLINE void putGroup(Complex<V> z, T* y) {
+  store(z.re, TagOf<V>(), y);
+  store(z.im, TagOf<V>(), y + L);
+}
+
+// roots: for each L rows and each k = 1..R-1 a group of exp(-2 pi i j k / N), its lanes in the order of the source's elements.
+template <size_t L, class T, class Src>
+[[gnu::noinline]] void rowPass(Src src, T* y, size_t rows, const T* roots, size_t from, size_t to) {
+  constexpr size_t R = kRowRadix<L>;
+  using V = Vec<Lanes<T, L>>;
+  roots += from * (R - 1) * 2;
+  for (size_t j = from; j < to; j += L, roots += (R - 1) * 2 * L) {
+    Complex<V> x[R];
+    unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = src.template get<L>(j + m * rows); });
+    dft(x);
+    unrolled<R - 1>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(roots + m * 2 * L)); });
+    unrolled<R / L>([&](auto w) __attribute__((always_inline)) {
+      constexpr auto element = &Src::template element<L>;
+      const auto out = [&](auto part, T* to) __attribute__((always_inline)) {
+        V r[L];
+        unrolled<L>([&](auto i) __attribute__((always_inline)) { r[i] = x[w * L + element(i)].*part; });
+        transpose(r);
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          store(r[i], TagOf<V>(), to + ((j + element(i)) * (R / L) + w) * 2 * L);
+        });
+      };
+      out(&Complex<V>::re, y);
+      out(&Complex<V>::im, y + L);
+    });
+  }
+}
+
+// roots: for each q = 0..stride-1, for k = 1..R-1 exp(-2 pi i q k / (R * stride)), real and imaginary part.
+template <size_t R, size_t L, class T> [[gnu::noinline]] void innerPass(T* y, size_t stride, const T* roots, size_t from, size_t to) {
+  constexpr size_t W = kRowRadix<L> / L;
+  using V = Vec<Lanes<T, L>>;
+  const size_t apart = stride * W * 2 * L;
+  for (size_t q = from; q < to; ++q) {
+    const T* w = roots + q * (R - 1) * 2;
+    for (size_t column = 0; column < W; ++column) {
+      T* p = y + (q * W + column) * 2 * L;
+      Complex<V> x[R];
+      unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = group<L>(p + m * apart); });
+      dft(x);
+      putGroup<L>(x[0], p);
+      unrolled<R - 1>([&](auto m) __attribute__((always_inline)) {
+        putGroup<L>(product(x[m + 1], w[2 * m], w[2 * m + 1]), p + (m + 1) * apart);
+      });
+    }
+  }
+}
+
+// `count` transforms of neighbouring rows; result m of the b-th goes to row at + step * (b + count * m).
+template <size_t R, size_t L, class T, class Dst, class Fit>
+[[gnu::noinline]] void lastPass(const T* y, size_t count, Dst dst, size_t at, size_t step, Fit fit) {
+  constexpr size_t W = kRowRadix<L> / L;
+  using V = Vec<Lanes<T, L>>;
+  for (size_t b = 0; b < count; ++b) {
+    for (size_t column = 0; column < W; ++column) {
+      Complex<V> x[R];
+      unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = group<L>(y + ((b * R + m) * W + column) * 2 * L); });
+      dft(x);
+      unrolled<R>([&](auto m) __attribute__((always_inline)) {
+        dst.template put<L>(fit(x[m]), ((at + step * (b + count * m)) * W + column) * L);
+      });
+    }
+  }
+}
+
+}  // namespace qvx::fft

@@ -1,0 +1,72 @@
+// Transforms of up to 32 points, whose roots are constants of the code.
+#pragma once
+
+#include "fft/folded.h"
+#include "fft/plan.h"
+
+namespace qvx::fft {
+
+// Roots of the row pass, its groups of L as a record would hold them.
+template <size_t L, class Order> struct RowIndex {
+  static constexpr size_t R = kRowRadix<L>;
+  constexpr size_t operator()(size_t group, size_t lane) const {
+    return (group / (R - 1) * L + Order::template element<L>(lane)) * (group % (R - 1) + 1);
+  }
+};
+template <class T, size_t L, size_t kPoints, class Order>
+alignas(64) inline constexpr ConstantRoots<T, L, kPoints / kRowRadix<L>*(kRowRadix<L> - 1) / L, kPoints, RowIndex<L, Order>>
+    kRowRoots;
+
+// The same in halves, where the row is one and in order.
+struct HalvesIndex {
+  constexpr size_t operator()(size_t group, size_t lane) const { return lane * (group + 1); }
+};
+template <class T, size_t L> alignas(64) inline constexpr ConstantRoots<T, L, L / 2 - 1, L * L / 2, HalvesIndex> kHalvesRoots;
+
+// Up to 8 points, one lane each.
+template <size_t kPoints, class Src, class Dst, class Fit> QVX_INLINE void inLanes(Src src, Dst dst, Fit fit) {
+  using V = Vec<Lanes<typename Dst::Lane, 1>>;
+  Complex<V> x[kPoints];
+  unrolled<kPoints>([&](auto i) __attribute__((always_inline)) { x[i] = src.template get<1>(i); });
+  if constexpr (kPoints > 1) dft(x);
+  unrolled<kPoints>([&](auto i) __attribute__((always_inline)) { dst.template put<1>(fit(x[i]), i); });
+}
+
+template <size_t kPoints, class Src, class Dst, class Fit> QVX_INLINE void inTwoPasses(Src src, Dst dst, Fit fit) {
+  using T = typename Dst::Lane;
+  constexpr size_t L = std::min(kWidest<T>, size_t{4});
+  constexpr size_t R = kRowRadix<L>;
+  constexpr size_t kRows = kPoints / R;
+  if constexpr (kPoints == L * L) return transformInSquare<L>(src, dst, kRowRoots<T, L, kPoints, Src>.group[0], fit);
+  alignas(64) T y[2 * kPoints];
+  rowPass<L>(src, y, kRows, kRowRoots<T, L, kPoints, Src>.group[0], 0, kRows);
+  lastPass<kRows, L>(y, 1, dst, 0, 1, fit);
+}
+
+template <size_t kPoints, class Src, class Dst, class Fit> QVX_INLINE void inHalves(Src src, Dst dst, Fit fit) {
+  using T = typename Dst::Lane;
+  constexpr size_t L = kPoints == 8 ? 4 : 8;
+  if constexpr (L <= kWidest<T>) transformInHalves<L>(src, dst, kHalvesRoots<T, L>.group[0], fit);
+  else if constexpr (kPoints == 8) inLanes<8>(src, dst, fit);
+  else inTwoPasses<kPoints>(src, dst, fit);
+}
+
+// Each a function of its own: a call of 8 points takes 5 ns, of which a stack frame for 32 would be one.
+template <int kOrder, class Src, class Dst, class Fit> [[gnu::noinline]] void smallTransformOf(Src src, Dst dst, Fit fit) {
+  if constexpr (kOrder <= 2) inLanes<(1 << kOrder)>(src, dst, fit);
+  else if constexpr (kOrder == 4) inTwoPasses<16>(src, dst, fit);
+  else inHalves<(1 << kOrder)>(src, dst, fit);
+}
+
+template <class Src, class Dst, class Fit> QVX_INLINE void smallTransform(int order, Src src, Dst dst, Fit fit) {
+  switch (order) {
+    case 0: return smallTransformOf<0>(src, dst, fit);
+    case 1: return smallTransformOf<1>(src, dst, fit);
+    case 2: return smallTransformOf<2>(src, dst, fit);
+    case 3: return smallTransformOf<3>(src, dst, fit);
+    case 4: return smallTransformOf<4>(src, dst, fit);
+    default: return smallTransformOf<5>(src, dst, fit);
+  }
+}
+
+}  // namespace qvx::fft

@@ -1,0 +1,55 @@
+// The discrete Fourier transform as defined, in long double.
+#pragma once
+
+#include <cmath>
+#include <complex>
+#include <vector>
+
+namespace tests {
+
+using Exact = std::complex<long double>;
+
+// exp(2 pi i x / n), exact where it is 1, i, -1 or -i.
+inline Exact rootOfUnity(size_t x, size_t n) {
+  const size_t quarter = 4 * (x % n) / n;
+  const auto angle = 2 * M_PIl * static_cast<long double>(4 * (x % n) - quarter * n) / static_cast<long double>(4 * n);
+  const Exact turned[] = {{1, 0}, {0, 1}, {-1, 0}, {0, -1}};
+  return turned[quarter] * Exact(std::cos(angle), std::sin(angle));
+}
+
+namespace detail {
+// roots: those of the whole transform, `step` apart.
+inline std::vector<Exact> dft(const std::vector<Exact>& x, const std::vector<Exact>& roots, size_t step) {
+  const size_t n = x.size();
+  std::vector<Exact> result(n);
+  if (n <= 16) {
+    for (size_t k = 0; k < n; ++k) {
+      for (size_t i = 0; i < n; ++i) result[k] += x[i] * roots[i * k % n * step];
+    }
+    return result;
+  }
+  std::vector<Exact> even(n / 2);
+  std::vector<Exact> odd(n / 2);
+  for (size_t i = 0; i < n / 2; ++i) even[i] = x[2 * i], odd[i] = x[2 * i + 1];
+  even = dft(even, roots, 2 * step);
+  odd = dft(odd, roots, 2 * step);
+  for (size_t k = 0; k < n / 2; ++k) {
+    const Exact turned = roots[k * step] * odd[k];
+    result[k] = even[k] + turned;
+    result[k + n / 2] = even[k] - turned;
+  }
+  return result;
+}
+}  // namespace detail
+
+// sum of x[n] exp(sign 2 pi i n k / N) for all k; lengths above 16 by the sums over the even and the odd elements.
+inline std::vector<Exact> dft(const std::vector<Exact>& x, int sign) {
+  std::vector<Exact> roots;
+  for (size_t k = 0; k < x.size(); ++k) {
+    const Exact root = rootOfUnity(k, x.size());
+    roots.push_back(sign < 0 ? std::conj(root) : root);
+  }
+  return detail::dft(x, roots, 1);
+}
+
+}  // namespace tests
