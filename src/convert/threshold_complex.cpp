@@ -152,43 +152,78 @@ int32_t exactPart(int32_t part, uint32_t square, int level) {
   return part < 0 ? -static_cast<int32_t>(whole) : static_cast<int32_t>(whole);
 }
 
-// The quotients come from doubles, which are off by 2^-31 at most whatever the rounding mode. One of those nearer than 2^-24 to
-// the middle of two integers, 1 in 10^7, sends its vector to exactPart.
+// Three times the same quotients, each for what the one before leaves in doubt. Floats give them within 2.5 roundings and so the
+// nearest integer for all elements but those whose quotient lies close to the middle of two; a vector with one of those, 1 in 14,
+// goes through doubles (16 elements: 20 cycles on average, 31 through doubles alone).
 template <Side kSide> struct Clip16 {
   int level;
+  float radius = static_cast<float>(level);
 
   template <class V> V operator()(V x) const {
     const auto less1 = squareLess1(x);
     const auto beyond = passes<kSide>(less1, level);
     using W = std::remove_const_t<decltype(less1)>;
-    const TagOf<W> d;
-    if (hn::AllFalse(d, beyond)) return x;
+    if (hn::AllFalse(TagOf<W>(), beyond)) return x;
     const W both = as<int32_t>(x);
-    // A zero counts as a one here, so that its quotients are numbers.
-    const auto perLevel = factor(kSide == Side::kBelow ? hn::Max(less1, same<W>(0)) : less1);
-    const auto re = fixedPoint(hn::ShiftRight<16>(hn::ShiftLeft<16>(both)), perLevel);
-    const auto im = fixedPoint(hn::ShiftRight<16>(both), perLevel);
-    const auto fractions = hn::OddEven(as<uint32_t>(hn::ShiftLeft<32>(im)), as<uint32_t>(re));
-    using Fractions = std::remove_const_t<decltype(fractions)>;
-    constexpr uint32_t kDoubt = 1 << (32 - 24);
-    if (!hn::AllFalse(TagOf<Fractions>(), fractions + same<Fractions>(kDoubt) < same<Fractions>(2 * kDoubt))) [[unlikely]]
-      return as<int16_t>(hn::IfThenElse(beyond, exact(both, less1), both));
-    const auto whole = as<uint64_t>(hn::OddEven(as<int16_t>(hn::ShiftRight<16>(im)), as<int16_t>(hn::ShiftRight<32>(re))));
-    W clipped = as<int32_t>(hn::TruncateTo(hn::RebindToUnsigned<TagOf<W>>(), whole));
-    if constexpr (kSide == Side::kBelow) clipped = hn::IfThenElse(less1 == same<W>(-1), same<W>(level), clipped);
-    return as<int16_t>(hn::IfThenElse(beyond, clipped, both));
+    W square = less1 + same<W>(1);  // 2^31 becomes a negative number, which has no root: in doubt
+    if constexpr (kSide == Side::kBelow) square = hn::Max(square, same<W>(1));  // zeros are seen to behind
+    const auto size = Quiet::root(Quiet::floatOf(square));
+    using F = std::remove_const_t<decltype(size)>;
+    const F factor = Quiet::quotient(same<F>(radius), size);
+    const F re = convertLanes<float>(hn::ShiftRight<16>(hn::ShiftLeft<16>(both)));
+    const F im = convertLanes<float>(hn::ShiftRight<16>(both));
+    const F wholeRe = hn::Round(re * factor);
+    const F wholeIm = hn::Round(im * factor);
+    const auto isClear = hn::And(isNearest(wholeRe, re, factor), isNearest(wholeIm, im, factor));
+    if (!hn::AllFalse(TagOf<W>(), hn::AndNot(hn::RebindMask(TagOf<W>(), isClear), beyond))) [[unlikely]]
+      return inDoubles(x);
+    return clipped(less1, beyond, both, toIntTruncated(wholeRe), toIntTruncated(wholeIm));
   }
 
  private:
-  template <class W> auto factor(W less1) const {
+  // What may lie between a quotient of floats and the true one, as a part of it: 2.5 roundings to nearest, twice as much in other
+  // modes, and another where the product cannot be fused.
+  static constexpr float kError = kQuietByInstruction ? 0x1.5p-23F : 0x1p-21F;
+
+  template <class F> static auto isNearest(F whole, F part, F factor) {
+    const F behind = hn::Abs(hn::MulSub(part, factor, whole));
+    return behind < hn::NegMulAdd(hn::Abs(whole), same<F>(kError), same<F>(0.5F - 0x1p-22F));
+  }
+
+  template <class W, class M> auto clipped(W less1, M beyond, W both, W re, W im) const {
+    if constexpr (kSide == Side::kBelow) re = hn::IfThenElse(less1 == same<W>(-1), same<W>(level), re);
+    const auto joined = hn::OddEven(as<int16_t>(hn::ShiftLeft<16>(im)), as<int16_t>(re));
+    return as<int16_t>(hn::IfThenElse(beyond, as<int32_t>(joined), both));
+  }
+
+  template <class V> [[gnu::noinline]] V inDoubles(V x) const {
+    const hn::Half<TagOf<V>> half;
+    return hn::Combine(TagOf<V>(), halfInDoubles(hn::UpperHalf(half, x)), halfInDoubles(hn::LowerHalf(half, x)));
+  }
+
+  // Off by 2^-35 at most whatever the rounding mode. A quotient nearer than 2^-30 to the middle of two integers, 1 in 10^9, sends
+  // its vector to exactPart.
+  template <class V> V halfInDoubles(V x) const {
+    const auto less1 = squareLess1(x);
+    const auto beyond = passes<kSide>(less1, level);
+    using W = std::remove_const_t<decltype(less1)>;
+    const W both = as<int32_t>(x);
+    // A zero counts as a one here, so that its quotients are numbers.
+    const auto perLevel = factorOf(hn::Max(less1, same<W>(0)));
+    const auto re = convertLanes<double>(hn::ShiftRight<16>(hn::ShiftLeft<16>(both))) * perLevel;
+    const auto im = convertLanes<double>(hn::ShiftRight<16>(both)) * perLevel;
+    const W wholeRe = toIntNearest(re);
+    const W wholeIm = toIntNearest(im);
+    const auto behind = hn::Max(hn::Abs(re - convertLanes<double>(wholeRe)), hn::Abs(im - convertLanes<double>(wholeIm)));
+    using F = std::remove_const_t<decltype(behind)>;
+    if (!hn::AllTrue(TagOf<F>(), behind < same<F>(0.5 - 0x1p-30))) [[unlikely]]
+      return as<int16_t>(hn::IfThenElse(beyond, exact(both, less1), both));
+    return clipped(less1, beyond, both, wholeRe, wholeIm);
+  }
+  template <class W> auto factorOf(W less1) const {
     const auto square = convertLanes<double>(less1);
     using F = std::remove_const_t<decltype(square)>;
     return same<F>(level) / hn::Sqrt(square + same<F>(1));
-  }
-  // part * factor + 1/2 with 32 bits behind the point, in the lower bits of a double whose last bit counts 2^-32: the 16 bits
-  // before the point are the integer nearest to the product, and next to the middle of two all behind it are zeros or ones.
-  template <class W, class F> static auto fixedPoint(W part, F factor) {
-    return as<uint64_t>(hn::MulAdd(convertLanes<double>(part), factor, same<F>(0x1.8p20 + 0.5)));
   }
 
   template <class W> [[gnu::noinline]] W exact(W both, W less1) const {
@@ -209,10 +244,9 @@ template <Side kSide> struct Clip16 {
 
 // ---- the functions
 
-// Runs a kernel over all elements, with as many at a time as fill a register with what it computes in: 16-bit elements, or the
-// real parts of floats as doubles.
-template <class Inner = uint8_t, class Kernel, class T, class... Src> QvxStatus over(Kernel kernel, T* dst, int len, Src... src) {
-  return loop<Inner>(kernel, destination(dst), 2 * elements(len), source(src)...);
+// Runs a kernel over all elements: as they lie in memory, or by parts with as many at a time as fill a register as doubles.
+template <class Kernel, class T, class... Src> QvxStatus over(Kernel kernel, T* dst, int len, Src... src) {
+  return loop(kernel, destination(dst), 2 * elements(len), source(src)...);
 }
 template <class Kernel, class T> QvxStatus overParts(Kernel kernel, const T* src, T* dst, int len) {
   return loop<double>(kernel, InterleavedDestination<Part<T>>{parts(dst)}, elements(len), deinterleaved(src));
@@ -221,7 +255,7 @@ template <class Kernel, class T> QvxStatus overParts(Kernel kernel, const T* src
 template <Side kSide, class T> QvxStatus clip(const T* src, T* dst, int len, Part<T> level) {
   const QvxStatus status = checkLevel(len, src, dst, level);
   if (status != qvxStatOk) return status;
-  if constexpr (std::is_same_v<T, Qvx16sc>) return over<Qvx32s>(Clip16<kSide>{level}, dst, len, src);
+  if constexpr (std::is_same_v<T, Qvx16sc>) return over(Clip16<kSide>{level}, dst, len, src);
   else if constexpr (std::is_same_v<T, Qvx32fc>) return over(ClipSingle<kSide>{level}, dst, len, src);
   else return overParts(Clip<kSide>{level}, src, dst, len);
 }

@@ -190,6 +190,8 @@ inline __m512d negMulAddNearest(__m512d a, __m512d b, __m512d c) { return _mm512
 inline __m512d productNearest(__m512d a, __m512d b) { return _mm512_mul_round_pd(a, b, kNearest); }
 inline __m512 quotientNearest(__m512 a, __m512 b) { return _mm512_div_round_ps(a, b, kNearest); }
 inline __m512d quotientNearest(__m512d a, __m512d b) { return _mm512_div_round_pd(a, b, kNearest); }
+inline __m512 rootNearest(__m512 v) { return _mm512_sqrt_round_ps(v, kNearest); }
+inline __m512 toFloatNearest(__m512i v) { return _mm512_cvt_roundepi32_ps(v, kNearest); }
 inline __m512 greaterQuiet(__m512 v, __m512 held) { return _mm512_max_round_ps(v, held, _MM_FROUND_NO_EXC); }
 inline __m512d greaterQuiet(__m512d v, __m512d held) { return _mm512_max_round_pd(v, held, _MM_FROUND_NO_EXC); }
 inline __m512d toDoubleQuiet(__m128 v) { return _mm512_cvt_roundps_pd(_mm256_castps128_ps256(v), _MM_FROUND_NO_EXC); }
@@ -631,6 +633,24 @@ struct Quiet {
 #else
     return a / b;
 #endif
+  }
+  template <class V> static V root(V v) {
+#if HWY_TARGET == HWY_AVX3
+    detail::partOf(detail::rootNearest(detail::whole(v.raw)), v.raw);
+    return v;
+#else
+    return hn::Sqrt(v);
+#endif
+  }
+  // Of 32-bit integers.
+  template <class V> static auto floatOf(V v) {
+    Vec<hn::Rebind<float, TagOf<V>>> f;
+#if HWY_TARGET == HWY_AVX3
+    detail::partOf(detail::toFloatNearest(detail::whole(v.raw)), f.raw);
+#else
+    f = hn::ConvertTo(TagOf<decltype(f)>(), v);
+#endif
+    return f;
   }
   // As greater().
   template <class V> static V max(V v, V held) {
