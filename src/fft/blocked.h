@@ -1,15 +1,16 @@
 // Transforms too long for the caches, in place, with a tile of working memory.
 //
-// N = n * m * n with n up to 1024. Point (a, b, c) stands at (a * m + b) * n + c. Transforms down a, then down b, then along c leave
+// N = n * m * n with n = 256. Point (a, b, c) stands at (a * m + b) * n + c. Transforms down a, then down b, then along c leave
 // result ka + n * (kb + m * kc) at (ka, kb, kc); the swap of ka and kc puts it where it belongs. So each point goes through memory
 // three times: down a by tiles of neighbouring columns, then a block of m * n points after the other, then the swap.
 #pragma once
 
+#include "fft/folded.h"
 #include "fft/plan.h"
 
 namespace qvx::fft {
 
-constexpr int blockBits(int order) { return std::min(order / 2, 10); }
+inline constexpr int kBlockBits = 8;
 
 // The roots of transforms down `rows` rows of `columns` points: of their passes, and those that turn row k of column c by
 // exp(-2 pi i k c / (rows * columns)), as products of one that depends on k and the column within its tile, and one on k and the
@@ -63,20 +64,37 @@ template <size_t L, class T, class Dst> struct Turned {
   }
 };
 
-// Transforms down the rows, each column in its place.
+// Transforms down the rows, each column in its place. `wide` columns at a time come to the work array, so that the caller's memory is
+// read in runs of some cache lines: rows a power of two apart leave the caches no room for more.
 template <size_t L, class T, class Src, class Dst>
-void downColumns(Src src, Dst dst, size_t rows, size_t columns, const ColumnRoots<T>& roots, T* y) {
+void downColumns(Src src, Dst dst, size_t rows, size_t columns, size_t wide, const ColumnRoots<T>& roots, T* y) {
   constexpr size_t C = kRowRadix<L>;
   const Levels levels = levelsFor(log2Of(rows));
   const T* tile = roots.tiles;
-  for (size_t c = 0; c < columns; c += C, tile += 2 * rows) {
+  for (size_t c = 0; c < columns; c += wide) {
     for (size_t row = 0; row < rows; ++row) {
-      unrolled<C / L>([&](auto w) __attribute__((always_inline)) {
-        putGroup<L>(src.template get<L>(row * columns + c + w * L), y + (row * C + w * L) * 2);
-      });
+      for (size_t at = 0; at < wide; at += L) {
+        putGroup<L>(src.template get<L>(row * columns + c + at), y + (at / C * rows * C + row * C + at % C) * 2);
+      }
     }
-    const Turned<L, T, Dst> turned{dst.from(c), columns, roots.lanes, tile};
-    Columns<L, T, Turned<L, T, Dst>, Plain>{levels, turned, Plain{}}.block(y, rows, roots.levels, 0, 0, 1);
+    for (size_t at = 0; at < wide; at += C, tile += 2 * rows) {
+      const Turned<L, T, Dst> turned{dst.from(c + at), columns, roots.lanes, tile};
+      Columns<L, T, Turned<L, T, Dst>, Plain>{levels, turned, Plain{}}.block(y + at * rows * 2, rows, roots.levels, 0, 0, 1);
+    }
+  }
+}
+
+// The same for as many rows as go through registers at once.
+template <size_t R, size_t L, class T, class Dst>
+[[gnu::noinline]] void downShortColumns(Dst dst, size_t columns, const ColumnRoots<T>& roots) {
+  constexpr size_t C = kRowRadix<L>;
+  using V = Vec<Lanes<T, L>>;
+  for (size_t c = 0; c < columns; c += L) {
+    const Turned<L, T, Dst> turned{dst.from(c / C * C), columns, roots.lanes, roots.tiles + c / C * 2 * R};
+    Complex<V> x[R];
+    unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = dst.template get<L>(m * columns + c); });
+    dft(x);
+    unrolled<R>([&](auto m) __attribute__((always_inline)) { turned.template put<L>(x[m], m * C + c % C); });
   }
 }
 
@@ -112,19 +130,26 @@ template <size_t L, class T, class Points> void transposeInPlace(Points points, 
   }
 }
 
+// n points in place.
+template <size_t L, class T, class Points, class Fit> QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Fit fit) {
+  if constexpr (L * L == size_t{1} << kBlockBits) transformInSquare<L>(row, row, plan.rowRoots, fit);
+  else transform<L>(plan, kBlockBits, row, row, y, fit);
+}
+
+// tile: the points of working memory.
 template <size_t L, class Src, class Dst, class T, class Fit>
-void blockedTransform(const Plan<T>& rowPlan, const BlockedPlan<T>& plan, int order, Src src, Dst dst, T* y, Fit fit) {
-  const int bits = blockBits(order);
-  const size_t n = size_t{1} << bits;
+void blockedTransform(const Plan<T>& rowPlan, const BlockedPlan<T>& plan, int order, size_t tile, Src src, Dst dst, T* y, Fit fit) {
+  constexpr size_t n = size_t{1} << kBlockBits;
   const size_t block = (size_t{1} << order) / n;
   const size_t m = block / n;
-  downColumns<L>(src, dst, n, block, plan.outer, y);
+  downColumns<L>(src, dst, n, block, std::min(tile / n, block), plan.outer, y);
   for (size_t ka = 0; ka < n; ++ka) {
     const Dst here = dst.from(ka * block);
-    if (m > 1) downColumns<L>(here, here, m, n, plan.inner, y);
+    if (m <= kWidestRadix) withRadix(m, [&](auto R) { downShortColumns<R, L>(here, n, plan.inner); });
+    else downColumns<L>(here, here, m, n, std::min(tile / m, n), plan.inner, y);
     for (size_t kb = 0; kb < m; ++kb) {
       const Dst row = here.from(kb * n);
-      transform<L>(rowPlan, bits, row, row, y, fit);
+      rowTransform<L>(rowPlan, row, y, fit);
     }
   }
   for (size_t kb = 0; kb < m; ++kb) transposeInPlace<L>(dst.from(kb * n), n, block, y);

@@ -52,18 +52,18 @@ template <class Order, class T> T* writeRootsOf(Spec<T>& spec, int order, T* blo
   if (order <= Orders<T>::kSmall) return block;
   if (order <= Orders<T>::kThreaded) return writePlan<Order>(spec.plan, order, block);
   constexpr size_t L = kWidest<T>;
-  const size_t n = size_t{1} << blockBits(order);
+  const size_t n = size_t{1} << kBlockBits;
   const size_t m = (size_t{1} << order) / n / n;
-  T* end = writePlan<Order>(spec.plan, blockBits(order), block);
+  T* end = writePlan<Order>(spec.plan, kBlockBits, block);
   end = writeColumnRoots<L, Order>(spec.blocked.outer, n, m * n, end);
-  return m > 1 ? writeColumnRoots<L, Order>(spec.blocked.inner, m, n, end) : end;
+  return writeColumnRoots<L, Order>(spec.blocked.inner, m, n, end);
 }
 
 // More than small(order) points.
 template <class T, class Src, class Dst, class Fit>
 [[gnu::noinline]] void longTransform(const Spec<T>& spec, int order, Src src, Dst dst, T* y, Fit fit) {
   if (order > Orders<T>::kThreaded) {
-    return blockedTransform<kWidest<T>>(spec.plan, spec.blocked, order, src, dst, y, fit);
+    return blockedTransform<kWidest<T>>(spec.plan, spec.blocked, order, static_cast<size_t>(spec.workSize) / (2 * sizeof(T)), src, dst, y, fit);
   }
   constexpr size_t L = kWidest<T>;
   switch (foldOf<T>(order)) {

@@ -47,6 +47,8 @@ template <class T> struct Plan {
   const T* levelRoots;  // one level's behind another's
 };
 
+inline constexpr size_t kWidestRadix = kHasMasks ? 16 : 8;
+
 template <class Step> QVX_INLINE void withRadix(size_t radix, Step step) {
   switch (radix) {
     case 2: return step(std::integral_constant<size_t, 2>());
