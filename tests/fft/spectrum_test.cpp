@@ -1,8 +1,6 @@
 // Products of packed spectra and whole spectra made of them.
 #include <qvx/qvxs.h>
 
-#include <complex>
-
 #include "reference/packed.h"
 #include "reference/scaled.h"
 #include "support/elementwise.h"
@@ -172,53 +170,32 @@ TEST(WholeSpectrum, OfEveryLayout) {
   checkUnfold<Qvx16sc>(Layout::kCcs, qvxsConjCcs_16sc, qvxsConjCcs_16sc_I);
 }
 
-// ---- what they are for, from the definition of the transform
-
-std::complex<double> root(size_t k, size_t n) {
-  return std::polar(1.0, 2 * 3.14159265358979323846 * static_cast<double>(k % n) / static_cast<double>(n));
-}
-
-std::vector<double> packed(Layout layout, const std::vector<double>& x) {
-  const size_t n = x.size();
-  std::vector<double> spectrum(n);
-  for (size_t k = 0; k <= n / 2; ++k) {
-    std::complex<double> sum = 0;
-    for (size_t i = 0; i < n; ++i) sum += x[i] * std::conj(root(i * k, n));
-    const Place p = placeOf(layout, n, k);
-    spectrum[p.re] = sum.real();
-    if (!p.isReal) spectrum[p.im] = sum.imag();
-  }
-  return spectrum;
-}
+// ---- what they are for: the transforms that write the same layouts
 
 TEST(PackedProduct, IsACircularConvolutionOrCorrelation) {
+  constexpr size_t n = 16;
+  QvxsFFTSpec_R_64f* spec = nullptr;
+  ASSERT_EQ(qvxsFFTInitAlloc_R_64f(&spec, 4, QVX_FFT_SCALE_INV, 0), qvxStatOk);
   Random random(tests::seed());
   std::uniform_real_distribution<double> uniform(-1, 1);
-  for (const size_t n : {1, 2, 3, 12, 15, 64}) {
-    std::vector<double> x(n), y(n);
+  const auto expect = [&](auto forward, auto multiply, auto inverse, auto partner) {
+    double x[n], y[n], a[n], b[n];
     for (size_t i = 0; i < n; ++i) x[i] = uniform(random), y[i] = uniform(random);
-    // expected(lag, i): which of y goes with x[i]
-    const auto expect = [&](Layout layout, auto multiply, auto unfold, auto partner) {
-      const auto a = packed(layout, x);
-      auto b = packed(layout, y);
-      std::vector<Qvx64fc> whole(n);
-      ASSERT_EQ(multiply(a.data(), b.data(), static_cast<int>(n)), qvxStatOk);
-      ASSERT_EQ(unfold(b.data(), whole.data(), static_cast<int>(n)), qvxStatOk);
-      for (size_t lag = 0; lag < n; ++lag) {
-        std::complex<double> got = 0;
-        double want = 0;
-        for (size_t k = 0; k < n; ++k) got += std::complex(whole[k].re, whole[k].im) * root(k * lag, n) / static_cast<double>(n);
-        for (size_t i = 0; i < n; ++i) want += x[i] * y[partner(lag, i) % n];
-        EXPECT_NEAR(got.real(), want, 1e-12) << "length " << n << ", lag " << lag;
-        EXPECT_NEAR(got.imag(), 0, 1e-12) << "length " << n << ", lag " << lag;
-      }
-    };
-    const auto back = [n](size_t lag, size_t i) { return lag + n - i; };
-    const auto along = [](size_t lag, size_t i) { return lag + i; };
-    expect(Layout::kPack, qvxsMulPack_64f_I, qvxsConjPack_64fc, back);
-    expect(Layout::kPerm, qvxsMulPerm_64f_I, qvxsConjPerm_64fc, back);
-    expect(Layout::kPack, qvxsMulPackConj_64f_I, qvxsConjPack_64fc, along);
-  }
+    ASSERT_EQ(forward(x, a, spec, nullptr), qvxStatOk);
+    ASSERT_EQ(forward(y, b, spec, nullptr), qvxStatOk);
+    ASSERT_EQ(multiply(a, b, static_cast<int>(n)), qvxStatOk);
+    ASSERT_EQ(inverse(b, a, spec, nullptr), qvxStatOk);
+    for (size_t lag = 0; lag < n; ++lag) {
+      double want = 0;
+      for (size_t i = 0; i < n; ++i) want += x[i] * y[partner(lag, i) % n];
+      EXPECT_NEAR(a[lag], want, 1e-13) << "lag " << lag;
+    }
+  };
+  const auto back = [](size_t lag, size_t i) { return lag + n - i; };
+  expect(qvxsFFTFwd_RToPack_64f, qvxsMulPack_64f_I, qvxsFFTInv_PackToR_64f, back);
+  expect(qvxsFFTFwd_RToPerm_64f, qvxsMulPerm_64f_I, qvxsFFTInv_PermToR_64f, back);
+  expect(qvxsFFTFwd_RToPack_64f, qvxsMulPackConj_64f_I, qvxsFFTInv_PackToR_64f, [](size_t lag, size_t i) { return lag + i; });
+  qvxsFFTFree_R_64f(spec);
 }
 
 }  // namespace
