@@ -14,8 +14,8 @@ template <size_t L, class Order> struct RowIndex {
   }
 };
 template <class T, size_t L, size_t kPoints, class Order>
-alignas(64) inline constexpr ConstantRoots<T, L, kPoints / kRowRadix<L>*(kRowRadix<L> - 1) / L, kPoints, RowIndex<L, Order>>
-    kRowRoots;
+alignas(64) inline constexpr ConstantRoots<T, L, kPoints / kRowRadix<L>*(kRowRadix<L> - 1) / L, kPoints,
+                                           RowIndex<L, Order>> kRowRoots;
 
 // The same in halves, where the row is one and in order.
 struct HalvesIndex {
@@ -60,12 +60,18 @@ template <int kOrder, class Src, class Dst, class Fit> [[gnu::noinline]] void sm
 
 template <class Src, class Dst, class Fit> QVX_INLINE void smallTransform(int order, Src src, Dst dst, Fit fit) {
   switch (order) {
-    case 0: return smallTransformOf<0>(src, dst, fit);
-    case 1: return smallTransformOf<1>(src, dst, fit);
-    case 2: return smallTransformOf<2>(src, dst, fit);
-    case 3: return smallTransformOf<3>(src, dst, fit);
-    case 4: return smallTransformOf<4>(src, dst, fit);
-    default: return smallTransformOf<5>(src, dst, fit);
+    case 0:
+      return smallTransformOf<0>(src, dst, fit);
+    case 1:
+      return smallTransformOf<1>(src, dst, fit);
+    case 2:
+      return smallTransformOf<2>(src, dst, fit);
+    case 3:
+      return smallTransformOf<3>(src, dst, fit);
+    case 4:
+      return smallTransformOf<4>(src, dst, fit);
+    default:
+      return smallTransformOf<5>(src, dst, fit);
   }
 }
 

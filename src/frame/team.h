@@ -26,27 +26,32 @@ struct TeamRule {
 // Threads have control words of their own. They work under the caller's, and what their arithmetic raised is raised in it.
 inline constexpr uint32_t kExceptionFlags = 0x3F;
 
-// Runs slice(from, count) on all of 0 to n. A runtime that refuses the team gives one thread, and that one all the work.
-template <TeamRule kRule, class Slice> [[gnu::noinline]] QvxStatus divided(size_t n, Slice slice) {
-  const int threads = kRule.threads();
-  if (threads < 2 || n < static_cast<size_t>(threads)) return slice(0, n);
+// part(thread, count) on each of `threads` threads, or fewer where the runtime gives no more; the worst of their statuses. A part
+// may wait for the others at a barrier.
+template <class Part> QvxStatus inThreads(int threads, Part part) {
   const uint32_t callers = controlWord();
   uint32_t raised = 0;
   int status = qvxStatOk;
 #pragma omp parallel num_threads(threads) reduction(max : status) reduction(| : raised)
   {
-    const auto count = static_cast<size_t>(omp_get_num_threads());
-    const auto thread = static_cast<size_t>(omp_get_thread_num());
-    const size_t chunk = n / count;
-    const size_t tail = thread + 1 == count ? n % count : 0;
     const uint32_t own = controlWord();
     setControlWord(callers);
-    status = slice(thread * chunk, chunk + tail);
+    status = part(static_cast<size_t>(omp_get_thread_num()), static_cast<size_t>(omp_get_num_threads()));
     raised = controlWord() & kExceptionFlags;
     setControlWord(own);
   }
   setControlWord(callers | raised);
   return static_cast<QvxStatus>(status);
+}
+
+// Runs slice(from, count) on all of 0 to n. A runtime that refuses the team gives one thread, and that one all the work.
+template <TeamRule kRule, class Slice> [[gnu::noinline]] QvxStatus divided(size_t n, Slice slice) {
+  const int threads = kRule.threads();
+  if (threads < 2 || n < static_cast<size_t>(threads)) return slice(0, n);
+  return inThreads(threads, [&](size_t thread, size_t count) {
+    const size_t chunk = n / count;
+    return slice(thread * chunk, chunk + (thread + 1 == count ? n % count : 0));
+  });
 }
 
 // The rule is a constant of the function, and the divided loop one of its own: a short vector costs one comparison.
