@@ -54,13 +54,17 @@ void Report::open(Table table) {
   const char* const title = table == Table::kAligned      ? "Vectors at 64-byte boundaries, data warm"
                             : table == Table::kMisaligned ? "All vectors one element behind a 64-byte boundary"
                             : table == Table::kLarge      ? "Beyond the caches: 64 MB"
+                            : table == Table::kStream     ? "Streams, block by block"
                             : table == Table::kTeam       ? "Two threads"
                                                     : "Transforms by order, of 5 N log2 N operations, real ones of half as many";
   if (table == Table::kTransforms) {
     std::printf("\n## %s\n\n| export | order | ns | GFLOPS | peers |\n|---|---:|---:|---:|---|\n", title);
     return;
   }
-  const std::vector<int> sizes = table == Table::kLarge ? std::vector{64 << 20} : table == Table::kTeam ? kTeamSizes : kSizes;
+  const std::vector<int> sizes = table == Table::kLarge    ? std::vector{64 << 20}
+                                 : table == Table::kStream ? kStreamSizes
+                                 : table == Table::kTeam   ? kTeamSizes
+                                                           : kSizes;
   std::printf("\n## %s\n\n%s\n", title, columns(sizes).c_str());
 }
 

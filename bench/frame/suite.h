@@ -31,9 +31,10 @@ struct Contender {
   int threads = 1;
 };
 
-enum class Table { kAligned, kMisaligned, kLarge, kTeam, kTransforms };
+enum class Table { kAligned, kMisaligned, kLarge, kStream, kTeam, kTransforms };
 
 inline const std::vector<int> kSizes = {16, 256, 4096, 65536, 4 << 20};
+inline const std::vector<int> kStreamSizes = {64, 1024, 65536};
 inline const std::vector<int> kTeamSizes = {512, 1024, 2048, 4096, 8192, 16384, 65536, 1 << 20};
 
 struct Case {
@@ -127,6 +128,12 @@ template <class F, Shape kShape, class Scalars> class Row {
     alone.peer = "one thread";
     case_.contenders[0].threads = 2;
     case_.contenders.push_back(alone);
+    return *this;
+  }
+  // A stream in blocks, for filters.
+  Row& stream() {
+    case_.table = Table::kStream;
+    case_.sizes = kStreamSizes;
     return *this;
   }
   Row& large(int n) {

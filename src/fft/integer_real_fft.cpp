@@ -21,9 +21,11 @@ QvxStatus forwardInIntegers(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_
   FixedPoint fixed(spec.order);
   fixed.read(src, 1 << spec.order);
   integerTransform<false>(fixed.points(), spec.order - 1);
-  recombine(fixed.points(), spec.order);
+  if (spec.order > 0) {
+    recombine(fixed.points(), spec.order);
+    fromPerm<kLayout>(fixed.numbers(), size_t{1} << spec.order);
+  }
   const int shift = fixed.scaled<false>(spec, scaleFactor);
-  fromPerm<kLayout>(fixed.numbers(), size_t{1} << spec.order);
   return qvxsConvert_32s16s_Sfs(fixed.numbers(), dst, spectrumLength(kLayout, spec.order), shift);
 }
 
