@@ -21,6 +21,7 @@ void narrow(Suite& suite);
 void floatToInt(Suite& suite);
 void half(Suite& suite);
 void complexForms(Suite& suite);
+void polar(Suite& suite);
 void compand(Suite& suite);
 void channels(Suite& suite);
 void threshold(Suite& suite);
@@ -28,6 +29,8 @@ void sum(Suite& suite);
 void extrema(Suite& suite);
 void norm(Suite& suite);
 void dotProduct(Suite& suite);
+void spectrum(Suite& suite);
+void fir(Suite& suite);
 void iir(Suite& suite);
 
 // clang-format off
@@ -49,6 +52,7 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     floatToInt,
     half,
     complexForms,
+    polar,
     compand,
     channels,
     threshold,
@@ -56,6 +60,8 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     extrema,
     norm,
     dotProduct,
+    spectrum,
+    fir,
     iir,
 };
 // clang-format on

@@ -53,11 +53,11 @@ void Report::open(Table table) {
   const char* const title = table == Table::kAligned      ? "Vectors at 64-byte boundaries, data warm"
                             : table == Table::kMisaligned ? "All vectors one element behind a 64-byte boundary"
                             : table == Table::kLarge      ? "Beyond the caches: 64 MB"
-                            : table == Table::kBlocks     ? "Filters, by the samples of a call"
+                            : table == Table::kStream     ? "Streams, block by block"
                                                           : "Two threads";
   const std::vector<int> sizes = table == Table::kLarge    ? std::vector{64 << 20}
+                                 : table == Table::kStream ? kStreamSizes
                                  : table == Table::kTeam   ? kTeamSizes
-                                 : table == Table::kBlocks ? kBlockSizes
                                                            : kSizes;
   std::printf("\n## %s\n\n%s\n", title, columns(sizes).c_str());
 }

@@ -64,6 +64,7 @@ Times measured(const Case& c, const Vectors& v) {
 // Ours and the peer, once on the same data.
 bool agrees(const Case& c, const Contender& peer, const Vectors& v) {
   const auto fresh = [&] {
+    ++freshData;
     c.fillSources(v);
     c.fillDestination(v);
   };
@@ -85,7 +86,7 @@ int run(const Suite& suite, const std::regex& filter) {
   Report report;
   report.head();
   int mismatches = 0;
-  for (const Table table : {Table::kAligned, Table::kMisaligned, Table::kLarge, Table::kTeam, Table::kBlocks}) {
+  for (const Table table : {Table::kAligned, Table::kMisaligned, Table::kLarge, Table::kStream, Table::kTeam}) {
     bool open = false;
     for (const Case& c : suite.cases()) {
       if (c.table != table || !std::regex_search(c.name, filter)) continue;

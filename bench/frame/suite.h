@@ -31,10 +31,10 @@ struct Contender {
   int threads = 1;
 };
 
-enum class Table { kAligned, kMisaligned, kLarge, kTeam, kBlocks };
+enum class Table { kAligned, kMisaligned, kLarge, kStream, kTeam };
 
 inline const std::vector<int> kSizes = {16, 256, 4096, 65536, 4 << 20};
-inline const std::vector<int> kBlockSizes = {64, 1024, 65536};  // what filters are given at a time
+inline const std::vector<int> kStreamSizes = {64, 1024, 65536};
 inline const std::vector<int> kTeamSizes = {512, 1024, 2048, 4096, 8192, 16384, 65536, 1 << 20};
 
 struct Case {
@@ -127,9 +127,10 @@ template <class F, Shape kShape, class Scalars> class Row {
     case_.contenders.push_back(alone);
     return *this;
   }
-  Row& inBlocks() {
-    case_.table = Table::kBlocks;
-    case_.sizes = kBlockSizes;
+  // A stream in blocks, for filters.
+  Row& stream() {
+    case_.table = Table::kStream;
+    case_.sizes = kStreamSizes;
     return *this;
   }
   Row& large(int n) {

@@ -11,6 +11,9 @@
 
 namespace bench {
 
+// Grows whenever the vectors are filled anew: filters begin anew then, too.
+inline int freshData = 0;
+
 inline constexpr size_t kSlabBytes = (size_t{64} << 20) + 4096;
 
 // Three sources, a destination and room for a copy of the destination, 64-byte aligned, at different offsets within a page.

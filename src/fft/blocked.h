@@ -1,8 +1,8 @@
 // Transforms too long for the caches, in place, with a tile of working memory.
 //
 // N = n * m * n with n = 256. Point (a, b, c) stands at (a * m + b) * n + c. Transforms down a, then down b, then along c leave
-// result ka + n * (kb + m * kc) at (ka, kb, kc); the swap of ka and kc puts it where it belongs. So each point goes through memory
-// three times: down a by tiles of neighbouring columns, then a block of m * n points after the other, then the swap.
+// result ka + n * (kb + m * kc) at (ka, kb, kc); the swap of ka and kc puts it where it belongs. So each point goes through
+// memory three times: down a by tiles of neighbouring columns, then a block of m * n points after the other, then the swap.
 #pragma once
 
 #include "fft/folded.h"
@@ -64,8 +64,8 @@ template <size_t L, class T, class Dst> struct Turned {
   }
 };
 
-// Transforms down the rows, each column in its place. `wide` columns at a time come to the work array, so that the caller's memory is
-// read in runs of some cache lines: rows a power of two apart leave the caches no room for more.
+// Transforms down the rows, each column in its place. `wide` columns at a time come to the work array, so that the caller's
+// memory is read in runs of some cache lines: rows a power of two apart leave the caches no room for more.
 template <size_t L, class T, class Src, class Dst>
 void downColumns(Src src, Dst dst, size_t rows, size_t columns, size_t wide, const ColumnRoots<T>& roots, T* y) {
   constexpr size_t C = kRowRadix<L>;
@@ -131,14 +131,16 @@ template <size_t L, class T, class Points> void transposeInPlace(Points points, 
 }
 
 // n points in place.
-template <size_t L, class T, class Points, class Fit> QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Fit fit) {
+template <size_t L, class T, class Points, class Fit>
+QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Fit fit) {
   if constexpr (L * L == size_t{1} << kBlockBits) transformInSquare<L>(row, row, plan.rowRoots, fit);
   else transform<L>(plan, kBlockBits, row, row, y, fit);
 }
 
 // tile: the points of working memory.
 template <size_t L, class Src, class Dst, class T, class Fit>
-void blockedTransform(const Plan<T>& rowPlan, const BlockedPlan<T>& plan, int order, size_t tile, Src src, Dst dst, T* y, Fit fit) {
+void blockedTransform(const Plan<T>& rowPlan, const BlockedPlan<T>& plan, int order, size_t tile, Src src, Dst dst, T* y,
+                      Fit fit) {
   constexpr size_t n = size_t{1} << kBlockBits;
   const size_t block = (size_t{1} << order) / n;
   const size_t m = block / n;

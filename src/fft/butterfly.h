@@ -1,6 +1,7 @@
 // Transforms of 2, 4, 8 and 16 points, each point a vector of real and one of imaginary parts: the steps of every longer one.
 //
-// All are forward; an inverse transform is a forward one with real and imaginary parts exchanged on the way in and on the way out.
+// All are forward; an inverse transform is a forward one with real and imaginary parts exchanged on the way in and on the way
+// out.
 #pragma once
 
 #include "frame/simd.h"

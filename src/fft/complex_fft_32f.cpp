@@ -28,7 +28,8 @@ QvxStatus transformed(const Record* spec, uint32_t id, Src src, Dst dst, Qvx8u* 
   });
 }
 template <bool kInverse> QvxStatus interleaved(const Qvx32fc* src, Qvx32fc* dst, const Specs* spec, Qvx8u* pBuffer) {
-  return transformed<kInverse>(spec, kComplex32fc, Interleaved<const T, kInverse>{parts(src)}, Interleaved<T, kInverse>{parts(dst)}, pBuffer);
+  return transformed<kInverse>(spec, kComplex32fc, Interleaved<const T, kInverse>{parts(src)},
+                               Interleaved<T, kInverse>{parts(dst)}, pBuffer);
 }
 QvxStatus apart(const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, const SplitSpecs* spec, Qvx8u* pBuffer) {
   return transformed<false>(spec, kComplex32f, Apart<const T>{srcRe, srcIm}, Apart<T>{dstRe, dstIm}, pBuffer);

@@ -28,7 +28,8 @@ QvxStatus transformed(const Record* spec, uint32_t id, Src src, Dst dst, Qvx8u* 
   });
 }
 template <bool kInverse> QvxStatus interleaved(const Qvx64fc* src, Qvx64fc* dst, const Specs* spec, Qvx8u* pBuffer) {
-  return transformed<kInverse>(spec, kComplex64fc, Interleaved<const T, kInverse>{parts(src)}, Interleaved<T, kInverse>{parts(dst)}, pBuffer);
+  return transformed<kInverse>(spec, kComplex64fc, Interleaved<const T, kInverse>{parts(src)},
+                               Interleaved<T, kInverse>{parts(dst)}, pBuffer);
 }
 QvxStatus apart(const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, const SplitSpecs* spec, Qvx8u* pBuffer) {
   return transformed<false>(spec, kComplex64f, Apart<const T>{srcRe, srcIm}, Apart<T>{dstRe, dstIm}, pBuffer);

@@ -59,13 +59,21 @@ template <class Order, class T> T* writeRootsOf(Spec<T>& spec, int order, T* blo
   return writeColumnRoots<L, Order>(spec.blocked.inner, m, n, end);
 }
 
-// More than small(order) points.
+// From here on two threads are faster than one.
+template <class T> inline constexpr int kTeamOrder = sizeof(T) == 4 ? 14 : 13;
+
+// More than those of smallTransform.
 template <class T, class Src, class Dst, class Fit>
 [[gnu::noinline]] void longTransform(const Spec<T>& spec, int order, Src src, Dst dst, T* y, Fit fit) {
   if (order > Orders<T>::kThreaded) {
-    return blockedTransform<kWidest<T>>(spec.plan, spec.blocked, order, static_cast<size_t>(spec.workSize) / (2 * sizeof(T)), src, dst, y, fit);
+    return blockedTransform<kWidest<T>>(spec.plan, spec.blocked, order, static_cast<size_t>(spec.workSize) / (2 * sizeof(T)), src,
+                                        dst, y, fit);
   }
   constexpr size_t L = kWidest<T>;
+  if (spec.threads > 1 && order >= kTeamOrder<T>) {
+    const int threads = std::min(int{spec.threads}, ownGetNumThreads());
+    if (threads > 1) return transformInThreads<L>(threads, spec.plan, order, src, dst, y, fit);
+  }
   switch (foldOf<T>(order)) {
     case Fold::kSquare:
       if constexpr (L >= 8) return transformInSquare<L>(src, dst, spec.plan.rowRoots, fit);
@@ -76,7 +84,8 @@ template <class T, class Src, class Dst, class Fit>
     case Fold::kQuarters:
       if constexpr (L >= 16) return transformInQuarters(src, dst, spec.plan.rowRoots, fit);
       break;
-    case Fold::kNone: break;
+    case Fold::kNone:
+      break;
   }
   withLanes<T>(order, [&](auto L) { transform<L>(spec.plan, order, src, dst, y, fit); });
 }
@@ -94,7 +103,7 @@ QvxStatus called(const Record* spec, uint32_t id, Src src, Dst dst, Qvx8u* pBuff
   if (status != qvxStatOk) return status;
   if (isMissing(src) || isMissing(dst)) return qvxStatNullPtr;
   using T = std::remove_const_t<decltype(spec->normFactor)>;
-  const auto scaled = [&](T* y) __attribute__((always_inline)) {
+  const auto scaled = [&](T * y) __attribute__((always_inline)) {
     if (kInverse ? spec->invScaled : spec->fwdScaled) run(*spec, y, Times<T>{spec->normFactor});
     else run(*spec, y, Plain{});
     return qvxStatOk;

@@ -1,8 +1,8 @@
 // Transforms of one block of the row pass: L*L points in L lanes, L*L/2 and L*L/4. All points stand in registers from the first
 // load to the last store.
 //
-// The first transforms go down R = L, L/2 or L/4 rows of L points, as the row pass does. Where their results, R to a point, would fill
-// but half or a quarter of a vector, vectors hold those of 2 or 4 points side by side.
+// The first transforms go down R = L, L/2 or L/4 rows of L points, as the row pass does. Where their results, R to a point, would
+// fill but half or a quarter of a vector, vectors hold those of 2 or 4 points side by side.
 #pragma once
 
 #include <algorithm>
@@ -122,7 +122,8 @@ QVX_INLINE void transformInHalves(Src src, Dst dst, const T* rowRoots, Fit fit) 
   unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = src.template getInOrder<L>(m * L); });
   dft(x);
   unrolled<R - 1>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowRoots + m * 2 * L)); });
-  eachPart(x, [](auto& r) __attribute__((always_inline)) { foldInHalves(r); });
+  eachPart(
+      x, [](auto& r) __attribute__((always_inline)) { foldInHalves(r); });
   dft(x);
   unrolled<R - 1>([&](auto k) __attribute__((always_inline)) { x[k + 1] = product(x[k + 1], group<L>(kOdd.group[k])); });
   unrolled<R / 2>([&](auto p) __attribute__((always_inline)) {
@@ -149,13 +150,15 @@ QVX_INLINE void transformInQuarters(Src src, Dst dst, const T* rowRoots, Fit fit
   dft(x);
   unrolled<3>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowRoots + m * 2 * L)); });
   // Lane 4b + i of x[k] to block i of x[b], lane k.
-  eachPart(x, [](auto& r) __attribute__((always_inline)) {
-    transposeInBlocks(r[0], r[1], r[2], r[3]);
-    transposeBlocks(r);
-  });
+  eachPart(
+      x, [](auto& r) __attribute__((always_inline)) {
+        transposeInBlocks(r[0], r[1], r[2], r[3]);
+        transposeBlocks(r);
+      });
   dft(x);
   unrolled<3>([&](auto k) __attribute__((always_inline)) { x[k + 1] = product(x[k + 1], group<L>(kTurns.group[k])); });
-  eachPart(x, [](auto& r) __attribute__((always_inline)) { transposeBlocks(r); });
+  eachPart(
+      x, [](auto& r) __attribute__((always_inline)) { transposeBlocks(r); });
   dft(x);
   unrolled<4>([&](auto k) __attribute__((always_inline)) { dst.template putInOrder<L>(fit(x[k]), k * L); });
 }

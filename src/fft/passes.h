@@ -87,7 +87,9 @@ struct Plain {
 };
 template <class T> struct Times {
   T factor;
-  template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const { return {z.re * same<V>(factor), z.im * same<V>(factor)}; }
+  template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const {
+    return {z.re * same<V>(factor), z.im * same<V>(factor)};
+  }
 };
 
 // The row pass takes as many points as a register has lanes, and as many as make it worth while.
@@ -130,7 +132,8 @@ template <size_t L, class T, class Src>
 }
 
 // roots: for each q = 0..stride-1, for k = 1..R-1 exp(-2 pi i q k / (R * stride)), real and imaginary part.
-template <size_t R, size_t L, class T> [[gnu::noinline]] void innerPass(T* y, size_t stride, const T* roots, size_t from, size_t to) {
+template <size_t R, size_t L, class T>
+[[gnu::noinline]] void innerPass(T* y, size_t stride, const T* roots, size_t from, size_t to) {
   constexpr size_t W = kRowRadix<L> / L;
   using V = Vec<Lanes<T, L>>;
   const size_t apart = stride * W * 2 * L;

@@ -6,6 +6,7 @@
 
 #include "fft/passes.h"
 #include "frame/record.h"
+#include "frame/team.h"
 #include "vector/sin_cos.h"
 
 namespace qvx::fft {
@@ -27,7 +28,7 @@ struct Levels {
 constexpr Levels levelsFor(int logRows) {
   // log2 of each
   constexpr const char* kWide[] = {"", "1", "2", "3", "4", "23", "33", "34", "233", "333", "343", "3422", "22422", "33322"};
-  constexpr const char* kNarrow[] = {"",     "1",   "2",    "3",    "22",    "23",    "33",    "223",
+  constexpr const char* kNarrow[] = {"",    "1",   "2",    "3",    "22",    "23",    "33",    "223",
                                      "233", "333", "2233", "3233", "32322", "32323", "33332", "333222"};
   Levels levels;
   for (const char* bits = kHasMasks ? kWide[logRows] : kNarrow[logRows]; *bits != 0; ++bits) {
@@ -51,9 +52,12 @@ inline constexpr size_t kWidestRadix = kHasMasks ? 16 : 8;
 
 template <class Step> QVX_INLINE void withRadix(size_t radix, Step step) {
   switch (radix) {
-    case 2: return step(std::integral_constant<size_t, 2>());
-    case 4: return step(std::integral_constant<size_t, 4>());
-    case 8: return step(std::integral_constant<size_t, 8>());
+    case 2:
+      return step(std::integral_constant<size_t, 2>());
+    case 4:
+      return step(std::integral_constant<size_t, 4>());
+    case 8:
+      return step(std::integral_constant<size_t, 8>());
     default:
       if constexpr (kHasMasks) return step(std::integral_constant<size_t, 16>());
   }
@@ -98,18 +102,37 @@ void transform(Plan<T> plan, int order, Src src, Dst dst, T* y, Fit fit) {
   Columns<L, T, Dst, Fit>{levelsFor(log2Of(rows)), dst, fit}.block(y, rows, plan.levelRoots, 0, 0, 1);
 }
 
+// The same on some threads: the row pass by its blocks, the first inner pass by its rows, and then the parts that has made.
+template <size_t L, class T, class Src, class Dst, class Fit>
+void transformInThreads(int threads, Plan<T> plan, int order, Src src, Dst dst, T* y, Fit fit) {
+  const size_t rows = (size_t{1} << order) / kRowRadix<L>;
+  const Columns<L, T, Dst, Fit> columns{levelsFor(log2Of(rows)), dst, fit};
+  const size_t radix = columns.levels.radix[0];
+  inThreads(threads, [&](size_t thread, size_t count) {
+    const auto from = [=](size_t parts) { return parts * thread / count; };
+    const auto to = [=](size_t parts) { return parts * (thread + 1) / count; };
+    rowPass<L>(src, y, rows, plan.rowRoots, from(rows / L) * L, to(rows / L) * L);
+#pragma omp barrier
+    columns.inner(radix, y, rows / radix, plan.levelRoots, from(rows / radix), to(rows / radix));
+#pragma omp barrier
+    columns.within(y, rows, plan.levelRoots, 0, 0, 1, from(radix), to(radix));
+    return qvxStatOk;
+  });
+}
+
 // ---- Roots
 
 // For i = 0..count-1: put(i, cos, sin) of -2 pi x(i) / n.
 template <class Index, class Put> void writeRoots(size_t n, size_t count, Index x, Put put) {
   constexpr size_t kLanes = kVectorBytes / sizeof(double);
   const Lanes<double, kLanes> d;
+  const double step = 1 / static_cast<double>(n);
   double turns[kLanes];
   double cosine[kLanes];
   double sine[kLanes];
   for (size_t i = 0; i < count; i += kLanes) {
     const size_t here = std::min(kLanes, count - i);
-    for (size_t k = 0; k < kLanes; ++k) turns[k] = k < here ? -static_cast<double>(x(i + k) % n) / static_cast<double>(n) : 0;
+    for (size_t k = 0; k < kLanes; ++k) turns[k] = k < here ? -static_cast<double>(x(i + k) & (n - 1)) * step : 0;
     const auto root = sinCosOfTurns(load(d, turns));
     store(root.cosine, d, cosine);
     store(root.sine, d, sine);

@@ -14,11 +14,11 @@ constexpr uint32_t kId = kReal32f;
 
 template <Layout kLayout> QvxStatus forward(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) {
   return called<false>(spec, kId, src, dst, pBuffer,
-                       [=](const Specs& record, T* y, auto fit) { realForward<kLayout, T>(record, src, dst, y, fit); });
+                       [=](const Specs& record, T* y, auto fit) { forwardOf<kLayout, T>(record, src, dst, y, fit); });
 }
 template <Layout kLayout> QvxStatus inverse(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) {
   return called<true>(spec, kId, src, dst, pBuffer,
-                      [=](const Specs& record, T* y, auto fit) { realInverse<kLayout, T>(record, src, dst, y, fit); });
+                      [=](const Specs& record, T* y, auto fit) { inverseOf<kLayout, T>(record, src, dst, y, fit); });
 }
 
 }  // namespace

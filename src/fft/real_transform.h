@@ -4,33 +4,28 @@
 #include <cstring>
 
 #include "fft/recombine.h"
+#include "fft/small_real.h"
 
 namespace qvx::fft {
 
-// The recombination's roots of up to 32 points, as constants.
-template <class T, size_t kPoints> struct SmallRealRoots {
-  static constexpr size_t H = kPoints / 2;
-  static constexpr size_t L = lanesForReal<T>(H);
-  T fine[std::max<size_t>(H, 2)];
+// The recombination's roots of 32 points, as constants.
+template <class T> struct SmallRealRoots {
+  static constexpr size_t L = lanesForReal<T>(16);
+  T fine[16];
   constexpr SmallRealRoots() : fine() {
-    for (size_t i = 0; i < H / 2; ++i) {
-      const size_t k = (i / L * L + Interleaved<T, false>::template element<L>(i % L) + 1) * (32 / kPoints);
+    for (size_t i = 0; i < 8; ++i) {
+      const size_t k = i / L * L + Interleaved<T, false>::template element<L>(i % L) + 1;
       fine[i / L * 2 * L + i % L] = static_cast<T>(0.5 * cosineOf32(k));
       fine[i / L * 2 * L + i % L + L] = static_cast<T>(0.5 + 0.5 * cosineOf32(k + 8));
     }
   }
 };
-template <class T, size_t kPoints> alignas(64) inline constexpr SmallRealRoots<T, kPoints> kSmallRealRoots;
+template <class T> alignas(64) inline constexpr SmallRealRoots<T> kSmallRealRoots;
 
+// Of 32 points in double precision alone; 32 floats have a record's.
 template <class T> RealRoots<T> realRootsOf(const Spec<T>& spec) {
-  switch (spec.order) {
-    case 2: return {kSmallRealRoots<T, 4>.fine, nullptr};
-    case 3: return {kSmallRealRoots<T, 8>.fine, nullptr};
-    case 4: return {kSmallRealRoots<T, 16>.fine, nullptr};
-    default:
-      if (spec.order <= Orders<T>::kSmallReal) return {kSmallRealRoots<T, 32>.fine, nullptr};
-      return {spec.realRoots, spec.coarseRoots};
-  }
+  if (spec.order <= Orders<T>::kSmallReal) return {kSmallRealRoots<T>.fine, nullptr};
+  return {spec.realRoots, spec.coarseRoots};
 }
 
 template <class T> void writeRealRoots(Spec<T>& spec, T* block) {
@@ -64,31 +59,30 @@ enum class Layout { kPerm, kPack, kCcs };
 
 template <Layout kLayout, class T> void fromPerm(T* dst, size_t n) {
   if constexpr (kLayout == Layout::kPack) {
-    if (n < 3) return;
     const T nyquist = dst[1];
     std::memmove(dst + 1, dst + 2, (n - 2) * sizeof(T));
     dst[n - 1] = nyquist;
   } else if constexpr (kLayout == Layout::kCcs) {
-    if (n > 1) {
-      dst[n] = dst[1];
-      dst[n + 1] = 0;
-    }
+    dst[n] = dst[1];
+    dst[n + 1] = 0;
     dst[1] = 0;
   }
 }
 
-template <Layout kLayout, class T, class Fit> void realForward(const Spec<T>& spec, const T* src, T* dst, T* y, Fit fit) {
+// Where the real part of pair k stands, and the one number of X[N/2].
+template <Layout kLayout> constexpr size_t placeOf(size_t k) { return kLayout == Layout::kPack ? 2 * k - 1 : 2 * k; }
+template <Layout kLayout> constexpr size_t lastPlace(size_t n) {
+  return kLayout == Layout::kPerm ? 1 : kLayout == Layout::kPack ? n - 1 : n;
+}
+
+template <Layout kLayout, class T, class Fit> void longForward(const Spec<T>& spec, const T* src, T* dst, T* y, Fit fit) {
   const size_t n = size_t{1} << spec.order;
-  if (n == 1) {
-    inLanes<1>(Apart<const T>{src, src}, Apart<T>{dst, dst}, fit);
-  } else {
-    complexTransform(spec, spec.order - 1, Interleaved<const T, false>{src}, Interleaved<T, false>{dst}, y, fit);
-    const T even = dst[0];
-    const T odd = dst[1];
-    dst[0] = even + odd;
-    dst[1] = even - odd;
-    recombine<false>(dst, dst, n / 2, realRootsOf(spec));
-  }
+  complexTransform(spec, spec.order - 1, Interleaved<const T, false>{src}, Interleaved<T, false>{dst}, y, fit);
+  const T even = dst[0];
+  const T odd = dst[1];
+  dst[0] = even + odd;
+  dst[1] = even - odd;
+  recombine<false>(dst, dst, n / 2, realRootsOf(spec));
   fromPerm<kLayout>(dst, n);
 }
 
@@ -96,10 +90,9 @@ template <Layout kLayout, class T, class Fit> void realForward(const Spec<T>& sp
 template <class T> Times<T> doubled(Times<T> fit) { return {2 * fit.factor}; }
 template <class T> Times<T> doubled(Plain) { return {2}; }
 
-template <Layout kLayout, class T, class Fit> void realInverse(const Spec<T>& spec, const T* src, T* dst, T* y, Fit fit) {
+template <Layout kLayout, class T, class Fit> void longInverse(const Spec<T>& spec, const T* src, T* dst, T* y, Fit fit) {
   const size_t n = size_t{1} << spec.order;
-  if (n == 1) return inLanes<1>(Apart<const T>{src, src}, Apart<T>{dst, dst}, fit);
-  const T nyquist = src[kLayout == Layout::kPerm ? 1 : kLayout == Layout::kPack ? n - 1 : n];
+  const T nyquist = src[lastPlace<kLayout>(n)];
   const T mean = src[0];
   if constexpr (kLayout == Layout::kPack) {
     std::memmove(dst + 2, src + 1, (n - 2) * sizeof(T));
@@ -109,6 +102,75 @@ template <Layout kLayout, class T, class Fit> void realInverse(const Spec<T>& sp
   dst[0] = T(0.5) * (mean + nyquist);
   dst[1] = T(0.5) * (mean - nyquist);
   complexTransform(spec, spec.order - 1, Interleaved<const T, true>{dst}, Interleaved<T, true>{dst}, y, doubled<T>(fit));
+}
+
+template <Layout kLayout, size_t N, class T, class Fit> [[gnu::noinline]] void smallForward(const T* src, T* dst, Fit fit) {
+  using V = Vec<Lanes<T, 1>>;
+  const Lanes<T, 1> d;
+  const auto spectrum =
+      realForward<N, V>([src](size_t i) __attribute__((always_inline)) { return load(Lanes<T, 1>(), src + i); });
+  const auto put = [=](Complex<V> z, size_t re, size_t im) __attribute__((always_inline)) {
+    const Complex<V> scaled = fit(z);
+    store(scaled.re, d, dst + re);
+    store(scaled.im, d, dst + im);
+  };
+  put({spectrum.first, spectrum.last}, 0, lastPlace<kLayout>(N));
+  unrolled<N / 2 - 1>([&](auto i) __attribute__((always_inline)) {
+    put(spectrum.between[i + 1], placeOf<kLayout>(i + 1), placeOf<kLayout>(i + 1) + 1);
+  });
+  if constexpr (kLayout == Layout::kCcs) dst[1] = dst[N + 1] = 0;
+}
+template <Layout kLayout, size_t N, class T, class Fit> [[gnu::noinline]] void smallInverse(const T* src, T* dst, Fit fit) {
+  using V = Vec<Lanes<T, 1>>;
+  const Lanes<T, 1> d;
+  HalfSpectrum<N, V> spectrum;
+  spectrum.first = load(d, src);
+  spectrum.last = load(d, src + lastPlace<kLayout>(N));
+  unrolled<N / 2 - 1>([&](auto i) __attribute__((always_inline)) {
+    const T* pair = src + placeOf<kLayout>(i + 1);
+    spectrum.between[i + 1] = {load(d, pair), load(d, pair + 1)};
+  });
+  V x[N];
+  realInverse<N>(
+      spectrum, [&](size_t i, V v) __attribute__((always_inline)) { x[i] = v; });
+  unrolled<N>([&](auto i) __attribute__((always_inline)) { store(fit(Complex<V>{x[i], x[i]}).re, d, dst + i); });
+}
+
+template <Layout kLayout, class T, class Fit>
+QVX_INLINE void forwardOf(const Spec<T>& spec, const T* src, T* dst, T* y, Fit fit) {
+  switch (spec.order) {
+    case 0:
+      inLanes<1>(Apart<const T>{src, src}, Apart<T>{dst, dst}, fit);
+      if (kLayout == Layout::kCcs) dst[1] = 0;
+      return;
+    case 1:
+      return smallForward<kLayout, 2>(src, dst, fit);
+    case 2:
+      return smallForward<kLayout, 4>(src, dst, fit);
+    case 3:
+      return smallForward<kLayout, 8>(src, dst, fit);
+    case 4:
+      return smallForward<kLayout, 16>(src, dst, fit);
+    default:
+      return longForward<kLayout>(spec, src, dst, y, fit);
+  }
+}
+template <Layout kLayout, class T, class Fit>
+QVX_INLINE void inverseOf(const Spec<T>& spec, const T* src, T* dst, T* y, Fit fit) {
+  switch (spec.order) {
+    case 0:
+      return inLanes<1>(Apart<const T>{src, src}, Apart<T>{dst, dst}, fit);
+    case 1:
+      return smallInverse<kLayout, 2>(src, dst, fit);
+    case 2:
+      return smallInverse<kLayout, 4>(src, dst, fit);
+    case 3:
+      return smallInverse<kLayout, 8>(src, dst, fit);
+    case 4:
+      return smallInverse<kLayout, 16>(src, dst, fit);
+    default:
+      return longInverse<kLayout>(spec, src, dst, y, fit);
+  }
 }
 
 }  // namespace qvx::fft

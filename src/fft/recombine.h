@@ -12,8 +12,8 @@
 
 namespace qvx::fft {
 
-// C and D of k = 1 .. H/2 in groups of L, in the order of interleaved elements; or, for long sequences, the roots exp(-2 pi i k / N)
-// of k = 1 .. kFine, and of 0, kFine, 2 kFine ..., of which each k takes a product.
+// C and D of k = 1 .. H/2 in groups of L, in the order of interleaved elements; or, for long sequences, the roots exp(-2 pi i k /
+// N) of k = 1 .. kFine, and of 0, kFine, 2 kFine ..., of which each k takes a product.
 template <class T> struct RealRoots {
   const T* fine;
   const T* coarse;  // null where there is only one table
@@ -59,7 +59,6 @@ template <bool kInverse, size_t L, class T> void recombineIn(const T* src, T* ds
 }
 
 template <bool kInverse, class T, size_t L = kWidest<T>> void recombine(const T* src, T* dst, size_t h, RealRoots<T> roots) {
-  if (h < 2) return;
   if (lanesForReal<T>(h) == L) return recombineIn<kInverse, L>(src, dst, h, roots);
   if constexpr (L > 1) recombine<kInverse, T, L * sizeof(T) <= 16 ? 1 : L / 2>(src, dst, h, roots);
 }

@@ -14,8 +14,8 @@ template <size_t L, class Order> struct RowIndex {
   }
 };
 template <class T, size_t L, size_t kPoints, class Order>
-alignas(64) inline constexpr ConstantRoots<T, L, kPoints / kRowRadix<L>*(kRowRadix<L> - 1) / L, kPoints, RowIndex<L, Order>>
-    kRowRoots;
+alignas(64) inline constexpr ConstantRoots<T, L, kPoints / kRowRadix<L>*(kRowRadix<L> - 1) / L, kPoints,
+                                           RowIndex<L, Order>> kRowRoots;
 
 // The same in halves, where the row is one and in order.
 struct HalvesIndex {
@@ -36,11 +36,10 @@ template <size_t kPoints, class Src, class Dst, class Fit> QVX_INLINE void inTwo
   using T = typename Dst::Lane;
   constexpr size_t L = std::min(kWidest<T>, size_t{4});
   constexpr size_t R = kRowRadix<L>;
-  constexpr size_t kRows = kPoints / R;
   if constexpr (kPoints == L * L) return transformInSquare<L>(src, dst, kRowRoots<T, L, kPoints, Src>.group[0], fit);
   alignas(64) T y[2 * kPoints];
-  rowPass<L>(src, y, kRows, kRowRoots<T, L, kPoints, Src>.group[0], 0, kRows);
-  lastPass<kRows, L>(y, 1, dst, 0, 1, fit);
+  rowPass<L>(src, y, kPoints / R, kRowRoots<T, L, kPoints, Src>.group[0], 0, kPoints / R);
+  lastPass<kPoints / R, L>(y, 1, dst, 0, 1, fit);
 }
 
 template <size_t kPoints, class Src, class Dst, class Fit> QVX_INLINE void inHalves(Src src, Dst dst, Fit fit) {
@@ -60,12 +59,18 @@ template <int kOrder, class Src, class Dst, class Fit> [[gnu::noinline]] void sm
 
 template <class Src, class Dst, class Fit> QVX_INLINE void smallTransform(int order, Src src, Dst dst, Fit fit) {
   switch (order) {
-    case 0: return smallTransformOf<0>(src, dst, fit);
-    case 1: return smallTransformOf<1>(src, dst, fit);
-    case 2: return smallTransformOf<2>(src, dst, fit);
-    case 3: return smallTransformOf<3>(src, dst, fit);
-    case 4: return smallTransformOf<4>(src, dst, fit);
-    default: return smallTransformOf<5>(src, dst, fit);
+    case 0:
+      return smallTransformOf<0>(src, dst, fit);
+    case 1:
+      return smallTransformOf<1>(src, dst, fit);
+    case 2:
+      return smallTransformOf<2>(src, dst, fit);
+    case 3:
+      return smallTransformOf<3>(src, dst, fit);
+    case 4:
+      return smallTransformOf<4>(src, dst, fit);
+    default:
+      return smallTransformOf<5>(src, dst, fit);
   }
 }
 

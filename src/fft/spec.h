@@ -27,7 +27,7 @@ template <class T> struct Spec {
   int32_t hint;
   int32_t workSize;
   T normFactor;
-  Plan<T> plan;        // of the complex transform, or of the rows of a blocked one
+  Plan<T> plan;  // of the complex transform, or of the rows of a blocked one
   BlockedPlan<T> blocked;
   const T* realRoots;  // of a real one's recombination
   const T* coarseRoots;
@@ -48,8 +48,7 @@ inline bool isFlag(int flag) {
 // A limit above 30 is tested with the range, a lower one of the family behind the flag.
 inline constexpr int kHighestOrder = 30;
 
-template <class GetSizes>
-QvxStatus getSize(int order, int flag, int limit, int* pSpec, int* pInit, int* pWork, GetSizes sizes) {
+template <class GetSizes> QvxStatus getSize(int order, int flag, int limit, int* pSpec, int* pInit, int* pWork, GetSizes sizes) {
   if (order < 0 || order > kHighestOrder) return qvxStatBadFFTOrder;
   if (isNull(pSpec) || isNull(pInit) || isNull(pWork)) return qvxStatNullPtr;
   if (!isFlag(flag)) return qvxStatBadFFTFlag;

@@ -206,6 +206,8 @@ inline __m512d negMulAddNearest(__m512d a, __m512d b, __m512d c) { return _mm512
 inline __m512d productNearest(__m512d a, __m512d b) { return _mm512_mul_round_pd(a, b, kNearest); }
 inline __m512 quotientNearest(__m512 a, __m512 b) { return _mm512_div_round_ps(a, b, kNearest); }
 inline __m512d quotientNearest(__m512d a, __m512d b) { return _mm512_div_round_pd(a, b, kNearest); }
+inline __m512 rootNearest(__m512 v) { return _mm512_sqrt_round_ps(v, kNearest); }
+inline __m512 toFloatNearest(__m512i v) { return _mm512_cvt_roundepi32_ps(v, kNearest); }
 inline __m512 greaterQuiet(__m512 v, __m512 held) { return _mm512_max_round_ps(v, held, _MM_FROUND_NO_EXC); }
 inline __m512d greaterQuiet(__m512d v, __m512d held) { return _mm512_max_round_pd(v, held, _MM_FROUND_NO_EXC); }
 inline __m512d toDoubleQuiet(__m128 v) { return _mm512_cvt_roundps_pd(_mm256_castps128_ps256(v), _MM_FROUND_NO_EXC); }
@@ -532,6 +534,16 @@ template <class V> V lanesOfTwo(V a, V b, const int32_t (&order)[16]) {
   static_assert(sizeof(a.raw) == 64);
   return V{_mm512_permutex2var_epi32(a.raw, _mm512_load_si512(order), b.raw)};
 }
+
+// The same for lanes of any size in an order that is computed: from, from + 1 and so on to begin with.
+template <class V> auto laneNumbers(size_t from) {
+  const hn::RebindToUnsigned<TagOf<V>> d;
+  return hn::Iota(d, static_cast<hn::TFromD<decltype(d)>>(from));
+}
+template <class V> V lanesOfTwo(V a, V b, Vec<hn::RebindToUnsigned<TagOf<V>>> order) {
+  if constexpr (sizeof(LaneOf<V>) == 4) return V{_mm512_permutex2var_ps(a.raw, order.raw, b.raw)};
+  else return V{_mm512_permutex2var_pd(a.raw, order.raw, b.raw)};
+}
 #endif
 
 #if HWY_TARGET == HWY_AVX3
@@ -557,7 +569,7 @@ template <class T> __m512i lanesOfBoth(__m512i a, const T* order, __m512i b) {
 }  // namespace detail
 #endif
 
-// The lanes of both vectors in turn: lo[0], hi[0], lo[1] ... in the first of the result. And back.
+// The lanes of both vectors in turn: lo[0], hi[0], lo[1] ... in the first of the result.
 template <class V> Pair<V> interleaved(Pair<V> v) {
   const TagOf<V> d;
 #if HWY_TARGET == HWY_AVX3
@@ -575,6 +587,25 @@ template <class V> Pair<V> interleaved(Pair<V> v) {
   if constexpr (kLanesOf<V> * sizeof(LaneOf<V>) <= 16) return {lower, upper};
   else return {hn::ConcatLowerLower(d, upper, lower), hn::ConcatUpperUpper(d, upper, lower)};
 }
+// The same of two half vectors in a whole one.
+template <class V> auto inTurn(Pair<V> v) {
+  using Whole = Vec<hn::Twice<TagOf<V>>>;
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (sizeof(Whole) == 64) {
+    using T = hwy::UnsignedFromSize<sizeof(LaneOf<V>)>;
+    const auto lo = as<uint8_t>(v.lo);
+    const auto hi = as<uint8_t>(v.hi);
+    const auto both = detail::lanesOfBoth(detail::whole(lo.raw), detail::kInTurn<T>.low, detail::whole(hi.raw));
+    return as<LaneOf<V>>(Vec<Lanes<uint8_t, 64>>{both});
+  } else
+#endif
+  {
+    static_assert(sizeof(V) <= 16);
+    const TagOf<V> d;
+    return hn::Combine(TagOf<Whole>(), hn::InterleaveUpper(d, v.lo, v.hi), hn::InterleaveLower(d, v.lo, v.hi));
+  }
+}
+// And back.
 template <class V> Pair<V> deinterleaved(Pair<V> v) {
   const TagOf<V> d;
   return {hn::ConcatEven(d, v.hi, v.lo), hn::ConcatOdd(d, v.hi, v.lo)};
@@ -640,6 +671,24 @@ struct Quiet {
 #else
     return a / b;
 #endif
+  }
+  template <class V> static V root(V v) {
+#if HWY_TARGET == HWY_AVX3
+    detail::partOf(detail::rootNearest(detail::whole(v.raw)), v.raw);
+    return v;
+#else
+    return hn::Sqrt(v);
+#endif
+  }
+  // Of 32-bit integers.
+  template <class V> static auto floatOf(V v) {
+    Vec<hn::Rebind<float, TagOf<V>>> f;
+#if HWY_TARGET == HWY_AVX3
+    detail::partOf(detail::toFloatNearest(detail::whole(v.raw)), f.raw);
+#else
+    f = hn::ConvertTo(TagOf<decltype(f)>(), v);
+#endif
+    return f;
   }
   // As greater().
   template <class V> static V max(V v, V held) {

@@ -26,27 +26,38 @@ struct TeamRule {
 // Threads have control words of their own. They work under the caller's, and what their arithmetic raised is raised in it.
 inline constexpr uint32_t kExceptionFlags = 0x3F;
 
-// Runs slice(from, count) on all of 0 to n. A runtime that refuses the team gives one thread, and that one all the work.
-template <TeamRule kRule, class Slice> [[gnu::noinline]] QvxStatus divided(size_t n, Slice slice) {
-  const int threads = kRule.threads();
-  if (threads < 2 || n < static_cast<size_t>(threads)) return slice(0, n);
+// part(thread, count) on each of `threads` threads, or fewer where the runtime gives no more; the gravest of their statuses: an
+// error, else a warning. A part may wait for the others at a barrier.
+template <class Part> QvxStatus inThreads(int threads, Part part) {
   const uint32_t callers = controlWord();
   uint32_t raised = 0;
-  int status = qvxStatOk;
-#pragma omp parallel num_threads(threads) reduction(max : status) reduction(| : raised)
+  int error = qvxStatOk;
+  int warning = qvxStatOk;
+#pragma omp parallel num_threads(threads) reduction(min : error) reduction(max : warning) reduction(| : raised)
   {
-    const auto count = static_cast<size_t>(omp_get_num_threads());
-    const auto thread = static_cast<size_t>(omp_get_thread_num());
-    const size_t chunk = n / count;
-    const size_t tail = thread + 1 == count ? n % count : 0;
     const uint32_t own = controlWord();
     setControlWord(callers);
-    status = slice(thread * chunk, chunk + tail);
+    const int status = part(static_cast<size_t>(omp_get_thread_num()), static_cast<size_t>(omp_get_num_threads()));
+    error = std::min(error, status);
+    warning = std::max(warning, status);
     raised = controlWord() & kExceptionFlags;
     setControlWord(own);
   }
   setControlWord(callers | raised);
-  return static_cast<QvxStatus>(status);
+  return static_cast<QvxStatus>(error < 0 ? error : warning);
+}
+
+// Runs slice(from, count, thread) on all of 0 to n. A runtime that refuses the team gives one thread, and that one all the work.
+template <class Slice> [[gnu::noinline]] QvxStatus dividedBetween(int threads, size_t n, Slice slice) {
+  if (threads < 2 || n < static_cast<size_t>(threads)) return slice(0, n, 0);
+  return inThreads(threads, [&](size_t thread, size_t count) {
+    const size_t chunk = n / count;
+    return slice(thread * chunk, chunk + (thread + 1 == count ? n % count : 0), thread);
+  });
+}
+
+template <TeamRule kRule, class Slice> QvxStatus divided(size_t n, Slice slice) {
+  return dividedBetween(kRule.threads(), n, [=](size_t from, size_t count, size_t) { return slice(from, count); });
 }
 
 // The rule is a constant of the function, and the divided loop one of its own: a short vector costs one comparison.

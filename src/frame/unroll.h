@@ -8,9 +8,7 @@
 namespace qvx {
 
 template <size_t kCount, class Step> [[gnu::always_inline]] inline void unrolled(Step step) {
-  [&]<size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
-    (step(std::integral_constant<size_t, I>()), ...);
-  }
+  [&]<size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) { (step(std::integral_constant<size_t, I>()), ...); }
   (std::make_index_sequence<kCount>());
 }
 

@@ -1,4 +1,6 @@
 // Complex transforms: against the definition, and what must not change them: place, alignment, layout, threads.
+#include <qvx/qvxcore.h>
+
 #include <cstring>
 #include <thread>
 
@@ -87,7 +89,9 @@ template <class C> std::vector<Exact> exact(const std::vector<C>& v) {
   for (const C& z : v) e.push_back({z.re, z.im});
   return e;
 }
-template <class C> bool sameBits(const std::vector<C>& a, const C* b) { return std::memcmp(a.data(), b, a.size() * sizeof(C)) == 0; }
+template <class C> bool sameBits(const std::vector<C>& a, const C* b) {
+  return std::memcmp(a.data(), b, a.size() * sizeof(C)) == 0;
+}
 
 TEST(ComplexFft, IsTheDefinition) {
   Random random(tests::seed());
@@ -101,7 +105,8 @@ TEST(ComplexFft, IsTheDefinition) {
         std::vector<Exact> expected = tests::dft(exact(x), inverse ? 1 : -1);
         std::vector<C> unscaled;
         for (const int flag : tests::kFlags) {
-          SCOPED_TRACE(testing::Message() << name << ", order " << order << (inverse ? ", inverse" : ", forward") << ", flag " << flag);
+          SCOPED_TRACE(testing::Message() << name << ", order " << order << (inverse ? ", inverse" : ", forward") << ", flag "
+                                          << flag);
           const tests::Record record(type.life, order, flag);
           std::vector<C> found(n);
           type.run(inverse, x.data(), found.data(), n, record.get(), nullptr);
@@ -228,6 +233,32 @@ TEST(ComplexFft, SeparatePartsStayWithinTheirVectors) {
     for (size_t i = 0; i < n; ++i) ASSERT_TRUE(v[2][i] == expected[i].re && v[3][i] == expected[i].im) << order << ", " << i;
     for (const tests::Block& block : blocks) EXPECT_TRUE(block.isIntact());
   }
+}
+
+// With a team of two, where the machine grants one, the same bits as alone.
+TEST(ComplexFft, NobodyCanTellTheThreads) {
+  Random random(tests::seed());
+  const auto check = [&](const auto& type, int order) {
+    using C = typename std::decay_t<decltype(type)>::C;
+    SCOPED_TRACE(testing::Message() << "order " << order << ", " << sizeof(C) << " bytes");
+    const size_t n = size_t{1} << order;
+    const std::vector<C> x = noise<C>(n, random);
+    std::vector<C> found[3];
+    for (const int threads : {1, 2}) {
+      qvxSetNumThreads(threads);
+      const tests::Record record(type.life, order, QVX_FFT_SCALE_FWD);
+      for (const int now : {threads, 1}) {  // a record for two may be used by one
+        qvxSetNumThreads(now);
+        found[threads + now - 2].resize(n);
+        type.run(false, x.data(), found[threads + now - 2].data(), n, record.get(), nullptr);
+      }
+    }
+    qvxSetNumThreads(0);
+    EXPECT_TRUE(sameBits(found[0], found[1].data()) && sameBits(found[0], found[2].data()));
+  };
+  for (const int order : {13, 14, 15, 16, 17}) check(k32fc, order);
+  for (const int order : {12, 13, 14, 15, 16}) check(k64fc, order);
+  check(k32f, 15);
 }
 
 // The record is only read: calls at the same time do not meet.

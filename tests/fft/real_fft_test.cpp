@@ -105,7 +105,8 @@ template <class Type> void checkOrder(const Type& type, int order, std::initiali
       if (layout == kCcs) source[1] = std::numeric_limits<T>::quiet_NaN();
       if (layout == kCcs && n > 1) source[n + 1] = std::numeric_limits<T>::quiet_NaN();
       std::vector<T> wanted = x;
-      const long double factor = tests::factorOf(flag, false, order) * tests::factorOf(flag, true, order) * static_cast<long double>(n);
+      const long double factor =
+          tests::factorOf(flag, false, order) * tests::factorOf(flag, true, order) * static_cast<long double>(n);
       for (T& v : wanted) v = static_cast<T>(v * factor);
       tests::Block out(n * sizeof(T));
       T* back = reinterpret_cast<T*>(out.atEnd(n * sizeof(T)));

@@ -63,7 +63,8 @@ Sizes realSizes(const Family& f, int m) {
   const int64_t n = int64_t{1} << m;
   const bool single = f.element == 8;
   if (m <= (single ? 4 : 5)) return {168, 0, 0};
-  const int64_t roots = single ? (m < 19 ? up(2 * n) : up(8 * (n >> 12) + 8192)) : (m < 17 ? up(4 * n) : up(16 * (n >> 11) + 8192));
+  const int64_t roots =
+      single ? (m < 19 ? up(2 * n) : up(8 * (n >> 12) + 8192)) : (m < 17 ? up(4 * n) : up(16 * (n >> 11) + 8192));
   if (m <= 6) return {2 * roots + 192, 0, 0};
   const Sizes half = complexSizes(f, m - 1);
   return {half.spec + 2 * roots, m <= 10 ? 0 : single ? up(n + 4) + 32 : up(2 * n + 8) + 32, half.work};
@@ -82,13 +83,15 @@ template <class Spec> void checkLife(const tests::Life<Spec>& life, const Family
   EXPECT_EQ(life.getSize(limit + 1, 3, 0, nullptr, &init, &work), qvxStatNullPtr);
   EXPECT_EQ(life.getSize(limit + 1, 3, 0, &spec, nullptr, &work), qvxStatNullPtr);
   EXPECT_EQ(life.getSize(limit + 1, 3, 0, &spec, &init, nullptr), qvxStatNullPtr);
-  for (const int flag : {0, 3, -1, 16, INT_MIN}) EXPECT_EQ(life.getSize(limit + 1, flag, 0, &spec, &init, &work), qvxStatBadFFTFlag);
+  for (const int flag : {0, 3, -1, 16, INT_MIN})
+    EXPECT_EQ(life.getSize(limit + 1, flag, 0, &spec, &init, &work), qvxStatBadFFTFlag);
   EXPECT_EQ(life.getSize(limit + 1, 8, 0, &spec, &init, &work), qvxStatBadFFTOrder);
 
   std::vector<Qvx8u> memory(1 << 20);
   Spec* record = nullptr;
   EXPECT_EQ(life.init(nullptr, 31, 3, 0, nullptr, nullptr), qvxStatNullPtr);
-  for (const int order : {-1, limit + 1, INT_MAX}) EXPECT_EQ(life.init(&record, order, 3, 0, nullptr, nullptr), qvxStatBadFFTOrder);
+  for (const int order : {-1, limit + 1, INT_MAX})
+    EXPECT_EQ(life.init(&record, order, 3, 0, nullptr, nullptr), qvxStatBadFFTOrder);
   EXPECT_EQ(life.init(&record, 11, 3, 0, nullptr, nullptr), qvxStatNullPtr);
   EXPECT_EQ(life.init(&record, 11, 3, 0, memory.data(), nullptr), qvxStatBadFFTFlag);
   EXPECT_EQ(life.init(&record, 11, 8, 0, memory.data(), nullptr), qvxStatNullPtr);
@@ -145,8 +148,9 @@ template <class C> bool isUntouched(const C* v) {
   return std::memcmp(fresh, v, sizeof(fresh)) == 0;
 }
 
-template <class T, class Spec> void checkCalls(const tests::Life<Spec>& life, std::initializer_list<QvxStatus (*)(const T*, T*, const Spec*, Qvx8u*)> out,
-                                               std::initializer_list<QvxStatus (*)(T*, const Spec*, Qvx8u*)> in) {
+template <class T, class Spec>
+void checkCalls(const tests::Life<Spec>& life, std::initializer_list<QvxStatus (*)(const T*, T*, const Spec*, Qvx8u*)> out,
+                std::initializer_list<QvxStatus (*)(T*, const Spec*, Qvx8u*)> in) {
   Spec* spec = nullptr;
   ASSERT_EQ(life.initAlloc(&spec, 2, 8, 0), qvxStatOk);
   std::vector<Qvx8u> foreign(4096);
@@ -174,7 +178,8 @@ template <class T, class Spec> void checkCalls(const tests::Life<Spec>& life, st
 template <class T, class Spec> using Apart = QvxStatus (*)(const T*, const T*, T*, T*, const Spec*, Qvx8u*);
 template <class T, class Spec> using ApartI = QvxStatus (*)(T*, T*, const Spec*, Qvx8u*);
 template <class T, class Spec>
-void checkApart(const tests::Life<Spec>& life, std::initializer_list<Apart<T, Spec>> out, std::initializer_list<ApartI<T, Spec>> in) {
+void checkApart(const tests::Life<Spec>& life, std::initializer_list<Apart<T, Spec>> out,
+                std::initializer_list<ApartI<T, Spec>> in) {
   Spec* spec = nullptr;
   ASSERT_EQ(life.initAlloc(&spec, 2, 8, 0), qvxStatOk);
   T v[4][8] = {};
@@ -194,16 +199,24 @@ void checkApart(const tests::Life<Spec>& life, std::initializer_list<Apart<T, Sp
 }
 
 TEST(FftRecord, ChecksOfTransforms) {
-  checkCalls<Qvx32fc, QvxsFFTSpec_C_32fc>(kC32fc, {qvxsFFTFwd_CToC_32fc, qvxsFFTInv_CToC_32fc}, {qvxsFFTFwd_CToC_32fc_I, qvxsFFTInv_CToC_32fc_I});
-  checkCalls<Qvx64fc, QvxsFFTSpec_C_64fc>(kC64fc, {qvxsFFTFwd_CToC_64fc, qvxsFFTInv_CToC_64fc}, {qvxsFFTFwd_CToC_64fc_I, qvxsFFTInv_CToC_64fc_I});
-  checkCalls<Qvx32f, QvxsFFTSpec_R_32f>(
-      kR32f, {qvxsFFTFwd_RToPerm_32f, qvxsFFTFwd_RToPack_32f, qvxsFFTFwd_RToCCS_32f, qvxsFFTInv_PermToR_32f, qvxsFFTInv_PackToR_32f, qvxsFFTInv_CCSToR_32f},
-      {qvxsFFTFwd_RToPerm_32f_I, qvxsFFTFwd_RToPack_32f_I, qvxsFFTFwd_RToCCS_32f_I, qvxsFFTInv_PermToR_32f_I, qvxsFFTInv_PackToR_32f_I, qvxsFFTInv_CCSToR_32f_I});
-  checkCalls<Qvx64f, QvxsFFTSpec_R_64f>(
-      kR64f, {qvxsFFTFwd_RToPerm_64f, qvxsFFTFwd_RToPack_64f, qvxsFFTFwd_RToCCS_64f, qvxsFFTInv_PermToR_64f, qvxsFFTInv_PackToR_64f, qvxsFFTInv_CCSToR_64f},
-      {qvxsFFTFwd_RToPerm_64f_I, qvxsFFTFwd_RToPack_64f_I, qvxsFFTFwd_RToCCS_64f_I, qvxsFFTInv_PermToR_64f_I, qvxsFFTInv_PackToR_64f_I, qvxsFFTInv_CCSToR_64f_I});
-  checkApart<Qvx32f, QvxsFFTSpec_C_32f>(kC32f, {qvxsFFTFwd_CToC_32f, qvxsFFTInv_CToC_32f}, {qvxsFFTFwd_CToC_32f_I, qvxsFFTInv_CToC_32f_I});
-  checkApart<Qvx64f, QvxsFFTSpec_C_64f>(kC64f, {qvxsFFTFwd_CToC_64f, qvxsFFTInv_CToC_64f}, {qvxsFFTFwd_CToC_64f_I, qvxsFFTInv_CToC_64f_I});
+  checkCalls<Qvx32fc, QvxsFFTSpec_C_32fc>(kC32fc, {qvxsFFTFwd_CToC_32fc, qvxsFFTInv_CToC_32fc},
+                                          {qvxsFFTFwd_CToC_32fc_I, qvxsFFTInv_CToC_32fc_I});
+  checkCalls<Qvx64fc, QvxsFFTSpec_C_64fc>(kC64fc, {qvxsFFTFwd_CToC_64fc, qvxsFFTInv_CToC_64fc},
+                                          {qvxsFFTFwd_CToC_64fc_I, qvxsFFTInv_CToC_64fc_I});
+  checkCalls<Qvx32f, QvxsFFTSpec_R_32f>(kR32f,
+                                        {qvxsFFTFwd_RToPerm_32f, qvxsFFTFwd_RToPack_32f, qvxsFFTFwd_RToCCS_32f,
+                                         qvxsFFTInv_PermToR_32f, qvxsFFTInv_PackToR_32f, qvxsFFTInv_CCSToR_32f},
+                                        {qvxsFFTFwd_RToPerm_32f_I, qvxsFFTFwd_RToPack_32f_I, qvxsFFTFwd_RToCCS_32f_I,
+                                         qvxsFFTInv_PermToR_32f_I, qvxsFFTInv_PackToR_32f_I, qvxsFFTInv_CCSToR_32f_I});
+  checkCalls<Qvx64f, QvxsFFTSpec_R_64f>(kR64f,
+                                        {qvxsFFTFwd_RToPerm_64f, qvxsFFTFwd_RToPack_64f, qvxsFFTFwd_RToCCS_64f,
+                                         qvxsFFTInv_PermToR_64f, qvxsFFTInv_PackToR_64f, qvxsFFTInv_CCSToR_64f},
+                                        {qvxsFFTFwd_RToPerm_64f_I, qvxsFFTFwd_RToPack_64f_I, qvxsFFTFwd_RToCCS_64f_I,
+                                         qvxsFFTInv_PermToR_64f_I, qvxsFFTInv_PackToR_64f_I, qvxsFFTInv_CCSToR_64f_I});
+  checkApart<Qvx32f, QvxsFFTSpec_C_32f>(kC32f, {qvxsFFTFwd_CToC_32f, qvxsFFTInv_CToC_32f},
+                                        {qvxsFFTFwd_CToC_32f_I, qvxsFFTInv_CToC_32f_I});
+  checkApart<Qvx64f, QvxsFFTSpec_C_64f>(kC64f, {qvxsFFTFwd_CToC_64f, qvxsFFTInv_CToC_64f},
+                                        {qvxsFFTFwd_CToC_64f_I, qvxsFFTInv_CToC_64f_I});
 }
 
 }  // namespace

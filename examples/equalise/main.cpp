@@ -1,0 +1,93 @@
+// equalise: an audio file through a filter of given taps, block by block, and what the size of the blocks changes: nothing.
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <functional>
+#include <numeric>
+
+#include "equaliser.h"
+
+namespace {
+
+struct Options {
+  std::string file;
+  std::string taps;
+  std::string output;
+  int block = kBlockFrames;
+  std::vector<int> others = {1, 64, 1000};
+};
+
+void declare(CLI::App& app, Options& options) {
+  app.add_option("file", options.file, "The audio file")->required()->check(CLI::ExistingFile);
+  app.add_option("-t,--taps", options.taps, "A text file of the filter's taps, # begins a comment")
+      ->required()
+      ->check(CLI::ExistingFile);
+  app.add_option("-o,--output", options.output, "The 16-bit WAV file to write")->required();
+  const auto sizes = CLI::Range(1, kBlockFrames);
+  app.add_option("-b,--block", options.block, "Samples that a channel is filtered at a time")
+      ->check(sizes)
+      ->capture_default_str();
+  app.add_option("-c,--compare", options.others, "Other sizes, whose results are compared with the first")
+      ->check(sizes)
+      ->capture_default_str();
+}
+
+// A filter that is given other blocks, and how far its results have been from the first one's.
+struct Other {
+  Equaliser equaliser;
+  double most = 0;
+  int64_t differing = 0;  // 16-bit samples
+
+  void compare(const Equaliser& first, const Qvx16s* firstResult, const Qvx16s* src, Qvx16s* result, int frames, int samples) {
+    equaliser.filter(src, frames);
+    equaliser.result(result, frames);
+    most = std::max(most, equaliser.distance(first, frames));
+    differing += std::inner_product(result, result + samples, firstResult, int64_t{0}, std::plus<>(), std::not_equal_to<>());
+  }
+};
+
+int run(int argc, char** argv) {
+  CLI::App app("Filters an audio file by given taps, as a stream of blocks, and compares blocks of other sizes.");
+  Options options;
+  declare(app, options);
+  CLI11_PARSE(app, argc, argv);
+  const std::vector<Qvx32f> taps = readTaps(options.taps);
+  AudioReader reader(options.file);
+  const int channels = reader.channels();
+  AudioWriter writer(options.output, SF_FORMAT_WAV | SF_FORMAT_PCM_16, channels, reader.sampleRate(),
+                     {options.file, options.taps});
+  Equaliser equaliser(taps, channels, options.block);
+  std::vector<Other> others;
+  for (const int block : options.others) others.push_back({Equaliser(taps, channels, block)});
+
+  const int most = kBlockFrames * channels;
+  const Vector<Qvx16s> in = vector(qvxsMalloc_16s(most));
+  const Vector<Qvx16s> out = vector(qvxsMalloc_16s(most));
+  const Vector<Qvx16s> otherOut = vector(qvxsMalloc_16s(most));
+  for (int frames; (frames = reader.read(in.get())) > 0;) {
+    equaliser.filter(in.get(), frames);
+    equaliser.result(out.get(), frames);
+    writer.write(out.get(), frames);
+    for (Other& other : others) other.compare(equaliser, out.get(), in.get(), otherOut.get(), frames, frames * channels);
+  }
+
+  std::printf("%zu taps, blocks of %d, beside others:\n%8s %20s %18s\n", taps.size(), options.block, "block", "most apart, dBFS",
+              "16-bit differing");
+  for (const Other& other : others) {
+    std::printf("%8d %20.1f %18lld\n", other.equaliser.block(), 20 * std::log10(other.most),
+                static_cast<long long>(other.differing));
+  }
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return run(argc, argv);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "equalise: %s\n", error.what());
+    return 1;
+  }
+}

@@ -1,0 +1,89 @@
+// Taps and delay line into a record.
+#pragma once
+
+#include "fir/state.h"
+#include "frame/power.h"
+
+namespace qvx::fir {
+
+template <class C, class H> QvxStatus setTaps(FloatRecord<C>& record, const H* taps) {
+  const auto n = static_cast<size_t>(record.tapsLen);
+  copyReversed(taps, n, record.taps);
+  if (isNull(record.spec)) return qvxStatOk;
+  std::reverse_copy(record.taps, record.taps + n, record.spectrum);
+  std::fill(record.spectrum + n, record.spectrum + record.fftLen, C{});
+  return Transform<C>::kForward(record.spectrum, record.spectrum, record.spec, record.work);
+}
+
+// ---- integer filters
+
+// The places by which integer taps are shifted right to become 16 bits.
+inline int placesFor(const Qvx16s* taps, size_t n) { return std::find(taps, taps + n, INT16_MIN) != taps + n ? 1 : 0; }
+inline int placesFor(const Qvx32s* taps, size_t n) {
+  constexpr int32_t kMost = 32766;
+  int32_t most = 0;
+  for (size_t i = 0; i < n; ++i) {
+    if (taps[i] != INT32_MIN) most = std::max(most, std::abs(taps[i]));
+  }
+  int places = 0;
+  while (most >> places > kMost) ++places;
+  return places;
+}
+// The power of two by which the largest of float taps has to be divided to come to 16384 to 32767.
+inline int factorFor(const Qvx32f* taps, size_t n) {
+  constexpr float kMost = 32767;
+  float most = 0;
+  for (size_t i = 0; i < n; ++i) most = std::max(most, std::abs(taps[i]));
+  int factor = 0;
+  if (most > kMost) {
+    for (; most > kMost && factor < 33; most /= 2) ++factor;
+  } else {
+    for (most *= 2; most < kMost && factor >= -32; most *= 2) --factor;
+  }
+  return factor;
+}
+
+template <class To, class From, class F> To eachPart(From v, F f) {
+  if constexpr (PartsOf<To>::kCount == 2) return {f(v.re), f(v.im)};
+  else return f(v);
+}
+
+// The taps as reduce() makes integers of their parts, to be taken times 2^tapsFactor.
+template <class S, class T, class H, class F>
+void setReduced(IntegerRecord<S, T>& record, const H* taps, int64_t tapsFactor, F reduce) {
+  const auto n = static_cast<size_t>(record.tapsLen);
+  record.tapsFactor = static_cast<int>(tapsFactor);
+  record.isPaired = true;
+  for (size_t i = 0; i < n; ++i) {
+    const T tap = eachPart<T>(taps[n - 1 - i], reduce);
+    record.taps[i] = tap;
+    record.shortTaps[i] = elementAs<S>(tap);
+    if constexpr (PartsOf<S>::kCount == 2) record.isPaired = record.isPaired && record.shortTaps[i].im != INT16_MIN;
+  }
+  paired(record.shortTaps, n, record.pairs);
+}
+
+template <class S, class T, class H> QvxStatus setTaps(IntegerRecord<S, T>& record, const H* taps, int tapsFactor) {
+  const auto n = static_cast<size_t>(record.tapsLen) * PartsOf<H>::kCount;
+  const int places = placesFor(parts(taps), n);
+  setReduced(record, taps, int64_t{tapsFactor} + places, [=](auto part) { return static_cast<decltype(part)>(part >> places); });
+  return qvxStatOk;
+}
+template <class S, class T, class H>
+requires std::is_floating_point_v<Part<H>> QvxStatus setTaps(IntegerRecord<S, T>& record, const H* taps) {
+  const int factor = factorFor(parts(taps), static_cast<size_t>(record.tapsLen) * PartsOf<H>::kCount);
+  const double scale = powerOfTwo<double>(-factor);
+  setReduced(record, taps, factor, [=](float part) {
+    const double tap = part * scale;
+    return static_cast<Qvx32s>(static_cast<int64_t>(tap + std::copysign(0.5, tap)));
+  });
+  return qvxStatOk;
+}
+
+// The caller's delay line is newest first; none stands for zeros.
+template <class S> void setDelay(S& state, const typename S::Sample* newestFirst) {
+  state.delay.index = 0;
+  copyReversed(newestFirst, static_cast<size_t>(state.tapsLen), state.delay.window);
+}
+
+}  // namespace qvx::fir

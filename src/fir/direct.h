@@ -1,0 +1,55 @@
+// The filters without a record: what the caller keeps, and how it is tested.
+#pragma once
+
+#include "fir/filter.h"
+
+namespace qvx::fir {
+
+// The taps in reverse, for the time of a call.
+template <class H> class Reversed {
+ public:
+  Reversed(const H* taps, int n) : block_(n > kLocal ? n * int64_t{sizeof(H)} : 0) {
+    if (n > kLocal) p_ = reinterpret_cast<H*>(block_.get());
+    if (p_ != nullptr) copyReversed(taps, static_cast<size_t>(n), p_);
+  }
+  bool isMissing() const { return p_ == nullptr; }
+  const H* get() const { return p_; }
+
+ private:
+  static constexpr int kLocal = 64;
+  H local_[kLocal];
+  Block block_;
+  H* p_ = local_;
+};
+
+inline QvxStatus checkIndex(int tapsLen, const int* index) {
+  return *index < 0 || *index >= tapsLen ? qvxStatBadDlyIndex : qvxStatOk;
+}
+
+// All pointers, the length, the taps, the index.
+template <class H, class T> struct Stateless {
+  const H* taps;
+  int tapsLen;
+  T* delay;
+  int* index;
+
+  template <class... V> QvxStatus check(int numIters, const V*... vectors) const {
+    const QvxStatus status = qvx::check(numIters, vectors..., taps, delay, index);
+    if (status != qvxStatOk) return status;
+    return tapsLen < 1 ? qvxStatBadTapsLen : checkIndex(tapsLen, index);
+  }
+
+  // dst[i] = sum(window, reversed taps). A source may be the destination.
+  template <class Sum> QvxStatus each(const T* src, T* dst, int numIters, Sum sum) const {
+    QvxStatus status = check(numIters, src, dst);
+    if (status != qvxStatOk) return status;
+    const Reversed<H> reversed(taps, tapsLen);
+    if (reversed.isMissing()) return qvxStatNoMem;
+    DelayLine<T> line = {delay, *index};
+    for (int i = 0; i < numIters; ++i) dst[i] = sum(line.push(src[i], tapsLen), reversed.get());
+    *index = line.index;
+    return qvxStatOk;
+  }
+};
+
+}  // namespace qvx::fir

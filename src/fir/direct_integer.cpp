@@ -1,0 +1,95 @@
+// Filters without a record, in integers.
+#include "fir/build.h"
+#include "fir/direct.h"
+#include "stats/moments.h"
+
+using namespace qvx;
+using namespace qvx::fir;
+
+namespace {
+
+// Products of 32-bit taps and 16-bit samples in sums of 32 bits that wrap.
+struct Wrapping : Reduction {
+  using Inner = int32_t;
+  template <class V, class W> W start(V x, W p) const { return widened<int32_t>(x) * p; }
+  template <class V, class W> W add(W sum, V x, W p) const { return sum + start(x, p); }
+  template <class W> int64_t total(W sum) const { return sumOfLanes(sum); }
+};
+struct ComplexWrapping : Reduction {
+  using Inner = int32_t;
+  template <class V, class W> Pair<W> start(V x, W p) const {
+    const W wide = widened<int32_t>(x);
+    return {wide * p, wide * swapped(p)};
+  }
+  template <class V, class W> Pair<W> add(Pair<W> sum, V x, W p) const { return join(sum, start(x, p)); }
+  template <class W> ComplexTotal<int64_t> total(Pair<W> sum) const {
+    const auto like = folded<2>(sum.lo);
+    const auto unlike = folded<2>(sum.hi);
+    return {int64_t{hn::ExtractLane(like, 0)} - hn::ExtractLane(like, 1),
+            int64_t{hn::ExtractLane(unlike, 0)} + hn::ExtractLane(unlike, 1)};
+  }
+};
+
+// Scale factors here count up to 31 places only.
+int64_t placesOf(int tapsFactor, int scaleFactor) { return std::clamp<int64_t>(int64_t{tapsFactor} - scaleFactor, -31, 31); }
+
+template <class H, class T>
+QvxStatus wrapping(const T* src, T* dst, int numIters, const H* taps, int tapsLen, int tapsFactor, T* delay, int* index,
+                   int scaleFactor) {
+  const int64_t places = placesOf(tapsFactor, scaleFactor);
+  const auto n = static_cast<size_t>(tapsLen);
+  return Stateless<H, T>{taps, tapsLen, delay, index}.each(src, dst, numIters, [=](const T* window, const H* p) -> T {
+    if constexpr (PartsOf<T>::kCount == 1) {
+      return scaledSum(reduce(Wrapping(), n, source(window), source(p)), places);
+    } else {
+      const auto sum = reduce(ComplexWrapping(), 2 * n, source(window), source(p));
+      return {scaledSum(sum.re, places), scaledSum(sum.im, places)};
+    }
+  });
+}
+
+// ---- 16-bit taps, which are fractions of 2^15
+
+constexpr int kFraction = -15;
+
+// With a record for the time of the call, whose delay line, newest first, is the caller's before and after it.
+QvxStatus block(const Qvx16s* src, Qvx16s* dst, int numIters, const Qvx16s* taps, int tapsLen, Qvx16s* delay, int* index,
+                int scaleFactor) {
+  using S = QvxsFIRState32s_16s;
+  const Stateless<Qvx16s, Qvx16s> caller = {taps, tapsLen, delay, index};
+  QvxStatus status = caller.check(numIters, src, dst);
+  if (status != qvxStatOk) return status;
+  const Plan plan = planOf<S>(tapsLen);
+  const Block memory(plan.bytes);
+  if (!memory) return qvxStatNoMem;
+  S& state = *layOut<S>(memory.get(), tapsLen, plan.transform);
+  setReduced(state, taps, kFraction, [](Qvx16s tap) { return Qvx32s{tap}; });
+  setDelay(state, delay + *index);
+  status = direct(state, src, dst, elements(numIters), scaleFactor);
+  copyReversed(state.delay.window, static_cast<size_t>(tapsLen), delay);
+  *index = 0;
+  return status;
+}
+
+QvxStatus single(const Qvx16s* x, Qvx16s* y, const Qvx16s* taps, int tapsLen, Qvx16s* delay, int* index, int scaleFactor) {
+  const int64_t places = placesOf(kFraction, scaleFactor);
+  return Stateless<Qvx16s, Qvx16s>{taps, tapsLen, delay, index}.each(
+      x, y, 1, [=](const Qvx16s* window, const Qvx16s* p) { return scaledDot(window, p, tapsLen, places); });
+}
+
+}  // namespace
+
+// clang-format off
+QvxStatus qvxsFIR32s_Direct_16s_Sfs(const Qvx16s* src, Qvx16s* dst, int n, const Qvx32s* h, int len, int tf, Qvx16s* d, int* i, int sf) { return wrapping(src, dst, n, h, len, tf, d, i, sf); }
+QvxStatus qvxsFIR32s_Direct_16s_ISfs(Qvx16s* v, int n, const Qvx32s* h, int len, int tf, Qvx16s* d, int* i, int sf) { return wrapping(v, v, n, h, len, tf, d, i, sf); }
+QvxStatus qvxsFIROne32s_Direct_16s_Sfs(Qvx16s x, Qvx16s* dst, const Qvx32s* h, int len, int tf, Qvx16s* d, int* i, int sf) { return wrapping(&x, dst, 1, h, len, tf, d, i, sf); }
+QvxStatus qvxsFIR32sc_Direct_16sc_Sfs(const Qvx16sc* src, Qvx16sc* dst, int n, const Qvx32sc* h, int len, int tf, Qvx16sc* d, int* i, int sf) { return wrapping(src, dst, n, h, len, tf, d, i, sf); }
+QvxStatus qvxsFIR32sc_Direct_16sc_ISfs(Qvx16sc* v, int n, const Qvx32sc* h, int len, int tf, Qvx16sc* d, int* i, int sf) { return wrapping(v, v, n, h, len, tf, d, i, sf); }
+QvxStatus qvxsFIROne32sc_Direct_16sc_Sfs(Qvx16sc x, Qvx16sc* dst, const Qvx32sc* h, int len, int tf, Qvx16sc* d, int* i, int sf) { return wrapping(&x, dst, 1, h, len, tf, d, i, sf); }
+QvxStatus qvxsFIR_Direct_16s_Sfs(const Qvx16s* src, Qvx16s* dst, int n, const Qvx16s* h, int len, Qvx16s* d, int* i, int sf) { return block(src, dst, n, h, len, d, i, sf); }
+QvxStatus qvxsFIR_Direct_16s_ISfs(Qvx16s* v, int n, const Qvx16s* h, int len, Qvx16s* d, int* i, int sf) { return block(v, v, n, h, len, d, i, sf); }
+QvxStatus qvxsFIROne_Direct_16s_Sfs(Qvx16s x, Qvx16s* dst, const Qvx16s* h, int len, Qvx16s* d, int* i, int sf) { return single(&x, dst, h, len, d, i, sf); }
+QvxStatus qvxsFIROne32s_Direct_16s_ISfs(Qvx16s* v, const Qvx32s* h, int len, int tf, Qvx16s* d, int* i, int sf) { return wrapping(v, v, 1, h, len, tf, d, i, sf); }
+QvxStatus qvxsFIROne32sc_Direct_16sc_ISfs(Qvx16sc* v, const Qvx32sc* h, int len, int tf, Qvx16sc* d, int* i, int sf) { return wrapping(v, v, 1, h, len, tf, d, i, sf); }
+QvxStatus qvxsFIROne_Direct_16s_ISfs(Qvx16s* v, const Qvx16s* h, int len, Qvx16s* d, int* i, int sf) { return single(v, v, h, len, d, i, sf); }
+// clang-format on

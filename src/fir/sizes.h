@@ -1,0 +1,72 @@
+// The sizes of the records, as users allocate by them. The layout (build.h) needs less at every number of taps and threads.
+#pragma once
+
+#include <qvx/qvxcore.h>
+
+#include "fir/state.h"
+
+namespace qvx::fir {
+
+constexpr int64_t up16(int64_t bytes) { return up<16>(bytes); }
+
+// Without a transform, of n taps and t threads.
+constexpr int64_t bytesOf(const FloatRecord<Qvx32f>*, int64_t n, int64_t t) {
+  return 16544 + 16 * t + up16(4 * t) + up16(12 * n + 16) + 16 * ((n + 6) & ~3) + 5 * up16(4 * n);
+}
+constexpr int64_t bytesOf(const FloatRecord<Qvx32fc>*, int64_t n, int64_t t) {
+  return 32976 + 64 * t + up16(4 * t) + up16(24 * n + 32) + 13 * up16(8 * n);
+}
+constexpr int64_t bytesOf(const FloatRecord<Qvx64f>*, int64_t n, int64_t t) {
+  return 32976 + 32 * t + up16(4 * t) + ((24 * n + 63) & ~31) + 32 * ((n + 2) & ~1);
+}
+constexpr int64_t bytesOf(const FloatRecord<Qvx64fc>*, int64_t n, int64_t t) {
+  return 65728 + up16(4 * t) + ((48 * n + 95) & ~31) + 3 * ((16 * n + 31) & ~31);
+}
+// 64f taps from integers.
+constexpr int64_t bytesOfIntegerTaps(int64_t n, int64_t t) { return 32943 + 32 * t + up16(24 * n + 32) + 3 * up16(8 * n); }
+
+constexpr int64_t bytesOfRows(int64_t n) {
+  const int64_t stride = (n + 11) & ~7;
+  return (((stride + 2 * n) * 2 + 23) & ~15) + 8 * stride;
+}
+constexpr int64_t bytesOf(const IntegerRecord<Qvx16s, Qvx16s>*, int64_t n, int64_t) {
+  return 16512 + up16(2 * n) + bytesOfRows(n);
+}
+constexpr int64_t bytesOf(const IntegerRecord<Qvx16s, Qvx32s>*, int64_t n, int64_t) {
+  return 16512 + up16(4 * n) + bytesOfRows(n);
+}
+constexpr int64_t bytesOf(const IntegerRecord<Qvx16sc, Qvx32sc>*, int64_t n, int64_t) {
+  return 16512 + up16(12 * n + 16) + 16 * n + up16(8 * n);
+}
+
+// What a record of a number of taps needs.
+struct Plan {
+  int64_t bytes;
+  TransformSizes transform;
+};
+
+template <class S> Plan planOf(int tapsLen) {
+  const int64_t threads = ownGetNumThreads();
+  const int64_t bytes = bytesOf(static_cast<const S*>(nullptr), tapsLen, threads);
+  if constexpr (std::is_integral_v<Part<typename S::Kernel>>) {
+    return {bytes, {}};
+  } else {
+    const auto transform = TransformSizes::of<typename S::Kernel>(tapsLen);
+    const int64_t block = up16(int64_t{sizeof(typename S::Kernel)} * transform.length);
+    return {bytes + transform.spec + transform.init + block + threads * (transform.work + block), transform};
+  }
+}
+inline Plan planOfStream16s(int tapsLen) { return {128 + up16(2 * int64_t{tapsLen}), {}}; }
+inline Plan planOfIntegerTaps(int tapsLen) { return {bytesOfIntegerTaps(tapsLen, ownGetNumThreads()), {}}; }
+
+using PlanFor = Plan (*)(int tapsLen);
+
+// Users get the low 32 bits.
+inline QvxStatus reportSize(int tapsLen, int* pSize, PlanFor planFor) {
+  if (isNull(pSize)) return qvxStatNullPtr;
+  if (tapsLen < 1) return qvxStatBadTapsLen;
+  *pSize = static_cast<int>(static_cast<uint32_t>(planFor(tapsLen).bytes));
+  return qvxStatOk;
+}
+
+}  // namespace qvx::fir

@@ -1,0 +1,38 @@
+// The sums of products of all filters, compiled once: y[n] = p[0] * x[n] + ... + p[taps - 1] * x[n + taps - 1] for n below count.
+// The taps are those of the filter in reverse.
+//
+// x has count + taps - 1 elements, and no less than taps - 1 and a vector's. y must not overlap x.
+#pragma once
+
+#include "frame/map.h"
+
+namespace qvx::fir {
+
+// A vector's elements, for x.
+template <class T> inline constexpr size_t kVectorElements = kVectorBytes / sizeof(T);
+
+void sums(const Qvx32f* x, const Qvx32f* p, size_t taps, size_t count, Qvx32f* y);
+void sums(const Qvx64f* x, const Qvx64f* p, size_t taps, size_t count, Qvx64f* y);
+void sums(const Qvx32fc* x, const Qvx32fc* p, size_t taps, size_t count, Qvx32fc* y);
+void sums(const Qvx64fc* x, const Qvx64fc* p, size_t taps, size_t count, Qvx64fc* y);
+
+// Integers, in sums of 32 bits that wrap; each result is the sum times 2^places, rounded to nearest even or wrapped at 32 bits,
+// and saturated. The taps stand in pairs for the multiplication of pairs. x may be read up to two vectors behind its end.
+struct PairedTaps {
+  const Qvx16sc* pairs;
+  size_t count;
+};
+// Pairs of real taps: those that begin at even places, for even outputs, each followed by the one that begins a place before, for
+// the output behind. Of complex ones: (re, -im) for the real part, followed by (im, re).
+constexpr size_t pairsOf(size_t taps, Qvx16s) { return taps / 2 + 1; }
+constexpr size_t pairsOf(size_t taps, Qvx16sc) { return taps; }
+PairedTaps paired(const Qvx16s* p, size_t taps, Qvx16sc* pairs);
+PairedTaps paired(const Qvx16sc* p, size_t taps, Qvx16sc* pairs);
+
+void sums(const Qvx16s* x, PairedTaps p, size_t count, Qvx16s* y, int64_t places);
+void sums(const Qvx16sc* x, PairedTaps p, size_t count, Qvx16sc* y, int64_t places);
+
+// The same of one sum.
+Qvx16s scaledSum(int64_t sum, int64_t places);
+
+}  // namespace qvx::fir

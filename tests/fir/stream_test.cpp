@@ -1,0 +1,182 @@
+// A stream is one signal however it is cut: in blocks, in place, sample by sample, directly or by way of the FFT.
+#include <gtest/gtest.h>
+#include <omp.h>
+
+#include "fir/pairs.h"
+#include "support/blocks.h"
+
+namespace {
+
+using namespace tests;
+
+// Taps to both sides of where kernels and ways change, and some that fill no vector of any size.
+const int kTaps[] = {1, 2, 3, 5, 8, 15, 16, 17, 31, 32, 33, 47, 63, 64, 65, 100, 127, 128, 300};
+
+template <class T> std::vector<T> samples(size_t n, Random& random) {
+  std::vector<T> v(n);
+  for (T& x : v) x = sample<T>(random);
+  return v;
+}
+
+// Integer taps as the record has them.
+template <class State, class T> auto integerOracle(QvxStatus (*getTaps)(const State*, T*, int*), const State* state, size_t n) {
+  int factor = 0;
+  std::vector<T> reversedBack(n);
+  EXPECT_EQ(getTaps(state, reversedBack.data(), &factor), qvxStatOk);
+  return std::pair(reversedBack, factor);
+}
+template <class P> auto oracleOf(const P&, const typename P::State* state, const std::vector<typename P::Taps>& h) {
+  using State = typename P::State;
+  using T = typename P::Sample;
+  if constexpr (std::is_same_v<State, QvxsFIRState_16s>) {
+    const auto [taps, factor] = integerOracle(qvxsFIRGetTaps_16s, state, h.size());
+    return IntegerOracle<Qvx16s, T>{taps, factor};
+  } else if constexpr (std::is_same_v<State, QvxsFIRState32s_16s>) {
+    const auto [taps, factor] = integerOracle(qvxsFIRGetTaps32s_16s, state, h.size());
+    return IntegerOracle<Qvx32s, T>{taps, factor};
+  } else if constexpr (std::is_same_v<State, QvxsFIRState32sc_16sc>) {
+    const auto [taps, factor] = integerOracle(qvxsFIRGetTaps32sc_16sc, state, h.size());
+    return IntegerOracle<Qvx32sc, T>{taps, factor};
+  } else if constexpr (std::is_same_v<typename P::Taps, Qvx32s>) {  // held as 64f
+    return FloatOracle<Qvx64f, T>{{h.begin(), h.end()}};
+  } else {
+    return FloatOracle<typename P::Taps, T>{h};
+  }
+}
+
+int pieceLength(Random& random) {
+  static const int kLengths[] = {1,   2,   3,   7,   16,  17,   63,   64,   65,   96,   200, 255,
+                                 256, 257, 511, 512, 513, 1000, 1601, 2049, 4096, 4607, 4608};
+  return random() & 1 ? kLengths[random() % std::size(kLengths)] : 1 + static_cast<int>(random() % 300);
+}
+
+// Runs pieces of a stream through a record and compares all that can be seen with the definition.
+template <class P> class Stream {
+ public:
+  using T = typename P::Sample;
+  Stream(const P& pair, int tapsLen, Random& random)
+      : pair_(pair), n_(static_cast<size_t>(tapsLen)), random_(random), all_(samples<T>(n_, random)) {}
+
+  std::vector<T> newestFirst() const { return {all_.rbegin(), all_.rbegin() + static_cast<ptrdiff_t>(n_)}; }
+
+  // Status, outputs, the delay line, and the memory around the vectors.
+  template <class Oracle> void piece(typename P::State* state, const Oracle& oracle, int length, int scaleFactor) {
+    const auto x = samples<T>(static_cast<size_t>(length), random_);
+    const size_t bytes = x.size() * sizeof(T);
+    const size_t offset = random_() % 64 / alignof(T) * alignof(T);
+    auto* dst = reinterpret_cast<T*>(random_() & 1 ? output_.atEnd(bytes) : output_.atOffset(offset, bytes));
+    auto* src = reinterpret_cast<T*>(random_() & 1 ? input_.atEnd(bytes) : input_.atOffset(64 - offset, bytes));
+    std::memcpy(static_cast<void*>(src), x.data(), bytes);
+    const int form = static_cast<int>(random_() % 3);
+    SCOPED_TRACE(testing::Message() << (form == 0   ? "block"
+                                        : form == 1 ? "in place"
+                                                    : "one by one")
+                                    << ", length " << length << ", scale factor " << scaleFactor);
+    if (form == 0) {
+      EXPECT_EQ(P::run(pair_.block, scaleFactor, static_cast<const T*>(src), dst, length, state), qvxStatOk);
+      EXPECT_EQ(std::memcmp(src, x.data(), bytes), 0) << "the source changed";
+    } else if (form == 1) {
+      std::memcpy(static_cast<void*>(dst), x.data(), bytes);
+      EXPECT_EQ(P::run(pair_.inPlace, scaleFactor, dst, length, state), qvxStatOk);
+    } else {
+      for (int i = 0; i < length; ++i)
+        EXPECT_EQ(P::run(pair_.one, scaleFactor, x[static_cast<size_t>(i)], dst + i, state), qvxStatOk);
+    }
+    EXPECT_TRUE(output_.isIntact() && input_.isIntact()) << "bytes outside the vectors";
+    all_.insert(all_.end(), x.begin(), x.end());
+    const T* first = all_.data() + all_.size() - x.size();
+    for (size_t i = 0; i < x.size(); ++i) {
+      if (!oracle.agrees(dst[i], first + i, scaleFactor)) {
+        ADD_FAILURE() << "output " << i;
+        return;
+      }
+    }
+    std::vector<T> line(n_);
+    EXPECT_EQ(pair_.getLine(state, line.data()), qvxStatOk);
+    EXPECT_EQ(std::memcmp(line.data(), newestFirst().data(), n_ * sizeof(T)), 0) << "delay line";
+  }
+
+ private:
+  static constexpr size_t kMost = 5000;
+  const P& pair_;
+  size_t n_;
+  Random& random_;
+  std::vector<T> all_;
+  Block input_{kMost * sizeof(T)};
+  Block output_{kMost * sizeof(T)};
+};
+
+// The record lies in a block of just the reported size, at any alignment, its end at an unreadable page or among canaries.
+TEST(FirStream, IsOneSignalHoweverItIsCut) {
+  forEachPair([](const auto& pair) {
+    using P = std::remove_cvref_t<decltype(pair)>;
+    Random random(seed());
+    for (const int tapsLen : kTaps) {
+      if (testing::Test::HasFailure()) return;
+      auto h = samples<typename P::Taps>(static_cast<size_t>(tapsLen), random);
+      const int factor = static_cast<int>(random() % 40) - 30;
+      SCOPED_TRACE(testing::Message() << pair.name << ", taps " << tapsLen << ", seed " << seed());
+      Stream<P> stream(pair, tapsLen, random);
+      const auto bytes = static_cast<size_t>(pair.size(tapsLen));
+      Block memory(bytes + 128);
+      uint8_t* block = tapsLen % 2 ? memory.atEnd(bytes) : memory.atOffset(random() % 64, bytes);
+      auto* state = pair.build(h, factor, stream.newestFirst().data(), block);
+      auto oracle = oracleOf(pair, state, h);
+      for (int piece = 0; piece < 12 && !testing::Test::HasFailure(); ++piece) {
+        int scaleFactor = static_cast<int>(random() % 5);
+        if (!kIsFloat<typename P::Taps> || P::kHasFactor || std::string(pair.name).find("32s") == 0) {
+          scaleFactor += static_cast<int>(random() % 60) - 20 + (random() & 1 ? factor + 16 : 0);
+        }
+        if (std::string(pair.name) == "32s") scaleFactor = 28 + static_cast<int>(random() % 8);
+        stream.piece(state, oracle, pieceLength(random), scaleFactor);
+        if (piece % 5 != 4) continue;
+        h = samples<typename P::Taps>(h.size(), random);
+        EXPECT_EQ(P::run(pair.setTaps, factor, static_cast<const typename P::Taps*>(h.data()), state), qvxStatOk);
+        oracle = oracleOf(pair, state, h);
+      }
+      EXPECT_TRUE(memory.isIntact()) << "bytes outside the record";
+      EXPECT_EQ(pair.free(state), qvxStatOk);
+    }
+  });
+}
+
+// Bit for bit, also from a caller's own parallel region.
+TEST(FirStream, NobodyCanTellHowManyThreads) {
+  forEachPair([](const auto& pair) {
+    using P = std::remove_cvref_t<decltype(pair)>;
+    using T = typename P::Sample;
+    for (const int tapsLen : {15, 63, 130, 700}) {
+      Random random(seed());
+      const auto h = samples<typename P::Taps>(static_cast<size_t>(tapsLen), random);
+      const auto x = samples<T>(20011, random);
+      const auto filtered = [&](bool inPlace) {
+        auto* state = pair.allocate(h, 0, nullptr);
+        std::vector<T> y = x;
+        const int n = static_cast<int>(x.size());
+        if (inPlace) EXPECT_EQ(P::run(pair.inPlace, 8, y.data(), n, state), qvxStatOk);
+        else EXPECT_EQ(P::run(pair.block, 8, x.data(), y.data(), n, state), qvxStatOk);
+        EXPECT_EQ(pair.free(state), qvxStatOk);
+        return y;
+      };
+      const auto same = [&](const std::vector<T>& a, const std::vector<T>& b) {
+        return std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
+      };
+      for (const bool inPlace : {false, true}) {
+        SCOPED_TRACE(testing::Message() << pair.name << ", taps " << tapsLen << (inPlace ? ", in place" : ""));
+        qvxSetNumThreads(1);
+        const auto one = filtered(inPlace);
+        for (const int threads : {2, 3, 5}) {
+          qvxSetNumThreads(threads);
+          EXPECT_TRUE(same(filtered(inPlace), one)) << threads << " threads";
+        }
+        bool all = true;
+#pragma omp parallel num_threads(2) reduction(&& : all)
+        all = same(filtered(inPlace), one);
+        EXPECT_TRUE(all) << "from a region";
+        qvxSetNumThreads(0);
+      }
+    }
+  });
+}
+
+}  // namespace
