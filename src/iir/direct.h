@@ -21,7 +21,7 @@ template <class T> class Direct {
   static constexpr size_t kElements = kLanes / kParts;
   // Above, sample by sample is as fast: there a vector has all 32-bit lanes, and no more multiplications are made than taps ask
   // for.
-  static constexpr int kMostOrder = kLanes == 8 ? 48 : kLanes == 4 ? 32 : 16;
+  static constexpr int kMostOrder = kLanes == 8 ? 48 : kLanes == 4 ? 24 : 16;
   using Number = Coefficient<kParts>;
 
   // The tables' room in the block.
