@@ -21,6 +21,7 @@ void narrow(Suite& suite);
 void floatToInt(Suite& suite);
 void half(Suite& suite);
 void complexForms(Suite& suite);
+void polar(Suite& suite);
 void compand(Suite& suite);
 void channels(Suite& suite);
 void threshold(Suite& suite);
@@ -28,7 +29,9 @@ void sum(Suite& suite);
 void extrema(Suite& suite);
 void norm(Suite& suite);
 void dotProduct(Suite& suite);
+void spectrum(Suite& suite);
 void fir(Suite& suite);
+void iir(Suite& suite);
 
 // clang-format off
 // In the order of the library's entry table.
@@ -49,6 +52,7 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     floatToInt,
     half,
     complexForms,
+    polar,
     compand,
     channels,
     threshold,
@@ -56,7 +60,9 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     extrema,
     norm,
     dotProduct,
+    spectrum,
     fir,
+    iir,
 };
 // clang-format on
 

@@ -71,6 +71,8 @@ inline constexpr auto split16sc = [](const Qvx16sc* a, Qvx16s* re, Qvx16s* im, i
 inline constexpr auto split32fc = [](C a, float* re, float* im, int n) { volk_32fc_deinterleave_32f_x2(re, im, complex(a), n); };
 inline constexpr auto join32f = [](F re, F im, Qvx32fc* d, int n) { volk_32f_x2_interleave_32fc(complex(d), re, im, n); };
 inline constexpr auto conj32fc = [](C a, Qvx32fc* d, int n) { volk_32fc_conjugate_32fc(complex(d), complex(a), n); };
+inline constexpr auto magnitude32fc = [](C a, float* d, int n) { volk_32fc_magnitude_32f(d, complex(a), n); };
+inline constexpr auto phase32fc = [](C a, float* d, int n) { volk_32fc_s32f_atan2_32f(d, complex(a), 1.0F, n); };
 inline constexpr auto power32fc = [](C a, float* d, int n) { volk_32fc_magnitude_squared_32f(d, complex(a), n); };
 
 inline constexpr auto sum32f = [](F a, int n, float* r, int) { volk_32f_accumulator_s32f(r, a, n); };

@@ -13,6 +13,8 @@
 #include <qvx/qvxs_stats.h>
 #include <qvx/qvxs_norm.h>
 #include <qvx/qvxs_fft.h>
+#include <qvx/qvxs_spectrum.h>
 #include <qvx/qvxs_fir.h>
+#include <qvx/qvxs_iir.h>
 
 #endif

@@ -124,7 +124,7 @@ QVXS_API(QvxStatus, qvxsCartToPolar_16sc_Sfs,
          (const Qvx16sc* pSrc, Qvx16s* pDstMagn, Qvx16s* pDstPhase, int len, int magnScaleFactor, int phaseScaleFactor));
 
 /** dst[n] = srcMagn[n] * (cos(srcPhase[n]) + i sin(srcPhase[n])), phases in radians over the whole range of the type.
- *  Floats: the product in 64-bit floats of a sine or cosine; 32f within 0.6 ULP, 64f within 1.5 ULP of the product. An infinite
+ *  Floats: the product in 64-bit floats of a sine or cosine; 32f within 0.6 ULP, 64f within 2.2 ULP of the product. An infinite
  *  phase gives NaN.
  *  16sc_Sfs: magnitudes times 2^-magnScaleFactor, phases times 2^-phaseScaleFactor, both scale factors limited to -31 to 31.
  *  16sc, 32sc: phases with phaseFixedPoint places behind the point, 0 to 15 (32sc: 0 to 31).

@@ -1,7 +1,10 @@
 // Channels of floats joined to interleaved integers, and split again.
 //
-// One channel is a conversion. Two 16-bit channels are 32-bit lanes with one sample in each half. All other counts go through
-// transposed tiles: 8 channels of 8 frames (4 of 8 up to four channels) of 16 bits, 4 of 4 frames of 24 bits.
+// One channel is a conversion. Two 16-bit channels are 32-bit lanes with one sample in each half. Three and four are
+// split by whole registers (a quarter of the time of tiles). All other counts go through transposed tiles: 8 channels of 8 frames
+// (4 of 8 up to four channels) of 16 bits, 4 of 4 frames of 24 bits.
+#include <array>
+
 #include "convert/interleave.h"
 #include "frame/packed24.h"
 #include "frame/rounding.h"
@@ -167,21 +170,42 @@ template <class Sample> void join16(Sample sample, const Qvx32f* const* src, siz
   }
 }
 
-// Two destinations of a kernel that gives a pair.
-struct Stereo {
+// A channel each for what a kernel gives.
+template <size_t K> struct Channels {
   using Lane = Qvx32f;
-  Qvx32f* left;
-  Qvx32f* right;
+  Qvx32f* const* p;
 
-  template <size_t N, class V> void put(Pair<V> v, size_t at) const {
-    store(v.lo, TagOf<V>(), left + at);
-    store(v.hi, TagOf<V>(), right + at);
+  template <size_t N, class V> void put(const std::array<V, K>& v, size_t at) const {
+#pragma GCC unroll 4
+    for (size_t c = 0; c < K; ++c) store(v[c], TagOf<V>(), p[c] + at);
   }
-  template <size_t N, class V> void put(Pair<V> v, size_t at, size_t n) const {
-    storeFirst(v.lo, TagOf<V>(), left + at, n);
-    storeFirst(v.hi, TagOf<V>(), right + at, n);
+  template <size_t N, class V> void put(const std::array<V, K>& v, size_t at, size_t n) const {
+#pragma GCC unroll 4
+    for (size_t c = 0; c < K; ++c) storeFirst(v[c], TagOf<V>(), p[c] + at, n);
   }
-  template <size_t N> size_t misaligned() const { return destination(left).template misaligned<N>(); }
+  template <size_t N> size_t misaligned() const { return destination(p[0]).template misaligned<N>(); }
+};
+
+// N frames of three or four channels.
+template <size_t K> struct Frames {
+  using Lane = Qvx16s;
+  const Qvx16s* p;
+
+  template <size_t N> auto get(size_t at) const { return channelsOf<N>(p + K * at); }
+  template <size_t N> auto get(size_t at, size_t n) const {
+    Qvx16s some[K * N] = {};
+    std::memcpy(some, p + K * at, K * n * sizeof(Qvx16s));
+    return channelsOf<N>(some);
+  }
+
+ private:
+  template <size_t N> static auto channelsOf(const Qvx16s* from) {
+    const Lanes<Qvx16s, N> d;
+    std::array<Vec<decltype(d)>, K> v;
+    if constexpr (K == 3) hn::LoadInterleaved3(d, from, v[0], v[1], v[2]);
+    else hn::LoadInterleaved4(d, from, v[0], v[1], v[2], v[3]);
+    return v;
+  }
 };
 
 void split16(const Qvx16s* src, size_t channels, size_t n, Qvx32f* const* dst) {
@@ -190,9 +214,15 @@ void split16(const Qvx16s* src, size_t channels, size_t n, Qvx32f* const* dst) {
   } else if (channels == 2) {
     const auto both = [](auto v) {
       const auto left = FullScaleOf16()(hn::ShiftRight<16>(hn::ShiftLeft<16>(v)));
-      return Pair<std::remove_const_t<decltype(left)>>{left, FullScaleOf16()(hn::ShiftRight<16>(v))};
+      return std::array{left, FullScaleOf16()(hn::ShiftRight<16>(v))};
     };
-    loop(both, Stereo{dst[0], dst[1]}, n, source(reinterpret_cast<const Qvx32s*>(src)));
+    loop(both, Channels<2>{dst}, n, source(reinterpret_cast<const Qvx32s*>(src)));
+  } else if (channels == 3) {
+    const auto each = [to = FullScaleOf16()](auto v) { return std::array{to(v[0]), to(v[1]), to(v[2])}; };
+    loop(each, Channels<3>{dst}, n, Frames<3>{src});
+  } else if (channels == 4) {
+    const auto each = [to = FullScaleOf16()](auto v) { return std::array{to(v[0]), to(v[1]), to(v[2]), to(v[3])}; };
+    loop(each, Channels<4>{dst}, n, Frames<4>{src});
   } else {
     byWidth16(channels, [=](auto width) {
       constexpr size_t G = decltype(width)::value;

@@ -1,31 +1,9 @@
 // Vectors from their last element to their first.
-#include "frame/map.h"
+#include "frame/flip.h"
 
 using namespace qvx;
 
 namespace {
-
-// Lanes as wide as the element, but the widest element has a lane for each part.
-template <class T>
-using Word = std::conditional_t<(sizeof(T) > 8), Part<T>, hwy::UnsignedFromSize<std::min<size_t>(sizeof(T), 8)>>;
-template <class T> inline constexpr size_t kWords = sizeof(T) / sizeof(Word<T>);
-
-template <class T> Word<T>* words(T* p) { return reinterpret_cast<Word<T>*>(p); }
-template <class T> const Word<T>* words(const T* p) { return reinterpret_cast<const Word<T>*>(p); }
-
-template <size_t kWordsOfElement, class V> V flipped(V v) {
-  if constexpr (kWordsOfElement == 1) return reversed(v);
-  else return hn::Reverse2(TagOf<V>(), reversed(v));
-}
-
-// The first n elements, which fill no vector of 16 bytes, flipped to the front of it.
-template <size_t kElementBytes, class V> V flippedFirst(V v, size_t n) {
-  const Lanes<uint8_t, 16> d;
-  const auto last = hn::Set(d, static_cast<uint8_t>((n - 1) * kElementBytes));
-  const auto element = hn::AndNot(hn::Set(d, kElementBytes - 1), hn::Iota(d, 0));
-  const auto within = hn::And(hn::Set(d, kElementBytes - 1), hn::Iota(d, 0));
-  return as<LaneOf<V>>(hn::TableLookupBytesOr0(as<uint8_t>(v), last - element + within));
-}
 
 // A source that is read from its end.
 template <class T> struct Flipped {
@@ -76,22 +54,14 @@ template <class T> QvxStatus flipInPlace(T* dst, int len) {
 }
 
 constexpr auto asIs = [](auto v) { return v; };
-
-// Conjugates, in words of the element.
-constexpr auto conjugate16 = [](auto v) {
-  const auto z = as<int16_t>(v);
-  const TagOf<std::remove_const_t<decltype(z)>> d;
-  return as<uint32_t>(hn::OddEven(hn::SaturatedSub(hn::Zero(d), z), z));
-};
-constexpr auto conjugate32 = [](auto v) { return v ^ same<decltype(v)>(uint64_t{1} << 63); };
-constexpr auto conjugate64 = [](auto v) { return hn::OddEven(hn::Neg(v), v); };
+template <class C> constexpr auto conjugate = [](auto v) { return conjugateWords<C>(v); };
 
 }  // namespace
 
 // clang-format off
-QvxStatus qvxsConjFlip_16sc(const Qvx16sc* a, Qvx16sc* d, int len) { return flip(a, d, len, conjugate16); }
-QvxStatus qvxsConjFlip_32fc(const Qvx32fc* a, Qvx32fc* d, int len) { return flip(a, d, len, conjugate32); }
-QvxStatus qvxsConjFlip_64fc(const Qvx64fc* a, Qvx64fc* d, int len) { return flip(a, d, len, conjugate64); }
+QvxStatus qvxsConjFlip_16sc(const Qvx16sc* a, Qvx16sc* d, int len) { return flip(a, d, len, conjugate<Qvx16sc>); }
+QvxStatus qvxsConjFlip_32fc(const Qvx32fc* a, Qvx32fc* d, int len) { return flip(a, d, len, conjugate<Qvx32fc>); }
+QvxStatus qvxsConjFlip_64fc(const Qvx64fc* a, Qvx64fc* d, int len) { return flip(a, d, len, conjugate<Qvx64fc>); }
 
 QvxStatus qvxsFlip_8u(const Qvx8u* a, Qvx8u* d, int len) { return flip(a, d, len, asIs); }
 QvxStatus qvxsFlip_8u_I(Qvx8u* d, int len) { return flipInPlace(d, len); }

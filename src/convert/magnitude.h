@@ -14,6 +14,13 @@ template <class V, class W> Pair<V> fromDoubles(Pair<W> x) {
   return each(x, [](W part) { return convertLanes<LaneOf<V>>(part); });
 }
 
+// The parts of interleaved elements, of which there are half as many as lanes.
+template <class V> auto partsOf(V x) {
+  const TagOf<V> d;
+  const hn::Half<TagOf<V>> half;
+  return Pair<Vec<hn::Half<TagOf<V>>>>{hn::LowerHalf(half, hn::ConcatEven(d, x, x)), hn::LowerHalf(half, hn::ConcatOdd(d, x, x))};
+}
+
 template <class W> W squareOf(Pair<W> x) { return x.lo * x.lo + x.hi * x.hi; }
 
 // An element x as value / unit. The unit is a power of two: 1 for 32-bit elements, whose squares fit a double wherever they lie;

@@ -1,5 +1,4 @@
 // Complex elements clipped to a magnitude or replaced beyond it.
-#include <array>
 #include <cmath>
 #include <cstdlib>
 
@@ -31,11 +30,6 @@ template <Side kSide, class T> struct Replace {
 
 // 32-bit elements as they lie in memory: a whole one is as wide as the double of its square, so the comparison's mask chooses
 // among elements (0.6 of the time of parts that are put together again).
-template <class V> auto partsOf(V x) {
-  const TagOf<V> d;
-  const hn::Half<TagOf<V>> half;
-  return Pair<Vec<hn::Half<TagOf<V>>>>{hn::LowerHalf(half, hn::ConcatEven(d, x, x)), hn::LowerHalf(half, hn::ConcatOdd(d, x, x))};
-}
 template <Side kSide> struct ReplaceSingle {
   double level;
 
@@ -50,6 +44,11 @@ template <Side kSide> struct Clip {
   double level;
 
   template <class V> Pair<V> operator()(Pair<V> x) const {
+    if constexpr (std::is_same_v<LaneOf<V>, double>) {
+      const V square = squareOf(x);
+      if (needNoUnit(square)) [[likely]]
+        return unscaled(x, square);
+    }
     const auto m = measured(x);
     const auto beyond = passes<kSide>(m, level);
     if (!isAny(beyond, m.square)) return x;
@@ -69,6 +68,22 @@ template <Side kSide> struct Clip {
       if constexpr (kSide == Side::kBelow) part = part * same<W>(large);
       return part * factor;
     });
+  }
+
+  // Units are powers of two, so squares that stay within a double's range without them give the same bits (8 elements: 12 cycles,
+  // not 15).
+  template <class V> bool needNoUnit(V square) const {
+    constexpr double kLeast = 0x1p-900;
+    constexpr double kMost = 0x1p1000;
+    if (!(level * level > kLeast && level * level < kMost)) return false;
+    return hn::AllTrue(TagOf<V>(), kSide == Side::kBelow ? square > same<V>(kLeast) : square < same<V>(kMost));
+  }
+  template <class V> Pair<V> unscaled(Pair<V> x, V square) const {
+    const V limit = same<V>(level * level);
+    const auto beyond = kSide == Side::kBelow ? square < limit : square > limit;
+    if (!isAny(beyond, square)) return x;
+    const V factor = same<V>(level) / hn::Sqrt(square);
+    return replaced(beyond, Pair<V>{x.lo * factor, x.hi * factor}, x);
   }
 
   // A zero has the phase of its signs.
@@ -98,18 +113,7 @@ template <Side kSide> struct ClipSingle {
     if (!isAny(beyond, m.square)) return x;
     using Half = Vec<hn::Half<TagOf<V>>>;
     const Pair<Half> clipped = fromDoubles<Half>(Clip<kSide>{level}.onSide(m));
-    return as<float>(hn::IfThenElse(beyond, as<double>(inTurn(hn::Combine(TagOf<V>(), clipped.hi, clipped.lo))), as<double>(x)));
-  }
-
- private:
-  template <class V> static V inTurn(V halves) {
-    constexpr size_t N = kLanesOf<V>;
-    alignas(64) static constexpr auto kOrder = [] {
-      std::array<int32_t, N> order{};
-      for (size_t i = 0; i < N; ++i) order[i] = static_cast<int32_t>(i / 2 + i % 2 * (N / 2));
-      return order;
-    }();
-    return hn::TableLookupLanes(halves, hn::SetTableIndices(TagOf<V>(), kOrder.data()));
+    return as<float>(hn::IfThenElse(beyond, as<double>(inTurn(clipped)), as<double>(x)));
   }
 };
 
@@ -148,35 +152,75 @@ int32_t exactPart(int32_t part, uint32_t square, int level) {
   return part < 0 ? -static_cast<int32_t>(whole) : static_cast<int32_t>(whole);
 }
 
-// The quotients come from doubles, which are off by 2^-36 at most whatever the rounding mode. One of those nearer than 2^-30 to
-// the middle of two integers, 1 in 10^9, sends its vector to exactPart.
+// Three times the same quotients, each for what the one before leaves in doubt. Floats give them within 2.5 roundings and so the
+// nearest integer for all elements but those whose quotient lies close to the middle of two; a vector with one of those, 1 in 14,
+// goes through doubles (16 elements: 20 cycles on average, 31 through doubles alone).
 template <Side kSide> struct Clip16 {
   int level;
+  float radius = static_cast<float>(level);
 
   template <class V> V operator()(V x) const {
     const auto less1 = squareLess1(x);
     const auto beyond = passes<kSide>(less1, level);
     using W = std::remove_const_t<decltype(less1)>;
-    const TagOf<W> d;
-    if (hn::AllFalse(d, beyond)) return x;
+    if (hn::AllFalse(TagOf<W>(), beyond)) return x;
+    const W both = as<int32_t>(x);
+    W square = less1 + same<W>(1);  // 2^31 becomes a negative number, which has no root: in doubt
+    if constexpr (kSide == Side::kBelow) square = hn::Max(square, same<W>(1));  // zeros are seen to behind
+    const auto size = Quiet::root(Quiet::floatOf(square));
+    using F = std::remove_const_t<decltype(size)>;
+    const F factor = Quiet::quotient(same<F>(radius), size);
+    const F re = convertLanes<float>(hn::ShiftRight<16>(hn::ShiftLeft<16>(both)));
+    const F im = convertLanes<float>(hn::ShiftRight<16>(both));
+    const F wholeRe = hn::Round(re * factor);
+    const F wholeIm = hn::Round(im * factor);
+    const auto isClear = hn::And(isNearest(wholeRe, re, factor), isNearest(wholeIm, im, factor));
+    if (!hn::AllFalse(TagOf<W>(), hn::AndNot(hn::RebindMask(TagOf<W>(), isClear), beyond))) [[unlikely]]
+      return inDoubles(x);
+    return clipped(less1, beyond, both, toIntTruncated(wholeRe), toIntTruncated(wholeIm));
+  }
+
+ private:
+  // What may lie between a quotient of floats and the true one, as a part of it: 2.5 roundings to nearest, twice as much in other
+  // modes, and another where the product cannot be fused.
+  static constexpr float kError = kQuietByInstruction ? 0x1.5p-23F : 0x1p-21F;
+
+  template <class F> static auto isNearest(F whole, F part, F factor) {
+    const F behind = hn::Abs(hn::MulSub(part, factor, whole));
+    return behind < hn::NegMulAdd(hn::Abs(whole), same<F>(kError), same<F>(0.5F - 0x1p-22F));
+  }
+
+  template <class W, class M> auto clipped(W less1, M beyond, W both, W re, W im) const {
+    if constexpr (kSide == Side::kBelow) re = hn::IfThenElse(less1 == same<W>(-1), same<W>(level), re);
+    const auto joined = hn::OddEven(as<int16_t>(hn::ShiftLeft<16>(im)), as<int16_t>(re));
+    return as<int16_t>(hn::IfThenElse(beyond, as<int32_t>(joined), both));
+  }
+
+  template <class V> [[gnu::noinline]] V inDoubles(V x) const {
+    const hn::Half<TagOf<V>> half;
+    return hn::Combine(TagOf<V>(), halfInDoubles(hn::UpperHalf(half, x)), halfInDoubles(hn::LowerHalf(half, x)));
+  }
+
+  // Off by 2^-35 at most whatever the rounding mode. A quotient nearer than 2^-30 to the middle of two integers, 1 in 10^9, sends
+  // its vector to exactPart.
+  template <class V> V halfInDoubles(V x) const {
+    const auto less1 = squareLess1(x);
+    const auto beyond = passes<kSide>(less1, level);
+    using W = std::remove_const_t<decltype(less1)>;
     const W both = as<int32_t>(x);
     // A zero counts as a one here, so that its quotients are numbers.
-    const auto perLevel = factor(kSide == Side::kBelow ? hn::Max(less1, same<W>(0)) : less1);
+    const auto perLevel = factorOf(hn::Max(less1, same<W>(0)));
     const auto re = convertLanes<double>(hn::ShiftRight<16>(hn::ShiftLeft<16>(both))) * perLevel;
     const auto im = convertLanes<double>(hn::ShiftRight<16>(both)) * perLevel;
-    W wholeRe = toIntNearest(re);
+    const W wholeRe = toIntNearest(re);
     const W wholeIm = toIntNearest(im);
     const auto behind = hn::Max(hn::Abs(re - convertLanes<double>(wholeRe)), hn::Abs(im - convertLanes<double>(wholeIm)));
     using F = std::remove_const_t<decltype(behind)>;
     if (!hn::AllTrue(TagOf<F>(), behind < same<F>(0.5 - 0x1p-30))) [[unlikely]]
       return as<int16_t>(hn::IfThenElse(beyond, exact(both, less1), both));
-    if constexpr (kSide == Side::kBelow) wholeRe = hn::IfThenElse(less1 == same<W>(-1), same<W>(level), wholeRe);
-    const V clipped = hn::OddEven(as<int16_t>(hn::ShiftLeft<16>(wholeIm)), as<int16_t>(wholeRe));
-    return as<int16_t>(hn::IfThenElse(beyond, as<int32_t>(clipped), both));
+    return clipped(less1, beyond, both, wholeRe, wholeIm);
   }
-
- private:
-  template <class W> auto factor(W less1) const {
+  template <class W> auto factorOf(W less1) const {
     const auto square = convertLanes<double>(less1);
     using F = std::remove_const_t<decltype(square)>;
     return same<F>(level) / hn::Sqrt(square + same<F>(1));
@@ -200,10 +244,9 @@ template <Side kSide> struct Clip16 {
 
 // ---- the functions
 
-// Runs a kernel over all elements, with as many at a time as fill a register with what it computes in: 16-bit elements, or the
-// real parts of floats as doubles.
-template <class Inner = uint8_t, class Kernel, class T, class... Src> QvxStatus over(Kernel kernel, T* dst, int len, Src... src) {
-  return loop<Inner>(kernel, destination(dst), 2 * elements(len), source(src)...);
+// Runs a kernel over all elements: as they lie in memory, or by parts with as many at a time as fill a register as doubles.
+template <class Kernel, class T, class... Src> QvxStatus over(Kernel kernel, T* dst, int len, Src... src) {
+  return loop(kernel, destination(dst), 2 * elements(len), source(src)...);
 }
 template <class Kernel, class T> QvxStatus overParts(Kernel kernel, const T* src, T* dst, int len) {
   return loop<double>(kernel, InterleavedDestination<Part<T>>{parts(dst)}, elements(len), deinterleaved(src));
@@ -212,7 +255,7 @@ template <class Kernel, class T> QvxStatus overParts(Kernel kernel, const T* src
 template <Side kSide, class T> QvxStatus clip(const T* src, T* dst, int len, Part<T> level) {
   const QvxStatus status = checkLevel(len, src, dst, level);
   if (status != qvxStatOk) return status;
-  if constexpr (std::is_same_v<T, Qvx16sc>) return over<Qvx32s>(Clip16<kSide>{level}, dst, len, src);
+  if constexpr (std::is_same_v<T, Qvx16sc>) return over(Clip16<kSide>{level}, dst, len, src);
   else if constexpr (std::is_same_v<T, Qvx32fc>) return over(ClipSingle<kSide>{level}, dst, len, src);
   else return overParts(Clip<kSide>{level}, src, dst, len);
 }

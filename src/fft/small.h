@@ -36,11 +36,10 @@ template <size_t kPoints, class Src, class Dst, class Fit> QVX_INLINE void inTwo
   using T = typename Dst::Lane;
   constexpr size_t L = std::min(kWidest<T>, size_t{4});
   constexpr size_t R = kRowRadix<L>;
-  constexpr size_t kRows = kPoints / R;
   if constexpr (kPoints == L * L) return transformInSquare<L>(src, dst, kRowRoots<T, L, kPoints, Src>.group[0], fit);
   alignas(64) T y[2 * kPoints];
-  rowPass<L>(src, y, kRows, kRowRoots<T, L, kPoints, Src>.group[0], 0, kRows);
-  lastPass<kRows, L>(y, 1, dst, 0, 1, fit);
+  rowPass<L>(src, y, kPoints / R, kRowRoots<T, L, kPoints, Src>.group[0], 0, kPoints / R);
+  lastPass<kPoints / R, L>(y, 1, dst, 0, 1, fit);
 }
 
 template <size_t kPoints, class Src, class Dst, class Fit> QVX_INLINE void inHalves(Src src, Dst dst, Fit fit) {

@@ -4,6 +4,7 @@
 
 #define QVXS_QUOTE_(x) #x
 #define QVXS_QUOTE(x) QVXS_QUOTE_(x)
+#undef QVXS_API  // qvxdefs.h may have come first
 #define QVXS_API(result, name, arguments) result name arguments __asm__(QVXS_QUOTE(QVXS_VARIANT) "_" #name)
 
 #include <qvx/qvxs.h>

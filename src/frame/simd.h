@@ -79,9 +79,20 @@ inline __m128i toIntTruncated(__m128 v) { return _mm_cvttps_epi32(v); }
 inline __m128i toIntCurrent(__m128d v) { return _mm_cvtpd_epi32(v); }
 inline __m128i toIntTruncated(__m128d v) { return _mm_cvttpd_epi32(v); }
 inline __m128i pairProducts(__m128i a, __m128i b) { return _mm_madd_epi16(a, b); }
+template <int kBy> __m128d delayed(__m128d before, __m128d v) { return _mm_shuffle_pd(before, v, 0x1); }
+template <int kAt> __m128d everyLane(__m128d v) { return _mm_shuffle_pd(v, v, kAt * 0x3); }
+template <int kAt> __m128d everyBlock(__m128d v) { return v; }
 inline __m128 evens(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0x88); }
 inline __m128 odds(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0xDD); }
 #if HWY_TARGET <= HWY_AVX2
+template <int kBy> __m256d delayed(__m256d before, __m256d v) {
+  const __m256d middle = _mm256_permute2f128_pd(before, v, 0x21);
+  if constexpr (kBy == 2) return middle;
+  else if constexpr (kBy == 1) return _mm256_shuffle_pd(middle, v, 0x5);
+  else return _mm256_shuffle_pd(before, middle, 0x5);
+}
+template <int kAt> __m256d everyLane(__m256d v) { return _mm256_permute4x64_pd(v, kAt * 0x55); }
+template <int kAt> __m256d everyBlock(__m256d v) { return _mm256_permute2f128_pd(v, v, kAt * 0x11); }
 inline __m256 evens(__m256 x, __m256 y) { return _mm256_shuffle_ps(x, y, 0x88); }
 inline __m256 odds(__m256 x, __m256 y) { return _mm256_shuffle_ps(x, y, 0xDD); }
 template <class V> auto twice(V v) {
@@ -119,6 +130,11 @@ inline __m128i packU16(__m128i lo, __m128i hi) {  // for lanes from -2^31 + 2^15
 }
 #endif
 #if HWY_TARGET == HWY_AVX3
+template <int kBy> __m512d delayed(__m512d before, __m512d v) {
+  return _mm512_castsi512_pd(_mm512_alignr_epi64(_mm512_castpd_si512(v), _mm512_castpd_si512(before), 8 - kBy));
+}
+template <int kAt> __m512d everyLane(__m512d v) { return _mm512_permutexvar_pd(_mm512_set1_epi64(kAt), v); }
+template <int kAt> __m512d everyBlock(__m512d v) { return _mm512_shuffle_f64x2(v, v, kAt * 0x55); }
 inline __m512 evens(__m512 x, __m512 y) { return _mm512_shuffle_ps(x, y, 0x88); }
 inline __m512 odds(__m512 x, __m512 y) { return _mm512_shuffle_ps(x, y, 0xDD); }
 inline __m512 evenBlocks(__m512 a, __m512 b) { return _mm512_shuffle_f32x4(a, b, 0x88); }
@@ -190,6 +206,8 @@ inline __m512d negMulAddNearest(__m512d a, __m512d b, __m512d c) { return _mm512
 inline __m512d productNearest(__m512d a, __m512d b) { return _mm512_mul_round_pd(a, b, kNearest); }
 inline __m512 quotientNearest(__m512 a, __m512 b) { return _mm512_div_round_ps(a, b, kNearest); }
 inline __m512d quotientNearest(__m512d a, __m512d b) { return _mm512_div_round_pd(a, b, kNearest); }
+inline __m512 rootNearest(__m512 v) { return _mm512_sqrt_round_ps(v, kNearest); }
+inline __m512 toFloatNearest(__m512i v) { return _mm512_cvt_roundepi32_ps(v, kNearest); }
 inline __m512 greaterQuiet(__m512 v, __m512 held) { return _mm512_max_round_ps(v, held, _MM_FROUND_NO_EXC); }
 inline __m512d greaterQuiet(__m512d v, __m512d held) { return _mm512_max_round_pd(v, held, _MM_FROUND_NO_EXC); }
 inline __m512d toDoubleQuiet(__m128 v) { return _mm512_cvt_roundps_pd(_mm256_castps128_ps256(v), _MM_FROUND_NO_EXC); }
@@ -407,6 +425,18 @@ template <class V> auto twice(V v) {
   }
 }
 
+// Doubles as they were kBy lanes ago: the last kBy of the vector before, then the first of v. Up to a whole vector.
+template <size_t kBy, class V> V delayed(V before, V v) {
+  static_assert(std::is_same_v<LaneOf<V>, double> && kBy <= kLanesOf<V>);
+  if constexpr (kBy == 0) return v;
+  else if constexpr (kBy == kLanesOf<V>) return before;
+  else return V{detail::delayed<kBy>(before.raw, v.raw)};
+}
+
+// Doubles: one lane, or one block of two, in every place.
+template <size_t kAt, class V> V everyLane(V v) { return V{detail::everyLane<kAt>(v.raw)}; }
+template <size_t kAt, class V> V everyBlock(V v) { return V{detail::everyBlock<kAt>(v.raw)}; }
+
 // The even and the odd lanes of two vectors, within their 128-bit blocks: x0 x2 y0 y2 x4 x6 y4 y6 of floats.
 template <class V> Complex<V> evenAndOdd(V x, V y) {
   const TagOf<V> d;
@@ -539,7 +569,7 @@ template <class T> __m512i lanesOfBoth(__m512i a, const T* order, __m512i b) {
 }  // namespace detail
 #endif
 
-// The lanes of both vectors in turn: lo[0], hi[0], lo[1] ... in the first of the result. And back.
+// The lanes of both vectors in turn: lo[0], hi[0], lo[1] ... in the first of the result.
 template <class V> Pair<V> interleaved(Pair<V> v) {
   const TagOf<V> d;
 #if HWY_TARGET == HWY_AVX3
@@ -557,6 +587,25 @@ template <class V> Pair<V> interleaved(Pair<V> v) {
   if constexpr (kLanesOf<V> * sizeof(LaneOf<V>) <= 16) return {lower, upper};
   else return {hn::ConcatLowerLower(d, upper, lower), hn::ConcatUpperUpper(d, upper, lower)};
 }
+// The same of two half vectors in a whole one.
+template <class V> auto inTurn(Pair<V> v) {
+  using Whole = Vec<hn::Twice<TagOf<V>>>;
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (sizeof(Whole) == 64) {
+    using T = hwy::UnsignedFromSize<sizeof(LaneOf<V>)>;
+    const auto lo = as<uint8_t>(v.lo);
+    const auto hi = as<uint8_t>(v.hi);
+    const auto both = detail::lanesOfBoth(detail::whole(lo.raw), detail::kInTurn<T>.low, detail::whole(hi.raw));
+    return as<LaneOf<V>>(Vec<Lanes<uint8_t, 64>>{both});
+  } else
+#endif
+  {
+    static_assert(sizeof(V) <= 16);
+    const TagOf<V> d;
+    return hn::Combine(TagOf<Whole>(), hn::InterleaveUpper(d, v.lo, v.hi), hn::InterleaveLower(d, v.lo, v.hi));
+  }
+}
+// And back.
 template <class V> Pair<V> deinterleaved(Pair<V> v) {
   const TagOf<V> d;
   return {hn::ConcatEven(d, v.hi, v.lo), hn::ConcatOdd(d, v.hi, v.lo)};
@@ -622,6 +671,24 @@ struct Quiet {
 #else
     return a / b;
 #endif
+  }
+  template <class V> static V root(V v) {
+#if HWY_TARGET == HWY_AVX3
+    detail::partOf(detail::rootNearest(detail::whole(v.raw)), v.raw);
+    return v;
+#else
+    return hn::Sqrt(v);
+#endif
+  }
+  // Of 32-bit integers.
+  template <class V> static auto floatOf(V v) {
+    Vec<hn::Rebind<float, TagOf<V>>> f;
+#if HWY_TARGET == HWY_AVX3
+    detail::partOf(detail::toFloatNearest(detail::whole(v.raw)), f.raw);
+#else
+    f = hn::ConvertTo(TagOf<decltype(f)>(), v);
+#endif
+    return f;
   }
   // As greater().
   template <class V> static V max(V v, V held) {

@@ -1,7 +1,7 @@
 // Sine and cosine of whole vectors of double.
 //
-// kDigits 53: error below 0.8 ULP. kDigits 24: good for a float, that is within 2^-28 of the result. Any finite angle will do:
-// those above kFarAngle are left to the C library, one by one, as is what is not finite.
+// kDigits 53: error below 0.85 ULP (0.807 seen). kDigits 24: good for a float, that is within 2^-28 of the result. Any finite
+// angle will do: those above kFarAngle are left to the C library, one by one, as is what is not finite.
 //
 // x = k pi/2 + r. pi/2 is given in three parts; the products of k below 2^20 with the first two are exact.
 #pragma once

@@ -122,6 +122,9 @@ bool isElementaryFloat(const Export& e) {
   return stems.count(e.name.substr(0, tag)) != 0 && e.name.find('f', tag) != std::string::npos && e.indexOf("scaleFactor") < 0;
 }
 
+// The order of operations in a recursion is a variant's own too.
+bool isRecursive(const Export& e) { return e.name.find("IIR") != e.name.npos; }
+
 // The lanes that a reduction of floats adds up in differ, and with them its rounding: its own tests know how far.
 bool reducesFloats(const Export& e) {
   static const std::set<std::string> stems = {"Sum", "Mean", "StdDev", "MeanStdDev", "Norm", "NormDiff", "DotProd"};
@@ -134,7 +137,7 @@ TEST(AllVariants, GiveTheSameBits) {
   if (all.size() < 2) GTEST_SKIP() << "one variant only";
   size_t calls = 0;
   for (const Export& e : tests::exportTable()) {
-    if (!e.call || handlesRecords(e)) continue;
+    if (!e.call || handlesRecords(e) || isRecursive(e)) continue;
     std::vector<void*> functions;
     for (const Library& library : all) functions.push_back(dlsym(library.handle, e.name.c_str()));
     const bool hasScale = e.indexOf("scaleFactor") >= 0;

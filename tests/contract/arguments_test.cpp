@@ -83,12 +83,13 @@ class Plain : public tests::Arguments {
     const std::string& name = export_.parameters[index].name;
     if (values_.count(name) != 0) return values_[name];
     static const std::set<std::string> lengths = {"len", "tblLen", "nChannels", "chanLen"};
-    return lengths.count(name) != 0 ? kLength : name == "val" || name == "rndMode" ? 1 : 0;
+    static const std::set<std::string> ones = {"val", "rndMode", "order", "numBq"};
+    return lengths.count(name) != 0 ? kLength : ones.count(name) != 0 ? 1 : 0;
   }
   double real(size_t index) override {
     const std::string& name = export_.parameters[index].name;
     if (reals_.count(name) != 0) return reals_[name];
-    return values_.count(name) != 0 ? static_cast<double>(values_[name]) : 1.5;
+    return values_.count(name) != 0 ? static_cast<double>(values_[name]) : name == "rFreq" ? 0.25 : 1.5;
   }
 
   QvxStatus call() { return export_.call(export_.address, *this); }

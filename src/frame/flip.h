@@ -1,0 +1,43 @@
+// Elements of any kind as words, read backwards and conjugated.
+#pragma once
+
+#include "frame/map.h"
+
+namespace qvx {
+
+// Lanes as wide as the element, but the widest element has a lane for each part.
+template <class T>
+using Word = std::conditional_t<(sizeof(T) > 8), Part<T>, hwy::UnsignedFromSize<std::min<size_t>(sizeof(T), 8)>>;
+template <class T> inline constexpr size_t kWords = sizeof(T) / sizeof(Word<T>);
+
+template <class T> Word<T>* words(T* p) { return reinterpret_cast<Word<T>*>(p); }
+template <class T> const Word<T>* words(const T* p) { return reinterpret_cast<const Word<T>*>(p); }
+
+template <size_t kWordsOfElement, class V> V flipped(V v) {
+  if constexpr (kWordsOfElement == 1) return reversed(v);
+  else return hn::Reverse2(TagOf<V>(), reversed(v));
+}
+
+// The first n elements, which fill no vector of 16 bytes, flipped to the front of it.
+template <size_t kElementBytes, class V> V flippedFirst(V v, size_t n) {
+  const Lanes<uint8_t, 16> d;
+  const auto last = hn::Set(d, static_cast<uint8_t>((n - 1) * kElementBytes));
+  const auto element = hn::AndNot(hn::Set(d, kElementBytes - 1), hn::Iota(d, 0));
+  const auto within = hn::And(hn::Set(d, kElementBytes - 1), hn::Iota(d, 0));
+  return as<LaneOf<V>>(hn::TableLookupBytesOr0(as<uint8_t>(v), last - element + within));
+}
+
+// Conjugates of complex elements C, in their words.
+template <class C, class V> V conjugateWords(V v) {
+  if constexpr (std::is_same_v<C, Qvx16sc>) {
+    const auto z = as<int16_t>(v);
+    const TagOf<std::remove_const_t<decltype(z)>> d;
+    return as<uint32_t>(hn::OddEven(hn::SaturatedSub(hn::Zero(d), z), z));
+  } else if constexpr (std::is_same_v<C, Qvx32fc>) {
+    return v ^ same<V>(uint64_t{1} << 63);
+  } else {
+    return hn::OddEven(hn::Neg(v), v);
+  }
+}
+
+}  // namespace qvx

@@ -1,0 +1,223 @@
+// The filtering call: blocks of samples are widened into working memory on the stack, go through all sections there, and are
+// rounded once on their way out.
+#pragma once
+
+#include "frame/power.h"
+#include "frame/to_int.h"
+#include "iir/init.h"
+#include "iir/recursion.h"
+
+namespace qvx {
+
+// Lanes of a block: with its work 4 KB, which leaves the first cache to the caller.
+inline constexpr size_t kBlockLanes = 512;
+
+// From this many numbers on, a vector at a time pays: below, the start of a kernel takes longer than the samples.
+inline constexpr size_t kWorthLookingAhead = 8;
+
+// ---- in and out
+
+template <class Data> void loadBlock(const Data* src, Lane* work, size_t lanes) {
+  loop([](auto v) { return convertLanes<Lane>(v); }, destination(work), lanes, source(src));
+}
+
+// Outputs as samples: integers times factor, to nearest even, saturated.
+template <class Data> struct Finish {
+  Lane factor;
+  template <class W> auto operator()(W v) const {
+    using R = Part<Data>;
+    if constexpr (std::is_floating_point_v<R>) {
+      return convertLanes<R>(v);
+    } else {
+      constexpr Lane kLeast = std::numeric_limits<R>::min();
+      constexpr Lane kMost = std::numeric_limits<R>::max();
+      return convertLanes<R>(toIntNearest(clippedBelow(clippedAbove(v * same<W>(factor), kMost), kLeast)));
+    }
+  }
+};
+
+template <class Data> void storeBlock(const Lane* work, Data* dst, size_t lanes, Finish<Data> finish) {
+  loop(finish, destination(dst), lanes, source(work));
+}
+
+// 2^-scaleFactor, finite: nothing but 0 stays inside any range 1000 places up.
+inline Lane outputFactor(int scaleFactor) { return powerOfTwo<Lane>(-std::clamp<int64_t>(scaleFactor, -1000, 1000)); }
+
+// ---- a block of n numbers in place
+
+template <class T> using LaneNumber = std::conditional_t<kParts<T> == 1, Qvx64f, Qvx64fc>;
+template <class To, class From> To numberOf(From v) { return number<To>(realPart(v), imaginaryPart(v)); }
+
+// n numbers, 2 or more, through a section with look-ahead after the delay line d, which is carried on.
+template <class T, class Src, class Dst, class Data>
+void lookAhead(const Section<T>& section, const Src* src, Dst* dst, size_t n, LaneNumber<T>* d, Finish<Data> finish) {
+  using N = LaneNumber<T>;
+  N t[5];
+  for (size_t i = 0; i < 5; ++i) t[i] = numberOf<N>(section.taps[i]);
+  N x[2] = {};
+  loadBlock(src + (n - 2) * (kParts<T> / kParts<Src>), parts(x), 2 * kParts<T>);
+  N y[2];
+  section.run(source(src), destination(dst), n, parts(d), finish, parts(y));
+  d[0] = sum(difference(product(t[2], x[0]), product(t[4], y[0])), difference(product(t[1], x[1]), product(t[3], y[1])));
+  d[1] = difference(product(t[2], x[1]), product(t[4], y[1]));
+}
+
+// The same with a delay line of T.
+template <class T, class Src, class Dst, class Data>
+void runSection(const Section<T>& section, const Src* src, Dst* dst, size_t n, T* line, Finish<Data> finish) {
+  LaneNumber<T> d[2] = {numberOf<LaneNumber<T>>(line[0]), numberOf<LaneNumber<T>>(line[1])};
+  lookAhead(section, src, dst, n, d, finish);
+  line[0] = numberOf<T>(d[0]);
+  line[1] = numberOf<T>(d[1]);
+}
+
+// A section in the direct form I, in place: its delay line becomes that of the transposed form for the time of the block.
+template <class T> void runDf1(const Section<T>& section, Lane* work, size_t n, T* line) {
+  const T* t = section.taps;
+  const Lane x2 = n < 2 ? line[1] : work[n - 2];
+  const Lane x1 = work[n - 1];
+  Lane d[2] = {Lane{t[2]} * line[0] + Lane{t[1]} * line[1] - Lane{t[4]} * line[2] - Lane{t[3]} * line[3],
+               Lane{t[2]} * line[1] - Lane{t[4]} * line[3]};
+  if (section.looksAhead && n >= kWorthLookingAhead) {
+    lookAhead(section, work, work, n, d, Finish<Lane>{1});
+  } else {
+    const Lane wide[5] = {t[0], t[1], t[2], t[3], t[4]};
+    for (size_t i = 0; i < n; ++i) work[i] = sectionOne(wide, d, work[i]);
+  }
+  line[0] = static_cast<T>(x2);
+  line[1] = static_cast<T>(x1);
+  line[2] = n < 2 ? line[3] : static_cast<T>(work[n - 2]);
+  line[3] = static_cast<T>(work[n - 1]);
+}
+
+// with(line): the delay line of sections, which a direct form up to order 2 is one of. Of order 1, its second value is the zero
+// behind it, and stays so.
+template <class T, class With> void withSectionLine(const IirRecord<T>& s, With with) {
+  if (!s.isDirect()) return with(s.line);
+  T line[2] = {s.line[0], s.order == 1 ? T{} : s.line[1]};
+  with(line);
+  std::copy_n(line, lineValues(s), s.line);
+}
+
+template <class T> void runDirect(const IirRecord<T>& s, Lane* work, size_t n) {
+  constexpr size_t kHistory = Direct<T>::kMostOrder * kParts<T>;
+  Lane x[kHistory + kBlockLanes + kLanes];
+  Lane y[kHistory + kBlockLanes + kLanes];
+  LaneNumber<T> d[Direct<T>::kMostOrder];
+  const size_t order = lineValues(s);
+  const size_t lanes = n * kParts<T>;
+  const size_t before = order * kParts<T>;
+  std::fill_n(x, before, 0);
+  std::fill_n(y, before, 0);
+  std::copy_n(work, lanes, x + before);
+  std::fill_n(x + before + lanes, kLanes, 0);
+  for (size_t i = 0; i < order; ++i) d[i] = numberOf<LaneNumber<T>>(s.line[i]);
+  s.direct->run(x + before, y + before, n, parts(d));
+  for (size_t i = 0; i < order; ++i) s.line[i] = numberOf<T>(d[i]);
+  std::copy_n(y + before, lanes, work);
+}
+
+template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
+  auto* at = reinterpret_cast<LaneNumber<T>*>(work);
+  const auto each = [&](auto one) {
+    for (size_t i = 0; i < n; ++i) at[i] = numberOf<LaneNumber<T>>(one(numberOf<T>(at[i])));
+  };
+  if (s.isDirect()) return each([&](T v) { return directOne(s.taps, s.line, lineValues(s), v); });
+  for (int k = 0; k < s.numBq; ++k) each([t = s.taps + 5 * k, d = s.line + 2 * k](T v) { return sectionOne(t, d, v); });
+}
+
+// All but what looks ahead by sections.
+template <class T> void runBlock(const IirRecord<T>& s, bool isDf1, Lane* work, size_t n) {
+  if constexpr (std::is_same_v<T, Qvx64f>) {
+    if (isDf1) {
+      for (int k = 0; k < s.numBq; ++k) runDf1(s.sections[k], work, n, s.line + 4 * k);
+      return;
+    }
+  }
+  // A direct form makes its delay line anew at the end of a block, from all its taps: that is worth twice its order of samples.
+  if (s.direct != nullptr && n >= std::max(kWorthLookingAhead, 2 * lineValues(s))) return runDirect(s, work, n);
+  if constexpr (kParts<T> == 1) {
+    if (s.how == How::kInLanes && n >= kWorthLookingAhead)
+      return withSectionLine(s, [&](T* line) { s.cascade.run(work, n, line); });
+  }
+  runPlain(s, work, n);
+}
+
+// ---- the call
+
+template <class T, class Data, class Run> void inBlocks(const Data* src, Data* dst, size_t n, Finish<Data> finish, Run run) {
+  constexpr size_t kBlock = kBlockLanes / kParts<T>;
+  Lane work[kBlockLanes];
+  while (n > 0) {
+    const size_t count = std::min(n, kBlock);
+    const size_t lanes = count * kParts<T>;
+    loadBlock(src, work, lanes);
+    run(work, count);
+    storeBlock(work, dst, lanes, finish);
+    src += count;
+    dst += count;
+    n -= count;
+  }
+}
+
+// One section goes from the samples to the samples; of several, the first takes them and the last gives them back.
+template <class T, class Data> void bySections(const IirRecord<T>& s, const Data* src, Data* dst, size_t n, Finish<Data> finish) {
+  const int last = std::max(s.numBq, 1) - 1;
+  withSectionLine(s, [&](T* line) {
+    if (last == 0) return runSection(s.sections[0], src, dst, n, line, finish);
+    constexpr size_t kBlock = kBlockLanes / kParts<T>;
+    constexpr Finish<Lane> kAsItIs{1};
+    Lane work[kBlockLanes];
+    for (size_t at = 0, count; at < n; at += count) {
+      count = n - at <= kBlock + kWorthLookingAhead && n - at > kBlock ? (n - at) / 2 : std::min(n - at, kBlock);
+      runSection(s.sections[0], src + at, work, count, line, kAsItIs);
+      for (int k = 1; k < last; ++k) runSection(s.sections[k], work, work, count, line + 2 * k, kAsItIs);
+      runSection(s.sections[last], work, dst + at, count, line + 2 * last, finish);
+    }
+  });
+}
+
+// Without tables of its own: each section goes over all samples with a table for that time.
+inline void filterDf1(const IirRecord<Qvx32f>& s, const Qvx32f* src, Qvx32f* dst, size_t n) {
+  for (int k = 0; k < s.numBq; ++k, src = dst) {
+    const Qvx32f* t = s.taps + 5 * k;
+    Qvx32f* line = s.line + 4 * k;
+    if (n < 4 * kWorthLookingAhead) {
+      for (size_t i = 0; i < n; ++i) dst[i] = df1One(t, line, src[i]);
+    } else {
+      Section<Qvx32f> section;
+      section.set(t);
+      inBlocks<Qvx32f>(src, dst, n, Finish<Qvx32f>{1}, [&](Lane* work, size_t count) { runDf1(section, work, count, line); });
+    }
+  }
+}
+
+template <class State, class Data> void filter(State& s, const Data* src, Data* dst, size_t n, int scaleFactor) {
+  using T = InternalOf<State>;
+  const bool isDf1 = State::kMagics.df1 != 0 && s.magic == State::kMagics.df1;
+  if constexpr (std::is_same_v<T, Qvx32f> && std::is_same_v<Data, Qvx32f>) {
+    if (isDf1) return filterDf1(s, src, dst, n);
+  }
+  const Finish<Data> finish{outputFactor(scaleFactor)};
+  if (!isDf1 && s.how == How::kLookingAhead && n >= kWorthLookingAhead) return bySections<T>(s, src, dst, n, finish);
+  inBlocks<T>(src, dst, n, finish, [&](Lane* work, size_t count) { runBlock<T>(s, isDf1, work, count); });
+}
+
+template <class State, class Data> QvxStatus iir(const Data* src, Data* dst, int len, State* state, int scaleFactor = 0) {
+  if (isNull(state) || isNull(src) || isNull(dst)) return qvxStatNullPtr;
+  if (len < 1) return qvxStatBadSize;
+  const QvxStatus status = checkState(state);
+  if (status == qvxStatOk) filter(*state, src, dst, elements(len), scaleFactor);
+  return status;
+}
+template <class State, class Data> QvxStatus iir(Data* srcDst, int len, State* state, int scaleFactor = 0) {
+  return iir(const_cast<const Data*>(srcDst), srcDst, len, state, scaleFactor);
+}
+
+template <class State, class Data> QvxStatus iirOne(Data src, Data* dst, State* state, int scaleFactor = 0) {
+  const QvxStatus status = isNull(dst) ? qvxStatNullPtr : checkState<Takes::kAllButDf1>(state);
+  if (status == qvxStatOk) filter(*state, &src, dst, 1, scaleFactor);
+  return status;
+}
+
+}  // namespace qvx

@@ -1,0 +1,60 @@
+// Taps replaced in a living filter.
+#include "iir/init.h"
+
+using namespace qvx;
+
+// Contract: these three test for the identities of others, or report a mismatch whatever they did.
+QvxStatus qvxsIIRSetTaps32s_16s(const Qvx32s* taps, QvxsIIRState32s_16s* state, int tapsFactor) {
+  if (isNull(taps)) return qvxStatNullPtr;
+  const QvxStatus status = checkState(state);
+  if (status != qvxStatOk) return status;
+  const Form form = state->isDirect() ? Form::kDirect : Form::kBiQuad;
+  const int n = state->isDirect() ? state->order : state->numBq;
+  return withFloatTaps(taps, tapsOf(form, n), tapsFactor, [state](const Qvx32f* converted) {
+    setTaps(*state, converted);
+    return qvxStatContextMismatch;
+  });
+}
+
+namespace {
+
+QvxStatus checkAsFloats(const QvxsIIRState32sc_16sc* state) {
+  constexpr IirMagics kMagics = QvxsIIRState_32fc::kMagics;
+  return checkRecord(state, kMagics.direct, kMagics.biQuad);
+}
+
+}  // namespace
+
+QvxStatus qvxsIIRSetTaps32sc_16sc(const Qvx32sc* taps, QvxsIIRState32sc_16sc* state, int tapsFactor) {
+  if (isNull(taps)) return qvxStatNullPtr;
+  const QvxStatus status = checkAsFloats(state);
+  if (status != qvxStatOk) return status;
+  const Form form = state->isDirect() ? Form::kDirect : Form::kBiQuad;
+  const int n = state->isDirect() ? state->order : state->numBq;
+  return withFloatTaps(taps, tapsOf(form, n), tapsFactor, [state](const Qvx32fc* converted) {
+    setTaps(*state, converted);
+    return qvxStatContextMismatch;
+  });
+}
+
+QvxStatus qvxsIIRSetTaps32sc_16sc32fc(const Qvx32fc* taps, QvxsIIRState32sc_16sc* state) {
+  if (isNull(taps)) return qvxStatNullPtr;
+  const QvxStatus status = checkAsFloats(state);
+  return status == qvxStatOk ? setTaps(*state, taps) : status;
+}
+
+// clang-format off
+QvxStatus qvxsIIRSetTaps_32f(const Qvx32f* t, QvxsIIRState_32f* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps_32fc(const Qvx32fc* t, QvxsIIRState_32fc* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps32f_16s(const Qvx32f* t, QvxsIIRState32f_16s* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps32fc_16sc(const Qvx32fc* t, QvxsIIRState32fc_16sc* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps32s_16s32f(const Qvx32f* t, QvxsIIRState32s_16s* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps_64f(const Qvx64f* t, QvxsIIRState_64f* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps_64fc(const Qvx64fc* t, QvxsIIRState_64fc* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps64f_32f(const Qvx64f* t, QvxsIIRState64f_32f* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps64fc_32fc(const Qvx64fc* t, QvxsIIRState64fc_32fc* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps64f_32s(const Qvx64f* t, QvxsIIRState64f_32s* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps64fc_32sc(const Qvx64fc* t, QvxsIIRState64fc_32sc* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps64f_16s(const Qvx64f* t, QvxsIIRState64f_16s* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps64fc_16sc(const Qvx64fc* t, QvxsIIRState64fc_16sc* s) { return iirSetTaps(t, s); }
+// clang-format on

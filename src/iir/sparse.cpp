@@ -1,0 +1,136 @@
+// Recursive filters of few taps, each at a delay of its own.
+#include "frame/map.h"
+#include "frame/record.h"
+
+using namespace qvx;
+
+// One side of the filter: its taps in the caller's order, and a window of the last samples, oldest first, with room behind it for
+// as many new ones, so that the head of a vector finds its past and itself in one place.
+struct SparseSide {
+  Qvx32f* taps;
+  Qvx32s* positions;
+  Qvx32f* window;
+  Qvx32s count;
+  Qvx32s order;  // the last position
+};
+
+struct QvxsIIRSparseState_32f {
+  SparseSide b;
+  SparseSide a;
+};
+
+namespace {
+
+constexpr int64_t kAlign = 16;
+
+template <class T> constexpr int64_t bytesOf(int64_t count) { return up<kAlign>(count * int64_t{sizeof(T)}); }
+
+// The positions in turn, from `least` on.
+bool increases(const Qvx32s* positions, int count, int least) {
+  for (int i = 0; i < count; least = positions[i++] + 1) {
+    if (positions[i] < least) return false;
+  }
+  return true;
+}
+
+void fill(SparseSide& side, const Qvx32f* taps, const Qvx32s* positions, const Qvx32f* newestFirst) {
+  std::copy_n(taps, side.count, side.taps);
+  std::copy_n(positions, side.count, side.positions);
+  for (int i = 0; i < side.order; ++i) side.window[i] = isNull(newestFirst) ? 0 : newestFirst[side.order - 1 - i];
+}
+
+// dst[n] = (kAdds ? dst[n] : 0) + the taps' sum, tap by tap in this order for every output, whatever the cut of the stream:
+// products and sums are rounded apart.
+void addTap(const Qvx32f* src, Qvx32f* dst, size_t n, Qvx32f tap) {
+  loop([tap](auto v, auto all) { return all + same<decltype(v)>(tap) * v; }, destination(dst), n, source(src),
+       source(static_cast<const Qvx32f*>(dst)));
+}
+void feed(const SparseSide& b, const Qvx32f* src, Qvx32f* dst, size_t n) {
+  constexpr size_t kBlock = 1024;
+  for (size_t at = 0; at < n; at += kBlock) {
+    const size_t count = std::min(kBlock, n - at);
+    std::fill_n(dst + at, count, 0.0F);
+    for (int i = 0; i < b.count; ++i) addTap(src + at - b.positions[i], dst + at, count, b.taps[i]);
+  }
+}
+
+// y holds the feed-forward sums. As many outputs at a time as the nearest tap leaves between it and them.
+void feedBack(const SparseSide& a, Qvx32f* y, size_t n) {
+  const auto reach = static_cast<size_t>(a.positions[0]);
+  constexpr size_t kWorthVectors = 16;
+  if (reach < kWorthVectors) {
+    for (size_t i = 0; i < n; ++i) {
+      Qvx32f all = y[i];
+      for (int k = 0; k < a.count; ++k) all += a.taps[k] * y[static_cast<int64_t>(i) - a.positions[k]];
+      y[i] = all;
+    }
+    return;
+  }
+  const size_t step = std::min<size_t>(reach, 1024);
+  for (size_t at = 0; at < n; at += step) {
+    const size_t count = std::min(step, n - at);
+    for (int k = 0; k < a.count; ++k) addTap(y + at - a.positions[k], y + at, count, a.taps[k]);
+  }
+}
+
+// The window moves on by n samples, of which the last are at `end`; short vectors are in it already.
+void moveOn(const SparseSide& side, const Qvx32f* end, size_t n) {
+  const auto order = static_cast<size_t>(side.order);
+  if (n >= order) std::copy_n(end - order, order, side.window);
+  else std::copy_n(side.window + n, order, side.window);
+}
+
+}  // namespace
+
+QvxStatus qvxsIIRSparseGetStateSize_32f(int tapsB, int tapsA, int orderB, int orderA, int* size) {
+  if (isNull(size)) return qvxStatNullPtr;
+  if (tapsB < 1 || tapsA < 0) return qvxStatBadIIROrder;
+  if (orderB < 0 || orderA < 0) return qvxStatBadSparsePos;
+  const int64_t windows = (8 * (int64_t{orderB} + orderA) + 23) & -kAlign;
+  *size = static_cast<int>(2 * bytesOf<Qvx32f>(tapsB) + 2 * bytesOf<Qvx32f>(tapsA) + windows + 80);
+  return qvxStatOk;
+}
+
+QvxStatus qvxsIIRSparseInit_32f(QvxsIIRSparseState_32f** state, const Qvx32f* taps, const Qvx32s* positions, int tapsB, int tapsA,
+                                const Qvx32f* line, Qvx8u* block) {
+  if (isNull(state) || isNull(taps) || isNull(positions) || isNull(block)) return qvxStatNullPtr;
+  if (tapsB < 1 || tapsA < 1) return qvxStatBadIIROrder;
+  if (!increases(positions, tapsB, 0) || !increases(positions + tapsB, tapsA, 1)) return qvxStatBadSparsePos;
+  Carver<8> carver(alignedUp<kAlign>(block));
+  auto* s = carver.take<QvxsIIRSparseState_32f>(1);
+  const auto place = [&](SparseSide& side, int count, const Qvx32s* at) {
+    side.count = count;
+    side.order = at[count - 1];
+    side.taps = carver.take<Qvx32f>(count);
+    side.positions = carver.take<Qvx32s>(count);
+    side.window = carver.take<Qvx32f>(2 * int64_t{side.order});
+  };
+  place(s->b, tapsB, positions);
+  place(s->a, tapsA, positions + tapsB);
+  fill(s->b, taps, positions, line);
+  fill(s->a, taps + tapsB, positions + tapsB, isNull(line) ? line : line + s->b.order);
+  *state = s;
+  return qvxStatOk;
+}
+
+QvxStatus qvxsIIRSparse_32f(const Qvx32f* src, Qvx32f* dst, int len, QvxsIIRSparseState_32f* state) {
+  if (isNull(src) || isNull(dst) || isNull(state)) return qvxStatNullPtr;
+  if (len < 1) return qvxStatBadSize;
+  const size_t n = elements(len);
+  const SparseSide& b = state->b;
+  const SparseSide& a = state->a;
+
+  const size_t headB = std::min(n, static_cast<size_t>(b.order));
+  std::copy_n(src, headB, b.window + b.order);
+  feed(b, b.window + b.order, dst, headB);
+  feed(b, src + headB, dst + headB, n - headB);
+  moveOn(b, src + n, n);
+
+  const size_t headA = std::min(n, static_cast<size_t>(a.order));
+  std::copy_n(dst, headA, a.window + a.order);
+  feedBack(a, a.window + a.order, headA);
+  std::copy_n(a.window + a.order, headA, dst);
+  feedBack(a, dst + headA, n - headA);
+  moveOn(a, dst + n, n);
+  return qvxStatOk;
+}

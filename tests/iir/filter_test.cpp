@@ -1,0 +1,399 @@
+// Recursive filters against the recursion in long double: streams cut anywhere, filters near the unit circle, rounding, channels.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "iir/members.h"
+
+namespace {
+
+using tests::Exact;
+using tests::exact;
+using tests::forEachStem;
+using tests::isComplex;
+using tests::Part;
+using tests::Random;
+using tests::Recursion;
+
+double uniform(Random& random, double low, double high) { return low + (high - low) * 0x1p-64 * static_cast<double>(random()); }
+
+// A section with its poles and zeros at random, real or complex.
+template <class T> std::vector<T> section(Random& random, double radius, double angle, long double gain = 0.5) {
+  using N = std::complex<long double>;
+  const N p = std::polar<long double>(radius, angle);
+  const N q = isComplex<T> ? std::polar<long double>(radius * uniform(random, 0.3, 1), uniform(random, -3, 3)) : std::conj(p);
+  const N z = std::polar<long double>(uniform(random, 0.2, 1), uniform(random, 0, 3.1));
+  const N w = isComplex<T> ? std::polar<long double>(uniform(random, 0.2, 1), uniform(random, -3, 3)) : std::conj(z);
+  const N a0 = isComplex<T> ? N(0, 2) : N(1.5);
+  std::vector<T> t;
+  for (const N v : {N(gain), -gain * (z + w), gain * z * w, N(1), -(p + q), p * q}) {
+    const N scaled = v * a0;
+    if constexpr (isComplex<T>) t.push_back({static_cast<Part<T>>(scaled.real()), static_cast<Part<T>>(scaled.imag())});
+    else t.push_back(static_cast<T>(scaled.real()));
+  }
+  return t;
+}
+
+// A stable direct form: feedback that shrinks whatever the order.
+template <class T> std::vector<T> direct(Random& random, int order) {
+  std::vector<T> t(static_cast<size_t>(2 * order + 2));
+  for (size_t i = 0; i < t.size(); ++i) {
+    const bool isFeedback = i > static_cast<size_t>(order) + 1;
+    for (size_t k = 0; k < sizeof(T) / sizeof(Part<T>); ++k) {
+      reinterpret_cast<Part<T>*>(&t[i])[k] = static_cast<Part<T>>(uniform(random, -1, 1) * (isFeedback ? 0.8 / order : 0.5));
+    }
+  }
+  if constexpr (isComplex<T>) t[static_cast<size_t>(order) + 1] = {0, 2};
+  else t[static_cast<size_t>(order) + 1] = 1.25;
+  return t;
+}
+
+template <class T> std::vector<T> samples(size_t n, Random& random) {
+  std::vector<T> x(n);
+  const double most = std::is_integral_v<Part<T>> ? std::min<double>(std::numeric_limits<Part<T>>::max(), 1e9) / 8 : 1;
+  for (size_t i = 0; i < n * sizeof(T) / sizeof(Part<T>); ++i) {
+    reinterpret_cast<Part<T>*>(x.data())[i] = static_cast<Part<T>>(uniform(random, -most, most));
+  }
+  return x;
+}
+
+long double partsDiffer(long double got, long double expected, long double unit, bool isInteger, long double least,
+                        long double most) {
+  if (!isInteger) return std::abs(got - expected);
+  const long double scaled = std::clamp(expected * unit, least, most);
+  return std::max(0.0L, std::abs(got - scaled) - 0.5L) / unit;
+}
+// How far a sample is from what rounding makes of the exact one, in units of the unscaled output.
+template <class D> long double distance(D got, Exact<D> expected, int sf) {
+  using P = Part<D>;
+  constexpr bool kIsInteger = std::is_integral_v<P>;
+  const auto one = [&](long double g, long double e) {
+    return partsDiffer(g, e, std::ldexp(1.0L, -sf), kIsInteger, std::numeric_limits<P>::lowest(), std::numeric_limits<P>::max());
+  };
+  if constexpr (isComplex<D>) return std::max(one(got.re, expected.real()), one(got.im, expected.imag()));
+  else return one(got, expected);
+}
+
+// x through the members' functions, cut at random, against the truth: `allowed` epsilons of the greatest magnitude on the way.
+template <class M, class T>
+void expectStream(const M& m, int form, int n, const std::vector<T>& taps, size_t len, int sf, long double allowed,
+                  Random& random) {
+  using D = typename M::Data;
+  SCOPED_TRACE(testing::Message() << m.name << ", form " << form << ", " << n << ", scale " << sf << ", seed " << tests::seed());
+  auto truth = tests::recursions<Exact<T>>(taps, n, form == 0 ? 0 : n);
+  typename M::State* s = nullptr;
+  ASSERT_EQ(m.initAlloc[form](&s, taps.data(), n, nullptr), qvxStatOk);
+  const auto x = samples<D>(len, random);
+  std::vector<D> y(len);
+  for (size_t at = 0; at < len;) {
+    const size_t most = std::min<size_t>(len - at, random() % 4 == 0 ? 1500 : random() % 4 == 0 ? 40 : 12);
+    const size_t count = 1 + random() % most;
+    const int way = static_cast<int>(random() % 3);
+    if (way == 0 && count < 30) {
+      for (size_t i = at; i < at + count; ++i) ASSERT_EQ(m.one(x[i], &y[i], s, sf), qvxStatOk);
+    } else if (way == 1) {
+      std::copy_n(&x[at], count, &y[at]);
+      ASSERT_EQ(m.inPlace(&y[at], static_cast<int>(count), s, sf), qvxStatOk);
+    } else {
+      ASSERT_EQ(m.filter(&x[at], &y[at], static_cast<int>(count), s, sf), qvxStatOk);
+    }
+    at += count;
+  }
+  long double greatest = 0;
+  long double worst = 0;
+  for (size_t i = 0; i < len; ++i) {
+    Exact<T> v = exact(x[i]);
+    for (auto& r : truth) {
+      greatest = std::max(greatest, std::abs(v));
+      v = r(v);
+    }
+    greatest = std::max(greatest, std::abs(v));
+    worst = std::max(worst, distance(y[i], v, sf));
+  }
+  const long double tolerance =
+      allowed * greatest * std::numeric_limits<Part<T>>::epsilon() + (std::is_same_v<Part<D>, float> ? greatest * 0x1p-24L : 0);
+  EXPECT_LE(worst, tolerance);
+  std::vector<T> line(static_cast<size_t>(form == 0 ? n : 2 * n));
+  m.getLine(s, line.data());
+  size_t i = 0;
+  for (auto& r : truth) {
+    for (const auto& d : r.d) {
+      EXPECT_LE(std::abs(exact(line[i]) - d), allowed * greatest * std::numeric_limits<Part<T>>::epsilon()) << "line " << i;
+      ++i;
+    }
+  }
+  m.free(s);
+}
+
+TEST(IirFilter, StreamsMayBeCutAnywhere) {
+  forEachStem([](const auto& m) {
+    using T = typename std::decay_t<decltype(m)>::Internal;
+    Random random(tests::seed());
+    for (const int order : {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 31, 63, 64, 65, 130, 300}) {
+      expectStream(m, 0, order, direct<T>(random, order), 4000, 0, 16, random);
+    }
+    for (const int n : {1, 2, 3, 4, 5, 7, 8, 9, 12, 15, 16, 17, 24, 33, 64}) {
+      std::vector<T> taps;
+      for (int k = 0; k < n; ++k) {
+        const auto one = section<T>(random, uniform(random, 0.1, 0.9), uniform(random, 0, 3.1));
+        taps.insert(taps.end(), one.begin(), one.end());
+      }
+      expectStream(m, 1, n, taps, 4000, 0, 64, random);
+    }
+  });
+}
+
+TEST(IirFilter, IntegersAreScaledRoundedAndSaturated) {
+  forEachStem([](const auto& m) {
+    using M = std::decay_t<decltype(m)>;
+    using T = typename M::Internal;
+    using D = typename M::Data;
+    if constexpr (M::kIsScaled) {
+      Random random(tests::seed());
+      const auto taps = section<T>(random, 0.8, 1);
+      for (const int sf : {-9, -1, 1, 4, 40}) expectStream(m, 1, 1, taps, 3000, sf, 64, random);
+      // Halves go to even, from both kernels and for one sample; what saturates does not come back.
+      std::vector<T> half(6);
+      reinterpret_cast<Part<T>&>(half[0]) = reinterpret_cast<Part<T>&>(half[3]) = 1;
+      typename M::State* s = nullptr;
+      ASSERT_EQ(m.initAlloc[1](&s, half.data(), 1, nullptr), qvxStatOk);
+      std::vector<D> x(40), y(40);
+      for (size_t i = 0; i < 40; ++i) reinterpret_cast<Part<D>&>(x[i]) = static_cast<Part<D>>(static_cast<int>(i) - 20);
+      const auto real = [](D v) { return reinterpret_cast<const Part<D>&>(v); };
+      for (const int len : {1, 2, 5, 9, 40}) {
+        ASSERT_EQ(m.filter(x.data(), y.data(), len, s, 1), qvxStatOk);
+        for (size_t i = 0; i < static_cast<size_t>(len); ++i) EXPECT_EQ(real(y[i]), std::nearbyint(real(x[i]) / 2.0)) << m.name;
+      }
+      for (const int sf : {-2000, -64, 64, 2000}) {
+        ASSERT_EQ(m.filter(x.data(), y.data(), 40, s, sf), qvxStatOk);
+        EXPECT_EQ(real(y[0]), sf > 0 ? 0 : std::numeric_limits<Part<D>>::min());
+        EXPECT_EQ(real(y[20]), 0);
+        EXPECT_EQ(real(y[39]), sf > 0 ? 0 : std::numeric_limits<Part<D>>::max());
+      }
+      m.free(s);
+    }
+  });
+}
+
+// ---- near the unit circle
+
+// The root of the mean square error of y; what it is if only the truth is rounded.
+template <class T> long double error(const std::vector<T>& y, const std::vector<Exact<T>>& truth) {
+  long double all = 0;
+  for (size_t i = 0; i < y.size(); ++i) all += std::norm(std::complex<long double>(exact(y[i]) - truth[i]));
+  return std::sqrt(all / y.size());
+}
+
+template <class T> long double rounding(const std::vector<Exact<T>>& truth) {
+  long double squares = 0;
+  for (const auto& v : truth) squares += std::norm(std::complex<long double>(v));
+  return std::sqrt(squares / truth.size()) * std::numeric_limits<Part<T>>::epsilon() / 4;
+}
+
+template <class N, class T> std::vector<N> through(std::vector<Recursion<N>> sections, const std::vector<T>& x) {
+  std::vector<N> y;
+  for (const T& v : x) {
+    N in = static_cast<N>(exact(v));
+    for (auto& r : sections) in = r(in);
+    y.push_back(in);
+  }
+  return y;
+}
+
+template <class T> struct PlainOf { using Type = T; };
+template <class T>
+requires isComplex<T>
+struct PlainOf<T> {
+  using Type = std::complex<Part<T>>;
+};
+
+TEST(IirFilter, IsAsAccurateAsThePlainLoopNearTheUnitCircle) {
+  forEachStem([](const auto& m) {
+    using M = std::decay_t<decltype(m)>;
+    using T = typename M::Internal;
+    if constexpr (std::is_same_v<T, typename M::Data>) {
+      using Plain = typename PlainOf<T>::Type;
+      Random random(tests::seed());
+      double worst = 0;
+      for (const double radius : {0.5, 0.9, 0.99, 0.999, 0.9999}) {
+        std::vector<double> angles = {0.001, 0.003, 0.01, 0.03, 0.1, 0.3, 1, 2, 3, 3.1, 3.13, 3.14};
+        for (int k = 1; k < 16; ++k) {  // where the poles that look-ahead adds come close to the true ones
+          for (const double off : {0.0, 0.0002, 0.004, 0.05}) angles.push_back(std::numbers::pi * k / 16 + off);
+        }
+        for (const double angle : angles) {
+          for (const int form : {0, 1}) {
+            const int n = form == 0 ? 2 : random() % 4 == 0 ? 6 : 1;
+            std::vector<T> taps;
+            for (int k = 0; k < (form == 0 ? 1 : n); ++k) {
+              const auto one = section<T>(random, radius, angle, 0.1);
+              taps.insert(taps.end(), one.begin(), one.end());
+            }
+            const auto x = samples<T>(3000, random);
+            const auto truth = through(tests::recursions<Exact<T>>(taps, n, form == 0 ? 0 : n), x);
+            // Nobody is closer than the rounding of the output itself. At a quarter of the sampling rate, products that are
+            // rounded apart cancel their errors by luck, and those of a fused loop are 3 times as large.
+            long double plain = rounding<T>(truth);
+            for (const bool fuses : {false, true}) {
+              auto loop = tests::recursions<Plain>(taps, n, form == 0 ? 0 : n);
+              for (auto& r : loop) r.fuses = fuses;
+              std::vector<T> y;
+              for (const Plain v : through(loop, x)) y.push_back(tests::rounded<T>(static_cast<Exact<T>>(v)));
+              plain = std::max(plain, error(y, truth));
+            }
+            typename M::State* s = nullptr;
+            ASSERT_EQ(m.initAlloc[form](&s, taps.data(), n, nullptr), qvxStatOk);
+            auto y = x;
+            ASSERT_EQ(m.inPlace(y.data(), static_cast<int>(y.size()), s), qvxStatOk);
+            m.free(s);
+            const auto ratio = static_cast<double>(error(y, truth) / plain);
+            EXPECT_LE(ratio, 4) << m.name << ", form " << form << ", sections " << n << ", radius " << radius << ", angle "
+                                << angle;
+            worst = std::max(worst, ratio);
+          }
+        }
+      }
+      std::printf("%s: at most %.2f of the plain loop's error\n", m.name.c_str(), worst);
+    }
+  });
+}
+
+TEST(IirFilter, WhatIsNoNumberComesInWhereItStands) {
+  const Qvx64f taps[] = {1, 0.5, 0.25, 0.1, 1, -0.5, 0.25, 0.1};
+  for (const int n : {1, 2, 3}) {
+    QvxsIIRState_64f* s = nullptr;
+    std::vector<Qvx64f> t(taps, taps + n + 1);
+    t.insert(t.end(), taps + 4, taps + 5 + n);
+    ASSERT_EQ(qvxsIIRInitAlloc_64f(&s, t.data(), n, nullptr), qvxStatOk);
+    for (size_t at = 0; at < 24; ++at) {
+      std::vector<Qvx64f> x(24, 1.0);
+      x[at] = NAN;
+      qvxsIIRSetDlyLine_64f(s, nullptr);
+      ASSERT_EQ(qvxsIIR_64f_I(x.data(), 24, s), qvxStatOk);
+      for (size_t i = 0; i < 24; ++i)
+        EXPECT_EQ(std::isnan(x[i]), i >= at) << "order " << n << ", NaN at " << at << ", output " << i;
+    }
+    qvxsIIRFree_64f(s);
+  }
+}
+
+// ---- the direct form I, channels
+
+// Several sections of the direct form I are those of the BiQuad form, whatever the cut.
+TEST(IirDf1, IsTheSameFilter) {
+  Random random(tests::seed());
+  for (const int n : {1, 2, 7, 20}) {
+    std::vector<Qvx32f> t;
+    std::vector<Qvx64f> wide;
+    for (int k = 0; k < n; ++k) {
+      for (const Qvx32f v : section<Qvx32f>(random, 0.8, uniform(random, 0, 3))) t.push_back(v), wide.push_back(v);
+    }
+    QvxsIIRState_32f* s = nullptr;
+    QvxsIIRState64f_32s* w = nullptr;
+    QvxsIIRState64f_32s* reference = nullptr;
+    ASSERT_EQ(qvxsIIRInitAlloc_BiQuad_DF1_32f(&s, t.data(), n, nullptr), qvxStatOk);
+    ASSERT_EQ(qvxsIIRInitAlloc64f_BiQuad_DF1_32s(&w, wide.data(), n, nullptr), qvxStatOk);
+    ASSERT_EQ(qvxsIIRInitAlloc64f_BiQuad_32s(&reference, wide.data(), n, nullptr), qvxStatOk);
+    const auto x = samples<Qvx32f>(3000, random);
+    const auto integers = samples<Qvx32s>(3000, random);
+    const auto truth = through(tests::recursions<long double>(t, 2, n), x);
+    auto y = x;
+    auto z = integers;
+    auto expected = integers;
+    ASSERT_EQ(qvxsIIR64f_32s_ISfs(expected.data(), 3000, reference, 0), qvxStatOk);
+    for (size_t at = 0; at < y.size();) {
+      const size_t count = std::min<size_t>(1 + random() % (random() % 3 == 0 ? 900 : 5), y.size() - at);
+      ASSERT_EQ(qvxsIIR_32f(&x[at], &y[at], static_cast<int>(count), s), qvxStatOk);
+      ASSERT_EQ(qvxsIIR64f_32s_ISfs(&z[at], static_cast<int>(count), w, 0), qvxStatOk);
+      at += count;
+    }
+    for (size_t i = 0; i < y.size(); ++i) {
+      ASSERT_NEAR(static_cast<double>(y[i]), static_cast<double>(truth[i]), 1e-5 * n) << n << " sections, output " << i;
+      ASSERT_LE(std::abs(int64_t{z[i]} - expected[i]), 1) << n << " sections, output " << i;
+    }
+    qvxsIIRFree_32f(s), qvxsIIRFree64f_32s(w), qvxsIIRFree64f_32s(reference);
+  }
+}
+
+struct Channels {
+  QvxsIIRState_32f* f[3] = {};
+  QvxsIIRState64f_32s* i[3] = {};
+  Qvx32f x[3][9] = {{1, 2, 3}, {4}, {5}};
+  Qvx32s v[3][9] = {{10, 20, 30}, {40}, {50}};
+  Qvx32f* px[3] = {x[0], x[1], x[2]};
+  Qvx32s* pv[3] = {v[0], v[1], v[2]};
+  int sf[3] = {0, 1, -1};
+
+  Channels() {
+    const Qvx32f t[] = {2, 0, 0, 1, 0, 0};
+    const Qvx64f w[] = {2, 0, 0, 1, 0, 0};
+    for (int c = 0; c < 3; ++c)
+      qvxsIIRInitAlloc_BiQuad_32f(&f[c], t, 1, nullptr), qvxsIIRInitAlloc64f_BiQuad_32s(&i[c], w, 1, nullptr);
+  }
+  ~Channels() {
+    for (auto* s : f) qvxsIIRFree_32f(s);
+    for (auto* s : i) qvxsIIRFree64f_32s(s);
+  }
+  QvxStatus floats(int len = 9, int channels = 3) { return qvxsIIR_32f_IP(px, len, channels, f); }
+  QvxStatus integers(int len = 9, int channels = 3) { return qvxsIIR64f_32s_IPSfs(pv, len, channels, i, sf); }
+};
+
+TEST(IirChannels, FilterEach) {
+  Channels c;
+  ASSERT_EQ(c.floats(), qvxStatOk);
+  EXPECT_EQ(c.x[0][2], 6);
+  EXPECT_EQ(c.x[1][0], 8);
+  EXPECT_EQ(c.x[2][0], 10);
+  ASSERT_EQ(c.integers(), qvxStatOk);
+  EXPECT_EQ(c.v[0][2], 60);
+  EXPECT_EQ(c.v[1][0], 40);
+  EXPECT_EQ(c.v[2][0], 200);
+  Qvx32f to[3][9] = {};
+  Qvx32f* pTo[3] = {to[0], to[1], to[2]};
+  Qvx32s whole[3][9] = {};
+  Qvx32s* pWhole[3] = {whole[0], whole[1], whole[2]};
+  ASSERT_EQ(qvxsIIR_32f_P(c.px, pTo, 9, 2, c.f), qvxStatOk);
+  EXPECT_EQ(to[1][0], 16);
+  EXPECT_EQ(to[2][0], 0);
+  ASSERT_EQ(qvxsIIR64f_32s_PSfs(c.pv, pWhole, 9, 3, c.i, c.sf), qvxStatOk);
+  EXPECT_EQ(whole[2][0], 800);
+}
+
+TEST(IirChannels, ChecksItsArgumentsInOrder) {
+  Channels c;
+  const Qvx32f t[] = {2, 0, 0, 1, 0, 0};
+  QvxsIIRState_32f* direct = nullptr;
+  QvxsIIRState_32f* df1 = nullptr;
+  ASSERT_EQ(qvxsIIRInitAlloc_32f(&direct, t, 2, nullptr), qvxStatOk);
+  ASSERT_EQ(qvxsIIRInitAlloc_BiQuad_DF1_32f(&df1, t, 1, nullptr), qvxStatOk);
+  EXPECT_EQ(qvxsIIR_32f_P(nullptr, c.px, 0, 0, c.f), qvxStatNullPtr);
+  EXPECT_EQ(qvxsIIR_32f_P(c.px, nullptr, 0, 0, c.f), qvxStatNullPtr);
+  EXPECT_EQ(qvxsIIR_32f_P(c.px, c.px, 0, 0, nullptr), qvxStatNullPtr);
+  EXPECT_EQ(c.floats(0, 0), qvxStatBadSize);
+  EXPECT_EQ(c.floats(9, 0), qvxStatBadChannels);
+  std::swap(c.f[0], direct);
+  EXPECT_EQ(c.floats(), qvxStatContextMismatch) << "a direct form";
+  std::swap(c.f[0], direct);
+  std::swap(c.f[1], df1);
+  EXPECT_EQ(c.floats(), qvxStatContextMismatch) << "another form than the first's";
+  EXPECT_EQ(c.x[0][0], 2) << "the first is filtered";
+  EXPECT_EQ(c.x[1][0], 4);
+  std::swap(c.f[1], df1);
+  c.px[2] = nullptr;
+  EXPECT_EQ(c.floats(), qvxStatNullPtr);
+  EXPECT_EQ(c.x[1][0], 8);
+
+  EXPECT_EQ(qvxsIIR64f_32s_PSfs(c.pv, c.pv, 0, 0, c.i, nullptr), qvxStatNullPtr);
+  EXPECT_EQ(qvxsIIR64f_32s_PSfs(nullptr, c.pv, 0, 0, c.i, c.sf), qvxStatNullPtr);
+  EXPECT_EQ(c.integers(0, 0), qvxStatBadSize);
+  EXPECT_EQ(c.integers(9, 0), qvxStatContextMismatch);
+  QvxsIIRState64f_32s* none = nullptr;
+  std::swap(c.i[0], none);
+  EXPECT_EQ(c.integers(9, 0), qvxStatNullPtr);
+  std::swap(c.i[0], none);
+  qvxsIIRFree_32f(direct);
+  qvxsIIRFree_32f(df1);
+}
+
+}  // namespace

@@ -1,0 +1,26 @@
+// Where the parts of X[k], k from 0 to n/2, stand in a packed spectrum of n real values.
+#pragma once
+
+#include <cstddef>
+
+namespace reference {
+
+enum class Layout { kPerm, kPack, kCcs };
+
+struct Place {
+  size_t re;
+  size_t im;
+  bool isReal;  // has no place for an imaginary part
+};
+
+inline Place placeOf(Layout layout, size_t n, size_t k) {
+  if (layout == Layout::kCcs) return {2 * k, 2 * k + 1, false};
+  if (k == 0) return {0, 0, true};
+  if (2 * k == n) return layout == Layout::kPack ? Place{n - 1, 0, true} : Place{1, 0, true};
+  if (layout == Layout::kPerm && n % 2 == 0) return {2 * k, 2 * k + 1, false};
+  return {2 * k - 1, 2 * k, false};
+}
+
+inline size_t sizeOf(Layout layout, size_t n) { return layout == Layout::kCcs ? 2 * (n / 2 + 1) : n; }
+
+}  // namespace reference
