@@ -29,6 +29,7 @@ void sum(Suite& suite);
 void extrema(Suite& suite);
 void norm(Suite& suite);
 void dotProduct(Suite& suite);
+void fft(Suite& suite);
 void spectrum(Suite& suite);
 void fir(Suite& suite);
 void iir(Suite& suite);
@@ -60,6 +61,7 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     extrema,
     norm,
     dotProduct,
+    fft,
     spectrum,
     fir,
     iir,

@@ -1,6 +1,7 @@
 #include "frame/report.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdio>
 #include <fstream>
@@ -54,7 +55,12 @@ void Report::open(Table table) {
                             : table == Table::kMisaligned ? "All vectors one element behind a 64-byte boundary"
                             : table == Table::kLarge      ? "Beyond the caches: 64 MB"
                             : table == Table::kStream     ? "Streams, block by block"
-                                                          : "Two threads";
+                            : table == Table::kTeam       ? "Two threads"
+                                                    : "Transforms by order, of 5 N log2 N operations, real ones of half as many";
+  if (table == Table::kTransforms) {
+    std::printf("\n## %s\n\n| export | order | ns | GFLOPS | peers |\n|---|---:|---:|---:|---|\n", title);
+    return;
+  }
   const std::vector<int> sizes = table == Table::kLarge    ? std::vector{64 << 20}
                                  : table == Table::kStream ? kStreamSizes
                                  : table == Table::kTeam   ? kTeamSizes
@@ -62,7 +68,26 @@ void Report::open(Table table) {
   std::printf("\n## %s\n\n%s\n", title, columns(sizes).c_str());
 }
 
+// A line for every length, for there are many.
+void Report::transforms(const Case& c, const std::vector<Times>& bySize) {
+  for (size_t i = 0; i < bySize.size(); ++i) {
+    const double ours = bySize[i][0];
+    std::printf("| %s | %d | %.*f | %.2f |", c.name.c_str(), std::countr_zero(static_cast<unsigned>(c.sizes[i])),
+                ours < 100 ? 1 : 0, ours, c.operations(c.sizes[i]) / ours);
+    for (size_t peer = 1; peer < c.contenders.size(); ++peer) {
+      const std::string& name = c.contenders[peer].peer;
+      const double ratio = bySize[i][peer] / ours;
+      std::printf(" %s %.2f", name.c_str(), ratio);
+      cells_.push_back({c.name + ", n=" + lengthText(c.sizes[i]) + ", " + name, ratio});
+      ratiosByPeer_[name].push_back(ratio);
+    }
+    std::printf(" |\n");
+  }
+  std::fflush(stdout);
+}
+
 void Report::row(const Case& c, const std::vector<Times>& bySize) {
+  if (c.table == Table::kTransforms) return transforms(c, bySize);
   for (size_t peer = 1; peer < c.contenders.size(); ++peer) {
     const std::string& peerName = c.contenders[peer].peer;
     std::printf("| %s | %s |", c.name.c_str(), peerName.c_str());

@@ -20,6 +20,8 @@ class Report {
   void tail() const;
 
  private:
+  void transforms(const Case& c, const std::vector<Times>& bySize);
+
   struct Cell {
     std::string label;
     double ratio;

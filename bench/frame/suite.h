@@ -31,7 +31,7 @@ struct Contender {
   int threads = 1;
 };
 
-enum class Table { kAligned, kMisaligned, kLarge, kStream, kTeam };
+enum class Table { kAligned, kMisaligned, kLarge, kStream, kTeam, kTransforms };
 
 inline const std::vector<int> kSizes = {16, 256, 4096, 65536, 4 << 20};
 inline const std::vector<int> kStreamSizes = {64, 1024, 65536};
@@ -48,6 +48,8 @@ struct Case {
   std::function<void(const Vectors&)> saveDestination;
   std::function<bool(const Vectors&, Agreement)> agrees;  // the saved destination with the present one
   std::vector<Contender> contenders;                      // ours first
+  std::function<double(int n)> operations;                // of transforms: what is counted in GFLOPS
+  bool inRealTime = false;
 };
 
 template <class T> bool near(T ours, T peers) {
@@ -120,6 +122,7 @@ template <class F, Shape kShape, class Scalars> class Row {
   // The same call with two threads beside it with one, in real time: where does a team begin to pay?
   Row& inTeam() {
     case_.table = Table::kTeam;
+    case_.inRealTime = true;
     case_.sizes = kTeamSizes;
     Contender alone = case_.contenders[0];
     alone.peer = "one thread";
@@ -153,6 +156,9 @@ class Suite {
   template <class F, class... S> auto reduction(std::string name, F ours, S... scalars) {
     return add<Shape::kReduction>(std::move(name), ours, scalars...);
   }
+
+  // A case that is no map or reduction.
+  void add(Case c) { cases_.push_back(std::move(c)); }
 
   const std::vector<Case>& cases() const { return cases_; }
 

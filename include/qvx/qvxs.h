@@ -14,6 +14,7 @@
 #include <qvx/qvxs_norm.h>
 #include <qvx/qvxs_fft.h>
 #include <qvx/qvxs_spectrum.h>
+#include <qvx/qvxs_fft_integer.h>
 #include <qvx/qvxs_fir.h>
 #include <qvx/qvxs_iir.h>
 

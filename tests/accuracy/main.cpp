@@ -1,6 +1,8 @@
-// qvxs_accuracy: the worst error of every function that states one, with the input where it occurs.
+// qvxs_accuracy: the worst error of every function that states one, with the input where it occurs; then the errors of
+// transforms.
 #include <cstdio>
 
+#include "accuracy/transforms.h"
 #include "vector/math_accuracy.h"
 
 int main() {
@@ -11,5 +13,16 @@ int main() {
     std::printf("| %s | %.2f | %.4f | %a |\n", a.name.c_str(), a.bound, a.ulp, a.at);
     exceeded += !(a.ulp <= a.bound);
   }
+  std::printf("\nForward transforms of noise, error over eps sqrt(log2 N), stated %.2f\n\n", tests::kTransformBound);
+  std::printf("| log2 N | 32fc | 64fc | real 32f | real 64f |\n|---:|---:|---:|---:|---:|\n");
+  for (int order = 6; order <= 20; ++order) {
+    std::printf("| %d |", order);
+    for (const double error : tests::transformErrors(order).of) {
+      std::printf(" %.4f |", error);
+      exceeded += !(error <= tests::kTransformBound);
+    }
+    std::printf("\n");
+  }
+  std::printf("\n");
   return exceeded > 0 ? 1 : 0;
 }

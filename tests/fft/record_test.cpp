@@ -1,19 +1,13 @@
-// Records of transforms: sizes to the byte, the order of the checks, memory of exactly the reported size.
+// Records of transforms in floats, and the checks of the transforms.
 #include <array>
-#include <climits>
 #include <cstring>
 
-#include "fft/transforms.h"
+#include "fft/life.h"
 
 namespace {
 
-constexpr int64_t up(int64_t x) { return (x + 31) / 32 * 32; }
-
-struct Sizes {
-  int64_t spec, init, work;
-  bool operator==(const Sizes&) const = default;
-};
-std::ostream& operator<<(std::ostream& out, const Sizes& s) { return out << s.spec << ' ' << s.init << ' ' << s.work; }
+using tests::Sizes;
+using tests::up;
 
 // What callers are told, by order; `real` from the complex of half the length.
 struct Family {
@@ -70,59 +64,6 @@ Sizes realSizes(const Family& f, int m) {
   return {half.spec + 2 * roots, m <= 10 ? 0 : single ? up(n + 4) + 32 : up(2 * n + 8) + 32, half.work};
 }
 
-template <class Spec> void checkLife(const tests::Life<Spec>& life, const Family& f, bool real, int limit, const char* name) {
-  SCOPED_TRACE(name);
-  int spec = -1, init = -1, work = -1;
-  for (int order = 0; order <= limit; ++order) {
-    for (const int flag : tests::kFlags) ASSERT_EQ(life.getSize(order, flag, order, &spec, &init, &work), qvxStatOk) << order;
-    EXPECT_EQ((Sizes{spec, init, work}), real ? realSizes(f, order) : complexSizes(f, order)) << order;
-  }
-  // The order of the checks, each beside all later failures.
-  EXPECT_EQ(life.getSize(-1, 3, 0, nullptr, nullptr, nullptr), qvxStatBadFFTOrder);
-  EXPECT_EQ(life.getSize(31, 3, 0, nullptr, nullptr, nullptr), qvxStatBadFFTOrder);
-  EXPECT_EQ(life.getSize(limit + 1, 3, 0, nullptr, &init, &work), qvxStatNullPtr);
-  EXPECT_EQ(life.getSize(limit + 1, 3, 0, &spec, nullptr, &work), qvxStatNullPtr);
-  EXPECT_EQ(life.getSize(limit + 1, 3, 0, &spec, &init, nullptr), qvxStatNullPtr);
-  for (const int flag : {0, 3, -1, 16, INT_MIN})
-    EXPECT_EQ(life.getSize(limit + 1, flag, 0, &spec, &init, &work), qvxStatBadFFTFlag);
-  EXPECT_EQ(life.getSize(limit + 1, 8, 0, &spec, &init, &work), qvxStatBadFFTOrder);
-
-  std::vector<Qvx8u> memory(1 << 20);
-  Spec* record = nullptr;
-  EXPECT_EQ(life.init(nullptr, 31, 3, 0, nullptr, nullptr), qvxStatNullPtr);
-  for (const int order : {-1, limit + 1, INT_MAX})
-    EXPECT_EQ(life.init(&record, order, 3, 0, nullptr, nullptr), qvxStatBadFFTOrder);
-  EXPECT_EQ(life.init(&record, 11, 3, 0, nullptr, nullptr), qvxStatNullPtr);
-  EXPECT_EQ(life.init(&record, 11, 3, 0, memory.data(), nullptr), qvxStatBadFFTFlag);
-  EXPECT_EQ(life.init(&record, 11, 8, 0, memory.data(), nullptr), qvxStatNullPtr);
-  EXPECT_EQ(record, nullptr);
-  EXPECT_EQ(life.initAlloc(nullptr, 31, 3, 0), qvxStatNullPtr);
-  EXPECT_EQ(life.initAlloc(&record, limit + 1, 3, 0), qvxStatBadFFTFlag);
-  EXPECT_EQ(life.initAlloc(&record, limit + 1, 8, 0), qvxStatBadFFTOrder);
-
-  // In a block of exactly the reported size, wherever it begins; freed, and freed again.
-  for (const int order : {0, 4, 5, 6, 7, 8, 10, 11, 12, 13, 17, 18, 19, 20}) {
-    ASSERT_EQ(life.getSize(order, 8, 0, &spec, &init, &work), qvxStatOk);
-    tests::Block block(static_cast<size_t>(spec) + 64), initBlock(static_cast<size_t>(init) + 1);
-    for (const size_t shift : {0, 1, 16, 31, 33}) {
-      Qvx8u* buffer = init == 0 ? nullptr : initBlock.atEnd(static_cast<size_t>(init));
-      Qvx8u* place = shift == 0 ? block.atEnd(static_cast<size_t>(spec)) : block.atOffset(shift, static_cast<size_t>(spec));
-      ASSERT_EQ(life.init(&record, order, 8, 0, place, buffer), qvxStatOk) << order;
-      EXPECT_TRUE(block.isIntact() && (init == 0 || initBlock.isIntact())) << order << ", " << shift;
-      int size = -1;
-      EXPECT_EQ(life.getBufSize(record, &size), qvxStatOk);
-      EXPECT_EQ(size, work);
-      EXPECT_EQ(life.getBufSize(record, nullptr), qvxStatNullPtr);
-      EXPECT_EQ(life.free(record), qvxStatOk);
-      EXPECT_EQ(life.free(record), qvxStatContextMismatch);
-      EXPECT_EQ(life.getBufSize(record, &size), qvxStatContextMismatch);
-    }
-  }
-  int size = -1;
-  EXPECT_EQ(life.free(nullptr), qvxStatNullPtr);
-  EXPECT_EQ(life.getBufSize(nullptr, &size), qvxStatNullPtr);
-}
-
 // clang-format off
 const tests::Life<QvxsFFTSpec_C_32fc> kC32fc = {qvxsFFTGetSize_C_32fc, qvxsFFTInit_C_32fc, qvxsFFTInitAlloc_C_32fc, qvxsFFTFree_C_32fc, qvxsFFTGetBufSize_C_32fc};
 const tests::Life<QvxsFFTSpec_C_32f> kC32f = {qvxsFFTGetSize_C_32f, qvxsFFTInit_C_32f, qvxsFFTInitAlloc_C_32f, qvxsFFTFree_C_32f, qvxsFFTGetBufSize_C_32f};
@@ -133,12 +74,18 @@ const tests::Life<QvxsFFTSpec_R_64f> kR64f = {qvxsFFTGetSize_R_64f, qvxsFFTInit_
 // clang-format on
 
 TEST(FftRecord, SizesChecksAndMemory) {
-  checkLife(kC32fc, kSingle, false, 28, "C_32fc");
-  checkLife(kC32f, kSingle, false, 28, "C_32f");
-  checkLife(kC64fc, kDouble, false, 27, "C_64fc");
-  checkLife(kC64f, kDouble, false, 27, "C_64f");
-  checkLife(kR32f, kSingle, true, 29, "R_32f");
-  checkLife(kR64f, kDouble, true, 28, "R_64f");
+  tests::checkLife(
+      kC32fc, [](int order, int) { return complexSizes(kSingle, order); }, 28, 29, "C_32fc");
+  tests::checkLife(
+      kC32f, [](int order, int) { return complexSizes(kSingle, order); }, 28, 29, "C_32f");
+  tests::checkLife(
+      kC64fc, [](int order, int) { return complexSizes(kDouble, order); }, 27, 28, "C_64fc");
+  tests::checkLife(
+      kC64f, [](int order, int) { return complexSizes(kDouble, order); }, 27, 28, "C_64f");
+  tests::checkLife(
+      kR32f, [](int order, int) { return realSizes(kSingle, order); }, 29, 30, "R_32f");
+  tests::checkLife(
+      kR64f, [](int order, int) { return realSizes(kDouble, order); }, 28, 29, "R_64f");
 }
 
 // ---- Transforms: record, identity, vectors, in this order; nothing written

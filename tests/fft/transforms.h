@@ -24,8 +24,8 @@ template <class Spec> struct Life {
 
 template <class Spec> class Record {
  public:
-  Record(const Life<Spec>& life, int order, int flag) : life_(life) {
-    EXPECT_EQ(life.initAlloc(&spec_, order, flag, 0), qvxStatOk) << "order " << order;
+  Record(const Life<Spec>& life, int order, int flag, int hint = 0) : life_(life) {
+    EXPECT_EQ(life.initAlloc(&spec_, order, flag, hint), qvxStatOk) << "order " << order;
   }
   ~Record() { EXPECT_EQ(life_.free(spec_), qvxStatOk); }
   Record(const Record&) = delete;

@@ -1,0 +1,78 @@
+// How far forward transforms of noise are from those in long double.
+#pragma once
+
+#include <qvx/qvxs.h>
+
+#include <limits>
+#include <random>
+
+#include "reference/dft.h"
+
+namespace tests {
+
+inline constexpr double kTransformBound = 0.35;
+
+// The root of the mean square of the error over that of the spectrum, in units of eps sqrt(order).
+template <class T, class At> double inUnits(const std::vector<Exact>& expected, size_t count, int order, At at) {
+  long double error = 0;
+  long double size = 0;
+  for (size_t k = 0; k < count; ++k) {
+    error += std::norm(at(k) - expected[k]);
+    size += std::norm(expected[k]);
+  }
+  const long double unit = std::numeric_limits<T>::epsilon() * std::sqrt(static_cast<long double>(order));
+  return static_cast<double>(std::sqrt(error / size) / unit);
+}
+
+template <class T> std::vector<T> noise(size_t count) {
+  std::mt19937_64 random(20240229);
+  std::uniform_real_distribution<T> uniform(-1, 1);
+  std::vector<T> v(count);
+  for (T& x : v) x = uniform(random);
+  return v;
+}
+
+template <class T, class C, class Record>
+double complexError(int order, QvxStatus (*make)(Record**, int, int, int), QvxStatus (*run)(const C*, C*, const Record*, Qvx8u*),
+                    QvxStatus (*release)(Record*)) {
+  const size_t n = size_t{1} << order;
+  const std::vector<T> x = noise<T>(2 * n);
+  std::vector<Exact> exact(n);
+  for (size_t i = 0; i < n; ++i) exact[i] = {x[2 * i], x[2 * i + 1]};
+  std::vector<C> found(n);
+  Record* record = nullptr;
+  if (make(&record, order, QVX_FFT_SCALE_NONE, 0) != qvxStatOk) return INFINITY;
+  run(reinterpret_cast<const C*>(x.data()), found.data(), record, nullptr);
+  release(record);
+  return inUnits<T>(dft(exact, -1), n, order, [&](size_t k) { return Exact(found[k].re, found[k].im); });
+}
+
+// In CCS, which has the parts of X[k] side by side.
+template <class T, class Record>
+double realError(int order, QvxStatus (*make)(Record**, int, int, int), QvxStatus (*run)(const T*, T*, const Record*, Qvx8u*),
+                 QvxStatus (*release)(Record*)) {
+  const size_t n = size_t{1} << order;
+  const std::vector<T> x = noise<T>(n);
+  std::vector<T> found(n + 2);
+  Record* record = nullptr;
+  if (make(&record, order, QVX_FFT_SCALE_NONE, 0) != qvxStatOk) return INFINITY;
+  run(x.data(), found.data(), record, nullptr);
+  release(record);
+  return inUnits<T>(dft(std::vector<Exact>(x.begin(), x.end()), -1), n / 2 + 1, order,
+                    [&](size_t k) { return Exact(found[2 * k], found[2 * k + 1]); });
+}
+
+struct TransformErrors {
+  int order;
+  double of[4];  // 32fc, 64fc, real 32f, real 64f
+};
+
+inline TransformErrors transformErrors(int order) {
+  return {order,
+          {complexError<Qvx32f>(order, qvxsFFTInitAlloc_C_32fc, qvxsFFTFwd_CToC_32fc, qvxsFFTFree_C_32fc),
+           complexError<Qvx64f>(order, qvxsFFTInitAlloc_C_64fc, qvxsFFTFwd_CToC_64fc, qvxsFFTFree_C_64fc),
+           realError(order, qvxsFFTInitAlloc_R_32f, qvxsFFTFwd_RToCCS_32f, qvxsFFTFree_R_32f),
+           realError(order, qvxsFFTInitAlloc_R_64f, qvxsFFTFwd_RToCCS_64f, qvxsFFTFree_R_64f)}};
+}
+
+}  // namespace tests
