@@ -46,28 +46,35 @@ template <auto kInit, class State, class T> State* direct(size_t order) {
   return s;
 }
 
+// Each call of every contender begins with an empty delay line, so that outputs can be compared.
 template <size_t kCount> QvxStatus sections32f(const Qvx32f* src, Qvx32f* dst, int len) {
   static auto* const s = sections<qvxsIIRInitAlloc_BiQuad_32f, QvxsIIRState_32f, Qvx32f>(kCount);
+  qvxsIIRSetDlyLine_32f(s, nullptr);
   return qvxsIIR_32f(src, dst, len, s);
 }
 template <size_t kCount> QvxStatus sectionsDf1(const Qvx32f* src, Qvx32f* dst, int len) {
   static auto* const s = sections<qvxsIIRInitAlloc_BiQuad_DF1_32f, QvxsIIRState_32f, Qvx32f>(kCount);
+  qvxsIIRSetDlyLine_32f(s, nullptr);
   return qvxsIIR_32f(src, dst, len, s);
 }
 template <size_t kCount> QvxStatus sections64f(const Qvx64f* src, Qvx64f* dst, int len) {
   static auto* const s = sections<qvxsIIRInitAlloc_BiQuad_64f, QvxsIIRState_64f, Qvx64f>(kCount);
+  qvxsIIRSetDlyLine_64f(s, nullptr);
   return qvxsIIR_64f(src, dst, len, s);
 }
 template <size_t kOrder> QvxStatus direct32f(const Qvx32f* src, Qvx32f* dst, int len) {
   static auto* const s = direct<qvxsIIRInitAlloc_32f, QvxsIIRState_32f, Qvx32f>(kOrder);
+  qvxsIIRSetDlyLine_32f(s, nullptr);
   return qvxsIIR_32f(src, dst, len, s);
 }
 template <size_t kOrder> QvxStatus direct64f(const Qvx64f* src, Qvx64f* dst, int len) {
   static auto* const s = direct<qvxsIIRInitAlloc_64f, QvxsIIRState_64f, Qvx64f>(kOrder);
+  qvxsIIRSetDlyLine_64f(s, nullptr);
   return qvxsIIR_64f(src, dst, len, s);
 }
 template <size_t kOrder> QvxStatus direct16s(const Qvx16s* src, Qvx16s* dst, int len) {
   static auto* const s = direct<qvxsIIRInitAlloc32f_16s, QvxsIIRState32f_16s, Qvx32f>(kOrder);
+  qvxsIIRSetDlyLine32f_16s(s, nullptr);
   return qvxsIIR32f_16s_Sfs(src, dst, len, s, 0);
 }
 
@@ -86,6 +93,7 @@ template <class T, class D = T> auto plainDirect(size_t order) {
 // One sample at a time is that library's interface.
 auto liquidRun(iirfilt_rrrf filter) {
   return [filter](const Qvx32f* src, Qvx32f* dst, int len) {
+    iirfilt_rrrf_reset(filter);
     for (int i = 0; i < len; ++i) iirfilt_rrrf_execute(filter, src[i], dst + i);
   };
 }

@@ -1,6 +1,8 @@
-// Recursive filters as one would write them: sections with all samples or sample by sample, and the direct form.
+// Recursive filters as one would write them: sections with all samples or sample by sample, and the direct form. Each call begins
+// with an empty delay line.
 #pragma once
 
+#include <algorithm>
 #include <vector>
 
 namespace bench::plain {
@@ -12,6 +14,7 @@ template <class T> struct Sections {
 
   [[gnu::noipa]] void bySample(const T* src, T* dst, int len) {
     const size_t count = taps.size() / 5;
+    std::fill(line.begin(), line.end(), T{0});
     for (int i = 0; i < len; ++i) {
       T x = src[i];
       for (size_t s = 0; s < count; ++s) {
@@ -29,8 +32,8 @@ template <class T> struct Sections {
   [[gnu::noipa]] void bySection(const T* src, T* dst, int len) {
     for (size_t s = 0; s < taps.size() / 5; ++s, src = dst) {
       const T b0 = taps[5 * s], b1 = taps[5 * s + 1], b2 = taps[5 * s + 2], a1 = taps[5 * s + 3], a2 = taps[5 * s + 4];
-      T d0 = line[2 * s];
-      T d1 = line[2 * s + 1];
+      T d0 = 0;
+      T d1 = 0;
       for (int i = 0; i < len; ++i) {
         const T x = src[i];
         const T y = b0 * x + d0;
@@ -54,6 +57,7 @@ template <class T> struct Direct {
     const T* const pb = b.data();
     const T* const pa = a.data();
     T* const d = line.data();
+    std::fill(line.begin(), line.end(), T{0});
     for (int i = 0; i < len; ++i) {
       const T x = src[i];
       const T y = pb[0] * x + d[0];

@@ -64,8 +64,7 @@ QVXS_API(QvxStatus, qvxsIIRGetStateSize64fc_32sc, (int order, int* pStateSize));
 QVXS_API(QvxStatus, qvxsIIRGetStateSize64f_16s, (int order, int* pStateSize));
 QVXS_API(QvxStatus, qvxsIIRGetStateSize64fc_16sc, (int order, int* pStateSize));
 
-/** The same for numBq sections. For internal type Qvx64f pass a block at a multiple of 32. Returns qvxStatBadIIROrder for numBq
- * < 1. */
+/** The same for numBq sections. Returns qvxStatBadIIROrder for numBq < 1. */
 QVXS_API(QvxStatus, qvxsIIRGetStateSize_BiQuad_32f, (int numBq, int* pStateSize));
 QVXS_API(QvxStatus, qvxsIIRGetStateSize_BiQuad_32fc, (int numBq, int* pStateSize));
 QVXS_API(QvxStatus, qvxsIIRGetStateSize32f_BiQuad_16s, (int numBq, int* pStateSize));
@@ -320,9 +319,9 @@ QVXS_API(QvxStatus, qvxsIIRSetTaps64fc_16sc, (const Qvx64fc* pTaps, QvxsIIRState
 
 /** dst = the filter's output for src, and the record's delay line carried on: a stream may be cut anywhere and its pieces go
  *  through any of these functions. _I and _ISfs work in place, One takes one sample.
- *  Floats: 32-bit memory is computed in 64-bit floats for all but a few samples, and every filter is at least as accurate as a
- *  quarter of the plain recursion in the type of its memory; outputs differ from it by rounding. What is beyond the range of the
- *  type turns infinite and stays in the delay line.
+ *  Floats: outputs differ from those of the plain recursion by rounding. 32-bit memory is computed in 64-bit floats, but for a
+ *  few samples, which leaves less than the plain recursion's error; with 64-bit memory the error is at most 4 times as large.
+ *  What is beyond the range of the type turns infinite and stays in the delay line.
  *  Integers: the output times 2^-scaleFactor, rounded to nearest with ties to even, saturated. Neither scale nor saturation comes
  *  back into the filter.
  *  pSrc, pDst: len samples, any alignment; they may be one vector.

@@ -19,7 +19,9 @@ template <class T> class Direct {
  public:
   static constexpr size_t kParts = qvx::kParts<T>;
   static constexpr size_t kElements = kLanes / kParts;
-  static constexpr int kMostOrder = 64;  // above, the one-sample update has vectors of its own, and the block no room for tables
+  // Above, sample by sample is as fast: there a vector has all 32-bit lanes, and no more multiplications are made than taps ask
+  // for.
+  static constexpr int kMostOrder = kLanes == 8 ? 48 : kLanes == 4 ? 24 : 16;
   using Number = Coefficient<kParts>;
 
   // The tables' room in the block.
@@ -57,9 +59,9 @@ template <class T> class Direct {
     }
   }
 
-  // From x to y, n samples; the lanes up to the next whole vector are there, and are written. Both have order zeros before them:
-  // d, the transposed direct form's delay line, holds all that came before, and comes to the output as if it were input. After
-  // it, d holds all up to the n-th.
+  // From x to y, n samples, order or more; the lanes up to the next whole vector are there, and are written. Both have order
+  // zeros before them: d, the transposed direct form's delay line, holds all that came before, and comes to the output as if it
+  // were input. After it, d holds all up to the n-th.
   [[gnu::flatten]] void run(const Lane* x, Lane* y, size_t n, Lane* d) const {
     const size_t lineEnd = order_ * kParts;
     V last = hn::Zero(Wide());
@@ -80,10 +82,10 @@ template <class T> class Direct {
         w2 = plusProduct(w2, column(k - 2), multiplied<kParts>(everywhere<kParts>(y + i - (k - 1) * kParts)));
       }
       if (k > kElements) w = plusProduct(w, column(k - 1), multiplied<kParts>(everywhere<kParts>(y + i - k * kParts)));
-      last = afterLast<0>(w + w2, hn::Zero(Wide()), last);
+      last = afterLast<0>(w, w2, hn::Zero(Wide()), hn::Zero(Wide()), last);
       store(last, Wide(), y + i);
     }
-    line(x + n * kParts, y + n * kParts, n, d);
+    line(x + n * kParts, y + n * kParts, d);
   }
 
  private:
@@ -109,13 +111,18 @@ template <class T> class Direct {
     }
   }
 
-  // The part of the outputs of the vector before, which is only just known: from its register, in two sums.
-  template <size_t kColumn> [[gnu::always_inline]] V afterLast(V all, V all2, V last) const {
-    if constexpr (kColumn == kElements) {
-      return all + all2;
-    } else {
+  // The part of the outputs of the vector before, which is only just known: from its register, in four sums that take turns, so
+  // that what waits for it is two multiplications deep for 8 of them.
+  template <size_t kColumn> [[gnu::always_inline]] V afterLast(V next, V second, V third, V latest, V last) const {
+    if constexpr (kColumn < kElements) {
       const auto x = multiplied<kParts>(everyNumber<kElements - 1 - kColumn>(last));
-      return afterLast<kColumn + 1>(all2, plusProduct(all, column(kColumn), x), last);
+      return afterLast<kColumn + 1>(second, third, latest, plusProduct(next, column(kColumn), x), last);
+    } else if constexpr (kElements == 1) {
+      return next + latest;  // the others are still 0
+    } else if constexpr (kElements == 2) {
+      return third + latest;
+    } else {
+      return (next + second) + (third + latest);
     }
   }
   template <size_t kAt> static V everyNumber(V v) {
@@ -124,11 +131,10 @@ template <class T> class Direct {
   }
 
   // The delay line after the last inputs and outputs, which end at these places.
-  void line(const Lane* xEnd, const Lane* yEnd, size_t n, Lane* d) const {
+  void line(const Lane* xEnd, const Lane* yEnd, Lane* d) const {
     for (size_t i = 0; i < order_; i += kElements) {
       const size_t count = std::min(kElements, order_ - i) * kParts;
       V v = hn::Zero(Wide());
-      if (i + n < order_) v = loadFirst(Wide(), d + (i + n) * kParts, std::min(kLanes, (order_ - i - n) * kParts));
       for (size_t q = 1; i + q <= order_; ++q) {
         v = plusProduct(v, taps(b_ + i + q), multiplied<kParts>(everywhere<kParts>(xEnd - q * kParts)));
         v = plusProduct(v, taps(a_ + i + q), multiplied<kParts>(everywhere<kParts>(yEnd - q * kParts)));

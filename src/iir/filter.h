@@ -15,6 +15,9 @@ inline constexpr size_t kBlockLanes = 512;
 // From this many numbers on, a vector at a time pays: below, the start of a kernel takes longer than the samples.
 inline constexpr size_t kWorthLookingAhead = 8;
 
+// From this order on, the line of a direct form that goes sample by sample is filled and emptied for a call.
+inline constexpr size_t kWorthStandingStill = 16;
+
 // ---- in and out
 
 template <class Data> void loadBlock(const Data* src, Lane* work, size_t lanes) {
@@ -122,7 +125,13 @@ template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
   const auto each = [&](auto one) {
     for (size_t i = 0; i < n; ++i) at[i] = numberOf<LaneNumber<T>>(one(numberOf<T>(at[i])));
   };
-  if (s.isDirect()) return each([&](T v) { return directOne(s.taps, s.line, lineValues(s), v); });
+  if (s.isDirect()) {
+    if constexpr (kParts<T> == 1) {
+      const size_t order = lineValues(s);
+      if (order >= kWorthStandingStill && order <= kMostStill) return directStill(s.taps, s.line, order, work, n);
+    }
+    return each([&](T v) { return directOne(s.taps, s.line, lineValues(s), v); });
+  }
   for (int k = 0; k < s.numBq; ++k) each([t = s.taps + 5 * k, d = s.line + 2 * k](T v) { return sectionOne(t, d, v); });
 }
 

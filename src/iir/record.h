@@ -106,6 +106,8 @@ template <class State> State* iirPlace(Form form, int n, Qvx8u* block) {
   if (form == Form::kDirect) {
     state->order = n;
     state->numBq = 0;
+    constexpr int64_t kBefore = int64_t{kVectorBytes / sizeof(T)};  // zeros before the taps, for directStill
+    std::fill_n(carver.template take<T>(kBefore), kBefore, T{});
     state->taps = carver.template take<T>(2 * int64_t{n} + 1);
     state->line = carver.template take<T>(int64_t{n} + 1);
     state->line[n] = T{};

@@ -10,7 +10,7 @@ namespace {
 using namespace tests;
 
 // Taps to both sides of where kernels and ways change, and some that fill no vector of any size.
-const int kTaps[] = {1, 2, 3, 5, 8, 15, 16, 17, 31, 32, 33, 47, 63, 64, 65, 100, 127, 128, 300};
+const int kTaps[] = {1, 2, 3, 5, 8, 15, 16, 17, 31, 32, 33, 47, 63, 64, 65, 100, 127, 128, 257, 513};
 
 template <class T> std::vector<T> samples(size_t n, Random& random) {
   std::vector<T> v(n);
