@@ -22,7 +22,7 @@ class Filter {
   const std::vector<double>& taps() const { return taps_; }
   double gainDb(double frequency) const;
 
-  // Writes the filtered file with 16 bits; the rate must be that of the specification. Returns the frames.
+  // Writes the filtered file with 16 bits; its rate must be the one the filter was designed for. Returns the frames.
   long long apply(const std::string& input, const std::string& output) const;
 
  private:

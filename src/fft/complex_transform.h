@@ -1,8 +1,8 @@
 // A complex transform, whatever its length and whoever asks for it.
 #pragma once
 
+#include "fft/record.h"
 #include "fft/small.h"
-#include "fft/spec.h"
 
 namespace qvx::fft {
 
@@ -98,11 +98,11 @@ QVX_INLINE void complexTransform(const Spec<T>& spec, int order, Src src, Dst ds
 
 // As called: what the flag says of this direction, and working memory.
 template <bool kInverse, class Record, class Src, class Dst, class Run>
-QvxStatus called(const Record* spec, uint32_t id, Src src, Dst dst, Qvx8u* pBuffer, Run run) {
-  const QvxStatus status = checkRecord(spec, id);
+QvxStatus called(const Record* spec, Src src, Dst dst, Qvx8u* pBuffer, Run run) {
+  const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
   if (isMissing(src) || isMissing(dst)) return qvxStatNullPtr;
-  using T = std::remove_const_t<decltype(spec->normFactor)>;
+  using T = typename Record::T;
   const auto scaled = [&](T * y) __attribute__((always_inline)) {
     if (kInverse ? spec->invScaled : spec->fwdScaled) run(*spec, y, Times<T>{spec->normFactor});
     else run(*spec, y, Plain{});
@@ -112,6 +112,37 @@ QvxStatus called(const Record* spec, uint32_t id, Src src, Dst dst, Qvx8u* pBuff
   if (!isNull(pBuffer)) return scaled(Carver<32>(pBuffer).template take<T>(0));
   const Block own(spec->workSize);
   return own ? scaled(reinterpret_cast<T*>(own.get())) : qvxStatNoMem;
+}
+
+// ---- The functions of complex record types. Order: that of the lanes in their sources.
+
+template <class Order, class Record>
+QvxStatus initComplex(Record** ppSpec, int order, int flag, int hint, Qvx8u* pMemory, const Qvx8u* pInitBuffer) {
+  using T = typename Record::T;
+  return init(ppSpec, order, flag, hint, Orders<T>::kComplex, pMemory, pInitBuffer, [order](Record& spec, Qvx8u* tables) {
+    spec.workSize = static_cast<int32_t>(complexSizes<T>(order).work);
+    if (order > Orders<T>::kCached && order <= Orders<T>::kThreaded) spec.threads = threadsOf();
+    writeRootsOf<Order>(spec, order, reinterpret_cast<T*>(tables));
+  });
+}
+
+template <bool kInverse, class Record, class Src, class Dst>
+QvxStatus transformed(const Record* spec, Src src, Dst dst, Qvx8u* pBuffer) {
+  return called<kInverse>(spec, src, dst, pBuffer, [=](const Record& record, auto* y, auto fit) {
+    complexTransform(record, record.order, src, dst, y, fit);
+  });
+}
+template <bool kInverse, class C, class Record>
+QvxStatus interleavedTransform(const C* src, C* dst, const Record* spec, Qvx8u* pBuffer) {
+  using T = typename Record::T;
+  return transformed<kInverse>(spec, Interleaved<const T, kInverse>{parts(src)}, Interleaved<T, kInverse>{parts(dst)}, pBuffer);
+}
+// An inverse one has its parts exchanged; then it takes the factor of its direction.
+template <bool kInverse, class T, class Record>
+QvxStatus apartTransform(const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, const Record* spec, Qvx8u* pBuffer) {
+  const Apart<const T> src = kInverse ? Apart<const T>{srcIm, srcRe} : Apart<const T>{srcRe, srcIm};
+  const Apart<T> dst = kInverse ? Apart<T>{dstIm, dstRe} : Apart<T>{dstRe, dstIm};
+  return transformed<kInverse>(spec, src, dst, pBuffer);
 }
 
 }  // namespace qvx::fft

@@ -11,16 +11,16 @@ constexpr int kLimit32 = limitOf(Orders<Qvx64f>::kComplex, complexSizes32);
 static_assert(kLimit16 == 27 && kLimit32 == 26);
 
 template <class Record>
-QvxStatus init16(Record** ppSpec, int order, int flag, int hint, uint32_t id, bool apart, Qvx8u* pSpec, Qvx8u* pInit,
+QvxStatus init16(Record** ppSpec, int order, int flag, int hint, bool apart, Qvx8u* pSpec, Qvx8u* pInit,
                  QvxStatus (*initFloats)(typename Record::Floats**, int, int, int, Qvx8u*, Qvx8u*)) {
   const auto workSize = [=] { return complexSizes16(order, hint, apart).work; };
-  return initInteger(ppSpec, order, flag, kLimit16, id, isInIntegers(order, hint), workSize, pSpec, pInit, initFloats);
+  return initInteger(ppSpec, order, flag, kLimit16, isInIntegers(order, hint), workSize, pSpec, pInit, initFloats);
 }
 template <class Record>
-QvxStatus init32(Record** ppSpec, int order, int flag, uint32_t id, Qvx8u* pSpec, Qvx8u* pInit,
+QvxStatus init32(Record** ppSpec, int order, int flag, Qvx8u* pSpec, Qvx8u* pInit,
                  QvxStatus (*initFloats)(typename Record::Floats**, int, int, int, Qvx8u*, Qvx8u*)) {
   return initInteger(
-      ppSpec, order, flag, kLimit32, id, false, [=] { return complexSizes32(order).work; }, pSpec, pInit, initFloats);
+      ppSpec, order, flag, kLimit32, false, [=] { return complexSizes32(order).work; }, pSpec, pInit, initFloats);
 }
 
 // ---- interleaved
@@ -36,7 +36,7 @@ template <bool kInverse> QvxStatus inIntegers(const Qvx16sc* src, Qvx16sc* dst, 
 
 template <bool kInverse>
 QvxStatus interleaved(const Qvx16sc* src, Qvx16sc* dst, const QvxsFFTSpec_C_16sc* spec, int scaleFactor, Qvx8u* pBuffer) {
-  const QvxStatus status = checkRecord(spec, kComplex16sc);
+  const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
   if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
   if (isNull(spec->floats)) return inIntegers<kInverse>(src, dst, *spec, scaleFactor);
@@ -46,7 +46,7 @@ QvxStatus interleaved(const Qvx16sc* src, Qvx16sc* dst, const QvxsFFTSpec_C_16sc
 }
 template <bool kInverse>
 QvxStatus interleaved(const Qvx32sc* src, Qvx32sc* dst, const QvxsFFTSpec_C_32sc* spec, int scaleFactor, Qvx8u* pBuffer) {
-  const QvxStatus status = checkRecord(spec, kComplex32sc);
+  const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
   if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
   constexpr auto kTransform = kInverse ? qvxsFFTInv_CToC_64fc_I : qvxsFFTFwd_CToC_64fc_I;
@@ -91,7 +91,7 @@ QvxStatus throughFloats(Parts<const T> src, Parts<T> dst, const Record& spec, in
 
 template <bool kInverse>
 QvxStatus apart(Parts<const Qvx16s> src, Parts<Qvx16s> dst, const QvxsFFTSpec_C_16s* spec, int scaleFactor, Qvx8u* pBuffer) {
-  const QvxStatus status = checkRecord(spec, kComplex16s);
+  const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
   if (isMissing(src) || isMissing(dst)) return qvxStatNullPtr;
   if (isNull(spec->floats)) return inIntegers<kInverse>(src, dst, *spec, scaleFactor);
@@ -99,7 +99,7 @@ QvxStatus apart(Parts<const Qvx16s> src, Parts<Qvx16s> dst, const QvxsFFTSpec_C_
 }
 template <bool kInverse>
 QvxStatus apart(Parts<const Qvx32s> src, Parts<Qvx32s> dst, const QvxsFFTSpec_C_32s* spec, int scaleFactor, Qvx8u* pBuffer) {
-  const QvxStatus status = checkRecord(spec, kComplex32s);
+  const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
   if (isMissing(src) || isMissing(dst)) return qvxStatNullPtr;
   return throughFloats < kInverse ? qvxsFFTInv_CToC_64f_I : qvxsFFTFwd_CToC_64f_I > (src, dst, *spec, scaleFactor, pBuffer);
@@ -109,25 +109,25 @@ QvxStatus apart(Parts<const Qvx32s> src, Parts<Qvx32s> dst, const QvxsFFTSpec_C_
 
 // clang-format off
 QvxStatus qvxsFFTGetSize_C_16sc(int order, int flag, int hint, int* pSpecSize, int* pInitSize, int* pWorkSize) { return getSize(order, flag, kLimit16, pSpecSize, pInitSize, pWorkSize, [=](int m) { return complexSizes16(m, hint, false); }); }
-QvxStatus qvxsFFTInit_C_16sc(QvxsFFTSpec_C_16sc** ppSpec, int order, int flag, int hint, Qvx8u* pSpec, Qvx8u* pInit) { return init16(ppSpec, order, flag, hint, kComplex16sc, false, pSpec, pInit, qvxsFFTInit_C_32fc); }
+QvxStatus qvxsFFTInit_C_16sc(QvxsFFTSpec_C_16sc** ppSpec, int order, int flag, int hint, Qvx8u* pSpec, Qvx8u* pInit) { return init16(ppSpec, order, flag, hint, false, pSpec, pInit, qvxsFFTInit_C_32fc); }
 QvxStatus qvxsFFTInitAlloc_C_16sc(QvxsFFTSpec_C_16sc** ppSpec, int order, int flag, int hint) { return initAlloc(ppSpec, order, flag, hint, qvxsFFTGetSize_C_16sc, qvxsFFTInit_C_16sc); }
-QvxStatus qvxsFFTFree_C_16sc(QvxsFFTSpec_C_16sc* spec) { return release(spec, kComplex16sc); }
-QvxStatus qvxsFFTGetBufSize_C_16sc(const QvxsFFTSpec_C_16sc* spec, int* pSize) { return bufferSize(spec, pSize, kComplex16sc); }
+QvxStatus qvxsFFTFree_C_16sc(QvxsFFTSpec_C_16sc* spec) { return release(spec); }
+QvxStatus qvxsFFTGetBufSize_C_16sc(const QvxsFFTSpec_C_16sc* spec, int* pSize) { return bufferSize(spec, pSize); }
 QvxStatus qvxsFFTGetSize_C_16s(int order, int flag, int hint, int* pSpecSize, int* pInitSize, int* pWorkSize) { return getSize(order, flag, kLimit16, pSpecSize, pInitSize, pWorkSize, [=](int m) { return complexSizes16(m, hint, true); }); }
-QvxStatus qvxsFFTInit_C_16s(QvxsFFTSpec_C_16s** ppSpec, int order, int flag, int hint, Qvx8u* pSpec, Qvx8u* pInit) { return init16(ppSpec, order, flag, hint, kComplex16s, true, pSpec, pInit, qvxsFFTInit_C_32f); }
+QvxStatus qvxsFFTInit_C_16s(QvxsFFTSpec_C_16s** ppSpec, int order, int flag, int hint, Qvx8u* pSpec, Qvx8u* pInit) { return init16(ppSpec, order, flag, hint, true, pSpec, pInit, qvxsFFTInit_C_32f); }
 QvxStatus qvxsFFTInitAlloc_C_16s(QvxsFFTSpec_C_16s** ppSpec, int order, int flag, int hint) { return initAlloc(ppSpec, order, flag, hint, qvxsFFTGetSize_C_16s, qvxsFFTInit_C_16s); }
-QvxStatus qvxsFFTFree_C_16s(QvxsFFTSpec_C_16s* spec) { return release(spec, kComplex16s); }
-QvxStatus qvxsFFTGetBufSize_C_16s(const QvxsFFTSpec_C_16s* spec, int* pSize) { return bufferSize(spec, pSize, kComplex16s); }
+QvxStatus qvxsFFTFree_C_16s(QvxsFFTSpec_C_16s* spec) { return release(spec); }
+QvxStatus qvxsFFTGetBufSize_C_16s(const QvxsFFTSpec_C_16s* spec, int* pSize) { return bufferSize(spec, pSize); }
 QvxStatus qvxsFFTGetSize_C_32sc(int order, int flag, int, int* pSpecSize, int* pInitSize, int* pWorkSize) { return getSize(order, flag, kLimit32, pSpecSize, pInitSize, pWorkSize, complexSizes32); }
-QvxStatus qvxsFFTInit_C_32sc(QvxsFFTSpec_C_32sc** ppSpec, int order, int flag, int, Qvx8u* pSpec, Qvx8u* pInit) { return init32(ppSpec, order, flag, kComplex32sc, pSpec, pInit, qvxsFFTInit_C_64fc); }
+QvxStatus qvxsFFTInit_C_32sc(QvxsFFTSpec_C_32sc** ppSpec, int order, int flag, int, Qvx8u* pSpec, Qvx8u* pInit) { return init32(ppSpec, order, flag, pSpec, pInit, qvxsFFTInit_C_64fc); }
 QvxStatus qvxsFFTInitAlloc_C_32sc(QvxsFFTSpec_C_32sc** ppSpec, int order, int flag, int hint) { return initAlloc(ppSpec, order, flag, hint, qvxsFFTGetSize_C_32sc, qvxsFFTInit_C_32sc); }
-QvxStatus qvxsFFTFree_C_32sc(QvxsFFTSpec_C_32sc* spec) { return release(spec, kComplex32sc); }
-QvxStatus qvxsFFTGetBufSize_C_32sc(const QvxsFFTSpec_C_32sc* spec, int* pSize) { return bufferSize(spec, pSize, kComplex32sc); }
+QvxStatus qvxsFFTFree_C_32sc(QvxsFFTSpec_C_32sc* spec) { return release(spec); }
+QvxStatus qvxsFFTGetBufSize_C_32sc(const QvxsFFTSpec_C_32sc* spec, int* pSize) { return bufferSize(spec, pSize); }
 QvxStatus qvxsFFTGetSize_C_32s(int order, int flag, int hint, int* pSpecSize, int* pInitSize, int* pWorkSize) { return qvxsFFTGetSize_C_32sc(order, flag, hint, pSpecSize, pInitSize, pWorkSize); }
-QvxStatus qvxsFFTInit_C_32s(QvxsFFTSpec_C_32s** ppSpec, int order, int flag, int, Qvx8u* pSpec, Qvx8u* pInit) { return init32(ppSpec, order, flag, kComplex32s, pSpec, pInit, qvxsFFTInit_C_64f); }
+QvxStatus qvxsFFTInit_C_32s(QvxsFFTSpec_C_32s** ppSpec, int order, int flag, int, Qvx8u* pSpec, Qvx8u* pInit) { return init32(ppSpec, order, flag, pSpec, pInit, qvxsFFTInit_C_64f); }
 QvxStatus qvxsFFTInitAlloc_C_32s(QvxsFFTSpec_C_32s** ppSpec, int order, int flag, int hint) { return initAlloc(ppSpec, order, flag, hint, qvxsFFTGetSize_C_32s, qvxsFFTInit_C_32s); }
-QvxStatus qvxsFFTFree_C_32s(QvxsFFTSpec_C_32s* spec) { return release(spec, kComplex32s); }
-QvxStatus qvxsFFTGetBufSize_C_32s(const QvxsFFTSpec_C_32s* spec, int* pSize) { return bufferSize(spec, pSize, kComplex32s); }
+QvxStatus qvxsFFTFree_C_32s(QvxsFFTSpec_C_32s* spec) { return release(spec); }
+QvxStatus qvxsFFTGetBufSize_C_32s(const QvxsFFTSpec_C_32s* spec, int* pSize) { return bufferSize(spec, pSize); }
 
 QvxStatus qvxsFFTFwd_CToC_16sc_Sfs(const Qvx16sc* src, Qvx16sc* dst, const QvxsFFTSpec_C_16sc* spec, int sf, Qvx8u* pBuffer) { return interleaved<false>(src, dst, spec, sf, pBuffer); }
 QvxStatus qvxsFFTFwd_CToC_16sc_ISfs(Qvx16sc* d, const QvxsFFTSpec_C_16sc* spec, int sf, Qvx8u* pBuffer) { return interleaved<false>(d, d, spec, sf, pBuffer); }

@@ -46,8 +46,8 @@ QvxStatus inverseInIntegers(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_
 
 // kFloats: the transform in place.
 template <Layout kLayout, auto kFloats, class Record, class In, class Out>
-QvxStatus forward(const In* src, Out* dst, const Record* spec, uint32_t id, int scaleFactor, Qvx8u* pBuffer) {
-  const QvxStatus status = checkRecord(spec, id);
+QvxStatus forward(const In* src, Out* dst, const Record* spec, int scaleFactor, Qvx8u* pBuffer) {
+  const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
   if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
   if constexpr (std::is_same_v<Record, QvxsFFTSpec_R_16s>) {
@@ -56,8 +56,8 @@ QvxStatus forward(const In* src, Out* dst, const Record* spec, uint32_t id, int 
   return throughFloats<kFloats>(*spec, src, 1 << spec->order, dst, spectrumLength(kLayout, spec->order), scaleFactor, pBuffer);
 }
 template <Layout kLayout, auto kFloats, class Record, class In, class Out>
-QvxStatus inverse(const In* src, Out* dst, const Record* spec, uint32_t id, int scaleFactor, Qvx8u* pBuffer) {
-  const QvxStatus status = checkRecord(spec, id);
+QvxStatus inverse(const In* src, Out* dst, const Record* spec, int scaleFactor, Qvx8u* pBuffer) {
+  const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
   if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
   if constexpr (std::is_same_v<Record, QvxsFFTSpec_R_16s>) {
@@ -70,45 +70,45 @@ QvxStatus inverse(const In* src, Out* dst, const Record* spec, uint32_t id, int 
 
 // clang-format off
 QvxStatus qvxsFFTGetSize_R_16s(int order, int flag, int hint, int* pSpecSize, int* pInitSize, int* pWorkSize) { return getSize(order, flag, kLimit16, pSpecSize, pInitSize, pWorkSize, [=](int m) { return realSizes16(m, hint); }); }
-QvxStatus qvxsFFTInit_R_16s(QvxsFFTSpec_R_16s** ppSpec, int order, int flag, int hint, Qvx8u* pSpec, Qvx8u* pInit) { return initInteger(ppSpec, order, flag, kLimit16, kReal16s, isInIntegers(order, hint), [=] { return realSizes16(order, hint).work; }, pSpec, pInit, qvxsFFTInit_R_32f); }
+QvxStatus qvxsFFTInit_R_16s(QvxsFFTSpec_R_16s** ppSpec, int order, int flag, int hint, Qvx8u* pSpec, Qvx8u* pInit) { return initInteger(ppSpec, order, flag, kLimit16, isInIntegers(order, hint), [=] { return realSizes16(order, hint).work; }, pSpec, pInit, qvxsFFTInit_R_32f); }
 QvxStatus qvxsFFTInitAlloc_R_16s(QvxsFFTSpec_R_16s** ppSpec, int order, int flag, int hint) { return initAlloc(ppSpec, order, flag, hint, qvxsFFTGetSize_R_16s, qvxsFFTInit_R_16s); }
-QvxStatus qvxsFFTFree_R_16s(QvxsFFTSpec_R_16s* spec) { return release(spec, kReal16s); }
-QvxStatus qvxsFFTGetBufSize_R_16s(const QvxsFFTSpec_R_16s* spec, int* pSize) { return bufferSize(spec, pSize, kReal16s); }
+QvxStatus qvxsFFTFree_R_16s(QvxsFFTSpec_R_16s* spec) { return release(spec); }
+QvxStatus qvxsFFTGetBufSize_R_16s(const QvxsFFTSpec_R_16s* spec, int* pSize) { return bufferSize(spec, pSize); }
 QvxStatus qvxsFFTGetSize_R_32s(int order, int flag, int, int* pSpecSize, int* pInitSize, int* pWorkSize) { return getSize(order, flag, kLimit32, pSpecSize, pInitSize, pWorkSize, realSizes32); }
-QvxStatus qvxsFFTInit_R_32s(QvxsFFTSpec_R_32s** ppSpec, int order, int flag, int, Qvx8u* pSpec, Qvx8u* pInit) { return initInteger(ppSpec, order, flag, kLimit32, kReal32s, false, [=] { return realSizes32(order).work; }, pSpec, pInit, qvxsFFTInit_R_64f); }
+QvxStatus qvxsFFTInit_R_32s(QvxsFFTSpec_R_32s** ppSpec, int order, int flag, int, Qvx8u* pSpec, Qvx8u* pInit) { return initInteger(ppSpec, order, flag, kLimit32, false, [=] { return realSizes32(order).work; }, pSpec, pInit, qvxsFFTInit_R_64f); }
 QvxStatus qvxsFFTInitAlloc_R_32s(QvxsFFTSpec_R_32s** ppSpec, int order, int flag, int hint) { return initAlloc(ppSpec, order, flag, hint, qvxsFFTGetSize_R_32s, qvxsFFTInit_R_32s); }
-QvxStatus qvxsFFTFree_R_32s(QvxsFFTSpec_R_32s* spec) { return release(spec, kReal32s); }
-QvxStatus qvxsFFTGetBufSize_R_32s(const QvxsFFTSpec_R_32s* spec, int* pSize) { return bufferSize(spec, pSize, kReal32s); }
+QvxStatus qvxsFFTFree_R_32s(QvxsFFTSpec_R_32s* spec) { return release(spec); }
+QvxStatus qvxsFFTGetBufSize_R_32s(const QvxsFFTSpec_R_32s* spec, int* pSize) { return bufferSize(spec, pSize); }
 QvxStatus qvxsFFTGetSize_R_16s32s(int order, int flag, int, int* pSpecSize, int* pInitSize, int* pWorkSize) { return getSize(order, flag, kLimit16to32, pSpecSize, pInitSize, pWorkSize, realSizes16to32); }
-QvxStatus qvxsFFTInit_R_16s32s(QvxsFFTSpec_R_16s32s** ppSpec, int order, int flag, int, Qvx8u* pSpec, Qvx8u* pInit) { return initInteger(ppSpec, order, flag, kLimit16to32, kReal16s32s, false, [=] { return realSizes16to32(order).work; }, pSpec, pInit, qvxsFFTInit_R_32f); }
+QvxStatus qvxsFFTInit_R_16s32s(QvxsFFTSpec_R_16s32s** ppSpec, int order, int flag, int, Qvx8u* pSpec, Qvx8u* pInit) { return initInteger(ppSpec, order, flag, kLimit16to32, false, [=] { return realSizes16to32(order).work; }, pSpec, pInit, qvxsFFTInit_R_32f); }
 QvxStatus qvxsFFTInitAlloc_R_16s32s(QvxsFFTSpec_R_16s32s** ppSpec, int order, int flag, int hint) { return initAlloc(ppSpec, order, flag, hint, qvxsFFTGetSize_R_16s32s, qvxsFFTInit_R_16s32s); }
-QvxStatus qvxsFFTFree_R_16s32s(QvxsFFTSpec_R_16s32s* spec) { return release(spec, kReal16s32s); }
-QvxStatus qvxsFFTGetBufSize_R_16s32s(const QvxsFFTSpec_R_16s32s* spec, int* pSize) { return bufferSize(spec, pSize, kReal16s32s); }
+QvxStatus qvxsFFTFree_R_16s32s(QvxsFFTSpec_R_16s32s* spec) { return release(spec); }
+QvxStatus qvxsFFTGetBufSize_R_16s32s(const QvxsFFTSpec_R_16s32s* spec, int* pSize) { return bufferSize(spec, pSize); }
 
-QvxStatus qvxsFFTFwd_RToPerm_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPerm, qvxsFFTFwd_RToPerm_32f_I>(src, dst, spec, kReal16s, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPerm_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPerm, qvxsFFTFwd_RToPerm_32f_I>(d, d, spec, kReal16s, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPerm_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPerm, qvxsFFTFwd_RToPerm_64f_I>(src, dst, spec, kReal32s, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPerm_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPerm, qvxsFFTFwd_RToPerm_64f_I>(d, d, spec, kReal32s, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPack_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPack, qvxsFFTFwd_RToPack_32f_I>(src, dst, spec, kReal16s, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPack_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPack, qvxsFFTFwd_RToPack_32f_I>(d, d, spec, kReal16s, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPack_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPack, qvxsFFTFwd_RToPack_64f_I>(src, dst, spec, kReal32s, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPack_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPack, qvxsFFTFwd_RToPack_64f_I>(d, d, spec, kReal32s, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToCCS_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_32f_I>(src, dst, spec, kReal16s, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToCCS_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_32f_I>(d, d, spec, kReal16s, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToCCS_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_64f_I>(src, dst, spec, kReal32s, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToCCS_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_64f_I>(d, d, spec, kReal32s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PermToR_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPerm, qvxsFFTInv_PermToR_32f_I>(src, dst, spec, kReal16s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PermToR_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPerm, qvxsFFTInv_PermToR_32f_I>(d, d, spec, kReal16s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PermToR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPerm, qvxsFFTInv_PermToR_64f_I>(src, dst, spec, kReal32s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PermToR_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPerm, qvxsFFTInv_PermToR_64f_I>(d, d, spec, kReal32s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PackToR_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPack, qvxsFFTInv_PackToR_32f_I>(src, dst, spec, kReal16s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PackToR_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPack, qvxsFFTInv_PackToR_32f_I>(d, d, spec, kReal16s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PackToR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPack, qvxsFFTInv_PackToR_64f_I>(src, dst, spec, kReal32s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PackToR_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPack, qvxsFFTInv_PackToR_64f_I>(d, d, spec, kReal32s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CCSToR_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_32f_I>(src, dst, spec, kReal16s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CCSToR_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_32f_I>(d, d, spec, kReal16s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CCSToR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_64f_I>(src, dst, spec, kReal32s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CCSToR_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_64f_I>(d, d, spec, kReal32s, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToCCS_16s32s_Sfs(const Qvx16s* src, Qvx32s* dst, const QvxsFFTSpec_R_16s32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_32f_I>(src, dst, spec, kReal16s32s, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CCSToR_32s16s_Sfs(const Qvx32s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_32f_I>(src, dst, spec, kReal16s32s, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPerm_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPerm, qvxsFFTFwd_RToPerm_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPerm_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPerm, qvxsFFTFwd_RToPerm_32f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPerm_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPerm, qvxsFFTFwd_RToPerm_64f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPerm_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPerm, qvxsFFTFwd_RToPerm_64f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPack_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPack, qvxsFFTFwd_RToPack_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPack_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPack, qvxsFFTFwd_RToPack_32f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPack_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPack, qvxsFFTFwd_RToPack_64f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPack_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPack, qvxsFFTFwd_RToPack_64f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToCCS_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToCCS_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_32f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToCCS_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_64f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToCCS_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_64f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PermToR_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPerm, qvxsFFTInv_PermToR_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PermToR_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPerm, qvxsFFTInv_PermToR_32f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PermToR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPerm, qvxsFFTInv_PermToR_64f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PermToR_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPerm, qvxsFFTInv_PermToR_64f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PackToR_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPack, qvxsFFTInv_PackToR_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PackToR_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPack, qvxsFFTInv_PackToR_32f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PackToR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPack, qvxsFFTInv_PackToR_64f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PackToR_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPack, qvxsFFTInv_PackToR_64f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CCSToR_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CCSToR_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_32f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CCSToR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_64f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CCSToR_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_64f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToCCS_16s32s_Sfs(const Qvx16s* src, Qvx32s* dst, const QvxsFFTSpec_R_16s32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CCSToR_32s16s_Sfs(const Qvx32s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_32f_I>(src, dst, spec, sf, pBuffer); }
 // clang-format on

@@ -4,7 +4,7 @@
 // them, fill the 31 bits above. Sums are exact; the one root that is not 1 or i has 16 bits.
 #pragma once
 
-#include "fft/integer_spec.h"
+#include "fft/integer_record.h"
 
 namespace qvx::fft {
 

@@ -173,4 +173,25 @@ QVX_INLINE void inverseOf(const Spec<T>& spec, const T* src, T* dst, T* y, Fit f
   }
 }
 
+// ---- The functions of real record types
+
+template <class Record>
+QvxStatus initReal(Record** ppSpec, int order, int flag, int hint, Qvx8u* pMemory, const Qvx8u* pInitBuffer) {
+  using T = typename Record::T;
+  return init(ppSpec, order, flag, hint, Orders<T>::kReal, pMemory, pInitBuffer, [order](Record& spec, Qvx8u* tables) {
+    spec.workSize = static_cast<int32_t>(realSizes<T>(order).work);
+    if (order - 1 > Orders<T>::kCached && order - 1 <= Orders<T>::kThreaded) spec.threads = threadsOf();
+    writeRealRoots(spec, writeRootsOf<Interleaved<T, false>>(spec, order - 1, reinterpret_cast<T*>(tables)));
+  });
+}
+
+template <Layout kLayout, class T, class Record> QvxStatus spectrumOf(const T* src, T* dst, const Record* spec, Qvx8u* pBuffer) {
+  return called<false>(spec, src, dst, pBuffer,
+                       [=](const Record& record, T* y, auto fit) { forwardOf<kLayout, T>(record, src, dst, y, fit); });
+}
+template <Layout kLayout, class T, class Record> QvxStatus sequenceOf(const T* src, T* dst, const Record* spec, Qvx8u* pBuffer) {
+  return called<true>(spec, src, dst, pBuffer,
+                      [=](const Record& record, T* y, auto fit) { inverseOf<kLayout, T>(record, src, dst, y, fit); });
+}
+
 }  // namespace qvx::fft

@@ -8,16 +8,13 @@
 
 namespace qvx::fft {
 
-enum Identity : uint32_t {
-  kComplex32fc = 4,
-  kComplex32f = 5,
-  kReal32f = 6,
-  kComplex64fc = 7,
-  kComplex64f = 8,
-  kReal64f = 9,
-};
+// The identity is a record type's own.
+template <class Fields, uint32_t kIdentity> struct Identified : Fields { static constexpr uint32_t kId = kIdentity; };
 
-template <class T> struct Spec {
+template <class Record> QvxStatus checkSpec(const Record* spec) { return checkRecord(spec, Record::kId); }
+
+template <class T_> struct Spec {
+  using T = T_;
   uint32_t magic;
   int32_t order;  // of the sequence, be it complex or real
   bool fwdScaled;
@@ -33,10 +30,9 @@ template <class T> struct Spec {
   const T* coarseRoots;
 };
 
-// Everything Init leaves in the record comes after this test, everything Free needs before.
-template <class Record> QvxStatus bufferSize(const Record* spec, int* pSize, uint32_t id) {
+template <class Record> QvxStatus bufferSize(const Record* spec, int* pSize) {
   if (isNull(spec) || isNull(pSize)) return qvxStatNullPtr;
-  const QvxStatus status = checkRecord(spec, id);
+  const QvxStatus status = checkSpec(spec);
   if (status == qvxStatOk) *pSize = spec->workSize < 1 ? 0 : spec->workSize + static_cast<int>(kWorkSlack);
   return status;
 }
@@ -78,9 +74,8 @@ template <class T> void setFlag(Spec<T>* spec, int flag) {
 // Two on a machine of two, one on any other.
 inline uint8_t threadsOf() { return omp_get_num_procs() > 2 ? 1 : static_cast<uint8_t>(std::min(ownGetNumThreads(), 2)); }
 
-template <class Record, class T, class Build>
-QvxStatus init(Record** ppSpec, int order, int flag, int hint, int limit, uint32_t id, Qvx8u* pMemory, const Qvx8u* pInitBuffer,
-               Build build) {
+template <class Record, class Build>
+QvxStatus init(Record** ppSpec, int order, int flag, int hint, int limit, Qvx8u* pMemory, const Qvx8u* pInitBuffer, Build build) {
   if (isNull(ppSpec)) return qvxStatNullPtr;
   if (order < 0 || order > limit) return qvxStatBadFFTOrder;
   if (isNull(pMemory)) return qvxStatNullPtr;
@@ -90,8 +85,8 @@ QvxStatus init(Record** ppSpec, int order, int flag, int hint, int limit, uint32
   spec->hint = hint;
   spec->order = order;
   if (!isFlag(flag)) return qvxStatBadFFTFlag;
-  setFlag<T>(spec, flag);
-  spec->magic = id;
+  setFlag<typename Record::T>(spec, flag);
+  spec->magic = Record::kId;
   if (order > 10 && isNull(pInitBuffer)) return qvxStatNullPtr;
   build(*spec, block.rest());
   *ppSpec = spec;
@@ -118,8 +113,8 @@ QvxStatus initAlloc(Record** ppSpec, int order, int flag, int hint, GetSize getS
   return qvxStatOk;
 }
 
-template <class Record> QvxStatus release(Record* spec, uint32_t id) {
-  const QvxStatus status = checkRecord(spec, id);
+template <class Record> QvxStatus release(Record* spec) {
+  const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
   spec->magic = 0;
   if (spec->ownsMemory) qvxFree(spec);
@@ -128,9 +123,9 @@ template <class Record> QvxStatus release(Record* spec, uint32_t id) {
 
 }  // namespace qvx::fft
 
-struct QvxsFFTSpec_C_32fc : qvx::fft::Spec<Qvx32f> {};
-struct QvxsFFTSpec_C_32f : qvx::fft::Spec<Qvx32f> {};
-struct QvxsFFTSpec_C_64fc : qvx::fft::Spec<Qvx64f> {};
-struct QvxsFFTSpec_C_64f : qvx::fft::Spec<Qvx64f> {};
-struct QvxsFFTSpec_R_32f : qvx::fft::Spec<Qvx32f> {};
-struct QvxsFFTSpec_R_64f : qvx::fft::Spec<Qvx64f> {};
+struct QvxsFFTSpec_C_32fc : qvx::fft::Identified<qvx::fft::Spec<Qvx32f>, 4> {};
+struct QvxsFFTSpec_C_32f : qvx::fft::Identified<qvx::fft::Spec<Qvx32f>, 5> {};
+struct QvxsFFTSpec_R_32f : qvx::fft::Identified<qvx::fft::Spec<Qvx32f>, 6> {};
+struct QvxsFFTSpec_C_64fc : qvx::fft::Identified<qvx::fft::Spec<Qvx64f>, 7> {};
+struct QvxsFFTSpec_C_64f : qvx::fft::Identified<qvx::fft::Spec<Qvx64f>, 8> {};
+struct QvxsFFTSpec_R_64f : qvx::fft::Identified<qvx::fft::Spec<Qvx64f>, 9> {};

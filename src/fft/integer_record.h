@@ -2,19 +2,9 @@
 // bits the shifts of a transform in integers.
 #pragma once
 
-#include "fft/spec.h"
+#include "fft/record.h"
 
 namespace qvx::fft {
-
-enum IntegerIdentity : uint32_t {
-  kComplex16sc = 1,
-  kComplex16s = 2,
-  kReal16s = 3,
-  kComplex32sc = 0x434D414C,
-  kComplex32s = 0x434D414D,
-  kReal32s = 0x434D414E,
-  kReal16s32s = 0x434D414F,
-};
 
 template <class Floats_> struct IntegerSpec {
   using Floats = Floats_;
@@ -76,9 +66,8 @@ template <class GetSizes> constexpr int limitOf(int limitOfFloats, GetSizes size
 }
 
 template <class Record, class WorkSize>
-QvxStatus initInteger(Record** ppSpec, int order, int flag, int limit, uint32_t id, bool inIntegers, WorkSize workSize,
-                      Qvx8u* pMemory, Qvx8u* pInit,
-                      QvxStatus (*initFloats)(typename Record::Floats**, int, int, int, Qvx8u*, Qvx8u*)) {
+QvxStatus initInteger(Record** ppSpec, int order, int flag, int limit, bool inIntegers, WorkSize workSize, Qvx8u* pMemory,
+                      Qvx8u* pInit, QvxStatus (*initFloats)(typename Record::Floats**, int, int, int, Qvx8u*, Qvx8u*)) {
   if (isNull(ppSpec)) return qvxStatNullPtr;
   if (order < 0 || order > kHighestOrder) return qvxStatBadFFTOrder;
   if (isNull(pMemory)) return qvxStatNullPtr;
@@ -87,7 +76,7 @@ QvxStatus initInteger(Record** ppSpec, int order, int flag, int limit, uint32_t 
   *spec = {};
   if (!isFlag(flag)) return qvxStatBadFFTFlag;
   if (order > limit) return qvxStatBadFFTOrder;
-  spec->magic = id;
+  spec->magic = Record::kId;
   spec->order = order;
   spec->workSize = static_cast<int32_t>(workSize());
   const bool isRoot = flag == QVX_FFT_SCALE_BOTH_SQRT;
@@ -140,10 +129,10 @@ QvxStatus throughFloats(const Record& spec, const In* src, int srcLen, Out* dst,
 
 }  // namespace qvx::fft
 
-struct QvxsFFTSpec_C_16sc : qvx::fft::IntegerSpec<QvxsFFTSpec_C_32fc> {};
-struct QvxsFFTSpec_C_16s : qvx::fft::IntegerSpec<QvxsFFTSpec_C_32f> {};
-struct QvxsFFTSpec_R_16s : qvx::fft::IntegerSpec<QvxsFFTSpec_R_32f> {};
-struct QvxsFFTSpec_C_32sc : qvx::fft::IntegerSpec<QvxsFFTSpec_C_64fc> {};
-struct QvxsFFTSpec_C_32s : qvx::fft::IntegerSpec<QvxsFFTSpec_C_64f> {};
-struct QvxsFFTSpec_R_32s : qvx::fft::IntegerSpec<QvxsFFTSpec_R_64f> {};
-struct QvxsFFTSpec_R_16s32s : qvx::fft::IntegerSpec<QvxsFFTSpec_R_32f> {};
+struct QvxsFFTSpec_C_16sc : qvx::fft::Identified<qvx::fft::IntegerSpec<QvxsFFTSpec_C_32fc>, 1> {};
+struct QvxsFFTSpec_C_16s : qvx::fft::Identified<qvx::fft::IntegerSpec<QvxsFFTSpec_C_32f>, 2> {};
+struct QvxsFFTSpec_R_16s : qvx::fft::Identified<qvx::fft::IntegerSpec<QvxsFFTSpec_R_32f>, 3> {};
+struct QvxsFFTSpec_C_32sc : qvx::fft::Identified<qvx::fft::IntegerSpec<QvxsFFTSpec_C_64fc>, 0x434D414C> {};
+struct QvxsFFTSpec_C_32s : qvx::fft::Identified<qvx::fft::IntegerSpec<QvxsFFTSpec_C_64f>, 0x434D414D> {};
+struct QvxsFFTSpec_R_32s : qvx::fft::Identified<qvx::fft::IntegerSpec<QvxsFFTSpec_R_64f>, 0x434D414E> {};
+struct QvxsFFTSpec_R_16s32s : qvx::fft::Identified<qvx::fft::IntegerSpec<QvxsFFTSpec_R_32f>, 0x434D414F> {};
