@@ -58,7 +58,8 @@ void lookAhead(const Section<T>& section, const Src* src, Dst* dst, size_t n, La
   N t[5];
   for (size_t i = 0; i < 5; ++i) t[i] = numberOf<N>(section.taps[i]);
   N x[2] = {};
-  loadBlock(src + (n - 2) * (kParts<T> / kParts<Src>), parts(x), 2 * kParts<T>);
+  const auto* last = parts(src + (n - 2) * (kParts<T> / kParts<Src>));
+  for (size_t i = 0; i < 2 * kParts<T>; ++i) parts(x)[i] = static_cast<Lane>(last[i]);
   N y[2];
   section.run(source(src), destination(dst), n, parts(d), finish, parts(y));
   d[0] = sum(difference(product(t[2], x[0]), product(t[4], y[0])), difference(product(t[1], x[1]), product(t[3], y[1])));
