@@ -135,7 +135,10 @@ template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
   if (s.isDirect()) {
     if constexpr (kParts<T> == 1) {
       const size_t order = lineValues(s);
-      if (order >= kWorthStandingStill && order <= kMostStill) return directStill(s.taps, s.line, order, work, n);
+      // Little more than the matrix takes: as exactly as that.
+      const bool isMiddle = order > Direct<T>::kMostOrder && order <= Direct<T>::kMostExact;
+      if (isMiddle && n >= kWorthLookingAhead) return directStill<Lane>(s.taps, s.line, order, work, n);
+      if (order >= kWorthStandingStill && order <= kMostStill) return directStill<T>(s.taps, s.line, order, work, n);
     }
     return each([&](T v) { return directOne(s.taps, s.line, lineValues(s), v); });
   }

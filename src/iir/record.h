@@ -114,7 +114,7 @@ template <class State> State* iirPlace(Form form, int n, Qvx8u* block) {
     state->line[n] = T{};
     if (n <= 2) {
       placeSections(1);
-    } else if (n <= Direct<T>::kMostOrder) {
+    } else if (n <= int{Direct<T>::kMostOrder}) {
       state->direct = carver.template take<Direct<T>>(1);
       state->direct->place(carver, n);
     }

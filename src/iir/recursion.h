@@ -22,33 +22,33 @@ template <class T> T directOne(const T* taps, T* line, size_t order, T x) {
 // The first vector has places before the next output, which nobody looks at again, the last some behind the line: there are zeros
 // on both sides of the taps.
 inline constexpr size_t kMostStill = 2048;
-template <class T> void directStill(const T* taps, T* line, size_t order, Lane* work, size_t n) {
-  constexpr size_t kCount = kVectorBytes / sizeof(T);
+template <class P, class T> void directStill(const T* taps, T* line, size_t order, Lane* work, size_t n) {
+  constexpr size_t kCount = kVectorBytes / sizeof(P);
   constexpr size_t kTogether = 4;
   constexpr size_t kBlock = 256;
-  const Lanes<T, kCount> d;
-  T shares[kBlock + kMostStill + 2 * kCount];
-  T room[2][2 * kCount + 1 + kMostStill + kTogether];
-  const auto padded = [&](T* at, T first, const T* rest) {
-    std::fill_n(at, kCount, T{0});
+  const Lanes<P, kCount> d;
+  P shares[kBlock + kMostStill + 2 * kCount];
+  P room[2][2 * kCount + 1 + kMostStill + kTogether];
+  const auto padded = [&](P* at, P first, const T* rest) {
+    std::fill_n(at, kCount, P{0});
     at[kCount] = first;
     std::copy_n(rest, order, at + kCount + 1);
-    std::fill_n(at + kCount + 1 + order, kCount + kTogether, T{0});
+    std::fill_n(at + kCount + 1 + order, kCount + kTogether, P{0});
     return at + kCount;
   };
-  const T* const b = padded(room[0], taps[0], taps + 1);
-  const T* const a = padded(room[1], T{0}, taps + 1 + order);
+  const P* const b = padded(room[0], taps[0], taps + 1);
+  const P* const a = padded(room[1], P{0}, taps + 1 + order);
   for (; n > 0; work += std::min(n, kBlock), n -= std::min(n, kBlock)) {
     const size_t count = std::min(n, kBlock);
     std::copy_n(line, order, shares);
-    std::fill_n(shares + order, count + kCount, T{0});
+    std::fill_n(shares + order, count + kCount, P{0});
     size_t t = 0;
     const auto outputs = [&](auto together) {
       constexpr size_t kNow = together();
-      T x[kNow];
-      T y[kNow];
+      P x[kNow];
+      P y[kNow];
       unrolled<kNow>([&](auto j) {
-        x[j] = static_cast<T>(work[t + j]);
+        x[j] = static_cast<P>(work[t + j]);
         y[j] = b[0] * x[j] + shares[t + j];
         unrolled<j>([&](auto i) { y[j] += b[j - i] * x[i] - a[j - i] * y[i]; });
         work[t + j] = y[j];
