@@ -12,26 +12,28 @@
 namespace qvx {
 
 class Cascade {
+  static constexpr size_t kRows = 5;
+
  public:
   // From this many sections on it is faster than to take them one by one with look-ahead, whose time for a sample depends on the
   // lanes: 1.2 cycles in 8 of them, 2.7 in 2.
-  static constexpr int kFew = kLanes == 2 ? 3 : kLanes == 4 ? 4 : 5;
+  static constexpr size_t kFew = kLanes == 2 ? 3 : kLanes == 4 ? 4 : 5;
   // Sections that go together, in up to 4 vectors: with 8 of two lanes, 16 take 1.2 times as long as twice 8.
   static constexpr size_t kMost = std::min<size_t>(16, 4 * kLanes);
 
   static constexpr int64_t padded(int sections) { return up<int64_t{kLanes}>(sections); }
+  static constexpr int64_t tableLanes(int sections) { return kRows * padded(sections); }
 
-  template <class Carver> void place(Carver& carver, int sections) {
-    sections_ = static_cast<size_t>(sections);
-    table_ = carver.template take<Lane>(kRows * padded(sections));
-  }
+  Cascade() = default;
+  Cascade(size_t sections, Lane* table) : sections_(sections), table_(table) {}
 
   bool isThere() const { return table_ != nullptr; }
 
   // Taps b0, b1, b2, a1, a2. The state is kept as what the next output takes of it, so that it waits for one multiplication less:
   // d0' = e1 * x + d1 - a1 * d0, d1' = e2 * x - a2 * d0, e = b - a * b0.
   template <class T> void set(size_t section, const T* t) {
-    const Exact<T> b0 = t[0];
+    using Exact = std::conditional_t<sizeof(T) == 4, Lane, long double>;  // products of floats need no more
+    const Exact b0 = t[0];
     const Lane row[kRows] = {Lane{t[0]}, static_cast<Lane>(t[1] - t[3] * b0), static_cast<Lane>(t[2] - t[4] * b0), -Lane{t[3]},
                              -Lane{t[4]}};
     for (size_t r = 0; r < kRows; ++r) *at(section, r) = row[r];
@@ -56,14 +58,15 @@ class Cascade {
   }
 
  private:
-  static constexpr size_t kRows = 5;
   static constexpr size_t kDelay = 2;
 
   struct Group {
     V b0, e1, e2, a1, a2;
     V d0, d1;
-    V y0, y1;  // the last two outputs
-    V begin;   // the step of a lane's first sample
+    V y0, y1;          // the last two outputs
+    V begin;           // the step of a lane's first sample
+    V first0, first1;  // the state that it begins with
+    V last0, last1;    // and leaves
   };
 
   // The first section of a part is in the last lane, so that the output is in the first.
@@ -92,14 +95,36 @@ class Cascade {
                    row(2),
                    row(3),
                    row(4),
+                   zero,
+                   zero,
+                   zero,
+                   zero,
+                   hn::Set(Wide(), Lane{kDelay}) * lanesAbove,
                    load(Wide(), states[0] + g * kLanes),
                    load(Wide(), states[1] + g * kLanes),
                    zero,
-                   zero,
-                   hn::Set(Wide(), Lane{kDelay}) * lanesAbove};
+                   zero};
     });
-    // kMasked: a lane that has no sample yet, or no more, keeps its state. ago: which of the last two outputs is the older.
-    const auto step = [&](auto masked, size_t t, V Group::*ago) {
+    // A lane that has no sample yet computes zeros, as long as it has no state: that comes to it right before its first one. One
+    // that has no more goes on as it likes: what it left is kept.
+    const auto enter = [&](size_t t) {
+      unrolled<kGroups>([&](auto g) {
+        Group& at = groups[g];
+        const auto isNow = at.begin == hn::Set(Wide(), static_cast<Lane>(t));
+        at.d0 = at.d0 + hn::IfThenElseZero(isNow, at.first0);
+        at.d1 = at.d1 + hn::IfThenElseZero(isNow, at.first1);
+      });
+    };
+    const auto leave = [&](size_t t) {
+      unrolled<kGroups>([&](auto g) {
+        Group& at = groups[g];
+        const auto isNow = at.begin == hn::Set(Wide(), static_cast<Lane>(t) - static_cast<Lane>(n));
+        at.last0 = hn::IfThenElse(isNow, at.d0, at.last0);
+        at.last1 = hn::IfThenElse(isNow, at.d1, at.last1);
+      });
+    };
+    // ago: which of the last two outputs is the older.
+    const auto step = [&](size_t t, V Group::*ago) {
       const V in = t < n ? hn::Set(Wide(), work[t]) : hn::Zero(Wide());
       unrolled<kGroups>([&](auto g) {
         Group& at = groups[g];
@@ -108,38 +133,45 @@ class Cascade {
         const V x = delayed<kLanes - 1>(at.*ago, above);
         at.*ago = hn::MulAdd(at.b0, x, at.d0);
         const V next1 = hn::MulAdd(at.a2, at.d0, at.e2 * x);
-        const V next0 = hn::MulAdd(at.a1, at.d0, hn::MulAdd(at.e1, x, at.d1));
-        if constexpr (masked) {
-          const V since = hn::Set(Wide(), static_cast<Lane>(t)) - at.begin;
-          const auto isActive = hn::And(since >= hn::Zero(Wide()), since < hn::Set(Wide(), static_cast<Lane>(n)));
-          at.d0 = hn::IfThenElse(isActive, next0, at.d0);
-          at.d1 = hn::IfThenElse(isActive, next1, at.d1);
-        } else {
-          at.d0 = next0;
-          at.d1 = next1;
-        }
+        at.d0 = hn::MulAdd(at.a1, at.d0, hn::MulAdd(at.e1, x, at.d1));
+        at.d1 = next1;
       });
       if (t >= kLast) work[t - kLast] = hn::GetLane(groups[0].*ago);
     };
-    constexpr std::bool_constant<true> kMasked;
-    constexpr std::bool_constant<false> kWhole;
+    const auto exchange = [&] { unrolled<kGroups>([&](auto g) { std::swap(groups[g].y0, groups[g].y1); }); };
+    const auto twoSteps = [&](size_t t) {
+      step(t, &Group::y0);
+      step(t + 1, &Group::y1);
+    };
     static_assert(kDelay == 2 && kLast % 2 == 0);
     size_t t = 0;
-    for (; t < kLast; t += 2) {
-      step(kMasked, t, &Group::y0);
-      step(kMasked, t + 1, &Group::y1);
+    if (n < kLast) {  // some leave before others enter
+      for (; t < n + kLast; ++t) {
+        enter(t);
+        leave(t);
+        step(t, &Group::y0);
+        exchange();
+      }
+    } else {
+      for (; t < kLast; t += 2) {
+        enter(t);
+        twoSteps(t);
+      }
+      enter(t);
+      for (; t + 2 <= n; t += 2) twoSteps(t);
+      if (t < n) {
+        step(t++, &Group::y0);
+        exchange();
+      }
+      for (; t < n + kLast; t += 2) {
+        leave(t);
+        twoSteps(t);
+      }
     }
-    for (; t + 2 <= n; t += 2) {
-      step(kWhole, t, &Group::y0);
-      step(kWhole, t + 1, &Group::y1);
-    }
-    for (; t < n + kLast; t += 2) {
-      step(kMasked, t, &Group::y0);
-      if (t + 1 < n + kLast) step(kMasked, t + 1, &Group::y1);
-    }
+    leave(t);
     unrolled<kGroups>([&](auto g) {
-      store(groups[g].d0, Wide(), states[0] + g * kLanes);
-      store(groups[g].d1, Wide(), states[1] + g * kLanes);
+      store(groups[g].last0, Wide(), states[0] + g * kLanes);
+      store(groups[g].last1, Wide(), states[1] + g * kLanes);
     });
     for (size_t s = 0; s < count; ++s) {
       for (size_t k = 0; k < 2; ++k) line[2 * s + k] = static_cast<T>(states[k][kAll - 1 - s]);

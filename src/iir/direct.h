@@ -20,8 +20,10 @@ template <class T> class Direct {
   static constexpr size_t kParts = qvx::kParts<T>;
   static constexpr size_t kElements = kLanes / kParts;
   // Above, sample by sample is as fast: there a vector has all 32-bit lanes, and no more multiplications are made than taps ask
-  // for.
-  static constexpr int kMostOrder = kLanes == 8 ? 48 : kLanes == 4 ? 24 : 16;
+  // for. In SSE real numbers of order 16 take 4.4 ns a sample that way in 64-bit floats, 5.6 by the matrix.
+  static constexpr size_t kMostOrder = kLanes == 8 ? 48 : kLanes == 4 ? 24 : kParts == 2 ? 16 : 8;
+  // Sample by sample, 64-bit floats are kept up to this order.
+  static constexpr size_t kMostExact = 16;
   using Number = Coefficient<kParts>;
 
   // The tables' room in the block.

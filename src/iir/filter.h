@@ -58,7 +58,8 @@ void lookAhead(const Section<T>& section, const Src* src, Dst* dst, size_t n, La
   N t[5];
   for (size_t i = 0; i < 5; ++i) t[i] = numberOf<N>(section.taps[i]);
   N x[2] = {};
-  loadBlock(src + (n - 2) * (kParts<T> / kParts<Src>), parts(x), 2 * kParts<T>);
+  const auto* last = parts(src + (n - 2) * (kParts<T> / kParts<Src>));
+  for (size_t i = 0; i < 2 * kParts<T>; ++i) parts(x)[i] = static_cast<Lane>(last[i]);
   N y[2];
   section.run(source(src), destination(dst), n, parts(d), finish, parts(y));
   d[0] = sum(difference(product(t[2], x[0]), product(t[4], y[0])), difference(product(t[1], x[1]), product(t[3], y[1])));
@@ -74,13 +75,19 @@ void runSection(const Section<T>& section, const Src* src, Dst* dst, size_t n, T
   line[1] = numberOf<T>(d[1]);
 }
 
+// The delay line of the direct form I, as the transposed form has it.
+template <class T> void transposedLine(const T* t, const T* line, Lane* d) {
+  d[0] = Lane{t[2]} * line[0] + Lane{t[1]} * line[1] - Lane{t[4]} * line[2] - Lane{t[3]} * line[3];
+  d[1] = Lane{t[2]} * line[1] - Lane{t[4]} * line[3];
+}
+
 // A section in the direct form I, in place: its delay line becomes that of the transposed form for the time of the block.
 template <class T> void runDf1(const Section<T>& section, Lane* work, size_t n, T* line) {
   const T* t = section.taps;
   const Lane x2 = n < 2 ? line[1] : work[n - 2];
   const Lane x1 = work[n - 1];
-  Lane d[2] = {Lane{t[2]} * line[0] + Lane{t[1]} * line[1] - Lane{t[4]} * line[2] - Lane{t[3]} * line[3],
-               Lane{t[2]} * line[1] - Lane{t[4]} * line[3]};
+  Lane d[2];
+  transposedLine(t, line, d);
   if (section.looksAhead && n >= kWorthLookingAhead) {
     lookAhead(section, work, work, n, d, Finish<Lane>{1});
   } else {
@@ -128,7 +135,10 @@ template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
   if (s.isDirect()) {
     if constexpr (kParts<T> == 1) {
       const size_t order = lineValues(s);
-      if (order >= kWorthStandingStill && order <= kMostStill) return directStill(s.taps, s.line, order, work, n);
+      // Little more than the matrix takes: as exactly as that.
+      const bool isMiddle = order > Direct<T>::kMostOrder && order <= Direct<T>::kMostExact;
+      if (isMiddle && n >= kWorthLookingAhead) return directStill<Lane>(s.taps, s.line, order, work, n);
+      if (order >= kWorthStandingStill && order <= kMostStill) return directStill<T>(s.taps, s.line, order, work, n);
     }
     return each([&](T v) { return directOne(s.taps, s.line, lineValues(s), v); });
   }
@@ -186,17 +196,47 @@ template <class T, class Data> void bySections(const IirRecord<T>& s, const Data
   });
 }
 
-// Without tables of its own: each section goes over all samples with a table for that time.
+// Sections in the direct form I, all in lanes. The last two samples go through them plainly: they make the delay lines, of values
+// between sections that are nowhere else.
+inline void df1InLanes(const Qvx32f* taps, Qvx32f* line, size_t sections, const Qvx32f* src, Qvx32f* dst, size_t n) {
+  constexpr Finish<Qvx32f> kAsItIs{1};
+  constexpr size_t kLast = 2;
+  Lane table[Cascade::tableLanes(Cascade::kMost)];
+  Lane d[2 * Cascade::kMost];
+  Cascade cascade(sections, table);
+  for (size_t k = 0; k < sections; ++k) {
+    cascade.set(k, taps + 5 * k);
+    transposedLine(taps + 5 * k, line + 4 * k, d + 2 * k);
+  }
+  inBlocks<Qvx32f>(src, dst, n - kLast, kAsItIs, [&](Lane* work, size_t count) { cascade.run(work, count, d); });
+  inBlocks<Qvx32f>(src + n - kLast, dst + n - kLast, kLast, kAsItIs, [&](Lane* work, size_t) {
+    for (size_t k = 0; k < sections; ++k, taps += 5, line += 4) {
+      const Lane wide[5] = {taps[0], taps[1], taps[2], taps[3], taps[4]};
+      for (size_t i = 0; i < kLast; ++i) {
+        line[i] = static_cast<Qvx32f>(work[i]);
+        work[i] = sectionOne(wide, d + 2 * k, work[i]);
+        line[kLast + i] = static_cast<Qvx32f>(work[i]);
+      }
+    }
+  });
+}
+
+// Without tables of its own: they are made for a call, and go over all samples.
 inline void filterDf1(const IirRecord<Qvx32f>& s, const Qvx32f* src, Qvx32f* dst, size_t n) {
-  for (int k = 0; k < s.numBq; ++k, src = dst) {
+  const auto sections = static_cast<size_t>(s.numBq);
+  for (size_t k = 0, count = 1; k < sections; k += count, src = dst) {
     const Qvx32f* t = s.taps + 5 * k;
     Qvx32f* line = s.line + 4 * k;
+    count = 1;
     if (n < 4 * kWorthLookingAhead) {
       for (size_t i = 0; i < n; ++i) dst[i] = df1One(t, line, src[i]);
+    } else if (sections - k >= Cascade::kFew) {
+      count = std::min(sections - k, Cascade::kMost);
+      df1InLanes(t, line, count, src, dst, n);
     } else {
       Section<Qvx32f> section;
       section.set(t);
-      inBlocks<Qvx32f>(src, dst, n, Finish<Qvx32f>{1}, [&](Lane* work, size_t count) { runDf1(section, work, count, line); });
+      inBlocks<Qvx32f>(src, dst, n, Finish<Qvx32f>{1}, [&](Lane* work, size_t m) { runDf1(section, work, m, line); });
     }
   }
 }

@@ -100,20 +100,21 @@ template <class State> State* iirPlace(Form form, int n, Qvx8u* block) {
   state->how = How::kPlain;
   const auto placeSections = [&](int count) {
     constexpr bool kHasCascade = kParts<T> == 1;
-    if (kHasCascade && form != Form::kDf1) state->cascade.place(carver, count);
-    if (!kHasCascade || form == Form::kDf1 || count < Cascade::kFew) state->sections = carver.template take<Section<T>>(count);
+    if (kHasCascade && form != Form::kDf1) {
+      state->cascade = Cascade(static_cast<size_t>(count), carver.template take<Lane>(Cascade::tableLanes(count)));
+    }
+    const bool isFew = static_cast<size_t>(count) < Cascade::kFew;
+    if (!kHasCascade || form == Form::kDf1 || isFew) state->sections = carver.template take<Section<T>>(count);
   };
   if (form == Form::kDirect) {
     state->order = n;
     state->numBq = 0;
-    constexpr int64_t kBefore = int64_t{kVectorBytes / sizeof(T)};  // zeros before the taps, for directStill
-    std::fill_n(carver.template take<T>(kBefore), kBefore, T{});
     state->taps = carver.template take<T>(2 * int64_t{n} + 1);
     state->line = carver.template take<T>(int64_t{n} + 1);
     state->line[n] = T{};
     if (n <= 2) {
       placeSections(1);
-    } else if (n <= Direct<T>::kMostOrder) {
+    } else if (n <= int{Direct<T>::kMostOrder}) {
       state->direct = carver.template take<Direct<T>>(1);
       state->direct->place(carver, n);
     }

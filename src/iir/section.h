@@ -66,7 +66,7 @@ template <class T> struct Section {
     V y1 = zero;
     V y2 = zero;
     // By value: what the compiler keeps in memory here waits 30 cycles a vector for its own stores.
-    V line = loadFirst(Wide(), d, std::min(kLanes, 2 * kParts));
+    V line = firstOfLine(d);
     V line2 = kLanes < 2 * kParts ? load(Wide(), d + 2 * kParts - kLanes) : zero;
     const auto step = [&](V in) {
       V v = plusProduct(line, b0, multiplied<kParts>(in));
@@ -117,6 +117,13 @@ template <class T> struct Section {
       w = plusProduct(w, factor(steps[kStep][0]), multiplied<kParts>(delayed<kBack>(last, v)));
       return doubled<kStep + 1>(w, beforeStep);
     }
+  }
+
+  // Two lanes from their own registers: loaded as a vector, they would wait for the stores that just put them there.
+  static V firstOfLine(const Lane* d) {
+    if constexpr (kParts == 1)
+      return hn::IfThenElseZero(hn::FirstN(Wide(), 2), hn::InterleaveLower(hn::Set(Wide(), d[0]), hn::Set(Wide(), d[1])));
+    else return loadFirst(Wide(), d, std::min(kLanes, 2 * kParts));
   }
 
   // The variance of the rounding noise beside that of the plain loop, for white input. Of a power of A's poles it is the energy
