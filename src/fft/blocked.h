@@ -33,19 +33,11 @@ template <size_t L, class Order, class T> T* writeColumnRoots(ColumnRoots<T>& ro
   T* lanes = alignedUp<64>(writeLevelRoots(levelsFor(log2Of(rows)), rows, out));
   roots.lanes = lanes;
   writeRoots(
-      n, rows * C, [](size_t i) { return i / C * (i % C / L * L + Order::template element<L>(i % L)); },
-      [lanes](size_t i, double re, double im) {
-        lanes[i / L * 2 * L + i % L] = static_cast<T>(re);
-        lanes[i / L * 2 * L + i % L + L] = static_cast<T>(im);
-      });
+      n, rows * C, [](size_t i) { return i / C * (i % C / L * L + Order::template element<L>(i % L)); }, intoGroups<L>(lanes));
   T* tiles = lanes + rows * C * 2;
   roots.tiles = tiles;
   writeRoots(
-      n, n / C, [rows](size_t i) { return i % rows * (i / rows) * C; },
-      [tiles](size_t i, double re, double im) {
-        tiles[2 * i] = static_cast<T>(re);
-        tiles[2 * i + 1] = static_cast<T>(im);
-      });
+      n, n / C, [rows](size_t i) { return i % rows * (i / rows) * C; }, intoPairs(tiles));
   return alignedUp<64>(tiles + n / C * 2);
 }
 

@@ -31,11 +31,7 @@ template <class Order, class T> T* writePlan(Plan<T>& plan, int order, T* block)
     const size_t n = size_t{1} << order;
     plan = {row, nullptr};
     writeRoots(
-        n, n - L, [](size_t i) { return i % L * (i / L + 1); },
-        [row](size_t i, double re, double im) {
-          row[i / L * 2 * L + i % L] = static_cast<T>(re);
-          row[i / L * 2 * L + i % L + L] = static_cast<T>(im);
-        });
+        n, n - L, [](size_t i) { return i % L * (i / L + 1); }, intoGroups<L>(row));
     return row + 2 * (n - L);
   }
   T* levels = row + rootSizes<T>(order).row;

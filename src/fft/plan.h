@@ -140,6 +140,21 @@ template <class Index, class Put> void writeRoots(size_t n, size_t count, Index 
   }
 }
 
+// Where they go: into groups of L, or each with its parts side by side.
+template <size_t L, class T> auto intoGroups(T* out) {
+  return [out](size_t i, double re, double im) {
+    T* at = out + i / L * 2 * L + i % L;
+    at[0] = static_cast<T>(re);
+    at[L] = static_cast<T>(im);
+  };
+}
+template <class T> auto intoPairs(T* out) {
+  return [out](size_t i, double re, double im) {
+    out[2 * i] = static_cast<T>(re);
+    out[2 * i + 1] = static_cast<T>(im);
+  };
+}
+
 template <class T> struct RootSizes {
   size_t row;
   size_t levels;
@@ -163,22 +178,14 @@ template <size_t L, class Order, class T> void writeRowRoots(int order, T* out) 
   writeRoots(
       n, n / R * (R - 1),
       [](size_t i) { return (i / (L * (R - 1)) * L + Order::template element<L>(i % L)) * (i / L % (R - 1) + 1); },
-      [out](size_t i, double re, double im) {
-        T* at = out + i / L * 2 * L + i % L;
-        at[0] = static_cast<T>(re);
-        at[L] = static_cast<T>(im);
-      });
+      intoGroups<L>(out));
 }
 
 template <class T> T* writeLevelRoots(Levels levels, size_t rows, T* out) {
   for (size_t level = 0; level + 1 < levels.count; ++level) {
     const size_t k = levels.radix[level] - 1;
     writeRoots(
-        rows, rows / (k + 1) * k, [k](size_t i) { return i / k * (i % k + 1); },
-        [out](size_t i, double re, double im) {
-          out[2 * i] = static_cast<T>(re);
-          out[2 * i + 1] = static_cast<T>(im);
-        });
+        rows, rows / (k + 1) * k, [k](size_t i) { return i / k * (i % k + 1); }, intoPairs(out));
     rows /= k + 1;
     out += rows * k * 2;
   }

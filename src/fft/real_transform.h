@@ -43,11 +43,7 @@ template <class T> void writeRealRoots(Spec<T>& spec, T* block) {
     T* coarse = out + 2 * kFine;
     spec.coarseRoots = coarse;
     writeRoots(
-        n, n / 4 / kFine, [](size_t i) { return i * kFine; },
-        [coarse](size_t i, double re, double im) {
-          coarse[2 * i] = static_cast<T>(re);
-          coarse[2 * i + 1] = static_cast<T>(im);
-        });
+        n, n / 4 / kFine, [](size_t i) { return i * kFine; }, intoPairs(coarse));
   };
   if (lanesForReal<T>(n / 2) == kWidest<T>) write(std::integral_constant<size_t, kWidest<T>>());
   else write(std::integral_constant<size_t, kWidest<T> / 2>());  // 32 points under the widest registers
