@@ -41,9 +41,6 @@ using tests::Surroundings;
 
 constexpr int kCalls = 40;  // of each function
 
-// Refuses a channel, a half or a section when it comes to it: what was before it is written.
-bool goesByChannels(const Export& e) { return tests::contains(e.name, {"_P", "_IP", "CartToPolar", "One_BiQuadDirect"}); }
-
 class EveryCall : public testing::Test {
  protected:
   // f(export, choices) for some calls of each function, until one fails.
@@ -74,7 +71,7 @@ TEST_F(EveryCall, DependsOnItsArgumentsAlone) {
     AnyCall first(e, choices, memory_);
     const QvxStatus status = first.run();
     expect(first.isIntact(), "wrote elsewhere", first);
-    if (status < 0 && !goesByChannels(e)) expect(first.wroteNothing(), "wrote in spite of an error", first);
+    if (status < 0 && !tests::refusesInTheMiddle(e)) expect(first.wroteNothing(), "wrote in spite of an error", first);
     for (const Surroundings& around : others) {
       AnyCall other(e, choices, memory_, around);
       expect(other.run() == status, "another status", other);
@@ -92,7 +89,7 @@ TEST_F(EveryCall, RefusesWithoutATrace) {
     const int live = allocator.live;
     const bool isRefused = call.run() < 0;
     expect(call.isIntact(), "wrote elsewhere", call);
-    expect(!isRefused || goesByChannels(e) || call.wroteNothing(), "wrote in spite of an error", call);
+    expect(!isRefused || tests::refusesInTheMiddle(e) || call.wroteNothing(), "wrote in spite of an error", call);
     expect(!isRefused || allocator.live == live, "kept memory", call);
   });
 }
