@@ -23,9 +23,8 @@ template <class V> auto partsOf(V x) {
 
 template <class W> W squareOf(Pair<W> x) { return x.lo * x.lo + x.hi * x.hi; }
 
-// An element x as value / unit. The unit is a power of two: 1 for 32-bit elements, whose squares fit a double wherever they lie,
-// and for 64-bit ones from 2 to 2^500, where a smaller one could cost a subnormal part its last bits. That of other 64-bit ones
-// brings the larger part to 1 to 2, or as near to it as a normal number does.
+// An element x as value / unit. The unit is a power of two: 1 for 32-bit elements, whose squares fit a double wherever they lie;
+// for 64-bit ones that which brings the larger part to 1 to 2, or as near to it as a normal number does.
 template <class W> struct Measured {
   Pair<W> value;
   W unit;
@@ -43,7 +42,8 @@ template <class W> struct Measured {
   }
 };
 
-template <class V> auto measured(Pair<V> x) {
+// A unit below 1 may cost a subnormal part its last bits: 64-bit elements whose larger part is 2 to `whole` have the unit 1.
+template <class V> auto measured(Pair<V> x, double whole = 0) {
   const auto value = inDoubles(x);
   using W = std::remove_const_t<decltype(value.lo)>;
   if constexpr (std::is_same_v<LaneOf<V>, float>) {
@@ -54,7 +54,7 @@ template <class V> auto measured(Pair<V> x) {
     const W larger = hn::Min(hn::Max(hn::Abs(value.lo), hn::Abs(value.hi)), same<W>(0x1p1022));
     const auto exponent = as<uint64_t>(larger) & same<decltype(as<uint64_t>(larger))>(0x7FF0000000000000);
     const W nearOne = as<double>(same<std::remove_const_t<decltype(exponent)>>(0x7FE0000000000000) - exponent);
-    const W unit = hn::IfThenElse(larger < same<W>(0x1p500), hn::Max(nearOne, same<W>(1)), nearOne);
+    const W unit = hn::IfThenElse(larger < same<W>(whole), hn::Max(nearOne, same<W>(1)), nearOne);
     const Pair<W> scaled = {value.lo * unit, value.hi * unit};
     return Measured<W>{scaled, unit, squareOf(scaled)};
   }
