@@ -40,8 +40,9 @@ is timed: to the bit, or up to the roundings that an order of operations leaves 
 
 A peer *plain* is the loop a user would write, compiled for this very processor with the flags above into the program itself, but
 not inlined. A call of ours passes the dynamic loader's jump, the library's own, and the tests of its arguments: at 16 elements
-that is seen. VOLK, FFTW, SLEEF, liquid-dsp and kissfft are as Debian packages them. Some peers have an easier task, or none of
-ours: -Ofast and SLEEF differ in the last place, plain roots of 64-bit integers in that they go through doubles.
+that is seen. VOLK, FFTW, SLEEF, liquid-dsp and kissfft are as Debian packages them. Some peers have an
+easier task: -Ofast and SLEEF differ in the last place, plain roots of 64-bit integers go through doubles, and plain thresholds of
+complex vectors compute in the type of the elements.
 
 Every table has our time of a call, what that comes to, and under it for each peer **its time over ours: above 1 we are
 faster**. Cells below 1 are bold. The sections show some functions; all that were measured are counted, and every comparison
