@@ -457,7 +457,7 @@ inline void* AnyCall::recordOf(std::string type, Choices& choices) {
     if (made.shape(name) != 0) shape_[name] = made.shape(name);
   }
   if (contains(type, {"FFT"})) shape_["workSize"] = made.sizeFor(maker.name, "pWorkSize");
-  made.records_.clear();  // this call's from here on
+  made.status_ = qvxStatBadArg;  // what it made is this call's from here on
   records_.push_back({type, record, allocates});
   return record;
 }
