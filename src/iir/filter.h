@@ -109,22 +109,27 @@ template <class T, class With> void withSectionLine(const IirRecord<T>& s, With 
   std::copy_n(line, lineValues(s), s.line);
 }
 
-template <class T> void runDirect(const IirRecord<T>& s, Lane* work, size_t n) {
-  constexpr size_t kHistory = Direct<T>::kMostOrder * kParts<T>;
-  Lane x[kHistory + kBlockLanes + kLanes];
-  Lane y[kHistory + kBlockLanes + kLanes];
-  LaneNumber<T> d[Direct<T>::kMostOrder];
+inline bool areFinite(const Lane* p, size_t n) {
+  const V zero = hn::Zero(Wide());
+  V sum = zero;
+  size_t i = 0;
+  for (; i + kLanes <= n; i += kLanes) sum = hn::MulAdd(load(Wide(), p + i), zero, sum);
+  if (i < n) sum = hn::MulAdd(loadFirst(Wide(), p + i, n - i), zero, sum);
+  return hn::AllTrue(Wide(), sum == zero);
+}
+
+// Whether it could: not with what is not finite.
+template <class T> bool runDirect(const IirRecord<T>& s, Lane* work, size_t n) {
+  using N = LaneNumber<T>;
+  constexpr size_t kRoom = Direct<T>::kMostOrder + 2 * Direct<T>::kElements;
   const size_t order = lineValues(s);
-  const size_t lanes = n * kParts<T>;
-  const size_t before = order * kParts<T>;
-  std::fill_n(x, before, 0);
-  std::fill_n(y, before, 0);
-  std::copy_n(work, lanes, x + before);
-  std::fill_n(x + before + lanes, kLanes, 0);
-  for (size_t i = 0; i < order; ++i) d[i] = numberOf<LaneNumber<T>>(s.line[i]);
-  s.direct->run(x + before, y + before, n, parts(d));
+  N d[kRoom];
+  for (size_t i = 0; i < order; ++i) d[i] = numberOf<N>(s.line[i]);
+  std::fill(d + order, d + kRoom, N{});
+  if (!areFinite(work, n * kParts<T>) || !areFinite(parts(d), order * kParts<T>)) return false;
+  s.direct->run(work, n, parts(d));
   for (size_t i = 0; i < order; ++i) s.line[i] = numberOf<T>(d[i]);
-  std::copy_n(y + before, lanes, work);
+  return true;
 }
 
 template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
@@ -135,9 +140,6 @@ template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
   if (s.isDirect()) {
     if constexpr (kParts<T> == 1) {
       const size_t order = lineValues(s);
-      // Little more than the matrix takes: as exactly as that.
-      const bool isMiddle = order > Direct<T>::kMostOrder && order <= Direct<T>::kMostExact;
-      if (isMiddle && n >= kWorthLookingAhead) return directStill<Lane>(s.taps, s.line, order, work, n);
       if (order >= kWorthStandingStill && order <= kMostStill) return directStill<T>(s.taps, s.line, order, work, n);
     }
     return each([&](T v) { return directOne(s.taps, s.line, lineValues(s), v); });
@@ -153,8 +155,7 @@ template <class T> void runBlock(const IirRecord<T>& s, bool isDf1, Lane* work, 
       return;
     }
   }
-  // A direct form makes its delay line anew at the end of a block, from all its taps: that is worth twice its order of samples.
-  if (s.direct != nullptr && n >= std::max(kWorthLookingAhead, 2 * lineValues(s))) return runDirect(s, work, n);
+  if (s.direct != nullptr && n >= kWorthLookingAhead && runDirect(s, work, n)) return;
   if constexpr (kParts<T> == 1) {
     if (s.how == How::kInLanes && n >= kWorthLookingAhead)
       return withSectionLine(s, [&](T* line) { s.cascade.run(work, n, line); });

@@ -259,20 +259,22 @@ TEST(IirFilter, IsAsAccurateAsThePlainLoopNearTheUnitCircle) {
   });
 }
 
-TEST(IirFilter, WhatIsNoNumberComesInWhereItStands) {
-  const Qvx64f taps[] = {1, 0.5, 0.25, 0.1, 1, -0.5, 0.25, 0.1};
-  for (const int n : {1, 2, 3}) {
+TEST(IirFilter, WhatIsNotFiniteComesInWhereItStands) {
+  for (const int order : {1, 2, 3, 12}) {
     QvxsIIRState_64f* s = nullptr;
-    std::vector<Qvx64f> t(taps, taps + n + 1);
-    t.insert(t.end(), taps + 4, taps + 5 + n);
-    ASSERT_EQ(qvxsIIRInitAlloc_64f(&s, t.data(), n, nullptr), qvxStatOk);
-    for (size_t at = 0; at < 24; ++at) {
-      std::vector<Qvx64f> x(24, 1.0);
-      x[at] = NAN;
-      qvxsIIRSetDlyLine_64f(s, nullptr);
-      ASSERT_EQ(qvxsIIR_64f_I(x.data(), 24, s), qvxStatOk);
-      for (size_t i = 0; i < 24; ++i)
-        EXPECT_EQ(std::isnan(x[i]), i >= at) << "order " << n << ", NaN at " << at << ", output " << i;
+    std::vector<Qvx64f> t;
+    for (int i = 0; i <= order; ++i) t.push_back(1.0 / (1 << i));
+    for (int i = 0; i <= order; ++i) t.push_back(std::pow(-0.5, i));
+    ASSERT_EQ(qvxsIIRInitAlloc_64f(&s, t.data(), order, nullptr), qvxStatOk);
+    for (const Qvx64f value : {static_cast<Qvx64f>(NAN), static_cast<Qvx64f>(INFINITY)}) {
+      for (size_t at = 0; at < 24; ++at) {
+        std::vector<Qvx64f> x(24, 1.0);
+        x[at] = value;
+        qvxsIIRSetDlyLine_64f(s, nullptr);
+        ASSERT_EQ(qvxsIIR_64f_I(x.data(), 24, s), qvxStatOk);
+        for (size_t i = 0; i < 24; ++i)
+          EXPECT_EQ(std::isfinite(x[i]), i < at) << "order " << order << ", " << value << " at " << at << ", output " << i;
+      }
     }
     qvxsIIRFree_64f(s);
   }
