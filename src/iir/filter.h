@@ -15,9 +15,6 @@ inline constexpr size_t kBlockLanes = 512;
 // From this many numbers on, a vector at a time pays: below, the start of a kernel takes longer than the samples.
 inline constexpr size_t kWorthLookingAhead = 8;
 
-// From this order on, the line of a direct form that goes sample by sample is filled and emptied for a call.
-inline constexpr size_t kWorthStandingStill = 16;
-
 // ---- in and out
 
 template <class Data> void loadBlock(const Data* src, Lane* work, size_t lanes) {
@@ -140,7 +137,7 @@ template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
   if (s.isDirect()) {
     if constexpr (kParts<T> == 1) {
       const size_t order = lineValues(s);
-      if (order >= kWorthStandingStill && order <= kMostStill) return directStill<T>(s.taps, s.line, order, work, n);
+      if (n >= kWorthLookingAhead && order <= kMostStill) return directStill<T>(s.taps, s.line, order, work, n);
     }
     return each([&](T v) { return directOne(s.taps, s.line, lineValues(s), v); });
   }
@@ -155,7 +152,7 @@ template <class T> void runBlock(const IirRecord<T>& s, bool isDf1, Lane* work, 
       return;
     }
   }
-  if (s.direct != nullptr && n >= kWorthLookingAhead && runDirect(s, work, n)) return;
+  if (s.direct != nullptr && s.direct->looksAhead() && n >= kWorthLookingAhead && runDirect(s, work, n)) return;
   if constexpr (kParts<T> == 1) {
     if (s.how == How::kInLanes && n >= kWorthLookingAhead)
       return withSectionLine(s, [&](T* line) { s.cascade.run(work, n, line); });
