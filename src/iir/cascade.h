@@ -29,6 +29,10 @@ class Cascade {
 
   bool isThere() const { return table_ != nullptr; }
 
+  // The sections from one on that is a multiple of kMost, up to kMost of them.
+  size_t count(size_t first) const { return std::min(kMost, sections_ - first); }
+  Cascade from(size_t first) const { return {count(first), table_ + kRows * first}; }
+
   // Taps b0, b1, b2, a1, a2. The state is kept as what the next output takes of it, so that it waits for one multiplication less:
   // d0' = e1 * x + d1 - a1 * d0, d1' = e2 * x - a2 * d0, e = b - a * b0.
   template <class T> void set(size_t section, const T* t) {
@@ -47,10 +51,9 @@ class Cascade {
   // n samples in place, and the delay line of two values for each section.
   template <class T> void run(Lane* work, size_t n, T* line) const {
     for (size_t first = 0; first < sections_; first += kMost) {
-      const size_t count = std::min(kMost, sections_ - first);
-      const size_t groups = (count + kLanes - 1) / kLanes;
+      const size_t groups = (count(first) + kLanes - 1) / kLanes;
       const auto with = [&](auto size) {
-        if (groups == size()) part<size()>(first, count, work, n, line + 2 * first);
+        if (groups == size()) part<size()>(first, count(first), work, n, line + 2 * first);
       };
       [&]<size_t... I>(std::index_sequence<I...>) { (with(std::integral_constant<size_t, I + 1>()), ...); }
       (std::make_index_sequence<kMost / kLanes>());

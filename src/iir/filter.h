@@ -78,23 +78,43 @@ template <class T> void transposedLine(const T* t, const T* line, Lane* d) {
   d[1] = Lane{t[2]} * line[1] - Lane{t[4]} * line[3];
 }
 
+// A sample through a section in the direct form I whose delay line is kept in the transposed form too.
+template <class T> Lane df1Step(const Lane* t, Lane* d, T* line, Lane x) {
+  const Lane y = sectionOne(t, d, x);
+  line[0] = line[1];
+  line[1] = static_cast<T>(x);
+  line[2] = line[3];
+  line[3] = static_cast<T>(y);
+  return y;
+}
+
 // A section in the direct form I, in place: its delay line becomes that of the transposed form for the time of the block.
 template <class T> void runDf1(const Section<T>& section, Lane* work, size_t n, T* line) {
   const T* t = section.taps;
-  const Lane x2 = n < 2 ? line[1] : work[n - 2];
-  const Lane x1 = work[n - 1];
   Lane d[2];
   transposedLine(t, line, d);
   if (section.looksAhead && n >= kWorthLookingAhead) {
+    std::copy_n(work + n - 2, 2, line);
     lookAhead(section, work, work, n, d, Finish<Lane>{1});
+    std::copy_n(work + n - 2, 2, line + 2);
   } else {
     const Lane wide[5] = {t[0], t[1], t[2], t[3], t[4]};
-    for (size_t i = 0; i < n; ++i) work[i] = sectionOne(wide, d, work[i]);
+    for (size_t i = 0; i < n; ++i) work[i] = df1Step(wide, d, line, work[i]);
   }
-  line[0] = static_cast<T>(x2);
-  line[1] = static_cast<T>(x1);
-  line[2] = n < 2 ? line[3] : static_cast<T>(work[n - 2]);
-  line[3] = static_cast<T>(work[n - 1]);
+}
+
+// Sections in the direct form I, up to Cascade::kMost, all in lanes. The last two samples go through them plainly: they make the
+// delay lines, of values between sections that are nowhere else.
+template <class T> void df1InLanes(const Cascade& cascade, const T* taps, T* line, Lane* work, size_t n) {
+  const size_t sections = cascade.count(0);
+  const size_t most = n >= kWorthLookingAhead ? n - 2 : 0;
+  Lane d[2 * Cascade::kMost];
+  for (size_t k = 0; k < sections; ++k) transposedLine(taps + 5 * k, line + 4 * k, d + 2 * k);
+  if (most > 0) cascade.run(work, most, d);
+  for (size_t k = 0; k < sections; ++k, taps += 5, line += 4) {
+    const Lane wide[5] = {taps[0], taps[1], taps[2], taps[3], taps[4]};
+    for (size_t i = most; i < n; ++i) work[i] = df1Step(wide, d + 2 * k, line, work[i]);
+  }
 }
 
 // with(line): the delay line of sections, which a direct form up to order 2 is one of. Of order 1, its second value is the zero
@@ -148,7 +168,12 @@ template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
 template <class T> void runBlock(const IirRecord<T>& s, bool isDf1, Lane* work, size_t n) {
   if constexpr (std::is_same_v<T, Qvx64f>) {
     if (isDf1) {
-      for (int k = 0; k < s.numBq; ++k) runDf1(s.sections[k], work, n, s.line + 4 * k);
+      const auto sections = static_cast<size_t>(s.numBq);
+      if (s.how == How::kLookingAhead) {
+        for (size_t k = 0; k < sections; ++k) runDf1(s.sections[k], work, n, s.line + 4 * k);
+      } else {
+        for (size_t k = 0; k < sections; k += Cascade::kMost) df1InLanes(s.cascade.from(k), s.taps + 5 * k, s.line + 4 * k, work, n);
+      }
       return;
     }
   }
@@ -164,7 +189,7 @@ template <class T> void runBlock(const IirRecord<T>& s, bool isDf1, Lane* work, 
 
 template <class T, class Data, class Run> void inBlocks(const Data* src, Data* dst, size_t n, Finish<Data> finish, Run run) {
   constexpr size_t kBlock = kBlockLanes / kParts<T>;
-  Lane work[kBlockLanes];
+  alignas(kVectorBytes) Lane work[kBlockLanes];
   while (n > 0) {
     const size_t count = std::min(n, kBlock);
     const size_t lanes = count * kParts<T>;
@@ -184,37 +209,12 @@ template <class T, class Data> void bySections(const IirRecord<T>& s, const Data
     if (last == 0) return runSection(s.sections[0], src, dst, n, line, finish);
     constexpr size_t kBlock = kBlockLanes / kParts<T>;
     constexpr Finish<Lane> kAsItIs{1};
-    Lane work[kBlockLanes];
+    alignas(kVectorBytes) Lane work[kBlockLanes];
     for (size_t at = 0, count; at < n; at += count) {
       count = n - at <= kBlock + kWorthLookingAhead && n - at > kBlock ? (n - at) / 2 : std::min(n - at, kBlock);
       runSection(s.sections[0], src + at, work, count, line, kAsItIs);
       for (int k = 1; k < last; ++k) runSection(s.sections[k], work, work, count, line + 2 * k, kAsItIs);
       runSection(s.sections[last], work, dst + at, count, line + 2 * last, finish);
-    }
-  });
-}
-
-// Sections in the direct form I, all in lanes. The last two samples go through them plainly: they make the delay lines, of values
-// between sections that are nowhere else.
-inline void df1InLanes(const Qvx32f* taps, Qvx32f* line, size_t sections, const Qvx32f* src, Qvx32f* dst, size_t n) {
-  constexpr Finish<Qvx32f> kAsItIs{1};
-  constexpr size_t kLast = 2;
-  Lane table[Cascade::tableLanes(Cascade::kMost)];
-  Lane d[2 * Cascade::kMost];
-  Cascade cascade(sections, table);
-  for (size_t k = 0; k < sections; ++k) {
-    cascade.set(k, taps + 5 * k);
-    transposedLine(taps + 5 * k, line + 4 * k, d + 2 * k);
-  }
-  inBlocks<Qvx32f>(src, dst, n - kLast, kAsItIs, [&](Lane* work, size_t count) { cascade.run(work, count, d); });
-  inBlocks<Qvx32f>(src + n - kLast, dst + n - kLast, kLast, kAsItIs, [&](Lane* work, size_t) {
-    for (size_t k = 0; k < sections; ++k, taps += 5, line += 4) {
-      const Lane wide[5] = {taps[0], taps[1], taps[2], taps[3], taps[4]};
-      for (size_t i = 0; i < kLast; ++i) {
-        line[i] = static_cast<Qvx32f>(work[i]);
-        work[i] = sectionOne(wide, d + 2 * k, work[i]);
-        line[kLast + i] = static_cast<Qvx32f>(work[i]);
-      }
     }
   });
 }
@@ -230,7 +230,10 @@ inline void filterDf1(const IirRecord<Qvx32f>& s, const Qvx32f* src, Qvx32f* dst
       for (size_t i = 0; i < n; ++i) dst[i] = df1One(t, line, src[i]);
     } else if (sections - k >= Cascade::kFew) {
       count = std::min(sections - k, Cascade::kMost);
-      df1InLanes(t, line, count, src, dst, n);
+      Lane table[Cascade::tableLanes(Cascade::kMost)];
+      Cascade cascade(count, table);
+      for (size_t i = 0; i < count; ++i) cascade.set(i, t + 5 * i);
+      inBlocks<Qvx32f>(src, dst, n, Finish<Qvx32f>{1}, [&](Lane* work, size_t m) { df1InLanes(cascade, t, line, work, m); });
     } else {
       Section<Qvx32f> section;
       section.set(t);

@@ -100,11 +100,9 @@ template <class State> State* iirPlace(Form form, int n, Qvx8u* block) {
   state->how = How::kPlain;
   const auto placeSections = [&](int count) {
     constexpr bool kHasCascade = kParts<T> == 1;
-    if (kHasCascade && form != Form::kDf1) {
-      state->cascade = Cascade(static_cast<size_t>(count), carver.template take<Lane>(Cascade::tableLanes(count)));
-    }
+    if (kHasCascade) state->cascade = Cascade(static_cast<size_t>(count), carver.template take<Lane>(Cascade::tableLanes(count)));
     const bool isFew = static_cast<size_t>(count) < Cascade::kFew;
-    if (!kHasCascade || form == Form::kDf1 || isFew) state->sections = carver.template take<Section<T>>(count);
+    if (!kHasCascade || isFew) state->sections = carver.template take<Section<T>>(count);
   };
   if (form == Form::kDirect) {
     state->order = n;
