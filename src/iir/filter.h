@@ -17,8 +17,8 @@ inline constexpr size_t kWorthLookingAhead = 8;
 
 // ---- in and out
 
-template <class Data> void loadBlock(const Data* src, Lane* work, size_t lanes) {
-  loop([](auto v) { return convertLanes<Lane>(v); }, destination(work), lanes, source(src));
+template <class Data, class P> void loadBlock(const Data* src, P* work, size_t lanes) {
+  loop([](auto v) { return convertLanes<P>(v); }, destination(work), lanes, source(src));
 }
 
 // Outputs as samples: integers times factor, to nearest even, saturated.
@@ -31,12 +31,15 @@ template <class Data> struct Finish {
     } else {
       constexpr Lane kLeast = std::numeric_limits<R>::min();
       constexpr Lane kMost = std::numeric_limits<R>::max();
-      return convertLanes<R>(toIntNearest(clippedBelow(clippedAbove(v * same<W>(factor), kMost), kLeast)));
+      // 32-bit lanes hold 2^-126 to 2^126: all but 0 and infinities of numbers is out of range there as well.
+      constexpr Lane kTiny = std::numeric_limits<LaneOf<W>>::min();
+      const auto f = static_cast<LaneOf<W>>(std::clamp(factor, kTiny, 1 / kTiny));
+      return convertLanes<R>(toIntNearest(clippedBelow(clippedAbove(v * same<W>(f), kMost), kLeast)));
     }
   }
 };
 
-template <class Data> void storeBlock(const Lane* work, Data* dst, size_t lanes, Finish<Data> finish) {
+template <class Data, class P> void storeBlock(const P* work, Data* dst, size_t lanes, Finish<Data> finish) {
   loop(finish, destination(dst), lanes, source(work));
 }
 
@@ -73,14 +76,14 @@ void runSection(const Section<T>& section, const Src* src, Dst* dst, size_t n, T
 }
 
 // The delay line of the direct form I, as the transposed form has it.
-template <class T> void transposedLine(const T* t, const T* line, Lane* d) {
-  d[0] = Lane{t[2]} * line[0] + Lane{t[1]} * line[1] - Lane{t[4]} * line[2] - Lane{t[3]} * line[3];
-  d[1] = Lane{t[2]} * line[1] - Lane{t[4]} * line[3];
+template <class T, class P> void transposedLine(const T* t, const T* line, P* d) {
+  d[0] = P{t[2]} * line[0] + P{t[1]} * line[1] - P{t[4]} * line[2] - P{t[3]} * line[3];
+  d[1] = P{t[2]} * line[1] - P{t[4]} * line[3];
 }
 
 // A sample through a section in the direct form I whose delay line is kept in the transposed form too.
-template <class T> Lane df1Step(const Lane* t, Lane* d, T* line, Lane x) {
-  const Lane y = sectionOne(t, d, x);
+template <class T, class P> P df1Step(const P* t, P* d, T* line, P x) {
+  const P y = sectionOne(t, d, x);
   line[0] = line[1];
   line[1] = static_cast<T>(x);
   line[2] = line[3];
@@ -103,16 +106,16 @@ template <class T> void runDf1(const Section<T>& section, Lane* work, size_t n, 
   }
 }
 
-// Sections in the direct form I, up to Cascade::kMost, all in lanes. The last two samples go through them plainly: they make the
-// delay lines, of values between sections that are nowhere else.
-template <class T> void df1InLanes(const Cascade& cascade, const T* taps, T* line, Lane* work, size_t n) {
+// Sections in the direct form I, up to kMost, all in lanes. The last two samples go through them plainly: they make the delay
+// lines, of values between sections that are nowhere else.
+template <class T, class P> void df1InLanes(const Cascade<P>& cascade, const T* taps, T* line, P* work, size_t n) {
   const size_t sections = cascade.count(0);
   const size_t most = n >= kWorthLookingAhead ? n - 2 : 0;
-  Lane d[2 * Cascade::kMost];
+  P d[2 * Cascade<P>::kMost];
   for (size_t k = 0; k < sections; ++k) transposedLine(taps + 5 * k, line + 4 * k, d + 2 * k);
   if (most > 0) cascade.run(work, most, d);
   for (size_t k = 0; k < sections; ++k, taps += 5, line += 4) {
-    const Lane wide[5] = {taps[0], taps[1], taps[2], taps[3], taps[4]};
+    const P wide[5] = {taps[0], taps[1], taps[2], taps[3], taps[4]};
     for (size_t i = most; i < n; ++i) work[i] = df1Step(wide, d + 2 * k, line, work[i]);
   }
 }
@@ -164,7 +167,7 @@ template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
   for (int k = 0; k < s.numBq; ++k) each([t = s.taps + 5 * k, d = s.line + 2 * k](T v) { return sectionOne(t, d, v); });
 }
 
-// All but what looks ahead by sections.
+// All but sections that look ahead or are in lanes.
 template <class T> void runBlock(const IirRecord<T>& s, bool isDf1, Lane* work, size_t n) {
   if constexpr (std::is_same_v<T, Qvx64f>) {
     if (isDf1) {
@@ -172,24 +175,22 @@ template <class T> void runBlock(const IirRecord<T>& s, bool isDf1, Lane* work, 
       if (s.how == How::kLookingAhead) {
         for (size_t k = 0; k < sections; ++k) runDf1(s.sections[k], work, n, s.line + 4 * k);
       } else {
-        for (size_t k = 0; k < sections; k += Cascade::kMost) df1InLanes(s.cascade.from(k), s.taps + 5 * k, s.line + 4 * k, work, n);
+        for (size_t k = 0; k < sections; k += Cascade<Lane>::kMost)
+          df1InLanes(s.cascade.from(k), s.taps + 5 * k, s.line + 4 * k, work, n);
       }
       return;
     }
   }
   if (s.direct != nullptr && s.direct->looksAhead() && n >= kWorthLookingAhead && runDirect(s, work, n)) return;
-  if constexpr (kParts<T> == 1) {
-    if (s.how == How::kInLanes && n >= kWorthLookingAhead)
-      return withSectionLine(s, [&](T* line) { s.cascade.run(work, n, line); });
-  }
   runPlain(s, work, n);
 }
 
 // ---- the call
 
-template <class T, class Data, class Run> void inBlocks(const Data* src, Data* dst, size_t n, Finish<Data> finish, Run run) {
+template <class T, class P = Lane, class Data, class Run>
+void inBlocks(const Data* src, Data* dst, size_t n, Finish<Data> finish, Run run) {
   constexpr size_t kBlock = kBlockLanes / kParts<T>;
-  alignas(kVectorBytes) Lane work[kBlockLanes];
+  alignas(kVectorBytes) P work[kBlockLanes];
   while (n > 0) {
     const size_t count = std::min(n, kBlock);
     const size_t lanes = count * kParts<T>;
@@ -221,6 +222,8 @@ template <class T, class Data> void bySections(const IirRecord<T>& s, const Data
 
 // Without tables of its own: they are made for a call, and go over all samples.
 inline void filterDf1(const IirRecord<Qvx32f>& s, const Qvx32f* src, Qvx32f* dst, size_t n) {
+  using P = CascadeLane<Qvx32f>;
+  using Many = Cascade<P>;
   const auto sections = static_cast<size_t>(s.numBq);
   for (size_t k = 0, count = 1; k < sections; k += count, src = dst) {
     const Qvx32f* t = s.taps + 5 * k;
@@ -228,12 +231,12 @@ inline void filterDf1(const IirRecord<Qvx32f>& s, const Qvx32f* src, Qvx32f* dst
     count = 1;
     if (n < 4 * kWorthLookingAhead) {
       for (size_t i = 0; i < n; ++i) dst[i] = df1One(t, line, src[i]);
-    } else if (sections - k >= Cascade::kFew) {
-      count = std::min(sections - k, Cascade::kMost);
-      Lane table[Cascade::tableLanes(Cascade::kMost)];
-      Cascade cascade(count, table);
+    } else if (sections - k >= Many::kFew) {
+      count = std::min(sections - k, Many::kMost);
+      P table[Many::tableLanes(Many::kMost)];
+      Many cascade(count, table);
       for (size_t i = 0; i < count; ++i) cascade.set(i, t + 5 * i);
-      inBlocks<Qvx32f>(src, dst, n, Finish<Qvx32f>{1}, [&](Lane* work, size_t m) { df1InLanes(cascade, t, line, work, m); });
+      inBlocks<Qvx32f, P>(src, dst, n, Finish<Qvx32f>{1}, [&](P* work, size_t m) { df1InLanes(cascade, t, line, work, m); });
     } else {
       Section<Qvx32f> section;
       section.set(t);
@@ -250,6 +253,14 @@ template <class State, class Data> void filter(State& s, const Data* src, Data* 
   }
   const Finish<Data> finish{outputFactor(scaleFactor)};
   if (!isDf1 && s.how == How::kLookingAhead && n >= kWorthLookingAhead) return bySections<T>(s, src, dst, n, finish);
+  if constexpr (kParts<T> == 1) {
+    if (!isDf1 && s.how == How::kInLanes && n >= kWorthLookingAhead) {
+      using P = CascadeLane<T>;
+      return withSectionLine(s, [&](T* line) {
+        inBlocks<T, P>(src, dst, n, finish, [&](P* work, size_t count) { s.cascade.run(work, count, line); });
+      });
+    }
+  }
   inBlocks<T>(src, dst, n, finish, [&](Lane* work, size_t count) { runBlock<T>(s, isDf1, work, count); });
 }
 

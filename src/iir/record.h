@@ -32,7 +32,7 @@ template <class T> struct IirRecord {
   T* line;
   Section<T>* sections;  // of few, or complex ones; in the direct form up to order 2, one
   Direct<T>* direct;     // from order 3 on, while there is one
-  Cascade cascade;       // of real sections
+  Cascade<CascadeLane<T>> cascade;  // of real sections
   How how;
 
   bool isDirect() const { return numBq == 0; }
@@ -96,12 +96,13 @@ template <class State> State* iirPlace(Form form, int n, Qvx8u* block) {
   state->ownsBlock = 0;
   state->sections = nullptr;
   state->direct = nullptr;
-  state->cascade = Cascade();
+  state->cascade = {};
   state->how = How::kPlain;
   const auto placeSections = [&](int count) {
     constexpr bool kHasCascade = kParts<T> == 1;
-    if (kHasCascade) state->cascade = Cascade(static_cast<size_t>(count), carver.template take<Lane>(Cascade::tableLanes(count)));
-    const bool isFew = static_cast<size_t>(count) < Cascade::kFew;
+    using Many = decltype(state->cascade);
+    if (kHasCascade) state->cascade = {static_cast<size_t>(count), carver.template take<CascadeLane<T>>(Many::tableLanes(count))};
+    const bool isFew = static_cast<size_t>(count) < Many::kFew;
     if (!kHasCascade || isFew) state->sections = carver.template take<Section<T>>(count);
   };
   if (form == Form::kDirect) {
