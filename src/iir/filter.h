@@ -140,15 +140,14 @@ inline bool areFinite(const Lane* p, size_t n) {
 
 // Whether it could: not with what is not finite.
 template <class T> bool runDirect(const IirRecord<T>& s, Lane* work, size_t n) {
-  using N = LaneNumber<T>;
-  constexpr size_t kRoom = Direct<T>::kMostOrder + 2 * Direct<T>::kElements;
-  const size_t order = lineValues(s);
-  N d[kRoom];
-  for (size_t i = 0; i < order; ++i) d[i] = numberOf<N>(s.line[i]);
-  std::fill(d + order, d + kRoom, N{});
-  if (!areFinite(work, n * kParts<T>) || !areFinite(parts(d), order * kParts<T>)) return false;
-  s.direct->run(work, n, parts(d));
-  for (size_t i = 0; i < order; ++i) s.line[i] = numberOf<T>(d[i]);
+  constexpr size_t kRoom = (Direct<T>::kMostVectors + 2) * kLanes;
+  const size_t lanes = lineValues(s) * kParts<T>;
+  alignas(kVectorBytes) Lane d[kRoom];
+  std::fill_n(d, kRoom, 0);
+  loadBlock(parts(s.line), d, lanes);
+  if (!areFinite(work, n * kParts<T>) || !areFinite(d, lanes)) return false;
+  s.direct->run(work, n, d);
+  storeBlock(d, parts(s.line), lanes, Finish<Part<T>>{1});
   return true;
 }
 
