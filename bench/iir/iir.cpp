@@ -46,8 +46,7 @@ template <class Q> std::vector<Plain<Q>> taps(bool isDirect, size_t size) {
   all.insert(all.end(), a.begin(), a.end());
   return all;
 }
-template <class State, class Q>
-State* filter(QvxStatus (*init)(State**, const Q*, int, const Q*), bool isDirect, size_t size) {
+template <class State, class Q> State* filter(QvxStatus (*init)(State**, const Q*, int, const Q*), bool isDirect, size_t size) {
   State* s = nullptr;
   init(&s, reinterpret_cast<const Q*>(taps<Q>(isDirect, size).data()), static_cast<int>(size), nullptr);
   return s;
@@ -55,7 +54,8 @@ State* filter(QvxStatus (*init)(State**, const Q*, int, const Q*), bool isDirect
 
 // A filter lives as long as the program, one for each size. Each call of every contender begins with an empty delay line, so that
 // outputs can be compared.
-template <auto kInit, auto kClear, auto kRun, bool kIsDirect, size_t kSize, class D> QvxStatus ours(const D* src, D* dst, int len) {
+template <auto kInit, auto kClear, auto kRun, bool kIsDirect, size_t kSize, class D>
+QvxStatus ours(const D* src, D* dst, int len) {
   static auto* const s = filter(kInit, kIsDirect, kSize);
   kClear(s, nullptr);
   if constexpr (std::is_invocable_v<decltype(kRun), const D*, D*, int, decltype(s)>) return kRun(src, dst, len, s);

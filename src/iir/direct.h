@@ -5,13 +5,13 @@
 // so that a complex filter is no other than a real one. What waits for the vector before is only the way from the delay line's
 // first vector to the next one: a shuffle and 2 to 8 multiplications for all lanes, where the plain loop waits 8 cycles for each.
 //
-// Columns have zeros for outputs before their input. What is not finite would make NaN of them, so blocks that hold such are not for
-// this kernel.
+// Columns have zeros for outputs before their input. What is not finite would make NaN of them, so blocks that hold such are not
+// for this kernel.
 //
 // The matrix is a rewriting of the taps, in 64-bit floats: that loses nothing in filters of 32 bits. Those of 64 bits have the
 // way of the delay line in twice their digits: rounded, it would move the poles. They also ask how far the impulse response of
-// 1 / A rises: a delay line of great values that cancel out is rounded where they are great. Over 6000 filters with radii to 0.9999,
-// the error was at most 2.9 times the plain loop's where the response never comes above 1, 4 at 1.4, 120 at 32.
+// 1 / A rises: a delay line of great values that cancel out is rounded where they are great. Over 6000 filters with radii to
+// 0.9999, the error was at most 2.9 times the plain loop's where the response never comes above 1, 4 at 1.4, 120 at 32.
 #pragma once
 
 #include <algorithm>
@@ -27,9 +27,12 @@ template <class T> class Direct {
   static constexpr size_t kParts = qvx::kParts<T>;
   static constexpr size_t kElements = kLanes / kParts;
   static constexpr bool kIsExact = sizeof(Part<T>) == 8;
-  // Vectors of the delay line: in AVX-512 as many as the blocks that callers allocate have room for. Above, sample by sample is as
-  // fast in SSE, where a vector has all 32-bit lanes then, and takes 1.3 times as long in AVX-512.
-  static constexpr size_t kMostVectors = kLanes == 2 ? 8 : kLanes == 4 || kParts == 2 ? 6 : sizeof(T) == 4 ? 3 : 5;
+  // Vectors of the delay line: real ones in AVX-512 as many as the blocks that callers allocate have room for. Above, sample by
+  // sample is as fast in SSE, where a vector has all 32-bit lanes then, and takes 1.3 times as long in AVX-512.
+  static constexpr size_t kMostVectors = kLanes == 2   ? 8
+                                         : kLanes == 4 ? (kParts == 2 ? 8 : 6)
+                                         : kParts == 2 ? 6
+                                                       : (sizeof(T) == 4 ? 3 : 5);
   static constexpr size_t kMostOrder = kMostVectors * kElements;
   using Number = Coefficient<kParts>;
 

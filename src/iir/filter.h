@@ -157,11 +157,10 @@ template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
     for (size_t i = 0; i < n; ++i) at[i] = numberOf<LaneNumber<T>>(one(numberOf<T>(at[i])));
   };
   if (s.isDirect()) {
-    if constexpr (kParts<T> == 1) {
-      const size_t order = lineValues(s);
-      if (n >= kWorthLookingAhead && order <= kMostStill) return directStill<T>(s.taps, s.line, order, work, n);
-    }
-    return each([&](T v) { return directOne(s.taps, s.line, lineValues(s), v); });
+    const size_t order = lineValues(s);
+    constexpr bool kHasVectors = sizeof(T) < kVectorBytes;
+    if (kHasVectors && n >= kWorthLookingAhead && order <= kMostStill<T>) return directStill(s.taps, s.line, order, work, n);
+    return each([&](T v) { return directOne(s.taps, s.line, order, v); });
   }
   for (int k = 0; k < s.numBq; ++k) each([t = s.taps + 5 * k, d = s.line + 2 * k](T v) { return sectionOne(t, d, v); });
 }

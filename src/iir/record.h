@@ -30,8 +30,8 @@ template <class T> struct IirRecord {
   int32_t numBq;  // 0 in the direct form
   T* taps;        // b0..bN, a1..aN, or b0, b1, b2, a1, a2 for each section; normalised
   T* line;
-  Section<T>* sections;  // of few, or complex ones; in the direct form up to order 2, one
-  Direct<T>* direct;     // from order 3 on, while there is one
+  Section<T>* sections;             // of few, or complex ones; in the direct form up to order 2, one
+  Direct<T>* direct;                // from order 3 on, while there is one
   Cascade<CascadeLane<T>> cascade;  // of real sections
   How how;
 

@@ -69,14 +69,15 @@ template <class T> struct Section {
     a[1] = coefficient(-a2);
     rest[0] = remainder(-a1, a[0]);
     rest[1] = remainder(-a2, a[1]);
-    carries = !kIsExact || noise.isPlains(a1, a2);
+    carries = !kIsExact || kElements == 1 || noise.isPlains(a1, a2);
     if constexpr (kMayBegin) setOutside(exact(t[3]), exact(t[4]));
     looksAhead = (carries || kMayBegin) && std::norm(exact(t[3])) + std::norm(exact(t[4])) < 0x1p80L;
   }
 
   // n numbers of a source to a destination through `finish`, after the delay line d: the transposed direct form's, which comes to
   // the output as if it were input. Leaves the last two outputs, not finished, in ys: the older first.
-  template <class Src, class Dst, class Finish> void run(Src src, Dst dst, size_t n, const Lane* d, Finish finish, Lane* ys) const {
+  template <class Src, class Dst, class Finish>
+  void run(Src src, Dst dst, size_t n, const Lane* d, Finish finish, Lane* ys) const {
     if constexpr (kMayBegin) {
       if (!carries) return run<false>(src, dst, n, d, finish, ys);
     }
@@ -126,12 +127,12 @@ template <class T> struct Section {
       v = doubled<kCarries, 0>(v, beforeStep);
       if constexpr (kCarries) {
         const auto p1 = multiplied<kParts>(y), p2 = multiplied<kParts>(yBefore);
-        if constexpr (kIsExact) v = plusProduct(plusProduct(v, rest2, p2), rest1, p1);
+        if constexpr (kIsExact && kElements > 1) v = plusProduct(plusProduct(v, rest2, p2), rest1, p1);
         yBefore = y;
         y = plusProduct(plusProduct(v, of2, p2), of1, p1);
       } else {
         const V last = everyNumber<kParts, kElements - 1>(y);
-        const V last2 = kElements == 1 ? yBefore : everyNumber<kParts, kElements < 2 ? 0 : kElements - 2>(y);
+        const V last2 = kElements == 1 ? yBefore : everyNumber < kParts, kElements < 2 ? 0 : kElements - 2 > (y);
         const auto p1 = multiplied<kParts>(last), p2 = multiplied<kParts>(hn::NegMulAdd(signs, last2, last));
         yBefore = y;
         y = plusProduct(plusProduct(v, rest2, p2), of2, p2) + plusProduct(plusProduct(came, rest1, p1), of1, p1);
@@ -171,8 +172,8 @@ template <class T> struct Section {
     }
   }
 
-  // With the impulse response h of 1 / A, the last output brings h one place on, and the one before -a2 * h. The delay line brings h,
-  // and h one place back.
+  // With the impulse response h of 1 / A, the last output brings h one place on, and the one before -a2 * h. The delay line
+  // brings h, and h one place back.
   void setOutside(Exact<T> a1, Exact<T> a2) {
     sign = std::real(a1) > 0 ? -1 : 1;
     Exact<T> before = 0;
