@@ -102,11 +102,18 @@ auto liquidDirect(size_t order) {
   return liquidRun(iirfilt_rrrf_create(b.data(), static_cast<unsigned>(order + 1), a.data(), static_cast<unsigned>(order + 1)));
 }
 
+// Additions and multiplications: of complex numbers, 2 and 6.
+template <class Q> constexpr double operations(size_t products, size_t sums) {
+  constexpr bool kIsComplex = !std::is_same_v<Q, Plain<Q>>;
+  return static_cast<double>(kIsComplex ? 6 * products + 2 * sums : products + sums);
+}
+
 template <size_t kCount, auto kInit, auto kClear, auto kRun, class D> auto sectionRow(Suite& s, const std::string& name, D) {
   constexpr auto kFused = Agreement::kFused;
   const std::string count = std::to_string(kCount) + (kCount == 1 ? " section" : " sections");
   return s.row(name + ", " + count, ours<kInit, kClear, kRun, false, kCount, D>)
       .stream()
+      .operations(operations<D>(5 * kCount, 4 * kCount))
       .against("plain, by sample", bySample<D>(kCount), kFused)
       .against("plain, by section", bySection<D>(kCount), kFused);
 }
@@ -122,6 +129,7 @@ template <size_t kCount> void sectionRows(Suite& s) {
 template <size_t kOrder, auto kInit, auto kClear, auto kRun, class Q> auto directRow(Suite& s, const std::string& name, Q) {
   return s.row(name + ", order " + std::to_string(kOrder), ours<kInit, kClear, kRun, true, kOrder, Q>)
       .stream()
+      .operations(operations<Q>(2 * kOrder + 1, 2 * kOrder))
       .against("plain", plainDirect<Q>(kOrder), Agreement::kFused);
 }
 template <size_t kOrder> void directRows(Suite& s) {
@@ -131,6 +139,7 @@ template <size_t kOrder> void directRows(Suite& s) {
   s.row("IIR32f_16s, order " + std::to_string(kOrder),
         ours<qvxsIIRInitAlloc32f_16s, qvxsIIRSetDlyLine32f_16s, qvxsIIR32f_16s_Sfs, true, kOrder, Qvx16s>)
       .stream()
+      .operations(operations<Qvx32f>(2 * kOrder + 1, 2 * kOrder))
       .against("plain, truncated", plainDirect<Qvx32f, Qvx16s>(kOrder), Agreement::kDiffers);
   directRow<kOrder, qvxsIIRInitAlloc_32fc, qvxsIIRSetDlyLine_32fc, qvxsIIR_32fc>(s, "IIR_32fc", Qvx32fc());
   directRow<kOrder, qvxsIIRInitAlloc_64fc, qvxsIIRSetDlyLine_64fc, qvxsIIR_64fc>(s, "IIR_64fc", Qvx64fc());
