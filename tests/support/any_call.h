@@ -83,6 +83,9 @@ inline bool contains(const std::string& text, std::initializer_list<const char*>
   return std::any_of(parts.begin(), parts.end(), [&](const char* part) { return text.find(part) != text.npos; });
 }
 
+// Refuses a channel, a half or a section when it comes to it: what was before it is written.
+inline bool refusesInTheMiddle(const Export& e) { return contains(e.name, {"_P", "_IP", "CartToPolar", "One_BiQuadDirect"}); }
+
 // The type that a pointer of the headers leads to: const Qvx16sc* and Qvx16sc* const* both to Qvx16sc.
 inline std::string pointee(const Parameter& p) {
   const size_t start = p.type.rfind("const ", 0) == 0 ? 6 : 0;
@@ -134,6 +137,19 @@ class AnyCall : public Arguments {
     }
     return all;
   }
+  // The same as numbers, or those of the vector of one parameter.
+  std::vector<double> numbers(const std::string& parameter = "") const {
+    std::vector<double> all;
+    for (const Vector& v : vectors_) {
+      if (parameter.empty() ? v.role != Role::kDestination : v.parameter != parameter) continue;
+      for (size_t i = 0; i + v.part <= v.bytes; i += v.part) all.push_back(numberAt(v.data() + i, v));
+    }
+    return all;
+  }
+  bool areIntegers() const {
+    return std::all_of(vectors_.begin(), vectors_.end(),
+                       [](const Vector& v) { return v.role != Role::kDestination || !v.isFloat; });
+  }
   // Sources as they were, and nothing written around any vector.
   bool isIntact() const {
     return std::all_of(vectors_.begin(), vectors_.end(), [](const Vector& v) {
@@ -168,6 +184,9 @@ class AnyCall : public Arguments {
     uint8_t* at;
     size_t bytes;
     Role role;
+    std::string parameter;
+    size_t part;  // bytes of a number
+    bool isFloat, isSigned;
     std::vector<uint8_t> copy;
     const uint8_t* data() const { return at; }
   };
@@ -176,6 +195,26 @@ class AnyCall : public Arguments {
     void* address;
     bool isAllocated;
   };
+
+  static double numberAt(const uint8_t* at, const Vector& v) {
+    if (v.isFloat && v.part == 4) return read<float>(at);
+    if (v.isFloat) return read<double>(at);
+    switch (v.part) {
+      case 1:
+        return v.isSigned ? read<int8_t>(at) : *at;
+      case 2:
+        return v.isSigned ? read<int16_t>(at) : read<uint16_t>(at);
+      case 4:
+        return v.isSigned ? read<int32_t>(at) : read<uint32_t>(at);
+      default:
+        return static_cast<double>(read<int64_t>(at));
+    }
+  }
+  template <class T> static T read(const uint8_t* at) {
+    T v;
+    std::memcpy(&v, at, sizeof(T));
+    return v;
+  }
 
   void prepare(Choices& choices);
   int64_t drawInteger(const Parameter& p, Choices& choices);
@@ -285,7 +324,13 @@ inline uint8_t* AnyCall::vector(size_t bytes, Role role, size_t index, const std
   uint8_t* at = isAtEnd ? block.atEnd(bytes) : block.atOffset(static_cast<size_t>(around_.offset) * (index + 1), bytes);
   std::memset(at, around_.garbage, bytes);
   fill(at);
-  vectors_.push_back({&block, at, bytes, role, std::vector<uint8_t>(at, at + bytes)});
+  const Parameter& p = export_.parameters[index];
+  const std::string type = pointee(p);
+  const size_t digits = type.find_first_of("0123456789");
+  const size_t part = digits == type.npos ? 4 : static_cast<size_t>(std::atoi(type.c_str() + digits)) / 8;
+  const bool isFloat = type.find("2f") != type.npos || type.find("4f") != type.npos;
+  vectors_.push_back({&block, at, bytes, role, p.name, std::max<size_t>(part, 1), isFloat, type.find('u') == type.npos,
+                      std::vector<uint8_t>(at, at + bytes)});
   return at;
 }
 
@@ -412,7 +457,7 @@ inline void* AnyCall::recordOf(std::string type, Choices& choices) {
     if (made.shape(name) != 0) shape_[name] = made.shape(name);
   }
   if (contains(type, {"FFT"})) shape_["workSize"] = made.sizeFor(maker.name, "pWorkSize");
-  made.records_.clear();  // this call's from here on
+  made.status_ = qvxStatBadArg;  // what it made is this call's from here on
   records_.push_back({type, record, allocates});
   return record;
 }
