@@ -8,8 +8,8 @@ namespace qvx::fir {
 inline constexpr int kInverseDivides = 2;
 
 // kLeastTaps: the shortest filter that has one. kPaysFrom: the shortest that it filters faster than the sum of products, which
-// wide vectors do sooner: of 16 taps and 32fc, AVX-512 takes 0.4 of the transform's time, SSSE3 0.9. kAbove: calls of more samples
-// take it.
+// wide vectors do sooner: of 16 taps and 32fc, AVX-512 takes 0.4 of the transform's time, SSSE3 0.9. kAbove: calls of more
+// samples take it.
 template <class C> struct Transform;
 
 constexpr int byRegisters(int avx512, int avx2, int ssse3) { return kHasMasks ? avx512 : kFuses ? avx2 : ssse3; }

@@ -285,7 +285,8 @@ template <class D> Vec<D> loadFirst(D d, const hn::TFromD<D>* p, size_t n) {
   constexpr size_t kBytes = hn::MaxLanes(D()) * sizeof(T);
   const auto* bytes = reinterpret_cast<const uint8_t*>(p);
   if constexpr (detail::kMasked<T, kBytes>) {
-    if (!detail::reachesNextPage<kBytes>(p)) [[likely]] return hn::MaskedLoad(hn::FirstN(d, n), d, p);
+    if (!detail::reachesNextPage<kBytes>(p)) [[likely]]
+      return hn::MaskedLoad(hn::FirstN(d, n), d, p);
   }
   return hn::BitCast(d, detail::loadPieces<kBytes>(bytes, n * sizeof(T)));
 }
@@ -302,7 +303,8 @@ template <class D> void storeFirst(Vec<D> v, D d, hn::TFromD<D>* p, size_t n) {
   auto* bytes = reinterpret_cast<uint8_t*>(p);
   const Lanes<uint8_t, kBytes> untyped;
   if constexpr (detail::kMasked<T, kBytes>) {
-    if (!detail::reachesNextPage<kBytes>(p)) [[likely]] return hn::BlendedStore(v, hn::FirstN(d, n), d, p);
+    if (!detail::reachesNextPage<kBytes>(p)) [[likely]]
+      return hn::BlendedStore(v, hn::FirstN(d, n), d, p);
   }
   detail::storePieces<kBytes>(hn::BitCast(untyped, v), bytes, n * sizeof(T));
 }
