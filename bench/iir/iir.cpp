@@ -1,6 +1,8 @@
 // Recursive filters: cascades of sections and direct forms.
 #include <liquid/liquid.h>
 
+#include <complex>
+
 #include "frame/families.h"
 #include "peers/plain_iir.h"
 
@@ -31,62 +33,51 @@ template <class T> std::vector<T> feedBack(size_t order) {
   return a;
 }
 
-// A filter lives as long as the program, one for each size.
-template <auto kInit, class State, class T> State* sections(size_t count) {
-  State* s = nullptr;
-  kInit(&s, withA0(sectionTaps<T>(count)).data(), static_cast<int>(count), nullptr);
-  return s;
+// The library's numbers as the plain loops have them.
+template <class Q> struct PlainOf { using Type = Q; };
+template <> struct PlainOf<Qvx32fc> { using Type = std::complex<float>; };
+template <> struct PlainOf<Qvx64fc> { using Type = std::complex<double>; };
+template <class Q> using Plain = typename PlainOf<Q>::Type;
+
+template <class Q> std::vector<Plain<Q>> taps(bool isDirect, size_t size) {
+  if (!isDirect) return withA0(sectionTaps<Plain<Q>>(size));
+  std::vector<Plain<Q>> all = feedForward<Plain<Q>>(size);
+  const std::vector<Plain<Q>> a = feedBack<Plain<Q>>(size);
+  all.insert(all.end(), a.begin(), a.end());
+  return all;
 }
-template <auto kInit, class State, class T> State* direct(size_t order) {
-  std::vector<T> taps = feedForward<T>(order);
-  const std::vector<T> a = feedBack<T>(order);
-  taps.insert(taps.end(), a.begin(), a.end());
+template <class State, class Q> State* filter(QvxStatus (*init)(State**, const Q*, int, const Q*), bool isDirect, size_t size) {
   State* s = nullptr;
-  kInit(&s, taps.data(), static_cast<int>(order), nullptr);
+  init(&s, reinterpret_cast<const Q*>(taps<Q>(isDirect, size).data()), static_cast<int>(size), nullptr);
   return s;
 }
 
-// Each call of every contender begins with an empty delay line, so that outputs can be compared.
-template <size_t kCount> QvxStatus sections32f(const Qvx32f* src, Qvx32f* dst, int len) {
-  static auto* const s = sections<qvxsIIRInitAlloc_BiQuad_32f, QvxsIIRState_32f, Qvx32f>(kCount);
-  qvxsIIRSetDlyLine_32f(s, nullptr);
-  return qvxsIIR_32f(src, dst, len, s);
-}
-template <size_t kCount> QvxStatus sectionsDf1(const Qvx32f* src, Qvx32f* dst, int len) {
-  static auto* const s = sections<qvxsIIRInitAlloc_BiQuad_DF1_32f, QvxsIIRState_32f, Qvx32f>(kCount);
-  qvxsIIRSetDlyLine_32f(s, nullptr);
-  return qvxsIIR_32f(src, dst, len, s);
-}
-template <size_t kCount> QvxStatus sections64f(const Qvx64f* src, Qvx64f* dst, int len) {
-  static auto* const s = sections<qvxsIIRInitAlloc_BiQuad_64f, QvxsIIRState_64f, Qvx64f>(kCount);
-  qvxsIIRSetDlyLine_64f(s, nullptr);
-  return qvxsIIR_64f(src, dst, len, s);
-}
-template <size_t kOrder> QvxStatus direct32f(const Qvx32f* src, Qvx32f* dst, int len) {
-  static auto* const s = direct<qvxsIIRInitAlloc_32f, QvxsIIRState_32f, Qvx32f>(kOrder);
-  qvxsIIRSetDlyLine_32f(s, nullptr);
-  return qvxsIIR_32f(src, dst, len, s);
-}
-template <size_t kOrder> QvxStatus direct64f(const Qvx64f* src, Qvx64f* dst, int len) {
-  static auto* const s = direct<qvxsIIRInitAlloc_64f, QvxsIIRState_64f, Qvx64f>(kOrder);
-  qvxsIIRSetDlyLine_64f(s, nullptr);
-  return qvxsIIR_64f(src, dst, len, s);
-}
-template <size_t kOrder> QvxStatus direct16s(const Qvx16s* src, Qvx16s* dst, int len) {
-  static auto* const s = direct<qvxsIIRInitAlloc32f_16s, QvxsIIRState32f_16s, Qvx32f>(kOrder);
-  qvxsIIRSetDlyLine32f_16s(s, nullptr);
-  return qvxsIIR32f_16s_Sfs(src, dst, len, s, 0);
+// A filter lives as long as the program, one for each size. Each call of every contender begins with an empty delay line, so that
+// outputs can be compared.
+template <auto kInit, auto kClear, auto kRun, bool kIsDirect, size_t kSize, class D>
+QvxStatus ours(const D* src, D* dst, int len) {
+  static auto* const s = filter(kInit, kIsDirect, kSize);
+  kClear(s, nullptr);
+  if constexpr (std::is_invocable_v<decltype(kRun), const D*, D*, int, decltype(s)>) return kRun(src, dst, len, s);
+  else return kRun(src, dst, len, s, 0);
 }
 
-template <class T> auto bySample(size_t count) {
-  return [s = new plain::Sections<T>{sectionTaps<T>(count)}](const T* src, T* dst, int len) { s->bySample(src, dst, len); };
+template <class Q> auto bySample(size_t count) {
+  using T = Plain<Q>;
+  return [s = new plain::Sections<T>{sectionTaps<T>(count)}](const Q* src, Q* dst, int len) {
+    s->bySample(reinterpret_cast<const T*>(src), reinterpret_cast<T*>(dst), len);
+  };
 }
-template <class T> auto bySection(size_t count) {
-  return [s = new plain::Sections<T>{sectionTaps<T>(count)}](const T* src, T* dst, int len) { s->bySection(src, dst, len); };
+template <class Q> auto bySection(size_t count) {
+  using T = Plain<Q>;
+  return [s = new plain::Sections<T>{sectionTaps<T>(count)}](const Q* src, Q* dst, int len) {
+    s->bySection(reinterpret_cast<const T*>(src), reinterpret_cast<T*>(dst), len);
+  };
 }
-template <class T, class D = T> auto plainDirect(size_t order) {
+template <class Q, class D = Q> auto plainDirect(size_t order) {
+  using T = Plain<Q>;
   return [s = new plain::Direct<T>{feedForward<T>(order), feedBack<T>(order)}](const D* src, D* dst, int len) {
-    s->run(src, dst, len);
+    s->run(reinterpret_cast<const Plain<D>*>(src), reinterpret_cast<Plain<D>*>(dst), len);
   };
 }
 
@@ -111,41 +102,47 @@ auto liquidDirect(size_t order) {
   return liquidRun(iirfilt_rrrf_create(b.data(), static_cast<unsigned>(order + 1), a.data(), static_cast<unsigned>(order + 1)));
 }
 
-template <size_t kCount> void sectionRows(Suite& s) {
-  constexpr double kEach = 9 * kCount;
+// Additions and multiplications: of complex numbers, 2 and 6.
+template <class Q> constexpr double operations(size_t products, size_t sums) {
+  constexpr bool kIsComplex = !std::is_same_v<Q, Plain<Q>>;
+  return static_cast<double>(kIsComplex ? 6 * products + 2 * sums : products + sums);
+}
+
+template <size_t kCount, auto kInit, auto kClear, auto kRun, class D> auto sectionRow(Suite& s, const std::string& name, D) {
   constexpr auto kFused = Agreement::kFused;
   const std::string count = std::to_string(kCount) + (kCount == 1 ? " section" : " sections");
-  s.row("IIR_32f, " + count, sections32f<kCount>)
+  return s.row(name + ", " + count, ours<kInit, kClear, kRun, false, kCount, D>)
       .stream()
-      .operations(kEach)
-      .against("plain, by sample", bySample<float>(kCount), kFused)
-      .against("plain, by section", bySection<float>(kCount), kFused)
-      .against("liquid-dsp", liquidSections(kCount), kFused);
-  s.row("IIR_32f, DF1, " + count, sectionsDf1<kCount>)
+      .operations(operations<D>(5 * kCount, 4 * kCount))
+      .against("plain, by sample", bySample<D>(kCount), kFused)
+      .against("plain, by section", bySection<D>(kCount), kFused);
+}
+template <size_t kCount> void sectionRows(Suite& s) {
+  sectionRow<kCount, qvxsIIRInitAlloc_BiQuad_32f, qvxsIIRSetDlyLine_32f, qvxsIIR_32f>(s, "IIR_32f", Qvx32f())
+      .against("liquid-dsp", liquidSections(kCount), Agreement::kFused);
+  sectionRow<kCount, qvxsIIRInitAlloc_BiQuad_DF1_32f, qvxsIIRSetDlyLine_32f, qvxsIIR_32f>(s, "IIR_32f, DF1", Qvx32f());
+  sectionRow<kCount, qvxsIIRInitAlloc_BiQuad_64f, qvxsIIRSetDlyLine_64f, qvxsIIR_64f>(s, "IIR_64f", Qvx64f());
+  sectionRow<kCount, qvxsIIRInitAlloc_BiQuad_32fc, qvxsIIRSetDlyLine_32fc, qvxsIIR_32fc>(s, "IIR_32fc", Qvx32fc());
+  sectionRow<kCount, qvxsIIRInitAlloc_BiQuad_64fc, qvxsIIRSetDlyLine_64fc, qvxsIIR_64fc>(s, "IIR_64fc", Qvx64fc());
+}
+
+template <size_t kOrder, auto kInit, auto kClear, auto kRun, class Q> auto directRow(Suite& s, const std::string& name, Q) {
+  return s.row(name + ", order " + std::to_string(kOrder), ours<kInit, kClear, kRun, true, kOrder, Q>)
       .stream()
-      .operations(kEach)
-      .against("plain, by sample", bySample<float>(kCount), kFused)
-      .against("plain, by section", bySection<float>(kCount), kFused);
-  s.row("IIR_64f, " + count, sections64f<kCount>)
-      .stream()
-      .operations(kEach)
-      .against("plain, by sample", bySample<double>(kCount), kFused)
-      .against("plain, by section", bySection<double>(kCount), kFused);
+      .operations(operations<Q>(2 * kOrder + 1, 2 * kOrder))
+      .against("plain", plainDirect<Q>(kOrder), Agreement::kFused);
 }
 template <size_t kOrder> void directRows(Suite& s) {
-  constexpr double kEach = 4 * kOrder + 1;
-  constexpr auto kFused = Agreement::kFused;
-  const std::string order = "order " + std::to_string(kOrder);
-  s.row("IIR_32f, " + order, direct32f<kOrder>)
+  directRow<kOrder, qvxsIIRInitAlloc_32f, qvxsIIRSetDlyLine_32f, qvxsIIR_32f>(s, "IIR_32f", Qvx32f())
+      .against("liquid-dsp", liquidDirect(kOrder), Agreement::kFused);
+  directRow<kOrder, qvxsIIRInitAlloc_64f, qvxsIIRSetDlyLine_64f, qvxsIIR_64f>(s, "IIR_64f", Qvx64f());
+  s.row("IIR32f_16s, order " + std::to_string(kOrder),
+        ours<qvxsIIRInitAlloc32f_16s, qvxsIIRSetDlyLine32f_16s, qvxsIIR32f_16s_Sfs, true, kOrder, Qvx16s>)
       .stream()
-      .operations(kEach)
-      .against("plain", plainDirect<float>(kOrder), kFused)
-      .against("liquid-dsp", liquidDirect(kOrder), kFused);
-  s.row("IIR_64f, " + order, direct64f<kOrder>).stream().operations(kEach).against("plain", plainDirect<double>(kOrder), kFused);
-  s.row("IIR32f_16s, " + order, direct16s<kOrder>)
-      .stream()
-      .operations(kEach)
-      .against("plain, truncated", plainDirect<float, Qvx16s>(kOrder), Agreement::kDiffers);
+      .operations(operations<Qvx32f>(2 * kOrder + 1, 2 * kOrder))
+      .against("plain, truncated", plainDirect<Qvx32f, Qvx16s>(kOrder), Agreement::kDiffers);
+  directRow<kOrder, qvxsIIRInitAlloc_32fc, qvxsIIRSetDlyLine_32fc, qvxsIIR_32fc>(s, "IIR_32fc", Qvx32fc());
+  directRow<kOrder, qvxsIIRInitAlloc_64fc, qvxsIIRSetDlyLine_64fc, qvxsIIR_64fc>(s, "IIR_64fc", Qvx64fc());
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 // Many sections at once, one in each lane: while the first takes a sample, the second takes the output that the first gave two
-// steps before, and so on. The recursion is the plain one, in 64-bit floats, so this is also the kernel for filters that
-// look-ahead would lose accuracy for.
+// steps before, and so on. The recursion is the plain one, so this is also the kernel for filters that look-ahead would lose
+// accuracy for. In SSE 32-bit filters have 32-bit lanes, which are twice as many.
 //
 // A step takes 6 cycles, of a multiplication for d1, an addition to it and a multiplication for d0, for 8 sections as for 16
 // (AVX-512). Two steps of delay from lane to lane keep what goes from one to the next off that path.
@@ -11,31 +11,39 @@
 
 namespace qvx {
 
-class Cascade {
+template <class T> using CascadeLane = std::conditional_t<kLanes == 2 && sizeof(T) == 4, Qvx32f, Lane>;
+
+template <class P> class Cascade {
   static constexpr size_t kRows = 5;
+  static constexpr size_t kCount = kVectorBytes / sizeof(P);
+  using D = Lanes<P, kCount>;
+  using V = Vec<D>;
 
  public:
   // From this many sections on it is faster than to take them one by one with look-ahead, whose time for a sample depends on the
   // lanes: 1.2 cycles in 8 of them, 2.7 in 2.
   static constexpr size_t kFew = kLanes == 2 ? 3 : kLanes == 4 ? 4 : 5;
   // Sections that go together, in up to 4 vectors: with 8 of two lanes, 16 take 1.2 times as long as twice 8.
-  static constexpr size_t kMost = std::min<size_t>(16, 4 * kLanes);
+  static constexpr size_t kMost = std::min<size_t>(16, 4 * kCount);
 
-  static constexpr int64_t padded(int sections) { return up<int64_t{kLanes}>(sections); }
+  static constexpr int64_t padded(int sections) { return up<int64_t{kCount}>(sections); }
   static constexpr int64_t tableLanes(int sections) { return kRows * padded(sections); }
 
   Cascade() = default;
-  Cascade(size_t sections, Lane* table) : sections_(sections), table_(table) {}
+  Cascade(size_t sections, P* table) : sections_(sections), table_(table) {}
 
   bool isThere() const { return table_ != nullptr; }
+
+  // The sections from one on that is a multiple of kMost, up to kMost of them.
+  size_t count(size_t first) const { return std::min(kMost, sections_ - first); }
+  Cascade from(size_t first) const { return {count(first), table_ + kRows * first}; }
 
   // Taps b0, b1, b2, a1, a2. The state is kept as what the next output takes of it, so that it waits for one multiplication less:
   // d0' = e1 * x + d1 - a1 * d0, d1' = e2 * x - a2 * d0, e = b - a * b0.
   template <class T> void set(size_t section, const T* t) {
-    using Exact = std::conditional_t<sizeof(T) == 4, Lane, long double>;  // products of floats need no more
+    using Exact = std::conditional_t<sizeof(T) == 4, double, long double>;  // products of floats need no more
     const Exact b0 = t[0];
-    const Lane row[kRows] = {Lane{t[0]}, static_cast<Lane>(t[1] - t[3] * b0), static_cast<Lane>(t[2] - t[4] * b0), -Lane{t[3]},
-                             -Lane{t[4]}};
+    const P row[kRows] = {t[0], static_cast<P>(t[1] - t[3] * b0), static_cast<P>(t[2] - t[4] * b0), -t[3], -t[4]};
     for (size_t r = 0; r < kRows; ++r) *at(section, r) = row[r];
     if (section + 1 == sections_) {  // those behind the last pass on what comes
       for (size_t s = sections_; s < static_cast<size_t>(padded(static_cast<int>(sections_))); ++s) {
@@ -45,15 +53,14 @@ class Cascade {
   }
 
   // n samples in place, and the delay line of two values for each section.
-  template <class T> void run(Lane* work, size_t n, T* line) const {
+  template <class T> void run(P* work, size_t n, T* line) const {
     for (size_t first = 0; first < sections_; first += kMost) {
-      const size_t count = std::min(kMost, sections_ - first);
-      const size_t groups = (count + kLanes - 1) / kLanes;
+      const size_t groups = (count(first) + kCount - 1) / kCount;
       const auto with = [&](auto size) {
-        if (groups == size()) part<size()>(first, count, work, n, line + 2 * first);
+        if (groups == size()) part<size()>(first, count(first), work, n, line + 2 * first);
       };
       [&]<size_t... I>(std::index_sequence<I...>) { (with(std::integral_constant<size_t, I + 1>()), ...); }
-      (std::make_index_sequence<kMost / kLanes>());
+      (std::make_index_sequence<kMost / kCount>());
     }
   }
 
@@ -69,27 +76,33 @@ class Cascade {
     V last0, last1;    // and leaves
   };
 
+  // What the lane above gave, and in the last one the first of the vector above.
+  static V fromAbove(V above, V v) {
+    if constexpr (kVectorBytes == 16) return hn::CombineShiftRightLanes<1>(D(), above, v);
+    else return delayed<kCount - 1>(v, above);
+  }
+
   // The first section of a part is in the last lane, so that the output is in the first.
-  Lane* at(size_t section, size_t row) const {
+  P* at(size_t section, size_t row) const {
     const size_t first = section / kMost * kMost;
     const size_t lanes = lanesOf(first);
     return table_ + kRows * first + row * lanes + (lanes - 1 - (section - first));
   }
   size_t lanesOf(size_t first) const { return std::min(kMost, static_cast<size_t>(padded(static_cast<int>(sections_ - first)))); }
 
-  template <size_t kGroups, class T> [[gnu::flatten]] void part(size_t first, size_t count, Lane* work, size_t n, T* line) const {
-    constexpr size_t kAll = kGroups * kLanes;
+  template <size_t kGroups, class T> [[gnu::flatten]] void part(size_t first, size_t count, P* work, size_t n, T* line) const {
+    constexpr size_t kAll = kGroups * kCount;
     constexpr size_t kLast = kDelay * (kAll - 1);  // steps until the last lane's first sample
-    const Lane* table = table_ + kRows * first;
-    Lane states[2][kAll] = {};
+    const P* table = table_ + kRows * first;
+    P states[2][kAll] = {};
     for (size_t s = 0; s < count; ++s) {
       for (size_t k = 0; k < 2; ++k) states[k][kAll - 1 - s] = line[2 * s + k];
     }
     Group groups[kGroups];
     unrolled<kGroups>([&](auto g) {
-      const auto row = [&](size_t r) { return load(Wide(), table + r * kAll + g * kLanes); };
-      const V zero = hn::Zero(Wide());
-      const V lanesAbove = hn::Set(Wide(), static_cast<Lane>(kAll - 1 - g * kLanes)) - hn::Iota(Wide(), 0);
+      const auto row = [&](size_t r) { return load(D(), table + r * kAll + g * kCount); };
+      const V zero = hn::Zero(D());
+      const V lanesAbove = hn::Set(D(), static_cast<P>(kAll - 1 - g * kCount)) - hn::Iota(D(), 0);
       groups[g] = {row(0),
                    row(1),
                    row(2),
@@ -99,9 +112,9 @@ class Cascade {
                    zero,
                    zero,
                    zero,
-                   hn::Set(Wide(), Lane{kDelay}) * lanesAbove,
-                   load(Wide(), states[0] + g * kLanes),
-                   load(Wide(), states[1] + g * kLanes),
+                   hn::Set(D(), P{kDelay}) * lanesAbove,
+                   load(D(), states[0] + g * kCount),
+                   load(D(), states[1] + g * kCount),
                    zero,
                    zero};
     });
@@ -110,7 +123,7 @@ class Cascade {
     const auto enter = [&](size_t t) {
       unrolled<kGroups>([&](auto g) {
         Group& at = groups[g];
-        const auto isNow = at.begin == hn::Set(Wide(), static_cast<Lane>(t));
+        const auto isNow = at.begin == hn::Set(D(), static_cast<P>(t));
         at.d0 = at.d0 + hn::IfThenElseZero(isNow, at.first0);
         at.d1 = at.d1 + hn::IfThenElseZero(isNow, at.first1);
       });
@@ -118,19 +131,19 @@ class Cascade {
     const auto leave = [&](size_t t) {
       unrolled<kGroups>([&](auto g) {
         Group& at = groups[g];
-        const auto isNow = at.begin == hn::Set(Wide(), static_cast<Lane>(t) - static_cast<Lane>(n));
+        const auto isNow = at.begin == hn::Set(D(), static_cast<P>(t) - static_cast<P>(n));
         at.last0 = hn::IfThenElse(isNow, at.d0, at.last0);
         at.last1 = hn::IfThenElse(isNow, at.d1, at.last1);
       });
     };
     // ago: which of the last two outputs is the older.
     const auto step = [&](size_t t, V Group::*ago) {
-      const V in = t < n ? hn::Set(Wide(), work[t]) : hn::Zero(Wide());
+      const V in = t < n ? hn::Set(D(), work[t]) : hn::Zero(D());
       unrolled<kGroups>([&](auto g) {
         Group& at = groups[g];
         V above = in;
         if constexpr (g + 1 < kGroups) above = groups[g + 1].*ago;
-        const V x = delayed<kLanes - 1>(at.*ago, above);
+        const V x = fromAbove(above, at.*ago);
         at.*ago = hn::MulAdd(at.b0, x, at.d0);
         const V next1 = hn::MulAdd(at.a2, at.d0, at.e2 * x);
         at.d0 = hn::MulAdd(at.a1, at.d0, hn::MulAdd(at.e1, x, at.d1));
@@ -170,8 +183,8 @@ class Cascade {
     }
     leave(t);
     unrolled<kGroups>([&](auto g) {
-      store(groups[g].last0, Wide(), states[0] + g * kLanes);
-      store(groups[g].last1, Wide(), states[1] + g * kLanes);
+      store(groups[g].last0, D(), states[0] + g * kCount);
+      store(groups[g].last1, D(), states[1] + g * kCount);
     });
     for (size_t s = 0; s < count; ++s) {
       for (size_t k = 0; k < 2; ++k) line[2 * s + k] = static_cast<T>(states[k][kAll - 1 - s]);
@@ -179,7 +192,7 @@ class Cascade {
   }
 
   size_t sections_ = 0;
-  Lane* table_ = nullptr;
+  P* table_ = nullptr;
 };
 
 }  // namespace qvx

@@ -15,13 +15,10 @@ inline constexpr size_t kBlockLanes = 512;
 // From this many numbers on, a vector at a time pays: below, the start of a kernel takes longer than the samples.
 inline constexpr size_t kWorthLookingAhead = 8;
 
-// From this order on, the line of a direct form that goes sample by sample is filled and emptied for a call.
-inline constexpr size_t kWorthStandingStill = 16;
-
 // ---- in and out
 
-template <class Data> void loadBlock(const Data* src, Lane* work, size_t lanes) {
-  loop([](auto v) { return convertLanes<Lane>(v); }, destination(work), lanes, source(src));
+template <class Data, class P> void loadBlock(const Data* src, P* work, size_t lanes) {
+  loop([](auto v) { return convertLanes<P>(v); }, destination(work), lanes, source(src));
 }
 
 // Outputs as samples: integers times factor, to nearest even, saturated.
@@ -34,12 +31,15 @@ template <class Data> struct Finish {
     } else {
       constexpr Lane kLeast = std::numeric_limits<R>::min();
       constexpr Lane kMost = std::numeric_limits<R>::max();
-      return convertLanes<R>(toIntNearest(clippedBelow(clippedAbove(v * same<W>(factor), kMost), kLeast)));
+      // 32-bit lanes hold 2^-126 to 2^126: all but 0 and infinities of numbers is out of range there as well.
+      constexpr Lane kTiny = std::numeric_limits<LaneOf<W>>::min();
+      const auto f = static_cast<LaneOf<W>>(std::clamp(factor, kTiny, 1 / kTiny));
+      return convertLanes<R>(toIntNearest(clippedBelow(clippedAbove(v * same<W>(f), kMost), kLeast)));
     }
   }
 };
 
-template <class Data> void storeBlock(const Lane* work, Data* dst, size_t lanes, Finish<Data> finish) {
+template <class Data, class P> void storeBlock(const P* work, Data* dst, size_t lanes, Finish<Data> finish) {
   loop(finish, destination(dst), lanes, source(work));
 }
 
@@ -76,28 +76,48 @@ void runSection(const Section<T>& section, const Src* src, Dst* dst, size_t n, T
 }
 
 // The delay line of the direct form I, as the transposed form has it.
-template <class T> void transposedLine(const T* t, const T* line, Lane* d) {
-  d[0] = Lane{t[2]} * line[0] + Lane{t[1]} * line[1] - Lane{t[4]} * line[2] - Lane{t[3]} * line[3];
-  d[1] = Lane{t[2]} * line[1] - Lane{t[4]} * line[3];
+template <class T, class P> void transposedLine(const T* t, const T* line, P* d) {
+  d[0] = P{t[2]} * line[0] + P{t[1]} * line[1] - P{t[4]} * line[2] - P{t[3]} * line[3];
+  d[1] = P{t[2]} * line[1] - P{t[4]} * line[3];
+}
+
+// A sample through a section in the direct form I whose delay line is kept in the transposed form too.
+template <class T, class P> P df1Step(const P* t, P* d, T* line, P x) {
+  const P y = sectionOne(t, d, x);
+  line[0] = line[1];
+  line[1] = static_cast<T>(x);
+  line[2] = line[3];
+  line[3] = static_cast<T>(y);
+  return y;
 }
 
 // A section in the direct form I, in place: its delay line becomes that of the transposed form for the time of the block.
 template <class T> void runDf1(const Section<T>& section, Lane* work, size_t n, T* line) {
   const T* t = section.taps;
-  const Lane x2 = n < 2 ? line[1] : work[n - 2];
-  const Lane x1 = work[n - 1];
   Lane d[2];
   transposedLine(t, line, d);
   if (section.looksAhead && n >= kWorthLookingAhead) {
+    std::copy_n(work + n - 2, 2, line);
     lookAhead(section, work, work, n, d, Finish<Lane>{1});
+    std::copy_n(work + n - 2, 2, line + 2);
   } else {
     const Lane wide[5] = {t[0], t[1], t[2], t[3], t[4]};
-    for (size_t i = 0; i < n; ++i) work[i] = sectionOne(wide, d, work[i]);
+    for (size_t i = 0; i < n; ++i) work[i] = df1Step(wide, d, line, work[i]);
   }
-  line[0] = static_cast<T>(x2);
-  line[1] = static_cast<T>(x1);
-  line[2] = n < 2 ? line[3] : static_cast<T>(work[n - 2]);
-  line[3] = static_cast<T>(work[n - 1]);
+}
+
+// Sections in the direct form I, up to kMost, all in lanes. The last two samples go through them plainly: they make the delay
+// lines, of values between sections that are nowhere else.
+template <class T, class P> void df1InLanes(const Cascade<P>& cascade, const T* taps, T* line, P* work, size_t n) {
+  const size_t sections = cascade.count(0);
+  const size_t most = n >= kWorthLookingAhead ? n - 2 : 0;
+  P d[2 * Cascade<P>::kMost];
+  for (size_t k = 0; k < sections; ++k) transposedLine(taps + 5 * k, line + 4 * k, d + 2 * k);
+  if (most > 0) cascade.run(work, most, d);
+  for (size_t k = 0; k < sections; ++k, taps += 5, line += 4) {
+    const P wide[5] = {taps[0], taps[1], taps[2], taps[3], taps[4]};
+    for (size_t i = most; i < n; ++i) work[i] = df1Step(wide, d + 2 * k, line, work[i]);
+  }
 }
 
 // with(line): the delay line of sections, which a direct form up to order 2 is one of. Of order 1, its second value is the zero
@@ -109,22 +129,26 @@ template <class T, class With> void withSectionLine(const IirRecord<T>& s, With 
   std::copy_n(line, lineValues(s), s.line);
 }
 
-template <class T> void runDirect(const IirRecord<T>& s, Lane* work, size_t n) {
-  constexpr size_t kHistory = Direct<T>::kMostOrder * kParts<T>;
-  Lane x[kHistory + kBlockLanes + kLanes];
-  Lane y[kHistory + kBlockLanes + kLanes];
-  LaneNumber<T> d[Direct<T>::kMostOrder];
-  const size_t order = lineValues(s);
-  const size_t lanes = n * kParts<T>;
-  const size_t before = order * kParts<T>;
-  std::fill_n(x, before, 0);
-  std::fill_n(y, before, 0);
-  std::copy_n(work, lanes, x + before);
-  std::fill_n(x + before + lanes, kLanes, 0);
-  for (size_t i = 0; i < order; ++i) d[i] = numberOf<LaneNumber<T>>(s.line[i]);
-  s.direct->run(x + before, y + before, n, parts(d));
-  for (size_t i = 0; i < order; ++i) s.line[i] = numberOf<T>(d[i]);
-  std::copy_n(y + before, lanes, work);
+inline bool areFinite(const Lane* p, size_t n) {
+  const V zero = hn::Zero(Wide());
+  V sum = zero;
+  size_t i = 0;
+  for (; i + kLanes <= n; i += kLanes) sum = hn::MulAdd(load(Wide(), p + i), zero, sum);
+  if (i < n) sum = hn::MulAdd(loadFirst(Wide(), p + i, n - i), zero, sum);
+  return hn::AllTrue(Wide(), sum == zero);
+}
+
+// Whether it could: not with what is not finite.
+template <class T> bool runDirect(const IirRecord<T>& s, Lane* work, size_t n) {
+  constexpr size_t kRoom = (Direct<T>::kMostVectors + 2) * kLanes;
+  const size_t lanes = lineValues(s) * kParts<T>;
+  alignas(kVectorBytes) Lane d[kRoom];
+  std::fill_n(d, kRoom, 0);
+  loadBlock(parts(s.line), d, lanes);
+  if (!areFinite(work, n * kParts<T>) || !areFinite(d, lanes)) return false;
+  s.direct->run(work, n, d);
+  storeBlock(d, parts(s.line), lanes, Finish<Part<T>>{1});
+  return true;
 }
 
 template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
@@ -133,40 +157,38 @@ template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
     for (size_t i = 0; i < n; ++i) at[i] = numberOf<LaneNumber<T>>(one(numberOf<T>(at[i])));
   };
   if (s.isDirect()) {
-    if constexpr (kParts<T> == 1) {
-      const size_t order = lineValues(s);
-      // Little more than the matrix takes: as exactly as that.
-      const bool isMiddle = order > Direct<T>::kMostOrder && order <= Direct<T>::kMostExact;
-      if (isMiddle && n >= kWorthLookingAhead) return directStill<Lane>(s.taps, s.line, order, work, n);
-      if (order >= kWorthStandingStill && order <= kMostStill) return directStill<T>(s.taps, s.line, order, work, n);
-    }
-    return each([&](T v) { return directOne(s.taps, s.line, lineValues(s), v); });
+    const size_t order = lineValues(s);
+    constexpr bool kHasVectors = sizeof(T) < kVectorBytes;
+    if (kHasVectors && n >= kWorthLookingAhead && order <= kMostStill<T>) return directStill(s.taps, s.line, order, work, n);
+    return each([&](T v) { return directOne(s.taps, s.line, order, v); });
   }
   for (int k = 0; k < s.numBq; ++k) each([t = s.taps + 5 * k, d = s.line + 2 * k](T v) { return sectionOne(t, d, v); });
 }
 
-// All but what looks ahead by sections.
+// All but sections that look ahead or are in lanes.
 template <class T> void runBlock(const IirRecord<T>& s, bool isDf1, Lane* work, size_t n) {
   if constexpr (std::is_same_v<T, Qvx64f>) {
     if (isDf1) {
-      for (int k = 0; k < s.numBq; ++k) runDf1(s.sections[k], work, n, s.line + 4 * k);
+      const auto sections = static_cast<size_t>(s.numBq);
+      if (s.how == How::kLookingAhead) {
+        for (size_t k = 0; k < sections; ++k) runDf1(s.sections[k], work, n, s.line + 4 * k);
+      } else {
+        for (size_t k = 0; k < sections; k += Cascade<Lane>::kMost)
+          df1InLanes(s.cascade.from(k), s.taps + 5 * k, s.line + 4 * k, work, n);
+      }
       return;
     }
   }
-  // A direct form makes its delay line anew at the end of a block, from all its taps: that is worth twice its order of samples.
-  if (s.direct != nullptr && n >= std::max(kWorthLookingAhead, 2 * lineValues(s))) return runDirect(s, work, n);
-  if constexpr (kParts<T> == 1) {
-    if (s.how == How::kInLanes && n >= kWorthLookingAhead)
-      return withSectionLine(s, [&](T* line) { s.cascade.run(work, n, line); });
-  }
+  if (s.direct != nullptr && s.direct->looksAhead() && n >= kWorthLookingAhead && runDirect(s, work, n)) return;
   runPlain(s, work, n);
 }
 
 // ---- the call
 
-template <class T, class Data, class Run> void inBlocks(const Data* src, Data* dst, size_t n, Finish<Data> finish, Run run) {
+template <class T, class P = Lane, class Data, class Run>
+void inBlocks(const Data* src, Data* dst, size_t n, Finish<Data> finish, Run run) {
   constexpr size_t kBlock = kBlockLanes / kParts<T>;
-  Lane work[kBlockLanes];
+  alignas(kVectorBytes) P work[kBlockLanes];
   while (n > 0) {
     const size_t count = std::min(n, kBlock);
     const size_t lanes = count * kParts<T>;
@@ -186,7 +208,7 @@ template <class T, class Data> void bySections(const IirRecord<T>& s, const Data
     if (last == 0) return runSection(s.sections[0], src, dst, n, line, finish);
     constexpr size_t kBlock = kBlockLanes / kParts<T>;
     constexpr Finish<Lane> kAsItIs{1};
-    Lane work[kBlockLanes];
+    alignas(kVectorBytes) Lane work[kBlockLanes];
     for (size_t at = 0, count; at < n; at += count) {
       count = n - at <= kBlock + kWorthLookingAhead && n - at > kBlock ? (n - at) / 2 : std::min(n - at, kBlock);
       runSection(s.sections[0], src + at, work, count, line, kAsItIs);
@@ -196,33 +218,10 @@ template <class T, class Data> void bySections(const IirRecord<T>& s, const Data
   });
 }
 
-// Sections in the direct form I, all in lanes. The last two samples go through them plainly: they make the delay lines, of values
-// between sections that are nowhere else.
-inline void df1InLanes(const Qvx32f* taps, Qvx32f* line, size_t sections, const Qvx32f* src, Qvx32f* dst, size_t n) {
-  constexpr Finish<Qvx32f> kAsItIs{1};
-  constexpr size_t kLast = 2;
-  Lane table[Cascade::tableLanes(Cascade::kMost)];
-  Lane d[2 * Cascade::kMost];
-  Cascade cascade(sections, table);
-  for (size_t k = 0; k < sections; ++k) {
-    cascade.set(k, taps + 5 * k);
-    transposedLine(taps + 5 * k, line + 4 * k, d + 2 * k);
-  }
-  inBlocks<Qvx32f>(src, dst, n - kLast, kAsItIs, [&](Lane* work, size_t count) { cascade.run(work, count, d); });
-  inBlocks<Qvx32f>(src + n - kLast, dst + n - kLast, kLast, kAsItIs, [&](Lane* work, size_t) {
-    for (size_t k = 0; k < sections; ++k, taps += 5, line += 4) {
-      const Lane wide[5] = {taps[0], taps[1], taps[2], taps[3], taps[4]};
-      for (size_t i = 0; i < kLast; ++i) {
-        line[i] = static_cast<Qvx32f>(work[i]);
-        work[i] = sectionOne(wide, d + 2 * k, work[i]);
-        line[kLast + i] = static_cast<Qvx32f>(work[i]);
-      }
-    }
-  });
-}
-
 // Without tables of its own: they are made for a call, and go over all samples.
 inline void filterDf1(const IirRecord<Qvx32f>& s, const Qvx32f* src, Qvx32f* dst, size_t n) {
+  using P = CascadeLane<Qvx32f>;
+  using Many = Cascade<P>;
   const auto sections = static_cast<size_t>(s.numBq);
   for (size_t k = 0, count = 1; k < sections; k += count, src = dst) {
     const Qvx32f* t = s.taps + 5 * k;
@@ -230,9 +229,12 @@ inline void filterDf1(const IirRecord<Qvx32f>& s, const Qvx32f* src, Qvx32f* dst
     count = 1;
     if (n < 4 * kWorthLookingAhead) {
       for (size_t i = 0; i < n; ++i) dst[i] = df1One(t, line, src[i]);
-    } else if (sections - k >= Cascade::kFew) {
-      count = std::min(sections - k, Cascade::kMost);
-      df1InLanes(t, line, count, src, dst, n);
+    } else if (sections - k >= Many::kFew) {
+      count = std::min(sections - k, Many::kMost);
+      P table[Many::tableLanes(Many::kMost)];
+      Many cascade(count, table);
+      for (size_t i = 0; i < count; ++i) cascade.set(i, t + 5 * i);
+      inBlocks<Qvx32f, P>(src, dst, n, Finish<Qvx32f>{1}, [&](P* work, size_t m) { df1InLanes(cascade, t, line, work, m); });
     } else {
       Section<Qvx32f> section;
       section.set(t);
@@ -249,6 +251,14 @@ template <class State, class Data> void filter(State& s, const Data* src, Data* 
   }
   const Finish<Data> finish{outputFactor(scaleFactor)};
   if (!isDf1 && s.how == How::kLookingAhead && n >= kWorthLookingAhead) return bySections<T>(s, src, dst, n, finish);
+  if constexpr (kParts<T> == 1) {
+    if (!isDf1 && s.how == How::kInLanes && n >= kWorthLookingAhead) {
+      using P = CascadeLane<T>;
+      return withSectionLine(s, [&](T* line) {
+        inBlocks<T, P>(src, dst, n, finish, [&](P* work, size_t count) { s.cascade.run(work, count, line); });
+      });
+    }
+  }
   inBlocks<T>(src, dst, n, finish, [&](Lane* work, size_t count) { runBlock<T>(s, isDf1, work, count); });
 }
 

@@ -102,6 +102,19 @@ inline V times(Factor<2> f, Multiplied<2> x) { return hn::MulAdd(f.im, x.exchang
 inline V plusProduct(V sum, Factor<1> f, Multiplied<1> x) { return hn::MulAdd(f.re, x.v, sum); }
 inline V plusProduct(V sum, Factor<2> f, Multiplied<2> x) { return hn::MulAdd(f.im, x.exchanged, hn::MulAdd(f.re, x.v, sum)); }
 
+// Coefficients that follow each other, a factor for each place.
+template <size_t kParts> Factor<kParts> factors(const Coefficient<kParts>* p) {
+  const V v = load(Wide(), &p->re);
+  if constexpr (kParts == 1) return {v};
+  else return {hn::DupEven(v), hn::OddEven(hn::DupOdd(v), hn::Neg(hn::DupOdd(v)))};
+}
+
+// One number of a vector in every place.
+template <size_t kParts, size_t kAt> V everyNumber(V v) {
+  if constexpr (kParts == 1) return everyLane<kAt>(v);
+  else return everyBlock<kAt>(v);
+}
+
 // The one number at p in every place.
 template <size_t kParts> V everywhere(const Lane* p) {
   if constexpr (kParts == 1) return hn::Set(Wide(), *p);

@@ -30,9 +30,9 @@ template <class T> struct IirRecord {
   int32_t numBq;  // 0 in the direct form
   T* taps;        // b0..bN, a1..aN, or b0, b1, b2, a1, a2 for each section; normalised
   T* line;
-  Section<T>* sections;  // of few, or complex ones; in the direct form up to order 2, one
-  Direct<T>* direct;     // from order 3 on, while there is one
-  Cascade cascade;       // of real sections
+  Section<T>* sections;             // of few, or complex ones; in the direct form up to order 2, one
+  Direct<T>* direct;                // from order 3 on, while there is one
+  Cascade<CascadeLane<T>> cascade;  // of real sections
   How how;
 
   bool isDirect() const { return numBq == 0; }
@@ -96,15 +96,14 @@ template <class State> State* iirPlace(Form form, int n, Qvx8u* block) {
   state->ownsBlock = 0;
   state->sections = nullptr;
   state->direct = nullptr;
-  state->cascade = Cascade();
+  state->cascade = {};
   state->how = How::kPlain;
   const auto placeSections = [&](int count) {
     constexpr bool kHasCascade = kParts<T> == 1;
-    if (kHasCascade && form != Form::kDf1) {
-      state->cascade = Cascade(static_cast<size_t>(count), carver.template take<Lane>(Cascade::tableLanes(count)));
-    }
-    const bool isFew = static_cast<size_t>(count) < Cascade::kFew;
-    if (!kHasCascade || form == Form::kDf1 || isFew) state->sections = carver.template take<Section<T>>(count);
+    using Many = decltype(state->cascade);
+    if (kHasCascade) state->cascade = {static_cast<size_t>(count), carver.template take<CascadeLane<T>>(Many::tableLanes(count))};
+    const bool isFew = static_cast<size_t>(count) < Many::kFew;
+    if (!kHasCascade || isFew) state->sections = carver.template take<Section<T>>(count);
   };
   if (form == Form::kDirect) {
     state->order = n;

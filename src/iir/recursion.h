@@ -16,56 +16,69 @@ template <class T> T directOne(const T* taps, T* line, size_t order, T x) {
   return y;
 }
 
-// The same for n samples in place, of real numbers. The line does not move: outputs add their shares to those that follow, in
-// vectors at fixed places. A line that moved would be loaded across two of its own stores, and wait for both: 12 ns a sample of
-// order 64. Four outputs together load and store a share once: of order 100 in SSE, a sample takes half the time of one by one.
-// The first vector has places before the next output, which nobody looks at again, the last some behind the line: there are zeros
-// on both sides of the taps.
-inline constexpr size_t kMostStill = 2048;
-template <class P, class T> void directStill(const T* taps, T* line, size_t order, Lane* work, size_t n) {
+// The same for n samples in place. The line does not move: outputs add their shares to those that follow, in vectors at fixed
+// places. A line that moved would be loaded across two of its own stores, and wait for both: 12 ns a sample of order 64. Four
+// outputs together load and store a share once: of order 100 in SSE, a sample takes half the time of one by one. The first vector
+// has places before the next output, which nobody looks at again, the last some behind the line: there are zeros on both sides of
+// the taps.
+template <class T> inline constexpr size_t kMostStill = 2048 / kParts<T>;
+template <class T> [[gnu::flatten]] void directStill(const T* taps, T* line, size_t order, Lane* work, size_t n) {
+  using P = Part<T>;
+  constexpr size_t kParts = qvx::kParts<T>;
   constexpr size_t kCount = kVectorBytes / sizeof(P);
-  constexpr size_t kTogether = 4;
+  constexpr size_t kTogether = 4 / kParts;  // with 4 complex ones, their products' factors fill the registers
   constexpr size_t kBlock = 256;
   const Lanes<P, kCount> d;
-  P shares[kBlock + kMostStill + 2 * kCount];
-  P room[2][2 * kCount + 1 + kMostStill + kTogether];
-  const auto padded = [&](P* at, P first, const T* rest) {
+  P shares[(kBlock + kMostStill<T>)*kParts + 2 * kCount];
+  P room[2][2 * kCount + (1 + kMostStill<T> + kTogether) * kParts];
+  const auto padded = [&](P* at, T first, const T* rest) {
     std::fill_n(at, kCount, P{0});
-    at[kCount] = first;
-    std::copy_n(rest, order, at + kCount + 1);
-    std::fill_n(at + kCount + 1 + order, kCount + kTogether, P{0});
+    std::copy_n(parts(&first), kParts, at + kCount);
+    std::copy_n(parts(rest), order * kParts, at + kCount + kParts);
+    std::fill_n(at + kCount + (1 + order) * kParts, kCount + kTogether * kParts, P{0});
     return at + kCount;
   };
   const P* const b = padded(room[0], taps[0], taps + 1);
-  const P* const a = padded(room[1], P{0}, taps + 1 + order);
-  for (; n > 0; work += std::min(n, kBlock), n -= std::min(n, kBlock)) {
+  const P* const a = padded(room[1], T{}, taps + 1 + order);
+  const auto at = [](const P* p, size_t i) { return number<T>(p[i * kParts], p[i * kParts + kParts - 1]); };
+  for (; n > 0; work += std::min(n, kBlock) * kParts, n -= std::min(n, kBlock)) {
     const size_t count = std::min(n, kBlock);
-    std::copy_n(line, order, shares);
-    std::fill_n(shares + order, count + kCount, P{0});
+    std::copy_n(parts(line), order * kParts, shares);
+    std::fill_n(shares + order * kParts, count * kParts + kCount, P{0});
     size_t t = 0;
     const auto outputs = [&](auto together) {
       constexpr size_t kNow = together();
-      P x[kNow];
-      P y[kNow];
+      T x[kNow];
+      T y[kNow];
       unrolled<kNow>([&](auto j) {
-        x[j] = static_cast<P>(work[t + j]);
-        y[j] = b[0] * x[j] + shares[t + j];
-        unrolled<j>([&](auto i) { y[j] += b[j - i] * x[i] - a[j - i] * y[i]; });
-        work[t + j] = y[j];
+        Lane* const place = work + (t + j) * kParts;
+        x[j] = number<T>(place[0], place[kParts - 1]);
+        y[j] = sum(product(at(b, 0), x[j]), at(shares, t + j));
+        unrolled<j>([&](auto i) { y[j] = sum(y[j], difference(product(at(b, j - i), x[i]), product(at(a, j - i), y[i]))); });
+        place[kParts - 1] = imaginaryPart(y[j]);
+        place[0] = realPart(y[j]);
       });
-      for (size_t at = (t + kNow) / kCount * kCount; at < t + kNow + order; at += kCount) {
-        auto share = load(d, shares + at);
+      const size_t end = (t + kNow + order) * kParts;
+      for (size_t place = (t + kNow) * kParts / kCount * kCount; place < end; place += kCount) {
+        auto share = load(d, shares + place);
         unrolled<kNow>([&](auto j) {
-          share = hn::MulAdd(load(d, b + at - t - j), hn::Set(d, x[j]), share);
-          share = hn::NegMulAdd(load(d, a + at - t - j), hn::Set(d, y[j]), share);
+          const size_t from = place - (t + j) * kParts;
+          const auto ofX = load(d, b + from);
+          const auto ofY = load(d, a + from);
+          share = hn::MulAdd(ofX, hn::Set(d, realPart(x[j])), share);
+          share = hn::NegMulAdd(ofY, hn::Set(d, realPart(y[j])), share);
+          if constexpr (kParts == 2) {
+            share = hn::MulAdd(swapped(ofX), hn::OddEven(hn::Set(d, x[j].im), hn::Set(d, -x[j].im)), share);
+            share = hn::NegMulAdd(swapped(ofY), hn::OddEven(hn::Set(d, y[j].im), hn::Set(d, -y[j].im)), share);
+          }
         });
-        store(share, d, shares + at);
+        store(share, d, shares + place);
       }
       t += kNow;
     };
     while (t + kTogether <= count) outputs(std::integral_constant<size_t, kTogether>());
     while (t < count) outputs(std::integral_constant<size_t, 1>());
-    std::copy_n(shares + count, order, line);
+    std::copy_n(shares + count * kParts, order * kParts, parts(line));
   }
 }
 

@@ -36,6 +36,21 @@ template <class T> std::vector<T> section(Random& random, double radius, double 
   return t;
 }
 
+// Two sections as one direct form.
+template <class T> std::vector<T> inOneForm(const std::vector<T>& s, const std::vector<T>& t) {
+  std::vector<T> all;
+  for (size_t side = 0; side < 6; side += 3) {
+    for (size_t k = 0; k < 5; ++k) {
+      Exact<T> v = 0;
+      for (size_t i = 0; i < 3; ++i) {
+        if (k >= i && k - i < 3) v += exact(s[side + i]) * exact(t[side + k - i]);
+      }
+      all.push_back(tests::rounded<T>(v));
+    }
+  }
+  return all;
+}
+
 // A stable direct form: feedback that shrinks whatever the order.
 template <class T> std::vector<T> direct(Random& random, int order) {
   std::vector<T> t(static_cast<size_t>(2 * order + 2));
@@ -224,12 +239,14 @@ TEST(IirFilter, IsAsAccurateAsThePlainLoopNearTheUnitCircle) {
         }
         for (const double angle : angles) {
           for (const int form : {0, 1}) {
-            const int n = form == 0 ? 2 : random() % 4 == 0 ? 6 : 1;
+            const bool isLong = random() % 4 == 0;
+            const int n = form == 0 ? (isLong ? 4 : 2) : isLong ? 6 : 1;
             std::vector<T> taps;
             for (int k = 0; k < (form == 0 ? 1 : n); ++k) {
               const auto one = section<T>(random, radius, angle, 0.1);
               taps.insert(taps.end(), one.begin(), one.end());
             }
+            if (form == 0 && isLong) taps = inOneForm<T>(taps, section<T>(random, radius, uniform(random, 0.1, 3)));
             const auto x = samples<T>(3000, random);
             const auto truth = through(tests::recursions<Exact<T>>(taps, n, form == 0 ? 0 : n), x);
             // Nobody is closer than the rounding of the output itself. At a quarter of the sampling rate, products that are
@@ -259,20 +276,22 @@ TEST(IirFilter, IsAsAccurateAsThePlainLoopNearTheUnitCircle) {
   });
 }
 
-TEST(IirFilter, WhatIsNoNumberComesInWhereItStands) {
-  const Qvx64f taps[] = {1, 0.5, 0.25, 0.1, 1, -0.5, 0.25, 0.1};
-  for (const int n : {1, 2, 3}) {
+TEST(IirFilter, WhatIsNotFiniteComesInWhereItStands) {
+  for (const int order : {1, 2, 3, 12}) {
     QvxsIIRState_64f* s = nullptr;
-    std::vector<Qvx64f> t(taps, taps + n + 1);
-    t.insert(t.end(), taps + 4, taps + 5 + n);
-    ASSERT_EQ(qvxsIIRInitAlloc_64f(&s, t.data(), n, nullptr), qvxStatOk);
-    for (size_t at = 0; at < 24; ++at) {
-      std::vector<Qvx64f> x(24, 1.0);
-      x[at] = NAN;
-      qvxsIIRSetDlyLine_64f(s, nullptr);
-      ASSERT_EQ(qvxsIIR_64f_I(x.data(), 24, s), qvxStatOk);
-      for (size_t i = 0; i < 24; ++i)
-        EXPECT_EQ(std::isnan(x[i]), i >= at) << "order " << n << ", NaN at " << at << ", output " << i;
+    std::vector<Qvx64f> t;
+    for (int i = 0; i <= order; ++i) t.push_back(1.0 / (1 << i));
+    for (int i = 0; i <= order; ++i) t.push_back(std::pow(-0.5, i));
+    ASSERT_EQ(qvxsIIRInitAlloc_64f(&s, t.data(), order, nullptr), qvxStatOk);
+    for (const Qvx64f value : {static_cast<Qvx64f>(NAN), static_cast<Qvx64f>(INFINITY)}) {
+      for (size_t at = 0; at < 24; ++at) {
+        std::vector<Qvx64f> x(24, 1.0);
+        x[at] = value;
+        qvxsIIRSetDlyLine_64f(s, nullptr);
+        ASSERT_EQ(qvxsIIR_64f_I(x.data(), 24, s), qvxStatOk);
+        for (size_t i = 0; i < 24; ++i)
+          EXPECT_EQ(std::isfinite(x[i]), i < at) << "order " << order << ", " << value << " at " << at << ", output " << i;
+      }
     }
     qvxsIIRFree_64f(s);
   }

@@ -80,7 +80,7 @@ TEST(IirState, StaysInsideItsBlock) {
     using M = std::decay_t<decltype(m)>;
     using T = typename M::Internal;
     for (int form = 0; form < 2; ++form) {
-      for (const int n : {1, 2, 3, 4, 5, 8, 9, 17, 33, 64, 65, 300}) {
+      for (const int n : {1, 2, 3, 4, 5, 8, 9, 17, 24, 33, 40, 48, 65, 300}) {
         int size = 0;
         m.size[form](n, &size);
         tests::Block block(static_cast<size_t>(size) + 64);

@@ -199,16 +199,11 @@ class AnyCall : public Arguments {
   static double numberAt(const uint8_t* at, const Vector& v) {
     if (v.isFloat && v.part == 4) return read<float>(at);
     if (v.isFloat) return read<double>(at);
-    switch (v.part) {
-      case 1:
-        return v.isSigned ? read<int8_t>(at) : *at;
-      case 2:
-        return v.isSigned ? read<int16_t>(at) : read<uint16_t>(at);
-      case 4:
-        return v.isSigned ? read<int32_t>(at) : read<uint32_t>(at);
-      default:
-        return static_cast<double>(read<int64_t>(at));
-    }
+    if (v.part == 1) return v.isSigned ? read<int8_t>(at) : read<uint8_t>(at);
+    if (v.part == 2) return v.isSigned ? read<int16_t>(at) : read<uint16_t>(at);
+    if (v.part == 4 && v.isSigned) return read<int32_t>(at);
+    if (v.part == 4) return read<uint32_t>(at);
+    return static_cast<double>(read<int64_t>(at));
   }
   template <class T> static T read(const uint8_t* at) {
     T v;
@@ -435,18 +430,26 @@ inline int AnyCall::sizeFor(const std::string& maker, const char* which) {
   return arguments.sizes[which];
 }
 
+inline const std::vector<const Export*>& makersOf(const std::string& type, bool allocates) {
+  static const auto all = [] {
+    std::map<std::pair<std::string, bool>, std::vector<const Export*>> byType;
+    for (const Export& e : exportTable()) {
+      const bool makes = e.name.find("Init") != e.name.npos && !e.parameters.empty() && e.parameters[0].isArrayOfPointers();
+      if (makes) byType[{pointee(e.parameters[0]), contains(e.name, {"InitAlloc"})}].push_back(&e);
+    }
+    return byType;
+  }();
+  static const std::vector<const Export*> none;
+  const auto found = all.find({type, allocates});
+  return found == all.end() ? none : found->second;
+}
+
 // A record of this type from one of its makers, which leaves its orders and lengths in the shape.
 inline void* AnyCall::recordOf(std::string type, Choices& choices) {
   if (type == "QvxsFIRState_32s") type = "QvxsFIRState64f_32s";  // one record by two names
-  std::vector<const Export*> makers;
   const bool allocates = contains(export_.name, {"Free"}) && choices.oneIn(2);
-  for (const Export& e : exportTable()) {
-    if (e.parameters.empty() || !e.parameters[0].isArrayOfPointers() || pointee(e.parameters[0]) != type) continue;
-    if (e.name.find("Init") != e.name.npos && (e.name.find("InitAlloc") != e.name.npos) == allocates) makers.push_back(&e);
-  }
-  if (makers.empty()) {  // no maker that allocates
-    return recordOf(type, choices);
-  }
+  const std::vector<const Export*>& makers = makersOf(type, allocates);
+  if (makers.empty()) return recordOf(type, choices);  // none that allocates
   const Export& maker = *makers[static_cast<size_t>(choices.between(0, static_cast<int64_t>(makers.size()) - 1))];
   AnyCall made(maker, choices, memory_, around_, library_);
   choices.bits();

@@ -18,8 +18,8 @@ inline std::vector<Variant> variants() {
   const char* folder = std::getenv("QVXS_VARIANTS_DIR");
   std::vector<Variant> all;
   for (const char* name : {"u8", "w3", "w4"}) {
-    if (folder == nullptr || (!std::strcmp(name, "w3") && !__builtin_cpu_supports("x86-64-v3"))) continue;
-    if (!std::strcmp(name, "w4") && !__builtin_cpu_supports("x86-64-v4")) continue;
+    if (folder == nullptr || (!std::strcmp(name, "w3") && !__builtin_cpu_supports("avx2"))) continue;
+    if (!std::strcmp(name, "w4") && !__builtin_cpu_supports("avx512bw")) continue;
     const std::string path = std::string(folder) + "/" + name + "/libqvxs.so.7";
     if (void* handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL)) all.push_back({name, handle});
   }
