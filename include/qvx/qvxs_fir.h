@@ -16,8 +16,8 @@ extern "C" {
  *
  * A record holds the taps and the last tapsLen samples of earlier calls, so that a stream cut into calls, in whatever pieces and
  * by whatever form, is filtered as if it were one. It lies in one block, must not be copied to another address, and serves one
- * call at a time. Long filters on long blocks are computed by way of the FFT: from 64 taps (real) or 16 and 32 taps (32fc, 64fc
- * arithmetic) on, in calls of more than 511 (real) or 255 (complex) samples. */
+ * call at a time. Long filters on long blocks are computed by way of the FFT: where that is faster, from 64 to 128 taps (real) or
+ * 18 to 38 taps (complex) on, as the processor's vectors are wide, in calls of more than 511 (real) or 255 (complex) samples. */
 typedef struct QvxsFIRState_32f QvxsFIRState_32f;
 typedef struct QvxsFIRState_32fc QvxsFIRState_32fc;
 typedef struct QvxsFIRState32f_16s QvxsFIRState32f_16s;

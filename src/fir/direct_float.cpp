@@ -15,7 +15,7 @@ QvxStatus withRecord(const Stateless<typename S::Kernel, typename S::Sample>& ca
   const Plan plan = planOf<S>(caller.tapsLen);
   const Block block(plan.bytes);
   if (!block) return qvxStatNoMem;
-  const bool mayTransform = left > Transform<typename S::Kernel>::kAbove;
+  const bool mayTransform = isWorthTransform<S>(caller.tapsLen, left);
   S& state = *build<S>(block.get(), mayTransform ? plan.transform : TransformSizes{}, caller.taps, caller.tapsLen, nullptr);
   auto* const line = caller.delay + *caller.index;
   std::copy_n(line, caller.tapsLen, state.delay.window);

@@ -55,12 +55,13 @@ struct Places {
 // lanes: of y, all that may be written.
 void integers(const Qvx16sc* x, PairedTaps p, size_t lanes, int16_t* y, int64_t places) {
   const auto fit = Places::of(places);
-  filter<PairSum>(x, p.pairs, p.count, (lanes + 1) / 2, [=](auto sums, size_t at, auto...) {
+  filter<PairSum>(x, p.pairs, p.count, (lanes + 1) / 2, [=](auto sums, size_t at, auto... some) {
     const auto v = fit(sums);
-    const TagOf<decltype(v)> d;
-    const size_t left = lanes - 2 * at;
-    if (left >= hn::MaxLanes(d)) store(v, d, y + 2 * at);
-    else storeFirst(v, d, y + 2 * at, left);
+    constexpr TagOf<decltype(v)> d;
+    constexpr size_t kWhole = hn::MaxLanes(d);
+    if constexpr (sizeof...(some) != 0) storeFirst(v, d, y, lanes);
+    else if (lanes - 2 * at >= kWhole) store(v, d, y + 2 * at);
+    else storeFirst(v, d, y + 2 * at, kWhole - 1);
   });
 }
 

@@ -7,8 +7,12 @@ namespace qvx::fir {
 
 inline constexpr int kInverseDivides = 2;
 
-// kLeastTaps: the shortest filter that has one. kAbove: calls of more samples take it.
+// kLeastTaps: the shortest filter that has one. kPaysFrom: the shortest that it filters faster than the sum of products, which
+// wide vectors do sooner: of 16 taps and 32fc, AVX-512 takes 0.4 of the transform's time, SSSE3 0.9. kAbove: calls of more
+// samples take it.
 template <class C> struct Transform;
+
+constexpr int byRegisters(int avx512, int avx2, int ssse3) { return kHasMasks ? avx512 : kFuses ? avx2 : ssse3; }
 
 struct RealLimits {
   static constexpr int kLeastTaps = 64;
@@ -16,6 +20,7 @@ struct RealLimits {
 };
 template <> struct Transform<Qvx32f> : RealLimits {
   using Spec = QvxsFFTSpec_R_32f;
+  static constexpr int kPaysFrom = byRegisters(128, 80, 64);
   static constexpr auto kGetSize = qvxsFFTGetSize_R_32f;
   static constexpr auto kInit = qvxsFFTInit_R_32f;
   static constexpr auto kForward = qvxsFFTFwd_RToPerm_32f;
@@ -23,6 +28,7 @@ template <> struct Transform<Qvx32f> : RealLimits {
 };
 template <> struct Transform<Qvx64f> : RealLimits {
   using Spec = QvxsFFTSpec_R_64f;
+  static constexpr int kPaysFrom = byRegisters(100, 64, 64);
   static constexpr auto kGetSize = qvxsFFTGetSize_R_64f;
   static constexpr auto kInit = qvxsFFTInit_R_64f;
   static constexpr auto kForward = qvxsFFTFwd_RToPerm_64f;
@@ -31,6 +37,7 @@ template <> struct Transform<Qvx64f> : RealLimits {
 template <> struct Transform<Qvx32fc> {
   using Spec = QvxsFFTSpec_C_32fc;
   static constexpr int kLeastTaps = 16;
+  static constexpr int kPaysFrom = byRegisters(38, 32, 18);
   static constexpr int kAbove = 255;
   static constexpr auto kGetSize = qvxsFFTGetSize_C_32fc;
   static constexpr auto kInit = qvxsFFTInit_C_32fc;
@@ -40,6 +47,7 @@ template <> struct Transform<Qvx32fc> {
 template <> struct Transform<Qvx64fc> {
   using Spec = QvxsFFTSpec_C_64fc;
   static constexpr int kLeastTaps = 32;
+  static constexpr int kPaysFrom = kLeastTaps;
   static constexpr int kAbove = 255;
   static constexpr auto kGetSize = qvxsFFTGetSize_C_64fc;
   static constexpr auto kInit = qvxsFFTInit_C_64fc;
