@@ -83,13 +83,12 @@ template <class T> bool isMissing(Apart<T> v) { return isNull(v.re) || isNull(v.
 
 // What is done to results on their way out.
 struct Plain {
-  template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const { return z; }
+  template <class V> QVX_INLINE V operator()(V v) const { return v; }
 };
 template <class T> struct Times {
   T factor;
-  template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const {
-    return {z.re * same<V>(factor), z.im * same<V>(factor)};
-  }
+  template <class V> QVX_INLINE V operator()(V v) const { return v * same<V>(factor); }
+  template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const { return {(*this)(z.re), (*this)(z.im)}; }
 };
 
 // The row pass takes as many points as a register has lanes, and as many as make it worth while.
