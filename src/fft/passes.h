@@ -58,6 +58,18 @@ template <class T, bool kSwapped> struct Interleaved {
   Interleaved from(size_t at) const { return {p + 2 * at}; }
 };
 
+// The same past the caches, for aligned vectors.
+template <class T, bool kSwapped> struct Streamed {
+  T* p;
+
+  template <size_t L, class V> QVX_INLINE void put(Complex<V> z, size_t at) const {
+    const TagOf<V> d;
+    if constexpr (kSwapped) std::swap(z.re, z.im);
+    hn::Stream(hn::InterleaveLower(d, z.re, z.im), d, p + 2 * at);
+    hn::Stream(hn::InterleaveUpper(d, z.re, z.im), d, p + 2 * at + L);
+  }
+};
+
 template <class T> struct Apart {
   using Lane = std::remove_const_t<T>;
   T* re;
