@@ -16,17 +16,17 @@ template <class T, class Step> QVX_INLINE void withLanes(int order, Step step) {
 }
 
 // Orders that the widest registers hold whole, and how.
-enum class Fold { kNone, kSquare, kHalves, kQuarters };
+enum class Fold { kNone, kSquare, kHalves };
 template <class T> constexpr Fold foldOf(int order) {
   constexpr int kSquare = 2 * log2Of(kWidest<T>);
   if (order <= Orders<T>::kSmall || order > kSquare) return Fold::kNone;
-  return order == kSquare ? Fold::kSquare : order == kSquare - 1 ? Fold::kHalves : Fold::kQuarters;
+  return order == kSquare ? Fold::kSquare : order == kSquare - 1 ? Fold::kHalves : Fold::kNone;
 }
 
 // The roots of a transform of 2^order points, from `block` on. Order: that of the lanes in its source.
 template <class Order, class T> T* writePlan(Plan<T>& plan, int order, T* block) {
   T* row = alignedUp<64>(block);
-  if (foldOf<T>(order) == Fold::kHalves || foldOf<T>(order) == Fold::kQuarters) {
+  if (foldOf<T>(order) == Fold::kHalves) {
     constexpr size_t L = kWidest<T>;
     const size_t n = size_t{1} << order;
     plan = {row, nullptr};
@@ -45,7 +45,7 @@ template <class Order, class T> T* writePlan(Plan<T>& plan, int order, T* block)
   return end;
 }
 template <class Order, class T> T* writeRootsOf(Spec<T>& spec, int order, T* block) {
-  if (order <= Orders<T>::kSmall) return block;
+  if (order <= kShortOrder<Order>) return block;
   if (order <= Orders<T>::kThreaded) return writePlan<Order>(spec.plan, order, block);
   constexpr size_t L = kWidest<T>;
   const size_t n = size_t{1} << kBlockBits;
@@ -77,9 +77,6 @@ template <class T, class Src, class Dst, class Fit>
     case Fold::kHalves:
       if constexpr (L >= 16) return transformInHalves<L>(src, dst, spec.plan.rowRoots, fit);
       break;
-    case Fold::kQuarters:
-      if constexpr (L >= 16) return transformInQuarters(src, dst, spec.plan.rowRoots, fit);
-      break;
     case Fold::kNone:
       break;
   }
@@ -88,7 +85,7 @@ template <class T, class Src, class Dst, class Fit>
 
 template <class T, class Src, class Dst, class Fit>
 QVX_INLINE void complexTransform(const Spec<T>& spec, int order, Src src, Dst dst, T* y, Fit fit) {
-  if (order <= Orders<T>::kSmall) smallTransform(order, src, dst, fit);
+  if (order <= kShortOrder<Src>) smallTransform(order, src, dst, fit);
   else longTransform(spec, order, src, dst, y, fit);
 }
 
@@ -133,7 +130,7 @@ QVX_INLINE QvxStatus transformed(const Record* spec, Src src, Dst dst, Qvx8u* pB
   using T = typename Record::T;
   const QvxStatus status = checkCall(spec, src, dst);
   if (status != qvxStatOk) return status;
-  if (spec->order > Orders<T>::kSmall) return longCall<kInverse, T>(*spec, src, dst, pBuffer);
+  if (spec->order > kShortOrder<Src>) return longCall<kInverse, T>(*spec, src, dst, pBuffer);
   return withFit<kInverse, T>(
       *spec, [=](auto fit) __attribute__((always_inline)) { return smallTransform(spec->order, src, dst, fit); });
 }

@@ -1,8 +1,8 @@
-// Transforms of one block of the row pass: L*L points in L lanes, L*L/2 and L*L/4. All points stand in registers from the first
+// Transforms of one block of the row pass: L*L points in L lanes, and L*L/2. All points stand in registers from the first
 // load to the last store.
 //
-// The first transforms go down R = L, L/2 or L/4 rows of L points, as the row pass does. Where their results, R to a point, would
-// fill but half or a quarter of a vector, vectors hold those of 2 or 4 points side by side.
+// The first transforms go down R = L or L/2 rows of L points, as the row pass does. Where their results, R to a point, would
+// fill but half a vector, vectors hold those of 2 points side by side.
 #pragma once
 
 #include <algorithm>
@@ -11,30 +11,38 @@
 
 namespace qvx::fft {
 
-// cos(2 pi k / 32)
+// cos(2 pi k / 64)
 inline constexpr double kCosines[] = {1,
-                                      0.98078528040323044913,
-                                      0.92387953251128675613,
-                                      0.83146961230254523708,
+                                      0.99518472667219688624,
+                                      0.98078528040323044912,
+                                      0.95694033573220886493,
+                                      0.92387953251128675612,
+                                      0.88192126434835502971,
+                                      0.83146961230254523707,
+                                      0.77301045336273696081,
                                       0.70710678118654752440,
+                                      0.63439328416364549821,
                                       0.55557023301960222474,
-                                      0.38268343236508977173,
-                                      0.19509032201612826785,
+                                      0.47139673682599764855,
+                                      0.38268343236508977172,
+                                      0.29028467725446236763,
+                                      0.19509032201612826784,
+                                      0.09801714032956060199,
                                       0};
-constexpr double cosineOf32(size_t k) {
-  k %= 32;
-  if (k > 16) k = 32 - k;
-  return k <= 8 ? kCosines[k] : -kCosines[16 - k];
+constexpr double cosineOf64(size_t k) {
+  k %= 64;
+  if (k > 32) k = 64 - k;
+  return k <= 16 ? kCosines[k] : -kCosines[32 - k];
 }
 
-// Groups of L roots exp(-2 pi i x / kPoints), kPoints up to 32: x(group, lane).
+// Groups of L roots exp(-2 pi i x / kPoints), kPoints up to 64: x(group, lane).
 template <class T, size_t L, size_t kGroups, size_t kPoints, class Index> struct ConstantRoots {
   T group[kGroups][2 * L];
   constexpr ConstantRoots() : group() {
     for (size_t i = 0; i < kGroups * L; ++i) {
-      const size_t x = Index()(i / L, i % L) * (32 / kPoints);
-      group[i / L][i % L] = static_cast<T>(cosineOf32(x));
-      group[i / L][i % L + L] = static_cast<T>(cosineOf32(x + 8));  // -sin
+      const size_t x = Index()(i / L, i % L) * (64 / kPoints);
+      group[i / L][i % L] = static_cast<T>(cosineOf64(x));
+      group[i / L][i % L + L] = static_cast<T>(cosineOf64(x + 16));  // -sin
     }
   }
 };
@@ -134,33 +142,6 @@ QVX_INLINE void transformInHalves(Src src, Dst dst, const T* rowRoots, Fit fit) 
     dst.template putInOrder<L>(fit(sum(even, odd)), p * L);
     dst.template putInOrder<L>(fit(difference(even, odd)), (p + R / 2) * L);
   });
-}
-
-// 64 points in 16 lanes of 32 bits. rowRoots: 3 groups, as above.
-struct QuarterTurns {
-  constexpr size_t operator()(size_t group, size_t lane) const { return lane / 4 * (group + 1); }
-};
-template <class T, class Src, class Dst, class Fit>
-QVX_INLINE void transformInQuarters(Src src, Dst dst, const T* rowRoots, Fit fit) {
-  constexpr size_t L = 16;
-  using V = Vec<Lanes<T, L>>;
-  alignas(64) static constexpr ConstantRoots<T, L, 3, 16, QuarterTurns> kTurns;
-  Complex<V> x[4];
-  unrolled<4>([&](auto m) __attribute__((always_inline)) { x[m] = src.template getInOrder<L>(m * L); });
-  dft(x);
-  unrolled<3>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowRoots + m * 2 * L)); });
-  // Lane 4b + i of x[k] to block i of x[b], lane k.
-  eachPart(
-      x, [](auto& r) __attribute__((always_inline)) {
-        transposeInBlocks(r[0], r[1], r[2], r[3]);
-        transposeBlocks(r);
-      });
-  dft(x);
-  unrolled<3>([&](auto k) __attribute__((always_inline)) { x[k + 1] = product(x[k + 1], group<L>(kTurns.group[k])); });
-  eachPart(
-      x, [](auto& r) __attribute__((always_inline)) { transposeBlocks(r); });
-  dft(x);
-  unrolled<4>([&](auto k) __attribute__((always_inline)) { dst.template putInOrder<L>(fit(x[k]), k * L); });
 }
 
 }  // namespace qvx::fft

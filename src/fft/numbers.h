@@ -1,4 +1,4 @@
-// Transforms of up to 32 points on complex numbers as they stand in memory, one, two or four to a vector.
+// Transforms of up to 64 points on complex numbers as they stand in memory, one, two or four to a vector.
 //
 // There is nothing to deinterleave, and a quarter turn costs an exchange of parts. What counts for so few points is the way from
 // a load to a store: 3 cycles for any shuffle or sum, 5 for a fused one, and 10 more from that store to the next call's load
@@ -44,14 +44,14 @@ template <class V, bool kSwapped> QVX_INLINE auto differenceWith(double factor, 
   return Numbers<V, kSwapped>{hn::NegMulAdd(b.v, same<V>(static_cast<LaneOf<V>>(factor)), a.v)};
 }
 
-// Roots for vectors of P numbers, number l of vector i being exp(-2 pi i x(i, l) / 32) times `factor`: the real part twice, the
+// Roots for vectors of P numbers, number l of vector i being exp(-2 pi i x(i, l) / 64) times `factor`: the real part twice, the
 // imaginary part with both signs.
 template <class T, size_t P, size_t kVectors, class Index> struct NumberRoots {
   T root[kVectors][4 * P];
   constexpr NumberRoots() : root() {
     for (size_t i = 0; i < kVectors * P; ++i) {
-      const auto re = static_cast<T>(Index::kFactor * cosineOf32(Index()(i / P, i % P)));
-      const auto minusIm = static_cast<T>(Index::kFactor * -cosineOf32(Index()(i / P, i % P) + 8));
+      const auto re = static_cast<T>(Index::kFactor * cosineOf64(Index()(i / P, i % P)));
+      const auto minusIm = static_cast<T>(Index::kFactor * -cosineOf64(Index()(i / P, i % P) + 16));
       T* at = root[i / P] + 2 * (i % P);
       at[0] = at[1] = re;
       at[2 * P] = minusIm;
@@ -87,7 +87,7 @@ template <class T_, size_t N> struct Shape {
   using V = Vec<Lanes<T, 2 * P>>;
 
   static constexpr double kFactor = 1;
-  constexpr size_t operator()(size_t vector, size_t l) const { return (vector % (C / P) * P + l) * (vector / (C / P)) * 32 / N; }
+  constexpr size_t operator()(size_t vector, size_t l) const { return (vector % (C / P) * P + l) * (vector / (C / P)) * 64 / N; }
 };
 template <class S, size_t kVectors> alignas(64) inline constexpr NumberRoots<typename S::T, S::P, kVectors, S> kNumberRoots;
 

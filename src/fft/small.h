@@ -1,4 +1,4 @@
-// Transforms of up to 32 points, whose roots are constants of the code.
+// Transforms of up to 64 points, whose roots are constants of the code.
 #pragma once
 
 #include "fft/numbers.h"
@@ -71,6 +71,9 @@ template <int kOrder, class Src, class Dst, class Fit> [[gnu::noinline]] QvxStat
   return qvxStatOk;
 }
 
+// Up to kShortOrder.
+template <class Points> inline constexpr int kShortOrder = requires(Points points) { points.p; }
+? 6 : 5;
 template <class Src, class Dst, class Fit> QVX_INLINE QvxStatus smallTransform(int order, Src src, Dst dst, Fit fit) {
   switch (order) {
     case 0:
@@ -83,8 +86,10 @@ template <class Src, class Dst, class Fit> QVX_INLINE QvxStatus smallTransform(i
       return smallTransformOf<3>(src, dst, fit);
     case 4:
       return smallTransformOf<4>(src, dst, fit);
-    default:
+    case 5:
       return smallTransformOf<5>(src, dst, fit);
+    default:
+      return smallTransformOf<kShortOrder<Src>>(src, dst, fit);
   }
 }
 
