@@ -30,6 +30,7 @@ void extrema(Suite& suite);
 void norm(Suite& suite);
 void dotProduct(Suite& suite);
 void fft(Suite& suite);
+void integerFft(Suite& suite);
 void spectrum(Suite& suite);
 void fir(Suite& suite);
 void iir(Suite& suite);
@@ -62,6 +63,7 @@ inline constexpr void (*kFamilies[])(Suite&) = {
     norm,
     dotProduct,
     fft,
+    integerFft,
     spectrum,
     fir,
     iir,
