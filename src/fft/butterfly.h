@@ -23,6 +23,7 @@ template <class V> QVX_INLINE Complex<V> product(Complex<V> z, Complex<V> w) {
 template <class V> QVX_INLINE Complex<V> product(Complex<V> z, LaneOf<V> re, LaneOf<V> im) {
   return product(z, Complex<V>{same<V>(re), same<V>(im)});
 }
+template <class V> QVX_INLINE Complex<V> timesMinusI(Complex<V> z) { return {z.im, hn::Neg(z.re)}; }
 // a + factor * b and a - factor * b
 template <class V> QVX_INLINE Complex<V> sumWith(double factor, Complex<V> a, Complex<V> b) {
   const V f = same<V>(static_cast<LaneOf<V>>(factor));
@@ -67,17 +68,16 @@ template <class Z> QVX_INLINE void dft8(Z (&x)[8]) {
   x[7] = sumWith(kHalf, b, three);
 }
 
-template <class V> QVX_INLINE void dft16(Complex<V> (&x)[16]) {
-  using T = LaneOf<V>;
-  constexpr T kCos = T(0.92387953251128675613);
-  constexpr T kSin = T(0.38268343236508977173);
-  constexpr T kHalf = T(0.70710678118654752440);
+template <class Z> QVX_INLINE void dft16(Z (&x)[16]) {
+  constexpr double kCos = 0.92387953251128675613;
+  constexpr double kSin = 0.38268343236508977173;
+  constexpr double kHalf = 0.70710678118654752440;
   unrolled<4>([&](auto i) __attribute__((always_inline)) { dft4(x[i], x[i + 4], x[i + 8], x[i + 12]); });
   x[5] = product(x[5], kCos, -kSin);
   x[6] = product(x[6], kHalf, -kHalf);
   x[7] = product(x[7], kSin, -kCos);
   x[9] = product(x[9], kHalf, -kHalf);
-  x[10] = {x[10].im, hn::Neg(x[10].re)};
+  x[10] = timesMinusI(x[10]);
   x[11] = product(x[11], -kHalf, -kHalf);
   x[13] = product(x[13], kSin, -kCos);
   x[14] = product(x[14], -kHalf, -kHalf);

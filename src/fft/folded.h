@@ -11,38 +11,54 @@
 
 namespace qvx::fft {
 
-// cos(2 pi k / 64)
+// cos(2 pi k / 128)
 inline constexpr double kCosines[] = {1,
+                                      0.99879545620517239271,
                                       0.99518472667219688624,
-                                      0.98078528040323044912,
-                                      0.95694033573220886493,
-                                      0.92387953251128675612,
+                                      0.98917650996478097345,
+                                      0.98078528040323044913,
+                                      0.97003125319454399260,
+                                      0.95694033573220886494,
+                                      0.94154406518302077841,
+                                      0.92387953251128675613,
+                                      0.90398929312344333159,
                                       0.88192126434835502971,
-                                      0.83146961230254523707,
+                                      0.85772861000027206990,
+                                      0.83146961230254523708,
+                                      0.80320753148064490981,
                                       0.77301045336273696081,
+                                      0.74095112535495909118,
                                       0.70710678118654752440,
-                                      0.63439328416364549821,
+                                      0.67155895484701840063,
+                                      0.63439328416364549822,
+                                      0.59569930449243334347,
                                       0.55557023301960222474,
-                                      0.47139673682599764855,
-                                      0.38268343236508977172,
-                                      0.29028467725446236763,
-                                      0.19509032201612826784,
+                                      0.51410274419322172659,
+                                      0.47139673682599764856,
+                                      0.42755509343028209432,
+                                      0.38268343236508977173,
+                                      0.33688985339222005069,
+                                      0.29028467725446236764,
+                                      0.24298017990326388995,
+                                      0.19509032201612826785,
+                                      0.14673047445536175166,
                                       0.09801714032956060199,
+                                      0.04906767432741801425,
                                       0};
-constexpr double cosineOf64(size_t k) {
-  k %= 64;
-  if (k > 32) k = 64 - k;
-  return k <= 16 ? kCosines[k] : -kCosines[32 - k];
+constexpr double cosineOf128(size_t k) {
+  k %= 128;
+  if (k > 64) k = 128 - k;
+  return k <= 32 ? kCosines[k] : -kCosines[64 - k];
 }
 
-// Groups of L roots exp(-2 pi i x / kPoints), kPoints up to 64: x(group, lane).
+// Groups of L roots exp(-2 pi i x / kPoints), kPoints up to 128: x(group, lane).
 template <class T, size_t L, size_t kGroups, size_t kPoints, class Index> struct ConstantRoots {
   T group[kGroups][2 * L];
   constexpr ConstantRoots() : group() {
     for (size_t i = 0; i < kGroups * L; ++i) {
-      const size_t x = Index()(i / L, i % L) * (64 / kPoints);
-      group[i / L][i % L] = static_cast<T>(cosineOf64(x));
-      group[i / L][i % L + L] = static_cast<T>(cosineOf64(x + 16));  // -sin
+      const size_t x = Index()(i / L, i % L) * (128 / kPoints);
+      group[i / L][i % L] = static_cast<T>(cosineOf128(x));
+      group[i / L][i % L + L] = static_cast<T>(cosineOf128(x + 32));  // -sin
     }
   }
 };

@@ -1,4 +1,4 @@
-// Transforms of up to 64 points on complex numbers as they stand in memory, one, two or four to a vector.
+// Transforms of up to 128 points on complex numbers as they stand in memory, one, two or four to a vector.
 //
 // There is nothing to deinterleave, and a quarter turn costs an exchange of parts. What counts for so few points is the way from
 // a load to a store: 3 cycles for any shuffle or sum, 5 for a fused one, and 10 more from that store to the next call's load
@@ -43,15 +43,21 @@ template <class V, bool kSwapped> QVX_INLINE auto sumWith(double factor, Numbers
 template <class V, bool kSwapped> QVX_INLINE auto differenceWith(double factor, Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
   return Numbers<V, kSwapped>{hn::NegMulAdd(b.v, same<V>(static_cast<LaneOf<V>>(factor)), a.v)};
 }
+template <class V, bool kSwapped> QVX_INLINE auto product(Numbers<V, kSwapped> z, LaneOf<V> re, LaneOf<V> im) {
+  return Numbers<V, kSwapped>{minusPlus(z.v * same<V>(re), swapped(z.v) * same<V>(kSwapped ? -im : im))};
+}
+template <class V, bool kSwapped> QVX_INLINE auto timesMinusI(Numbers<V, kSwapped> z) {
+  return Numbers<V, kSwapped>{swapped(z.v) * alternating < V, kSwapped ? -2 : 2 > ()};
+}
 
-// Roots for vectors of P numbers, number l of vector i being exp(-2 pi i x(i, l) / 64) times `factor`: the real part twice, the
+// Roots for vectors of P numbers, number l of vector i being exp(-2 pi i x(i, l) / 128) times `factor`: the real part twice, the
 // imaginary part with both signs.
 template <class T, size_t P, size_t kVectors, class Index> struct NumberRoots {
   T root[kVectors][4 * P];
   constexpr NumberRoots() : root() {
     for (size_t i = 0; i < kVectors * P; ++i) {
-      const auto re = static_cast<T>(Index::kFactor * cosineOf64(Index()(i / P, i % P)));
-      const auto minusIm = static_cast<T>(Index::kFactor * -cosineOf64(Index()(i / P, i % P) + 16));
+      const auto re = static_cast<T>(Index::kFactor * cosineOf128(Index()(i / P, i % P)));
+      const auto minusIm = static_cast<T>(Index::kFactor * -cosineOf128(Index()(i / P, i % P) + 32));
       T* at = root[i / P] + 2 * (i % P);
       at[0] = at[1] = re;
       at[2 * P] = minusIm;
@@ -87,7 +93,7 @@ template <class T_, size_t N> struct Shape {
   using V = Vec<Lanes<T, 2 * P>>;
 
   static constexpr double kFactor = 1;
-  constexpr size_t operator()(size_t vector, size_t l) const { return (vector % (C / P) * P + l) * (vector / (C / P)) * 64 / N; }
+  constexpr size_t operator()(size_t vector, size_t l) const { return (vector % (C / P) * P + l) * (vector / (C / P)) * 128 / N; }
 };
 template <class S, size_t kVectors> alignas(64) inline constexpr NumberRoots<typename S::T, S::P, kVectors, S> kNumberRoots;
 

@@ -1,4 +1,4 @@
-// Transforms of up to 64 points, whose roots are constants of the code.
+// Transforms of up to 128 points, whose roots are constants of the code.
 #pragma once
 
 #include "fft/numbers.h"
@@ -72,8 +72,9 @@ template <int kOrder, class Src, class Dst, class Fit> [[gnu::noinline]] QvxStat
 }
 
 // Up to kShortOrder.
-template <class Points> inline constexpr int kShortOrder = requires(Points points) { points.p; }
-? 6 : 5;
+template <class Points> inline constexpr int kShortOrder = 5;
+template <class T, bool kSwapped>
+inline constexpr int kShortOrder<Interleaved<T, kSwapped>> = kWidest<std::remove_const_t<T>> == 16 ? 6 : 7;
 template <class Src, class Dst, class Fit> QVX_INLINE QvxStatus smallTransform(int order, Src src, Dst dst, Fit fit) {
   switch (order) {
     case 0:
@@ -88,6 +89,8 @@ template <class Src, class Dst, class Fit> QVX_INLINE QvxStatus smallTransform(i
       return smallTransformOf<4>(src, dst, fit);
     case 5:
       return smallTransformOf<5>(src, dst, fit);
+    case 6:
+      return smallTransformOf<std::min(6, kShortOrder<Src>)>(src, dst, fit);
     default:
       return smallTransformOf<kShortOrder<Src>>(src, dst, fit);
   }

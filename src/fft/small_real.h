@@ -34,8 +34,8 @@ template <class T_, size_t H, bool kInverse> struct RealShape {
 
   static constexpr double kFactor = kInverse ? 1 : 0.5;
   constexpr size_t operator()(size_t vector, size_t l) const {
-    const size_t k = (vector * P + l) * 32 / H;
-    return kInverse ? 48 - k : 16 + k;
+    const size_t k = (vector * P + l) * 64 / H;
+    return kInverse ? 96 - k : 32 + k;
   }
 };
 
