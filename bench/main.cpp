@@ -1,20 +1,110 @@
-// qvxs_bench [filter]: all exports whose name contains the filter, a regular expression.
-#include <cstdio>
+// All exports whose name contains a filter, as a table on the screen; or one family into a file, and such files into a page.
+#include <CLI/CLI.hpp>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
 
+#include "frame/environment.h"
 #include "frame/families.h"
+#include "frame/page.h"
 #include "frame/runner.h"
 
-int main(int argc, char** argv) {
+namespace {
+
+std::string today() {
+  char text[16];
+  const std::time_t now = std::time(nullptr);
+  std::strftime(text, sizeof text, "%Y-%m-%d", std::localtime(&now));
+  return text;
+}
+
+void initialize(char* program) {
   char interleaving[] = "--benchmark_enable_random_interleaving=true";
-  char* flags[] = {argv[0], interleaving, nullptr};
+  char* flags[] = {program, interleaving, nullptr};
   int count = 2;
   benchmark::Initialize(&count, flags);
+}
 
+// A file that is begun is not one that is there.
+template <class Write> void replace(const std::filesystem::path& path, Write write) {
+  const std::filesystem::path begun = path.string() + ".new";
+  std::ofstream out(begun);
+  write(out);
+  out.close();
+  if (!out) throw std::runtime_error("cannot write " + begun.string());
+  std::filesystem::rename(begun, path);
+}
+
+int measure(const std::string& filter) {
   bench::Suite suite;
-  for (const auto family : bench::kFamilies) {
-    family(suite);
+  for (const bench::Family& family : bench::kFamilies) family.rows(suite);
+  bench::Report report;
+  report.head(bench::environment());
+  const int mismatches = bench::run(suite, std::regex(filter), report);
+  report.tail();
+  return mismatches;
+}
+
+int measureFamily(const std::string& name, const std::string& filter, const std::string& output) {
+  bench::Suite suite;
+  for (const bench::Family& family : bench::kFamilies) {
+    if (family.name == name) family.rows(suite);
   }
-  const int mismatches = bench::run(suite, std::regex(argc > 1 ? argv[1] : ""));
-  if (mismatches > 0) std::fprintf(stderr, "%d outputs differ from a peer's\n", mismatches);
-  return mismatches > 0 ? 1 : 0;
+  suite.keepPeers();
+  const auto start = std::chrono::steady_clock::now();
+  bench::Report report;
+  const int mismatches = bench::run(suite, std::regex(filter), report);
+  bench::Piece piece{bench::environment(), report.measurements()};
+  for (bench::Measurement& m : piece.measurements) m.family = name;
+  const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+  piece.context.emplace_back("Date", today());
+  piece.context.emplace_back("Seconds", std::to_string(taken.count()));
+  if (mismatches == 0) replace(output, [&](std::ostream& out) { bench::write(out, piece); });
+  return mismatches;
+}
+
+// In the order of the families; those without a file in the folder are left out.
+void page(const std::string& folder, const std::string& output) {
+  std::vector<bench::Piece> pieces;
+  for (const bench::Family& family : bench::kFamilies) {
+    std::ifstream in(std::filesystem::path(folder) / (std::string(family.name) + ".tsv"));
+    if (in) pieces.push_back(bench::read(in, family.name));
+  }
+  const bench::Piece all = bench::joined(pieces);
+  const std::filesystem::path beside = std::filesystem::path(output).replace_extension();
+  std::filesystem::create_directories(beside);
+  replace(output, [&](std::ostream& out) { bench::writePage(out, all, bench::kSections); });
+  replace(beside / "measurements.tsv", [&](std::ostream& out) { bench::write(out, all); });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CLI::App app("Benchmarks beside peers.");
+  std::string filter, family, folder, output;
+  bool families = false;
+  app.add_option("filter", filter, "a regular expression in the name");
+  app.add_flag("--families", families, "list the families");
+  app.add_option("--family", family, "measure one family beside its peers, into --output");
+  app.add_option("--page", folder, "assemble a page, --output, of the families measured into this folder");
+  app.add_option("--output", output, "a file");
+  CLI11_PARSE(app, argc, argv);
+  if (families) {
+    for (const bench::Family& f : bench::kFamilies) std::cout << f.name << '\n';
+    return 0;
+  }
+  try {
+    if (!folder.empty()) {
+      page(folder, output);
+      return 0;
+    }
+    initialize(argv[0]);
+    const int mismatches = family.empty() ? measure(filter) : measureFamily(family, filter, output);
+    if (mismatches > 0) std::cerr << mismatches << " outputs differ from a peer's\n";
+    return mismatches > 0 ? 1 : 0;
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << '\n';
+    return 1;
+  }
 }

@@ -128,7 +128,8 @@ constexpr Group kGroups[] = {{"short", 3, 12}, {"medium", 13, 17}, {"long", 18, 
 template <class T, int kKind, class Make> void besideOthers(Suite& suite, const std::string& name, Make make) {
   for (const bool inPlace : {false, true}) {
     for (const Group& group : kGroups) {
-      Case c = transforms<T, kKind>(name + (inPlace ? "_I, " : ", ") + group.name, inPlace, lengths(group.from, group.to));
+      Case c = transforms<T, kKind>(name + (inPlace ? "_I" : ""), inPlace, lengths(group.from, group.to));
+      c.group = group.name;
       c.contenders.push_back(contender<T>("ours", make, inPlace));
       c.contenders.push_back(contender<T>("FFTW", maker<fftw::Plan, T, kKind == kReals>(), inPlace));
       // In place it copies.
@@ -147,6 +148,7 @@ template <class T, int kKind, class Make> void record(Suite& suite, const std::s
   c.contenders.push_back(contender<T>("ours", make, false));
   Contender made = c.contenders[0];
   made.peer = "record";
+  made.isPeer = false;
   made.timed = [=](benchmark::State& state, const Vectors& v) {
     for (auto _ : state) benchmark::DoNotOptimize(make(v.n, source<T>(v, false), destination<T>(v)));
   };
@@ -159,16 +161,17 @@ template <class T, int kKind, class Make> void threads(Suite& suite, const std::
   c.inRealTime = true;
   c.contenders.push_back(contender<T>("ours", make, false, 2));
   c.contenders.push_back(contender<T>("one thread", make, false, 1));
+  c.contenders.back().isPeer = false;
   suite.add(std::move(c));
 }
 
 }  // namespace
 
-void fft(Suite& suite) {
-  besideOthers<Qvx32f, kComplexes>(suite, "FFTFwd_CToC_32fc", kComplexOf<Qvx32f>);
-  besideOthers<Qvx64f, kComplexes>(suite, "FFTFwd_CToC_64fc", kComplexOf<Qvx64f>);
-  besideOthers<Qvx32f, kReals>(suite, "FFTFwd_RToCCS_32f", kRealOf<Qvx32f>);
-  besideOthers<Qvx64f, kReals>(suite, "FFTFwd_RToCCS_64f", kRealOf<Qvx64f>);
+void fft32fc(Suite& suite) { besideOthers<Qvx32f, kComplexes>(suite, "FFTFwd_CToC_32fc", kComplexOf<Qvx32f>); }
+void fft64fc(Suite& suite) { besideOthers<Qvx64f, kComplexes>(suite, "FFTFwd_CToC_64fc", kComplexOf<Qvx64f>); }
+void fft32f(Suite& suite) { besideOthers<Qvx32f, kReals>(suite, "FFTFwd_RToCCS_32f", kRealOf<Qvx32f>); }
+void fft64f(Suite& suite) { besideOthers<Qvx64f, kReals>(suite, "FFTFwd_RToCCS_64f", kRealOf<Qvx64f>); }
+void fftRecords(Suite& suite) {
   record<Qvx32f, kComplexes>(suite, "FFTInitAlloc_C_32fc", kComplexOf<Qvx32f>);
   record<Qvx64f, kComplexes>(suite, "FFTInitAlloc_C_64fc", kComplexOf<Qvx64f>);
   record<Qvx32f, kReals>(suite, "FFTInitAlloc_R_32f", kRealOf<Qvx32f>);

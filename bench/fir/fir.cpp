@@ -118,13 +118,14 @@ constexpr auto liquidBlock = [](const T* src, T* dst, int n) {
 
 template <class T, int kTaps> void row(Suite& s, const std::string& name) {
   auto row = s.row(name + ", " + std::to_string(kTaps) + " taps", ours<T, kTaps>);
-  row.stream().against("plain", plainLoop<T, kTaps>, kSummed);
+  constexpr double kEach = sizeof(T) == sizeof(Part<T>) ? 2 : 8;
+  row.stream().operations(kEach * kTaps).against("plain", plainLoop<T, kTaps>, kSummed);
   if constexpr (std::is_same_v<T, Qvx32f> || std::is_same_v<T, Qvx32fc>) {
-    row.against("VOLK", volkDot<T, kTaps>, kSummed).against("liquid", liquidBlock<T, kTaps>, kSummed);
+    row.against("VOLK", volkDot<T, kTaps>, kSummed).against("liquid-dsp", liquidBlock<T, kTaps>, kSummed);
   }
   // Too short for the transform, which a whole block takes.
   constexpr int kDirect = sizeof(T) == sizeof(Part<T>) ? 511 : 255;
-  if constexpr (kTaps > 16 && !std::is_integral_v<T>) row.against("direct", ours<T, kTaps, kDirect>, kSummed);
+  if constexpr (kTaps > 16 && !std::is_integral_v<T>) row.besides("direct", ours<T, kTaps, kDirect>, kSummed);
 }
 template <class T> void rows(Suite& s, const std::string& name) {
   row<T, 4>(s, name);

@@ -2,28 +2,14 @@
 
 #include <algorithm>
 #include <bit>
-#include <cmath>
 #include <cstdio>
-#include <fstream>
+#include <map>
 
 namespace bench {
 
 namespace {
 
 constexpr double kBehind = 0.95;
-
-std::string processor() {
-  std::ifstream file("/proc/cpuinfo");
-  for (std::string line; std::getline(file, line);) {
-    if (line.starts_with("model name")) return line.substr(line.find(':') + 2);
-  }
-  return "unknown processor";
-}
-
-std::string lengthText(int n) {
-  constexpr int kMebi = 1 << 20;
-  return n % kMebi == 0 ? std::to_string(n / kMebi) + " Mi" : std::to_string(n);
-}
 
 std::string columns(const std::vector<int>& sizes) {
   std::string names = "| export | peer |";
@@ -35,18 +21,10 @@ std::string columns(const std::vector<int>& sizes) {
   return names + "\n" + rule;
 }
 
-double geometricMean(const std::vector<double>& ratios) {
-  double sum = 0;
-  for (const double ratio : ratios) sum += std::log(ratio);
-  return std::exp(sum / static_cast<double>(ratios.size()));
-}
-
 }  // namespace
 
-void Report::head() {
-  const QvxLibraryVersion* version = qvxsGetLibVersion();
-  std::printf("Processor: %s\nVariant: %.4s\nCompiler of the plain loops: " __VERSION__ ", -O3 -march=native\n",
-              processor().c_str(), version->cpuTag);
+void Report::head(const Context& context) {
+  for (const auto& [key, value] : context) std::printf("%s: %s\n", key.c_str(), value.c_str());
   std::printf("Cells: our time of a call in ns, and in brackets the peer's time over ours (above 1: we lead).\n");
 }
 
@@ -71,16 +49,14 @@ void Report::open(Table table) {
 // A line for every length, for there are many.
 void Report::transforms(const Case& c, const std::vector<Times>& bySize) {
   for (size_t i = 0; i < bySize.size(); ++i) {
-    const double ours = bySize[i][0];
-    std::printf("| %s | %d | %.*f | %.2f |", c.name.c_str(), std::countr_zero(static_cast<unsigned>(c.sizes[i])),
+    const double ours = bySize[i][0].ns;
+    std::printf("| %s | %d | %.*f | %.2f |", c.title().c_str(), std::countr_zero(static_cast<unsigned>(c.sizes[i])),
                 ours < 100 ? 1 : 0, ours, c.operations(c.sizes[i]) / ours);
     for (size_t peer = 1; peer < c.contenders.size(); ++peer) {
       const std::string& name = c.contenders[peer].peer;
-      const double ratio = bySize[i][peer] / ours;
-      std::printf(" %s %.2f", name.c_str(), ratio);
-      cells_.push_back({c.name + ", n=" + lengthText(c.sizes[i]) + ", " + name, ratio});
-      ratiosByPeer_[name].push_back(ratio);
+      std::printf(" %s %.2f", name.c_str(), bySize[i][peer].ns / ours);
     }
+    keep(c, i, bySize[i]);
     std::printf(" |\n");
   }
   std::fflush(stdout);
@@ -90,28 +66,37 @@ void Report::row(const Case& c, const std::vector<Times>& bySize) {
   if (c.table == Table::kTransforms) return transforms(c, bySize);
   for (size_t peer = 1; peer < c.contenders.size(); ++peer) {
     const std::string& peerName = c.contenders[peer].peer;
-    std::printf("| %s | %s |", c.name.c_str(), peerName.c_str());
+    std::printf("| %s | %s |", c.title().c_str(), peerName.c_str());
     for (size_t i = 0; i < bySize.size(); ++i) {
-      const double ours = bySize[i][0];
-      const double ratio = bySize[i][peer] / ours;
-      std::printf(" %.*f (%.2f) |", ours < 100 ? 1 : 0, ours, ratio);
-      if (c.table == Table::kTeam) continue;  // one thread is no peer to be behind
-      cells_.push_back({c.name + ", n=" + lengthText(c.sizes[i]) + ", " + peerName, ratio});
-      ratiosByPeer_[peerName].push_back(ratio);
+      const double ours = bySize[i][0].ns;
+      std::printf(" %.*f (%.2f) |", ours < 100 ? 1 : 0, ours, bySize[i][peer].ns / ours);
     }
     std::printf("\n");
   }
+  for (size_t i = 0; i < bySize.size(); ++i) keep(c, i, bySize[i]);
   std::fflush(stdout);
 }
 
+void Report::keep(const Case& c, size_t size, const Times& times) {
+  const int n = c.sizes[size];
+  for (size_t i = 1; i < times.size(); ++i) {
+    if (!c.contenders[i].isPeer) continue;
+    measurements_.push_back({"", c.name, n, c.operations ? c.operations(n) : 0, times[0], c.contenders[i].peer, times[i]});
+  }
+}
+
 void Report::tail() const {
-  std::vector<Cell> behind;
-  std::copy_if(cells_.begin(), cells_.end(), std::back_inserter(behind), [](const Cell& c) { return c.ratio < kBehind; });
-  std::sort(behind.begin(), behind.end(), [](const Cell& a, const Cell& b) { return a.ratio < b.ratio; });
-  std::printf("\n## Behind a peer: %zu of %zu cells below %.2f\n\n", behind.size(), cells_.size(), kBehind);
-  for (const Cell& c : behind) std::printf("- %.2f %s\n", c.ratio, c.label.c_str());
+  std::vector<Measurement> behind;
+  std::copy_if(measurements_.begin(), measurements_.end(), std::back_inserter(behind),
+               [](const Measurement& m) { return m.ratio() < kBehind; });
+  std::sort(behind.begin(), behind.end(), [](const Measurement& a, const Measurement& b) { return a.ratio() < b.ratio(); });
+  std::printf("\n## Behind a peer: %zu of %zu cells below %.2f\n\n", behind.size(), measurements_.size(), kBehind);
+  for (const Measurement& m : behind)
+    std::printf("- %.2f %s, n=%s, %s\n", m.ratio(), m.name.c_str(), lengthText(m.n).c_str(), m.peer.c_str());
   std::printf("\n## Geometric mean of the ratios\n\n");
-  for (const auto& [peer, ratios] : ratiosByPeer_)
+  std::map<std::string, std::vector<double>> byPeer;
+  for (const Measurement& m : measurements_) byPeer[m.peer].push_back(m.ratio());
+  for (const auto& [peer, ratios] : byPeer)
     std::printf("- %s: %.2f (%zu cells)\n", peer.c_str(), geometricMean(ratios), ratios.size());
 }
 

@@ -1,33 +1,31 @@
-// The table: a row for every export and peer, a column for every length.
+// The table on the screen: a row for every export and peer, a column for every length.
 #pragma once
 
-#include <map>
 #include <string>
 #include <vector>
 
+#include "frame/measurement.h"
 #include "frame/suite.h"
 
 namespace bench {
 
-// Nanoseconds a call, ours first, in the order of the contenders.
-using Times = std::vector<double>;
+// Of a call, ours first, in the order of the contenders.
+using Times = std::vector<Timing>;
 
 class Report {
  public:
-  void head();
+  void head(const Context& context);
   void open(Table table);
   void row(const Case& c, const std::vector<Times>& bySize);
   void tail() const;
 
+  const std::vector<Measurement>& measurements() const { return measurements_; }
+
  private:
   void transforms(const Case& c, const std::vector<Times>& bySize);
+  void keep(const Case& c, size_t size, const Times& times);
 
-  struct Cell {
-    std::string label;
-    double ratio;
-  };
-  std::vector<Cell> cells_;
-  std::map<std::string, std::vector<double>> ratiosByPeer_;
+  std::vector<Measurement> measurements_;
 };
 
 }  // namespace bench

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <limits>
 
-#include "frame/report.h"
 #include "qvx/qvxcore.h"
 
 namespace bench {
@@ -19,25 +17,30 @@ constexpr int kRepetitions = 5;
 constexpr double kWorthAnotherLook = 1.0;
 constexpr int kMostLooks = 3;
 
-class Minima : public benchmark::BenchmarkReporter {
+// All repetitions of each contender.
+class Repetitions : public benchmark::BenchmarkReporter {
  public:
-  Minima(Times& times, bool inRealTime) : times_(times), inRealTime_(inRealTime) {}
+  Repetitions(std::vector<std::vector<double>>& times, bool inRealTime) : times_(times), inRealTime_(inRealTime) {}
   bool ReportContext(const Context&) override { return true; }
   void ReportRuns(const std::vector<Run>& runs) override {
     for (const Run& run : runs) {
       if (run.run_type != Run::RT_Iteration) continue;
-      double& least = times_[static_cast<size_t>(run.family_index)];
-      least = std::min(least, inRealTime_ ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime());
+      times_[static_cast<size_t>(run.family_index)].push_back(inRealTime_ ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime());
     }
   }
 
  private:
-  Times& times_;
+  std::vector<std::vector<double>>& times_;
   bool inRealTime_;
 };
 
+Timing timing(std::vector<double> repetitions) {
+  std::sort(repetitions.begin(), repetitions.end());
+  return {repetitions.front(), repetitions[repetitions.size() / 2] / repetitions.front() - 1};
+}
+
 // The contenders take turns in random order.
-void measure(const Case& c, const Vectors& v, Times& times) {
+void measure(const Case& c, const Vectors& v, std::vector<std::vector<double>>& times) {
   for (const Contender& contender : c.contenders) {
     benchmark::RegisterBenchmark(contender.peer.c_str(),
                                  [&](benchmark::State& state) {
@@ -48,16 +51,19 @@ void measure(const Case& c, const Vectors& v, Times& times) {
         ->Repetitions(kRepetitions)
         ->UseRealTime();
   }
-  Minima minima(times, c.inRealTime);
-  benchmark::RunSpecifiedBenchmarks(&minima, ".");
+  Repetitions repetitions(times, c.inRealTime);
+  benchmark::RunSpecifiedBenchmarks(&repetitions, ".");
   benchmark::ClearRegisteredBenchmarks();
 }
 
 Times measured(const Case& c, const Vectors& v) {
-  Times times(c.contenders.size(), std::numeric_limits<double>::infinity());
-  measure(c, v, times);
-  const auto behind = [&](double t) { return t / times[0] < kWorthAnotherLook; };
-  for (int look = 1; look < kMostLooks && std::any_of(times.begin() + 1, times.end(), behind); ++look) measure(c, v, times);
+  std::vector<std::vector<double>> repetitions(c.contenders.size());
+  Times times(c.contenders.size());
+  const auto behind = [&](const Timing& t) { return t.ns / times[0].ns < kWorthAnotherLook; };
+  for (int look = 0; look == 0 || (look < kMostLooks && std::any_of(times.begin() + 1, times.end(), behind)); ++look) {
+    measure(c, v, repetitions);
+    std::transform(repetitions.begin(), repetitions.end(), times.begin(), timing);
+  }
   return times;
 }
 
@@ -81,16 +87,14 @@ bool agrees(const Case& c, const Contender& peer, const Vectors& v) {
 
 }  // namespace
 
-int run(const Suite& suite, const std::regex& filter) {
+int run(const Suite& suite, const std::regex& filter, Report& report) {
   const Slabs slabs;
-  Report report;
-  report.head();
   int mismatches = 0;
   for (const Table table :
        {Table::kAligned, Table::kMisaligned, Table::kLarge, Table::kStream, Table::kTeam, Table::kTransforms}) {
     bool open = false;
     for (const Case& c : suite.cases()) {
-      if (c.table != table || !std::regex_search(c.name, filter)) continue;
+      if (c.table != table || !std::regex_search(c.title(), filter)) continue;
       if (!open) report.open(table);
       open = true;
       std::vector<Times> bySize;
@@ -102,7 +106,6 @@ int run(const Suite& suite, const std::regex& filter) {
       report.row(c, bySize);
     }
   }
-  report.tail();
   return mismatches;
 }
 

@@ -29,6 +29,7 @@ struct Contender {
   std::function<void(benchmark::State&, const Vectors&)> timed;
   Agreement agreement;
   int threads = 1;
+  bool isPeer = true;  // not another way of ours
 };
 
 enum class Table { kAligned, kMisaligned, kLarge, kStream, kTeam, kTransforms };
@@ -39,6 +40,7 @@ inline const std::vector<int> kTeamSizes = {512, 1024, 2048, 4096, 8192, 16384, 
 
 struct Case {
   std::string name;
+  std::string group;  // of the lengths, for the filter
   Table table = Table::kAligned;
   std::vector<int> sizes = kSizes;
   int misaligned = 0;
@@ -48,8 +50,10 @@ struct Case {
   std::function<void(const Vectors&)> saveDestination;
   std::function<bool(const Vectors&, Agreement)> agrees;  // the saved destination with the present one
   std::vector<Contender> contenders;                      // ours first
-  std::function<double(int n)> operations;                // of transforms: what is counted in GFLOPS
+  std::function<double(int n)> operations;                // of transforms and filters: what is counted in GFLOPS
   bool inRealTime = false;
+
+  std::string title() const { return group.empty() ? name : name + ", " + group; }
 };
 
 template <class T> bool near(T ours, T peers) {
@@ -57,18 +61,19 @@ template <class T> bool near(T ours, T peers) {
   return ours == peers || std::abs(ours - peers) <= std::numeric_limits<T>::epsilon() * T(4e6);
 }
 
-// Sums of up to 4 Mi products of elements up to 1000, most of which cancel. Added in 32-bit lanes without slices they were seen
-// to be off by 7e3, where the magnitudes come to 1e12.
-template <class T> bool nearSum(T ours, T peers) {
-  return ours == peers || std::abs(ours - peers) <= std::numeric_limits<T>::epsilon() * T(4e11) + T(1e-5) * std::abs(ours);
+// Sums of n products of elements up to 1000: four roundings of their magnitudes, which come to n * 5e5 in complex numbers. 4 Mi
+// of them, added in 16 lanes of 32 bits, were seen to be off by 6e5, where the magnitudes come to 2e12.
+template <class T> bool nearSum(T ours, T peers, int n) {
+  return ours == peers || std::abs(ours - peers) <= std::numeric_limits<T>::epsilon() * T(2e6) * T(n) + T(1e-5) * std::abs(ours);
 }
 
-template <class T> bool agree(const std::byte* ours, const std::byte* peers, size_t bytes, Agreement agreement) {
+// n: how many elements went into a result.
+template <class T> bool agree(const std::byte* ours, const std::byte* peers, size_t bytes, Agreement agreement, int n) {
   if (agreement == Agreement::kDiffers || std::memcmp(ours, peers, bytes) == 0) return true;
   if constexpr (std::is_floating_point_v<T>) {
     const auto* a = reinterpret_cast<const T*>(ours);
     if (agreement == Agreement::kSummed)
-      return std::equal(a, a + bytes / sizeof(T), reinterpret_cast<const T*>(peers), nearSum<T>);
+      return std::equal(a, a + bytes / sizeof(T), reinterpret_cast<const T*>(peers), [=](T x, T y) { return nearSum(x, y, n); });
     if (agreement != Agreement::kFused) return false;
     return std::equal(a, a + bytes / sizeof(T), reinterpret_cast<const T*>(peers), near<T>);
   }
@@ -100,6 +105,12 @@ template <class F, Shape kShape, class Scalars> class Row {
     case_.contenders.push_back(contender<F, kShape>(std::move(name), peer, scalars_, agreement));
     return *this;
   }
+  // Ours called in another way.
+  template <class Other> Row& besides(std::string name, Other other, Agreement agreement) {
+    against(std::move(name), other, agreement);
+    case_.contenders.back().isPeer = false;
+    return *this;
+  }
   // The plain loop of an operation for this very signature.
   template <class Op> Row& plain(Op, Agreement agreement = Agreement::kBitwise) {
     return against("plain", plain::loopFor<Op, F>(), agreement);
@@ -126,6 +137,7 @@ template <class F, Shape kShape, class Scalars> class Row {
     case_.sizes = kTeamSizes;
     Contender alone = case_.contenders[0];
     alone.peer = "one thread";
+    alone.isPeer = false;
     case_.contenders[0].threads = 2;
     case_.contenders.push_back(alone);
     return *this;
@@ -134,6 +146,10 @@ template <class F, Shape kShape, class Scalars> class Row {
   Row& stream() {
     case_.table = Table::kStream;
     case_.sizes = kStreamSizes;
+    return *this;
+  }
+  Row& operations(double each) {
+    case_.operations = [=](int n) { return each * n; };
     return *this;
   }
   Row& large(int n) {
@@ -162,6 +178,15 @@ class Suite {
 
   const std::vector<Case>& cases() const { return cases_; }
 
+  // What can be shown beside peers. Longer transforms than 2^20 are left out: planning them takes FFTW minutes.
+  void keepPeers() {
+    for (Case& c : cases_) {
+      std::erase_if(c.contenders, [](const Contender& other) { return !other.isPeer; });
+      if (c.table == Table::kTransforms) std::erase_if(c.sizes, [](int n) { return n > 1 << 20; });
+    }
+    std::erase_if(cases_, [](const Case& c) { return c.contenders.size() < 2; });
+  }
+
  private:
   template <Shape kShape, class R, class... P, class... S> auto add(std::string name, R (*ours)(P...), S... scalars) {
     using F = R (*)(P...);
@@ -179,7 +204,8 @@ class Suite {
     };
     c.agrees = [](const Vectors& v, Agreement agreement) {
       const auto* peers = reinterpret_cast<const std::byte*>(Call::template pointer<kAt>(v));
-      return agree<Part<T>>(v.slabs.saved(), peers, bytesOf<T>(Call::results(v)), agreement);
+      return agree<Part<T>>(v.slabs.saved(), peers, bytesOf<T>(Call::results(v)), agreement,
+                            kShape == Shape::kReduction ? v.n : 1);
     };
     c.contenders.push_back(contender<F, kShape>("ours", ours, given, Agreement::kBitwise));
     return Row<F, kShape, std::tuple<S...>>(c, given);

@@ -112,32 +112,39 @@ auto liquidDirect(size_t order) {
 }
 
 template <size_t kCount> void sectionRows(Suite& s) {
+  constexpr double kEach = 9 * kCount;
   constexpr auto kFused = Agreement::kFused;
   const std::string count = std::to_string(kCount) + (kCount == 1 ? " section" : " sections");
   s.row("IIR_32f, " + count, sections32f<kCount>)
       .stream()
+      .operations(kEach)
       .against("plain, by sample", bySample<float>(kCount), kFused)
       .against("plain, by section", bySection<float>(kCount), kFused)
       .against("liquid-dsp", liquidSections(kCount), kFused);
   s.row("IIR_32f, DF1, " + count, sectionsDf1<kCount>)
       .stream()
+      .operations(kEach)
       .against("plain, by sample", bySample<float>(kCount), kFused)
       .against("plain, by section", bySection<float>(kCount), kFused);
   s.row("IIR_64f, " + count, sections64f<kCount>)
       .stream()
+      .operations(kEach)
       .against("plain, by sample", bySample<double>(kCount), kFused)
       .against("plain, by section", bySection<double>(kCount), kFused);
 }
 template <size_t kOrder> void directRows(Suite& s) {
+  constexpr double kEach = 4 * kOrder + 1;
   constexpr auto kFused = Agreement::kFused;
   const std::string order = "order " + std::to_string(kOrder);
   s.row("IIR_32f, " + order, direct32f<kOrder>)
       .stream()
+      .operations(kEach)
       .against("plain", plainDirect<float>(kOrder), kFused)
       .against("liquid-dsp", liquidDirect(kOrder), kFused);
-  s.row("IIR_64f, " + order, direct64f<kOrder>).stream().against("plain", plainDirect<double>(kOrder), kFused);
+  s.row("IIR_64f, " + order, direct64f<kOrder>).stream().operations(kEach).against("plain", plainDirect<double>(kOrder), kFused);
   s.row("IIR32f_16s, " + order, direct16s<kOrder>)
       .stream()
+      .operations(kEach)
       .against("plain, truncated", plainDirect<float, Qvx16s>(kOrder), Agreement::kDiffers);
 }
 

@@ -42,7 +42,8 @@ template <class W> struct Measured {
   }
 };
 
-template <class V> auto measured(Pair<V> x) {
+// A unit below 1 may cost a subnormal part its last bits: 64-bit elements whose larger part is 2 to `whole` have the unit 1.
+template <class V> auto measured(Pair<V> x, double whole = 0) {
   const auto value = inDoubles(x);
   using W = std::remove_const_t<decltype(value.lo)>;
   if constexpr (std::is_same_v<LaneOf<V>, float>) {
@@ -52,7 +53,8 @@ template <class V> auto measured(Pair<V> x) {
     // The limit keeps the unit of infinity a positive number.
     const W larger = hn::Min(hn::Max(hn::Abs(value.lo), hn::Abs(value.hi)), same<W>(0x1p1022));
     const auto exponent = as<uint64_t>(larger) & same<decltype(as<uint64_t>(larger))>(0x7FF0000000000000);
-    const W unit = as<double>(same<std::remove_const_t<decltype(exponent)>>(0x7FE0000000000000) - exponent);
+    const W nearOne = as<double>(same<std::remove_const_t<decltype(exponent)>>(0x7FE0000000000000) - exponent);
+    const W unit = hn::IfThenElse(larger < same<W>(whole), hn::Max(nearOne, same<W>(1)), nearOne);
     const Pair<W> scaled = {value.lo * unit, value.hi * unit};
     return Measured<W>{scaled, unit, squareOf(scaled)};
   }

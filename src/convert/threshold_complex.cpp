@@ -49,7 +49,7 @@ template <Side kSide> struct Clip {
       if (needNoUnit(square)) [[likely]]
         return unscaled(x, square);
     }
-    const auto m = measured(x);
+    const auto m = measured(x, isMiddling() ? 0x1p500 : 0);
     const auto beyond = passes<kSide>(m, level);
     if (!isAny(beyond, m.square)) return x;
     return replaced(beyond, fromDoubles<V>(onSide(m)), x);
@@ -70,12 +70,14 @@ template <Side kSide> struct Clip {
     });
   }
 
+  static constexpr double kLeast = 0x1p-900;
+  static constexpr double kMost = 0x1p1000;
+  bool isMiddling() const { return level * level > kLeast && level * level < kMost; }
+
   // Units are powers of two, so squares that stay within a double's range without them give the same bits (8 elements: 12 cycles,
   // not 15).
   template <class V> bool needNoUnit(V square) const {
-    constexpr double kLeast = 0x1p-900;
-    constexpr double kMost = 0x1p1000;
-    if (!(level * level > kLeast && level * level < kMost)) return false;
+    if (!isMiddling()) return false;
     return hn::AllTrue(TagOf<V>(), kSide == Side::kBelow ? square > same<V>(kLeast) : square < same<V>(kMost));
   }
   template <class V> Pair<V> unscaled(Pair<V> x, V square) const {

@@ -14,8 +14,8 @@ template <class V> V cubeRoot(V x) {
   const V thirdOfBits = hn::ConvertTo(TagOf<V>(), hn::BitCast(di, x)) * same<V>(kThird);
   V y = hn::BitCast(TagOf<V>(), toIntTruncated(thirdOfBits) + hn::Set(di, kThirdsOfBias));
   for (int i = 0; i < 2; ++i) {
-    const V cube = y * y * y;
-    y = y * ((cube + x + x) / (cube + cube + x));  // in this order the root of 0 has no 0 / 0
+    const V cube = hn::Max(y * y * y, same<V>(0x1p-126F));  // flushed to zero it would make the root of 0 a 0 / 0
+    y = y * ((cube + x + x) / (cube + cube + x));
   }
   return y;
 }

@@ -3,6 +3,7 @@
 
 #include <qvx/qvxdefs.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -62,6 +63,8 @@ struct Export {
   void* address;
   // Null for the few that do not return a status.
   std::function<QvxStatus(void* address, Arguments&)> call;
+  // Asks for the arguments of a call that is not made.
+  std::function<void(Arguments&)> look;
 
   int indexOf(std::string_view parameter) const {
     for (size_t i = 0; i < parameters.size(); ++i) {
@@ -90,9 +93,11 @@ inline std::vector<Parameter> parse(std::string_view text) {
   while (!text.empty() && text != "void") {
     const size_t comma = text.find(',');
     const std::string_view one = text.substr(0, comma);
-    const size_t space = one.rfind(' ');
+    const size_t name = one.find_last_of(" *") + 1;
     const size_t start = one.find_first_not_of(' ');
-    parameters.push_back({std::string(one.substr(start, space - start)), std::string(one.substr(space + 1))});
+    std::string type(one.substr(start, name - start));
+    type.erase(std::find_if(type.rbegin(), type.rend(), [](char c) { return c != ' '; }).base(), type.end());
+    parameters.push_back({type, std::string(one.substr(name))});
     if (comma == std::string_view::npos) break;
     text.remove_prefix(comma + 1);
   }
@@ -100,10 +105,14 @@ inline std::vector<Parameter> parse(std::string_view text) {
 }
 
 template <class R, class... A> Export describe(const char* name, const char* arguments, R (*function)(A...)) {
-  Export e{name, parse(arguments), reinterpret_cast<void*>(function), nullptr};
+  Export e{name, parse(arguments), reinterpret_cast<void*>(function), nullptr, nullptr};
   if constexpr (std::is_same_v<R, QvxStatus>) {
     e.call = [](void* address, Arguments& source) {
       return [&]<size_t... I>(std::index_sequence<I...>) { return reinterpret_cast<R (*)(A...)>(address)(source.get<A>(I)...); }
+      (std::index_sequence_for<A...>());
+    };
+    e.look = [](Arguments& source) {
+      [&]<size_t... I>(std::index_sequence<I...>) { (static_cast<void>(source.get<A>(I)), ...); }
       (std::index_sequence_for<A...>());
     };
   }

@@ -1,0 +1,101 @@
+#include "frame/environment.h"
+
+#include <fftw3.h>
+#include <gnu/libc-version.h>
+#include <liquid/liquid.h>
+#include <sys/utsname.h>
+#include <unistd.h>
+#include <volk/constants.h>
+#include <volk/volk.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
+#include "qvx/qvxs.h"
+
+namespace bench {
+
+namespace {
+
+std::string cpuinfo(const std::string& key) {
+  std::ifstream file("/proc/cpuinfo");
+  for (std::string line; std::getline(file, line);) {
+    if (line.starts_with(key) && line[key.size()] == '\t') return line.substr(std::min(line.size(), line.find(':') + 2));
+  }
+  return "unknown";
+}
+
+// A name like "AMD EPYC" alone says little.
+std::string processor() {
+  const bool virtualMachine = cpuinfo("flags").find(" hypervisor") != std::string::npos;
+  return cpuinfo("model name") + ", family " + cpuinfo("cpu family") + ", model " + cpuinfo("model") +
+         (virtualMachine ? ", in a virtual machine" : "");
+}
+
+// "48K L1 data, 1024K L2, 32768K L3 of processors 0-1"
+std::string caches() {
+  const std::filesystem::path folder = "/sys/devices/system/cpu/cpu0/cache";
+  std::string all;
+  for (int i = 0; std::filesystem::exists(folder / ("index" + std::to_string(i))); ++i) {
+    const auto property = [&](const char* name) {
+      std::ifstream file(folder / ("index" + std::to_string(i)) / name);
+      std::string text;
+      std::getline(file, text);
+      return text;
+    };
+    if (property("type") == "Instruction") continue;
+    const std::string sharers = property("shared_cpu_list");
+    all += (all.empty() ? "" : ", ") + property("size") + " L" + property("level");
+    if (property("type") == "Data") all += " data";
+    if (sharers != "0") all += " of processors " + sharers;
+  }
+  return all.empty() ? "unknown" : all;
+}
+
+std::string system() {
+  utsname names;
+  uname(&names);
+  return std::string(names.sysname) + " " + names.release + ", glibc " + gnu_get_libc_version();
+}
+
+// Of libraries that do not tell it themselves.
+std::string packageVersion(const std::string& package) {
+  const std::unique_ptr<FILE, int (*)(FILE*)> output(popen(("pkg-config --modversion " + package).c_str(), "r"), pclose);
+  std::array<char, 64> text{};
+  if (!output || !std::fgets(text.data(), text.size(), output.get())) return "unknown";
+  const std::string line = text.data();
+  return line.substr(0, line.find('\n'));
+}
+
+std::string variant() { return qvxsGetLibVersion()->cpuTag; }
+
+// "w4=-O2 -march=...|" stands among those of the other variants.
+std::string libraryFlags() {
+  const std::string all = QVXS_LIBRARY_FLAGS;
+  const size_t from = all.find(variant() + "=") + variant().size() + 1;
+  return all.substr(from, all.find('|', from) - from);
+}
+
+}  // namespace
+
+Context environment() {
+  return {
+      {"Processor", processor()},
+      {"Processors", std::to_string(sysconf(_SC_NPROCESSORS_ONLN))},
+      {"Caches", caches()},
+      {"System", system()},
+      {"Library", "variant " + variant() + " of version " + qvxsGetLibVersion()->verText},
+      {"Compiler", "GCC " __VERSION__ ", the library with " + libraryFlags()},
+      {"Plain loops", QVXS_BENCH_FLAGS ", reductions and filters with -ffast-math, \"-Ofast\" with that"},
+      {"FFTW", std::string(fftwf_version) + ", planned with FFTW_MEASURE"},
+      {"VOLK", std::string(volk_version()) + ", machine " + volk_get_machine()},
+      {"SLEEF", packageVersion("sleef") + ", functions of 1.0 ULP in the registers of the variant"},
+      {"liquid-dsp", liquid_libversion()},
+      {"kissfft", packageVersion("kissfft-float")},
+  };
+}
+
+}  // namespace bench

@@ -1,0 +1,73 @@
+// What the page shows: for each chapter the functions that a reader of the field looks for first.
+#include "frame/page.h"
+
+namespace bench {
+
+namespace {
+
+const std::vector<int> kVectors = {16, 256, 4096, 65536, 4 << 20};
+const std::vector<int> kBlocks = {64, 1024, 65536};
+const std::vector<int> kOrders = {1 << 3, 1 << 4, 1 << 5, 1 << 6, 1 << 8, 1 << 10, 1 << 12, 1 << 14, 1 << 16, 1 << 18, 1 << 20};
+
+}  // namespace
+
+// clang-format off
+const std::vector<Section> kSections = {
+    {"Sums and products",
+     "From 4 Mi elements on all contenders wait for memory.",
+     {"arithmetic"}, {"add", "sub", "mul"}, kVectors,
+     {"Add_32f", "Add_64f", "Add_16s", "Add_16s_Sfs, scale 1", "AddC_32f", "AddC_8u_Sfs, scale 3", "Sub_32s_Sfs, scale 3", "Mul_32f",
+      "Mul_32fc", "Mul_16s_Sfs, scale 15", "Mul_16sc_Sfs, scale 3", "MulC_32fc", "AddProduct_32f"}},
+    {"Quotients and roots",
+     "Integer quotients and roots are exact before they are scaled and rounded once. *doubles* is a loop of double precision, "
+     "*scalar* one that the compiler was kept from turning into vectors.",
+     {}, {"div", "sqr", "sqrt"}, kVectors,
+     {"Div_32f", "Div_64f", "Div_32fc", "Div_16s_Sfs, scale 0", "DivC_16s_Sfs, scale 0", "Div_32s_Sfs, scale -3", "Sqr_16s_Sfs, scale 3",
+      "Sqrt_32f", "Sqrt_64f", "Sqrt_32fc", "Sqrt_16s_Sfs, scale 0"}},
+    {"Exponentials, logarithms, arctangents",
+     "Errors are below 1 unit in the last place (`./run accuracy` has each), as SLEEF's of this precision are. *-Ofast* is the C "
+     "library's vector function, of up to 4 units.",
+     {"elementary"}, {"math", "integer_math"}, kVectors,
+     {"Exp_32f", "Exp_64f", "Ln_32f", "Ln_64f", "Arctan_32f", "Arctan_64f", "Cubrt_32f", "SumLn_32f", "Ln_16s_Sfs, scale -10",
+      "Exp_16s_Sfs, scale 0"}},
+    {"Copies, logic, shifts", "", {}, {"copy", "logic", "shift"}, kVectors,
+     {"Copy_8u", "Move_32f", "Zero_32f", "Set_32f", "Copy_1u, bit 3 to bit 5", "And_32u", "Not_8u", "RShiftC_16s", "SwapBytes_32u_I"}},
+    {"Conversions", "", {"conversion"}, {"widen", "narrow", "float_to_int", "half"}, kVectors,
+     {"Convert_16s32f", "Convert_32f16s_Sfs, nearest, scale 0", "Convert_32f32s_Sfs, nearest, scale 3", "Convert_32f64f",
+      "Convert_64f32f", "Convert_24s32f", "Convert_32f24s_Sfs, scale 3", "Convert_32s16s", "Convert_16f32f", "Convert_32f16f"}},
+    {"Complex vectors", "", {}, {"complex_forms", "polar"}, kVectors,
+     {"Real_32fc", "CplxToReal_32fc", "RealToCplx_32f", "Conj_32fc", "Flip_32f", "PowerSpectr_32fc", "PowerSpectr_16sc_Sfs, scale 15",
+      "Magnitude_32fc", "Phase_32fc", "Phase_32f", "CartToPolar_32fc", "PolarToCart_32fc"}},
+    {"Companding, channels, thresholds", "", {}, {"compand", "channels", "threshold"}, kVectors,
+     {"ALawToLin_8u16s", "LinToMuLaw_16s8u", "Join_32f16s_D2L, 2 channels", "SplitScaled_16s32f_D2L, 2 channels",
+      "SplitScaled_24s32f_D2L, 6 channels", "Threshold_LT_32f", "Threshold_LTValGTVal_32f", "Threshold_GTAbs_16s",
+      "Threshold_LTInv_32f"}},
+    {"Statistics",
+     "The plain loops are compiled with -ffast-math: without it a sum is one chain of additions. *hint 0* sums in double precision.",
+     {"statistics"}, {"sum", "extrema", "norm", "dot_product"}, kVectors,
+     {"Sum_32f, hint 1", "Sum_64f", "MeanStdDev_32f, hint 1", "DotProd_32f", "DotProd_32fc", "DotProd_16s64s", "Max_32f", "MaxIndx_32f",
+      "MinMax_16s", "MaxAbs_16s", "Norm_Inf_32f", "Norm_L1_16s64s_Sfs", "Norm_L2_32f", "NormDiff_L2_32f"}},
+    {"Fourier transforms",
+     "Forward, without scaling; 5 N log2 N operations are counted for a complex transform and half of that for a real one. `_I` is in "
+     "place. Real spectra are in the layout of FFTW. kissfft has floats only, and copies in place.",
+     {"fft_complex", "fft_real"}, {"fft_32fc", "fft_64fc", "fft_32f", "fft_64f"}, kOrders,
+     {"FFTFwd_CToC_32fc", "FFTFwd_CToC_32fc_I", "FFTFwd_CToC_64fc", "FFTFwd_CToC_64fc_I", "FFTFwd_RToCCS_32f", "FFTFwd_RToCCS_64f"},
+     true},
+    {"Packed spectra", "", {}, {"spectrum"}, kVectors, {"MulPack_32f", "MulPerm_32f", "MulPerm_16s_Sfs, scale 15", "ConjPack_32fc"}},
+    {"FIR filters",
+     "Streams in blocks of n samples. 2 operations are counted for a tap and a sample, 8 in complex numbers; long filters on long "
+     "blocks go by way of the FFT and need fewer, so they come out above what the processor could multiply.",
+     {"fir"}, {"fir"}, kBlocks,
+     {"FIR_32f, 4 taps", "FIR_32f, 16 taps", "FIR_32f, 63 taps", "FIR_32f, 127 taps", "FIR_32f, 512 taps", "FIR_32f, 2048 taps",
+      "FIR_64f, 63 taps", "FIR_32fc, 16 taps", "FIR_32fc, 63 taps", "FIR_32fc, 512 taps", "FIR_16s_Sfs, 16 taps",
+      "FIR_16s_Sfs, 127 taps"}},
+    {"Recursive filters",
+     "Streams in blocks of n samples. 9 operations are counted for a section and a sample, 4 order + 1 for a direct form.",
+     {"iir"}, {"iir"}, kBlocks,
+     {"IIR_32f, 1 section", "IIR_32f, 2 sections", "IIR_32f, 4 sections", "IIR_32f, 8 sections", "IIR_32f, 16 sections",
+      "IIR_32f, DF1, 4 sections", "IIR_64f, 2 sections", "IIR_64f, 8 sections", "IIR_32f, order 2", "IIR_32f, order 8",
+      "IIR_64f, order 16", "IIR32f_16s, order 4"}},
+};
+// clang-format on
+
+}  // namespace bench

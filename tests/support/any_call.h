@@ -1,0 +1,601 @@
+// A call of any export, drawn from a stream of choices: every vector exactly as long as the headers say, every record made by its
+// own initialiser. The same choices give the same call in another variant, at other places in memory, over other garbage.
+#pragma once
+
+#include <qvx/qvxcore.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <random>
+#include <set>
+#include <span>
+
+#include "support/blocks.h"
+#include "support/exports.h"
+
+namespace tests {
+
+// Bytes first, as a fuzzer brings them, then a random sequence that follows from them.
+class Choices {
+ public:
+  explicit Choices(std::span<const uint8_t> bytes) : bytes_(bytes), random_(seedOf(bytes)) {}
+  explicit Choices(uint64_t seed) : random_(seed) {}
+
+  uint64_t bits(int bytes = 8) {
+    uint64_t v = 0;
+    for (int i = 0; i < bytes; ++i) v = v << 8 | next();
+    return v;
+  }
+  int64_t between(int64_t least, int64_t most) {
+    const auto count = static_cast<uint64_t>(most - least) + 1;
+    return least + static_cast<int64_t>(bits(count <= 256 ? 1 : 4) % count);
+  }
+  bool oneIn(int n) { return between(1, n) == 1; }
+  template <class T> T oneOf(std::initializer_list<T> values) {
+    return values.begin()[between(0, static_cast<int64_t>(values.size()) - 1)];
+  }
+
+ private:
+  uint8_t next() {
+    if (at_ < bytes_.size()) return bytes_[at_++];
+    if (left_ == 0) word_ = random_(), left_ = 8;
+    --left_;
+    return static_cast<uint8_t>(word_ >> 8 * left_);
+  }
+  static uint64_t seedOf(std::span<const uint8_t> bytes) {
+    uint64_t h = bytes.size();
+    for (const uint8_t b : bytes) h = (h ^ b) * 0x100000001B3;
+    return h;
+  }
+
+  std::span<const uint8_t> bytes_;
+  size_t at_ = 0;
+  std::mt19937_64 random_;
+  uint64_t word_ = 0;
+  int left_ = 0;
+};
+
+// What must not make a difference.
+struct Surroundings {
+  int offset = -1;           // of vectors behind the start of their blocks; -1: they end where their blocks end
+  uint8_t garbage = 0;       // in destinations and working memory
+  bool inOneVector = false;  // the destination is the source, where that is allowed
+};
+
+class Memory {
+ public:
+  Block& take() {
+    if (used_ == blocks_.size()) blocks_.emplace_back(kCapacity);
+    return blocks_[used_++];
+  }
+  void reuse() { used_ = 0; }
+  static constexpr size_t kCapacity = 1 << 20;
+
+ private:
+  std::deque<Block> blocks_;
+  size_t used_ = 0;
+};
+
+inline bool contains(const std::string& text, std::initializer_list<const char*> parts) {
+  return std::any_of(parts.begin(), parts.end(), [&](const char* part) { return text.find(part) != text.npos; });
+}
+
+// Refuses a channel, a half or a section when it comes to it: what was before it is written.
+inline bool refusesInTheMiddle(const Export& e) { return contains(e.name, {"_P", "_IP", "CartToPolar", "One_BiQuadDirect"}); }
+
+// The type that a pointer of the headers leads to: const Qvx16sc* and Qvx16sc* const* both to Qvx16sc.
+inline std::string pointee(const Parameter& p) {
+  const size_t start = p.type.rfind("const ", 0) == 0 ? 6 : 0;
+  return p.type.substr(start, p.type.find_first_of(" *", start) - start);
+}
+
+inline const Export* findExport(const std::string& name) {
+  static const std::map<std::string, const Export*> all = [] {
+    std::map<std::string, const Export*> byName;
+    for (const Export& e : exportTable()) byName[e.name] = &e;
+    return byName;
+  }();
+  const auto found = all.find(name);
+  return found == all.end() ? nullptr : found->second;
+}
+
+inline std::string replaced(std::string text, const char* what, const char* with) {
+  const size_t at = text.find(what);
+  return at == text.npos ? text : text.replace(at, std::strlen(what), with);
+}
+
+// Which function stands for a name: that of the library the program is linked to, unless a test says otherwise.
+using Library = std::function<void*(const Export&)>;
+inline void* linked(const Export& e) { return e.address; }
+
+class AnyCall : public Arguments {
+ public:
+  AnyCall(const Export& e, Choices choices, Memory& memory, Surroundings around = {}, Library library = linked)
+      : export_(e), memory_(memory), around_(around), library_(std::move(library)) {
+    prepare(choices);
+  }
+  AnyCall(const AnyCall&) = delete;
+  ~AnyCall() override { release(); }
+
+  QvxStatus run() {
+    status_ = export_.call(library_(export_), *this);
+    if (contains(export_.name, {"Free"}) && status_ == qvxStatOk) records_.clear();
+    return status_;
+  }
+
+  // One argument made wrong; false if it has no wrong values.
+  bool spoil(size_t index, Choices& choices);
+
+  // What the call may write, as bytes, but for records and working memory.
+  std::vector<uint8_t> results() const {
+    std::vector<uint8_t> all;
+    for (const Vector& v : vectors_) {
+      if (v.role == Role::kDestination) all.insert(all.end(), v.data(), v.data() + v.bytes);
+    }
+    return all;
+  }
+  // The same as numbers, or those of the vector of one parameter.
+  std::vector<double> numbers(const std::string& parameter = "") const {
+    std::vector<double> all;
+    for (const Vector& v : vectors_) {
+      if (parameter.empty() ? v.role != Role::kDestination : v.parameter != parameter) continue;
+      for (size_t i = 0; i + v.part <= v.bytes; i += v.part) all.push_back(numberAt(v.data() + i, v));
+    }
+    return all;
+  }
+  bool areIntegers() const {
+    return std::all_of(vectors_.begin(), vectors_.end(),
+                       [](const Vector& v) { return v.role != Role::kDestination || !v.isFloat; });
+  }
+  // Sources as they were, and nothing written around any vector.
+  bool isIntact() const {
+    return std::all_of(vectors_.begin(), vectors_.end(), [](const Vector& v) {
+      return v.block->isIntact() && (v.role != Role::kSource || std::memcmp(v.data(), v.copy.data(), v.bytes) == 0);
+    });
+  }
+  // The place of a record is nobody's until there is one.
+  bool wroteNothing() const {
+    return std::all_of(vectors_.begin(), vectors_.end(), [](const Vector& v) {
+      const bool isFree = v.role == Role::kWork || v.role == Role::kHandle;
+      return v.block->isIntact() && (isFree || std::memcmp(v.data(), v.copy.data(), v.bytes) == 0);
+    });
+  }
+  int64_t shape(const std::string& name) const {
+    const auto found = shape_.find(name);
+    return found == shape_.end() ? 0 : found->second;
+  }
+  std::string describe() const {
+    std::string text = export_.name + " (";
+    for (const auto& [name, value] : shape_) text += name + " " + std::to_string(value) + ", ";
+    return text + "offset " + std::to_string(around_.offset) + (around_.inOneVector ? ", in one vector)" : ")");
+  }
+
+  void* pointer(size_t index, size_t, bool, char) override { return pointers_[index]; }
+  int64_t integer(size_t index) override { return integers_[index]; }
+  double real(size_t index) override { return reals_[index]; }
+
+ private:
+  enum class Role { kSource, kDestination, kHandle, kWork };
+  struct Vector {
+    Block* block;
+    uint8_t* at;
+    size_t bytes;
+    Role role;
+    std::string parameter;
+    size_t part;  // bytes of a number
+    bool isFloat, isSigned;
+    std::vector<uint8_t> copy;
+    const uint8_t* data() const { return at; }
+  };
+  struct Record {
+    std::string type;
+    void* address;
+    bool isAllocated;
+  };
+
+  static double numberAt(const uint8_t* at, const Vector& v) {
+    if (v.isFloat && v.part == 4) return read<float>(at);
+    if (v.isFloat) return read<double>(at);
+    switch (v.part) {
+      case 1:
+        return v.isSigned ? read<int8_t>(at) : *at;
+      case 2:
+        return v.isSigned ? read<int16_t>(at) : read<uint16_t>(at);
+      case 4:
+        return v.isSigned ? read<int32_t>(at) : read<uint32_t>(at);
+      default:
+        return static_cast<double>(read<int64_t>(at));
+    }
+  }
+  template <class T> static T read(const uint8_t* at) {
+    T v;
+    std::memcpy(&v, at, sizeof(T));
+    return v;
+  }
+
+  void prepare(Choices& choices);
+  int64_t drawInteger(const Parameter& p, Choices& choices);
+  double drawReal(const Parameter& p, Choices& choices);
+  size_t extent(const Parameter& p) const;
+  size_t samples() const {
+    for (const char* name : {"len", "numIters", "chanLen"}) {
+      if (shape_.count(name) != 0) return static_cast<size_t>(std::max<int64_t>(shape(name), 0));
+    }
+    return 1;
+  }
+  uint8_t* vector(size_t bytes, Role role, size_t index, const std::function<void(uint8_t*)>& fill);
+  void fill(uint8_t* p, size_t bytes, const Parameter& parameter, size_t elementSize, Choices& choices);
+  void fillTaps(uint8_t* p, const Parameter& parameter, Choices& choices);
+  void* recordOf(std::string type, Choices& choices);
+  void* pointerFor(size_t index, size_t elementSize, bool isConst, char kind, Choices& choices);
+  void* sourceInPlace(const Parameter& destination);
+  int sizeFor(const std::string& maker, const char* which);
+  void release();
+
+  struct Drawing;
+  const Export& export_;
+  Memory& memory_;
+  Surroundings around_;
+  Library library_;
+  std::map<std::string, int64_t> shape_;
+  std::map<size_t, int64_t> integers_;
+  std::map<size_t, double> reals_;
+  std::map<size_t, void*> pointers_;
+  std::vector<Vector> vectors_;
+  std::vector<Record> records_;
+  std::deque<std::vector<void*>> arrays_;
+  QvxStatus status_ = qvxStatBadArg;
+};
+
+// ---- arguments that are numbers
+
+inline int64_t AnyCall::drawInteger(const Parameter& p, Choices& choices) {
+  static const std::map<std::string, std::pair<int, int>> ranges = {
+      {"order", {1, 12}},        {"orderA", {1, 20}},         {"orderB", {0, 20}},    {"numBq", {1, 9}},
+      {"nChannels", {1, 5}},     {"nzTapsLenB", {1, 5}},      {"nzTapsLenA", {1, 5}}, {"srcBitOffset", {0, 19}},
+      {"dstBitOffset", {0, 19}}, {"filterType", {0, 1}},      {"hint", {0, 2}},       {"rndMode", {0, 2}},
+      {"tapsFactor", {0, 18}},   {"phaseFixedPoint", {0, 16}}};
+  const auto range = ranges.find(p.name);
+  if (p.name == "order" && export_.name.find("FFT") != std::string::npos) return choices.between(0, 11);
+  if (range != ranges.end()) return choices.between(range->second.first, range->second.second);
+  if (p.name == "flag") return choices.oneOf({1, 2, 4, 8});
+  if (p.name == "relOp") return choices.oneOf({0, 4});
+  if (p.name == "len" || p.name == "numIters" || p.name == "chanLen" || p.name == "tblLen") {
+    return choices.oneIn(6) ? choices.between(1, 2500) : choices.between(1, 150);
+  }
+  if (p.name == "tapsLen") return choices.oneIn(5) ? choices.between(1, 200) : choices.between(1, 40);
+  if (contains(p.name, {"caleFactor"})) return choices.oneIn(4) ? choices.between(-70, 70) : choices.between(-4, 12);
+  if (contains(export_.name, {"ShiftC"})) return choices.between(0, 40);
+  return choices.oneIn(2) ? choices.between(-20, 20) : static_cast<int64_t>(choices.bits());
+}
+
+inline double AnyCall::drawReal(const Parameter& p, Choices& choices) {
+  const double unit = static_cast<double>(static_cast<int32_t>(choices.bits(4))) * 0x1p-31;
+  if (p.name == "rFreq") return 0.25 + 0.24 * unit;
+  if (p.name == "ripple") return 3 + 2.9 * unit;
+  if (contains(p.name, {"level"})) return choices.oneIn(8) ? unit : std::fabs(unit) * 2;
+  return unit * (choices.oneIn(4) ? 1e4 : 4);
+}
+
+// ---- vectors
+
+// How many elements a vector has.
+inline size_t AnyCall::extent(const Parameter& p) const {
+  static const std::set<std::string> single = {
+      "pDstVal",    "pSrcDstVal", "pNorm",      "pMin",      "pMax",      "pIndx",     "pMean",    "pStdDev",     "pSum",
+      "pDp",        "pMaxAbs",    "pMinAbs",    "pOrder",    "pCounts",   "pMinIndx",  "pMaxIndx", "pTapsFactor", "pDlyLineIndex",
+      "pDstLenBit", "pSize",      "pStateSize", "pSpecSize", "pInitSize", "pWorkSize", "pOutVal"};
+  const std::string& name = export_.name;
+  const size_t n = samples();
+  if (single.count(p.name) != 0 || (p.name == "pOutIndx" && shape("len") == 0)) return 1;
+  if (p.name == "pTable") return static_cast<size_t>(shape("tblLen"));
+  if (p.name == "pScaleFactor") return static_cast<size_t>(shape("nChannels"));
+  if (p.name == "pTaps" && shape("tapsLen") > 0) return static_cast<size_t>(shape("tapsLen"));
+  if (p.name == "pTaps") return static_cast<size_t>(shape("numBq") > 0 ? 6 * shape("numBq") : 2 * shape("order") + 2);
+  if (p.name == "pNZTaps" || p.name == "pNZTapPos") return static_cast<size_t>(shape("nzTapsLenA") + shape("nzTapsLenB"));
+  if (p.name == "pDlyLine") {
+    if (shape("tapsLen") > 0) return static_cast<size_t>(shape("tapsLen") * (name.find("_Direct_") != name.npos ? 2 : 1));
+    if (shape("nzTapsLenB") > 0) return static_cast<size_t>(shape("orderA") + shape("orderB"));
+    return static_cast<size_t>(shape("numBq") > 0 ? (shape("DF1") > 0 ? 4 : 2) * shape("numBq") : shape("order"));
+  }
+  if (contains(name, {"FFTFwd", "FFTInv"})) {
+    const size_t points = size_t{1} << shape("order");
+    const bool isSource = p.name.find("Dst") == std::string::npos;
+    const bool isDestination = p.name.find("Src") == std::string::npos;
+    const bool isCcs = contains(name, {"ToCCS"}) ? !isSource : contains(name, {"CCSToR"}) && !isDestination;
+    return !isCcs ? points : points == 1 ? 2 : points + 2;
+  }
+  if (name == "qvxsCopy_1u")
+    return static_cast<size_t>(shape(p.name == "pSrc" ? "srcBitOffset" : "dstBitOffset") + shape("len") + 7) / 8;
+  if (name == "qvxsPackBits_32u8u" && p.name == "pDst")
+    return static_cast<size_t>(shape("dstBitOffset") + shape("totalBits") + 7) / 8;
+  if (contains(name, {"ConjCcs"}) && p.name == "pSrc") return 2 * (n / 2 + 1);
+  const size_t places = shape("nChannels") > 0 && !p.isArrayOfPointers() ? n * static_cast<size_t>(shape("nChannels")) : n;
+  return contains(name, {"24s", "24u"}) && pointee(p) == "Qvx8u" ? 3 * places : places;
+}
+
+inline uint8_t* AnyCall::vector(size_t bytes, Role role, size_t index, const std::function<void(uint8_t*)>& fill) {
+  Block& block = memory_.take();
+  if (bytes + 512 > Memory::kCapacity) std::abort();
+  const bool isAtEnd = around_.offset < 0;
+  uint8_t* at = isAtEnd ? block.atEnd(bytes) : block.atOffset(static_cast<size_t>(around_.offset) * (index + 1), bytes);
+  std::memset(at, around_.garbage, bytes);
+  fill(at);
+  const Parameter& p = export_.parameters[index];
+  const std::string type = pointee(p);
+  const size_t digits = type.find_first_of("0123456789");
+  const size_t part = digits == type.npos ? 4 : static_cast<size_t>(std::atoi(type.c_str() + digits)) / 8;
+  const bool isFloat = type.find("2f") != type.npos || type.find("4f") != type.npos;
+  vectors_.push_back({&block, at, bytes, role, p.name, std::max<size_t>(part, 1), isFloat, type.find('u') == type.npos,
+                      std::vector<uint8_t>(at, at + bytes)});
+  return at;
+}
+
+// Numbers that are small, large, extreme, between two others or none.
+inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, size_t elementSize, Choices& choices) {
+  const std::string type = pointee(parameter);
+  const bool isFloat = type.find("32f") != type.npos, isDouble = type.find("64f") != type.npos;
+  const size_t part = isFloat ? 4 : isDouble ? 8 : type.back() == 'c' ? elementSize / 2 : elementSize;
+  const bool isTame = contains(export_.name, {"FFT", "FIR", "IIR", "Sum", "Mean", "StdDev", "Norm", "DotProd", "Product"});
+  const uint64_t style = choices.bits(1);
+  for (size_t i = 0; i + part <= bytes; i += part) {
+    const uint64_t bits = choices.bits();
+    if (isFloat || isDouble) {
+      double x = std::ldexp(static_cast<double>(static_cast<int64_t>(bits)), -63 + (isTame ? 0 : static_cast<int>(style & 15)));
+      if (!isTame && (bits & 3) == 0) x = std::trunc(x) + 0.5;
+      if (!isTame && style >= 128 && (bits & 28) == 4) {
+        constexpr double kSpecial[] = {INFINITY, -INFINITY, NAN, -0.0, 0, 1e-40, 3e38, -1e-310};
+        x = kSpecial[bits >> 5 & 7];
+      }
+      const auto single = static_cast<float>(x);
+      if (isDouble) std::memcpy(p + i, &x, 8);
+      else std::memcpy(p + i, &single, 4);
+      continue;
+    }
+    uint64_t v = style % 3 == 0 ? static_cast<uint64_t>(static_cast<int64_t>(bits) >> (bits & 31) >> 30) : bits;
+    if ((bits & 15) == 3) v = uint64_t{1} << (8 * part - 1);
+    if ((bits & 15) == 5) v = (uint64_t{1} << (8 * part - 1)) - 1;
+    if ((bits & 15) == 7) v = 0;
+    std::memcpy(p + i, &v, part);
+  }
+  if (parameter.name == "pTable") std::sort(reinterpret_cast<uint16_t*>(p), reinterpret_cast<uint16_t*>(p + bytes));
+  if (parameter.name == "pDlyLineIndex") *reinterpret_cast<int*>(p) = static_cast<int>(choices.between(0, shape("tapsLen") - 1));
+  if (parameter.name == "pSrcBitLen") {
+    for (size_t i = 0; i < bytes / sizeof(int); ++i) {
+      auto& length = reinterpret_cast<int*>(p)[i];
+      length = static_cast<int>(choices.between(0, 32));
+      shape_["totalBits"] += length;
+    }
+  }
+  if (parameter.name == "pNZTapPos") {
+    auto* position = reinterpret_cast<int32_t*>(p);
+    for (const auto& [count, order] : {std::pair{"nzTapsLenB", "orderB"}, std::pair{"nzTapsLenA", "orderA"}}) {
+      int at = order[5] == 'A' ? 1 : 0;
+      for (int64_t i = 0; i < shape(count); ++i, at += static_cast<int>(choices.between(1, 9))) shape_[order] = *position++ = at;
+    }
+  }
+  if (parameter.name == "pTaps" || parameter.name == "pNZTaps") fillTaps(p, parameter, choices);
+}
+
+// Taps of a recursive filter that is stable: the feedback's magnitudes sum up to less than 1.
+inline void AnyCall::fillTaps(uint8_t* p, const Parameter& parameter, Choices& choices) {
+  if (!contains(export_.name, {"IIR"}) || contains(export_.name, {"Gen", "Get"})) return;
+  const std::string type = pointee(parameter);
+  const size_t parts = type.back() == 'c' ? 2 : 1;
+  const bool hasSections = shape("numBq") > 0;
+  const auto order = static_cast<size_t>(hasSections ? 2 : shape("order"));
+  const auto unit = [&] { return static_cast<double>(static_cast<int32_t>(choices.bits(4))) * 0x1p-31; };
+  const auto put = [&](size_t i, double v) {
+    for (size_t k = 0; k < parts; ++k, v = k == 1 ? v / 3 : v) {
+      const size_t at = parts * i + k;
+      if (type.find("64f") != type.npos) reinterpret_cast<double*>(p)[at] = v;
+      else if (type.find("32f") != type.npos) reinterpret_cast<float*>(p)[at] = static_cast<float>(v);
+      else if (type.find("32s") != type.npos)
+        reinterpret_cast<int32_t*>(p)[at] = static_cast<int32_t>(std::ldexp(v, static_cast<int>(shape("tapsFactor"))));
+      else reinterpret_cast<int16_t*>(p)[at] = static_cast<int16_t>(std::ldexp(v, 10));
+    }
+  };
+  if (parameter.name == "pNZTaps") {
+    for (int64_t i = 0; i < shape("nzTapsLenA") + shape("nzTapsLenB"); ++i) put(static_cast<size_t>(i), unit() * 0.19);
+    return;
+  }
+  for (size_t section = 0; section < static_cast<size_t>(hasSections ? shape("numBq") : 1); ++section) {
+    const size_t base = 6 * section;
+    for (size_t i = 1; i <= order; ++i) put(base + i, unit());
+    put(base, 1);  // 0 is refused
+    for (size_t i = 1; i <= order; ++i) put(base + order + 1 + i, unit() * 0.6 / static_cast<double>(order));
+    put(base + order + 1, 1);
+    const bool isDirect = contains(export_.name, {"Direct_"});
+    if (isDirect) reinterpret_cast<int16_t*>(p)[base + order + 1] = 10;  // the shift stands in the place of a[0]
+  }
+}
+
+// ---- records
+
+// What the size function that belongs to a maker says.
+inline int AnyCall::sizeFor(const std::string& maker, const char* which) {
+  const bool isTransform = maker.find("FFT") != std::string::npos;
+  const Export* e = findExport(
+      replaced(maker, maker.find("InitAlloc") != maker.npos ? "InitAlloc" : "Init", isTransform ? "GetSize" : "GetStateSize"));
+  if (e == nullptr) std::abort();
+  struct Sizes : Arguments {
+    const Export* e;
+    const AnyCall* call;
+    std::map<std::string, int> sizes;
+    void* pointer(size_t index, size_t, bool, char) override { return &sizes[e->parameters[index].name]; }
+    int64_t integer(size_t index) override { return call->shape(e->parameters[index].name); }
+    double real(size_t) override { return 0; }
+  } arguments;
+  arguments.e = e;
+  arguments.call = this;
+  if (e->call(library_(*e), arguments) != qvxStatOk) return 0;
+  return arguments.sizes[which];
+}
+
+// A record of this type from one of its makers, which leaves its orders and lengths in the shape.
+inline void* AnyCall::recordOf(std::string type, Choices& choices) {
+  if (type == "QvxsFIRState_32s") type = "QvxsFIRState64f_32s";  // one record by two names
+  std::vector<const Export*> makers;
+  const bool allocates = contains(export_.name, {"Free"}) && choices.oneIn(2);
+  for (const Export& e : exportTable()) {
+    if (e.parameters.empty() || !e.parameters[0].isArrayOfPointers() || pointee(e.parameters[0]) != type) continue;
+    if (e.name.find("Init") != e.name.npos && (e.name.find("InitAlloc") != e.name.npos) == allocates) makers.push_back(&e);
+  }
+  if (makers.empty()) {  // no maker that allocates
+    return recordOf(type, choices);
+  }
+  const Export& maker = *makers[static_cast<size_t>(choices.between(0, static_cast<int64_t>(makers.size()) - 1))];
+  AnyCall made(maker, choices, memory_, around_, library_);
+  choices.bits();
+  made.run();
+  void* record = *static_cast<void**>(made.pointers_[0]);
+  for (const char* name : {"order", "numBq", "tapsLen", "DF1", "nzTapsLenA", "nzTapsLenB", "orderA", "orderB"}) {
+    shape_.erase(name);
+    if (made.shape(name) != 0) shape_[name] = made.shape(name);
+  }
+  if (contains(type, {"FFT"})) shape_["workSize"] = made.sizeFor(maker.name, "pWorkSize");
+  made.status_ = qvxStatBadArg;  // what it made is this call's from here on
+  records_.push_back({type, record, allocates});
+  return record;
+}
+
+inline void AnyCall::release() {
+  if (contains(export_.name, {"InitAlloc"}) && status_ == qvxStatOk) {
+    records_.push_back({pointee(export_.parameters[0]), *static_cast<void**>(pointers_[0]), true});
+  }
+  for (const Record& r : records_) {
+    if (!r.isAllocated || r.address == nullptr) continue;
+    for (const Export& e : exportTable()) {
+      if (e.name.find("Free") == e.name.npos || e.parameters.size() != 1 || pointee(e.parameters[0]) != r.type) continue;
+      reinterpret_cast<QvxStatus (*)(void*)>(library_(e))(r.address);
+    }
+  }
+}
+
+// ---- the arguments of one call
+
+// The source that a destination may lie on: all its elements are of the same type.
+inline void* AnyCall::sourceInPlace(const Parameter& destination) {
+  static const std::set<std::string> apart = {"Flip",        "ConjFlip",   "ALawToLin",  "LinToALaw", "ALawToMuLaw",
+                                              "MuLawToALaw", "MuLawToLin", "LinToMuLaw", "IIRSparse", "Copy"};
+  const std::string& name = export_.name;
+  const size_t stem = std::strlen("qvxs");
+  if (!around_.inOneVector || contains(name, {"FIR"}) || apart.count(name.substr(stem, name.find('_') - stem)) != 0)
+    return nullptr;
+  for (size_t i = 0; i < export_.parameters.size(); ++i) {
+    const Parameter& p = export_.parameters[i];
+    const bool isPartner =
+        p.name == replaced(destination.name, "Dst", "Src") || p.name == replaced(destination.name, "Dst", "Src2");
+    if (destination.name.rfind("pDst", 0) != 0 || !isPartner || pointee(p) != pointee(destination)) continue;
+    if (extent(p) != extent(destination)) continue;
+    for (Vector& v : vectors_) {
+      if (v.at == pointers_[i]) v.role = Role::kDestination;
+    }
+    return pointers_[i];
+  }
+  return nullptr;
+}
+
+inline bool AnyCall::spoil(size_t index, Choices& choices) {
+  const Parameter& p = export_.parameters[index];
+  const bool isRecord = contains(p.type, {"State", "Spec"}) && !p.isArrayOfPointers();
+  if (isRecord && !contains(export_.name, {"Sparse"}) && choices.oneIn(2)) {
+    pointers_[index] = vector(4096, Role::kWork, index, [](uint8_t*) {});  // of no identity
+    return true;
+  }
+  if (p.isPointer()) {
+    pointers_[index] = nullptr;
+    return true;
+  }
+  static const std::set<std::string> counts = {"len",     "numIters", "chanLen", "tblLen",    "nChannels",
+                                               "tapsLen", "order",    "numBq",   "nzTapsLenB"};
+  if (counts.count(p.name) != 0) {
+    integers_[index] = p.type == "Qvx32u" || choices.oneIn(2) ? 0 : -choices.between(1, 1 << 30);
+    return true;
+  }
+  return false;
+}
+
+inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst, char kind, Choices& choices) {
+  const Parameter& p = export_.parameters[index];
+  const std::string& name = export_.name;
+  const std::string type = pointee(p);
+  if (kind == 'r') return recordOf(type, choices);
+  const bool isState = contains(type, {"State", "Spec"});
+  if (p.isArrayOfPointers()) {
+    if (isState && contains(name, {"Init"})) {  // where a maker leaves its record
+      return vector(sizeof(void*), Role::kHandle, index, [](uint8_t*) {});
+    }
+    std::vector<void*>& array = arrays_.emplace_back();
+    const bool isSource = p.name.find("Dst") == p.name.npos;
+    for (int64_t c = 0; c < shape("nChannels"); ++c) {
+      if (isState) {
+        array.push_back(recordOf(type, choices));
+        continue;
+      }
+      const size_t element = type == "Qvx64f" ? 8 : 4;
+      const size_t bytes = element * samples();
+      array.push_back(vector(bytes, isSource ? Role::kSource : Role::kDestination, index, [&](uint8_t* at) {
+        if (p.name.find("Src") != p.name.npos || isSource) fill(at, bytes, p, element, choices);
+      }));
+    }
+    return array.data();
+  }
+  if (contains(name, {"Init"}) && (p.name == "pBuffer" || p.name == "pBuf" || p.name == "pSpec" || p.name == "pInit")) {
+    const char* which = p.name == "pSpec"               ? "pSpecSize"
+                        : p.name == "pInit"             ? "pInitSize"
+                        : name.find("FIR") != name.npos ? "pSize"
+                                                        : "pStateSize";
+    return vector(static_cast<size_t>(sizeFor(name, which)), Role::kWork, index, [](uint8_t*) {});
+  }
+  if (p.name == "pBuffer") {
+    if (choices.oneIn(3)) return nullptr;
+    return vector(static_cast<size_t>(shape("workSize")), Role::kWork, index, [](uint8_t*) {});
+  }
+  if (p.name == "pDlyLine" && isConst && choices.oneIn(3)) return nullptr;
+  if (void* source = sourceInPlace(p)) return source;
+  // The first byte and the last keep the bits beside those written.
+  const bool isRead = isConst || contains(p.name, {"Src", "DlyLine"}) || contains(name, {"Copy_1u", "PackBits"});
+  const size_t bytes = elementSize * extent(p);
+  return vector(bytes, isConst ? Role::kSource : Role::kDestination, index, [&](uint8_t* at) {
+    if (isRead) fill(at, bytes, p, elementSize, choices);
+  });
+}
+
+// Looks at the types of the arguments of a call that is not made.
+struct AnyCall::Drawing : Arguments {
+  struct Seen {
+    size_t size;
+    bool isConst;
+    char kind;
+  };
+  std::map<size_t, Seen> pointers;
+  std::set<size_t> integers, reals;
+  void* pointer(size_t index, size_t size, bool isConst, char kind) override {
+    return pointers[index] = {size, isConst, kind}, nullptr;
+  }
+  int64_t integer(size_t index) override { return integers.insert(index), 0; }
+  double real(size_t index) override { return reals.insert(index), 0; }
+};
+
+inline void AnyCall::prepare(Choices& choices) {
+  Drawing seen;
+  export_.look(seen);
+  for (const size_t i : seen.integers) {
+    shape_[export_.parameters[i].name] = integers_[i] = drawInteger(export_.parameters[i], choices);
+  }
+  for (const size_t i : seen.reals) reals_[i] = drawReal(export_.parameters[i], choices);
+  if (contains(export_.name, {"DF1"})) shape_["DF1"] = 1;
+  // Records first, whose orders are the other vectors' lengths.
+  for (const bool wantsRecords : {true, false}) {
+    for (const auto& [i, p] : seen.pointers) {
+      const bool isRecord = contains(export_.parameters[i].type, {"State", "Spec"}) && !contains(export_.name, {"Init"});
+      if (isRecord == wantsRecords) pointers_[i] = pointerFor(i, p.size, p.isConst, p.kind, choices);
+    }
+  }
+}
+
+}  // namespace tests
