@@ -59,9 +59,9 @@ template <int kOrder, class T, bool kSwapped, class Fit>
 QVX_INLINE void transformInterleaved(const T* src, Interleaved<T, kSwapped> dst, Fit fit) {
   constexpr size_t N = size_t{1} << kOrder;
   using V = typename Shape<T, N>::V;
-  transformNumbers<N, kSwapped, T>(
-      [=](size_t at) __attribute__((always_inline)) { return load(TagOf<V>(), src + 2 * at); }, [=
-  ](size_t at, V v) __attribute__((always_inline)) { store(fit(v), TagOf<V>(), dst.p + 2 * at); });
+  const auto get = [=](size_t at) __attribute__((always_inline)) { return load(TagOf<V>(), src + 2 * at); };
+  const auto put = [=](size_t at, V v) __attribute__((always_inline)) { store(fit(v), TagOf<V>(), dst.p + 2 * at); };
+  transformNumbers<N, kSwapped, T>(get, put);
 }
 
 // Each a function of its own: a call of 8 points takes 4 ns, of which a stack frame for 32 would be one.
