@@ -50,6 +50,7 @@ void row(Suite& suite, const std::string& name, QvxStatus (*transform)(const CIn
   Case c;
   c.name = name;
   c.table = Table::kTransforms;
+  c.sizes.clear();
   for (int order = 3; order <= 16; ++order) c.sizes.push_back(1 << order);
   const auto results = [](int n) { return kReal ? static_cast<size_t>(n) + 2 : 2 * static_cast<size_t>(n); };
   c.fillSources = [=](const Vectors& v) { fillBits(v.slabs.source(0), results(v.n) * sizeof(In), 1); };
