@@ -34,6 +34,7 @@ void fft64fc(Suite& suite);
 void fft32f(Suite& suite);
 void fft64f(Suite& suite);
 void fftRecords(Suite& suite);
+void integerFft(Suite& suite);
 void spectrum(Suite& suite);
 void fir(Suite& suite);
 void iir(Suite& suite);
@@ -75,6 +76,7 @@ inline constexpr Family kFamilies[] = {
     {"fft_32f", fft32f},
     {"fft_64f", fft64f},
     {"fft_records", fftRecords},
+    {"fft_integer", integerFft},
     {"spectrum", spectrum},
     {"fir", fir},
     {"iir", iir},

@@ -23,48 +23,61 @@ template <class V> QVX_INLINE Complex<V> product(Complex<V> z, Complex<V> w) {
 template <class V> QVX_INLINE Complex<V> product(Complex<V> z, LaneOf<V> re, LaneOf<V> im) {
   return product(z, Complex<V>{same<V>(re), same<V>(im)});
 }
+template <class V> QVX_INLINE Complex<V> timesMinusI(Complex<V> z) { return {z.im, hn::Neg(z.re)}; }
+// a + factor * b and a - factor * b
+template <class V> QVX_INLINE Complex<V> sumWith(double factor, Complex<V> a, Complex<V> b) {
+  const V f = same<V>(static_cast<LaneOf<V>>(factor));
+  return {hn::MulAdd(f, b.re, a.re), hn::MulAdd(f, b.im, a.im)};
+}
+template <class V> QVX_INLINE Complex<V> differenceWith(double factor, Complex<V> a, Complex<V> b) {
+  const V f = same<V>(static_cast<LaneOf<V>>(factor));
+  return {hn::NegMulAdd(f, b.re, a.re), hn::NegMulAdd(f, b.im, a.im)};
+}
 
-template <class V> QVX_INLINE void dft4(Complex<V>& x0, Complex<V>& x1, Complex<V>& x2, Complex<V>& x3) {
-  const Complex<V> even = sum(x0, x2);
-  const Complex<V> evenOff = difference(x0, x2);
-  const Complex<V> odd = sum(x1, x3);
-  const Complex<V> oddOff = difference(x1, x3);
+// Z: a vector of real and one of imaginary parts, or of both side by side.
+template <class Z> QVX_INLINE void dft4(Z& x0, Z& x1, Z& x2, Z& x3) {
+  const Z even = sum(x0, x2);
+  const Z evenOff = difference(x0, x2);
+  const Z odd = sum(x1, x3);
+  const Z oddOff = difference(x1, x3);
   x0 = sum(even, odd);
   x1 = differenceWithI(evenOff, oddOff);
   x2 = difference(even, odd);
   x3 = sumWithI(evenOff, oddOff);
 }
 
-// The odd half is turned by multiples of an eighth, whose factor sqrt(1/2) goes into the sums that follow.
-template <class V> QVX_INLINE void dft8(Complex<V> (&x)[8]) {
-  const V half = same<V>(LaneOf<V>(0.70710678118654752440));
-  dft4(x[0], x[2], x[4], x[6]);
-  dft4(x[1], x[3], x[5], x[7]);
-  const Complex<V> one = {x[3].re + x[3].im, x[3].im - x[3].re};
-  const Complex<V> three = {x[7].im - x[7].re, x[7].re + x[7].im};
-  const Complex<V> y[] = {x[0], x[2], x[4], x[6]};
-  const Complex<V> second = x[5];
-  x[4] = difference(y[0], x[1]);
-  x[0] = sum(y[0], x[1]);
-  x[1] = {hn::MulAdd(half, one.re, y[1].re), hn::MulAdd(half, one.im, y[1].im)};
-  x[5] = {hn::NegMulAdd(half, one.re, y[1].re), hn::NegMulAdd(half, one.im, y[1].im)};
-  x[2] = differenceWithI(y[2], second);
-  x[6] = sumWithI(y[2], second);
-  x[3] = {hn::MulAdd(half, three.re, y[3].re), hn::NegMulAdd(half, three.im, y[3].im)};
-  x[7] = {hn::NegMulAdd(half, three.re, y[3].re), hn::MulAdd(half, three.im, y[3].im)};
+// Of the odd results, two terms are turned by eighths, whose factor sqrt(1/2) goes into the last sums.
+template <class Z> QVX_INLINE void dft8(Z (&x)[8]) {
+  constexpr double kHalf = 0.70710678118654752440;
+  Z even[] = {sum(x[0], x[4]), sum(x[1], x[5]), sum(x[2], x[6]), sum(x[3], x[7])};
+  const Z odd[] = {difference(x[0], x[4]), difference(x[1], x[5]), difference(x[2], x[6]), difference(x[3], x[7])};
+  dft4(even[0], even[1], even[2], even[3]);
+  const Z a = differenceWithI(odd[0], odd[2]);
+  const Z b = sumWithI(odd[0], odd[2]);
+  const Z c = difference(odd[1], odd[3]);
+  const Z d = sum(odd[1], odd[3]);
+  const Z one = differenceWithI(c, d);
+  const Z three = sumWithI(c, d);
+  x[0] = even[0];
+  x[1] = sumWith(kHalf, a, one);
+  x[2] = even[1];
+  x[3] = differenceWith(kHalf, b, three);
+  x[4] = even[2];
+  x[5] = differenceWith(kHalf, a, one);
+  x[6] = even[3];
+  x[7] = sumWith(kHalf, b, three);
 }
 
-template <class V> QVX_INLINE void dft16(Complex<V> (&x)[16]) {
-  using T = LaneOf<V>;
-  constexpr T kCos = T(0.92387953251128675613);
-  constexpr T kSin = T(0.38268343236508977173);
-  constexpr T kHalf = T(0.70710678118654752440);
+template <class Z> QVX_INLINE void dft16(Z (&x)[16]) {
+  constexpr double kCos = 0.92387953251128675613;
+  constexpr double kSin = 0.38268343236508977173;
+  constexpr double kHalf = 0.70710678118654752440;
   unrolled<4>([&](auto i) __attribute__((always_inline)) { dft4(x[i], x[i + 4], x[i + 8], x[i + 12]); });
   x[5] = product(x[5], kCos, -kSin);
   x[6] = product(x[6], kHalf, -kHalf);
   x[7] = product(x[7], kSin, -kCos);
   x[9] = product(x[9], kHalf, -kHalf);
-  x[10] = {x[10].im, hn::Neg(x[10].re)};
+  x[10] = timesMinusI(x[10]);
   x[11] = product(x[11], -kHalf, -kHalf);
   x[13] = product(x[13], kSin, -kCos);
   x[14] = product(x[14], -kHalf, -kHalf);
@@ -76,17 +89,17 @@ template <class V> QVX_INLINE void dft16(Complex<V> (&x)[16]) {
 }
 
 // x[k] = sum of x[n] exp(-2 pi i n k / R)
-template <class V, size_t R> QVX_INLINE void dft(Complex<V> (&x)[R]) {
-  static_assert(R == 2 || R == 4 || R == 8 || R == 16);
+template <class Z, size_t R> QVX_INLINE void dft(Z (&x)[R]) {
+  static_assert(R == 1 || R == 2 || R == 4 || R == 8 || R == 16);
   if constexpr (R == 2) {
-    const Complex<V> off = difference(x[0], x[1]);
+    const Z off = difference(x[0], x[1]);
     x[0] = sum(x[0], x[1]);
     x[1] = off;
   } else if constexpr (R == 4) {
     dft4(x[0], x[1], x[2], x[3]);
   } else if constexpr (R == 8) {
     dft8(x);
-  } else {
+  } else if constexpr (R == 16) {
     dft16(x);
   }
 }
@@ -130,6 +143,7 @@ template <class V> QVX_INLINE void transposeBlocks(V (&r)[4]) {
 }
 
 // Lane i of r[k] goes to lane k of r[i].
+template <class V> QVX_INLINE void transpose(V (&)[1]) {}
 template <class V, size_t L> QVX_INLINE void transpose(V (&r)[L]) {
   static_assert(L == kLanesOf<V>);
   constexpr size_t kBlock = 16 / sizeof(LaneOf<V>);

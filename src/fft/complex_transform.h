@@ -16,17 +16,17 @@ template <class T, class Step> QVX_INLINE void withLanes(int order, Step step) {
 }
 
 // Orders that the widest registers hold whole, and how.
-enum class Fold { kNone, kSquare, kHalves, kQuarters };
+enum class Fold { kNone, kSquare, kHalves };
 template <class T> constexpr Fold foldOf(int order) {
   constexpr int kSquare = 2 * log2Of(kWidest<T>);
   if (order <= Orders<T>::kSmall || order > kSquare) return Fold::kNone;
-  return order == kSquare ? Fold::kSquare : order == kSquare - 1 ? Fold::kHalves : Fold::kQuarters;
+  return order == kSquare ? Fold::kSquare : order == kSquare - 1 ? Fold::kHalves : Fold::kNone;
 }
 
 // The roots of a transform of 2^order points, from `block` on. Order: that of the lanes in its source.
 template <class Order, class T> T* writePlan(Plan<T>& plan, int order, T* block) {
   T* row = alignedUp<64>(block);
-  if (foldOf<T>(order) == Fold::kHalves || foldOf<T>(order) == Fold::kQuarters) {
+  if (foldOf<T>(order) == Fold::kHalves) {
     constexpr size_t L = kWidest<T>;
     const size_t n = size_t{1} << order;
     plan = {row, nullptr};
@@ -45,7 +45,7 @@ template <class Order, class T> T* writePlan(Plan<T>& plan, int order, T* block)
   return end;
 }
 template <class Order, class T> T* writeRootsOf(Spec<T>& spec, int order, T* block) {
-  if (order <= Orders<T>::kSmall) return block;
+  if (order <= kShortOrder<Order>) return block;
   if (order <= Orders<T>::kThreaded) return writePlan<Order>(spec.plan, order, block);
   constexpr size_t L = kWidest<T>;
   const size_t n = size_t{1} << kBlockBits;
@@ -77,9 +77,6 @@ template <class T, class Src, class Dst, class Fit>
     case Fold::kHalves:
       if constexpr (L >= 16) return transformInHalves<L>(src, dst, spec.plan.rowRoots, fit);
       break;
-    case Fold::kQuarters:
-      if constexpr (L >= 16) return transformInQuarters(src, dst, spec.plan.rowRoots, fit);
-      break;
     case Fold::kNone:
       break;
   }
@@ -88,26 +85,27 @@ template <class T, class Src, class Dst, class Fit>
 
 template <class T, class Src, class Dst, class Fit>
 QVX_INLINE void complexTransform(const Spec<T>& spec, int order, Src src, Dst dst, T* y, Fit fit) {
-  if (order <= Orders<T>::kSmall) smallTransform(order, src, dst, fit);
+  if (order <= kShortOrder<Src>) smallTransform(order, src, dst, fit);
   else longTransform(spec, order, src, dst, y, fit);
 }
 
-// As called: what the flag says of this direction, and working memory.
-template <bool kInverse, class Record, class Src, class Dst, class Run>
-QvxStatus called(const Record* spec, Src src, Dst dst, Qvx8u* pBuffer, Run run) {
+// A record and vectors that may be used.
+template <class Record, class Src, class Dst> QvxStatus checkCall(const Record* spec, Src src, Dst dst) {
   const QvxStatus status = checkSpec(spec);
-  if (status != qvxStatOk) return status;
-  if (isMissing(src) || isMissing(dst)) return qvxStatNullPtr;
-  using T = typename Record::T;
-  const auto scaled = [&](T * y) __attribute__((always_inline)) {
-    if (kInverse ? spec->invScaled : spec->fwdScaled) run(*spec, y, Times<T>{spec->normFactor});
-    else run(*spec, y, Plain{});
-    return qvxStatOk;
-  };
-  if (spec->workSize == 0) return scaled(nullptr);
-  if (!isNull(pBuffer)) return scaled(Carver<32>(pBuffer).template take<T>(0));
-  const Block own(spec->workSize);
-  return own ? scaled(reinterpret_cast<T*>(own.get())) : qvxStatNoMem;
+  return status == qvxStatOk && (isMissing(src) || isMissing(dst)) ? qvxStatNullPtr : status;
+}
+
+// run(fit) with what the flag says of this direction.
+template <bool kInverse, class T, class Run> QVX_INLINE QvxStatus withFit(const Spec<T>& spec, Run run) {
+  return (kInverse ? spec.invScaled : spec.fwdScaled) ? run(Times<T>{spec.normFactor}) : run(Plain{});
+}
+
+// run(y, fit), y being the working memory that the record asks for.
+template <bool kInverse, class T, class Run> QVX_INLINE QvxStatus withWork(const Spec<T>& spec, Qvx8u* pBuffer, Run run) {
+  const Scratch<32> scratch(pBuffer, spec.workSize);
+  if (scratch.isMissing(spec.workSize)) return qvxStatNoMem;
+  T* y = scratch.carver().template take<T>(0);
+  return withFit<kInverse>(spec, [=](auto fit) { return run(y, fit), qvxStatOk; });
 }
 
 // ---- The functions of complex record types. Order: that of the lanes in their sources.
@@ -122,11 +120,19 @@ QvxStatus initComplex(Record** ppSpec, int order, int flag, int hint, Qvx8u* pMe
   });
 }
 
+template <bool kInverse, class T, class Src, class Dst>
+[[gnu::noinline]] QvxStatus longCall(const Spec<T>& spec, Src src, Dst dst, Qvx8u* pBuffer) {
+  return withWork<kInverse>(spec, pBuffer, [&](T* y, auto fit) { longTransform(spec, spec.order, src, dst, y, fit); });
+}
+// A short transform ends in a jump to its code, without a stack frame of its own: that is a third of its time.
 template <bool kInverse, class Record, class Src, class Dst>
-QvxStatus transformed(const Record* spec, Src src, Dst dst, Qvx8u* pBuffer) {
-  return called<kInverse>(spec, src, dst, pBuffer, [=](const Record& record, auto* y, auto fit) {
-    complexTransform(record, record.order, src, dst, y, fit);
-  });
+QVX_INLINE QvxStatus transformed(const Record* spec, Src src, Dst dst, Qvx8u* pBuffer) {
+  using T = typename Record::T;
+  const QvxStatus status = checkCall(spec, src, dst);
+  if (status != qvxStatOk) return status;
+  if (spec->order > kShortOrder<Src>) return longCall<kInverse, T>(*spec, src, dst, pBuffer);
+  return withFit<kInverse, T>(
+      *spec, [=](auto fit) __attribute__((always_inline)) { return smallTransform(spec->order, src, dst, fit); });
 }
 template <bool kInverse, class C, class Record>
 QvxStatus interleavedTransform(const C* src, C* dst, const Record* spec, Qvx8u* pBuffer) {

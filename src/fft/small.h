@@ -1,7 +1,7 @@
-// Transforms of up to 32 points, whose roots are constants of the code.
+// Transforms of up to 128 points, whose roots are constants of the code.
 #pragma once
 
-#include "fft/folded.h"
+#include "fft/numbers.h"
 #include "fft/plan.h"
 
 namespace qvx::fft {
@@ -50,14 +50,32 @@ template <size_t kPoints, class Src, class Dst, class Fit> QVX_INLINE void inHal
   else inTwoPasses<kPoints>(src, dst, fit);
 }
 
-// Each a function of its own: a call of 8 points takes 5 ns, of which a stack frame for 32 would be one.
-template <int kOrder, class Src, class Dst, class Fit> [[gnu::noinline]] void smallTransformOf(Src src, Dst dst, Fit fit) {
+template <int kOrder, class Src, class Dst, class Fit> QVX_INLINE void transformApart(Src src, Dst dst, Fit fit) {
   if constexpr (kOrder <= 2) inLanes<(1 << kOrder)>(src, dst, fit);
   else if constexpr (kOrder == 4) inTwoPasses<16>(src, dst, fit);
   else inHalves<(1 << kOrder)>(src, dst, fit);
 }
+template <int kOrder, class T, bool kSwapped, class Fit>
+QVX_INLINE void transformInterleaved(const T* src, Interleaved<T, kSwapped> dst, Fit fit) {
+  constexpr size_t N = size_t{1} << kOrder;
+  using V = typename Shape<T, N>::V;
+  const auto get = [=](size_t at) __attribute__((always_inline)) { return load(TagOf<V>(), src + 2 * at); };
+  const auto put = [=](size_t at, V v) __attribute__((always_inline)) { store(fit(v), TagOf<V>(), dst.p + 2 * at); };
+  transformNumbers<N, kSwapped, T>(get, put);
+}
 
-template <class Src, class Dst, class Fit> QVX_INLINE void smallTransform(int order, Src src, Dst dst, Fit fit) {
+// Each a function of its own: a call of 8 points takes 4 ns, of which a stack frame for 32 would be one.
+template <int kOrder, class Src, class Dst, class Fit> [[gnu::noinline]] QvxStatus smallTransformOf(Src src, Dst dst, Fit fit) {
+  if constexpr (requires { src.p; }) transformInterleaved<kOrder>(src.p, dst, fit);
+  else transformApart<kOrder>(src, dst, fit);
+  return qvxStatOk;
+}
+
+// Up to kShortOrder.
+template <class Points> inline constexpr int kShortOrder = 5;
+template <class T, bool kSwapped>
+inline constexpr int kShortOrder<Interleaved<T, kSwapped>> = kWidest<std::remove_const_t<T>> == 16 ? 6 : 7;
+template <class Src, class Dst, class Fit> QVX_INLINE QvxStatus smallTransform(int order, Src src, Dst dst, Fit fit) {
   switch (order) {
     case 0:
       return smallTransformOf<0>(src, dst, fit);
@@ -69,8 +87,12 @@ template <class Src, class Dst, class Fit> QVX_INLINE void smallTransform(int or
       return smallTransformOf<3>(src, dst, fit);
     case 4:
       return smallTransformOf<4>(src, dst, fit);
-    default:
+    case 5:
       return smallTransformOf<5>(src, dst, fit);
+    case 6:
+      return smallTransformOf<std::min(6, kShortOrder<Src>)>(src, dst, fit);
+    default:
+      return smallTransformOf<kShortOrder<Src>>(src, dst, fit);
   }
 }
 

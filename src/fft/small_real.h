@@ -1,73 +1,142 @@
-// Transforms of up to 16 real numbers, one lane each, by even and odd elements.
+// Transforms of up to 32 real numbers, as half as many complex ones that stay in registers.
+//
+// Between the transform Z of the complex ones and the spectrum X there is, with a = Z[k], b = Z[H - k], N = 2H,
+//
+//   s = a + conj b     t = f W^k (a - conj b)     X[k] = g s + t     X[H - k] = conj(g s - t)
+//
+// f = -i/2, g = 1/2 and W = exp(-2 pi i / N); and the same on the way back with X and Z exchanged, f = i, g = 1 and W = exp(2 pi
+// i / N). X[H] takes the place of Z[0], b of k = 0.
 #pragma once
 
-#include "fft/folded.h"
+#include "fft/numbers.h"
 
 namespace qvx::fft {
 
-// X[0], X[N/2], and X[k] for the k between them.
-template <size_t N, class V> struct HalfSpectrum {
-  V first;
-  V last;
-  Complex<V> between[N / 2];
+// ---- Where a spectrum's parts stand. All but the first and the last number are pairs; perm has those of pair k at 2k.
+
+enum class Layout { kPerm, kPack, kCcs };
+
+// Where the real part of pair k stands, and the one number of X[N/2].
+template <Layout kLayout> constexpr size_t placeOf(size_t k) { return kLayout == Layout::kPack ? 2 * k - 1 : 2 * k; }
+template <Layout kLayout> constexpr size_t lastPlace(size_t n) {
+  return kLayout == Layout::kPerm ? 1 : kLayout == Layout::kPack ? n - 1 : n;
+}
+
+template <class V> QVX_INLINE V exchanged(V v) { return hn::ConcatLowerUpper(TagOf<V>(), v, v); }
+template <class V> QVX_INLINE V firstAndSecond(V a, V b) { return hn::ConcatUpperLower(TagOf<V>(), b, a); }
+
+// f W^k
+template <class T_, size_t H, bool kInverse> struct RealShape {
+  using T = T_;
+  static constexpr size_t P = Shape<T, H>::P;
+  using V = typename Shape<T, H>::V;
+  static constexpr size_t kVectors = H / P;
+
+  static constexpr double kFactor = kInverse ? 1 : 0.5;
+  constexpr size_t operator()(size_t vector, size_t l) const {
+    const size_t k = (vector * P + l) * 64 / H;
+    return kInverse ? 96 - k : 32 + k;
+  }
 };
 
-template <size_t N, class V> QVX_INLINE Complex<V> rootOf(size_t k, bool inverse) {
-  using T = LaneOf<V>;
-  const double sine = cosineOf32(k * (32 / N) + 8);  // -sin
-  return {same<V>(T(cosineOf32(k * (32 / N)))), same<V>(T(inverse ? -sine : sine))};
+// Number k of each vector, and number H - k.
+template <bool kInverse, class V> QVX_INLINE void recombineNumbers(V& a, V& b, const LaneOf<V>* root) {
+  const V s = hn::MulAdd(b, alternating<V>(), a);
+  const V t = turned<false>(hn::NegMulAdd(b, alternating<V>(), a), root);
+  a = hn::MulAdd(s, same<V>(LaneOf<V>(kInverse ? 1 : 0.5)), t);
+  b = minusPlus(s * alternating < V, kInverse ? 2 : 1 > (), t);
 }
 
-// x(i): element i.
-template <size_t N, class V, class Get> QVX_INLINE HalfSpectrum<N, V> realForward(Get x) {
-  HalfSpectrum<N, V> result;
-  if constexpr (N == 2) {
-    result.first = x(0) + x(1);
-    result.last = x(0) - x(1);
-  } else {
-    constexpr size_t M = N / 2;
-    const auto even = realForward<M, V>([=](size_t i) __attribute__((always_inline)) { return x(2 * i); });
-    const auto odd = realForward<M, V>([=](size_t i) __attribute__((always_inline)) { return x(2 * i + 1); });
-    result.first = even.first + odd.first;
-    result.last = even.first - odd.first;
-    result.between[M / 2] = {even.last, hn::Neg(odd.last)};
-    unrolled<(M > 2 ? M / 2 - 1 : 0)>([&](auto i) __attribute__((always_inline)) {
+template <Layout kLayout, size_t N, class T, class Fit> [[gnu::noinline]] QvxStatus smallForward(const T* src, T* dst, Fit fit) {
+  constexpr size_t H = N / 2;
+  using S = RealShape<T, H, false>;
+  using V = typename S::V;
+  constexpr size_t P = S::P;
+  constexpr size_t kVectors = S::kVectors;
+  V z[kVectors];
+  transformNumbers<H, false, T>(
+      [=](size_t at) __attribute__((always_inline)) { return load(TagOf<V>(), src + 2 * at); },
+      [&](size_t at, V v) __attribute__((always_inline)) { z[at / P] = v; });
+
+  const auto put = [=](size_t k, auto v) __attribute__((always_inline)) {
+    store(fit(v), TagOf<decltype(v)>(), dst + placeOf<kLayout>(k));
+  };
+  const V first = z[0] + swapped(z[0]);
+  const V last = z[0] - swapped(z[0]);
+  if constexpr (P == 1) {
+    if constexpr (H > 1) put(H / 2, z[H / 2] * alternating<V>());
+    unrolled<(H > 2 ? H / 2 - 1 : 0)>([&](auto i) __attribute__((always_inline)) {
       constexpr size_t k = i + 1;
-      const Complex<V> turned = product(odd.between[k], rootOf<N, V>(k, false));
-      const Complex<V> mirrored = difference(even.between[k], turned);
-      result.between[k] = sum(even.between[k], turned);
-      result.between[M - k] = {mirrored.re, hn::Neg(mirrored.im)};
+      V b = z[H - k];
+      recombineNumbers<false>(z[k], b, kNumberRoots<S, kVectors>.root[k]);
+      put(k, z[k]);
+      put(H - k, b);
+    });
+  } else {
+    const Lanes<T, 2> one;
+    put(H / 2, hn::LowerHalf(one, z[kVectors / 2] * alternating<V>()));
+    unrolled<kVectors / 2>([&](auto q) __attribute__((always_inline)) {
+      constexpr size_t k = 2 * q;
+      V a = z[q];
+      V b = firstAndSecond(z[(kVectors - q) % kVectors], z[kVectors - 1 - q]);
+      recombineNumbers<false>(a, b, kNumberRoots<S, kVectors>.root[q]);
+      if constexpr (k == 0) {
+        put(1, hn::UpperHalf(one, a));
+        put(H - 1, hn::UpperHalf(one, b));
+      } else {
+        put(k, a);
+        put(H - k - 1, exchanged(b));
+      }
     });
   }
-  return result;
+  dst[0] = hn::GetLane(fit(first));
+  dst[lastPlace<kLayout>(N)] = hn::GetLane(fit(last));
+  if constexpr (kLayout == Layout::kCcs) dst[1] = dst[N + 1] = 0;
+  return qvxStatOk;
 }
 
-// N times the sequence: put(i, x).
-template <size_t N, class V, class Put> QVX_INLINE void realInverse(const HalfSpectrum<N, V>& spectrum, Put put) {
-  if constexpr (N == 2) {
-    put(0, spectrum.first + spectrum.last);
-    put(1, spectrum.first - spectrum.last);
-  } else {
-    constexpr size_t M = N / 2;
-    const Complex<V> middle = spectrum.between[M / 2];
-    HalfSpectrum<M, V> even;
-    HalfSpectrum<M, V> odd;
-    even.first = spectrum.first + spectrum.last;
-    even.last = middle.re + middle.re;
-    odd.first = spectrum.first - spectrum.last;
-    odd.last = hn::Neg(middle.im + middle.im);
-    unrolled<(M > 2 ? M / 2 - 1 : 0)>([&](auto i) __attribute__((always_inline)) {
+template <Layout kLayout, size_t N, class T, class Fit> [[gnu::noinline]] QvxStatus smallInverse(const T* src, T* dst, Fit fit) {
+  constexpr size_t H = N / 2;
+  using S = RealShape<T, H, true>;
+  using V = typename S::V;
+  constexpr size_t P = S::P;
+  constexpr size_t kVectors = S::kVectors;
+  const TagOf<V> d;
+  const Lanes<T, 2> one;
+  const auto get = [=](auto tag, size_t k) __attribute__((always_inline)) { return load(tag, src + placeOf<kLayout>(k)); };
+  const auto both = [=](size_t k) __attribute__((always_inline)) {
+    if constexpr (P == 1) return get(one, k);
+    else return hn::Combine(d, get(one, k), get(one, k));
+  };
+  V z[kVectors];
+  V mirrored[kVectors];  // numbers H - k and H - k - 1, k = 0, 2 ..
+  const V ends = swapped(minusPlus(same<V>(src[0]), same<V>(src[lastPlace<kLayout>(N)])));
+  z[0] = ends;
+  if constexpr (P == 1) {
+    unrolled<(H > 2 ? H / 2 - 1 : 0)>([&](auto i) __attribute__((always_inline)) {
       constexpr size_t k = i + 1;
-      const Complex<V> a = spectrum.between[k];
-      const Complex<V> b = {spectrum.between[M - k].re, hn::Neg(spectrum.between[M - k].im)};
-      even.between[k] = sum(a, b);
-      odd.between[k] = product(difference(a, b), rootOf<N, V>(k, true));
+      z[k] = get(d, k);
+      z[H - k] = get(d, H - k);
+      recombineNumbers<true>(z[k], z[H - k], kNumberRoots<S, kVectors>.root[k]);
     });
-    realInverse<M>(
-        even, [=](size_t i, V v) __attribute__((always_inline)) { put(2 * i, v); });
-    realInverse<M>(
-        odd, [=](size_t i, V v) __attribute__((always_inline)) { put(2 * i + 1, v); });
+    if constexpr (H > 1) z[H / 2] = get(d, H / 2) * alternating<V, 4>();
+  } else {
+    mirrored[kVectors / 2] = both(H / 2) * alternating<V, 4>();
+    unrolled<kVectors / 2>([&](auto q) __attribute__((always_inline)) {
+      constexpr size_t k = 2 * q;
+      z[q] = k == 0 ? both(1) : get(d, k);
+      mirrored[q] = k == 0 ? both(H - 1) : exchanged(get(d, H - k - 1));
+      recombineNumbers<true>(z[q], mirrored[q], kNumberRoots<S, kVectors>.root[q]);
+    });
+    z[0] = firstAndSecond(ends, z[0]);
+    unrolled<kVectors / 2>([&](auto q) __attribute__((always_inline)) {
+      z[kVectors - 1 - q] = firstAndSecond(mirrored[q + 1], mirrored[q]);
+    });
   }
+  transformNumbers<H, true, T>(
+      [&](size_t at) __attribute__((always_inline)) { return z[at / P]; }, [=
+  ](size_t at, V v) __attribute__((always_inline)) { store(fit(v), TagOf<V>(), dst + 2 * at); });
+  return qvxStatOk;
 }
 
 }  // namespace qvx::fft

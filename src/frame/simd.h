@@ -82,6 +82,8 @@ inline __m128i pairProducts(__m128i a, __m128i b) { return _mm_madd_epi16(a, b);
 template <int kBy> __m128d delayed(__m128d before, __m128d v) { return _mm_shuffle_pd(before, v, 0x1); }
 template <int kAt> __m128d everyLane(__m128d v) { return _mm_shuffle_pd(v, v, kAt * 0x3); }
 template <int kAt> __m128d everyBlock(__m128d v) { return v; }
+inline __m128 minusPlus(__m128 a, __m128 b) { return _mm_addsub_ps(a, b); }
+inline __m128d minusPlus(__m128d a, __m128d b) { return _mm_addsub_pd(a, b); }
 inline __m128 evens(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0x88); }
 inline __m128 odds(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0xDD); }
 #if HWY_TARGET <= HWY_AVX2
@@ -93,6 +95,8 @@ template <int kBy> __m256d delayed(__m256d before, __m256d v) {
 }
 template <int kAt> __m256d everyLane(__m256d v) { return _mm256_permute4x64_pd(v, kAt * 0x55); }
 template <int kAt> __m256d everyBlock(__m256d v) { return _mm256_permute2f128_pd(v, v, kAt * 0x11); }
+inline __m256 minusPlus(__m256 a, __m256 b) { return _mm256_addsub_ps(a, b); }
+inline __m256d minusPlus(__m256d a, __m256d b) { return _mm256_addsub_pd(a, b); }
 inline __m256 evens(__m256 x, __m256 y) { return _mm256_shuffle_ps(x, y, 0x88); }
 inline __m256 odds(__m256 x, __m256 y) { return _mm256_shuffle_ps(x, y, 0xDD); }
 template <class V> auto twice(V v) {
@@ -135,6 +139,8 @@ template <int kBy> __m512d delayed(__m512d before, __m512d v) {
 }
 template <int kAt> __m512d everyLane(__m512d v) { return _mm512_permutexvar_pd(_mm512_set1_epi64(kAt), v); }
 template <int kAt> __m512d everyBlock(__m512d v) { return _mm512_shuffle_f64x2(v, v, kAt * 0x55); }
+inline __m512 minusPlus(__m512 a, __m512 b) { return _mm512_fmaddsub_ps(a, _mm512_set1_ps(1), b); }
+inline __m512d minusPlus(__m512d a, __m512d b) { return _mm512_fmaddsub_pd(a, _mm512_set1_pd(1), b); }
 inline __m512 evens(__m512 x, __m512 y) { return _mm512_shuffle_ps(x, y, 0x88); }
 inline __m512 odds(__m512 x, __m512 y) { return _mm512_shuffle_ps(x, y, 0xDD); }
 inline __m512 evenBlocks(__m512 a, __m512 b) { return _mm512_shuffle_f32x4(a, b, 0x88); }
@@ -461,6 +467,9 @@ template <class V> Complex<V> evenAndOdd(V x, V y) {
     return {V{detail::evens(x.raw, y.raw)}, V{detail::odds(x.raw, y.raw)}};
   else return {hn::InterleaveLower(d, x, y), hn::InterleaveUpper(d, x, y)};
 }
+
+// a - b in the even lanes, a + b in the odd ones.
+template <class V> V minusPlus(V a, V b) { return V{detail::minusPlus(a.raw, b.raw)}; }
 
 // The even or the odd ones of the 128-bit blocks of two vectors.
 template <class V> V evenBlocks(V a, V b) {

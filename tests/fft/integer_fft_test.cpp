@@ -1,4 +1,6 @@
 // Transforms of integers: the definition, rounded and saturated; and what records and calls refuse.
+#include <qvx/qvxcore.h>
+
 #include <array>
 #include <cstring>
 
@@ -283,6 +285,28 @@ TEST(IntegerFft, ExtremeScaleFactors) {
       const Numbers large = called(call, x, length, record.get(), -200, record.bufferSize());
       EXPECT_EQ(*std::max_element(large.begin(), large.end()), std::numeric_limits<To>::max());
       EXPECT_EQ(large[0], std::numeric_limits<To>::max());
+    }
+  });
+}
+
+// Where the floats' transform takes two threads, the same numbers as with one.
+TEST(IntegerFft, NobodyCanTellTheThreads) {
+  forEachWay([](const auto& life, const auto& call, const Way& way) {
+    using From = typename std::decay_t<decltype(call)>::From;
+    tests::Random random(tests::seed());
+    for (const int order : {14, 16}) {
+      const size_t n = size_t{1} << order;
+      const size_t length = way.inverse ? sequenceLength(way.layout, n) : spectrumLength(way.layout, n);
+      const size_t from = way.inverse ? spectrumLength(way.layout, n) : sequenceLength(way.layout, n);
+      const Numbers src = sourceOf<From>(0, from, random);
+      Numbers found[2];
+      for (const int threads : {1, 2}) {
+        qvxSetNumThreads(threads);
+        const tests::Record record(life, order, QVX_FFT_SCALE_FWD);
+        found[threads - 1] = called(call, src, length, record.get(), -order / 2, record.bufferSize());
+      }
+      qvxSetNumThreads(0);
+      EXPECT_EQ(found[0], found[1]) << "layout " << way.layout << (way.inverse ? " inverse" : " forward") << ", order " << order;
     }
   });
 }

@@ -1,0 +1,128 @@
+// Transforms of up to 128 points on complex numbers as they stand in memory, one, two or four to a vector.
+//
+// There is nothing to deinterleave, and a quarter turn costs an exchange of parts. What counts for so few points is the way from
+// a load to a store: 3 cycles for any shuffle or sum, 5 for a fused one, and 10 more from that store to the next call's load
+// where one works on the other's result (2 more in registers of 64 bytes, and 7 where a load joins two stores).
+#pragma once
+
+#include "fft/folded.h"
+
+namespace qvx::fft {
+
+// kSwapped: with real and imaginary parts exchanged.
+template <class V, bool kSwapped> struct Numbers { V v; };
+
+// So many halves, with both signs in turn.
+template <class T, int kHalves> struct Alternating {
+  T v[8];
+  constexpr Alternating() : v() {
+    for (int i = 0; i < 8; ++i) v[i] = static_cast<T>((i % 2 == 0 ? 0.5 : -0.5) * kHalves);
+  }
+};
+template <class T, int kHalves> alignas(64) inline constexpr Alternating<T, kHalves> kAlternating;
+template <class V, int kHalves = 2> QVX_INLINE V alternating() { return load(TagOf<V>(), kAlternating<LaneOf<V>, kHalves>.v); }
+
+template <class V> QVX_INLINE V plusI(V a, V b) { return minusPlus(a, swapped(b)); }
+template <class V> QVX_INLINE V minusI(V a, V b) { return hn::MulAdd(swapped(b), alternating<V>(), a); }
+
+template <class V, bool kSwapped> QVX_INLINE auto sum(Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
+  return Numbers<V, kSwapped>{a.v + b.v};
+}
+template <class V, bool kSwapped> QVX_INLINE auto difference(Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
+  return Numbers<V, kSwapped>{a.v - b.v};
+}
+template <class V, bool kSwapped> QVX_INLINE auto sumWithI(Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
+  return Numbers<V, kSwapped>{kSwapped ? minusI(a.v, b.v) : plusI(a.v, b.v)};
+}
+template <class V, bool kSwapped> QVX_INLINE auto differenceWithI(Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
+  return Numbers<V, kSwapped>{kSwapped ? plusI(a.v, b.v) : minusI(a.v, b.v)};
+}
+template <class V, bool kSwapped> QVX_INLINE auto sumWith(double factor, Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
+  return Numbers<V, kSwapped>{hn::MulAdd(b.v, same<V>(static_cast<LaneOf<V>>(factor)), a.v)};
+}
+template <class V, bool kSwapped> QVX_INLINE auto differenceWith(double factor, Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
+  return Numbers<V, kSwapped>{hn::NegMulAdd(b.v, same<V>(static_cast<LaneOf<V>>(factor)), a.v)};
+}
+template <class V, bool kSwapped> QVX_INLINE auto product(Numbers<V, kSwapped> z, LaneOf<V> re, LaneOf<V> im) {
+  return Numbers<V, kSwapped>{minusPlus(z.v * same<V>(re), swapped(z.v) * same<V>(kSwapped ? -im : im))};
+}
+template <class V, bool kSwapped> QVX_INLINE auto timesMinusI(Numbers<V, kSwapped> z) {
+  return Numbers<V, kSwapped>{swapped(z.v) * alternating < V, kSwapped ? -2 : 2 > ()};
+}
+
+// Roots for vectors of P numbers, number l of vector i being exp(-2 pi i x(i, l) / 128) times `factor`: the real part twice, the
+// imaginary part with both signs.
+template <class T, size_t P, size_t kVectors, class Index> struct NumberRoots {
+  T root[kVectors][4 * P];
+  constexpr NumberRoots() : root() {
+    for (size_t i = 0; i < kVectors * P; ++i) {
+      const auto re = static_cast<T>(Index::kFactor * cosineOf128(Index()(i / P, i % P)));
+      const auto minusIm = static_cast<T>(Index::kFactor * -cosineOf128(Index()(i / P, i % P) + 32));
+      T* at = root[i / P] + 2 * (i % P);
+      at[0] = at[1] = re;
+      at[2 * P] = minusIm;
+      at[2 * P + 1] = -minusIm;
+    }
+  }
+};
+template <bool kSwapped, class V> QVX_INLINE V turned(V v, const LaneOf<V>* root) {
+  const TagOf<V> d;
+  const V re = v * load(d, root);
+  const V im = load(d, root + kLanesOf<V>);
+  return kSwapped ? hn::NegMulAdd(swapped(v), im, re) : hn::MulAdd(swapped(v), im, re);
+}
+
+// As many vectors as they have numbers.
+template <class V, size_t P> QVX_INLINE void transposeNumbers(V (&r)[P]) {
+  if constexpr (sizeof(LaneOf<V>) == 8) {
+    transposeBlocks(r);
+  } else {
+    Vec<hn::Repartition<double, TagOf<V>>> numbers[P];
+    unrolled<P>([&](auto i) __attribute__((always_inline)) { numbers[i] = as<double>(r[i]); });
+    transpose(numbers);
+    unrolled<P>([&](auto i) __attribute__((always_inline)) { r[i] = as<float>(numbers[i]); });
+  }
+}
+
+// The points of a transform, R down a column and C along a row.
+template <class T_, size_t N> struct Shape {
+  using T = T_;
+  static constexpr size_t R = N <= 8 ? N : N == 16 ? 4 : 8;
+  static constexpr size_t C = N / R;
+  static constexpr size_t P = N <= 8 ? 1 : std::min<size_t>(N == 16 ? 2 : 4, kWidest<T> / 2);
+  using V = Vec<Lanes<T, 2 * P>>;
+
+  static constexpr double kFactor = 1;
+  constexpr size_t operator()(size_t vector, size_t l) const { return (vector % (C / P) * P + l) * (vector / (C / P)) * 128 / N; }
+};
+template <class S, size_t kVectors> alignas(64) inline constexpr NumberRoots<typename S::T, S::P, kVectors, S> kNumberRoots;
+
+// put(at, v): results at, at + 1
+template <size_t N, bool kSwapped, class T, class Get, class Put> QVX_INLINE void transformNumbers(Get get, Put put) {
+  using S = Shape<T, N>;
+  constexpr size_t P = S::P;
+  using Z = Numbers<typename S::V, kSwapped>;
+  Z x[S::C / P][S::R];
+  unrolled<S::C / P>([&](auto h) __attribute__((always_inline)) {
+    unrolled<S::R>([&](auto m) __attribute__((always_inline)) { x[h][m].v = get(m * S::C + h * P); });
+    dft(x[h]);
+    if constexpr (S::C > 1) {
+      unrolled<S::R - 1>([&](auto m) __attribute__((always_inline)) {
+        x[h][m + 1].v = turned<kSwapped>(x[h][m + 1].v, kNumberRoots<S, N / P>.root[(m + 1) * (S::C / P) + h]);
+      });
+    }
+  });
+  unrolled<S::R / P>([&](auto q) __attribute__((always_inline)) {
+    Z y[S::C];
+    unrolled<S::C / P>([&](auto h) __attribute__((always_inline)) {
+      typename S::V r[P];
+      unrolled<P>([&](auto l) __attribute__((always_inline)) { r[l] = x[h][q * P + l].v; });
+      transposeNumbers(r);
+      unrolled<P>([&](auto l) __attribute__((always_inline)) { y[h * P + l].v = r[l]; });
+    });
+    dft(y);
+    unrolled<S::C>([&](auto k) __attribute__((always_inline)) { put(q * P + k * S::R, y[k].v); });
+  });
+}
+
+}  // namespace qvx::fft
