@@ -58,7 +58,7 @@ template <class T, class Value> void writeRealGroups(T* out, size_t n, size_t co
   constexpr size_t L = kWidest<T>;
   const auto put = intoGroups<L>(out);
   writeRoots(
-      n, count, [](size_t i) { return i / L * L + Interleaved<T, false>::template element<L>(i % L) + 1; },
+      n, count, [=](size_t i) { return i / L * L + Interleaved<T, false>::template element<L>(i % L) + 1; },
       [=](size_t i, double re, double im) {
         const auto v = value(re, im);
         put(i, v.re, v.im);
