@@ -78,7 +78,7 @@ long long Filter::apply(const std::string& input, const std::string& output) con
   std::vector<Qvx32f*> channel;
   for (int c = 0; c < channels; ++c) {
     states.push_back(makeState(taps_));
-    channel.push_back(samples.get() + c * kBlockFrames);
+    channel.push_back(samples.get() + std::ptrdiff_t{c} * kBlockFrames);
   }
   long long all = 0;
   for (int frames; (frames = in.read(frame.get())) > 0; all += frames) {

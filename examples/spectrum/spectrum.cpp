@@ -50,6 +50,7 @@ class Welch {
 
   std::vector<double> levels() const {
     std::vector<double> all;
+    all.reserve(static_cast<size_t>(bins()));
     for (int k = 0; k < bins(); ++k) all.push_back(std::max(kLeastDb, 10 * std::log10(sum_[k] / static_cast<double>(count_))));
     return all;
   }
