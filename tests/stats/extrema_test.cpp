@@ -36,7 +36,10 @@ template <class T> std::vector<std::vector<T>> dataOf() {
   std::vector<std::vector<T>> all = {tests::values<T>(kMost, random)};
   const auto make = [&](auto each) {
     std::vector<T> v(kMost);
-    for (T& x : v) x = static_cast<T>(each());
+    for (T& x : v) {
+      if constexpr (std::is_integral_v<T>) x = static_cast<T>(static_cast<int64_t>(each()));
+      else x = static_cast<T>(each());
+    }
     all.push_back(v);
     return v;
   };

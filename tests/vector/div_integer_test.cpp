@@ -211,7 +211,7 @@ TEST(DivInteger, ComplexTies) {
       a[i].im = static_cast<Qvx16s>((i & 1) != 0 ? 0 : a[i].im >> width);
       const double half = std::ldexp(static_cast<double>(random() % 64) - 32 + 0.5, s);
       const auto near = [&](double v) {
-        return static_cast<Qvx16s>(std::clamp(v, -32768.0, 32767.0) + static_cast<int>(random() % 3) - 1);
+        return static_cast<Qvx16s>(std::clamp(v, -32767.0, 32766.0) + static_cast<int>(random() % 3) - 1);
       };
       b[i] = {near(a[i].re * half), near(a[i].im * half)};
     }
