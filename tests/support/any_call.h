@@ -153,14 +153,14 @@ class AnyCall : public Arguments {
   // Sources as they were, and nothing written around any vector.
   bool isIntact() const {
     return std::all_of(vectors_.begin(), vectors_.end(), [](const Vector& v) {
-      return v.block->isIntact() && (v.role != Role::kSource || std::memcmp(v.data(), v.copy.data(), v.bytes) == 0);
+      return v.block->isIntact() && (v.role != Role::kSource || std::equal(v.copy.begin(), v.copy.end(), v.data()));
     });
   }
   // The place of a record is nobody's until there is one.
   bool wroteNothing() const {
     return std::all_of(vectors_.begin(), vectors_.end(), [](const Vector& v) {
       const bool isFree = v.role == Role::kWork || v.role == Role::kHandle;
-      return v.block->isIntact() && (isFree || std::memcmp(v.data(), v.copy.data(), v.bytes) == 0);
+      return v.block->isIntact() && (isFree || std::equal(v.copy.begin(), v.copy.end(), v.data()));
     });
   }
   int64_t shape(const std::string& name) const {
