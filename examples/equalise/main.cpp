@@ -6,6 +6,7 @@
 #include <functional>
 #include <numeric>
 
+#include "../support/program.h"
 #include "equaliser.h"
 
 namespace {
@@ -83,11 +84,4 @@ int run(int argc, char** argv) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  try {
-    return run(argc, argv);
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "equalise: %s\n", error.what());
-    return 1;
-  }
-}
+int main(int argc, char** argv) { return runProgram("equalise", run, argc, argv); }

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <map>
 
+#include "../support/program.h"
 #include "codec.h"
 #include "distortion.h"
 
@@ -102,11 +103,4 @@ int run(int argc, char** argv) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  try {
-    return run(argc, argv);
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "g711: %s\n", error.what());
-    return 1;
-  }
-}
+int main(int argc, char** argv) { return runProgram("g711", run, argc, argv); }

@@ -7,6 +7,7 @@
 #include <map>
 #include <stdexcept>
 
+#include "../support/program.h"
 #include "mixer.h"
 
 namespace {
@@ -89,11 +90,4 @@ int run(int argc, char** argv) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  try {
-    return run(argc, argv);
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "mixdown: %s\n", error.what());
-    return 1;
-  }
-}
+int main(int argc, char** argv) { return runProgram("mixdown", run, argc, argv); }

@@ -89,9 +89,25 @@ template <Layout kLayout, size_t N, class T, class Fit> [[gnu::noinline]] QvxSta
       }
     });
   }
-  dst[0] = hn::GetLane(fit(first));
-  dst[lastPlace<kLayout>(N)] = hn::GetLane(fit(last));
-  if constexpr (kLayout == Layout::kCcs) dst[1] = dst[N + 1] = 0;
+  // Whole pairs, where a call that works on this one's result loads pairs: of a number from two stores it would wait twice as
+  // long.
+  const Lanes<T, 2> pair;
+  const auto ends = [=](V x, V y) __attribute__((always_inline)) {
+    if constexpr (P == 1) {
+      return hn::InterleaveLower(x, y);
+    } else {
+      return hn::LowerHalf(pair, hn::InterleaveLower(x, y));
+    }
+  };
+  if constexpr (kLayout == Layout::kCcs) {
+    store(ends(fit(first), hn::Zero(TagOf<V>())), pair, dst);
+    store(ends(fit(last), hn::Zero(TagOf<V>())), pair, dst + N);
+  } else if constexpr (kLayout == Layout::kPerm) {
+    store(ends(fit(first), fit(last)), pair, dst);
+  } else {
+    dst[0] = hn::GetLane(fit(first));
+    dst[N - 1] = hn::GetLane(fit(last));
+  }
   return qvxStatOk;
 }
 
