@@ -111,25 +111,25 @@ template <size_t G> struct Tile16 {
     else return i % 2 == 0 ? hn::LowerHalf(Row(), v[i / 2]) : hn::UpperHalf(Row(), v[i / 2]);
   }
 
-  template <class Sample> static void join(Sample sample, const Qvx32f* const* src, const Tile& t, Qvx16s* dst) {
+  template <bool kWhole, class Sample> static void join(Sample sample, const Qvx32f* const* src, const Tile& t, Qvx16s* dst) {
     Vec<Eight16> v[G];
 #pragma GCC unroll 8
     for (size_t c = 0; c < G; ++c) {
-      v[c] = joined8(sample, src[t.channel + std::min(c, t.channels - 1)] + t.frame, t.frames);
+      v[c] = joined8(sample, src[t.channel + std::min(c, t.channels - 1)] + t.frame, kWhole ? 8 : t.frames);
     }
     shuffle<kToRows>(v);
 #pragma GCC unroll 8
     for (size_t i = 0; i < 8; ++i) {
-      if (i < t.whole) store(row(v, i), Row(), dst + t.at(i));
+      if (kWhole || i < t.whole) store(row(v, i), Row(), dst + t.at(i));
       else if (i < t.frames) storeFirst(row(v, i), Row(), dst + t.at(i), t.channels);
     }
   }
 
-  static void split(const Qvx16s* src, const Tile& t, Qvx32f* const* dst) {
+  template <bool kWhole> static void split(const Qvx16s* src, const Tile& t, Qvx32f* const* dst) {
     Vec<Row> rows[8];
 #pragma GCC unroll 8
     for (size_t i = 0; i < 8; ++i) {
-      if (i < t.whole) rows[i] = load(Row(), src + t.at(i));
+      if (kWhole || i < t.whole) rows[i] = load(Row(), src + t.at(i));
       else rows[i] = loadFirst(Row(), src + t.at(std::min(i, t.frames - 1)), t.channels);
     }
     Vec<Eight16> v[G];
@@ -141,7 +141,7 @@ template <size_t G> struct Tile16 {
     shuffle<3>(v);
 #pragma GCC unroll 8
     for (size_t c = 0; c < G; ++c) {
-      if (c < t.channels) split8(v[c], dst[t.channel + c] + t.frame, t.frames);
+      if (c < t.channels) split8(v[c], dst[t.channel + c] + t.frame, kWhole ? 8 : t.frames);
     }
   }
 };
@@ -165,7 +165,9 @@ template <class Sample> void join16(Sample sample, const Qvx32f* const* src, siz
   } else {
     byWidth16(channels, [=](auto width) {
       constexpr size_t G = decltype(width)::value;
-      forEachTile<8, G, 2 * G>(channels, n, 2, true, [=](const Tile& t) { Tile16<G>::join(sample, src, t, dst); });
+      forEachTile<8, G, 2 * G>(channels, n, 2, true, [=](const Tile& t, auto whole) {
+        Tile16<G>::template join<decltype(whole)::value>(sample, src, t, dst);
+      });
     });
   }
 }
@@ -226,7 +228,9 @@ void split16(const Qvx16s* src, size_t channels, size_t n, Qvx32f* const* dst) {
   } else {
     byWidth16(channels, [=](auto width) {
       constexpr size_t G = decltype(width)::value;
-      forEachTile<8, G, 2 * G>(channels, n, 2, false, [=](const Tile& t) { Tile16<G>::split(src, t, dst); });
+      forEachTile<8, G, 2 * G>(channels, n, 2, false, [=](const Tile& t, auto whole) {
+        Tile16<G>::template split<decltype(whole)::value>(src, t, dst);
+      });
     });
   }
 }
@@ -236,29 +240,92 @@ void split16(const Qvx16s* src, size_t channels, size_t n, Qvx32f* const* dst) {
 using Four32 = Lanes<int32_t, 4>;
 using Row24 = Lanes<uint8_t, 16>;  // 12 bytes of four channels, and four behind
 
-void join24Tile(const Qvx32f* const* src, const Tile& t, Qvx8u* dst) {
+// Two channels, a frame an element: as a source, and as a destination, of quads in which their samples are in turn; and the
+// packed frames.
+template <class T> struct TwoChannels {
+  using Lane = uint16_t;
+  T* const* p;
+
+  template <size_t N> auto get(size_t at) const {
+    const Lanes<Qvx32f, N / 2> d;
+    return quad([=, this](size_t c, size_t from) { return load(d, p[c] + at + from * N / 2); });
+  }
+  template <size_t N> auto get(size_t at, size_t n) const {
+    const Lanes<Qvx32f, N / 2> d;
+    return quad([=, this](size_t c, size_t from) {
+      return loadFirst(d, p[c] + at + std::min(n, from * N / 2), shareOf<N / 2>(from, n));
+    });
+  }
+  template <size_t N, class V> void put(Quad<V> q, size_t at) const {
+    each(q, [=, this](V v, size_t c, size_t from) { store(v, TagOf<V>(), p[c] + at + from * N / 2); });
+  }
+  template <size_t N, class V> void put(Quad<V> q, size_t at, size_t n) const {
+    each(q, [=, this](V v, size_t c, size_t from) {
+      storeFirst(v, TagOf<V>(), p[c] + at + std::min(n, from * N / 2), shareOf<N / 2>(from, n));
+    });
+  }
+  template <size_t N> size_t misaligned() const { return destination(p[0]).template misaligned<N / 2>(); }
+
+ private:
+  // Of both channels, by their number, the first half of the frames and the second.
+  template <class F> static auto quad(F of) {
+    const auto first = interleaved(Pair<decltype(of(0, 0))>{of(0, 0), of(1, 0)});
+    const auto second = interleaved(Pair<decltype(of(0, 0))>{of(0, 1), of(1, 1)});
+    return Quad<decltype(of(0, 0))>{first.lo, first.hi, second.lo, second.hi};
+  }
+  template <class V, class F> static void each(Quad<V> q, F to) {
+    const auto first = deinterleaved(Pair<V>{q.a, q.b});
+    const auto second = deinterleaved(Pair<V>{q.c, q.d});
+    to(first.lo, 0, 0);
+    to(first.hi, 1, 0);
+    to(second.lo, 0, 1);
+    to(second.hi, 1, 1);
+  }
+};
+
+struct PackedFrom {
+  using Lane = uint16_t;
+  From24<Qvx32s> samples;
+
+  template <size_t N> auto get(size_t at) const { return samples.get<2 * N>(2 * at); }
+  template <size_t N> auto get(size_t at, size_t n) const { return samples.get<2 * N>(2 * at, 2 * n); }
+};
+
+struct PackedTo {
+  using Lane = uint16_t;
+  To24<Qvx32s> samples;
+
+  template <size_t N, class V> void put(Quad<V> q, size_t at) const { samples.put<2 * N>(q, 2 * at); }
+  template <size_t N, class V> void put(Quad<V> q, size_t at, size_t n) const { samples.put<2 * N>(q, 2 * at, 2 * n); }
+  template <size_t N> size_t misaligned() const {
+    const size_t lanes = samples.misaligned<2 * N>();
+    return lanes % 2 == 0 ? lanes / 2 : 0;
+  }
+};
+
+template <bool kWhole> void join24Tile(const Qvx32f* const* src, const Tile& t, Qvx8u* dst) {
   const Lanes<float, 4> d;
   Vec<Four32> v[4];
 #pragma GCC unroll 4
   for (size_t c = 0; c < 4; ++c) {
     const Qvx32f* from = src[t.channel + std::min(c, t.channels - 1)] + t.frame;
-    v[c] = Scaled24()(t.frames == 4 ? load(d, from) : loadFirst(d, from, t.frames));
+    v[c] = Scaled24()(kWhole || t.frames == 4 ? load(d, from) : loadFirst(d, from, t.frames));
   }
   shuffle<2>(v);
 #pragma GCC unroll 4
   for (size_t i = 0; i < 4; ++i) {
     const auto row = packed24(v[i]);
-    if (i < t.whole) store(row, Row24(), dst + 3 * t.at(i));
+    if (kWhole || i < t.whole) store(row, Row24(), dst + 3 * t.at(i));
     else if (i < t.frames) storeFirst(row, Row24(), dst + 3 * t.at(i), 3 * t.channels);
   }
 }
 
-void split24Tile(const Qvx8u* src, const Tile& t, Qvx32f* const* dst) {
+template <bool kWhole> void split24Tile(const Qvx8u* src, const Tile& t, Qvx32f* const* dst) {
   Vec<Four32> v[4];
 #pragma GCC unroll 4
   for (size_t i = 0; i < 4; ++i) {
     const Qvx8u* row = src + 3 * t.at(std::min(i, t.frames - 1));
-    v[i] = unpacked24(i < t.whole ? load(Row24(), row) : loadFirst(Row24(), row, 3 * t.channels));
+    v[i] = unpacked24(kWhole || i < t.whole ? load(Row24(), row) : loadFirst(Row24(), row, 3 * t.channels));
   }
   shuffle<2>(v);
 #pragma GCC unroll 4
@@ -266,7 +333,7 @@ void split24Tile(const Qvx8u* src, const Tile& t, Qvx32f* const* dst) {
     if (c >= t.channels) break;
     const auto x = FullScaleOf24()(v[c]);
     Qvx32f* to = dst[t.channel + c] + t.frame;
-    if (t.frames == 4) store(x, Lanes<float, 4>(), to);
+    if (kWhole || t.frames == 4) store(x, Lanes<float, 4>(), to);
     else storeFirst(x, Lanes<float, 4>(), to, t.frames);
   }
 }
@@ -306,7 +373,12 @@ QvxStatus qvxsJoinScaled_32f24s_D2L(const Qvx32f* const* src, int channels, int 
   if (channels == 1) {
     return loop([](auto quad) { return each(quad, Scaled24()); }, To24<Qvx32s>{dst}, elements(frames), Quads{src[0]});
   }
-  forEachTile<4, 4, 16>(elements(channels), elements(frames), 3, true, [=](const Tile& t) { join24Tile(src, t, dst); });
+  if (channels == 2) {
+    return loop([](auto quad) { return each(quad, Scaled24()); }, PackedTo{{dst}}, elements(frames),
+                TwoChannels<const Qvx32f>{src});
+  }
+  forEachTile<4, 4, 16>(elements(channels), elements(frames), 3, true,
+                        [=](const Tile& t, auto whole) { join24Tile<decltype(whole)::value>(src, t, dst); });
   return qvxStatOk;
 }
 
@@ -322,6 +394,11 @@ QvxStatus qvxsSplitScaled_24s32f_D2L(const Qvx8u* src, Qvx32f* const* dst, int c
   if (channels == 1) {
     return loop([](auto quad) { return each(quad, FullScaleOf24()); }, Quads{dst[0]}, elements(frames), From24<Qvx32s>{src});
   }
-  forEachTile<4, 4, 16>(elements(channels), elements(frames), 3, false, [=](const Tile& t) { split24Tile(src, t, dst); });
+  if (channels == 2) {
+    return loop([](auto quad) { return each(quad, FullScaleOf24()); }, TwoChannels<Qvx32f>{dst}, elements(frames),
+                PackedFrom{{src}});
+  }
+  forEachTile<4, 4, 16>(elements(channels), elements(frames), 3, false,
+                        [=](const Tile& t, auto whole) { split24Tile<decltype(whole)::value>(src, t, dst); });
   return qvxStatOk;
 }
