@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "frame/redo.h"
+#include "frame/remainder.h"
 #include "vector/arctan.h"
 
 namespace qvx {
@@ -18,24 +19,6 @@ namespace detail {
 // for zeros.
 template <class T> inline constexpr T kLeastSize = sizeof(T) == 4 ? T(0x1p-100) : T(0x1p-900);
 template <class T> inline constexpr T kMostSize = sizeof(T) == 4 ? T(0x1p120) : T(0x1p960);
-
-// c - a * b with one rounding, or very nearly so.
-template <class V> V remainderOf(V a, V b, V c) {
-  if constexpr (kFuses) {
-    return hn::NegMulAdd(a, b, c);
-  } else {
-    const V product = a * b;
-    const auto upper = [](V v) {  // of its digits a half
-      const V large = v * same<V>(0x1p27 + 1);
-      return large - (large - v);
-    };
-    const V aHigh = upper(a);
-    const V bHigh = upper(b);
-    const V aLow = a - aHigh;
-    const V bLow = b - bHigh;
-    return (c - product) - (((aHigh * bHigh - product) + aHigh * bLow + aLow * bHigh) + aLow * bLow);
-  }
-}
 
 // num / den, and what that is wrong by. den is exact but for denLow.
 template <class V> Pair<V> quotient(V num, V den, V denLow) {

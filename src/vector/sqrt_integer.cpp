@@ -1,6 +1,5 @@
 // Square roots of integers: exactly rounded at every scale factor.
-#include <cmath>
-
+#include "frame/remainder.h"
 #include "frame/team.h"
 #include "vector/integer_root.h"
 
@@ -55,39 +54,52 @@ template <class From, class To> struct IntegerRoot {
 
 constexpr int kPlacesInLanes = 18;  // a root of 2^49.5 is wrong by 0.3 at most, in any rounding mode
 
-// The integer nearest to sqrt(x) * 2^s.
-Qvx64s enlargedRoot(Qvx64s x, int s) {
-  using Wide = unsigned __int128;
-  const double root = std::sqrt(static_cast<double>(x)) * powerOfTwo<double>(s);
-  if (root > 0x1.0001p63) return INT64_MAX;
-  auto k = static_cast<uint64_t>(root);
-  const Wide square = static_cast<Wide>(x) << s << s;
-  if (root > 0x1p50) {  // the double may be wrong by 2^11: one step of Newton's method leaves less than 1/2
-    const auto rest = static_cast<__int128>(square - static_cast<Wide>(k) * k);
-    const double step = static_cast<double>(static_cast<int64_t>(rest >> 12)) * 2048 / root;
-    auto whole = static_cast<int64_t>(step);
-    whole -= static_cast<double>(whole) > step;
-    k += static_cast<uint64_t>(whole);
+// The integer nearest to sqrt(x) * 2^s, for s from kPlacesInLanes on: a step of Newton's method takes the double's root, which is
+// off by 2^10 where the result is largest, to a sixteenth from it. Only where that falls between two integers are the squares
+// asked, modulo 2^64: they differ by less than 2^63 there.
+struct RootLengthened {
+  int s;
+
+  template <class V> V operator()(V x) const {
+    const TagOf<V> d;
+    const auto whole = hn::Max(x, same<V>(1));
+    const auto low = toDouble(whole & same<V>(1023));  // in two parts that are exact in every rounding mode
+    using Real = std::remove_const_t<decltype(low)>;
+    const auto high = toDouble(hn::AndNot(same<V>(1023), whole));
+    const auto value = high + low;
+    const auto root = hn::Sqrt(value);
+    const auto rest = remainderOf(root, root, value) + (low - (value - high));
+    const auto factor = same<Real>(powerOfTwo<double>(s));
+    const auto scaled = root * factor;
+    const auto truncated = toInt64(hn::Min(scaled, same<Real>(0x1.fffffffffffffp62)));
+    const auto beyond = (scaled - toDouble(truncated)) + rest * halfReciprocal(value, root) * factor;
+    const auto floor = hn::Floor(hn::Min(beyond, same<Real>(4096)));
+    const auto fraction = beyond - floor;
+    const V k = truncated + toInt64(floor);
+    const V square = hn::ShiftLeftSame(hn::ShiftLeftSame(whole, s), s);
+    const auto isBeyondTie = square - k * (k + same<V>(1)) > hn::Zero(d);
+    const auto isUp = hn::And(hn::Or(isBeyondTie, hn::RebindMask(d, fraction > same<Real>(0.75))),
+                              hn::RebindMask(d, fraction > same<Real>(0.25)));
+    const V nearest = k - hn::VecFromMask(d, isUp);
+    return hn::IfThenElseZero(x > hn::Zero(d), ifNegative(nearest, same<V>(INT64_MAX), nearest));
   }
-  k += square > static_cast<Wide>(k) * (k + 1);
-  return k > INT64_MAX ? INT64_MAX : static_cast<Qvx64s>(k);
-}
+
+ private:
+  // 1 / (2 * sqrt(value)), to 2^-13 of it.
+  template <class V> static V halfReciprocal([[maybe_unused]] V value, [[maybe_unused]] V root) {
+    if constexpr (kHasMasks) return nearReciprocalRoot(value) * same<V>(0.5);
+    else return same<V>(0.5) / root;
+  }
+};
 
 QvxStatus root64(const Qvx64s* src, Qvx64s* dst, int len, int sf) {
-  if (sf >= 0) return map<IntegerRoot<Qvx64s, Qvx64s>>(dst, len, ScaledRoot{sf}, src);
+  using Root64s = IntegerRoot<Qvx64s, Qvx64s>;
+  if (sf >= 0) return map<Root64s>(dst, len, ScaledRoot{sf}, src);
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;
-  if (sf >= -kPlacesInLanes) {
-    const auto kernel = IntegerRoot<Qvx64s, Qvx64s>::kernel(RootEnlarged<63>{-sf});
-    return loop(kernel, destination(dst), elements(len), source(src));
-  }
   const int s = sf < -63 ? 63 : -sf;  // 1 times 2^63 saturates already
-  bool negative = false;
-  for (size_t i = 0; i < elements(len); ++i) {
-    negative |= src[i] < 0;
-    dst[i] = src[i] <= 0 ? 0 : enlargedRoot(src[i], s);
-  }
-  return negative ? qvxWarnSqrtNegArg : qvxStatOk;
+  const auto with = [&](auto root) { return loop(Root64s::kernel(root), destination(dst), elements(len), source(src)); };
+  return s <= kPlacesInLanes ? with(RootEnlarged<63>{s}) : with(RootLengthened{s});
 }
 
 using Root8u = IntegerRoot<Qvx8u, Qvx8u>;

@@ -69,6 +69,7 @@ template <class T> std::vector<T> steps(int scaleFactor) {
     add(std::pow(std::ldexp(result + 0.5L, s), 2.0L));
     add(std::pow(std::floor(root), 2.0L));
   }
+  for (int k = 0; k < 62; ++k) add(std::ldexp(1.0L, 126 + 2 * s) - std::ldexp(1.0L, k));  // up to where 64 bits saturate
   for (const T x : values<T>(2000, random)) v.push_back(x);
   return v;
 }
