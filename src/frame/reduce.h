@@ -131,16 +131,46 @@ template <size_t N, class R, class... Src> [[gnu::noinline]] auto gatheredInSlic
   return total;
 }
 
+// As many lanes as one register has of the widest type.
+template <class R, class... Src>
+inline constexpr size_t kAtATime = kVectorBytes / std::max({sizeof(typename R::Inner), sizeof(typename Src::Lane)...});
+
 }  // namespace detail
 
 // The total over n lanes, 1 or more.
 template <class R, class... Src> [[gnu::always_inline]] inline auto reduce(R r, size_t n, Src... src) {
-  constexpr size_t kWidest = std::max({sizeof(typename R::Inner), sizeof(typename Src::Lane)...});
-  constexpr size_t N = kVectorBytes / kWidest;
+  constexpr size_t N = detail::kAtATime<R, Src...>;
   if constexpr (R::kSlice < kMostElements) {
     if (n > R::kSlice) return detail::gatheredInSlices<N>(r, n, src...);
   }
   return detail::gathered<N>(r, n, src...);
+}
+
+namespace detail {
+
+template <size_t N, class R, class D, class Finish, class... Src>
+[[gnu::noinline, gnu::flatten]] QvxStatus gatheredTo(D* result, Finish finish, size_t n, Src... src) {
+  *result = finish(gathered<N>(R(), n, src...));
+  return qvxStatOk;
+}
+
+template <size_t N, class R, class D, class Finish, class... Src>
+[[gnu::noinline]] QvxStatus gatheredInSlicesTo(D* result, Finish finish, size_t n, Src... src) {
+  *result = finish(gatheredInSlices<N>(R(), n, src...));
+  return qvxStatOk;
+}
+
+}  // namespace detail
+
+// *result = finish(the total over n lanes), and the status of that, so that the checked function can end in a jump to it: sums of
+// 16 elements take 2.4 ns, not 3.3.
+template <class R, class D, class Finish, class... Src>
+[[gnu::always_inline]] inline QvxStatus reducedTo(D* result, size_t n, Finish finish, Src... src) {
+  constexpr size_t N = detail::kAtATime<R, Src...>;
+  if constexpr (R::kSlice < kMostElements) {
+    if (n > R::kSlice) return detail::gatheredInSlicesTo<N, R>(result, finish, n, src...);
+  }
+  return detail::gatheredTo<N, R>(result, finish, n, src...);
 }
 
 // The lanes that stand for one element.
@@ -152,8 +182,7 @@ template <class R, class D, class Finish, class... Src>
 [[gnu::always_inline]] inline QvxStatus reduceTo(D* result, int len, Finish finish, Src... src) {
   const QvxStatus status = check(len, pointerOf(src)..., result);
   if (status != qvxStatOk) return status;
-  *result = finish(reduce(R(), elements(len) * std::max({kLanesEach<Src>...}), source(src)...));
-  return qvxStatOk;
+  return reducedTo<R>(result, elements(len) * std::max({kLanesEach<Src>...}), finish, source(src)...);
 }
 
 namespace detail {

@@ -64,11 +64,12 @@ constexpr auto rootToFloat = [](double sum) { return static_cast<Qvx32f>(std::sq
 // The root is taken of the largest square alone: it keeps their order. Floats hold nearly all squares there are; for the others
 // the vector is read again in doubles, which hold them all. That is twice as fast as doubles alone.
 template <class... Src> QvxStatus largestRadius(Qvx32f* norm, int len, Src... src) {
-  const auto finish = [=](Qvx32f square) {
-    if (square >= 0x1p-100F && square <= std::numeric_limits<Qvx32f>::max()) return std::sqrt(square);
-    return rootToFloat(reduce(Largest<double, SquaredRadii>(), elements(len), source(src)...));
-  };
-  return reduceTo<Largest<float, SquaredRadii>>(norm, len, finish, src...);
+  const QvxStatus status = check(len, pointerOf(src)..., norm);
+  if (status != qvxStatOk) return status;
+  const Qvx32f square = reduce(Largest<float, SquaredRadii>(), elements(len), source(src)...);
+  const bool holds = square >= 0x1p-100F && square <= std::numeric_limits<Qvx32f>::max();
+  *norm = holds ? std::sqrt(square) : rootToFloat(reduce(Largest<double, SquaredRadii>(), elements(len), source(src)...));
+  return qvxStatOk;
 }
 
 }  // namespace

@@ -6,8 +6,8 @@ using namespace qvx;
 
 namespace {
 
-template <class Sum, class T> auto sumOf(const T* src, int len) {
-  return reduce(Sum(), elements(len) * PartsOf<T>::kCount, source(src));
+template <class Sum, class T, class R, class Finish> QvxStatus sumTo(R* result, const T* src, int len, Finish finish) {
+  return reducedTo<Sum>(result, elements(len) * PartsOf<T>::kCount, finish, source(src));
 }
 
 // The sum of floats in doubles, brought to the result by `finish`.
@@ -15,25 +15,24 @@ template <class T, class Finish> QvxStatus sumFloats(const T* src, int len, T* r
   constexpr size_t kParts = PartsOf<T>::kCount;
   const QvxStatus status = check(len, src, result);
   if (status != qvxStatOk) return status;
-  auto sum = [&] {
-    if constexpr (sizeof(Part<T>) == 4) {
-      if (hint == kFast) return sumOf<FloatSum<float, Elements, kParts>>(src, len);
-    }
-    return sumOf<FloatSum<double, Elements, kParts>>(src, len);
-  }();
-  if constexpr (kParts == 1) *result = static_cast<T>(finish(sum));
-  else *result = complexOf<T>(finish(sum.re), finish(sum.im));
-  return qvxStatOk;
+  const auto finished = [finish](auto sum) {
+    if constexpr (kParts == 1) return static_cast<T>(finish(sum));
+    else return complexOf<T>(finish(sum.re), finish(sum.im));
+  };
+  if constexpr (sizeof(Part<T>) == 4) {
+    if (hint == kFast) return sumTo<FloatSum<float, Elements, kParts>>(result, src, len, finished);
+  }
+  return sumTo<FloatSum<double, Elements, kParts>>(result, src, len, finished);
 }
 
 // The exact sum of integers, brought to the result by `finish`.
 template <class Sum, class T, class R, class Finish> QvxStatus sumIntegers(const T* src, int len, R* result, Finish finish) {
   const QvxStatus status = check(len, src, result);
   if (status != qvxStatOk) return status;
-  const auto sum = sumOf<Sum>(src, len);
-  if constexpr (PartsOf<T>::kCount == 1) *result = finish(sum);
-  else *result = {finish(sum.re), finish(sum.im)};
-  return qvxStatOk;
+  return sumTo<Sum>(result, src, len, [finish](auto sum) -> R {
+    if constexpr (PartsOf<T>::kCount == 1) return finish(sum);
+    else return {finish(sum.re), finish(sum.im)};
+  });
 }
 
 constexpr auto asItIs = [](double sum) { return sum; };
