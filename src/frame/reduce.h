@@ -185,6 +185,25 @@ template <class R, class D, class Finish, class... Src>
   return reducedTo<R>(result, elements(len) * std::max({kLanesEach<Src>...}), finish, source(src)...);
 }
 
+// A long vector, fetched a page ahead: for reductions of so many instructions that the processor's window holds too few loads to
+// cover the memory's latency (products of 4 Mi 32-bit integers: 0.6 ms, not 0.8). Where loads are the bound it gains nothing.
+template <class T> struct FetchedAhead {
+  using Lane = Part<T>;
+  static constexpr size_t kWorthIt = size_t{1} << 20;  // bytes
+  const Lane* p;
+
+  template <size_t N> auto get(size_t at) const {
+    __builtin_prefetch(p + at + 4096 / sizeof(Lane));
+    return load(Lanes<Lane, N>(), p + at);
+  }
+  template <size_t N> auto get(size_t at, size_t n) const { return loadFirst(Lanes<Lane, N>(), p + at, n); }
+  FetchedAhead from(size_t at) const { return {p + at}; }
+};
+template <class T> FetchedAhead<T> source(FetchedAhead<T> v) { return v; }
+template <class T> const Part<T>* pointerOf(FetchedAhead<T> v) { return v.p; }
+template <class T> inline constexpr size_t kLanesEach<FetchedAhead<T>> = PartsOf<T>::kCount;
+template <class T> FetchedAhead<T> fetchedAhead(const T* p) { return {parts(p)}; }
+
 namespace detail {
 
 template <size_t N, class Is, class Src> [[gnu::flatten]] size_t firstOf(Is is, size_t n, Src src) {

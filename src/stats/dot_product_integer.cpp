@@ -13,6 +13,7 @@ struct Products16 {
   template <class V> static auto of(V a, V b) { return pairProducts(a, b); }
 };
 struct ComplexProducts16 {
+  static constexpr bool kFetchesAhead = true;
   static constexpr size_t kSlice = 1 << 16;
   static constexpr bool kImOfPairs = true;
   template <class V> static auto of(V a, V b) {
@@ -35,6 +36,7 @@ struct MixedProducts16 {
 
 // In lanes of 64 bits no slice is too long.
 struct Products32 {
+  static constexpr bool kFetchesAhead = true;
   static constexpr size_t kSlice = kMostElements;
   template <class U, class V> static auto of(U v, V b) {
     const V a = widened<int32_t>(v);
@@ -42,6 +44,7 @@ struct Products32 {
   }
 };
 struct ComplexProducts32 {
+  static constexpr bool kFetchesAhead = true;
   static constexpr size_t kSlice = kMostElements;
   static constexpr bool kImOfPairs = true;
   template <class V> static auto of(V a, V b) {
@@ -107,6 +110,11 @@ template <class Product, class D, class... Src> QvxStatus scaledDotProduct(D* re
   const auto finish = [=](auto sum) {
     return eachPart<D>([=](auto part) { return scaledSum<Part<D>>(part, scaleFactor); }, sum);
   };
+  if constexpr (requires { Product::kFetchesAhead; }) {
+    if (len >= 0 && elements(len) * sizeof(D) >= FetchedAhead<D>::kWorthIt) {
+      return reduceTo<ExactSum<Product>>(result, len, finish, fetchedAhead(src)...);
+    }
+  }
   return reduceTo<ExactSum<Product>>(result, len, finish, src...);
 }
 
