@@ -2,6 +2,7 @@
 // its arguments, and what it refuses leaves no trace.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <ucontext.h>
 #include <xmmintrin.h>
 
 #include <cfenv>
@@ -157,6 +158,34 @@ TEST_F(EveryCall, LeavesTheControlWordAlone) {
       if (isExact) expect(otherStatus == status && other.results() == first.results(), "depends on the rounding mode", other);
     }
   });
+}
+
+// Each call on a stack of its own, painted before: what it painted over, it used. Threads of audio programs have small stacks.
+TEST_F(EveryCall, NeedsLittleStack) {
+  if (QVXS_SANITIZED) GTEST_SKIP() << "sanitizers widen every frame, and lose track of such a stack";
+  constexpr size_t kMost = 16 << 10;
+  static constexpr uint8_t kPaint = 0xA5;
+  static AnyCall* running;
+  std::vector<uint8_t> stack(128 << 10);
+  size_t most = 0;
+  forEach([&](const Export& e, const Choices& choices) {
+    AnyCall call(e, choices, memory_);
+    std::fill(stack.begin(), stack.end(), kPaint);
+    ucontext_t here, there;
+    getcontext(&there);
+    there.uc_stack.ss_sp = stack.data();
+    there.uc_stack.ss_size = stack.size();
+    there.uc_link = &here;
+    makecontext(
+        &there, [] { running->run(); }, 0);
+    running = &call;
+    swapcontext(&here, &there);
+    const auto lowest = std::find_if(stack.begin(), stack.end(), [](uint8_t byte) { return byte != kPaint; });
+    const auto used = static_cast<size_t>(stack.end() - lowest);
+    most = std::max(most, used);
+    expect(used <= kMost, "needed too much stack", call);
+  });
+  EXPECT_GT(most, 1U << 10);
 }
 
 // What the library takes from others: no way to allocate but the core's, none to print, to stop the program, or to read files.
