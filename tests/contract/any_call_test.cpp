@@ -163,7 +163,7 @@ TEST_F(EveryCall, LeavesTheControlWordAlone) {
 // Each call on a stack of its own, painted before: what it painted over, it used. Threads of audio programs have small stacks.
 TEST_F(EveryCall, NeedsLittleStack) {
   if (QVXS_SANITIZED) GTEST_SKIP() << "sanitizers widen every frame, and lose track of such a stack";
-  constexpr size_t kMost = 16 << 10;
+  constexpr size_t kMost = 24 << 10;
   static constexpr uint8_t kPaint = 0xA5;
   static AnyCall* running;
   std::vector<uint8_t> stack(128 << 10);

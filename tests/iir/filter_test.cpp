@@ -146,7 +146,7 @@ TEST(IirFilter, StreamsMayBeCutAnywhere) {
   forEachStem([](const auto& m) {
     using T = typename std::decay_t<decltype(m)>::Internal;
     Random random(tests::seed());
-    for (const int order : {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 31, 63, 64, 65, 130, 300}) {
+    for (const int order : {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 31, 63, 64, 65, 130, 300, 512, 513}) {
       expectStream(m, 0, order, direct<T>(random, order), 4000, 0, 16, random);
     }
     for (const int n : {1, 2, 3, 4, 5, 7, 8, 9, 12, 15, 16, 17, 24, 33, 64}) {
