@@ -1,5 +1,6 @@
 // The argument rules, held by every function: which status, in which order, and nothing written on an error.
 #include <gtest/gtest.h>
+#include <qvx/qvxs.h>
 
 #include <climits>
 #include <cstring>

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <omp.h>
 #include <qvx/qvxcore.h>
+#include <qvx/qvxs.h>
 
 #include <cfenv>
 #include <cstring>

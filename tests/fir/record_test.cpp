@@ -1,5 +1,6 @@
 // Records: their sizes, how taps are kept, who accepts which, and every refusal.
 #include <gtest/gtest.h>
+#include <qvx/qvxs.h>
 
 #include <map>
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <qvx/qvxcore.h>
+#include <qvx/qvxs.h>
 
 #include <algorithm>
 #include <cmath>
