@@ -1,6 +1,8 @@
 // The headers once more, with every declaration as a row of the table.
 #include "support/exports.h"
 
+#include <map>
+
 namespace tests {
 
 namespace {
@@ -42,6 +44,16 @@ template <class R, class... A> Export describe(const char* name, const char* arg
 std::vector<Export>& exportTable() {
   static std::vector<Export> table;
   return table;
+}
+
+const Export* findExport(const std::string& name) {
+  static const std::map<std::string, const Export*> all = [] {
+    std::map<std::string, const Export*> byName;
+    for (const Export& e : exportTable()) byName[e.name] = &e;
+    return byName;
+  }();
+  const auto found = all.find(name);
+  return found == all.end() ? nullptr : found->second;
 }
 
 }  // namespace tests
