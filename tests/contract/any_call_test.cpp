@@ -268,6 +268,37 @@ TEST_F(EveryCall, ElementsDoNotKnowTheirPlace) {
   EXPECT_GT(functions, 400U);
 }
 
+// NaN, infinities, and numbers at the ends of the types anywhere: no call fails for them, hangs or goes astray, and what it makes
+// of them does not depend on the place. Filters and transforms are drawn numbers without such above.
+TEST_F(EveryCall, TakesAnyFloat) {
+  constexpr double kAny[] = {NAN, INFINITY, -INFINITY, -0.0, 1e-310, 1e-40, -3.4e38, 1.7e308, 0.5, -3.25, 70000, -0x1p62};
+  size_t none = 0;
+  forEach([&](const Export& e, const Choices& choices) {
+    const auto outcome = [&](const Surroundings& around, std::vector<double>& results) {
+      AnyCall call(e, choices, memory_, around);
+      Choices places = choices;
+      const int64_t every = places.oneOf({1, 4, 50});
+      for (const tests::Parameter& p : e.parameters) {
+        if (!p.isPointer() || !tests::PartType(p.pointee()).isFloat) continue;
+        call.write(p.name, [&](size_t) { return places.between(1, every) == 1 ? kAny[places.between(0, 11)] : 0.75; });
+      }
+      const QvxStatus status = call.run();
+      expect(call.isIntact(), "wrote elsewhere", call);
+      results = call.numbers();
+      for (double& x : results) {
+        none += std::isnan(x);
+        if (std::isnan(x)) x = NAN;
+      }
+      return status;
+    };
+    std::vector<double> first, other;
+    const QvxStatus status = outcome({}, first), otherStatus = outcome({1, 0x5A}, other);
+    const bool isSame = first.size() == other.size() && std::memcmp(first.data(), other.data(), 8 * first.size()) == 0;
+    if (status != otherStatus || (status >= 0 && !isSame)) failures_ += e.name + " depends on the place\n";
+  });
+  EXPECT_GT(none, 1000U * static_cast<unsigned>(calls()));
+}
+
 // Which calls may ask for memory; all others never do.
 bool mayAllocate(const Export& e) {
   if (tests::contains(e.name, {"InitAlloc", "FFTFwd", "FFTInv", "FIR_Direct", "IIR_Direct", "IIR_BiQuadDirect"})) return true;
