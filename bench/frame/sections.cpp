@@ -53,6 +53,11 @@ const std::vector<Section> kSections = {
      {"fft_complex", "fft_real"}, {"fft_32fc", "fft_64fc", "fft_32f", "fft_64f"}, kOrders,
      {"FFTFwd_CToC_32fc", "FFTFwd_CToC_32fc_I", "FFTFwd_CToC_64fc", "FFTFwd_CToC_64fc_I", "FFTFwd_RToCCS_32f", "FFTFwd_RToCCS_64f"},
      true},
+    {"Fourier transforms of integers",
+     "*through FFTW* converts to floats or doubles, transforms, and converts back with rounding and saturation.", {}, {"fft_integer"},
+     kOrders,
+     {"FFTFwd_CToC_16sc_Sfs", "FFTFwd_CToC_32sc_Sfs", "FFTFwd_RToCCS_16s_Sfs", "FFTFwd_RToCCS_32s_Sfs", "FFTFwd_RToCCS_16s32s_Sfs"},
+     true},
     {"Packed spectra", "", {}, {"spectrum"}, kVectors, {"MulPack_32f", "MulPerm_32f", "MulPerm_16s_Sfs, scale 15", "ConjPack_32fc"}},
     {"FIR filters",
      "Streams in blocks of n samples. 2 operations are counted for a tap and a sample, 8 in complex numbers; long filters on long "

@@ -20,8 +20,8 @@ template <class T> T directOne(const T* taps, T* line, size_t order, T x) {
 // places. A line that moved would be loaded across two of its own stores, and wait for both: 12 ns a sample of order 64. Four
 // outputs together load and store a share once: of order 100 in SSE, a sample takes half the time of one by one. The first vector
 // has places before the next output, which nobody looks at again, the last some behind the line: there are zeros on both sides of
-// the taps.
-template <class T> inline constexpr size_t kMostStill = 2048 / kParts<T>;
+// the taps. The order is bounded for the sake of the stack, of which this takes up to 15 KiB.
+template <class T> inline constexpr size_t kMostStill = 512 / kParts<T>;
 template <class T> [[gnu::flatten]] void directStill(const T* taps, T* line, size_t order, Lane* work, size_t n) {
   using P = Part<T>;
   constexpr size_t kParts = qvx::kParts<T>;

@@ -2,6 +2,7 @@
 // its arguments, and what it refuses leaves no trace.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <ucontext.h>
 #include <xmmintrin.h>
 
 #include <cfenv>
@@ -38,6 +39,7 @@ using tests::AnyCall;
 using tests::Choices;
 using tests::Export;
 using tests::Surroundings;
+using tests::Wrong;
 
 // Of each function.
 int calls() {
@@ -85,17 +87,216 @@ TEST_F(EveryCall, DependsOnItsArgumentsAlone) {
   });
 }
 
-TEST_F(EveryCall, RefusesWithoutATrace) {
-  forEach([&](const Export& e, Choices choices) {
-    AnyCall call(e, choices, memory_);
-    const auto last = static_cast<int64_t>(e.parameters.size()) - 1;
-    if (!call.spoil(static_cast<size_t>(choices.between(0, last)), choices)) return;
-    const int live = allocator.live;
-    const bool isRefused = call.run() < 0;
-    expect(call.isIntact(), "wrote elsewhere", call);
-    expect(!isRefused || tests::refusesInTheMiddle(e) || call.wroteNothing(), "wrote in spite of an error", call);
-    expect(!isRefused || allocator.live == live, "kept memory", call);
+// Alone and with all that is looked at behind it, each argument that is wrong gives its own status, and leaves no trace.
+TEST_F(EveryCall, ChecksItsArgumentsInOrder) {
+  constexpr int kDraws = 5;
+  for (const Export& e : tests::exportTable()) {
+    if (!e.call) continue;
+    const std::vector<Wrong> wrongs = tests::Wrongs(e).all;
+    failures_.clear();
+    const auto expectRefused = [&](const Choices& choices, size_t from, size_t count, size_t which) {
+      memory_.reuse();
+      const int before = allocator.live;
+      {
+        AnyCall call(e, choices, memory_, {-1, 0, false, 3});
+        const int live = allocator.live;
+        for (size_t k = from + count; k-- > from;) call.spoil(wrongs[k], k == from ? which : 0);
+        const QvxStatus status = call.run(), wanted = count == 0 ? qvxStatOk : wrongs[from].status;
+        if (count == 0) return status >= 0 || e.contains("IIRSetTaps32s");  // which report a mismatch whatever they do
+        const bool isRight = wanted == qvxStatOk ? status >= 0 || count > 1 : status == wanted;
+        const std::string what = e.parameters[wrongs[from].index].name + " wrong" + (count > 1 ? ", and all behind it" : "") +
+                                 ", status " + std::to_string(status) + ", not " + std::to_string(wanted);
+        expect(isRight, what.c_str(), call);
+        expect(call.isIntact() && (status >= 0 || call.wroteNothing()), "wrote in spite of an error", call);
+        expect(status >= 0 || allocator.live == live, "kept memory", call);
+      }
+      if (allocator.live != before) failures_ += e.name + " leaks\n";
+      return true;
+    };
+    int drawn = 0;
+    for (uint64_t seed = 1; seed < 100 && drawn < kDraws && failures_.empty(); ++seed) {
+      const Choices choices(seed);
+      if (!expectRefused(choices, 0, 0, 0)) continue;  // refused as it was drawn
+      ++drawn;
+      for (size_t k = 0; k < wrongs.size(); ++k) {
+        for (size_t i = 0; i < std::max<size_t>(wrongs[k].values.size(), 1); ++i) expectRefused(choices, k, 1, i);
+        expectRefused(choices, k, wrongs.size() - k, 0);
+      }
+    }
+    EXPECT_TRUE(drawn > 0 && failures_.empty()) << e.name << '\n' << failures_;
+  }
+}
+
+TEST_F(EveryCall, RefusesTheRecordsOfOthers) {
+  tests::Memory memory;
+  std::deque<AnyCall> makers;
+  std::map<std::string, void*> records;
+  const auto recordType = [](const Export& e) {
+    for (size_t i = 0; i < e.parameters.size(); ++i) {
+      const tests::Parameter& p = e.parameters[i];
+      if (p.isRecord() && !p.isArrayOfPointers() && !e.contains("Init") && !e.contains("Sparse"))
+        return std::pair(p.pointee(), i);
+    }
+    return std::pair(std::string(), size_t{0});
+  };
+  for (const Export& e : tests::exportTable()) {
+    const std::string type = recordType(e).first;
+    if (type.empty() || type == "QvxsFIRState_32s") continue;
+    if (e.contains("Free")) continue;
+    if (records.count(type) == 0) records[type] = makers.emplace_back(e, Choices(1), memory).record();
+  }
+  EXPECT_EQ(records.size(), 42U);
+  for (const Export& e : tests::exportTable()) {
+    const auto [type, index] = recordType(e);
+    if (type.empty() || e.contains("IIRSetTaps32sc_16sc")) continue;  // which takes another's
+    for (const auto& [other, record] : records) {
+      if (other == (type == "QvxsFIRState_32s" ? "QvxsFIRState64f_32s" : type)) continue;
+      memory_.reuse();
+      AnyCall call(e, Choices(1), memory_, {-1, 0, false, 3});
+      call.setRecord(index, record);
+      EXPECT_TRUE(call.run() == qvxStatContextMismatch && call.wroteNothing()) << e.name << " takes " << other;
+    }
+  }
+}
+
+// A function and its form in place, at every length up to some vectors and at longer ones.
+TEST_F(EveryCall, InPlaceIsAsOutOfPlace) {
+  size_t pairs = 0;
+  for (const Export& e : tests::exportTable()) {
+    const std::string apart = tests::replaced(e.name, "_I", "_");
+    const Export* other = tests::findExport(apart.substr(0, apart.size() - (apart.back() == '_')));
+    // One sample is no vector, and FIR filters add up floats in an order that depends on the call.
+    if (apart == e.name || other == nullptr || e.contains("One") || e.contains("FIR")) continue;
+    ++pairs;
+    failures_.clear();
+    for (int i = 1; i <= 4 * calls() && failures_.empty(); ++i) {
+      memory_.reuse();
+      const Choices choices(static_cast<uint64_t>(i));
+      const int length = i <= 140 ? i : 17 * i;
+      AnyCall here(e, choices, memory_, {i % 4 == 0 ? i : -1, 0x7F, false, length});
+      AnyCall there(*other, choices, memory_, {-1, 0, false, length});
+      const QvxStatus status = there.run();
+      expect(here.run() == status, "another status", here);
+      if (status < 0) continue;
+      const std::vector<uint8_t> x = here.results("SrcDst"), y = there.results("Dst");
+      expect(!y.empty() && x.size() >= y.size() && std::equal(y.begin(), y.end(), x.begin()), "another result", here);
+    }
+    if (!failures_.empty()) ADD_FAILURE() << failures_;
+  }
+  EXPECT_GT(pairs, 250U);
+}
+
+// An element of a call by itself.
+class OneElement : public tests::Arguments {
+ public:
+  OneElement(const Export& e, AnyCall& whole, size_t length) : export_(e), whole_(whole), length_(length) {}
+
+  void* pointer(size_t index, size_t size, bool, char) override {
+    const uint8_t* all = whole_.bytesOf(index, true);
+    if (all == nullptr) return nullptr;
+    sizes_[index] = size * whole_.extentOf(index) / length_;
+    return std::memcpy(element_[index], all + at_ * sizes_[index], sizes_[index]);
+  }
+  int64_t integer(size_t index) override { return export_.parameters[index].name == "len" ? 1 : whole_.integer(index); }
+  double real(size_t index) override { return whole_.real(index); }
+
+  QvxStatus run(size_t at) {
+    at_ = at;
+    return export_.call(export_.address, *this);
+  }
+  // The element that the whole call left. Any number that is none equals another.
+  bool agrees() const {
+    for (size_t i = 0; i < export_.parameters.size(); ++i) {
+      const tests::Parameter& p = export_.parameters[i];
+      if (!p.isPointer() || whole_.bytesOf(i, false) == nullptr) continue;
+      const tests::PartType part(p.pointee());
+      const uint8_t* other = whole_.bytesOf(i, false) + at_ * sizes_[i];
+      for (size_t k = 0; k < sizes_[i]; k += part.bytes) {
+        const bool isNone = part.isFloat && std::isnan(part.get(element_[i] + k)) && std::isnan(part.get(other + k));
+        if (!isNone && std::memcmp(element_[i] + k, other + k, part.bytes) != 0) return false;
+      }
+    }
+    return true;
+  }
+
+ private:
+  const Export& export_;
+  AnyCall& whole_;
+  size_t length_, at_ = 0, sizes_[8] = {};
+  uint8_t element_[8][64];
+};
+
+// Whether all vectors have an element for each other's, from which alone it comes.
+bool isElementwise(const Export& e) {
+  if (!e.call || !e.has("len") || e.has("tblLen")) return false;
+  if (e.isOf({"Flip", "ConjFlip", "Copy", "Move"}) ||
+      tests::contains(e.name, {"Pack_", "PackConj", "Perm_", "Ccs_", "PackBits", "IIR"})) {
+    return false;
+  }
+  return std::none_of(e.parameters.begin(), e.parameters.end(),
+                      [](const tests::Parameter& p) { return p.isArrayOfPointers() || p.isRecord(); });
+}
+
+// The same alone as among others, wherever it stands. The first that has something to report decides.
+TEST_F(EveryCall, ElementsDoNotKnowTheirPlace) {
+  size_t functions = 0;
+  for (const Export& e : tests::exportTable()) {
+    if (!isElementwise(e)) continue;
+    failures_.clear();
+    bool isOne = true;
+    for (int i = 1; i <= calls() && failures_.empty() && isOne; ++i) {
+      memory_.reuse();
+      const int length = i % 8 == 0 ? 150 + 11 * i : 2 + i * 37 % 149;
+      AnyCall whole(e, Choices(static_cast<uint64_t>(i)), memory_, {-1, 0, false, length});
+      for (size_t k = 0; k < e.parameters.size(); ++k) {
+        if (e.parameters[k].isPointer() && whole.extentOf(k) % static_cast<size_t>(length) != 0) isOne = false;
+      }
+      const QvxStatus status = isOne ? whole.run() : qvxStatBadArg;
+      if (status < 0) continue;
+      OneElement one(e, whole, static_cast<size_t>(length));
+      QvxStatus first = qvxStatOk;
+      for (size_t at = 0; at < static_cast<size_t>(length) && failures_.empty(); ++at) {
+        const QvxStatus now = one.run(at);
+        if (first == qvxStatOk) first = now;
+        expect(one.agrees(), ("another result for element " + std::to_string(at)).c_str(), whole);
+      }
+      expect(first == status, "another status", whole);
+    }
+    functions += isOne;
+    if (!failures_.empty()) ADD_FAILURE() << failures_;
+  }
+  EXPECT_GT(functions, 400U);
+}
+
+// NaN, infinities, and numbers at the ends of the types anywhere: no call fails for them, hangs or goes astray, and what it makes
+// of them does not depend on the place. Filters and transforms are drawn numbers without such above.
+TEST_F(EveryCall, TakesAnyFloat) {
+  constexpr double kAny[] = {NAN, INFINITY, -INFINITY, -0.0, 1e-310, 1e-40, -3.4e38, 1.7e308, 0.5, -3.25, 70000, -0x1p62};
+  size_t none = 0;
+  forEach([&](const Export& e, const Choices& choices) {
+    const auto outcome = [&](const Surroundings& around, std::vector<double>& results) {
+      AnyCall call(e, choices, memory_, around);
+      Choices places = choices;
+      const int64_t every = places.oneOf({1, 4, 50});
+      for (const tests::Parameter& p : e.parameters) {
+        if (!p.isPointer() || !tests::PartType(p.pointee()).isFloat) continue;
+        call.write(p.name, [&](size_t) { return places.between(1, every) == 1 ? kAny[places.between(0, 11)] : 0.75; });
+      }
+      const QvxStatus status = call.run();
+      expect(call.isIntact(), "wrote elsewhere", call);
+      results = call.numbers();
+      for (double& x : results) {
+        none += std::isnan(x);
+        if (std::isnan(x)) x = NAN;
+      }
+      return status;
+    };
+    std::vector<double> first, other;
+    const QvxStatus status = outcome({}, first), otherStatus = outcome({1, 0x5A}, other);
+    const bool isSame = first.size() == other.size() && std::memcmp(first.data(), other.data(), 8 * first.size()) == 0;
+    if (status != otherStatus || (status >= 0 && !isSame)) failures_ += e.name + " depends on the place\n";
   });
+  EXPECT_GT(none, 1000U * static_cast<unsigned>(calls()));
 }
 
 // Which calls may ask for memory; all others never do.
@@ -157,6 +358,34 @@ TEST_F(EveryCall, LeavesTheControlWordAlone) {
       if (isExact) expect(otherStatus == status && other.results() == first.results(), "depends on the rounding mode", other);
     }
   });
+}
+
+// Each call on a stack of its own, painted before: what it painted over, it used. Threads of audio programs have small stacks.
+TEST_F(EveryCall, NeedsLittleStack) {
+  if (QVXS_SANITIZED) GTEST_SKIP() << "sanitizers widen every frame, and lose track of such a stack";
+  constexpr size_t kMost = 24 << 10;
+  static constexpr uint8_t kPaint = 0xA5;
+  static AnyCall* running;
+  std::vector<uint8_t> stack(128 << 10);
+  size_t most = 0;
+  forEach([&](const Export& e, const Choices& choices) {
+    AnyCall call(e, choices, memory_);
+    std::fill(stack.begin(), stack.end(), kPaint);
+    ucontext_t here, there;
+    getcontext(&there);
+    there.uc_stack.ss_sp = stack.data();
+    there.uc_stack.ss_size = stack.size();
+    there.uc_link = &here;
+    makecontext(
+        &there, [] { running->run(); }, 0);
+    running = &call;
+    swapcontext(&here, &there);
+    const auto lowest = std::find_if(stack.begin(), stack.end(), [](uint8_t byte) { return byte != kPaint; });
+    const auto used = static_cast<size_t>(stack.end() - lowest);
+    most = std::max(most, used);
+    expect(used <= kMost, "needed too much stack", call);
+  });
+  EXPECT_GT(most, 1U << 10);
 }
 
 // What the library takes from others: no way to allocate but the core's, none to print, to stop the program, or to read files.

@@ -10,36 +10,23 @@ using reference::Mode;
 using reference::scaled;
 using reference::Wide;
 
-template <class A, class D, class Oracle> void conversion(QvxStatus (*f)(const A*, D*, int), Oracle oracle) {
+template <class Oracle, class... A, class... D> void conversions(Oracle oracle, QvxStatus (*... f)(const A*, D*, int)) {
   Random random(seed());
-  Elementwise<D, A> trial(700, random, oracle);
-  trial.run(f);
+  (Elementwise<D, A>(700, random, oracle).run(f), ...);
 }
 
 TEST(Convert, Widening) {
-  const auto number = [](auto v) { return v; };
-  conversion(qvxsConvert_8s16s, number);
-  conversion(qvxsConvert_16s32s, number);
-  conversion(qvxsConvert_8s32f, number);
-  conversion(qvxsConvert_8u32f, number);
-  conversion(qvxsConvert_16s32f, number);
-  conversion(qvxsConvert_16u32f, number);
-  conversion(qvxsConvert_32s64f, number);
-  conversion(qvxsConvert_32f64f, number);
+  conversions([](auto v) { return v; }, qvxsConvert_8s16s, qvxsConvert_16s32s, qvxsConvert_8s32f, qvxsConvert_8u32f,
+              qvxsConvert_16s32f, qvxsConvert_16u32f, qvxsConvert_32s64f, qvxsConvert_32f64f);
 }
 
 // ---- three-byte integers
 
-template <class T> std::vector<Packed24<T>> packed(size_t n) {
-  Random random(seed());
-  std::vector<Packed24<T>> v(n);
-  for (auto& x : v) x = Packed24<T>::of(value<T>(random));
-  return v;
-}
-
 template <class T, class D> void from24(QvxStatus (*f)(const Qvx8u*, D*, int)) {
-  Elementwise<D, Packed24<T>> trial(std::make_tuple(packed<T>(700)), [](Packed24<T> v) { return static_cast<D>(v.number()); });
-  trial.run([=](const Packed24<T>* a, D* d, int n) { return f(a->byte, d, n); });
+  Random random(seed());
+  Elementwise<D, Packed24<T>>(700, random, [](Packed24<T> v) {
+    return static_cast<D>(v.number());
+  }).run([=](const Packed24<T>* a, D* d, int n) { return f(a->byte, d, n); });
 }
 
 template <class T> void to24(QvxStatus (*f)(const T*, Qvx8u*, int, int)) {
@@ -70,7 +57,7 @@ TEST(Convert, ThreeByteIntegers) {
 // ---- narrowing
 
 TEST(Convert, NarrowingWithScale) {
-  conversion(qvxsConvert_32s16s, [](Qvx32s v) { return reference::saturated<Qvx16s>(v); });
+  conversions([](Qvx32s v) { return reference::saturated<Qvx16s>(v); }, qvxsConvert_32s16s);
   for (const int s : scaleFactorsOf32Bits()) {
     SCOPED_TRACE("scale factor " + std::to_string(s));
     Random random(seed() + static_cast<unsigned>(s));
@@ -125,8 +112,8 @@ TEST(Convert, ToFloatsInTheCallersRounding) {
   for (const int rounding : kRoundings) {
     SCOPED_TRACE("rounding " + std::to_string(rounding));
     const CallersRounding scope(rounding);
-    conversion(qvxsConvert_32s32f, [](Qvx32s v) { return static_cast<Qvx32f>(v); });
-    conversion(qvxsConvert_64s64f, [](Qvx64s v) { return static_cast<Qvx64f>(v); });
+    conversions([](Qvx32s v) { return static_cast<Qvx32f>(v); }, qvxsConvert_32s32f);
+    conversions([](Qvx64s v) { return static_cast<Qvx64f>(v); }, qvxsConvert_64s64f);
     Elementwise<Qvx32f, Qvx64f> trial(std::make_tuple(hardFloats<Qvx64f>()), [](Qvx64f v) { return static_cast<Qvx32f>(v); });
     trial.run(qvxsConvert_64f32f);
   }

@@ -41,92 +41,93 @@ template <class T> std::vector<T> levelsOf() {
 template <class T> T below(T x, T level, T value) { return x < level ? value : x; }
 template <class T> T above(T x, T level, T value) { return x > level ? value : x; }
 
-// f and its in-place form, with what follows the length.
+// Each function, with what follows the length.
 template <class T, class Oracle, class... X>
-void both(QvxStatus (*f)(const T*, T*, int, X...), QvxStatus (*inPlace)(T*, int, X...), Oracle oracle, std::vector<T> levels,
-          std::type_identity_t<X>... x) {
+void expect(QvxStatus (*f)(const T*, T*, int, X...), Oracle oracle, std::vector<T> levels, std::type_identity_t<X>... x) {
   Elementwise<T, T> trial(std::make_tuple(around<T>(levels)), [=](T v) { return oracle(v, x...); });
   trial.run([=](const T* a, T* d, int n) { return f(a, d, n, x...); });
-  trial.run([=](const T*, T* d, int n) { return inPlace(d, n, x...); }, 0);
 }
 
-template <class T, class LT, class LTI> void oneLevel(LT below, LTI belowI, LT above, LTI aboveI) {
+template <class T, class F> void atAllLevels(F f) {
   for (const T level : levelsOf<T>()) {
     SCOPED_TRACE("level " + show(level));
-    both<T>(
-        below, belowI, [](T x, T l) { return ::below(x, l, l); }, {level}, level);
-    both<T>(
-        above, aboveI, [](T x, T l) { return ::above(x, l, l); }, {level}, level);
+    f(level);
   }
+}
+
+template <class T> void oneLevel(QvxStatus (*lt)(const T*, T*, int, T), QvxStatus (*gt)(const T*, T*, int, T)) {
+  atAllLevels<T>([=](T level) {
+    expect<T>(
+        lt, [](T x, T l) { return below(x, l, l); }, {level}, level);
+    expect<T>(
+        gt, [](T x, T l) { return above(x, l, l); }, {level}, level);
+  });
 }
 
 TEST(Threshold, OneLevel) {
-  oneLevel<Qvx16s>(qvxsThreshold_LT_16s, qvxsThreshold_LT_16s_I, qvxsThreshold_GT_16s, qvxsThreshold_GT_16s_I);
-  oneLevel<Qvx32s>(qvxsThreshold_LT_32s, qvxsThreshold_LT_32s_I, qvxsThreshold_GT_32s, qvxsThreshold_GT_32s_I);
-  oneLevel<Qvx32f>(qvxsThreshold_LT_32f, qvxsThreshold_LT_32f_I, qvxsThreshold_GT_32f, qvxsThreshold_GT_32f_I);
-  oneLevel<Qvx64f>(qvxsThreshold_LT_64f, qvxsThreshold_LT_64f_I, qvxsThreshold_GT_64f, qvxsThreshold_GT_64f_I);
+  oneLevel(qvxsThreshold_LT_16s, qvxsThreshold_GT_16s);
+  oneLevel(qvxsThreshold_LT_32s, qvxsThreshold_GT_32s);
+  oneLevel(qvxsThreshold_LT_32f, qvxsThreshold_GT_32f);
+  oneLevel(qvxsThreshold_LT_64f, qvxsThreshold_GT_64f);
 }
 
-template <class T, class F, class FI> void twoWay(F f, FI inPlace) {
-  for (const T level : levelsOf<T>()) {
+template <class T> void twoWay(QvxStatus (*f)(const T*, T*, int, T, int)) {
+  atAllLevels<T>([=](T level) {
     for (const int relOp : {0, 4}) {
-      SCOPED_TRACE("level " + show(level) + ", relation " + std::to_string(relOp));
-      const auto oracle = [](T x, T l, int op) { return op == 0 ? below(x, l, l) : above(x, l, l); };
-      both<T>(f, inPlace, oracle, {level}, level, relOp);
+      expect<T>(
+          f, [](T x, T l, int op) { return op == 0 ? below(x, l, l) : above(x, l, l); }, {level}, level, relOp);
     }
-  }
+  });
 }
 
 TEST(Threshold, TwoWay) {
-  twoWay<Qvx16s>(qvxsThreshold_16s, qvxsThreshold_16s_I);
-  twoWay<Qvx32f>(qvxsThreshold_32f, qvxsThreshold_32f_I);
-  twoWay<Qvx64f>(qvxsThreshold_64f, qvxsThreshold_64f_I);
+  twoWay(qvxsThreshold_16s);
+  twoWay(qvxsThreshold_32f);
+  twoWay(qvxsThreshold_64f);
 }
 
-template <class T, class F, class FI> void oneValue(F lt, FI ltI, F gt, FI gtI) {
-  for (const T level : levelsOf<T>()) {
-    SCOPED_TRACE("level " + show(level));
-    both<T>(lt, ltI, below<T>, {level}, level, T(7));
-    both<T>(gt, gtI, above<T>, {level}, level, T(-7));
-  }
+template <class T> void oneValue(QvxStatus (*lt)(const T*, T*, int, T, T), QvxStatus (*gt)(const T*, T*, int, T, T)) {
+  atAllLevels<T>([=](T level) {
+    expect<T>(lt, below<T>, {level}, level, T(7));
+    expect<T>(gt, above<T>, {level}, level, T(-7));
+  });
 }
 
-template <class T, class F, class FI> void twoValues(F f, FI inPlace) {
+template <class T> void twoValues(QvxStatus (*f)(const T*, T*, int, T, T, T, T)) {
   const auto oracle = [](T x, T lt, T ltValue, T gt, T gtValue) { return x < lt ? ltValue : x > gt ? gtValue : x; };
   for (const auto& [lt, gt] :
        {std::pair<T, T>{-5, 20}, {3, 3}, {std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max()}}) {
-    both<T>(f, inPlace, oracle, {lt, gt}, lt, T(100), gt, T(-100));  // the values lie beyond the other level
+    expect<T>(f, oracle, {lt, gt}, lt, T(100), gt, T(-100));  // the values lie beyond the other level
   }
 }
 
 TEST(Threshold, Values) {
-  oneValue<Qvx16s>(qvxsThreshold_LTVal_16s, qvxsThreshold_LTVal_16s_I, qvxsThreshold_GTVal_16s, qvxsThreshold_GTVal_16s_I);
-  oneValue<Qvx32f>(qvxsThreshold_LTVal_32f, qvxsThreshold_LTVal_32f_I, qvxsThreshold_GTVal_32f, qvxsThreshold_GTVal_32f_I);
-  oneValue<Qvx64f>(qvxsThreshold_LTVal_64f, qvxsThreshold_LTVal_64f_I, qvxsThreshold_GTVal_64f, qvxsThreshold_GTVal_64f_I);
-  twoValues<Qvx16s>(qvxsThreshold_LTValGTVal_16s, qvxsThreshold_LTValGTVal_16s_I);
-  twoValues<Qvx32s>(qvxsThreshold_LTValGTVal_32s, qvxsThreshold_LTValGTVal_32s_I);
-  twoValues<Qvx32f>(qvxsThreshold_LTValGTVal_32f, qvxsThreshold_LTValGTVal_32f_I);
-  twoValues<Qvx64f>(qvxsThreshold_LTValGTVal_64f, qvxsThreshold_LTValGTVal_64f_I);
+  oneValue(qvxsThreshold_LTVal_16s, qvxsThreshold_GTVal_16s);
+  oneValue(qvxsThreshold_LTVal_32f, qvxsThreshold_GTVal_32f);
+  oneValue(qvxsThreshold_LTVal_64f, qvxsThreshold_GTVal_64f);
+  twoValues(qvxsThreshold_LTValGTVal_16s);
+  twoValues(qvxsThreshold_LTValGTVal_32s);
+  twoValues(qvxsThreshold_LTValGTVal_32f);
+  twoValues(qvxsThreshold_LTValGTVal_64f);
 }
 
-template <class T, class F, class FI> void magnitudes(F lt, FI ltI, F gt, FI gtI) {
+template <class T> void magnitudes(QvxStatus (*lt)(const T*, T*, int, T), QvxStatus (*gt)(const T*, T*, int, T)) {
   using Room = std::conditional_t<std::is_integral_v<T>, int64_t, T>;
   const auto size = [](T x) { return x < 0 ? -Room{x} : Room{x}; };
-  for (const T level : levelsOf<T>()) {
-    if (level < 0) continue;
-    SCOPED_TRACE("level " + show(level));
-    both<T>(
-        lt, ltI, [=](T x, T l) { return size(x) < l ? withSign(l, x) : x; }, {level}, level);
-    both<T>(
-        gt, gtI, [=](T x, T l) { return size(x) > l ? withSign(l, x) : x; }, {level}, level);
-  }
+  atAllLevels<T>([=](T level) {
+    if (level < 0) return;
+    expect<T>(
+        lt, [=](T x, T l) { return size(x) < l ? withSign(l, x) : x; }, {level}, level);
+    expect<T>(
+        gt, [=](T x, T l) { return size(x) > l ? withSign(l, x) : x; }, {level}, level);
+  });
 }
 
 TEST(Threshold, Magnitudes) {
-  magnitudes<Qvx16s>(qvxsThreshold_LTAbs_16s, qvxsThreshold_LTAbs_16s_I, qvxsThreshold_GTAbs_16s, qvxsThreshold_GTAbs_16s_I);
-  magnitudes<Qvx32s>(qvxsThreshold_LTAbs_32s, qvxsThreshold_LTAbs_32s_I, qvxsThreshold_GTAbs_32s, qvxsThreshold_GTAbs_32s_I);
-  magnitudes<Qvx32f>(qvxsThreshold_LTAbs_32f, qvxsThreshold_LTAbs_32f_I, qvxsThreshold_GTAbs_32f, qvxsThreshold_GTAbs_32f_I);
-  magnitudes<Qvx64f>(qvxsThreshold_LTAbs_64f, qvxsThreshold_LTAbs_64f_I, qvxsThreshold_GTAbs_64f, qvxsThreshold_GTAbs_64f_I);
+  magnitudes(qvxsThreshold_LTAbs_16s, qvxsThreshold_GTAbs_16s);
+  magnitudes(qvxsThreshold_LTAbs_32s, qvxsThreshold_GTAbs_32s);
+  magnitudes(qvxsThreshold_LTAbs_32f, qvxsThreshold_GTAbs_32f);
+  magnitudes(qvxsThreshold_LTAbs_64f, qvxsThreshold_GTAbs_64f);
 }
 
 // What is not a number keeps even its payload, wherever it stands.

@@ -36,6 +36,37 @@ class ProgramTest : public ::testing::Test {
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, text("out"), text("err")};
   }
 
+  // Calls that fail with a message, print nothing else and leave no file.
+  void expectRefused(std::initializer_list<std::pair<const char*, const char*>> calls) const {
+    for (const auto& [arguments, message] : calls) {
+      const Outcome result = run(arguments);
+      EXPECT_GT(result.exitCode, 0) << arguments;
+      EXPECT_NE(result.err.find(message), std::string::npos) << arguments << "\n" << result.err;
+      EXPECT_EQ(result.out, "") << arguments;
+      EXPECT_FALSE(std::filesystem::exists(at("out.wav"))) << arguments;
+    }
+  }
+  // A file that is read as well is not written, a write that fails is reported.
+  void expectOutputsGuarded(const std::string& command, const std::string& source) const {
+    const auto size = std::filesystem::file_size(at(source));
+    EXPECT_NE(run(command + " " + source + " -o ./" + source).err.find("is a file to read as well"), std::string::npos);
+    EXPECT_EQ(std::filesystem::file_size(at(source)), size);
+    EXPECT_GT(run(command + " " + source + " -o no/folder.wav").exitCode, 0);
+  }
+  void expectFailingWritesReported(const std::string& command) const {
+    const Outcome result = run(command + " -o full.wav", "(trap '' XFSZ; ulimit -f 8; %)");
+    EXPECT_GT(result.exitCode, 0);
+    EXPECT_NE(result.err.find("full.wav: "), std::string::npos) << result.err;
+  }
+
+  // Interleaved samples.
+  template <class T>
+  void write(const std::string& name, const std::vector<T>& samples, int format, int channels = 1, int rate = 8000) const {
+    SndfileHandle file(at(name), SFM_WRITE, format, channels, rate);
+    EXPECT_EQ(file.write(samples.data(), static_cast<sf_count_t>(samples.size())), static_cast<sf_count_t>(samples.size()));
+    EXPECT_EQ(file.error(), SF_ERR_NO_ERROR) << file.strError();
+  }
+
   std::vector<short> read16s(const std::string& name, int subtype, int channels) const {
     SndfileHandle file(at(name));
     EXPECT_EQ(file.format(), SF_FORMAT_WAV | subtype) << name;

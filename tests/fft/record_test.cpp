@@ -1,6 +1,5 @@
-// Records of transforms in floats, and the checks of the transforms.
+// Records of transforms in floats.
 #include <array>
-#include <cstring>
 
 #include "fft/life.h"
 
@@ -86,84 +85,6 @@ TEST(FftRecord, SizesChecksAndMemory) {
       kR32f, [](int order, int) { return realSizes(kSingle, order); }, 29, 30, "R_32f");
   tests::checkLife(
       kR64f, [](int order, int) { return realSizes(kDouble, order); }, 28, 29, "R_64f");
-}
-
-// ---- Transforms: record, identity, vectors, in this order; nothing written
-
-template <class C> bool isUntouched(const C* v) {
-  const C fresh[8] = {};
-  return std::memcmp(fresh, v, sizeof(fresh)) == 0;
-}
-
-template <class T, class Spec>
-void checkCalls(const tests::Life<Spec>& life, std::initializer_list<QvxStatus (*)(const T*, T*, const Spec*, Qvx8u*)> out,
-                std::initializer_list<QvxStatus (*)(T*, const Spec*, Qvx8u*)> in) {
-  Spec* spec = nullptr;
-  ASSERT_EQ(life.initAlloc(&spec, 2, 8, 0), qvxStatOk);
-  std::vector<Qvx8u> foreign(4096);
-  const auto* other = reinterpret_cast<const Spec*>(foreign.data());
-  T src[8] = {};
-  T dst[8] = {};
-  std::memset(static_cast<void*>(src), 0x3C, sizeof(src));
-  for (const auto run : out) {
-    EXPECT_EQ(run(nullptr, nullptr, nullptr, nullptr), qvxStatNullPtr);
-    EXPECT_EQ(run(nullptr, nullptr, other, nullptr), qvxStatContextMismatch);
-    EXPECT_EQ(run(nullptr, dst, spec, nullptr), qvxStatNullPtr);
-    EXPECT_EQ(run(src, nullptr, spec, nullptr), qvxStatNullPtr);
-    EXPECT_TRUE(isUntouched(dst));
-  }
-  for (const auto run : in) {
-    EXPECT_EQ(run(nullptr, other, nullptr), qvxStatContextMismatch);
-    EXPECT_EQ(run(nullptr, spec, nullptr), qvxStatNullPtr);
-    EXPECT_EQ(run(dst, nullptr, nullptr), qvxStatNullPtr);
-    EXPECT_EQ(run(dst, other, nullptr), qvxStatContextMismatch);
-    EXPECT_TRUE(isUntouched(dst));
-  }
-  EXPECT_EQ(life.free(spec), qvxStatOk);
-}
-
-template <class T, class Spec> using Apart = QvxStatus (*)(const T*, const T*, T*, T*, const Spec*, Qvx8u*);
-template <class T, class Spec> using ApartI = QvxStatus (*)(T*, T*, const Spec*, Qvx8u*);
-template <class T, class Spec>
-void checkApart(const tests::Life<Spec>& life, std::initializer_list<Apart<T, Spec>> out,
-                std::initializer_list<ApartI<T, Spec>> in) {
-  Spec* spec = nullptr;
-  ASSERT_EQ(life.initAlloc(&spec, 2, 8, 0), qvxStatOk);
-  T v[4][8] = {};
-  for (const auto run : out) {
-    EXPECT_EQ(run(v[0], v[1], v[2], v[3], nullptr, nullptr), qvxStatNullPtr);
-    for (int missing = 0; missing < 4; ++missing) {
-      T* p[4];
-      for (int i = 0; i < 4; ++i) p[i] = i == missing ? nullptr : v[i];
-      EXPECT_EQ(run(p[0], p[1], p[2], p[3], spec, nullptr), qvxStatNullPtr) << missing;
-    }
-  }
-  for (const auto run : in) {
-    EXPECT_EQ(run(nullptr, v[1], spec, nullptr), qvxStatNullPtr);
-    EXPECT_EQ(run(v[0], nullptr, spec, nullptr), qvxStatNullPtr);
-  }
-  EXPECT_EQ(life.free(spec), qvxStatOk);
-}
-
-TEST(FftRecord, ChecksOfTransforms) {
-  checkCalls<Qvx32fc, QvxsFFTSpec_C_32fc>(kC32fc, {qvxsFFTFwd_CToC_32fc, qvxsFFTInv_CToC_32fc},
-                                          {qvxsFFTFwd_CToC_32fc_I, qvxsFFTInv_CToC_32fc_I});
-  checkCalls<Qvx64fc, QvxsFFTSpec_C_64fc>(kC64fc, {qvxsFFTFwd_CToC_64fc, qvxsFFTInv_CToC_64fc},
-                                          {qvxsFFTFwd_CToC_64fc_I, qvxsFFTInv_CToC_64fc_I});
-  checkCalls<Qvx32f, QvxsFFTSpec_R_32f>(kR32f,
-                                        {qvxsFFTFwd_RToPerm_32f, qvxsFFTFwd_RToPack_32f, qvxsFFTFwd_RToCCS_32f,
-                                         qvxsFFTInv_PermToR_32f, qvxsFFTInv_PackToR_32f, qvxsFFTInv_CCSToR_32f},
-                                        {qvxsFFTFwd_RToPerm_32f_I, qvxsFFTFwd_RToPack_32f_I, qvxsFFTFwd_RToCCS_32f_I,
-                                         qvxsFFTInv_PermToR_32f_I, qvxsFFTInv_PackToR_32f_I, qvxsFFTInv_CCSToR_32f_I});
-  checkCalls<Qvx64f, QvxsFFTSpec_R_64f>(kR64f,
-                                        {qvxsFFTFwd_RToPerm_64f, qvxsFFTFwd_RToPack_64f, qvxsFFTFwd_RToCCS_64f,
-                                         qvxsFFTInv_PermToR_64f, qvxsFFTInv_PackToR_64f, qvxsFFTInv_CCSToR_64f},
-                                        {qvxsFFTFwd_RToPerm_64f_I, qvxsFFTFwd_RToPack_64f_I, qvxsFFTFwd_RToCCS_64f_I,
-                                         qvxsFFTInv_PermToR_64f_I, qvxsFFTInv_PackToR_64f_I, qvxsFFTInv_CCSToR_64f_I});
-  checkApart<Qvx32f, QvxsFFTSpec_C_32f>(kC32f, {qvxsFFTFwd_CToC_32f, qvxsFFTInv_CToC_32f},
-                                        {qvxsFFTFwd_CToC_32f_I, qvxsFFTInv_CToC_32f_I});
-  checkApart<Qvx64f, QvxsFFTSpec_C_64f>(kC64f, {qvxsFFTFwd_CToC_64f, qvxsFFTInv_CToC_64f},
-                                        {qvxsFFTFwd_CToC_64f_I, qvxsFFTInv_CToC_64f_I});
 }
 
 }  // namespace

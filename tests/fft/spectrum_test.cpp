@@ -4,6 +4,7 @@
 #include "reference/packed.h"
 #include "reference/scaled.h"
 #include "support/elementwise.h"
+#include "support/placements.h"
 
 namespace {
 
@@ -11,50 +12,28 @@ using reference::Layout;
 using reference::Place;
 using reference::placeOf;
 using reference::Wide;
-using tests::Block;
 using tests::Random;
 
 constexpr size_t kMost = 3000;
 
-// check(n, offset) for every length up to some vectors and a few more, at the end of a block; then every misalignment.
-constexpr size_t kAtEnd = ~size_t{0};
-template <class Check> void forEachPlacement(size_t alignment, Check check) {
-  const auto ok = [] { return !testing::Test::HasFailure(); };
-  for (size_t n = 1; n <= kMost && ok(); n += n < 140 ? 1 : n / 3) check(n, kAtEnd);
-  for (size_t offset = 0; offset < 64 && ok(); offset += alignment) check(776, offset), check(777, offset);
-}
-
-template <class T> T* place(Block& block, const std::vector<T>& from, size_t n, size_t offset) {
-  T* p = reinterpret_cast<T*>(offset == kAtEnd ? block.atEnd(n * sizeof(T)) : block.atOffset(offset, n * sizeof(T)));
-  if (!from.empty()) std::memcpy(p, from.data(), n * sizeof(T));
-  return p;
-}
-
 // ---- products
 
 // call(a, b, dst, n); pair(a, b) and real(a, b) are the products of single values. Of a call in place dst is b.
-template <class T, class Call, class Pair, class Real>
-void checkProduct(Layout layout, Call call, bool inPlace, Pair pair, Real real) {
+template <class T, class Call, class Pair, class Real> void checkProduct(Layout layout, Call call, Pair pair, Real real) {
   Random random(tests::seed());
-  const auto a = tests::values<T>(kMost, random);
-  const auto b = tests::values<T>(kMost, random);
-  Block blocks[3] = {Block((kMost + 64) * sizeof(T)), Block((kMost + 64) * sizeof(T)), Block((kMost + 64) * sizeof(T))};
-  forEachPlacement(alignof(T), [&](size_t n, size_t offset) {
+  const auto data = tests::values<T>(kMost, random), others = tests::values<T>(kMost, random);
+  tests::Placements<T, T>(kMost).run(data, others, [&](size_t n, const T* a, const T* b) {
     std::vector<T> expected(n);
     for (size_t k = 0; k <= n / 2; ++k) {
       const Place p = placeOf(layout, n, k);
       expected[p.re] = real(a[p.re], b[p.re]);
       if (!p.isReal) std::tie(expected[p.re], expected[p.im]) = pair(a[p.re], a[p.im], b[p.re], b[p.im]);
     }
-    const T* src1 = place(blocks[0], a, n, offset);
-    const T* src2 = place(blocks[1], b, n, offset == kAtEnd ? offset : offset + alignof(T));
-    T* dst = place(blocks[2], inPlace ? b : a, n, offset);
-    ASSERT_EQ(call(src1, src2, dst, static_cast<int>(n)), qvxStatOk);
-    ASSERT_TRUE(blocks[2].isIntact()) << "length " << n;
+    std::vector<T> dst(b, b + n);
+    ASSERT_EQ(call(a, b, dst.data(), static_cast<int>(n)), qvxStatOk);
     for (size_t i = 0; i < n; ++i) {
-      ASSERT_TRUE(tests::sameBits(dst + i, expected.data() + i, 1))
-          << "value " << i << " of " << n << ", offset " << offset << ": " << tests::show(dst[i]) << ", not "
-          << tests::show(expected[i]);
+      ASSERT_TRUE(tests::sameBits(&dst[i], &expected[i], 1))
+          << "value " << i << " of " << n << ": " << tests::show(dst[i]) << ", not " << tests::show(expected[i]);
     }
   });
 }
@@ -65,28 +44,21 @@ template <class T> struct Direct {
   static std::pair<T, T> conjugatePair(T ar, T ai, T br, T bi) { return {ar * br + ai * bi, ar * bi - ai * br}; }
 };
 
-template <class T, class F, class FI> void checkFloats(Layout layout, F outOfPlace, FI inPlace) {
-  checkProduct<T>(layout, outOfPlace, false, Direct<T>::pair, Direct<T>::real);
-  checkProduct<T>(
-      layout, [=](const T* a, const T*, T* d, int n) { return inPlace(a, d, n); }, true, Direct<T>::pair, Direct<T>::real);
+template <class T> void checkFloats(Layout layout, QvxStatus (*f)(const T*, const T*, T*, int)) {
+  checkProduct<T>(layout, f, Direct<T>::pair, Direct<T>::real);
+}
+template <class T> void checkConjugate(QvxStatus (*f)(const T*, T*, int)) {
+  const auto call = [=](const T* a, const T*, T* d, int n) { return f(a, d, n); };
+  checkProduct<T>(Layout::kPack, call, Direct<T>::conjugatePair, Direct<T>::real);
 }
 
 TEST(PackedProduct, OfFloats) {
-  checkFloats<Qvx32f>(Layout::kPack, qvxsMulPack_32f, qvxsMulPack_32f_I);
-  checkFloats<Qvx64f>(Layout::kPack, qvxsMulPack_64f, qvxsMulPack_64f_I);
-  checkFloats<Qvx32f>(Layout::kPerm, qvxsMulPerm_32f, qvxsMulPerm_32f_I);
-  checkFloats<Qvx64f>(Layout::kPerm, qvxsMulPerm_64f, qvxsMulPerm_64f_I);
-}
-
-template <class T> void checkConjugate(QvxStatus (*f)(const T*, T*, int)) {
-  checkProduct<T>(
-      Layout::kPack, [=](const T* a, const T*, T* d, int n) { return f(a, d, n); }, true, Direct<T>::conjugatePair,
-      Direct<T>::real);
-}
-
-TEST(PackedProduct, OfAConjugate) {
-  checkConjugate<Qvx32f>(qvxsMulPackConj_32f_I);
-  checkConjugate<Qvx64f>(qvxsMulPackConj_64f_I);
+  checkFloats(Layout::kPack, qvxsMulPack_32f);
+  checkFloats(Layout::kPack, qvxsMulPack_64f);
+  checkFloats(Layout::kPerm, qvxsMulPerm_32f);
+  checkFloats(Layout::kPerm, qvxsMulPerm_64f);
+  checkConjugate(qvxsMulPackConj_32f_I);
+  checkConjugate(qvxsMulPackConj_64f_I);
 }
 
 Qvx16s floored(Wide product, int s) {
@@ -101,15 +73,11 @@ TEST(PackedProduct, Of16BitsShiftsRealValuesAndRoundsPairs) {
     const auto pair = [s](Wide ar, Wide ai, Wide br, Wide bi) {
       return std::pair{reference::scaled<Qvx16s>(ar * br - ai * bi, s), reference::scaled<Qvx16s>(ar * bi + ai * br, s)};
     };
-    using T = Qvx16s;
-    const auto check = [&](Layout layout, auto f, auto inPlace) {
-      checkProduct<T>(
-          layout, [=](const T* a, const T* b, T* d, int n) { return f(a, b, d, n, s); }, false, pair, real);
-      checkProduct<T>(
-          layout, [=](const T* a, const T*, T* d, int n) { return inPlace(a, d, n, s); }, true, pair, real);
-    };
-    check(Layout::kPack, qvxsMulPack_16s_Sfs, qvxsMulPack_16s_ISfs);
-    check(Layout::kPerm, qvxsMulPerm_16s_Sfs, qvxsMulPerm_16s_ISfs);
+    for (const Layout layout : {Layout::kPack, Layout::kPerm}) {
+      const auto f = layout == Layout::kPack ? qvxsMulPack_16s_Sfs : qvxsMulPerm_16s_Sfs;
+      checkProduct<Qvx16s>(
+          layout, [=](auto... v) { return f(v..., s); }, pair, real);
+    }
   }
   const Qvx16s least[3] = {-3, -32768, -32768};
   Qvx16s d[3];
@@ -125,49 +93,34 @@ template <class T> T negative(T v) {
   else return -v;
 }
 
-template <class C, class F, class FI> void checkUnfold(Layout layout, F f, FI inPlace) {
-  using T = decltype(C::re);
+template <class C, class T> void checkUnfold(Layout layout, QvxStatus (*f)(const T*, C*, int)) {
   Random random(tests::seed());
-  const auto data = tests::values<T>(kMost + 2, random);
-  Block srcBlock((kMost + 64) * sizeof(T));
-  Block dstBlock((kMost + 64) * sizeof(C));
-  forEachPlacement(alignof(T), [&](size_t n, size_t offset) {
-    std::vector<C> expected(n);
+  for (size_t n = 1; n <= kMost; n += n < 140 ? 1 : n / 3) {
+    const auto src = tests::values<T>(reference::sizeOf(layout, n), random);
+    std::vector<C> expected(n), dst(n);
     for (size_t k = 0; k <= n / 2; ++k) {
       const Place p = placeOf(layout, n, k);
-      expected[k] = {data[p.re], p.isReal ? T{0} : data[p.im]};
+      expected[k] = {src[p.re], p.isReal ? T{0} : src[p.im]};
       if (k > 0 && 2 * k < n) expected[n - k] = {expected[k].re, negative(expected[k].im)};
     }
-    const size_t kept = reference::sizeOf(layout, n);
-    const auto verify = [&](const C* dst, const char* what) {
-      ASSERT_TRUE(dstBlock.isIntact()) << what << ", length " << n;
-      for (size_t k = 0; k < n; ++k) {
-        ASSERT_EQ(std::memcmp(dst + k, expected.data() + k, sizeof(C)), 0)
-            << what << ", value " << k << " of " << n << ", offset " << offset << ": " << tests::show(dst[k]) << ", not "
-            << tests::show(expected[k]);
-      }
-    };
-    const T* src = place(srcBlock, data, kept, offset == kAtEnd ? offset : offset + alignof(T));
-    C* dst = place(dstBlock, std::vector<C>(), n, offset);
-    ASSERT_EQ(f(src, dst, static_cast<int>(n)), qvxStatOk);
-    verify(dst, "out of place");
-    dst = place(dstBlock, std::vector<C>(), n, offset);
-    std::memcpy(static_cast<void*>(dst), data.data(), kept * sizeof(T));
-    ASSERT_EQ(inPlace(dst, static_cast<int>(n)), qvxStatOk);
-    verify(dst, "in place");
-  });
+    ASSERT_EQ(f(src.data(), dst.data(), static_cast<int>(n)), qvxStatOk);
+    for (size_t k = 0; k < n; ++k) {
+      ASSERT_EQ(std::memcmp(&dst[k], &expected[k], sizeof(C)), 0)
+          << "value " << k << " of " << n << ": " << tests::show(dst[k]) << ", not " << tests::show(expected[k]);
+    }
+  }
 }
 
 TEST(WholeSpectrum, OfEveryLayout) {
-  checkUnfold<Qvx32fc>(Layout::kPack, qvxsConjPack_32fc, qvxsConjPack_32fc_I);
-  checkUnfold<Qvx64fc>(Layout::kPack, qvxsConjPack_64fc, qvxsConjPack_64fc_I);
-  checkUnfold<Qvx16sc>(Layout::kPack, qvxsConjPack_16sc, qvxsConjPack_16sc_I);
-  checkUnfold<Qvx32fc>(Layout::kPerm, qvxsConjPerm_32fc, qvxsConjPerm_32fc_I);
-  checkUnfold<Qvx64fc>(Layout::kPerm, qvxsConjPerm_64fc, qvxsConjPerm_64fc_I);
-  checkUnfold<Qvx16sc>(Layout::kPerm, qvxsConjPerm_16sc, qvxsConjPerm_16sc_I);
-  checkUnfold<Qvx32fc>(Layout::kCcs, qvxsConjCcs_32fc, qvxsConjCcs_32fc_I);
-  checkUnfold<Qvx64fc>(Layout::kCcs, qvxsConjCcs_64fc, qvxsConjCcs_64fc_I);
-  checkUnfold<Qvx16sc>(Layout::kCcs, qvxsConjCcs_16sc, qvxsConjCcs_16sc_I);
+  checkUnfold(Layout::kPack, qvxsConjPack_32fc);
+  checkUnfold(Layout::kPack, qvxsConjPack_64fc);
+  checkUnfold(Layout::kPack, qvxsConjPack_16sc);
+  checkUnfold(Layout::kPerm, qvxsConjPerm_32fc);
+  checkUnfold(Layout::kPerm, qvxsConjPerm_64fc);
+  checkUnfold(Layout::kPerm, qvxsConjPerm_16sc);
+  checkUnfold(Layout::kCcs, qvxsConjCcs_32fc);
+  checkUnfold(Layout::kCcs, qvxsConjCcs_64fc);
+  checkUnfold(Layout::kCcs, qvxsConjCcs_16sc);
 }
 
 // ---- what they are for: the transforms that write the same layouts

@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <complex>
+#include <cstring>
 #include <type_traits>
 
 #include "reference/scaled.h"

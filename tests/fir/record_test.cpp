@@ -1,12 +1,9 @@
-// Records: their sizes, how taps are kept, who accepts which, and every refusal.
+// Records: their sizes, how taps are kept, and their numbers.
 #include <gtest/gtest.h>
 
 #include <map>
 
-#include "support/exports.h"
-// behind the table of exports
 #include "fir/pairs.h"
-#include "support/blocks.h"
 
 namespace {
 
@@ -53,29 +50,6 @@ TEST(FirRecord, SizesToTheByte) {
     EXPECT_EQ(bytes, 128 + (2 * size.tapsLen + 15) / 16 * 16);
   }
   qvxSetNumThreads(0);
-}
-
-TEST(FirRecord, StaysWithinItsSizeAtEveryAlignment) {
-  forEachPair([](const auto& pair) {
-    using P = std::remove_cvref_t<decltype(pair)>;
-    Random random(seed());
-    Block memory(1 << 20);
-    std::vector<typename P::Sample> x(700);
-    for (const int threads : {1, 2, 7}) {
-      qvxSetNumThreads(threads);
-      for (int tapsLen = 1; tapsLen < 300 && !testing::Test::HasFailure(); tapsLen += tapsLen < 140 ? 1 : 23) {
-        const auto bytes = static_cast<size_t>(pair.size(tapsLen));
-        const std::vector<typename P::Taps> h(static_cast<size_t>(tapsLen));
-        SCOPED_TRACE(testing::Message() << pair.name << ", taps " << tapsLen << ", threads " << threads);
-        uint8_t* block = tapsLen % 4 == 0 ? memory.atOffset(random() % 128, bytes) : memory.atEnd(bytes);
-        auto* state = pair.build(h, 0, nullptr, block);
-        EXPECT_EQ(P::run(pair.one, 0, x[0], x.data(), state), qvxStatOk);
-        for (const int n : {1, 35, 700}) EXPECT_EQ(P::run(pair.inPlace, 0, x.data(), n, state), qvxStatOk);
-        EXPECT_TRUE(memory.isIntact());
-      }
-    }
-    qvxSetNumThreads(0);
-  });
 }
 
 // ---- taps
@@ -212,115 +186,6 @@ TEST(FirRecord, IsFreedByItsNumbersOnly) {
       EXPECT_EQ(pair.free(state), isMine ? qvxStatOk : qvxStatContextMismatch) << pair.name << ", number " << number;
     }
   });
-}
-
-std::string recordTypeOf(const Export& e) {
-  for (const Parameter& p : e.parameters) {
-    const size_t at = p.type.find("QvxsFIRState");
-    if (at == std::string::npos || p.isArrayOfPointers()) continue;
-    const std::string type = p.type.substr(at, p.type.find('*') - at);
-    return type == "QvxsFIRState_32s" ? "QvxsFIRState64f_32s" : type;
-  }
-  return "";
-}
-
-// A call with blocks for all vectors; any pointer may be null, any integer another.
-class Call : public Arguments {
- public:
-  Call(const Export& e, void* state) : export_(e), state_(state) {}
-  Call& set(const std::string& name, int64_t value) { return values_[name] = value, *this; }
-  Call& setNull(size_t index) { return null_ = index, *this; }
-  Call& setIndex(int index) { return std::memcpy(blocks_[export_.indexOf("pDlyLineIndex")], &index, sizeof(index)), *this; }
-
-  void* pointer(size_t index, size_t, bool, char kind) override {
-    return index == null_ ? nullptr : kind == 'r' ? state_ : blocks_[index];
-  }
-  int64_t integer(size_t index) override {
-    const auto value = values_.find(export_.parameters[index].name);
-    return value == values_.end() ? 3 : value->second;
-  }
-  double real(size_t) override { return 0; }
-
-  void expectRefused(QvxStatus status) {
-    uint8_t before[kBlocks][kBytes];
-    std::memcpy(before, blocks_, sizeof(before));
-    EXPECT_EQ(export_.call(export_.address, *this), status) << export_.name;
-    EXPECT_EQ(std::memcmp(before, blocks_, sizeof(before)), 0) << export_.name << " wrote";
-  }
-
- private:
-  static constexpr size_t kBlocks = 9;
-  static constexpr size_t kBytes = 256;
-  const Export& export_;
-  void* state_;
-  size_t null_ = kBlocks;
-  std::map<std::string, int64_t> values_;
-  alignas(16) uint8_t blocks_[kBlocks][kBytes] = {};
-};
-
-bool isOptional(const Export& e, const Parameter& p) {
-  return p.name == "pDlyLine" && (e.name.find("Init") != std::string::npos || e.name.find("SetDlyLine") != std::string::npos);
-}
-// The forms without a record that test their delay line behind the number of taps, and all but the vectors behind their length.
-bool testsInTurn(const Export& e) {
-  static const char* const kTypes[] = {"32f", "32fc", "64f", "64fc"};
-  return std::any_of(std::begin(kTypes), std::end(kTypes), [&](const std::string& type) {
-    return e.name == "qvxsFIR_Direct_" + type || e.name == "qvxsFIR_Direct_" + type + "_I";
-  });
-}
-
-TEST(FirContract, RefusesInOrderAndWritesNothing) {
-  uint32_t nobody[64] = {0x46493939};
-  int tested = 0;
-  for (const Export& e : exportTable()) {
-    if (e.name.find("qvxsFIR") != 0) continue;
-    ++tested;
-    const bool inTurn = testsInTurn(e);
-    for (size_t i = 0; i < e.parameters.size(); ++i) {
-      const Parameter& p = e.parameters[i];
-      if (!p.isPointer() || isOptional(e, p)) continue;
-      Call(e, nobody).setNull(i).expectRefused(qvxStatNullPtr);
-      const bool isVector = p.name.find("Src") != std::string::npos || p.name.find("Dst") != std::string::npos;
-      const bool isKept = p.name.find("pDlyLine") == 0;
-      if (e.indexOf("numIters") >= 0) {
-        Call(e, nobody).setNull(i).set("numIters", 0).expectRefused(inTurn && !isVector ? qvxStatBadSize : qvxStatNullPtr);
-      }
-      if (e.indexOf("tapsLen") >= 0) {
-        Call(e, nobody).setNull(i).set("tapsLen", 0).expectRefused(inTurn && isKept ? qvxStatBadTapsLen : qvxStatNullPtr);
-      }
-    }
-    for (const int length : {0, -1, INT_MIN}) {
-      if (e.indexOf("numIters") >= 0) Call(e, nobody).set("numIters", length).set("tapsLen", 0).expectRefused(qvxStatBadSize);
-      if (e.indexOf("tapsLen") >= 0) Call(e, nobody).set("tapsLen", length).expectRefused(qvxStatBadTapsLen);
-    }
-    if (e.indexOf("pDlyLineIndex") >= 0) {
-      for (const int index : {-1, 3, INT_MIN, INT_MAX}) Call(e, nobody).setIndex(index).expectRefused(qvxStatBadDlyIndex);
-    }
-    if (!recordTypeOf(e).empty()) Call(e, nobody).expectRefused(qvxStatContextMismatch);
-  }
-  EXPECT_GE(tested, 246);
-}
-
-TEST(FirContract, RefusesTheRecordsOfOthers) {
-  std::map<std::string, void*> states;
-  std::vector<std::vector<uint8_t>> memory;
-  forEachPair([&](const auto& pair) {
-    using P = std::remove_cvref_t<decltype(pair)>;
-    const std::vector<typename P::Taps> h(3);
-    memory.emplace_back(static_cast<size_t>(pair.size(3)));
-    void* state = pair.build(h, 0, nullptr, memory.back().data());
-    for (const Export& e : exportTable()) {
-      if (e.address == reinterpret_cast<void*>(pair.getTaps)) states[recordTypeOf(e)] = state;
-    }
-  });
-  EXPECT_EQ(states.size(), 15U);
-  for (const Export& e : exportTable()) {
-    const std::string type = recordTypeOf(e);
-    if (type.empty()) continue;
-    for (const auto& [other, state] : states) {
-      if (other != type) Call(e, state).expectRefused(qvxStatContextMismatch);
-    }
-  }
 }
 
 }  // namespace

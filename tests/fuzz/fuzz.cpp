@@ -61,7 +61,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
 
   const AnyCall before(e, choices, memory, usual, all[0]);
   AnyCall first(e, choices, memory, usual, all[0]);
-  const bool isSpoiled = manner >= 192 && first.spoil(manner % e.parameters.size(), choices);
+  const std::vector<Wrong> wrongs = Wrongs(e).all;
+  const bool isSpoiled = manner >= 192 && !wrongs.empty();
+  if (isSpoiled) first.spoil(wrongs[manner % wrongs.size()], choices.bits(1));
   const QvxStatus status = first.run();
   if (!first.isIntact()) fail(first, all[0].name, "wrote elsewhere");
   if (status < 0 && !refusesInTheMiddle(e) && !first.wroteNothing()) fail(first, all[0].name, "wrote in spite of an error");

@@ -6,7 +6,6 @@
 #include <set>
 
 #include "iir/members.h"
-#include "support/blocks.h"
 
 namespace {
 
@@ -38,9 +37,6 @@ TEST(IirState, SizesToTheByte) {
         ASSERT_EQ(m.size[form](kOrders[i], &size), qvxStatOk);
         EXPECT_EQ(size, expected[form][i]) << m.name << ", form " << form << ", " << kOrders[i];
       }
-      EXPECT_EQ(m.size[form](0, nullptr), qvxStatNullPtr);
-      EXPECT_EQ(m.size[form](0, &size), qvxStatBadIIROrder);
-      EXPECT_EQ(m.size[form](INT32_MIN, &size), qvxStatBadIIROrder);
     }
   });
   const int df1[2][3] = {{176, 384, 3728}, {16832, 18896, 50880}};
@@ -58,7 +54,6 @@ TEST(IirState, SizesToTheByte) {
     EXPECT_EQ(size[4], k32fc.withSecond[0][i]);
     EXPECT_EQ(size[5], k32fc.withSecond[1][i]);
   }
-  EXPECT_EQ(qvxsIIRGetStateSize_BiQuad_DF1_32f(0, nullptr), qvxStatNullPtr);
 }
 
 // Taps that pass everything on: b0 = a0, the rest 0, but for a little of the last output.
@@ -74,62 +69,21 @@ template <class T> std::vector<T> taps(int form, int n, Part<T> a0 = 2) {
   return all;
 }
 
-// A block of just the size, at every alignment, before an unreadable page: tables, samples and delay lines stay inside.
-TEST(IirState, StaysInsideItsBlock) {
+TEST(IirState, RefusesALeadingTapOfZero) {
   forEachStem([](const auto& m) {
     using M = std::decay_t<decltype(m)>;
     using T = typename M::Internal;
-    for (int form = 0; form < 2; ++form) {
-      for (const int n : {1, 2, 3, 4, 5, 8, 9, 17, 24, 33, 40, 48, 65, 300}) {
-        int size = 0;
-        m.size[form](n, &size);
-        tests::Block block(static_cast<size_t>(size) + 64);
-        const auto t = taps<T>(form, n);
-        for (size_t offset = 0; offset < 33; offset += offset < 2 ? 1 : 5) {
-          uint8_t* p = offset == 32 ? block.atEnd(static_cast<size_t>(size)) : block.atOffset(offset, static_cast<size_t>(size));
-          typename M::State* s = nullptr;
-          ASSERT_EQ(m.init[form](&s, t.data(), n, nullptr, p), qvxStatOk);
-          ASSERT_EQ(reinterpret_cast<uintptr_t>(s) % 32, 0U);
-          std::vector<typename M::Data> v(600);
-          ASSERT_EQ(m.inPlace(v.data(), 600, s), qvxStatOk);
-          ASSERT_EQ(m.one(v[0], &v[1], s), qvxStatOk);
-          std::vector<T> line(static_cast<size_t>(2 * n));
-          ASSERT_EQ(m.getLine(s, line.data()), qvxStatOk);
-          ASSERT_EQ(m.setTaps(t.data(), s), m.name == "32sc_16sc" ? qvxStatContextMismatch : qvxStatOk);
-          ASSERT_TRUE(block.isIntact()) << m.name << ", form " << form << ", " << n << ", offset " << offset;
-          ASSERT_EQ(m.free(s), qvxStatOk);
-          ASSERT_EQ(m.free(s), qvxStatOk) << "a caller's block is not touched";
-        }
-      }
-    }
-  });
-}
-
-TEST(IirState, ChecksItsArgumentsInOrder) {
-  forEachStem([](const auto& m) {
-    using M = std::decay_t<decltype(m)>;
-    using T = typename M::Internal;
-    using State = typename M::State;
     SCOPED_TRACE(m.name);
     for (int form = 0; form < 2; ++form) {
       const auto t = taps<T>(form, 3);
       std::vector<Qvx8u> block(70000);
-      State* s = nullptr;
-      EXPECT_EQ(m.init[form](nullptr, t.data(), 0, nullptr, block.data()), qvxStatNullPtr);
-      EXPECT_EQ(m.init[form](&s, nullptr, 0, nullptr, block.data()), qvxStatNullPtr);
-      EXPECT_EQ(m.init[form](&s, t.data(), 0, nullptr, nullptr), qvxStatNullPtr);
-      EXPECT_EQ(m.init[form](&s, t.data(), 0, nullptr, block.data()), qvxStatBadIIROrder);
-      EXPECT_EQ(m.initAlloc[form](nullptr, t.data(), 0, nullptr), qvxStatNullPtr);
-      EXPECT_EQ(m.initAlloc[form](&s, nullptr, 0, nullptr), qvxStatNullPtr);
-      EXPECT_EQ(m.initAlloc[form](&s, t.data(), -1, nullptr), qvxStatBadIIROrder);
+      typename M::State* s = nullptr;
       EXPECT_EQ(m.initAlloc[form](&s, t.data(), INT32_MAX, nullptr), qvxStatNoMem);
       EXPECT_EQ(s, nullptr);
-
-      // A leading tap of 0: refused with the pointer set.
       auto bad = t;
       bad[form == 0 ? 4 : 9] = T{};
       EXPECT_EQ(m.init[form](&s, bad.data(), 3, nullptr, block.data()), qvxStatDivByZero);
-      EXPECT_NE(s, nullptr);
+      EXPECT_NE(s, nullptr) << "refused with the pointer set";
       EXPECT_EQ(m.initAlloc[form](&s, bad.data(), 3, nullptr), qvxStatDivByZero);
       if (isComplex<T>) {  // it is 0 only if both parts are
         reinterpret_cast<Part<T>*>(&bad[form == 0 ? 4 : 9])[1] = NAN;
@@ -138,44 +92,13 @@ TEST(IirState, ChecksItsArgumentsInOrder) {
       bad = t;
       bad[0] = T{};
       EXPECT_EQ(m.init[form](&s, bad.data(), 3, nullptr, block.data()), form == 0 ? qvxStatOk : qvxStatDivByZero);
-
-      ASSERT_EQ(m.initAlloc[form](&s, t.data(), 3, nullptr), qvxStatOk);
-      auto* foreign = reinterpret_cast<State*>(block.data());
-      std::memset(block.data(), 0x49, 64);
-      std::vector<T> line(6);
-      std::vector<typename M::Data> v(9);
-      const auto untouched = v;
-      EXPECT_EQ(m.free(nullptr), qvxStatNullPtr);
-      EXPECT_EQ(m.free(foreign), qvxStatContextMismatch);
-      EXPECT_EQ(m.getLine(nullptr, line.data()), qvxStatNullPtr);
-      EXPECT_EQ(m.getLine(foreign, nullptr), qvxStatNullPtr);
-      EXPECT_EQ(m.getLine(foreign, line.data()), qvxStatContextMismatch);
-      EXPECT_EQ(m.setLine(nullptr, line.data()), qvxStatNullPtr);
-      EXPECT_EQ(m.setLine(foreign, nullptr), qvxStatContextMismatch);
-      EXPECT_EQ(m.setTaps(nullptr, foreign), qvxStatNullPtr);
-      EXPECT_EQ(m.setTaps(t.data(), nullptr), qvxStatNullPtr);
-      EXPECT_EQ(m.setTaps(t.data(), foreign), qvxStatContextMismatch);
-      for (const int len : {0, -1}) {
-        EXPECT_EQ(m.filter(nullptr, v.data(), len, s), qvxStatNullPtr);
-        EXPECT_EQ(m.filter(v.data(), nullptr, len, s), qvxStatNullPtr);
-        EXPECT_EQ(m.filter(v.data(), v.data(), len, nullptr), qvxStatNullPtr);
-        EXPECT_EQ(m.filter(v.data(), v.data(), len, foreign), qvxStatBadSize);
-        EXPECT_EQ(m.inPlace(nullptr, len, s), qvxStatNullPtr);
-        EXPECT_EQ(m.inPlace(v.data(), len, foreign), qvxStatBadSize);
-      }
-      EXPECT_EQ(m.inPlace(v.data(), 9, nullptr), qvxStatNullPtr);
-      EXPECT_EQ(m.inPlace(v.data(), 9, foreign), qvxStatContextMismatch);
-      EXPECT_EQ(m.filter(v.data(), v.data(), 9, foreign), qvxStatContextMismatch);
-      EXPECT_EQ(m.one(v[0], nullptr, foreign), qvxStatNullPtr);
-      EXPECT_EQ(m.one(v[0], v.data(), nullptr), qvxStatNullPtr);
-      EXPECT_EQ(m.one(v[0], v.data(), foreign), qvxStatContextMismatch);
-      EXPECT_EQ(std::memcmp(v.data(), untouched.data(), v.size() * sizeof(v[0])), 0);
+      ASSERT_EQ(m.init[form](&s, t.data(), 3, nullptr, block.data()), qvxStatOk);
       EXPECT_EQ(m.free(s), qvxStatOk);
+      EXPECT_EQ(m.free(s), qvxStatOk) << "a caller's block is not touched";
     }
   });
 }
 
-// A record of each stem is refused by every other, but for the setter that takes another's.
 TEST(IirState, IdentitiesDiffer) {
   std::set<uint32_t> seen;
   forEachStem([&](const auto& m) {
@@ -185,11 +108,6 @@ TEST(IirState, IdentitiesDiffer) {
       typename M::State* s = nullptr;
       ASSERT_EQ(m.initAlloc[form](&s, t.data(), 1, nullptr), qvxStatOk);
       EXPECT_TRUE(seen.insert(*reinterpret_cast<const uint32_t*>(s)).second) << m.name;
-      forEachStem([&](const auto& other) {
-        using Other = typename std::decay_t<decltype(other)>::State;
-        if (other.name == m.name) return;
-        EXPECT_EQ(other.free(reinterpret_cast<Other*>(s)), qvxStatContextMismatch) << other.name;
-      });
       m.free(s);
     }
   });
@@ -245,8 +163,6 @@ TEST(IirSetTaps, OfIntegersAlwaysReportsAMismatch) {
   EXPECT_EQ(response<QvxsIIRState32s_16s>(qvxsIIROne32s_16s_Sfs, s), (std::vector<Qvx16s>{1000, 0, 0, 0}));
   EXPECT_EQ(qvxsIIRSetTaps32s_16s(second, s, 2), qvxStatContextMismatch);
   EXPECT_EQ(response<QvxsIIRState32s_16s>(qvxsIIROne32s_16s_Sfs, s), (std::vector<Qvx16s>{2000, 1000, 500, 250}));
-  EXPECT_EQ(qvxsIIRSetTaps32s_16s(nullptr, s, 2), qvxStatNullPtr);
-  EXPECT_EQ(qvxsIIRSetTaps32s_16s(second, nullptr, 2), qvxStatNullPtr);
   qvxsIIRFree32s_16s(s);
   // Scaled one by one: taps of 2^-tapsFactor.
   const Qvx32s section[] = {1 << 10, 0, 0, 1 << 20, -(1 << 19), 0};
@@ -317,30 +233,21 @@ TEST(IirDf1, HasRulesOfItsOwn) {
   EXPECT_EQ(qvxsIIRSetDlyLine_32f(s, line), qvxStatOk);
   EXPECT_EQ(qvxsIIRGetDlyLine64f_32s(w, lineOfDoubles), qvxStatContextMismatch);
   EXPECT_EQ(qvxsIIRSetDlyLine64f_32s(w, lineOfDoubles), qvxStatContextMismatch);
-  EXPECT_EQ(qvxsIIRGetDlyLine64f_DF1_32s(w, nullptr), qvxStatNullPtr);
   EXPECT_EQ(qvxsIIRSetTaps64f_32s(wide, w), qvxStatOk);
   EXPECT_EQ(qvxsIIRSetTaps_32f(zeroB0, s), qvxStatOk);
   // x2, x1, y2, y1: a delay of one sample gives x1 first.
   const Qvx32f x[] = {7, 8, 9};
   Qvx32f out[3];
   ASSERT_EQ(qvxsIIR_32f(x, out, 3, s), qvxStatOk);
-  EXPECT_EQ(out[0], 2);
-  EXPECT_EQ(out[1], 7);
-  EXPECT_EQ(out[2], 8);
+  EXPECT_EQ((std::vector<Qvx32f>(out, out + 3)), (std::vector<Qvx32f>{2, 7, 8}));
   qvxsIIRGetDlyLine_32f(s, line);
-  EXPECT_EQ(line[0], 8);
-  EXPECT_EQ(line[1], 9);
-  EXPECT_EQ(line[2], 7);
-  EXPECT_EQ(line[3], 8);
+  EXPECT_EQ((std::vector<Qvx32f>(line, line + 4)), (std::vector<Qvx32f>{8, 9, 7, 8}));
   const Qvx32s in[] = {1, 2, 3, 4, 5};
   Qvx32s outOfIntegers[5];
   ASSERT_EQ(qvxsIIR64f_32s_Sfs(in, outOfIntegers, 5, w, 0), qvxStatOk);
   EXPECT_EQ(outOfIntegers[0], 11) << "1 + 20 / 2";
   ASSERT_EQ(qvxsIIRGetDlyLine64f_DF1_32s(w, lineOfIntegers), qvxStatOk);
-  EXPECT_EQ(lineOfIntegers[0], 4);
-  EXPECT_EQ(lineOfIntegers[1], 5);
-  EXPECT_EQ(lineOfIntegers[2], 6) << "5.5 to even";
-  EXPECT_EQ(lineOfIntegers[3], 7);
+  EXPECT_EQ((std::vector<Qvx32s>(lineOfIntegers, lineOfIntegers + 4)), (std::vector<Qvx32s>{4, 5, 6, 7})) << "5.5 to even";
   EXPECT_EQ(qvxsIIRSetDlyLine64f_DF1_32s(w, nullptr), qvxStatOk);
   qvxsIIRGetDlyLine64f_DF1_32s(w, lineOfIntegers);
   EXPECT_EQ(lineOfIntegers[1], 0);

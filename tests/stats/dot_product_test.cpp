@@ -148,24 +148,13 @@ TEST(DotProductOfIntegers, OfTheLongestVectors) {
 
 // ---- floats
 
-// Large products that cancel down to small sums, which is what they are bad at.
-template <class T> std::vector<T> illConditioned(size_t n, Random& random) {
-  std::vector<T> v = tests::values<T>(n, random);
-  auto* p = reinterpret_cast<Part<T>*>(v.data());
-  const size_t lanes = n * sizeof(T) / sizeof(*p);
-  for (size_t i = 0; i + 7 < lanes; i += 3) p[i + 7] -= p[i] * 1e3F;
-  for (size_t i = 0; i < lanes; i += 5) p[i] += 1e5F;
-  for (size_t i = 2; i < lanes; i += 5) p[i] -= 1e5F;
-  return v;
-}
-
 // bound: of the sum of magnitudes. The result's own rounding is added.
 template <class A, class B, class R> void expectNear(Plain<A, B, R> function) {
   const long double bound = sizeof(Part<R>) == 4 ? 3.5e-5L : 4e-12L;
   const long double rounding = std::numeric_limits<Part<R>>::epsilon() / 2;
   Random random(tests::seed());
-  const auto a = illConditioned<A>(40000, random);
-  const auto b = illConditioned<B>(40000, random);
+  const auto a = tests::illConditioned<A>(40000, random, 1e5F, 1e3F);
+  const auto b = tests::illConditioned<B>(40000, random, 1e5F, 1e3F);
   Placements<A, B>(a.size()).run(a, b, [&](size_t n, const A* pa, const B* pb) {
     const reference::DotProduct<long double> exact(pa, pb, n);
     R result{};

@@ -8,7 +8,7 @@
 #include "reference/extrema.h"
 #include "support/elementwise.h"
 #include "support/placements.h"
-#include "support/uniform.h"
+#include "support/repeated.h"
 
 namespace {
 
@@ -162,46 +162,38 @@ TEST(Extrema, FirstOfTwoAtEveryPlace) {
 
 // ---- element by element
 
-template <class T, class Pick, class... Call> void expectEvery(Pick pick, Call... call) {
+template <class Pick, class T> void expectEvery(Pick pick, std::type_identity<T>, auto call, int inPlaceOf = tests::kOutOfPlace) {
   const auto sources = dataOf<T>();
   for (size_t i = 0; i < sources.size(); ++i) {
     std::vector<T> other = sources[(i + 1) % sources.size()];
     std::rotate(other.begin(), other.begin() + 1, other.end());
-    tests::Elementwise<T, T, T> both(std::tuple(sources[i], other), pick);
-    const auto run = [&](auto f) {
-      if constexpr (std::is_invocable_v<decltype(f), const T*, const T*, T*, int>) {
-        both.run([&](const T* a, const T* b, T* d, int n) { return f(a, b, d, n); });
-        both.run([&](const T* a, const T* b, T* d, int n) { return f(a, b, d, n); }, 0);
-      } else {
-        both.run([&](const T* a, const T*, T* d, int n) { return f(a, d, n); }, 1);
-      }
-    };
-    (run(call), ...);
+    tests::Elementwise<T, T, T>(std::tuple(sources[i], other), pick).run(call, inPlaceOf);
   }
+}
+template <class Pick, class... T> void expectEvery(Pick pick, QvxStatus (*... f)(const T*, const T*, T*, int)) {
+  (expectEvery(pick, std::type_identity<T>(), f), ...);
+}
+// Some stand in place only.
+template <class Pick, class... T> void expectEvery(Pick pick, QvxStatus (*... f)(const T*, T*, int)) {
+  (expectEvery(
+       pick, std::type_identity<T>(), [=](const T* a, const T*, T* d, int n) { return f(a, d, n); }, 1),
+   ...);
 }
 constexpr auto greater = [](auto a, auto b) { return a > b ? a : b; };
 constexpr auto less = [](auto a, auto b) { return a < b ? a : b; };
 
 TEST(Every, KeepsTheSecondUnlessTheFirstIsBeyondIt) {
-  expectEvery<Qvx8u>(greater, qvxsMaxEvery_8u, qvxsMaxEvery_8u_I);
-  expectEvery<Qvx16u>(greater, qvxsMaxEvery_16u, qvxsMaxEvery_16u_I);
-  expectEvery<Qvx16s>(greater, qvxsMaxEvery_16s_I);
-  expectEvery<Qvx32s>(greater, qvxsMaxEvery_32s_I);
-  expectEvery<Qvx32f>(greater, qvxsMaxEvery_32f, qvxsMaxEvery_32f_I);
-  expectEvery<Qvx64f>(greater, qvxsMaxEvery_64f, qvxsMaxEvery_64f_I);
-  expectEvery<Qvx8u>(less, qvxsMinEvery_8u, qvxsMinEvery_8u_I);
-  expectEvery<Qvx16u>(less, qvxsMinEvery_16u, qvxsMinEvery_16u_I);
-  expectEvery<Qvx16s>(less, qvxsMinEvery_16s_I);
-  expectEvery<Qvx32s>(less, qvxsMinEvery_32s_I);
-  expectEvery<Qvx32f>(less, qvxsMinEvery_32f, qvxsMinEvery_32f_I);
-  expectEvery<Qvx64f>(less, qvxsMinEvery_64f, qvxsMinEvery_64f_I);
+  expectEvery(greater, qvxsMaxEvery_8u, qvxsMaxEvery_16u, qvxsMaxEvery_32f, qvxsMaxEvery_64f);
+  expectEvery(greater, qvxsMaxEvery_16s_I, qvxsMaxEvery_32s_I);
+  expectEvery(less, qvxsMinEvery_8u, qvxsMinEvery_16u, qvxsMinEvery_32f, qvxsMinEvery_64f);
+  expectEvery(less, qvxsMinEvery_16s_I, qvxsMinEvery_32s_I);
 }
 
 // ---- as many elements as a length can tell
 
 TEST(Extrema, IndicesHoldAtTheGreatestLength) {
   constexpr size_t n = INT_MAX;
-  tests::Uniform<Qvx8u> bytes(n, 7);
+  tests::Repeated<Qvx8u> bytes(n, 7);
   bytes.last()[-1] = 9;
   bytes.last()[0] = 3;
   Qvx8u min{}, max{};
@@ -212,7 +204,7 @@ TEST(Extrema, IndicesHoldAtTheGreatestLength) {
   EXPECT_EQ(max, 9);
   EXPECT_EQ(maxIndex, INT_MAX - 2);
 
-  tests::Uniform<Qvx16s> shorts(n, -5);
+  tests::Repeated<Qvx16s> shorts(n, -5);
   shorts.last()[0] = -4;
   Qvx16s greatest{};
   ASSERT_EQ(qvxsMaxIndx_16s(shorts.data(), INT_MAX, &greatest, &maxIndex), qvxStatOk);

@@ -37,3 +37,18 @@ template <class Number> struct DotProduct {
 };
 
 }  // namespace reference
+
+namespace tests {
+
+// Large numbers that cancel down to small sums, which is what they are bad at.
+template <class T> std::vector<T> illConditioned(size_t n, Random& random, float large, float factor) {
+  std::vector<T> v = values<T>(n, random);
+  auto* p = reinterpret_cast<Part<T>*>(v.data());
+  const size_t lanes = n * sizeof(T) / sizeof(*p);
+  for (size_t i = 0; i + 7 < lanes; i += 3) p[i + 7] -= p[i] * factor;
+  for (size_t i = 0; i < lanes; i += 5) p[i] += large;
+  for (size_t i = 2; i < lanes; i += 5) p[i] -= large;
+  return v;
+}
+
+}  // namespace tests

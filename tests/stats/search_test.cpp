@@ -9,11 +9,10 @@
 
 #include "reference/extrema.h"
 #include "support/placements.h"
-#include "support/uniform.h"
+#include "support/repeated.h"
 
 namespace {
 
-using tests::Block;
 using tests::Placements;
 using tests::Random;
 
@@ -108,7 +107,7 @@ TEST(CountInRange, LeavesOutItsBounds) {
 }
 
 TEST(CountInRange, HoldsAtTheGreatestLength) {
-  tests::Uniform<Qvx32s> all(INT_MAX, 5);
+  tests::Repeated<Qvx32s> all(INT_MAX, 5);
   int count = -1;
   ASSERT_EQ(qvxsCountInRange_32s(all.data(), INT_MAX, &count, 4, 6), qvxStatOk);
   EXPECT_EQ(count, INT_MAX);
@@ -119,46 +118,26 @@ TEST(CountInRange, HoldsAtTheGreatestLength) {
 
 // ---- nearest entries
 
-// A table that ends at an unreadable page.
-class Table {
- public:
-  explicit Table(const std::vector<Qvx16u>& entries)
-      : block_(entries.size() * sizeof(Qvx16u)), n_(static_cast<int>(entries.size())) {
-    entries_ = reinterpret_cast<Qvx16u*>(block_.atEnd(entries.size() * sizeof(Qvx16u)));
-    std::copy(entries.begin(), entries.end(), entries_);
-  }
-
-  void check(const std::vector<Qvx16u>& values) const {
-    Block values16(2 * values.size() + 128);
-    Block indices32(4 * values.size() + 256);
-    Placements<Qvx16u>(values.size()).run(values, [&](size_t n, const Qvx16u* src) {
-      auto* out = reinterpret_cast<Qvx16u*>(values16.atEnd(n * sizeof(Qvx16u)));
-      auto* index = reinterpret_cast<int*>(indices32.atEnd(n * sizeof(int)));
-      ASSERT_EQ(qvxsFindNearest_16u(src, out, index, static_cast<int>(n), entries_, n_), qvxStatOk);
-      ASSERT_TRUE(values16.isIntact() && indices32.isIntact());
-      for (size_t i = 0; i < n; ++i) {
-        const int expected = reference::nearest(entries_, n_, src[i]);
-        ASSERT_EQ(index[i], expected) << "value " << src[i] << " in " << n_ << " entries";
-        ASSERT_EQ(out[i], entries_[expected]);
-      }
-      std::copy(src, src + n, out);
-      ASSERT_EQ(qvxsFindNearest_16u(out, out, index, static_cast<int>(n), entries_, n_), qvxStatOk);
-      for (size_t i = 0; i < n; ++i) ASSERT_EQ(out[i], entries_[reference::nearest(entries_, n_, src[i])]);
-    });
-    for (size_t i = 0; i < values.size(); i += 5) {
-      Qvx16u out = 0;
-      int index = -1;
-      ASSERT_EQ(qvxsFindNearestOne_16u(values[i], &out, &index, entries_, n_), qvxStatOk);
-      ASSERT_EQ(index, reference::nearest(entries_, n_, values[i]));
-      ASSERT_EQ(out, entries_[index]);
+void expectNearest(const std::vector<Qvx16u>& entries, const std::vector<Qvx16u>& values) {
+  const int n = static_cast<int>(entries.size());
+  Placements<Qvx16u>(values.size()).run(values, [&](size_t len, const Qvx16u* src) {
+    std::vector<Qvx16u> out(len);
+    std::vector<int> index(len);
+    ASSERT_EQ(qvxsFindNearest_16u(src, out.data(), index.data(), static_cast<int>(len), entries.data(), n), qvxStatOk);
+    for (size_t i = 0; i < len; ++i) {
+      const int expected = reference::nearest(entries.data(), n, src[i]);
+      ASSERT_EQ(index[i], expected) << "value " << src[i] << " in " << n << " entries";
+      ASSERT_EQ(out[i], entries[static_cast<size_t>(expected)]);
     }
+  });
+  for (size_t i = 0; i < values.size(); i += 5) {
+    Qvx16u out = 0;
+    int index = -1;
+    ASSERT_EQ(qvxsFindNearestOne_16u(values[i], &out, &index, entries.data(), n), qvxStatOk);
+    ASSERT_EQ(index, reference::nearest(entries.data(), n, values[i]));
+    ASSERT_EQ(out, entries[static_cast<size_t>(index)]);
   }
-
- private:
-  Block block_;
-  int n_;
-  Qvx16u* entries_;
-};
+}
 
 TEST(FindNearest, BisectsAndTakesTheLowerOfATie) {
   Random random(tests::seed());
@@ -172,9 +151,9 @@ TEST(FindNearest, BisectsAndTakesTheLowerOfATie) {
         values[i] = static_cast<Qvx16u>((entries[random() % n] + entries[random() % n]) / 2);
         if (i % 4 == 0) values[i] = static_cast<Qvx16u>(entries[random() % n] + random() % 5 - 2);
       }
-      Table(entries).check(values);  // in no order: the entries that the bisection comes to
+      expectNearest(entries, values);  // in no order: the entries that the bisection comes to
       std::sort(entries.begin(), entries.end());
-      Table(entries).check(values);
+      expectNearest(entries, values);
     }
   }
 }

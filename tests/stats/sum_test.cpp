@@ -2,12 +2,11 @@
 #include <gtest/gtest.h>
 #include <qvx/qvxs.h>
 
-#include <cfenv>
 #include <cmath>
-#include <functional>
 
-#include "reference/scaled.h"
+#include "stats/products.h"
 #include "support/placements.h"
+#include "support/rounding.h"
 
 namespace {
 
@@ -74,44 +73,37 @@ template <class T> void expectMeans(Scaled<T, T> function, const std::vector<T>&
   });
 }
 
-template <class T> std::vector<T> lowest(size_t n) {
-  if constexpr (tests::isComplex<T>) return std::vector<T>(n, {std::numeric_limits<tests::Part<T>>::min(), -1});
-  else return std::vector<T>(n, std::numeric_limits<T>::min());
-}
-
-template <class T> void overData(const std::function<void(const std::vector<T>&)>& test) {
+// Anything, and what overflows first.
+template <class T, class... Test> void overData(Test... test) {
   Random random(tests::seed());
-  test(tests::values<T>(kMost, random));
-  test(lowest<T>(300000));
+  T least = T();
+  if constexpr (tests::isComplex<T>) least = {std::numeric_limits<tests::Part<T>>::min(), -1};
+  else least = std::numeric_limits<T>::min();
+  for (const auto& data : {tests::values<T>(kMost, random), std::vector<T>(300000, least)}) (test(data), ...);
 }
+const auto exactSums = [](auto f) { return [=](const auto& data) { expectExactSums(f, data); }; };
+const auto means = [](auto f) { return [=](const auto& data) { expectMeans(f, data); }; };
 
 TEST(SumOfIntegers, IsExactAndScaled) {
-  overData<Qvx16s>([](const auto& data) {
-    expectExactSums(qvxsSum_16s_Sfs, data);
-    expectExactSums(qvxsSum_16s32s_Sfs, data);
-  });
-  overData<Qvx16sc>([](const auto& data) {
-    expectExactSums(qvxsSum_16sc_Sfs, data);
-    expectExactSums(qvxsSum_16sc32sc_Sfs, data);
-  });
-  overData<Qvx32s>([](const auto& data) { expectExactSums(qvxsSum_32s_Sfs, data); });
+  overData<Qvx16s>(exactSums(qvxsSum_16s_Sfs), exactSums(qvxsSum_16s32s_Sfs));
+  overData<Qvx16sc>(exactSums(qvxsSum_16sc_Sfs), exactSums(qvxsSum_16sc32sc_Sfs));
+  overData<Qvx32s>(exactSums(qvxsSum_32s_Sfs));
 }
 
 TEST(MeanOfIntegers, IsNearest) {
-  overData<Qvx16s>([](const auto& data) { expectMeans(qvxsMean_16s_Sfs, data); });
-  overData<Qvx16sc>([](const auto& data) { expectMeans(qvxsMean_16sc_Sfs, data); });
-  overData<Qvx32s>([](const auto& data) { expectMeans(qvxsMean_32s_Sfs, data); });
+  overData<Qvx16s>(means(qvxsMean_16s_Sfs));
+  overData<Qvx16sc>(means(qvxsMean_16sc_Sfs));
+  overData<Qvx32s>(means(qvxsMean_32s_Sfs));
 }
 
 TEST(MeanOfIntegers, RoundsTiesToEvenInEveryMode) {
   const Qvx16s halves[][2] = {{0, 1}, {1, 2}, {-1, 0}, {-1, -2}, {2, 3}};
   const Qvx16s expected[] = {0, 2, 0, -2, 2};
-  for (const int mode : {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
+  for (const int mode : tests::kRoundings) {
     for (size_t i = 0; i < std::size(expected); ++i) {
+      const tests::CallersRounding scope(mode);
       Qvx16s mean = 99;
-      std::fesetround(mode);
       qvxsMean_16s_Sfs(halves[i], 2, &mean, 0);
-      std::fesetround(FE_TONEAREST);
       EXPECT_EQ(mean, expected[i]) << "mode " << mode << ", " << halves[i][0] << " and " << halves[i][1];
     }
   }
@@ -132,17 +124,6 @@ template <class T, class Get> Bounds sums(const T* src, size_t n, Get get) {
   return b;
 }
 
-// Large numbers that cancel down to small ones, which is what sums are bad at.
-template <class T> std::vector<T> illConditioned(size_t n, Random& random) {
-  std::vector<T> v = tests::values<T>(n, random);
-  auto* p = reinterpret_cast<tests::Part<T>*>(v.data());
-  const size_t lanes = n * sizeof(T) / sizeof(*p);
-  for (size_t i = 0; i + 7 < lanes; i += 3) p[i + 7] -= p[i] * 1e6F;
-  for (size_t i = 0; i < lanes; i += 5) p[i] += 1e7F;
-  for (size_t i = 2; i < lanes; i += 5) p[i] -= 1e7F;
-  return v;
-}
-
 constexpr auto real = [](auto v) {
   if constexpr (tests::isComplex<decltype(v)>) return v.re;
   else return v;
@@ -155,7 +136,7 @@ constexpr auto imaginary = [](auto v) {
 // call(src, len, result): the sum, or the mean, in which case the sum is divided.
 template <class T, class Call> void expectNear(bool mean, long double bound, long double rounding, Call call) {
   Random random(tests::seed());
-  const auto data = illConditioned<T>(kMost, random);
+  const auto data = tests::illConditioned<T>(kMost, random, 1e7F, 1e6F);
   Placements<T>(data.size()).run(data, [&](size_t n, const T* src) {
     T result{};
     ASSERT_EQ(call(src, static_cast<int>(n), &result), qvxStatOk);

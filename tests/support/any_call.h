@@ -3,80 +3,28 @@
 #pragma once
 
 #include <qvx/qvxcore.h>
+#include <qvx/qvxs.h>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <deque>
 #include <map>
-#include <random>
 #include <set>
-#include <span>
 
 #include "support/blocks.h"
+#include "support/choices.h"
 #include "support/exports.h"
+#include "support/refusals.h"
 
 namespace tests {
-
-// Bytes first, as a fuzzer brings them, then a random sequence that follows from them.
-class Choices {
- public:
-  explicit Choices(std::span<const uint8_t> bytes) : bytes_(bytes), random_(seedOf(bytes)) {}
-  explicit Choices(uint64_t seed) : random_(seed) {}
-
-  uint64_t bits(int bytes = 8) {
-    uint64_t v = 0;
-    for (int i = 0; i < bytes; ++i) v = v << 8 | next();
-    return v;
-  }
-  int64_t between(int64_t least, int64_t most) {
-    const auto count = static_cast<uint64_t>(most - least) + 1;
-    return least + static_cast<int64_t>(bits(count <= 256 ? 1 : 4) % count);
-  }
-  bool oneIn(int n) { return between(1, n) == 1; }
-  template <class T> T oneOf(std::initializer_list<T> values) {
-    return values.begin()[between(0, static_cast<int64_t>(values.size()) - 1)];
-  }
-
- private:
-  uint8_t next() {
-    if (at_ < bytes_.size()) return bytes_[at_++];
-    if (left_ == 0) word_ = random_(), left_ = 8;
-    --left_;
-    return static_cast<uint8_t>(word_ >> 8 * left_);
-  }
-  static uint64_t seedOf(std::span<const uint8_t> bytes) {
-    uint64_t h = bytes.size();
-    for (const uint8_t b : bytes) h = (h ^ b) * 0x100000001B3;
-    return h;
-  }
-
-  std::span<const uint8_t> bytes_;
-  size_t at_ = 0;
-  std::mt19937_64 random_;
-  uint64_t word_ = 0;
-  int left_ = 0;
-};
 
 // What must not make a difference.
 struct Surroundings {
   int offset = -1;           // of vectors behind the start of their blocks; -1: they end where their blocks end
   uint8_t garbage = 0;       // in destinations and working memory
   bool inOneVector = false;  // the destination is the source, where that is allowed
-};
-
-class Memory {
- public:
-  Block& take() {
-    if (used_ == blocks_.size()) blocks_.emplace_back(kCapacity);
-    return blocks_[used_++];
-  }
-  void reuse() { used_ = 0; }
-  static constexpr size_t kCapacity = 1 << 20;
-
- private:
-  std::deque<Block> blocks_;
-  size_t used_ = 0;
+  int length = 0;            // of the vectors; 0: as it is drawn
 };
 
 inline bool contains(const std::string& text, std::initializer_list<const char*> parts) {
@@ -85,22 +33,6 @@ inline bool contains(const std::string& text, std::initializer_list<const char*>
 
 // Refuses a channel, a half or a section when it comes to it: what was before it is written.
 inline bool refusesInTheMiddle(const Export& e) { return contains(e.name, {"_P", "_IP", "CartToPolar", "One_BiQuadDirect"}); }
-
-// The type that a pointer of the headers leads to: const Qvx16sc* and Qvx16sc* const* both to Qvx16sc.
-inline std::string pointee(const Parameter& p) {
-  const size_t start = p.type.rfind("const ", 0) == 0 ? 6 : 0;
-  return p.type.substr(start, p.type.find_first_of(" *", start) - start);
-}
-
-inline const Export* findExport(const std::string& name) {
-  static const std::map<std::string, const Export*> all = [] {
-    std::map<std::string, const Export*> byName;
-    for (const Export& e : exportTable()) byName[e.name] = &e;
-    return byName;
-  }();
-  const auto found = all.find(name);
-  return found == all.end() ? nullptr : found->second;
-}
 
 inline std::string replaced(std::string text, const char* what, const char* with) {
   const size_t at = text.find(what);
@@ -126,14 +58,37 @@ class AnyCall : public Arguments {
     return status_;
   }
 
-  // One argument made wrong; false if it has no wrong values.
-  bool spoil(size_t index, Choices& choices);
+  // One argument made wrong, by one of the values that are.
+  void spoil(const Wrong& wrong, size_t which = 0);
+  // A record of another type, or of none, where the call expects its own.
+  void setRecord(size_t index, void* record) { pointers_[index] = record; }
+  void* record() const { return records_.empty() ? nullptr : records_[0].address; }
+
+  // Other numbers in the vectors of a parameter: value(element) in all parts.
+  void write(const std::string& parameter, const std::function<double(size_t)>& value) {
+    for (Vector& v : vectors_) {
+      if (v.parameter != parameter) continue;
+      const size_t element = v.part.bytes * (v.part.isComplex ? 2 : 1);
+      for (size_t at = 0; at < v.bytes; at += v.part.bytes) v.part.put(v.at + at, value(at / element));
+      v.copy.assign(v.at, v.at + v.bytes);
+    }
+  }
+
+  // The bytes of a parameter's vector as they are, or as they were before the call; null if it has none.
+  const uint8_t* bytesOf(size_t index, bool before) const {
+    for (const Vector& v : vectors_) {
+      if (v.at == pointers_.at(index)) return before ? v.copy.data() : v.data();
+    }
+    return nullptr;
+  }
+  size_t extentOf(size_t index) const { return extent(export_.parameters[index]); }
 
   // What the call may write, as bytes, but for records and working memory.
-  std::vector<uint8_t> results() const {
+  std::vector<uint8_t> results(const char* parameter = "") const {
     std::vector<uint8_t> all;
     for (const Vector& v : vectors_) {
-      if (v.role == Role::kDestination) all.insert(all.end(), v.data(), v.data() + v.bytes);
+      if (v.role == Role::kDestination && v.parameter.find(parameter) != std::string::npos)
+        all.insert(all.end(), v.data(), v.data() + v.bytes);
     }
     return all;
   }
@@ -142,13 +97,13 @@ class AnyCall : public Arguments {
     std::vector<double> all;
     for (const Vector& v : vectors_) {
       if (parameter.empty() ? v.role != Role::kDestination : v.parameter != parameter) continue;
-      for (size_t i = 0; i + v.part <= v.bytes; i += v.part) all.push_back(numberAt(v.data() + i, v));
+      for (size_t i = 0; i + v.part.bytes <= v.bytes; i += v.part.bytes) all.push_back(v.part.get(v.data() + i));
     }
     return all;
   }
   bool areIntegers() const {
     return std::all_of(vectors_.begin(), vectors_.end(),
-                       [](const Vector& v) { return v.role != Role::kDestination || !v.isFloat; });
+                       [](const Vector& v) { return v.role != Role::kDestination || !v.part.isFloat; });
   }
   // Sources as they were, and nothing written around any vector.
   bool isIntact() const {
@@ -185,8 +140,7 @@ class AnyCall : public Arguments {
     size_t bytes;
     Role role;
     std::string parameter;
-    size_t part;  // bytes of a number
-    bool isFloat, isSigned;
+    PartType part;
     std::vector<uint8_t> copy;
     const uint8_t* data() const { return at; }
   };
@@ -195,21 +149,6 @@ class AnyCall : public Arguments {
     void* address;
     bool isAllocated;
   };
-
-  static double numberAt(const uint8_t* at, const Vector& v) {
-    if (v.isFloat && v.part == 4) return read<float>(at);
-    if (v.isFloat) return read<double>(at);
-    if (v.part == 1) return v.isSigned ? read<int8_t>(at) : read<uint8_t>(at);
-    if (v.part == 2) return v.isSigned ? read<int16_t>(at) : read<uint16_t>(at);
-    if (v.part == 4 && v.isSigned) return read<int32_t>(at);
-    if (v.part == 4) return read<uint32_t>(at);
-    return static_cast<double>(read<int64_t>(at));
-  }
-  template <class T> static T read(const uint8_t* at) {
-    T v;
-    std::memcpy(&v, at, sizeof(T));
-    return v;
-  }
 
   void prepare(Choices& choices);
   int64_t drawInteger(const Parameter& p, Choices& choices);
@@ -222,7 +161,7 @@ class AnyCall : public Arguments {
     return 1;
   }
   uint8_t* vector(size_t bytes, Role role, size_t index, const std::function<void(uint8_t*)>& fill);
-  void fill(uint8_t* p, size_t bytes, const Parameter& parameter, size_t elementSize, Choices& choices);
+  void fill(uint8_t* p, size_t bytes, const Parameter& parameter, Choices& choices);
   void fillTaps(uint8_t* p, const Parameter& parameter, Choices& choices);
   void* recordOf(std::string type, Choices& choices);
   void* pointerFor(size_t index, size_t elementSize, bool isConst, char kind, Choices& choices);
@@ -255,10 +194,12 @@ inline int64_t AnyCall::drawInteger(const Parameter& p, Choices& choices) {
       {"tapsFactor", {0, 18}},   {"phaseFixedPoint", {0, 16}}};
   const auto range = ranges.find(p.name);
   if (p.name == "order" && export_.name.find("FFT") != std::string::npos) return choices.between(0, 11);
+  if (p.name == "order" && !export_.contains("Gen") && choices.oneIn(6)) return choices.between(1, 70);
   if (range != ranges.end()) return choices.between(range->second.first, range->second.second);
   if (p.name == "flag") return choices.oneOf({1, 2, 4, 8});
   if (p.name == "relOp") return choices.oneOf({0, 4});
   if (p.name == "len" || p.name == "numIters" || p.name == "chanLen" || p.name == "tblLen") {
+    if (around_.length > 0) return around_.length;
     return choices.oneIn(6) ? choices.between(1, 2500) : choices.between(1, 150);
   }
   if (p.name == "tapsLen") return choices.oneIn(5) ? choices.between(1, 200) : choices.between(1, 40);
@@ -309,7 +250,7 @@ inline size_t AnyCall::extent(const Parameter& p) const {
     return static_cast<size_t>(shape("dstBitOffset") + shape("totalBits") + 7) / 8;
   if (contains(name, {"ConjCcs"}) && p.name == "pSrc") return 2 * (n / 2 + 1);
   const size_t places = shape("nChannels") > 0 && !p.isArrayOfPointers() ? n * static_cast<size_t>(shape("nChannels")) : n;
-  return contains(name, {"24s", "24u"}) && pointee(p) == "Qvx8u" ? 3 * places : places;
+  return contains(name, {"24s", "24u"}) && p.pointee() == "Qvx8u" ? 3 * places : places;
 }
 
 inline uint8_t* AnyCall::vector(size_t bytes, Role role, size_t index, const std::function<void(uint8_t*)>& fill) {
@@ -320,34 +261,26 @@ inline uint8_t* AnyCall::vector(size_t bytes, Role role, size_t index, const std
   std::memset(at, around_.garbage, bytes);
   fill(at);
   const Parameter& p = export_.parameters[index];
-  const std::string type = pointee(p);
-  const size_t digits = type.find_first_of("0123456789");
-  const size_t part = digits == type.npos ? 4 : static_cast<size_t>(std::atoi(type.c_str() + digits)) / 8;
-  const bool isFloat = type.find("2f") != type.npos || type.find("4f") != type.npos;
-  vectors_.push_back({&block, at, bytes, role, p.name, std::max<size_t>(part, 1), isFloat, type.find('u') == type.npos,
-                      std::vector<uint8_t>(at, at + bytes)});
+  vectors_.push_back({&block, at, bytes, role, p.name, PartType(p.pointee()), std::vector<uint8_t>(at, at + bytes)});
   return at;
 }
 
 // Numbers that are small, large, extreme, between two others or none.
-inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, size_t elementSize, Choices& choices) {
-  const std::string type = pointee(parameter);
-  const bool isFloat = type.find("32f") != type.npos, isDouble = type.find("64f") != type.npos;
-  const size_t part = isFloat ? 4 : isDouble ? 8 : type.back() == 'c' ? elementSize / 2 : elementSize;
+inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, Choices& choices) {
+  const PartType type(parameter.pointee());
+  const size_t part = type.bytes;
   const bool isTame = contains(export_.name, {"FFT", "FIR", "IIR", "Sum", "Mean", "StdDev", "Norm", "DotProd", "Product"});
   const uint64_t style = choices.bits(1);
   for (size_t i = 0; i + part <= bytes; i += part) {
     const uint64_t bits = choices.bits();
-    if (isFloat || isDouble) {
+    if (type.isFloat) {
       double x = std::ldexp(static_cast<double>(static_cast<int64_t>(bits)), -63 + (isTame ? 0 : static_cast<int>(style & 15)));
       if (!isTame && (bits & 3) == 0) x = std::trunc(x) + 0.5;
       if (!isTame && style >= 128 && (bits & 28) == 4) {
         constexpr double kSpecial[] = {INFINITY, -INFINITY, NAN, -0.0, 0, 1e-40, 3e38, -1e-310};
         x = kSpecial[bits >> 5 & 7];
       }
-      const auto single = static_cast<float>(x);
-      if (isDouble) std::memcpy(p + i, &x, 8);
-      else std::memcpy(p + i, &single, 4);
+      type.put(p + i, x);
       continue;
     }
     uint64_t v = style % 3 == 0 ? static_cast<uint64_t>(static_cast<int64_t>(bits) >> (bits & 31) >> 30) : bits;
@@ -378,19 +311,15 @@ inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, 
 // Taps of a recursive filter that is stable: the feedback's magnitudes sum up to less than 1.
 inline void AnyCall::fillTaps(uint8_t* p, const Parameter& parameter, Choices& choices) {
   if (!contains(export_.name, {"IIR"}) || contains(export_.name, {"Gen", "Get"})) return;
-  const std::string type = pointee(parameter);
-  const size_t parts = type.back() == 'c' ? 2 : 1;
+  const PartType type(parameter.pointee());
+  const size_t parts = type.isComplex ? 2 : 1;
   const bool hasSections = shape("numBq") > 0;
   const auto order = static_cast<size_t>(hasSections ? 2 : shape("order"));
   const auto unit = [&] { return static_cast<double>(static_cast<int32_t>(choices.bits(4))) * 0x1p-31; };
   const auto put = [&](size_t i, double v) {
     for (size_t k = 0; k < parts; ++k, v = k == 1 ? v / 3 : v) {
-      const size_t at = parts * i + k;
-      if (type.find("64f") != type.npos) reinterpret_cast<double*>(p)[at] = v;
-      else if (type.find("32f") != type.npos) reinterpret_cast<float*>(p)[at] = static_cast<float>(v);
-      else if (type.find("32s") != type.npos)
-        reinterpret_cast<int32_t*>(p)[at] = static_cast<int32_t>(std::ldexp(v, static_cast<int>(shape("tapsFactor"))));
-      else reinterpret_cast<int16_t*>(p)[at] = static_cast<int16_t>(std::ldexp(v, 10));
+      const int places = type.isFloat ? 0 : type.bytes == 4 ? static_cast<int>(shape("tapsFactor")) : 10;
+      type.put(p + (parts * i + k) * type.bytes, std::ldexp(v, places));
     }
   };
   if (parameter.name == "pNZTaps") {
@@ -435,7 +364,7 @@ inline const std::vector<const Export*>& makersOf(const std::string& type, bool 
     std::map<std::pair<std::string, bool>, std::vector<const Export*>> byType;
     for (const Export& e : exportTable()) {
       const bool makes = e.name.find("Init") != e.name.npos && !e.parameters.empty() && e.parameters[0].isArrayOfPointers();
-      if (makes) byType[{pointee(e.parameters[0]), contains(e.name, {"InitAlloc"})}].push_back(&e);
+      if (makes) byType[{e.parameters[0].pointee(), contains(e.name, {"InitAlloc"})}].push_back(&e);
     }
     return byType;
   }();
@@ -461,18 +390,21 @@ inline void* AnyCall::recordOf(std::string type, Choices& choices) {
   }
   if (contains(type, {"FFT"})) shape_["workSize"] = made.sizeFor(maker.name, "pWorkSize");
   made.status_ = qvxStatBadArg;  // what it made is this call's from here on
+  for (Vector& v : made.vectors_) {
+    if (v.role == Role::kWork) vectors_.push_back(v);
+  }
   records_.push_back({type, record, allocates});
   return record;
 }
 
 inline void AnyCall::release() {
   if (contains(export_.name, {"InitAlloc"}) && status_ == qvxStatOk) {
-    records_.push_back({pointee(export_.parameters[0]), *static_cast<void**>(pointers_[0]), true});
+    records_.push_back({export_.parameters[0].pointee(), *static_cast<void**>(pointers_[0]), true});
   }
   for (const Record& r : records_) {
     if (!r.isAllocated || r.address == nullptr) continue;
     for (const Export& e : exportTable()) {
-      if (e.name.find("Free") == e.name.npos || e.parameters.size() != 1 || pointee(e.parameters[0]) != r.type) continue;
+      if (e.name.find("Free") == e.name.npos || e.parameters.size() != 1 || e.parameters[0].pointee() != r.type) continue;
       reinterpret_cast<QvxStatus (*)(void*)>(library_(e))(r.address);
     }
   }
@@ -485,14 +417,12 @@ inline void* AnyCall::sourceInPlace(const Parameter& destination) {
   static const std::set<std::string> apart = {"Flip",        "ConjFlip",   "ALawToLin",  "LinToALaw", "ALawToMuLaw",
                                               "MuLawToALaw", "MuLawToLin", "LinToMuLaw", "IIRSparse", "Copy"};
   const std::string& name = export_.name;
-  const size_t stem = std::strlen("qvxs");
-  if (!around_.inOneVector || contains(name, {"FIR"}) || apart.count(name.substr(stem, name.find('_') - stem)) != 0)
-    return nullptr;
+  if (!around_.inOneVector || contains(name, {"FIR"}) || apart.count(export_.stem()) != 0) return nullptr;
   for (size_t i = 0; i < export_.parameters.size(); ++i) {
     const Parameter& p = export_.parameters[i];
     const bool isPartner =
         p.name == replaced(destination.name, "Dst", "Src") || p.name == replaced(destination.name, "Dst", "Src2");
-    if (destination.name.rfind("pDst", 0) != 0 || !isPartner || pointee(p) != pointee(destination)) continue;
+    if (destination.name.rfind("pDst", 0) != 0 || !isPartner || p.pointee() != destination.pointee()) continue;
     if (extent(p) != extent(destination)) continue;
     for (Vector& v : vectors_) {
       if (v.at == pointers_[i]) v.role = Role::kDestination;
@@ -502,32 +432,27 @@ inline void* AnyCall::sourceInPlace(const Parameter& destination) {
   return nullptr;
 }
 
-inline bool AnyCall::spoil(size_t index, Choices& choices) {
-  const Parameter& p = export_.parameters[index];
-  const bool isRecord = contains(p.type, {"State", "Spec"}) && !p.isArrayOfPointers();
-  if (isRecord && !contains(export_.name, {"Sparse"}) && choices.oneIn(2)) {
-    pointers_[index] = vector(4096, Role::kWork, index, [](uint8_t*) {});  // of no identity
-    return true;
+inline void AnyCall::spoil(const Wrong& wrong, size_t which) {
+  const auto value = [&] { return wrong.values[which % wrong.values.size()]; };
+  if (wrong.kind == Wrong::kForeignRecord) pointers_[wrong.index] = vector(4096, Role::kWork, wrong.index, [](uint8_t*) {});
+  if (wrong.kind == Wrong::kNull) pointers_[wrong.index] = nullptr;
+  if (wrong.kind == Wrong::kValue && integers_.count(wrong.index) != 0) integers_[wrong.index] = static_cast<int64_t>(value());
+  if (wrong.kind == Wrong::kValue && reals_.count(wrong.index) != 0) reals_[wrong.index] = value();
+  if (wrong.kind == Wrong::kContent && pointers_[wrong.index] != nullptr) {
+    for (Vector& v : vectors_) {
+      if (v.at != pointers_[wrong.index]) continue;
+      v.part.put(v.at, value());
+      v.copy.assign(v.at, v.at + v.bytes);
+    }
   }
-  if (p.isPointer()) {
-    pointers_[index] = nullptr;
-    return true;
-  }
-  static const std::set<std::string> counts = {"len",     "numIters", "chanLen", "tblLen",    "nChannels",
-                                               "tapsLen", "order",    "numBq",   "nzTapsLenB"};
-  if (counts.count(p.name) != 0) {
-    integers_[index] = p.type == "Qvx32u" || choices.oneIn(2) ? 0 : -choices.between(1, 1 << 30);
-    return true;
-  }
-  return false;
 }
 
 inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst, char kind, Choices& choices) {
   const Parameter& p = export_.parameters[index];
   const std::string& name = export_.name;
-  const std::string type = pointee(p);
+  const std::string type = p.pointee();
   if (kind == 'r') return recordOf(type, choices);
-  const bool isState = contains(type, {"State", "Spec"});
+  const bool isState = p.isRecord();
   if (p.isArrayOfPointers()) {
     if (isState && contains(name, {"Init"})) {  // where a maker leaves its record
       return vector(sizeof(void*), Role::kHandle, index, [](uint8_t*) {});
@@ -539,10 +464,9 @@ inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst,
         array.push_back(recordOf(type, choices));
         continue;
       }
-      const size_t element = type == "Qvx64f" ? 8 : 4;
-      const size_t bytes = element * samples();
+      const size_t bytes = PartType(type).bytes * samples();
       array.push_back(vector(bytes, isSource ? Role::kSource : Role::kDestination, index, [&](uint8_t* at) {
-        if (p.name.find("Src") != p.name.npos || isSource) fill(at, bytes, p, element, choices);
+        if (p.name.find("Src") != p.name.npos || isSource) fill(at, bytes, p, choices);
       }));
     }
     return array.data();
@@ -564,7 +488,7 @@ inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst,
   const bool isRead = isConst || contains(p.name, {"Src", "DlyLine"}) || contains(name, {"Copy_1u", "PackBits"});
   const size_t bytes = elementSize * extent(p);
   return vector(bytes, isConst ? Role::kSource : Role::kDestination, index, [&](uint8_t* at) {
-    if (isRead) fill(at, bytes, p, elementSize, choices);
+    if (isRead) fill(at, bytes, p, choices);
   });
 }
 
@@ -595,7 +519,7 @@ inline void AnyCall::prepare(Choices& choices) {
   // Records first, whose orders are the other vectors' lengths.
   for (const bool wantsRecords : {true, false}) {
     for (const auto& [i, p] : seen.pointers) {
-      const bool isRecord = contains(export_.parameters[i].type, {"State", "Spec"}) && !contains(export_.name, {"Init"});
+      const bool isRecord = export_.parameters[i].isRecord() && !contains(export_.name, {"Init"});
       if (isRecord == wantsRecords) pointers_[i] = pointerFor(i, p.size, p.isConst, p.kind, choices);
     }
   }

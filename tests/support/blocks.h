@@ -3,9 +3,11 @@
 
 #include <sys/mman.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <deque>
 
 namespace tests {
 
@@ -55,6 +57,21 @@ class Block {
   uint8_t* base_;
   uint8_t* vector_ = nullptr;
   size_t bytes_ = 0;
+};
+
+// Blocks of one size, taken one by one and then all at once given back.
+class Memory {
+ public:
+  Block& take() {
+    if (used_ == blocks_.size()) blocks_.emplace_back(kCapacity);
+    return blocks_[used_++];
+  }
+  void reuse() { used_ = 0; }
+  static constexpr size_t kCapacity = 4 << 20;
+
+ private:
+  std::deque<Block> blocks_;
+  size_t used_ = 0;
 };
 
 }  // namespace tests

@@ -7,6 +7,7 @@
 #include <tuple>
 
 #include "support/blocks.h"
+#include "support/rounding.h"
 #include "support/values.h"
 
 namespace tests {
@@ -27,9 +28,9 @@ template <class T> bool sameBits(const T* a, const T* b, size_t n) {
   }
 }
 
-inline std::string text(__int128 v) { return std::to_string(static_cast<long long>(v)); }
 template <class T> std::string show(T v) {
-  if constexpr (isComplex<T>) return "(" + show(v.re) + ", " + show(v.im) + ")";
+  if constexpr (isPacked24<T>) return std::to_string(v.number());
+  else if constexpr (isComplex<T>) return "(" + show(v.re) + ", " + show(v.im) + ")";
   else if constexpr (std::is_floating_point_v<T>) return testing::PrintToString(v);
   else return std::to_string(v);
 }
@@ -74,6 +75,16 @@ template <class D, class... S> class Elementwise {
   template <class Call> void runOnce(Call call, int inPlaceOf = kOutOfPlace) {
     once(call, inPlaceOf, expected_.size(), kAtEnd, kAtEnd);
   }
+  // In each of the caller's rounding modes.
+  template <class Call> void runInEveryRounding(Call call) {
+    for (const int mode : kRoundings) {
+      SCOPED_TRACE("rounding " + std::to_string(mode));
+      runOnce([&](auto... arguments) {
+        const CallersRounding scope(mode);
+        return call(arguments...);
+      });
+    }
+  }
 
  private:
   static constexpr size_t kAtEnd = ~size_t{0};
@@ -84,44 +95,31 @@ template <class D, class... S> class Elementwise {
     const size_t bytes = n * sizeof(T);
     return reinterpret_cast<T*>(offset == kAtEnd ? block.atEnd(bytes) : block.atOffset(offset, bytes));
   }
+  template <class T> static const T* fill(Block& block, const std::vector<T>& from, size_t n, size_t offset) {
+    T* p = place<T>(block, n, offset);
+    std::memcpy(static_cast<void*>(p), from.data(), n * sizeof(T));
+    return p;
+  }
 
   template <class Call> void once(Call call, int inPlaceOf, size_t n, size_t srcOffset, size_t dstOffset) {
-    oneCall(call, inPlaceOf, n, srcOffset, dstOffset, std::index_sequence_for<S...>());
-  }
-
-  template <class Call, size_t... I>
-  void oneCall(Call call, int inPlaceOf, size_t n, size_t srcOffset, size_t dstOffset, std::index_sequence<I...>) {
-    D* dst = place<D>(dstBlock_, n, dstOffset);
-    std::tuple<const S*...> src{fill<S>(I, n, srcOffset)...};
-    ((inPlaceOf == static_cast<int>(I) ? copyTo(dst, std::get<I>(sources_), n) : void()), ...);
-    const QvxStatus status = statuses_.empty() ? qvxStatOk : statuses_[n - 1];
-    ASSERT_EQ(call(std::get<I>(src)..., dst, static_cast<int>(n)), status) << "length " << n;
-    ASSERT_TRUE(dstBlock_.isIntact()) << "wrote outside the vector, length " << n;
-    if (sameBits(dst, expected_.data(), n)) return;
-    for (size_t i = 0; i < n; ++i) {
-      if (sameBits(dst + i, expected_.data() + i, 1)) continue;
-      std::string from;
-      ((from += " " + show(std::get<I>(sources_)[i])), ...);
-      FAIL() << "element " << i << " of " << n << ", from" << from << ": " << show(dst[i]) << ", not " << show(expected_[i])
-             << "; offsets " << srcOffset << " and " << dstOffset << ", seed " << seed();
+    if (testing::Test::HasFatalFailure()) return;
+    [&]<size_t... I>(std::index_sequence<I...>) {
+      D* dst = place<D>(dstBlock_, n, dstOffset);
+      const std::tuple<const S*...> src{fill(srcBlocks_[I], std::get<I>(sources_), n, srcOffset)...};
+      ((inPlaceOf == static_cast<int>(I) ? void(fill(dstBlock_, std::get<I>(sources_), n, dstOffset)) : void()), ...);
+      const QvxStatus status = statuses_.empty() ? qvxStatOk : statuses_[n - 1];
+      ASSERT_EQ(call(std::get<I>(src)..., dst, static_cast<int>(n)), status) << "length " << n;
+      ASSERT_TRUE(dstBlock_.isIntact()) << "wrote outside the vector, length " << n;
+      if (sameBits(dst, expected_.data(), n)) return;
+      for (size_t i = 0; i < n; ++i) {
+        if (sameBits(dst + i, expected_.data() + i, 1)) continue;
+        std::string from;
+        ((from += " " + show(std::get<I>(sources_)[i])), ...);
+        FAIL() << "element " << i << " of " << n << ", from" << from << ": " << show(dst[i]) << ", not " << show(expected_[i])
+               << "; offsets " << srcOffset << " and " << dstOffset << ", seed " << seed();
+      }
     }
-  }
-
-  template <class T> const T* fill(size_t index, size_t n, size_t offset) {
-    T* src = place<T>(srcBlocks_[index], n, offset);
-    std::apply([&](const auto&... s) { (copyIf(src, s, n, static_cast<const void*>(&s), index), ...); }, sources_);
-    return src;
-  }
-  template <class T, class U> void copyIf(T* to, const std::vector<U>& from, size_t n, const void* self, size_t index) {
-    if constexpr (std::is_same_v<T, U>) {
-      if (self == addresses()[index]) std::memcpy(static_cast<void*>(to), from.data(), n * sizeof(T));
-    }
-  }
-  std::vector<const void*> addresses() const {
-    return std::apply([](const auto&... s) { return std::vector<const void*>{&s...}; }, sources_);
-  }
-  template <class T> static void copyTo(D* dst, const std::vector<T>& from, size_t n) {
-    if constexpr (std::is_same_v<T, D>) std::memcpy(static_cast<void*>(dst), from.data(), n * sizeof(D));
+    (std::index_sequence_for<S...>());
   }
 
   std::tuple<std::vector<S>...> sources_;

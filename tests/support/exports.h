@@ -4,6 +4,7 @@
 #include <qvx/qvxdefs.h>
 
 #include <algorithm>
+#include <cstring>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -55,6 +56,50 @@ struct Parameter {
   std::string name;
   bool isPointer() const { return type.find('*') != std::string::npos; }
   bool isArrayOfPointers() const { return type.find('*') != type.rfind('*'); }
+  // What it leads to: const Qvx16sc* and Qvx16sc* const* both to Qvx16sc.
+  std::string pointee() const {
+    const size_t start = type.rfind("const ", 0) == 0 ? 6 : 0;
+    return type.substr(start, type.find_first_of(" *", start) - start);
+  }
+  bool isRecord() const { return type.find("State") != std::string::npos || type.find("Spec") != std::string::npos; }
+};
+
+// The parts of an element, by the name of its type: those of Qvx16sc are two signed integers of 2 bytes.
+struct PartType {
+  size_t bytes = sizeof(int);
+  bool isFloat = false, isSigned = true, isComplex = false;
+
+  explicit PartType(const std::string& type) {
+    const size_t digits = type.find_first_of("0123456789");
+    if (digits == std::string::npos) return;
+    const size_t kind = type.find_first_not_of("0123456789", digits);
+    bytes = std::max<size_t>(static_cast<size_t>(std::stoi(type.substr(digits))) / 8, 1);
+    isFloat = bytes > 2 && type.compare(kind, 1, "f") == 0;
+    isSigned = type.compare(kind, 1, "u") != 0;
+    isComplex = type.back() == 'c';
+  }
+
+  double get(const uint8_t* at) const {
+    if (isFloat) return bytes == 4 ? read<float>(at) : read<double>(at);
+    if (bytes == 1) return isSigned ? read<int8_t>(at) : read<uint8_t>(at);
+    if (bytes == 2) return isSigned ? read<int16_t>(at) : read<uint16_t>(at);
+    if (bytes == 4) return isSigned ? read<int32_t>(at) : read<uint32_t>(at);
+    return static_cast<double>(read<int64_t>(at));
+  }
+  void put(uint8_t* at, double value) const {
+    const auto single = static_cast<float>(value);
+    const auto whole = isFloat ? 0 : static_cast<int64_t>(value);
+    if (!isFloat) std::memcpy(at, &whole, bytes);
+    else if (bytes == 4) std::memcpy(at, &single, 4);
+    else std::memcpy(at, &value, 8);
+  }
+
+ private:
+  template <class T> static T read(const uint8_t* at) {
+    T v;
+    std::memcpy(&v, at, sizeof(T));
+    return v;
+  }
 };
 
 struct Export {
@@ -72,64 +117,17 @@ struct Export {
     }
     return -1;
   }
+  bool has(std::string_view parameter) const { return indexOf(parameter) >= 0; }
+  bool contains(std::string_view part) const { return name.find(part) != std::string::npos; }
+  // AddC of qvxsAddC_16s_ISfs.
+  std::string stem() const { return name.substr(4, name.find('_') - 4); }
+  bool isOf(std::initializer_list<const char*> stems) const {
+    return std::find(stems.begin(), stems.end(), stem()) != stems.end();
+  }
 };
 
-// The functions that make, size, use or end a record, or have the caller keep what one would hold; their families' tests hold
-// their rules.
-inline bool handlesRecords(const Export& e) {
-  for (const char* part : {"GetSize", "GetStateSize"}) {
-    if (e.name.find(part) != std::string::npos) return true;
-  }
-  for (const Parameter& p : e.parameters) {
-    if (p.type.find("Spec") != std::string::npos || p.type.find("State") != std::string::npos) return true;
-    if (p.name == "pDlyLine") return true;
-  }
-  return false;
-}
-
-inline std::vector<Parameter> parse(std::string_view text) {
-  std::vector<Parameter> parameters;
-  text = text.substr(1, text.size() - 2);  // the parentheses
-  while (!text.empty() && text != "void") {
-    const size_t comma = text.find(',');
-    const std::string_view one = text.substr(0, comma);
-    const size_t name = one.find_last_of(" *") + 1;
-    const size_t start = one.find_first_not_of(' ');
-    std::string type(one.substr(start, name - start));
-    type.erase(std::find_if(type.rbegin(), type.rend(), [](char c) { return c != ' '; }).base(), type.end());
-    parameters.push_back({type, std::string(one.substr(name))});
-    if (comma == std::string_view::npos) break;
-    text.remove_prefix(comma + 1);
-  }
-  return parameters;
-}
-
-template <class R, class... A> Export describe(const char* name, const char* arguments, R (*function)(A...)) {
-  Export e{name, parse(arguments), reinterpret_cast<void*>(function), nullptr, nullptr};
-  if constexpr (std::is_same_v<R, QvxStatus>) {
-    e.call = [](void* address, Arguments& source) {
-      return [&]<size_t... I>(std::index_sequence<I...>) { return reinterpret_cast<R (*)(A...)>(address)(source.get<A>(I)...); }
-      (std::index_sequence_for<A...>());
-    };
-    e.look = [](Arguments& source) {
-      [&]<size_t... I>(std::index_sequence<I...>) { (static_cast<void>(source.get<A>(I)), ...); }
-      (std::index_sequence_for<A...>());
-    };
-  }
-  return e;
-}
-
-inline std::vector<Export>& exportTable() {
-  static std::vector<Export> table;
-  return table;
-}
+std::vector<Export>& exportTable();
+// Null if there is none of this name.
+const Export* findExport(const std::string& name);
 
 }  // namespace tests
-
-#undef QVXS_API
-#define QVXS_API(result, name, arguments)            \
-  result name arguments;                             \
-  [[maybe_unused]] static const bool listed_##name = \
-      (tests::exportTable().push_back(tests::describe(#name, #arguments, &name)), true)
-
-#include <qvx/qvxs.h>

@@ -1,23 +1,17 @@
-// The caller's rounding mode, which no integer result may depend on.
+// The rounding modes that a caller may have set.
 #pragma once
-
-#include <gtest/gtest.h>
-#include <xmmintrin.h>
 
 #include <cfenv>
 
 namespace tests {
 
-// In all four rounding modes of the caller.
-template <class F> void inEveryRounding(F f) {
-  for (const int mode : {FE_TONEAREST, FE_DOWNWARD, FE_UPWARD, FE_TOWARDZERO}) {
-    SCOPED_TRACE("rounding " + std::to_string(mode));
-    std::fesetround(mode);
-    const unsigned before = _mm_getcsr() & 0xFFC0U;
-    f();
-    EXPECT_EQ(_mm_getcsr() & 0xFFC0U, before) << "the control word was changed";
-    std::fesetround(FE_TONEAREST);
-  }
-}
+inline constexpr int kRoundings[] = {FE_TONEAREST, FE_DOWNWARD, FE_UPWARD, FE_TOWARDZERO};
+
+class CallersRounding {
+ public:
+  explicit CallersRounding(int mode) { std::fesetround(mode); }
+  ~CallersRounding() { std::fesetround(FE_TONEAREST); }
+  CallersRounding(const CallersRounding&) = delete;
+};
 
 }  // namespace tests

@@ -23,9 +23,24 @@ struct PartOf<T> {
 };
 template <class T> using Part = typename PartOf<T>::Type;
 
+// Three bytes as an element, so that a driver can count and place it.
+template <class T> struct Packed24 {
+  uint8_t byte[3];
+  static Packed24 of(T v) { return {{static_cast<uint8_t>(v), static_cast<uint8_t>(v >> 8), static_cast<uint8_t>(v >> 16)}}; }
+  T number() const {
+    const uint32_t bits = byte[0] | byte[1] << 8 | static_cast<uint32_t>(byte[2]) << 16;
+    return std::is_signed_v<T> ? static_cast<T>(bits << 8) >> 8 : static_cast<T>(bits);
+  }
+};
+template <class T> inline constexpr bool isComplex<Packed24<T>> = false;
+template <class T> inline constexpr bool isPacked24 = false;
+template <class T> inline constexpr bool isPacked24<Packed24<T>> = true;
+
 // Integers: the extremes and their neighbours, powers of two and their neighbours, everything else.
 template <class T> T value(Random& random) {
-  if constexpr (isComplex<T>) {
+  if constexpr (isPacked24<T>) {
+    return T::of(value<decltype(T().number())>(random));
+  } else if constexpr (isComplex<T>) {
     using Part = decltype(T::re);
     const Part re = value<Part>(random);
     return {re, value<Part>(random)};

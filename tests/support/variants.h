@@ -30,10 +30,9 @@ inline std::vector<Variant> variants() {
 inline bool roundsItsOwnWay(const Export& e) {
   static const std::set<std::string> stems = {"Exp", "Ln",   "SumLn",  "Arctan",     "Phase", "CartToPolar", "PolarToCart",
                                               "Sum", "Mean", "StdDev", "MeanStdDev", "Norm",  "NormDiff",    "DotProd"};
-  const size_t stem = std::strlen("qvxs");
   const size_t tag = e.name.find('_');
   if (contains(e.name, {"FFTFwd", "FFTInv", "FIR", "IIR"})) return true;
-  return stems.count(e.name.substr(stem, tag - stem)) != 0 && e.name.find('f', tag) != std::string::npos &&
+  return stems.count(e.stem()) != 0 && e.name.find('f', tag) != std::string::npos &&
          (e.indexOf("scaleFactor") < 0 || e.name.find("Ln") == std::string::npos);
 }
 

@@ -4,8 +4,7 @@
 #include <cmath>
 
 #include "reference/quotient.h"
-#include "support/rounding.h"
-#include "vector/scaled_members.h"
+#include "vector/divisors.h"
 
 namespace {
 
@@ -19,17 +18,6 @@ constexpr ScaleWindow kShort = {-30, 15};
 constexpr ScaleWindow kShortRounded = {-30, 16};
 constexpr ScaleWindow kComplex = {-32, 32};
 constexpr ScaleWindow kLong = {-62, 32};
-
-template <class T> bool isZero(T v) {
-  if constexpr (isComplex<T>) return v.re == 0 && v.im == 0;
-  else return v == 0;
-}
-template <class T> T three() {
-  if constexpr (isComplex<T>) return T{3, -4};
-  else return T(3);
-}
-
-const auto kWarnsOfZero = [](auto divisor, auto...) { return isZero(divisor) ? qvxWarnDivByZero : qvxStatOk; };
 
 const auto kShortQuotient = []<class T>(T a, T b, int s) { return quotient<T>(a, b, s, kShort); };
 
@@ -52,77 +40,53 @@ template <class D> D throughDoubles(Qvx32s a, Qvx32s b, int s) {
   return static_cast<D>(std::nearbyint(std::min(std::max(q, kLeast), kMost)));
 }
 
-// Divisors without a zero up to `from`, so that prefixes of the vector have both statuses.
-template <class A, class B> std::tuple<std::vector<A>, std::vector<B>> operands(size_t n, size_t from, unsigned seedMore) {
-  Random random(seed() + seedMore);
-  std::vector<A> a = values<A>(n, random);
-  for (size_t i = 0; i < n && i < from; ++i) a[i] = isZero(a[i]) ? three<A>() : a[i];
-  if (from < n) a[from] = A{};
-  return {a, values<B>(n, random)};
-}
-
-template <class D, class A, class Oracle>
-void divides(QvxStatus (*f)(const A*, const A*, D*, int, int), QvxStatus (*inPlace)(const A*, D*, int, int), Oracle oracle) {
-  for (const int s : scaleFactors()) {
+// With a zero in the middle, so that prefixes of the vector have both statuses.
+template <class D, class A, class Oracle> void divides(Oracle oracle, QvxStatus (*f)(const A*, const A*, D*, int, int)) {
+  const auto at = [&](int s, auto data, bool everyLength) {
     SCOPED_TRACE("scale factor " + std::to_string(s));
-    Elementwise<D, A, A> trial(operands<A, A>(600, 600 + s % 2, static_cast<unsigned>(s)),
-                               [=](A a, A b) { return oracle(a, b, s); });
-    trial.warns(kWarnsOfZero).runOnce([=](const A* a, const A* b, D* d, int n) { return f(a, b, d, n, s); });
-    if (testing::Test::HasFailure()) return;
-  }
-  for (const int s : {-40, -15, -1, 0, 3, 20, 40}) {
-    SCOPED_TRACE("scale factor " + std::to_string(s));
-    Elementwise<D, A, A> trial(operands<A, A>(700, 137, 0), [=](A a, A b) { return oracle(a, b, s); });
-    trial.warns(kWarnsOfZero).run([=](const A* a, const A* b, D* d, int n) { return f(a, b, d, n, s); });
-    if constexpr (std::is_same_v<A, D>) {
-      trial.run([=](const A* a, const A*, D* d, int n) { return inPlace(a, d, n, s); }, 1);
-    }
-    if (testing::Test::HasFailure()) return;
-  }
+    Elementwise<D, A, A> trial(data, [=](A a, A b) { return oracle(a, b, s); });
+    const auto call = [=](const A* a, const A* b, D* d, int n) { return f(a, b, d, n, s); };
+    if (everyLength) trial.warns(kWarnsOfZero).run(call);
+    else trial.warns(kWarnsOfZero).runOnce(call);
+  };
+  for (const int s : scaleFactors()) at(s, operands<A>(600, s % 2 == 0 ? 600 : 599, static_cast<unsigned>(s)), false);
+  for (const int s : {-40, -15, -1, 0, 3, 20, 40}) at(s, operands<A>(700, 137), true);
 }
 
 TEST(DivInteger, Members) {
-  divides(qvxsDiv_8u_Sfs, qvxsDiv_8u_ISfs, kShortQuotient);
-  divides(qvxsDiv_16u_Sfs, qvxsDiv_16u_ISfs, kShortQuotient);
-  divides(qvxsDiv_16s_Sfs, qvxsDiv_16s_ISfs, kShortQuotient);
-  divides(qvxsDiv_16sc_Sfs, qvxsDiv_16sc_ISfs, complexQuotient(kComplex));
-  divides(qvxsDiv_32s_Sfs, qvxsDiv_32s_ISfs, throughDoubles<Qvx32s>);
-  divides(qvxsDiv_32s16s_Sfs, static_cast<QvxStatus (*)(const Qvx32s*, Qvx16s*, int, int)>(nullptr), throughDoubles<Qvx16s>);
+  divides(kShortQuotient, qvxsDiv_8u_Sfs);
+  divides(kShortQuotient, qvxsDiv_16u_Sfs);
+  divides(kShortQuotient, qvxsDiv_16s_Sfs);
+  divides(complexQuotient(kComplex), qvxsDiv_16sc_Sfs);
+  divides(throughDoubles<Qvx32s>, qvxsDiv_32s_Sfs);
+  divides(throughDoubles<Qvx16s>, qvxsDiv_32s16s_Sfs);
 }
 
-template <Mode kMode> constexpr QvxRoundMode kModeArgument = static_cast<QvxRoundMode>(kMode);
-
-template <class T, Mode kMode, auto kOutOfPlace, auto kInPlace> void dividesRounded() {
-  SCOPED_TRACE("mode " + std::to_string(kModeArgument<kMode>));
-  divides<T, T>([](const T* a, const T* b, T* d, int n, int s) { return kOutOfPlace(a, b, d, n, kModeArgument<kMode>, s); },
-                [](const T* a, T* d, int n, int s) { return kInPlace(a, d, n, kModeArgument<kMode>, s); },
-                [](T a, T b, int s) { return quotient<T>(a, b, s, kShortRounded, kMode); });
+template <auto kFunction, Mode kMode, class T> void dividesRounded(T) {
+  SCOPED_TRACE("mode " + std::to_string(static_cast<int>(kMode)));
+  divides<T, T>(
+      [](T a, T b, int s) { return quotient<T>(a, b, s, kShortRounded, kMode); },
+      [](const T* a, const T* b, T* d, int n, int s) { return kFunction(a, b, d, n, static_cast<QvxRoundMode>(kMode), s); });
 }
 
-template <class T, auto kOutOfPlace, auto kInPlace> void dividesInEveryMode() {
-  dividesRounded<T, Mode::kTowardZero, kOutOfPlace, kInPlace>();
-  dividesRounded<T, Mode::kNearestEven, kOutOfPlace, kInPlace>();
-  dividesRounded<T, Mode::kHalfAway, kOutOfPlace, kInPlace>();
+template <auto kFunction> void dividesInEveryMode(auto type) {
+  dividesRounded<kFunction, Mode::kTowardZero>(type);
+  dividesRounded<kFunction, Mode::kNearestEven>(type);
+  dividesRounded<kFunction, Mode::kHalfAway>(type);
 }
 
 TEST(DivRound, Members) {
-  dividesInEveryMode<Qvx8u, qvxsDiv_Round_8u_Sfs, qvxsDiv_Round_8u_ISfs>();
-  dividesInEveryMode<Qvx16u, qvxsDiv_Round_16u_Sfs, qvxsDiv_Round_16u_ISfs>();
-  dividesInEveryMode<Qvx16s, qvxsDiv_Round_16s_Sfs, qvxsDiv_Round_16s_ISfs>();
+  dividesInEveryMode<qvxsDiv_Round_8u_Sfs>(Qvx8u());
+  dividesInEveryMode<qvxsDiv_Round_16u_Sfs>(Qvx16u());
+  dividesInEveryMode<qvxsDiv_Round_16s_Sfs>(Qvx16s());
 }
 
 // ---- proof by exhaustion
 
-template <class T> std::vector<T> all() {
-  std::vector<T> v(size_t{1} << (8 * sizeof(T)));
-  for (size_t i = 0; i < v.size(); ++i) v[i] = static_cast<T>(i);
-  return v;
-}
-
 // All dividends by one divisor, against the oracle: without the blocks and canaries of the other tests, which cover those, and
 // in pieces too short for two threads, which wait for each other for milliseconds on a busy machine.
 template <class T, class Call, class Oracle> void dividesAll(T divisor, Call call, Oracle oracle) {
-  static const std::vector<T> dividends = all<T>();
+  static const std::vector<T> dividends = allOf<T>();
   constexpr size_t kPiece = 8192;
   std::vector<T> d(std::min(kPiece, dividends.size()));
   const std::vector<T> divisors(d.size(), divisor);
@@ -149,7 +113,7 @@ template <class T, class F> void inEveryMode(F f, T divisor, int s) {
 }
 
 TEST(DivInteger, AllBytes) {
-  for (const Qvx8u divisor : all<Qvx8u>()) {
+  for (const Qvx8u divisor : allOf<Qvx8u>()) {
     for (int s = -32; s <= 18; ++s) {
       SCOPED_TRACE("scale factor " + std::to_string(s));
       const auto oracle = [=](Qvx8u a, Qvx8u b) { return quotient<Qvx8u>(a, b, s, kShort); };
@@ -226,52 +190,38 @@ TEST(DivInteger, ComplexTies) {
 
 // ---- constants
 
-template <class T> std::vector<T> divisorsOf() {
-  std::vector<T> v;
+template <class T, class Oracle> void dividesByConstant(Oracle oracle, QvxStatus (*f)(const T*, T, T*, int, int)) {
+  const auto at = [&](T c, int s, size_t n, bool everyLength) {
+    SCOPED_TRACE("divisor " + show(c) + ", scale factor " + std::to_string(s));
+    Random random(seed() + static_cast<unsigned>(s));
+    Elementwise<T, T> trial(n, random, [=](T b) { return oracle(c, b, s); });
+    const auto call = [=](const T* b, T* d, int n) { return f(b, c, d, n, s); };
+    if (everyLength) trial.run(call);
+    else trial.runOnce(call);
+  };
   for (const T c : constants<T>()) {
-    if (!isZero(c)) v.push_back(c);
-  }
-  return v;
-}
-
-template <class T, class Oracle>
-void dividesByConstant(QvxStatus (*f)(const T*, T, T*, int, int), QvxStatus (*inPlace)(T, T*, int, int), Oracle oracle) {
-  for (const T c : divisorsOf<T>()) {
-    SCOPED_TRACE("divisor " + show(c));
     for (const int s : scaleFactors()) {
-      SCOPED_TRACE("scale factor " + std::to_string(s));
-      Random random(seed() + static_cast<unsigned>(s));
-      Elementwise<T, T> trial(300, random, [=](T b) { return oracle(c, b, s); });
-      trial.runOnce([=](const T* b, T* d, int n) { return f(b, c, d, n, s); });
-      trial.runOnce([=](const T*, T* d, int n) { return inPlace(c, d, n, s); }, 0);
-      if (testing::Test::HasFailure()) return;
+      if (!isZero(c)) at(c, s, 300, false);
     }
   }
-  for (const int s : {-40, -15, 0, 3, 20}) {
-    Random random(seed());
-    const T c = three<T>();
-    Elementwise<T, T> trial(700, random, [=](T b) { return oracle(c, b, s); });
-    trial.run([=](const T* b, T* d, int n) { return f(b, c, d, n, s); });
-    trial.run([=](const T*, T* d, int n) { return inPlace(c, d, n, s); }, 0);
-  }
+  for (const int s : {-40, -15, 0, 3, 20}) at(harmless<T>(), s, 700, true);
 }
 
 TEST(DivC, Integers) {
-  dividesByConstant(qvxsDivC_8u_Sfs, qvxsDivC_8u_ISfs, kShortQuotient);
-  dividesByConstant(qvxsDivC_16u_Sfs, qvxsDivC_16u_ISfs, kShortQuotient);
-  dividesByConstant(qvxsDivC_16s_Sfs, qvxsDivC_16s_ISfs, kShortQuotient);
-  dividesByConstant(qvxsDivC_16sc_Sfs, qvxsDivC_16sc_ISfs, complexQuotient(kShort));
+  dividesByConstant(kShortQuotient, qvxsDivC_8u_Sfs);
+  dividesByConstant(kShortQuotient, qvxsDivC_16u_Sfs);
+  dividesByConstant(kShortQuotient, qvxsDivC_16s_Sfs);
+  dividesByConstant(complexQuotient(kShort), qvxsDivC_16sc_Sfs);
 }
 
 TEST(DivCRev, Integers) {
   for (const Qvx16u val : {Qvx16u{0}, Qvx16u{1}, Qvx16u{2}, Qvx16u{1000}, Qvx16u{32768}, Qvx16u{65535}}) {
     SCOPED_TRACE("dividend " + show(val));
     const auto oracle = [=](Qvx16u a) { return quotient<Qvx16u>(a, val, 0, kShort); };
-    Elementwise<Qvx16u, Qvx16u> trial(std::make_tuple(std::get<0>(operands<Qvx16u, Qvx16u>(700, 137, val))), oracle);
+    Elementwise<Qvx16u, Qvx16u> trial(std::make_tuple(std::get<0>(operands<Qvx16u>(700, 137, val))), oracle);
     trial.warns(kWarnsOfZero);
     trial.run([=](const Qvx16u* a, Qvx16u* d, int n) { return qvxsDivCRev_16u(a, val, d, n); });
-    trial.run([=](const Qvx16u*, Qvx16u* d, int n) { return qvxsDivCRev_16u_I(val, d, n); }, 0);
-    Elementwise<Qvx16u, Qvx16u> every(std::make_tuple(all<Qvx16u>()), oracle);
+    Elementwise<Qvx16u, Qvx16u> every(std::make_tuple(allOf<Qvx16u>()), oracle);
     every.warns(kWarnsOfZero).runOnce([=](const Qvx16u* a, Qvx16u* d, int n) { return qvxsDivCRev_16u(a, val, d, n); });
   }
 }
@@ -330,48 +280,6 @@ TEST(DivC, SixtyFourBitsByZero) {
   Elementwise<Qvx64s, Qvx64s> trial(300, random, [](Qvx64s b) { return b == 0 ? 0 : b < 0 ? INT64_MIN : INT64_MAX; });
   trial.warns([](Qvx64s) { return qvxWarnDivByZero; });
   trial.run([](const Qvx64s*, Qvx64s* d, int n) { return qvxsDivC_64s_ISfs(0, d, static_cast<Qvx32u>(n), 5); }, 0);
-}
-
-// ---- the caller's rounding mode, and two threads
-
-TEST(DivInteger, InEveryRounding) {
-  inEveryRounding([] {
-    for (const int s : {-15, -1, 0, 1}) {
-      SCOPED_TRACE("scale factor " + std::to_string(s));
-      for (const Qvx16s divisor : {Qvx16s{2}, Qvx16s{-7}, Qvx16s{4096}, Qvx16s{32767}}) {
-        const auto oracle = [=](Qvx16s a, Qvx16s b) { return quotient<Qvx16s>(a, b, s, kShort); };
-        dividesAll<Qvx16s>(
-            divisor, [=](auto a, auto b, auto d, int n) { return qvxsDiv_16s_Sfs(a, b, d, n, s); }, oracle);
-        dividesAll<Qvx16s>(
-            divisor, [=](auto, auto b, auto d, int n) { return qvxsDivC_16s_Sfs(b, divisor, d, n, s); }, oracle);
-        inEveryMode<Qvx16s>(qvxsDiv_Round_16s_Sfs, divisor, s);
-      }
-      const auto complex = [=](Qvx16sc a, Qvx16sc b) { return complexQuotient(kComplex)(a, b, s); };
-      Elementwise<Qvx16sc, Qvx16sc, Qvx16sc> trial(operands<Qvx16sc, Qvx16sc>(3000, 3000, 1), complex);
-      trial.runOnce([=](const Qvx16sc* a, const Qvx16sc* b, Qvx16sc* d, int n) { return qvxsDiv_16sc_Sfs(a, b, d, n, s); });
-    }
-  });
-}
-
-// Long enough for every twin, with the one zero in the first or in the last part.
-template <class T, class F, class Oracle> void dividesInTeam(F f, Oracle oracle) {
-  constexpr size_t n = 66001;
-  for (const size_t zero : {size_t{5}, n - 1, n}) {
-    SCOPED_TRACE("zero at " + std::to_string(zero));
-    auto data = operands<T, T>(n, n, 9);
-    if (zero < n) std::get<0>(data)[zero] = T{};
-    Elementwise<T, T, T> trial(data, [=](T a, T b) { return oracle(a, b, -3); });
-    trial.warns(kWarnsOfZero).runOnce(f);
-  }
-}
-
-TEST(DivInteger, InTeam) {
-  dividesInTeam<Qvx8u>([](auto a, auto b, auto d, int n) { return qvxsDiv_8u_Sfs(a, b, d, n, -3); }, kShortQuotient);
-  dividesInTeam<Qvx16s>([](auto a, auto b, auto d, int n) { return qvxsDiv_16s_Sfs(a, b, d, n, -3); }, kShortQuotient);
-  dividesInTeam<Qvx16u>([](auto a, auto b, auto d, int n) { return qvxsDiv_Round_16u_Sfs(a, b, d, n, 1, -3); }, kShortQuotient);
-  dividesInTeam<Qvx16sc>([](auto a, auto b, auto d, int n) { return qvxsDiv_16sc_Sfs(a, b, d, n, -3); },
-                         complexQuotient(kComplex));
-  dividesInTeam<Qvx32s>([](auto a, auto b, auto d, int n) { return qvxsDiv_32s_Sfs(a, b, d, n, -3); }, throughDoubles<Qvx32s>);
 }
 
 }  // namespace

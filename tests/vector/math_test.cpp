@@ -1,8 +1,6 @@
 // Float exponentials, logarithms, arctangents and cube roots: how exact, which special values, which warning.
 #include <gtest/gtest.h>
 
-#include <cfenv>
-
 #include "support/elementwise.h"
 #include "vector/math_accuracy.h"
 
@@ -21,11 +19,12 @@ template <class T> using Function = QvxStatus (*)(const T*, T*, int);
 template <class T, class Oracle> void holdsInAllModes(Function<T> f, Oracle oracle, T low, T high) {
   std::vector<T> x(5001);
   for (size_t i = 0; i < x.size(); ++i) x[i] = low + (high - low) * static_cast<T>(i) / 5000;
-  for (const int mode : {FE_DOWNWARD, FE_UPWARD, FE_TOWARDZERO, FE_TONEAREST}) {
+  for (const int mode : kRoundings) {
     std::vector<T> y(x.size());
-    std::fesetround(mode);
-    f(x.data(), y.data(), 5001);
-    std::fesetround(FE_TONEAREST);
+    {
+      const CallersRounding scope(mode);
+      f(x.data(), y.data(), 5001);
+    }
     for (size_t i = 0; i < x.size(); ++i) {
       ASSERT_LE(ulpError(y[i], oracle(static_cast<long double>(x[i]))), 4) << "at " << x[i] << ", mode " << mode;
     }
@@ -44,57 +43,6 @@ TEST(Math, HoldsInAllRoundingModes) {
   holdsInAllModes<double>(qvxsArctan_64f, arctan, -5, 5);
   holdsInAllModes<float>(
       qvxsCubrt_32f, [](long double x) { return std::cbrt(x); }, -9, 9);
-}
-
-// ---- an element's result is the same at every place of every vector, and so is the warning
-
-template <class T> std::vector<T> mixed(size_t n) {
-  Random random(seed());
-  std::vector<T> x = values<T>(n, random);
-  for (size_t i = 0; i < n; i += 7) x[i] = std::ldexp(x[i], static_cast<int>(random() % 300) - 150);
-  for (size_t i = 5; i < n; i += 41) x[i] = i % 2 == 0 ? std::numeric_limits<T>::denorm_min() * static_cast<T>(i) : -INFINITY;
-  for (size_t i = 29; i < n; i += 43) x[i] = i % 2 == 0 ? NAN : INFINITY;
-  return x;
-}
-
-QvxStatus ok(double) { return qvxStatOk; }
-QvxStatus lnStatus(double x) {
-  return std::signbit(x) && !std::isnan(x) ? qvxWarnLnNegArg : x == 0 ? qvxWarnLnZeroArg : qvxStatOk;
-}
-
-template <class A, class D, class Status>
-void isTheSameEverywhere(QvxStatus (*f)(const A*, D*, int), std::vector<A> x, Status status,
-                         QvxStatus (*inPlace)(D*, int) = nullptr) {
-  const auto alone = [f](A v) {
-    D y = 0;
-    f(&v, &y, 1);
-    return y;
-  };
-  Elementwise<D, A> trial(std::make_tuple(std::move(x)), alone);
-  trial.warns(status);
-  trial.run(f);
-  if (inPlace != nullptr) trial.run([=](const A*, D* d, int n) { return inPlace(d, n); }, 0);
-}
-
-TEST(Math, IsTheSameEverywhere) {
-  constexpr size_t kLength = 1500;
-  isTheSameEverywhere(qvxsCubrt_32f, mixed<Qvx32f>(kLength), ok);
-  isTheSameEverywhere(qvxsExp_32f, mixed<Qvx32f>(kLength), ok, qvxsExp_32f_I);
-  isTheSameEverywhere(qvxsExp_64f, mixed<Qvx64f>(kLength), ok, qvxsExp_64f_I);
-  isTheSameEverywhere(qvxsExp_32f64f, mixed<Qvx32f>(kLength), ok);
-  isTheSameEverywhere(qvxsArctan_32f, mixed<Qvx32f>(kLength), ok, qvxsArctan_32f_I);
-  isTheSameEverywhere(qvxsArctan_64f, mixed<Qvx64f>(kLength), ok, qvxsArctan_64f_I);
-  // Positive at first, so that the first bad element is now in one, now in another part of the loop.
-  for (const size_t good : {0, 3, 17, 40, 100, 333}) {
-    const auto from = [good](auto x) {
-      for (size_t i = 0; i < good; ++i)
-        x[i] = std::isnan(x[i]) ? x[i] : std::abs(x[i]) + std::numeric_limits<decltype(x[0] + 0)>::denorm_min();
-      return x;
-    };
-    isTheSameEverywhere(qvxsLn_32f, from(mixed<Qvx32f>(kLength)), lnStatus, qvxsLn_32f_I);
-    isTheSameEverywhere(qvxsLn_64f, from(mixed<Qvx64f>(kLength)), lnStatus, qvxsLn_64f_I);
-    isTheSameEverywhere(qvxsLn_64f32f, from(mixed<Qvx64f>(kLength)), lnStatus);
-  }
 }
 
 // ---- special values, by their bits
@@ -126,18 +74,6 @@ TEST(Ln, OfSpecials) {
   EXPECT_EQ(bitsOf(y[1]), 0xFFC00000U);
   EXPECT_EQ(bitsOf(y[2]), 0xFFC00000U);
   EXPECT_EQ(bitsOf(y[3]), 0x7FC00000U);
-}
-
-TEST(Ln, TheFirstBadElementDecides) {
-  const Qvx32f zeroFirst[] = {0, -1};
-  const Qvx32f negativeFirst[] = {-1, 0};
-  Qvx32f y[300];
-  EXPECT_EQ(qvxsLn_32f(zeroFirst, y, 2), qvxWarnLnZeroArg);
-  EXPECT_EQ(qvxsLn_32f(negativeFirst, y, 2), qvxWarnLnNegArg);
-  std::vector<Qvx32f> x(300, 2.5F);
-  x[280] = -1;
-  x[10] = 0;
-  EXPECT_EQ(qvxsLn_32f(x.data(), y, 300), qvxWarnLnZeroArg);
 }
 
 template <class T> void signedZerosAndInfinities(Function<T> exp, Function<T> arctan, T halfPi) {

@@ -3,8 +3,7 @@
 
 #include <cmath>
 
-#include "support/rounding.h"
-#include "vector/scaled_members.h"
+#include "vector/members.h"
 
 namespace {
 
@@ -21,50 +20,50 @@ const auto kComplexProduct = []<class T>(T a, T b, int s) {
 };
 
 TEST(Mul, Scaled) {
-  scaledBinary(qvxsMul_8u_Sfs, qvxsMul_8u_ISfs, partwise(kProduct));
-  scaledBinary(qvxsMul_16s_Sfs, qvxsMul_16s_ISfs, partwise(kProduct));
-  scaledBinary(qvxsMul_16u_Sfs, qvxsMul_16u_ISfs, partwise(kProduct));
-  scaledBinary(qvxsMul_16sc_Sfs, qvxsMul_16sc_ISfs, kComplexProduct);
-  scaledBinary(qvxsMul_32sc_Sfs, qvxsMul_32sc_ISfs, kComplexProduct);
-  scaledBinary(qvxsMul_16u16s_Sfs, static_cast<QvxStatus (*)(const Qvx16u*, Qvx16s*, int, int)>(nullptr),
-               [](Qvx16u a, Qvx16s b, int s) { return scaled<Qvx16s>(Wide{a} * b, s); });
-  scaledBinary(qvxsMul_16s32s_Sfs, static_cast<QvxStatus (*)(const Qvx16s*, Qvx32s*, int, int)>(nullptr),
-               [](Qvx16s a, Qvx16s b, int s) { return scaled<Qvx32s>(Wide{a} * b, s); });
-  scaledBinary(qvxsMul_32s32sc_Sfs, qvxsMul_32s32sc_ISfs, [](Qvx32s a, Qvx32sc b, int s) {
+  all(partwise(kProduct), qvxsMul_8u_Sfs, qvxsMul_16s_Sfs, qvxsMul_16u_Sfs, qvxsMulC_8u_Sfs, qvxsMulC_16s_Sfs, qvxsMulC_16u_Sfs,
+      qvxsMulC_32s_Sfs);
+  all(kComplexProduct, qvxsMul_16sc_Sfs, qvxsMul_32sc_Sfs, qvxsMulC_16sc_Sfs, qvxsMulC_32sc_Sfs);
+  each([](Qvx16u a, Qvx16s b, int s) { return scaled<Qvx16s>(Wide{a} * b, s); }, qvxsMul_16u16s_Sfs);
+  each([](Qvx16s a, Qvx16s b, int s) { return scaled<Qvx32s>(Wide{a} * b, s); }, qvxsMul_16s32s_Sfs);
+  const auto byReal = [](Qvx32s a, Qvx32sc b, int s) {
     return Qvx32sc{scaled<Qvx32s>(Wide{a} * b.re, s), scaled<Qvx32s>(Wide{a} * b.im, s)};
-  });
+  };
+  each(byReal, qvxsMul_32s32sc_Sfs);
 }
 
-TEST(Mul, AllPairsOfBytes) { allPairsOfBytes(qvxsMul_8u_Sfs, kProduct); }
-
-TEST(MulC, Scaled) {
-  scaledConstant(qvxsMulC_8u_Sfs, qvxsMulC_8u_ISfs, partwise(kProduct));
-  scaledConstant(qvxsMulC_16s_Sfs, qvxsMulC_16s_ISfs, partwise(kProduct));
-  scaledConstant(qvxsMulC_16u_Sfs, qvxsMulC_16u_ISfs, partwise(kProduct));
-  scaledConstant(qvxsMulC_32s_Sfs, qvxsMulC_32s_ISfs, partwise(kProduct));
-  scaledConstant(qvxsMulC_16sc_Sfs, qvxsMulC_16sc_ISfs, kComplexProduct);
-  scaledConstant(qvxsMulC_32sc_Sfs, qvxsMulC_32sc_ISfs, kComplexProduct);
+// Every pair of bytes: all sums, differences and products there are, at every scale factor that tells them apart.
+TEST(Mul, AllPairsOfBytes) {
+  std::vector<Qvx8u> a(65536), b(65536);
+  for (size_t i = 0; i < 65536; ++i) a[i] = static_cast<Qvx8u>(i), b[i] = static_cast<Qvx8u>(i >> 8);
+  const auto expect = [&](auto f, auto exact) {
+    for (const int s : range(-10, 18)) {
+      SCOPED_TRACE("scale factor " + std::to_string(s));
+      Elementwise<Qvx8u, Qvx8u, Qvx8u>(std::make_tuple(a, b), [=](Qvx8u x, Qvx8u y) {
+        return scaled<Qvx8u>(exact(x, y), s);
+      }).runOnce([=](const Qvx8u* x, const Qvx8u* y, Qvx8u* d, int n) { return f(x, y, d, n, s); });
+    }
+  };
+  expect(qvxsAdd_8u_Sfs, [](Wide x, Wide y) { return x + y; });
+  expect(qvxsSub_8u_Sfs, [](Wide x, Wide y) { return y - x; });
+  expect(qvxsMul_8u_Sfs, kProduct);
 }
 
 // Every 16-bit element against constants that make ties and extremes, where the four kernels take over from each other.
 TEST(MulC, All16BitElements) {
-  std::vector<Qvx16s> all(65536);
-  for (size_t i = 0; i < all.size(); ++i) all[i] = static_cast<Qvx16s>(i);
   for (const Qvx16s c : {-32768, -3, 3, 512, 16384, 32767}) {
     for (const int s : {1, 2, 14, 15, 16, 17, 18, 29, 30, 31}) {
       SCOPED_TRACE("constant " + std::to_string(c) + ", scale factor " + std::to_string(s));
-      Elementwise<Qvx16s, Qvx16s> trial(std::make_tuple(all), [=](Qvx16s a) { return scaled<Qvx16s>(Wide{a} * c, s); });
+      Elementwise<Qvx16s, Qvx16s> trial(std::make_tuple(allOf<Qvx16s>()),
+                                        [=](Qvx16s a) { return scaled<Qvx16s>(Wide{a} * c, s); });
       trial.runOnce([=](const Qvx16s* a, Qvx16s* d, int n) { return qvxsMulC_16s_Sfs(a, c, d, n, s); });
     }
   }
 }
 
 TEST(Mul, Plain) {
-  binary(qvxsMul_16s, qvxsMul_16s_I, saturated<Qvx16s>(kProduct));
-  binary(qvxsMul_8u16u, noInPlace<Qvx16u, Qvx8u>, saturated<Qvx16u>(kProduct));
-  binary(qvxsMul_16s32f, noInPlace<Qvx32f, Qvx16s>,
-         [](Qvx16s a, Qvx16s b) { return static_cast<Qvx32f>(a) * static_cast<Qvx32f>(b); });
-  constant(noOutOfPlace<Qvx16s>, qvxsMulC_16s_I, saturated<Qvx16s>(kProduct));
+  all(saturated<Qvx16s>(kProduct), qvxsMul_16s, qvxsMulC_16s_I);
+  each(saturated<Qvx16u>(kProduct), qvxsMul_8u16u);
+  each([](Qvx16s a, Qvx16s b) { return static_cast<Qvx32f>(a) * static_cast<Qvx32f>(b); }, qvxsMul_16s32f);
 }
 
 // Float products: every operation rounded by itself.
@@ -74,15 +73,9 @@ const auto kFloatProduct = []<class T>(T a, T b) {
 };
 
 TEST(Mul, Floats) {
-  binary(qvxsMul_32f, qvxsMul_32f_I, kFloatProduct);
-  binary(qvxsMul_64f, qvxsMul_64f_I, kFloatProduct);
-  binary(qvxsMul_32fc, qvxsMul_32fc_I, kFloatProduct);
-  binary(qvxsMul_64fc, qvxsMul_64fc_I, kFloatProduct);
-  binary(qvxsMul_32f32fc, qvxsMul_32f32fc_I, [](Qvx32f a, Qvx32fc b) { return Qvx32fc{a * b.re, a * b.im}; });
-  constant(qvxsMulC_32f, qvxsMulC_32f_I, kFloatProduct);
-  constant(qvxsMulC_64f, qvxsMulC_64f_I, kFloatProduct);
-  constant(qvxsMulC_32fc, qvxsMulC_32fc_I, kFloatProduct);
-  constant(qvxsMulC_64fc, qvxsMulC_64fc_I, kFloatProduct);
+  all(kFloatProduct, qvxsMul_32f, qvxsMul_64f, qvxsMul_32fc, qvxsMul_64fc, qvxsMulC_32f, qvxsMulC_64f, qvxsMulC_32fc,
+      qvxsMulC_64fc);
+  each([](Qvx32f a, Qvx32fc b) { return Qvx32fc{a * b.re, a * b.im}; }, qvxsMul_32f32fc);
 }
 
 // ---- by way of Qvx64f: two roundings, and not the exact product near the top of the range
@@ -91,11 +84,13 @@ Qvx32s roundedToInt(double v) { return static_cast<Qvx32s>(std::nearbyint(std::m
 
 TEST(Mul, ThroughDoubles) {
   const auto product = [](Qvx32s a, Qvx32s b, int s) { return roundedToInt(std::ldexp(double(a), -s) * b); };
-  std::vector<int> scales;
-  for (int s = -70; s <= 70; ++s) scales.push_back(s);
-  scaledBinary(qvxsMul_32s_Sfs, qvxsMul_32s_ISfs, product, scales);
+  each(product, qvxsMul_32s_Sfs, range(-70, 70));
   // Far scale factors are zeros and extremes as anywhere.
-  scaledBinary(qvxsMul_32s_Sfs, qvxsMul_32s_ISfs, partwise(kProduct), {INT32_MIN, -1025, -1024, 1023, 1024, 1025, INT32_MAX});
+  for (const int s : {INT32_MIN, -1025, -1024, 1023, 1024, 1025, INT32_MAX}) {
+    Random random(seed());
+    Elementwise<Qvx32s, Qvx32s, Qvx32s> trial(600, random, [=](Qvx32s a, Qvx32s b) { return scaled<Qvx32s>(Wide{a} * b, s); });
+    trial.runOnce([=](const Qvx32s* a, const Qvx32s* b, Qvx32s* d, int n) { return qvxsMul_32s_Sfs(a, b, d, n, s); });
+  }
   // A product with 54 bits just above a tie: the tie is all that is left of it in 53.
   const Qvx32s a[1] = {(1 << 30) + 1};
   const Qvx32s b[1] = {(1 << 24) + 1};
@@ -124,12 +119,10 @@ TEST(AddProduct, Members) {
   with(
       qvxsAddProduct_16s32s_Sfs,
       [](Qvx16s a, Qvx16s b, Qvx32s d, int s) { return s > 31 ? 0 : scaled<Qvx32s>(Wide{a} * b + d, s); }, scaleFactors());
-  std::vector<int> scales;
-  for (int s = -70; s <= 70; ++s) scales.push_back(s);
   with(
       qvxsAddProduct_32s_Sfs,
       [](Qvx32s a, Qvx32s b, Qvx32s d, int s) { return roundedToInt(std::ldexp(double(a), -s) * b + std::ldexp(double(d), -s)); },
-      scales);
+      range(-70, 70));
 }
 
 template <class T> void productSum(QvxStatus (*f)(const T*, const T*, T*, int)) {
@@ -155,41 +148,23 @@ TEST(AddProduct, Floats) {
 }
 
 TEST(Mul, LowWord) {
-  scaledBinary(qvxsMul_Low_32s_Sfs, static_cast<QvxStatus (*)(const Qvx32s*, Qvx32s*, int, int)>(nullptr),
-               [](Qvx32s a, Qvx32s b, int s) {
-                 const Qvx64s product = Qvx64s{a} * b;
-                 if (s > 62) return 0;
-                 if (s < -31) return product == 0 ? 0 : product < 0 ? INT32_MIN : INT32_MAX;
-                 return static_cast<Qvx32s>(s < 0 ? static_cast<Qvx64u>(product) << -s : static_cast<Qvx64u>(product >> s));
-               });
+  const auto lowWord = [](Qvx32s a, Qvx32s b, int s) {
+    const Qvx64s product = Qvx64s{a} * b;
+    if (s > 62) return 0;
+    if (s < -31) return product == 0 ? 0 : product < 0 ? INT32_MIN : INT32_MAX;
+    return static_cast<Qvx32s>(s < 0 ? static_cast<Qvx64u>(product) << -s : static_cast<Qvx64u>(product >> s));
+  };
+  each(lowWord, qvxsMul_Low_32s_Sfs);
 }
 
 // ---- floats to 16 bits
 
+constexpr Qvx32f kHard[] = {0.5F, -0.5F, 1.5F,  2.5F,   32766.5F, 32767.0F,      32767.5F,       -32768.0F, -32768.5F, -32769.0F,
+                            1e9F, -1e9F, 1e30F, -1e30F, INFINITY, 2147483648.0F, -2147483648.0F, -INFINITY, NAN,       1e-40F};
 std::vector<Qvx32f> hardFloats() {
   Random random(seed());
   std::vector<Qvx32f> v = values<Qvx32f>(300, random);
-  const float inf = std::numeric_limits<float>::infinity();
-  v.insert(v.end(), {0.5F,
-                     -0.5F,
-                     1.5F,
-                     2.5F,
-                     32766.5F,
-                     32767.0F,
-                     32767.5F,
-                     -32768.0F,
-                     -32768.5F,
-                     -32769.0F,
-                     1e9F,
-                     -1e9F,
-                     1e30F,
-                     -1e30F,
-                     2147483648.0F,
-                     -2147483648.0F,
-                     inf,
-                     -inf,
-                     std::numeric_limits<float>::quiet_NaN(),
-                     1e-40F});
+  v.insert(v.end(), std::begin(kHard), std::end(kHard));
   return v;
 }
 
@@ -202,14 +177,17 @@ TEST(MulC, FloatTo16Bits) {
         const float v = a * factor;
         return static_cast<Qvx16s>(v < 32767.0F ? v > -32768.0F ? std::nearbyint(v) : -32768.0F : 32767.0F);
       });
-      inEveryRounding([&] { trial.run([=](const Qvx32f* a, Qvx16s* d, int n) { return qvxsMulC_32f16s_Sfs(a, c, d, n, s); }); });
+      const auto call = [=](const Qvx32f* a, Qvx16s* d, int n) { return qvxsMulC_32f16s_Sfs(a, c, d, n, s); };
+      trial.run(call);
+      trial.runInEveryRounding(call);
     }
   }
 }
 
 // Converted in the caller's mode, and whatever 32 bits cannot hold is the lower limit: even a large positive product.
 TEST(MulC, FloatTo16BitsByPacking) {
-  inEveryRounding([] {
+  for (const int mode : kRoundings) {
+    const CallersRounding scope(mode);
     const float c = 1.25F;
     Elementwise<Qvx16s, Qvx32f> trial(std::make_tuple(hardFloats()), [=](Qvx32f a) {
       const float v = a * c;
@@ -217,7 +195,7 @@ TEST(MulC, FloatTo16BitsByPacking) {
       return static_cast<Qvx16s>(std::clamp(std::nearbyint(v), -32768.0F, 32767.0F));
     });
     trial.run([=](const Qvx32f* a, Qvx16s* d, int n) { return qvxsMulC_Low_32f16s(a, c, d, n); });
-  });
+  }
 }
 
 }  // namespace

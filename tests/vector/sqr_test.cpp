@@ -3,8 +3,7 @@
 
 #include <cmath>
 
-#include "reference/scaled.h"
-#include "vector/unary_members.h"
+#include "vector/members.h"
 
 namespace {
 
@@ -34,22 +33,17 @@ template <class T> std::vector<T> some(size_t n) {
 TEST(Sqr, Scaled) {
   const std::vector<int> scales = range(-34, 34, {INT32_MIN, INT32_MAX});
   const std::vector<int> paths = {-9, -1, 0, 1, 2, 12, 16, 17, 30, 32};
-  scaledUnary(qvxsSqr_8u_Sfs, qvxsSqr_8u_ISfs, allOf<Qvx8u>(), kSquare, scales, paths);
-  scaledUnary(qvxsSqr_16u_Sfs, qvxsSqr_16u_ISfs, allOf<Qvx16u>(), kSquare, scales, paths);
-  scaledUnary(qvxsSqr_16s_Sfs, qvxsSqr_16s_ISfs, allOf<Qvx16s>(), kSquare, scales, paths);
+  scaledUnary(qvxsSqr_8u_Sfs, allOf<Qvx8u>(), kSquare, scales, paths);
+  scaledUnary(qvxsSqr_16u_Sfs, allOf<Qvx16u>(), kSquare, scales, paths);
+  scaledUnary(qvxsSqr_16s_Sfs, allOf<Qvx16s>(), kSquare, scales, paths);
   std::vector<Qvx16sc> complex = some<Qvx16sc>(20000);
   for (const Qvx16s re : {-32768, 32767, 0}) {
     for (const Qvx16s im : {-32768, 32767, 0}) complex.push_back({re, im});
   }
-  scaledUnary(qvxsSqr_16sc_Sfs, qvxsSqr_16sc_ISfs, complex, kSquare, scales, paths);
+  scaledUnary(qvxsSqr_16sc_Sfs, complex, kSquare, scales, paths);
 }
 
-TEST(Sqr, Floats) {
-  unary(qvxsSqr_32f, qvxsSqr_32f_I, some<Qvx32f>(700), kFloatSquare);
-  unary(qvxsSqr_64f, qvxsSqr_64f_I, some<Qvx64f>(700), kFloatSquare);
-  unary(qvxsSqr_32fc, qvxsSqr_32fc_I, some<Qvx32fc>(700), kFloatSquare);
-  unary(qvxsSqr_64fc, qvxsSqr_64fc_I, some<Qvx64fc>(700), kFloatSquare);
-}
+TEST(Sqr, Floats) { all(kFloatSquare, qvxsSqr_32f, qvxsSqr_64f, qvxsSqr_32fc, qvxsSqr_64fc); }
 
 const auto kMagnitude = []<class T>(T x) -> T {
   if constexpr (std::is_floating_point_v<T>) return std::fabs(x);
@@ -64,10 +58,10 @@ template <class T> std::vector<T> withSpecials() {
 }
 
 TEST(Abs, Members) {
-  unary(qvxsAbs_16s, qvxsAbs_16s_I, allOf<Qvx16s>(), kMagnitude);
-  unary(qvxsAbs_32s, qvxsAbs_32s_I, some<Qvx32s>(5000), kMagnitude);
-  unary(qvxsAbs_32f, qvxsAbs_32f_I, withSpecials<Qvx32f>(), kMagnitude);
-  unary(qvxsAbs_64f, qvxsAbs_64f_I, withSpecials<Qvx64f>(), kMagnitude);
+  unary(qvxsAbs_16s, allOf<Qvx16s>(), kMagnitude);
+  unary(qvxsAbs_32s, some<Qvx32s>(5000), kMagnitude);
+  unary(qvxsAbs_32f, withSpecials<Qvx32f>(), kMagnitude);
+  unary(qvxsAbs_64f, withSpecials<Qvx64f>(), kMagnitude);
 }
 
 // Of what is not a number too, only the sign bit goes.

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <complex>
 
-#include "reference/scaled.h"
-#include "vector/unary_members.h"
+#include "support/ulp.h"
+#include "vector/members.h"
 
 namespace {
 
@@ -14,18 +14,9 @@ using LongComplex = std::complex<long double>;
 
 // ---- floats
 
-template <class C> using PartOf = decltype(C::re);
-
-// Distance in units of the exact value's last place.
-template <class T> double ulps(T got, long double exact) {
-  const auto nearest = static_cast<T>(std::fabs(exact));
-  const long double unit = std::max(nearest - std::nextafter(nearest, T(0)), std::numeric_limits<T>::denorm_min());
-  return static_cast<double>(std::fabs(got - exact) / unit);
-}
-
 // Parts of all sizes that the type has, near and far from each other; some on the axes.
 template <class C> std::vector<C> ofEverySize(size_t n) {
-  using T = PartOf<C>;
+  using T = Part<C>;
   using Limits = std::numeric_limits<T>;
   Random random(seed());
   const auto part = [&](int exponent) {
@@ -59,7 +50,7 @@ template <class C> void accurate(QvxStatus (*f)(const C*, C*, int), double most)
   double worst = 0;
   for (size_t i = 0; i < sources.size(); ++i) {
     const LongComplex exact = std::sqrt(LongComplex(sources[i].re, sources[i].im));
-    const double error = std::max(ulps(roots[i].re, exact.real()), ulps(roots[i].im, exact.imag()));
+    const double error = std::max(ulpError(roots[i].re, exact.real()), ulpError(roots[i].im, exact.imag()));
     EXPECT_EQ(std::signbit(roots[i].im), std::signbit(sources[i].im)) << show(sources[i]);
     EXPECT_FALSE(std::signbit(roots[i].re)) << show(sources[i]);
     ASSERT_LE(error, most) << show(sources[i]) << " gave " << show(roots[i]);
@@ -75,7 +66,7 @@ TEST(ComplexSqrt, Accuracy) {
 
 // Zeros, infinities and what is not a number: the C library's csqrt is the rule.
 template <class C> void special(QvxStatus (*f)(const C*, C*, int)) {
-  using T = PartOf<C>;
+  using T = Part<C>;
   const T inf = std::numeric_limits<T>::infinity();
   const T nan = std::numeric_limits<T>::quiet_NaN();
   const T parts[] = {0, -T(0), 2, -2, inf, -inf, nan, std::numeric_limits<T>::max()};
@@ -101,21 +92,6 @@ template <class C> void special(QvxStatus (*f)(const C*, C*, int)) {
 TEST(ComplexSqrt, Specials) {
   special(qvxsSqrt_32fc);
   special(qvxsSqrt_64fc);
-}
-
-// An element's root is the same alone and anywhere in a vector.
-template <class C> void everywhere(QvxStatus (*f)(const C*, C*, int), QvxStatus (*inPlace)(C*, int)) {
-  const auto alone = [=](C z) {
-    C root;
-    f(&z, &root, 1);
-    return root;
-  };
-  unary(f, inPlace, ofEverySize<C>(500), alone);
-}
-
-TEST(ComplexSqrt, Places) {
-  everywhere(qvxsSqrt_32fc, qvxsSqrt_32fc_I);
-  everywhere(qvxsSqrt_64fc, qvxsSqrt_64fc_I);
 }
 
 // ---- 16 bits
@@ -159,18 +135,7 @@ std::vector<Qvx16sc> hardIntegers() {
 }
 
 TEST(ComplexSqrt, Scaled16) {
-  scaledUnary(qvxsSqrt_16sc_Sfs, qvxsSqrt_16sc_ISfs, hardIntegers(), nearestRoot, range(-27, 11, {INT32_MIN, INT32_MAX}),
-              {-24, -8, 0, 1, 8});
-}
-
-TEST(ComplexSqrt, Scaled16InEveryRoundingMode) {
-  for (const int mode : kModes) {
-    for (const int s : {-14, -5, 0, 1, 2}) {
-      SCOPED_TRACE(std::to_string(mode) + ", scale factor " + std::to_string(s));
-      Elementwise<Qvx16sc, Qvx16sc> trial(std::make_tuple(hardIntegers()), [=](Qvx16sc z) { return nearestRoot(z, s); });
-      trial.runOnce(inMode(mode, [=](auto a, auto d, int n) { return qvxsSqrt_16sc_Sfs(a, d, n, s); }));
-    }
-  }
+  scaledUnary(qvxsSqrt_16sc_Sfs, hardIntegers(), nearestRoot, range(-27, 11, {INT32_MIN, INT32_MAX}), {-24, -8, 0, 1, 8});
 }
 
 }  // namespace

@@ -4,8 +4,7 @@
 #include <cmath>
 
 #include "reference/roots.h"
-#include "reference/scaled.h"
-#include "vector/unary_members.h"
+#include "vector/members.h"
 
 namespace {
 
@@ -29,9 +28,9 @@ template <class T> std::vector<T> floats() {
   return v;
 }
 
-template <class T> void floatRoots(QvxStatus (*f)(const T*, T*, int), QvxStatus (*inPlace)(T*, int)) {
+template <class T> void floatRoots(QvxStatus (*f)(const T*, T*, int)) {
   unary(
-      f, inPlace, floats<T>(), [](T x) { return std::sqrt(x); }, kWarning);
+      f, floats<T>(), [](T x) { return std::sqrt(x); }, kWarning);
   // The substitute is the processor's own: its sign bit is set.
   const T negative = -4;
   T root = 0;
@@ -40,16 +39,15 @@ template <class T> void floatRoots(QvxStatus (*f)(const T*, T*, int), QvxStatus 
 }
 
 TEST(Sqrt, Floats) {
-  floatRoots(qvxsSqrt_32f, qvxsSqrt_32f_I);
-  floatRoots(qvxsSqrt_64f, qvxsSqrt_64f_I);
+  floatRoots(qvxsSqrt_32f);
+  floatRoots(qvxsSqrt_64f);
 }
 
 TEST(Sqrt, AllNarrowSources) {
   const std::vector<int> far = {INT32_MIN, INT32_MAX};
-  scaledUnary(qvxsSqrt_8u_Sfs, qvxsSqrt_8u_ISfs, allOf<Qvx8u>(), rootInto<Qvx8u>(), range(-12, 8, far), {-8, -3, 0, 1, 4});
-  scaledUnary(qvxsSqrt_16u_Sfs, qvxsSqrt_16u_ISfs, allOf<Qvx16u>(), rootInto<Qvx16u>(), range(-18, 12, far), {-16, -7, 0, 1, 8});
-  scaledUnary(qvxsSqrt_16s_Sfs, qvxsSqrt_16s_ISfs, allOf<Qvx16s>(), rootInto<Qvx16s>(), range(-18, 12, far),
-              {-15, -7, 0, 1, 8, 9}, kWarning);
+  scaledUnary(qvxsSqrt_8u_Sfs, allOf<Qvx8u>(), rootInto<Qvx8u>(), range(-12, 8, far), {-8, -3, 0, 1, 4});
+  scaledUnary(qvxsSqrt_16u_Sfs, allOf<Qvx16u>(), rootInto<Qvx16u>(), range(-18, 12, far), {-16, -7, 0, 1, 8});
+  scaledUnary(qvxsSqrt_16s_Sfs, allOf<Qvx16s>(), rootInto<Qvx16s>(), range(-18, 12, far), {-15, -7, 0, 1, 8, 9}, kWarning);
 }
 
 // Sources at which the root times 2^-s steps from one integer to the next, with their neighbours: squares of k + 1/2 and of k.
@@ -77,62 +75,20 @@ template <class T> std::vector<T> steps(int scaleFactor) {
 TEST(Sqrt, To16BitsAroundEveryStep) {
   std::vector<int> scales = range(-17, 34, {INT32_MIN, -40, 40, INT32_MAX});
   for (const int s : scales) {
-    scaledUnary(qvxsSqrt_32s16s_Sfs, noInPlaceOf<Qvx16s>, steps<Qvx32s>(s), rootInto<Qvx16s>(), {s}, {}, kWarning);
-    scaledUnary(qvxsSqrt_64s16s_Sfs, noInPlaceOf<Qvx16s>, steps<Qvx64s>(s), rootInto<Qvx16s>(), {s}, {}, kWarning);
+    scaledUnary(qvxsSqrt_32s16s_Sfs, steps<Qvx32s>(s), rootInto<Qvx16s>(), {s}, {}, kWarning);
+    scaledUnary(qvxsSqrt_64s16s_Sfs, steps<Qvx64s>(s), rootInto<Qvx16s>(), {s}, {}, kWarning);
     if (HasFailure()) return;
   }
-  scaledUnary(qvxsSqrt_32s16s_Sfs, noInPlaceOf<Qvx16s>, steps<Qvx32s>(0), rootInto<Qvx16s>(), {}, {-15, -3, 0, 1, 16, 17},
-              kWarning);
-  scaledUnary(qvxsSqrt_64s16s_Sfs, noInPlaceOf<Qvx16s>, steps<Qvx64s>(0), rootInto<Qvx16s>(), {}, {-15, -3, 0, 1, 32, 33},
-              kWarning);
+  scaledUnary(qvxsSqrt_32s16s_Sfs, steps<Qvx32s>(0), rootInto<Qvx16s>(), {}, {-15, -3, 0, 1, 16, 17}, kWarning);
+  scaledUnary(qvxsSqrt_64s16s_Sfs, steps<Qvx64s>(0), rootInto<Qvx16s>(), {}, {-15, -3, 0, 1, 32, 33}, kWarning);
 }
 
 TEST(Sqrt, Of64BitsAroundEveryStep) {
   for (const int s : range(-66, 36, {INT32_MIN, INT32_MAX})) {
-    scaledUnary(qvxsSqrt_64s_Sfs, qvxsSqrt_64s_ISfs, steps<Qvx64s>(s), rootInto<Qvx64s>(), {s}, {}, kWarning);
+    scaledUnary(qvxsSqrt_64s_Sfs, steps<Qvx64s>(s), rootInto<Qvx64s>(), {s}, {}, kWarning);
     if (HasFailure()) return;
   }
-  scaledUnary(qvxsSqrt_64s_Sfs, qvxsSqrt_64s_ISfs, steps<Qvx64s>(0), rootInto<Qvx64s>(), {}, {-63, -31, -1, 0, 1, 32, 33},
-              kWarning);
-}
-
-// One negative element among positive ones, wherever it stands, at scale factors of all kernels.
-template <class D, class S> void warnsAnywhere(QvxStatus (*f)(const S*, D*, int, int)) {
-  for (const int n : {1, 3, 17, 100}) {
-    for (const int s : {-64, -30, -3, 0, 2, 40}) {
-      std::vector<S> x(static_cast<size_t>(n), 9);
-      std::vector<D> y(x.size());
-      EXPECT_EQ(f(x.data(), y.data(), n, s), qvxStatOk);
-      for (S& one : x) {
-        one = -1;
-        EXPECT_EQ(f(x.data(), y.data(), n, s), qvxWarnSqrtNegArg) << &one - x.data() << " of " << n << ", scale factor " << s;
-        EXPECT_EQ(y[static_cast<size_t>(&one - x.data())], 0);
-        one = 9;
-      }
-    }
-  }
-}
-
-TEST(Sqrt, WarnsOfANegativeElementAnywhere) {
-  warnsAnywhere(qvxsSqrt_16s_Sfs);
-  warnsAnywhere(qvxsSqrt_32s16s_Sfs);
-  warnsAnywhere(qvxsSqrt_64s16s_Sfs);
-  warnsAnywhere(qvxsSqrt_64s_Sfs);
-}
-
-// Integer results do not depend on the caller's rounding mode.
-TEST(Sqrt, IntegersInEveryRoundingMode) {
-  for (const int mode : kModes) {
-    for (const int s : {-40, -15, -4, 0, 1, 7}) {
-      SCOPED_TRACE(std::to_string(mode) + ", scale factor " + std::to_string(s));
-      Elementwise<Qvx16s, Qvx16s> narrow(std::make_tuple(allOf<Qvx16s>()), [=](Qvx16s x) { return rootInto<Qvx16s>()(x, s); });
-      narrow.warns(kWarning).runOnce(inMode(mode, [=](auto a, auto d, int n) { return qvxsSqrt_16s_Sfs(a, d, n, s); }));
-      Elementwise<Qvx16s, Qvx32s> middle(std::make_tuple(steps<Qvx32s>(s)), [=](Qvx32s x) { return rootInto<Qvx16s>()(x, s); });
-      middle.warns(kWarning).runOnce(inMode(mode, [=](auto a, auto d, int n) { return qvxsSqrt_32s16s_Sfs(a, d, n, s); }));
-      Elementwise<Qvx64s, Qvx64s> wide(std::make_tuple(steps<Qvx64s>(s)), [=](Qvx64s x) { return rootInto<Qvx64s>()(x, s); });
-      wide.warns(kWarning).runOnce(inMode(mode, [=](auto a, auto d, int n) { return qvxsSqrt_64s_Sfs(a, d, n, s); }));
-    }
-  }
+  scaledUnary(qvxsSqrt_64s_Sfs, steps<Qvx64s>(0), rootInto<Qvx64s>(), {}, {-63, -31, -1, 0, 1, 32, 33}, kWarning);
 }
 
 }  // namespace

@@ -1,11 +1,10 @@
 // 64-bit integers: sums of 65 bits, products of 127, round modes, and lengths without a sign.
 #include <qvx/qvxs.h>
-#include <sys/mman.h>
-#include <unistd.h>
 
 #include <bit>
 
-#include "vector/scaled_members.h"
+#include "support/repeated.h"
+#include "vector/members.h"
 
 namespace {
 
@@ -23,10 +22,9 @@ Qvx64s sumWithZeroTies(Qvx64s a, Qvx64s b, int s) {
 }
 
 TEST(Add64, TiesOfMixedSignsGiveZero) {
-  scaledBinary(qvxsAdd_64s_Sfs, static_cast<QvxStatus (*)(const Qvx64s*, Qvx64s*, int, int)>(nullptr), sumWithZeroTies);
+  each(sumWithZeroTies, qvxsAdd_64s_Sfs);
   // Random data seldom ties: small numbers of all signs do, all the time.
-  std::vector<Qvx64s> a;
-  std::vector<Qvx64s> b;
+  std::vector<Qvx64s> a, b;
   for (int x = -20; x <= 20; ++x) {
     for (int y = -20; y <= 20; ++y) a.push_back(x), b.push_back(y);
   }
@@ -39,11 +37,10 @@ TEST(Add64, TiesOfMixedSignsGiveZero) {
 }
 
 template <class T> void sumsByMode(QvxStatus (*f)(const T*, T, T*, Qvx32u, int, QvxRoundMode)) {
-  std::vector<int> scales = scaleFactors();
   for (const T c : constants<T>()) {
     for (const QvxRoundMode mode : {0, 1, 2, 7}) {
       const Mode rounding = mode == 0 ? Mode::kTowardZero : mode == 1 ? Mode::kNearestEven : Mode::kHalfAway;
-      for (const int s : scales) {
+      for (const int s : scaleFactors()) {
         SCOPED_TRACE("constant " + show(c) + ", mode " + std::to_string(mode) + ", scale factor " + std::to_string(s));
         Random random(seed());
         std::vector<T> source = values<T>(120, random);
@@ -108,46 +105,22 @@ TEST(Mul64, OneFloatGoesToTheExtremes) {
   }
 }
 
-// One stretch of real memory, mapped over and over to more than 2^32 elements.
-class Endless {
- public:
-  Endless(size_t bytes, int fd) : bytes_(bytes) {
-    base_ = static_cast<uint8_t*>(mmap(nullptr, bytes, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0));
-    for (size_t at = 0; base_ != MAP_FAILED && at < bytes; at += kStretch) {
-      if (mmap(base_ + at, kStretch, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_FIXED, fd, 0) == MAP_FAILED) std::abort();
-    }
-  }
-  ~Endless() { munmap(base_, bytes_); }
-  Endless(const Endless&) = delete;
-  Endless& operator=(const Endless&) = delete;
-  template <class T> T* as() { return base_ == MAP_FAILED ? nullptr : reinterpret_cast<T*>(base_); }
-  static constexpr size_t kStretch = size_t{256} << 20;
-
- private:
-  size_t bytes_;
-  uint8_t* base_;
-};
+// An unsigned length lets a negative argument through, but a call that comes down to a copy or to zeros meets their own test.
+TEST(UnsignedLength, RefusedByWayOfCopyAndZero) {
+  Qvx64s v[1] = {5};
+  EXPECT_EQ(qvxsAddC_64s_Sfs(v, 0, v, static_cast<Qvx32u>(-1), 0, 0), qvxStatBadSize);
+  EXPECT_EQ(qvxsAddC_64s_Sfs(v, 1, v, static_cast<Qvx32u>(-1), 70, 0), qvxStatBadSize);
+  EXPECT_EQ(v[0], 5);
+}
 
 // A length of -1 is one of 2^32 - 1 elements to the functions that take it as unsigned: 8 GiB here, all of them narrowed.
 TEST(UnsignedLength, MinusOneIsAVeryLongVector) {
-  const int fd = memfd_create("stretch", 0);
-  ASSERT_EQ(ftruncate(fd, static_cast<off_t>(2 * Endless::kStretch)), 0);
-  Endless source(size_t{8} << 30, fd);
-  const int target = memfd_create("target", 0);
-  ASSERT_EQ(ftruncate(target, static_cast<off_t>(Endless::kStretch)), 0);
-  Endless destination(size_t{4} << 30, target);
-  auto* src = source.as<Qvx16s>();
-  auto* dst = destination.as<Qvx8s>();
-  if (src == nullptr || dst == nullptr) GTEST_SKIP() << "no address space for 12 GiB";
-  constexpr size_t kElements = Endless::kStretch;
-  std::fill(src, src + kElements / 2, Qvx16s{300});
-  dst[kElements - 1] = 77;  // the last byte of the stretch is element 2^32 - 1: one too far
-  EXPECT_EQ(qvxsConvert_16s8s_Sfs(src, dst, static_cast<Qvx32u>(-1), 1, 2), qvxStatOk);
-  EXPECT_EQ(dst[0], 75);
-  EXPECT_EQ(dst[kElements - 2], 75);
-  EXPECT_EQ(dst[kElements - 1], 75);  // written as an earlier element of the same memory
-  close(fd);
-  close(target);
+  const Repeated<Qvx16s> source(size_t{1} << 32, 300);
+  Repeated<Qvx8s> destination(size_t{1} << 32, 77);
+  EXPECT_EQ(qvxsConvert_16s8s_Sfs(source.data(), destination.data(), static_cast<Qvx32u>(-1), 1, 2), qvxStatOk);
+  EXPECT_EQ(destination.data()[0], 75);
+  EXPECT_EQ(destination.last()[-1], 75);
+  EXPECT_EQ(destination.last()[0], 77);
 }
 
 }  // namespace
