@@ -48,7 +48,7 @@ template <class F> [[gnu::noinline]] void cutTile(F f, const Tile& t) { f(t, std
 
 // Tiles of kFrames and kGroup channels over a buffer; the last ones begin early enough to be full where there is enough for that.
 // f is called with a tile and a constant: whether all rows may be whole registers. The others stand apart, for their branches
-// would keep the vectors of all tiles in memory (1.8 times the time).
+// would keep the vectors of all tiles in memory (1.7 times the time).
 // writes: whole rows spoil what follows them. Behind the first group of channels that must be groups yet to come, not the next
 // frame, whose first group is there already.
 template <size_t kFrames, size_t kGroup, size_t kRowBytes, class F>

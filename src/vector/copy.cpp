@@ -80,7 +80,7 @@ template <class T> QvxStatus move(const T* src, T* dst, int len) {
 }
 
 // What fills: an element's bits, so that types of one size share their code; of 16 bytes a block in a register, for a struct of
-// two goes through the stack at every call (64 bytes: 2.4 ns, not 5).
+// two goes through the stack at every call (16 elements: 2.1 ns, not 9.7).
 template <class T> struct Filling {
   using Element = hwy::UnsignedFromSize<sizeof(T)>;
   static auto of(T value) { return Constant{std::bit_cast<Element>(value)}; }
