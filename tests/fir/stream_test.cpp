@@ -112,7 +112,7 @@ TEST(FirStream, IsOneSignalHoweverItIsCut) {
       const int factor = static_cast<int>(random() % 40) - 30;
       SCOPED_TRACE(testing::Message() << pair.name << ", taps " << tapsLen << ", seed " << seed());
       Stream<P> stream(pair, tapsLen, random);
-      qvxSetNumThreads(1 + static_cast<int>(random() % 7));
+      qvxSetNumThreads(1 + tapsLen % 7);
       const auto bytes = static_cast<size_t>(pair.size(tapsLen));
       Block memory(bytes + 128);
       uint8_t* block = tapsLen % 2 ? memory.atEnd(bytes) : memory.atOffset(random() % 64, bytes);

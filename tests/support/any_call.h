@@ -163,7 +163,7 @@ class AnyCall : public Arguments {
   uint8_t* vector(size_t bytes, Role role, size_t index, const std::function<void(uint8_t*)>& fill);
   void fill(uint8_t* p, size_t bytes, const Parameter& parameter, Choices& choices);
   void fillTaps(uint8_t* p, const Parameter& parameter, Choices& choices);
-  void* recordOf(std::string type, Choices& choices);
+  void* recordOf(std::string type, bool isConst, Choices& choices);
   void* pointerFor(size_t index, size_t elementSize, bool isConst, char kind, Choices& choices);
   void* sourceInPlace(const Parameter& destination);
   int sizeFor(const std::string& maker, const char* which);
@@ -193,7 +193,7 @@ inline int64_t AnyCall::drawInteger(const Parameter& p, Choices& choices) {
       {"dstBitOffset", {0, 19}}, {"filterType", {0, 1}},      {"hint", {0, 2}},       {"rndMode", {0, 2}},
       {"tapsFactor", {0, 18}},   {"phaseFixedPoint", {0, 16}}};
   const auto range = ranges.find(p.name);
-  if (p.name == "order" && export_.name.find("FFT") != std::string::npos) return choices.between(0, 11);
+  if (p.name == "order" && export_.contains("FFT")) return choices.between(0, 11);
   if (p.name == "order" && !export_.contains("Gen") && choices.oneIn(6)) return choices.between(1, 70);
   if (range != ranges.end()) return choices.between(range->second.first, range->second.second);
   if (p.name == "flag") return choices.oneOf({1, 2, 4, 8});
@@ -374,11 +374,11 @@ inline const std::vector<const Export*>& makersOf(const std::string& type, bool 
 }
 
 // A record of this type from one of its makers, which leaves its orders and lengths in the shape.
-inline void* AnyCall::recordOf(std::string type, Choices& choices) {
+inline void* AnyCall::recordOf(std::string type, bool isConst, Choices& choices) {
   if (type == "QvxsFIRState_32s") type = "QvxsFIRState64f_32s";  // one record by two names
   const bool allocates = contains(export_.name, {"Free"}) && choices.oneIn(2);
   const std::vector<const Export*>& makers = makersOf(type, allocates);
-  if (makers.empty()) return recordOf(type, choices);  // none that allocates
+  if (makers.empty()) return recordOf(type, isConst, choices);  // none that allocates
   const Export& maker = *makers[static_cast<size_t>(choices.between(0, static_cast<int64_t>(makers.size()) - 1))];
   AnyCall made(maker, choices, memory_, around_, library_);
   choices.bits();
@@ -391,7 +391,11 @@ inline void* AnyCall::recordOf(std::string type, Choices& choices) {
   if (contains(type, {"FFT"})) shape_["workSize"] = made.sizeFor(maker.name, "pWorkSize");
   made.status_ = qvxStatBadArg;  // what it made is this call's from here on
   for (Vector& v : made.vectors_) {
-    if (v.role == Role::kWork) vectors_.push_back(v);
+    if (v.role != Role::kWork) continue;
+    vectors_.push_back(v);
+    if (!isConst) continue;  // else as good as a source, as it stands now
+    vectors_.back().role = Role::kSource;
+    vectors_.back().copy.assign(v.at, v.at + v.bytes);
   }
   records_.push_back({type, record, allocates});
   return record;
@@ -451,7 +455,7 @@ inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst,
   const Parameter& p = export_.parameters[index];
   const std::string& name = export_.name;
   const std::string type = p.pointee();
-  if (kind == 'r') return recordOf(type, choices);
+  if (kind == 'r') return recordOf(type, isConst, choices);
   const bool isState = p.isRecord();
   if (p.isArrayOfPointers()) {
     if (isState && contains(name, {"Init"})) {  // where a maker leaves its record
@@ -461,7 +465,7 @@ inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst,
     const bool isSource = p.name.find("Dst") == p.name.npos;
     for (int64_t c = 0; c < shape("nChannels"); ++c) {
       if (isState) {
-        array.push_back(recordOf(type, choices));
+        array.push_back(recordOf(type, false, choices));
         continue;
       }
       const size_t bytes = PartType(type).bytes * samples();
