@@ -143,9 +143,10 @@ TEST_P(Threads, CallersFloatingPointEnvironment) {
   for (const int mode : {FE_UPWARD, FE_DOWNWARD}) expectSame(function(), {2}, kLong, nullptr, 1, mode);
 }
 
-// Any function, filters with records made for as many threads among them.
+// Any function, filters with records made for as many threads among them; but the sizes of these records count the threads.
 TEST(AnyFunction, GivesTheSame) {
   for (const Export& e : tests::exportTable()) {
+    if (e.contains("StateSize")) continue;
     for (uint64_t seed = 1; e.call && seed <= (e.contains("FIR") ? 8 : 1) && !testing::Test::HasFailure(); ++seed) {
       expectSame(e, {2, 5}, 20011, nullptr, seed);
     }
