@@ -49,32 +49,18 @@ template <size_t L, class T> QVX_INLINE auto rootAt(const T* lanes, const T* til
   return product(group<L>(lanes + 2 * at), tile[2 * row], tile[2 * row + 1]);
 }
 
-// Transforms of R neighbouring rows, without roots, in place.
-template <size_t R, size_t L, class T> [[gnu::noinline]] void plainPass(T* y, size_t rows) {
-  constexpr size_t W = kRowRadix<L> / L;
-  using V = Vec<Lanes<T, L>>;
-  for (T* block = y; block < y + rows * W * 2 * L; block += R * W * 2 * L) {
-    for (T* p = block; p < block + W * 2 * L; p += 2 * L) {
-      Complex<V> x[R];
-      unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = group<L>(p + m * W * 2 * L); });
-      dft(x);
-      unrolled<R>([&](auto m) __attribute__((always_inline)) { putGroup<L>(x[m], p + m * W * 2 * L); });
-    }
+// The levels between the first and the last down the rows, in place.
+template <size_t L, class T> void middleLevels(const Levels& levels, T* y, size_t rows, const T* roots, size_t level) {
+  if (level + 1 >= levels.count) return;
+  const size_t radix = levels.radix[level];
+  const size_t part = rows / radix;
+  withRadix(radix, [=](auto R) { innerPass<R, L>(y, part, roots, 0, part); });
+  for (size_t a = 0; level + 2 < levels.count && a < radix; ++a) {
+    middleLevels<L>(levels, y + a * part * kRowRadix<L> * 2, part, roots + part * (radix - 1) * 2, level + 1);
   }
 }
 
-// All levels down the rows in place, which leaves the digits of the rows in reverse.
-template <size_t L, class T> void downInPlace(const Levels& levels, T* y, size_t rows, const T* roots, size_t level) {
-  const size_t radix = levels.radix[level];
-  if (level + 1 == levels.count) return withRadix(radix, [=](auto R) { plainPass<R, L>(y, rows); });
-  const size_t part = rows / radix;
-  withRadix(radix, [=](auto R) { innerPass<R, L>(y, part, roots, 0, part); });
-  roots += part * (radix - 1) * 2;
-  if (level + 2 == levels.count) return downInPlace<L>(levels, y, rows, roots, level + 1);
-  for (size_t a = 0; a < radix; ++a) downInPlace<L>(levels, y + a * part * kRowRadix<L> * 2, part, roots, level + 1);
-}
-
-// Where they leave a row.
+// Where all levels in place leave a row.
 class DigitsReversed {
  public:
   explicit DigitsReversed(const Levels& levels) : count_(levels.count) {
@@ -94,6 +80,66 @@ class DigitsReversed {
   int bits_[6] = {};
 };
 
+// A tile of `wide` columns in the work array, C of them side by side.
+template <size_t L, class T> struct Tile {
+  static constexpr size_t C = kRowRadix<L>;
+  T* y;
+  size_t rows;
+  size_t wide;
+
+  T* at(size_t row, size_t column) const { return y + (column / C * rows * C + row * C + column % C) * 2; }
+};
+
+// What the rows of the next step hold is asked for a step ahead: of 4 or 8 streams a power of two apart the processor sees none
+// coming (0.86 to 0.95 of the whole time of 2^20 complex doubles).
+
+// The first level, from the caller's rows.
+template <size_t R, size_t L, class T, class Src>
+[[gnu::noinline]] void takeColumns(Src src, size_t columns, Tile<L, T> tile, const T* roots) {
+  using V = Vec<Lanes<T, L>>;
+  const size_t part = tile.rows / R;
+  for (size_t q = 0; q < part; ++q, roots += (R - 1) * 2) {
+    for (size_t at = 0; at < tile.wide; at += L) {
+      Complex<V> x[R];
+      unrolled<R>([&](auto m) __attribute__((always_inline)) {
+        x[m] = src.template get<L>((q + m * part) * columns + at);
+        src.template prefetch<L>((q + 1 + m * part) * columns + at);
+      });
+      dft(x);
+      putGroup<L>(x[0], tile.at(q, at));
+      unrolled<R - 1>([&](auto m) __attribute__((always_inline)) {
+        putGroup<L>(product(x[m + 1], roots[2 * m], roots[2 * m + 1]), tile.at(q + (m + 1) * part, at));
+      });
+    }
+  }
+}
+
+// The last one, with the roots that turn the results, to where they stand in natural order.
+template <size_t R, size_t L, class T, class Dst>
+[[gnu::noinline]] void giveColumns(Tile<L, T> tile, const Levels& levels, const T* lanes, const T* tiles, Dst dst,
+                                   size_t columns) {
+  constexpr size_t C = kRowRadix<L>;
+  using V = Vec<Lanes<T, L>>;
+  const size_t part = tile.rows / R;
+  const DigitsReversed place(levels);
+  for (size_t k = 0; k < part; ++k) {
+    const size_t from = place(k);
+    for (size_t at = 0; at < tile.wide; at += L) {
+      Complex<V> x[R];
+      unrolled<R>([&](auto m) __attribute__((always_inline)) {
+        x[m] = group<L>(tile.at(from + m, at));
+        dst.template prefetch<L>((k + 1 + m * part) * columns + at);
+      });
+      dft(x);
+      unrolled<R>([&](auto m) __attribute__((always_inline)) {
+        const size_t row = k + m * part;
+        const auto root = rootAt<L>(lanes, tiles + at / C * 2 * tile.rows, row * C + at % C);
+        dst.template put<L>(product(x[m], root), row * columns + at);
+      });
+    }
+  }
+}
+
 // Transforms down the rows, each column in its place. `wide` columns at a time go through the work array, so that the caller's
 // memory is read and written in runs of 512 bytes: rows a power of two apart leave the caches no room for more, and runs of 128
 // bytes are written at 15 GB/s where these are at 50.
@@ -101,21 +147,16 @@ template <size_t L, class T, class Src, class Dst>
 void downColumns(Src src, Dst dst, size_t rows, size_t columns, size_t wide, const ColumnRoots<T>& roots, T* y) {
   constexpr size_t C = kRowRadix<L>;
   const Levels levels = levelsFor(log2Of(rows));
-  const DigitsReversed place(levels);
-  const T* tile = roots.tiles;
-  const auto groupAt = [=](size_t row, size_t at) { return y + (at / C * rows * C + row * C + at % C) * 2; };
-  for (size_t c = 0; c < columns; c += wide, tile += wide / C * 2 * rows) {
-    for (size_t row = 0; row < rows; ++row) {
-      for (size_t at = 0; at < wide; at += L) putGroup<L>(src.template get<L>(row * columns + c + at), groupAt(row, at));
+  const Tile<L, T> tile{y, rows, wide};
+  const size_t first = levels.radix[0];
+  const size_t part = rows / first;
+  for (size_t c = 0; c < columns; c += wide) {
+    withRadix(first, [=](auto R) { takeColumns<R>(src.from(c), columns, tile, roots.levels); });
+    for (size_t at = 0; at < wide * rows; at += C * part) {
+      middleLevels<L>(levels, y + at * 2, part, roots.levels + part * (first - 1) * 2, 1);
     }
-    for (size_t at = 0; at < wide; at += C) downInPlace<L>(levels, y + at * rows * 2, rows, roots.levels, 0);
-    for (size_t row = 0; row < rows; ++row) {
-      const size_t from = place(row);
-      for (size_t at = 0; at < wide; at += L) {
-        const auto root = rootAt<L>(roots.lanes, tile + at / C * 2 * rows, row * C + at % C);
-        dst.template put<L>(product(group<L>(groupAt(from, at)), root), row * columns + c + at);
-      }
-    }
+    withRadix(levels.radix[levels.count - 1],
+              [=](auto R) { giveColumns<R>(tile, levels, roots.lanes, roots.tiles + c / C * 2 * rows, dst.from(c), columns); });
   }
 }
 

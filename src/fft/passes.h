@@ -10,6 +10,7 @@
 
 #include "fft/butterfly.h"
 #include "frame/complex.h"
+#include "frame/stream.h"
 
 namespace qvx::fft {
 
@@ -47,6 +48,7 @@ template <class T, bool kSwapped> struct Interleaved {
     store(both.lo, TagOf<V>(), p + 2 * at);
     store(both.hi, TagOf<V>(), p + 2 * at + L);
   }
+  template <size_t L> QVX_INLINE void prefetch(size_t at) const { prefetchLines<2 * L * sizeof(T)>(p + 2 * at); }
   Interleaved from(size_t at) const { return {p + 2 * at}; }
 };
 
@@ -60,6 +62,8 @@ template <class T, bool kSwapped> struct Streamed {
     hn::Stream(hn::InterleaveLower(d, z.re, z.im), d, p + 2 * at);
     hn::Stream(hn::InterleaveUpper(d, z.re, z.im), d, p + 2 * at + L);
   }
+  template <size_t L> QVX_INLINE void prefetch(size_t) const {}
+  Streamed from(size_t at) const { return {p + 2 * at}; }
 };
 
 template <class T> struct Apart {
@@ -78,6 +82,10 @@ template <class T> struct Apart {
   }
   template <size_t L> QVX_INLINE auto getInOrder(size_t at) const { return get<L>(at); }
   template <size_t L, class V> QVX_INLINE void putInOrder(Complex<V> z, size_t at) const { put<L>(z, at); }
+  template <size_t L> QVX_INLINE void prefetch(size_t at) const {
+    prefetchLines<L * sizeof(T)>(re + at);
+    prefetchLines<L * sizeof(T)>(im + at);
+  }
   Apart from(size_t at) const { return {re + at, im + at}; }
 };
 

@@ -18,6 +18,11 @@ inline bool isStreamed(size_t bytes) {
   return bytes > static_cast<size_t>(reported > 0 && reported < kMost ? reported : kMost);
 }
 
+// So many bytes from p on, into the caches. p may lie behind a vector's end: nothing is read.
+template <size_t kBytes, class T> void prefetchLines(const T* p) {
+  for (size_t at = 0; at < kBytes; at += 64) __builtin_prefetch(reinterpret_cast<const char*>(p) + at);
+}
+
 // dst = get(byte) for whole vectors, dst aligned by one overlapping vector at the start and closed by one at the end. get must
 // not depend on what is stored, and bytes are at least two vectors.
 template <class Get> void stream(uint8_t* dst, size_t bytes, const Get& get) {
