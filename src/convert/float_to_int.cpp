@@ -35,7 +35,7 @@ template <class T> QvxStatus toNarrow(const Qvx32f* src, T* dst, int len, QvxRou
     const auto toInts = [=](auto v) {
       auto scaled = v * same<decltype(v)>(factor);
       if constexpr (std::is_unsigned_v<T>) scaled = clippedBelow(scaled, 0);
-      return convert(clippedAbove(scaled, std::numeric_limits<T>::max()));
+      return toIntsBelow<T>(scaled, convert);
     };
     if constexpr (sizeof(T) == 2) {
       return loop([=](auto pair) { return narrowInOrder<T>(each(pair, toInts)); }, destination(dst), elements(len), InPairs{src});
@@ -95,15 +95,8 @@ QvxStatus qvxsConvert_32f32s_Sfs(const Qvx32f* a, Qvx32s* d, int len, QvxRoundMo
   if (status != qvxStatOk) return status;
   const Qvx32f factor = powerOfTwo<Qvx32f>(-int64_t{sf});
   return byMode(mode, Rounding::kCallers, [=](auto convert) {
-    return loop(
-        [=](auto v) {
-          using V = decltype(v);
-          const V scaled = v * same<V>(factor);
-          // The largest number has no float of its own: what is not below 2^31 has its indefinite value turned over.
-          const auto tooLarge = hn::VecFromMask(TagOf<V>(), hn::Not(scaled < same<V>(0x1p31F)));
-          return convert(scaled) ^ as<int32_t>(tooLarge);
-        },
-        destination(d), elements(len), source(a));
+    return loop([=](auto v) { return toIntsBelow<Qvx32s>(v * same<decltype(v)>(factor), convert); }, destination(d),
+                elements(len), source(a));
   });
 }
 
@@ -112,7 +105,7 @@ QvxStatus qvxsConvert_64f32s_Sfs(const Qvx64f* a, Qvx32s* d, int len, QvxRoundMo
   if (status != qvxStatOk) return status;
   const Qvx64f factor = powerOfTwo<Qvx64f>(-int64_t{sf});
   return byMode(mode, Rounding::kCallers, [=](auto convert) {
-    return loop([=](auto v) { return convert(clippedAbove(v * same<decltype(v)>(factor), INT32_MAX)); }, destination(d),
+    return loop([=](auto v) { return toIntsBelow<Qvx32s>(v * same<decltype(v)>(factor), convert); }, destination(d),
                 elements(len), source(a));
   });
 }

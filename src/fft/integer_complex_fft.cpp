@@ -1,4 +1,5 @@
 // Complex transforms of integers: interleaved parts (16sc, 32sc) and separate ones (16s, 32s).
+#include "fft/integer_points.h"
 #include "fft/integer_small.h"
 
 using namespace qvx;
@@ -34,6 +35,20 @@ template <bool kInverse> QvxStatus inIntegers(const Qvx16sc* src, Qvx16sc* dst, 
   return qvxsConvert_32s16s_Sfs(fixed.numbers(), &dst->re, count, shift);
 }
 
+template <bool kInverse, auto kTransform, class T, class Record>
+QvxStatus throughFloats(const T* src, T* dst, const Record& spec, int scaleFactor, Qvx8u* pBuffer) {
+  using Float = typename Record::Floats::T;
+  using From = NumberPairs<Float, FromIntegers<Float, T>, kInverse>;
+  using To = NumberPairs<Float, ToIntegers<Float, T>, kInverse>;
+  if (spec.order <= kShortOrder<From>) {
+    return inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](auto fit, Float factor) {
+      return smallTransform(order, From{{src}}, To{{dst, factor}}, fit);
+    });
+  }
+  const int count = 2 << spec.order;
+  return throughFloats<kTransform>(spec, src, count, dst, count, scaleFactor, pBuffer);
+}
+
 template <bool kInverse>
 QvxStatus interleaved(const Qvx16sc* src, Qvx16sc* dst, const QvxsFFTSpec_C_16sc* spec, int scaleFactor, Qvx8u* pBuffer) {
   const QvxStatus status = checkSpec(spec);
@@ -41,8 +56,7 @@ QvxStatus interleaved(const Qvx16sc* src, Qvx16sc* dst, const QvxsFFTSpec_C_16sc
   if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
   if (isNull(spec->floats)) return inIntegers<kInverse>(src, dst, *spec, scaleFactor);
   constexpr auto kTransform = kInverse ? qvxsFFTInv_CToC_32fc_I : qvxsFFTFwd_CToC_32fc_I;
-  const int count = 2 << spec->order;
-  return throughFloats<kTransform>(*spec, &src->re, count, &dst->re, count, scaleFactor, pBuffer);
+  return throughFloats<kInverse, kTransform>(&src->re, &dst->re, *spec, scaleFactor, pBuffer);
 }
 template <bool kInverse>
 QvxStatus interleaved(const Qvx32sc* src, Qvx32sc* dst, const QvxsFFTSpec_C_32sc* spec, int scaleFactor, Qvx8u* pBuffer) {
@@ -50,8 +64,7 @@ QvxStatus interleaved(const Qvx32sc* src, Qvx32sc* dst, const QvxsFFTSpec_C_32sc
   if (status != qvxStatOk) return status;
   if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
   constexpr auto kTransform = kInverse ? qvxsFFTInv_CToC_64fc_I : qvxsFFTFwd_CToC_64fc_I;
-  const int count = 2 << spec->order;
-  return throughFloats<kTransform>(*spec, &src->re, count, &dst->re, count, scaleFactor, pBuffer);
+  return throughFloats<kInverse, kTransform>(&src->re, &dst->re, *spec, scaleFactor, pBuffer);
 }
 
 // ---- apart
@@ -76,8 +89,18 @@ QvxStatus inIntegers(Parts<const Qvx16s> src, Parts<Qvx16s> dst, const QvxsFFTSp
   return qvxStatOk;
 }
 
-template <auto kTransform, class T, class Record>
+template <bool kInverse, auto kTransform, class T, class Record>
 QvxStatus throughFloats(Parts<const T> src, Parts<T> dst, const Record& spec, int scaleFactor, Qvx8u* pBuffer) {
+  using Float = typename Record::Floats::T;
+  using From = NumbersApart<Float, FromIntegers<Float, T>>;
+  using To = NumbersApart<Float, ToIntegers<Float, T>>;
+  if (spec.order <= kShortOrder<From>) {
+    return inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](auto fit, Float factor) {
+      const From from = kInverse ? From{{src.im}, {src.re}} : From{{src.re}, {src.im}};
+      const To to = kInverse ? To{{dst.im, factor}, {dst.re, factor}} : To{{dst.re, factor}, {dst.im, factor}};
+      return smallTransform(order, from, to, fit);
+    });
+  }
   const int n = 1 << spec.order;
   return withFloats(spec, 2 * n, pBuffer, [&](auto* y, Qvx8u* work) {
     toFloats(src.re, y, n);
@@ -95,14 +118,16 @@ QvxStatus apart(Parts<const Qvx16s> src, Parts<Qvx16s> dst, const QvxsFFTSpec_C_
   if (status != qvxStatOk) return status;
   if (isMissing(src) || isMissing(dst)) return qvxStatNullPtr;
   if (isNull(spec->floats)) return inIntegers<kInverse>(src, dst, *spec, scaleFactor);
-  return throughFloats < kInverse ? qvxsFFTInv_CToC_32f_I : qvxsFFTFwd_CToC_32f_I > (src, dst, *spec, scaleFactor, pBuffer);
+  constexpr auto kTransform = kInverse ? qvxsFFTInv_CToC_32f_I : qvxsFFTFwd_CToC_32f_I;
+  return throughFloats<kInverse, kTransform>(src, dst, *spec, scaleFactor, pBuffer);
 }
 template <bool kInverse>
 QvxStatus apart(Parts<const Qvx32s> src, Parts<Qvx32s> dst, const QvxsFFTSpec_C_32s* spec, int scaleFactor, Qvx8u* pBuffer) {
   const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
   if (isMissing(src) || isMissing(dst)) return qvxStatNullPtr;
-  return throughFloats < kInverse ? qvxsFFTInv_CToC_64f_I : qvxsFFTFwd_CToC_64f_I > (src, dst, *spec, scaleFactor, pBuffer);
+  constexpr auto kTransform = kInverse ? qvxsFFTInv_CToC_64f_I : qvxsFFTFwd_CToC_64f_I;
+  return throughFloats<kInverse, kTransform>(src, dst, *spec, scaleFactor, pBuffer);
 }
 
 }  // namespace

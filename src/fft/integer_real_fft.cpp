@@ -1,4 +1,5 @@
 // Transforms of real integers.
+#include "fft/integer_points.h"
 #include "fft/integer_small.h"
 #include "fft/real_transform.h"
 
@@ -44,6 +45,14 @@ QvxStatus inverseInIntegers(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_
   return qvxsConvert_32s16s_Sfs(fixed.numbers(), dst, n, shift);
 }
 
+template <bool kInverse, Layout kLayout, class Record, class In, class Out>
+QvxStatus inRegisters(const In* src, Out* dst, const Record& spec, int scaleFactor) {
+  using T = typename Record::Floats::T;
+  return fft::inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](auto fit, T factor) {
+    return shortReal<kInverse, kLayout, T>(order, FromIntegers<T, In>{src}, ToIntegers<T, Out>{dst, factor}, fit);
+  });
+}
+
 // kFloats: the transform in place.
 template <Layout kLayout, auto kFloats, class Record, class In, class Out>
 QvxStatus forward(const In* src, Out* dst, const Record* spec, int scaleFactor, Qvx8u* pBuffer) {
@@ -53,6 +62,7 @@ QvxStatus forward(const In* src, Out* dst, const Record* spec, int scaleFactor, 
   if constexpr (std::is_same_v<Record, QvxsFFTSpec_R_16s>) {
     if (isNull(spec->floats)) return forwardInIntegers<kLayout>(src, dst, *spec, scaleFactor);
   }
+  if (spec->order <= kShortReal) return inRegisters<false, kLayout>(src, dst, *spec, scaleFactor);
   return throughFloats<kFloats>(*spec, src, 1 << spec->order, dst, spectrumLength(kLayout, spec->order), scaleFactor, pBuffer);
 }
 template <Layout kLayout, auto kFloats, class Record, class In, class Out>
@@ -63,6 +73,7 @@ QvxStatus inverse(const In* src, Out* dst, const Record* spec, int scaleFactor, 
   if constexpr (std::is_same_v<Record, QvxsFFTSpec_R_16s>) {
     if (isNull(spec->floats)) return inverseInIntegers<kLayout>(src, dst, *spec, scaleFactor);
   }
+  if (spec->order <= kShortReal) return inRegisters<true, kLayout>(src, dst, *spec, scaleFactor);
   return throughFloats<kFloats>(*spec, src, spectrumLength(kLayout, spec->order), dst, 1 << spec->order, scaleFactor, pBuffer);
 }
 

@@ -14,10 +14,22 @@
 
 namespace qvx::fft {
 
-// Points in the caller's memory. A vector of L of them may come with its lanes in another order, that of element(lane).
-template <class T, bool kSwapped> struct Interleaved {
-  using Lane = std::remove_const_t<T>;
+// The caller's numbers as they stand, for transforms that need no parts apart.
+template <class T> struct Floats {
   T* p;
+
+  template <class D> QVX_INLINE auto get(D d, size_t at) const { return load(d, p + at); }
+  template <class V> QVX_INLINE void put(V v, size_t at) const { store(v, TagOf<V>(), p + at); }
+  Floats from(size_t at) const { return {p + at}; }
+};
+
+// Points in the caller's memory. A vector of L of them may come with its lanes in another order, that of element(lane).
+template <class T, bool kSwapped_> struct Interleaved {
+  using Lane = std::remove_const_t<T>;
+  static constexpr bool kSwapped = kSwapped_;
+  T* p;
+
+  Floats<T> numbers() const { return {p}; }
 
   // Shuffles within blocks take half a block from either half of the points.
   template <size_t L> static constexpr size_t element(size_t lane) {

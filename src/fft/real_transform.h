@@ -70,16 +70,18 @@ template <Layout kLayout, class T, class Fit> void longInverse(const Spec<T>& sp
 }
 
 // Of up to 32 numbers.
-template <bool kInverse, Layout kLayout, class T, class Fit>
-QVX_INLINE QvxStatus shortReal(int order, const T* src, T* dst, Fit fit) {
+template <bool kInverse, Layout kLayout, class T, class Src, class Dst, class Fit>
+QVX_INLINE QvxStatus shortReal(int order, Src src, Dst dst, Fit fit) {
   const auto of = [=](auto n) __attribute__((always_inline)) {
-    if constexpr (kInverse) return smallInverse<kLayout, n>(src, dst, fit);
-    else return smallForward<kLayout, n>(src, dst, fit);
+    if constexpr (kInverse) return smallInverse<kLayout, n, T>(src, dst, fit);
+    else if constexpr (n == 8) return forwardOfEight<kLayout, T>(src, dst, fit);
+    else return smallForward<kLayout, n, T>(src, dst, fit);
   };
+  const Lanes<T, 1> one;
   switch (order) {
     case 0:
-      inLanes<1>(Apart<const T>{src, src}, Apart<T>{dst, dst}, fit);
-      if (!kInverse && kLayout == Layout::kCcs) dst[1] = 0;
+      dst.put(fit(src.get(one, 0)), 0);
+      if (!kInverse && kLayout == Layout::kCcs) dst.put(hn::Zero(one), 1);
       return qvxStatOk;
     case 1:
       return of(std::integral_constant<size_t, 2>());
@@ -119,7 +121,9 @@ QVX_INLINE QvxStatus realTransform(const T* src, T* dst, const Record* spec, Qvx
   if (status != qvxStatOk) return status;
   if (spec->order > kShortReal) return longRealCall<kInverse, kLayout, T>(*spec, src, dst, pBuffer);
   return withFit<kInverse, T>(
-      *spec, [=](auto fit) __attribute__((always_inline)) { return shortReal<kInverse, kLayout>(spec->order, src, dst, fit); });
+      *spec, [=](auto fit) __attribute__((always_inline)) {
+        return shortReal<kInverse, kLayout, T>(spec->order, Floats<const T>{src}, Floats<T>{dst}, fit);
+      });
 }
 
 template <Layout kLayout, class T, class Record> QvxStatus spectrumOf(const T* src, T* dst, const Record* spec, Qvx8u* pBuffer) {

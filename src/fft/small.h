@@ -55,26 +55,32 @@ template <int kOrder, class Src, class Dst, class Fit> QVX_INLINE void transform
   else if constexpr (kOrder == 4) inTwoPasses<16>(src, dst, fit);
   else inHalves<(1 << kOrder)>(src, dst, fit);
 }
-template <int kOrder, class T, bool kSwapped, class Fit>
-QVX_INLINE void transformInterleaved(const T* src, Interleaved<T, kSwapped> dst, Fit fit) {
+template <int kOrder, bool kSwapped, class T, class Src, class Dst, class Fit>
+QVX_INLINE void transformInterleaved(Src src, Dst dst, Fit fit) {
   constexpr size_t N = size_t{1} << kOrder;
   using V = typename Shape<T, N>::V;
-  const auto get = [=](size_t at) __attribute__((always_inline)) { return load(TagOf<V>(), src + 2 * at); };
-  const auto put = [=](size_t at, V v) __attribute__((always_inline)) { store(fit(v), TagOf<V>(), dst.p + 2 * at); };
+  const auto get = [=](size_t at) __attribute__((always_inline)) { return src.get(TagOf<V>(), 2 * at); };
+  const auto put = [=](size_t at, V v) __attribute__((always_inline)) { dst.put(fit(v), 2 * at); };
   transformNumbers<N, kSwapped, T>(get, put);
 }
 
+template <class Points> inline constexpr bool kInPairs = requires(Points points) { points.numbers(); };
+
 // Each a function of its own: a call of 8 points takes 4 ns, of which a stack frame for 32 would be one.
 template <int kOrder, class Src, class Dst, class Fit> [[gnu::noinline]] QvxStatus smallTransformOf(Src src, Dst dst, Fit fit) {
-  if constexpr (requires { src.p; }) transformInterleaved<kOrder>(src.p, dst, fit);
-  else transformApart<kOrder>(src, dst, fit);
+  if constexpr (kInPairs<Src>) {
+    transformInterleaved<kOrder, Src::kSwapped, typename Src::Lane>(src.numbers(), dst.numbers(), fit);
+  } else {
+    transformApart<kOrder>(src, dst, fit);
+  }
   return qvxStatOk;
 }
 
 // Up to kShortOrder.
 template <class Points> inline constexpr int kShortOrder = 5;
-template <class T, bool kSwapped>
-inline constexpr int kShortOrder<Interleaved<T, kSwapped>> = kWidest<std::remove_const_t<T>> == 16 ? 6 : 7;
+template <class Points>
+requires kInPairs<Points>
+inline constexpr int kShortOrder<Points> = kWidest<typename Points::Lane> == 16 ? 6 : 7;
 template <class Src, class Dst, class Fit> QVX_INLINE QvxStatus smallTransform(int order, Src src, Dst dst, Fit fit) {
   switch (order) {
     case 0:
