@@ -49,17 +49,6 @@ template <size_t L, class T> QVX_INLINE auto rootAt(const T* lanes, const T* til
   return product(group<L>(lanes + 2 * at), tile[2 * row], tile[2 * row + 1]);
 }
 
-// The levels between the first and the last down the rows, in place.
-template <size_t L, class T> void middleLevels(const Levels& levels, T* y, size_t rows, const T* roots, size_t level) {
-  if (level + 1 >= levels.count) return;
-  const size_t radix = levels.radix[level];
-  const size_t part = rows / radix;
-  withRadix(radix, [=](auto R) { innerPass<R, L>(y, part, roots, 0, part); });
-  for (size_t a = 0; level + 2 < levels.count && a < radix; ++a) {
-    middleLevels<L>(levels, y + a * part * kRowRadix<L> * 2, part, roots + part * (radix - 1) * 2, level + 1);
-  }
-}
-
 // Where all levels in place leave a row.
 class DigitsReversed {
  public:
@@ -80,21 +69,21 @@ class DigitsReversed {
   int bits_[6] = {};
 };
 
-// A tile of `wide` columns in the work array, C of them side by side.
+// The columns of a tile, side by side in the work array.
 template <size_t L, class T> struct Tile {
-  static constexpr size_t C = kRowRadix<L>;
   T* y;
   size_t rows;
   size_t wide;
 
-  T* at(size_t row, size_t column) const { return y + (column / C * rows * C + row * C + column % C) * 2; }
+  T* at(size_t row, size_t column) const { return y + (row * wide + column) * 2; }
 };
 
-// What the rows of the next step hold is asked for a step ahead: of 4 or 8 streams a power of two apart the processor sees none
-// coming (0.86 to 0.95 of the whole time of 2^20 complex doubles).
+// kAhead: what the rows of the next step hold is asked for a step ahead. Of 4 or 8 streams a power of two apart the processor
+// sees none coming (0.86 to 0.95 of the whole time of 2^20 complex doubles); where the caches hold it all, 2^18 take 1.07 that
+// way.
 
 // The first level, from the caller's rows.
-template <size_t R, size_t L, class T, class Src>
+template <bool kAhead, size_t R, size_t L, class T, class Src>
 [[gnu::noinline]] void takeColumns(Src src, size_t columns, Tile<L, T> tile, const T* roots) {
   using V = Vec<Lanes<T, L>>;
   const size_t part = tile.rows / R;
@@ -103,7 +92,7 @@ template <size_t R, size_t L, class T, class Src>
       Complex<V> x[R];
       unrolled<R>([&](auto m) __attribute__((always_inline)) {
         x[m] = src.template get<L>((q + m * part) * columns + at);
-        src.template prefetch<L>((q + 1 + m * part) * columns + at);
+        if constexpr (kAhead) src.template prefetch<L>((q + 1 + m * part) * columns + at);
       });
       dft(x);
       putGroup<L>(x[0], tile.at(q, at));
@@ -114,21 +103,32 @@ template <size_t R, size_t L, class T, class Src>
   }
 }
 
-// The last one, with the roots that turn the results, to where they stand in natural order.
-template <size_t R, size_t L, class T, class Dst>
-[[gnu::noinline]] void giveColumns(Tile<L, T> tile, const Levels& levels, const T* lanes, const T* tiles, Dst dst,
-                                   size_t columns) {
+// The levels between the first and the last, in place.
+template <size_t L, class T> void middleLevels(const Levels& levels, Tile<L, T> tile, const T* roots, size_t level) {
+  if (level + 1 >= levels.count) return;
+  const size_t radix = levels.radix[level];
+  const size_t part = tile.rows / radix;
+  withRadix(radix, [=](auto R) { innerPass<R, L>(tile.y, part, roots, 0, part, tile.wide / L); });
+  for (size_t a = 0; level + 2 < levels.count && a < radix; ++a) {
+    middleLevels<L>(levels, Tile<L, T>{tile.at(a * part, 0), part, tile.wide}, roots + part * (radix - 1) * 2, level + 1);
+  }
+}
+
+// The last one, of rows k = first, first + step .. and what belongs to them, with the roots that turn the results, to where they
+// stand in natural order.
+template <bool kAhead, size_t R, size_t L, class T, class Dst>
+[[gnu::noinline]] void giveColumns(Tile<L, T> tile, const DigitsReversed& place, size_t first, size_t step, const T* lanes,
+                                   const T* tiles, Dst dst, size_t columns) {
   constexpr size_t C = kRowRadix<L>;
   using V = Vec<Lanes<T, L>>;
   const size_t part = tile.rows / R;
-  const DigitsReversed place(levels);
-  for (size_t k = 0; k < part; ++k) {
+  for (size_t k = first; k < part; k += step) {
     const size_t from = place(k);
     for (size_t at = 0; at < tile.wide; at += L) {
       Complex<V> x[R];
       unrolled<R>([&](auto m) __attribute__((always_inline)) {
         x[m] = group<L>(tile.at(from + m, at));
-        dst.template prefetch<L>((k + 1 + m * part) * columns + at);
+        if constexpr (kAhead) dst.template prefetch<L>((k + step + m * part) * columns + at);
       });
       dft(x);
       unrolled<R>([&](auto m) __attribute__((always_inline)) {
@@ -140,23 +140,26 @@ template <size_t R, size_t L, class T, class Dst>
   }
 }
 
-// Transforms down the rows, each column in its place. `wide` columns at a time go through the work array, so that the caller's
-// memory is read and written in runs of 512 bytes: rows a power of two apart leave the caches no room for more, and runs of 128
-// bytes are written at 15 GB/s where these are at 50.
-template <size_t L, class T, class Src, class Dst>
+// Transforms down the rows, each column in its place. Tiles of them go through the work array, so that the caller's memory is
+// read and written in runs of 512 bytes: rows a power of two apart leave the caches no room for more, and runs of 128 bytes are
+// written at 15 GB/s where these are at 50. What the first level has made of a tile goes through the others part by part, in the
+// nearest cache.
+template <bool kAhead, size_t L, class T, class Src, class Dst>
 void downColumns(Src src, Dst dst, size_t rows, size_t columns, size_t wide, const ColumnRoots<T>& roots, T* y) {
   constexpr size_t C = kRowRadix<L>;
   const Levels levels = levelsFor(log2Of(rows));
+  const DigitsReversed place(levels);
   const Tile<L, T> tile{y, rows, wide};
-  const size_t first = levels.radix[0];
-  const size_t part = rows / first;
+  const size_t parts = levels.radix[0];
+  const size_t part = rows / parts;
   for (size_t c = 0; c < columns; c += wide) {
-    withRadix(first, [=](auto R) { takeColumns<R>(src.from(c), columns, tile, roots.levels); });
-    for (size_t at = 0; at < wide * rows; at += C * part) {
-      middleLevels<L>(levels, y + at * 2, part, roots.levels + part * (first - 1) * 2, 1);
+    withRadix(parts, [=](auto R) { takeColumns<kAhead, R>(src.from(c), columns, tile, roots.levels); });
+    for (size_t a = 0; a < parts; ++a) {
+      middleLevels<L>(levels, Tile<L, T>{tile.at(a * part, 0), part, wide}, roots.levels + part * (parts - 1) * 2, 1);
+      withRadix(levels.radix[levels.count - 1], [=, &place](auto R) {
+        giveColumns<kAhead, R>(tile, place, a, parts, roots.lanes, roots.tiles + c / C * 2 * rows, dst.from(c), columns);
+      });
     }
-    withRadix(levels.radix[levels.count - 1],
-              [=](auto R) { giveColumns<R>(tile, levels, roots.lanes, roots.tiles + c / C * 2 * rows, dst.from(c), columns); });
   }
 }
 
@@ -226,19 +229,24 @@ template <size_t L, class T, class Points> void transposeUpTo(Points points, siz
   }
 }
 
+// Source and destination together, where they leave half of the cache to others.
+inline bool isCached(size_t bytes) { return !isStreamed(2 * bytes); }
+
 // The first pass. What it writes will have left the caches when it is read again, if source and destination are larger than
 // they: it goes to memory at once then (0.92 of the whole transform's time for 2^21 doubles).
 template <size_t L, class T, bool kSwapped, class... Rest>
 void firstColumns(Interleaved<const T, kSwapped> src, Interleaved<T, kSwapped> dst, size_t rows, size_t columns, Rest... rest) {
+  const size_t bytes = 2 * rows * columns * 2 * sizeof(T);
+  if (isCached(bytes)) return downColumns<false, L>(src, dst, rows, columns, rest...);
   const bool isAligned = reinterpret_cast<uintptr_t>(dst.p) % kVectorBytes == 0;
-  if (src.p == dst.p || !isAligned || !isStreamed(2 * rows * columns * 2 * sizeof(T))) {
-    return downColumns<L>(src, dst, rows, columns, rest...);
-  }
-  downColumns<L>(src, Streamed<T, kSwapped>{dst.p}, rows, columns, rest...);
+  if (src.p == dst.p || !isAligned || !isStreamed(bytes)) return downColumns<true, L>(src, dst, rows, columns, rest...);
+  downColumns<true, L>(src, Streamed<T, kSwapped>{dst.p}, rows, columns, rest...);
   storeFence();
 }
-template <size_t L, class T, class... Rest> void firstColumns(Apart<const T> src, Apart<T> dst, Rest... rest) {
-  downColumns<L>(src, dst, rest...);
+template <size_t L, class T, class... Rest>
+void firstColumns(Apart<const T> src, Apart<T> dst, size_t rows, size_t columns, Rest... rest) {
+  if (isCached(2 * rows * columns * 2 * sizeof(T))) return downColumns<false, L>(src, dst, rows, columns, rest...);
+  downColumns<true, L>(src, dst, rows, columns, rest...);
 }
 
 // n points in place.
@@ -255,11 +263,11 @@ void blockedTransform(const Plan<T>& rowPlan, const BlockedPlan<T>& plan, int or
   constexpr size_t n = size_t{1} << kBlockBits;
   const size_t block = (size_t{1} << order) / n;
   const size_t m = block / n;
-  firstColumns<L>(src, dst, n, block, std::min(tile / n, block), plan.outer, y);
+  firstColumns<L>(src, dst, n, block, std::min({tile / n, block, kSquare<T>}), plan.outer, y);
   for (size_t ka = 0; ka < n; ++ka) {
     const Dst here = dst.from(ka * block);
     if (m <= kWidestRadix) withRadix(m, [&](auto R) { downShortColumns<R, L>(here, n, plan.inner); });
-    else downColumns<L>(here, here, m, n, std::min(tile / m, n), plan.inner, y);
+    else downColumns<false, L>(here, here, m, n, std::min(tile / m, n), plan.inner, y);
     for (size_t kb = 0; kb < m; ++kb) {
       const Dst row = here.from(kb * n);
       rowTransform<L>(rowPlan, row, y, fit);

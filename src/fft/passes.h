@@ -155,9 +155,10 @@ template <size_t L, class T, class Src>
 }
 
 // roots: for each q = 0..stride-1, for k = 1..R-1 exp(-2 pi i q k / (R * stride)), real and imaginary part.
-template <size_t R, size_t L, class T>
-[[gnu::noinline]] void innerPass(T* y, size_t stride, const T* roots, size_t from, size_t to) {
-  constexpr size_t W = kRowRadix<L> / L;
+// width: the vectors of a row.
+template <size_t R, size_t L, class T, class Width = std::integral_constant<size_t, kRowRadix<L> / L>>
+[[gnu::noinline]] void innerPass(T* y, size_t stride, const T* roots, size_t from, size_t to, Width width = {}) {
+  const size_t W = width;
   using V = Vec<Lanes<T, L>>;
   const size_t apart = stride * W * 2 * L;
   for (size_t q = from; q < to; ++q) {
