@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "fft/life.h"
+#include "support/rounding.h"
 
 namespace {
 
@@ -285,6 +286,29 @@ TEST(IntegerFft, ExtremeScaleFactors) {
       const Numbers large = called(call, x, length, record.get(), -200, record.bufferSize());
       EXPECT_EQ(*std::max_element(large.begin(), large.end()), std::numeric_limits<To>::max());
       EXPECT_EQ(large[0], std::numeric_limits<To>::max());
+    }
+  });
+}
+
+// Ties to even in every rounding mode of the processor, in registers and through memory: an impulse of 3, halved.
+TEST(IntegerFft, RoundsToNearestInEveryMode) {
+  forEachWay([](const auto& life, const auto& call, const Way& way) {
+    for (const int order : {3, 4, 8}) {
+      const tests::Record record(life, order, QVX_FFT_SCALE_NONE, 2);
+      const size_t n = size_t{1} << order;
+      const size_t from = way.inverse ? spectrumLength(way.layout, n) : sequenceLength(way.layout, n);
+      const size_t length = way.inverse ? sequenceLength(way.layout, n) : spectrumLength(way.layout, n);
+      Numbers impulse(from);
+      impulse[0] = 3;
+      Reals exact = defined(way, impulse, n);
+      for (long double& v : exact) v = std::nearbyint(v) / 2;
+      for (const int mode : tests::kRoundings) {
+        const Numbers found = [&] {
+          const tests::CallersRounding rounding(mode);
+          return called(call, impulse, length, record.get(), 1, record.bufferSize());
+        }();
+        for (size_t i = 0; i < length; ++i) EXPECT_EQ(found[i], std::rint(exact[i])) << "order " << order << ", mode " << mode;
+      }
     }
   });
 }
