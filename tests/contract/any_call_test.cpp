@@ -98,7 +98,7 @@ TEST_F(EveryCall, ChecksItsArgumentsInOrder) {
       memory_.reuse();
       const int before = allocator.live;
       {
-        AnyCall call(e, choices, memory_, {-1, 0, false, 3});
+        AnyCall call(e, choices, memory_, {-1, 0x5A, false, 3});
         const int live = allocator.live;
         for (size_t k = from + count; k-- > from;) call.spoil(wrongs[k], k == from ? which : 0);
         const QvxStatus status = call.run(), wanted = count == 0 ? qvxStatOk : wrongs[from].status;
@@ -152,7 +152,7 @@ TEST_F(EveryCall, RefusesTheRecordsOfOthers) {
     for (const auto& [other, record] : records) {
       if (other == (type == "QvxsFIRState_32s" ? "QvxsFIRState64f_32s" : type)) continue;
       memory_.reuse();
-      AnyCall call(e, Choices(1), memory_, {-1, 0, false, 3});
+      AnyCall call(e, Choices(1), memory_, {-1, 0x5A, false, 3});
       call.setRecord(index, record);
       EXPECT_TRUE(call.run() == qvxStatContextMismatch && call.wroteNothing()) << e.name << " takes " << other;
     }

@@ -59,7 +59,8 @@ TEST_F(Parametric, SaysWhatItCannotDo) {
                  {"low -f 100 -r 30", "29 dB"},
                  {"low -f 100 --plot x.gif", ".png or .svg"},
                  {"low -f 100 -s 8000 in.wav -o out.wav", "48000 Hz"},
-                 {"low -f 100 in.wav -o in.wav", "is a file to read"}});
+                 {"low -f 100 in.wav -o in.wav", "is a file to read"}},
+                /*isSilent=*/false);
 }
 
 }  // namespace
