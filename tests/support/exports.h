@@ -83,7 +83,7 @@ struct PartType {
     if (isFloat) return bytes == 4 ? read<float>(at) : read<double>(at);
     if (bytes == 1) return isSigned ? read<int8_t>(at) : read<uint8_t>(at);
     if (bytes == 2) return isSigned ? read<int16_t>(at) : read<uint16_t>(at);
-    if (bytes == 4) return isSigned ? read<int32_t>(at) : read<uint32_t>(at);
+    if (bytes == 4) return isSigned ? static_cast<double>(read<int32_t>(at)) : read<uint32_t>(at);
     return static_cast<double>(read<int64_t>(at));
   }
   void put(uint8_t* at, double value) const {
