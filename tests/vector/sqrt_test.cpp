@@ -56,7 +56,7 @@ template <class T> std::vector<T> steps(int scaleFactor) {
   std::vector<T> v;
   Random random(seed() + static_cast<unsigned>(s + 100));
   const auto add = [&](long double x) {
-    if (!(x < static_cast<long double>(std::numeric_limits<T>::max()) - 2)) return;
+    if (!(std::abs(x) < static_cast<long double>(std::numeric_limits<T>::max()) - 2)) return;
     for (int near = -2; near <= 2; ++near) v.push_back(static_cast<T>(static_cast<T>(x) + near));
   };
   const long double most = std::sqrt(static_cast<long double>(std::numeric_limits<T>::max()));
