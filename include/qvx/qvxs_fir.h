@@ -187,7 +187,7 @@ QVXS_API(QvxStatus, qvxsFIRFree_32s, (QvxsFIRState_32s* pState));
 
 /** The records of 32s_16s and 32sc_16sc with taps given as floats: scaled by the power of two that brings the largest magnitude
  *  (of any part) to 16384 to 32767, within 2^-33 to 2^33, rounded half away from zero. qvxsFIRGetTaps gives what they were rounded
- *  to. Finite taps only. */
+ *  to. Taps that are not finite count as 0. */
 QVXS_API(QvxStatus, qvxsFIRInit32s_16s32f, (QvxsFIRState32s_16s** ppState, const Qvx32f* pTaps, int tapsLen, const Qvx16s* pDlyLine, Qvx8u* pBuffer));
 QVXS_API(QvxStatus, qvxsFIRInit32sc_16sc32fc, (QvxsFIRState32sc_16sc** ppState, const Qvx32fc* pTaps, int tapsLen, const Qvx16sc* pDlyLine, Qvx8u* pBuffer));
 QVXS_API(QvxStatus, qvxsFIRInitAlloc32s_16s32f, (QvxsFIRState32s_16s** ppState, const Qvx32f* pTaps, int tapsLen, const Qvx16s* pDlyLine));
