@@ -191,20 +191,9 @@ TEST(DivInteger, ComplexTies) {
 // ---- constants
 
 template <class T, class Oracle> void dividesByConstant(Oracle oracle, QvxStatus (*f)(const T*, T, T*, int, int)) {
-  const auto at = [&](T c, int s, size_t n, bool everyLength) {
-    SCOPED_TRACE("divisor " + show(c) + ", scale factor " + std::to_string(s));
-    Random random(seed() + static_cast<unsigned>(s));
-    Elementwise<T, T> trial(n, random, [=](T b) { return oracle(c, b, s); });
-    const auto call = [=](const T* b, T* d, int n) { return f(b, c, d, n, s); };
-    if (everyLength) trial.run(call);
-    else trial.runOnce(call);
-  };
-  for (const T c : constants<T>()) {
-    for (const int s : scaleFactors()) {
-      if (!isZero(c)) at(c, s, 300, false);
-    }
-  }
-  for (const int s : {-40, -15, 0, 3, 20}) at(harmless<T>(), s, 700, true);
+  std::vector<T> divisors = constants<T>();
+  std::erase_if(divisors, [](T c) { return isZero(c); });
+  byConstants<T>([=](T b, T c, int s) { return oracle(c, b, s); }, f, divisors, harmless<T>(), {-40, -15, 0, 3, 20});
 }
 
 TEST(DivC, Integers) {

@@ -109,7 +109,10 @@ template <class Oracle, class T> void each(Oracle oracle, QvxStatus (*inPlace)(T
   }
 }
 
-template <class Oracle, class T> void each(Oracle oracle, QvxStatus (*f)(const T*, T, T*, int, int)) {
+// By each of some constants at all scale factors, and by one of them at every length at those of `paths`.
+template <class T, class Oracle>
+void byConstants(Oracle oracle, QvxStatus (*f)(const T*, T, T*, int, int), const std::vector<T>& some, T one,
+                 const std::vector<int>& paths) {
   const auto at = [&](T c, int s, size_t n, bool everyLength) {
     SCOPED_TRACE("constant " + show(c) + ", scale factor " + std::to_string(s));
     Random random(seed() + static_cast<unsigned>(s));
@@ -118,10 +121,15 @@ template <class Oracle, class T> void each(Oracle oracle, QvxStatus (*f)(const T
     if (everyLength) trial.run(call);
     else trial.runOnce(call);
   };
-  for (const T c : constants<T>()) {
+  for (const T c : some) {
     for (const int s : scaleFactors()) at(c, s, 300, false);
   }
-  for (const int s : kPathScales) at(constants<T>()[0], s, 700, true);
+  for (const int s : paths) at(one, s, 700, true);
+}
+
+template <class Oracle, class T> void each(Oracle oracle, QvxStatus (*f)(const T*, T, T*, int, int)) {
+  const auto all = constants<T>();
+  byConstants<T>(oracle, f, all, all[0], {std::begin(kPathScales), std::end(kPathScales)});
 }
 
 // Functions of one rule.
