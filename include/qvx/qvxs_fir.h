@@ -17,7 +17,13 @@ extern "C" {
  * A record holds the taps and the last tapsLen samples of earlier calls, so that a stream cut into calls, in whatever pieces and
  * by whatever form, is filtered as if it were one. It lies in one block, must not be copied to another address, and serves one
  * call at a time. Long filters on long blocks are computed by way of the FFT: where that is faster, from 64 to 128 taps (real) or
- * 18 to 38 taps (complex) on, as the processor's vectors are wide, in calls of more than 511 (real) or 255 (complex) samples. */
+ * 18 to 38 taps (complex) on, as the processor's vectors are wide, in calls of more than 511 (real) or 255 (complex) samples.
+ *
+ * To the bit: in place equals out of place, and no result depends on the address of a vector or on the number of threads. Results
+ * of integer arithmetic do not depend on how the stream is cut, either. Floats are added up in one order in calls of up to 64
+ * samples, in another one in longer calls that do not go by way of the FFT, whatever the cut; one-sample forms, short calls, long
+ * calls and the FFT agree to rounding. (One order for all would cost short calls up to half of their speed: 16 samples of 64 taps
+ * take 42 ns, in the order of long calls 81.) */
 typedef struct QvxsFIRState_32f QvxsFIRState_32f;
 typedef struct QvxsFIRState_32fc QvxsFIRState_32fc;
 typedef struct QvxsFIRState32f_16s QvxsFIRState32f_16s;
@@ -263,7 +269,7 @@ QVXS_API(QvxStatus, qvxsFIR_32s_ISfs, (Qvx32s* pSrcDst, int numIters, QvxsFIRSta
 QVXS_API(QvxStatus, qvxsFIROne_32s_Sfs, (Qvx32s src, Qvx32s* pDstVal, QvxsFIRState_32s* pState, int scaleFactor));
 
 /** The same without a record: the caller keeps the taps and 2 * tapsLen samples at pDlyLine, zeros to begin with, and an index,
- *  0 to begin with. Every new sample stands twice, at the index and tapsLen behind it, and then the index moves on; so the last
+ *  0 to begin with. Every new sample stands twice, at the index and tapsLen after it, and then the index moves on; so the last
  *  tapsLen samples are those from the index on, oldest first.
  *  pDlyLine, *pDlyLineIndex: read and updated. The forms of one type with 64 taps or more (32fc, 64f: 32; 64fc: 16), and those
  *  in place, leave the index as it is and renew only the tapsLen samples from it on; those with fewer taps leave the newest at the

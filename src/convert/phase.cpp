@@ -1,5 +1,5 @@
 // Angles of complex vectors, alone and with the magnitude.
-#include "convert/phase.h"
+#include "math/phase.h"
 
 #include "frame/complex.h"
 #include "frame/power.h"

@@ -2,7 +2,7 @@
 #include "frame/complex.h"
 #include "frame/power.h"
 #include "frame/rounding.h"
-#include "vector/sin_cos.h"
+#include "math/sin_cos.h"
 
 using namespace qvx;
 

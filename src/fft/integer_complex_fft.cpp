@@ -38,11 +38,11 @@ template <bool kInverse> QvxStatus inIntegers(const Qvx16sc* src, Qvx16sc* dst, 
 template <bool kInverse, auto kTransform, class T, class Record>
 QvxStatus throughFloats(const T* src, T* dst, const Record& spec, int scaleFactor, Qvx8u* pBuffer) {
   using Float = typename Record::Floats::T;
-  using From = NumberPairs<Float, FromIntegers<Float, T>, kInverse>;
-  using To = NumberPairs<Float, ToIntegers<Float, T>, kInverse>;
+  using From = InterleavedIntegers<Float, FromIntegers<Float, T>, kInverse>;
+  using To = InterleavedIntegers<Float, ToIntegers<Float, T>, kInverse>;
   if (spec.order <= kShortOrder<From>) {
-    return inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](auto fit, Float factor) {
-      return smallTransform(order, From{{src}}, To{{dst, factor}}, fit);
+    return inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](auto scale, Float factor) {
+      return smallTransform(order, From{{src}}, To{{dst, factor}}, scale);
     });
   }
   const int count = 2 << spec.order;
@@ -67,7 +67,7 @@ QvxStatus interleaved(const Qvx32sc* src, Qvx32sc* dst, const QvxsFFTSpec_C_32sc
   return throughFloats<kInverse, kTransform>(&src->re, &dst->re, *spec, scaleFactor, pBuffer);
 }
 
-// ---- apart
+// ---- split
 
 template <class T> struct Parts {
   T* re;
@@ -92,13 +92,13 @@ QvxStatus inIntegers(Parts<const Qvx16s> src, Parts<Qvx16s> dst, const QvxsFFTSp
 template <bool kInverse, auto kTransform, class T, class Record>
 QvxStatus throughFloats(Parts<const T> src, Parts<T> dst, const Record& spec, int scaleFactor, Qvx8u* pBuffer) {
   using Float = typename Record::Floats::T;
-  using From = NumbersApart<Float, FromIntegers<Float, T>>;
-  using To = NumbersApart<Float, ToIntegers<Float, T>>;
+  using From = SplitIntegers<Float, FromIntegers<Float, T>>;
+  using To = SplitIntegers<Float, ToIntegers<Float, T>>;
   if (spec.order <= kShortOrder<From>) {
-    return inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](auto fit, Float factor) {
+    return inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](auto scale, Float factor) {
       const From from = kInverse ? From{{src.im}, {src.re}} : From{{src.re}, {src.im}};
       const To to = kInverse ? To{{dst.im, factor}, {dst.re, factor}} : To{{dst.re, factor}, {dst.im, factor}};
-      return smallTransform(order, from, to, fit);
+      return smallTransform(order, from, to, scale);
     });
   }
   const int n = 1 << spec.order;
@@ -113,7 +113,7 @@ QvxStatus throughFloats(Parts<const T> src, Parts<T> dst, const Record& spec, in
 }
 
 template <bool kInverse>
-QvxStatus apart(Parts<const Qvx16s> src, Parts<Qvx16s> dst, const QvxsFFTSpec_C_16s* spec, int scaleFactor, Qvx8u* pBuffer) {
+QvxStatus split(Parts<const Qvx16s> src, Parts<Qvx16s> dst, const QvxsFFTSpec_C_16s* spec, int scaleFactor, Qvx8u* pBuffer) {
   const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
   if (isMissing(src) || isMissing(dst)) return qvxStatNullPtr;
@@ -122,7 +122,7 @@ QvxStatus apart(Parts<const Qvx16s> src, Parts<Qvx16s> dst, const QvxsFFTSpec_C_
   return throughFloats<kInverse, kTransform>(src, dst, *spec, scaleFactor, pBuffer);
 }
 template <bool kInverse>
-QvxStatus apart(Parts<const Qvx32s> src, Parts<Qvx32s> dst, const QvxsFFTSpec_C_32s* spec, int scaleFactor, Qvx8u* pBuffer) {
+QvxStatus split(Parts<const Qvx32s> src, Parts<Qvx32s> dst, const QvxsFFTSpec_C_32s* spec, int scaleFactor, Qvx8u* pBuffer) {
   const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
   if (isMissing(src) || isMissing(dst)) return qvxStatNullPtr;
@@ -162,12 +162,12 @@ QvxStatus qvxsFFTFwd_CToC_32sc_Sfs(const Qvx32sc* src, Qvx32sc* dst, const QvxsF
 QvxStatus qvxsFFTFwd_CToC_32sc_ISfs(Qvx32sc* d, const QvxsFFTSpec_C_32sc* spec, int sf, Qvx8u* pBuffer) { return interleaved<false>(d, d, spec, sf, pBuffer); }
 QvxStatus qvxsFFTInv_CToC_32sc_Sfs(const Qvx32sc* src, Qvx32sc* dst, const QvxsFFTSpec_C_32sc* spec, int sf, Qvx8u* pBuffer) { return interleaved<true>(src, dst, spec, sf, pBuffer); }
 QvxStatus qvxsFFTInv_CToC_32sc_ISfs(Qvx32sc* d, const QvxsFFTSpec_C_32sc* spec, int sf, Qvx8u* pBuffer) { return interleaved<true>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_CToC_16s_Sfs(const Qvx16s* srcRe, const Qvx16s* srcIm, Qvx16s* dstRe, Qvx16s* dstIm, const QvxsFFTSpec_C_16s* spec, int sf, Qvx8u* pBuffer) { return apart<false>({srcRe, srcIm}, {dstRe, dstIm}, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_CToC_16s_ISfs(Qvx16s* re, Qvx16s* im, const QvxsFFTSpec_C_16s* spec, int sf, Qvx8u* pBuffer) { return apart<false>({re, im}, {re, im}, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CToC_16s_Sfs(const Qvx16s* srcRe, const Qvx16s* srcIm, Qvx16s* dstRe, Qvx16s* dstIm, const QvxsFFTSpec_C_16s* spec, int sf, Qvx8u* pBuffer) { return apart<true>({srcRe, srcIm}, {dstRe, dstIm}, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CToC_16s_ISfs(Qvx16s* re, Qvx16s* im, const QvxsFFTSpec_C_16s* spec, int sf, Qvx8u* pBuffer) { return apart<true>({re, im}, {re, im}, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_CToC_32s_Sfs(const Qvx32s* srcRe, const Qvx32s* srcIm, Qvx32s* dstRe, Qvx32s* dstIm, const QvxsFFTSpec_C_32s* spec, int sf, Qvx8u* pBuffer) { return apart<false>({srcRe, srcIm}, {dstRe, dstIm}, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_CToC_32s_ISfs(Qvx32s* re, Qvx32s* im, const QvxsFFTSpec_C_32s* spec, int sf, Qvx8u* pBuffer) { return apart<false>({re, im}, {re, im}, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CToC_32s_Sfs(const Qvx32s* srcRe, const Qvx32s* srcIm, Qvx32s* dstRe, Qvx32s* dstIm, const QvxsFFTSpec_C_32s* spec, int sf, Qvx8u* pBuffer) { return apart<true>({srcRe, srcIm}, {dstRe, dstIm}, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CToC_32s_ISfs(Qvx32s* re, Qvx32s* im, const QvxsFFTSpec_C_32s* spec, int sf, Qvx8u* pBuffer) { return apart<true>({re, im}, {re, im}, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_CToC_16s_Sfs(const Qvx16s* srcRe, const Qvx16s* srcIm, Qvx16s* dstRe, Qvx16s* dstIm, const QvxsFFTSpec_C_16s* spec, int sf, Qvx8u* pBuffer) { return split<false>({srcRe, srcIm}, {dstRe, dstIm}, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_CToC_16s_ISfs(Qvx16s* re, Qvx16s* im, const QvxsFFTSpec_C_16s* spec, int sf, Qvx8u* pBuffer) { return split<false>({re, im}, {re, im}, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CToC_16s_Sfs(const Qvx16s* srcRe, const Qvx16s* srcIm, Qvx16s* dstRe, Qvx16s* dstIm, const QvxsFFTSpec_C_16s* spec, int sf, Qvx8u* pBuffer) { return split<true>({srcRe, srcIm}, {dstRe, dstIm}, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CToC_16s_ISfs(Qvx16s* re, Qvx16s* im, const QvxsFFTSpec_C_16s* spec, int sf, Qvx8u* pBuffer) { return split<true>({re, im}, {re, im}, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_CToC_32s_Sfs(const Qvx32s* srcRe, const Qvx32s* srcIm, Qvx32s* dstRe, Qvx32s* dstIm, const QvxsFFTSpec_C_32s* spec, int sf, Qvx8u* pBuffer) { return split<false>({srcRe, srcIm}, {dstRe, dstIm}, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_CToC_32s_ISfs(Qvx32s* re, Qvx32s* im, const QvxsFFTSpec_C_32s* spec, int sf, Qvx8u* pBuffer) { return split<false>({re, im}, {re, im}, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CToC_32s_Sfs(const Qvx32s* srcRe, const Qvx32s* srcIm, Qvx32s* dstRe, Qvx32s* dstIm, const QvxsFFTSpec_C_32s* spec, int sf, Qvx8u* pBuffer) { return split<true>({srcRe, srcIm}, {dstRe, dstIm}, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CToC_32s_ISfs(Qvx32s* re, Qvx32s* im, const QvxsFFTSpec_C_32s* spec, int sf, Qvx8u* pBuffer) { return split<true>({re, im}, {re, im}, spec, sf, pBuffer); }
 // clang-format on

@@ -3,7 +3,7 @@
 // whole for 20 cycles.
 #pragma once
 
-#include "fft/complex_transform.h"
+#include "fft/record.h"
 #include "frame/map.h"
 #include "frame/power.h"
 #include "frame/rounding.h"
@@ -28,18 +28,18 @@ template <class T, class Int> struct ToIntegers {
   }
 };
 
-// Points of them, in pairs and with their parts apart.
-template <class T, class Numbers, bool kSwapped_> struct NumberPairs {
+// Points of them, with their parts interleaved and in two vectors. Ints: one of the two above.
+template <class T, class Ints, bool kSwapped_> struct InterleavedIntegers {
   using Lane = T;
   static constexpr bool kSwapped = kSwapped_;
-  Numbers all;
+  Ints all;
 
-  Numbers numbers() const { return all; }
+  Ints raw() const { return all; }
 };
-template <class T, class Numbers> struct NumbersApart {
+template <class T, class Ints> struct SplitIntegers {
   using Lane = T;
-  Numbers re;
-  Numbers im;
+  Ints re;
+  Ints im;
 
   template <size_t L> static constexpr size_t element(size_t lane) { return lane; }
   template <size_t L> QVX_INLINE auto get(size_t at) const {
@@ -54,12 +54,13 @@ template <class T, class Numbers> struct NumbersApart {
   template <size_t L, class V> QVX_INLINE void putInOrder(Complex<V> z, size_t at) const { put<L>(z, at); }
 };
 
-// run(fit, factor), fit being what the flag says of this direction.
-template <bool kInverse, class T, class Run> QVX_INLINE QvxStatus inRegisters(const Spec<T>& spec, int scaleFactor, Run run) {
+// run(scale, factor), scale being what the flag says of this direction.
+template <bool kInverse, class Spec, class Run> QVX_INLINE QvxStatus inRegisters(const Spec& spec, int scaleFactor, Run run) {
+  using T = typename Spec::T;
   const RoundingScope scope(kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest);
   const T factor = powerOfTwo<T>(-int64_t{scaleFactor});
-  return withFit<kInverse, T>(
-      spec, [=](auto fit) __attribute__((always_inline)) { return run(fit, factor); });
+  return withScale<kInverse>(
+      spec, [=](auto scale) __attribute__((always_inline)) { return run(scale, factor); });
 }
 
 }  // namespace qvx::fft

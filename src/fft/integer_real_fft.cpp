@@ -1,7 +1,6 @@
 // Transforms of real integers.
 #include "fft/integer_points.h"
 #include "fft/integer_small.h"
-#include "fft/real_transform.h"
 
 using namespace qvx;
 using namespace qvx::fft;
@@ -13,11 +12,9 @@ constexpr int kLimit32 = limitOf(Orders<Qvx64f>::kReal, realSizes32);
 constexpr int kLimit16to32 = limitOf(Orders<Qvx32f>::kReal, realSizes16to32);
 static_assert(kLimit16 == 28 && kLimit32 == 27 && kLimit16to32 == 28);
 
-constexpr int spectrumLength(Layout layout, int order) {
-  return layout != Layout::kCcs ? 1 << order : order == 0 ? 2 : (1 << order) + 2;
-}
+constexpr int lengthOf(SpectrumLayout layout, int order) { return static_cast<int>(spectrumLength(layout, size_t{1} << order)); }
 
-template <Layout kLayout>
+template <SpectrumLayout kLayout>
 QvxStatus forwardInIntegers(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s& spec, int scaleFactor) {
   FixedPoint fixed(spec.order);
   fixed.read(src, 1 << spec.order);
@@ -27,17 +24,17 @@ QvxStatus forwardInIntegers(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_
     fromPerm<kLayout>(fixed.numbers(), size_t{1} << spec.order);
   }
   const int shift = fixed.scaled<false>(spec, scaleFactor);
-  return qvxsConvert_32s16s_Sfs(fixed.numbers(), dst, spectrumLength(kLayout, spec.order), shift);
+  return qvxsConvert_32s16s_Sfs(fixed.numbers(), dst, lengthOf(kLayout, spec.order), shift);
 }
 
-template <Layout kLayout>
+template <SpectrumLayout kLayout>
 QvxStatus inverseInIntegers(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s& spec, int scaleFactor) {
   const int n = 1 << spec.order;
   FixedPoint fixed(spec.order);
   fixed.read(src, 1);
   if (n > 1) {
-    fixed.read(src + (kLayout == Layout::kPerm ? 1 : kLayout == Layout::kPack ? n - 1 : n), 1, 1);
-    fixed.read(src + (kLayout == Layout::kPack ? 1 : 2), n - 2, 2);
+    fixed.read(src + placeOfMiddle(kLayout, static_cast<size_t>(n)), 1, 1);
+    fixed.read(src + placeOfPair(kLayout, static_cast<size_t>(n), 1), n - 2, 2);
     recombineInverse(fixed.points(), spec.order);
     integerTransform<true>(fixed.points(), spec.order - 1);
   }
@@ -45,16 +42,16 @@ QvxStatus inverseInIntegers(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_
   return qvxsConvert_32s16s_Sfs(fixed.numbers(), dst, n, shift);
 }
 
-template <bool kInverse, Layout kLayout, class Record, class In, class Out>
+template <bool kInverse, SpectrumLayout kLayout, class Record, class In, class Out>
 QvxStatus inRegisters(const In* src, Out* dst, const Record& spec, int scaleFactor) {
   using T = typename Record::Floats::T;
-  return fft::inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](auto fit, T factor) {
-    return shortReal<kInverse, kLayout, T>(order, FromIntegers<T, In>{src}, ToIntegers<T, Out>{dst, factor}, fit);
+  return fft::inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](auto scale, T factor) {
+    return shortReal<kInverse, kLayout, T>(order, FromIntegers<T, In>{src}, ToIntegers<T, Out>{dst, factor}, scale);
   });
 }
 
 // kFloats: the transform in place.
-template <Layout kLayout, auto kFloats, class Record, class In, class Out>
+template <SpectrumLayout kLayout, auto kFloats, class Record, class In, class Out>
 QvxStatus forward(const In* src, Out* dst, const Record* spec, int scaleFactor, Qvx8u* pBuffer) {
   const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
@@ -63,9 +60,9 @@ QvxStatus forward(const In* src, Out* dst, const Record* spec, int scaleFactor, 
     if (isNull(spec->floats)) return forwardInIntegers<kLayout>(src, dst, *spec, scaleFactor);
   }
   if (spec->order <= kShortReal) return inRegisters<false, kLayout>(src, dst, *spec, scaleFactor);
-  return throughFloats<kFloats>(*spec, src, 1 << spec->order, dst, spectrumLength(kLayout, spec->order), scaleFactor, pBuffer);
+  return throughFloats<kFloats>(*spec, src, 1 << spec->order, dst, lengthOf(kLayout, spec->order), scaleFactor, pBuffer);
 }
-template <Layout kLayout, auto kFloats, class Record, class In, class Out>
+template <SpectrumLayout kLayout, auto kFloats, class Record, class In, class Out>
 QvxStatus inverse(const In* src, Out* dst, const Record* spec, int scaleFactor, Qvx8u* pBuffer) {
   const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
@@ -74,7 +71,7 @@ QvxStatus inverse(const In* src, Out* dst, const Record* spec, int scaleFactor, 
     if (isNull(spec->floats)) return inverseInIntegers<kLayout>(src, dst, *spec, scaleFactor);
   }
   if (spec->order <= kShortReal) return inRegisters<true, kLayout>(src, dst, *spec, scaleFactor);
-  return throughFloats<kFloats>(*spec, src, spectrumLength(kLayout, spec->order), dst, 1 << spec->order, scaleFactor, pBuffer);
+  return throughFloats<kFloats>(*spec, src, lengthOf(kLayout, spec->order), dst, 1 << spec->order, scaleFactor, pBuffer);
 }
 
 }  // namespace
@@ -96,30 +93,30 @@ QvxStatus qvxsFFTInitAlloc_R_16s32s(QvxsFFTSpec_R_16s32s** ppSpec, int order, in
 QvxStatus qvxsFFTFree_R_16s32s(QvxsFFTSpec_R_16s32s* spec) { return release(spec); }
 QvxStatus qvxsFFTGetBufSize_R_16s32s(const QvxsFFTSpec_R_16s32s* spec, int* pSize) { return bufferSize(spec, pSize); }
 
-QvxStatus qvxsFFTFwd_RToPerm_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPerm, qvxsFFTFwd_RToPerm_32f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPerm_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPerm, qvxsFFTFwd_RToPerm_32f_I>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPerm_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPerm, qvxsFFTFwd_RToPerm_64f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPerm_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPerm, qvxsFFTFwd_RToPerm_64f_I>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPack_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPack, qvxsFFTFwd_RToPack_32f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPack_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPack, qvxsFFTFwd_RToPack_32f_I>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPack_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPack, qvxsFFTFwd_RToPack_64f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPack_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kPack, qvxsFFTFwd_RToPack_64f_I>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToCCS_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_32f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToCCS_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_32f_I>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToCCS_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_64f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToCCS_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_64f_I>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PermToR_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPerm, qvxsFFTInv_PermToR_32f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PermToR_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPerm, qvxsFFTInv_PermToR_32f_I>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PermToR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPerm, qvxsFFTInv_PermToR_64f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PermToR_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPerm, qvxsFFTInv_PermToR_64f_I>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PackToR_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPack, qvxsFFTInv_PackToR_32f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PackToR_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPack, qvxsFFTInv_PackToR_32f_I>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PackToR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPack, qvxsFFTInv_PackToR_64f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_PackToR_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kPack, qvxsFFTInv_PackToR_64f_I>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CCSToR_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_32f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CCSToR_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_32f_I>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CCSToR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_64f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CCSToR_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_64f_I>(d, d, spec, sf, pBuffer); }
-QvxStatus qvxsFFTFwd_RToCCS_16s32s_Sfs(const Qvx16s* src, Qvx32s* dst, const QvxsFFTSpec_R_16s32s* spec, int sf, Qvx8u* pBuffer) { return forward<Layout::kCcs, qvxsFFTFwd_RToCCS_32f_I>(src, dst, spec, sf, pBuffer); }
-QvxStatus qvxsFFTInv_CCSToR_32s16s_Sfs(const Qvx32s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s32s* spec, int sf, Qvx8u* pBuffer) { return inverse<Layout::kCcs, qvxsFFTInv_CCSToR_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPerm_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kPerm, qvxsFFTFwd_RToPerm_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPerm_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kPerm, qvxsFFTFwd_RToPerm_32f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPerm_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kPerm, qvxsFFTFwd_RToPerm_64f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPerm_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kPerm, qvxsFFTFwd_RToPerm_64f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPack_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kPack, qvxsFFTFwd_RToPack_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPack_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kPack, qvxsFFTFwd_RToPack_32f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPack_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kPack, qvxsFFTFwd_RToPack_64f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPack_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kPack, qvxsFFTFwd_RToPack_64f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToCCS_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kCcs, qvxsFFTFwd_RToCCS_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToCCS_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kCcs, qvxsFFTFwd_RToCCS_32f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToCCS_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kCcs, qvxsFFTFwd_RToCCS_64f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToCCS_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kCcs, qvxsFFTFwd_RToCCS_64f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PermToR_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kPerm, qvxsFFTInv_PermToR_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PermToR_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kPerm, qvxsFFTInv_PermToR_32f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PermToR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kPerm, qvxsFFTInv_PermToR_64f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PermToR_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kPerm, qvxsFFTInv_PermToR_64f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PackToR_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kPack, qvxsFFTInv_PackToR_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PackToR_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kPack, qvxsFFTInv_PackToR_32f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PackToR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kPack, qvxsFFTInv_PackToR_64f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_PackToR_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kPack, qvxsFFTInv_PackToR_64f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CCSToR_16s_Sfs(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kCcs, qvxsFFTInv_CCSToR_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CCSToR_16s_ISfs(Qvx16s* d, const QvxsFFTSpec_R_16s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kCcs, qvxsFFTInv_CCSToR_32f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CCSToR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kCcs, qvxsFFTInv_CCSToR_64f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CCSToR_32s_ISfs(Qvx32s* d, const QvxsFFTSpec_R_32s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kCcs, qvxsFFTInv_CCSToR_64f_I>(d, d, spec, sf, pBuffer); }
+QvxStatus qvxsFFTFwd_RToCCS_16s32s_Sfs(const Qvx16s* src, Qvx32s* dst, const QvxsFFTSpec_R_16s32s* spec, int sf, Qvx8u* pBuffer) { return forward<SpectrumLayout::kCcs, qvxsFFTFwd_RToCCS_32f_I>(src, dst, spec, sf, pBuffer); }
+QvxStatus qvxsFFTInv_CCSToR_32s16s_Sfs(const Qvx32s* src, Qvx16s* dst, const QvxsFFTSpec_R_16s32s* spec, int sf, Qvx8u* pBuffer) { return inverse<SpectrumLayout::kCcs, qvxsFFTInv_CCSToR_32f_I>(src, dst, spec, sf, pBuffer); }
 // clang-format on

@@ -6,12 +6,10 @@
 
 namespace qvx::fft {
 
-template <class Floats_> struct IntegerSpec {
+template <class Floats_> struct IntegerSpec : RecordHead {
   using Floats = Floats_;
-  uint32_t magic;
   int32_t order;
   int32_t workSize;
-  bool ownsMemory;
   bool halfShift;  // by half a place more than fwdShift and invShift
   uint8_t fwdShift;
   uint8_t invShift;
@@ -71,24 +69,18 @@ QvxStatus initInteger(Record** ppSpec, int order, int flag, int limit, bool inIn
   if (isNull(ppSpec)) return qvxStatNullPtr;
   if (order < 0 || order > kHighestOrder) return qvxStatBadFFTOrder;
   if (isNull(pMemory)) return qvxStatNullPtr;
-  Carver<32> block(pMemory);
-  auto* spec = block.take<Record>(1);
-  *spec = {};
-  if (!isFlag(flag)) return qvxStatBadFFTFlag;
-  if (order > limit) return qvxStatBadFFTOrder;
-  spec->magic = Record::kId;
-  spec->order = order;
-  spec->workSize = static_cast<int32_t>(workSize());
-  const bool isRoot = flag == QVX_FFT_SCALE_BOTH_SQRT;
-  spec->fwdShift = static_cast<uint8_t>(isRoot ? order / 2 : flag == QVX_FFT_SCALE_FWD ? order : 0);
-  spec->invShift = static_cast<uint8_t>(isRoot ? order / 2 : flag == QVX_FFT_SCALE_INV ? order : 0);
-  spec->halfShift = isRoot && order % 2 != 0;
-  if (!inIntegers) {
-    const QvxStatus status = initFloats(&spec->floats, order, flag, 0, block.rest(), pInit);
-    if (status != qvxStatOk) return status;
-  }
-  *ppSpec = spec;
-  return qvxStatOk;
+  return initRecord(ppSpec, pMemory, [&](Record& spec, const Carver& floats) {
+    if (!isFlag(flag)) return qvxStatBadFFTFlag;
+    if (order > limit) return qvxStatBadFFTOrder;
+    spec.magic = Record::kId;
+    spec.order = order;
+    spec.workSize = static_cast<int32_t>(workSize());
+    const bool isRoot = flag == QVX_FFT_SCALE_BOTH_SQRT;
+    spec.fwdShift = static_cast<uint8_t>(isRoot ? order / 2 : flag == QVX_FFT_SCALE_FWD ? order : 0);
+    spec.invShift = static_cast<uint8_t>(isRoot ? order / 2 : flag == QVX_FFT_SCALE_INV ? order : 0);
+    spec.halfShift = isRoot && order % 2 != 0;
+    return inIntegers ? qvxStatOk : initFloats(&spec.floats, order, flag, 0, floats.rest(), pInit);
+  });
 }
 
 // ---- Between integers and floats, by what both are
@@ -110,10 +102,10 @@ template <class To, class Spec> To* argumentOf(QvxStatus (*)(To*, const Spec*, Q
 
 // run(y, work): y is an array of `count` floats, work what their transform takes.
 template <class Record, class Run> QvxStatus withFloats(const Record& spec, int count, Qvx8u* pBuffer, Run run) {
-  const Scratch<32> scratch(pBuffer, spec.workSize);
+  const Scratch scratch(pBuffer, spec.workSize);
   if (scratch.isMissing(spec.workSize)) return qvxStatNoMem;
-  Carver<32> carver = scratch.carver();
-  auto* y = carver.template take<decltype(Record::Floats::normFactor)>(count);
+  Carver carver = scratch.carver();
+  auto* y = carver.take<typename Record::Floats::T>(count);
   return run(y, carver.rest());
 }
 

@@ -1,15 +1,11 @@
 // Products of packed spectra: a run of complex pairs and one or two real values.
+#include "transform/layout.h"
 #include "vector/product.h"
 
 using namespace qvx;
+using Layout = transform::SpectrumLayout;
 
 namespace {
-
-enum class Layout { kPack, kPerm };
-
-// Where the second real value of an even length stands, and the first pair.
-constexpr size_t nyquist(Layout layout, size_t n) { return layout == Layout::kPack ? n - 1 : 1; }
-constexpr size_t firstPair(Layout layout, size_t n) { return layout == Layout::kPack || n % 2 != 0 ? 1 : 2; }
 
 // conj(a) * b
 struct ConjugateProduct {
@@ -27,8 +23,8 @@ QvxStatus product(Layout layout, const T* a, const T* b, T* dst, int len, Fit fi
   if (status != qvxStatOk) return status;
   const size_t n = elements(len);
   const bool hasNyquist = n % 2 == 0;
-  const size_t at = nyquist(layout, n);
-  const size_t pairs = firstPair(layout, n);
+  const size_t at = placeOfMiddle(layout, n);
+  const size_t pairs = placeOfPair(layout, n, 1);
   const T middle = hasNyquist ? real(a[at], b[at]) : T{0};
   dst[0] = real(a[0], b[0]);
   if (hasNyquist) dst[at] = middle;

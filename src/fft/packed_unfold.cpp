@@ -1,11 +1,11 @@
 // Packed spectra unfolded: the half that they hold, and its conjugates backwards behind it.
 #include "frame/flip.h"
+#include "transform/layout.h"
 
 using namespace qvx;
+using Layout = transform::SpectrumLayout;
 
 namespace {
-
-enum class Layout { kPack, kPerm, kCcs };
 
 // Words of a half spectrum, and of the other half from its end: one pass over the source, two stores. kInPlace: the first half is
 // there already.
@@ -47,8 +47,8 @@ template <Layout kLayout, class C> QvxStatus unfold(const Part<C>* src, C* dst, 
   constexpr bool kIsCcs = kLayout == Layout::kCcs;
   const C first = {src[0], kIsCcs ? src[1] : T{0}};
   C middle = {};
-  if (isEven) middle = {src[kIsCcs ? n : kLayout == Layout::kPack ? n - 1 : 1], kIsCcs ? src[n + 1] : T{0}};
-  const T* pairs = src + (kIsCcs || (kLayout == Layout::kPerm && isEven) ? 2 : 1);
+  if (isEven) middle = {src[placeOfMiddle(kLayout, n)], kIsCcs ? src[n + 1] : T{0}};
+  const T* pairs = src + placeOfPair(kLayout, n, 1);
   if (n >= 3) {
     if (src != parts(dst)) {
       unfoldPairs<C, false>(pairs, dst, n);

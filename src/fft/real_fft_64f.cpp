@@ -1,5 +1,5 @@
 // Transforms of real sequences in double precision.
-#include "fft/real_transform.h"
+#include "fft/record.h"
 
 using namespace qvx;
 using namespace qvx::fft;
@@ -15,21 +15,21 @@ constexpr int kLimit = Orders<T>::kReal;
 
 // clang-format off
 QvxStatus qvxsFFTGetSize_R_64f(int order, int flag, int, int* pSpecSize, int* pInitSize, int* pWorkSize) { return getSize(order, flag, kLimit, pSpecSize, pInitSize, pWorkSize, realSizes<T>); }
-QvxStatus qvxsFFTInit_R_64f(Specs** ppSpec, int order, int flag, int hint, Qvx8u* pSpec, Qvx8u* pInit) { return initReal(ppSpec, order, flag, hint, pSpec, pInit); }
+QvxStatus qvxsFFTInit_R_64f(Specs** ppSpec, int order, int flag, int, Qvx8u* pSpec, Qvx8u* pInit) { return initReal(ppSpec, order, flag, pSpec, pInit); }
 QvxStatus qvxsFFTInitAlloc_R_64f(Specs** ppSpec, int order, int flag, int hint) { return initAlloc(ppSpec, order, flag, hint, qvxsFFTGetSize_R_64f, qvxsFFTInit_R_64f); }
 QvxStatus qvxsFFTFree_R_64f(Specs* spec) { return release(spec); }
 QvxStatus qvxsFFTGetBufSize_R_64f(const Specs* spec, int* pSize) { return bufferSize(spec, pSize); }
 
-QvxStatus qvxsFFTFwd_RToPerm_64f(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) { return spectrumOf<Layout::kPerm>(src, dst, spec, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPerm_64f_I(T* d, const Specs* spec, Qvx8u* pBuffer) { return spectrumOf<Layout::kPerm>(d, d, spec, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPack_64f(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) { return spectrumOf<Layout::kPack>(src, dst, spec, pBuffer); }
-QvxStatus qvxsFFTFwd_RToPack_64f_I(T* d, const Specs* spec, Qvx8u* pBuffer) { return spectrumOf<Layout::kPack>(d, d, spec, pBuffer); }
-QvxStatus qvxsFFTFwd_RToCCS_64f(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) { return spectrumOf<Layout::kCcs>(src, dst, spec, pBuffer); }
-QvxStatus qvxsFFTFwd_RToCCS_64f_I(T* d, const Specs* spec, Qvx8u* pBuffer) { return spectrumOf<Layout::kCcs>(d, d, spec, pBuffer); }
-QvxStatus qvxsFFTInv_PermToR_64f(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) { return sequenceOf<Layout::kPerm>(src, dst, spec, pBuffer); }
-QvxStatus qvxsFFTInv_PermToR_64f_I(T* d, const Specs* spec, Qvx8u* pBuffer) { return sequenceOf<Layout::kPerm>(d, d, spec, pBuffer); }
-QvxStatus qvxsFFTInv_PackToR_64f(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) { return sequenceOf<Layout::kPack>(src, dst, spec, pBuffer); }
-QvxStatus qvxsFFTInv_PackToR_64f_I(T* d, const Specs* spec, Qvx8u* pBuffer) { return sequenceOf<Layout::kPack>(d, d, spec, pBuffer); }
-QvxStatus qvxsFFTInv_CCSToR_64f(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) { return sequenceOf<Layout::kCcs>(src, dst, spec, pBuffer); }
-QvxStatus qvxsFFTInv_CCSToR_64f_I(T* d, const Specs* spec, Qvx8u* pBuffer) { return sequenceOf<Layout::kCcs>(d, d, spec, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPerm_64f(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) { return spectrumOf<SpectrumLayout::kPerm>(src, dst, spec, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPerm_64f_I(T* d, const Specs* spec, Qvx8u* pBuffer) { return spectrumOf<SpectrumLayout::kPerm>(d, d, spec, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPack_64f(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) { return spectrumOf<SpectrumLayout::kPack>(src, dst, spec, pBuffer); }
+QvxStatus qvxsFFTFwd_RToPack_64f_I(T* d, const Specs* spec, Qvx8u* pBuffer) { return spectrumOf<SpectrumLayout::kPack>(d, d, spec, pBuffer); }
+QvxStatus qvxsFFTFwd_RToCCS_64f(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) { return spectrumOf<SpectrumLayout::kCcs>(src, dst, spec, pBuffer); }
+QvxStatus qvxsFFTFwd_RToCCS_64f_I(T* d, const Specs* spec, Qvx8u* pBuffer) { return spectrumOf<SpectrumLayout::kCcs>(d, d, spec, pBuffer); }
+QvxStatus qvxsFFTInv_PermToR_64f(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) { return sequenceOf<SpectrumLayout::kPerm>(src, dst, spec, pBuffer); }
+QvxStatus qvxsFFTInv_PermToR_64f_I(T* d, const Specs* spec, Qvx8u* pBuffer) { return sequenceOf<SpectrumLayout::kPerm>(d, d, spec, pBuffer); }
+QvxStatus qvxsFFTInv_PackToR_64f(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) { return sequenceOf<SpectrumLayout::kPack>(src, dst, spec, pBuffer); }
+QvxStatus qvxsFFTInv_PackToR_64f_I(T* d, const Specs* spec, Qvx8u* pBuffer) { return sequenceOf<SpectrumLayout::kPack>(d, d, spec, pBuffer); }
+QvxStatus qvxsFFTInv_CCSToR_64f(const T* src, T* dst, const Specs* spec, Qvx8u* pBuffer) { return sequenceOf<SpectrumLayout::kCcs>(src, dst, spec, pBuffer); }
+QvxStatus qvxsFFTInv_CCSToR_64f_I(T* d, const Specs* spec, Qvx8u* pBuffer) { return sequenceOf<SpectrumLayout::kCcs>(d, d, spec, pBuffer); }
 // clang-format on

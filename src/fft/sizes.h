@@ -1,6 +1,7 @@
-// The bytes that callers are told to bring. They are part of the interface; the tables of this library fit into them.
+// The bytes that callers are told to bring: fixed values of the interface, whatever this library's tables take of them.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 #include "frame/record.h"
@@ -24,7 +25,8 @@ template <> struct Orders<float> {
   static constexpr int kThreaded = 17;
   static constexpr int kComplex = 28;
   static constexpr int kReal = 29;
-  static constexpr int kFineReal = 19;  // from here on, the roots of a real transform are products of two
+  static constexpr int kFineReal =
+      19;  // from here on, the told size has room for no more than two short tables of a real transform
   static constexpr int64_t kFine = 1024;
   static constexpr int columnBits(int order) { return order < 20 ? 4 : 8; }
   static constexpr int tileBits(int order) { return order < 20 ? 10 : 14; }

@@ -2,13 +2,12 @@
 #pragma once
 
 #include "fir/contents.h"
-#include "fir/multi_rate.h"
 
 namespace qvx::fir {
 
 template <class S, class... T> QvxStatus checkAccess(const S* state, const T*... vectors) {
   if ((isNull(vectors) || ...)) return qvxStatNullPtr;
-  return checkRecord(state, S::kSingleRate, S::kMultiRate);
+  return checkRecord(state, S::kId);
 }
 
 template <class S, class H> QvxStatus getTaps(const S* state, H* taps) {
@@ -34,14 +33,12 @@ template <class S, class H> QvxStatus getFloatTaps(const S* state, H* taps) {
 template <class S, class H, class... Factor> QvxStatus replaceTaps(const H* taps, S* state, Factor... tapsFactor) {
   const QvxStatus status = checkAccess(state, taps);
   if (status != qvxStatOk) return status;
-  if (isMultiRate(*state)) return setTapsMultiRate(*state);
   return setTaps(*state, taps, tapsFactor...);
 }
 
 template <class S, class T> QvxStatus getDelayLine(const S* state, T* newestFirst) {
   const QvxStatus status = checkAccess(state, newestFirst);
   if (status != qvxStatOk) return status;
-  if (isMultiRate(*state)) return delayLineMultiRate(*state);
   copyReversed(state->delay.window + state->delay.index, static_cast<size_t>(state->tapsLen), newestFirst);
   return qvxStatOk;
 }
@@ -49,7 +46,6 @@ template <class S, class T> QvxStatus getDelayLine(const S* state, T* newestFirs
 template <class S, class T> QvxStatus setDelayLine(S* state, const T* newestFirst) {
   const QvxStatus status = checkAccess(state);
   if (status != qvxStatOk) return status;
-  if (isMultiRate(*state)) return delayLineMultiRate(*state);
   setDelay(*state, newestFirst);
   return qvxStatOk;
 }

@@ -9,10 +9,7 @@ namespace qvx::fir {
 template <class C, class H> QvxStatus setTaps(FloatRecord<C>& record, const H* taps) {
   const auto n = static_cast<size_t>(record.tapsLen);
   copyReversed(taps, n, record.taps);
-  if (isNull(record.spec)) return qvxStatOk;
-  std::reverse_copy(record.taps, record.taps + n, record.spectrum);
-  std::fill(record.spectrum + n, record.spectrum + record.fftLen, C{});
-  return Transform<C>::kForward(record.spectrum, record.spectrum, record.spec, record.work);
+  return isNull(record.spectral.spec) ? qvxStatOk : record.spectral.setTaps(record.taps, n);
 }
 
 // ---- integer filters

@@ -12,16 +12,16 @@ namespace {
 
 template <class S, class Run>
 QvxStatus withRecord(const Stateless<typename S::Kernel, typename S::Sample>& caller, size_t left, Run run) {
-  const Plan plan = planOf<S>(caller.tapsLen);
-  const Block block(plan.bytes);
-  if (!block) return qvxStatNoMem;
-  const bool mayTransform = isWorthTransform<S>(caller.tapsLen, left);
-  S& state = *build<S>(block.get(), mayTransform ? plan.transform : TransformSizes{}, caller.taps, caller.tapsLen, nullptr);
-  auto* const line = caller.delay + *caller.index;
-  std::copy_n(line, caller.tapsLen, state.delay.window);
-  const QvxStatus status = run(state);
-  std::copy_n(state.delay.window, caller.tapsLen, line);
-  return status;
+  const Footprint footprint = footprintOf<S>(caller.tapsLen);
+  const auto transform = isWorthTransform<S>(caller.tapsLen, left) ? footprint.transform : fft::TransformSizes{};
+  const auto init = [&](S** state, Qvx8u* block) { return build(state, block, transform, caller.taps, caller.tapsLen, nullptr); };
+  return withTemporaryRecord<S>(footprint.bytes, init, [&](S& state) {
+    auto* const line = caller.delay + *caller.index;
+    std::copy_n(line, caller.tapsLen, state.delay.window);
+    const QvxStatus status = run(state);
+    std::copy_n(state.delay.window, caller.tapsLen, line);
+    return status;
+  });
 }
 
 template <int kLimit, class T> void filterShort(const Stateless<T, T>& caller, const T* src, T* dst, size_t n) {
@@ -39,9 +39,9 @@ template <int kLimit, class T> void filterShort(const Stateless<T, T>& caller, c
     std::copy_n(line.window + (line.index + 1) % caller.tapsLen, old, x);
     std::copy_n(src, head, x + old);
     if (head < V) std::fill_n(x + old + head, V - head, T{});
-    sums(x, p, taps, head, dst);
+    convolve(x, p, taps, head, dst, callOf(n));
   }
-  if (head < n) sums(src, p, taps, n - head, dst + head);
+  if (head < n) convolve(src, p, taps, n - head, dst + head, callOf(n));
   for (size_t i = 0; i < std::min(n, old); ++i) line.push(src[i], caller.tapsLen);
   if (n > old) {
     std::copy_n(src + n - old, old, line.window);
@@ -76,10 +76,10 @@ template <class S, class T> QvxStatus inPlace(T* srcDst, int numIters, const T* 
   const QvxStatus status = checkBlock(caller, srcDst, srcDst, numIters);
   if (status != qvxStatOk) return status;
   const size_t n = elements(numIters);
-  return withRecord<S>(caller, n, [=](S& state) { return filterInPlace(state, srcDst, n, 0); });
+  return withRecord<S>(caller, n, [=](S& state) { return filterBlock(state, srcDst, srcDst, n, 0); });
 }
 
-template <class T> QvxStatus single(const T* x, T* y, const T* taps, int tapsLen, T* delay, int* index) {
+template <class T> QvxStatus oneSample(const T* x, T* y, const T* taps, int tapsLen, T* delay, int* index) {
   const Stateless<T, T> caller = {taps, tapsLen, delay, index};
   return caller.each(x, y, 1, [=](const T* window, const T* p) { return dot(window, p, tapsLen); });
 }
@@ -126,10 +126,10 @@ QvxStatus converting(const T* src, T* dst, int numIters, const H* taps, int taps
 // clang-format off
 QvxStatus qvxsFIR_Direct_32f(const Qvx32f* src, Qvx32f* dst, int n, const Qvx32f* h, int len, Qvx32f* d, int* i) { return block<QvxsFIRState_32f, 64>(src, dst, n, h, len, d, i); }
 QvxStatus qvxsFIR_Direct_32f_I(Qvx32f* v, int n, const Qvx32f* h, int len, Qvx32f* d, int* i) { return inPlace<QvxsFIRState_32f>(v, n, h, len, d, i); }
-QvxStatus qvxsFIROne_Direct_32f(Qvx32f x, Qvx32f* dst, const Qvx32f* h, int len, Qvx32f* d, int* i) { return single(&x, dst, h, len, d, i); }
+QvxStatus qvxsFIROne_Direct_32f(Qvx32f x, Qvx32f* dst, const Qvx32f* h, int len, Qvx32f* d, int* i) { return oneSample(&x, dst, h, len, d, i); }
 QvxStatus qvxsFIR_Direct_32fc(const Qvx32fc* src, Qvx32fc* dst, int n, const Qvx32fc* h, int len, Qvx32fc* d, int* i) { return block<QvxsFIRState_32fc, 32>(src, dst, n, h, len, d, i); }
 QvxStatus qvxsFIR_Direct_32fc_I(Qvx32fc* v, int n, const Qvx32fc* h, int len, Qvx32fc* d, int* i) { return inPlace<QvxsFIRState_32fc>(v, n, h, len, d, i); }
-QvxStatus qvxsFIROne_Direct_32fc(Qvx32fc x, Qvx32fc* dst, const Qvx32fc* h, int len, Qvx32fc* d, int* i) { return single(&x, dst, h, len, d, i); }
+QvxStatus qvxsFIROne_Direct_32fc(Qvx32fc x, Qvx32fc* dst, const Qvx32fc* h, int len, Qvx32fc* d, int* i) { return oneSample(&x, dst, h, len, d, i); }
 QvxStatus qvxsFIR32f_Direct_16s_Sfs(const Qvx16s* src, Qvx16s* dst, int n, const Qvx32f* h, int len, Qvx16s* d, int* i, int sf) { return converting(src, dst, n, h, len, d, i, sf); }
 QvxStatus qvxsFIR32f_Direct_16s_ISfs(Qvx16s* v, int n, const Qvx32f* h, int len, Qvx16s* d, int* i, int sf) { return converting(v, v, n, h, len, d, i, sf); }
 QvxStatus qvxsFIROne32f_Direct_16s_Sfs(Qvx16s x, Qvx16s* dst, const Qvx32f* h, int len, Qvx16s* d, int* i, int sf) { return converting(&x, dst, 1, h, len, d, i, sf); }
@@ -138,10 +138,10 @@ QvxStatus qvxsFIR32fc_Direct_16sc_ISfs(Qvx16sc* v, int n, const Qvx32fc* h, int 
 QvxStatus qvxsFIROne32fc_Direct_16sc_Sfs(Qvx16sc x, Qvx16sc* dst, const Qvx32fc* h, int len, Qvx16sc* d, int* i, int sf) { return converting(&x, dst, 1, h, len, d, i, sf); }
 QvxStatus qvxsFIR_Direct_64f(const Qvx64f* src, Qvx64f* dst, int n, const Qvx64f* h, int len, Qvx64f* d, int* i) { return block<QvxsFIRState_64f, 32>(src, dst, n, h, len, d, i); }
 QvxStatus qvxsFIR_Direct_64f_I(Qvx64f* v, int n, const Qvx64f* h, int len, Qvx64f* d, int* i) { return inPlace<QvxsFIRState_64f>(v, n, h, len, d, i); }
-QvxStatus qvxsFIROne_Direct_64f(Qvx64f x, Qvx64f* dst, const Qvx64f* h, int len, Qvx64f* d, int* i) { return single(&x, dst, h, len, d, i); }
+QvxStatus qvxsFIROne_Direct_64f(Qvx64f x, Qvx64f* dst, const Qvx64f* h, int len, Qvx64f* d, int* i) { return oneSample(&x, dst, h, len, d, i); }
 QvxStatus qvxsFIR_Direct_64fc(const Qvx64fc* src, Qvx64fc* dst, int n, const Qvx64fc* h, int len, Qvx64fc* d, int* i) { return block<QvxsFIRState_64fc, 16>(src, dst, n, h, len, d, i); }
 QvxStatus qvxsFIR_Direct_64fc_I(Qvx64fc* v, int n, const Qvx64fc* h, int len, Qvx64fc* d, int* i) { return inPlace<QvxsFIRState_64fc>(v, n, h, len, d, i); }
-QvxStatus qvxsFIROne_Direct_64fc(Qvx64fc x, Qvx64fc* dst, const Qvx64fc* h, int len, Qvx64fc* d, int* i) { return single(&x, dst, h, len, d, i); }
+QvxStatus qvxsFIROne_Direct_64fc(Qvx64fc x, Qvx64fc* dst, const Qvx64fc* h, int len, Qvx64fc* d, int* i) { return oneSample(&x, dst, h, len, d, i); }
 QvxStatus qvxsFIR64f_Direct_32f(const Qvx32f* src, Qvx32f* dst, int n, const Qvx64f* h, int len, Qvx32f* d, int* i) { return converting(src, dst, n, h, len, d, i); }
 QvxStatus qvxsFIR64f_Direct_32f_I(Qvx32f* v, int n, const Qvx64f* h, int len, Qvx32f* d, int* i) { return converting(v, v, n, h, len, d, i); }
 QvxStatus qvxsFIROne64f_Direct_32f(Qvx32f x, Qvx32f* dst, const Qvx64f* h, int len, Qvx32f* d, int* i) { return converting(&x, dst, 1, h, len, d, i); }
@@ -160,12 +160,12 @@ QvxStatus qvxsFIROne64f_Direct_16s_Sfs(Qvx16s x, Qvx16s* dst, const Qvx64f* h, i
 QvxStatus qvxsFIR64fc_Direct_16sc_Sfs(const Qvx16sc* src, Qvx16sc* dst, int n, const Qvx64fc* h, int len, Qvx16sc* d, int* i, int sf) { return converting(src, dst, n, h, len, d, i, sf); }
 QvxStatus qvxsFIR64fc_Direct_16sc_ISfs(Qvx16sc* v, int n, const Qvx64fc* h, int len, Qvx16sc* d, int* i, int sf) { return converting(v, v, n, h, len, d, i, sf); }
 QvxStatus qvxsFIROne64fc_Direct_16sc_Sfs(Qvx16sc x, Qvx16sc* dst, const Qvx64fc* h, int len, Qvx16sc* d, int* i, int sf) { return converting(&x, dst, 1, h, len, d, i, sf); }
-QvxStatus qvxsFIROne_Direct_32f_I(Qvx32f* v, const Qvx32f* h, int len, Qvx32f* d, int* i) { return single(v, v, h, len, d, i); }
-QvxStatus qvxsFIROne_Direct_32fc_I(Qvx32fc* v, const Qvx32fc* h, int len, Qvx32fc* d, int* i) { return single(v, v, h, len, d, i); }
+QvxStatus qvxsFIROne_Direct_32f_I(Qvx32f* v, const Qvx32f* h, int len, Qvx32f* d, int* i) { return oneSample(v, v, h, len, d, i); }
+QvxStatus qvxsFIROne_Direct_32fc_I(Qvx32fc* v, const Qvx32fc* h, int len, Qvx32fc* d, int* i) { return oneSample(v, v, h, len, d, i); }
 QvxStatus qvxsFIROne32f_Direct_16s_ISfs(Qvx16s* v, const Qvx32f* h, int len, Qvx16s* d, int* i, int sf) { return converting(v, v, 1, h, len, d, i, sf); }
 QvxStatus qvxsFIROne32fc_Direct_16sc_ISfs(Qvx16sc* v, const Qvx32fc* h, int len, Qvx16sc* d, int* i, int sf) { return converting(v, v, 1, h, len, d, i, sf); }
-QvxStatus qvxsFIROne_Direct_64f_I(Qvx64f* v, const Qvx64f* h, int len, Qvx64f* d, int* i) { return single(v, v, h, len, d, i); }
-QvxStatus qvxsFIROne_Direct_64fc_I(Qvx64fc* v, const Qvx64fc* h, int len, Qvx64fc* d, int* i) { return single(v, v, h, len, d, i); }
+QvxStatus qvxsFIROne_Direct_64f_I(Qvx64f* v, const Qvx64f* h, int len, Qvx64f* d, int* i) { return oneSample(v, v, h, len, d, i); }
+QvxStatus qvxsFIROne_Direct_64fc_I(Qvx64fc* v, const Qvx64fc* h, int len, Qvx64fc* d, int* i) { return oneSample(v, v, h, len, d, i); }
 QvxStatus qvxsFIROne64f_Direct_32f_I(Qvx32f* v, const Qvx64f* h, int len, Qvx32f* d, int* i) { return converting(v, v, 1, h, len, d, i); }
 QvxStatus qvxsFIROne64fc_Direct_32fc_I(Qvx32fc* v, const Qvx64fc* h, int len, Qvx32fc* d, int* i) { return converting(v, v, 1, h, len, d, i); }
 QvxStatus qvxsFIROne64f_Direct_32s_ISfs(Qvx32s* v, const Qvx64f* h, int len, Qvx32s* d, int* i, int sf) { return converting(v, v, 1, h, len, d, i, sf); }

@@ -57,21 +57,26 @@ QvxStatus block(const Qvx16s* src, Qvx16s* dst, int numIters, const Qvx16s* taps
                 int scaleFactor) {
   using S = QvxsFIRState32s_16s;
   const Stateless<Qvx16s, Qvx16s> caller = {taps, tapsLen, delay, index};
-  QvxStatus status = caller.check(numIters, src, dst);
-  if (status != qvxStatOk) return status;
-  const Plan plan = planOf<S>(tapsLen);
-  const Block memory(plan.bytes);
-  if (!memory) return qvxStatNoMem;
-  S& state = *layOut<S>(memory.get(), tapsLen, plan.transform);
-  setReduced(state, taps, kFraction, [](Qvx16s tap) { return Qvx32s{tap}; });
-  setDelay(state, delay + *index);
-  status = direct(state, src, dst, elements(numIters), scaleFactor);
-  copyReversed(state.delay.window, static_cast<size_t>(tapsLen), delay);
-  *index = 0;
-  return status;
+  const QvxStatus checked = caller.check(numIters, src, dst);
+  if (checked != qvxStatOk) return checked;
+  const Footprint footprint = footprintOf<S>(tapsLen);
+  const auto init = [&](S** ppState, Qvx8u* memory) {
+    return initRecord(ppState, memory, [&](S& state, Carver& carver) {
+      layOut(state, carver, tapsLen, footprint.transform);
+      setReduced(state, taps, kFraction, [](Qvx16s tap) { return Qvx32s{tap}; });
+      setDelay(state, delay + *index);
+      return qvxStatOk;
+    });
+  };
+  return withTemporaryRecord<S>(footprint.bytes, init, [&](S& state) {
+    const QvxStatus status = direct(state, src, dst, elements(numIters), scaleFactor);
+    copyReversed(state.delay.window, static_cast<size_t>(tapsLen), delay);
+    *index = 0;
+    return status;
+  });
 }
 
-QvxStatus single(const Qvx16s* x, Qvx16s* y, const Qvx16s* taps, int tapsLen, Qvx16s* delay, int* index, int scaleFactor) {
+QvxStatus oneSample(const Qvx16s* x, Qvx16s* y, const Qvx16s* taps, int tapsLen, Qvx16s* delay, int* index, int scaleFactor) {
   const int64_t places = placesOf(kFraction, scaleFactor);
   return Stateless<Qvx16s, Qvx16s>{taps, tapsLen, delay, index}.each(
       x, y, 1, [=](const Qvx16s* window, const Qvx16s* p) { return scaledDot(window, p, tapsLen, places); });
@@ -88,8 +93,8 @@ QvxStatus qvxsFIR32sc_Direct_16sc_ISfs(Qvx16sc* v, int n, const Qvx32sc* h, int 
 QvxStatus qvxsFIROne32sc_Direct_16sc_Sfs(Qvx16sc x, Qvx16sc* dst, const Qvx32sc* h, int len, int tf, Qvx16sc* d, int* i, int sf) { return wrapping(&x, dst, 1, h, len, tf, d, i, sf); }
 QvxStatus qvxsFIR_Direct_16s_Sfs(const Qvx16s* src, Qvx16s* dst, int n, const Qvx16s* h, int len, Qvx16s* d, int* i, int sf) { return block(src, dst, n, h, len, d, i, sf); }
 QvxStatus qvxsFIR_Direct_16s_ISfs(Qvx16s* v, int n, const Qvx16s* h, int len, Qvx16s* d, int* i, int sf) { return block(v, v, n, h, len, d, i, sf); }
-QvxStatus qvxsFIROne_Direct_16s_Sfs(Qvx16s x, Qvx16s* dst, const Qvx16s* h, int len, Qvx16s* d, int* i, int sf) { return single(&x, dst, h, len, d, i, sf); }
+QvxStatus qvxsFIROne_Direct_16s_Sfs(Qvx16s x, Qvx16s* dst, const Qvx16s* h, int len, Qvx16s* d, int* i, int sf) { return oneSample(&x, dst, h, len, d, i, sf); }
 QvxStatus qvxsFIROne32s_Direct_16s_ISfs(Qvx16s* v, const Qvx32s* h, int len, int tf, Qvx16s* d, int* i, int sf) { return wrapping(v, v, 1, h, len, tf, d, i, sf); }
 QvxStatus qvxsFIROne32sc_Direct_16sc_ISfs(Qvx16sc* v, const Qvx32sc* h, int len, int tf, Qvx16sc* d, int* i, int sf) { return wrapping(v, v, 1, h, len, tf, d, i, sf); }
-QvxStatus qvxsFIROne_Direct_16s_ISfs(Qvx16s* v, const Qvx16s* h, int len, Qvx16s* d, int* i, int sf) { return single(v, v, h, len, d, i, sf); }
+QvxStatus qvxsFIROne_Direct_16s_ISfs(Qvx16s* v, const Qvx16s* h, int len, Qvx16s* d, int* i, int sf) { return oneSample(v, v, h, len, d, i, sf); }
 // clang-format on

@@ -1,8 +1,8 @@
 // The filters with a record: block, in place, one sample.
 #pragma once
 
-#include "fir/multi_rate.h"
-#include "fir/overlap_save.h"
+#include "fir/sizes.h"
+#include "fir/state.h"
 
 namespace qvx::fir {
 
@@ -28,7 +28,7 @@ inline Qvx16sc scaledDot(const Qvx16sc* x, const Qvx16sc* p, int n, int64_t plac
   return {scaledSum(sum.re, places), scaledSum(sum.im, places)};
 }
 
-template <class C, class T> void one(FloatRecord<C>& state, T x, T* y, int scaleFactor) {
+template <class C, class T> void oneSample(FloatRecord<C>& state, T x, T* y, int scaleFactor) {
   const C* window = state.delay.push(elementAs<C>(x), state.tapsLen);
   const C sum = dot(window, state.taps, state.tapsLen);
   toSamples(&sum, 1, y, scaleFactor);
@@ -36,7 +36,7 @@ template <class C, class T> void one(FloatRecord<C>& state, T x, T* y, int scale
 template <class S, class H> int64_t placesOf(const IntegerRecord<S, H>& state, int scaleFactor) {
   return int64_t{state.tapsFactor} - scaleFactor;
 }
-template <class S, class H> void one(IntegerRecord<S, H>& state, S x, S* y, int scaleFactor) {
+template <class S, class H> void oneSample(IntegerRecord<S, H>& state, S x, S* y, int scaleFactor) {
   *y = scaledDot(state.delay.push(x, state.tapsLen), state.shortTaps, state.tapsLen, placesOf(state, scaleFactor));
 }
 
@@ -60,11 +60,12 @@ template <class R> void advance(R& state, size_t n) {
   moveVectors(window + n, static_cast<size_t>(state.tapsLen), window);
 }
 
-// Some samples, behind the window, which may be those that dst has room for.
+// Some samples, after the window, which may be those that dst has room for.
 template <class C, class T> void throughWindow(FloatRecord<C>& state, const T* src, T* dst, size_t n, int scaleFactor) {
   constexpr bool kConverts = !std::is_same_v<C, T>;
   constexpr size_t kMost = kConverts ? FloatRecord<C>::kChunk / 2 : FloatRecord<C>::kChunk;
   const auto taps = static_cast<size_t>(state.tapsLen);
+  const Call call = callOf(n);
   C* const window = state.delay.window;
   for (size_t some; n > 0; n -= some, src += some, dst += some) {
     some = std::min(n, kMost);
@@ -73,16 +74,16 @@ template <class C, class T> void throughWindow(FloatRecord<C>& state, const T* s
     if (some < kVectorElements<C>) std::fill_n(window + taps + some, kVectorElements<C> - some, C{});
     if constexpr (kConverts) {
       C* const sum = window + taps + std::max(some, kVectorElements<C>);
-      sums(window + 1, state.taps, taps, some, sum);
+      convolve(window + 1, state.taps, taps, some, sum, call);
       toSamples(sum, some, dst, scaleFactor);
     } else {
-      sums(window + 1, state.taps, taps, some, dst);
+      convolve(window + 1, state.taps, taps, some, dst, call);
     }
     advance(state, some);
   }
 }
 
-// The first outputs, whose windows reach back behind src, by way of the window's memory; the others straight from src, unless a
+// The first outputs, whose windows reach back before src, by way of the window's memory; the others straight from src, unless a
 // copy of them costs less than going in two steps: 256 outputs of 16 taps take 65 ns with the copy, 88 in two steps. Of 4 taps,
 // two steps take less even for 64 outputs, 20 ns to 23; between 6 and 8 taps that turns.
 template <class C> void straight(FloatRecord<C>& state, const C* src, C* dst, size_t n) {
@@ -90,25 +91,28 @@ template <class C> void straight(FloatRecord<C>& state, const C* src, C* dst, si
   const size_t head = (taps - 1 + kVectorElements<C> - 1) / kVectorElements<C> * kVectorElements<C>;
   const size_t worthTwo = (taps > 6 ? 16 : 2) * kVectorElements<C>;
   if (n < head + worthTwo) return throughWindow(state, src, dst, n, 0);
+  const Call call = callOf(n);
   C* const window = state.delay.window;
   if (head > 0) {
     moveVectors(src, head, window + taps);
-    sums(window + 1, state.taps, taps, head, dst);
+    convolve(window + 1, state.taps, taps, head, dst, call);
   }
   moveVectors(src + n - taps, taps, window);
-  sums(src + head - (taps - 1), state.taps, taps, n - head, dst + head);
+  convolve(src + head - (taps - 1), state.taps, taps, n - head, dst + head, call);
 }
 
 template <class C, class T> QvxStatus direct(FloatRecord<C>& state, const T* src, T* dst, size_t n, int scaleFactor) {
-  if constexpr (std::is_same_v<C, T>) straight(state, src, dst, n);
-  else throughWindow(state, src, dst, n, scaleFactor);
+  if constexpr (std::is_same_v<C, T>) {
+    if (src != dst) return straight(state, src, dst, n), qvxStatOk;
+  }
+  throughWindow(state, src, dst, n, scaleFactor);
   return qvxStatOk;
 }
 
 template <class S, class T> QvxStatus direct(IntegerRecord<S, T>& state, const S* src, S* dst, size_t n, int scaleFactor) {
   using Record = IntegerRecord<S, T>;
   if (!state.isPaired) {
-    for (size_t i = 0; i < n; ++i) one(state, src[i], dst + i, scaleFactor);
+    for (size_t i = 0; i < n; ++i) oneSample(state, src[i], dst + i, scaleFactor);
     return qvxStatOk;
   }
   const auto taps = static_cast<size_t>(state.tapsLen);
@@ -117,7 +121,7 @@ template <class S, class T> QvxStatus direct(IntegerRecord<S, T>& state, const S
   for (size_t some; n > 0; n -= some, src += some, dst += some) {
     some = std::min(n, Record::kChunk);
     moveVectors(src, some, window + taps);
-    sums(window + 1, pairs, some, dst, placesOf(state, scaleFactor));
+    convolve(window + 1, pairs, some, dst, placesOf(state, scaleFactor));
     advance(state, some);
   }
   return qvxStatOk;
@@ -125,47 +129,38 @@ template <class S, class T> QvxStatus direct(IntegerRecord<S, T>& state, const S
 
 // ---- which way a call goes
 
-// Whether `left` samples, those of a call's block, are worth the transform. Of samples that are converted, only the transform's
+// The fewest taps that a transform filters faster than the sum of products. Wide vectors do those sooner: of 16 taps and 32fc,
+// AVX-512 takes 0.4 of the transform's time, SSSE3 0.9.
+constexpr int byRegisters(int avx512, int avx2, int ssse3) { return kHasMasks ? avx512 : kFuses ? avx2 : ssse3; }
+template <class C> inline constexpr int kTransformPaysFrom = byRegisters(128, 80, 64);
+template <> inline constexpr int kTransformPaysFrom<Qvx64f> = byRegisters(100, 64, 64);
+template <> inline constexpr int kTransformPaysFrom<Qvx32fc> = byRegisters(38, 32, 18);
+template <> inline constexpr int kTransformPaysFrom<Qvx64fc> = 32;
+
+// Whether the n samples of a call are worth the transform. Of samples that are converted, only the transform's
 // blocks are divided between threads, so long calls always take it: 64 to 127 taps of 32f take 0.6 to 0.8 of its time with one
 // thread, 1.2 to 1.6 with two.
-template <class S> bool isWorthTransform(int tapsLen, size_t left) {
+template <class S> bool isWorthTransform(int tapsLen, size_t n) {
   using C = typename S::Kernel;
-  const bool divides = !std::is_same_v<C, typename S::Sample> && left >= kBlocksThreaded;
-  return left > Transform<C>::kAbove && (divides || tapsLen >= Transform<C>::kPaysFrom);
+  constexpr size_t kAbove = PartsOf<C>::kCount == 1 ? 511 : 255;
+  const bool divides = !std::is_same_v<C, typename S::Sample> && n >= kBlocksWorthTeam;
+  return n > kAbove && (divides || tapsLen >= kTransformPaysFrom<C>);
 }
-template <class S> bool takesTransform(const S& state, size_t left) {
+template <class S> bool takesTransform(const S& state, size_t n) {
   if constexpr (std::is_integral_v<Part<typename S::Kernel>>) return false;
-  else return state.fftLen > 0 && isWorthTransform<S>(state.tapsLen, left);
+  else return !isNull(state.spectral.spec) && isWorthTransform<S>(state.tapsLen, n);
 }
 
+// src may be dst.
 template <class S>
 QvxStatus filterBlock(S& state, const typename S::Sample* src, typename S::Sample* dst, size_t n, int scaleFactor) {
   state.delay.settled(state.tapsLen);
-  if (takesTransform(state, n)) {
-    if constexpr (!std::is_integral_v<Part<typename S::Kernel>>) return overlapSave(state, src, dst, n, scaleFactor);
-  }
-  return direct(state, src, dst, n, scaleFactor);
-}
-
-// Piece by piece. What is left behind a piece decides about its way, not the piece.
-template <class S> QvxStatus filterInPlace(S& state, typename S::Sample* srcDst, size_t n, int scaleFactor) {
-  constexpr size_t kPiece = 4096;
-  state.delay.settled(state.tapsLen);
-  QvxStatus status = qvxStatOk;
-  for (size_t some; n > 0 && status == qvxStatOk; srcDst += some) {
-    some = std::min(n, kPiece);
-    n -= some;
-    if constexpr (std::is_integral_v<Part<typename S::Kernel>>) {
-      status = direct(state, srcDst, srcDst, some, scaleFactor);
-    } else if (takesTransform(state, n)) {
-      auto* const behind = state.delay.window + state.tapsLen;
-      toKernel(srcDst, some, behind);
-      status = overlapSave(state, behind, srcDst, some, scaleFactor);
-    } else {
-      throughWindow(state, srcDst, srcDst, some, scaleFactor);
+  if constexpr (!std::is_integral_v<Part<typename S::Kernel>>) {
+    if (takesTransform(state, n)) {
+      return overlapSave(state.spectral, static_cast<size_t>(state.tapsLen), state.delay.window, src, dst, n, scaleFactor);
     }
   }
-  return status;
+  return direct(state, src, dst, n, scaleFactor);
 }
 
 // ---- the checked functions
@@ -173,27 +168,23 @@ template <class S> QvxStatus filterInPlace(S& state, typename S::Sample* srcDst,
 template <class S, class... T> QvxStatus checkFilter(const S* state, int numIters, const T*... vectors) {
   if ((isNull(vectors) || ...) || isNull(state)) return qvxStatNullPtr;
   if (numIters < 1) return qvxStatBadSize;
-  return checkRecord(state, S::kSingleRate, S::kMultiRate);
+  return checkRecord(state, S::kId);
 }
 
 template <class S, class T> QvxStatus filter(const T* src, T* dst, int numIters, S* state, int scaleFactor = 0) {
   const QvxStatus status = checkFilter(state, numIters, src, dst);
   if (status != qvxStatOk) return status;
-  if (isMultiRate(*state)) return filterMultiRate(*state);
   return filterBlock(*state, src, dst, elements(numIters), scaleFactor);
 }
 
 template <class S, class T> QvxStatus filterInPlace(T* srcDst, int numIters, S* state, int scaleFactor = 0) {
-  const QvxStatus status = checkFilter(state, numIters, srcDst);
-  if (status != qvxStatOk) return status;
-  if (isMultiRate(*state)) return filterMultiRate(*state);
-  return filterInPlace(*state, srcDst, elements(numIters), scaleFactor);
+  return filter(const_cast<const T*>(srcDst), srcDst, numIters, state, scaleFactor);
 }
 
 template <class S, class T> QvxStatus filterOne(T src, T* dst, S* state, int scaleFactor = 0) {
   if (isNull(state) || isNull(dst)) return qvxStatNullPtr;
-  const QvxStatus status = checkRecord(state, S::kSingleRate);
-  if (status == qvxStatOk) one(*state, src, dst, scaleFactor);
+  const QvxStatus status = checkRecord(state, S::kId);
+  if (status == qvxStatOk) oneSample(*state, src, dst, scaleFactor);
   return status;
 }
 

@@ -10,7 +10,6 @@ namespace {
 QvxStatus filterInPlaceDirect(Qvx32s* srcDst, int numIters, QvxsFIRState_32s* state, int scaleFactor) {
   const QvxStatus status = checkFilter(state, numIters, srcDst);
   if (status != qvxStatOk) return status;
-  if (isMultiRate(*state)) return qvxStatContextMismatch;
   state->delay.settled(state->tapsLen);
   return direct(*state, srcDst, srcDst, elements(numIters), scaleFactor);
 }

@@ -1,7 +1,10 @@
-// The sizes of the records, as users allocate by them. The layout (build.h) needs less at every number of taps and threads.
+// The sizes of the records, as users allocate by them: fixed values of the interface. The layout (build.h) needs less at every
+// number of taps and threads.
 #pragma once
 
 #include <qvx/qvxcore.h>
+
+#include <bit>
 
 #include "fir/state.h"
 
@@ -39,34 +42,42 @@ constexpr int64_t bytesOf(const IntegerRecord<Qvx16sc, Qvx32sc>*, int64_t n, int
   return 16512 + up16(12 * n + 16) + 16 * n + up16(8 * n);
 }
 
-// What a record of a number of taps needs.
-struct Plan {
+// The fewest taps that a filter has a transform for.
+template <class C> inline constexpr int kLeastTransformed = 64;
+template <> inline constexpr int kLeastTransformed<Qvx32fc> = 16;
+template <> inline constexpr int kLeastTransformed<Qvx64fc> = 32;
+
+template <class C> fft::TransformSizes transformOf(int tapsLen) {
+  if (tapsLen < kLeastTransformed<C>) return {};
+  return fft::TransformSizes::ofOrder<C>(std::bit_width(static_cast<uint32_t>(tapsLen)) + 1);
+}
+
+// The bytes of a record of a number of taps, and its transform.
+struct Footprint {
   int64_t bytes;
-  TransformSizes transform;
+  fft::TransformSizes transform;
 };
 
-template <class S> Plan planOf(int tapsLen) {
+template <class S> Footprint footprintOf(int tapsLen) {
   const int64_t threads = ownGetNumThreads();
   const int64_t bytes = bytesOf(static_cast<const S*>(nullptr), tapsLen, threads);
   if constexpr (std::is_integral_v<Part<typename S::Kernel>>) {
     return {bytes, {}};
   } else {
-    const auto transform = TransformSizes::of<typename S::Kernel>(tapsLen);
+    const auto transform = transformOf<typename S::Kernel>(tapsLen);
     const int64_t block = up16(int64_t{sizeof(typename S::Kernel)} * transform.length);
     return {bytes + transform.spec + transform.init + block + threads * (transform.work + block), transform};
   }
 }
-inline Plan planOfStream16s(int tapsLen) { return {128 + up16(2 * int64_t{tapsLen}), {}}; }
-inline Plan planOfIntegerTaps(int tapsLen) { return {bytesOfIntegerTaps(tapsLen, ownGetNumThreads()), {}}; }
+inline Footprint footprintOfStream16s(int tapsLen) { return {128 + up16(2 * int64_t{tapsLen}), {}}; }
+inline Footprint footprintOfIntegerTaps(int tapsLen) { return {bytesOfIntegerTaps(tapsLen, ownGetNumThreads()), {}}; }
 
-using PlanFor = Plan (*)(int tapsLen);
+using FootprintOf = Footprint (*)(int tapsLen);
 
-// Users get the low 32 bits.
-inline QvxStatus reportSize(int tapsLen, int* pSize, PlanFor planFor) {
+inline QvxStatus reportSize(int tapsLen, int* pSize, FootprintOf footprintOf) {
   if (isNull(pSize)) return qvxStatNullPtr;
   if (tapsLen < 1) return qvxStatBadTapsLen;
-  *pSize = static_cast<int>(static_cast<uint32_t>(planFor(tapsLen).bytes));
-  return qvxStatOk;
+  return reportBytes(footprintOf(tapsLen).bytes, pSize);
 }
 
 }  // namespace qvx::fir

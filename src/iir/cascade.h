@@ -9,7 +9,7 @@
 #include "frame/unroll.h"
 #include "iir/number.h"
 
-namespace qvx {
+namespace qvx::iir {
 
 template <class T> using CascadeLane = std::conditional_t<kLanes == 2 && sizeof(T) == 4, Qvx32f, Lane>;
 
@@ -195,4 +195,4 @@ template <class P> class Cascade {
   P* table_ = nullptr;
 };
 
-}  // namespace qvx
+}  // namespace qvx::iir

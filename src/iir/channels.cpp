@@ -2,6 +2,7 @@
 #include "iir/filter.h"
 
 using namespace qvx;
+using namespace qvx::iir;
 
 namespace {
 
@@ -12,7 +13,7 @@ QvxStatus eachChannel(Src* const* src, Dst* const* dst, int len, int channels, S
   for (int c = 0; c < channels; ++c) {
     if (isNull(states[c]) || isNull(src[c]) || isNull(dst[c])) return qvxStatNullPtr;
     if (states[c]->magic != form) return qvxStatContextMismatch;
-    filter(*states[c], src[c], dst[c], elements(len), scaleOf(c));
+    filterSamples(*states[c], src[c], dst[c], elements(len), scaleOf(c));
   }
   return qvxStatOk;
 }
@@ -23,7 +24,7 @@ QvxStatus floats(Src* const* src, Dst* const* dst, int len, int channels, QvxsII
   if (isNull(states) || isNull(src) || isNull(dst)) return qvxStatNullPtr;
   if (len < 1) return qvxStatBadSize;
   if (channels < 1) return qvxStatBadChannels;
-  constexpr IirMagics kMagics = QvxsIIRState_32f::kMagics;
+  constexpr Magics kMagics = QvxsIIRState_32f::kMagics;
   const QvxStatus status = checkRecord(states[0], kMagics.biQuad, kMagics.df1);
   if (status != qvxStatOk) return status;
   return eachChannel(src, dst, len, channels, states, [](int) { return 0; });

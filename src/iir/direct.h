@@ -20,11 +20,11 @@
 #include "frame/unroll.h"
 #include "iir/number.h"
 
-namespace qvx {
+namespace qvx::iir {
 
 template <class T> class Direct {
  public:
-  static constexpr size_t kParts = qvx::kParts<T>;
+  static constexpr size_t kParts = qvx::iir::kParts<T>;
   static constexpr size_t kElements = kLanes / kParts;
   static constexpr bool kIsExact = sizeof(Part<T>) == 8;
   // Vectors of the delay line: real ones in AVX-512 as many as the blocks that callers allocate have room for. Above, sample by
@@ -37,14 +37,13 @@ template <class T> class Direct {
   using Number = Coefficient<kParts>;
 
   // The tables' room in the block.
-  template <class Carver> void place(Carver& carver, int order) {
+  void place(Carver& carver, int order) {
     order_ = static_cast<size_t>(order);
     vectors_ = (order_ + kElements - 1) / kElements;
-    b_ = carver.template take<Number>(order + 1 + int64_t{kElements});
-    a_ = carver.template take<Number>(order + 1 + int64_t{kElements});
-    constexpr size_t kAlign = 64 / sizeof(Lane);
+    b_ = carver.take<Number>(order + 1 + int64_t{kElements});
+    a_ = carver.take<Number>(order + 1 + int64_t{kElements});
     const size_t columns = 2 * kLanes * (vectors_ + 1) + (kIsExact ? kLanes * vectors_ : 0);
-    table_ = alignedUp<64>(carver.template take<Lane>(static_cast<int64_t>(columns * kLanes + kAlign - 1)));
+    table_ = carver.takeLines<Lane>(static_cast<int64_t>(columns * kLanes));
   }
 
   bool looksAhead() const { return looksAhead_; }
@@ -206,4 +205,4 @@ template <class T> class Direct {
   Lane* table_;
 };
 
-}  // namespace qvx
+}  // namespace qvx::iir

@@ -7,7 +7,7 @@
 #include "iir/init.h"
 #include "iir/recursion.h"
 
-namespace qvx {
+namespace qvx::iir {
 
 // Lanes of a block: with its work 4 KB, which leaves the first cache to the caller.
 inline constexpr size_t kBlockLanes = 512;
@@ -122,7 +122,7 @@ template <class T, class P> void df1InLanes(const Cascade<P>& cascade, const T* 
 
 // with(line): the delay line of sections, which a direct form up to order 2 is one of. Of order 1, its second value is the zero
 // behind it, and stays so.
-template <class T, class With> void withSectionLine(const IirRecord<T>& s, With with) {
+template <class T, class With> void withSectionLine(const Record<T>& s, With with) {
   if (!s.isDirect()) return with(s.line);
   T line[2] = {s.line[0], s.order == 1 ? T{} : s.line[1]};
   with(line);
@@ -139,7 +139,7 @@ inline bool areFinite(const Lane* p, size_t n) {
 }
 
 // Whether it could: not with what is not finite.
-template <class T> bool runDirect(const IirRecord<T>& s, Lane* work, size_t n) {
+template <class T> bool runDirect(const Record<T>& s, Lane* work, size_t n) {
   constexpr size_t kRoom = (Direct<T>::kMostVectors + 2) * kLanes;
   const size_t lanes = lineValues(s) * kParts<T>;
   alignas(kVectorBytes) Lane d[kRoom];
@@ -151,7 +151,7 @@ template <class T> bool runDirect(const IirRecord<T>& s, Lane* work, size_t n) {
   return true;
 }
 
-template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
+template <class T> void runPlain(const Record<T>& s, Lane* work, size_t n) {
   auto* at = reinterpret_cast<LaneNumber<T>*>(work);
   const auto each = [&](auto one) {
     for (size_t i = 0; i < n; ++i) at[i] = numberOf<LaneNumber<T>>(one(numberOf<T>(at[i])));
@@ -166,7 +166,7 @@ template <class T> void runPlain(const IirRecord<T>& s, Lane* work, size_t n) {
 }
 
 // All but sections that look ahead or are in lanes.
-template <class T> void runBlock(const IirRecord<T>& s, bool isDf1, Lane* work, size_t n) {
+template <class T> void runBlock(const Record<T>& s, bool isDf1, Lane* work, size_t n) {
   if constexpr (std::is_same_v<T, Qvx64f>) {
     if (isDf1) {
       const auto sections = static_cast<size_t>(s.numBq);
@@ -202,7 +202,7 @@ void inBlocks(const Data* src, Data* dst, size_t n, Finish<Data> finish, Run run
 }
 
 // One section goes from the samples to the samples; of several, the first takes them and the last gives them back.
-template <class T, class Data> void bySections(const IirRecord<T>& s, const Data* src, Data* dst, size_t n, Finish<Data> finish) {
+template <class T, class Data> void bySections(const Record<T>& s, const Data* src, Data* dst, size_t n, Finish<Data> finish) {
   const int last = std::max(s.numBq, 1) - 1;
   withSectionLine(s, [&](T* line) {
     if (last == 0) return runSection(s.sections[0], src, dst, n, line, finish);
@@ -219,7 +219,7 @@ template <class T, class Data> void bySections(const IirRecord<T>& s, const Data
 }
 
 // Without tables of its own: they are made for a call, and go over all samples.
-inline void filterDf1(const IirRecord<Qvx32f>& s, const Qvx32f* src, Qvx32f* dst, size_t n) {
+inline void filterDf1(const Record<Qvx32f>& s, const Qvx32f* src, Qvx32f* dst, size_t n) {
   using P = CascadeLane<Qvx32f>;
   using Many = Cascade<P>;
   const auto sections = static_cast<size_t>(s.numBq);
@@ -243,7 +243,7 @@ inline void filterDf1(const IirRecord<Qvx32f>& s, const Qvx32f* src, Qvx32f* dst
   }
 }
 
-template <class State, class Data> void filter(State& s, const Data* src, Data* dst, size_t n, int scaleFactor) {
+template <class State, class Data> void filterSamples(State& s, const Data* src, Data* dst, size_t n, int scaleFactor) {
   using T = InternalOf<State>;
   const bool isDf1 = State::kMagics.df1 != 0 && s.magic == State::kMagics.df1;
   if constexpr (std::is_same_v<T, Qvx32f> && std::is_same_v<Data, Qvx32f>) {
@@ -262,21 +262,21 @@ template <class State, class Data> void filter(State& s, const Data* src, Data* 
   inBlocks<T>(src, dst, n, finish, [&](Lane* work, size_t count) { runBlock<T>(s, isDf1, work, count); });
 }
 
-template <class State, class Data> QvxStatus iir(const Data* src, Data* dst, int len, State* state, int scaleFactor = 0) {
+template <class State, class Data> QvxStatus filter(const Data* src, Data* dst, int len, State* state, int scaleFactor = 0) {
   if (isNull(state) || isNull(src) || isNull(dst)) return qvxStatNullPtr;
   if (len < 1) return qvxStatBadSize;
   const QvxStatus status = checkState(state);
-  if (status == qvxStatOk) filter(*state, src, dst, elements(len), scaleFactor);
+  if (status == qvxStatOk) filterSamples(*state, src, dst, elements(len), scaleFactor);
   return status;
 }
-template <class State, class Data> QvxStatus iir(Data* srcDst, int len, State* state, int scaleFactor = 0) {
-  return iir(const_cast<const Data*>(srcDst), srcDst, len, state, scaleFactor);
+template <class State, class Data> QvxStatus filter(Data* srcDst, int len, State* state, int scaleFactor = 0) {
+  return filter(const_cast<const Data*>(srcDst), srcDst, len, state, scaleFactor);
 }
 
-template <class State, class Data> QvxStatus iirOne(Data src, Data* dst, State* state, int scaleFactor = 0) {
+template <class State, class Data> QvxStatus filterOne(Data src, Data* dst, State* state, int scaleFactor = 0) {
   const QvxStatus status = isNull(dst) ? qvxStatNullPtr : checkState<Takes::kAllButDf1>(state);
-  if (status == qvxStatOk) filter(*state, &src, dst, 1, scaleFactor);
+  if (status == qvxStatOk) filterSamples(*state, &src, dst, 1, scaleFactor);
   return status;
 }
 
-}  // namespace qvx
+}  // namespace qvx::iir

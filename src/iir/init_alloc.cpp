@@ -2,57 +2,58 @@
 #include "iir/init.h"
 
 using namespace qvx;
+using namespace qvx::iir;
 
 // clang-format off
-QvxStatus qvxsIIRInitAlloc_32f(QvxsIIRState_32f** s, const Qvx32f* t, int n, const Qvx32f* d) { return iirInitAlloc<QvxsIIRState_32f, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc_32fc(QvxsIIRState_32fc** s, const Qvx32fc* t, int n, const Qvx32fc* d) { return iirInitAlloc<QvxsIIRState_32fc, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc32f_16s(QvxsIIRState32f_16s** s, const Qvx32f* t, int n, const Qvx32f* d) { return iirInitAlloc<QvxsIIRState32f_16s, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc32fc_16sc(QvxsIIRState32fc_16sc** s, const Qvx32fc* t, int n, const Qvx32fc* d) { return iirInitAlloc<QvxsIIRState32fc_16sc, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc32s_16s(QvxsIIRState32s_16s** s, const Qvx32s* t, int n, int f, const Qvx32f* d) { return iirInitAlloc<QvxsIIRState32s_16s, Form::kDirect>(s, t, n, f, d); }
-QvxStatus qvxsIIRInitAlloc32s_16s32f(QvxsIIRState32s_16s** s, const Qvx32f* t, int n, const Qvx32f* d) { return iirInitAlloc<QvxsIIRState32s_16s, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc32sc_16sc(QvxsIIRState32sc_16sc** s, const Qvx32sc* t, int n, int f, const Qvx32fc* d) { return iirInitAlloc<QvxsIIRState32sc_16sc, Form::kDirect>(s, t, n, f, d); }
-QvxStatus qvxsIIRInitAlloc32sc_16sc32fc(QvxsIIRState32sc_16sc** s, const Qvx32fc* t, int n, const Qvx32fc* d) { return iirInitAlloc<QvxsIIRState32sc_16sc, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc_64f(QvxsIIRState_64f** s, const Qvx64f* t, int n, const Qvx64f* d) { return iirInitAlloc<QvxsIIRState_64f, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc_64fc(QvxsIIRState_64fc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return iirInitAlloc<QvxsIIRState_64fc, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64f_32f(QvxsIIRState64f_32f** s, const Qvx64f* t, int n, const Qvx64f* d) { return iirInitAlloc<QvxsIIRState64f_32f, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64fc_32fc(QvxsIIRState64fc_32fc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return iirInitAlloc<QvxsIIRState64fc_32fc, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64f_32s(QvxsIIRState64f_32s** s, const Qvx64f* t, int n, const Qvx64f* d) { return iirInitAlloc<QvxsIIRState64f_32s, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64fc_32sc(QvxsIIRState64fc_32sc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return iirInitAlloc<QvxsIIRState64fc_32sc, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64f_16s(QvxsIIRState64f_16s** s, const Qvx64f* t, int n, const Qvx64f* d) { return iirInitAlloc<QvxsIIRState64f_16s, Form::kDirect>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64fc_16sc(QvxsIIRState64fc_16sc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return iirInitAlloc<QvxsIIRState64fc_16sc, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc_32f(QvxsIIRState_32f** s, const Qvx32f* t, int n, const Qvx32f* d) { return initAlloc<QvxsIIRState_32f, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc_32fc(QvxsIIRState_32fc** s, const Qvx32fc* t, int n, const Qvx32fc* d) { return initAlloc<QvxsIIRState_32fc, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc32f_16s(QvxsIIRState32f_16s** s, const Qvx32f* t, int n, const Qvx32f* d) { return initAlloc<QvxsIIRState32f_16s, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc32fc_16sc(QvxsIIRState32fc_16sc** s, const Qvx32fc* t, int n, const Qvx32fc* d) { return initAlloc<QvxsIIRState32fc_16sc, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc32s_16s(QvxsIIRState32s_16s** s, const Qvx32s* t, int n, int f, const Qvx32f* d) { return initAlloc<QvxsIIRState32s_16s, Form::kDirect>(s, t, n, f, d); }
+QvxStatus qvxsIIRInitAlloc32s_16s32f(QvxsIIRState32s_16s** s, const Qvx32f* t, int n, const Qvx32f* d) { return initAlloc<QvxsIIRState32s_16s, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc32sc_16sc(QvxsIIRState32sc_16sc** s, const Qvx32sc* t, int n, int f, const Qvx32fc* d) { return initAlloc<QvxsIIRState32sc_16sc, Form::kDirect>(s, t, n, f, d); }
+QvxStatus qvxsIIRInitAlloc32sc_16sc32fc(QvxsIIRState32sc_16sc** s, const Qvx32fc* t, int n, const Qvx32fc* d) { return initAlloc<QvxsIIRState32sc_16sc, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc_64f(QvxsIIRState_64f** s, const Qvx64f* t, int n, const Qvx64f* d) { return initAlloc<QvxsIIRState_64f, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc_64fc(QvxsIIRState_64fc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return initAlloc<QvxsIIRState_64fc, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64f_32f(QvxsIIRState64f_32f** s, const Qvx64f* t, int n, const Qvx64f* d) { return initAlloc<QvxsIIRState64f_32f, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64fc_32fc(QvxsIIRState64fc_32fc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return initAlloc<QvxsIIRState64fc_32fc, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64f_32s(QvxsIIRState64f_32s** s, const Qvx64f* t, int n, const Qvx64f* d) { return initAlloc<QvxsIIRState64f_32s, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64fc_32sc(QvxsIIRState64fc_32sc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return initAlloc<QvxsIIRState64fc_32sc, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64f_16s(QvxsIIRState64f_16s** s, const Qvx64f* t, int n, const Qvx64f* d) { return initAlloc<QvxsIIRState64f_16s, Form::kDirect>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64fc_16sc(QvxsIIRState64fc_16sc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return initAlloc<QvxsIIRState64fc_16sc, Form::kDirect>(s, t, n, d); }
 
-QvxStatus qvxsIIRInitAlloc_BiQuad_32f(QvxsIIRState_32f** s, const Qvx32f* t, int n, const Qvx32f* d) { return iirInitAlloc<QvxsIIRState_32f, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc_BiQuad_32fc(QvxsIIRState_32fc** s, const Qvx32fc* t, int n, const Qvx32fc* d) { return iirInitAlloc<QvxsIIRState_32fc, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc32f_BiQuad_16s(QvxsIIRState32f_16s** s, const Qvx32f* t, int n, const Qvx32f* d) { return iirInitAlloc<QvxsIIRState32f_16s, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc32fc_BiQuad_16sc(QvxsIIRState32fc_16sc** s, const Qvx32fc* t, int n, const Qvx32fc* d) { return iirInitAlloc<QvxsIIRState32fc_16sc, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc32s_BiQuad_16s(QvxsIIRState32s_16s** s, const Qvx32s* t, int n, int f, const Qvx32f* d) { return iirInitAlloc<QvxsIIRState32s_16s, Form::kBiQuad>(s, t, n, f, d); }
-QvxStatus qvxsIIRInitAlloc32s_BiQuad_16s32f(QvxsIIRState32s_16s** s, const Qvx32f* t, int n, const Qvx32f* d) { return iirInitAlloc<QvxsIIRState32s_16s, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc32sc_BiQuad_16sc(QvxsIIRState32sc_16sc** s, const Qvx32sc* t, int n, int f, const Qvx32fc* d) { return iirInitAlloc<QvxsIIRState32sc_16sc, Form::kBiQuad>(s, t, n, f, d); }
-QvxStatus qvxsIIRInitAlloc32sc_BiQuad_16sc32fc(QvxsIIRState32sc_16sc** s, const Qvx32fc* t, int n, const Qvx32fc* d) { return iirInitAlloc<QvxsIIRState32sc_16sc, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc_BiQuad_64f(QvxsIIRState_64f** s, const Qvx64f* t, int n, const Qvx64f* d) { return iirInitAlloc<QvxsIIRState_64f, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc_BiQuad_64fc(QvxsIIRState_64fc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return iirInitAlloc<QvxsIIRState_64fc, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64f_BiQuad_32f(QvxsIIRState64f_32f** s, const Qvx64f* t, int n, const Qvx64f* d) { return iirInitAlloc<QvxsIIRState64f_32f, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64fc_BiQuad_32fc(QvxsIIRState64fc_32fc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return iirInitAlloc<QvxsIIRState64fc_32fc, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64f_BiQuad_32s(QvxsIIRState64f_32s** s, const Qvx64f* t, int n, const Qvx64f* d) { return iirInitAlloc<QvxsIIRState64f_32s, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64fc_BiQuad_32sc(QvxsIIRState64fc_32sc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return iirInitAlloc<QvxsIIRState64fc_32sc, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64f_BiQuad_16s(QvxsIIRState64f_16s** s, const Qvx64f* t, int n, const Qvx64f* d) { return iirInitAlloc<QvxsIIRState64f_16s, Form::kBiQuad>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64fc_BiQuad_16sc(QvxsIIRState64fc_16sc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return iirInitAlloc<QvxsIIRState64fc_16sc, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc_BiQuad_32f(QvxsIIRState_32f** s, const Qvx32f* t, int n, const Qvx32f* d) { return initAlloc<QvxsIIRState_32f, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc_BiQuad_32fc(QvxsIIRState_32fc** s, const Qvx32fc* t, int n, const Qvx32fc* d) { return initAlloc<QvxsIIRState_32fc, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc32f_BiQuad_16s(QvxsIIRState32f_16s** s, const Qvx32f* t, int n, const Qvx32f* d) { return initAlloc<QvxsIIRState32f_16s, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc32fc_BiQuad_16sc(QvxsIIRState32fc_16sc** s, const Qvx32fc* t, int n, const Qvx32fc* d) { return initAlloc<QvxsIIRState32fc_16sc, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc32s_BiQuad_16s(QvxsIIRState32s_16s** s, const Qvx32s* t, int n, int f, const Qvx32f* d) { return initAlloc<QvxsIIRState32s_16s, Form::kBiQuad>(s, t, n, f, d); }
+QvxStatus qvxsIIRInitAlloc32s_BiQuad_16s32f(QvxsIIRState32s_16s** s, const Qvx32f* t, int n, const Qvx32f* d) { return initAlloc<QvxsIIRState32s_16s, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc32sc_BiQuad_16sc(QvxsIIRState32sc_16sc** s, const Qvx32sc* t, int n, int f, const Qvx32fc* d) { return initAlloc<QvxsIIRState32sc_16sc, Form::kBiQuad>(s, t, n, f, d); }
+QvxStatus qvxsIIRInitAlloc32sc_BiQuad_16sc32fc(QvxsIIRState32sc_16sc** s, const Qvx32fc* t, int n, const Qvx32fc* d) { return initAlloc<QvxsIIRState32sc_16sc, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc_BiQuad_64f(QvxsIIRState_64f** s, const Qvx64f* t, int n, const Qvx64f* d) { return initAlloc<QvxsIIRState_64f, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc_BiQuad_64fc(QvxsIIRState_64fc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return initAlloc<QvxsIIRState_64fc, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64f_BiQuad_32f(QvxsIIRState64f_32f** s, const Qvx64f* t, int n, const Qvx64f* d) { return initAlloc<QvxsIIRState64f_32f, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64fc_BiQuad_32fc(QvxsIIRState64fc_32fc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return initAlloc<QvxsIIRState64fc_32fc, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64f_BiQuad_32s(QvxsIIRState64f_32s** s, const Qvx64f* t, int n, const Qvx64f* d) { return initAlloc<QvxsIIRState64f_32s, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64fc_BiQuad_32sc(QvxsIIRState64fc_32sc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return initAlloc<QvxsIIRState64fc_32sc, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64f_BiQuad_16s(QvxsIIRState64f_16s** s, const Qvx64f* t, int n, const Qvx64f* d) { return initAlloc<QvxsIIRState64f_16s, Form::kBiQuad>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64fc_BiQuad_16sc(QvxsIIRState64fc_16sc** s, const Qvx64fc* t, int n, const Qvx64fc* d) { return initAlloc<QvxsIIRState64fc_16sc, Form::kBiQuad>(s, t, n, d); }
 
-QvxStatus qvxsIIRInitAlloc_BiQuad_DF1_32f(QvxsIIRState_32f** s, const Qvx32f* t, int n, const Qvx32f* d) { return iirInitAlloc<QvxsIIRState_32f, Form::kDf1>(s, t, n, d); }
-QvxStatus qvxsIIRInitAlloc64f_BiQuad_DF1_32s(QvxsIIRState64f_32s** s, const Qvx64f* t, int n, const Qvx32s* d) { return iirInitAlloc<QvxsIIRState64f_32s, Form::kDf1>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc_BiQuad_DF1_32f(QvxsIIRState_32f** s, const Qvx32f* t, int n, const Qvx32f* d) { return initAlloc<QvxsIIRState_32f, Form::kDf1>(s, t, n, d); }
+QvxStatus qvxsIIRInitAlloc64f_BiQuad_DF1_32s(QvxsIIRState64f_32s** s, const Qvx64f* t, int n, const Qvx32s* d) { return initAlloc<QvxsIIRState64f_32s, Form::kDf1>(s, t, n, d); }
 
-QvxStatus qvxsIIRFree_32f(QvxsIIRState_32f* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree_32fc(QvxsIIRState_32fc* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree32f_16s(QvxsIIRState32f_16s* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree32fc_16sc(QvxsIIRState32fc_16sc* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree32s_16s(QvxsIIRState32s_16s* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree32sc_16sc(QvxsIIRState32sc_16sc* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree_64f(QvxsIIRState_64f* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree_64fc(QvxsIIRState_64fc* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree64f_32f(QvxsIIRState64f_32f* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree64fc_32fc(QvxsIIRState64fc_32fc* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree64f_32s(QvxsIIRState64f_32s* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree64fc_32sc(QvxsIIRState64fc_32sc* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree64f_16s(QvxsIIRState64f_16s* s) { return iirFree(s); }
-QvxStatus qvxsIIRFree64fc_16sc(QvxsIIRState64fc_16sc* s) { return iirFree(s); }
+QvxStatus qvxsIIRFree_32f(QvxsIIRState_32f* s) { return release(s); }
+QvxStatus qvxsIIRFree_32fc(QvxsIIRState_32fc* s) { return release(s); }
+QvxStatus qvxsIIRFree32f_16s(QvxsIIRState32f_16s* s) { return release(s); }
+QvxStatus qvxsIIRFree32fc_16sc(QvxsIIRState32fc_16sc* s) { return release(s); }
+QvxStatus qvxsIIRFree32s_16s(QvxsIIRState32s_16s* s) { return release(s); }
+QvxStatus qvxsIIRFree32sc_16sc(QvxsIIRState32sc_16sc* s) { return release(s); }
+QvxStatus qvxsIIRFree_64f(QvxsIIRState_64f* s) { return release(s); }
+QvxStatus qvxsIIRFree_64fc(QvxsIIRState_64fc* s) { return release(s); }
+QvxStatus qvxsIIRFree64f_32f(QvxsIIRState64f_32f* s) { return release(s); }
+QvxStatus qvxsIIRFree64fc_32fc(QvxsIIRState64fc_32fc* s) { return release(s); }
+QvxStatus qvxsIIRFree64f_32s(QvxsIIRState64f_32s* s) { return release(s); }
+QvxStatus qvxsIIRFree64fc_32sc(QvxsIIRState64fc_32sc* s) { return release(s); }
+QvxStatus qvxsIIRFree64f_16s(QvxsIIRState64f_16s* s) { return release(s); }
+QvxStatus qvxsIIRFree64fc_16sc(QvxsIIRState64fc_16sc* s) { return release(s); }
 // clang-format on

@@ -7,6 +7,7 @@
 #include "iir/filter.h"
 
 using namespace qvx;
+using namespace qvx::iir;
 
 namespace {
 
@@ -78,38 +79,48 @@ QvxStatus directBlock(const Qvx16s* src, Qvx16s* dst, int len, const Qvx16s* tap
   const int s = taps[order + 1];
   if (s < 0) return qvxStatBadOrderIndex;
   if (len < 1) return qvxStatBadSize;
-  const int64_t record = up<8>(iirStateSize<State>(Form::kDirect, order));
-  const Block block(record + (2 * int64_t{order} + 2) * int64_t{sizeof(Qvx32f)});
-  if (!block) return qvxStatNoMem;
-  State* state = iirPlace<State>(Form::kDirect, order, block.get());
-  auto* floats = reinterpret_cast<Qvx32f*>(block.get() + record);
-  for (int i = 0; i < 2 * order + 2; ++i) floats[i] = i == order + 1 ? 1.0F : scaledDown(taps[i], s);
-  for (int i = 0; i < order; ++i) state->line[i] = scaledDown(line[i], s);
-  setDirectTaps(*state, floats);
-  filter(*state, src, dst, elements(len), 0);
-  for (int i = 0; i < order; ++i) line[i] = scaledUp(state->line[i], s, halfAway);
-  return qvxStatOk;
+  const int64_t count = 2 * int64_t{order} + 2;
+  const auto init = [=](State** ppState, Qvx8u* block) {
+    return initRecord(ppState, block, [=](State& state, Carver& carver) {
+      layOut(state, carver, Form::kDirect, order);
+      auto* floats = carver.take<Qvx32f>(count);
+      for (int i = 0; i < count; ++i) floats[i] = i == order + 1 ? 1.0F : scaledDown(taps[i], s);
+      for (int i = 0; i < order; ++i) state.line[i] = scaledDown(line[i], s);
+      return setDirectTaps(state, floats);
+    });
+  };
+  const int64_t bytes = stateSize<State>(Form::kDirect, order) + count * int64_t{sizeof(Qvx32f)};
+  return withTemporaryRecord<State>(bytes, init, [=](State& state) {
+    filterSamples(state, src, dst, elements(len), 0);
+    for (int i = 0; i < order; ++i) line[i] = scaledUp(state.line[i], s, halfAway);
+    return qvxStatOk;
+  });
 }
 
 QvxStatus sectionsBlock(const Qvx16s* src, Qvx16s* dst, int len, const Qvx16s* taps, int sections, Qvx32s* line) {
   if (sections < 1) return qvxStatBadIIROrder;
   if (isNull(src) || isNull(taps) || isNull(line) || isNull(dst)) return qvxStatNullPtr;
   if (len < 1) return qvxStatBadSize;
-  const Block block(iirStateSize<State>(Form::kBiQuad, sections));
-  if (!block) return qvxStatNoMem;
-  State* state = iirPlace<State>(Form::kBiQuad, sections, block.get());
-  for (int k = 0; k < sections; ++k) {
-    const Qvx16s* t = taps + 6 * k;
-    const int s = t[3];
-    if (s < 0) return qvxStatBadOrderIndex;
-    Qvx32f* scaled = state->taps + 5 * k;
-    for (int i = 0; i < 5; ++i) scaled[i] = scaledDown(t[i < 3 ? i : i + 1], s);
-    setSection(*state, static_cast<size_t>(k), scaled);
-    for (int i = 2 * k; i < 2 * k + 2; ++i) state->line[i] = scaledDown(line[i], s);
-  }
-  filter(*state, src, dst, elements(len), 0);
-  for (int i = 0; i < 2 * sections; ++i) line[i] = scaledUp(state->line[i], taps[6 * (i / 2) + 3], halfToEven);
-  return qvxStatOk;
+  const auto init = [=](State** ppState, Qvx8u* block) {
+    return initRecord(ppState, block, [=](State& state, Carver& carver) {
+      layOut(state, carver, Form::kBiQuad, sections);
+      for (int k = 0; k < sections; ++k) {
+        const Qvx16s* t = taps + 6 * k;
+        const int s = t[3];
+        if (s < 0) return qvxStatBadOrderIndex;
+        Qvx32f* scaled = state.taps + 5 * k;
+        for (int i = 0; i < 5; ++i) scaled[i] = scaledDown(t[i < 3 ? i : i + 1], s);
+        setSection(state, static_cast<size_t>(k), scaled);
+        for (int i = 2 * k; i < 2 * k + 2; ++i) state.line[i] = scaledDown(line[i], s);
+      }
+      return qvxStatOk;
+    });
+  };
+  return withTemporaryRecord<State>(stateSize<State>(Form::kBiQuad, sections), init, [=](State& state) {
+    filterSamples(state, src, dst, elements(len), 0);
+    for (int i = 0; i < 2 * sections; ++i) line[i] = scaledUp(state.line[i], taps[6 * (i / 2) + 3], halfToEven);
+    return qvxStatOk;
+  });
 }
 
 template <class One> QvxStatus checkedOne(Qvx16s src, Qvx16s* dst, const Qvx16s* taps, int n, Qvx32s* line, One one) {

@@ -8,7 +8,7 @@
 
 #include "frame/map.h"
 
-namespace qvx {
+namespace qvx::iir {
 
 // ---- one at a time
 
@@ -121,4 +121,4 @@ template <size_t kParts> V everywhere(const Lane* p) {
   else return hn::LoadDup128(Wide(), p);
 }
 
-}  // namespace qvx
+}  // namespace qvx::iir

@@ -6,11 +6,11 @@
 #include "iir/direct.h"
 #include "iir/section.h"
 
-namespace qvx {
+namespace qvx::iir {
 
 enum class Form { kDirect, kBiQuad, kDf1 };
 
-struct IirMagics {
+struct Magics {
   uint32_t direct;
   uint32_t biQuad;
   uint32_t df1 = 0;  // few have that form
@@ -21,11 +21,9 @@ struct IirMagics {
 // What filters sections: the rest goes sample by sample, or through Direct.
 enum class How : uint8_t { kPlain, kLookingAhead, kInLanes };
 
-template <class T> struct IirRecord {
+template <class T> struct Record : RecordHead {
   using Internal = T;
 
-  uint32_t magic;
-  uint32_t ownsBlock;
   int32_t order;  // the values of the delay line that callers see
   int32_t numBq;  // 0 in the direct form
   T* taps;        // b0..bN, a1..aN, or b0, b1, b2, a1, a2 for each section; normalised
@@ -39,17 +37,17 @@ template <class T> struct IirRecord {
 };
 
 // What a stem has of its own: the samples' type and its identities.
-template <class T, class DataType, uint32_t kDirect, uint32_t kBiQuad, uint32_t kDf1 = 0> struct IirStem : IirRecord<T> {
+template <class T, class DataType, uint32_t kDirect, uint32_t kBiQuad, uint32_t kDf1 = 0> struct Stem : Record<T> {
   using Data = DataType;
-  static constexpr IirMagics kMagics{kDirect, kBiQuad, kDf1};
+  static constexpr Magics kMagics{kDirect, kBiQuad, kDf1};
 };
 
 template <class State> using InternalOf = typename State::Internal;
 
 // ---- sizes
 
-// The bytes of a block for n sections, or for order n: contract with callers, whatever this layout takes of them.
-template <class State> constexpr int64_t iirStateSize(Form form, int64_t n) {
+// The bytes of a block for n sections, or for order n: fixed values of the interface, whatever this layout takes of them.
+template <class State> constexpr int64_t stateSize(Form form, int64_t n) {
   using T = InternalOf<State>;
   constexpr bool kIsComplex = kParts<T> == 2;
   constexpr bool kIsFloat = sizeof(Part<T>) == 4;
@@ -70,11 +68,10 @@ template <class State> constexpr int64_t iirStateSize(Form form, int64_t n) {
   return ((40 * n + 15) & ~15) + 256 * n + 16384 + 96 + 48 * n;
 }
 
-template <class State, Form kForm> QvxStatus iirSize(int n, int* size) {
+template <class State, Form kForm> QvxStatus reportSize(int n, int* size) {
   if (isNull(size)) return qvxStatNullPtr;
   if (n < 1) return qvxStatBadIIROrder;
-  *size = static_cast<int>(iirStateSize<State>(kForm, n));
-  return qvxStatOk;
+  return reportBytes(stateSize<State>(kForm, n), size);
 }
 
 // ---- the block
@@ -85,63 +82,52 @@ template <class T> constexpr bool hasTables(Form form) { return form != Form::kD
 // Values of a section's delay line.
 constexpr int64_t lineOf(Form form) { return form == Form::kDf1 ? 4 : 2; }
 
-template <class State> State* iirPlace(Form form, int n, Qvx8u* block) {
+template <class State> void layOut(State& state, Carver& carver, Form form, int n) {
   using T = InternalOf<State>;
-  constexpr int64_t kHead = 96;
-  static_assert(sizeof(State) <= kHead);
-  Carver<32> outer(block);
-  auto* state = outer.take<State>(1);
-  Carver<8> carver(reinterpret_cast<Qvx8u*>(state) + sizeof(State));
-  state->magic = State::kMagics.of(form);
-  state->ownsBlock = 0;
-  state->sections = nullptr;
-  state->direct = nullptr;
-  state->cascade = {};
-  state->how = How::kPlain;
+  static_assert(sizeof(State) <= 96);  // what the smallest of the sizes leaves for it
+  state.magic = State::kMagics.of(form);
   const auto placeSections = [&](int count) {
     constexpr bool kHasCascade = kParts<T> == 1;
-    using Many = decltype(state->cascade);
-    if (kHasCascade) state->cascade = {static_cast<size_t>(count), carver.template take<CascadeLane<T>>(Many::tableLanes(count))};
+    using Many = decltype(state.cascade);
+    if (kHasCascade) state.cascade = {static_cast<size_t>(count), carver.take<CascadeLane<T>>(Many::tableLanes(count))};
     const bool isFew = static_cast<size_t>(count) < Many::kFew;
-    if (!kHasCascade || isFew) state->sections = carver.template take<Section<T>>(count);
+    if (!kHasCascade || isFew) state.sections = carver.take<Section<T>>(count);
   };
   if (form == Form::kDirect) {
-    state->order = n;
-    state->numBq = 0;
-    state->taps = carver.template take<T>(2 * int64_t{n} + 1);
-    state->line = carver.template take<T>(int64_t{n} + 1);
-    state->line[n] = T{};
+    state.order = n;
+    state.taps = carver.take<T>(2 * int64_t{n} + 1);
+    state.line = carver.take<T>(int64_t{n} + 1);
+    state.line[n] = T{};
     if (n <= 2) {
       placeSections(1);
     } else if (n <= int{Direct<T>::kMostOrder}) {
-      state->direct = carver.template take<Direct<T>>(1);
-      state->direct->place(carver, n);
+      state.direct = carver.take<Direct<T>>(1);
+      state.direct->place(carver, n);
     }
   } else {
-    state->numBq = n;
-    state->order = static_cast<int32_t>(lineOf(form) * n);
-    state->taps = carver.template take<T>(5 * int64_t{n});
-    state->line = carver.template take<T>(lineOf(form) * n);
+    state.numBq = n;
+    state.order = static_cast<int32_t>(lineOf(form) * n);
+    state.taps = carver.take<T>(5 * int64_t{n});
+    state.line = carver.take<T>(lineOf(form) * n);
     if (hasTables<T>(form)) placeSections(n);
   }
-  return state;
 }
 
-}  // namespace qvx
+}  // namespace qvx::iir
 
 // clang-format off
-struct QvxsIIRState_32f       : qvx::IirStem<Qvx32f,  Qvx32f,  0x49493031, 0x49493032, 0x49493239> {};
-struct QvxsIIRState_32fc      : qvx::IirStem<Qvx32fc, Qvx32fc, 0x49493033, 0x49493034> {};
-struct QvxsIIRState32f_16s    : qvx::IirStem<Qvx32f,  Qvx16s,  0x49493035, 0x49493036> {};
-struct QvxsIIRState32fc_16sc  : qvx::IirStem<Qvx32fc, Qvx16sc, 0x49493037, 0x49493038> {};
-struct QvxsIIRState32s_16s    : qvx::IirStem<Qvx32f,  Qvx16s,  0x49493039, 0x49493130> {};
-struct QvxsIIRState32sc_16sc  : qvx::IirStem<Qvx32fc, Qvx16sc, 0x49493131, 0x49493132> {};
-struct QvxsIIRState_64f       : qvx::IirStem<Qvx64f,  Qvx64f,  0x49493133, 0x49493134> {};
-struct QvxsIIRState_64fc      : qvx::IirStem<Qvx64fc, Qvx64fc, 0x49493135, 0x49493136> {};
-struct QvxsIIRState64f_32f    : qvx::IirStem<Qvx64f,  Qvx32f,  0x49493137, 0x49493138> {};
-struct QvxsIIRState64fc_32fc  : qvx::IirStem<Qvx64fc, Qvx32fc, 0x49493139, 0x49493230> {};
-struct QvxsIIRState64f_32s    : qvx::IirStem<Qvx64f,  Qvx32s,  0x49493231, 0x49493232, 0x49493330> {};
-struct QvxsIIRState64fc_32sc  : qvx::IirStem<Qvx64fc, Qvx32sc, 0x49493233, 0x49493234> {};
-struct QvxsIIRState64f_16s    : qvx::IirStem<Qvx64f,  Qvx16s,  0x49493235, 0x49493236> {};
-struct QvxsIIRState64fc_16sc  : qvx::IirStem<Qvx64fc, Qvx16sc, 0x49493237, 0x49493238> {};
+struct QvxsIIRState_32f       : qvx::iir::Stem<Qvx32f,  Qvx32f,  0x49493031, 0x49493032, 0x49493239> {};
+struct QvxsIIRState_32fc      : qvx::iir::Stem<Qvx32fc, Qvx32fc, 0x49493033, 0x49493034> {};
+struct QvxsIIRState32f_16s    : qvx::iir::Stem<Qvx32f,  Qvx16s,  0x49493035, 0x49493036> {};
+struct QvxsIIRState32fc_16sc  : qvx::iir::Stem<Qvx32fc, Qvx16sc, 0x49493037, 0x49493038> {};
+struct QvxsIIRState32s_16s    : qvx::iir::Stem<Qvx32f,  Qvx16s,  0x49493039, 0x49493130> {};
+struct QvxsIIRState32sc_16sc  : qvx::iir::Stem<Qvx32fc, Qvx16sc, 0x49493131, 0x49493132> {};
+struct QvxsIIRState_64f       : qvx::iir::Stem<Qvx64f,  Qvx64f,  0x49493133, 0x49493134> {};
+struct QvxsIIRState_64fc      : qvx::iir::Stem<Qvx64fc, Qvx64fc, 0x49493135, 0x49493136> {};
+struct QvxsIIRState64f_32f    : qvx::iir::Stem<Qvx64f,  Qvx32f,  0x49493137, 0x49493138> {};
+struct QvxsIIRState64fc_32fc  : qvx::iir::Stem<Qvx64fc, Qvx32fc, 0x49493139, 0x49493230> {};
+struct QvxsIIRState64f_32s    : qvx::iir::Stem<Qvx64f,  Qvx32s,  0x49493231, 0x49493232, 0x49493330> {};
+struct QvxsIIRState64fc_32sc  : qvx::iir::Stem<Qvx64fc, Qvx32sc, 0x49493233, 0x49493234> {};
+struct QvxsIIRState64f_16s    : qvx::iir::Stem<Qvx64f,  Qvx16s,  0x49493235, 0x49493236> {};
+struct QvxsIIRState64fc_16sc  : qvx::iir::Stem<Qvx64fc, Qvx16sc, 0x49493237, 0x49493238> {};
 // clang-format on

@@ -5,7 +5,7 @@
 #include "frame/unroll.h"
 #include "iir/record.h"
 
-namespace qvx {
+namespace qvx::iir {
 
 // The transposed direct form: taps b0..bN, a1..aN; the line has N values and a zero behind them.
 template <class T> T directOne(const T* taps, T* line, size_t order, T x) {
@@ -24,7 +24,7 @@ template <class T> T directOne(const T* taps, T* line, size_t order, T x) {
 template <class T> inline constexpr size_t kMostStill = 512 / kParts<T>;
 template <class T> [[gnu::flatten]] void directStill(const T* taps, T* line, size_t order, Lane* work, size_t n) {
   using P = Part<T>;
-  constexpr size_t kParts = qvx::kParts<T>;
+  constexpr size_t kParts = qvx::iir::kParts<T>;
   constexpr size_t kCount = kVectorBytes / sizeof(P);
   constexpr size_t kTogether = 4 / kParts;  // with 4 complex ones, their products' factors fill the registers
   constexpr size_t kBlock = 256;
@@ -101,4 +101,4 @@ template <class T> T df1One(const T* t, T* line, T x) {
   return y;
 }
 
-}  // namespace qvx
+}  // namespace qvx::iir

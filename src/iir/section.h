@@ -16,10 +16,10 @@
 
 #include "iir/number.h"
 
-namespace qvx {
+namespace qvx::iir {
 
 template <class T> struct Section {
-  static constexpr size_t kParts = qvx::kParts<T>;
+  static constexpr size_t kParts = qvx::iir::kParts<T>;
   static constexpr size_t kElements = kLanes / kParts;  // of a vector
   static constexpr size_t kSteps = kElements == 8 ? 3 : kElements == 4 ? 2 : kElements == 2 ? 1 : 0;
   // 64-bit filters keep the poles in twice their digits: a rounded recursion moves them by 80 times the plain loop's error at
@@ -223,4 +223,4 @@ template <class T> struct Section {
   };
 };
 
-}  // namespace qvx
+}  // namespace qvx::iir

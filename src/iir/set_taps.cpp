@@ -2,6 +2,7 @@
 #include "iir/init.h"
 
 using namespace qvx;
+using namespace qvx::iir;
 
 // Contract: these three test for the identities of others, or report a mismatch whatever they did.
 QvxStatus qvxsIIRSetTaps32s_16s(const Qvx32s* taps, QvxsIIRState32s_16s* state, int tapsFactor) {
@@ -19,7 +20,7 @@ QvxStatus qvxsIIRSetTaps32s_16s(const Qvx32s* taps, QvxsIIRState32s_16s* state, 
 namespace {
 
 QvxStatus checkAsFloats(const QvxsIIRState32sc_16sc* state) {
-  constexpr IirMagics kMagics = QvxsIIRState_32fc::kMagics;
+  constexpr Magics kMagics = QvxsIIRState_32fc::kMagics;
   return checkRecord(state, kMagics.direct, kMagics.biQuad);
 }
 
@@ -44,17 +45,17 @@ QvxStatus qvxsIIRSetTaps32sc_16sc32fc(const Qvx32fc* taps, QvxsIIRState32sc_16sc
 }
 
 // clang-format off
-QvxStatus qvxsIIRSetTaps_32f(const Qvx32f* t, QvxsIIRState_32f* s) { return iirSetTaps(t, s); }
-QvxStatus qvxsIIRSetTaps_32fc(const Qvx32fc* t, QvxsIIRState_32fc* s) { return iirSetTaps(t, s); }
-QvxStatus qvxsIIRSetTaps32f_16s(const Qvx32f* t, QvxsIIRState32f_16s* s) { return iirSetTaps(t, s); }
-QvxStatus qvxsIIRSetTaps32fc_16sc(const Qvx32fc* t, QvxsIIRState32fc_16sc* s) { return iirSetTaps(t, s); }
-QvxStatus qvxsIIRSetTaps32s_16s32f(const Qvx32f* t, QvxsIIRState32s_16s* s) { return iirSetTaps(t, s); }
-QvxStatus qvxsIIRSetTaps_64f(const Qvx64f* t, QvxsIIRState_64f* s) { return iirSetTaps(t, s); }
-QvxStatus qvxsIIRSetTaps_64fc(const Qvx64fc* t, QvxsIIRState_64fc* s) { return iirSetTaps(t, s); }
-QvxStatus qvxsIIRSetTaps64f_32f(const Qvx64f* t, QvxsIIRState64f_32f* s) { return iirSetTaps(t, s); }
-QvxStatus qvxsIIRSetTaps64fc_32fc(const Qvx64fc* t, QvxsIIRState64fc_32fc* s) { return iirSetTaps(t, s); }
-QvxStatus qvxsIIRSetTaps64f_32s(const Qvx64f* t, QvxsIIRState64f_32s* s) { return iirSetTaps(t, s); }
-QvxStatus qvxsIIRSetTaps64fc_32sc(const Qvx64fc* t, QvxsIIRState64fc_32sc* s) { return iirSetTaps(t, s); }
-QvxStatus qvxsIIRSetTaps64f_16s(const Qvx64f* t, QvxsIIRState64f_16s* s) { return iirSetTaps(t, s); }
-QvxStatus qvxsIIRSetTaps64fc_16sc(const Qvx64fc* t, QvxsIIRState64fc_16sc* s) { return iirSetTaps(t, s); }
+QvxStatus qvxsIIRSetTaps_32f(const Qvx32f* t, QvxsIIRState_32f* s) { return replaceTaps(t, s); }
+QvxStatus qvxsIIRSetTaps_32fc(const Qvx32fc* t, QvxsIIRState_32fc* s) { return replaceTaps(t, s); }
+QvxStatus qvxsIIRSetTaps32f_16s(const Qvx32f* t, QvxsIIRState32f_16s* s) { return replaceTaps(t, s); }
+QvxStatus qvxsIIRSetTaps32fc_16sc(const Qvx32fc* t, QvxsIIRState32fc_16sc* s) { return replaceTaps(t, s); }
+QvxStatus qvxsIIRSetTaps32s_16s32f(const Qvx32f* t, QvxsIIRState32s_16s* s) { return replaceTaps(t, s); }
+QvxStatus qvxsIIRSetTaps_64f(const Qvx64f* t, QvxsIIRState_64f* s) { return replaceTaps(t, s); }
+QvxStatus qvxsIIRSetTaps_64fc(const Qvx64fc* t, QvxsIIRState_64fc* s) { return replaceTaps(t, s); }
+QvxStatus qvxsIIRSetTaps64f_32f(const Qvx64f* t, QvxsIIRState64f_32f* s) { return replaceTaps(t, s); }
+QvxStatus qvxsIIRSetTaps64fc_32fc(const Qvx64fc* t, QvxsIIRState64fc_32fc* s) { return replaceTaps(t, s); }
+QvxStatus qvxsIIRSetTaps64f_32s(const Qvx64f* t, QvxsIIRState64f_32s* s) { return replaceTaps(t, s); }
+QvxStatus qvxsIIRSetTaps64fc_32sc(const Qvx64fc* t, QvxsIIRState64fc_32sc* s) { return replaceTaps(t, s); }
+QvxStatus qvxsIIRSetTaps64f_16s(const Qvx64f* t, QvxsIIRState64f_16s* s) { return replaceTaps(t, s); }
+QvxStatus qvxsIIRSetTaps64fc_16sc(const Qvx64fc* t, QvxsIIRState64fc_16sc* s) { return replaceTaps(t, s); }
 // clang-format on

@@ -4,7 +4,9 @@
 
 using namespace qvx;
 
-// One side of the filter: its taps in the caller's order, and a window of the last samples, oldest first, with room behind it for
+namespace qvx::iir {
+
+// One side of the filter: its taps in the caller's order, and a window of the last samples, oldest first, with room after it for
 // as many new ones, so that the head of a vector finds its past and itself in one place.
 struct SparseSide {
   Qvx32f* taps;
@@ -13,6 +15,10 @@ struct SparseSide {
   Qvx32s count;
   Qvx32s order;  // the last position
 };
+
+}  // namespace qvx::iir
+
+using qvx::iir::SparseSide;
 
 struct QvxsIIRSparseState_32f {
   SparseSide b;
@@ -96,7 +102,7 @@ QvxStatus qvxsIIRSparseInit_32f(QvxsIIRSparseState_32f** state, const Qvx32f* ta
   if (isNull(state) || isNull(taps) || isNull(positions) || isNull(block)) return qvxStatNullPtr;
   if (tapsB < 1 || tapsA < 1) return qvxStatBadIIROrder;
   if (!increases(positions, tapsB, 0) || !increases(positions + tapsB, tapsA, 1)) return qvxStatBadSparsePos;
-  Carver<8> carver(alignedUp<kAlign>(block));
+  Carver carver(block, kAlign);
   auto* s = carver.take<QvxsIIRSparseState_32f>(1);
   const auto place = [&](SparseSide& side, int count, const Qvx32s* at) {
     side.count = count;

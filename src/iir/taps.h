@@ -3,7 +3,7 @@
 
 #include "iir/record.h"
 
-namespace qvx {
+namespace qvx::iir {
 
 // Multiplication by 1 / a0. A complex reciprocal is taken in P, and rounded to it.
 template <class P, class T> auto normaliser(T a0) {
@@ -22,7 +22,7 @@ template <class P, class T> auto normaliser(T a0) {
 
 // A section's tables. One that would lose accuracy by look-ahead has all of them filtered in lanes, or one sample after the
 // other.
-template <class T> void setSection(IirRecord<T>& s, size_t i, const T* t) {
+template <class T> void setSection(Record<T>& s, size_t i, const T* t) {
   if (s.sections != nullptr) s.sections[i].set(t);
   const bool looksAhead = s.sections != nullptr && s.sections[i].looksAhead;
   const bool isFirst = i == 0;
@@ -34,7 +34,7 @@ template <class T> void setSection(IirRecord<T>& s, size_t i, const T* t) {
   }
 }
 
-template <class T> QvxStatus setDirectTaps(IirRecord<T>& s, const T* taps) {
+template <class T> QvxStatus setDirectTaps(Record<T>& s, const T* taps) {
   const auto n = static_cast<size_t>(s.order);
   const T a0 = taps[n + 1];
   if (isZero(a0)) return qvxStatDivByZero;
@@ -52,7 +52,7 @@ template <class T> QvxStatus setDirectTaps(IirRecord<T>& s, const T* taps) {
 
 // What a section refuses: a0 of 0 always, b0 of 0 but in the direct form I of 32-bit memory, which also takes the taps as they
 // are where a0 is 1.
-template <class T> QvxStatus setSectionTaps(IirRecord<T>& s, const T* taps) {
+template <class T> QvxStatus setSectionTaps(Record<T>& s, const T* taps) {
   const bool hasTables = s.sections != nullptr || s.cascade.isThere();
   const bool asTheyAre = !hasTables;
   for (int i = 0; i < s.numBq; ++i, taps += 6) {
@@ -68,7 +68,7 @@ template <class T> QvxStatus setSectionTaps(IirRecord<T>& s, const T* taps) {
   return qvxStatOk;
 }
 
-template <class T> QvxStatus setTaps(IirRecord<T>& s, const T* taps) {
+template <class T> QvxStatus setTaps(Record<T>& s, const T* taps) {
   return s.isDirect() ? setDirectTaps(s, taps) : setSectionTaps(s, taps);
 }
 
@@ -85,4 +85,4 @@ template <class Taps, class With> QvxStatus withFloatTaps(const Taps* taps, int6
 // Taps of n sections, or of order n.
 constexpr int64_t tapsOf(Form form, int n) { return form == Form::kDirect ? 2 * int64_t{n} + 2 : 6 * int64_t{n}; }
 
-}  // namespace qvx
+}  // namespace qvx::iir

@@ -1,5 +1,5 @@
 // Arctangents of floats.
-#include "vector/arctan.h"
+#include "math/arctan.h"
 
 #include "frame/map.h"
 

@@ -1,5 +1,5 @@
 // Exponentials of floats.
-#include "vector/exp.h"
+#include "math/exp.h"
 
 #include "frame/map.h"
 #include "frame/rounding.h"

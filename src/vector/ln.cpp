@@ -1,5 +1,5 @@
 // Natural logarithms of floats.
-#include "vector/ln.h"
+#include "math/ln.h"
 
 using namespace qvx;
 

@@ -3,7 +3,7 @@
 
 #include "frame/power.h"
 #include "frame/rounding.h"
-#include "vector/ln.h"
+#include "math/ln.h"
 
 using namespace qvx;
 

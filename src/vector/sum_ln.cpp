@@ -1,6 +1,6 @@
 // Sums of natural logarithms: of floats and 16-bit integers one logarithm for four elements, that of their product.
 #include "frame/reduce.h"
-#include "vector/ln.h"
+#include "math/ln.h"
 
 using namespace qvx;
 

@@ -9,7 +9,7 @@
 
 #include "frame/redo.h"
 #include "frame/remainder.h"
-#include "vector/arctan.h"
+#include "math/arctan.h"
 
 namespace qvx {
 

@@ -7,7 +7,7 @@
 #include "frame/simd.h"
 #include "frame/unroll.h"
 
-namespace qvx::fft {
+namespace qvx::transform {
 
 // GCC would keep some of these out of line, and their operands in memory.
 #define QVX_INLINE [[gnu::always_inline]] inline
@@ -159,4 +159,4 @@ template <class V, size_t L> QVX_INLINE void transpose(V (&r)[L]) {
   });
 }
 
-}  // namespace qvx::fft
+}  // namespace qvx::transform

@@ -8,13 +8,18 @@
 // The way back is the same with -C in place of C, and gives half of Z.
 #pragma once
 
-#include "fft/complex_transform.h"
+#include "transform/complex_transform.h"
 
-namespace qvx::fft {
+namespace qvx::transform {
 
-// C and D of k = 1 .. H/2 in groups of L, in the order of interleaved elements; or, for long sequences, the roots exp(-2 pi i k /
-// N) of k = 1 .. kFine, and of 0, kFine, 2 kFine ..., of which each k takes a product.
-template <class T> struct RealRoots {
+// From so many numbers on, one table of n/4 twiddles would fill the caches that the transform itself needs: there are two then,
+// one of kFine neighbours and one of every kFine-th.
+template <class T> inline constexpr size_t kTwoTables = size_t{1} << (sizeof(T) == 4 ? 19 : 17);
+template <class T> inline constexpr size_t kFine = sizeof(T) == 4 ? 1024 : 512;
+
+// C and D of k = 1 .. H/2 in groups of L, in the order of interleaved elements; or, for long sequences, the twiddles exp(-2 pi i
+// k / N) of k = 1 .. kFine, and of 0, kFine, 2 kFine ..., of which each k takes a product.
+template <class T> struct RealTwiddles {
   const T* fine;
   const T* coarse;  // null where there is only one table
 };
@@ -31,7 +36,7 @@ template <class V, bool kInverse> QVX_INLINE void recombine(Complex<V>& a, Compl
 }
 
 // A vector from either end of the lower and the upper half at a time; h from 32 on.
-template <bool kInverse, class T> void recombine(const T* src, T* dst, size_t h, RealRoots<T> roots) {
+template <bool kInverse, class T> void recombine(const T* src, T* dst, size_t h, RealTwiddles<T> twiddles) {
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   const Interleaved<const T, false> from{src};
@@ -39,11 +44,11 @@ template <bool kInverse, class T> void recombine(const T* src, T* dst, size_t h,
   const auto turned = [](Complex<V> z) { return Complex<V>{reversed(z.re), reversed(z.im)}; };
   const V half = same<V>(T(0.5));
   for (size_t k = 0; k < h / 2; k += L) {
-    Complex<V> cd = group<L>(roots.fine + 2 * (isNull(roots.coarse) ? k : k % Orders<T>::kFine));
-    if (!isNull(roots.coarse)) {
-      const T* coarse = roots.coarse + k / Orders<T>::kFine * 2;
-      const Complex<V> root = product(cd, coarse[0], coarse[1]);
-      cd = {half * root.re, hn::MulAdd(half, root.im, half)};
+    Complex<V> cd = group<L>(twiddles.fine + 2 * (isNull(twiddles.coarse) ? k : k % kFine<T>));
+    if (!isNull(twiddles.coarse)) {
+      const T* coarse = twiddles.coarse + k / kFine<T> * 2;
+      const Complex<V> twiddle = product(cd, coarse[0], coarse[1]);
+      cd = {half * twiddle.re, hn::MulAdd(half, twiddle.im, half)};
     }
     Complex<V> a = from.template get<L>(k + 1);
     Complex<V> b = turned(from.template get<L>(h - k - L));
@@ -53,11 +58,11 @@ template <bool kInverse, class T> void recombine(const T* src, T* dst, size_t h,
   }
 }
 
-// Roots k = 1..count in groups: value(real, imaginary part) of exp(-2 pi i k / n).
+// Twiddles k = 1..count in groups: value(real, imaginary part) of exp(-2 pi i k / n).
 template <class T, class Value> void writeRealGroups(T* out, size_t n, size_t count, Value value) {
   constexpr size_t L = kWidest<T>;
   const auto put = intoGroups<L>(out);
-  writeRoots(
+  writeTwiddles(
       n, count, [=](size_t i) { return i / L * L + Interleaved<T, false>::template element<L>(i % L) + 1; },
       [=](size_t i, double re, double im) {
         const auto v = value(re, im);
@@ -65,4 +70,4 @@ template <class T, class Value> void writeRealGroups(T* out, size_t n, size_t co
       });
 }
 
-}  // namespace qvx::fft
+}  // namespace qvx::transform

@@ -8,19 +8,13 @@
 // i / N). X[H] takes the place of Z[0], b of k = 0.
 #pragma once
 
-#include "fft/numbers.h"
+#include "transform/layout.h"
+#include "transform/small_interleaved.h"
 
-namespace qvx::fft {
+namespace qvx::transform {
 
-// ---- Where a spectrum's parts stand. All but the first and the last number are pairs; perm has those of pair k at 2k.
-
-enum class Layout { kPerm, kPack, kCcs };
-
-// Where the real part of pair k stands, and the one number of X[N/2].
-template <Layout kLayout> constexpr size_t placeOf(size_t k) { return kLayout == Layout::kPack ? 2 * k - 1 : 2 * k; }
-template <Layout kLayout> constexpr size_t lastPlace(size_t n) {
-  return kLayout == Layout::kPerm ? 1 : kLayout == Layout::kPack ? n - 1 : n;
-}
+// Where the real part of pair k stands.
+template <SpectrumLayout kLayout> constexpr size_t placeOf(size_t k) { return placeOfPair(kLayout, 2, k); }
 
 template <class V> QVX_INLINE V exchanged(V v) { return hn::ConcatLowerUpper(TagOf<V>(), v, v); }
 template <class V> QVX_INLINE auto firstLane(V v) { return hn::Set(Lanes<LaneOf<V>, 1>(), hn::GetLane(v)); }
@@ -41,20 +35,20 @@ template <class T_, size_t H, bool kInverse> struct RealShape {
 };
 
 // Number k of each vector, and number H - k.
-template <bool kInverse, class V> QVX_INLINE void recombineNumbers(V& a, V& b, const LaneOf<V>* root) {
+template <bool kInverse, class V> QVX_INLINE void recombinePairs(V& a, V& b, const LaneOf<V>* twiddle) {
   const V s = hn::MulAdd(b, alternating<V>(), a);
-  const V t = turned<false>(hn::NegMulAdd(b, alternating<V>(), a), root);
+  const V t = twiddled<false>(hn::NegMulAdd(b, alternating<V>(), a), twiddle);
   a = hn::MulAdd(s, same<V>(LaneOf<V>(kInverse ? 1 : 0.5)), t);
   b = minusPlus(s * alternating < V, kInverse ? 2 : 1 > (), t);
 }
 
 // X[0] and X[N/2], each first in its pair. Whole pairs go out, where a call that works on this one's result loads pairs: of a
 // number from two stores it would wait twice as long.
-template <Layout kLayout, size_t N, class V, class Dst> QVX_INLINE void putEnds(V first, V last, Dst dst) {
-  if constexpr (kLayout == Layout::kCcs) {
+template <SpectrumLayout kLayout, size_t N, class V, class Dst> QVX_INLINE void putEnds(V first, V last, Dst dst) {
+  if constexpr (kLayout == SpectrumLayout::kCcs) {
     dst.put(hn::InterleaveLower(first, hn::Zero(TagOf<V>())), 0);
     dst.put(hn::InterleaveLower(last, hn::Zero(TagOf<V>())), N);
-  } else if constexpr (kLayout == Layout::kPerm) {
+  } else if constexpr (kLayout == SpectrumLayout::kPerm) {
     dst.put(hn::InterleaveLower(first, last), 0);
   } else {
     dst.put(firstLane(first), 0);
@@ -62,19 +56,19 @@ template <Layout kLayout, size_t N, class V, class Dst> QVX_INLINE void putEnds(
   }
 }
 
-template <Layout kLayout, size_t N, class T, class Src, class Dst, class Fit>
-[[gnu::noinline]] QvxStatus smallForward(Src src, Dst dst, Fit fit) {
+template <SpectrumLayout kLayout, size_t N, class T, class Src, class Dst, class Scale>
+[[gnu::noinline]] QvxStatus smallForward(Src src, Dst dst, Scale scale) {
   constexpr size_t H = N / 2;
   using S = RealShape<T, H, false>;
   using V = typename S::V;
   constexpr size_t P = S::P;
   constexpr size_t kVectors = S::kVectors;
   V z[kVectors];
-  transformNumbers<H, false, T>(
+  transformInterleavedPoints<H, false, T>(
       [=](size_t at) __attribute__((always_inline)) { return src.get(TagOf<V>(), 2 * at); },
       [&](size_t at, V v) __attribute__((always_inline)) { z[at / P] = v; });
 
-  const auto put = [=](size_t k, auto v) __attribute__((always_inline)) { dst.put(fit(v), placeOf<kLayout>(k)); };
+  const auto put = [=](size_t k, auto v) __attribute__((always_inline)) { dst.put(scale(v), placeOf<kLayout>(k)); };
   const V first = z[0] + swapped(z[0]);
   const V last = z[0] - swapped(z[0]);
   if constexpr (P == 1) {
@@ -82,7 +76,7 @@ template <Layout kLayout, size_t N, class T, class Src, class Dst, class Fit>
     unrolled<(H > 2 ? H / 2 - 1 : 0)>([&](auto i) __attribute__((always_inline)) {
       constexpr size_t k = i + 1;
       V b = z[H - k];
-      recombineNumbers<false>(z[k], b, kNumberRoots<S, kVectors>.root[k]);
+      recombinePairs<false>(z[k], b, kInterleavedTwiddles<S, kVectors>.twiddle[k]);
       put(k, z[k]);
       put(H - k, b);
     });
@@ -93,7 +87,7 @@ template <Layout kLayout, size_t N, class T, class Src, class Dst, class Fit>
       constexpr size_t k = 2 * q;
       V a = z[q];
       V b = firstAndSecond(z[(kVectors - q) % kVectors], z[kVectors - 1 - q]);
-      recombineNumbers<false>(a, b, kNumberRoots<S, kVectors>.root[q]);
+      recombinePairs<false>(a, b, kInterleavedTwiddles<S, kVectors>.twiddle[q]);
       if constexpr (k == 0) {
         put(1, hn::UpperHalf(one, a));
         put(H - 1, hn::UpperHalf(one, b));
@@ -104,17 +98,17 @@ template <Layout kLayout, size_t N, class T, class Src, class Dst, class Fit>
     });
   }
   if constexpr (P == 1) {
-    putEnds<kLayout, N>(fit(first), fit(last), dst);
+    putEnds<kLayout, N>(scale(first), scale(last), dst);
   } else {
     const Lanes<T, 2> pair;
-    putEnds<kLayout, N>(hn::LowerHalf(pair, fit(first)), hn::LowerHalf(pair, fit(last)), dst);
+    putEnds<kLayout, N>(hn::LowerHalf(pair, scale(first)), hn::LowerHalf(pair, scale(last)), dst);
   }
   return qvxStatOk;
 }
 
 // Of eight numbers, by sums of their own: from load to store 11 cycles instead of 25.
-template <Layout kLayout, class T, class Src, class Dst, class Fit>
-[[gnu::noinline]] QvxStatus forwardOfEight(Src src, Dst dst, Fit fit) {
+template <SpectrumLayout kLayout, class T, class Src, class Dst, class Scale>
+[[gnu::noinline]] QvxStatus forwardOfEight(Src src, Dst dst, Scale scale) {
   constexpr T kHalf = 0.70710678118654752440;
   alignas(16) static constexpr T kTurn[] = {kHalf, -kHalf};
   const Lanes<T, 2> d;
@@ -130,15 +124,15 @@ template <Layout kLayout, class T, class Src, class Dst, class Fit>
   const V mean = a0 + a2;
   const V even = hn::InterleaveLower(b0, b2);
   const V odd = minusPlus(hn::DupOdd(b0), hn::DupOdd(b2));
-  dst.put(fit(hn::MulAdd(odd, load(d, kTurn), even * alternating<V>())), placeOf<kLayout>(1));
-  dst.put(fit((a0 - a2) * alternating<V>()), placeOf<kLayout>(2));
-  dst.put(fit(hn::NegMulAdd(odd, same<V>(kHalf), even)), placeOf<kLayout>(3));
-  putEnds<kLayout, 8>(fit(mean + swapped(mean)), fit(mean - swapped(mean)), dst);
+  dst.put(scale(hn::MulAdd(odd, load(d, kTurn), even * alternating<V>())), placeOf<kLayout>(1));
+  dst.put(scale((a0 - a2) * alternating<V>()), placeOf<kLayout>(2));
+  dst.put(scale(hn::NegMulAdd(odd, same<V>(kHalf), even)), placeOf<kLayout>(3));
+  putEnds<kLayout, 8>(scale(mean + swapped(mean)), scale(mean - swapped(mean)), dst);
   return qvxStatOk;
 }
 
-template <Layout kLayout, size_t N, class T, class Src, class Dst, class Fit>
-[[gnu::noinline]] QvxStatus smallInverse(Src src, Dst dst, Fit fit) {
+template <SpectrumLayout kLayout, size_t N, class T, class Src, class Dst, class Scale>
+[[gnu::noinline]] QvxStatus smallInverse(Src src, Dst dst, Scale scale) {
   constexpr size_t H = N / 2;
   using S = RealShape<T, H, true>;
   using V = typename S::V;
@@ -156,14 +150,14 @@ template <Layout kLayout, size_t N, class T, class Src, class Dst, class Fit>
     return same<V>(hn::GetLane(src.get(Lanes<T, 1>(), at)));
   };
   V mirrored[kVectors];  // numbers H - k and H - k - 1, k = 0, 2 ..
-  const V ends = swapped(minusPlus(everywhere(0), everywhere(lastPlace<kLayout>(N))));
+  const V ends = swapped(minusPlus(everywhere(0), everywhere(placeOfMiddle(kLayout, N))));
   z[0] = ends;
   if constexpr (P == 1) {
     unrolled<(H > 2 ? H / 2 - 1 : 0)>([&](auto i) __attribute__((always_inline)) {
       constexpr size_t k = i + 1;
       z[k] = get(d, k);
       z[H - k] = get(d, H - k);
-      recombineNumbers<true>(z[k], z[H - k], kNumberRoots<S, kVectors>.root[k]);
+      recombinePairs<true>(z[k], z[H - k], kInterleavedTwiddles<S, kVectors>.twiddle[k]);
     });
     if constexpr (H > 1) z[H / 2] = get(d, H / 2) * alternating<V, 4>();
   } else {
@@ -172,17 +166,17 @@ template <Layout kLayout, size_t N, class T, class Src, class Dst, class Fit>
       constexpr size_t k = 2 * q;
       z[q] = k == 0 ? both(1) : get(d, k);
       mirrored[q] = k == 0 ? both(H - 1) : exchanged(get(d, H - k - 1));
-      recombineNumbers<true>(z[q], mirrored[q], kNumberRoots<S, kVectors>.root[q]);
+      recombinePairs<true>(z[q], mirrored[q], kInterleavedTwiddles<S, kVectors>.twiddle[q]);
     });
     z[0] = firstAndSecond(ends, z[0]);
     unrolled<kVectors / 2>([&](auto q) __attribute__((always_inline)) {
       z[kVectors - 1 - q] = firstAndSecond(mirrored[q + 1], mirrored[q]);
     });
   }
-  transformNumbers<H, true, T>(
+  transformInterleavedPoints<H, true, T>(
       [&](size_t at) __attribute__((always_inline)) { return z[at / P]; }, [=
-  ](size_t at, V v) __attribute__((always_inline)) { dst.put(fit(v), 2 * at); });
+  ](size_t at, V v) __attribute__((always_inline)) { dst.put(scale(v), 2 * at); });
   return qvxStatOk;
 }
 
-}  // namespace qvx::fft
+}  // namespace qvx::transform

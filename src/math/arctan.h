@@ -8,7 +8,7 @@
 // instead of 14, and lose 0.3 ULP to their cancellation.
 #pragma once
 
-#include "vector/polynomial.h"
+#include "math/polynomial.h"
 
 namespace qvx {
 

@@ -9,7 +9,7 @@
 #include <cmath>
 
 #include "frame/redo.h"
-#include "vector/polynomial.h"
+#include "math/polynomial.h"
 
 namespace qvx {
 

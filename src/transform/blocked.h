@@ -6,45 +6,47 @@
 // follows as soon as the blocks it needs are done.
 #pragma once
 
-#include "fft/folded.h"
-#include "fft/plan.h"
 #include "frame/stream.h"
+#include "transform/folded.h"
+#include "transform/plan.h"
 
-namespace qvx::fft {
+namespace qvx::transform {
 
-inline constexpr int kBlockBits = 8;
+inline constexpr size_t kBlockPoints = 256;
 
-// The roots of transforms down `rows` rows of `columns` points: of their passes, and those that turn row k of column c by
+// The twiddles of transforms down `rows` rows of `columns` points: of their passes, and those that turn row k of column c by
 // exp(-2 pi i k c / (rows * columns)), as products of one that depends on k and the column within its tile, and one on k and the
 // tile.
-template <class T> struct ColumnRoots {
+template <class T> struct ColumnTwiddles {
   const T* levels;
   const T* lanes;
   const T* tiles;
 };
 
 template <class T> struct BlockedPlan {
-  ColumnRoots<T> outer;
-  ColumnRoots<T> inner;
+  ColumnTwiddles<T> outer;
+  ColumnTwiddles<T> inner;
 };
 
-template <size_t L, class Order, class T> T* writeColumnRoots(ColumnRoots<T>& roots, size_t rows, size_t columns, T* out) {
+template <size_t L, class LaneOrder, class T>
+T* writeColumnTwiddles(ColumnTwiddles<T>& twiddles, size_t rows, size_t columns, T* out) {
   constexpr size_t C = kRowRadix<L>;
   const size_t n = rows * columns;
-  roots.levels = out;
-  T* lanes = alignedUp<64>(writeLevelRoots(levelsFor(log2Of(rows)), rows, out));
-  roots.lanes = lanes;
-  writeRoots(
-      n, rows * C, [](size_t i) { return i / C * (i % C / L * L + Order::template element<L>(i % L)); }, intoGroups<L>(lanes));
+  twiddles.levels = out;
+  T* lanes = alignedUp(writeLevelTwiddles(levelsFor(rows), rows, out), Carver::kLine);
+  twiddles.lanes = lanes;
+  writeTwiddles(
+      n, rows * C, [](size_t i) { return i / C * (i % C / L * L + LaneOrder::template element<L>(i % L)); },
+      intoGroups<L>(lanes));
   T* tiles = lanes + rows * C * 2;
-  roots.tiles = tiles;
-  writeRoots(
+  twiddles.tiles = tiles;
+  writeTwiddles(
       n, n / C, [rows](size_t i) { return i % rows * (i / rows) * C; }, intoPairs(tiles));
-  return alignedUp<64>(tiles + n / C * 2);
+  return alignedUp(tiles + n / C * 2, Carver::kLine);
 }
 
-// The root that turns result `at` of a tile, its row and its column within the tile.
-template <size_t L, class T> QVX_INLINE auto rootAt(const T* lanes, const T* tile, size_t at) {
+// The twiddle that turns result `at` of a tile, its row and its column within the tile.
+template <size_t L, class T> QVX_INLINE auto twiddleAt(const T* lanes, const T* tile, size_t at) {
   const size_t row = at / kRowRadix<L>;
   return product(group<L>(lanes + 2 * at), tile[2 * row], tile[2 * row + 1]);
 }
@@ -52,25 +54,23 @@ template <size_t L, class T> QVX_INLINE auto rootAt(const T* lanes, const T* til
 // Where all levels in place leave a row.
 class DigitsReversed {
  public:
-  explicit DigitsReversed(const Levels& levels) : count_(levels.count) {
-    for (size_t i = 0; i < count_; ++i) bits_[i] = log2Of(levels.radix[i]);
-  }
+  explicit DigitsReversed(const Levels& levels) : levels_(levels) {}
   size_t operator()(size_t row) const {
     size_t reversed = 0;
-    for (size_t i = 0; i < count_; ++i) {
-      reversed = reversed << bits_[i] | (row & ((size_t{1} << bits_[i]) - 1));
-      row >>= bits_[i];
+    for (size_t i = 0; i < levels_.count; ++i) {
+      const size_t radix = levels_.radix[i];
+      reversed = reversed * radix + row % radix;
+      row /= radix;
     }
     return reversed;
   }
 
  private:
-  size_t count_;
-  int bits_[6] = {};
+  Levels levels_;
 };
 
 // The columns of a tile, side by side in the work array.
-template <size_t L, class T> struct Tile {
+template <size_t L, class T> struct ColumnTile {
   T* y;
   size_t rows;
   size_t wide;
@@ -84,10 +84,10 @@ template <size_t L, class T> struct Tile {
 
 // The first level, from the caller's rows.
 template <bool kAhead, size_t R, size_t L, class T, class Src>
-[[gnu::noinline]] void takeColumns(Src src, size_t columns, Tile<L, T> tile, const T* roots) {
+[[gnu::noinline]] void loadColumns(Src src, size_t columns, ColumnTile<L, T> tile, const T* twiddles) {
   using V = Vec<Lanes<T, L>>;
   const size_t part = tile.rows / R;
-  for (size_t q = 0; q < part; ++q, roots += (R - 1) * 2) {
+  for (size_t q = 0; q < part; ++q, twiddles += (R - 1) * 2) {
     for (size_t at = 0; at < tile.wide; at += L) {
       Complex<V> x[R];
       unrolled<R>([&](auto m) __attribute__((always_inline)) {
@@ -97,28 +97,29 @@ template <bool kAhead, size_t R, size_t L, class T, class Src>
       dft(x);
       putGroup<L>(x[0], tile.at(q, at));
       unrolled<R - 1>([&](auto m) __attribute__((always_inline)) {
-        putGroup<L>(product(x[m + 1], roots[2 * m], roots[2 * m + 1]), tile.at(q + (m + 1) * part, at));
+        putGroup<L>(product(x[m + 1], twiddles[2 * m], twiddles[2 * m + 1]), tile.at(q + (m + 1) * part, at));
       });
     }
   }
 }
 
 // The levels between the first and the last, in place.
-template <size_t L, class T> void middleLevels(const Levels& levels, Tile<L, T> tile, const T* roots, size_t level) {
+template <size_t L, class T> void middleLevels(const Levels& levels, ColumnTile<L, T> tile, const T* twiddles, size_t level) {
   if (level + 1 >= levels.count) return;
   const size_t radix = levels.radix[level];
   const size_t part = tile.rows / radix;
-  withRadix(radix, [=](auto R) { innerPass<R, L>(tile.y, part, roots, 0, part, tile.wide / L); });
+  withRadix(radix, [=](auto R) { innerPass<R, L>(tile.y, part, twiddles, 0, part, tile.wide / L); });
   for (size_t a = 0; level + 2 < levels.count && a < radix; ++a) {
-    middleLevels<L>(levels, Tile<L, T>{tile.at(a * part, 0), part, tile.wide}, roots + part * (radix - 1) * 2, level + 1);
+    middleLevels<L>(levels, ColumnTile<L, T>{tile.at(a * part, 0), part, tile.wide}, twiddles + part * (radix - 1) * 2,
+                    level + 1);
   }
 }
 
-// The last one, of rows k = first, first + step .. and what belongs to them, with the roots that turn the results, to where they
-// stand in natural order.
+// The last one, of rows k = first, first + step .. and what belongs to them, with the twiddles that turn the results, to where
+// they stand in natural order.
 template <bool kAhead, size_t R, size_t L, class T, class Dst>
-[[gnu::noinline]] void giveColumns(Tile<L, T> tile, const DigitsReversed& place, size_t first, size_t step, const T* lanes,
-                                   const T* tiles, Dst dst, size_t columns) {
+[[gnu::noinline]] void storeColumns(ColumnTile<L, T> tile, const DigitsReversed& place, size_t first, size_t step, const T* lanes,
+                                    const T* tiles, Dst dst, size_t columns) {
   constexpr size_t C = kRowRadix<L>;
   using V = Vec<Lanes<T, L>>;
   const size_t part = tile.rows / R;
@@ -133,8 +134,8 @@ template <bool kAhead, size_t R, size_t L, class T, class Dst>
       dft(x);
       unrolled<R>([&](auto m) __attribute__((always_inline)) {
         const size_t row = k + m * part;
-        const auto root = rootAt<L>(lanes, tiles + at / C * 2 * tile.rows, row * C + at % C);
-        dst.template put<L>(product(x[m], root), row * columns + at);
+        const auto twiddle = twiddleAt<L>(lanes, tiles + at / C * 2 * tile.rows, row * C + at % C);
+        dst.template put<L>(product(x[m], twiddle), row * columns + at);
       });
     }
   }
@@ -145,19 +146,19 @@ template <bool kAhead, size_t R, size_t L, class T, class Dst>
 // written at 15 GB/s where these are at 50. What the first level has made of a tile goes through the others part by part, in the
 // nearest cache.
 template <bool kAhead, size_t L, class T, class Src, class Dst>
-void downColumns(Src src, Dst dst, size_t rows, size_t columns, size_t wide, const ColumnRoots<T>& roots, T* y) {
+void downColumns(Src src, Dst dst, size_t rows, size_t columns, size_t wide, const ColumnTwiddles<T>& twiddles, T* y) {
   constexpr size_t C = kRowRadix<L>;
-  const Levels levels = levelsFor(log2Of(rows));
+  const Levels levels = levelsFor(rows);
   const DigitsReversed place(levels);
-  const Tile<L, T> tile{y, rows, wide};
+  const ColumnTile<L, T> tile{y, rows, wide};
   const size_t parts = levels.radix[0];
   const size_t part = rows / parts;
   for (size_t c = 0; c < columns; c += wide) {
-    withRadix(parts, [=](auto R) { takeColumns<kAhead, R>(src.from(c), columns, tile, roots.levels); });
+    withRadix(parts, [=](auto R) { loadColumns<kAhead, R>(src.from(c), columns, tile, twiddles.levels); });
     for (size_t a = 0; a < parts; ++a) {
-      middleLevels<L>(levels, Tile<L, T>{tile.at(a * part, 0), part, wide}, roots.levels + part * (parts - 1) * 2, 1);
+      middleLevels<L>(levels, ColumnTile<L, T>{tile.at(a * part, 0), part, wide}, twiddles.levels + part * (parts - 1) * 2, 1);
       withRadix(levels.radix[levels.count - 1], [=, &place](auto R) {
-        giveColumns<kAhead, R>(tile, place, a, parts, roots.lanes, roots.tiles + c / C * 2 * rows, dst.from(c), columns);
+        storeColumns<kAhead, R>(tile, place, a, parts, twiddles.lanes, twiddles.tiles + c / C * 2 * rows, dst.from(c), columns);
       });
     }
   }
@@ -165,16 +166,16 @@ void downColumns(Src src, Dst dst, size_t rows, size_t columns, size_t wide, con
 
 // The same for as many rows as go through registers at once.
 template <size_t R, size_t L, class T, class Dst>
-[[gnu::noinline]] void downShortColumns(Dst dst, size_t columns, const ColumnRoots<T>& roots) {
+[[gnu::noinline]] void downShortColumns(Dst dst, size_t columns, const ColumnTwiddles<T>& twiddles) {
   constexpr size_t C = kRowRadix<L>;
   using V = Vec<Lanes<T, L>>;
   for (size_t c = 0; c < columns; c += L) {
-    const T* tile = roots.tiles + c / C * 2 * R;
+    const T* tile = twiddles.tiles + c / C * 2 * R;
     Complex<V> x[R];
     unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = dst.template get<L>(m * columns + c); });
     dft(x);
     unrolled<R>([&](auto m) __attribute__((always_inline)) {
-      dst.template put<L>(product(x[m], rootAt<L>(roots.lanes, tile, m * C + c % C)), m * columns + c);
+      dst.template put<L>(product(x[m], twiddleAt<L>(twiddles.lanes, tile, m * C + c % C)), m * columns + c);
     });
   }
 }
@@ -244,24 +245,24 @@ void firstColumns(Interleaved<const T, kSwapped> src, Interleaved<T, kSwapped> d
   storeFence();
 }
 template <size_t L, class T, class... Rest>
-void firstColumns(Apart<const T> src, Apart<T> dst, size_t rows, size_t columns, Rest... rest) {
+void firstColumns(Split<const T> src, Split<T> dst, size_t rows, size_t columns, Rest... rest) {
   if (isCached(2 * rows * columns * 2 * sizeof(T))) return downColumns<false, L>(src, dst, rows, columns, rest...);
   downColumns<true, L>(src, dst, rows, columns, rest...);
 }
 
 // n points in place.
-template <size_t L, class T, class Points, class Fit>
-QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Fit fit) {
-  if constexpr (L * L == size_t{1} << kBlockBits) transformInSquare<L>(row, row, plan.rowRoots, fit);
-  else transform<L>(plan, kBlockBits, row, row, y, fit);
+template <size_t L, class T, class Points, class Scale>
+QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Scale scale) {
+  if constexpr (L * L == kBlockPoints) transformInSquare<L>(row, row, plan.rowTwiddles, scale);
+  else runPasses<L>(plan, row, row, y, scale);
 }
 
 // tile: the points of working memory.
-template <size_t L, class Src, class Dst, class T, class Fit>
-void blockedTransform(const Plan<T>& rowPlan, const BlockedPlan<T>& plan, int order, size_t tile, Src src, Dst dst, T* y,
-                      Fit fit) {
-  constexpr size_t n = size_t{1} << kBlockBits;
-  const size_t block = (size_t{1} << order) / n;
+template <size_t L, class Src, class Dst, class T, class Scale>
+void blockedTransform(const Plan<T>& rowPlan, const BlockedPlan<T>& plan, size_t points, size_t tile, Src src, Dst dst, T* y,
+                      Scale scale) {
+  constexpr size_t n = kBlockPoints;
+  const size_t block = points / n;
   const size_t m = block / n;
   firstColumns<L>(src, dst, n, block, std::min({tile / n, block, kSquare<T>}), plan.outer, y);
   for (size_t ka = 0; ka < n; ++ka) {
@@ -270,11 +271,11 @@ void blockedTransform(const Plan<T>& rowPlan, const BlockedPlan<T>& plan, int or
     else downColumns<false, L>(here, here, m, n, std::min(tile / m, n), plan.inner, y);
     for (size_t kb = 0; kb < m; ++kb) {
       const Dst row = here.from(kb * n);
-      rowTransform<L>(rowPlan, row, y, fit);
+      rowTransform<L>(rowPlan, row, y, scale);
     }
     if ((ka + 1) % kSquare<T> != 0) continue;
     for (size_t kb = 0; kb < m; ++kb) transposeUpTo<L>(dst.from(kb * n), ka + 1 - kSquare<T>, block, y);
   }
 }
 
-}  // namespace qvx::fft
+}  // namespace qvx::transform

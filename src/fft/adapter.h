@@ -1,34 +1,25 @@
-// The transform that a kernel type takes the long way by: packed real or complex, dividing on the way back.
+// A transform as other families call it, by the type of their samples: packed real or complex, dividing on the way back, in
+// memory that they carve out for it.
 #pragma once
+
+#include <bit>
 
 #include "frame/map.h"
 
-namespace qvx::fir {
+namespace qvx::fft {
 
-inline constexpr int kInverseDivides = 2;
+inline constexpr int kInverseDivides = QVX_FFT_SCALE_INV;
 
-// kLeastTaps: the shortest filter that has one. kPaysFrom: the shortest that it filters faster than the sum of products, which
-// wide vectors do sooner: of 16 taps and 32fc, AVX-512 takes 0.4 of the transform's time, SSSE3 0.9. kAbove: calls of more
-// samples take it.
 template <class C> struct Transform;
-
-constexpr int byRegisters(int avx512, int avx2, int ssse3) { return kHasMasks ? avx512 : kFuses ? avx2 : ssse3; }
-
-struct RealLimits {
-  static constexpr int kLeastTaps = 64;
-  static constexpr int kAbove = 511;
-};
-template <> struct Transform<Qvx32f> : RealLimits {
+template <> struct Transform<Qvx32f> {
   using Spec = QvxsFFTSpec_R_32f;
-  static constexpr int kPaysFrom = byRegisters(128, 80, 64);
   static constexpr auto kGetSize = qvxsFFTGetSize_R_32f;
   static constexpr auto kInit = qvxsFFTInit_R_32f;
   static constexpr auto kForward = qvxsFFTFwd_RToPerm_32f;
   static constexpr auto kInverse = qvxsFFTInv_PermToR_32f;
 };
-template <> struct Transform<Qvx64f> : RealLimits {
+template <> struct Transform<Qvx64f> {
   using Spec = QvxsFFTSpec_R_64f;
-  static constexpr int kPaysFrom = byRegisters(100, 64, 64);
   static constexpr auto kGetSize = qvxsFFTGetSize_R_64f;
   static constexpr auto kInit = qvxsFFTInit_R_64f;
   static constexpr auto kForward = qvxsFFTFwd_RToPerm_64f;
@@ -36,9 +27,6 @@ template <> struct Transform<Qvx64f> : RealLimits {
 };
 template <> struct Transform<Qvx32fc> {
   using Spec = QvxsFFTSpec_C_32fc;
-  static constexpr int kLeastTaps = 16;
-  static constexpr int kPaysFrom = byRegisters(38, 32, 18);
-  static constexpr int kAbove = 255;
   static constexpr auto kGetSize = qvxsFFTGetSize_C_32fc;
   static constexpr auto kInit = qvxsFFTInit_C_32fc;
   static constexpr auto kForward = qvxsFFTFwd_CToC_32fc;
@@ -46,9 +34,6 @@ template <> struct Transform<Qvx32fc> {
 };
 template <> struct Transform<Qvx64fc> {
   using Spec = QvxsFFTSpec_C_64fc;
-  static constexpr int kLeastTaps = 32;
-  static constexpr int kPaysFrom = kLeastTaps;
-  static constexpr int kAbove = 255;
   static constexpr auto kGetSize = qvxsFFTGetSize_C_64fc;
   static constexpr auto kInit = qvxsFFTInit_C_64fc;
   static constexpr auto kForward = qvxsFFTFwd_CToC_64fc;
@@ -67,6 +52,7 @@ template <class T> void multiplyPacked(const T* spectrum, T* block, int length) 
 inline void multiply(const Qvx32f* spectrum, Qvx32f* block, int length) { multiplyPacked(spectrum, block, length); }
 inline void multiply(const Qvx64f* spectrum, Qvx64f* block, int length) { multiplyPacked(spectrum, block, length); }
 
+// What a transform asks for, in points and bytes.
 struct TransformSizes {
   int length = 0;  // 0: none
   int order = 0;
@@ -74,14 +60,14 @@ struct TransformSizes {
   int init = 0;
   int work = 0;
 
-  template <class C> static TransformSizes of(int tapsLen) {
+  // None where the order is too high.
+  template <class C> static TransformSizes ofOrder(int order) {
     TransformSizes sizes;
-    if (tapsLen < Transform<C>::kLeastTaps) return sizes;
-    sizes.order = std::bit_width(static_cast<uint32_t>(tapsLen)) + 1;
-    const QvxStatus status = Transform<C>::kGetSize(sizes.order, kInverseDivides, 0, &sizes.spec, &sizes.init, &sizes.work);
-    if (status == qvxStatOk) sizes.length = 1 << sizes.order;
+    sizes.order = order;
+    const QvxStatus status = Transform<C>::kGetSize(order, kInverseDivides, 0, &sizes.spec, &sizes.init, &sizes.work);
+    if (status == qvxStatOk) sizes.length = 1 << order;
     return sizes;
   }
 };
 
-}  // namespace qvx::fir
+}  // namespace qvx::fft

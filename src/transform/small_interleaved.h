@@ -5,12 +5,12 @@
 // where one works on the other's result (2 more in registers of 64 bytes, and 7 where a load joins two stores).
 #pragma once
 
-#include "fft/folded.h"
+#include "transform/folded.h"
 
-namespace qvx::fft {
+namespace qvx::transform {
 
 // kSwapped: with real and imaginary parts exchanged.
-template <class V, bool kSwapped> struct Numbers { V v; };
+template <class V, bool kSwapped> struct ComplexVector { V v; };
 
 // So many halves, with both signs in turn.
 template <class T, int kHalves> struct Alternating {
@@ -25,55 +25,57 @@ template <class V, int kHalves = 2> QVX_INLINE V alternating() { return load(Tag
 template <class V> QVX_INLINE V plusI(V a, V b) { return minusPlus(a, swapped(b)); }
 template <class V> QVX_INLINE V minusI(V a, V b) { return hn::MulAdd(swapped(b), alternating<V>(), a); }
 
-template <class V, bool kSwapped> QVX_INLINE auto sum(Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
-  return Numbers<V, kSwapped>{a.v + b.v};
+template <class V, bool kSwapped> QVX_INLINE auto sum(ComplexVector<V, kSwapped> a, ComplexVector<V, kSwapped> b) {
+  return ComplexVector<V, kSwapped>{a.v + b.v};
 }
-template <class V, bool kSwapped> QVX_INLINE auto difference(Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
-  return Numbers<V, kSwapped>{a.v - b.v};
+template <class V, bool kSwapped> QVX_INLINE auto difference(ComplexVector<V, kSwapped> a, ComplexVector<V, kSwapped> b) {
+  return ComplexVector<V, kSwapped>{a.v - b.v};
 }
-template <class V, bool kSwapped> QVX_INLINE auto sumWithI(Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
-  return Numbers<V, kSwapped>{kSwapped ? minusI(a.v, b.v) : plusI(a.v, b.v)};
+template <class V, bool kSwapped> QVX_INLINE auto sumWithI(ComplexVector<V, kSwapped> a, ComplexVector<V, kSwapped> b) {
+  return ComplexVector<V, kSwapped>{kSwapped ? minusI(a.v, b.v) : plusI(a.v, b.v)};
 }
-template <class V, bool kSwapped> QVX_INLINE auto differenceWithI(Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
-  return Numbers<V, kSwapped>{kSwapped ? plusI(a.v, b.v) : minusI(a.v, b.v)};
+template <class V, bool kSwapped> QVX_INLINE auto differenceWithI(ComplexVector<V, kSwapped> a, ComplexVector<V, kSwapped> b) {
+  return ComplexVector<V, kSwapped>{kSwapped ? plusI(a.v, b.v) : minusI(a.v, b.v)};
 }
-template <class V, bool kSwapped> QVX_INLINE auto sumWith(double factor, Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
-  return Numbers<V, kSwapped>{hn::MulAdd(b.v, same<V>(static_cast<LaneOf<V>>(factor)), a.v)};
+template <class V, bool kSwapped>
+QVX_INLINE auto sumWith(double factor, ComplexVector<V, kSwapped> a, ComplexVector<V, kSwapped> b) {
+  return ComplexVector<V, kSwapped>{hn::MulAdd(b.v, same<V>(static_cast<LaneOf<V>>(factor)), a.v)};
 }
-template <class V, bool kSwapped> QVX_INLINE auto differenceWith(double factor, Numbers<V, kSwapped> a, Numbers<V, kSwapped> b) {
-  return Numbers<V, kSwapped>{hn::NegMulAdd(b.v, same<V>(static_cast<LaneOf<V>>(factor)), a.v)};
+template <class V, bool kSwapped>
+QVX_INLINE auto differenceWith(double factor, ComplexVector<V, kSwapped> a, ComplexVector<V, kSwapped> b) {
+  return ComplexVector<V, kSwapped>{hn::NegMulAdd(b.v, same<V>(static_cast<LaneOf<V>>(factor)), a.v)};
 }
-template <class V, bool kSwapped> QVX_INLINE auto product(Numbers<V, kSwapped> z, LaneOf<V> re, LaneOf<V> im) {
-  return Numbers<V, kSwapped>{minusPlus(z.v * same<V>(re), swapped(z.v) * same<V>(kSwapped ? -im : im))};
+template <class V, bool kSwapped> QVX_INLINE auto product(ComplexVector<V, kSwapped> z, LaneOf<V> re, LaneOf<V> im) {
+  return ComplexVector<V, kSwapped>{minusPlus(z.v * same<V>(re), swapped(z.v) * same<V>(kSwapped ? -im : im))};
 }
-template <class V, bool kSwapped> QVX_INLINE auto timesMinusI(Numbers<V, kSwapped> z) {
-  return Numbers<V, kSwapped>{swapped(z.v) * alternating < V, kSwapped ? -2 : 2 > ()};
+template <class V, bool kSwapped> QVX_INLINE auto timesMinusI(ComplexVector<V, kSwapped> z) {
+  return ComplexVector<V, kSwapped>{swapped(z.v) * alternating < V, kSwapped ? -2 : 2 > ()};
 }
 
-// Roots for vectors of P numbers, number l of vector i being exp(-2 pi i x(i, l) / 128) times `factor`: the real part twice, the
-// imaginary part with both signs.
-template <class T, size_t P, size_t kVectors, class Index> struct NumberRoots {
-  T root[kVectors][4 * P];
-  constexpr NumberRoots() : root() {
+// Twiddles for vectors of P numbers, number l of vector i being exp(-2 pi i x(i, l) / 128) times `factor`: the real part twice,
+// the imaginary part with both signs.
+template <class T, size_t P, size_t kVectors, class Index> struct InterleavedTwiddles {
+  T twiddle[kVectors][4 * P];
+  constexpr InterleavedTwiddles() : twiddle() {
     for (size_t i = 0; i < kVectors * P; ++i) {
       const auto re = static_cast<T>(Index::kFactor * cosineOf128(Index()(i / P, i % P)));
       const auto minusIm = static_cast<T>(Index::kFactor * -cosineOf128(Index()(i / P, i % P) + 32));
-      T* at = root[i / P] + 2 * (i % P);
+      T* at = twiddle[i / P] + 2 * (i % P);
       at[0] = at[1] = re;
       at[2 * P] = minusIm;
       at[2 * P + 1] = -minusIm;
     }
   }
 };
-template <bool kSwapped, class V> QVX_INLINE V turned(V v, const LaneOf<V>* root) {
+template <bool kSwapped, class V> QVX_INLINE V twiddled(V v, const LaneOf<V>* twiddle) {
   const TagOf<V> d;
-  const V re = v * load(d, root);
-  const V im = load(d, root + kLanesOf<V>);
+  const V re = v * load(d, twiddle);
+  const V im = load(d, twiddle + kLanesOf<V>);
   return kSwapped ? hn::NegMulAdd(swapped(v), im, re) : hn::MulAdd(swapped(v), im, re);
 }
 
 // As many vectors as they have numbers.
-template <class V, size_t P> QVX_INLINE void transposeNumbers(V (&r)[P]) {
+template <class V, size_t P> QVX_INLINE void transposePoints(V (&r)[P]) {
   if constexpr (sizeof(LaneOf<V>) == 8) {
     transposeBlocks(r);
   } else {
@@ -95,20 +97,21 @@ template <class T_, size_t N> struct Shape {
   static constexpr double kFactor = 1;
   constexpr size_t operator()(size_t vector, size_t l) const { return (vector % (C / P) * P + l) * (vector / (C / P)) * 128 / N; }
 };
-template <class S, size_t kVectors> alignas(64) inline constexpr NumberRoots<typename S::T, S::P, kVectors, S> kNumberRoots;
+template <class S, size_t kVectors>
+alignas(64) inline constexpr InterleavedTwiddles<typename S::T, S::P, kVectors, S> kInterleavedTwiddles;
 
 // put(at, v): results at, at + 1
-template <size_t N, bool kSwapped, class T, class Get, class Put> QVX_INLINE void transformNumbers(Get get, Put put) {
+template <size_t N, bool kSwapped, class T, class Get, class Put> QVX_INLINE void transformInterleavedPoints(Get get, Put put) {
   using S = Shape<T, N>;
   constexpr size_t P = S::P;
-  using Z = Numbers<typename S::V, kSwapped>;
+  using Z = ComplexVector<typename S::V, kSwapped>;
   Z x[S::C / P][S::R];
   unrolled<S::C / P>([&](auto h) __attribute__((always_inline)) {
     unrolled<S::R>([&](auto m) __attribute__((always_inline)) { x[h][m].v = get(m * S::C + h * P); });
     dft(x[h]);
     if constexpr (S::C > 1) {
       unrolled<S::R - 1>([&](auto m) __attribute__((always_inline)) {
-        x[h][m + 1].v = turned<kSwapped>(x[h][m + 1].v, kNumberRoots<S, N / P>.root[(m + 1) * (S::C / P) + h]);
+        x[h][m + 1].v = twiddled<kSwapped>(x[h][m + 1].v, kInterleavedTwiddles<S, N / P>.twiddle[(m + 1) * (S::C / P) + h]);
       });
     }
   });
@@ -117,7 +120,7 @@ template <size_t N, bool kSwapped, class T, class Get, class Put> QVX_INLINE voi
     unrolled<S::C / P>([&](auto h) __attribute__((always_inline)) {
       typename S::V r[P];
       unrolled<P>([&](auto l) __attribute__((always_inline)) { r[l] = x[h][q * P + l].v; });
-      transposeNumbers(r);
+      transposePoints(r);
       unrolled<P>([&](auto l) __attribute__((always_inline)) { y[h * P + l].v = r[l]; });
     });
     dft(y);
@@ -125,4 +128,4 @@ template <size_t N, bool kSwapped, class T, class Get, class Put> QVX_INLINE voi
   });
 }
 
-}  // namespace qvx::fft
+}  // namespace qvx::transform

@@ -2,17 +2,17 @@
 //
 //   row pass     transforms of R points over whole vectors of neighbours; their results turned, and transposed so that a vector
 //                holds neighbouring results and every later pass can work without a shuffle
-//   inner pass   transforms of whole vectors down the rows, in place, turned by one root a vector
-//   last pass    the same without roots, from the work array to where the results stand in natural order
+//   inner pass   transforms of whole vectors down the rows, in place, turned by one twiddle a vector
+//   last pass    the same without twiddles, from the work array to where the results stand in natural order
 //
 // The work array y holds vectors in groups: L real parts, L imaginary parts; row j has R / L groups.
 #pragma once
 
-#include "fft/butterfly.h"
 #include "frame/complex.h"
 #include "frame/stream.h"
+#include "transform/butterfly.h"
 
-namespace qvx::fft {
+namespace qvx::transform {
 
 // The caller's numbers as they stand, for transforms that need no parts apart.
 template <class T> struct Floats {
@@ -29,7 +29,7 @@ template <class T, bool kSwapped_> struct Interleaved {
   static constexpr bool kSwapped = kSwapped_;
   T* p;
 
-  Floats<T> numbers() const { return {p}; }
+  Floats<T> raw() const { return {p}; }
 
   // Shuffles within blocks take half a block from either half of the points.
   template <size_t L> static constexpr size_t element(size_t lane) {
@@ -78,7 +78,7 @@ template <class T, bool kSwapped> struct Streamed {
   Streamed from(size_t at) const { return {p + 2 * at}; }
 };
 
-template <class T> struct Apart {
+template <class T> struct Split {
   using Lane = std::remove_const_t<T>;
   T* re;
   T* im;
@@ -98,18 +98,18 @@ template <class T> struct Apart {
     prefetchLines<L * sizeof(T)>(re + at);
     prefetchLines<L * sizeof(T)>(im + at);
   }
-  Apart from(size_t at) const { return {re + at, im + at}; }
+  Split from(size_t at) const { return {re + at, im + at}; }
 };
 
 template <class T> bool isMissing(const T* v) { return isNull(v); }
 template <class T, bool kSwapped> bool isMissing(Interleaved<T, kSwapped> v) { return isNull(v.p); }
-template <class T> bool isMissing(Apart<T> v) { return isNull(v.re) || isNull(v.im); }
+template <class T> bool isMissing(Split<T> v) { return isNull(v.re) || isNull(v.im); }
 
 // What is done to results on their way out.
-struct Plain {
+struct Unscaled {
   template <class V> QVX_INLINE V operator()(V v) const { return v; }
 };
-template <class T> struct Times {
+template <class T> struct ScaledBy {
   T factor;
   template <class V> QVX_INLINE V operator()(V v) const { return v * same<V>(factor); }
   template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const { return {(*this)(z.re), (*this)(z.im)}; }
@@ -127,17 +127,17 @@ template <size_t L, class T, class V> QVX_INLINE void putGroup(Complex<V> z, T* 
   store(z.im, TagOf<V>(), y + L);
 }
 
-// roots: for each L rows and each k = 1..R-1 a group of exp(-2 pi i j k / N), its lanes in the order of the source's elements.
+// twiddles: for each L rows and each k = 1..R-1 a group of exp(-2 pi i j k / N), its lanes in the order of the source's elements.
 template <size_t L, class T, class Src>
-[[gnu::noinline]] void rowPass(Src src, T* y, size_t rows, const T* roots, size_t from, size_t to) {
+[[gnu::noinline]] void rowPass(Src src, T* y, size_t rows, const T* twiddles, size_t from, size_t to) {
   constexpr size_t R = kRowRadix<L>;
   using V = Vec<Lanes<T, L>>;
-  roots += from * (R - 1) * 2;
-  for (size_t j = from; j < to; j += L, roots += (R - 1) * 2 * L) {
+  twiddles += from * (R - 1) * 2;
+  for (size_t j = from; j < to; j += L, twiddles += (R - 1) * 2 * L) {
     Complex<V> x[R];
     unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = src.template get<L>(j + m * rows); });
     dft(x);
-    unrolled<R - 1>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(roots + m * 2 * L)); });
+    unrolled<R - 1>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(twiddles + m * 2 * L)); });
     unrolled<R / L>([&](auto w) __attribute__((always_inline)) {
       constexpr auto element = &Src::template element<L>;
       const auto out = [&](auto part, T* to) __attribute__((always_inline)) {
@@ -154,15 +154,15 @@ template <size_t L, class T, class Src>
   }
 }
 
-// roots: for each q = 0..stride-1, for k = 1..R-1 exp(-2 pi i q k / (R * stride)), real and imaginary part.
+// twiddles: for each q = 0..stride-1, for k = 1..R-1 exp(-2 pi i q k / (R * stride)), real and imaginary part.
 // width: the vectors of a row.
 template <size_t R, size_t L, class T, class Width = std::integral_constant<size_t, kRowRadix<L> / L>>
-[[gnu::noinline]] void innerPass(T* y, size_t stride, const T* roots, size_t from, size_t to, Width width = {}) {
+[[gnu::noinline]] void innerPass(T* y, size_t stride, const T* twiddles, size_t from, size_t to, Width width = {}) {
   const size_t W = width;
   using V = Vec<Lanes<T, L>>;
   const size_t apart = stride * W * 2 * L;
   for (size_t q = from; q < to; ++q) {
-    const T* w = roots + q * (R - 1) * 2;
+    const T* w = twiddles + q * (R - 1) * 2;
     for (size_t column = 0; column < W; ++column) {
       T* p = y + (q * W + column) * 2 * L;
       Complex<V> x[R];
@@ -177,8 +177,8 @@ template <size_t R, size_t L, class T, class Width = std::integral_constant<size
 }
 
 // `count` transforms of neighbouring rows; result m of the b-th goes to row at + step * (b + count * m).
-template <size_t R, size_t L, class T, class Dst, class Fit>
-[[gnu::noinline]] void lastPass(const T* y, size_t count, Dst dst, size_t at, size_t step, Fit fit) {
+template <size_t R, size_t L, class T, class Dst, class Scale>
+[[gnu::noinline]] void lastPass(const T* y, size_t count, Dst dst, size_t at, size_t step, Scale scale) {
   constexpr size_t W = kRowRadix<L> / L;
   using V = Vec<Lanes<T, L>>;
   for (size_t b = 0; b < count; ++b) {
@@ -187,10 +187,10 @@ template <size_t R, size_t L, class T, class Dst, class Fit>
       unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = group<L>(y + ((b * R + m) * W + column) * 2 * L); });
       dft(x);
       unrolled<R>([&](auto m) __attribute__((always_inline)) {
-        dst.template put<L>(fit(x[m]), ((at + step * (b + count * m)) * W + column) * L);
+        dst.template put<L>(scale(x[m]), ((at + step * (b + count * m)) * W + column) * L);
       });
     }
   }
 }
 
-}  // namespace qvx::fft
+}  // namespace qvx::transform

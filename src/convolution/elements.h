@@ -3,7 +3,7 @@
 
 #include "frame/map.h"
 
-namespace qvx::fir {
+namespace qvx::convolution {
 
 namespace detail {
 
@@ -50,4 +50,4 @@ template <class From, class To> void copyReversed(const From* src, size_t n, To*
   for (size_t i = 0; i < n; ++i) dst[i] = isNull(src) ? To{} : elementAs<To>(src[n - 1 - i]);
 }
 
-}  // namespace qvx::fir
+}  // namespace qvx::convolution

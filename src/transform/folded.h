@@ -7,9 +7,9 @@
 
 #include <algorithm>
 
-#include "fft/passes.h"
+#include "transform/passes.h"
 
-namespace qvx::fft {
+namespace qvx::transform {
 
 // cos(2 pi k / 128)
 inline constexpr double kCosines[] = {1,
@@ -51,10 +51,10 @@ constexpr double cosineOf128(size_t k) {
   return k <= 32 ? kCosines[k] : -kCosines[64 - k];
 }
 
-// Groups of L roots exp(-2 pi i x / kPoints), kPoints up to 128: x(group, lane).
-template <class T, size_t L, size_t kGroups, size_t kPoints, class Index> struct ConstantRoots {
+// Groups of L twiddles exp(-2 pi i x / kPoints), kPoints up to 128: x(group, lane).
+template <class T, size_t L, size_t kGroups, size_t kPoints, class Index> struct ConstantTwiddles {
   T group[kGroups][2 * L];
-  constexpr ConstantRoots() : group() {
+  constexpr ConstantTwiddles() : group() {
     for (size_t i = 0; i < kGroups * L; ++i) {
       const size_t x = Index()(i / L, i % L) * (128 / kPoints);
       group[i / L][i % L] = static_cast<T>(cosineOf128(x));
@@ -116,15 +116,16 @@ template <class V, size_t R> QVX_INLINE void eachPart(Complex<V> (&x)[R], auto s
   of(&Complex<V>::im);
 }
 
-// L * L points. rowRoots: as the row pass takes them.
-template <size_t L, class T, class Src, class Dst, class Fit>
-QVX_INLINE void transformInSquare(Src src, Dst dst, const T* rowRoots, Fit fit) {
+// L * L points. rowTwiddles: as the row pass takes them.
+template <size_t L, class T, class Src, class Dst, class Scale>
+QVX_INLINE void transformInSquare(Src src, Dst dst, const T* rowTwiddles, Scale scale) {
   using V = Vec<Lanes<T, L>>;
   const auto element = [](size_t lane) { return Src::template element<L>(lane); };
   Complex<V> x[L];
   unrolled<L>([&](auto m) __attribute__((always_inline)) { x[m] = src.template get<L>(m * L); });
   dft(x);
-  unrolled<L - 1>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowRoots + m * 2 * L)); });
+  unrolled<L - 1>([&](auto m)
+                      __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowTwiddles + m * 2 * L)); });
   const auto inOrder = [&](auto& r) __attribute__((always_inline)) {
     V rows[L];
     unrolled<L>([&](auto i) __attribute__((always_inline)) { rows[i] = r[element(i)]; });
@@ -133,19 +134,20 @@ QVX_INLINE void transformInSquare(Src src, Dst dst, const T* rowRoots, Fit fit) 
   };
   eachPart(x, inOrder);
   dft(x);
-  unrolled<L>([&](auto k) __attribute__((always_inline)) { dst.template put<L>(fit(x[k]), k * L); });
+  unrolled<L>([&](auto k) __attribute__((always_inline)) { dst.template put<L>(scale(x[k]), k * L); });
 }
 
-// L * L / 2 points. rowRoots: R - 1 groups, k = 1.. of exp(-2 pi i j k / N), lanes j in order.
-template <size_t L, class T, class Src, class Dst, class Fit>
-QVX_INLINE void transformInHalves(Src src, Dst dst, const T* rowRoots, Fit fit) {
+// L * L / 2 points. rowTwiddles: R - 1 groups, k = 1.. of exp(-2 pi i j k / N), lanes j in order.
+template <size_t L, class T, class Src, class Dst, class Scale>
+QVX_INLINE void transformInHalves(Src src, Dst dst, const T* rowTwiddles, Scale scale) {
   constexpr size_t R = L / 2;
   using V = Vec<Lanes<T, L>>;
-  alignas(64) static constexpr ConstantRoots<T, L, R - 1, L, OddHalf<T, L>> kOdd;
+  alignas(64) static constexpr ConstantTwiddles<T, L, R - 1, L, OddHalf<T, L>> kOdd;
   Complex<V> x[R];
   unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = src.template getInOrder<L>(m * L); });
   dft(x);
-  unrolled<R - 1>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowRoots + m * 2 * L)); });
+  unrolled<R - 1>([&](auto m)
+                      __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowTwiddles + m * 2 * L)); });
   eachPart(
       x, [](auto& r) __attribute__((always_inline)) { foldInHalves(r); });
   dft(x);
@@ -155,9 +157,9 @@ QVX_INLINE void transformInHalves(Src src, Dst dst, const T* rowRoots, Fit fit) 
     const Complex<V> b = x[2 * p + 1];
     const Complex<V> even = {evenHalves(a.re, b.re), evenHalves(a.im, b.im)};
     const Complex<V> odd = {oddHalves(a.re, b.re), oddHalves(a.im, b.im)};
-    dst.template putInOrder<L>(fit(sum(even, odd)), p * L);
-    dst.template putInOrder<L>(fit(difference(even, odd)), (p + R / 2) * L);
+    dst.template putInOrder<L>(scale(sum(even, odd)), p * L);
+    dst.template putInOrder<L>(scale(difference(even, odd)), (p + R / 2) * L);
   });
 }
 
-}  // namespace qvx::fft
+}  // namespace qvx::transform

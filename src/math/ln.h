@@ -7,7 +7,7 @@
 
 #include "frame/constants.h"
 #include "frame/map.h"
-#include "vector/polynomial.h"
+#include "math/polynomial.h"
 
 namespace qvx {
 

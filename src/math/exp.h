@@ -8,7 +8,7 @@
 // in w4, so that r stays within 0.022; elsewhere there is one step and r stays within 0.347.
 #pragma once
 
-#include "vector/polynomial.h"
+#include "math/polynomial.h"
 
 namespace qvx {
 

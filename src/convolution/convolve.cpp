@@ -1,0 +1,114 @@
+#include "convolution/convolve.h"
+
+#include "convolution/kernel.h"
+#include "frame/team.h"
+
+namespace qvx::convolution {
+
+namespace {
+
+// Outputs and multiplications (of reals, of 32 bits) from which a call is divided between threads: forking costs up to 5 us, in
+// which one thread does some 600000.
+template <class T> inline constexpr size_t kOutputsWorthTeam = PartsOf<T>::kCount == 1 ? 1601 : 801;
+inline constexpr size_t kProductsWorthTeam = 1 << 21;
+
+template <class K, class Order>
+void plain(const typename K::Element* x, const typename K::Tap* p, size_t taps, size_t count, typename K::Element* y) {
+  filter<K, Order>(x, p, taps, count, [y](auto v, size_t at, auto... some) {
+    constexpr TagOf<decltype(v)> d;
+    if constexpr (sizeof...(some) == 0) store(v, d, parts(y + at));
+    else storeFirst(v, d, parts(y), some * PartsOf<typename K::Element>::kCount...);
+  });
+}
+
+template <class K>
+void divided(const typename K::Element* x, const typename K::Tap* p, size_t taps, size_t count, typename K::Element* y,
+             Call call) {
+  using T = typename K::Element;
+  if (call == Call::kShort) return plain<K, ShortOrder<K::kChannels>>(x, p, taps, count, y);
+  const size_t work = count * taps * PartsOf<T>::kCount * sizeof(T) / sizeof(float);
+  if (count < kOutputsWorthTeam<T> || work < kProductsWorthTeam) return plain<K, LongOrder<K::kChannels>>(x, p, taps, count, y);
+  dividedBetween(ownGetNumThreads(), count, [=](size_t from, size_t some, size_t) {
+    plain<K, LongOrder<K::kChannels>>(x + from, p, taps, some, y + from);
+    return qvxStatOk;
+  });
+}
+
+// Two sums of 32 bits for each element of two 16-bit results.
+struct SumShift {
+  int places;
+
+  static SumShift of(int64_t places) { return {static_cast<int>(std::clamp<int64_t>(places, -31, 32))}; }
+
+  template <class V> auto operator()(Pair<V> sums) const {
+    const TagOf<V> d;
+    return narrow<int16_t>(
+        Pair<V>{shifted(hn::InterleaveLower(d, sums.lo, sums.hi)), shifted(hn::InterleaveUpper(d, sums.lo, sums.hi))});
+  }
+
+ private:
+  template <class V> V shifted(V sum) const {
+    if (places < 0) return roundedShift(sum, -places);
+    return places > 31 ? hn::Zero(TagOf<V>()) : hn::ShiftLeftSame(sum, places);
+  }
+};
+
+// lanes: of y, all that may be written.
+void integers(const Qvx16sc* x, PairedTaps p, size_t lanes, int16_t* y, int64_t places) {
+  const auto shift = SumShift::of(places);
+  filter<PairSum, AnyOrder<PairSum::kChannels>>(x, p.pairs, p.count, (lanes + 1) / 2, [=](auto sums, size_t at, auto... some) {
+    const auto v = shift(sums);
+    constexpr TagOf<decltype(v)> d;
+    constexpr size_t kWhole = hn::MaxLanes(d);
+    if constexpr (sizeof...(some) != 0) storeFirst(v, d, y, lanes);
+    else if (lanes - 2 * at >= kWhole) store(v, d, y + 2 * at);
+    else storeFirst(v, d, y + 2 * at, kWhole - 1);
+  });
+}
+
+}  // namespace
+
+void convolve(const Qvx32f* x, const Qvx32f* p, size_t taps, size_t count, Qvx32f* y, Call call) {
+  divided<RealSum<Qvx32f>>(x, p, taps, count, y, call);
+}
+void convolve(const Qvx64f* x, const Qvx64f* p, size_t taps, size_t count, Qvx64f* y, Call call) {
+  divided<RealSum<Qvx64f>>(x, p, taps, count, y, call);
+}
+void convolve(const Qvx32fc* x, const Qvx32fc* p, size_t taps, size_t count, Qvx32fc* y, Call call) {
+  divided<ComplexSum<Qvx32fc>>(x, parts(p), taps, count, y, call);
+}
+void convolve(const Qvx64fc* x, const Qvx64fc* p, size_t taps, size_t count, Qvx64fc* y, Call call) {
+  divided<ComplexSum<Qvx64fc>>(x, parts(p), taps, count, y, call);
+}
+
+void convolve(const Qvx16s* x, PairedTaps p, size_t count, Qvx16s* y, int64_t places) {
+  integers(reinterpret_cast<const Qvx16sc*>(x), p, count, y, places);
+}
+void convolve(const Qvx16sc* x, PairedTaps p, size_t count, Qvx16sc* y, int64_t places) {
+  integers(x, p, 2 * count, parts(y), places);
+}
+
+PairedTaps paired(const Qvx16s* p, size_t taps, Qvx16sc* pairs) {
+  const auto at = [=](size_t k) { return k < taps ? p[k] : Qvx16s{0}; };
+  const size_t count = pairsOf(taps, Qvx16s());
+  for (size_t k = 0; k < count; ++k) {
+    pairs[2 * k] = {at(2 * k), at(2 * k + 1)};
+    pairs[2 * k + 1] = {at(2 * k - 1), at(2 * k)};
+  }
+  return {pairs, count};
+}
+PairedTaps paired(const Qvx16sc* p, size_t taps, Qvx16sc* pairs) {
+  for (size_t k = 0; k < taps; ++k) {
+    pairs[2 * k] = {p[k].re, static_cast<Qvx16s>(-p[k].im)};
+    pairs[2 * k + 1] = {p[k].im, p[k].re};
+  }
+  return {pairs, taps};
+}
+
+Qvx16s scaledSum(int64_t sum, int64_t places) {
+  const auto wrapped = static_cast<int32_t>(sum);
+  if (places < 0) return scaled<Qvx16s>(int64_t{wrapped}, static_cast<int>(std::min<int64_t>(-places, 31)));
+  return places > 31 ? Qvx16s{0} : saturate<Qvx16s>(static_cast<int32_t>(static_cast<uint32_t>(wrapped) << places));
+}
+
+}  // namespace qvx::convolution

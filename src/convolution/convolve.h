@@ -1,0 +1,44 @@
+// The convolution of every filter, compiled once: y[n] = p[0] * x[n] + ... + p[taps - 1] * x[n + taps - 1] for n below count. The
+// taps are those of the filter in reverse.
+//
+// x has count + taps - 1 elements, and no less than taps - 1 and a vector's. y must not overlap x.
+#pragma once
+
+#include "frame/map.h"
+
+namespace qvx::convolution {
+
+// A vector's elements, for x.
+template <class T> inline constexpr size_t kVectorElements = kVectorBytes / sizeof(T);
+
+// The order in which floats are added up is that of the call they belong to. Within it an output is the same to the bit wherever
+// it stands and whatever count is: a stream may be cut anywhere, into calls of the same kind.
+enum class Call { kShort, kLong };
+inline constexpr size_t kLongestShortCall = 64;
+constexpr Call callOf(size_t outputs) { return outputs <= kLongestShortCall ? Call::kShort : Call::kLong; }
+
+void convolve(const Qvx32f* x, const Qvx32f* p, size_t taps, size_t count, Qvx32f* y, Call call);
+void convolve(const Qvx64f* x, const Qvx64f* p, size_t taps, size_t count, Qvx64f* y, Call call);
+void convolve(const Qvx32fc* x, const Qvx32fc* p, size_t taps, size_t count, Qvx32fc* y, Call call);
+void convolve(const Qvx64fc* x, const Qvx64fc* p, size_t taps, size_t count, Qvx64fc* y, Call call);
+
+// Integers, in sums of 32 bits that wrap; each result is the sum times 2^places, rounded to nearest even or wrapped at 32 bits,
+// and saturated. The taps stand in pairs for the multiplication of pairs. x may be read up to two vectors past its end.
+struct PairedTaps {
+  const Qvx16sc* pairs;
+  size_t count;
+};
+// Pairs of real taps: those that begin at even places, for even outputs, each followed by the one that begins a place before, for
+// the output after. Of complex ones: (re, -im) for the real part, followed by (im, re).
+constexpr size_t pairsOf(size_t taps, Qvx16s) { return taps / 2 + 1; }
+constexpr size_t pairsOf(size_t taps, Qvx16sc) { return taps; }
+PairedTaps paired(const Qvx16s* p, size_t taps, Qvx16sc* pairs);
+PairedTaps paired(const Qvx16sc* p, size_t taps, Qvx16sc* pairs);
+
+void convolve(const Qvx16s* x, PairedTaps p, size_t count, Qvx16s* y, int64_t places);
+void convolve(const Qvx16sc* x, PairedTaps p, size_t count, Qvx16sc* y, int64_t places);
+
+// The same of one sum.
+Qvx16s scaledSum(int64_t sum, int64_t places);
+
+}  // namespace qvx::convolution

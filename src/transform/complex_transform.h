@@ -1,0 +1,101 @@
+// A complex transform of a power of two, whatever its length and whoever asks for it.
+#pragma once
+
+#include "transform/blocked.h"
+#include "transform/small.h"
+
+namespace qvx::transform {
+
+// From here on, the longest that the caches serve whole; longer ones go by blocks.
+template <class T> inline constexpr size_t kLongestInCache = size_t{1} << (sizeof(T) == 4 ? 17 : 16);
+// From here on two threads are faster than one.
+template <class T> inline constexpr size_t kWorthTeam = size_t{1} << (sizeof(T) == 4 ? 14 : 13);
+
+// Passes and twiddles of n points.
+template <class T> struct ComplexPlan {
+  uint32_t n;
+  int32_t workBytes;
+  Plan<T> plan;  // of the transform, or of the rows of a blocked one
+  BlockedPlan<T> blocked;
+};
+
+// The lanes of a transform that keeps its twiddles in a record.
+template <class T, class Step> QVX_INLINE void withLanes(size_t n, Step step) {
+  constexpr size_t kFull = kWidest<T>;
+  if constexpr (kFull * kFull > 64) {
+    if (lanesFor<T>(n) != kFull) return step(std::integral_constant<size_t, kFull / 2>());
+  }
+  step(std::integral_constant<size_t, kFull>());
+}
+
+// Lengths that the widest registers hold whole, and how.
+enum class Fold { kNone, kSquare, kHalves };
+template <class T> constexpr Fold foldOf(size_t n) {
+  constexpr size_t kSquare = kWidest<T> * kWidest<T>;
+  if (n <= size_t{1} << kShortOrder<Split<T>>) return Fold::kNone;
+  return n == kSquare ? Fold::kSquare : 2 * n == kSquare ? Fold::kHalves : Fold::kNone;
+}
+
+// The twiddles of n points, from `block` on; the end of them. LaneOrder: that of the lanes in its source.
+template <class LaneOrder, class T> T* writePasses(Plan<T>& plan, size_t n, T* block) {
+  T* const row = alignedUp(block, Carver::kLine);
+  plan.rowTwiddles = row;
+  if (foldOf<T>(n) == Fold::kHalves) {
+    constexpr size_t L = kWidest<T>;
+    writeTwiddles(
+        n, n - L, [](size_t i) { return i % L * (i / L + 1); }, intoGroups<L>(row));
+    return row + 2 * (n - L);
+  }
+  T* end = row;
+  withLanes<T>(n, [&](auto L) {
+    plan.rows = static_cast<uint32_t>(n / kRowRadix<L>);
+    plan.levels = levelsFor(plan.rows);
+    T* const levels = writeRowTwiddles<L, LaneOrder>(plan.rows, row);
+    plan.levelTwiddles = levels;
+    end = writeLevelTwiddles(plan.levels, plan.rows, levels);
+  });
+  return end;
+}
+template <class LaneOrder, class T> T* writePlan(ComplexPlan<T>& plan, size_t n, T* block) {
+  plan.n = static_cast<uint32_t>(n);
+  if (n <= size_t{1} << kShortOrder<LaneOrder>) return block;
+  if (n <= kLongestInCache<T>) return writePasses<LaneOrder>(plan.plan, n, block);
+  constexpr size_t L = kWidest<T>;
+  const size_t m = n / kBlockPoints / kBlockPoints;
+  T* end = writePasses<LaneOrder>(plan.plan, kBlockPoints, block);
+  end = writeColumnTwiddles<L, LaneOrder>(plan.blocked.outer, kBlockPoints, m * kBlockPoints, end);
+  return writeColumnTwiddles<L, LaneOrder>(plan.blocked.inner, m, kBlockPoints, end);
+}
+
+// More points than those of smallTransform.
+template <class T, class Src, class Dst, class Scale>
+[[gnu::noinline]] void longTransform(const ComplexPlan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
+  if (plan.n > kLongestInCache<T>) {
+    const size_t tile = static_cast<size_t>(plan.workBytes) / (2 * sizeof(T));
+    return blockedTransform<kWidest<T>>(plan.plan, plan.blocked, plan.n, tile, src, dst, y, scale);
+  }
+  constexpr size_t L = kWidest<T>;
+  if (plan.plan.threads > 1 && plan.n >= kWorthTeam<T>) {
+    const int threads = std::min(int{plan.plan.threads}, ownGetNumThreads());
+    if (threads > 1) return runPassesInTeam<L>(threads, plan.plan, src, dst, y, scale);
+  }
+  switch (foldOf<T>(plan.n)) {
+    case Fold::kSquare:
+      if constexpr (L >= 8) return transformInSquare<L>(src, dst, plan.plan.rowTwiddles, scale);
+      break;
+    case Fold::kHalves:
+      if constexpr (L >= 16) return transformInHalves<L>(src, dst, plan.plan.rowTwiddles, scale);
+      break;
+    case Fold::kNone:
+      break;
+  }
+  withLanes<T>(plan.n, [&](auto L) { runPasses<L>(plan.plan, src, dst, y, scale); });
+}
+
+template <class T, class Src, class Dst, class Scale>
+QVX_INLINE void complexTransform(const ComplexPlan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
+  if (plan.n <= size_t{1} << kShortOrder<Src>) smallTransform(log2Of(plan.n), src, dst, scale);
+  else longTransform(plan, src, dst, y, scale);
+}
+
+}  // namespace qvx::transform

@@ -1,0 +1,194 @@
+// Which passes a transform takes, and their twiddles.
+#pragma once
+
+#include <algorithm>
+#include <array>
+
+#include "frame/record.h"
+#include "frame/team.h"
+#include "math/sin_cos.h"
+#include "transform/passes.h"
+
+namespace qvx::transform {
+
+// The lanes of a transform of n points: as many as give the row pass a whole register in both directions.
+template <class T> inline constexpr size_t kWidest = kVectorBytes / sizeof(T);
+template <class T> constexpr size_t lanesFor(size_t n) {
+  size_t lanes = kWidest<T>;
+  while (lanes > 2 && lanes * lanes > n) lanes /= 2;
+  return lanes;
+}
+
+constexpr int log2Of(size_t n) {
+  int bits = 0;
+  while (n >> bits > 1) ++bits;
+  return bits;
+}
+
+// The radices of the passes down a number of rows, the last pass's last.
+struct Levels {
+  static constexpr size_t kMost = 7;
+  uint8_t count = 0;
+  uint8_t radix[kMost] = {};
+};
+
+// Of a power of two. Measured: radices of large strides stay small, since points a power of two apart share a set of the cache;
+// and 16 points need 32 registers.
+constexpr Levels levelsFor(size_t rows) {
+  // log2 of each
+  constexpr const char* kWide[] = {"", "1", "2", "3", "4", "23", "33", "34", "233", "333", "343", "3422", "22422", "33322"};
+  constexpr const char* kNarrow[] = {"",    "1",   "2",    "3",    "22",    "23",    "33",    "223",
+                                     "233", "333", "2233", "3233", "32322", "32323", "33332", "333222"};
+  Levels levels;
+  const int log2Rows = log2Of(rows);
+  for (const char* bits = kHasMasks ? kWide[log2Rows] : kNarrow[log2Rows]; *bits != 0; ++bits) {
+    levels.radix[levels.count++] = static_cast<uint8_t>(1 << (*bits - '0'));
+  }
+  return levels;
+}
+
+// A transform of rows * kRowRadix<L> points.
+template <class T> struct Plan {
+  const T* rowTwiddles;
+  const T* levelTwiddles;  // one level's after another's
+  uint32_t rows;
+  Levels levels;
+  uint8_t threads;
+};
+
+inline constexpr size_t kWidestRadix = kHasMasks ? 16 : 8;
+
+template <class Step> QVX_INLINE void withRadix(size_t radix, Step step) {
+  switch (radix) {
+    case 2:
+      return step(std::integral_constant<size_t, 2>());
+    case 4:
+      return step(std::integral_constant<size_t, 4>());
+    case 8:
+      return step(std::integral_constant<size_t, 8>());
+    default:
+      if constexpr (kHasMasks) return step(std::integral_constant<size_t, 16>());
+  }
+}
+
+// All passes after the row pass, block by block so that each is in the nearest cache that holds it.
+template <size_t L, class T, class Dst, class Scale> struct Columns {
+  static constexpr size_t kRow = kRowRadix<L> * 2;  // of y, in T
+
+  Levels levels;
+  Dst dst;
+  Scale scale;
+
+  static void inner(size_t radix, T* y, size_t stride, const T* twiddles, size_t from, size_t to) {
+    withRadix(radix, [=](auto R) { innerPass<R, L>(y, stride, twiddles, from, to); });
+  }
+  void last(const T* y, size_t count, size_t at, size_t step) const {
+    withRadix(levels.radix[levels.count - 1], [=, this](auto R) { lastPass<R, L>(y, count, dst, at, step, scale); });
+  }
+  // One block of `rows` rows, whose results go to rows at, at + step ...
+  void block(T* y, size_t rows, const T* twiddles, size_t level, size_t at, size_t step) const {
+    if (level + 1 == levels.count) return last(y, 1, at, step);
+    const size_t radix = levels.radix[level];
+    inner(radix, y, rows / radix, twiddles, 0, rows / radix);
+    within(y, rows, twiddles, level, at, step, 0, radix);
+  }
+  // The parts `from` to `to` that the inner pass of this level has made of a block.
+  void within(T* y, size_t rows, const T* twiddles, size_t level, size_t at, size_t step, size_t from, size_t to) const {
+    const size_t radix = levels.radix[level];
+    const size_t part = rows / radix;
+    if (level + 2 == levels.count && from == 0 && to == radix) return last(y, radix, at, step);
+    for (size_t a = from; a < to; ++a) {
+      block(y + a * part * kRow, part, twiddles + part * (radix - 1) * 2, level + 1, at + a * step, step * radix);
+    }
+  }
+};
+
+template <size_t L, class T, class Src, class Dst, class Scale>
+void runPasses(const Plan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
+  rowPass<L>(src, y, plan.rows, plan.rowTwiddles, 0, plan.rows);
+  Columns<L, T, Dst, Scale>{plan.levels, dst, scale}.block(y, plan.rows, plan.levelTwiddles, 0, 0, 1);
+}
+
+// The same by some threads: the row pass by its blocks, the first inner pass by its rows, and then the parts that it has made.
+template <size_t L, class T, class Src, class Dst, class Scale>
+void runPassesInTeam(int threads, const Plan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
+  const size_t rows = plan.rows;
+  const Columns<L, T, Dst, Scale> columns{plan.levels, dst, scale};
+  const size_t radix = columns.levels.radix[0];
+  inThreads(threads, [&](size_t thread, size_t count) {
+    const auto from = [=](size_t parts) { return parts * thread / count; };
+    const auto to = [=](size_t parts) { return parts * (thread + 1) / count; };
+    rowPass<L>(src, y, rows, plan.rowTwiddles, from(rows / L) * L, to(rows / L) * L);
+#pragma omp barrier
+    columns.inner(radix, y, rows / radix, plan.levelTwiddles, from(rows / radix), to(rows / radix));
+#pragma omp barrier
+    columns.within(y, rows, plan.levelTwiddles, 0, 0, 1, from(radix), to(radix));
+    return qvxStatOk;
+  });
+}
+
+// ---- Twiddles
+
+// For i = 0..count-1: put(i, cos, sin) of -2 pi x(i) / n. Many at a time: what goes through memory between scalars and vectors
+// has arrived when it is read: 3 ns for a twiddle instead of 5.
+template <class Index, class Put> void writeTwiddles(size_t n, size_t count, Index x, Put put) {
+  constexpr size_t kMany = 64;
+  constexpr size_t kLanes = kVectorBytes / sizeof(double);
+  const Lanes<double, kLanes> d;
+  const double step = -1 / static_cast<double>(n);
+  const size_t mask = (n & (n - 1)) == 0 ? n - 1 : 0;
+  double turns[kMany] = {};
+  double cosine[kMany];
+  double sine[kMany];
+  for (size_t i = 0; i < count; i += kMany) {
+    const size_t here = std::min(kMany, count - i);
+    for (size_t k = 0; k < here; ++k) {
+      const size_t at = mask != 0 ? x(i + k) & mask : x(i + k) % n;
+      turns[k] = static_cast<double>(static_cast<int64_t>(at)) * step;
+    }
+    for (size_t k = 0; k < here; k += kLanes) {
+      const auto twiddle = sinCosOfTurns(load(d, turns + k));
+      store(twiddle.cosine, d, cosine + k);
+      store(twiddle.sine, d, sine + k);
+    }
+    for (size_t k = 0; k < here; ++k) put(i + k, cosine[k], sine[k]);
+  }
+}
+
+// Where they go: into groups of L, or each with its parts side by side.
+template <size_t L, class T> auto intoGroups(T* out) {
+  return [out](size_t i, double re, double im) {
+    T* at = out + i / L * 2 * L + i % L;
+    at[0] = static_cast<T>(re);
+    at[L] = static_cast<T>(im);
+  };
+}
+template <class T> auto intoPairs(T* out) {
+  return [out](size_t i, double re, double im) {
+    out[2 * i] = static_cast<T>(re);
+    out[2 * i + 1] = static_cast<T>(im);
+  };
+}
+
+template <size_t L, class LaneOrder, class T> T* writeRowTwiddles(size_t rows, T* out) {
+  constexpr size_t R = kRowRadix<L>;
+  const size_t count = rows * (R - 1);
+  writeTwiddles(
+      rows * R, count,
+      [](size_t i) { return (i / (L * (R - 1)) * L + LaneOrder::template element<L>(i % L)) * (i / L % (R - 1) + 1); },
+      intoGroups<L>(out));
+  return out + 2 * count;
+}
+
+template <class T> T* writeLevelTwiddles(const Levels& levels, size_t rows, T* out) {
+  for (size_t level = 0; level + 1 < levels.count; ++level) {
+    const size_t k = levels.radix[level] - 1U;
+    writeTwiddles(
+        rows, rows / (k + 1) * k, [k](size_t i) { return i / k * (i % k + 1); }, intoPairs(out));
+    rows /= k + 1;
+    out += rows * k * 2;
+  }
+  return out;
+}
+
+}  // namespace qvx::transform
