@@ -41,8 +41,8 @@ QvxStatus throughFloats(const T* src, T* dst, const Record& spec, int scaleFacto
   using From = InterleavedIntegers<Float, FromIntegers<Float, T>, kInverse>;
   using To = InterleavedIntegers<Float, ToIntegers<Float, T>, kInverse>;
   if (spec.order <= kShortOrder<From>) {
-    return inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](auto scale, Float factor) {
-      return smallTransform(order, From{{src}}, To{{dst, factor}}, scale);
+    return inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](Float factor) {
+      return smallTransform(order, From{{src}}, To{{dst, factor}}, Unscaled{});
     });
   }
   const int count = 2 << spec.order;
@@ -95,10 +95,10 @@ QvxStatus throughFloats(Parts<const T> src, Parts<T> dst, const Record& spec, in
   using From = SplitIntegers<Float, FromIntegers<Float, T>>;
   using To = SplitIntegers<Float, ToIntegers<Float, T>>;
   if (spec.order <= kShortOrder<From>) {
-    return inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](auto scale, Float factor) {
+    return inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](Float factor) {
       const From from = kInverse ? From{{src.im}, {src.re}} : From{{src.re}, {src.im}};
       const To to = kInverse ? To{{dst.im, factor}, {dst.re, factor}} : To{{dst.re, factor}, {dst.im, factor}};
-      return smallTransform(order, from, to, scale);
+      return smallTransform(order, from, to, Unscaled{});
     });
   }
   const int n = 1 << spec.order;

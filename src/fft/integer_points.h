@@ -17,7 +17,7 @@ template <class T, class Int> struct FromIntegers {
   template <class D> QVX_INLINE auto get(D, size_t at) const { return convertLanes<T>(load(hn::Rebind<Int, D>(), p + at)); }
 };
 
-// factor: the power of two that a scale factor stands for.
+// factor: that of the transform, times the power of two that a scale factor stands for.
 template <class T, class Int> struct ToIntegers {
   Int* p;
   T factor;
@@ -54,13 +54,12 @@ template <class T, class Ints> struct SplitIntegers {
   template <size_t L, class V> QVX_INLINE void putInOrder(Complex<V> z, size_t at) const { put<L>(z, at); }
 };
 
-// run(scale, factor), scale being what the flag says of this direction.
+// run(factor) with what the flag says of this direction and the scale factor, in one: their product is exact.
 template <bool kInverse, class Spec, class Run> QVX_INLINE QvxStatus inRegisters(const Spec& spec, int scaleFactor, Run run) {
   using T = typename Spec::T;
   const RoundingScope scope(kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest);
-  const T factor = powerOfTwo<T>(-int64_t{scaleFactor});
-  return withScale<kInverse>(
-      spec, [=](auto scale) __attribute__((always_inline)) { return run(scale, factor); });
+  const bool isScaled = kInverse ? spec.invScaled : spec.fwdScaled;
+  return run(powerOfTwo<T>(-int64_t{scaleFactor}) * (isScaled ? spec.normFactor : T{1}));
 }
 
 }  // namespace qvx::fft

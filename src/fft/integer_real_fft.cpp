@@ -45,8 +45,8 @@ QvxStatus inverseInIntegers(const Qvx16s* src, Qvx16s* dst, const QvxsFFTSpec_R_
 template <bool kInverse, SpectrumLayout kLayout, class Record, class In, class Out>
 QvxStatus inRegisters(const In* src, Out* dst, const Record& spec, int scaleFactor) {
   using T = typename Record::Floats::T;
-  return fft::inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](auto scale, T factor) {
-    return shortReal<kInverse, kLayout, T>(order, FromIntegers<T, In>{src}, ToIntegers<T, Out>{dst, factor}, scale);
+  return fft::inRegisters<kInverse>(*spec.floats, scaleFactor, [=, order = spec.order](T factor) {
+    return shortReal<kInverse, kLayout, T>(order, FromIntegers<T, In>{src}, ToIntegers<T, Out>{dst, factor}, Unscaled{});
   });
 }
 

@@ -146,8 +146,8 @@ TEST_P(Threads, CallersFloatingPointEnvironment) {
 // Any function, filters with records made for as many threads among them; but the sizes of these records count the threads.
 TEST(AnyFunction, GivesTheSame) {
   for (const Export& e : tests::exportTable()) {
-    if (e.contains("StateSize")) continue;
-    for (uint64_t seed = 1; e.call && seed <= (e.contains("FIR") ? 8 : 1) && !testing::Test::HasFailure(); ++seed) {
+    if (!e.call || tests::traitsOf(e).is("threads")) continue;
+    for (uint64_t seed = 1; seed <= (tests::traitsOf(e).is("rounds") ? 4 : 1) && !testing::Test::HasFailure(); ++seed) {
       expectSame(e, {2, 5}, 20011, nullptr, seed);
     }
   }

@@ -85,6 +85,7 @@ TEST(IirState, RefusesALeadingTapOfZero) {
       EXPECT_EQ(m.init[form](&s, bad.data(), 3, nullptr, block.data()), qvxStatDivByZero);
       EXPECT_NE(s, nullptr) << "refused with the pointer set";
       EXPECT_EQ(m.initAlloc[form](&s, bad.data(), 3, nullptr), qvxStatDivByZero);
+      EXPECT_EQ(s, nullptr) << "leads to released memory";
       if (isComplex<T>) {  // it is 0 only if both parts are
         reinterpret_cast<Part<T>*>(&bad[form == 0 ? 4 : 9])[1] = NAN;
         EXPECT_EQ(m.init[form](&s, bad.data(), 3, nullptr, block.data()), qvxStatOk);

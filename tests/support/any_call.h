@@ -16,12 +16,13 @@
 #include "support/choices.h"
 #include "support/exports.h"
 #include "support/refusals.h"
+#include "support/traits.h"
 
 namespace tests {
 
 // What must not make a difference.
 struct Surroundings {
-  int offset = -1;           // of vectors behind the start of their blocks; -1: they end where their blocks end
+  int offset = -1;           // of vectors from the start of their blocks; -1: they end where their blocks end
   uint8_t garbage = 0;       // in destinations and working memory
   bool inOneVector = false;  // the destination is the source, where that is allowed
   int length = 0;            // of the vectors; 0: as it is drawn
@@ -30,9 +31,6 @@ struct Surroundings {
 inline bool contains(const std::string& text, std::initializer_list<const char*> parts) {
   return std::any_of(parts.begin(), parts.end(), [&](const char* part) { return text.find(part) != text.npos; });
 }
-
-// Refuses a channel, a half or a section when it comes to it: what was before it is written.
-inline bool refusesInTheMiddle(const Export& e) { return contains(e.name, {"_P", "_IP", "CartToPolar", "One_BiQuadDirect"}); }
 
 inline std::string replaced(std::string text, const char* what, const char* with) {
   const size_t at = text.find(what);
@@ -46,7 +44,7 @@ inline void* linked(const Export& e) { return e.address; }
 class AnyCall : public Arguments {
  public:
   AnyCall(const Export& e, Choices choices, Memory& memory, Surroundings around = {}, Library library = linked)
-      : export_(e), memory_(memory), around_(around), library_(std::move(library)) {
+      : export_(e), traits_(traitsOf(e)), memory_(memory), around_(around), library_(std::move(library)) {
     prepare(choices);
   }
   AnyCall(const AnyCall&) = delete;
@@ -118,6 +116,13 @@ class AnyCall : public Arguments {
       return v.block->isIntact() && (isFree || std::equal(v.copy.begin(), v.copy.end(), v.data()));
     });
   }
+  // Where a record's address goes: as it was, or null.
+  bool leadsNowhere() const {
+    return std::all_of(vectors_.begin(), vectors_.end(), [](const Vector& v) {
+      const auto isZero = [](uint8_t byte) { return byte == 0; };
+      return v.role != Role::kHandle || std::equal(v.copy.begin(), v.copy.end(), v.at) || std::all_of(v.at, v.at + v.bytes, isZero);
+    });
+  }
   int64_t shape(const std::string& name) const {
     const auto found = shape_.find(name);
     return found == shape_.end() ? 0 : found->second;
@@ -154,23 +159,18 @@ class AnyCall : public Arguments {
   int64_t drawInteger(const Parameter& p, Choices& choices);
   double drawReal(const Parameter& p, Choices& choices);
   size_t extent(const Parameter& p) const;
-  size_t samples() const {
-    for (const char* name : {"len", "numIters", "chanLen"}) {
-      if (shape_.count(name) != 0) return static_cast<size_t>(std::max<int64_t>(shape(name), 0));
-    }
-    return 1;
-  }
   uint8_t* vector(size_t bytes, Role role, size_t index, const std::function<void(uint8_t*)>& fill);
   void fill(uint8_t* p, size_t bytes, const Parameter& parameter, Choices& choices);
   void fillTaps(uint8_t* p, const Parameter& parameter, Choices& choices);
   void* recordOf(std::string type, bool isConst, Choices& choices);
   void* pointerFor(size_t index, size_t elementSize, bool isConst, char kind, Choices& choices);
   void* sourceInPlace(const Parameter& destination);
-  int sizeFor(const std::string& maker, const char* which);
+  int sizeFor(const std::string& maker, const std::string& which);
   void release();
 
   struct Drawing;
   const Export& export_;
+  const Traits& traits_;
   Memory& memory_;
   Surroundings around_;
   Library library_;
@@ -181,76 +181,38 @@ class AnyCall : public Arguments {
   std::vector<Vector> vectors_;
   std::vector<Record> records_;
   std::deque<std::vector<void*>> arrays_;
+  const Export* maker_ = nullptr;  // of the record
   QvxStatus status_ = qvxStatBadArg;
 };
 
 // ---- arguments that are numbers
 
 inline int64_t AnyCall::drawInteger(const Parameter& p, Choices& choices) {
-  static const std::map<std::string, std::pair<int, int>> ranges = {
-      {"order", {1, 12}},        {"orderA", {1, 20}},         {"orderB", {0, 20}},    {"numBq", {1, 9}},
-      {"nChannels", {1, 5}},     {"nzTapsLenB", {1, 5}},      {"nzTapsLenA", {1, 5}}, {"srcBitOffset", {0, 19}},
-      {"dstBitOffset", {0, 19}}, {"filterType", {0, 1}},      {"hint", {0, 2}},       {"rndMode", {0, 2}},
-      {"tapsFactor", {0, 18}},   {"phaseFixedPoint", {0, 16}}};
-  const auto range = ranges.find(p.name);
-  if (p.name == "order" && export_.contains("FFT")) return choices.between(0, 11);
-  if (p.name == "order" && !export_.contains("Gen") && choices.oneIn(6)) return choices.between(1, 70);
-  if (range != ranges.end()) return choices.between(range->second.first, range->second.second);
-  if (p.name == "flag") return choices.oneOf({1, 2, 4, 8});
-  if (p.name == "relOp") return choices.oneOf({0, 4});
-  if (p.name == "len" || p.name == "numIters" || p.name == "chanLen" || p.name == "tblLen") {
-    if (around_.length > 0) return around_.length;
-    return choices.oneIn(6) ? choices.between(1, 2500) : choices.between(1, 150);
-  }
-  if (p.name == "tapsLen") return choices.oneIn(5) ? choices.between(1, 200) : choices.between(1, 40);
-  if (contains(p.name, {"caleFactor"})) return choices.oneIn(4) ? choices.between(-70, 70) : choices.between(-4, 12);
-  if (contains(export_.name, {"ShiftC"})) return choices.between(0, 40);
-  return choices.oneIn(2) ? choices.between(-20, 20) : static_cast<int64_t>(choices.bits());
+  static const std::set<std::string> lengths = {"len", "numIters", "chanLen", "tblLen"};
+  if (around_.length > 0 && lengths.count(p.name) != 0) return around_.length;
+  const Range* range = traits_.rangeOf(p.name);
+  if (range == nullptr) return choices.oneIn(2) ? choices.between(-20, 20) : static_cast<int64_t>(choices.bits());
+  if (range->isChoice) return range->choices[static_cast<size_t>(choices.between(1, static_cast<int64_t>(range->choices.size())) - 1)];
+  const bool isSeldom = choices.oneIn(5);
+  return choices.between(static_cast<int64_t>(isSeldom ? range->seldomLeast : range->least),
+                         static_cast<int64_t>(isSeldom ? range->seldomMost : range->most));
 }
 
 inline double AnyCall::drawReal(const Parameter& p, Choices& choices) {
   const double unit = static_cast<double>(static_cast<int32_t>(choices.bits(4))) * 0x1p-31;
-  if (p.name == "rFreq") return 0.25 + 0.24 * unit;
-  if (p.name == "ripple") return 3 + 2.9 * unit;
-  if (contains(p.name, {"level"})) return choices.oneIn(8) ? unit : std::fabs(unit) * 2;
-  return unit * (choices.oneIn(4) ? 1e4 : 4);
+  const Range* range = traits_.rangeOf(p.name);
+  if (range == nullptr) return unit * (choices.oneIn(4) ? 1e4 : 4);
+  const bool isSeldom = choices.oneIn(5);
+  const double least = isSeldom ? range->seldomLeast : range->least, most = isSeldom ? range->seldomMost : range->most;
+  return least + (most - least) * (unit + 1) / 2;
 }
 
 // ---- vectors
 
 // How many elements a vector has.
 inline size_t AnyCall::extent(const Parameter& p) const {
-  static const std::set<std::string> single = {
-      "pDstVal",    "pSrcDstVal", "pNorm",      "pMin",      "pMax",      "pIndx",     "pMean",    "pStdDev",     "pSum",
-      "pDp",        "pMaxAbs",    "pMinAbs",    "pOrder",    "pCounts",   "pMinIndx",  "pMaxIndx", "pTapsFactor", "pDlyLineIndex",
-      "pDstLenBit", "pSize",      "pStateSize", "pSpecSize", "pInitSize", "pWorkSize", "pOutVal"};
-  const std::string& name = export_.name;
-  const size_t n = samples();
-  if (single.count(p.name) != 0 || (p.name == "pOutIndx" && shape("len") == 0)) return 1;
-  if (p.name == "pTable") return static_cast<size_t>(shape("tblLen"));
-  if (p.name == "pScaleFactor") return static_cast<size_t>(shape("nChannels"));
-  if (p.name == "pTaps" && shape("tapsLen") > 0) return static_cast<size_t>(shape("tapsLen"));
-  if (p.name == "pTaps") return static_cast<size_t>(shape("numBq") > 0 ? 6 * shape("numBq") : 2 * shape("order") + 2);
-  if (p.name == "pNZTaps" || p.name == "pNZTapPos") return static_cast<size_t>(shape("nzTapsLenA") + shape("nzTapsLenB"));
-  if (p.name == "pDlyLine") {
-    if (shape("tapsLen") > 0) return static_cast<size_t>(shape("tapsLen") * (name.find("_Direct_") != name.npos ? 2 : 1));
-    if (shape("nzTapsLenB") > 0) return static_cast<size_t>(shape("orderA") + shape("orderB"));
-    return static_cast<size_t>(shape("numBq") > 0 ? (shape("DF1") > 0 ? 4 : 2) * shape("numBq") : shape("order"));
-  }
-  if (contains(name, {"FFTFwd", "FFTInv"})) {
-    const size_t points = size_t{1} << shape("order");
-    const bool isSource = p.name.find("Dst") == std::string::npos;
-    const bool isDestination = p.name.find("Src") == std::string::npos;
-    const bool isCcs = contains(name, {"ToCCS"}) ? !isSource : contains(name, {"CCSToR"}) && !isDestination;
-    return !isCcs ? points : points == 1 ? 2 : points + 2;
-  }
-  if (name == "qvxsCopy_1u")
-    return static_cast<size_t>(shape(p.name == "pSrc" ? "srcBitOffset" : "dstBitOffset") + shape("len") + 7) / 8;
-  if (name == "qvxsPackBits_32u8u" && p.name == "pDst")
-    return static_cast<size_t>(shape("dstBitOffset") + shape("totalBits") + 7) / 8;
-  if (contains(name, {"ConjCcs"}) && p.name == "pSrc") return 2 * (n / 2 + 1);
-  const size_t places = shape("nChannels") > 0 && !p.isArrayOfPointers() ? n * static_cast<size_t>(shape("nChannels")) : n;
-  return contains(name, {"24s", "24u"}) && p.pointee() == "Qvx8u" ? 3 * places : places;
+  const int64_t count = evaluate(traits_.extentOf(p.name), [this](const std::string& name) { return shape(name); });
+  return static_cast<size_t>(std::max<int64_t>(count, 0));
 }
 
 inline uint8_t* AnyCall::vector(size_t bytes, Role role, size_t index, const std::function<void(uint8_t*)>& fill) {
@@ -269,7 +231,7 @@ inline uint8_t* AnyCall::vector(size_t bytes, Role role, size_t index, const std
 inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, Choices& choices) {
   const PartType type(parameter.pointee());
   const size_t part = type.bytes;
-  const bool isTame = contains(export_.name, {"FFT", "FIR", "IIR", "Sum", "Mean", "StdDev", "Norm", "DotProd", "Product"});
+  const bool isTame = traits_.is("tame");
   const uint64_t style = choices.bits(1);
   for (size_t i = 0; i + part <= bytes; i += part) {
     const uint64_t bits = choices.bits();
@@ -289,28 +251,29 @@ inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, 
     if ((bits & 15) == 7) v = 0;
     std::memcpy(p + i, &v, part);
   }
-  if (parameter.name == "pTable") std::sort(reinterpret_cast<uint16_t*>(p), reinterpret_cast<uint16_t*>(p + bytes));
-  if (parameter.name == "pDlyLineIndex") *reinterpret_cast<int*>(p) = static_cast<int>(choices.between(0, shape("tapsLen") - 1));
-  if (parameter.name == "pSrcBitLen") {
+  const auto found = traits_.fills.find(parameter.name);
+  const std::string how = found == traits_.fills.end() ? "" : found->second;
+  if (how == "sorted") std::sort(reinterpret_cast<uint16_t*>(p), reinterpret_cast<uint16_t*>(p + bytes));
+  if (how == "index") *reinterpret_cast<int*>(p) = static_cast<int>(choices.between(0, shape("tapsLen") - 1));
+  if (how == "bitLengths") {
     for (size_t i = 0; i < bytes / sizeof(int); ++i) {
       auto& length = reinterpret_cast<int*>(p)[i];
       length = static_cast<int>(choices.between(0, 32));
       shape_["totalBits"] += length;
     }
   }
-  if (parameter.name == "pNZTapPos") {
+  if (how == "positions") {
     auto* position = reinterpret_cast<int32_t*>(p);
     for (const auto& [count, order] : {std::pair{"nzTapsLenB", "orderB"}, std::pair{"nzTapsLenA", "orderA"}}) {
       int at = order[5] == 'A' ? 1 : 0;
       for (int64_t i = 0; i < shape(count); ++i, at += static_cast<int>(choices.between(1, 9))) shape_[order] = *position++ = at;
     }
   }
-  if (parameter.name == "pTaps" || parameter.name == "pNZTaps") fillTaps(p, parameter, choices);
+  if (how == "stable") fillTaps(p, parameter, choices);
 }
 
 // Taps of a recursive filter that is stable: the feedback's magnitudes sum up to less than 1.
 inline void AnyCall::fillTaps(uint8_t* p, const Parameter& parameter, Choices& choices) {
-  if (!contains(export_.name, {"IIR"}) || contains(export_.name, {"Gen", "Get"})) return;
   const PartType type(parameter.pointee());
   const size_t parts = type.isComplex ? 2 : 1;
   const bool hasSections = shape("numBq") > 0;
@@ -340,7 +303,7 @@ inline void AnyCall::fillTaps(uint8_t* p, const Parameter& parameter, Choices& c
 // ---- records
 
 // What the size function that belongs to a maker says.
-inline int AnyCall::sizeFor(const std::string& maker, const char* which) {
+inline int AnyCall::sizeFor(const std::string& maker, const std::string& which) {
   const bool isTransform = maker.find("FFT") != std::string::npos;
   const Export* e = findExport(
       replaced(maker, maker.find("InitAlloc") != maker.npos ? "InitAlloc" : "Init", isTransform ? "GetSize" : "GetStateSize"));
@@ -373,22 +336,23 @@ inline const std::vector<const Export*>& makersOf(const std::string& type, bool 
   return found == all.end() ? none : found->second;
 }
 
-// A record of this type from one of its makers, which leaves its orders and lengths in the shape.
+// A record of this type from one of its makers, whose numbers and extents become part of the shape.
 inline void* AnyCall::recordOf(std::string type, bool isConst, Choices& choices) {
   if (type == "QvxsFIRState_32s") type = "QvxsFIRState64f_32s";  // one record by two names
   const bool allocates = contains(export_.name, {"Free"}) && choices.oneIn(2);
   const std::vector<const Export*>& makers = makersOf(type, allocates);
   if (makers.empty()) return recordOf(type, isConst, choices);  // none that allocates
-  const Export& maker = *makers[static_cast<size_t>(choices.between(0, static_cast<int64_t>(makers.size()) - 1))];
-  AnyCall made(maker, choices, memory_, around_, library_);
+  maker_ = makers[static_cast<size_t>(choices.between(0, static_cast<int64_t>(makers.size()) - 1))];
+  AnyCall made(*maker_, choices, memory_, around_, library_);
   choices.bits();
   made.run();
   void* record = *static_cast<void**>(made.pointers_[0]);
-  for (const char* name : {"order", "numBq", "tapsLen", "DF1", "nzTapsLenA", "nzTapsLenB", "orderA", "orderB"}) {
-    shape_.erase(name);
-    if (made.shape(name) != 0) shape_[name] = made.shape(name);
+  for (const auto& [name, value] : made.shape_) {
+    if (!export_.has(name)) shape_[name] = value;
   }
-  if (contains(type, {"FFT"})) shape_["workSize"] = made.sizeFor(maker.name, "pWorkSize");
+  for (const Parameter& p : maker_->parameters) {
+    if (p.isPointer() && !p.isArrayOfPointers()) shape_["made." + p.name] = static_cast<int64_t>(made.extent(p));
+  }
   made.status_ = qvxStatBadArg;  // what it made is this call's from here on
   for (Vector& v : made.vectors_) {
     if (v.role != Role::kWork) continue;
@@ -418,10 +382,7 @@ inline void AnyCall::release() {
 
 // The source that a destination may lie on: all its elements are of the same type.
 inline void* AnyCall::sourceInPlace(const Parameter& destination) {
-  static const std::set<std::string> apart = {"Flip",        "ConjFlip",   "ALawToLin",  "LinToALaw", "ALawToMuLaw",
-                                              "MuLawToALaw", "MuLawToLin", "LinToMuLaw", "IIRSparse", "Copy"};
-  const std::string& name = export_.name;
-  if (!around_.inOneVector || contains(name, {"FIR"}) || apart.count(export_.stem()) != 0) return nullptr;
+  if (!around_.inOneVector || traits_.is("apart")) return nullptr;
   for (size_t i = 0; i < export_.parameters.size(); ++i) {
     const Parameter& p = export_.parameters[i];
     const bool isPartner =
@@ -438,14 +399,14 @@ inline void* AnyCall::sourceInPlace(const Parameter& destination) {
 
 inline void AnyCall::spoil(const Wrong& wrong, size_t which) {
   const auto value = [&] { return wrong.values[which % wrong.values.size()]; };
-  if (wrong.kind == Wrong::kForeignRecord) pointers_[wrong.index] = vector(4096, Role::kWork, wrong.index, [](uint8_t*) {});
-  if (wrong.kind == Wrong::kNull) pointers_[wrong.index] = nullptr;
-  if (wrong.kind == Wrong::kValue && integers_.count(wrong.index) != 0) integers_[wrong.index] = static_cast<int64_t>(value());
-  if (wrong.kind == Wrong::kValue && reals_.count(wrong.index) != 0) reals_[wrong.index] = value();
-  if (wrong.kind == Wrong::kContent && pointers_[wrong.index] != nullptr) {
+  if (wrong.kind == Refusal::kForeignRecord) pointers_[wrong.index] = vector(4096, Role::kWork, wrong.index, [](uint8_t*) {});
+  if (wrong.kind == Refusal::kNull) pointers_[wrong.index] = nullptr;
+  if (wrong.kind == Refusal::kValue && integers_.count(wrong.index) != 0) integers_[wrong.index] = static_cast<int64_t>(value());
+  if (wrong.kind == Refusal::kValue && reals_.count(wrong.index) != 0) reals_[wrong.index] = value();
+  if (wrong.kind == Refusal::kContent && pointers_[wrong.index] != nullptr) {
     for (Vector& v : vectors_) {
       if (v.at != pointers_[wrong.index]) continue;
-      v.part.put(v.at, value());
+      for (size_t part = 0; part < (v.part.isComplex ? 2 : 1); ++part) v.part.put(v.at + part * v.part.bytes, value());
       v.copy.assign(v.at, v.at + v.bytes);
     }
   }
@@ -468,28 +429,25 @@ inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst,
         array.push_back(recordOf(type, false, choices));
         continue;
       }
-      const size_t bytes = PartType(type).bytes * samples();
+      const size_t bytes = PartType(type).bytes * extent(p);
       array.push_back(vector(bytes, isSource ? Role::kSource : Role::kDestination, index, [&](uint8_t* at) {
         if (p.name.find("Src") != p.name.npos || isSource) fill(at, bytes, p, choices);
       }));
     }
     return array.data();
   }
-  if (contains(name, {"Init"}) && (p.name == "pBuffer" || p.name == "pBuf" || p.name == "pSpec" || p.name == "pInit")) {
-    const char* which = p.name == "pSpec"               ? "pSpecSize"
-                        : p.name == "pInit"             ? "pInitSize"
-                        : name.find("FIR") != name.npos ? "pSize"
-                                                        : "pStateSize";
-    return vector(static_cast<size_t>(sizeFor(name, which)), Role::kWork, index, [](uint8_t*) {});
+  const auto taken = [&](const Refusal& r) {
+    return r.kind == Refusal::kNull && r.status == qvxStatOk && r.parameters[0] == p.name;
+  };
+  const std::vector<Refusal>& refusals = traits_.refusals;
+  if (std::any_of(refusals.begin(), refusals.end(), taken) && choices.oneIn(3)) return nullptr;
+  if (const auto work = traits_.work.find(p.name); work != traits_.work.end()) {
+    const int bytes = sizeFor(maker_ != nullptr ? maker_->name : name, work->second);
+    return vector(static_cast<size_t>(bytes), Role::kWork, index, [](uint8_t*) {});
   }
-  if (p.name == "pBuffer") {
-    if (choices.oneIn(3)) return nullptr;
-    return vector(static_cast<size_t>(shape("workSize")), Role::kWork, index, [](uint8_t*) {});
-  }
-  if (p.name == "pDlyLine" && isConst && choices.oneIn(3)) return nullptr;
   if (void* source = sourceInPlace(p)) return source;
   // The first byte and the last keep the bits beside those written.
-  const bool isRead = isConst || contains(p.name, {"Src", "DlyLine"}) || contains(name, {"Copy_1u", "PackBits"});
+  const bool isRead = isConst || contains(p.name, {"Src", "DlyLine"}) || traits_.fills.count(p.name) != 0;
   const size_t bytes = elementSize * extent(p);
   return vector(bytes, isConst ? Role::kSource : Role::kDestination, index, [&](uint8_t* at) {
     if (isRead) fill(at, bytes, p, choices);
@@ -519,7 +477,6 @@ inline void AnyCall::prepare(Choices& choices) {
     shape_[export_.parameters[i].name] = integers_[i] = drawInteger(export_.parameters[i], choices);
   }
   for (const size_t i : seen.reals) reals_[i] = drawReal(export_.parameters[i], choices);
-  if (contains(export_.name, {"DF1"})) shape_["DF1"] = 1;
   // Records first, whose orders are the other vectors' lengths.
   for (const bool wantsRecords : {true, false}) {
     for (const auto& [i, p] : seen.pointers) {

@@ -24,7 +24,8 @@ std::vector<Parameter> parse(std::string_view text) {
   return parameters;
 }
 
-template <class R, class... A> Export describe(const char* name, const char* arguments, R (*function)(A...)) {
+// One instance for all functions of a type.
+template <class R, class... A> bool list(const char* name, const char* arguments, R (*function)(A...)) {
   Export e{name, parse(arguments), reinterpret_cast<void*>(function), nullptr, nullptr};
   if constexpr (std::is_same_v<R, QvxStatus>) {
     e.call = [](void* address, Arguments& source) {
@@ -36,7 +37,8 @@ template <class R, class... A> Export describe(const char* name, const char* arg
       (std::index_sequence_for<A...>());
     };
   }
-  return e;
+  exportTable().push_back(std::move(e));
+  return true;
 }
 
 }  // namespace
@@ -59,9 +61,8 @@ const Export* findExport(const std::string& name) {
 }  // namespace tests
 
 #undef QVXS_API
-#define QVXS_API(result, name, arguments)            \
-  result name arguments;                             \
-  [[maybe_unused]] static const bool listed_##name = \
-      (tests::exportTable().push_back(tests::describe(#name, #arguments, &name)), true)
+#define QVXS_API(result, name, arguments) \
+  result name arguments;                  \
+  [[maybe_unused]] static const bool listed_##name = tests::list(#name, #arguments, &name)
 
 #include <qvx/qvxs.h>

@@ -107,9 +107,9 @@ struct Export {
   std::vector<Parameter> parameters;
   void* address;
   // Null for the few that do not return a status.
-  std::function<QvxStatus(void* address, Arguments&)> call;
+  QvxStatus (*call)(void* address, Arguments&);
   // Asks for the arguments of a call that is not made.
-  std::function<void(Arguments&)> look;
+  void (*look)(Arguments&);
 
   int indexOf(std::string_view parameter) const {
     for (size_t i = 0; i < parameters.size(); ++i) {

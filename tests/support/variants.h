@@ -26,21 +26,11 @@ inline std::vector<Variant> variants() {
   return all;
 }
 
-// The order of the operations is open, and so a variant's own: in elementary functions, sums of floats, transforms and filters.
-inline bool roundsItsOwnWay(const Export& e) {
-  static const std::set<std::string> stems = {"Exp", "Ln",   "SumLn",  "Arctan",     "Phase", "CartToPolar", "PolarToCart",
-                                              "Sum", "Mean", "StdDev", "MeanStdDev", "Norm",  "NormDiff",    "DotProd"};
-  const size_t tag = e.name.find('_');
-  if (contains(e.name, {"FFTFwd", "FFTInv", "FIR", "IIR"})) return true;
-  return stems.count(e.stem()) != 0 && e.name.find('f', tag) != std::string::npos &&
-         (e.indexOf("scaleFactor") < 0 || e.name.find("Ln") == std::string::npos);
-}
-
 // Empty if two variants' results of one call are as near to each other as they have to be.
 inline std::string difference(const Export& e, const AnyCall& a, const AnyCall& b) {
   const std::vector<double> x = a.numbers(), y = b.numbers();
   const auto isSame = [](double u, double v) { return std::memcmp(&u, &v, sizeof u) == 0 || (std::isnan(u) && std::isnan(v)); };
-  if (!roundsItsOwnWay(e)) return std::equal(x.begin(), x.end(), y.begin(), y.end(), isSame) ? "" : "other bits";
+  if (!traitsOf(e).is("rounds")) return std::equal(x.begin(), x.end(), y.begin(), y.end(), isSame) ? "" : "other bits";
   double largest = 0;
   for (const double v : x) {
     if (std::isfinite(v)) largest = std::max(largest, std::fabs(v));

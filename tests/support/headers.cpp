@@ -1,0 +1,1 @@
+// Nothing but the headers of all tests, which its target compiles for them.
