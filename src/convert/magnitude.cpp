@@ -52,12 +52,12 @@ struct Magnitude32Complex {
   }
 };
 
-constexpr TeamRule kMagnitude32f = {.threaded = 4096, .worthIt = 16384};
-constexpr TeamRule kMagnitude32fc = {.threaded = 2048, .worthIt = 16384};
-constexpr TeamRule kMagnitude64 = {.threaded = 256, .worthIt = 8192};
-constexpr TeamRule kMagnitude16sc32f = {.threaded = 4096, .worthIt = 16384};
-constexpr TeamRule kMagnitude16 = {.threaded = 2048, .worthIt = 16384};
-constexpr TeamRule kMagnitude32sc = {.threaded = 256, .worthIt = 8192};
+constexpr TeamRule kMagnitude32f = {.worthIt = 16384};
+constexpr TeamRule kMagnitude32fc = {.worthIt = 16384};
+constexpr TeamRule kMagnitude64 = {.worthIt = 8192};
+constexpr TeamRule kMagnitude16sc32f = {.worthIt = 16384};
+constexpr TeamRule kMagnitude16 = {.worthIt = 16384};
+constexpr TeamRule kMagnitude32sc = {.worthIt = 8192};
 
 // Complex integers as one word each.
 const uint32_t* words(const Qvx16sc* p) { return reinterpret_cast<const uint32_t*>(p); }

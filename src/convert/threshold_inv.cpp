@@ -138,19 +138,23 @@ struct InDoubles {
   }
 };
 
-// From the length on from which a vector may be divided, the warning is another. Shorter ones end in a jump to the loop: 16
-// elements take 2.4 ns, not 3.8.
-template <TeamRule kRule, class Fit, class Kernel, class Dst, class Src>
+// From otherWarning elements on, the warning is another: a fixed value of the interface, as those lengths are. Shorter vectors end
+// in a jump to the loop: 16 elements take 2.4 ns, not 3.8.
+struct Lengths {
+  size_t otherWarning;
+  TeamRule team;
+};
+template <Lengths kLengths, class Fit, class Kernel, class Dst, class Src>
 QvxStatus inverted(Kernel kernel, Dst dst, size_t n, Src src) {
-  if (n / Dst::kParts < kRule.threaded) return Fit{}.run(kernel, dst, n, src);
-  const QvxStatus met = InTeam<kRule, Fit>{}.run(kernel, dst, n, src);
+  if (n / Dst::kParts < kLengths.otherWarning) return Fit{}.run(kernel, dst, n, src);
+  const QvxStatus met = InTeam<kLengths.team, Fit>{}.run(kernel, dst, n, src);
   return met == qvxWarnInvZero ? qvxWarnDivByZero : met;
 }
 
-template <TeamRule kRule, class T> QvxStatus inverse(const T* src, T* dst, int len, T level) {
+template <Lengths kLengths, class T> QvxStatus inverse(const T* src, T* dst, int len, T level) {
   const QvxStatus status = checkLevel(len, src, dst, level);
   if (status != qvxStatOk) return status;
-  const auto run = [=] { return inverted<kRule, AsIs>(Reciprocal<T>{level}, destination(dst), elements(len), OnesBehind{src}); };
+  const auto run = [=] { return inverted<kLengths, AsIs>(Reciprocal<T>{level}, destination(dst), elements(len), OnesBehind{src}); };
   if constexpr (kQuietByInstruction) {
     return run();
   } else {
@@ -159,22 +163,22 @@ template <TeamRule kRule, class T> QvxStatus inverse(const T* src, T* dst, int l
   }
 }
 
-template <TeamRule kRule, class T> QvxStatus complexInverse(const T* src, T* dst, int len, Part<T> level) {
+template <Lengths kLengths, class T> QvxStatus complexInverse(const T* src, T* dst, int len, Part<T> level) {
   const QvxStatus status = checkLevel<T>(len, src, dst, level);
   if (status != qvxStatOk) return status;
   if constexpr (kQuietByInstruction && std::is_same_v<T, Qvx32fc>) {
-    return inverted<kRule, AsIs>(QuietComplexReciprocal<Quiet>{level}, destination(dst), 2 * elements(len), OnesBehind{src});
+    return inverted<kLengths, AsIs>(QuietComplexReciprocal<Quiet>{level}, destination(dst), 2 * elements(len), OnesBehind{src});
   } else {
     const SilentScope silent;
-    return inverted<kRule, InDoubles>(ComplexReciprocal{level}, InterleavedDestination<Part<T>>{parts(dst)}, elements(len),
+    return inverted<kLengths, InDoubles>(ComplexReciprocal{level}, InterleavedDestination<Part<T>>{parts(dst)}, elements(len),
                                       deinterleavedOnesBehind(src));
   }
 }
 
-constexpr TeamRule k32f = {.threaded = 8192, .worthIt = 16384};
-constexpr TeamRule k64f = {.threaded = 2048, .worthIt = 16384};
-constexpr TeamRule k32fc = {.threaded = 2048, .worthIt = 8192};
-constexpr TeamRule k64fc = {.threaded = 512, .worthIt = 8192};
+constexpr Lengths k32f = {8192, {.worthIt = 16384}};
+constexpr Lengths k64f = {2048, {.worthIt = 16384}};
+constexpr Lengths k32fc = {2048, {.worthIt = 8192}};
+constexpr Lengths k64fc = {512, {.worthIt = 8192}};
 
 }  // namespace
 

@@ -1,8 +1,6 @@
 // The records of transforms: what is in them, and how they are made.
 #pragma once
 
-#include <omp.h>
-
 #include "fft/sizes.h"
 #include "transform/real_transform.h"
 
@@ -71,8 +69,8 @@ template <class Record> void setFlag(Record& spec, int flag) {
   spec.normFactor = flag == QVX_FFT_SCALE_NONE ? 0 : flag == QVX_FFT_SCALE_BOTH_SQRT ? reciprocalRoot(n) : 1 / n;
 }
 
-// Two on a machine of two, one on any other.
-inline uint8_t threadsOf() { return omp_get_num_procs() > 2 ? 1 : static_cast<uint8_t>(std::min(ownGetNumThreads(), 2)); }
+// As many threads as a transform may be divided between.
+inline uint8_t threadsOf() { return static_cast<uint8_t>(std::min(ownGetNumThreads(), 2)); }
 
 template <class Record, class Build>
 QvxStatus init(Record** ppSpec, int order, int flag, int limit, Qvx8u* pMemory, const Qvx8u* pInitBuffer, Build build) {

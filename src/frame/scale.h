@@ -9,7 +9,7 @@
 #include <limits>
 
 #include "frame/simd.h"
-#include "qvx/qvxdefs.h"
+#include <qvx/qvxdefs.h>
 
 namespace qvx {
 

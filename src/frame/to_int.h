@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "frame/simd.h"
-#include "qvx/qvxdefs.h"
+#include <qvx/qvxdefs.h>
 
 namespace qvx {
 

@@ -109,22 +109,20 @@ void runPasses(const Plan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
   Columns<L, T, Dst, Scale>{plan.levels, dst, scale}.block(y, plan.rows, plan.levelTwiddles, 0, 0, 1);
 }
 
-// The same by some threads: the row pass by its blocks, the first inner pass by its rows, and then the parts that it has made.
+// The same by some threads, one after another: the row pass by its blocks, the first inner pass by its rows, and the parts that it
+// has made.
 template <size_t L, class T, class Src, class Dst, class Scale>
 void runPassesInTeam(int threads, const Plan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
   const size_t rows = plan.rows;
   const Columns<L, T, Dst, Scale> columns{plan.levels, dst, scale};
   const size_t radix = columns.levels.radix[0];
-  inThreads(threads, [&](size_t thread, size_t count) {
-    const auto from = [=](size_t parts) { return parts * thread / count; };
-    const auto to = [=](size_t parts) { return parts * (thread + 1) / count; };
-    rowPass<L>(src, y, rows, plan.rowTwiddles, from(rows / L) * L, to(rows / L) * L);
-#pragma omp barrier
-    columns.inner(radix, y, rows / radix, plan.levelTwiddles, from(rows / radix), to(rows / radix));
-#pragma omp barrier
-    columns.within(y, rows, plan.levelTwiddles, 0, 0, 1, from(radix), to(radix));
-    return qvxStatOk;
-  });
+  const auto divide = [=](size_t parts, auto step) {
+    const auto count = static_cast<size_t>(threads);
+    inParts(threads, [=](size_t i) { return step(parts * i / count, parts * (i + 1) / count), qvxStatOk; });
+  };
+  divide(rows / L, [=](size_t from, size_t to) { rowPass<L>(src, y, rows, plan.rowTwiddles, from * L, to * L); });
+  divide(rows / radix, [=](size_t from, size_t to) { columns.inner(radix, y, rows / radix, plan.levelTwiddles, from, to); });
+  divide(radix, [=](size_t from, size_t to) { columns.within(y, rows, plan.levelTwiddles, 0, 0, 1, from, to); });
 }
 
 // ---- Twiddles

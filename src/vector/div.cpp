@@ -42,10 +42,10 @@ template <class T> T reciprocal(T val) {
 }
 
 // What one thread takes 3 to 5 us for; a team costs about 1 us, and milliseconds where the second processor is busy.
-constexpr TeamRule kQuotient32f = {.threaded = 4096, .worthIt = 65536};
-constexpr TeamRule kQuotient64f = {.threaded = 1024, .worthIt = 32768};
-constexpr TeamRule kQuotient32fc = {.threaded = 1024, .worthIt = 32768};
-constexpr TeamRule kQuotient64fc = {.threaded = 1024, .worthIt = 16384};
+constexpr TeamRule kQuotient32f = {.worthIt = 65536};
+constexpr TeamRule kQuotient64f = {.worthIt = 32768};
+constexpr TeamRule kQuotient32fc = {.worthIt = 32768};
+constexpr TeamRule kQuotient64fc = {.worthIt = 16384};
 
 }  // namespace
 

@@ -74,8 +74,8 @@ template <Window kWindow> struct ComplexQuotientFit {
   }
 };
 
-constexpr TeamRule kQuotient = {.threaded = 256, .worthIt = 8192};
-constexpr TeamRule kByConstant = {.threaded = 1024, .worthIt = 16384};
+constexpr TeamRule kQuotient = {.worthIt = 8192};
+constexpr TeamRule kByConstant = {.worthIt = 16384};
 
 QvxStatus divide(const Qvx16sc* divisor, const Qvx16sc* dividend, Qvx16sc* dst, int len, int sf) {
   using Fit = ComplexQuotientFit<Window{-32, 32}>;

@@ -10,9 +10,9 @@ constexpr Window kShort = {-30, 15};
 constexpr Window kLong = {-62, 32};
 
 // What one thread takes 3 to 5 us for; a team costs about 1 us, and milliseconds where the second processor is busy.
-constexpr TeamRule kQuotient = {.threaded = 1024, .worthIt = 32768};
-constexpr TeamRule kByConstant = {.threaded = 4096, .worthIt = 65536};
-constexpr TeamRule kOfConstant = {.threaded = 2048, .worthIt = 65536};
+constexpr TeamRule kQuotient = {.worthIt = 32768};
+constexpr TeamRule kByConstant = {.worthIt = 65536};
+constexpr TeamRule kOfConstant = {.worthIt = 65536};
 
 template <TeamRule kRule, Window kWindow, class A, class B, class D>
 QvxStatus divide(const A* divisor, const B* dividend, D* dst, int len, int sf) {

@@ -6,8 +6,8 @@ using namespace qvx;
 namespace {
 
 constexpr Window kWindow = {-30, 16};
-constexpr TeamRule kQuotient8u = {.threaded = 512, .worthIt = 32768, .everyThread = true};
-constexpr TeamRule kQuotient16 = {.threaded = 1024, .worthIt = 32768, .everyThread = true};
+constexpr TeamRule kQuotient8u = {.worthIt = 32768, .everyThread = true};
+constexpr TeamRule kQuotient16 = {.worthIt = 32768, .everyThread = true};
 
 template <TeamRule kRule, class T>
 QvxStatus divide(const T* divisor, const T* dividend, T* dst, int len, QvxRoundMode mode, int sf) {

@@ -15,8 +15,8 @@ struct Root {
   }
 };
 
-constexpr TeamRule kRoot32f = {.threaded = 4096, .worthIt = 16384};
-constexpr TeamRule kRoot64f = {.threaded = 512, .worthIt = 8192};
+constexpr TeamRule kRoot32f = {.worthIt = 16384};
+constexpr TeamRule kRoot64f = {.worthIt = 8192};
 
 }  // namespace
 

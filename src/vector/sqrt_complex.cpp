@@ -103,9 +103,9 @@ struct Root16 {
 };
 
 // Worth it where one thread takes 3 to 4 us.
-constexpr TeamRule kRoot32fc = {.threaded = 512, .worthIt = 4096};
-constexpr TeamRule kRoot64fc = {.threaded = 64, .worthIt = 4096};
-constexpr TeamRule kRoot16sc = {.threaded = 256, .worthIt = 4096};
+constexpr TeamRule kRoot32fc = {.worthIt = 4096};
+constexpr TeamRule kRoot64fc = {.worthIt = 4096};
+constexpr TeamRule kRoot16sc = {.worthIt = 4096};
 
 QvxStatus root16sc(const Qvx16sc* src, Qvx16sc* dst, int len, int sf) {
   const QvxStatus status = check(len, src, dst);

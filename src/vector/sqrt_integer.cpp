@@ -109,10 +109,10 @@ using Root32s16s = IntegerRoot<Qvx32s, Qvx16s>;
 using Root64s16s = IntegerRoot<Qvx64s, Qvx16s>;
 
 // Worth it where one thread takes 3 to 4 us.
-constexpr TeamRule kRoot8u = {.threaded = 2048, .worthIt = 32768};
-constexpr TeamRule kRoot16 = {.threaded = 2048, .worthIt = 32768};
-constexpr TeamRule kRoot32s16s = {.threaded = 1024, .worthIt = 32768};
-constexpr TeamRule kRoot64s16s = {.threaded = 512, .worthIt = 8192};
+constexpr TeamRule kRoot8u = {.worthIt = 32768};
+constexpr TeamRule kRoot16 = {.worthIt = 32768};
+constexpr TeamRule kRoot32s16s = {.worthIt = 32768};
+constexpr TeamRule kRoot64s16s = {.worthIt = 8192};
 
 }  // namespace
 

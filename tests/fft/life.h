@@ -1,6 +1,8 @@
 // The life of a record: sizes to the byte, the order of the checks, memory of exactly the reported size.
 #pragma once
 
+#include <optional>
+
 #include "fft/transforms.h"
 
 namespace tests {
@@ -22,7 +24,8 @@ void checkLife(const Life<Spec>& life, Expected expected, int limit, int refused
     for (const int hint : {0, 1, 2, -1}) {
       for (const int flag : kFlags) {
         ASSERT_EQ(life.getSize(order, flag, hint, &spec, &init, &work), qvxStatOk) << order;
-        ASSERT_EQ((Sizes{spec, init, work}), expected(order, hint)) << order << ", " << hint;
+        const std::optional<Sizes> row = expected(order, hint);
+        if (row) ASSERT_EQ((Sizes{spec, init, work}), *row) << order << ", " << hint;
       }
     }
   }

@@ -1,67 +1,91 @@
 // Records of transforms in floats.
-#include <array>
+#include <map>
+#include <optional>
 
 #include "fft/life.h"
 
 namespace {
 
 using tests::Sizes;
-using tests::up;
 
-// What callers are told, by order; `real` from the complex of half the length.
-struct Family {
-  int64_t element;
-  int leaf;
-  int cached;
-  std::vector<std::array<int, 3>> blocks;  // from this order: rows and size of a tile, as powers of two
-};
-const Family kSingle = {8, 18, 12, {{18, 4, 10}, {20, 8, 14}}};
-const Family kDouble = {16, 17, 11, {{17, 6, 10}, {20, 7, 11}, {21, 8, 13}}};
-
-Sizes large(const Family& f, int m, bool top) {
-  int b = 0, tile = 0;
-  for (const auto& block : f.blocks) {
-    if (m >= block[0]) b = block[1], tile = block[2];
-  }
-  const int rest = m - b;
-  Sizes s = rest < f.leaf ? Sizes{up((f.element << rest) + f.element), 0, up(f.element << rest)} : large(f, rest, false);
-  s.spec += f.element << (m - 1);
-  s.work = std::max(s.work, f.element << tile);
-  const int64_t n = int64_t{1} << m;
-  if (!top) return s;
-  if (f.element == 8) {
-    if (m < 19) s.spec += up(n + 4);
-    else s.spec += 4 * (n >> 12) + 4128, s.work = std::max<int64_t>(s.work, 65536);
-  } else {
-    if (m < 18) s.spec += up(n + 4);
-    else s.spec += 4 * (n >> 10) + 1056, s.work = std::max<int64_t>(s.work, 32768);
-  }
-  return s;
-}
-
-Sizes complexSizes(const Family& f, int m) {
-  const int64_t n = int64_t{1} << m;
-  const int64_t init = m <= 10 ? 0 : f.element == 8 ? up(n + 4) + 32 : up(2 * n + 8) + 32;
-  if (m <= 5) return {168, 0, 0};
-  if (m <= f.cached) return {up(f.element * n + f.element) + up(n + 4) + 192, init, up(f.element * n) + 32};
-  if (m < f.leaf) {
-    const int64_t tables = f.element == 8 ? up(7 * n) + up(n + 8) : up(14 * n) + up(2 * n + 16);
-    return {tables + up(n + 4) + 192, init, up(f.element * n) + 32};
-  }
-  const Sizes s = large(f, m, true);
-  return {s.spec + 192, init, s.work + 32};
-}
-
-Sizes realSizes(const Family& f, int m) {
-  const int64_t n = int64_t{1} << m;
-  const bool single = f.element == 8;
-  if (m <= (single ? 4 : 5)) return {168, 0, 0};
-  const int64_t roots =
-      single ? (m < 19 ? up(2 * n) : up(8 * (n >> 12) + 8192)) : (m < 17 ? up(4 * n) : up(16 * (n >> 11) + 8192));
-  if (m <= 6) return {2 * roots + 192, 0, 0};
-  const Sizes half = complexSizes(f, m - 1);
-  return {half.spec + 2 * roots, m <= 10 ? 0 : single ? up(n + 4) + 32 : up(2 * n + 8) + 32, half.work};
-}
+// What callers are told, by order: record, memory for its making, working memory.
+using Rows = std::map<int, Sizes>;
+const Rows kComplex32 = {{0, {168, 0, 0}},
+                         {4, {168, 0, 0}},
+                         {5, {168, 0, 0}},
+                         {6, {832, 0, 544}},
+                         {7, {1408, 0, 1056}},
+                         {10, {9472, 0, 8224}},
+                         {11, {18688, 2112, 16416}},
+                         {12, {37120, 4160, 32800}},
+                         {13, {73984, 8256, 65568}},
+                         {16, {590080, 65600, 524320}},
+                         {17, {1179904, 131136, 1048608}},
+                         {18, {1442048, 262208, 131104}},
+                         {19, {2364160, 524352, 262176}},
+                         {20, {4232448, 1048640, 131104}},
+                         {21, {8460544, 2097216, 131104}},
+                         {24, {67653888, 16777280, 524320}},
+                         {26, {269684992, 67108928, 131104}},
+                         {27, {539365632, 134217792, 262176}},
+                         {28, {1078235392, 268435520, 131104}}};
+const Rows kComplex64 = {{0, {168, 0, 0}},
+                         {4, {168, 0, 0}},
+                         {5, {168, 0, 0}},
+                         {6, {1344, 0, 1056}},
+                         {7, {2432, 0, 2080}},
+                         {10, {17664, 0, 16416}},
+                         {11, {35072, 4160, 32800}},
+                         {12, {69888, 8256, 65568}},
+                         {13, {139520, 16448, 131104}},
+                         {16, {1114368, 131136, 1048608}},
+                         {17, {1212672, 262208, 32800}},
+                         {18, {2164992, 524352, 65568}},
+                         {19, {4328704, 1048640, 131104}},
+                         {20, {8525056, 2097216, 131104}},
+                         {21, {16917760, 4194368, 131104}},
+                         {24, {135333120, 33554496, 1048608}},
+                         {26, {539297024, 134217792, 131104}},
+                         {27, {1078592768, 268435520, 131104}}};
+const Rows kReal32 = {{0, {168, 0, 0}},
+                      {4, {168, 0, 0}},
+                      {5, {320, 0, 0}},
+                      {6, {448, 0, 0}},
+                      {7, {1344, 0, 544}},
+                      {10, {8960, 0, 4128}},
+                      {11, {17664, 2112, 8224}},
+                      {12, {35072, 4160, 16416}},
+                      {13, {69888, 8256, 32800}},
+                      {16, {557312, 65600, 262176}},
+                      {17, {1114368, 131136, 524320}},
+                      {18, {2228480, 262208, 1048608}},
+                      {19, {1460480, 524352, 131104}},
+                      {20, {2384640, 1048640, 262176}},
+                      {21, {4257024, 2097216, 131104}},
+                      {24, {33911040, 16777280, 262176}},
+                      {26, {135581952, 67108928, 1048608}},
+                      {27, {270225664, 134217792, 131104}},
+                      {28, {540430592, 268435520, 262176}},
+                      {29, {1080348928, 536870976, 131104}}};
+const Rows kReal64 = {{0, {168, 0, 0}},
+                      {4, {168, 0, 0}},
+                      {5, {168, 0, 0}},
+                      {6, {704, 0, 0}},
+                      {7, {2368, 0, 1056}},
+                      {10, {17152, 0, 8224}},
+                      {11, {34048, 4160, 16416}},
+                      {12, {67840, 8256, 32800}},
+                      {13, {135424, 16448, 65568}},
+                      {16, {1081600, 131136, 524320}},
+                      {17, {1132800, 262208, 1048608}},
+                      {18, {1233152, 524352, 32800}},
+                      {19, {2189568, 1048640, 65568}},
+                      {20, {4361472, 2097216, 131104}},
+                      {21, {8574208, 4194368, 131104}},
+                      {24, {67945728, 33554496, 524320}},
+                      {26, {270714112, 134217792, 131104}},
+                      {27, {541410560, 268435520, 131104}},
+                      {28, {1082803456, 536870976, 131104}}};
 
 // clang-format off
 const tests::Life<QvxsFFTSpec_C_32fc> kC32fc = {qvxsFFTGetSize_C_32fc, qvxsFFTInit_C_32fc, qvxsFFTInitAlloc_C_32fc, qvxsFFTFree_C_32fc, qvxsFFTGetBufSize_C_32fc};
@@ -72,19 +96,25 @@ const tests::Life<QvxsFFTSpec_R_32f> kR32f = {qvxsFFTGetSize_R_32f, qvxsFFTInit_
 const tests::Life<QvxsFFTSpec_R_64f> kR64f = {qvxsFFTGetSize_R_64f, qvxsFFTInit_R_64f, qvxsFFTInitAlloc_R_64f, qvxsFFTFree_R_64f, qvxsFFTGetBufSize_R_64f};
 // clang-format on
 
+// None for an order between two rows.
+std::optional<Sizes> rowOf(const Rows& rows, int order) {
+  const auto row = rows.find(order);
+  return row == rows.end() ? std::nullopt : std::optional(row->second);
+}
+
 TEST(FftRecord, SizesChecksAndMemory) {
   tests::checkLife(
-      kC32fc, [](int order, int) { return complexSizes(kSingle, order); }, 28, 29, "C_32fc");
+      kC32fc, [](int order, int) { return rowOf(kComplex32, order); }, 28, 29, "C_32fc");
   tests::checkLife(
-      kC32f, [](int order, int) { return complexSizes(kSingle, order); }, 28, 29, "C_32f");
+      kC32f, [](int order, int) { return rowOf(kComplex32, order); }, 28, 29, "C_32f");
   tests::checkLife(
-      kC64fc, [](int order, int) { return complexSizes(kDouble, order); }, 27, 28, "C_64fc");
+      kC64fc, [](int order, int) { return rowOf(kComplex64, order); }, 27, 28, "C_64fc");
   tests::checkLife(
-      kC64f, [](int order, int) { return complexSizes(kDouble, order); }, 27, 28, "C_64f");
+      kC64f, [](int order, int) { return rowOf(kComplex64, order); }, 27, 28, "C_64f");
   tests::checkLife(
-      kR32f, [](int order, int) { return realSizes(kSingle, order); }, 29, 30, "R_32f");
+      kR32f, [](int order, int) { return rowOf(kReal32, order); }, 29, 30, "R_32f");
   tests::checkLife(
-      kR64f, [](int order, int) { return realSizes(kDouble, order); }, 28, 29, "R_64f");
+      kR64f, [](int order, int) { return rowOf(kReal64, order); }, 28, 29, "R_64f");
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ template <class T> std::vector<T> section(Random& random, double radius, double 
   const N q = isComplex<T> ? std::polar<long double>(radius * uniform(random, 0.3, 1), uniform(random, -3, 3)) : std::conj(p);
   const N z = std::polar<long double>(uniform(random, 0.2, 1), uniform(random, 0, 3.1));
   const N w = isComplex<T> ? std::polar<long double>(uniform(random, 0.2, 1), uniform(random, -3, 3)) : std::conj(z);
-  const N a0 = isComplex<T> ? N(0, 2) : N(1.5);
+  const N a0 = isComplex<T> ? N(0, 2) : N(2);
   std::vector<T> t;
   for (const N v : {N(gain), -gain * (z + w), gain * z * w, N(1), -(p + q), p * q}) {
     const N scaled = v * a0;
@@ -62,7 +62,7 @@ template <class T> std::vector<T> direct(Random& random, int order) {
     }
   }
   if constexpr (isComplex<T>) t[static_cast<size_t>(order) + 1] = {0, 2};
-  else t[static_cast<size_t>(order) + 1] = 1.25;
+  else t[static_cast<size_t>(order) + 1] = 2;
   return t;
 }
 

@@ -47,21 +47,15 @@ template <class N> struct Recursion {
   }
 };
 
-// A tap over a0 as the library takes it. Complex ones are given an a0 of 2i, by which that is exact.
-template <class T> Exact<T> normalised(T tap, T a0) {
-  if constexpr (isComplex<T>) return exact(tap) / exact(a0);
-  else return tap * (1 / a0);
-}
-
-// `numBq` sections of 6 taps each, or 0 and one direct form, from taps as the library is given them. Normalised as the library
-// does: what rounding does to the taps is no error of the filtering.
+// `numBq` sections of 6 taps each, or 0 and one direct form. They are given an a0 of a power of two, or of 2i, by which taps are
+// divided exactly.
 template <class N, class T> std::vector<Recursion<N>> recursions(const std::vector<T>& taps, int order, int numBq) {
   std::vector<Recursion<N>> all;
   const size_t n = numBq == 0 ? static_cast<size_t>(order) : 2;
   for (size_t first = 0; first < taps.size(); first += 2 * n + 2) {
     Recursion<N> r;
     for (size_t i = 0; i < 2 * n + 2; ++i) {
-      (i <= n ? r.b : r.a).push_back(static_cast<N>(normalised(taps[first + i], taps[first + n + 1])));
+      (i <= n ? r.b : r.a).push_back(static_cast<N>(exact(taps[first + i]) / exact(taps[first + n + 1])));
     }
     r.d.assign(n, N(0));
     all.push_back(r);

@@ -22,7 +22,7 @@ namespace detail {
 inline std::vector<Exact> dft(const std::vector<Exact>& x, const std::vector<Exact>& roots, size_t step) {
   const size_t n = x.size();
   std::vector<Exact> result(n);
-  if (n <= 16) {
+  if (n <= 16 || n % 2 != 0) {
     for (size_t k = 0; k < n; ++k) {
       for (size_t i = 0; i < n; ++i) result[k] += x[i] * roots[i * k % n * step];
     }
@@ -42,7 +42,7 @@ inline std::vector<Exact> dft(const std::vector<Exact>& x, const std::vector<Exa
 }
 }  // namespace detail
 
-// sum of x[n] exp(sign 2 pi i n k / N) for all k; lengths above 16 by the sums over the even and the odd elements.
+// sum of x[n] exp(sign 2 pi i n k / N) for all k; even lengths above 16 by the sums over the even and the odd elements.
 inline std::vector<Exact> dft(const std::vector<Exact>& x, int sign) {
   std::vector<Exact> roots;
   for (size_t k = 0; k < x.size(); ++k) {

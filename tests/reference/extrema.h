@@ -3,10 +3,12 @@
 
 #include <qvx/qvxdefs.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <limits>
 #include <utility>
+#include <vector>
 
 namespace reference {
 
@@ -39,21 +41,12 @@ constexpr auto saturatedMagnitude = [](auto v) -> int64_t {
   return std::min<int64_t>(magnitude, std::numeric_limits<decltype(v)>::max());
 };
 
-inline int nearest(const Qvx16u* table, int tblLen, int v) {
-  if (tblLen < 2 || v <= table[0]) return 0;
-  if (v >= table[tblLen - 1]) return tblLen - 1;
-  int base = 0;
-  int span = tblLen - 1;
-  while (span > 1) {
-    const int half = span / 2;
-    if (v < table[base + half]) {
-      span = half;
-    } else {
-      base += half;
-      span -= half;
-    }
-  }
-  return v - table[base] > table[base + 1] - v ? base + 1 : base;
+// The entry of a sorted table that is nearest to v; of two as near, the lower.
+inline Qvx16u nearest(const std::vector<Qvx16u>& table, int v) {
+  const auto above = std::lower_bound(table.begin(), table.end(), v);
+  if (above == table.begin()) return *above;
+  if (above == table.end()) return table.back();
+  return v - above[-1] > *above - v ? *above : above[-1];
 }
 
 }  // namespace reference

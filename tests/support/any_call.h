@@ -120,7 +120,8 @@ class AnyCall : public Arguments {
   bool leadsNowhere() const {
     return std::all_of(vectors_.begin(), vectors_.end(), [](const Vector& v) {
       const auto isZero = [](uint8_t byte) { return byte == 0; };
-      return v.role != Role::kHandle || std::equal(v.copy.begin(), v.copy.end(), v.at) || std::all_of(v.at, v.at + v.bytes, isZero);
+      return v.role != Role::kHandle || std::equal(v.copy.begin(), v.copy.end(), v.at) ||
+             std::all_of(v.at, v.at + v.bytes, isZero);
     });
   }
   int64_t shape(const std::string& name) const {
@@ -192,7 +193,8 @@ inline int64_t AnyCall::drawInteger(const Parameter& p, Choices& choices) {
   if (around_.length > 0 && lengths.count(p.name) != 0) return around_.length;
   const Range* range = traits_.rangeOf(p.name);
   if (range == nullptr) return choices.oneIn(2) ? choices.between(-20, 20) : static_cast<int64_t>(choices.bits());
-  if (range->isChoice) return range->choices[static_cast<size_t>(choices.between(1, static_cast<int64_t>(range->choices.size())) - 1)];
+  if (range->isChoice)
+    return range->choices[static_cast<size_t>(choices.between(1, static_cast<int64_t>(range->choices.size())) - 1)];
   const bool isSeldom = choices.oneIn(5);
   return choices.between(static_cast<int64_t>(isSeldom ? range->seldomLeast : range->least),
                          static_cast<int64_t>(isSeldom ? range->seldomMost : range->most));

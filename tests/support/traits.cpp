@@ -73,7 +73,10 @@ Range rangeOf(const std::string& text) {
 
 Refusal refusalOf(const std::string& text) {
   if (text.rfind("null", 0) == 0) {
-    return {Refusal::kNull, text == "null" ? std::vector<std::string>() : split(cut(text, ":").second, ','), {}, false,
+    return {Refusal::kNull,
+            text == "null" ? std::vector<std::string>() : split(cut(text, ":").second, ','),
+            {},
+            false,
             qvxStatNullPtr};
   }
   if (text == "foreign") return {Refusal::kForeignRecord, {}, {}, false, qvxStatContextMismatch};
@@ -107,7 +110,8 @@ void read(const std::string& line, Traits& row) {
     else if (key == "exact") row.exact = word;
     else fail("what is " + key + "?");
   }
-  static const std::set<std::string> flags = {"allocates", "apart", "midway", "rounds", "tame", "whole", "modal", "threads", "forms"};
+  static const std::set<std::string> flags = {"allocates", "apart", "midway",  "rounds", "tame",
+                                              "whole",     "modal", "threads", "forms"};
   if (isFlag && flags.count(key) == 0) fail("what is " + key + "?");
   if (isFlag) row.flags.insert(key);
 }
@@ -150,12 +154,18 @@ class Expression {
 
   static int64_t applied(int what, int64_t a, int64_t b) {
     switch (what) {
-      case '+': return a + b;
-      case '-': return a - b;
-      case '*': return a * b;
-      case '/': return a / std::max<int64_t>(b, 1);
-      case '^': return static_cast<int64_t>(std::pow(a, b));
-      default: return std::max(a, b);
+      case '+':
+        return a + b;
+      case '-':
+        return a - b;
+      case '*':
+        return a * b;
+      case '/':
+        return a / std::max<int64_t>(b, 1);
+      case '^':
+        return static_cast<int64_t>(std::pow(a, b));
+      default:
+        return std::max(a, b);
     }
   }
   bool take(char c) { return at_ < text_.size() && text_[at_] == c ? ++at_, true : false; }

@@ -13,7 +13,7 @@ using Shape = std::function<int64_t(const std::string&)>;
 int64_t evaluate(const std::string& expression, const Shape& shape);
 
 struct Range {
-  double least, most;             // usually
+  double least, most;              // usually
   double seldomLeast, seldomMost;  // sometimes
   bool isChoice;
   std::vector<int64_t> choices;

@@ -1,0 +1,156 @@
+// The threads of divided calls: a few workers for the whole process, made when a call first asks for them.
+//
+// A call is a number of parts. Whoever is there takes the next one: the caller, and workers as they wake. So a caller never waits
+// for a thread that has not begun, however busy the machine is, and nothing has to be done if none can be made.
+#include <linux/futex.h>
+#include <pthread.h>
+#include <qvx/qvxcore.h>
+#include <signal.h>
+#include <sys/syscall.h>
+#include <time.h>
+#include <unistd.h>
+#include <x86intrin.h>
+
+#include <algorithm>
+#include <atomic>
+#include <climits>
+
+#include "core/threads.h"
+
+namespace {
+
+using Part = void (*)(void*, int);
+
+constexpr int kMostWorkers = 63;
+constexpr size_t kStack = size_t{256} << 10;  // a call takes no more than 24 KiB
+// Cycles for which a thread looks before it sleeps: 5 us, as long as waking one takes.
+constexpr uint64_t kPatience = 15000;
+
+// The call that is being worked at. Its number tells it from the one before: a worker that wakes late must not take the next
+// call's parts for those it was called for.
+struct Team {
+  std::atomic<bool> isTaken{false};
+  std::atomic<uint32_t> call{0};    // odd while there is work
+  std::atomic<uint32_t> inside{0};  // workers that may look at what follows
+  std::atomic<int> next{0};
+  std::atomic<uint32_t> left{0};  // parts that are not done
+  std::atomic<bool> isAwaited{false};
+  std::atomic<uint32_t> asleep{0};
+  int count = 0;
+  Part part = nullptr;
+  void* argument = nullptr;
+  int workers = 0;
+  unsigned refused = 0;  // calls since a thread could not be made
+};
+Team team;
+thread_local bool isWorker = false;
+
+void sleepWhile(std::atomic<uint32_t>& word, uint32_t value) {
+  syscall(SYS_futex, reinterpret_cast<uint32_t*>(&word), FUTEX_WAIT_PRIVATE, value, nullptr, nullptr, 0);
+}
+void wake(std::atomic<uint32_t>& word, int count) {
+  syscall(SYS_futex, reinterpret_cast<uint32_t*>(&word), FUTEX_WAKE_PRIVATE, count, nullptr, nullptr, 0);
+}
+
+template <class Condition> bool comesSoon(Condition condition) {
+  for (const uint64_t start = __rdtsc(); __rdtsc() - start < kPatience;) {
+    if (condition()) return true;
+    _mm_pause();
+  }
+  return condition();
+}
+
+void takeParts() {
+  for (int i; (i = team.next.fetch_add(1)) < team.count;) {
+    team.part(team.argument, i);
+    if (team.left.fetch_sub(1) == 1 && team.isAwaited.load()) wake(team.left, 1);
+  }
+}
+
+// The caller sleeps where it must wait long: at a real-time priority it would keep those it waits for from the processor.
+void awaitParts() {
+  const auto areDone = [] { return team.left.load() == 0; };
+  if (!comesSoon(areDone)) {
+    team.isAwaited.store(true);
+    for (uint32_t left; (left = team.left.load()) != 0;) sleepWhile(team.left, left);
+    team.isAwaited.store(false);
+  }
+}
+
+void* work(void*) {
+  isWorker = true;
+  uint32_t seen = 0;
+  for (;;) {
+    uint32_t call = team.call.load();
+    if (call == seen || call % 2 == 0) {
+      const auto isNew = [&] { return (call = team.call.load()) != seen && call % 2 != 0; };
+      if (!comesSoon(isNew)) {
+        team.asleep.fetch_add(1);
+        if (!isNew()) sleepWhile(team.call, call);
+        team.asleep.fetch_sub(1);
+        continue;
+      }
+    }
+    seen = call;
+    // From here on the caller does not leave before this worker has: if it has not left already.
+    team.inside.fetch_add(1);
+    if (team.call.load() == call) takeParts();
+    team.inside.fetch_sub(1);
+  }
+  return nullptr;
+}
+
+// Makes workers up to `wanted`. They take no signals of the program's. Where none can be made, the next calls do not ask again.
+void hire(int wanted) {
+  if (team.workers >= wanted || (team.refused > 0 && ++team.refused < 1000)) return;
+  team.refused = 0;
+  sigset_t all, callers;
+  sigfillset(&all);
+  pthread_attr_t attributes;
+  if (pthread_attr_init(&attributes) != 0) return;
+  pthread_attr_setdetachstate(&attributes, PTHREAD_CREATE_DETACHED);
+  pthread_attr_setstacksize(&attributes, std::max<size_t>(kStack, static_cast<size_t>(sysconf(_SC_THREAD_STACK_MIN))));
+  pthread_sigmask(SIG_SETMASK, &all, &callers);
+  for (pthread_t thread; team.workers < wanted; ++team.workers) {
+    if (pthread_create(&thread, &attributes, work, nullptr) == 0) continue;
+    team.refused = 1;
+    break;
+  }
+  pthread_sigmask(SIG_SETMASK, &callers, nullptr);
+  pthread_attr_destroy(&attributes);
+}
+
+// The child of a fork has no workers: only the thread that forked, which was in no call.
+void forgetWorkers() {
+  team.workers = 0;
+  team.refused = 0;
+  team.asleep.store(0);
+  team.inside.store(0);
+  team.call.store(0);
+  team.isAwaited.store(false);
+  team.isTaken.store(false);
+}
+[[maybe_unused]] const int registered = pthread_atfork(nullptr, nullptr, forgetWorkers);
+
+}  // namespace
+
+void ownRunParts(int count, void (*part)(void*, int), void* argument) {
+  if (count < 2 || isWorker || qvx::isInsideOpenMP() || team.isTaken.exchange(true)) {
+    for (int i = 0; i < count; ++i) part(argument, i);
+    return;
+  }
+  hire(std::min({count, ownGetNumThreads(), kMostWorkers + 1}) - 1);
+  team.part = part;
+  team.argument = argument;
+  team.count = count;
+  team.left.store(static_cast<uint32_t>(count));
+  team.next.store(0);
+  team.call.fetch_add(1);
+  if (team.asleep.load() > 0) wake(team.call, std::min(count - 1, team.workers));
+  takeParts();
+  awaitParts();
+  team.call.fetch_add(1);
+  const timespec moment = {0, 1000};
+  while (!comesSoon([] { return team.inside.load() == 0; })) nanosleep(&moment, nullptr);  // those that came late leave at once
+  team.isTaken.store(false);
+}

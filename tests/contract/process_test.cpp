@@ -1,0 +1,194 @@
+// The library as a guest in other people's processes: ones that fork, load and unload it, have no thread to give, or many of
+// their own.
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <omp.h>
+#include <pthread.h>
+#include <qvx/qvxcore.h>
+#include <qvx/qvxs.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <csignal>
+#include <cstdlib>
+#include <thread>
+#include <vector>
+
+namespace {
+
+std::atomic<bool> refuseThreads{false};
+std::atomic<int> threadsMade{0};
+
+}  // namespace
+
+extern "C" __attribute__((visibility("default"))) int pthread_create(pthread_t* thread, const pthread_attr_t* attributes,
+                                                                     void* (*run)(void*), void* argument) {
+  static const auto make = reinterpret_cast<decltype(&pthread_create)>(dlsym(RTLD_NEXT, "pthread_create"));
+  if (refuseThreads) return EAGAIN;
+  ++threadsMade;
+  return make(thread, attributes, run, argument);
+}
+
+namespace {
+
+constexpr int kLength = 1 << 15;
+
+// A divided call; whether it did what it should.
+bool call(int length = kLength) {
+  static const std::vector<Qvx64fc> x(kLength, Qvx64fc{-3, 4});
+  std::vector<Qvx64fc> y(static_cast<size_t>(length));
+  if (qvxsSqrt_64fc(x.data(), y.data(), length) != qvxStatOk) return false;
+  for (const Qvx64fc& root : y) {
+    if (root.re != 1 || root.im != 2) return false;
+  }
+  return true;
+}
+
+int rounds(int usual) {
+  const char* asked = std::getenv("QVXS_ROUNDS");
+  return asked == nullptr ? usual : std::atoi(asked);
+}
+
+class Process : public testing::Test {
+ protected:
+  void SetUp() override { qvxSetNumThreads(2); }
+  void TearDown() override { qvxSetNumThreads(0); }
+};
+
+TEST_F(Process, ForksBetweenCalls) {
+  if (QVXS_SANITIZED) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
+  for (int i = 0; i < rounds(300); ++i) {
+    ASSERT_TRUE(call());
+    const pid_t child = fork();
+    if (child == 0) {
+      alarm(20);
+      _exit(call() && call() ? 0 : 1);
+    }
+    int status = -1;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_EQ(status, 0) << "round " << i;
+  }
+}
+
+TEST_F(Process, LoadsAndUnloads) {
+  Dl_info info;
+  ASSERT_NE(dladdr(qvxsGetLibVersion(), &info), 0);
+  // A copy of the library under another name is another library, which this program does not hold.
+  char copy[] = "/tmp/qvxs-copy-XXXXXX";
+  const int file = mkstemp(copy);
+  ASSERT_GE(file, 0);
+  close(file);
+  ASSERT_EQ(std::system((std::string("cp ") + info.dli_fname + " " + copy).c_str()), 0);
+  for (int i = 0; i < rounds(200); ++i) {
+    void* library = dlopen(copy, RTLD_NOW | RTLD_LOCAL);
+    ASSERT_NE(library, nullptr) << dlerror();
+    const auto root = reinterpret_cast<decltype(&qvxsSqrt_64fc)>(dlsym(library, "qvxsSqrt_64fc"));
+    std::vector<Qvx64fc> x(kLength, Qvx64fc{-3, 4});
+    ASSERT_EQ(root(x.data(), x.data(), kLength), qvxStatOk);
+    ASSERT_EQ(x.back().im, 2);
+    ASSERT_EQ(dlclose(library), 0);
+  }
+  unlink(copy);
+}
+
+// In a child, where no call has made a thread yet.
+TEST_F(Process, WorksAloneWithoutThreads) {
+  if (QVXS_SANITIZED) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
+  const pid_t child = fork();
+  if (child == 0) {
+    refuseThreads = true;
+    bool isRight = true;
+    for (int i = 0; i < 3000; ++i) isRight = isRight && call(5000);
+    refuseThreads = false;
+    threadsMade = 0;
+    for (int i = 0; i < 3000; ++i) isRight = isRight && call(5000);
+    _exit(isRight && threadsMade == 1 ? 0 : 1);  // it asks again, in time
+  }
+  int status = -1;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+}
+
+void* callOnSmallStack(void*) { return call() ? nullptr : &threadsMade; }
+
+TEST_F(Process, HasManyThreadsOfItsOwn) {
+  pthread_attr_t small;
+  ASSERT_EQ(pthread_attr_init(&small), 0);
+  ASSERT_EQ(pthread_attr_setstacksize(&small, QVXS_SANITIZED ? 1 << 20 : 64 << 10), 0);
+  for (int i = 0; i < rounds(20); ++i) {
+    pthread_t threads[64];
+    for (pthread_t& thread : threads) ASSERT_EQ(pthread_create(&thread, &small, callOnSmallStack, nullptr), 0);
+    for (const pthread_t thread : threads) {
+      void* wrong = nullptr;
+      ASSERT_EQ(pthread_join(thread, &wrong), 0);
+      EXPECT_EQ(wrong, nullptr);
+    }
+  }
+  pthread_attr_destroy(&small);
+}
+
+// Workers take no signals: those of the process come to threads of its own.
+std::atomic<int> onOtherThread{0};
+thread_local bool isOurs = false;
+
+TEST_F(Process, TakesItsOwnSignals) {
+  isOurs = true;
+  struct sigaction before, action = {};
+  action.sa_handler = [](int) { onOtherThread += !isOurs; };
+  ASSERT_EQ(sigaction(SIGUSR1, &action, &before), 0);
+  sigset_t mine;
+  sigemptyset(&mine);
+  sigaddset(&mine, SIGUSR1);
+  for (int i = 0; i < 200; ++i) {
+    ASSERT_TRUE(call());
+    pthread_sigmask(SIG_BLOCK, &mine, nullptr);  // now none but a worker could take it
+    kill(getpid(), SIGUSR1);
+    ASSERT_TRUE(call());
+    pthread_sigmask(SIG_UNBLOCK, &mine, nullptr);
+  }
+  EXPECT_EQ(onOtherThread, 0);
+  sigaction(SIGUSR1, &before, nullptr);
+}
+
+TEST_F(Process, CallsFromRealTimeThreads) {
+  ASSERT_TRUE(call());
+  const sched_param high = {10};
+  if (pthread_setschedparam(pthread_self(), SCHED_FIFO, &high) != 0) GTEST_SKIP() << "no permission";
+  bool isRight = true;
+  for (int i = 0; i < 300; ++i) isRight = isRight && call();
+  const sched_param usual = {0};
+  pthread_setschedparam(pthread_self(), SCHED_OTHER, &usual);
+  EXPECT_TRUE(isRight);
+}
+
+TEST_F(Process, CallsFromOpenMPRegions) {
+  if (QVXS_SANITIZED) GTEST_SKIP() << "a runtime that is not instrumented";
+  int wrong = 0;
+#pragma omp parallel num_threads(4) reduction(+ : wrong)
+  for (int i = 0; i < 50; ++i) wrong += !call();
+  EXPECT_EQ(wrong, 0);
+}
+
+// Each part once, on any number of threads, within parts too.
+TEST_F(Process, RunsEachPartOnce) {
+  struct Counts {
+    std::atomic<int> of[100] = {};
+  };
+  for (const int threads : {1, 2, 5}) {
+    qvxSetNumThreads(threads);
+    for (int count = 0; count <= 100; ++count) {
+      Counts counts;
+      ownRunParts(
+          count,
+          [](void* all, int i) {
+            ownRunParts(
+                3, [](void* one, int) { ++*static_cast<std::atomic<int>*>(one); }, &static_cast<Counts*>(all)->of[i]);
+          },
+          &counts);
+      for (int i = 0; i < 100; ++i) ASSERT_EQ(counts.of[i], i < count ? 3 : 0);
+    }
+  }
+}
+
+}  // namespace
