@@ -18,7 +18,7 @@ template <class Record> struct Life {
   QvxStatus (*getBufSize)(const Record*, int*);
 };
 
-// Through T, all in one vector. Real spectra come with X[N/2] behind, as ours do.
+// Through T, all in one vector. Real spectra come with X[N/2] after, as ours do.
 template <class T, bool kReal> class Plainly {
  public:
   explicit Plainly(int n)

@@ -1,4 +1,4 @@
-// What a run leaves behind: a line of a table for every export, length and peer, under the machine it was measured on.
+// What a run writes: a line of a table for every export, length and peer, under the machine it was measured on.
 #pragma once
 
 #include <iosfwd>

@@ -12,7 +12,7 @@ namespace {
 // The minimum of 5 short runs: what another process takes away only ever adds.
 constexpr double kMinSeconds = 0.008;
 constexpr int kRepetitions = 5;
-// A cell that looks behind is measured again, all contenders of it alike: two looks once gave 0.54 where a quiet machine gives
+// A cell that looks slower is measured again, all contenders of it alike: two looks once gave 0.54 where a quiet machine gives
 // 0.99.
 constexpr double kWorthAnotherLook = 1.0;
 constexpr int kMostLooks = 3;

@@ -37,8 +37,8 @@ class Slabs {
 struct Vectors {
   const Slabs& slabs;
   int n;
-  int misaligned = 0;  // elements behind a 64-byte boundary
-  int overlap = 0;     // if not 0, the first source lies that many elements behind the destination in the same slab
+  int misaligned = 0;  // elements after a 64-byte boundary
+  int overlap = 0;     // if not 0, the first source lies that many elements after the destination in the same slab
 };
 
 template <class T> struct PartOf { using Type = T; };

@@ -1,4 +1,4 @@
-// FFTW's plans behind one face, planned by measurement; for a length and a place once in a process.
+// FFTW's plans under one interface, planned by measurement; for a length and a place once in a process.
 #pragma once
 
 #include <fftw3.h>

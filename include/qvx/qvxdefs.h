@@ -21,7 +21,7 @@ typedef float Qvx32f;
 typedef double Qvx64f;
 typedef uint16_t Qvx16f; /* IEEE 754 binary16 bit pattern; storage only */
 
-/* Complex elements: real part first, imaginary part directly behind it. A complex element counts as one. */
+/* Complex elements: real part first, imaginary part directly after it. A complex element counts as one. */
 typedef struct { Qvx8s re, im; } Qvx8sc;
 typedef struct { Qvx16s re, im; } Qvx16sc;
 typedef struct { Qvx32s re, im; } Qvx32sc;

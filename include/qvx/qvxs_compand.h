@@ -31,8 +31,8 @@ QVXS_API(QvxStatus, qvxsLinToMuLaw_32f8u, (const Qvx32f* pSrc, Qvx8u* pDst, int 
 QVXS_API(QvxStatus, qvxsALawToMuLaw_8u, (const Qvx8u* pSrc, Qvx8u* pDst, int len));
 QVXS_API(QvxStatus, qvxsMuLawToALaw_8u, (const Qvx8u* pSrc, Qvx8u* pDst, int len));
 
-/** Writes the low pSrcBitLen[n] bits of every pSrcBit[n] one behind another, the highest bit first, from dstBitOffset bits behind
- *  pDst on; bit 0 of a byte is its highest. The bits of the first byte before that are kept, those of the last byte behind the
+/** Writes the low pSrcBitLen[n] bits of every pSrcBit[n] one after another, the highest bit first, from dstBitOffset bits after
+ *  pDst on; bit 0 of a byte is its highest. The bits of the first byte before that are kept, those of the last byte after the
  *  bits written become 0. *pDstLenBit = the number of bits written.
  *  A length below 0 counts as 0, one above 32 as 32.
  *  Returns qvxStatOk; qvxWarnBadBitLen if there was such a length (everything is written); qvxStatNullPtr; qvxStatBadSize

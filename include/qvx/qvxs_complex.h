@@ -127,7 +127,7 @@ QVXS_API(QvxStatus, qvxsCartToPolar_16sc_Sfs,
  *  Floats: the product in 64-bit floats of a sine or cosine; 32f within 0.6 ULP, 64f within 2.2 ULP of the product. An infinite
  *  phase gives NaN.
  *  16sc_Sfs: magnitudes times 2^-magnScaleFactor, phases times 2^-phaseScaleFactor, both scale factors limited to -31 to 31.
- *  16sc, 32sc: phases with phaseFixedPoint places behind the point, 0 to 15 (32sc: 0 to 31).
+ *  16sc, 32sc: phases with phaseFixedPoint places after the point, 0 to 15 (32sc: 0 to 31).
  *  Integer results are rounded to nearest with ties to even and saturated.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1, or phaseFixedPoint out of range). */
 QVXS_API(QvxStatus, qvxsPolarToCart_32fc, (const Qvx32f* pSrcMagn, const Qvx32f* pSrcPhase, Qvx32fc* pDst, int len));

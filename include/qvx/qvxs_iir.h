@@ -25,7 +25,7 @@ extern "C" {
  *
  * A record is of one of three forms, set by its initialiser:
  *   direct       one filter of any order N; taps b[0..N], a[0..N]; line d[0..N-1]
- *   BiQuad       numBq sections of second order, one behind the other; taps b0, b1, b2, a0, a1, a2 for each; line d[0], d[1] for
+ *   BiQuad       numBq sections of second order, one after the other; taps b0, b1, b2, a0, a1, a2 for each; line d[0], d[1] for
  * each BiQuad_DF1   the same sections in the direct form I; line x[n-2], x[n-1], y[n-2], y[n-1] for each
  *
  * The same functions filter all forms. Each is written by one thread at a time. */
@@ -87,7 +87,7 @@ QVXS_API(QvxStatus, qvxsIIRGetStateSize64fc_BiQuad_16sc, (int numBq, int* pState
  *  pTaps: b[0..order], a[0..order]; all are multiplied by 1 / a[0], a complex a[0] by its reciprocal. Qvx32s taps count times
  *  2^-tapsFactor. pDlyLine: order values, or null for zeros. Neither is looked at again.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadIIROrder (order < 1); qvxStatNoMem (Qvx32s taps: no room to convert them);
- *  qvxStatDivByZero (a[0] is 0: *ppState is set, but there is no filter behind it until the taps are set). */
+ *  qvxStatDivByZero (a[0] is 0: *ppState is set, but the filter is not to be used until its taps are set). */
 QVXS_API(QvxStatus, qvxsIIRInit_32f,
          (QvxsIIRState_32f * *ppState, const Qvx32f* pTaps, int order, const Qvx32f* pDlyLine, Qvx8u* pBuf));
 QVXS_API(QvxStatus, qvxsIIRInit_32fc,

@@ -73,7 +73,7 @@ using Eight16 = Lanes<int16_t, 8>;
 // As many of eight floats as one register holds.
 constexpr size_t kAtOnce = std::min<size_t>(8, kVectorBytes / sizeof(Qvx32f));
 
-// `count` of eight floats from p on, zeros behind them.
+// `count` of eight floats from p on, zeros after them.
 template <class Sample> Vec<Eight16> joined8(Sample sample, const Qvx32f* p, size_t count) {
   const Lanes<float, kAtOnce> d;
   if constexpr (kAtOnce == 8) {
@@ -238,7 +238,7 @@ void split16(const Qvx16s* src, size_t channels, size_t n, Qvx32f* const* dst) {
 // ---- 24 bits
 
 using Four32 = Lanes<int32_t, 4>;
-using Row24 = Lanes<uint8_t, 16>;  // 12 bytes of four channels, and four behind
+using Row24 = Lanes<uint8_t, 16>;  // 12 bytes of four channels, and four after
 
 // Two channels, a frame an element: as a source, and as a destination, of quads in which their samples are in turn; and the
 // packed frames.

@@ -48,10 +48,10 @@ template <class Law> struct To16s {
 
 // ---- codes to floats
 //
-// Segment and bits of a code, and the half step behind them, are the exponent and the fraction of a half: A-law takes 0.3 of the
+// Segment and bits of a code, and the half step after them, are the exponent and the fraction of a half: A-law takes 0.3 of the
 // time of a lookup and two conversions that way, mu-law 0.6. Subnormal halves are numbers in any mode.
 
-constexpr bool kConvertsHalves = HWY_TARGET <= HWY_AVX2;
+constexpr bool kConvertsHalves = QVXS_AVX2;
 
 // sign-extended codes; kInverted: the bits that a law inverts; kAdded: what belongs to exponent and fraction besides.
 template <class V> auto asHalf(V code, int8_t inverted, int added) {
@@ -107,7 +107,7 @@ struct ToALaw {
     const V negative = signs(x);
     const V magnitude = x ^ negative;  // 0 to 32767, of which 3 bits do not count
     const V segment = bitLength(hn::ShiftRight<8>(magnitude));
-    // The four bits of a code to the top, behind the leading bit from segment 1 on: counted as one more segment, it is taken off.
+    // The four bits of a code to the top, after the leading bit from segment 1 on: counted as one more segment, it is taken off.
     const V above = hn::Max(segment, same<V>(1)) - same<V>(1);
     const V five = hn::ShiftRight<11>(magnitude * lookedUp(kToTop, above)) & same<V>(31);
     return (hn::ShiftLeft<4>(above) + five) ^ (same<V>(0xD5) ^ (negative & same<V>(0x80)));

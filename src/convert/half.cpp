@@ -9,7 +9,7 @@ using namespace qvx;
 
 namespace {
 
-constexpr bool kHasInstruction = HWY_TARGET <= HWY_AVX2;
+constexpr bool kHasInstruction = QVXS_AVX2;
 
 struct FromHalf {
   template <class V>  // uint16_t lanes

@@ -1,7 +1,7 @@
 // Channels side by side and channels interleaved, a tile of a few frames and channels at a time in registers.
 //
 // A row is what a tile has of one frame. Rows are stored and loaded with whole registers, also where the channels end before the
-// register: the bytes behind are the next row's, which is stored later. Only rows from which a register would reach beyond the
+// register: the bytes after are the next row's, which is stored later. Only rows from which a register would reach beyond the
 // last frame are cut to what they have.
 #pragma once
 
@@ -49,7 +49,7 @@ template <class F> [[gnu::noinline]] void cutTile(F f, const Tile& t) { f(t, std
 // Tiles of kFrames and kGroup channels over a buffer; the last ones begin early enough to be full where there is enough for that.
 // f is called with a tile and a constant: whether all rows may be whole registers. The others stand apart, for their branches
 // would keep the vectors of all tiles in memory (1.7 times the time).
-// writes: whole rows spoil what follows them. Behind the first group of channels that must be groups yet to come, not the next
+// writes: whole rows spoil what follows them. After the first group of channels that must be groups yet to come, not the next
 // frame, whose first group is there already.
 template <size_t kFrames, size_t kGroup, size_t kRowBytes, class F>
 void forEachTile(size_t channels, size_t frames, size_t elementBytes, bool writes, F f) {

@@ -12,7 +12,7 @@ struct Magnitude {
   template <class V> V operator()(Pair<V> z) const { return hn::Sqrt(Power()(z)); }
 };
 
-// Of 16-bit parts to floats: the root of the exact power, rounded once before and once behind it.
+// Of 16-bit parts to floats: the root of the exact power, rounded once before and once after it.
 struct Magnitude16ToFloat {
   template <class... V> auto operator()(V... parts) const { return hn::Sqrt(Power16ToFloat()(parts...)); }
 };

@@ -1,4 +1,4 @@
-// Bits of 32-bit words packed one behind another, the highest first.
+// Bits of 32-bit words packed one after another, the highest first.
 #include "frame/map.h"
 
 using namespace qvx;

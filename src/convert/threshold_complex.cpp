@@ -168,7 +168,7 @@ template <Side kSide> struct Clip16 {
     if (hn::AllFalse(TagOf<W>(), beyond)) return x;
     const W both = as<int32_t>(x);
     W square = less1 + same<W>(1);  // 2^31 becomes a negative number, which has no root: in doubt
-    if constexpr (kSide == Side::kBelow) square = hn::Max(square, same<W>(1));  // zeros are seen to behind
+    if constexpr (kSide == Side::kBelow) square = hn::Max(square, same<W>(1));  // zeros are dealt with later
     const auto size = Quiet::root(Quiet::floatOf(square));
     using F = std::remove_const_t<decltype(size)>;
     const F factor = Quiet::quotient(same<F>(radius), size);

@@ -132,7 +132,7 @@ template <class K, class T, size_t kRows>
   }
 }
 
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
 // One row of taps gives no more products than loads. Half of the shifted vectors come from two registers then, by a permutation,
 // which another unit does: 75 % of the products that are possible, where loads alone leave 47 %. Of four vectors all do: short
 // blocks have just been copied, and a load across two of the copy's stores waits until both are in the cache. 64 outputs of 16

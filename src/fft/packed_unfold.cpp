@@ -1,4 +1,4 @@
-// Packed spectra unfolded: the half that they hold, and its conjugates backwards behind it.
+// Packed spectra unfolded: the half that they hold, and its conjugates backwards after it.
 #include "frame/flip.h"
 #include "transform/layout.h"
 

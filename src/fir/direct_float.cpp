@@ -35,7 +35,7 @@ template <int kLimit, class T> void filterShort(const Stateless<T, T>& caller, c
   const size_t head = n < old + V ? n : old;
   if (head > 0) {
     T x[2 * kLimit + V];
-    // Behind the last index the samples begin at 0: there alone this form has renewed them.
+    // After the last index the samples begin at 0: there alone this form has renewed them.
     std::copy_n(line.window + (line.index + 1) % caller.tapsLen, old, x);
     std::copy_n(src, head, x + old);
     if (head < V) std::fill_n(x + old + head, V - head, T{});

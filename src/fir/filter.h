@@ -54,7 +54,7 @@ template <class T> void moveVectors(const T* src, size_t n, T* dst) {
   store(last, d, parts(dst + n - N));
 }
 
-// The new samples stand behind the window; the end of both becomes the next window.
+// The new samples stand after the window; the end of both becomes the next window.
 template <class R> void advance(R& state, size_t n) {
   auto* window = state.delay.window;
   moveVectors(window + n, static_cast<size_t>(state.tapsLen), window);

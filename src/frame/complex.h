@@ -5,7 +5,7 @@
 
 namespace qvx {
 
-// Interleaved parts, as a Pair of the real and the imaginary ones. kBehind: the real part of what stands behind the end.
+// Interleaved parts, as a Pair of the real and the imaginary ones. kBehind: the real part of what stands past the end.
 template <class T, int kBehind = 0> struct Deinterleaved {
   using Lane = T;
   const T* p;
@@ -29,7 +29,7 @@ template <class T> Deinterleaved<Part<T>, 1> deinterleavedOnesBehind(const T* p)
 
 // The same as a Complex, N of each part, whose elements stand in another order: that costs a shuffle within blocks of 128 bits,
 // a third of one across them. For reductions, and for ComplexDestination, which puts them back. kBehind: the real part of what
-// stands behind the end.
+// stands past the end.
 template <class T, int kBehind = 0> struct ByParts {
   using Lane = Part<T>;
   const T* p;

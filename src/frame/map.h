@@ -78,7 +78,7 @@ template <class T> struct Constant {
 
 template <class T> Constant(T) -> Constant<T>;
 
-// A vector in which a zero counts against the caller: where others have zeros behind the end, this one has ones.
+// A vector in which a zero counts against the caller: where others have zeros past the end, this one has ones.
 template <class T> struct OnesBehind {
   using Lane = Part<T>;
   const T* p;
@@ -91,7 +91,7 @@ template <class T> struct OnesBehind {
 template <class T> OnesBehind(const T*) -> OnesBehind<T>;
 template <class T> OnesBehind(T*) -> OnesBehind<T>;
 
-// A vector behind whose end stands an element that leaves a reduction as it is. By its address: a float beside a pointer would
+// A vector past whose end stands an element that leaves a reduction as it is. By its address: a float beside a pointer would
 // travel through the stack.
 template <class T> struct PaddedWith {
   using Lane = T;
@@ -251,7 +251,7 @@ template <class Op, class Prepare> auto behind(Prepare prepare, Op op) {
 
 // ---- the loop
 
-// What an element of a source is to the memory: a constant is nothing.
+// Bytes read per lane; constants read none.
 template <class Src> constexpr size_t bytesRead() {
   if constexpr (requires(Src s) { s.value; }) return 0;
   else return sizeof(typename Src::Lane);

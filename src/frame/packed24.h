@@ -93,9 +93,9 @@ template <class T, Block24 kBlock = Block24::kLanes> struct From24 {
 
   template <size_t N> auto get(size_t at) const {
     const uint8_t* bytes = p + 3 * at;
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
     if constexpr (N == 64) {
-      // Whole registers, 48 bytes apart, of which the last begins early enough not to end behind the elements.
+      // Whole registers, 48 bytes apart, of which the last begins early enough not to end after the elements.
       const Lanes<int32_t, N / 4> d;
       return quadOf([bytes, d](size_t k) {
         const auto packed = as<int32_t>(load(Lanes<uint8_t, N>(), bytes + (k < 3 ? 48 * k : 128)));
@@ -156,7 +156,7 @@ template <class T, Block24 kBlock = Block24::kLanes> struct To24 {
   template <size_t N, class V> void put(Quad<V> q, size_t at) const {
     uint8_t* bytes = p + 3 * at;
     const auto blocks = each(q, [](V v) { return packed(v); });
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
     if constexpr (N == 64) {
       const Lanes<uint8_t, N> d;
       store(lanesOfTwo(blocks.a, blocks.b, detail::kDense24[0]), d, bytes);

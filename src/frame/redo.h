@@ -1,4 +1,4 @@
-// Lanes that a vector form is not made for, one by one.
+// Scalar fallback for lanes that a vector kernel cannot handle.
 #pragma once
 
 #include <bit>

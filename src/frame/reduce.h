@@ -11,7 +11,7 @@
 //              longer vectors are gathered slice by slice
 //   kFlight    accumulators at work at the same time, to cover the latency of `add`
 //   kRepeats   whether an element may be added twice, as into a maximum. Then the end of a vector is a whole vector that overlaps
-//              its neighbour; else it is a partial one, and the zeros behind it must add nothing.
+//              its neighbour; else it is a partial one, and the zeros after it must add nothing.
 //   Inner      the widest lane type that is computed in
 //
 // Which lane an element falls into depends on its index alone, never on its address.

@@ -10,7 +10,7 @@ namespace qvx {
 
 enum class Rounding : uint32_t { kNearest = 0x0000, kTowardZero = 0x6000, kCallers = 0xFFFF };
 
-// The compiler knows nothing of the control word. The clobber pins a kernel's loads behind a change and its stores before the
+// The compiler knows nothing of the control word. The clobber pins a kernel's loads after a change and its stores before the
 // return to the saved word, and so all arithmetic between them.
 inline uint32_t controlWord() {
   uint32_t word;

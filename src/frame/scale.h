@@ -236,7 +236,7 @@ template <bool kBy16> struct ShiftLow {
     }));
   }
 };
-// Farther, the low half is no more than an odd bit behind the high one.
+// For s > 16 the low half is only a sticky bit.
 struct ShiftHigh {
   int s;
   template <class Low, class High> auto operator()(SplitProduct<Low, High> v) const {
@@ -257,7 +257,7 @@ template <class V> auto wideProduct(V a, V b) {
 
 // Back to 32-bit lanes, saturated.
 template <class V> auto narrow(EvenOdd<V> v) {
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   if constexpr (sizeof(v.even.raw) == 64) {
     alignas(64) static constexpr int32_t kInTurn[16] = {0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23};
     const Lanes<int32_t, 16> d;

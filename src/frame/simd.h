@@ -1,4 +1,5 @@
-// The library's window on Highway, and the only file that knows its namespaces, its quirks and raw intrinsics.
+// The library's vocabulary of vectors: Highway's operations under the name hn::, what it lacks or does slowly, and raw
+// intrinsics, which are nowhere else.
 //
 // Kernels are written on whole vectors of the variant's widest register and on `Lanes<T, N>`, a tag for N elements of T;
 // N times the size of T may be anything from 4 bytes to a register.
@@ -11,13 +12,17 @@
 #include <cstring>
 #include <type_traits>
 
+// What a variant's instructions are, for the preprocessor.
+#define QVXS_AVX512 (HWY_TARGET == HWY_AVX3)
+#define QVXS_AVX2 (HWY_TARGET <= HWY_AVX2)  // or more
+
 namespace qvx {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
 // Highway falls back to a lower target without a word if a flag is missing: then the variant would be one in name only.
 static_assert(HWY_TARGET == QVXS_EXPECTED_TARGET, "the compiler's flags do not give this variant its instruction set");
-inline constexpr bool kHasMasks = HWY_TARGET == HWY_AVX3;
+inline constexpr bool kHasMasks = QVXS_AVX512;
 inline constexpr bool kFuses = HWY_NATIVE_FMA;  // multiplication and addition with one rounding
 
 inline constexpr size_t kVectorBytes = HWY_LANES(uint8_t);
@@ -30,7 +35,7 @@ template <class V> inline constexpr size_t kLanesOf = hn::MaxLanes(TagOf<V>());
 
 namespace detail {
 
-// The first `bytes` (0 to 16) bytes at p, zeros behind them: two overlapping loads of the largest width that fits, since a
+// The first `bytes` (0 to 16) bytes at p, zeros after them: two overlapping loads of the largest width that fits, since a
 // round trip through the stack costs a failed store forwarding (about 4 ns).
 inline __m128i loadBytes(const uint8_t* p, size_t bytes) {
   const auto at = [p](size_t offset, auto word) { return std::memcpy(&word, p + offset, sizeof(word)), word; };
@@ -86,7 +91,7 @@ inline __m128 minusPlus(__m128 a, __m128 b) { return _mm_addsub_ps(a, b); }
 inline __m128d minusPlus(__m128d a, __m128d b) { return _mm_addsub_pd(a, b); }
 inline __m128 evens(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0x88); }
 inline __m128 odds(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0xDD); }
-#if HWY_TARGET <= HWY_AVX2
+#if QVXS_AVX2
 template <int kBy> __m256d delayed(__m256d before, __m256d v) {
   const __m256d middle = _mm256_permute2f128_pd(before, v, 0x21);
   if constexpr (kBy == 2) return middle;
@@ -133,7 +138,7 @@ inline __m128i packU16(__m128i lo, __m128i hi) {  // for lanes from -2^31 + 2^15
   return _mm_xor_si128(packed, _mm_set1_epi16(INT16_MIN));
 }
 #endif
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
 template <int kBy> __m512d delayed(__m512d before, __m512d v) {
   return _mm512_castsi512_pd(_mm512_alignr_epi64(_mm512_castpd_si512(v), _mm512_castpd_si512(before), 8 - kBy));
 }
@@ -285,7 +290,7 @@ template <size_t kBytes> bool reachesNextPage(const void* p) {
 
 }  // namespace detail
 
-// The first n lanes (0 to all) from memory, the rest zero. Nothing behind them is read.
+// The first n lanes (0 to all) from memory, the rest zero. Nothing past them is read.
 template <class D> Vec<D> loadFirst(D d, const hn::TFromD<D>* p, size_t n) {
   using T = hn::TFromD<D>;
   constexpr size_t kBytes = hn::MaxLanes(D()) * sizeof(T);
@@ -302,7 +307,7 @@ template <class D> Vec<D> loadFirstOr(D d, const hn::TFromD<D>* p, size_t n, hn:
   return hn::IfThenElse(hn::FirstN(d, n), loadFirst(d, p, n), hn::Set(d, behind));
 }
 
-// Stores the first n lanes (0 to all). Nothing behind them is written.
+// Stores the first n lanes (0 to all). Nothing past them is written.
 template <class D> void storeFirst(Vec<D> v, D d, hn::TFromD<D>* p, size_t n) {
   using T = hn::TFromD<D>;
   constexpr size_t kBytes = hn::MaxLanes(D()) * sizeof(T);
@@ -317,7 +322,7 @@ template <class D> void storeFirst(Vec<D> v, D d, hn::TFromD<D>* p, size_t n) {
 
 // A bit for every lane of a mask.
 template <class D, class M> uint64_t maskBits([[maybe_unused]] D d, M mask) {
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   return mask.raw;
 #else
   return hn::detail::BitsFromMask(mask);
@@ -326,7 +331,7 @@ template <class D, class M> uint64_t maskBits([[maybe_unused]] D d, M mask) {
 
 // A mask of lanes as that of as many lanes of another width.
 template <class To, class From, class M> auto maskAs([[maybe_unused]] To d, [[maybe_unused]] From from, M mask) {
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   return hn::Mask<To>{static_cast<decltype(hn::Mask<To>::raw)>(mask.raw)};
 #else
   if constexpr (sizeof(hn::TFromD<To>) == sizeof(hn::TFromD<From>)) {
@@ -358,7 +363,7 @@ template <class V> V less(V v, V held) { return hn::Min(v, held); }
 
 // The bits of `among` that are set in neither a nor b.
 template <class V> V neither(V a, V b, V among) {
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   if constexpr (sizeof(a.raw) == 64) return V{_mm512_ternarylogic_epi64(a.raw, b.raw, among.raw, 0x02)};
   else if constexpr (sizeof(a.raw) == 32) return V{_mm256_ternarylogic_epi64(a.raw, b.raw, among.raw, 0x02)};
   else return V{_mm_ternarylogic_epi64(a.raw, b.raw, among.raw, 0x02)};
@@ -409,7 +414,7 @@ template <class V> auto pairProducts(V a, V b) {
 // The 64-bit products of the even lanes of 32 bits. Highway's go through memory on SSSE3, which only multiplies unsigned numbers:
 // a negative one counts as 2^32 more there, and its partner is taken off the upper half again.
 template <class V> auto evenProducts(V a, V b) {
-  if constexpr (HWY_TARGET == HWY_SSSE3 && std::is_signed_v<LaneOf<V>>) {
+  if constexpr (!QVXS_AVX2 && std::is_signed_v<LaneOf<V>>) {
     const auto product = as<int64_t>(hn::MulEven(as<uint32_t>(a), as<uint32_t>(b)));
     const V excess = (hn::BroadcastSignBit(a) & b) + (hn::BroadcastSignBit(b) & a);
     return product - hn::ShiftLeft<32>(as<int64_t>(excess));
@@ -442,7 +447,7 @@ template <class V> auto twice(V v) {
         hn::PromoteTo(Lanes<hwy::UnsignedFromSize<2 * sizeof(T)>, N / 2>(), as<hwy::UnsignedFromSize<sizeof(T)>>(v));
     return as<T>(wide | hn::ShiftLeft<8 * sizeof(T)>(wide));
   } else {
-#if HWY_TARGET <= HWY_AVX2
+#if QVXS_AVX2
     return as<T>(detail::twice(as<hwy::FloatFromSize<sizeof(T)>>(v)));
 #endif
   }
@@ -473,13 +478,13 @@ template <class V> V minusPlus(V a, V b) { return V{detail::minusPlus(a.raw, b.r
 
 // The even or the odd ones of the 128-bit blocks of two vectors.
 template <class V> V evenBlocks(V a, V b) {
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   if constexpr (sizeof(a.raw) == 64) return V{detail::evenBlocks(a.raw, b.raw)};
 #endif
   return hn::ConcatLowerLower(TagOf<V>(), b, a);
 }
 template <class V> V oddBlocks(V a, V b) {
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   if constexpr (sizeof(a.raw) == 64) return V{detail::oddBlocks(a.raw, b.raw)};
 #endif
   return hn::ConcatUpperUpper(TagOf<V>(), b, a);
@@ -495,7 +500,7 @@ template <class V> V swapped(V v) {
 // yes where the lane's sign bit is set. Highway's own operation takes the other bits too on SSSE3.
 template <class V> V ifNegative(V lane, V yes, V no) {
   using Signed = hwy::SignedFromSize<sizeof(LaneOf<V>)>;
-  if constexpr (HWY_TARGET == HWY_SSSE3) return hn::IfVecThenElse(as<LaneOf<V>>(hn::BroadcastSignBit(as<Signed>(lane))), yes, no);
+  if constexpr (!QVXS_AVX2) return hn::IfVecThenElse(as<LaneOf<V>>(hn::BroadcastSignBit(as<Signed>(lane))), yes, no);
   else return hn::IfNegativeThenElse(lane, yes, no);
 }
 
@@ -508,25 +513,25 @@ template <class V> auto toDouble(V v) {
 }
 
 // Whether lanes can be loaded each from a place of its own: the 32 bits at p + 2 * at[i] bytes.
-inline constexpr bool kGathers = HWY_TARGET <= HWY_AVX2;
+inline constexpr bool kGathers = QVXS_AVX2;
 template <class V> V loadEach(const uint16_t* p, V at) {
   return hn::GatherOffset(TagOf<V>(), reinterpret_cast<const int32_t*>(p), at + at);
 }
 
 // Floats to 32-bit integers: in the processor's rounding mode, truncated, or to nearest whatever the mode (SSSE3 has no such
 // instruction, so there the mode must be the nearest). What no int32 can hold becomes INT32_MIN.
-inline constexpr bool kRoundsByInstruction = HWY_TARGET <= HWY_AVX2;
+inline constexpr bool kRoundsByInstruction = QVXS_AVX2;
 template <class V> auto toInt(V v) { return Vec<hn::Rebind<int32_t, TagOf<V>>>{detail::toIntCurrent(v.raw)}; }
 template <class V> auto toIntTruncated(V v) { return Vec<hn::Rebind<int32_t, TagOf<V>>>{detail::toIntTruncated(v.raw)}; }
 template <class V> auto toIntNearest(V v) {
-#if HWY_TARGET <= HWY_AVX2
+#if QVXS_AVX2
   return Vec<hn::Rebind<int32_t, TagOf<V>>>{detail::toIntNearest(v.raw)};
 #else
   return toInt(v);
 #endif
 }
 
-#if HWY_TARGET <= HWY_AVX2
+#if QVXS_AVX2
 // Floats to binary16 in uint16_t lanes, to nearest or toward zero whatever the processor's mode.
 template <bool kNearest, class V> auto toHalf(V v) {
   return Vec<hn::Rebind<uint16_t, TagOf<V>>>{detail::toHalf < kNearest ? detail::kNearest : detail::kToward0 > (v.raw)};
@@ -536,7 +541,7 @@ template <bool kNearest, class V> auto toHalf(V v) {
 // Doubles truncated to 64-bit integers. Variants differ beyond the range of those.
 template <class V> auto toInt64(V v) {
   const hn::Rebind<int64_t, TagOf<V>> d;
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   return Vec<decltype(d)>{detail::toInt64(v.raw)};
 #else
   return hn::ConvertTo(d, v);
@@ -546,7 +551,7 @@ template <class V> auto toInt64(V v) {
 // 64-bit lanes saturated to 32-bit ones.
 template <class V> auto saturatedTo32(V v) {
   const hn::Rebind<int32_t, TagOf<V>> d;
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   return Vec<decltype(d)>{detail::saturatedTo32(v.raw)};
 #else
   const V clamped = hn::Min(hn::Max(v, same<V>(INT32_MIN)), same<V>(INT32_MAX));
@@ -554,7 +559,7 @@ template <class V> auto saturatedTo32(V v) {
 #endif
 }
 
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
 // Sixteen of the 32-bit lanes of two registers: 0 to 15 count those of the first, 16 to 31 those of the second.
 template <class V> V lanesOfTwo(V a, V b, const int32_t (&order)[16]) {
   static_assert(sizeof(a.raw) == 64);
@@ -572,7 +577,7 @@ template <class V> V lanesOfTwo(V a, V b, Vec<hn::RebindToUnsigned<TagOf<V>>> or
 }
 #endif
 
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
 namespace detail {
 template <class T> struct InTurn {
   static constexpr size_t kLanes = 64 / sizeof(T);
@@ -598,7 +603,7 @@ template <class T> __m512i lanesOfBoth(__m512i a, const T* order, __m512i b) {
 // The lanes of both vectors in turn: lo[0], hi[0], lo[1] ... in the first of the result.
 template <class V> Pair<V> interleaved(Pair<V> v) {
   const TagOf<V> d;
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   if constexpr (sizeof(v.lo.raw) == 64) {
     using T = hwy::UnsignedFromSize<sizeof(LaneOf<V>)>;
     const auto lo = as<uint8_t>(v.lo);
@@ -616,7 +621,7 @@ template <class V> Pair<V> interleaved(Pair<V> v) {
 // The same of two half vectors in a whole one.
 template <class V> auto inTurn(Pair<V> v) {
   using Whole = Vec<hn::Twice<TagOf<V>>>;
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   if constexpr (sizeof(Whole) == 64) {
     using T = hwy::UnsignedFromSize<sizeof(LaneOf<V>)>;
     const auto lo = as<uint8_t>(v.lo);
@@ -649,7 +654,7 @@ template <class V> V reversed(V v) {
   }
 }
 
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
 // A table of 16 or 32 floats or 16 doubles, 64-byte aligned, that stays in registers; of the index only the bits that count.
 template <class V, class T, size_t kEntries> V lookup(Vec<hn::RebindToUnsigned<TagOf<V>>> index, const T (&table)[kEntries]) {
   V v;
@@ -663,7 +668,7 @@ template <class V> V mulAddNearest(V a, V b, V c) {
   return a;
 }
 
-// 1 / sqrt(v) of doubles, off by 2^-14 of it at most; processors differ in the bits behind.
+// 1 / sqrt(v) of doubles, off by 2^-14 of it at most; processors differ in the bits after.
 template <class V> V nearReciprocalRoot(V v) { return V{detail::nearReciprocalRoot(v.raw)}; }
 
 // v * 2^floor(exponent), rounded once, for any exponent.
@@ -691,7 +696,7 @@ template <class V> V exponentOf(V v) {
 inline constexpr bool kQuietByInstruction = kHasMasks;
 struct Quiet {
   template <class V> static V quotient(V a, V b) {
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
     detail::partOf(detail::quotientNearest(detail::whole(a.raw), detail::whole(b.raw)), a.raw);
     return a;
 #else
@@ -699,7 +704,7 @@ struct Quiet {
 #endif
   }
   template <class V> static V root(V v) {
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
     detail::partOf(detail::rootNearest(detail::whole(v.raw)), v.raw);
     return v;
 #else
@@ -709,7 +714,7 @@ struct Quiet {
   // Of 32-bit integers.
   template <class V> static auto floatOf(V v) {
     Vec<hn::Rebind<float, TagOf<V>>> f;
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
     detail::partOf(detail::toFloatNearest(detail::whole(v.raw)), f.raw);
 #else
     f = hn::ConvertTo(TagOf<decltype(f)>(), v);
@@ -718,14 +723,14 @@ struct Quiet {
   }
   // As greater().
   template <class V> static V max(V v, V held) {
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
     detail::partOf(detail::greaterQuiet(detail::whole(v.raw), detail::whole(held.raw)), v.raw);
     return v;
 #else
     return hn::Max(v, held);
 #endif
   }
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   template <class V> static V product(V a, V b) {
     detail::partOf(detail::productNearest(detail::whole(a.raw), detail::whole(b.raw)), a.raw);
     return a;
@@ -751,12 +756,12 @@ struct Quiet {
 // narrow() for two vectors that follow each other in memory.
 template <class To, class V> auto narrowInOrder(Pair<V> v) {
   auto packed = narrow<To>(v);
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   if constexpr (sizeof(packed.raw) == 64) {
     packed.raw = _mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), packed.raw);
   }
 #endif
-#if HWY_TARGET <= HWY_AVX2
+#if QVXS_AVX2
   if constexpr (sizeof(packed.raw) == 32) packed.raw = _mm256_permute4x64_epi64(packed.raw, 0xD8);
 #endif
   return packed;

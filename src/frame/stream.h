@@ -18,7 +18,7 @@ inline bool isStreamed(size_t bytes) {
   return bytes > static_cast<size_t>(reported > 0 && reported < kMost ? reported : kMost);
 }
 
-// So many bytes from p on, into the caches. p may lie behind a vector's end: nothing is read.
+// So many bytes from p on, into the caches. p may lie past a vector's end: nothing is read.
 template <size_t kBytes, class T> void prefetchLines(const T* p) {
   for (size_t at = 0; at < kBytes; at += 64) __builtin_prefetch(reinterpret_cast<const char*>(p) + at);
 }

@@ -45,7 +45,7 @@ template <class P> class Cascade {
     const Exact b0 = t[0];
     const P row[kRows] = {t[0], static_cast<P>(t[1] - t[3] * b0), static_cast<P>(t[2] - t[4] * b0), -t[3], -t[4]};
     for (size_t r = 0; r < kRows; ++r) *at(section, r) = row[r];
-    if (section + 1 == sections_) {  // those behind the last pass on what comes
+    if (section + 1 == sections_) {  // those after the last pass on what comes
       for (size_t s = sections_; s < static_cast<size_t>(padded(static_cast<int>(sections_))); ++s) {
         for (size_t r = 0; r < kRows; ++r) *at(s, r) = r == 0 ? 1 : 0;
       }

@@ -62,7 +62,7 @@ template <class T> class Direct {
     }
   }
 
-  // n numbers in place. d, the transposed direct form's delay line, has zeros behind it up to a whole vector, and one more.
+  // n numbers in place. d, the transposed direct form's delay line, has zeros after it up to a whole vector, and one more.
   void run(Lane* work, size_t n, Lane* d) const {
     const auto with = [&](auto size) {
       if (vectors_ == size()) part<size()>(work, n, d);
@@ -106,7 +106,7 @@ template <class T> class Direct {
     }
   }
   static void put(Lane* column, size_t, size_t i, long double v) { column[i] = static_cast<Lane>(v); }
-  // Real and imaginary parts of the impulse have columns of their own, the second one `next` behind the first.
+  // Real and imaginary parts of the impulse have columns of their own, the second one `next` after the first.
   static void put(Lane* column, size_t next, size_t i, std::complex<long double> v) {
     column[2 * i] = column[next + 2 * i + 1] = static_cast<Lane>(v.real());
     column[2 * i + 1] = static_cast<Lane>(v.imag());

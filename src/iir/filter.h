@@ -121,7 +121,7 @@ template <class T, class P> void df1InLanes(const Cascade<P>& cascade, const T* 
 }
 
 // with(line): the delay line of sections, which a direct form up to order 2 is one of. Of order 1, its second value is the zero
-// behind it, and stays so.
+// after it, and stays so.
 template <class T, class With> void withSectionLine(const Record<T>& s, With with) {
   if (!s.isDirect()) return with(s.line);
   T line[2] = {s.line[0], s.order == 1 ? T{} : s.line[1]};

@@ -7,7 +7,7 @@
 
 namespace qvx::iir {
 
-// The transposed direct form: taps b0..bN, a1..aN; the line has N values and a zero behind them.
+// The transposed direct form: taps b0..bN, a1..aN; the line has N values and a zero after them.
 template <class T> T directOne(const T* taps, T* line, size_t order, T x) {
   const T* b = taps + 1;
   const T* a = b + order;
@@ -19,7 +19,7 @@ template <class T> T directOne(const T* taps, T* line, size_t order, T x) {
 // The same for n samples in place. The line does not move: outputs add their shares to those that follow, in vectors at fixed
 // places. A line that moved would be loaded across two of its own stores, and wait for both: 12 ns a sample of order 64. Four
 // outputs together load and store a share once: of order 100 in SSE, a sample takes half the time of one by one. The first vector
-// has places before the next output, which nobody looks at again, the last some behind the line: there are zeros on both sides of
+// has places before the next output, which nobody looks at again, the last some after the line: there are zeros on both sides of
 // the taps. The order is bounded for the sake of the stack, of which this takes up to 15 KiB.
 template <class T> inline constexpr size_t kMostStill = 512 / kParts<T>;
 template <class T> [[gnu::flatten]] void directStill(const T* taps, T* line, size_t order, Lane* work, size_t n) {

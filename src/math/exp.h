@@ -25,7 +25,7 @@ template <> struct ExpNumbers<float> {
   static constexpr float kLeast = -104.5F;
   static constexpr float kMost = 89.5F;
   static constexpr float kNear = 86.5F;
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   // degree 1 on +-0.0217, error 0.03 of 2^-24
   static constexpr float kQ[] = {0x1.00022p-1F, 0x1.555764p-3F};
 #else
@@ -41,7 +41,7 @@ template <> struct ExpNumbers<double> {
   static constexpr double kLeast = -746;
   static constexpr double kMost = 710;
   static constexpr double kNear = 707.5;
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
   // degree 4 on +-0.0217, error 0.11 of 2^-53
   static constexpr double kQ[] = {0x1.0000000000005p-1, 0x1.555555548ebc4p-3, 0x1.555555545c578p-5, 0x1.11123b482d9fcp-7,
                                   0x1.6c185fabc7718p-10};
@@ -120,7 +120,7 @@ template <class V> V clamp(V x, LaneOf<V> least, LaneOf<V> most) {  // NaN stays
   return hn::Max(same<V>(least), hn::Min(same<V>(most), x));
 }
 
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
 
 template <class V> V exp(V x) {
   using T = LaneOf<V>;

@@ -16,7 +16,7 @@ namespace detail {
 // x = 2^k * m. The product of kLn2High and any k is exact; kLn2Low is positive, so that an infinite k gives no NaN.
 template <class T> struct LnNumbers;
 
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
 
 // m from 0.75 to 1.5; by its first bits a reciprocal c such that r = m c - 1 is small and -ln c next to a multiple of 2^-16 or
 // 2^-41, which kLn2High is, too: that part of the sum is exact. kQ: ln(1 + r) = r + r^2 q(r).
@@ -145,7 +145,7 @@ template <class V, class M> V lnOfBad(V x, V y, M isBad) {
 }  // namespace detail
 
 // onBad(isBad) is called where lanes may be 0 or negative.
-#if HWY_TARGET == HWY_AVX3
+#if QVXS_AVX512
 
 template <class V, class OnBad> V ln(V x, OnBad onBad) {
   using T = LaneOf<V>;

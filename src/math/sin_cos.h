@@ -39,7 +39,7 @@ template <class V> struct SinCos {
   V cosine;
 };
 
-// Of k quarter turns and r, which is at most an eighth of a turn, with `rest` the digits behind it.
+// Of k quarter turns and r, which is at most an eighth of a turn, with `rest` the digits after it.
 template <int kDigits, class V> SinCos<V> sinCosOfQuarters(V k, V r, V rest) {
   using C = detail::SinCosNumbers<kDigits>;
   const V z = r * r;

@@ -29,7 +29,7 @@ QvxStatus count(const Qvx32s* src, int len, int* counts, Qvx32s lower, Qvx32s up
   const QvxStatus status = check(len, src, counts);
   if (status != qvxStatOk) return status;
   const int64_t width = int64_t{upper} - lower - 1;
-  // The lower bound itself, behind the end, counts nothing.
+  // The lower bound itself, past the end, counts nothing.
   *counts =
       width < 1 ? 0 : reduce(CountOf(lower + 1, static_cast<uint32_t>(width)), elements(len), PaddedWith<Qvx32s>{&lower, src});
   return qvxStatOk;

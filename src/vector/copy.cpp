@@ -51,7 +51,7 @@ template <size_t kHalf> QvxStatus copyShort(const uint8_t* src, uint8_t* dst, si
   return qvxStatOk;
 }
 
-// The source may start anywhere at or behind dst: no byte is read after it was stored to. apart: they do not overlap.
+// The source may start anywhere at or after dst: no byte is read after it was stored to. apart: they do not overlap.
 [[gnu::flatten]] QvxStatus copyForward(const uint8_t* src, uint8_t* dst, size_t bytes, bool apart) {
   if (bytes <= 2 * kVectorBytes) return loop(Same(), destination(dst), bytes, source(src));
   if (bytes <= 4 * kVectorBytes) return copyShort<2>(src, dst, bytes);

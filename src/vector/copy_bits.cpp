@@ -7,7 +7,7 @@ using namespace qvx;
 
 namespace {
 
-// The first `count` (1 to 8) bits of the byte that starts `shift` bits behind p, at the top. Reads the second byte only if it
+// The first `count` (1 to 8) bits of the byte that starts `shift` bits after p, at the top. Reads the second byte only if it
 // must.
 uint8_t bitsAt(const uint8_t* p, int shift, int count) {
   unsigned word = static_cast<unsigned>(p[0]) << 8;

@@ -1,4 +1,4 @@
-// A constant divisor of zero, refused behind the tests of pointers and length.
+// A constant divisor of zero, refused after the tests of pointers and length.
 #pragma once
 
 #include "frame/check.h"

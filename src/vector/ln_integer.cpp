@@ -85,7 +85,7 @@ template <class Base, class From, class To> QvxStatus logarithm(const From* src,
     else return one(x);
   };
   const auto kernel = watched<FirstFlag>([inLanes](FirstFlag& flag, Place place, auto x) {
-    const uint64_t bad = below(x, 1) & (~uint64_t{0} >> (64 - place.count));  // not those behind the end
+    const uint64_t bad = below(x, 1) & (~uint64_t{0} >> (64 - place.count));  // not those past the end
     if (bad != 0) [[unlikely]] {
       const uint64_t negative = below(x, 0);
       flag.raise(place, bad, [=](size_t lane) { return (negative >> lane & 1) != 0 ? qvxWarnLnNegArg : qvxWarnLnZeroArg; });

@@ -88,7 +88,7 @@ TEST_F(EveryCall, DependsOnItsArgumentsAlone) {
   });
 }
 
-// Alone and with all that is looked at behind it, each argument that is wrong gives its own status, and leaves no trace.
+// Alone and with all that is looked at after it, each argument that is wrong gives its own status, and leaves no trace.
 TEST_F(EveryCall, ChecksItsArgumentsInOrder) {
   constexpr int kDraws = 5;
   for (const Export& e : tests::exportTable()) {
@@ -105,7 +105,7 @@ TEST_F(EveryCall, ChecksItsArgumentsInOrder) {
         const QvxStatus status = call.run(), wanted = count == 0 ? qvxStatOk : wrongs[from].status;
         if (count == 0) return status >= 0 || e.contains("IIRSetTaps32s");  // which report a mismatch whatever they do
         const bool isRight = wanted == qvxStatOk ? status >= 0 || count > 1 : status == wanted;
-        const std::string what = e.parameters[wrongs[from].index].name + " wrong" + (count > 1 ? ", and all behind it" : "") +
+        const std::string what = e.parameters[wrongs[from].index].name + " wrong" + (count > 1 ? ", and all after it" : "") +
                                  ", status " + std::to_string(status) + ", not " + std::to_string(wanted);
         expect(isRight, what.c_str(), call);
         expect(call.isIntact() && (status >= 0 || call.wroteNothing()), "wrote in spite of an error", call);

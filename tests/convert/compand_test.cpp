@@ -226,7 +226,7 @@ void packs(const Bits& b, int offset) {
   }
   const int count = static_cast<int>(wanted.size()) - offset;
   while (wanted.size() % 8 != 0) wanted.push_back(false);
-  std::vector<Qvx8u> dst(wanted.size() / 8 + 1, 0xC9);  // and a byte behind
+  std::vector<Qvx8u> dst(wanted.size() / 8 + 1, 0xC9);  // and a byte after
   int total = -1;
   const int n = static_cast<int>(b.word.size());
   ASSERT_EQ(qvxsPackBits_32u8u(b.word.data(), b.length.data(), n, dst.data(), offset, &total), status);

@@ -27,7 +27,7 @@ class G711 : public ProgramTest {
  protected:
   G711() : ProgramTest(PROGRAM) {}
 
-  // The bytes of the file as libsndfile finds them, behind whatever header there is.
+  // The bytes of the file as libsndfile finds them, after whatever header there is.
   static std::string codesIn(SndfileHandle file) {
     std::string codes(static_cast<size_t>(file.frames()) * file.channels(), '\0');
     EXPECT_EQ(file.readRaw(codes.data(), static_cast<sf_count_t>(codes.size())), static_cast<sf_count_t>(codes.size()));

@@ -65,7 +65,7 @@ class Mixdown : public ProgramTest {
 };
 
 // Every type of sample that is decoded in its own way, mono among stereo, lengths that end within a block and on its boundary,
-// silence behind the shorter files, saturation, all round modes.
+// silence after the shorter files, saturation, all round modes.
 TEST_F(Mixdown, equalsTheSumComputedSampleBySample) {
   const Audio tracks[] = {write("a.wav", SF_FORMAT_PCM_16, 2, 10001), write("b.wav", SF_FORMAT_PCM_24, 1, 8192),
                           write("c.wav", SF_FORMAT_FLOAT, 2, 4096), write("d.wav", SF_FORMAT_DOUBLE, 2, 5),

@@ -59,7 +59,7 @@ TEST_F(SpectrumTest, FindsSinesByFrequencyAndLevel) {
   }
 }
 
-// Less than a block is a block with zeros behind: a click has the same level at all frequencies.
+// Less than a block is a block with zeros after: a click has the same level at all frequencies.
 TEST_F(SpectrumTest, ShortFilesAreOneBlock) {
   std::vector<float> tone(3000);
   for (size_t i = 0; i < tone.size(); ++i)

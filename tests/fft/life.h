@@ -29,7 +29,7 @@ void checkLife(const Life<Spec>& life, Expected expected, int limit, int refused
       }
     }
   }
-  // An order that is too large is seen behind the flag, but for one that no type has.
+  // An order that is too large is seen after the flag, but for one that no type has.
   EXPECT_EQ(life.getSize(limit + 1, 3, 0, &spec, &init, &work), qvxStatBadFFTFlag);
   EXPECT_EQ(life.getSize(limit + 1, 8, 0, &spec, &init, &work), qvxStatBadFFTOrder);
   std::vector<Qvx8u> memory(1 << 20);

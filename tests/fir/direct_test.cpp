@@ -130,7 +130,7 @@ TEST(FirDirect, ResultsAndDelayLines) {
         auto* y = reinterpret_cast<T*>(output.atEnd(count * sizeof(T)));
         for (size_t i = 0; i < count; ++i) x[i] = sample<T>(random);
         std::copy_n(x, count, y);
-        // What the call sees: the old samples, oldest first, and the new ones. Whatever pushes its samples sees those behind the
+        // What the call sees: the old samples, oldest first, and the new ones. Whatever pushes its samples sees those after the
         // first of them, which begin at 0 for the last index.
         const bool isNewestFirst = direct.kept == Kept::kNewestFirst && form < 2;
         const bool isWhole = form < 2 && direct.kept == Kept::kShortOrInPlace && (form == 1 || tapsLen >= direct.limit);

@@ -1,4 +1,4 @@
-// All FIR filters with a record behind one face, and what they have to give.
+// All FIR filters with a record under one interface, and what they have to give.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -23,7 +23,7 @@ class Block {
   Block(const Block&) = delete;
   Block& operator=(const Block&) = delete;
 
-  // A vector of these bytes that ends at the unreadable page, or `offset` bytes behind the start of the block.
+  // A vector of these bytes that ends at the unreadable page, or `offset` bytes after the start of the block.
   uint8_t* atEnd(size_t bytes) { return place(base_ + capacity_ - bytes, bytes); }
   uint8_t* atOffset(size_t offset, size_t bytes) { return place(base_ + offset, bytes); }
 

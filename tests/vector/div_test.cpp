@@ -37,7 +37,7 @@ template <class T> std::vector<T> special() {
   return {std::begin(all), std::end(all)};
 }
 
-// Numbers, then every pair of special ones: the first zero comes behind the first vectors.
+// Numbers, then every pair of special ones: the first zero comes after the first vectors.
 template <class T> auto hardOperands() {
   auto data = operands<T>(700, 137);
   auto& [a, b] = data;

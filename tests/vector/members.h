@@ -149,7 +149,7 @@ void unary(QvxStatus (*f)(const S*, D*, int), std::vector<S> sources, Oracle ora
 template <class D, class S, class Oracle, class Warning = decltype(kSilent)>
 void scaledUnary(QvxStatus (*f)(const S*, D*, int, int), const std::vector<S>& sources, Oracle oracle,
                  const std::vector<int>& scales, const std::vector<int>& pathScales, Warning warning = kSilent) {
-  std::vector<S> few;  // with the bad ones far behind, too
+  std::vector<S> few;  // with the bad ones far after, too
   for (size_t i = 0; i < std::min<size_t>(sources.size(), 700); ++i) few.push_back(sources[i * 7919 % sources.size()]);
   const auto at = [&](int s, bool everyLength) {
     SCOPED_TRACE("scale factor " + std::to_string(s));
