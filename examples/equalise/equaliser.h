@@ -20,9 +20,9 @@ class Equaliser {
 
  private:
   struct FreeState {
-    void operator()(QvxsFIRState_32f* state) const { qvxsFIRFree_32f(state); }
+    void operator()(QvxsFIRState64f_32f* state) const { qvxsFIRFree64f_32f(state); }
   };
-  using State = std::unique_ptr<QvxsFIRState_32f, FreeState>;
+  using State = std::unique_ptr<QvxsFIRState64f_32f, FreeState>;
 
   int channels() const { return static_cast<int>(states_.size()); }
 

@@ -399,4 +399,26 @@ TEST(IntegerFft, Identities) {
   EXPECT_EQ(identities, expected);
 }
 
+// A transform of one number is that number, whatever the flag: 3 halves are 2, not the 1 that an estimated root of 1 would leave.
+TEST(IntegerFft, OfOneNumberIsExact) {
+  for (const int flag : tests::kFlags) {
+    QvxsFFTSpec_R_16s32s* spec = nullptr;
+    ASSERT_EQ(qvxsFFTInitAlloc_R_16s32s(&spec, 0, flag, 0), qvxStatOk);
+    const Qvx16s x = 3;
+    Qvx32s spectrum[2] = {9, 9};
+    EXPECT_EQ(qvxsFFTFwd_RToCCS_16s32s_Sfs(&x, spectrum, spec, 1, nullptr), qvxStatOk);
+    EXPECT_EQ(spectrum[0], 2) << "flag " << flag;
+    EXPECT_EQ(spectrum[1], 0);
+    EXPECT_EQ(qvxsFFTFree_R_16s32s(spec), qvxStatOk);
+    QvxsFFTSpec_C_32fc* complex = nullptr;
+    ASSERT_EQ(qvxsFFTInitAlloc_C_32fc(&complex, 0, flag, 0), qvxStatOk);
+    const Qvx32fc z = {0x1.FFFFFEp-1F, -0x1.000002p3F};
+    Qvx32fc both[2];
+    EXPECT_EQ(qvxsFFTFwd_CToC_32fc(&z, &both[0], complex, nullptr), qvxStatOk);
+    EXPECT_EQ(qvxsFFTInv_CToC_32fc(&z, &both[1], complex, nullptr), qvxStatOk);
+    for (const Qvx32fc& one : both) EXPECT_TRUE(one.re == z.re && one.im == z.im) << "flag " << flag;
+    EXPECT_EQ(qvxsFFTFree_C_32fc(complex), qvxStatOk);
+  }
+}
+
 }  // namespace
