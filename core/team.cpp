@@ -43,7 +43,7 @@ struct Team {
   unsigned refused = 0;  // calls since a thread could not be made
 };
 Team team;
-thread_local bool isWorker = false;
+[[gnu::tls_model("initial-exec")]] thread_local bool isWorker = false;  // a lookup that cannot allocate
 
 void sleepWhile(std::atomic<uint32_t>& word, uint32_t value) {
   syscall(SYS_futex, reinterpret_cast<uint32_t*>(&word), FUTEX_WAIT_PRIVATE, value, nullptr, nullptr, 0);

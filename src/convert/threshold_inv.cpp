@@ -138,8 +138,8 @@ struct InDoubles {
   }
 };
 
-// From otherWarning elements on, the warning is another: a fixed value of the interface, as those lengths are. Shorter vectors end
-// in a jump to the loop: 16 elements take 2.4 ns, not 3.8.
+// From otherWarning elements on, the warning is another: a fixed value of the interface, as those lengths are. Shorter vectors
+// end in a jump to the loop: 16 elements take 2.4 ns, not 3.8.
 struct Lengths {
   size_t otherWarning;
   TeamRule team;
@@ -154,7 +154,9 @@ QvxStatus inverted(Kernel kernel, Dst dst, size_t n, Src src) {
 template <Lengths kLengths, class T> QvxStatus inverse(const T* src, T* dst, int len, T level) {
   const QvxStatus status = checkLevel(len, src, dst, level);
   if (status != qvxStatOk) return status;
-  const auto run = [=] { return inverted<kLengths, AsIs>(Reciprocal<T>{level}, destination(dst), elements(len), OnesBehind{src}); };
+  const auto run = [=] {
+    return inverted<kLengths, AsIs>(Reciprocal<T>{level}, destination(dst), elements(len), OnesBehind{src});
+  };
   if constexpr (kQuietByInstruction) {
     return run();
   } else {
@@ -171,7 +173,7 @@ template <Lengths kLengths, class T> QvxStatus complexInverse(const T* src, T* d
   } else {
     const SilentScope silent;
     return inverted<kLengths, InDoubles>(ComplexReciprocal{level}, InterleavedDestination<Part<T>>{parts(dst)}, elements(len),
-                                      deinterleavedOnesBehind(src));
+                                         deinterleavedOnesBehind(src));
   }
 }
 

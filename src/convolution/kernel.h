@@ -1,9 +1,9 @@
 // The sum of products that every filter comes down to: y[n] = p[0] * x[n] + p[1] * x[n + 1] + ... for many n at a time.
 //
-// Outputs stay in registers, a tile of some vectors of them, while the taps pass. A vector of the source serves all taps that lie
-// a whole vector apart, each for another vector of outputs, so a load, which nearly always crosses a cache line, feeds up to four
-// multiplications: 99 % of the processor's multiplications and additions from 48 taps on, where loading a vector for each of them
-// leaves 47 %.
+// A tile of some vectors of outputs stays in registers while the loop runs over the taps. A vector of the source serves all taps
+// that lie a whole vector apart, each for another vector of outputs, so a load, which nearly always crosses a cache line, feeds
+// up to four multiplications: 99 % of the processor's multiplications and additions from 48 taps on, where loading a vector for
+// each of them leaves 47 %.
 #pragma once
 
 #include <algorithm>
@@ -12,8 +12,8 @@
 
 namespace qvx::convolution {
 
-// What is multiplied and how. An Element may have two lanes; a Tap is what one lane of the source is multiplied by. There are
-// kChannels sums of each element of the source, each with a tap of its own, and `total` brings them together.
+// What is multiplied and how. An Element may have two lanes; a Tap is what one lane of the source is multiplied by. Every element
+// of the source goes into kChannels sums, each with a tap of its own, which `total` combines.
 template <class T> struct RealSum {
   using Element = T;
   using Tap = T;
@@ -171,7 +171,7 @@ template <class K, class T> inline constexpr bool kPermutes = K::kChannels == 1 
 template <class K, class T> inline constexpr bool kPermutes = false;
 #endif
 
-// The taps from k to end in a row each.
+// Adds the taps from k to end, one row at a time.
 template <class K, class T>
 [[gnu::always_inline]] inline void addRow(typename K::Sum* sum, const auto* x, const auto* p, size_t k, size_t end) {
   if constexpr (kPermutes<K, T>) {
@@ -186,7 +186,7 @@ template <class K, class T>
   }
 }
 
-// Those from k on, a multiple of the vector, where no more than kRows rows are left and the last of them is short.
+// Adds the taps from k on, a multiple of the vector, where at most kRows rows are left, of which the last is short.
 template <class K, class T, size_t kRows>
 [[gnu::always_inline]] inline void addRest(typename K::Sum* sum, const auto* x, const auto* p, size_t k, size_t taps) {
   if constexpr (kRows == 1) {

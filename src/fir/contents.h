@@ -1,4 +1,4 @@
-// Taps and delay line into a record.
+// Stores taps and delay line in a record.
 #pragma once
 
 #include "fir/state.h"

@@ -40,7 +40,7 @@ template <class H, class T> struct Stateless {
   }
 
   // dst[i] = sum(window, reversed taps). A source may be the destination.
-  template <class Sum> QvxStatus each(const T* src, T* dst, int numIters, Sum sum) const {
+  template <class Sum> QvxStatus forEachSample(const T* src, T* dst, int numIters, Sum sum) const {
     QvxStatus status = check(numIters, src, dst);
     if (status != qvxStatOk) return status;
     const Reversed<H> reversed(taps, tapsLen);

@@ -81,7 +81,7 @@ template <class S, class T> QvxStatus inPlace(T* srcDst, int numIters, const T* 
 
 template <class T> QvxStatus oneSample(const T* x, T* y, const T* taps, int tapsLen, T* delay, int* index) {
   const Stateless<T, T> caller = {taps, tapsLen, delay, index};
-  return caller.each(x, y, 1, [=](const T* window, const T* p) { return dot(window, p, tapsLen); });
+  return caller.forEachSample(x, y, 1, [=](const T* window, const T* p) { return dot(window, p, tapsLen); });
 }
 
 // ---- samples of another type: one by one
@@ -111,7 +111,7 @@ QvxStatus converting(const T* src, T* dst, int numIters, const H* taps, int taps
   const F unit = unitOf<F>(scaleFactor);
   const auto finish = [=](double sum) { return rounded<Part<T>>(static_cast<F>(sum) * unit); };
   const auto n = static_cast<size_t>(tapsLen);
-  return Stateless<H, T>{taps, tapsLen, delay, index}.each(src, dst, numIters, [=](const T* window, const H* p) -> T {
+  return Stateless<H, T>{taps, tapsLen, delay, index}.forEachSample(src, dst, numIters, [=](const T* window, const H* p) -> T {
     if constexpr (PartsOf<T>::kCount == 1) {
       return finish(reduce(FloatSum<F, Products>(), n, source(window), source(p)));
     } else {

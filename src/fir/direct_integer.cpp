@@ -38,7 +38,7 @@ QvxStatus wrapping(const T* src, T* dst, int numIters, const H* taps, int tapsLe
                    int scaleFactor) {
   const int64_t places = placesOf(tapsFactor, scaleFactor);
   const auto n = static_cast<size_t>(tapsLen);
-  return Stateless<H, T>{taps, tapsLen, delay, index}.each(src, dst, numIters, [=](const T* window, const H* p) -> T {
+  return Stateless<H, T>{taps, tapsLen, delay, index}.forEachSample(src, dst, numIters, [=](const T* window, const H* p) -> T {
     if constexpr (PartsOf<T>::kCount == 1) {
       return scaledSum(reduce(Wrapping(), n, source(window), source(p)), places);
     } else {
@@ -78,7 +78,7 @@ QvxStatus block(const Qvx16s* src, Qvx16s* dst, int numIters, const Qvx16s* taps
 
 QvxStatus oneSample(const Qvx16s* x, Qvx16s* y, const Qvx16s* taps, int tapsLen, Qvx16s* delay, int* index, int scaleFactor) {
   const int64_t places = placesOf(kFraction, scaleFactor);
-  return Stateless<Qvx16s, Qvx16s>{taps, tapsLen, delay, index}.each(
+  return Stateless<Qvx16s, Qvx16s>{taps, tapsLen, delay, index}.forEachSample(
       x, y, 1, [=](const Qvx16s* window, const Qvx16s* p) { return scaledDot(window, p, tapsLen, places); });
 }
 

@@ -42,8 +42,8 @@ template <class S, class H> void oneSample(IntegerRecord<S, H>& state, S x, S* y
 
 // ---- blocks
 
-// In vectors, as most copies are of a few: with calls of memmove, 64 outputs of 16 taps take 52 ns, not 44. dst may lie before
-// src and overlap it.
+// Copies by vectors, since most copies are short: with calls of memmove, 64 outputs of 16 taps take 52 ns, not 44. dst may lie
+// before src and overlap it.
 template <class T> void moveVectors(const T* src, size_t n, T* dst) {
   constexpr size_t N = kVectorElements<T>;
   constexpr size_t kParts = PartsOf<T>::kCount;
@@ -54,13 +54,13 @@ template <class T> void moveVectors(const T* src, size_t n, T* dst) {
   store(last, d, parts(dst + n - N));
 }
 
-// The new samples stand after the window; the end of both becomes the next window.
+// Moves the window on by n samples, which follow it in memory.
 template <class R> void advance(R& state, size_t n) {
   auto* window = state.delay.window;
   moveVectors(window + n, static_cast<size_t>(state.tapsLen), window);
 }
 
-// Some samples, after the window, which may be those that dst has room for.
+// Filters samples that are copied to the end of the window first, so src may be dst.
 template <class C, class T> void throughWindow(FloatRecord<C>& state, const T* src, T* dst, size_t n, int scaleFactor) {
   constexpr bool kConverts = !std::is_same_v<C, T>;
   constexpr size_t kMost = kConverts ? FloatRecord<C>::kChunk / 2 : FloatRecord<C>::kChunk;

@@ -7,13 +7,13 @@
 
 namespace qvx {
 
-// How a function counts and tests its length. The common way is a plain int: pointers first, then anything below 1 refused.
+// How a function tests its length. Most take a plain int: pointers are tested first, then lengths below 1 are refused.
 struct LengthFirst {
   int count;
-};  // the length before the pointers
+};  // tested before the pointers
 struct Unsigned {
   Qvx32u count;
-};  // only 0 is refused, and a negative argument is a very long vector
+};  // refuses 0 alone; a negative argument is a very long vector
 
 inline size_t elements(int len) { return static_cast<size_t>(len); }
 inline size_t elements(LengthFirst len) { return static_cast<size_t>(len.count); }

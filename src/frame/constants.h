@@ -1,5 +1,5 @@
-// The library's own infinities and its NaN, which has the sign set in both widths. A function that must give one of them loads
-// it: what arithmetic gives instead is the processor's choice.
+// The library's infinities and its NaN, whose sign bit is set. Functions that must return one of them load it: which NaN
+// arithmetic returns is the processor's choice.
 #pragma once
 
 #include <bit>

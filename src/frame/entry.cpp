@@ -21,14 +21,14 @@ __asm__(
     "qvxsVersionDate: .asciz \"Apr 19 2011\"\n.popsection\n");
 
 // For every export a slot that holds the variant's own function, and a stub that jumps through it.
-#define QVXS_API(result, name, arguments)                                                                                     \
-  __asm__(                                                                                                                    \
-      ".pushsection .data.rel.local.slots,\"aw\"\n.p2align 3\n"                                                               \
-      ".hidden " #name "_arraddr\n.globl " #name "_arraddr\n" #name "_arraddr: .quad " VARIANT "_" #name                      \
-      "\n"                                                                                                                    \
-      ".popsection\n"                                                                                                         \
-      ".text\n.p2align 4\n.globl " #name "\n.type " #name ",@function\n" #name ": jmp *" #name "_arraddr(%rip)\n.size " #name \
-      ", .-" #name "\n")
+#define QVXS_API(result, name, arguments)                                                                \
+  __asm__(                                                                                               \
+      ".pushsection .data.rel.local.slots,\"aw\"\n.p2align 3\n"                                          \
+      ".hidden " #name "_arraddr\n.globl " #name "_arraddr\n" #name "_arraddr: .quad " VARIANT "_" #name \
+      "\n"                                                                                               \
+      ".popsection\n"                                                                                    \
+      ".text\n.p2align 4\n.globl " #name "\n.type " #name ",@function\n" #name ": endbr64\n jmp *" #name \
+      "_arraddr(%rip)\n.size " #name ", .-" #name "\n")
 #define QVXS_SLOTLESS(line)
 
 #include <qvx/qvxs.h>

@@ -1,4 +1,4 @@
-// Elements of any kind as words, read backwards and conjugated.
+// Reverses elements of any type, as words, and conjugates complex ones.
 #pragma once
 
 #include "frame/map.h"

@@ -1,7 +1,7 @@
 // The loop engine of all element-wise functions: check the arguments, then dst[i] = kernel(src[i]...) for any number of sources.
 //
-// A kernel is a function of whole vectors. The ends of a vector go through the same kernel, so no element is computed in another
-// way than its neighbours, and no byte outside the caller's vectors is read or written.
+// A kernel works on whole vectors, at the ends of the caller's arrays too: every element is computed in the same way, and no byte
+// outside the arrays is read or written.
 #pragma once
 
 #include <algorithm>
@@ -16,7 +16,7 @@ namespace qvx {
 
 // ---- elements
 
-// The lanes that a complex element is made of; a real element is its own.
+// The type and number of an element's parts: two for a complex element, one for a real one.
 template <class T, size_t kParts> struct Made {
   using Type = T;
   static constexpr size_t kCount = kParts;
@@ -32,7 +32,7 @@ template <class T> using Part = typename PartsOf<T>::Type;
 template <class T> Part<T>* parts(T* p) { return reinterpret_cast<Part<T>*>(p); }
 template <class T> const Part<T>* parts(const T* p) { return reinterpret_cast<const Part<T>*>(p); }
 
-// ---- sources and destinations: anything that can give, or take, N lanes at a lane index
+// ---- sources and destinations: whatever can load or store N lanes at a lane index
 
 template <class T> struct Source {
   using Lane = Part<T>;
@@ -52,7 +52,7 @@ template <class T> struct Destination {
 
   template <size_t N, class V> void put(V v, size_t at) const { store(v, Lanes<Lane, N>(), p + at); }
   template <size_t N, class V> void put(V v, size_t at, size_t n) const { storeFirst(v, Lanes<Lane, N>(), p + at, n); }
-  // Lanes up to the first address from which no store of N lanes is split between cache lines.
+  // Lanes before the first address at which stores of N lanes no longer cross cache lines.
   template <size_t N> size_t misaligned() const {
     const size_t bytes = reinterpret_cast<uintptr_t>(p) % (N * sizeof(Lane));
     return bytes % sizeof(T) == 0 ? (N - bytes / sizeof(Lane)) % N : 0;
@@ -78,7 +78,7 @@ template <class T> struct Constant {
 
 template <class T> Constant(T) -> Constant<T>;
 
-// A vector in which a zero counts against the caller: where others have zeros past the end, this one has ones.
+// For kernels that report zeros as errors: lanes past the end hold ones instead of zeros.
 template <class T> struct OnesBehind {
   using Lane = Part<T>;
   const T* p;
@@ -91,8 +91,8 @@ template <class T> struct OnesBehind {
 template <class T> OnesBehind(const T*) -> OnesBehind<T>;
 template <class T> OnesBehind(T*) -> OnesBehind<T>;
 
-// A vector past whose end stands an element that leaves a reduction as it is. By its address: a float beside a pointer would
-// travel through the stack.
+// For reductions: lanes past the end hold a neutral element. It is passed by address, since a float beside a pointer would travel
+// through the stack.
 template <class T> struct PaddedWith {
   using Lane = T;
   const T* behind;
@@ -105,7 +105,7 @@ template <class T> struct PaddedWith {
 
 template <class T> PaddedWith(const T*, const T*) -> PaddedWith<T>;
 
-// A real vector beside complex ones: every element stands for both parts.
+// A real source beside complex ones: loads every element twice, once for each part.
 template <class T> struct Doubled {
   using Lane = T;
   const T* p;
@@ -117,7 +117,7 @@ template <class T> struct Doubled {
 
 template <class T> Doubled(const T*) -> Doubled<T>;
 
-// The same, every element once: for kernels that widen it to the size of a complex element.
+// A real source beside complex ones: loads every element once, for kernels that widen it to the size of a complex element.
 template <class T> struct Beside {
   using Lane = T;
   const T* p;
@@ -129,8 +129,8 @@ template <class T> struct Beside {
 
 template <class T> Beside(const T*) -> Beside<T>;
 
-// A vector of elements twice as wide as the destination's, for narrowInOrder: a whole register is stored at a time then, where
-// half a register would be the store's bound (32s to 16s takes 1.4 times as long that way).
+// Loads two vectors of elements twice as wide as the destination's, for narrowInOrder, so that whole registers are stored: with
+// half registers, 32s to 16s takes 1.4 times as long.
 template <class T> struct InPairs {
   using Lane = hwy::UnsignedFromSize<sizeof(T) / 2>;
   const T* p;
@@ -148,7 +148,7 @@ template <class T> struct InPairs {
 };
 template <class T> InPairs(const T*) -> InPairs<T>;
 
-// The number of the first element and how many there are, for kernels that have to tell which one it was.
+// Tells a kernel which elements it works on: the index of the first, and how many there are.
 struct Place {
   size_t at;
   size_t count;
@@ -180,8 +180,8 @@ inline constexpr char kNotNull = 0;
 template <class T> const char* pointerOf(Constant<T>) { return &kNotNull; }
 inline const char* pointerOf(Places) { return &kNotNull; }
 
-// ---- warnings: a kernel with a kWarning is called with a Flag before its vectors, which it raises in the lanes that have no
-// proper result. The loop's status is then that warning.
+// ---- warnings: a kernel that declares a kWarning takes a Flag as its first argument, and raises it in the lanes that have no
+// proper result. The loop then returns that warning.
 
 class Flag {
  public:
@@ -192,8 +192,8 @@ class Flag {
   uint64_t lanes_ = 0;
 };
 
-// For two kinds of warning, of which the first element's stands: what a kernel with a type `Watch` is called with instead. A
-// vector's two ends are computed before what is between them, so the elements are told apart by number.
+// For kernels with two kinds of warning, of which the first element decides; they declare it as their type `Watch`. Both ends of
+// a vector are computed before the middle, so elements are compared by index.
 class FirstFlag {
  public:
   // kind(lane) is the warning for a raised lane.
@@ -237,7 +237,7 @@ template <class Kernel, class Watch> QvxStatus statusOf([[maybe_unused]] const W
   else return qvxStatOk;
 }
 
-// An operation's arguments brought to the right lanes before it is called, its warnings kept.
+// Calls op with its arguments passed through `prepare`, and keeps its warnings.
 template <class Op, class Prepare> auto behind(Prepare prepare, Op op) {
   if constexpr (kWarnsOfFirst<Op>) {
     using Watch = typename Op::Watch;
@@ -261,13 +261,13 @@ template <class Src> constexpr size_t bytesRead() {
 // 16-bit sums of 4096 elements take half the time that way; below 8 vectors there is nothing to gain.
 inline constexpr size_t kWorthAligning = 8;
 
-// The ends of a vector are whole vectors too, which overlap their neighbours: what they give is computed before anything is
-// stored and stored after everything else, so that a source may be the destination. Only fewer elements than fill 16 bytes
-// take a partial vector: masked stores cost 1 ns more than that.
+// The first and the last vector may overlap their neighbours. They are computed before anything is stored, and stored after
+// everything else, so that a source may be the destination. Only fewer elements than fill 16 bytes take a partial vector: masked
+// stores cost 1 ns more than that.
 //
-// It gives the status so that the checked function can end in a jump to it: 1 ns at 16 elements.
+// Returns the status, so that the checked function can end in a jump here: that saves 1 ns at 16 elements.
 //
-// Flattened: a kernel that the compiler leaves as a function of its own finds its constants in memory, and takes twice the time.
+// Flattened: a kernel that is not inlined reloads its constants from memory, and takes twice the time.
 template <size_t N, size_t kWidest, class Kernel, class Dst, class... Src>
 [[gnu::flatten]] QvxStatus loopOf(Kernel kernel, Dst dst, size_t n, Src... src) {
   typename WatchFor<Kernel>::Type flag;
@@ -308,8 +308,8 @@ template <size_t N, size_t kWidest, class Kernel, class Dst, class... Src>
   return statusOf<Kernel>(flag);
 }
 
-// As many lanes at a time as one register has of the widest type: that of a vector or, if the kernel computes in a wider one,
-// that of Inner.
+// Takes as many lanes at a time as a register holds of the widest type: of the vectors, or Inner if the kernel computes in a
+// wider one.
 template <class Inner = uint8_t, class Kernel, class Dst, class... Src>
 QvxStatus loop(Kernel kernel, Dst dst, size_t n, Src... src) {
   constexpr size_t kWidest = std::max({sizeof(Inner), sizeof(typename Dst::Lane), sizeof(typename Src::Lane)...});
@@ -338,7 +338,7 @@ template <class To, class V> auto convertLanes(V v) {
 
 // ---- fits: how an operation's result becomes the destination's element
 
-// A source narrower than the destination is widened before the operation; one of another kind but no narrower is left to it.
+// Widens a source that is narrower than the destination before the operation; others are passed on.
 template <class Lane, class V> auto widened(V v) {
   if constexpr (std::is_same_v<V, Place>) return v;
   else if constexpr (sizeof(LaneOf<V>) < sizeof(Lane)) return convertLanes<Lane>(v);
@@ -353,22 +353,22 @@ template <class Lane, class V> auto widened(Pair<V> v) {
   return each(v, [](auto part) { return widened<Lane>(part); });
 }
 
-// As it is: integers saturated.
+// Stores the result as it is; integers saturate.
 struct AsIs {
   template <class Op, class Dst, class... Src> QvxStatus run(Op op, Dst dst, size_t n, Src... src) const {
     return loop(behind([](auto v) { return widened<typename Dst::Lane>(v); }, op), dst, n, src...);
   }
 };
 
-// Sources in lanes of their own: the operation sees to everything.
+// Passes every source in lanes of its own type: the operation widens and narrows.
 struct InOwnLanes {
   template <class Op, class Dst, class... Src> QvxStatus run(Op op, Dst dst, size_t n, Src... src) const {
     return loop(op, dst, n, src...);
   }
 };
 
-// Times 2^-scaleFactor. An operation brings three things: op(v...) saturates; Op::kMaxScale<T> is the last scale factor that
-// can leave anything but zeros; Op::scaleDown<T>(s, with) runs `with` on the kernel for the places s above 0.
+// Multiplies by 2^-scaleFactor. An operation provides three things: op(v...), which saturates; Op::kMaxScale<T>, the largest
+// scale factor with a result other than zeros; Op::scaleDown<T>(s, with), which runs `with` on the kernel for shifts s above 0.
 struct Scaled {
   int scaleFactor;
 
@@ -380,7 +380,7 @@ struct Scaled {
     if (scaleFactor == 0) return with(op);
     if (scaleFactor > Op::template kMaxScale<Lane>) return loop([](auto zero) { return zero; }, dst, n, Constant<Lane>{0});
     if (scaleFactor > 0) return Op::template scaleDown<Lane>(scaleFactor, with);
-    // One place less than a signed lane's width, or all of an unsigned one's, already send every non-zero value out.
+    // A shift by one bit less than a signed lane's width, or by an unsigned lane's width, already saturates all but zeros.
     constexpr int kMost = 8 * sizeof(Lane) - std::is_signed_v<Lane>;
     const int places = scaleFactor < -kMost ? kMost : -scaleFactor;
     return with([op, places](auto... v) { return saturatedShiftLeft(op(v...), places); });

@@ -95,7 +95,7 @@ template <class T, Block24 kBlock = Block24::kLanes> struct From24 {
     const uint8_t* bytes = p + 3 * at;
 #if QVXS_AVX512
     if constexpr (N == 64) {
-      // Whole registers, 48 bytes apart, of which the last begins early enough not to end after the elements.
+      // Whole registers, 48 bytes apart, of which the last begins early enough not to end past the elements.
       const Lanes<int32_t, N / 4> d;
       return quadOf([bytes, d](size_t k) {
         const auto packed = as<int32_t>(load(Lanes<uint8_t, N>(), bytes + (k < 3 ? 48 * k : 128)));
@@ -183,7 +183,7 @@ template <class T, Block24 kBlock = Block24::kLanes> struct To24 {
   template <class V> static void one(V blocks, uint8_t* bytes) {
     const Lanes<uint8_t, 16> half;
     if constexpr (sizeof(blocks.raw) == 32) {
-      store(hn::LowerHalf(half, blocks), half, bytes);  // four bytes too far, which the next store mends
+      store(hn::LowerHalf(half, blocks), half, bytes);  // four bytes too many, which the next store overwrites
       storeFirst(hn::UpperHalf(half, blocks), half, bytes + 12, 12);
     } else {
       storeFirst(blocks, half, bytes, 12);

@@ -1,4 +1,4 @@
-// Powers of two as floats, made from bits: exact, and whatever the caller's rounding mode.
+// Powers of two as floats, assembled from bits: exact in any rounding mode.
 #pragma once
 
 #include <bit>

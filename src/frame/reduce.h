@@ -1,6 +1,6 @@
 // The reduction engine: one value of one or more vectors, on the sources of the loop engine.
 //
-// A reduction says how its lanes gather. An accumulator A is a vector or a struct of vectors:
+// A reduction defines its accumulator A, a vector or a struct of vectors, by four functions:
 //
 //   A start(v...)        the accumulator after the first N lanes of each source
 //   A add(A a, v...)     after N more
@@ -8,13 +8,14 @@
 //   Total total(A a)     of all lanes; totals of slices are added with +=
 //
 //   kSlice     elements that an accumulator takes without overflow, or without losing more accuracy than the reduction states;
-//              longer vectors are gathered slice by slice
-//   kFlight    accumulators at work at the same time, to cover the latency of `add`
-//   kRepeats   whether an element may be added twice, as into a maximum. Then the end of a vector is a whole vector that overlaps
-//              its neighbour; else it is a partial one, and the zeros after it must add nothing.
-//   Inner      the widest lane type that is computed in
+//              longer vectors are reduced slice by slice
+//   kFlight    accumulators in use at the same time, to hide the latency of `add`
+//   kRepeats   whether an element may be added twice, as into a maximum. If so, the last vector overlaps its neighbour; if not,
+//   it
+//              is a partial one, whose zeros must add nothing
+//   Inner      the widest lane type of the computation
 //
-// Which lane an element falls into depends on its index alone, never on its address.
+// The lane that an element is added to depends on its index alone, never on its address.
 #pragma once
 
 #include <bit>
@@ -23,10 +24,10 @@
 
 namespace qvx {
 
-// The number of elements that a 32-bit length can tell.
+// More elements than a 32-bit length can state.
 inline constexpr size_t kMostElements = size_t{1} << 31;
 
-// What most reductions are: sums of which slices are no matter.
+// The base of most reductions: sums that need no slices.
 struct Reduction {
   using Inner = uint8_t;
   static constexpr size_t kSlice = kMostElements;
@@ -37,7 +38,7 @@ struct Reduction {
   template <class V> static Pair<V> join(Pair<V> a, Pair<V> b) { return {a.lo + b.lo, a.hi + b.hi}; }
 };
 
-// The lanes of v brought together by join, until M are left.
+// Folds the lanes of v with join until M are left.
 template <size_t M, class V, class Join> auto folded(V v, Join join) {
   if constexpr (kLanesOf<V> == M) {
     return v;
@@ -51,20 +52,20 @@ template <size_t M, class V> auto folded(V v) {
 }
 template <class V> LaneOf<V> sumOfLanes(V v) { return hn::GetLane(folded<1>(v)); }
 
-// Both halves of v in lanes of Wide, added.
+// Widens both halves of v to lanes of Wide, and adds them.
 template <class Wide, class V> auto halvesAdded(V v) {
   const hn::Half<TagOf<V>> half;
   const hn::Rebind<Wide, decltype(half)> wide;
   return hn::PromoteTo(wide, hn::LowerHalf(half, v)) + hn::PromoteTo(wide, hn::UpperHalf(half, v));
 }
 
-// An exact sum of lanes that may pass their width: the wrapped sum, and the sum of the upper halves, which tells how often it
-// wrapped. Three instructions a vector, where widening the lanes takes four and a shuffle. For up to 2^16 lanes of 32 bits in
-// all, 2^15 of pairs, or any number of 64 bits.
+// An exact sum that may exceed its lanes: the wrapped sum, and the sum of the lanes' upper halves, from which the number of wraps
+// follows. It takes three instructions a vector, where widening takes four and a shuffle. For up to 2^16 lanes of 32 bits in all,
+// 2^15 of pairs, or any number of 64 bits.
 //
-// kOfPairs: the lanes are sums of two products. One such sum does not fit: that of four times the most negative number, which
-// reads as minus itself. The upper half of the lane less 1 is right for that one too, at one instruction more; what it leaves
-// to the lower half is from 1 to 2^16 then, not from 0 to 2^16 - 1.
+// kOfPairs: the lanes are sums of two products, one of which does not fit: four times the most negative number wraps to its own
+// negative. The upper half of the lane less 1 is right for that one too, at the price of one instruction; the lower half then
+// ranges from 1 to 2^16 instead of 0 to 2^16 - 1.
 template <class V, bool kOfPairs = false> struct LongSum {
   using Lane = LaneOf<V>;
   static constexpr int kHalf = 4 * sizeof(Lane);
@@ -91,19 +92,19 @@ template <class V, bool kOfPairs = false> struct LongSum {
 
 namespace detail {
 
-// a[kFrom] to a[kFrom + kCount - 1] joined, as a tree.
-template <class R, size_t kFrom, size_t kCount, class A> A joined(const A* a) {
+// Joins a[kFrom] to a[kFrom + kCount - 1] as a tree.
+template <class R, size_t kFrom, size_t kCount, class A> A treeJoined(const A* a) {
   if constexpr (kCount == 1) return a[kFrom];
-  else return R::join(joined<R, kFrom, kCount / 2>(a), joined<R, kFrom + kCount / 2, kCount - kCount / 2>(a));
+  else return R::join(treeJoined<R, kFrom, kCount / 2>(a), treeJoined<R, kFrom + kCount / 2, kCount - kCount / 2>(a));
 }
 
 // n from 1 to kSlice.
-template <size_t N, class R, class... Src> [[gnu::flatten]] auto gathered(R r, size_t n, Src... src) {
+template <size_t N, class R, class... Src> [[gnu::flatten]] auto reducedSlice(R r, size_t n, Src... src) {
   const auto started = [&](size_t i) { return r.start(src.template get<N>(i)...); };
   const auto added = [&](auto a, size_t i) { return r.add(a, src.template get<N>(i)...); };
   if (n < N) {
     constexpr size_t kNarrowest = 16 / std::max({sizeof(typename R::Inner), sizeof(typename Src::Lane)...});
-    if constexpr (R::kRepeats && N > kNarrowest) return gathered<N / 2>(r, n, src...);
+    if constexpr (R::kRepeats && N > kNarrowest) return reducedSlice<N / 2>(r, n, src...);
     else return r.total(r.start(src.template get<N>(0, n)...));
   }
   auto all = started(0);
@@ -116,7 +117,7 @@ template <size_t N, class R, class... Src> [[gnu::flatten]] auto gathered(R r, s
         a[0] = added(a[0], i);
         ((a[K + 1] = added(a[K + 1], i + (K + 1) * N)), ...);
       }
-      all = joined<R, 0, R::kFlight>(a);
+      all = treeJoined<R, 0, R::kFlight>(a);
     }
     (std::make_index_sequence<R::kFlight - 1>());
   }
@@ -125,9 +126,9 @@ template <size_t N, class R, class... Src> [[gnu::flatten]] auto gathered(R r, s
   return r.total(all);
 }
 
-template <size_t N, class R, class... Src> [[gnu::noinline]] auto gatheredInSlices(R r, size_t n, Src... src) {
-  auto total = gathered<N>(r, R::kSlice, src...);
-  for (size_t at = R::kSlice; at < n; at += R::kSlice) total += gathered<N>(r, std::min(n - at, R::kSlice), src.from(at)...);
+template <size_t N, class R, class... Src> [[gnu::noinline]] auto reducedInSlices(R r, size_t n, Src... src) {
+  auto total = reducedSlice<N>(r, R::kSlice, src...);
+  for (size_t at = R::kSlice; at < n; at += R::kSlice) total += reducedSlice<N>(r, std::min(n - at, R::kSlice), src.from(at)...);
   return total;
 }
 
@@ -141,36 +142,36 @@ inline constexpr size_t kAtATime = kVectorBytes / std::max({sizeof(typename R::I
 template <class R, class... Src> [[gnu::always_inline]] inline auto reduce(R r, size_t n, Src... src) {
   constexpr size_t N = detail::kAtATime<R, Src...>;
   if constexpr (R::kSlice < kMostElements) {
-    if (n > R::kSlice) return detail::gatheredInSlices<N>(r, n, src...);
+    if (n > R::kSlice) return detail::reducedInSlices<N>(r, n, src...);
   }
-  return detail::gathered<N>(r, n, src...);
+  return detail::reducedSlice<N>(r, n, src...);
 }
 
 namespace detail {
 
 template <size_t N, class R, class D, class Finish, class... Src>
-[[gnu::noinline, gnu::flatten]] QvxStatus gatheredTo(D* result, Finish finish, size_t n, Src... src) {
-  *result = finish(gathered<N>(R(), n, src...));
+[[gnu::noinline, gnu::flatten]] QvxStatus reducedSliceTo(D* result, Finish finish, size_t n, Src... src) {
+  *result = finish(reducedSlice<N>(R(), n, src...));
   return qvxStatOk;
 }
 
 template <size_t N, class R, class D, class Finish, class... Src>
-[[gnu::noinline]] QvxStatus gatheredInSlicesTo(D* result, Finish finish, size_t n, Src... src) {
-  *result = finish(gatheredInSlices<N>(R(), n, src...));
+[[gnu::noinline]] QvxStatus reducedInSlicesTo(D* result, Finish finish, size_t n, Src... src) {
+  *result = finish(reducedInSlices<N>(R(), n, src...));
   return qvxStatOk;
 }
 
 }  // namespace detail
 
-// *result = finish(the total over n lanes), and the status of that, so that the checked function can end in a jump to it: sums of
-// 16 elements take 2.4 ns, not 3.3.
+// *result = finish(the total over n lanes). Returns the status, so that the checked function can end in a jump here: sums of 16
+// elements take 2.4 ns, not 3.3.
 template <class R, class D, class Finish, class... Src>
 [[gnu::always_inline]] inline QvxStatus reducedTo(D* result, size_t n, Finish finish, Src... src) {
   constexpr size_t N = detail::kAtATime<R, Src...>;
   if constexpr (R::kSlice < kMostElements) {
-    if (n > R::kSlice) return detail::gatheredInSlicesTo<N, R>(result, finish, n, src...);
+    if (n > R::kSlice) return detail::reducedInSlicesTo<N, R>(result, finish, n, src...);
   }
-  return detail::gatheredTo<N, R>(result, finish, n, src...);
+  return detail::reducedSliceTo<N, R>(result, finish, n, src...);
 }
 
 // The lanes that stand for one element.
@@ -185,8 +186,8 @@ template <class R, class D, class Finish, class... Src>
   return reducedTo<R>(result, elements(len) * std::max({kLanesEach<Src>...}), finish, source(src)...);
 }
 
-// A long vector, fetched a page ahead: for reductions of so many instructions that the processor's window holds too few loads to
-// cover the memory's latency (products of 4 Mi 32-bit integers: 0.6 ms, not 0.8). Where loads are the bound it gains nothing.
+// Prefetches a long vector a page ahead: for reductions of so many instructions that the processor's window holds too few loads
+// to hide the memory's latency (products of 4 Mi 32-bit integers: 0.6 ms, not 0.8). Gains nothing where loads are the bound.
 template <class T> struct FetchedAhead {
   using Lane = Part<T>;
   static constexpr size_t kWorthIt = size_t{1} << 20;  // bytes
@@ -219,7 +220,7 @@ template <size_t N, class Is, class Src> [[gnu::flatten]] size_t firstOf(Is is, 
     if (const uint64_t lanes = found(src.template get<N>(i))) return i + first(lanes);
   }
   if (i == n) return n;
-  // None of the elements that this vector shares with the one before is such a one.
+  // The elements that this vector shares with the one before have been tested.
   const uint64_t lanes = found(src.template get<N>(n - N));
   return lanes == 0 ? n : n - N + first(lanes);
 }

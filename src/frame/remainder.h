@@ -1,4 +1,4 @@
-// What a quotient or a root is wrong by, in the precision of its own.
+// The residual of a quotient or a root, in its own precision.
 #pragma once
 
 #include "frame/simd.h"

@@ -10,8 +10,8 @@ namespace qvx {
 
 enum class Rounding : uint32_t { kNearest = 0x0000, kTowardZero = 0x6000, kCallers = 0xFFFF };
 
-// The compiler knows nothing of the control word. The clobber pins a kernel's loads after a change and its stores before the
-// return to the saved word, and so all arithmetic between them.
+// The compiler does not know that arithmetic depends on the control word. The clobber keeps a kernel's loads after a change of
+// the word and its stores before the change back, and so all arithmetic between them.
 inline uint32_t controlWord() {
   uint32_t word;
   __asm__ volatile("stmxcsr %0" : "=m"(word) : : "memory");
@@ -55,7 +55,7 @@ class RoundingScope {
   bool changed_;
 };
 
-// v to an integer of R in the mode of the scope, saturated. For numbers only.
+// Rounds v to an integer of R in the mode of the scope, and saturates. v must not be NaN.
 template <class R> R roundedTo(double v) {
   constexpr double kLeast = std::numeric_limits<R>::min();
   constexpr double kMost = std::numeric_limits<R>::max();
@@ -63,8 +63,7 @@ template <class R> R roundedTo(double v) {
   return static_cast<R>(std::lrint(std::min(std::max(v, kLeast), kMost)));
 }
 
-// No floating-point exception between here and the end of the scope traps, or is left as a flag, and all rounds to nearest.
-// Costs 8 ns.
+// Until the end of the scope, rounds to nearest and traps no floating-point exception; leaves no flag of one. Costs 8 ns.
 class SilentScope {
  public:
   SilentScope() : saved_(controlWord()) {

@@ -1,19 +1,19 @@
 // Scaled integer arithmetic: an exact result times 2^-scaleFactor, rounded to nearest with ties to even, saturated.
 //
-// `scaled` is the definition. The vector forms below it are the same function for results that do not fit a lane: a sum keeps
-// its 17th (33rd, 65th) bit apart, a product stands in two halves. None of them leaves the width of its operands longer than
-// it must: that is where the speed comes from (16-bit sums take 8 instructions for 32 elements, 18 in 32-bit lanes).
+// `scaled` is the definition. The vector forms below it compute the same for results that do not fit a lane: a sum keeps its 17th
+// (33rd, 65th) bit apart, a product is held in two halves. They stay in lanes of their operands' width as long as possible, which
+// makes the speed: 16-bit sums take 8 instructions for 32 elements, in 32-bit lanes 18.
 #pragma once
 
 #include <algorithm>
 #include <limits>
 
-#include "frame/simd.h"
 #include <qvx/qvxdefs.h>
+#include "frame/simd.h"
 
 namespace qvx {
 
-// By one comparison: clamping 128 bits takes five times as long.
+// Saturates by one comparison: clamping 128 bits takes five times as long.
 template <class T, class Wide> constexpr T saturate(Wide v) {
   const auto low = static_cast<T>(v);
   return low == v ? low : v < 0 ? std::numeric_limits<T>::min() : std::numeric_limits<T>::max();
@@ -26,7 +26,7 @@ template <class T> constexpr T scaled(__int128 v, int scaleFactor) {
     const __int128 half = __int128{1} << (scaleFactor - 1);
     return saturate<T>((v + half - 1 + ((v >> scaleFactor) & 1)) >> scaleFactor);
   }
-  // 63 places push every value but 0 out of every range or to its edge, and a value beyond the range stays there.
+  // A shift by 63 saturates every value but 0, and a value beyond the range stays saturated.
   return saturate<T>(__int128{saturate<T>(v)} << std::min(-static_cast<int64_t>(scaleFactor), int64_t{63}));
 }
 
@@ -211,7 +211,7 @@ template <class A, class B> auto splitProduct(A a, B b) {
   }
 }
 
-// The products whole, in the order of widen().
+// Joins the halves of the products, in the order of widen().
 template <class Low, class High> auto joined(SplitProduct<Low, High> v) {
   using Wide = std::conditional_t<std::is_signed_v<LaneOf<High>>, int32_t, uint32_t>;
   const TagOf<High> d;
@@ -220,7 +220,7 @@ template <class Low, class High> auto joined(SplitProduct<Low, High> v) {
                                                        as<Wide>(hn::InterleaveUpper(d, low, v.high))};
 }
 
-// Both halves through one function.
+// Applies f to both halves.
 template <class V, class F> auto each(Pair<V> v, F f) { return Pair<decltype(f(v.lo))>{f(v.lo), f(v.hi)}; }
 
 // The forms of a 16-bit product / 2^s. Up to s = 16 an even quotient is taken off in the low half: only an exact half can tell

@@ -1,4 +1,4 @@
-// Vectors larger than the cache: stores that pass it by.
+// Stores that bypass the caches, for vectors larger than those.
 #pragma once
 
 #include <unistd.h>
@@ -18,7 +18,7 @@ inline bool isStreamed(size_t bytes) {
   return bytes > static_cast<size_t>(reported > 0 && reported < kMost ? reported : kMost);
 }
 
-// So many bytes from p on, into the caches. p may lie past a vector's end: nothing is read.
+// Prefetches kBytes from p on. p may lie past a vector's end: a prefetch never faults.
 template <size_t kBytes, class T> void prefetchLines(const T* p) {
   for (size_t at = 0; at < kBytes; at += 64) __builtin_prefetch(reinterpret_cast<const char*>(p) + at);
 }

@@ -1,10 +1,10 @@
-// Float lanes to 32-bit integer lanes by a round mode, and the limits that go before it.
+// Converts float lanes to 32-bit integer lanes in a round mode, with the limits that must be applied first.
 #pragma once
 
 #include <limits>
 
-#include "frame/simd.h"
 #include <qvx/qvxdefs.h>
+#include "frame/simd.h"
 
 namespace qvx {
 
@@ -20,11 +20,11 @@ template <int kMode> struct ToInt {
   }
 };
 
-// Floats to the integers of T, in lanes of 32 bits: the largest T for what is not below it, be it a number or not. What lies
-// below the range of 32 bits becomes the least, and saturates on the way to a narrower type.
+// Converts floats to integers in the range of T, in lanes of 32 bits. Values at or above the largest T, and NaN, give the largest
+// T; values below the range of 32 bits give the least, which saturates on the way to a narrower type.
 template <class T, class Convert, class V> auto toIntsBelow(V v, Convert convert) {
   if constexpr (sizeof(T) == 4 && sizeof(LaneOf<V>) == 4) {
-    // The largest number has no float of its own: what is not below 2^31 has its indefinite value turned over.
+    // No float equals the largest integer: lanes not below 2^31 have their indefinite value inverted.
     return convert(v) ^ as<int32_t>(hn::VecFromMask(TagOf<V>(), hn::Not(v < same<V>(0x1p31F))));
   } else {
     return convert(clippedAbove(v, std::numeric_limits<T>::max()));

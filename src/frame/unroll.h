@@ -1,4 +1,4 @@
-// Loops that the compiler must not keep: their index is a constant in each step, so that arrays of vectors stay in registers.
+// Loops that are always unrolled, with a constant index in each step, so that arrays of vectors stay in registers.
 #pragma once
 
 #include <cstddef>

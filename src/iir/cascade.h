@@ -1,6 +1,6 @@
-// Many sections at once, one in each lane: while the first takes a sample, the second takes the output that the first gave two
-// steps before, and so on. The recursion is the plain one, so this is also the kernel for filters that look-ahead would lose
-// accuracy for. In SSE 32-bit filters have 32-bit lanes, which are twice as many.
+// Many sections at once, one in each lane: while the first takes a sample, the second takes the first's output of two steps
+// before, and so on. The recursion is the plain one, so filters for which look-ahead would lose accuracy come here too. In SSE,
+// 32-bit filters have 32-bit lanes, which are twice as many.
 //
 // A step takes 6 cycles, of a multiplication for d1, an addition to it and a multiplication for d0, for 8 sections as for 16
 // (AVX-512). Two steps of delay from lane to lane keep what goes from one to the next off that path.
@@ -118,8 +118,8 @@ template <class P> class Cascade {
                    zero,
                    zero};
     });
-    // A lane that has no sample yet computes zeros, as long as it has no state: that comes to it right before its first one. One
-    // that has no more goes on as it likes: what it left is kept.
+    // A lane without a sample yet computes zeros, as long as its state is zero: its state is set right before its first sample. A
+    // lane after its last sample computes values that nobody reads: its state was saved.
     const auto enter = [&](size_t t) {
       unrolled<kGroups>([&](auto g) {
         Group& at = groups[g];

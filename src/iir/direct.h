@@ -1,12 +1,12 @@
-// A filter of any order in the direct form, a vector of outputs at a time.
+// Direct-form filters, a vector of outputs at a time.
 //
 // Over a vector the filter is one matrix: from the vector's inputs, and from what the delay line brings to its outputs, to those
 // outputs and the next delay line. Its columns are found by filtering an impulse at each of these places. All places are lanes,
 // so that a complex filter is no other than a real one. What waits for the vector before is only the way from the delay line's
 // first vector to the next one: a shuffle and 2 to 8 multiplications for all lanes, where the plain loop waits 8 cycles for each.
 //
-// Columns have zeros for outputs before their input. What is not finite would make NaN of them, so blocks that hold such are not
-// for this kernel.
+// Columns hold zeros for outputs before their input, which infinities and NaN would turn into NaN: blocks that are not finite are
+// not for this kernel.
 //
 // The matrix is a rewriting of the taps, in 64-bit floats: that loses nothing in filters of 32 bits. Those of 64 bits have the
 // way of the delay line in twice their digits: rounded, it would move the poles. They also ask how far the impulse response of

@@ -1,5 +1,5 @@
-// The filtering call: blocks of samples are widened into working memory on the stack, go through all sections there, and are
-// rounded once on their way out.
+// Filters by blocks: samples are widened into working memory on the stack, filtered there by all sections, and rounded once when
+// they are stored.
 #pragma once
 
 #include "frame/power.h"
@@ -9,10 +9,10 @@
 
 namespace qvx::iir {
 
-// Lanes of a block: with its work 4 KB, which leaves the first cache to the caller.
+// Lanes of a block: 4 KB, which leaves most of the first cache to the caller.
 inline constexpr size_t kBlockLanes = 512;
 
-// From this many numbers on, a vector at a time pays: below, the start of a kernel takes longer than the samples.
+// From this many numbers on, kernels that take a vector at a time pay: below, their start takes longer than the samples.
 inline constexpr size_t kWorthLookingAhead = 8;
 
 // ---- in and out
@@ -43,7 +43,7 @@ template <class Data, class P> void storeBlock(const P* work, Data* dst, size_t 
   loop(finish, destination(dst), lanes, source(work));
 }
 
-// 2^-scaleFactor, finite: nothing but 0 stays inside any range 1000 places up.
+// 2^-scaleFactor, finite: a shift by 1000 already saturates everything but 0.
 inline Lane outputFactor(int scaleFactor) { return powerOfTwo<Lane>(-std::clamp<int64_t>(scaleFactor, -1000, 1000)); }
 
 // ---- a block of n numbers in place
@@ -138,7 +138,7 @@ inline bool areFinite(const Lane* p, size_t n) {
   return hn::AllTrue(Wide(), sum == zero);
 }
 
-// Whether it could: not with what is not finite.
+// False if the samples or the delay line are not finite: then nothing is done.
 template <class T> bool runDirect(const Record<T>& s, Lane* work, size_t n) {
   constexpr size_t kRoom = (Direct<T>::kMostVectors + 2) * kLanes;
   const size_t lanes = lineValues(s) * kParts<T>;
@@ -165,7 +165,7 @@ template <class T> void runPlain(const Record<T>& s, Lane* work, size_t n) {
   for (int k = 0; k < s.numBq; ++k) each([t = s.taps + 5 * k, d = s.line + 2 * k](T v) { return sectionOne(t, d, v); });
 }
 
-// All but sections that look ahead or are in lanes.
+// Filters with every form but sections that look ahead or lie in lanes.
 template <class T> void runBlock(const Record<T>& s, bool isDf1, Lane* work, size_t n) {
   if constexpr (std::is_same_v<T, Qvx64f>) {
     if (isDf1) {
@@ -201,7 +201,7 @@ void inBlocks(const Data* src, Data* dst, size_t n, Finish<Data> finish, Run run
   }
 }
 
-// One section goes from the samples to the samples; of several, the first takes them and the last gives them back.
+// A single section filters from src to dst; of several, the first reads src and the last writes dst.
 template <class T, class Data> void bySections(const Record<T>& s, const Data* src, Data* dst, size_t n, Finish<Data> finish) {
   const int last = std::max(s.numBq, 1) - 1;
   withSectionLine(s, [&](T* line) {
@@ -218,7 +218,7 @@ template <class T, class Data> void bySections(const Record<T>& s, const Data* s
   });
 }
 
-// Without tables of its own: they are made for a call, and go over all samples.
+// This form has no room for tables: they are made for the time of a call, and applied to all samples.
 inline void filterDf1(const Record<Qvx32f>& s, const Qvx32f* src, Qvx32f* dst, size_t n) {
   using P = CascadeLane<Qvx32f>;
   using Many = Cascade<P>;

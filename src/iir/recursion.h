@@ -1,4 +1,4 @@
-// One sample after the other, in the type of the filter's memory: short vectors, orders without tables, and filters that lose
+// Sample by sample, in the type of the filter's memory: for short vectors, orders without tables, and filters that would lose
 // accuracy by look-ahead.
 #pragma once
 

@@ -20,8 +20,8 @@ template <class P, class T> auto normaliser(T a0) {
   }
 }
 
-// A section's tables. One that would lose accuracy by look-ahead has all of them filtered in lanes, or one sample after the
-// other.
+// Sets a section's tables. A section that would lose accuracy by look-ahead makes the whole filter go in lanes, or sample by
+// sample.
 template <class T> void setSection(Record<T>& s, size_t i, const T* t) {
   if (s.sections != nullptr) s.sections[i].set(t);
   const bool looksAhead = s.sections != nullptr && s.sections[i].looksAhead;
@@ -50,8 +50,8 @@ template <class T> QvxStatus setDirectTaps(Record<T>& s, const T* taps) {
   return qvxStatOk;
 }
 
-// What a section refuses: a0 of 0 always, b0 of 0 but in the direct form I of 32-bit memory, which also takes the taps as they
-// are where a0 is 1.
+// Sections refuse an a0 of 0, and a b0 of 0 except in the direct form I of 32-bit memory, which also takes the taps as they are
+// where a0 is 1.
 template <class T> QvxStatus setSectionTaps(Record<T>& s, const T* taps) {
   const bool hasTables = s.sections != nullptr || s.cascade.isThere();
   const bool asTheyAre = !hasTables;

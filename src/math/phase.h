@@ -1,6 +1,6 @@
 // The angle of a complex number, from -pi to pi: arctan(y / x) with the quadrant of the signs.
 //
-// Error below 1.0 ULP, for a float or a double. Zeros, infinities and what is not a number as the C library's atan2 has them.
+// Error below 1.0 ULP, for a float or a double. Zeros, infinities and NaN give what the C library's atan2 gives.
 // The quotient has a rounding of its own, too much beside the arctangent's: its remainder is taken along. kRemainder false:
 // without it, for doubles that become floats.
 #pragma once

@@ -51,7 +51,7 @@ template <size_t L, class T> QVX_INLINE auto twiddleAt(const T* lanes, const T* 
   return product(group<L>(lanes + 2 * at), tile[2 * row], tile[2 * row + 1]);
 }
 
-// Where all levels in place leave a row.
+// The row that holds a result after all levels in place.
 class DigitsReversed {
  public:
   explicit DigitsReversed(const Levels& levels) : levels_(levels) {}
@@ -78,9 +78,8 @@ template <size_t L, class T> struct ColumnTile {
   T* at(size_t row, size_t column) const { return y + (row * wide + column) * 2; }
 };
 
-// kAhead: what the rows of the next step hold is asked for a step ahead. Of 4 or 8 streams a power of two apart the processor
-// sees none coming (0.86 to 0.95 of the whole time of 2^20 complex doubles); where the caches hold it all, 2^18 take 1.07 that
-// way.
+// kAhead: prefetch the rows of the next step. The processor's prefetcher follows none of 4 or 8 streams a power of two apart
+// (2^20 complex doubles take 0.86 to 0.95 of the whole time); where the caches hold everything, 2^18 take 1.07.
 
 // The first level, from the caller's rows.
 template <bool kAhead, size_t R, size_t L, class T, class Src>
@@ -115,8 +114,8 @@ template <size_t L, class T> void middleLevels(const Levels& levels, ColumnTile<
   }
 }
 
-// The last one, of rows k = first, first + step .. and what belongs to them, with the twiddles that turn the results, to where
-// they stand in natural order.
+// The last level, for rows k = first, first + step .. and the rows that share a butterfly with them; multiplies the results by
+// their twiddles and stores them in natural order.
 template <bool kAhead, size_t R, size_t L, class T, class Dst>
 [[gnu::noinline]] void storeColumns(ColumnTile<L, T> tile, const DigitsReversed& place, size_t first, size_t step, const T* lanes,
                                     const T* tiles, Dst dst, size_t columns) {
@@ -196,7 +195,7 @@ template <size_t L, class T, class Points> QVX_INLINE void takeTransposed(Points
   unrolled<L>([&](auto i) __attribute__((always_inline)) { putGroup<L>(Complex<V>{re[i], im[i]}, y + element(i) * apart * 2); });
 }
 
-// Squares of runs of 512 bytes on both sides of the diagonal change places.
+// Exchanges squares of 512-byte runs on both sides of the diagonal.
 template <class T> inline constexpr size_t kSquare = 512 / (2 * sizeof(T));
 
 template <size_t L, class T, class Points> [[gnu::noinline]] void takeSquare(Points from, size_t stride, T* y) {
@@ -230,11 +229,11 @@ template <size_t L, class T, class Points> void transposeUpTo(Points points, siz
   }
 }
 
-// Source and destination together, where they leave half of the cache to others.
+// Whether source and destination together take no more than half of the cache.
 inline bool isCached(size_t bytes) { return !isStreamed(2 * bytes); }
 
-// The first pass. What it writes will have left the caches when it is read again, if source and destination are larger than
-// they: it goes to memory at once then (0.92 of the whole transform's time for 2^21 doubles).
+// The first pass. If source and destination exceed the caches, what it writes is evicted before it is read again: it is then
+// stored to memory at once (0.92 of the whole transform's time for 2^21 doubles).
 template <size_t L, class T, bool kSwapped, class... Rest>
 void firstColumns(Interleaved<const T, kSwapped> src, Interleaved<T, kSwapped> dst, size_t rows, size_t columns, Rest... rest) {
   const size_t bytes = 2 * rows * columns * 2 * sizeof(T);

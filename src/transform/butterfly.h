@@ -9,7 +9,7 @@
 
 namespace qvx::transform {
 
-// GCC would keep some of these out of line, and their operands in memory.
+// Without it GCC calls some of these, with their operands in memory.
 #define QVX_INLINE [[gnu::always_inline]] inline
 
 template <class V> QVX_INLINE Complex<V> sum(Complex<V> a, Complex<V> b) { return {a.re + b.re, a.im + b.im}; }
@@ -46,7 +46,7 @@ template <class Z> QVX_INLINE void dft4(Z& x0, Z& x1, Z& x2, Z& x3) {
   x3 = sumWithI(evenOff, oddOff);
 }
 
-// Of the odd results, two terms are turned by eighths, whose factor sqrt(1/2) goes into the last sums.
+// Two terms of the odd results are multiplied by eighth roots of unity, whose factor sqrt(1/2) is fused into the last sums.
 template <class Z> QVX_INLINE void dft8(Z (&x)[8]) {
   constexpr double kHalf = 0.70710678118654752440;
   Z even[] = {sum(x[0], x[4]), sum(x[1], x[5]), sum(x[2], x[6]), sum(x[3], x[7])};

@@ -1,4 +1,4 @@
-// A complex transform of a power of two, whatever its length and whoever asks for it.
+// Complex transforms of powers of two: the plan of a length, and the kernel that it takes.
 #pragma once
 
 #include "transform/blocked.h"
@@ -6,7 +6,7 @@
 
 namespace qvx::transform {
 
-// From here on, the longest that the caches serve whole; longer ones go by blocks.
+// The longest transform that the caches serve whole; longer ones go by blocks.
 template <class T> inline constexpr size_t kLongestInCache = size_t{1} << (sizeof(T) == 4 ? 17 : 16);
 // From here on two threads are faster than one.
 template <class T> inline constexpr size_t kWorthTeam = size_t{1} << (sizeof(T) == 4 ? 14 : 13);

@@ -1,4 +1,4 @@
-// Transforms of one block of the row pass: L*L points in L lanes, and L*L/2. All points stand in registers from the first
+// Transforms of one block of the row pass: L*L points in L lanes, and L*L/2. All points stay in registers from the first
 // load to the last store.
 //
 // The first transforms go down R = L or L/2 rows of L points, as the row pass does. Where their results, R to a point, would

@@ -1,9 +1,10 @@
 // The passes of a transform of N = R * rows points, R points apart by `rows`:
 //
-//   row pass     transforms of R points over whole vectors of neighbours; their results turned, and transposed so that a vector
-//                holds neighbouring results and every later pass can work without a shuffle
-//   inner pass   transforms of whole vectors down the rows, in place, turned by one twiddle a vector
-//   last pass    the same without twiddles, from the work array to where the results stand in natural order
+//   row pass     transforms R points over whole vectors of neighbours, multiplies the results by twiddles, and transposes them,
+//   so
+//                that a vector holds neighbouring results and no later pass needs a shuffle
+//   inner pass   transforms whole vectors down the rows, in place, and multiplies them by one twiddle a vector
+//   last pass    the same without twiddles, from the work array to the results' places in natural order
 //
 // The work array y holds vectors in groups: L real parts, L imaginary parts; row j has R / L groups.
 #pragma once
@@ -14,7 +15,7 @@
 
 namespace qvx::transform {
 
-// The caller's numbers as they stand, for transforms that need no parts apart.
+// The caller's numbers as they are, for transforms that work on interleaved parts.
 template <class T> struct Floats {
   T* p;
 
@@ -23,7 +24,8 @@ template <class T> struct Floats {
   Floats from(size_t at) const { return {p + at}; }
 };
 
-// Points in the caller's memory. A vector of L of them may come with its lanes in another order, that of element(lane).
+// Points in the caller's memory. get() may load a vector of L of them with its lanes in another order: lane i holds
+// element(i).
 template <class T, bool kSwapped_> struct Interleaved {
   using Lane = std::remove_const_t<T>;
   static constexpr bool kSwapped = kSwapped_;
@@ -64,7 +66,7 @@ template <class T, bool kSwapped_> struct Interleaved {
   Interleaved from(size_t at) const { return {p + 2 * at}; }
 };
 
-// The same past the caches, for aligned vectors.
+// The same by stores that bypass the caches, for aligned vectors.
 template <class T, bool kSwapped> struct Streamed {
   T* p;
 
@@ -105,7 +107,7 @@ template <class T> bool isMissing(const T* v) { return isNull(v); }
 template <class T, bool kSwapped> bool isMissing(Interleaved<T, kSwapped> v) { return isNull(v.p); }
 template <class T> bool isMissing(Split<T> v) { return isNull(v.re) || isNull(v.im); }
 
-// What is done to results on their way out.
+// What the last pass multiplies results by.
 struct Unscaled {
   template <class V> QVX_INLINE V operator()(V v) const { return v; }
 };
@@ -115,7 +117,7 @@ template <class T> struct ScaledBy {
   template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const { return {(*this)(z.re), (*this)(z.im)}; }
 };
 
-// The row pass takes as many points as a register has lanes, and as many as make it worth while.
+// The row pass takes as many points as a register has lanes, and 4 at least: fewer would not be worth a pass.
 template <size_t L> inline constexpr size_t kRowRadix = L < 4 ? 4 : L;
 
 template <size_t L, class T> QVX_INLINE Complex<Vec<Lanes<T, L>>> group(const T* y) {

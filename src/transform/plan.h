@@ -109,8 +109,8 @@ void runPasses(const Plan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
   Columns<L, T, Dst, Scale>{plan.levels, dst, scale}.block(y, plan.rows, plan.levelTwiddles, 0, 0, 1);
 }
 
-// The same by some threads, one after another: the row pass by its blocks, the first inner pass by its rows, and the parts that it
-// has made.
+// The same by some threads, one after another: the row pass by its blocks, the first inner pass by its rows, and the parts that
+// it has made.
 template <size_t L, class T, class Src, class Dst, class Scale>
 void runPassesInTeam(int threads, const Plan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
   const size_t rows = plan.rows;

@@ -8,7 +8,7 @@
 
 namespace qvx::transform {
 
-// Up to here, registers hold all and constants turn it.
+// Orders up to this one stay in registers, with twiddles that are constants.
 inline constexpr int kShortReal = 5;
 
 // The plan of n real numbers: that of half as many complex ones, and what makes a spectrum of theirs.
@@ -58,7 +58,7 @@ void longForward(const RealPlan<T>& plan, const T* src, T* dst, T* y, Scale scal
   fromPerm<kLayout>(dst, n);
 }
 
-// The recombination gives half of what the complex transform needs; its factor makes up for that.
+// The recombination gives half of what the complex transform needs, so the factor is doubled.
 template <class T> ScaledBy<T> doubled(ScaledBy<T> scale) { return {2 * scale.factor}; }
 template <class T> ScaledBy<T> doubled(Unscaled) { return {2}; }
 

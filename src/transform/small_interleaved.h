@@ -12,7 +12,7 @@ namespace qvx::transform {
 // kSwapped: with real and imaginary parts exchanged.
 template <class V, bool kSwapped> struct ComplexVector { V v; };
 
-// So many halves, with both signs in turn.
+// kHalves halves, with alternating signs.
 template <class T, int kHalves> struct Alternating {
   T v[8];
   constexpr Alternating() : v() {
@@ -74,7 +74,7 @@ template <bool kSwapped, class V> QVX_INLINE V twiddled(V v, const LaneOf<V>* tw
   return kSwapped ? hn::NegMulAdd(swapped(v), im, re) : hn::MulAdd(swapped(v), im, re);
 }
 
-// As many vectors as they have numbers.
+// Transposes as many vectors as one has numbers.
 template <class V, size_t P> QVX_INLINE void transposePoints(V (&r)[P]) {
   if constexpr (sizeof(LaneOf<V>) == 8) {
     transposeBlocks(r);

@@ -1,4 +1,4 @@
-// A constant divisor of zero, refused after the tests of pointers and length.
+// Refuses a constant divisor of zero, after the tests of pointers and length.
 #pragma once
 
 #include "frame/check.h"

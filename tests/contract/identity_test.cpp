@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <set>
 
 #include "support/exports.h"
@@ -50,6 +51,20 @@ TEST(Identity, DynamicSymbolsAreTheDeclaredExports) {
   EXPECT_EQ(pclose(nm), 0);
   EXPECT_GE(declared.size(), 1454U);
   EXPECT_EQ(exported, declared);
+}
+
+// Relocations are done and locked when the library is loaded, its landing pads and return addresses marked for processors that
+// check them.
+TEST(Identity, IsHardened) {
+  if (QVXS_SANITIZED) GTEST_SKIP() << "sanitizers come without";
+  const auto tells = [](const std::string& option, const char* what) {
+    return std::system(("readelf -W " + option + " " + libraryPath() + " | grep -q '" + what + "'").c_str()) == 0;
+  };
+  EXPECT_TRUE(tells("-l", "GNU_RELRO"));
+  EXPECT_TRUE(tells("-d", "BIND_NOW\\|NOW"));
+  EXPECT_TRUE(tells("-n", "IBT, SHSTK"));
+  EXPECT_TRUE(tells("-l", "GNU_STACK.* RW "));
+  EXPECT_TRUE(tells("--dyn-syms", " qvxsAdd_32f@@"));
 }
 
 template <class... T> void expectVectors(T* (*... allocate)(int)) {

@@ -1,4 +1,5 @@
-// All the floating-point transforms under one interface: sequences and spectra as exact complex numbers, records and buffers owned.
+// All the floating-point transforms under one interface: sequences and spectra as exact complex numbers, records and buffers
+// owned.
 #pragma once
 
 #include <gtest/gtest.h>
