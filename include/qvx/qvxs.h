@@ -17,5 +17,6 @@
 #include <qvx/qvxs_fft_integer.h>
 #include <qvx/qvxs_fir.h>
 #include <qvx/qvxs_iir.h>
+#include <qvx/qvxs_sort.h>
 
 #endif

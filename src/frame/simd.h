@@ -7,6 +7,7 @@
 
 #include <hwy/highway.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -766,5 +767,127 @@ template <class To, class V> auto narrowInOrder(Pair<V> v) {
 #endif
   return packed;
 }
+
+// ---- exchanges of lanes, for sorting networks
+
+namespace detail {
+
+inline __m128i exchangedBlocks(__m128i v, std::integral_constant<size_t, 0>) { return v; }
+#if QVXS_AVX2
+template <size_t kBy> __m256i exchangedBlocks(__m256i v, std::integral_constant<size_t, kBy>) {
+  return kBy == 0 ? v : _mm256_permute4x64_epi64(v, 0x4E);
+}
+#endif
+#if QVXS_AVX512
+template <size_t kBy> __m512i exchangedBlocks(__m512i v, std::integral_constant<size_t, kBy>) {
+  return kBy == 0 ? v : _mm512_shuffle_i64x2(v, v, kBy == 1 ? 0xB1 : kBy == 2 ? 0x4E : 0x1B);
+}
+#endif
+
+}  // namespace detail
+
+// Lane i ^ kBy in the place of lane i.
+template <size_t kBy, class V> V exchanged(V v) {
+  using T = LaneOf<V>;
+  constexpr size_t kInBlock = 16 / sizeof(T);
+  constexpr size_t kInner = kBy % kInBlock;
+  const V blocks{detail::exchangedBlocks(v.raw, std::integral_constant<size_t, kBy / kInBlock>())};
+  if constexpr (kInner == 0) {
+    return blocks;
+  } else if constexpr (sizeof(T) >= 4) {
+    const auto words = as<uint32_t>(blocks);
+    constexpr size_t kWords = kInner * (sizeof(T) / 4);
+    if constexpr (kWords == 1) return as<T>(hn::Shuffle2301(words));
+    else if constexpr (kWords == 2) return as<T>(hn::Shuffle1032(words));
+    else return as<T>(hn::Shuffle0123(words));
+  } else {
+    const auto bytes = as<uint8_t>(blocks);
+    const TagOf<std::remove_const_t<decltype(bytes)>> d;
+    alignas(16) constexpr auto kOrder = [] {
+      struct { uint8_t at[16]; } order{};
+      for (size_t i = 0; i < 16; ++i) order.at[i] = static_cast<uint8_t>(i ^ (kInner * sizeof(T)));
+      return order;
+    }();
+    return as<T>(hn::TableLookupBytes(bytes, hn::LoadDup128(d, kOrder.at)));
+  }
+}
+
+// `upper` in the lanes whose number has the bit kBit, `lower` in the others.
+template <size_t kBit, class V> V lanesByBit(V lower, V upper) {
+  const TagOf<V> d;
+#if QVXS_AVX512
+  constexpr uint64_t kMask = [] {
+    uint64_t mask = 0;
+    for (size_t i = 0; i < kLanesOf<V>; ++i) mask |= uint64_t{(i & kBit) != 0} << i;
+    return mask;
+  }();
+  return hn::IfThenElse(hn::Mask<decltype(d)>{static_cast<decltype(hn::Mask<decltype(d)>::raw)>(kMask)}, upper, lower);
+#elif QVXS_AVX2
+  if constexpr (sizeof(V) == 32 && kBit * sizeof(LaneOf<V>) >= 4) {
+    constexpr int kMask = [] {
+      int mask = 0;
+      for (size_t word = 0; word < 8; ++word) mask |= static_cast<int>((word * 4 / sizeof(LaneOf<V>) & kBit) != 0) << word;
+      return mask;
+    }();
+    return V{_mm256_blend_epi32(lower.raw, upper.raw, kMask)};
+  } else if constexpr (sizeof(LaneOf<V>) == 2) {
+    return hn::OddEven(upper, lower);
+  } else
+#endif
+#if !QVXS_AVX512
+  {
+    const hn::RebindToUnsigned<decltype(d)> lanes;
+    const auto number = hn::And(hn::Iota(lanes, 0), hn::Set(lanes, kBit));
+    return hn::IfThenElse(hn::RebindMask(d, number == hn::Set(lanes, kBit)), upper, lower);
+  }
+#endif
+}
+
+// ---- lanes parted by a mask
+
+namespace detail {
+
+// For each mask of kLanes lanes the numbers of those in it, then of the others; in units of kUnit bytes, each counted anew.
+template <class Index, size_t kLanes, size_t kUnits> struct PartedOrder {
+  Index of[size_t{1} << kLanes][kLanes * kUnits];
+  constexpr PartedOrder() : of{} {
+    for (size_t mask = 0; mask < size_t{1} << kLanes; ++mask) {
+      size_t to = 0;
+      for (const bool isIn : {true, false}) {
+        for (size_t i = 0; i < kLanes; ++i) {
+          if ((mask >> i & 1) != isIn) continue;
+          for (size_t unit = 0; unit < kUnits; ++unit) of[mask][to++] = static_cast<Index>(i * kUnits + unit);
+        }
+      }
+    }
+  }
+};
+template <class Index, size_t kLanes, size_t kUnits>
+alignas(64) inline constexpr PartedOrder<Index, kLanes, kUnits> kPartedOrder;
+
+template <size_t kBytes> __m128i partedBy(__m128i v, uint64_t mask) {
+  return _mm_shuffle_epi8(v, _mm_load_si128(reinterpret_cast<const __m128i*>(kPartedOrder<uint8_t, 16 / kBytes, kBytes>.of[mask])));
+}
+#if QVXS_AVX2
+template <size_t kBytes> __m256i partedBy(__m256i v, uint64_t mask) {
+  const auto* order = kPartedOrder<uint32_t, 32 / kBytes, kBytes / 4>.of[mask];
+  return _mm256_permutevar8x32_epi32(v, _mm256_load_si256(reinterpret_cast<const __m256i*>(order)));
+}
+#endif
+#if QVXS_AVX512
+template <size_t kBytes> __m512i partedBy(__m512i v, uint64_t mask) {
+  static_assert(kBytes == 8);
+  const auto* order = kPartedOrder<uint8_t, 8, 1>.of[mask];
+  return _mm512_permutexvar_epi64(_mm512_cvtepu8_epi64(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(order))), v);
+}
+#endif
+
+}  // namespace detail
+
+// The lanes whose bits are set, then the others, each in their order. By a table: an instruction that gathers them leaves the others
+// out, and on one make takes 100 times as long to store what it gathered.
+template <class V> V parted(V v, uint64_t mask) { return V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, mask)}; }
+// The most lanes that a table of a few KiB parts.
+template <class T> inline constexpr size_t kPartedLanes = std::min(kVectorBytes / sizeof(T), size_t{8});
 
 }  // namespace qvx

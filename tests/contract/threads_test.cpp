@@ -68,6 +68,10 @@ const Divided kDivided[] = {
     {"qvxsMagnitude_32f", 16384}, {"qvxsMagnitude_64f", 8192}, {"qvxsMagnitude_32fc", 16384}, {"qvxsMagnitude_64fc", 8192},
     {"qvxsMagnitude_16sc32f", 16384}, {"qvxsMagnitude_16s32f", 16384}, {"qvxsMagnitude_16s_Sfs", 16384},
     {"qvxsMagnitude_16sc_Sfs", 16384}, {"qvxsMagnitude_32sc_Sfs", 8192},
+    {"qvxsSortRadixAscend_32s_I", 16384}, {"qvxsSortRadixDescend_32s_I", 16384},
+    {"qvxsSortRadixAscend_32u_I", 16384}, {"qvxsSortRadixDescend_32u_I", 16384},
+    {"qvxsSortRadixAscend_32f_I", 16384}, {"qvxsSortRadixDescend_32f_I", 16384},
+    {"qvxsSortRadixAscend_64f_I", 16384}, {"qvxsSortRadixDescend_64f_I", 16384},
 };
 // clang-format on
 

@@ -447,6 +447,7 @@ inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst,
     const int bytes = sizeFor(maker_ != nullptr ? maker_->name : name, work->second);
     return vector(static_cast<size_t>(bytes), Role::kWork, index, [](uint8_t*) {});
   }
+  if (traits_.scratch.count(p.name) != 0) return vector(elementSize * extent(p), Role::kWork, index, [](uint8_t*) {});
   if (void* source = sourceInPlace(p)) return source;
   // The first byte and the last keep the bits beside those written.
   const bool isRead = isConst || contains(p.name, {"Src", "DlyLine"}) || traits_.fills.count(p.name) != 0;

@@ -106,6 +106,7 @@ void read(const std::string& line, Traits& row) {
     else if (key == "fill") put(row.fills, same);
     else if (key == "range") put(row.ranges, rangeOf);
     else if (key == "optional") row.optional.insert(word);
+    else if (key == "scratch") row.scratch.insert(word);
     else if (key == "refuses") row.refusals.push_back(refusalOf(word));
     else if (key == "exact") row.exact = word;
     else fail("what is " + key + "?");
@@ -232,7 +233,7 @@ const std::vector<Traits>& allTraits() {
       std::ifstream lines(file.path());
       for (std::string line; std::getline(lines, line);) {
         if (line.empty() || line[0] == '#') continue;
-        if (line[0] != ' ') rows.push_back({split(line, ' '), {}, {}, {}, {}, {}, {}, {}, {}});
+        if (line[0] != ' ') rows.push_back({split(line, ' '), {}, {}, {}, {}, {}, {}, {}, {}, {}});
         else read(line, rows.back());
       }
     }

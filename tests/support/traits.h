@@ -32,7 +32,7 @@ struct Traits {
   std::vector<std::string> names;
   std::map<std::string, std::string> extents, work, fills;
   std::map<std::string, Range> ranges;
-  std::set<std::string> optional;
+  std::set<std::string> optional, scratch;
   std::vector<Refusal> refusals;
   std::set<std::string> flags;
   std::string exact;

@@ -1,0 +1,53 @@
+// Keys of few values, sorted by how often each occurs.
+#pragma once
+
+#include "sort/keys.h"
+
+namespace qvx {
+
+// `count` times the same element from `out` on, by whole vectors where `end` leaves room.
+template <class T> T* putRun(T* out, const T* end, T value, size_t count) {
+  constexpr size_t N = 32 / sizeof(T);
+  const Lanes<T, kVectorBytes / sizeof(T)> d;
+  constexpr size_t kLanes = kVectorBytes / sizeof(T);
+  static_assert(kLanes <= 2 * N);
+  T* const past = out + count;
+  const auto v = hn::Set(d, value);
+  if (static_cast<size_t>(end - past) >= kLanes) {
+    for (; out < past; out += kLanes) store(v, d, out);
+    return past;
+  }
+  std::fill(out, past, value);
+  return past;
+}
+
+// From so many keys on a vector of 16-bit keys is halved by value, not by a median, until a stretch of values can be counted.
+inline constexpr size_t kCountedFrom = 8192;
+inline constexpr size_t kCountedValues = 4096;
+
+template <class K> bool isCounted(size_t n, K least, K most) {
+  return n >= kCountedFrom && static_cast<size_t>(most - least) < kCountedValues;
+}
+
+// `memory`: kCountedValues numbers of 32 bits.
+inline void sortByCounting(int16_t* x, size_t n, KeyMap<int16_t> in, KeyMap<int16_t> out, int16_t least, int16_t most, void* memory) {
+  auto* const counts = static_cast<uint32_t*>(memory);
+  const int values = most - least + 1;
+  std::fill_n(counts, values, 0U);
+  size_t i = 0;
+  // Two at a time: equal neighbours would wait for each other's count in memory.
+  for (; i + 2 <= n; i += 2) {
+    const int a = in.key(x[i]) - least, b = in.key(x[i + 1]) - least;
+    if (a == b) {
+      counts[a] += 2;
+    } else {
+      ++counts[a];
+      ++counts[b];
+    }
+  }
+  if (i < n) ++counts[in.key(x[i]) - least];
+  int16_t* at = x;
+  for (int v = 0; v < values; ++v) at = putRun(at, x + n, out.original(static_cast<int16_t>(least + v)), counts[v]);
+}
+
+}  // namespace qvx

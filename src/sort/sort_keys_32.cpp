@@ -1,0 +1,8 @@
+// 32-bit keys.
+#include "sort/sort_in_team.h"
+#include "sort/sort_keys.h"
+
+using namespace qvx;
+
+void qvx::sortKeys(int32_t* x, size_t n, KeyMap<int32_t> map) { quicksort(x, n, map, map); }
+void qvx::sortKeysInTeam(int32_t* x, size_t n, KeyMap<int32_t> map) { sortInTeam(x, n, map); }

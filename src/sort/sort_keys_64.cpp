@@ -1,0 +1,8 @@
+// 64-bit keys.
+#include "sort/sort_in_team.h"
+#include "sort/sort_keys.h"
+
+using namespace qvx;
+
+void qvx::sortKeys(int64_t* x, size_t n, KeyMap<int64_t> map) { quicksort(x, n, map, map); }
+void qvx::sortKeysInTeam(int64_t* x, size_t n, KeyMap<int64_t> map) { sortInTeam(x, n, map); }
