@@ -17,6 +17,8 @@
 #include <qvx/qvxs_fft_integer.h>
 #include <qvx/qvxs_fir.h>
 #include <qvx/qvxs_iir.h>
+#include <qvx/qvxs_generate.h>
+#include <qvx/qvxs_window.h>
 #include <qvx/qvxs_sort.h>
 
 #endif

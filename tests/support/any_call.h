@@ -264,6 +264,9 @@ inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, 
       shape_["totalBits"] += length;
     }
   }
+  if (how == "unit") {
+    for (size_t i = 0; i < bytes; i += part) type.put(p + i, static_cast<double>(choices.bits(4)) * 0x1p-32);
+  }
   if (how == "positions") {
     auto* position = reinterpret_cast<int32_t*>(p);
     for (const auto& [count, order] : {std::pair{"nzTapsLenB", "orderB"}, std::pair{"nzTapsLenA", "orderA"}}) {
@@ -306,9 +309,9 @@ inline void AnyCall::fillTaps(uint8_t* p, const Parameter& parameter, Choices& c
 
 // What the size function that belongs to a maker says.
 inline int AnyCall::sizeFor(const std::string& maker, const std::string& which) {
-  const bool isTransform = maker.find("FFT") != std::string::npos;
-  const Export* e = findExport(
-      replaced(maker, maker.find("InitAlloc") != maker.npos ? "InitAlloc" : "Init", isTransform ? "GetSize" : "GetStateSize"));
+  const char* init = maker.find("InitAlloc") != maker.npos ? "InitAlloc" : "Init";
+  const Export* e = findExport(replaced(maker, init, "GetStateSize"));
+  if (e == nullptr) e = findExport(replaced(maker, init, "GetSize"));
   if (e == nullptr) std::abort();
   struct Sizes : Arguments {
     const Export* e;
@@ -328,7 +331,7 @@ inline const std::vector<const Export*>& makersOf(const std::string& type, bool 
   static const auto all = [] {
     std::map<std::pair<std::string, bool>, std::vector<const Export*>> byType;
     for (const Export& e : exportTable()) {
-      const bool makes = e.name.find("Init") != e.name.npos && !e.parameters.empty() && e.parameters[0].isArrayOfPointers();
+      const bool makes = e.name.find("Init") != e.name.npos && !e.parameters.empty() && e.parameters[0].isRecord();
       if (makes) byType[{e.parameters[0].pointee(), contains(e.name, {"InitAlloc"})}].push_back(&e);
     }
     return byType;
@@ -341,14 +344,15 @@ inline const std::vector<const Export*>& makersOf(const std::string& type, bool 
 // A record of this type from one of its makers, whose numbers and extents become part of the shape.
 inline void* AnyCall::recordOf(std::string type, bool isConst, Choices& choices) {
   if (type == "QvxsFIRState_32s") type = "QvxsFIRState64f_32s";  // one record by two names
-  const bool allocates = contains(export_.name, {"Free"}) && choices.oneIn(2);
+  const bool allocates = makersOf(type, false).empty() || (contains(export_.name, {"Free"}) && choices.oneIn(2));
   const std::vector<const Export*>& makers = makersOf(type, allocates);
   if (makers.empty()) return recordOf(type, isConst, choices);  // none that allocates
   maker_ = makers[static_cast<size_t>(choices.between(0, static_cast<int64_t>(makers.size()) - 1))];
   AnyCall made(*maker_, choices, memory_, around_, library_);
   choices.bits();
   made.run();
-  void* record = *static_cast<void**>(made.pointers_[0]);
+  void* record = made.pointers_[0];  // in the caller's memory, or where a maker leaves its address
+  if (maker_->parameters[0].isArrayOfPointers()) record = *static_cast<void**>(record);
   for (const auto& [name, value] : made.shape_) {
     if (!export_.has(name)) shape_[name] = value;
   }
@@ -418,7 +422,8 @@ inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst,
   const Parameter& p = export_.parameters[index];
   const std::string& name = export_.name;
   const std::string type = p.pointee();
-  if (kind == 'r') return recordOf(type, isConst, choices);
+  const auto work = traits_.work.find(p.name);
+  if (kind == 'r' && work == traits_.work.end()) return recordOf(type, isConst, choices);
   const bool isState = p.isRecord();
   if (p.isArrayOfPointers()) {
     if (isState && contains(name, {"Init"})) {  // where a maker leaves its record
@@ -443,7 +448,7 @@ inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst,
   };
   const std::vector<Refusal>& refusals = traits_.refusals;
   if (std::any_of(refusals.begin(), refusals.end(), taken) && choices.oneIn(3)) return nullptr;
-  if (const auto work = traits_.work.find(p.name); work != traits_.work.end()) {
+  if (work != traits_.work.end()) {
     const int bytes = sizeFor(maker_ != nullptr ? maker_->name : name, work->second);
     return vector(static_cast<size_t>(bytes), Role::kWork, index, [](uint8_t*) {});
   }

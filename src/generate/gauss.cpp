@@ -1,0 +1,188 @@
+// Normal deviates by the polar method.
+#include "frame/record.h"
+#include "frame/rounding.h"
+#include "generate/random.h"
+#include "math/ln.h"
+
+using namespace qvx;
+using namespace qvx::generate;
+
+namespace qvx::generate {
+
+// The second of a pair, when the first is given out.
+struct Waiting {
+  double factor;
+  double spare;
+};
+
+template <class T, uint32_t kNumber> struct Gauss {
+  using Sample = T;
+  static constexpr uint32_t kId = kNumber;
+
+  uint32_t magic;
+  uint32_t seed;
+  T mean;
+  T stdDev;
+  Generator source;
+  int32_t needPair;  // 0: one is waiting
+  bool ownsBlock;
+  Waiting waiting;
+};
+
+}  // namespace qvx::generate
+
+struct QvxsRandGaussState_8u : Gauss<Qvx8u, 38> {};
+struct QvxsRandGaussState_16s : Gauss<Qvx16s, 39> {};
+struct QvxsRandGaussState_32f : Gauss<Qvx32f, 40> {};
+
+namespace {
+
+constexpr int kBytes = 64;
+static_assert(sizeof(QvxsRandGaussState_16s) <= kBytes);
+
+enum class Order { kFactorFirst, kFactorLast };  // of the products with stdDev
+
+template <class T, Order kOrder> struct Deviate {
+  T mean;
+  double stdDev;
+
+  template <class V> auto operator()(V factor, V w) const {
+    const V s = same<V>(stdDev);
+    const V product = kOrder == Order::kFactorFirst || std::is_same_v<T, float> ? s * factor * w : w * s * factor;
+    if constexpr (std::is_same_v<T, float>) {
+      const auto narrow = convertLanes<float>(product);
+      return narrow + hn::Set(TagOf<decltype(narrow)>(), mean);
+    } else {
+      return rounded<T>(product + same<V>(mean));
+    }
+  }
+};
+
+inline constexpr size_t kPairs = 128;
+
+// Accepted pairs: each value beside its factor, in the order in which they are given out.
+struct Accepted {
+  alignas(64) double factor[2 * kPairs];
+  alignas(64) double value[2 * kPairs];
+};
+
+// As many of the next `tries` pairs as the method takes.
+size_t tryPairs(Generator& source, size_t tries, Accepted& pairs) {
+  constexpr size_t kWide = kVectorBytes / sizeof(double);
+  alignas(64) int32_t r[2 * kPairs + kVectorBytes / sizeof(int32_t)];
+  alignas(64) double scaled[2 * kPairs];
+  alignas(64) double q[kPairs + kWide];
+  const Lanes<double, kWide> d;
+  advance(source, 2 * tries, r);
+  for (size_t i = 0; i < 2 * tries; i += kWide) {
+    store(convertLanes<double>(load(Lanes<int32_t, kWide>(), r + i)) * hn::Set(d, 4.656612873077e-10), d, scaled + i);
+  }
+  size_t count = 0;
+  for (size_t k = 0; k < tries; ++k) {
+    const double u = scaled[2 * k];
+    const double v = scaled[2 * k + 1];
+    const double square = u * u + v * v;
+    q[count] = square;
+    pairs.value[2 * count] = v;
+    pairs.value[2 * count + 1] = u;
+    count += static_cast<size_t>(square < 1) & static_cast<size_t>(square > 0);
+  }
+  for (size_t k = count; k < count + kWide; ++k) q[k] = 0.5;
+  for (size_t k = 0; k < count; k += kWide) {
+    const auto square = load(d, q + k);
+    const auto factor = hn::Sqrt(hn::Set(d, -2.0) * ln(square) / square);
+    const auto twice = interleaved(Pair<Vec<decltype(d)>>{factor, factor});
+    store(twice.lo, d, pairs.factor + 2 * k);
+    store(twice.hi, d, pairs.factor + 2 * k + kWide);
+  }
+  return count;
+}
+
+// No pair is tried that would not be given out, so that the source stands right after the last one.
+template <class T, Order kOrder>
+void fill(T* dst, size_t n, Deviate<T, kOrder> deviate, Generator& source, int32_t& needPair, Waiting& waiting) {
+  const RoundingScope mode(std::is_integral_v<T> || !kRoundsByInstruction ? Rounding::kNearest : Rounding::kCallers);
+  if (needPair == 0) {
+    loop<double>(deviate, destination(dst), 1, Source<double>{&waiting.factor}, Source<double>{&waiting.spare});
+    needPair = 1;
+    ++dst;
+    --n;
+  }
+  Accepted pairs;
+  while (n > 0) {
+    const size_t count = std::min(2 * tryPairs(source, std::min(kPairs, (n + 1) / 2), pairs), n);
+    if (count == 0) continue;
+    loop<double>(deviate, destination(dst), count, Source<double>{pairs.factor}, Source<double>{pairs.value});
+    if (count % 2 != 0) {
+      needPair = 0;
+      waiting = {pairs.factor[count], pairs.value[count]};
+    }
+    dst += count;
+    n -= count;
+  }
+}
+
+template <class State, class T> void build(State& state, T mean, T stdDev, uint32_t seed, bool ownsBlock) {
+  state.magic = State::kId;
+  state.seed = seed;
+  state.mean = mean;
+  state.stdDev = stdDev;
+  state.source = Generator::of(seed);
+  state.needPair = 1;
+  state.ownsBlock = ownsBlock;
+  state.waiting = {};
+}
+template <class State, class T> QvxStatus initAlloc(State** ppState, T mean, T stdDev, uint32_t seed) {
+  if (isNull(ppState)) return qvxStatNullPtr;
+  return allocateRecord(ppState, sizeof(State), [=](State** made, void* block) {
+    *made = static_cast<State*>(block);
+    build(**made, mean, stdDev, seed, true);
+    return qvxStatOk;
+  });
+}
+template <class State> QvxStatus release(State* state) {
+  return releaseRecord(state, checkRecord(state, State::kId), InCallersBlock::kUntouched);
+}
+
+template <class State, class T> QvxStatus run(T* dst, int len, State* state) {
+  if (isNull(dst) || isNull(state)) return qvxStatNullPtr;
+  if (len < 1) return qvxStatBadSize;
+  if (state->magic != State::kId) return qvxStatContextMismatch;
+  const Deviate<T, Order::kFactorFirst> deviate{state->mean, static_cast<double>(state->stdDev)};
+  fill(dst, elements(len), deviate, state->source, state->needPair, state->waiting);
+  return qvxStatOk;
+}
+template <class T> QvxStatus direct(T* dst, int len, T mean, T stdDev, Qvx32u* seed) {
+  const QvxStatus status = check(len, dst, seed);
+  if (status != qvxStatOk) return status;
+  Generator source = Generator::of(*seed);
+  int32_t needPair = 1;
+  Waiting dropped;
+  fill(dst, elements(len), Deviate<T, Order::kFactorLast>{mean, static_cast<double>(stdDev)}, source, needPair, dropped);
+  *seed = source.lag1;
+  return qvxStatOk;
+}
+
+}  // namespace
+
+QvxStatus qvxsRandGaussGetSize_16s(int* size) { return isNull(size) ? qvxStatNullPtr : reportBytes(kBytes, size); }
+QvxStatus qvxsRandGaussInit_16s(QvxsRandGaussState_16s* s, Qvx16s mean, Qvx16s stdDev, Qvx32u seed) {
+  if (isNull(s)) return qvxStatNullPtr;
+  build(*s, mean, stdDev, seed, false);
+  return qvxStatOk;
+}
+
+// clang-format off
+QvxStatus qvxsRandGaussInitAlloc_8u (QvxsRandGaussState_8u**  s, Qvx8u  mean, Qvx8u  stdDev, Qvx32u seed) { return initAlloc(s, mean, stdDev, seed); }
+QvxStatus qvxsRandGaussInitAlloc_16s(QvxsRandGaussState_16s** s, Qvx16s mean, Qvx16s stdDev, Qvx32u seed) { return initAlloc(s, mean, stdDev, seed); }
+QvxStatus qvxsRandGaussInitAlloc_32f(QvxsRandGaussState_32f** s, Qvx32f mean, Qvx32f stdDev, Qvx32u seed) { return initAlloc(s, mean, stdDev, seed); }
+QvxStatus qvxsRandGaussFree_8u (QvxsRandGaussState_8u*  s) { return release(s); }
+QvxStatus qvxsRandGaussFree_16s(QvxsRandGaussState_16s* s) { return release(s); }
+QvxStatus qvxsRandGaussFree_32f(QvxsRandGaussState_32f* s) { return release(s); }
+QvxStatus qvxsRandGauss_8u (Qvx8u*  d, int len, QvxsRandGaussState_8u*  s) { return run(d, len, s); }
+QvxStatus qvxsRandGauss_16s(Qvx16s* d, int len, QvxsRandGaussState_16s* s) { return run(d, len, s); }
+QvxStatus qvxsRandGauss_32f(Qvx32f* d, int len, QvxsRandGaussState_32f* s) { return run(d, len, s); }
+QvxStatus qvxsRandGauss_Direct_16s(Qvx16s* d, int len, Qvx16s mean, Qvx16s stdDev, Qvx32u* seed) { return direct(d, len, mean, stdDev, seed); }
+QvxStatus qvxsRandGauss_Direct_32f(Qvx32f* d, int len, Qvx32f mean, Qvx32f stdDev, Qvx32u* seed) { return direct(d, len, mean, stdDev, seed); }
+QvxStatus qvxsRandGauss_Direct_64f(Qvx64f* d, int len, Qvx64f mean, Qvx64f stdDev, Qvx32u* seed) { return direct(d, len, mean, stdDev, seed); }
+// clang-format on

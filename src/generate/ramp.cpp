@@ -1,0 +1,119 @@
+// Ramps, and chirps that begin at 0 and end at half the sampling rate.
+#include "frame/map.h"
+#include "frame/rounding.h"
+#include "math/sin_cos.h"
+
+using namespace qvx;
+
+namespace {
+
+// Doubles to elements: halves away from zero, saturated; what is not a number becomes the largest integer.
+template <class T, class V> auto toElements(V v) {
+  using Limits = std::numeric_limits<T>;
+  if constexpr (std::is_floating_point_v<T>) {
+    return convertLanes<T>(v);
+  } else {
+    const V away = v + hn::CopySignToAbs(same<V>(0.5), v);
+    const V limited = hn::Max(hn::Min(away, same<V>(static_cast<double>(Limits::max()))), same<V>(static_cast<double>(Limits::min())));
+    if constexpr (std::is_same_v<T, Qvx32u>) {
+      // Through signed integers: an exact difference once the fraction is gone.
+      const auto whole = toIntTruncated(hn::Trunc(limited) - same<V>(0x1p31));
+      return as<uint32_t>(whole ^ hn::Set(TagOf<decltype(whole)>(), INT32_MIN));
+    } else {
+      return convertLanes<T>(toIntTruncated(limited));
+    }
+  }
+}
+
+// As many numbers of elements as a register has doubles, or half of them.
+struct Numbers {
+  using Lane = uint8_t;
+  size_t first = 0;
+
+  template <size_t N> auto get(size_t at) const {
+    const Lanes<double, N> d;
+    return hn::Iota(d, 0) + hn::Set(d, static_cast<double>(first + at));
+  }
+  template <size_t N> auto get(size_t at, size_t) const { return get<N>(at); }
+};
+
+template <class T, class Real> QvxStatus ramp(T* dst, int len, Real offset, Real slope) {
+  const QvxStatus status = check(len, dst);
+  if (status != qvxStatOk) return status;
+  const double from = offset;
+  const double by = slope;
+  const RoundingScope mode(std::is_integral_v<T> ? Rounding::kNearest : Rounding::kCallers);
+  return loop<double>([=](auto n) { return toElements<T>(n * same<decltype(n)>(by) + same<decltype(n)>(from)); },
+                      destination(dst), elements(len), Numbers());
+}
+
+// magn * sin(pi/2 n^2 / len). n^2 less its whole turns of 4 len is exact as long as n^2 is.
+struct Chirp {
+  double magn;
+  double period;
+
+  Chirp(double magn, int len) : magn(magn), period(4.0 * len) {}
+  template <class V> V operator()(V n) const {
+    const V square = n * n;
+    const V turns = hn::Round(square * same<V>(1 / period));
+    const V rest = square - turns * same<V>(period);
+    return same<V>(magn) * sinCosOfTurns(rest * same<V>(1 / period)).sine;
+  }
+};
+
+template <class T> QvxStatus chirp(T* dst, int len, T magn) {
+  const QvxStatus status = check(len, dst);
+  if (status != qvxStatOk) return status;
+  if (std::is_signed_v<T> && !(magn >= 0)) return qvxStatBadJaehneMagn;
+  const RoundingScope mode(std::is_integral_v<T> || !kRoundsByInstruction ? Rounding::kNearest : Rounding::kCallers);
+  if constexpr (std::is_signed_v<T>) {
+    const Chirp wave(static_cast<double>(magn), len);
+    return loop<double>([wave](auto n) { return toElements<T>(wave(n)); }, destination(dst), elements(len), Numbers());
+  } else {
+    const Chirp wave(magn * 0.5, len);
+    constexpr size_t N = kVectorBytes / sizeof(double);
+    const Lanes<double, N> d;
+    const auto wholes = [&](auto n) {
+      using V = decltype(n);
+      const V v = wave(n);
+      return hn::Trunc(v + hn::CopySignToAbs(same<V>(0.5), v));
+    };
+    auto least = hn::Zero(d);  // the first element
+    for (size_t at = 0; at < elements(len); at += N) {
+      const auto n = hn::Min(Numbers().get<N>(at), hn::Set(d, len - 1.0));
+      least = hn::Min(least, wholes(n));
+    }
+    const double lowest = hn::GetLane(hn::MinOfLanes(d, least));
+    return loop<double>([&](auto n) { return toElements<T>(wholes(n) - same<decltype(n)>(lowest)); }, destination(dst),
+                        elements(len), Numbers());
+  }
+}
+
+}  // namespace
+
+// clang-format off
+QvxStatus qvxsVectorRamp_8u(Qvx8u* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorRamp_8s(Qvx8s* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorRamp_16u(Qvx16u* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorRamp_16s(Qvx16s* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorRamp_32u(Qvx32u* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorRamp_32s(Qvx32s* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorRamp_32f(Qvx32f* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorRamp_64f(Qvx64f* d, int len, Qvx64f offset, Qvx64f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorSlope_8u(Qvx8u* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorSlope_8s(Qvx8s* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorSlope_16u(Qvx16u* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorSlope_16s(Qvx16s* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorSlope_32u(Qvx32u* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorSlope_32s(Qvx32s* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorSlope_32f(Qvx32f* d, int len, Qvx32f offset, Qvx32f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorSlope_64f(Qvx64f* d, int len, Qvx64f offset, Qvx64f slope) { return ramp(d, len, offset, slope); }
+QvxStatus qvxsVectorJaehne_8u(Qvx8u* d, int len, Qvx8u magn) { return chirp(d, len, magn); }
+QvxStatus qvxsVectorJaehne_8s(Qvx8s* d, int len, Qvx8s magn) { return chirp(d, len, magn); }
+QvxStatus qvxsVectorJaehne_16u(Qvx16u* d, int len, Qvx16u magn) { return chirp(d, len, magn); }
+QvxStatus qvxsVectorJaehne_16s(Qvx16s* d, int len, Qvx16s magn) { return chirp(d, len, magn); }
+QvxStatus qvxsVectorJaehne_32u(Qvx32u* d, int len, Qvx32u magn) { return chirp(d, len, magn); }
+QvxStatus qvxsVectorJaehne_32s(Qvx32s* d, int len, Qvx32s magn) { return chirp(d, len, magn); }
+QvxStatus qvxsVectorJaehne_32f(Qvx32f* d, int len, Qvx32f magn) { return chirp(d, len, magn); }
+QvxStatus qvxsVectorJaehne_64f(Qvx64f* d, int len, Qvx64f magn) { return chirp(d, len, magn); }
+// clang-format on

@@ -1,0 +1,130 @@
+// Sampled cosines.
+#include "frame/record.h"
+#include "generate/wave.h"
+#include "math/spaced_sin_cos.h"
+
+using namespace qvx;
+using namespace qvx::generate;
+
+struct QvxsToneState : RecordHead {
+  double magn;
+  uint64_t step;
+  uint64_t phase;
+};
+
+namespace {
+
+constexpr uint32_t kId = 0x434D4148;
+constexpr int kBytes = 48;
+static_assert(sizeof(QvxsToneState) <= kBytes);
+
+// Integers are made in floats as well.
+template <class T> using Real = std::conditional_t<std::is_same_v<Part<T>, Qvx64f>, Qvx64f, Qvx32f>;
+
+template <class T> void fill(T* dst, size_t n, double magn, double rFreq, double turns) {
+  using Angles = SpacedAngles<Real<T>>;
+  if (n <= Angles::kFew) {
+    Angles::few(turns, rFreq, magn, n, [=](size_t at, auto sine, auto cosine) { putSamples(dst, at, n, cosine, sine); });
+    return;
+  }
+  const Angles angles(rFreq, magn);
+  double blockStep = rFreq * Angles::kBlock;  // exact, and so is its fraction
+  blockStep -= static_cast<double>(static_cast<int64_t>(blockStep));
+  for (size_t from = 0; from < n; from += Angles::kBlock) {
+    const size_t count = std::min(Angles::kBlock, n - from);
+    T* const to = dst + from;
+    angles.each(turns, count, [=](size_t at, auto sine, auto cosine) { putSamples(to, at, count, cosine, sine); });
+    turns += blockStep;
+    turns -= static_cast<double>(static_cast<int64_t>(turns));
+  }
+}
+
+template <class T, class Magn, class Phase> QvxStatus direct(T* dst, int len, Magn magn, Phase rFreq, Phase* phase) {
+  if (isNull(phase)) return qvxStatNullPtr;
+  if (!(magn > 0)) return qvxStatBadToneMagn;
+  if (!(rFreq >= 0 && rFreq < Phase(0.5))) return qvxStatBadToneFreq;
+  const Phase start = *phase;
+  if (!(start >= 0 && start < static_cast<Phase>(kTwoPi))) return qvxStatBadTonePhase;
+  if (isNull(dst)) return qvxStatNullPtr;
+  if (len < 1) return qvxStatBadSize;
+  *phase = phaseAfter(start, rFreq, len);
+  const RoundingScope mode(kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest);
+  fill(dst, elements(len), static_cast<double>(magn), static_cast<double>(rFreq), static_cast<double>(start) * kTurn);
+  return qvxStatOk;
+}
+
+// ---- Q15: each sample by itself, so that a cut makes no difference
+
+void fillQ15(Qvx16s* dst, size_t n, QvxsToneState& tone) {
+  constexpr size_t N = kVectorBytes / sizeof(double);
+  const Lanes<double, N> d;
+  const RoundingScope nearest(Rounding::kNearest);
+  alignas(64) double turns[N];
+  for (size_t at = 0; at < n; at += N) {
+    for (size_t k = 0; k < N; ++k) turns[k] = static_cast<double>(static_cast<int64_t>(tone.phase + (at + k) * tone.step)) * 0x1p-64;
+    const auto v = hn::Set(d, tone.magn) * sinCosOfTurns(load(d, turns)).cosine;
+    putSamples(dst, at, n, v, v);
+  }
+  tone.phase += n * tone.step;
+}
+
+QvxStatus checkQ15(int magn, int rFreqQ15, int phaseQ15) {
+  if (magn < 1) return qvxStatBadToneMagn;
+  if (rFreqQ15 < 0 || rFreqQ15 > 16383) return qvxStatBadToneFreq;
+  return phaseQ15 < 0 || phaseQ15 > 205886 ? qvxStatBadTonePhase : qvxStatOk;
+}
+void build(QvxsToneState& tone, int magn, int rFreqQ15, int phaseQ15) {
+  tone.magic = kId;
+  tone.ownsBlock = false;
+  tone.magn = magn;
+  tone.step = static_cast<uint64_t>(rFreqQ15) << 49;
+  tone.phase = shortTurns(phaseQ15 * 0x1p-15 * kTurn);
+}
+QvxStatus init(QvxsToneState* state, int magn, int rFreqQ15, int phaseQ15) {
+  const QvxStatus status = checkQ15(magn, rFreqQ15, phaseQ15);
+  if (status == qvxStatOk) build(*state, magn, rFreqQ15, phaseQ15);
+  return status;
+}
+
+}  // namespace
+
+// clang-format off
+QvxStatus qvxsTone_Direct_64f (Qvx64f*  d, int len, Qvx64f magn, Qvx64f rFreq, Qvx64f* phase, int) { return direct(d, len, magn, rFreq, phase); }
+QvxStatus qvxsTone_Direct_32f (Qvx32f*  d, int len, Qvx32f magn, Qvx32f rFreq, Qvx32f* phase, int) { return direct(d, len, magn, rFreq, phase); }
+QvxStatus qvxsTone_Direct_16s (Qvx16s*  d, int len, Qvx16s magn, Qvx32f rFreq, Qvx32f* phase, int) { return direct(d, len, magn, rFreq, phase); }
+QvxStatus qvxsTone_Direct_64fc(Qvx64fc* d, int len, Qvx64f magn, Qvx64f rFreq, Qvx64f* phase, int) { return direct(d, len, magn, rFreq, phase); }
+QvxStatus qvxsTone_Direct_32fc(Qvx32fc* d, int len, Qvx32f magn, Qvx32f rFreq, Qvx32f* phase, int) { return direct(d, len, magn, rFreq, phase); }
+QvxStatus qvxsTone_Direct_16sc(Qvx16sc* d, int len, Qvx16s magn, Qvx32f rFreq, Qvx32f* phase, int) { return direct(d, len, magn, rFreq, phase); }
+// clang-format on
+
+QvxStatus qvxsToneGetStateSizeQ15_16s(int* size) { return isNull(size) ? qvxStatNullPtr : reportBytes(kBytes, size); }
+QvxStatus qvxsToneInitQ15_16s(QvxsToneState* state, Qvx16s magn, Qvx16s rFreqQ15, Qvx32s phaseQ15) {
+  return isNull(state) ? qvxStatNullPtr : init(state, magn, rFreqQ15, phaseQ15);
+}
+QvxStatus qvxsToneInitAllocQ15_16s(QvxsToneState** ppState, Qvx16s magn, Qvx16s rFreqQ15, Qvx32s phaseQ15) {
+  if (isNull(ppState)) return qvxStatNullPtr;
+  const QvxStatus status = checkQ15(magn, rFreqQ15, phaseQ15);
+  if (status != qvxStatOk) return status;
+  return allocateRecord(ppState, kBytes, [=](QvxsToneState** made, void* block) {
+    *made = static_cast<QvxsToneState*>(block);
+    build(**made, magn, rFreqQ15, phaseQ15);
+    return qvxStatOk;
+  });
+}
+QvxStatus qvxsToneQ15_16s(Qvx16s* dst, int len, QvxsToneState* state) {
+  if (isNull(dst) || isNull(state)) return qvxStatNullPtr;
+  if (len < 1) return qvxStatBadSize;
+  if (state->magic != kId) return qvxStatContextMismatch;
+  fillQ15(dst, elements(len), *state);
+  return qvxStatOk;
+}
+QvxStatus qvxsToneQ15_Direct_16s(Qvx16s* dst, int len, Qvx16s magn, Qvx16s rFreqQ15, Qvx32s phaseQ15) {
+  QvxsToneState tone;
+  QvxStatus status = check(len, dst);
+  if (status == qvxStatOk) status = init(&tone, magn, rFreqQ15, phaseQ15);
+  if (status == qvxStatOk) fillQ15(dst, elements(len), tone);
+  return status;
+}
+QvxStatus qvxsToneFree(QvxsToneState* state) {
+  return releaseRecord(state, checkRecord(state, kId), InCallersBlock::kUntouched);
+}

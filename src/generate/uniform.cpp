@@ -1,0 +1,125 @@
+// Uniform noise.
+#include "frame/record.h"
+#include "frame/rounding.h"
+#include "generate/random.h"
+
+using namespace qvx;
+using namespace qvx::generate;
+
+namespace qvx::generate {
+
+// The owner stands where the identity's word and the seed leave room for none: at the end, in what the size told has left.
+template <class T, uint32_t kNumber> struct Uniform {
+  using Sample = T;
+  static constexpr uint32_t kId = kNumber;
+
+  uint32_t magic;
+  uint32_t seed;
+  T low;
+  T high;
+  double mid;
+  double scale;
+  Generator source;
+  bool ownsBlock;
+};
+
+}  // namespace qvx::generate
+
+struct QvxsRandUniformState_8u : Uniform<Qvx8u, 35> {};
+struct QvxsRandUniformState_16s : Uniform<Qvx16s, 36> {};
+struct QvxsRandUniformState_32f : Uniform<Qvx32f, 37> {};
+
+namespace {
+
+constexpr int kBytes = 56;
+static_assert(sizeof(QvxsRandUniformState_16s) <= kBytes);
+
+struct Mapping {
+  double scale;
+  double mid;
+
+  static Mapping between(double low, double high) { return {(high - low) * 2.3283064365387e-10, (low + high) * 0.5}; }
+};
+
+// The chain of the generator is as long as all else takes: in pieces that the processor looks over, the two overlap.
+template <class T> void fill(T* dst, size_t n, Mapping map, Generator& source) {
+  constexpr size_t kPiece = 48;
+  const RoundingScope mode(std::is_integral_v<T> ? Rounding::kNearest : Rounding::kCallers);
+  Generator state = source;
+  alignas(64) int32_t r[kPiece + kVectorBytes / sizeof(int32_t)];
+  for (size_t at = 0; at < n; at += kPiece) {
+    const size_t count = std::min(kPiece, n - at);
+    advance(state, count, r);
+    loop<double>(
+        [map](auto v) {
+          const auto wide = convertLanes<double>(v);
+          using W = std::remove_const_t<decltype(wide)>;
+          return rounded<T>(wide * same<W>(map.scale) + same<W>(map.mid));
+        },
+        destination(dst + at), count, Source<int32_t>{r});
+  }
+  source = state;
+}
+
+template <class State, class T> void build(State& state, T low, T high, uint32_t seed, bool ownsBlock) {
+  const Mapping map = Mapping::between(low, high);
+  state.magic = State::kId;
+  state.seed = seed;
+  state.low = low;
+  state.high = high;
+  state.mid = map.mid;
+  state.scale = map.scale;
+  state.source = Generator::of(seed);
+  state.ownsBlock = ownsBlock;
+}
+template <class State, class T> QvxStatus initAlloc(State** ppState, T low, T high, uint32_t seed) {
+  if (isNull(ppState)) return qvxStatNullPtr;
+  return allocateRecord(ppState, sizeof(State), [=](State** made, void* block) {
+    *made = static_cast<State*>(block);
+    build(**made, low, high, seed, true);
+    return qvxStatOk;
+  });
+}
+template <class State> QvxStatus release(State* state) {
+  return releaseRecord(state, checkRecord(state, State::kId), InCallersBlock::kUntouched);
+}
+
+template <class State, class T> QvxStatus run(T* dst, int len, State* state) {
+  if (isNull(dst) || isNull(state)) return qvxStatNullPtr;
+  if (len < 1) return qvxStatBadSize;
+  if (state->magic != State::kId) return qvxStatContextMismatch;
+  fill(dst, elements(len), {state->scale, state->mid}, state->source);
+  return qvxStatOk;
+}
+template <class T> QvxStatus direct(T* dst, int len, T low, T high, Qvx32u* seed) {
+  const QvxStatus status = check(len, dst, seed);
+  if (status != qvxStatOk) return status;
+  Generator source = Generator::of(*seed);
+  fill(dst, elements(len), Mapping::between(low, high), source);
+  *seed = source.lag1;
+  return qvxStatOk;
+}
+
+}  // namespace
+
+QvxStatus qvxsRandUniformGetSize_16s(int* size) { return isNull(size) ? qvxStatNullPtr : reportBytes(kBytes, size); }
+QvxStatus qvxsRandUniformInit_16s(QvxsRandUniformState_16s* s, Qvx16s low, Qvx16s high, Qvx32u seed) {
+  if (isNull(s)) return qvxStatNullPtr;
+  build(*s, low, high, seed, false);
+  return qvxStatOk;
+}
+
+// clang-format off
+QvxStatus qvxsRandUniformInitAlloc_8u (QvxsRandUniformState_8u**  s, Qvx8u  low, Qvx8u  high, Qvx32u seed) { return initAlloc(s, low, high, seed); }
+QvxStatus qvxsRandUniformInitAlloc_16s(QvxsRandUniformState_16s** s, Qvx16s low, Qvx16s high, Qvx32u seed) { return initAlloc(s, low, high, seed); }
+QvxStatus qvxsRandUniformInitAlloc_32f(QvxsRandUniformState_32f** s, Qvx32f low, Qvx32f high, Qvx32u seed) { return initAlloc(s, low, high, seed); }
+QvxStatus qvxsRandUniformFree_8u (QvxsRandUniformState_8u*  s) { return release(s); }
+QvxStatus qvxsRandUniformFree_16s(QvxsRandUniformState_16s* s) { return release(s); }
+QvxStatus qvxsRandUniformFree_32f(QvxsRandUniformState_32f* s) { return release(s); }
+QvxStatus qvxsRandUniform_8u (Qvx8u*  d, int len, QvxsRandUniformState_8u*  s) { return run(d, len, s); }
+QvxStatus qvxsRandUniform_16s(Qvx16s* d, int len, QvxsRandUniformState_16s* s) { return run(d, len, s); }
+QvxStatus qvxsRandUniform_32f(Qvx32f* d, int len, QvxsRandUniformState_32f* s) { return run(d, len, s); }
+QvxStatus qvxsRandUniform_Direct_16s(Qvx16s* d, int len, Qvx16s low, Qvx16s high, Qvx32u* seed) { return direct(d, len, low, high, seed); }
+QvxStatus qvxsRandUniform_Direct_32f(Qvx32f* d, int len, Qvx32f low, Qvx32f high, Qvx32u* seed) { return direct(d, len, low, high, seed); }
+QvxStatus qvxsRandUniform_Direct_64f(Qvx64f* d, int len, Qvx64f low, Qvx64f high, Qvx32u* seed) { return direct(d, len, low, high, seed); }
+// clang-format on

@@ -1,0 +1,51 @@
+// The Bartlett window.
+#include "window/weigh.h"
+
+using namespace qvx;
+using namespace qvx::window;
+
+namespace {
+
+// 2n / (N-1): a vector's first weight, and what the others have more.
+template <class W> struct Rising {
+  double step;
+
+  void operator()(size_t from, size_t count, W* w) const {
+    const Lanes<W, kVectorBytes / sizeof(W)> d;
+    const auto lanes = hn::Iota(d, 0) * hn::Set(d, static_cast<W>(step));
+    for (size_t at = 0; at < count; at += kVectorBytes / sizeof(W)) {
+      store(lanes + hn::Set(d, static_cast<W>(static_cast<double>(from + at) * step)), d, w + at);
+    }
+  }
+};
+
+template <class T> QvxStatus bartlett(const T* src, T* dst, int len) {
+  if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
+  if (len < 3) return qvxStatBadSize;
+  if (len == 3) {  // zeros whatever the ends are
+    const T middle = src[1];
+    dst[0] = dst[2] = T{};
+    dst[1] = middle;
+    return qvxStatOk;
+  }
+  const RoundingScope mode(std::is_integral_v<Part<T>> ? Rounding::kNearest : Rounding::kCallers);
+  weigh(src, dst, elements(len), 1, Rising<Weight<T>>{2.0 / (len - 1)});
+  return qvxStatOk;
+}
+
+}  // namespace
+
+// clang-format off
+QvxStatus qvxsWinBartlett_16s(const Qvx16s* a, Qvx16s* d, int len) { return bartlett(a, d, len); }
+QvxStatus qvxsWinBartlett_16s_I(Qvx16s* d, int len) { return bartlett(d, d, len); }
+QvxStatus qvxsWinBartlett_16sc(const Qvx16sc* a, Qvx16sc* d, int len) { return bartlett(a, d, len); }
+QvxStatus qvxsWinBartlett_16sc_I(Qvx16sc* d, int len) { return bartlett(d, d, len); }
+QvxStatus qvxsWinBartlett_32f(const Qvx32f* a, Qvx32f* d, int len) { return bartlett(a, d, len); }
+QvxStatus qvxsWinBartlett_32f_I(Qvx32f* d, int len) { return bartlett(d, d, len); }
+QvxStatus qvxsWinBartlett_32fc(const Qvx32fc* a, Qvx32fc* d, int len) { return bartlett(a, d, len); }
+QvxStatus qvxsWinBartlett_32fc_I(Qvx32fc* d, int len) { return bartlett(d, d, len); }
+QvxStatus qvxsWinBartlett_64f(const Qvx64f* a, Qvx64f* d, int len) { return bartlett(a, d, len); }
+QvxStatus qvxsWinBartlett_64f_I(Qvx64f* d, int len) { return bartlett(d, d, len); }
+QvxStatus qvxsWinBartlett_64fc(const Qvx64fc* a, Qvx64fc* d, int len) { return bartlett(a, d, len); }
+QvxStatus qvxsWinBartlett_64fc_I(Qvx64fc* d, int len) { return bartlett(d, d, len); }
+// clang-format on
