@@ -1,5 +1,6 @@
 #include "peers/ofast.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace ofast {
@@ -33,5 +34,64 @@ void ln(const double* a, double* d, int n) {
 }
 void sumLn(const float* a, int n, float* sum) { *sum = sumOfLogarithms(a, n); }
 void sumLn(const double* a, int n, double* sum) { *sum = sumOfLogarithms(a, n); }
+
+void demodulateFm(const Qvx16s* __restrict re, const Qvx16s* __restrict im, Qvx16s* __restrict d, int n, int p, int q) {
+  const auto units = [](int re, int im, int p, int q) {
+    const auto y = static_cast<float>(p * im - q * re);
+    const auto x = static_cast<float>(p * re + q * im);
+    return static_cast<Qvx16s>(std::min(std::atan2(y, x) * 10430.378F, 32767.0F));
+  };
+  d[0] = units(re[0], im[0], p, q);
+  for (int i = 1; i < n; ++i) d[i] = units(re[i], im[i], re[i - 1], im[i - 1]);
+}
+
+template <int kType, class T> void zeroCrossing(const T* a, int n, float* count) {
+  int all = 0;
+  const auto side = [](T x) { return (x > 0) - (x < 0); };
+  for (int i = 1; i < n; ++i) {
+    if (kType == 0) all += side(a[i]) * side(a[i - 1]) < 0;
+    if (kType == 1) all += (a[i] < 0) != (a[i - 1] < 0);
+    if (kType == 2) all += std::abs(side(a[i]) - side(a[i - 1]));
+  }
+  *count = kType == 2 ? static_cast<float>(all / 2.0) : static_cast<float>(all);
+}
+template void zeroCrossing<0>(const Qvx16s*, int, float*);
+template void zeroCrossing<1>(const Qvx16s*, int, float*);
+template void zeroCrossing<2>(const Qvx16s*, int, float*);
+template void zeroCrossing<0>(const float*, int, float*);
+template void zeroCrossing<1>(const float*, int, float*);
+template void zeroCrossing<2>(const float*, int, float*);
+
+void cauchy(float* x, int n, float c) {
+  for (int i = 0; i < n; ++i) x[i] = 0.5F * std::log(1 + (x[i] / c) * (x[i] / c));
+}
+void cauchyD(float* x, int n, float c) {
+  for (int i = 0; i < n; ++i) x[i] = x[i] / (c * c + x[i] * x[i]);
+}
+void cauchyDD2(float* __restrict x, float* __restrict second, int n, float c) {
+  for (int i = 0; i < n; ++i) {
+    const float v = x[i];
+    const float r = 1 / (c * c + v * v);
+    x[i] = v * r;
+    second[i] = r * r * (c * c - v * v);
+  }
+}
+
+void normalize(const float* __restrict a, float* __restrict d, int n, float vSub, float vDiv) {
+  for (int i = 0; i < n; ++i) d[i] = (a[i] - vSub) / vDiv;
+}
+void normalize(const double* __restrict a, double* __restrict d, int n, double vSub, double vDiv) {
+  for (int i = 0; i < n; ++i) d[i] = (a[i] - vSub) / vDiv;
+}
+void normalize(const Qvx32fc* __restrict a, Qvx32fc* __restrict d, int n, Qvx32fc vSub, float vDiv) {
+  for (int i = 0; i < n; ++i) d[i] = {(a[i].re - vSub.re) / vDiv, (a[i].im - vSub.im) / vDiv};
+}
+void normalize(const Qvx16s* __restrict a, Qvx16s* __restrict d, int n, Qvx16s vSub, int vDiv, int scaleFactor) {
+  const float factor = std::ldexp(1.0F, -scaleFactor) / static_cast<float>(vDiv);
+  for (int i = 0; i < n; ++i) {
+    const float y = std::rint(static_cast<float>(a[i] - vSub) * factor);
+    d[i] = static_cast<Qvx16s>(std::max(-32768.0F, std::min(y, 32767.0F)));
+  }
+}
 
 }  // namespace ofast

@@ -2,6 +2,8 @@
 // 4 ULP, and handles no special values.
 #pragma once
 
+#include <qvx/qvxs.h>
+
 namespace ofast {
 
 void exp(const float* a, float* d, int n);
@@ -10,5 +12,15 @@ void ln(const float* a, float* d, int n);
 void ln(const double* a, double* d, int n);
 void sumLn(const float* a, int n, float* sum);
 void sumLn(const double* a, int n, double* sum);
+
+void demodulateFm(const Qvx16s* re, const Qvx16s* im, Qvx16s* d, int n, int p, int q);
+template <int kType, class T> void zeroCrossing(const T* a, int n, float* count);
+void cauchy(float* x, int n, float c);
+void cauchyD(float* x, int n, float c);
+void cauchyDD2(float* x, float* second, int n, float c);
+void normalize(const float* a, float* d, int n, float vSub, float vDiv);
+void normalize(const double* a, double* d, int n, double vSub, double vDiv);
+void normalize(const Qvx32fc* a, Qvx32fc* d, int n, Qvx32fc vSub, float vDiv);
+void normalize(const Qvx16s* a, Qvx16s* d, int n, Qvx16s vSub, int vDiv, int scaleFactor);
 
 }  // namespace ofast

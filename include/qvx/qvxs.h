@@ -20,5 +20,7 @@
 #include <qvx/qvxs_generate.h>
 #include <qvx/qvxs_window.h>
 #include <qvx/qvxs_sort.h>
+#include <qvx/qvxs_decode.h>
+#include <qvx/qvxs_helpers.h>
 
 #endif

@@ -233,6 +233,9 @@ inline void partOf(__m256 v, __m256& part) { part = v; }
 inline __m128d nearReciprocalRoot(__m128d v) { return _mm_rsqrt14_pd(v); }
 inline __m256d nearReciprocalRoot(__m256d v) { return _mm256_rsqrt14_pd(v); }
 inline __m512d nearReciprocalRoot(__m512d v) { return _mm512_rsqrt14_pd(v); }
+inline __m128d nearReciprocal(__m128d v) { return _mm_rcp14_pd(v); }
+inline __m256d nearReciprocal(__m256d v) { return _mm256_rcp14_pd(v); }
+inline __m512d nearReciprocal(__m512d v) { return _mm512_rcp14_pd(v); }
 inline __m512 scaled(__m512 v, __m512 exponent) { return _mm512_scalef_ps(v, exponent); }
 inline __m512d scaled(__m512d v, __m512d exponent) { return _mm512_scalef_pd(v, exponent); }
 inline __m512 exponent(__m512 v) { return _mm512_getexp_ps(v); }
@@ -671,6 +674,8 @@ template <class V> V mulAddNearest(V a, V b, V c) {
 
 // 1 / sqrt(v) of doubles, off by 2^-14 of it at most; processors differ in the bits after.
 template <class V> V nearReciprocalRoot(V v) { return V{detail::nearReciprocalRoot(v.raw)}; }
+// 1 / v likewise.
+template <class V> V nearReciprocal(V v) { return V{detail::nearReciprocal(v.raw)}; }
 
 // v * 2^floor(exponent), rounded once, for any exponent.
 template <class V> V scaledBy(V v, V exponent) {

@@ -274,6 +274,9 @@ inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, 
       for (int64_t i = 0; i < shape(count); ++i, at += static_cast<int>(choices.between(1, 9))) shape_[order] = *position++ = at;
     }
   }
+  if (how == "subsets") {  // any four points, and any two columns of four, have labels of their own
+    for (size_t i = 0; i < bytes; ++i) p[i] = static_cast<uint8_t>((p[i] & 0xF8) | (2 * (i / 4) + (i & 1)));
+  }
   if (how == "stable") fillTaps(p, parameter, choices);
 }
 

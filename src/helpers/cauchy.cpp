@@ -1,0 +1,106 @@
+// The Cauchy function of robust estimation and its derivatives.
+//
+// In doubles, which hold every square of a float and every sum of two such squares without overflow or underflow: the sums are
+// then right to 2^-52, and one rounding to a float remains.
+#include "frame/complex.h"
+#include "math/ln.h"
+
+using namespace qvx;
+
+namespace {
+
+QvxStatus checked(const Qvx32f* p, const Qvx32f* other, int len, Qvx32f c) {
+  const QvxStatus status = check(len, p, other);
+  if (status != qvxStatOk) return status;
+  return c > 0 ? qvxStatOk : qvxStatBadParam;
+}
+
+// 1 / s to 2^-27 or better, for s from 2^-298 to 2^257: an estimate of 14 bits and a step of Newton's where there is one.
+template <class V> V reciprocal(V s) {
+#if QVXS_AVX512
+  const V near = nearReciprocal(s);
+  return hn::MulAdd(near, hn::NegMulAdd(near, s, same<V>(1)), near);
+#else
+  return same<V>(1) / s;
+#endif
+}
+
+// ln(1 + u) / 2. What the rounding of 1 + u takes is all there is of a small u; it is added to the logarithm, whose slope is near
+// 1 then, and means nothing beyond 1.
+struct HalfLogarithm {
+  double inverse;
+
+  template <class V> auto operator()(V x) const {
+    const auto wide = convertLanes<double>(x);
+    using W = std::remove_const_t<decltype(wide)>;
+    const W t = wide * same<W>(inverse);
+    const W u = t * t;
+    const W one = same<W>(1);
+    const W w = one + u;
+    const W rest = hn::IfThenElseZero(u < same<W>(0x1p20), (u - (w - one)) * (same<W>(2) - hn::Min(w, same<W>(2))));
+    return convertLanes<float>((ln(w) + rest) * same<W>(0.5));
+  }
+};
+
+struct Derivative {
+  double square;
+
+  template <class V> auto operator()(V x) const {
+    const auto wide = convertLanes<double>(x);
+    using W = std::remove_const_t<decltype(wide)>;
+    return convertLanes<float>(wide * reciprocal(hn::MulAdd(wide, wide, same<W>(square))));
+  }
+};
+
+struct SecondDerivative {
+  double square;
+
+  template <class V> auto operator()(V x) const {
+    const auto wide = convertLanes<double>(x);
+    using W = std::remove_const_t<decltype(wide)>;
+    const W r = reciprocal(hn::MulAdd(wide, wide, same<W>(square)));
+    return Pair<Vec<Lanes<float, kLanesOf<V>>>>{convertLanes<float>(wide * r),
+                                                convertLanes<float>(hn::NegMulAdd(wide, wide, same<W>(square)) * r * r)};
+  }
+};
+
+double squareOf(Qvx32f c) { return double{c} * c; }
+
+// One element after the other, for vectors that overlap.
+template <class Kernel> QvxStatus inTurn(Kernel kernel, Qvx32f* p, Qvx32f* second, size_t n) {
+  const Lanes<float, kVectorBytes / sizeof(double)> d;
+  for (size_t i = 0; i < n; ++i) {
+    const auto both = kernel(loadFirst(d, p + i, 1));
+    p[i] = hn::GetLane(both.lo);
+    second[i] = hn::GetLane(both.hi);
+  }
+  return qvxStatOk;
+}
+
+bool overlap(const Qvx32f* a, const Qvx32f* b, size_t n) {
+  const auto distance = reinterpret_cast<intptr_t>(a) - reinterpret_cast<intptr_t>(b);
+  const auto bytes = static_cast<intptr_t>(n * sizeof(Qvx32f));
+  return distance < bytes && -distance < bytes;
+}
+
+}  // namespace
+
+QvxStatus qvxsCauchy_32f_I(Qvx32f* p, int len, Qvx32f c) {
+  const QvxStatus status = checked(p, p, len, c);
+  if (status != qvxStatOk) return status;
+  return loop<double>(HalfLogarithm{1 / double{c}}, destination(p), elements(len), source(p));
+}
+
+QvxStatus qvxsCauchyD_32f_I(Qvx32f* p, int len, Qvx32f c) {
+  const QvxStatus status = checked(p, p, len, c);
+  if (status != qvxStatOk) return status;
+  return loop<double>(Derivative{squareOf(c)}, destination(p), elements(len), source(p));
+}
+
+QvxStatus qvxsCauchyDD2_32f_I(Qvx32f* p, Qvx32f* second, int len, Qvx32f c) {
+  const QvxStatus status = checked(p, second, len, c);
+  if (status != qvxStatOk) return status;
+  const SecondDerivative kernel = {squareOf(c)};
+  if (overlap(p, second, elements(len))) return inTurn(kernel, p, second, elements(len));
+  return loop<double>(kernel, SplitDestination<Qvx32f>{p, second}, elements(len), source(p));
+}

@@ -1,0 +1,90 @@
+// How often the sign changes. 64 signs are a word of bits, and their neighbours the word shifted by one.
+#include <bit>
+
+#include "frame/check.h"
+#include "frame/map.h"
+
+using namespace qvx;
+
+namespace {
+
+constexpr size_t kWord = 64;
+
+// On which side of zero 64 elements lie.
+struct Sides {
+  uint64_t below = 0;
+  uint64_t above = 0;
+};
+
+// A bit in each for every element, in the order of the elements.
+template <class V> Sides sidesOf(V v) {
+  const TagOf<V> d;
+  const V zero = hn::Zero(d);
+  return {maskBits(d, v < zero), maskBits(d, v > zero)};
+}
+// By sign bits, but for zeros.
+template <class V> Sides signsOf(V v) {
+  const TagOf<V> d;
+  const auto isNegative = hn::MaskFromVec(
+      hn::BitCast(d, hn::BroadcastSignBit(hn::BitCast(hn::RebindToSigned<TagOf<V>>(), hn::IfThenZeroElse(v == hn::Zero(d), v)))));
+  return {maskBits(d, isNegative), 0};
+}
+
+template <bool kSigns, class T> Sides sidesOfWord(const T* p, size_t n) {
+  constexpr size_t N = kVectorBytes / sizeof(T);
+  const Lanes<T, N> d;
+  Sides all;
+  for (size_t k = 0; k < kWord / N && k * N < n; ++k) {
+    const auto v = n - k * N >= N ? load(d, p + k * N) : loadFirst(d, p + k * N, n - k * N);
+    const Sides s = kSigns ? signsOf(v) : sidesOf(v);
+    all.below |= s.below << k * N;
+    all.above |= s.above << k * N;
+  }
+  return all;
+}
+
+// changes(now, before) counts over pairs of neighbours, none of them with what stands before the vector or past its end.
+template <bool kSigns, class T, class Changes> int64_t countChanges(const T* p, size_t n, Changes changes) {
+  int64_t count = 0;
+  Sides last;  // the bit of the last element, as the lowest
+  for (size_t at = 0; at < n; at += kWord) {
+    const Sides now = sidesOfWord<kSigns>(p + at, std::min(kWord, n - at));
+    const Sides before = {now.below << 1 | last.below, now.above << 1 | last.above};
+    uint64_t pairs = n - at < kWord ? (uint64_t{1} << (n - at)) - 1 : ~uint64_t{0};
+    if (at == 0) pairs &= ~uint64_t{1};
+    count += changes(now, before, pairs);
+    last = {now.below >> (kWord - 1), now.above >> (kWord - 1)};
+  }
+  return count;
+}
+
+template <class T> QvxStatus zeroCrossing(const T* src, int len, Qvx32f* result, int type) {
+  const QvxStatus status = check(len, src, result);
+  if (status != qvxStatOk) return status;
+  const size_t n = elements(len);
+  if (type == 0) {
+    *result = static_cast<Qvx32f>(countChanges<false>(src, n, [](Sides now, Sides before, uint64_t pairs) {
+      return std::popcount(((now.below & before.above) | (now.above & before.below)) & pairs);
+    }));
+  } else if (type == 1) {
+    *result = static_cast<Qvx32f>(countChanges<true>(
+        src, n, [](Sides now, Sides before, uint64_t pairs) { return std::popcount((now.below ^ before.below) & pairs); }));
+  } else if (type == 2) {  // from one side to the other both words change
+    const int64_t twice = countChanges<false>(src, n, [](Sides now, Sides before, uint64_t pairs) {
+      return std::popcount((now.below ^ before.below) & pairs) + std::popcount((now.above ^ before.above) & pairs);
+    });
+    *result = static_cast<Qvx32f>(static_cast<Qvx64f>(twice) / 2);
+  } else {
+    return qvxStatBadRange;
+  }
+  return qvxStatOk;
+}
+
+}  // namespace
+
+QvxStatus qvxsZeroCrossing_16s32f(const Qvx16s* src, int len, Qvx32f* count, int type) {
+  return zeroCrossing(src, len, count, type);
+}
+QvxStatus qvxsZeroCrossing_32f(const Qvx32f* src, int len, Qvx32f* count, int type) {
+  return zeroCrossing(src, len, count, type);
+}

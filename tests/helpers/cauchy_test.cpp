@@ -1,0 +1,90 @@
+// The Cauchy function and its derivatives within 2 ULP of their true values.
+#include <gtest/gtest.h>
+#include <qvx/qvxs.h>
+
+#include <cmath>
+#include <cstring>
+
+#include "support/elementwise.h"
+#include "support/ulp.h"
+
+namespace {
+
+using tests::Random;
+using tests::ulpError;
+
+long double cauchy(long double x, long double c) { return std::log1p(x / c * (x / c)) / 2; }
+long double first(long double x, long double c) { return x / (c * c + x * x); }
+long double second(long double x, long double c) { return (c - x) * (c + x) / ((c * c + x * x) * (c * c + x * x)); }
+
+// All magnitudes of a float, and those around C, where the second derivative passes zero.
+std::vector<Qvx32f> arguments(Qvx32f c, Random& random) {
+  std::vector<Qvx32f> x = {0.0F, -0.0F, c, -c, std::nextafter(c, 0.0F), std::nextafter(c, INFINITY), 3.4e38F, -3.4e38F, 1e-45F};
+  for (int i = 0; i < 4000; ++i) {
+    const auto any = std::bit_cast<Qvx32f>(static_cast<uint32_t>(random()));
+    if (std::isfinite(any)) x.push_back(any);
+    const double near =
+        std::ldexp(static_cast<double>(random() >> 11), -52) * c * std::ldexp(1, static_cast<int>(random() % 40) - 20);
+    if (near < 3e38) x.push_back(static_cast<Qvx32f>(near));
+  }
+  return x;
+}
+
+TEST(Cauchy, IsWithinTwoUlp) {
+  Random random(tests::seed());
+  double worst[4] = {};
+  for (const Qvx32f c : {1.0F, 0.37F, 2.3849F, 1e-3F, 1e19F, 1e20F, 3.4e38F, 1e-19F, 1e-23F, 1e-38F, 1e-45F}) {
+    const auto x = arguments(c, random);
+    const auto n = static_cast<int>(x.size());
+    std::vector<Qvx32f> y = x, d = x, e = x, dd(x.size());
+    ASSERT_EQ(qvxsCauchy_32f_I(y.data(), n, c), qvxStatOk);
+    ASSERT_EQ(qvxsCauchyD_32f_I(d.data(), n, c), qvxStatOk);
+    ASSERT_EQ(qvxsCauchyDD2_32f_I(e.data(), dd.data(), n, c), qvxStatOk);
+    for (size_t i = 0; i < x.size(); ++i) {
+      const double errors[] = {ulpError(y[i], cauchy(x[i], c)), ulpError(d[i], first(x[i], c)), ulpError(e[i], first(x[i], c)),
+                               ulpError(dd[i], second(x[i], c))};
+      for (int k = 0; k < 4; ++k) {
+        ASSERT_LE(errors[k], 2) << "function " << k << " at " << x[i] << ", C " << c;
+        worst[k] = std::max(worst[k], errors[k]);
+      }
+    }
+  }
+  std::printf("worst: Cauchy %.2f, D %.2f, DD2 %.2f and %.2f ULP\n", worst[0], worst[1], worst[2], worst[3]);
+}
+
+TEST(Cauchy, TakesWhatIsNotFinite) {
+  Qvx32f x[] = {INFINITY, -INFINITY, NAN}, d[] = {INFINITY, -INFINITY, NAN};
+  ASSERT_EQ(qvxsCauchy_32f_I(x, 3, 2), qvxStatOk);
+  EXPECT_TRUE(x[0] == INFINITY && x[1] == INFINITY && std::isnan(x[2]));
+  Qvx32f kept = 5;
+  for (const Qvx32f c : {0.0F, -1.0F, NAN}) {
+    EXPECT_EQ(qvxsCauchy_32f_I(&kept, 1, c), qvxStatBadParam);
+    EXPECT_EQ(qvxsCauchyD_32f_I(&kept, 1, c), qvxStatBadParam);
+    EXPECT_EQ(qvxsCauchyDD2_32f_I(&kept, d, 1, c), qvxStatBadParam);
+  }
+  EXPECT_EQ(kept, 5);
+}
+
+// At every distance of the two vectors: one element after the other, read, written, and its second value written.
+TEST(Cauchy, DerivativesInOverlappingVectors) {
+  Random random(tests::seed());
+  constexpr int kMost = 200;
+  const auto data = tests::values<Qvx32f>(4 * kMost + 8, random);
+  for (const int n : {1, 2, 15, 16, 17, 40, kMost}) {
+    for (int distance = -n - 1; distance <= n + 1; ++distance) {
+      std::vector<Qvx32f> expected = data, found = data;
+      for (int i = 0; i < n; ++i) {
+        const Qvx32f x = expected[static_cast<size_t>(2 * kMost + i)];
+        Qvx32f y = x, z;
+        ASSERT_EQ(qvxsCauchyDD2_32f_I(&y, &z, 1, 1.5F), qvxStatOk);
+        expected[static_cast<size_t>(2 * kMost + i)] = y;
+        expected[static_cast<size_t>(2 * kMost + distance + i)] = z;
+      }
+      const auto at = [&](int i) { return found.data() + 2 * kMost + i; };
+      ASSERT_EQ(qvxsCauchyDD2_32f_I(at(0), at(distance), n, 1.5F), qvxStatOk);
+      ASSERT_TRUE(tests::sameBits(found.data(), expected.data(), found.size())) << n << " elements, distance " << distance;
+    }
+  }
+}
+
+}  // namespace
