@@ -17,6 +17,8 @@
 #include <qvx/qvxs_fft_integer.h>
 #include <qvx/qvxs_fir.h>
 #include <qvx/qvxs_iir.h>
+#include <qvx/qvxs_wavelet.h>
+#include <qvx/qvxs_goertzel.h>
 #include <qvx/qvxs_decode.h>
 #include <qvx/qvxs_helpers.h>
 
