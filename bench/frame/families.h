@@ -38,6 +38,8 @@ void integerFft(Suite& suite);
 void spectrum(Suite& suite);
 void fir(Suite& suite);
 void iir(Suite& suite);
+void haar(Suite& suite);
+void goertzel(Suite& suite);
 void decode(Suite& suite);
 void helpers(Suite& suite);
 
@@ -82,6 +84,8 @@ inline constexpr Family kFamilies[] = {
     {"spectrum", spectrum},
     {"fir", fir},
     {"iir", iir},
+    {"haar", haar},
+    {"goertzel", goertzel},
     {"decode", decode},
     {"helpers", helpers},
 };

@@ -19,6 +19,8 @@
 #include <qvx/qvxs_iir.h>
 #include <qvx/qvxs_generate.h>
 #include <qvx/qvxs_window.h>
+#include <qvx/qvxs_wavelet.h>
+#include <qvx/qvxs_goertzel.h>
 #include <qvx/qvxs_sort.h>
 #include <qvx/qvxs_decode.h>
 #include <qvx/qvxs_helpers.h>

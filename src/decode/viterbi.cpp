@@ -55,6 +55,22 @@ Sum subset(const Qvx32u* e, const Qvx32u* f, int trellis, int i, int inversion) 
   return least<4>({joined(e + c, f + d), joined(e + ((c + 4) & 7), f + 4 + d), pair[0], pair[1]});
 }
 
+// The least or the greatest of a vector.
+template <class Op> struct Extreme : Reduction {
+  static constexpr bool kRepeats = true;
+
+  template <class V> V start(V v) const { return v; }
+  template <class V> V add(V all, V v) const { return Op()(all, v); }
+  template <class V> static V join(V a, V b) { return Op()(a, b); }
+  template <class V> LaneOf<V> total(V all) const { return hn::GetLane(folded<1>(all, Op())); }
+};
+struct Least {
+  template <class V> V operator()(V a, V b) const { return hn::Min(a, b); }
+};
+struct Greatest {
+  template <class V> V operator()(V a, V b) const { return hn::Max(a, b); }
+};
+
 // ---- add, compare, select
 
 struct Step {
@@ -93,7 +109,7 @@ template <size_t kBranches> void selectLeast(const Step& s) {
     costs[j & 1][2 * (j / 2)] = static_cast<Qvx16u>(j / 2 + 1);
     costs[j & 1][2 * (j / 2) + 1] = s.points[2 * j + 1];
   }
-  const Qvx8u last = *std::max_element(s.nextState, s.nextState + s.states * kBranches);
+  const Qvx8u last = reduce(Extreme<Greatest>(), s.states * kBranches, source(s.nextState));
   Qvx32u best[256];
   for (size_t n = 0; n <= last; ++n) best[n] = static_cast<Qvx32u>(s.branchError[n]) << 16;
   for (size_t i = 0; i < s.states; ++i) {
@@ -123,19 +139,6 @@ template <size_t kBranches> QvxStatus select(const Step& s) {
   else selectLeast<kBranches>(s);
   return qvxStatOk;
 }
-
-// ---- the end of a step
-
-struct LeastError : Reduction {
-  static constexpr bool kRepeats = true;
-
-  template <class V> V start(V v) const { return v; }
-  template <class V> V add(V all, V v) const { return hn::Min(all, v); }
-  template <class V> static V join(V a, V b) { return hn::Min(a, b); }
-  template <class V> Qvx16u total(V all) const {
-    return hn::GetLane(folded<1>(all, [](auto a, auto b) { return hn::Min(a, b); }));
-  }
-};
 
 }  // namespace
 
@@ -189,7 +192,7 @@ QvxStatus qvxsUpdatePathMetricsDV_16u(Qvx16u* pBranchError, Qvx16u* pMinPathErro
                                       int states) {
   if (isNull(pBranchError) || isNull(pMinPathError) || isNull(pMinState) || isNull(pPathError)) return qvxStatNullPtr;
   const size_t n = elements(trellis(states));
-  const Qvx16u minimum = reduce(LeastError(), n, source(pBranchError));
+  const Qvx16u minimum = reduce(Extreme<Least>(), n, source(pBranchError));
   const auto isLeast = [=](auto v) { return v == same<decltype(v)>(minimum); };
   *pMinState = static_cast<Qvx8u>(firstWhere(isLeast, n, source(pBranchError)));
   *pMinPathError = minimum;

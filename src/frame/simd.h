@@ -608,7 +608,15 @@ template <class T> __m512i lanesOfBoth(__m512i a, const T* order, __m512i b) {
 template <class V> Pair<V> interleaved(Pair<V> v) {
   const TagOf<V> d;
 #if QVXS_AVX512
-  if constexpr (sizeof(v.lo.raw) == 64) {
+  if constexpr (sizeof(v.lo.raw) == 64 && sizeof(LaneOf<V>) == 1) {  // no shuffle takes single bytes: as words of two
+    const hn::Half<TagOf<V>> half;
+    const hn::Rebind<uint16_t, decltype(half)> words;
+    const auto both = [&](auto lo, auto hi) {
+      return as<LaneOf<V>>(hn::PromoteTo(words, as<uint8_t>(lo)) | hn::ShiftLeft<8>(hn::PromoteTo(words, as<uint8_t>(hi))));
+    };
+    return {both(hn::LowerHalf(half, v.lo), hn::LowerHalf(half, v.hi)),
+            both(hn::UpperHalf(half, v.lo), hn::UpperHalf(half, v.hi))};
+  } else if constexpr (sizeof(v.lo.raw) == 64) {
     using T = hwy::UnsignedFromSize<sizeof(LaneOf<V>)>;
     const auto lo = as<uint8_t>(v.lo);
     const auto hi = as<uint8_t>(v.hi);

@@ -3,6 +3,7 @@
 // In doubles, which hold every square of a float and every sum of two such squares without overflow or underflow: the sums are
 // then right to 2^-52, and one rounding to a float remains.
 #include "frame/complex.h"
+#include "frame/redo.h"
 #include "math/ln.h"
 
 using namespace qvx;
@@ -52,6 +53,32 @@ struct Derivative {
   }
 };
 
+// The first derivative in floats, twice as fast: for C within 2^30 of 1 on either side, and |x| below 2^60, or one by one. The
+// sum is off by 1 ULP at most, the quotient by 0.6 more.
+struct NearDerivative {
+  static constexpr float kMost = 0x1p60F;
+  float square;
+
+  static bool suits(Qvx32f c) { return c >= 0x1p-30F && c <= 0x1p30F; }
+
+  template <class V> V operator()(V x) const {
+    V y;
+    if constexpr (kFuses) {
+      const V s = hn::MulAdd(x, x, same<V>(square));
+      const V near = hn::ApproximateReciprocal(s);
+      const V r = hn::MulAdd(near, hn::NegMulAdd(near, s, same<V>(1)), near);
+      const V quotient = x * r;
+      y = hn::MulAdd(hn::NegMulAdd(quotient, s, x), r, quotient);
+    } else {
+      y = x / (x * x + same<V>(square));
+    }
+    const uint64_t far = maskBits(TagOf<V>(), hn::Not(hn::Abs(x) < same<V>(kMost)));
+    if (HWY_LIKELY(far == 0)) return y;
+    return redone(
+        far, y, [c2 = double{square}](float v) { return static_cast<float>(v / (c2 + double{v} * v)); }, x);
+  }
+};
+
 struct SecondDerivative {
   double square;
 
@@ -94,6 +121,7 @@ QvxStatus qvxsCauchy_32f_I(Qvx32f* p, int len, Qvx32f c) {
 QvxStatus qvxsCauchyD_32f_I(Qvx32f* p, int len, Qvx32f c) {
   const QvxStatus status = checked(p, p, len, c);
   if (status != qvxStatOk) return status;
+  if (NearDerivative::suits(c)) return loop(NearDerivative{c * c}, destination(p), elements(len), source(p));
   return loop<double>(Derivative{squareOf(c)}, destination(p), elements(len), source(p));
 }
 

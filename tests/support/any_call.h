@@ -277,6 +277,9 @@ inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, 
   if (how == "subsets") {  // any four points, and any two columns of four, have labels of their own
     for (size_t i = 0; i < bytes; ++i) p[i] = static_cast<uint8_t>((p[i] & 0xF8) | (2 * (i / 4) + (i & 1)));
   }
+  if (how == "frequencies") {  // relative, or in units of 2^-15
+    for (size_t i = 0; i < bytes; i += part) type.put(p + i, std::fabs(std::fmod(type.get(p + i), type.isFloat ? 1 : 32768)));
+  }
   if (how == "stable") fillTaps(p, parameter, choices);
 }
 

@@ -1,0 +1,45 @@
+// dtmf: the digits of a recording of telephone keys, and such recordings.
+#include <CLI/CLI.hpp>
+#include <cstdio>
+
+#include "../support/program.h"
+#include "keypad.h"
+
+namespace {
+
+void printTable(const std::vector<Press>& presses) {
+  std::printf("%3s %8s %8s", "key", "start s", "long ms");
+  for (const float tone : kTones) std::printf(" %5.0f", tone);
+  std::printf(" Hz, dB\n");
+  std::string digits;
+  for (const Press& press : presses) {
+    std::printf("%3c %8.3f %8.0f", press.key, press.start, 1000 * press.length);
+    for (const double level : press.levelsDb) std::printf(" %5.1f", level);
+    std::printf("\n");
+    digits += press.key;
+  }
+  std::printf("digits %s\n", digits.c_str());
+}
+
+int run(int argc, char** argv) {
+  CLI::App app("Decodes the keys of a recording by their tones, and makes such recordings.");
+  app.require_subcommand(1);
+  std::string input, keys, output;
+  int sampleRate = 8000;
+  double noise = -40;
+  CLI::App* hear = app.add_subcommand("listen", "Prints the keys of a recording and the levels of all tones");
+  hear->add_option("recording", input, "The recording; its first channel")->required()->check(CLI::ExistingFile);
+  CLI::App* make = app.add_subcommand("dial", "Writes a recording");
+  make->add_option("keys", keys, "Of 0 to 9, A to D, * and #")->required();
+  make->add_option("-o,--output", output, "The 16-bit WAV file to write")->required();
+  make->add_option("--rate", sampleRate, "Sample rate")->check(CLI::Range(4000, 192000))->capture_default_str();
+  make->add_option("--noise", noise, "Level of white noise, dB below a sine of full scale")->capture_default_str();
+  CLI11_PARSE(app, argc, argv);
+  if (make->parsed()) dial(keys, sampleRate, noise, output);
+  else printTable(listen(input));
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) { return runProgram("dtmf", run, argc, argv); }
