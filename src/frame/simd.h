@@ -870,19 +870,60 @@ template <size_t kBytes> __m256i partedBy(__m256i v, uint64_t mask) {
 }
 #endif
 #if HWY_TARGET == HWY_AVX3
-template <size_t kBytes> __m512i partedBy(__m512i v, uint64_t mask) {
-  static_assert(kBytes == 8);
-  const auto* order = kPartedOrder<uint8_t, 8, 1>.of[mask];
-  return _mm512_permutexvar_epi64(_mm512_cvtepu8_epi64(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(order))), v);
+// Lanes of 32 and 64 bits by an instruction; in registers, because one make takes 100 times as long to store what it gathers.
+template <class V> inline constexpr bool kGathersLanes = sizeof(LaneOf<V>) >= 4;
+template <class V> auto gathered(V v, uint64_t mask) {
+  const auto lanes = as<uint8_t>(v).raw;
+  if constexpr (sizeof(LaneOf<V>) == 4) return _mm512_maskz_compress_epi32(static_cast<__mmask16>(mask), lanes);
+  else return _mm512_maskz_compress_epi64(static_cast<__mmask8>(mask), lanes);
 }
 #endif
 
 }  // namespace detail
 
-// The lanes whose bits are set, then the others, each in their order. By a table: an instruction that gathers them leaves the others
-// out, and on one make takes 100 times as long to store what it gathered.
-template <class V> V parted(V v, uint64_t mask) { return V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, mask)}; }
-// The most lanes that a table of a few KiB parts.
+// Lanes parted by a mask: those whose bits are set go on at `low`, which becomes their end, the others end at `high`, which becomes
+// their start. There is room for a whole vector at either.
+template <class V> void part(V v, uint64_t mask, LaneOf<V>*& low, LaneOf<V>*& high) {
+  const TagOf<V> d;
+  constexpr size_t N = kLanesOf<V>;
+  const auto count = static_cast<size_t>(__builtin_popcountll(mask));
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (detail::kGathersLanes<V>) {
+    hn::StoreU(V{detail::gathered(v, mask)}, d, low);
+    low += count;
+    high -= N - count;
+    hn::BlendedStore(V{detail::gathered(v, ~mask)}, hn::FirstN(d, N - count), d, high);
+  } else
+#endif
+  {
+    const V both{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, mask)};
+    hn::StoreU(both, d, low);
+    hn::StoreU(both, d, high - N);
+    low += count;
+    high -= N - count;
+  }
+}
+// The same with the others going on at `high` too. Returns how many bits are set.
+template <class V> size_t separate(V v, uint64_t mask, LaneOf<V>* low, LaneOf<V>* high) {
+  const TagOf<V> d;
+#if HWY_TARGET == HWY_AVX3
+  if constexpr (detail::kGathersLanes<V>) {
+    hn::StoreU(V{detail::gathered(v, mask)}, d, low);
+    hn::StoreU(V{detail::gathered(v, ~mask)}, d, high);
+  } else
+#endif
+  {
+    constexpr uint64_t kAll = (uint64_t{1} << kLanesOf<V>) - 1;
+    hn::StoreU(V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, mask)}, d, low);
+    hn::StoreU(V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, mask ^ kAll)}, d, high);
+  }
+  return static_cast<size_t>(__builtin_popcountll(mask));
+}
+// The lanes of vectors that are parted: what the instruction takes, or what a table of a few KiB serves.
+#if HWY_TARGET == HWY_AVX3
+template <class T> inline constexpr size_t kPartedLanes = kVectorBytes / sizeof(T) / (sizeof(T) == 2 ? 4 : 1);
+#else
 template <class T> inline constexpr size_t kPartedLanes = std::min(kVectorBytes / sizeof(T), size_t{8});
+#endif
 
 }  // namespace qvx

@@ -36,6 +36,12 @@ template <class K> struct KeyMap {
   template <class V> V folded(V x) const { return x ^ (hn::BroadcastSignBit(x) & same<V>(fold)); }
 };
 
+// What is a key already.
+template <class K> struct AsKeys {
+  K key(K x) const { return x; }
+  template <class V> V keys(V x) const { return x; }
+};
+
 template <class T> KeyMap<Key<T>> keyMap(Order order) {
   using K = Key<T>;
   using Limits = std::numeric_limits<K>;
