@@ -18,9 +18,9 @@ class Meter {
   // `frames` that belong to one stretch.
   int room() const { return frames_ - filled_; }
   void add(const Qvx32f* samples, int frames) {
-    Qvx64f norm = 0;
-    check(qvxsNorm_L2_32f64f(samples, frames * channels_, &norm));
-    squares_ += norm * norm;
+    Qvx64f squares = 0;
+    check(qvxsDotProd_32f64f(samples, samples, frames * channels_, &squares));
+    squares_ += squares;
     filled_ += frames;
     if (filled_ == frames_) finish();
   }
