@@ -10,10 +10,12 @@
 
 namespace plain {
 
-// Radix sort from the least significant digit on, all histograms in one pass: digits of 8 bits up to 16-bit elements, of 11 bits beyond.
+// Radix sort from the least significant digit on, all histograms in one pass: digits of 8 bits up to 16-bit elements, of 11 bits
+// beyond.
 template <class T> void radixSort(T* x, size_t n) {
-  using Word = std::conditional_t<sizeof(T) == 1, uint8_t,
-                                  std::conditional_t<sizeof(T) == 2, uint16_t, std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>>>;
+  using Word =
+      std::conditional_t<sizeof(T) == 1, uint8_t,
+                         std::conditional_t<sizeof(T) == 2, uint16_t, std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>>>;
   constexpr int kBits = 8 * sizeof(T), kDigit = kBits <= 16 ? 8 : 11, kPasses = (kBits + kDigit - 1) / kDigit;
   constexpr Word kSign = Word{1} << (kBits - 1), kAll = static_cast<Word>(~Word{0});
   const auto digit = [](Word key, int pass) { return key >> (pass * kDigit) & ((1U << kDigit) - 1); };

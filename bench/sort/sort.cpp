@@ -1,5 +1,5 @@
-// Sorts of vectors in several orders. A call sorts what has just been copied: the copy is part of every contender's time, and successive
-// calls get different elements, or the processor would learn the comparisons by heart.
+// Sorts of vectors in several orders. A call sorts what has just been copied: the copy is part of every contender's time, and
+// successive calls get different elements, or the processor would learn the comparisons by heart.
 #include <hwy/contrib/sort/vqsort.h>
 #include <hwy/targets.h>
 
@@ -15,8 +15,11 @@ namespace bench {
 namespace {
 
 enum class Pattern { kRandom, kSorted, kReversed, kFew, kSaw };
-constexpr std::pair<Pattern, const char*> kPatterns[] = {
-    {Pattern::kRandom, ""}, {Pattern::kSorted, ", sorted"}, {Pattern::kReversed, ", reversed"}, {Pattern::kFew, ", 4 values"}, {Pattern::kSaw, ", saw"}};
+constexpr std::pair<Pattern, const char*> kPatterns[] = {{Pattern::kRandom, ""},
+                                                         {Pattern::kSorted, ", sorted"},
+                                                         {Pattern::kReversed, ", reversed"},
+                                                         {Pattern::kFew, ", 4 values"},
+                                                         {Pattern::kSaw, ", saw"}};
 
 // Room for many short vectors.
 template <class T> size_t vectorsOf(const Vectors& v) {
@@ -66,7 +69,9 @@ template <class T> Case sortCase(std::string name, Pattern pattern) {
   if (sizeof(T) <= 4 && pattern == Pattern::kRandom) c.sizes.push_back(10000000);
   c.fillSources = [pattern](const Vectors& v) { fillIn<T>(pattern, v); };
   c.fillDestination = [](const Vectors&) {};
-  c.saveDestination = [](const Vectors& v) { std::memcpy(v.slabs.saved(), v.slabs.destination(), static_cast<size_t>(v.n) * sizeof(T)); };
+  c.saveDestination = [](const Vectors& v) {
+    std::memcpy(v.slabs.saved(), v.slabs.destination(), static_cast<size_t>(v.n) * sizeof(T));
+  };
   c.agrees = [](const Vectors& v, Agreement agreement) {
     return agree<T>(v.slabs.saved(), v.slabs.destination(), static_cast<size_t>(v.n) * sizeof(T), agreement, v.n);
   };

@@ -11,7 +11,8 @@ namespace {
 
 void printPercentiles(const std::vector<float>& sorted) {
   std::printf("%8s %9s\n", "percent", "dBFS");
-  for (const double percent : {0.0, 10.0, 25.0, 50.0, 75.0, 90.0, 95.0, 100.0}) std::printf("%8g %9.2f\n", percent, percentile(sorted, percent));
+  for (const double percent : {0.0, 10.0, 25.0, 50.0, 75.0, 90.0, 95.0, 100.0})
+    std::printf("%8g %9.2f\n", percent, percentile(sorted, percent));
 }
 
 // One line for every `width` dB; the longest has 40 marks.
@@ -28,7 +29,8 @@ void printHistogram(const std::vector<float>& sorted, double width) {
   std::printf("\n%8s %9s\n", "dBFS", "blocks");
   for (size_t i = counts.size(); i-- > 0;) {
     const double from = (classOf(sorted.front()) + static_cast<int>(i)) * width;
-    std::printf("%8g %9td %s\n", from, counts[i], std::string(static_cast<size_t>((40 * counts[i] + most - 1) / most), '#').c_str());
+    std::printf("%8g %9td %s\n", from, counts[i],
+                std::string(static_cast<size_t>((40 * counts[i] + most - 1) / most), '#').c_str());
   }
 }
 
@@ -39,7 +41,9 @@ int run(int argc, char** argv) {
   size_t count = 3;
   app.add_option("file", input, "The audio file")->required()->check(CLI::ExistingFile);
   app.add_option("-b,--block", milliseconds, "Length of a block in ms")->check(CLI::Range(1.0, 10000.0))->capture_default_str();
-  app.add_option("-w,--width", width, "Width of the histogram's classes in dB")->check(CLI::Range(0.5, 60.0))->capture_default_str();
+  app.add_option("-w,--width", width, "Width of the histogram's classes in dB")
+      ->check(CLI::Range(0.5, 60.0))
+      ->capture_default_str();
   app.add_option("-c,--count", count, "Seconds to print at either end")->check(CLI::Range(1, 1000))->capture_default_str();
   CLI11_PARSE(app, argc, argv);
 

@@ -1,5 +1,5 @@
-// Sorting is done on signed integers in ascending order. A map brings every element type and direction to them and back: floats by
-// their bits, so that -0.0 comes before 0.0 and a NaN has its place, outside the infinity of its sign.
+// Sorting is done on signed integers in ascending order. A map brings every element type and direction to them and back: floats
+// by their bits, so that -0.0 comes before 0.0 and a NaN has its place, outside the infinity of its sign.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-// Quicksort of keys and numbers, which lie apart: partitions look at the keys alone and move both, a network sorts both as the two
-// halves of 64-bit keys.
+// Quicksort of keys and numbers, which lie apart: partitions look at the keys alone and move both, a network sorts both as the
+// two halves of 64-bit keys.
 #include "sort/pairs.h"
 
 #include "sort/quicksort.h"
@@ -37,7 +37,7 @@ size_t separate(Pairs src, size_t n, int32_t pivot, Pairs low, Pairs high) {
   size_t i = 0;
   for (; i + N <= n; i += N) {
     const Pair<V> v = src[i];
-    const uint64_t isLow = maskBits(D(), v.lo < same<V>(pivot));
+    const auto isLow = v.lo < same<V>(pivot);
     qvx::separate(v.hi, isLow, low.numbers + below, high.numbers + i - below);
     below += qvx::separate(v.lo, isLow, low.keys + below, high.keys + i - below);
   }
@@ -72,7 +72,7 @@ size_t partitionPairs(Pairs x, size_t n, int32_t pivot, Pairs buffer) {
     Pair<V> v[kStep / N];
     unrolled<kStep / N>([&](auto i) __attribute__((always_inline)) { v[i] = x[at + i * N]; });
     unrolled<kStep / N>([&](auto i) __attribute__((always_inline)) {
-      const uint64_t isLow = maskBits(D(), v[i].lo < same<V>(pivot));
+      const auto isLow = v[i].lo < same<V>(pivot);
       part(v[i].hi, isLow, low.numbers, high.numbers);
       part(v[i].lo, isLow, low.keys, high.keys);
     });
@@ -94,7 +94,8 @@ size_t partitionPairs(Pairs x, size_t n, int32_t pivot, Pairs buffer) {
     store(turned.lo, D(), halves + 2 * i);
     store(turned.hi, D(), halves + 2 * i + N);
   }
-  for (; i < n; ++i) both[i] = static_cast<int64_t>(uint64_t{static_cast<uint32_t>(x.keys[i])} << 32 | static_cast<uint32_t>(x.numbers[i]));
+  for (; i < n; ++i)
+    both[i] = static_cast<int64_t>(uint64_t{static_cast<uint32_t>(x.keys[i])} << 32 | static_cast<uint32_t>(x.numbers[i]));
   sortByNetwork(both, n, {}, {});
   for (i = 0; i + N <= n; i += N) {
     const Pair<V> v = deinterleaved(Pair<V>{load(D(), halves + 2 * i), load(D(), halves + 2 * i + N)});

@@ -11,10 +11,12 @@ namespace qvx {
 
 template <class K> inline constexpr size_t kPartLanes = kPartedLanes<K>;
 // Vectors from one side before the side is chosen again: the choice is a branch that nobody foresees.
-inline constexpr size_t kPartVectors = 8;
+template <class K> inline constexpr size_t kPartVectors = kPartLanes<K> > 8 ? 4 : 8;
 // Keys of working memory, and how many of them a partition out of place takes: whole vectors are stored.
 template <class K> inline constexpr size_t kSortBuffer = (sizeof(K) == 2 ? 16384 : 8192) / sizeof(K);
 
+// Keys up to which those above the pivot are copied to the buffer and back.
+template <class K> inline constexpr size_t kApart = std::min(kSortBuffer<K>, size_t{1024});
 // How far ahead keys are fetched.
 template <class K> inline constexpr size_t kAhead = 1024 / sizeof(K);
 
@@ -30,7 +32,7 @@ template <class K, class Map> size_t separate(const K* src, size_t n, K pivot, M
   size_t i = 0;
   for (; i + N <= n; i += N) {
     const V v = in.keys(load(d, src + i));
-    below += qvx::separate(v, maskBits(d, v < pivots), low + below, high + i - below);
+    below += qvx::separate(v, v < pivots, low + below, high + i - below);
   }
   for (; i < n; ++i) {
     const K k = in.key(src[i]);
@@ -43,15 +45,15 @@ template <class K, class Map> size_t separate(const K* src, size_t n, K pivot, M
 
 template <class K, class Map> size_t partition(K* x, size_t n, K pivot, Map in, K* buffer) {
   constexpr size_t N = kPartLanes<K>;
-  constexpr size_t kStep = kPartVectors * N;
+  constexpr size_t kStep = kPartVectors<K> * N;
   static_assert(3 * kStep <= kSortBuffer<K>);
-  if (n <= kSortBuffer<K>) {
+  if (n <= kApart<K>) {
     const size_t below = separate(x, n, pivot, in, x, buffer);
     std::memcpy(x + below, buffer, (n - below) * sizeof(K));
     return below;
   }
-  // A step from either end waits in the buffer. So there is room for two, and one of the ends always has room for the step that is
-  // read from the other.
+  // A step from either end waits in the buffer. So there is room for two, and one of the ends always has room for the step that
+  // is read from the other.
   const Lanes<K, N> d;
   using V = Vec<Lanes<K, N>>;
   const V pivots = same<V>(pivot);
@@ -71,11 +73,9 @@ template <class K, class Map> size_t partition(K* x, size_t n, K pivot, Map in, 
       src = to -= kStep;
       prefetchLines<kStep * sizeof(K)>(src - kAhead<K>);
     }
-    V v[kPartVectors];
-    unrolled<kPartVectors>([&](auto i) __attribute__((always_inline)) { v[i] = in.keys(load(d, src + i * N)); });
-    unrolled<kPartVectors>([&](auto i) __attribute__((always_inline)) {
-      part(v[i], maskBits(d, v[i] < pivots), low, high);
-    });
+    V v[kPartVectors<K>];
+    unrolled<kPartVectors<K>>([&](auto i) __attribute__((always_inline)) { v[i] = in.keys(load(d, src + i * N)); });
+    unrolled<kPartVectors<K>>([&](auto i) __attribute__((always_inline)) { part(v[i], v[i] < pivots, low, high); });
   }
   const auto left = static_cast<size_t>(high - low);
   const size_t below = separate(buffer, left, pivot, in, low, buffer);

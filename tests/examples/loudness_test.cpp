@@ -15,7 +15,8 @@ class LoudnessTest : public ProgramTest {
     constexpr int kRate = 8000;
     std::vector<float> samples;
     for (const double level : levels) {
-      for (int i = 0; i < kRate * channels; ++i) samples.push_back(static_cast<float>((i & 2) != 0 ? std::pow(10, level / 20) : -std::pow(10, level / 20)));
+      for (int i = 0; i < kRate * channels; ++i)
+        samples.push_back(static_cast<float>((i & 2) != 0 ? std::pow(10, level / 20) : -std::pow(10, level / 20)));
     }
     write(name, samples, SF_FORMAT_WAV | SF_FORMAT_FLOAT, channels, kRate);
   }
