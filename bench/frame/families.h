@@ -42,6 +42,7 @@ void haar(Suite& suite);
 void goertzel(Suite& suite);
 void decode(Suite& suite);
 void helpers(Suite& suite);
+void sort(Suite& suite);
 
 // What is measured in one go, a minute or so. Its name is that of the file it leaves in a report.
 struct Family {
@@ -88,6 +89,7 @@ inline constexpr Family kFamilies[] = {
     {"goertzel", goertzel},
     {"decode", decode},
     {"helpers", helpers},
+    {"sort", sort},
 };
 
 }  // namespace bench

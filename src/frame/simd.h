@@ -817,7 +817,9 @@ template <size_t kBy, class V> V exchanged(V v) {
     const auto bytes = as<uint8_t>(blocks);
     const TagOf<std::remove_const_t<decltype(bytes)>> d;
     alignas(16) constexpr auto kOrder = [] {
-      struct { uint8_t at[16]; } order{};
+      struct {
+        uint8_t at[16];
+      } order{};
       for (size_t i = 0; i < 16; ++i) order.at[i] = static_cast<uint8_t>(i ^ (kInner * sizeof(T)));
       return order;
     }();
@@ -875,11 +877,11 @@ template <class Index, size_t kLanes, size_t kUnits> struct PartedOrder {
     }
   }
 };
-template <class Index, size_t kLanes, size_t kUnits>
-alignas(64) inline constexpr PartedOrder<Index, kLanes, kUnits> kPartedOrder;
+template <class Index, size_t kLanes, size_t kUnits> alignas(64) inline constexpr PartedOrder<Index, kLanes, kUnits> kPartedOrder;
 
 template <size_t kBytes> __m128i partedBy(__m128i v, uint64_t mask) {
-  return _mm_shuffle_epi8(v, _mm_load_si128(reinterpret_cast<const __m128i*>(kPartedOrder<uint8_t, 16 / kBytes, kBytes>.of[mask])));
+  return _mm_shuffle_epi8(v,
+                          _mm_load_si128(reinterpret_cast<const __m128i*>(kPartedOrder<uint8_t, 16 / kBytes, kBytes>.of[mask])));
 }
 #if QVXS_AVX2
 template <size_t kBytes> __m256i partedBy(__m256i v, uint64_t mask) {
@@ -888,19 +890,62 @@ template <size_t kBytes> __m256i partedBy(__m256i v, uint64_t mask) {
 }
 #endif
 #if QVXS_AVX512
-template <size_t kBytes> __m512i partedBy(__m512i v, uint64_t mask) {
-  static_assert(kBytes == 8);
-  const auto* order = kPartedOrder<uint8_t, 8, 1>.of[mask];
-  return _mm512_permutexvar_epi64(_mm512_cvtepu8_epi64(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(order))), v);
+// Lanes of 32 and 64 bits by an instruction; in registers, because one make takes 100 times as long to store what it gathers.
+template <class V> inline constexpr bool kGathersLanes = sizeof(LaneOf<V>) >= 4;
+template <class V, class M> auto gathered(V v, M mask) {
+  const auto lanes = as<uint8_t>(v).raw;
+  if constexpr (sizeof(LaneOf<V>) == 4) return _mm512_maskz_compress_epi32(mask.raw, lanes);
+  else return _mm512_maskz_compress_epi64(mask.raw, lanes);
 }
 #endif
 
 }  // namespace detail
 
-// The lanes whose bits are set, then the others, each in their order. By a table: an instruction that gathers them leaves the others
-// out, and on one make takes 100 times as long to store what it gathered.
-template <class V> V parted(V v, uint64_t mask) { return V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, mask)}; }
-// The most lanes that a table of a few KiB parts.
+// Lanes parted by a mask: those in it go on at `low`, which becomes their end, the others end at `high`, which becomes their
+// start. There is room for a whole vector at either.
+template <class V, class M> void part(V v, M mask, LaneOf<V>*& low, LaneOf<V>*& high) {
+  const TagOf<V> d;
+  constexpr size_t N = kLanesOf<V>;
+  const uint64_t bits = maskBits(d, mask);
+  const auto count = static_cast<size_t>(__builtin_popcountll(bits));
+#if QVXS_AVX512
+  if constexpr (detail::kGathersLanes<V>) {
+    hn::StoreU(V{detail::gathered(v, mask)}, d, low);
+    low += count;
+    high -= N - count;
+    hn::BlendedStore(V{detail::gathered(v, hn::Not(mask))}, hn::FirstN(d, N - count), d, high);
+  } else
+#endif
+  {
+    const V both{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits)};
+    hn::StoreU(both, d, low);
+    hn::StoreU(both, d, high - N);
+    low += count;
+    high -= N - count;
+  }
+}
+// The same with the others going on at `high` too. Returns how many lanes are in the mask.
+template <class V, class M> size_t separate(V v, M mask, LaneOf<V>* low, LaneOf<V>* high) {
+  const TagOf<V> d;
+  const uint64_t bits = maskBits(d, mask);
+#if QVXS_AVX512
+  if constexpr (detail::kGathersLanes<V>) {
+    hn::StoreU(V{detail::gathered(v, mask)}, d, low);
+    hn::StoreU(V{detail::gathered(v, hn::Not(mask))}, d, high);
+  } else
+#endif
+  {
+    constexpr uint64_t kAll = (uint64_t{1} << kLanesOf<V>)-1;
+    hn::StoreU(V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits)}, d, low);
+    hn::StoreU(V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits ^ kAll)}, d, high);
+  }
+  return static_cast<size_t>(__builtin_popcountll(bits));
+}
+// The lanes of vectors that are parted: what the instruction takes, or what a table of a few KiB serves.
+#if QVXS_AVX512
+template <class T> inline constexpr size_t kPartedLanes = kVectorBytes / sizeof(T) / (sizeof(T) == 2 ? 4 : 1);
+#else
 template <class T> inline constexpr size_t kPartedLanes = std::min(kVectorBytes / sizeof(T), size_t{8});
+#endif
 
 }  // namespace qvx

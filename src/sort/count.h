@@ -22,7 +22,7 @@ template <class T> T* putRun(T* out, const T* end, T value, size_t count) {
 }
 
 // From so many keys on a vector of 16-bit keys is halved by value, not by a median, until a stretch of values can be counted.
-inline constexpr size_t kCountedFrom = 8192;
+inline constexpr size_t kCountedFrom = 4096;
 inline constexpr size_t kCountedValues = 4096;
 
 template <class K> bool isCounted(size_t n, K least, K most) {
@@ -30,7 +30,8 @@ template <class K> bool isCounted(size_t n, K least, K most) {
 }
 
 // `memory`: kCountedValues numbers of 32 bits.
-inline void sortByCounting(int16_t* x, size_t n, KeyMap<int16_t> in, KeyMap<int16_t> out, int16_t least, int16_t most, void* memory) {
+inline void sortByCounting(int16_t* x, size_t n, KeyMap<int16_t> in, KeyMap<int16_t> out, int16_t least, int16_t most,
+                           void* memory) {
   auto* const counts = static_cast<uint32_t*>(memory);
   const int values = most - least + 1;
   std::fill_n(counts, values, 0U);

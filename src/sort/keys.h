@@ -1,5 +1,5 @@
-// Sorting is done on signed integers in ascending order. A map brings every element type and direction to them and back: floats by
-// their bits, so that -0.0 comes before 0.0 and a NaN has its place, outside the infinity of its sign.
+// Sorting is done on signed integers in ascending order. A map brings every element type and direction to them and back: floats
+// by their bits, so that -0.0 comes before 0.0 and a NaN has its place, outside the infinity of its sign.
 #pragma once
 
 #include <cstdint>
@@ -34,6 +34,12 @@ template <class K> struct KeyMap {
  private:
   K folded(K x) const { return static_cast<K>(x ^ (x < 0 ? fold : 0)); }
   template <class V> V folded(V x) const { return x ^ (hn::BroadcastSignBit(x) & same<V>(fold)); }
+};
+
+// What is a key already.
+template <class K> struct AsKeys {
+  K key(K x) const { return x; }
+  template <class V> V keys(V x) const { return x; }
 };
 
 template <class T> KeyMap<Key<T>> keyMap(Order order) {

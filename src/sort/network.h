@@ -1,8 +1,8 @@
 // Up to 16 vectors of keys sorted in registers.
 //
-// The keys lie in rows, a vector each. A network sorts the columns, all lanes at once; then columns are merged with their neighbours,
-// pairs of them and so on, by bitonic mergers, most of whose steps are between rows and need no exchange of lanes. At the end the
-// columns, one after the other, are the sorted sequence: it is transposed on its way to memory.
+// The keys lie in rows, a vector each. A network sorts the columns, all lanes at once; then columns are merged with their
+// neighbours, pairs of them and so on, by bitonic mergers, most of whose steps are between rows and need no exchange of lanes. At
+// the end the columns, one after the other, are the sorted sequence: it is transposed on its way to memory.
 #pragma once
 
 #include <array>
@@ -16,7 +16,7 @@ namespace qvx {
 template <class K> inline constexpr size_t kRowLanes = std::min(kVectorBytes / sizeof(K), size_t{16});
 inline constexpr size_t kMostRows = 16;
 // The keys that one network sorts.
-template <class K> inline constexpr size_t kNetworkKeys = kMostRows * kRowLanes<K>;
+template <class K> inline constexpr size_t kNetworkKeys = kMostRows* kRowLanes<K>;
 
 namespace detail {
 
@@ -41,39 +41,51 @@ template <size_t kRows> constexpr size_t countComparators() {
   forEachComparator<kRows>([&](Comparator) { ++count; });
   return count;
 }
-template <size_t kRows> inline constexpr auto kComparators = [] {
+template <size_t kRows>
+inline constexpr auto kComparators = [] {
   std::array<Comparator, countComparators<kRows>()> all{};
   size_t at = 0;
   forEachComparator<kRows>([&](Comparator c) { all[at++] = c; });
   return all;
 }();
 
+// The lesser and the greater lanes of two. Of 64 bits by one comparison: minimum and maximum take two instructions each where
+// there are such, and a comparison each where there are none.
+template <class V> struct Ordered { V least, most; };
+template <class V> [[gnu::always_inline]] inline Ordered<V> ordered(V a, V b) {
+  if constexpr (sizeof(LaneOf<V>) == 8) {
+    const auto isAbove = a > b;
+    return {hn::IfThenElse(isAbove, b, a), hn::IfThenElse(isAbove, a, b)};
+  } else {
+    return {hn::Min(a, b), hn::Max(a, b)};
+  }
+}
+
 template <class V> [[gnu::always_inline]] inline void order(V& low, V& high) {
-  const V least = hn::Min(low, high);
-  high = hn::Max(low, high);
-  low = least;
+  const Ordered<V> both = ordered(low, high);
+  low = both.least;
+  high = both.most;
 }
 
 // Lanes at a distance of one bit, ordered.
 template <size_t kBit, class V> [[gnu::always_inline]] inline void orderLanes(V& v) {
-  const V other = exchanged<kBit>(v);
-  v = lanesByBit<kBit>(hn::Min(v, other), hn::Max(v, other));
+  const Ordered<V> both = ordered(v, exchanged<kBit>(v));
+  v = lanesByBit<kBit>(both.least, both.most);
 }
 
 // Merges groups of kColumns / 2 columns, which are sorted, into groups of kColumns.
 template <size_t kColumns, size_t kRows, class V> [[gnu::always_inline]] inline void mergeColumns(V (&v)[kRows]) {
   constexpr size_t kUpper = kColumns / 2;
   if constexpr (kRows == 1) {
-    const V other = exchanged<kColumns - 1>(v[0]);
-    v[0] = lanesByBit<kUpper>(hn::Min(v[0], other), hn::Max(v[0], other));
+    const Ordered<V> both = ordered(v[0], exchanged<kColumns - 1>(v[0]));
+    v[0] = lanesByBit<kUpper>(both.least, both.most);
   }
   unrolled<kRows / 2>([&](auto r) __attribute__((always_inline)) {
     V& row = v[r];
     V& last = v[kRows - 1 - r];
-    const V mirrored = exchanged<kColumns - 1>(last);
-    const V least = hn::Min(row, mirrored), most = hn::Max(row, mirrored);
-    row = lanesByBit<kUpper>(least, most);
-    last = exchanged<kColumns - 1>(lanesByBit<kUpper>(most, least));
+    const Ordered<V> both = ordered(row, exchanged<kColumns - 1>(last));
+    row = lanesByBit<kUpper>(both.least, both.most);
+    last = exchanged<kColumns - 1>(lanesByBit<kUpper>(both.most, both.least));
   });
   const auto across = [&](auto bit) __attribute__((always_inline)) {
     if constexpr (kUpper > bit) unrolled<kRows>([&](auto r) __attribute__((always_inline)) { orderLanes<bit>(v[r]); });
@@ -98,7 +110,7 @@ template <size_t kColumns, size_t kRows, class V> [[gnu::always_inline]] inline 
 
 // Rows of lanes to columns: each round of interleaving the upper half of the rows with the lower turns the index by one bit.
 template <size_t kRows, class V> [[gnu::always_inline]] inline void transpose(V (&v)[kRows]) {
-  const auto round = [&] {
+  const auto round = [&]() __attribute__((always_inline)) {
     V turned[kRows];
     unrolled<kRows / 2>([&](auto i) __attribute__((always_inline)) {
       const Pair<V> pair = interleaved(Pair<V>{v[i], v[i + kRows / 2]});
@@ -137,7 +149,8 @@ template <size_t kRows, class K> [[gnu::noinline]] void sortInRows(K* x, size_t 
   const size_t whole = n / N;
   const size_t rest = n % N;
   V v[kRows];
-  unrolled<kRows>([&](auto r) __attribute__((always_inline)) { v[r] = r < whole ? load(d, x + r * N) : same<V>(in.original(kLast)); });
+  unrolled<kRows>([&](auto r)
+                      __attribute__((always_inline)) { v[r] = r < whole ? load(d, x + r * N) : same<V>(in.original(kLast)); });
   if (rest != 0) {
     const V partial = loadFirstOr(d, x + whole * N, rest, in.original(kLast));
     unrolled<kRows>([&](auto r) __attribute__((always_inline)) { v[r] = r == whole ? partial : v[r]; });

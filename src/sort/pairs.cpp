@@ -1,5 +1,5 @@
-// Quicksort of keys and numbers, which lie apart: partitions look at the keys alone and move both, a network sorts both as the two
-// halves of 64-bit keys.
+// Quicksort of keys and numbers, which lie apart: partitions look at the keys alone and move both, a network sorts both as the
+// two halves of 64-bit keys.
 #include "sort/pairs.h"
 
 #include "sort/quicksort.h"
@@ -31,18 +31,15 @@ struct Pairs {
   }
 };
 
-Pair<V> parted(Pair<V> v, uint64_t mask) { return {qvx::parted(v.lo, mask), qvx::parted(v.hi, mask)}; }
-
 // As of keys alone (partition.h).
 size_t separate(Pairs src, size_t n, int32_t pivot, Pairs low, Pairs high) {
   size_t below = 0;
   size_t i = 0;
   for (; i + N <= n; i += N) {
     const Pair<V> v = src[i];
-    const uint64_t isLow = maskBits(D(), v.lo < same<V>(pivot));
-    low.put(below, parted(v, isLow));
-    high.put(i - below, parted(v, isLow ^ ((uint64_t{1} << N) - 1)));
-    below += static_cast<size_t>(std::popcount(isLow));
+    const auto isLow = v.lo < same<V>(pivot);
+    qvx::separate(v.hi, isLow, low.numbers + below, high.numbers + i - below);
+    below += qvx::separate(v.lo, isLow, low.keys + below, high.keys + i - below);
   }
   for (; i < n; ++i) {
     const int32_t key = src.keys[i], number = src.numbers[i];
@@ -62,26 +59,28 @@ size_t partitionPairs(Pairs x, size_t n, int32_t pivot, Pairs buffer) {
   const size_t head = kStep + n % kStep;
   x.copyTo(buffer, head);
   x.from(n - kStep).copyTo(buffer.from(head), kStep);
-  size_t low = 0, high = n, from = head, to = n - kStep;
+  Pairs low = x, high = x.from(n);
+  size_t from = head, to = n - kStep;
+  const auto isLowNearer = [&] { return x.keys + from - low.keys <= high.keys - (x.keys + to); };
   while (from < to) {
     size_t at = from;
-    if (from - low <= high - to) from += kStep;
-    else at = to -= kStep;
+    if (isLowNearer()) {
+      from += kStep;
+    } else {
+      at = to -= kStep;
+    }
     Pair<V> v[kStep / N];
     unrolled<kStep / N>([&](auto i) __attribute__((always_inline)) { v[i] = x[at + i * N]; });
     unrolled<kStep / N>([&](auto i) __attribute__((always_inline)) {
-      const uint64_t isLow = maskBits(D(), v[i].lo < same<V>(pivot));
-      const Pair<V> both = parted(v[i], isLow);
-      const auto count = static_cast<size_t>(std::popcount(isLow));
-      x.put(low, both);
-      x.put(high - N, both);
-      low += count;
-      high -= N - count;
+      const auto isLow = v[i].lo < same<V>(pivot);
+      part(v[i].hi, isLow, low.numbers, high.numbers);
+      part(v[i].lo, isLow, low.keys, high.keys);
     });
   }
-  const size_t below = separate(buffer, high - low, pivot, x.from(low), buffer);
-  buffer.copyTo(x.from(low + below), high - low - below);
-  return low + below;
+  const auto left = static_cast<size_t>(high.keys - low.keys);
+  const size_t below = separate(buffer, left, pivot, low, buffer);
+  buffer.copyTo(low.from(below), left - below);
+  return static_cast<size_t>(low.keys - x.keys) + below;
 }
 
 // The key is the upper half of a 64-bit one.
@@ -95,7 +94,8 @@ size_t partitionPairs(Pairs x, size_t n, int32_t pivot, Pairs buffer) {
     store(turned.lo, D(), halves + 2 * i);
     store(turned.hi, D(), halves + 2 * i + N);
   }
-  for (; i < n; ++i) both[i] = static_cast<int64_t>(uint64_t{static_cast<uint32_t>(x.keys[i])} << 32 | static_cast<uint32_t>(x.numbers[i]));
+  for (; i < n; ++i)
+    both[i] = static_cast<int64_t>(uint64_t{static_cast<uint32_t>(x.keys[i])} << 32 | static_cast<uint32_t>(x.numbers[i]));
   sortByNetwork(both, n, {}, {});
   for (i = 0; i + N <= n; i += N) {
     const Pair<V> v = deinterleaved(Pair<V>{load(D(), halves + 2 * i), load(D(), halves + 2 * i + N)});

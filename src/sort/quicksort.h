@@ -10,8 +10,8 @@
 
 namespace qvx {
 
-// The median of keys from all over x, as `in` maps them: of 15, or from 4096 keys on of 63, which is within 6 % of the middle in two of
-// three vectors.
+// The median of keys from all over x, as `in` maps them: of 15, or from 4096 keys on of 63, which is within 6 % of the middle in
+// two of three vectors.
 template <class K> [[gnu::noinline]] K pivotOf(const K* x, size_t n, KeyMap<K> in) {
   constexpr size_t kMost = std::min<size_t>(63, kNetworkKeys<K> - 1);
   const size_t count = n < 4096 ? 15 : kMost;

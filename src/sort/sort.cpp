@@ -12,8 +12,8 @@ template <Order kOrder, class T> QvxStatus sort(T* srcDst, int len) {
   return status;
 }
 
-// Equal keys are equal bits, so a stable sort has no other result. This one needs no room to move elements through: it takes half the
-// time of three passes of 11 bits.
+// Equal keys are equal bits, so a stable sort has no other result. This one needs no room to move elements through: it takes half
+// the time of three passes of 11 bits.
 template <Order kOrder, class T> QvxStatus sortStably(T* srcDst, const T* tmp, int len) {
   const QvxStatus status = check(len, srcDst, tmp);
   if (status != qvxStatOk) return status;

@@ -1,7 +1,7 @@
 // Sorts of values that take their places along.
 //
-// Different elements have one order, which is found the fast way. Equal ones are only seen when that is done: then the elements go back
-// to where they were, and the steps that tell their order are taken one by one.
+// Different elements have one order, which is found the fast way. Equal ones are only seen when that is done: then the elements
+// go back to where they were, and the steps that tell their order are taken one by one.
 #include "frame/check.h"
 #include "sort/pairs.h"
 #include "sort/sort_keys.h"

@@ -36,8 +36,8 @@ template <class T> std::vector<int32_t> stableOrder(const std::vector<T>& x, boo
   return order;
 }
 
-// A quicksort that takes the median of three as its pivot and sorts fewer than ten by selection, over items that only isAbove tells
-// apart. Inclusive ends.
+// A quicksort that takes the median of three as its pivot and sorts fewer than ten by selection, over items that only isAbove
+// tells apart. Inclusive ends.
 template <class Item, class IsAbove> void quicksort(std::vector<Item>& x, int lo, int hi, const IsAbove& isAbove) {
   const auto at = [&](int i) -> Item& { return x[static_cast<size_t>(i)]; };
   const auto orderTwo = [&](int a, int b) {
@@ -74,8 +74,8 @@ template <class Item, class IsAbove> void quicksort(std::vector<Item>& x, int lo
   quicksort(x, j, hi, isAbove);
 }
 
-// M. D. McIlroy, A Killer Adversary for Quicksort: different numbers on which this very quicksort takes the square of n steps. Values are
-// decided only when they are compared, always to the pivot's disadvantage.
+// M. D. McIlroy, A Killer Adversary for Quicksort: different numbers on which this very quicksort takes the square of n steps.
+// Values are decided only when they are compared, always to the pivot's disadvantage.
 inline std::vector<int> killerOfQuicksort(int n) {
   std::vector<int> items(static_cast<size_t>(n)), value(static_cast<size_t>(n), n);  // n: not decided
   std::iota(items.begin(), items.end(), 0);

@@ -57,9 +57,8 @@ template <class T> void expectAsTold(SortIndex<T> function, bool isDescending) {
       if (hasNaN(x) || testing::Test::HasFailure()) continue;
       std::vector<std::pair<T, Qvx32s>> expected(n);
       for (size_t i = 0; i < n; ++i) expected[i] = {x[i], static_cast<Qvx32s>(i)};
-      reference::quicksort(expected, 0, static_cast<int>(n) - 1, [=](const auto& a, const auto& b) {
-        return isDescending ? a.first < b.first : a.first > b.first;
-      });
+      reference::quicksort(expected, 0, static_cast<int>(n) - 1,
+                           [=](const auto& a, const auto& b) { return isDescending ? a.first < b.first : a.first > b.first; });
       for (size_t i = 0; i < n; ++i) ASSERT_EQ(s.places[i], expected[i].second) << "in place " << i;
     }
   }

@@ -17,7 +17,8 @@ template <class T> using RadixSort = QvxStatus (*)(T*, T*, int);
 std::vector<size_t> lengths() {
   std::vector<size_t> all;
   for (size_t n = 1; n <= 300; ++n) all.push_back(n);
-  for (const size_t n : {511, 512, 513, 777, 1023, 1024, 1025, 2047, 2048, 2049, 4095, 4097, 8191, 8192, 8193, 16383, 16385, 20011, 70001})
+  for (const size_t n :
+       {511, 512, 513, 777, 1023, 1024, 1025, 2047, 2048, 2049, 4095, 4097, 8191, 8192, 8193, 16383, 16385, 20011, 70001})
     all.push_back(n);
   return all;
 }

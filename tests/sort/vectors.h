@@ -12,8 +12,9 @@
 namespace tests {
 
 enum class Pattern { kRandom, kWide, kFew, kOne, kSorted, kReversed, kSaw, kPipe, kKiller, kExtremes, kNarrow };
-inline constexpr Pattern kPatterns[] = {Pattern::kRandom, Pattern::kWide, Pattern::kFew,  Pattern::kOne,    Pattern::kSorted,  Pattern::kReversed,
-                                        Pattern::kSaw,    Pattern::kPipe, Pattern::kKiller, Pattern::kExtremes, Pattern::kNarrow};
+inline constexpr Pattern kPatterns[] = {Pattern::kRandom, Pattern::kWide,     Pattern::kFew,   Pattern::kOne,
+                                        Pattern::kSorted, Pattern::kReversed, Pattern::kSaw,   Pattern::kPipe,
+                                        Pattern::kKiller, Pattern::kExtremes, Pattern::kNarrow};
 
 template <class T> T ofBits(uint64_t bits) {
   T x;
@@ -24,7 +25,8 @@ template <class T> T ofBits(uint64_t bits) {
 template <class T> std::vector<T> vectorOf(Pattern pattern, size_t n, Random& random) {
   if (pattern == Pattern::kRandom) return values<T>(n, random);
   std::vector<T> x(n);
-  const auto killer = pattern == Pattern::kKiller ? reference::killerOfQuicksort(static_cast<int>(std::min<size_t>(n, 3000))) : std::vector<int>();
+  const auto killer = pattern == Pattern::kKiller ? reference::killerOfQuicksort(static_cast<int>(std::min<size_t>(n, 3000)))
+                                                  : std::vector<int>();
   for (size_t i = 0; i < n; ++i) {
     using Limits = std::numeric_limits<T>;
     const uint64_t r = random();
@@ -55,11 +57,22 @@ template <class T> std::vector<T> vectorOf(Pattern pattern, size_t n, Random& ra
         break;
       case Pattern::kExtremes:
         if constexpr (std::is_floating_point_v<T>) {
-          const T some[] = {T(0), -T(0), Limits::infinity(), -Limits::infinity(), Limits::quiet_NaN(), -Limits::quiet_NaN(), Limits::max(),
-                            Limits::lowest(), Limits::denorm_min(), -Limits::denorm_min(), ofBits<T>(~uint64_t{0}), ofBits<T>(~uint64_t{0} >> 1)};
+          const T some[] = {T(0),
+                            -T(0),
+                            Limits::infinity(),
+                            -Limits::infinity(),
+                            Limits::quiet_NaN(),
+                            -Limits::quiet_NaN(),
+                            Limits::max(),
+                            Limits::lowest(),
+                            Limits::denorm_min(),
+                            -Limits::denorm_min(),
+                            ofBits<T>(~uint64_t{0}),
+                            ofBits<T>(~uint64_t{0} >> 1)};
           x[i] = some[r % std::size(some)];
         } else {
-          const T some[] = {Limits::min(), static_cast<T>(Limits::min() + 1), Limits::max(), static_cast<T>(Limits::max() - 1), T(0)};
+          const T some[] = {Limits::min(), static_cast<T>(Limits::min() + 1), Limits::max(), static_cast<T>(Limits::max() - 1),
+                            T(0)};
           x[i] = some[r % std::size(some)];
         }
         break;

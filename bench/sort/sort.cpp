@@ -1,0 +1,161 @@
+// Sorts of vectors in several orders. A call sorts what has just been copied: the copy is part of every contender's time, and
+// successive calls get different elements, or the processor would learn the comparisons by heart.
+#include <hwy/contrib/sort/vqsort.h>
+#include <hwy/targets.h>
+
+#include <algorithm>
+#include <numeric>
+#include <string>
+
+#include "frame/families.h"
+#include "peers/plain_sort.h"
+
+namespace bench {
+
+namespace {
+
+enum class Pattern { kRandom, kSorted, kReversed, kFew, kSaw };
+constexpr std::pair<Pattern, const char*> kPatterns[] = {{Pattern::kRandom, ""},
+                                                         {Pattern::kSorted, ", sorted"},
+                                                         {Pattern::kReversed, ", reversed"},
+                                                         {Pattern::kFew, ", 4 values"},
+                                                         {Pattern::kSaw, ", saw"}};
+
+// Room for many short vectors.
+template <class T> size_t vectorsOf(const Vectors& v) {
+  const size_t n = static_cast<size_t>(v.n);
+  return std::max<size_t>(1, std::min<size_t>(1 << 18, kSlabBytes / sizeof(T)) / n);
+}
+
+template <class T> void fillIn(Pattern pattern, const Vectors& v) {
+  const auto n = static_cast<size_t>(v.n);
+  auto* x = reinterpret_cast<T*>(v.slabs.source(0));
+  const size_t count = vectorsOf<T>(v);
+  fill<T>(x, static_cast<int>(n * count), 1);
+  for (size_t k = 0; k < count; ++k, x += n) {
+    if (pattern == Pattern::kSorted || pattern == Pattern::kReversed) std::sort(x, x + n);
+    if (pattern == Pattern::kReversed) std::reverse(x, x + n);
+    for (size_t i = 0; i < n; ++i) {
+      if (pattern == Pattern::kFew) x[i] = static_cast<T>(static_cast<uint64_t>(x[i] < T(0) ? -x[i] : x[i]) % 4);
+      if (pattern == Pattern::kSaw) x[i] = static_cast<T>(i % 100);
+    }
+  }
+}
+
+// sort(x, n, room): room for as many indices.
+template <class T> Contender sorter(std::string name, std::function<void(T*, int, Qvx32s*)> sort, int threads = 1) {
+  const auto call = [sort](const Vectors& v, size_t which) {
+    const auto n = static_cast<size_t>(v.n);
+    auto* x = reinterpret_cast<T*>(v.slabs.destination());
+    std::memcpy(x, reinterpret_cast<const T*>(v.slabs.source(0)) + which * n, n * sizeof(T));
+    sort(x, v.n, reinterpret_cast<Qvx32s*>(v.slabs.source(2)));
+  };
+  const auto timed = [call](benchmark::State& state, const Vectors& v) {
+    const size_t count = vectorsOf<T>(v);
+    size_t which = 0;
+    for (auto _ : state) {
+      call(v, which);
+      which = which + 1 == count ? 0 : which + 1;
+      benchmark::ClobberMemory();
+    }
+  };
+  return {std::move(name), [call](const Vectors& v) { call(v, 0); }, timed, Agreement::kBitwise, threads};
+}
+
+template <class T> Case sortCase(std::string name, Pattern pattern) {
+  Case c;
+  c.name = std::move(name);
+  c.sizes = {10, 100, 1000, 10000, 100000, 1000000};
+  if (sizeof(T) <= 4 && pattern == Pattern::kRandom) c.sizes.push_back(10000000);
+  c.fillSources = [pattern](const Vectors& v) { fillIn<T>(pattern, v); };
+  c.fillDestination = [](const Vectors&) {};
+  c.saveDestination = [](const Vectors& v) {
+    std::memcpy(v.slabs.saved(), v.slabs.destination(), static_cast<size_t>(v.n) * sizeof(T));
+  };
+  c.agrees = [](const Vectors& v, Agreement agreement) {
+    return agree<T>(v.slabs.saved(), v.slabs.destination(), static_cast<size_t>(v.n) * sizeof(T), agreement, v.n);
+  };
+  return c;
+}
+
+// As packaged; no better instructions than ours.
+template <class T> void vqsort(T* x, int n, Qvx32s*) {
+  static const hwy::Sorter sorter = [] {
+    const std::string variant = qvxsGetLibVersion()->cpuTag;
+    if (variant == "w3") hwy::SetSupportedTargetsForTest(HWY_AVX2);
+    if (variant == "u8") hwy::SetSupportedTargetsForTest(HWY_SSSE3);
+    return hwy::Sorter();
+  }();
+  sorter(x, static_cast<size_t>(n), hwy::SortAscending());
+}
+
+template <class T> void valueRows(Suite& s, const std::string& name, QvxStatus (*ours)(T*, int)) {
+  for (const auto& [pattern, what] : kPatterns) {
+    Case c = sortCase<T>(name + what, pattern);
+    c.contenders.push_back(sorter<T>("ours", [ours](T* x, int n, Qvx32s*) { ours(x, n); }));
+    c.contenders.push_back(sorter<T>("std::sort", [](T* x, int n, Qvx32s*) { std::sort(x, x + n); }));
+    if constexpr (sizeof(T) > 1) c.contenders.push_back(sorter<T>("VQSort", vqsort<T>));
+    c.contenders.push_back(sorter<T>("radix", [](T* x, int n, Qvx32s*) { plain::radixSort(x, static_cast<size_t>(n)); }));
+    s.add(std::move(c));
+  }
+}
+
+// Indices sorted by what they lead to, then the elements put where they say.
+template <class T> void sortIndices(T* x, int n, Qvx32s* indices) {
+  static std::vector<std::pair<T, Qvx32s>> pairs;
+  pairs.resize(static_cast<size_t>(n));
+  for (int i = 0; i < n; ++i) pairs[static_cast<size_t>(i)] = {x[i], i};
+  std::sort(pairs.begin(), pairs.end());
+  for (int i = 0; i < n; ++i) std::tie(x[i], indices[i]) = pairs[static_cast<size_t>(i)];
+}
+
+// Different elements: a permutation, as far as the type goes.
+template <class T> void indexRow(Suite& s, const std::string& name, QvxStatus (*ours)(T*, Qvx32s*, int)) {
+  Case c = sortCase<T>(name + ", all different", Pattern::kRandom);
+  c.sizes = {10, 100, 1000, 10000, 100000, 1000000};
+  c.fillSources = [](const Vectors& v) {
+    fillIn<T>(Pattern::kRandom, v);
+    const auto n = static_cast<size_t>(v.n);
+    auto* x = reinterpret_cast<T*>(v.slabs.source(0));
+    std::vector<size_t> order(n);
+    for (size_t k = 0; k < vectorsOf<T>(v); ++k, x += n) {
+      std::iota(order.begin(), order.end(), size_t{0});
+      std::sort(order.begin(), order.end(), [x](size_t a, size_t b) { return x[a] != x[b] ? x[a] < x[b] : a < b; });
+      for (size_t i = 0; i < n; ++i) x[order[i]] = static_cast<T>(i);
+    }
+  };
+  c.contenders.push_back(sorter<T>("ours", [ours](T* x, int n, Qvx32s* indices) { ours(x, indices, n); }));
+  c.contenders.push_back(sorter<T>("std::sort", sortIndices<T>));
+  s.add(std::move(c));
+}
+
+template <class T> void teamRow(Suite& s, const std::string& name, QvxStatus (*ours)(T*, T*, int)) {
+  Case c = sortCase<T>(name, Pattern::kRandom);
+  c.table = Table::kTeam;
+  c.inRealTime = true;
+  c.sizes = {8192, 16384, 32768, 100000, 1000000};
+  const auto call = [ours](T* x, int n, Qvx32s* room) { ours(x, reinterpret_cast<T*>(room), n); };
+  c.contenders.push_back(sorter<T>("ours", call, 2));
+  c.contenders.push_back(sorter<T>("one thread", call));
+  c.contenders.back().isPeer = false;
+  s.add(std::move(c));
+}
+
+}  // namespace
+
+void sort(Suite& s) {
+  valueRows<Qvx8u>(s, "SortAscend_8u_I", qvxsSortAscend_8u_I);
+  valueRows<Qvx16u>(s, "SortAscend_16u_I", qvxsSortAscend_16u_I);
+  valueRows<Qvx16s>(s, "SortAscend_16s_I", qvxsSortAscend_16s_I);
+  valueRows<Qvx32s>(s, "SortAscend_32s_I", qvxsSortAscend_32s_I);
+  valueRows<Qvx32f>(s, "SortAscend_32f_I", qvxsSortAscend_32f_I);
+  valueRows<Qvx64f>(s, "SortAscend_64f_I", qvxsSortAscend_64f_I);
+  indexRow<Qvx32s>(s, "SortIndexAscend_32s_I", qvxsSortIndexAscend_32s_I);
+  indexRow<Qvx32f>(s, "SortIndexAscend_32f_I", qvxsSortIndexAscend_32f_I);
+  indexRow<Qvx64f>(s, "SortIndexAscend_64f_I", qvxsSortIndexAscend_64f_I);
+  teamRow<Qvx32f>(s, "SortRadixAscend_32f_I", qvxsSortRadixAscend_32f_I);
+  teamRow<Qvx32s>(s, "SortRadixAscend_32s_I", qvxsSortRadixAscend_32s_I);
+  teamRow<Qvx64f>(s, "SortRadixAscend_64f_I", qvxsSortRadixAscend_64f_I);
+}
+
+}  // namespace bench
