@@ -38,6 +38,8 @@ void integerFft(Suite& suite);
 void spectrum(Suite& suite);
 void fir(Suite& suite);
 void iir(Suite& suite);
+void generators(Suite& suite);
+void windows(Suite& suite);
 
 // What is measured in one go, a minute or so. Its name is that of the file it leaves in a report.
 struct Family {
@@ -80,6 +82,8 @@ inline constexpr Family kFamilies[] = {
     {"spectrum", spectrum},
     {"fir", fir},
     {"iir", iir},
+    {"generators", generators},
+    {"windows", windows},
 };
 
 }  // namespace bench
