@@ -43,6 +43,8 @@ void goertzel(Suite& suite);
 void decode(Suite& suite);
 void helpers(Suite& suite);
 void sort(Suite& suite);
+void generators(Suite& suite);
+void windows(Suite& suite);
 
 // What is measured in one go, a minute or so. Its name is that of the file it leaves in a report.
 struct Family {
@@ -90,6 +92,8 @@ inline constexpr Family kFamilies[] = {
     {"decode", decode},
     {"helpers", helpers},
     {"sort", sort},
+    {"generators", generators},
+    {"windows", windows},
 };
 
 }  // namespace bench

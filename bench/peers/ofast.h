@@ -22,5 +22,13 @@ void normalize(const float* a, float* d, int n, float vSub, float vDiv);
 void normalize(const double* a, double* d, int n, double vSub, double vDiv);
 void normalize(const Qvx32fc* a, Qvx32fc* d, int n, Qvx32fc vSub, float vDiv);
 void normalize(const Qvx16s* a, Qvx16s* d, int n, Qvx16s vSub, int vDiv, int scaleFactor);
+// magn cos(w i + phase), and x[i] times a window: a cosine for each element.
+void tone(float* d, int n, float magn, float w, float phase);
+void tone(double* d, int n, double magn, double w, double phase);
+void hann(float* x, int n);
+void hann(double* x, int n);
+void hamming(float* x, int n);
+void blackman(float* x, int n);
+void bartlett(float* x, int n);
 
 }  // namespace ofast

@@ -20,7 +20,7 @@ struct Lines {
     constexpr double kLeast = 0x1p-52;  // what is no slope becomes one that nothing overflows by
     falls = std::max(falls, kLeast);
     const double rises = std::max(1 - falls, kLeast);
-    return {-2 / falls, 2 / rises, 1 - 1 / falls, 1 / rises - 1};
+    return {-2 / falls, 2 / rises, 1 - 1 / falls, 1 - 1 / rises};
   }
 };
 

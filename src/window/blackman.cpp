@@ -9,16 +9,17 @@ namespace {
 
 constexpr double kStandard = -0.16F;
 
-// -(0.5 / cos(pi / (N-1)))^2, with which the window and its slope are 0 at the second sample.
-double optimalAlpha(int len) {
+// alpha = -(0.5 / cos(pi / (N-1)))^2, with which the window is 0 at the second sample too: 1 + 4 alpha is -tan^2(pi / (N-1)),
+// which a difference of 1 and alpha would leave few digits of.
+InSquares optimalForm(int len) {
   const auto angle = sinCosOfTurns(same<Vec<Lanes<double, 2>>>(0.5 / (len - 1)));
-  const double half = 0.5 / hn::GetLane(angle.cosine);
-  return -half * half;
+  const double tangent = hn::GetLane(angle.sine) / hn::GetLane(angle.cosine);
+  return {0, -tangent * tangent, 1 + tangent * tangent};
 }
 
 template <class T> QvxStatus optimal(const T* src, T* dst, int len) {
   if (len < 4) return qvxStatBadSize;
-  return cosineWindow(src, dst, len, blackman(optimalAlpha(len)));
+  return cosineWindow(src, dst, len, optimalForm(len));
 }
 
 double ofQ15(int alpha) { return static_cast<Qvx32f>(alpha) * 0x1p-15F; }
