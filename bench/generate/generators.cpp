@@ -13,9 +13,12 @@ constexpr auto kOther = Agreement::kDiffers;
 template <auto kInit, auto kRun, class T, int kFrom, int kTo> QvxStatus noise(T* dst, int len) {
   static auto* const state = [] {
     auto* s = [] {
-      if constexpr (requires(QvxsRandUniformState_32f** p) { kInit(p, 0, 0, 0); }) return static_cast<QvxsRandUniformState_32f*>(nullptr);
-      else if constexpr (requires(QvxsRandUniformState_16s** p) { kInit(p, 0, 0, 0); }) return static_cast<QvxsRandUniformState_16s*>(nullptr);
-      else if constexpr (requires(QvxsRandGaussState_32f** p) { kInit(p, 0, 0, 0); }) return static_cast<QvxsRandGaussState_32f*>(nullptr);
+      if constexpr (requires(QvxsRandUniformState_32f * *p) { kInit(p, 0, 0, 0); })
+        return static_cast<QvxsRandUniformState_32f*>(nullptr);
+      else if constexpr (requires(QvxsRandUniformState_16s * *p) { kInit(p, 0, 0, 0); })
+        return static_cast<QvxsRandUniformState_16s*>(nullptr);
+      else if constexpr (requires(QvxsRandGaussState_32f * *p) { kInit(p, 0, 0, 0); })
+        return static_cast<QvxsRandGaussState_32f*>(nullptr);
       else return static_cast<QvxsRandGaussState_16s*>(nullptr);
     }();
     kInit(&s, kFrom, kTo, 1);
@@ -59,8 +62,12 @@ void generators(Suite& s) {
       .against("normal_distribution", plain::NormalTwister<Qvx32f>(), kOther);
   s.row("RandGauss_16s", noise<qvxsRandGaussInitAlloc_16s, qvxsRandGauss_16s, Qvx16s, 0, 1000>)
       .against("normal_distribution", plain::NormalTwister<Qvx16s>(), kOther);
-  s.row("Tone_32f", tone<Qvx32f, qvxsTone_Direct_32f>).against("-Ofast", cosines<Qvx32f>(), kOther).against("a fill", plain::Fill<Qvx32f>(), kOther);
-  s.row("Tone_64f", tone<Qvx64f, qvxsTone_Direct_64f>).against("-Ofast", cosines<Qvx64f>(), kOther).against("a fill", plain::Fill<Qvx64f>(), kOther);
+  s.row("Tone_32f", tone<Qvx32f, qvxsTone_Direct_32f>)
+      .against("-Ofast", cosines<Qvx32f>(), kOther)
+      .against("a fill", plain::Fill<Qvx32f>(), kOther);
+  s.row("Tone_64f", tone<Qvx64f, qvxsTone_Direct_64f>)
+      .against("-Ofast", cosines<Qvx64f>(), kOther)
+      .against("a fill", plain::Fill<Qvx64f>(), kOther);
   s.row("Tone_16s", tone16s).against("a fill", plain::Fill<Qvx16s>(), kOther);
   s.row("ToneQ15_16s", toneQ15).against("a fill", plain::Fill<Qvx16s>(), kOther);
   s.row("Triangle_32f", triangle<Qvx32f, qvxsTriangle_Direct_32f>).against("a fill", plain::Fill<Qvx32f>(), kOther);

@@ -54,7 +54,8 @@ template <class T> struct WindowTable {
   void operator()(T* x, int n, auto...) {
     if (weights.size() != static_cast<size_t>(n)) {
       weights.resize(static_cast<size_t>(n));
-      for (int i = 0; i < n; ++i) weights[static_cast<size_t>(i)] = static_cast<T>(0.5 - 0.5 * std::cos(6.283185307179586 * i / (n - 1)));
+      for (int i = 0; i < n; ++i)
+        weights[static_cast<size_t>(i)] = static_cast<T>(0.5 - 0.5 * std::cos(6.283185307179586 * i / (n - 1)));
     }
     const T* const w = weights.data();
     for (int i = 0; i < n; ++i) x[i] *= w[i];

@@ -14,7 +14,8 @@ template <class T, class V> auto toElements(V v) {
     return convertLanes<T>(v);
   } else {
     const V away = v + hn::CopySignToAbs(same<V>(0.5), v);
-    const V limited = hn::Max(hn::Min(away, same<V>(static_cast<double>(Limits::max()))), same<V>(static_cast<double>(Limits::min())));
+    const V limited =
+        hn::Max(hn::Min(away, same<V>(static_cast<double>(Limits::max()))), same<V>(static_cast<double>(Limits::min())));
     if constexpr (std::is_same_v<T, Qvx32u>) {
       // Through signed integers: an exact difference once the fraction is gone.
       const auto whole = toIntTruncated(hn::Trunc(limited) - same<V>(0x1p31));

@@ -43,8 +43,8 @@ alignas(64) inline constexpr StepsOn kStepsOn;
 
 }  // namespace detail
 
-// One step of the part with the borrow. 2.5 cycles each, for the chain over two of them is a difference, the borrow, its sign, the
-// 18 and their difference.
+// One step of the part with the borrow. 2.5 cycles each, for the chain over two of them is a difference, the borrow, its sign,
+// the 18 and their difference.
 inline uint32_t difference(uint32_t lag2, uint32_t lag3, uint32_t& borrow) {
   const uint32_t t = lag2 - lag3 + borrow;
   borrow = static_cast<uint32_t>(static_cast<int32_t>(t) >> 31);
@@ -93,8 +93,7 @@ template <class T, class V> auto rounded(V v) {
   if constexpr (std::is_floating_point_v<T>) {
     return convertLanes<T>(v);
   } else {
-    const V limited =
-        hn::Min(hn::Max(v, same<V>(std::numeric_limits<T>::min())), same<V>(std::numeric_limits<T>::max()));
+    const V limited = hn::Min(hn::Max(v, same<V>(std::numeric_limits<T>::min())), same<V>(std::numeric_limits<T>::max()));
     return convertLanes<T>(toIntNearest(limited));
   }
 }

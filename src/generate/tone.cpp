@@ -61,7 +61,8 @@ void fillQ15(Qvx16s* dst, size_t n, QvxsToneState& tone) {
   const RoundingScope nearest(Rounding::kNearest);
   alignas(64) double turns[N];
   for (size_t at = 0; at < n; at += N) {
-    for (size_t k = 0; k < N; ++k) turns[k] = static_cast<double>(static_cast<int64_t>(tone.phase + (at + k) * tone.step)) * 0x1p-64;
+    for (size_t k = 0; k < N; ++k)
+      turns[k] = static_cast<double>(static_cast<int64_t>(tone.phase + (at + k) * tone.step)) * 0x1p-64;
     const auto v = hn::Set(d, tone.magn) * sinCosOfTurns(load(d, turns)).cosine;
     putSamples(dst, at, n, v, v);
   }
@@ -125,6 +126,4 @@ QvxStatus qvxsToneQ15_Direct_16s(Qvx16s* dst, int len, Qvx16s magn, Qvx16s rFreq
   if (status == qvxStatOk) fillQ15(dst, elements(len), tone);
   return status;
 }
-QvxStatus qvxsToneFree(QvxsToneState* state) {
-  return releaseRecord(state, checkRecord(state, kId), InCallersBlock::kUntouched);
-}
+QvxStatus qvxsToneFree(QvxsToneState* state) { return releaseRecord(state, checkRecord(state, kId), InCallersBlock::kUntouched); }

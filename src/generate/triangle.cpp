@@ -97,8 +97,7 @@ void fill(T* dst, size_t n, double magn, Lines lines, uint64_t step, uint64_t ph
   }
 }
 
-template <class T, class Magn, class Phase>
-QvxStatus direct(T* dst, int len, Magn magn, Phase rFreq, Phase asym, Phase* phase) {
+template <class T, class Magn, class Phase> QvxStatus direct(T* dst, int len, Magn magn, Phase rFreq, Phase asym, Phase* phase) {
   constexpr auto kPi = static_cast<Phase>(kTwoPi / 2);
   if (isNull(phase)) return qvxStatNullPtr;
   if (!(magn > 0)) return qvxStatBadTriangleMagn;

@@ -18,10 +18,12 @@ template <class Phase> Phase phaseAfter(Phase phase, double rFreq, int len) {
 }
 
 // Turns and frequencies as fractions of 2^64, which wrap by themselves: a stream's phase never loses anything.
-inline uint64_t fixedTurns(double turns) { return static_cast<uint64_t>(static_cast<int64_t>((turns - (turns >= 0.5)) * 0x1p64)); }
+inline uint64_t fixedTurns(double turns) {
+  return static_cast<uint64_t>(static_cast<int64_t>((turns - (turns >= 0.5)) * 0x1p64));
+}
 
-// Of 48 bits, that a double holds after any number of steps which are multiples of 2^-48: each sample is the same however a stream
-// is cut.
+// Of 48 bits, that a double holds after any number of steps which are multiples of 2^-48: each sample is the same however a
+// stream is cut.
 inline uint64_t shortTurns(double turns) { return fixedTurns(turns) & ~uint64_t{0xFFFF}; }
 
 template <class T, class V> auto toSamples(V v) {

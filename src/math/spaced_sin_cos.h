@@ -3,8 +3,8 @@
 // The angle of a lane is that of its vector's first one and a constant of the lane, so both sums of angles cost two products. The
 // first angles' sines are turned on in doubles, by a constant step, and taken anew every 4096 bytes of samples.
 //
-// Error below 2^-22 of the scale in float; below 2^-48 in double (2^-46 on SSSE3, whose vectors are turned more often). Where sine
-// and cosine are both positive, nothing cancels, and the sine is good to as many units of its own.
+// Error below 2^-22 of the scale in float; below 2^-48 in double (2^-46 on SSSE3, whose vectors are turned more often). Where
+// sine and cosine are both positive, nothing cancels, and the sine is good to as many units of its own.
 #pragma once
 
 #include "frame/map.h"

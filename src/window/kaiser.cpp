@@ -19,8 +19,9 @@ struct Double {
   static constexpr double kSplit = 4;
   static constexpr double kNear[] = {0.9999999985, 4.0000001935, 3.9999959541, 1.777809969,
                                      0.4443189384, 0.0713758187, 0.0075942968, 0.0008267816};
-  static constexpr double kFar[] = {0.3989422809,  0.0124667783, 0.0017623668,  0.00026,      0.0022585672,  -0.0128314822, 0.0495811118,
-                                    -0.1209940805, 0.1895476618, -0.1867783276, 0.1113315511, -0.0366694767, 0.0051246015};
+  static constexpr double kFar[] = {0.3989422809,  0.0124667783,  0.0017623668,  0.00026,      0.0022585672,
+                                    -0.0128314822, 0.0495811118,  -0.1209940805, 0.1895476618, -0.1867783276,
+                                    0.1113315511,  -0.0366694767, 0.0051246015};
 };
 
 template <class Series, class V> V bessel0(V a) {
@@ -32,7 +33,7 @@ template <class Series, class V> V bessel0(V a) {
     const V ratio = a * same<V>(1 / Series::kSplit);
     return polynomial(ratio * ratio, Series::kNear);
   };
-  if (near == (uint64_t{1} << kLanesOf<V>) - 1) return nearly();
+  if (near == (uint64_t{1} << kLanesOf<V>)-1) return nearly();
   const V reciprocal = same<V>(1) / hn::Max(a, split);
   const V farther = exp(a) * hn::Sqrt(reciprocal) * polynomial(split * reciprocal, Series::kFar);
   return near == 0 ? farther : hn::IfThenElse(isNear, nearly(), farther);

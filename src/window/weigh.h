@@ -67,7 +67,7 @@ template <class T, class Fill> void weigh(const T* src, T* dst, size_t len, Qvx3
 }
 
 // Integers are rounded to nearest in any mode of the processor; on SSSE3 the elementary functions need it for floats as well.
-template <class T> inline constexpr Rounding kMode =
-    std::is_integral_v<Part<T>> || !kRoundsByInstruction ? Rounding::kNearest : Rounding::kCallers;
+template <class T>
+inline constexpr Rounding kMode = std::is_integral_v<Part<T>> || !kRoundsByInstruction ? Rounding::kNearest : Rounding::kCallers;
 
 }  // namespace qvx::window

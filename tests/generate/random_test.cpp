@@ -15,7 +15,8 @@ using reference::NoiseSource;
 
 // Worked out from the rule by another program.
 TEST(UniformNoise, BeginsAsTheRuleSays) {
-  const std::vector<Qvx64f> numbers = {1676100226, -1588522615, -1713702600, 59565502, -1107010333, 1985571928, 443181099, 294871153};
+  const std::vector<Qvx64f> numbers = {1676100226,  -1588522615, -1713702600, 59565502,
+                                       -1107010333, 1985571928,  443181099,   294871153};
   std::vector<Qvx64f> y(8);
   Qvx32u seed = 1;
   // With these ends the numbers come through as they are: the range is 2^32, less the hair that the constant has too much.
@@ -95,8 +96,8 @@ TEST(Noise, OfARecordIsOneSequence) {
                                                Qvx8u{250}, uniformOracle<Qvx8u>(3, 250));
   expectStream<Qvx16s, QvxsRandUniformState_16s>(qvxsRandUniformInitAlloc_16s, qvxsRandUniform_16s, qvxsRandUniformFree_16s,
                                                  Qvx16s{32767}, Qvx16s{-32768}, uniformOracle<Qvx16s>(32767, -32768));
-  expectStream<Qvx32f, QvxsRandUniformState_32f>(qvxsRandUniformInitAlloc_32f, qvxsRandUniform_32f, qvxsRandUniformFree_32f, -1.5F,
-                                                 2.25F, uniformOracle<Qvx32f>(-1.5F, 2.25F));
+  expectStream<Qvx32f, QvxsRandUniformState_32f>(qvxsRandUniformInitAlloc_32f, qvxsRandUniform_32f, qvxsRandUniformFree_32f,
+                                                 -1.5F, 2.25F, uniformOracle<Qvx32f>(-1.5F, 2.25F));
   expectStream<Qvx8u, QvxsRandGaussState_8u>(qvxsRandGaussInitAlloc_8u, qvxsRandGauss_8u, qvxsRandGaussFree_8u, Qvx8u{100},
                                              Qvx8u{90}, normalOracle<Qvx8u>(100, 90));
   expectStream<Qvx16s, QvxsRandGaussState_16s>(qvxsRandGaussInitAlloc_16s, qvxsRandGauss_16s, qvxsRandGaussFree_16s, Qvx16s{-5},

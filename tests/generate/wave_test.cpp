@@ -110,10 +110,11 @@ template <class T, class Phase, class Run> void expectTriangle(Run run, double m
             const Part<T> sample = parts[(1 + kIsComplex) * n + k];
             const Real exact = magn * triangleAt(turns - 0.25L * k, asym);
             ASSERT_LE(std::abs(static_cast<double>(sample)), magn);
-            worst = std::max(worst, static_cast<double>(std::abs(sample - exact) / magn / (flat + (steep + n * 0x1p-62) * slope)));
+            worst =
+                std::max(worst, static_cast<double>(std::abs(sample - exact) / magn / (flat + (steep + n * 0x1p-62) * slope)));
             expectSample(sample, exact, magn * (flat + (steep + n * 0x1p-62) * slope),
-                         std::to_string(f) + ", asymmetry " + std::to_string(a) + ", length " + std::to_string(len) + ", sample " +
-                             std::to_string(n));
+                         std::to_string(f) + ", asymmetry " + std::to_string(a) + ", length " + std::to_string(len) +
+                             ", sample " + std::to_string(n));
           }
         }
       }
@@ -186,8 +187,8 @@ TEST(Q15, StreamsAreTheSameHoweverCut) {
   int size = 0;
   ASSERT_EQ(qvxsToneGetStateSizeQ15_16s(&size), qvxStatOk);
   ASSERT_EQ(size, 48);
-  expectQ15<QvxsToneState>(size, qvxsToneInitQ15_16s, qvxsToneInitAllocQ15_16s, qvxsToneQ15_16s, qvxsToneQ15_Direct_16s, qvxsToneFree,
-                           [](Real turns) { return std::cos(2 * kPi * turns); });
+  expectQ15<QvxsToneState>(size, qvxsToneInitQ15_16s, qvxsToneInitAllocQ15_16s, qvxsToneQ15_16s, qvxsToneQ15_Direct_16s,
+                           qvxsToneFree, [](Real turns) { return std::cos(2 * kPi * turns); });
   ASSERT_EQ(qvxsTriangleGetStateSizeQ15_16s(&size), qvxStatOk);
   ASSERT_EQ(size, 136);
   constexpr Qvx32s kAsym = -20000;

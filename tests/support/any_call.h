@@ -191,7 +191,8 @@ class AnyCall : public Arguments {
 inline int64_t AnyCall::drawInteger(const Parameter& p, Choices& choices) {
   static const std::set<std::string> lengths = {"len", "numIters", "chanLen", "tblLen"};
   const Range* range = traits_.rangeOf(p.name);
-  if (around_.length > 0 && lengths.count(p.name) != 0) return std::max<int64_t>(around_.length, static_cast<int64_t>(range->least));
+  if (around_.length > 0 && lengths.count(p.name) != 0)
+    return std::max<int64_t>(around_.length, static_cast<int64_t>(range->least));
   if (range == nullptr) return choices.oneIn(2) ? choices.between(-20, 20) : static_cast<int64_t>(choices.bits());
   if (range->isChoice)
     return range->choices[static_cast<size_t>(choices.between(1, static_cast<int64_t>(range->choices.size())) - 1)];

@@ -42,7 +42,8 @@ std::vector<Window<T>> windows(B bartlett, H hann, M hamming, K blackman, S stan
           {"Blackman", [=](const T* a, T* d, int n) { return blackman(a, d, n, kAlpha); },
            [](int n, int len) { return reference::blackman(n, len, kAlpha); }, squared},
           {"BlackmanStd", standard, [](int n, int len) { return reference::blackman(n, len, kStandard); }, squared},
-          {"BlackmanOpt", optimal, [](int n, int len) { return reference::blackman(n, len, reference::optimalAlpha(len)); }, squared, 4},
+          {"BlackmanOpt", optimal, [](int n, int len) { return reference::blackman(n, len, reference::optimalAlpha(len)); },
+           squared, 4},
           {"Kaiser", [=](const T* a, T* d, int n) { return kaiser(a, d, n, static_cast<Qvx32f>(kaiserAlpha(n))); },
            [](int n, int len) { return reference::kaiser(n, len, kaiserAlpha(len)); }, series, 1}};
 }
@@ -114,8 +115,9 @@ TYPED_TEST(Windows, AreTheirFormulas) {
               << w.name << ", length " << len << ", element " << n;
         } else {
           // The terms of the optimal window cancel where they are tan^2(pi / (N-1)) s each.
-          const Real scale = std::abs(in[i]) * (w.least == 4 ? reference::hann(m, len) * reference::hann(1, len) + std::abs(weight)
-                                                             : std::abs(weight));
+          const Real scale =
+              std::abs(in[i]) *
+              (w.least == 4 ? reference::hann(m, len) * reference::hann(1, len) + std::abs(weight) : std::abs(weight));
           const double error = scale == 0 ? std::abs(out[i]) : static_cast<double>(std::abs(out[i] - exact) / scale);
           worst = std::max(worst, error / (std::numeric_limits<P>::epsilon() / 2));
           ASSERT_LE(worst, w.ulps) << w.name << ", length " << len << ", element " << n;
