@@ -1,14 +1,12 @@
 // Sorts of vectors in several orders. A call sorts what has just been copied: the copy is part of every contender's time, and
 // successive calls get different elements, or the processor would learn the comparisons by heart.
-#include <hwy/contrib/sort/vqsort.h>
-#include <hwy/targets.h>
-
 #include <algorithm>
 #include <numeric>
 #include <string>
 
 #include "frame/families.h"
 #include "peers/plain_sort.h"
+#include "peers/vqsort.h"
 
 namespace bench {
 
@@ -78,23 +76,12 @@ template <class T> Case sortCase(std::string name, Pattern pattern) {
   return c;
 }
 
-// As packaged; no better instructions than ours.
-template <class T> void vqsort(T* x, int n, Qvx32s*) {
-  static const hwy::Sorter sorter = [] {
-    const std::string variant = qvxsGetLibVersion()->cpuTag;
-    if (variant == "w3") hwy::SetSupportedTargetsForTest(HWY_AVX2);
-    if (variant == "u8") hwy::SetSupportedTargetsForTest(HWY_SSSE3);
-    return hwy::Sorter();
-  }();
-  sorter(x, static_cast<size_t>(n), hwy::SortAscending());
-}
-
 template <class T> void valueRows(Suite& s, const std::string& name, QvxStatus (*ours)(T*, int)) {
   for (const auto& [pattern, what] : kPatterns) {
     Case c = sortCase<T>(name + what, pattern);
     c.contenders.push_back(sorter<T>("ours", [ours](T* x, int n, Qvx32s*) { ours(x, n); }));
     c.contenders.push_back(sorter<T>("std::sort", [](T* x, int n, Qvx32s*) { std::sort(x, x + n); }));
-    if constexpr (sizeof(T) > 1) c.contenders.push_back(sorter<T>("VQSort", vqsort<T>));
+    if constexpr (sizeof(T) > 1) c.contenders.push_back(sorter<T>("VQSort", [](T* x, int n, Qvx32s*) { vqsort::ascend(x, n); }));
     c.contenders.push_back(sorter<T>("radix", [](T* x, int n, Qvx32s*) { plain::radixSort(x, static_cast<size_t>(n)); }));
     s.add(std::move(c));
   }
