@@ -24,9 +24,11 @@ inline Real blackman(int n, int len, Real alpha) {
   const Real s = hann(n, len);
   return s * (1 + 4 * alpha - 4 * alpha * s);
 }
-inline Real optimalAlpha(int len) {
-  const Real half = 0.5L / std::cos(std::numbers::pi_v<Real> / (len - 1));
-  return -half * half;
+// With the alpha of (0.5 / cos x)^2, x = pi / (len - 1): 1 + 4 alpha is -tan^2 x, of which the sum itself would leave few digits.
+inline Real optimalBlackman(int n, int len) {
+  const Real s = hann(n, len);
+  const Real tangent = std::tan(std::numbers::pi_v<Real> / (len - 1));
+  return s * (s + tangent * tangent * (s - 1));
 }
 
 // Its power series: all terms are positive.

@@ -42,8 +42,7 @@ std::vector<Window<T>> windows(B bartlett, H hann, M hamming, K blackman, S stan
           {"Blackman", [=](const T* a, T* d, int n) { return blackman(a, d, n, kAlpha); },
            [](int n, int len) { return reference::blackman(n, len, kAlpha); }, squared},
           {"BlackmanStd", standard, [](int n, int len) { return reference::blackman(n, len, kStandard); }, squared},
-          {"BlackmanOpt", optimal, [](int n, int len) { return reference::blackman(n, len, reference::optimalAlpha(len)); },
-           squared, 4},
+          {"BlackmanOpt", optimal, reference::optimalBlackman, squared, 4},
           {"Kaiser", [=](const T* a, T* d, int n) { return kaiser(a, d, n, static_cast<Qvx32f>(kaiserAlpha(n))); },
            [](int n, int len) { return reference::kaiser(n, len, kaiserAlpha(len)); }, series, 1}};
 }
