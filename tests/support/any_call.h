@@ -99,9 +99,13 @@ class AnyCall : public Arguments {
     }
     return all;
   }
-  bool areIntegers() const {
-    return std::all_of(vectors_.begin(), vectors_.end(),
-                       [](const Vector& v) { return v.role != Role::kDestination || !v.part.isFloat; });
+  // Which of numbers() are integers.
+  std::vector<bool> integers() const {
+    std::vector<bool> all;
+    for (const Vector& v : vectors_) {
+      if (v.role == Role::kDestination) all.insert(all.end(), v.bytes / v.part.bytes, !v.part.isFloat);
+    }
+    return all;
   }
   // Sources as they were, and nothing written around any vector.
   bool isIntact() const {

@@ -37,14 +37,14 @@ inline std::string difference(const Export& e, const AnyCall& a, const AnyCall& 
   }
   // Of 32-bit floats, some hundred units in the last place of the largest, or of sources near 1 where they cancel. Integers are
   // rounded from them, and where they saturate the largest is not known: it follows from the sources and the scale factor.
-  double allowed = 1e-5 * std::max(largest, 1.0);
-  if (a.areIntegers()) {
-    const double points = std::ldexp(1, static_cast<int>(a.shape("order"))) + 100;
-    const int sourceBits = e.name.find("32s16s") == e.name.npos ? 0 : 16;
-    allowed += 1 + std::ldexp(0.1 * std::sqrt(points), sourceBits - static_cast<int>(a.shape("scaleFactor")));
-  }
+  const double ofFloats = 1e-5 * std::max(largest, 1.0);
+  const double points = std::ldexp(1, static_cast<int>(a.shape("order"))) + 100;
+  const int sourceBits = e.name.find("32s16s") == e.name.npos ? 0 : 16;
+  const double ofIntegers =
+      ofFloats + 1 + std::ldexp(0.1 * std::sqrt(points), sourceBits - static_cast<int>(a.shape("scaleFactor")));
+  const std::vector<bool> areIntegers = a.integers();
   for (size_t i = 0; i < x.size(); ++i) {
-    if (isSame(x[i], y[i]) || x[i] == y[i] || std::fabs(x[i] - y[i]) <= allowed) continue;
+    if (isSame(x[i], y[i]) || x[i] == y[i] || std::fabs(x[i] - y[i]) <= (areIntegers[i] ? ofIntegers : ofFloats)) continue;
     return "element " + std::to_string(i) + " is " + std::to_string(x[i]) + " and " + std::to_string(y[i]);
   }
   return "";
