@@ -15,8 +15,8 @@ extern "C" {
  * Weights are made for each call, without a table: a pair of products for a vector of them. Floats are multiplied by them and
  * rounded; integers are rounded to nearest, ties to even, saturated, and are within one unit of the exact product.
  * Accuracy of a weight, relative to it also where the window goes to 0:
- *     32f, 32fc, 16s, 16sc   2^-21 (Bartlett 2^-22, Blackman 2^-20.5)
- *     64f, 64fc              2^-45 (Bartlett 2^-51)
+ *     32f, 32fc, 16s, 16sc   2^-21 (Bartlett 2^-22, Blackman 2^-20)
+ *     64f, 64fc              2^-45 (Bartlett 2^-51, Blackman 2^-44)
  * The Kaiser window and a Blackman window whose alpha makes its terms cancel are told apart. */
 
 /** Bartlett: w[n] = 2 n / (N-1). With N = 3 the ends become 0 whatever they were.

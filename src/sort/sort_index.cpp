@@ -2,6 +2,8 @@
 //
 // Different elements have one order, which is found the fast way. Equal ones are only seen when that is done: then the elements
 // go back to where they were, and the steps that tell their order are taken one by one.
+#include <bit>
+
 #include "frame/check.h"
 #include "sort/pairs.h"
 #include "sort/sort_keys.h"
