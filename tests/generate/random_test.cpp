@@ -86,7 +86,7 @@ template <class T> auto normalOracle(T mean, T stdDev) {
       double exact = d.next() * static_cast<double>(stdDev) + static_cast<double>(mean);
       if (std::is_integral_v<T>)
         exact = std::clamp<double>(exact, std::numeric_limits<T>::min(), static_cast<double>(std::numeric_limits<T>::max()));
-      expectNear(y, exact, 2 * std::abs(stdDev) + std::abs(exact), "");
+      expectNear(y, exact, 2 * std::abs(static_cast<double>(stdDev)) + std::abs(exact), "");
     };
   };
 }
