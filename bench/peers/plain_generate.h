@@ -10,23 +10,23 @@ namespace plain {
 
 // The standard library's generator and a scaled store.
 template <class T> struct Twister {
-  std::mt19937 source;
-  void operator()(T* dst, int n, auto...) {
+  mutable std::mt19937 source;
+  void operator()(T* dst, int n, auto...) const {
     const auto low = static_cast<float>(std::is_integral_v<T> ? -1000 : -1);
     for (int i = 0; i < n; ++i) dst[i] = static_cast<T>(low + static_cast<float>(source()) * (-low * 0x1p-31F));
   }
 };
 template <class T> struct NormalTwister {
-  std::mt19937 source;
-  std::normal_distribution<double> normal{0, std::is_integral_v<T> ? 1000 : 1};
-  void operator()(T* dst, int n, auto...) {
+  mutable std::mt19937 source;
+  mutable std::normal_distribution<double> normal{0, std::is_integral_v<T> ? 1000 : 1};
+  void operator()(T* dst, int n, auto...) const {
     for (int i = 0; i < n; ++i) dst[i] = static_cast<T>(normal(source));
   }
 };
 
 // The recurrence behind our own noise alone, one number after the other: what no way around it can beat.
 struct BorrowChain {
-  template <class T> void operator()(T* dst, int n, auto...) {
+  template <class T> void operator()(T* dst, int n, auto...) const {
     uint32_t a = 1, b = 2, c = 3, borrow = 0;
     const auto next = [&](uint32_t x, uint32_t y) {
       const uint32_t t = x - y + borrow;
@@ -50,8 +50,8 @@ template <class T> struct Fill {
 };
 
 template <class T> struct WindowTable {
-  std::vector<T> weights;
-  void operator()(T* x, int n, auto...) {
+  mutable std::vector<T> weights;
+  void operator()(T* x, int n, auto...) const {
     if (weights.size() != static_cast<size_t>(n)) {
       weights.resize(static_cast<size_t>(n));
       for (int i = 0; i < n; ++i)
