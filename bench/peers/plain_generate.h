@@ -51,14 +51,14 @@ template <class T> struct Fill {
 
 template <class T> struct WindowTable {
   mutable std::vector<T> weights;
-  void operator()(T* x, int n, auto...) const {
+  template <class X> void operator()(X* x, int n, auto...) const {
     if (weights.size() != static_cast<size_t>(n)) {
       weights.resize(static_cast<size_t>(n));
       for (int i = 0; i < n; ++i)
         weights[static_cast<size_t>(i)] = static_cast<T>(0.5 - 0.5 * std::cos(6.283185307179586 * i / (n - 1)));
     }
     const T* const w = weights.data();
-    for (int i = 0; i < n; ++i) x[i] *= w[i];
+    for (int i = 0; i < n; ++i) x[i] = static_cast<X>(static_cast<T>(x[i]) * w[i]);
   }
 };
 
