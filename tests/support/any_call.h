@@ -416,9 +416,12 @@ inline void* AnyCall::sourceInPlace(const Parameter& destination) {
 
 inline void AnyCall::spoil(const Wrong& wrong, size_t which) {
   const auto value = [&] { return wrong.values[which % wrong.values.size()]; };
+  const auto whole = [&] {
+    return static_cast<int64_t>(std::isnan(value()) ? wrong.values[0] : value());
+  };  // a row for both types
   if (wrong.kind == Refusal::kForeignRecord) pointers_[wrong.index] = vector(4096, Role::kWork, wrong.index, [](uint8_t*) {});
   if (wrong.kind == Refusal::kNull) pointers_[wrong.index] = nullptr;
-  if (wrong.kind == Refusal::kValue && integers_.count(wrong.index) != 0) integers_[wrong.index] = static_cast<int64_t>(value());
+  if (wrong.kind == Refusal::kValue && integers_.count(wrong.index) != 0) integers_[wrong.index] = whole();
   if (wrong.kind == Refusal::kValue && reals_.count(wrong.index) != 0) reals_[wrong.index] = value();
   if (wrong.kind == Refusal::kContent && pointers_[wrong.index] != nullptr) {
     for (Vector& v : vectors_) {
