@@ -27,7 +27,7 @@ std::array<double, 8> amplitudes(const std::vector<float>& block, double sampleR
     const float frequencies[] = {static_cast<float>(kTones[k] / sampleRate), static_cast<float>(kTones[k + 1] / sampleRate)};
     Qvx32fc values[2];
     check(qvxsGoertzTwo_32f(block.data(), len, values, frequencies));
-    for (size_t i = 0; i < 2; ++i) found[k + i] = 2 * std::hypot(values[i].re, values[i].im) / len;
+    for (size_t i = 0; i < 2; ++i) found[k + i] = 2 * std::hypot(values[i].re, values[i].im) / static_cast<float>(len);
   }
   return found;
 }
@@ -54,7 +54,7 @@ char keyOf(const std::vector<float>& block, const std::array<double, 8>& levels)
   double energy;
   check(qvxsDotProd_32f64f(block.data(), block.data(), static_cast<int>(block.size()), &energy));
   const double tones = (std::pow(10, low / 10) + std::pow(10, high / 10)) / 2 * static_cast<double>(block.size());
-  return tones > kShare * energy ? kKeys[4 * row + column] : 0;
+  return tones > kShare * energy ? kKeys[4 * row + column] : char{0};
 }
 
 }  // namespace

@@ -100,7 +100,7 @@ class Receiver {
     }
     check(qvxsDemodulateFM_CToR_16s(whole_[0].data(), whole_[1].data(), angle_.data(), slow, &last_));
     check(qvxsConvert_16s32f(angle_.data(), part_[0].data(), slow));
-    const double hertz = kIqRate / kFirst / 65536.0;  // of a unit of the angle
+    const double hertz = kIqRate / (65536.0 * kFirst);  // of a unit of the angle
     check(qvxsMulC_32f_I(static_cast<float>(hertz / channel_.deviation), part_[0].data(), slow));
     check(qvxsFIR_32f(part_[0].data(), filtered_.data(), slow, audioFilter_.get()));
     pick(filtered_.data(), slow, kSecond, audio);
@@ -158,7 +158,7 @@ void transmit(const Channel& channel, const std::string& audio, const Recording&
         else words.push_back(static_cast<Qvx16s>(std::lrint(32000 * part)));
       }
     }
-    if (i + 1 < x.size() && bytes.size() + words.size() < 2 * kBlock) continue;
+    if (i + 1 < x.size() && bytes.size() + words.size() < size_t{2} * kBlock) continue;
     if (!bytes.empty()) out.writeBytes(bytes.data(), static_cast<int>(bytes.size() / 2));
     if (!words.empty()) out.write(words.data(), static_cast<int>(words.size() / 2));
     bytes.clear();
