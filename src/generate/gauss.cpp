@@ -1,7 +1,7 @@
 // Normal deviates by the polar method.
-#include "frame/record.h"
 #include "frame/rounding.h"
 #include "generate/random.h"
+#include "generate/record.h"
 #include "math/ln.h"
 
 using namespace qvx;
@@ -134,20 +134,12 @@ template <class State, class T> void build(State& state, T mean, T stdDev, uint3
 }
 template <class State, class T> QvxStatus initAlloc(State** ppState, T mean, T stdDev, uint32_t seed) {
   if (isNull(ppState)) return qvxStatNullPtr;
-  return allocateRecord(ppState, sizeof(State), [=](State** made, void* block) {
-    *made = static_cast<State*>(block);
-    build(**made, mean, stdDev, seed, true);
-    return qvxStatOk;
-  });
-}
-template <class State> QvxStatus release(State* state) {
-  return releaseRecord(state, checkRecord(state, State::kId), InCallersBlock::kUntouched);
+  return allocate(ppState, sizeof(State), [=](State& made) { build(made, mean, stdDev, seed, true); });
 }
 
 template <class State, class T> QvxStatus run(T* dst, int len, State* state) {
-  if (isNull(dst) || isNull(state)) return qvxStatNullPtr;
-  if (len < 1) return qvxStatBadSize;
-  if (state->magic != State::kId) return qvxStatContextMismatch;
+  const QvxStatus status = checkRun(dst, len, state, State::kId);
+  if (status != qvxStatOk) return status;
   const Deviate<T, Order::kFactorFirst> deviate{state->mean, static_cast<double>(state->stdDev)};
   fill(dst, elements(len), deviate, state->source, state->needPair, state->waiting);
   return qvxStatOk;
@@ -176,9 +168,9 @@ QvxStatus qvxsRandGaussInit_16s(QvxsRandGaussState_16s* s, Qvx16s mean, Qvx16s s
 QvxStatus qvxsRandGaussInitAlloc_8u (QvxsRandGaussState_8u**  s, Qvx8u  mean, Qvx8u  stdDev, Qvx32u seed) { return initAlloc(s, mean, stdDev, seed); }
 QvxStatus qvxsRandGaussInitAlloc_16s(QvxsRandGaussState_16s** s, Qvx16s mean, Qvx16s stdDev, Qvx32u seed) { return initAlloc(s, mean, stdDev, seed); }
 QvxStatus qvxsRandGaussInitAlloc_32f(QvxsRandGaussState_32f** s, Qvx32f mean, Qvx32f stdDev, Qvx32u seed) { return initAlloc(s, mean, stdDev, seed); }
-QvxStatus qvxsRandGaussFree_8u (QvxsRandGaussState_8u*  s) { return release(s); }
-QvxStatus qvxsRandGaussFree_16s(QvxsRandGaussState_16s* s) { return release(s); }
-QvxStatus qvxsRandGaussFree_32f(QvxsRandGaussState_32f* s) { return release(s); }
+QvxStatus qvxsRandGaussFree_8u (QvxsRandGaussState_8u*  s) { return release(s, QvxsRandGaussState_8u::kId); }
+QvxStatus qvxsRandGaussFree_16s(QvxsRandGaussState_16s* s) { return release(s, QvxsRandGaussState_16s::kId); }
+QvxStatus qvxsRandGaussFree_32f(QvxsRandGaussState_32f* s) { return release(s, QvxsRandGaussState_32f::kId); }
 QvxStatus qvxsRandGauss_8u (Qvx8u*  d, int len, QvxsRandGaussState_8u*  s) { return run(d, len, s); }
 QvxStatus qvxsRandGauss_16s(Qvx16s* d, int len, QvxsRandGaussState_16s* s) { return run(d, len, s); }
 QvxStatus qvxsRandGauss_32f(Qvx32f* d, int len, QvxsRandGaussState_32f* s) { return run(d, len, s); }

@@ -1,5 +1,5 @@
 // Sampled cosines.
-#include "frame/record.h"
+#include "generate/record.h"
 #include "generate/wave.h"
 #include "math/spaced_sin_cos.h"
 
@@ -106,16 +106,11 @@ QvxStatus qvxsToneInitAllocQ15_16s(QvxsToneState** ppState, Qvx16s magn, Qvx16s 
   if (isNull(ppState)) return qvxStatNullPtr;
   const QvxStatus status = checkQ15(magn, rFreqQ15, phaseQ15);
   if (status != qvxStatOk) return status;
-  return allocateRecord(ppState, kBytes, [=](QvxsToneState** made, void* block) {
-    *made = static_cast<QvxsToneState*>(block);
-    build(**made, magn, rFreqQ15, phaseQ15);
-    return qvxStatOk;
-  });
+  return allocate(ppState, kBytes, [=](QvxsToneState& made) { build(made, magn, rFreqQ15, phaseQ15); });
 }
 QvxStatus qvxsToneQ15_16s(Qvx16s* dst, int len, QvxsToneState* state) {
-  if (isNull(dst) || isNull(state)) return qvxStatNullPtr;
-  if (len < 1) return qvxStatBadSize;
-  if (state->magic != kId) return qvxStatContextMismatch;
+  const QvxStatus status = checkRun(dst, len, state, kId);
+  if (status != qvxStatOk) return status;
   fillQ15(dst, elements(len), *state);
   return qvxStatOk;
 }
@@ -126,4 +121,4 @@ QvxStatus qvxsToneQ15_Direct_16s(Qvx16s* dst, int len, Qvx16s magn, Qvx16s rFreq
   if (status == qvxStatOk) fillQ15(dst, elements(len), tone);
   return status;
 }
-QvxStatus qvxsToneFree(QvxsToneState* state) { return releaseRecord(state, checkRecord(state, kId), InCallersBlock::kUntouched); }
+QvxStatus qvxsToneFree(QvxsToneState* state) { return release(state, kId); }

@@ -1,6 +1,6 @@
 // Triangle waves. Each sample comes from its own phase, a fraction of 2^64 that wraps by itself: nothing has to be folded, and
 // nothing accumulates.
-#include "frame/record.h"
+#include "generate/record.h"
 #include "generate/wave.h"
 
 using namespace qvx;
@@ -51,6 +51,19 @@ template <class V> [[gnu::always_inline]] inline V upperLine(V v, Lines lines, d
   return hn::Max(hn::Min(unit, same<V>(1)), same<V>(-1)) * same<V>(static_cast<T>(magn));
 }
 
+// N samples at a time of wave(phase); an imaginary part is a quarter of a turn late.
+template <size_t N, class T, class Wave>
+[[gnu::always_inline]] inline void putWave(T* dst, size_t n, Wave wave, uint64_t step, uint64_t phase) {
+  for (size_t at = 0; at < n; at += N, phase += N * step) {
+    if constexpr (PartsOf<T>::kCount == 1) {
+      const auto v = wave(phase);
+      putSamples(dst, at, n, v, v);
+    } else {
+      putSamples(dst, at, n, wave(phase), wave(phase - kQuarterTurn));
+    }
+  }
+}
+
 // In doubles: the first phase of a vector exact, the others a product more.
 template <class T> void fill(T* dst, size_t n, double magn, Lines lines, uint64_t step, uint64_t phase) {
   constexpr size_t N = kVectorBytes / sizeof(double);
@@ -62,14 +75,7 @@ template <class T> void fill(T* dst, size_t n, double magn, Lines lines, uint64_
     const auto v = hn::Set(d, static_cast<double>(static_cast<int64_t>(at)) * 0x1p-64) + lanes;
     return upperLine(v - hn::Round(v), lines, magn);
   };
-  for (size_t at = 0; at < n; at += N, phase += N * step) {
-    if constexpr (PartsOf<T>::kCount == 1) {
-      const auto v = wave(phase);
-      putSamples(dst, at, n, v, v);
-    } else {
-      putSamples(dst, at, n, wave(phase), wave(phase - kQuarterTurn));
-    }
-  }
+  putWave<N>(dst, n, wave, step, phase);
 }
 
 // In floats: phases of 32 bits, which are more than a float keeps.
@@ -87,14 +93,7 @@ void fill(T* dst, size_t n, double magn, Lines lines, uint64_t step, uint64_t ph
     const auto v = hn::ConvertTo(real, hn::Set(d, static_cast<int32_t>(static_cast<uint32_t>(at >> 32))) + lanes);
     return upperLine(v, scaled, magn);
   };
-  for (size_t at = 0; at < n; at += N, phase += N * step) {
-    if constexpr (PartsOf<T>::kCount == 1) {
-      const auto v = wave(phase);
-      putSamples(dst, at, n, v, v);
-    } else {
-      putSamples(dst, at, n, wave(phase), wave(phase - kQuarterTurn));
-    }
-  }
+  putWave<N>(dst, n, wave, step, phase);
 }
 
 template <class T, class Magn, class Phase> QvxStatus direct(T* dst, int len, Magn magn, Phase rFreq, Phase asym, Phase* phase) {
@@ -161,16 +160,11 @@ QvxStatus qvxsTriangleInitAllocQ15_16s(QvxsTriangleState** ppState, Qvx16s magn,
   if (isNull(ppState)) return qvxStatNullPtr;
   const QvxStatus status = checkQ15(magn, rFreqQ15, asymQ15, phaseQ15);
   if (status != qvxStatOk) return status;
-  return allocateRecord(ppState, kBytes, [=](QvxsTriangleState** made, void* block) {
-    *made = static_cast<QvxsTriangleState*>(block);
-    build(**made, magn, rFreqQ15, asymQ15, phaseQ15);
-    return qvxStatOk;
-  });
+  return allocate(ppState, kBytes, [=](QvxsTriangleState& made) { build(made, magn, rFreqQ15, asymQ15, phaseQ15); });
 }
 QvxStatus qvxsTriangleQ15_16s(Qvx16s* dst, int len, QvxsTriangleState* state) {
-  if (isNull(dst) || isNull(state)) return qvxStatNullPtr;
-  if (len < 1) return qvxStatBadSize;
-  if (state->magic != kId) return qvxStatContextMismatch;
+  const QvxStatus status = checkRun(dst, len, state, kId);
+  if (status != qvxStatOk) return status;
   fillQ15(dst, elements(len), *state);
   return qvxStatOk;
 }
@@ -181,6 +175,4 @@ QvxStatus qvxsTriangleQ15_Direct_16s(Qvx16s* dst, int len, Qvx16s magn, Qvx16s r
   if (status == qvxStatOk) fillQ15(dst, elements(len), wave);
   return status;
 }
-QvxStatus qvxsTriangleFree(QvxsTriangleState* state) {
-  return releaseRecord(state, checkRecord(state, kId), InCallersBlock::kUntouched);
-}
+QvxStatus qvxsTriangleFree(QvxsTriangleState* state) { return release(state, kId); }

@@ -1,7 +1,7 @@
 // Uniform noise.
-#include "frame/record.h"
 #include "frame/rounding.h"
 #include "generate/random.h"
+#include "generate/record.h"
 
 using namespace qvx;
 using namespace qvx::generate;
@@ -74,20 +74,12 @@ template <class State, class T> void build(State& state, T low, T high, uint32_t
 }
 template <class State, class T> QvxStatus initAlloc(State** ppState, T low, T high, uint32_t seed) {
   if (isNull(ppState)) return qvxStatNullPtr;
-  return allocateRecord(ppState, sizeof(State), [=](State** made, void* block) {
-    *made = static_cast<State*>(block);
-    build(**made, low, high, seed, true);
-    return qvxStatOk;
-  });
-}
-template <class State> QvxStatus release(State* state) {
-  return releaseRecord(state, checkRecord(state, State::kId), InCallersBlock::kUntouched);
+  return allocate(ppState, sizeof(State), [=](State& made) { build(made, low, high, seed, true); });
 }
 
 template <class State, class T> QvxStatus run(T* dst, int len, State* state) {
-  if (isNull(dst) || isNull(state)) return qvxStatNullPtr;
-  if (len < 1) return qvxStatBadSize;
-  if (state->magic != State::kId) return qvxStatContextMismatch;
+  const QvxStatus status = checkRun(dst, len, state, State::kId);
+  if (status != qvxStatOk) return status;
   fill(dst, elements(len), {state->scale, state->mid}, state->source);
   return qvxStatOk;
 }
@@ -113,9 +105,9 @@ QvxStatus qvxsRandUniformInit_16s(QvxsRandUniformState_16s* s, Qvx16s low, Qvx16
 QvxStatus qvxsRandUniformInitAlloc_8u (QvxsRandUniformState_8u**  s, Qvx8u  low, Qvx8u  high, Qvx32u seed) { return initAlloc(s, low, high, seed); }
 QvxStatus qvxsRandUniformInitAlloc_16s(QvxsRandUniformState_16s** s, Qvx16s low, Qvx16s high, Qvx32u seed) { return initAlloc(s, low, high, seed); }
 QvxStatus qvxsRandUniformInitAlloc_32f(QvxsRandUniformState_32f** s, Qvx32f low, Qvx32f high, Qvx32u seed) { return initAlloc(s, low, high, seed); }
-QvxStatus qvxsRandUniformFree_8u (QvxsRandUniformState_8u*  s) { return release(s); }
-QvxStatus qvxsRandUniformFree_16s(QvxsRandUniformState_16s* s) { return release(s); }
-QvxStatus qvxsRandUniformFree_32f(QvxsRandUniformState_32f* s) { return release(s); }
+QvxStatus qvxsRandUniformFree_8u (QvxsRandUniformState_8u*  s) { return release(s, QvxsRandUniformState_8u::kId); }
+QvxStatus qvxsRandUniformFree_16s(QvxsRandUniformState_16s* s) { return release(s, QvxsRandUniformState_16s::kId); }
+QvxStatus qvxsRandUniformFree_32f(QvxsRandUniformState_32f* s) { return release(s, QvxsRandUniformState_32f::kId); }
 QvxStatus qvxsRandUniform_8u (Qvx8u*  d, int len, QvxsRandUniformState_8u*  s) { return run(d, len, s); }
 QvxStatus qvxsRandUniform_16s(Qvx16s* d, int len, QvxsRandUniformState_16s* s) { return run(d, len, s); }
 QvxStatus qvxsRandUniform_32f(Qvx32f* d, int len, QvxsRandUniformState_32f* s) { return run(d, len, s); }

@@ -20,12 +20,10 @@ template <class W> struct Rising {
 };
 
 template <class T> QvxStatus bartlett(const T* src, T* dst, int len) {
-  if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
-  if (len < 3) return qvxStatBadSize;
-  if (len == 3) {  // zeros whatever the ends are
-    const T middle = src[1];
-    dst[0] = dst[2] = T{};
-    dst[1] = middle;
+  const QvxStatus status = checkWindow(src, dst, len);
+  if (status != qvxStatOk) return status;
+  if (len == 3) {
+    clearEnds(src, dst);
     return qvxStatOk;
   }
   const RoundingScope mode(std::is_integral_v<Part<T>> ? Rounding::kNearest : Rounding::kCallers);

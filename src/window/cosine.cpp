@@ -38,17 +38,13 @@ template <class T> void weighByCosine(const T* src, T* dst, size_t len, InSquare
 }  // namespace
 
 template <class T> QvxStatus cosineWindow(const T* src, T* dst, int len, InSquares form, int scaleFactor) {
-  if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
-  if (len < 3) return qvxStatBadSize;
-  if (len == 3 && form.c0 == 0) {  // zeros whatever the ends are
-    const T middle = src[1];
-    dst[0] = dst[2] = T{};
-    dst[1] = middle;
-    if (scaleFactor == 0) return qvxStatOk;
-  }
+  const QvxStatus status = checkWindow(src, dst, len);
+  if (status != qvxStatOk) return status;
+  const bool isCleared = len == 3 && form.c0 == 0;
+  if (isCleared) clearEnds(src, dst);
   const RoundingScope mode(kMode<T>);
   const auto factor = powerOfTwo<Qvx32f>(std::min(-int64_t{scaleFactor}, int64_t{127}));
-  if (len > 3 || form.c0 != 0) weighByCosine(src, dst, elements(len), form, factor);
+  if (!isCleared) weighByCosine(src, dst, elements(len), form, factor);
   if constexpr (std::is_same_v<T, Qvx16s>) {
     if (len % 2 != 0 && scaleFactor != 0) dst[len / 2] = roundedTo<Qvx16s>(static_cast<double>(dst[len / 2] * factor));
   }

@@ -1,7 +1,6 @@
 // The Hamming window.
-#include "frame/map.h"
-#include "frame/rounding.h"
 #include "window/cosine.h"
+#include "window/weigh.h"
 
 using namespace qvx;
 using namespace qvx::window;
@@ -16,15 +15,15 @@ template <class T> QvxStatus hamming(const T* src, T* dst, int len) {
   if constexpr (std::is_floating_point_v<Part<T>>) {
     return cosineWindow(src, dst, len, kHamming);
   } else {
-    if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
-    if (len < 3) return qvxStatBadSize;
+    const QvxStatus status = checkWindow(src, dst, len);
+    if (status != qvxStatOk) return status;
     const RoundingScope nearest(Rounding::kNearest);
     const T first = atEnd(src[0]);
     const T last = atEnd(src[len - 1]);
-    const QvxStatus status = cosineWindow(src, dst, len, kHamming);
+    cosineWindow(src, dst, len, kHamming);
     dst[0] = first;
     dst[len - 1] = last;
-    return status;
+    return qvxStatOk;
   }
 }
 

@@ -6,6 +6,18 @@
 
 namespace qvx::window {
 
+// N = 3 where a window is 0 at both ends: zeros whatever they were.
+template <class T> void clearEnds(const T* src, T* dst) {
+  const T middle = src[1];
+  dst[0] = dst[2] = T{};
+  dst[1] = middle;
+}
+
+template <class T> QvxStatus checkWindow(const T* src, const T* dst, int len) {
+  if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
+  return len < 3 ? qvxStatBadSize : qvxStatOk;
+}
+
 // In what the weights of an element are made.
 template <class T> using Weight = std::conditional_t<std::is_same_v<Part<T>, Qvx64f>, Qvx64f, Qvx32f>;
 
