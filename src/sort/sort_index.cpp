@@ -5,9 +5,9 @@
 #include <bit>
 
 #include "frame/check.h"
+#include "sort/documented_order.h"
 #include "sort/pairs.h"
 #include "sort/sort_keys.h"
-#include "sort/told_order.h"
 
 using namespace qvx;
 
@@ -30,7 +30,7 @@ template <class T> [[gnu::noinline]] void restore(T* x, int32_t* places, size_t 
 
 template <Order kOrder, class T> void sortAsTold(T* x, int32_t* places, size_t n) {
   fillNumbers(places, n);
-  ToldOrder<kOrder, T>(x, places).sort(static_cast<ptrdiff_t>(n), kUnlimited);
+  DocumentedOrder<kOrder, T>(x, places).sort(static_cast<ptrdiff_t>(n), kUnlimited);
 }
 
 // ---- 8 and 16 bits: as many different elements as there can be have places that fit beside them into 32 bits
@@ -123,7 +123,7 @@ template <Order kOrder> bool sortDifferent(double* x, int32_t* places, size_t n)
   fillNumbers(places, n);
   // Random elements take 1.2 to 1.4 n log2 n.
   const double usual = static_cast<double>(n) * std::bit_width(n);
-  if (ToldOrder<kOrder, double>(x, places).sort(static_cast<ptrdiff_t>(n), 4 * usual)) return true;
+  if (DocumentedOrder<kOrder, double>(x, places).sort(static_cast<ptrdiff_t>(n), 4 * usual)) return true;
   sortHeap<kOrder>(x, places, n);
   bool isDone = true;
   for (size_t i = 1; i < n; ++i) isDone &= kOrder == Order::kAscending ? x[i - 1] < x[i] : x[i - 1] > x[i];

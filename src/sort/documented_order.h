@@ -7,10 +7,10 @@
 
 namespace qvx {
 
-template <Order kOrder, class T> class ToldOrder {
+template <Order kOrder, class T> class DocumentedOrder {
  public:
   // numbers[] goes along with x.
-  ToldOrder(T* x, int32_t* numbers) : x_(x), numbers_(numbers) {}
+  DocumentedOrder(T* x, int32_t* numbers) : x_(x), numbers_(numbers) {}
 
   // Gives up, somewhere between, when partitions have looked at more than `most` elements: whether it came to the end.
   bool sort(ptrdiff_t n, double most) {
