@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <stdexcept>
 
 #include "../support/audio.h"
@@ -42,7 +43,7 @@ void addTo(Meter& meter, const Qvx32f* samples, int frames, int channels) {
   while (frames > 0) {
     const int part = std::min(frames, meter.room());
     meter.add(samples, part);
-    samples += part * channels;
+    samples += std::ptrdiff_t{part} * channels;
     frames -= part;
   }
 }
@@ -57,7 +58,7 @@ Levels levelsOf(const std::string& path, double blockSeconds) {
   const auto samples = vector(qvxsMalloc_32f(kBlockFrames * channels));
   for (int frames; (frames = file.read(samples.get())) > 0;) {
     const auto isFinite = [](Qvx32f x) { return std::isfinite(x); };
-    if (!std::all_of(samples.get(), samples.get() + frames * channels, isFinite))
+    if (!std::all_of(samples.get(), samples.get() + std::ptrdiff_t{frames} * channels, isFinite))
       throw std::runtime_error(path + ": holds samples that are no finite numbers");
     addTo(blocks, samples.get(), frames, channels);
     addTo(seconds, samples.get(), frames, channels);
