@@ -50,15 +50,15 @@ below 1 is listed at the end of its section. [measurements.tsv](performance/meas
 )";
 
 // Two decimals are printed: below 1 is what is printed so.
-bool isBehind(double ratio) { return std::lround(100 * ratio) < 100; }
-bool isFarBehind(double ratio) { return ratio < 0.95; }
+bool isBelow(double ratio) { return std::lround(100 * ratio) < 100; }
+bool isFarBelow(double ratio) { return ratio < 0.95; }
 
 std::string number(double v) {
   char text[32];
   std::snprintf(text, sizeof text, v < 9.995 ? "%.2f" : v < 99.95 ? "%.1f" : "%.0f", v);
   return text;
 }
-std::string ratioText(double ratio) { return isBehind(ratio) ? "**" + number(ratio) + "**" : number(ratio); }
+std::string ratioText(double ratio) { return isBelow(ratio) ? "**" + number(ratio) + "**" : number(ratio); }
 std::string timeText(double ns) {
   if (ns < 999.5) return number(ns) + " ns";
   return ns < 999500 ? number(ns / 1e3) + " µs" : number(ns / 1e6) + " ms";
@@ -139,8 +139,8 @@ void summary(std::ostream& out, const Measurements& all, const std::vector<Secti
   const auto line = [&](const std::string& title, const Measurements& cells, const Section* section) {
     const auto worst = *std::min_element(cells.begin(), cells.end(),
                                          [](const Measurement& a, const Measurement& b) { return a.ratio() < b.ratio(); });
-    out << "| " << title << " | " << cells.size() << " | " << ratioText(mean(cells)) << " | " << both(cells, isBehind) << " | "
-        << both(cells, isFarBehind) << " | " << ratioText(worst.ratio());
+    out << "| " << title << " | " << cells.size() << " | " << ratioText(mean(cells)) << " | " << both(cells, isBelow) << " | "
+        << both(cells, isFarBelow) << " | " << ratioText(worst.ratio());
     if (section) out << " `" << worst.name << "` at " << lengthOf(*section, worst.n) << ", " << worst.peer;
     out << " |\n";
   };
@@ -158,8 +158,8 @@ void summary(std::ostream& out, const Measurements& all, const std::vector<Secti
   std::vector<std::pair<std::string, Measurements>> peers(byPeer.begin(), byPeer.end());
   std::stable_sort(peers.begin(), peers.end(), [](const auto& a, const auto& b) { return a.second.size() > b.second.size(); });
   for (const auto& [peer, cells] : peers) {
-    out << "| " << peer << " | " << cells.size() << " | " << ratioText(mean(cells)) << " | " << countIf(cells, isBehind) << " | "
-        << countIf(cells, isFarBehind) << " |\n";
+    out << "| " << peer << " | " << cells.size() << " | " << ratioText(mean(cells)) << " | " << countIf(cells, isBelow) << " | "
+        << countIf(cells, isFarBelow) << " |\n";
   }
 }
 
@@ -190,8 +190,8 @@ void lines(std::ostream& out, const Measurements& cells, const std::string& name
 }
 
 // All cells below 1, a line for an export and a peer.
-void behind(std::ostream& out, const Section& section, const Measurements& cells) {
-  const auto count = countIf(cells, isBehind);
+void cellsBelow(std::ostream& out, const Section& section, const Measurements& cells) {
+  const auto count = countIf(cells, isBelow);
   if (count == 0) {
     out << "\nNo comparison of " << cells.size() << " is below 1.\n";
     return;
@@ -199,7 +199,7 @@ void behind(std::ostream& out, const Section& section, const Measurements& cells
   out << "\n<details><summary>" << count << " of " << cells.size() << " comparisons below 1</summary>\n\n";
   std::string last;
   for (const Measurement& m : cells) {
-    if (!isBehind(m.ratio())) continue;
+    if (!isBelow(m.ratio())) continue;
     const std::string head = "- `" + m.name + "` beside " + m.peer + ":";
     if (head != last) out << (last.empty() ? "" : "\n") << head;
     else out << ",";
@@ -224,7 +224,7 @@ void write(std::ostream& out, const Section& section, const Measurements& all) {
   std::stable_sort(cells.begin(), cells.end(), [](const Measurement& a, const Measurement& b) {
     return std::tie(a.family, a.name, a.peer) < std::tie(b.family, b.name, b.peer);
   });
-  behind(out, section, cells);
+  cellsBelow(out, section, cells);
 }
 
 // Families that no section names, whole.

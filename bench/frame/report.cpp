@@ -9,7 +9,7 @@ namespace bench {
 
 namespace {
 
-constexpr double kBehind = 0.95;
+constexpr double kPastEnd = 0.95;
 
 std::string columns(const std::vector<int>& sizes) {
   std::string names = "| export | peer |";
@@ -88,9 +88,9 @@ void Report::keep(const Case& c, size_t size, const Times& times) {
 void Report::tail() const {
   std::vector<Measurement> behind;
   std::copy_if(measurements_.begin(), measurements_.end(), std::back_inserter(behind),
-               [](const Measurement& m) { return m.ratio() < kBehind; });
+               [](const Measurement& m) { return m.ratio() < kPastEnd; });
   std::sort(behind.begin(), behind.end(), [](const Measurement& a, const Measurement& b) { return a.ratio() < b.ratio(); });
-  std::printf("\n## Behind a peer: %zu of %zu cells below %.2f\n\n", behind.size(), measurements_.size(), kBehind);
+  std::printf("\n## Behind a peer: %zu of %zu cells below %.2f\n\n", behind.size(), measurements_.size(), kPastEnd);
   for (const Measurement& m : behind)
     std::printf("- %.2f %s, n=%s, %s\n", m.ratio(), m.name.c_str(), lengthText(m.n).c_str(), m.peer.c_str());
   std::printf("\n## Geometric mean of the ratios\n\n");

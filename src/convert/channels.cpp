@@ -172,7 +172,7 @@ template <class Sample> void join16(Sample sample, const Qvx32f* const* src, siz
   }
 }
 
-// A channel each for what a kernel gives.
+// Destinations: a channel for each vector that a kernel gives.
 template <size_t K> struct Channels {
   using Lane = Qvx32f;
   Qvx32f* const* p;

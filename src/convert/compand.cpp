@@ -68,7 +68,7 @@ struct HalfOfALaw {
   }
 };
 
-// All numbers are normal, and the bias of 33 is taken off again. The zero has no sign, whichever the code's is.
+// All numbers are normal, and the bias of 33 is taken off again. Zero is positive, whatever the code's sign.
 struct HalfOfMuLaw {
   template <class V> auto operator()(V code) const {
     const auto x = asHalf(code, int8_t{-1}, 0x420);

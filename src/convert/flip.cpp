@@ -1,4 +1,4 @@
-// Vectors from their last element to their first.
+// Vectors in reverse order.
 #include "frame/flip.h"
 
 using namespace qvx;

@@ -1,8 +1,7 @@
 // Floats to integers with a scale factor and a round mode.
 //
 // Values are clipped as floats, so that no element needs a branch: against the upper limit by a minimum that gives the limit
-// for what is not a number, while what lies below the range converts to the most negative integer and saturates on the way to
-// a narrower type.
+// for NaN, while values below the range convert to the most negative integer and saturate on the way to a narrower type.
 #include <cmath>
 
 #include "frame/packed24.h"
@@ -45,7 +44,7 @@ template <class T> QvxStatus toNarrow(const Qvx32f* src, T* dst, int len, QvxRou
   });
 }
 
-// 24 bits: clipped from below first, so that what is not a number becomes the lower limit.
+// 24 bits: clipped from below first, so that NaN becomes the lower limit.
 template <class T> QvxStatus to24(const Qvx32f* src, Qvx8u* dst, int len, int scaleFactor) {
   using Range = Range24<T>;
   const QvxStatus status = check(len, src, dst);
@@ -58,7 +57,7 @@ template <class T> QvxStatus to24(const Qvx32f* src, Qvx8u* dst, int len, int sc
   return loop([=](auto quad) { return each(quad, toInts); }, To24<Qvx32s>{dst}, elements(len), Quads{src});
 }
 
-// 64-bit floats to 64 bits. What is not a number, and everything if the factor underflows, gives 0.
+// 64-bit floats to 64 bits. NaN gives 0, and so does everything if the factor underflows.
 template <int kMode, bool kTwoFactors> struct ToInt64 {
   double factor1;
   double factor2;  // where one would overflow
@@ -72,7 +71,7 @@ template <int kMode, bool kTwoFactors> struct ToInt64 {
       const auto up = hn::Abs(v - whole) >= same<V>(0.5);
       whole = whole + hn::IfThenElseZero(up, hn::CopySignToAbs(same<V>(1.0), v));
     }
-    // What is too small has the most negative integer from the conversion, on all variants if it is sent to just there.
+    // Values below the range convert to the most negative integer; clamped to just that, they do in all variants.
     const auto number = toInt64(hn::Max(whole, same<V>(-0x1p63)));
     using N = std::remove_const_t<decltype(number)>;
     const hn::Rebind<int64_t, TagOf<V>> di;

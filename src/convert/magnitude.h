@@ -60,7 +60,7 @@ template <class V> auto measured(Pair<V> x, double whole = 0) {
   }
 }
 
-// numerator / sqrt(square), off by 2^-40.6 of it at most; no number where the square is 0 or infinite. The root of 14 bits gets a
+// numerator / sqrt(square), off by 2^-40.6 of it at most; NaN where the square is 0 or infinite. The estimate of 14 bits gets a
 // step of third order.
 template <class Arithmetic, class W> W nearQuotientByRoot(W numerator, W square) {
   const W near = nearReciprocalRoot(square);

@@ -48,7 +48,7 @@ QvxStatus qvxsConvert_32s16s_Sfs(const Qvx32s* a, Qvx16s* d, int len, int sf) {
   if (status != qvxStatOk) return status;
   if (sf > 15) return to16(a, d, len, [s = std::min(sf, 31)](auto v) { return roundedShift(v, s); });
   if (sf > 0) {
-    // What the limit takes off is far beyond 16 bits, and leaves room for the half.
+    // The limit is far beyond 16 bits and leaves room to add the half.
     const Qvx32s most = INT32_MAX - (1 << (sf - 1));
     return to16(a, d, len, [=](auto v) { return roundedShiftRoomy(hn::Min(v, same<decltype(v)>(most)), sf); });
   }

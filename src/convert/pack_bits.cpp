@@ -5,7 +5,7 @@ using namespace qvx;
 
 namespace {
 
-// Gathers bits at the low end of 64, and hands on eight whole bytes at a time.
+// Collects bits at the low end of 64 and stores eight whole bytes at a time.
 class BitWriter {
  public:
   BitWriter(Qvx8u* to, int kept) : to_(to), count_(kept), bits_(kept > 0 ? *to >> (8 - kept) : 0) {}

@@ -9,7 +9,7 @@ using namespace qvx;
 
 namespace {
 
-// Floats in lanes of their own where a remainder can be had, else in doubles.
+// Floats in float lanes where a fused multiplication gives the remainder of a division, else in doubles.
 struct Angle {
   template <class V> auto operator()(V re, V im) const {
     if constexpr (sizeof(LaneOf<V>) == 8 || kFuses) {
@@ -26,7 +26,7 @@ struct Angle {
   template <class V> auto operator()(Pair<V> z) const { return (*this)(z.lo, z.hi); }
 };
 
-// Integers times 2^-scaleFactor: the angle is rounded to a float, and times the factor, with a half added, it is one still.
+// Integers times 2^-scaleFactor: the angle, rounded to a float, times the factor, plus a half, is still exact in a float.
 template <class T> struct AngleScaled {
   float factor;
 
@@ -52,7 +52,7 @@ template <class T, class... Src> QvxStatus scaledPhase(T* dst, int len, int scal
   return loop<double>(kernel, destination(dst), elements(len), source(src)...);
 }
 
-// The magnitude's status stands before the phase's, which is computed all the same.
+// The magnitude's status comes first; the phase is computed all the same.
 QvxStatus both(QvxStatus magnitude, QvxStatus phase) { return magnitude != qvxStatOk ? magnitude : phase; }
 
 }  // namespace

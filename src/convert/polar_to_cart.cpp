@@ -42,7 +42,7 @@ struct ToCartScaled {
     const auto turn = sinCos<53>(angle * same<F>(phaseFactor));
     const auto length = convertLanes<double>(magnitude) * same<F>(magnitudeFactor);
     const auto toLane = [](F v) {
-      // Below the range of 32 bits the conversion has its most negative integer.
+      // Below the range of 32 bits the conversion gives the most negative integer.
       constexpr double kMost = std::numeric_limits<LaneOf<V>>::max();
       return convertLanes<LaneOf<V>>(toIntNearest(hn::Min(v, same<F>(kMost))));
     };
@@ -59,7 +59,7 @@ QvxStatus toScaled(const T* magnitude, const T* phase, C* dst, int len, int magn
   return loop<double>(kernel, InterleavedDestination<T>{parts(dst)}, elements(len), source(magnitude), source(phase));
 }
 
-// A phase with its point at one of the integer's places.
+// A phase in fixed point.
 template <int kMostPlaces, class T, class C> QvxStatus toFixed(const T* magnitude, const T* phase, int point, C* dst, int len) {
   const QvxStatus status = check(len, magnitude, phase, dst);
   if (status != qvxStatOk) return status;

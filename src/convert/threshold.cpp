@@ -1,7 +1,7 @@
 // Real elements clipped to a level or replaced beyond it.
 //
 // The element is always the second operand of a maximum or minimum: that is what the instruction gives when the two are equal or
-// one of them is not a number, so that it stays as it is, to the bit.
+// one of them is a NaN, so that it stays as it is, to the bit.
 #include "convert/level.h"
 
 using namespace qvx;
@@ -27,8 +27,8 @@ struct ReplaceOutside {
   }
 };
 
-// Level is not negative. Floats have their sign apart from the magnitude; the magnitude of the least integer is no integer, so
-// integers are compared on either side of zero.
+// Level is not negative. A float's sign is a bit beside its magnitude; the magnitude of the least integer does not fit its
+// type, so integers are compared on either side of zero.
 struct RaiseMagnitude {
   template <class V> V operator()(V x, V level) const {
     if constexpr (std::is_floating_point_v<LaneOf<V>>) {

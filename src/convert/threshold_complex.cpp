@@ -39,7 +39,7 @@ template <Side kSide> struct ReplaceSingle {
   }
 };
 
-// level / |x| * x. Most vectors have nothing to clip, and then a root and a division less to wait for.
+// level / |x| * x. Most vectors have nothing to clip, and skip the root and the division.
 template <Side kSide> struct Clip {
   double level;
 
@@ -94,7 +94,7 @@ template <Side kSide> struct Clip {
     return {hn::IfThenElse(m.isZero(), hn::CopySign(same<W>(level), m.value.lo), v.lo),
             hn::IfThenElse(m.isZero(), hn::CopySign(same<W>(0), m.value.hi), v.hi)};
   }
-  // So has an infinite element.
+  // So does an infinite element.
   template <class W> Pair<W> lowered(const Measured<W>& m) const {
     if (!isAny(m.isInfinite(), m.square)) [[likely]]
       return onLevel(m.value, m.square);
@@ -144,7 +144,7 @@ template <Side kSide> struct Replace16 {
 
 // part * level / sqrt(square) to the nearest integer without any rounding before: the square of twice the quotient is compared
 // with that of an odd number. Both have less than 64 bits. They are never equal: a hypotenuse in lowest terms is odd, so there is
-// no middle of two integers to meet.
+// no tie.
 int32_t exactPart(int32_t part, uint32_t square, int level) {
   const uint64_t product = static_cast<uint64_t>(std::abs(part)) * static_cast<uint64_t>(level);
   const auto isAbove = [twice = 4 * product * product, square](uint64_t odd) { return twice > odd * odd * square; };
@@ -183,13 +183,13 @@ template <Side kSide> struct Clip16 {
   }
 
  private:
-  // What may lie between a quotient of floats and the true one, as a part of it: 2.5 roundings to nearest, twice as much in other
+  // The relative error of a quotient of floats: 2.5 roundings to nearest, twice as much in other
   // modes, and another where the product cannot be fused.
   static constexpr float kError = kQuietByInstruction ? 0x1.5p-23F : 0x1p-21F;
 
   template <class F> static auto isNearest(F whole, F part, F factor) {
-    const F behind = hn::Abs(hn::MulSub(part, factor, whole));
-    return behind < hn::NegMulAdd(hn::Abs(whole), same<F>(kError), same<F>(0.5F - 0x1p-22F));
+    const F distance = hn::Abs(hn::MulSub(part, factor, whole));
+    return distance < hn::NegMulAdd(hn::Abs(whole), same<F>(kError), same<F>(0.5F - 0x1p-22F));
   }
 
   template <class W, class M> auto clipped(W less1, M beyond, W both, W re, W im) const {
@@ -210,15 +210,15 @@ template <Side kSide> struct Clip16 {
     const auto beyond = passes<kSide>(less1, level);
     using W = std::remove_const_t<decltype(less1)>;
     const W both = as<int32_t>(x);
-    // A zero counts as a one here, so that its quotients are numbers.
+    // A zero counts as a one here, so that its quotients are no NaN.
     const auto perLevel = factorOf(hn::Max(less1, same<W>(0)));
     const auto re = convertLanes<double>(hn::ShiftRight<16>(hn::ShiftLeft<16>(both))) * perLevel;
     const auto im = convertLanes<double>(hn::ShiftRight<16>(both)) * perLevel;
     const W wholeRe = toIntNearest(re);
     const W wholeIm = toIntNearest(im);
-    const auto behind = hn::Max(hn::Abs(re - convertLanes<double>(wholeRe)), hn::Abs(im - convertLanes<double>(wholeIm)));
-    using F = std::remove_const_t<decltype(behind)>;
-    if (!hn::AllTrue(TagOf<F>(), behind < same<F>(0.5 - 0x1p-30))) [[unlikely]]
+    const auto distance = hn::Max(hn::Abs(re - convertLanes<double>(wholeRe)), hn::Abs(im - convertLanes<double>(wholeIm)));
+    using F = std::remove_const_t<decltype(distance)>;
+    if (!hn::AllTrue(TagOf<F>(), distance < same<F>(0.5 - 0x1p-30))) [[unlikely]]
       return as<int16_t>(hn::IfThenElse(beyond, exact(both, less1), both));
     return clipped(less1, beyond, both, wholeRe, wholeIm);
   }

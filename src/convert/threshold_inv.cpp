@@ -15,7 +15,7 @@ template <class T> struct Reciprocal {
   T level;
 
   template <class V> V operator()(Flag& flag, V x) const {
-    const V raised = Quiet::max(same<V>(level), hn::Abs(x));  // an x that is not a number stays
+    const V raised = Quiet::max(same<V>(level), hn::Abs(x));  // a NaN stays
     const auto bits = as<hwy::UnsignedFromSize<sizeof(T)>>(raised);
     using Bits = std::remove_const_t<decltype(bits)>;
     flag.raise(TagOf<Bits>(), bits == same<Bits>(0));
@@ -52,8 +52,7 @@ struct ComplexReciprocal {
  private:
   static constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-  // Zeros, infinities and what is not a number, which the arithmetic alone would all make into the last. Every variant gives that
-  // one with the same bits.
+  // Zeros, infinities and NaN, which the arithmetic alone would all turn into NaN. Every variant gives NaN the same bits.
   template <class W> W special(const Measured<W>& m, W part, double ofZero, W inverse) const {
     inverse = hn::IfThenElse(m.square == m.square, inverse, same<W>(std::numeric_limits<double>::quiet_NaN()));
     inverse = hn::IfThenElse(m.isInfinite(), hn::CopySign(same<W>(0), part), inverse);
@@ -64,12 +63,12 @@ struct ComplexReciprocal {
 
 template <class V> [[gnu::noinline]] V silently(Flag& flag, V x, double level) {
   const SilentScope silent;
-  // By value they belong to no memory that could keep the arithmetic within the scope.
+  // Taken by value: memory would not keep the arithmetic within the scope.
   const auto pinned = [](V v) { return V{RoundingScope::pinned(v.raw)}; };
   return pinned(inTurn(ComplexReciprocal{level}(flag, partsOf(pinned(x)))));
 }
 
-// The same for 32-bit elements without an exception. Special ones are left to the other.
+// The same for 32-bit elements without an exception. Special ones are left to the struct above.
 template <class Arithmetic> struct QuietComplexReciprocal {
   static constexpr QvxStatus kWarning = qvxWarnInvZero;
   double level;
@@ -85,7 +84,7 @@ template <class Arithmetic> struct QuietComplexReciprocal {
   template <class V> V operator()(Flag& flag, V x) const {
     const auto value = inDoubles(x);
     const auto square = squareOf(value);
-    // Comparisons of floats raise exceptions; the bits of squares compare as they do, and no numbers are the greatest. Unsigned,
+    // Comparisons of floats raise exceptions; the bits of squares compare as they do, with NaN the greatest. Unsigned,
     // one comparison tells those from the level to infinity, but for zero.
     const auto bits = as<uint64_t>(square);
     using Bits = std::remove_const_t<decltype(bits)>;
@@ -155,7 +154,7 @@ template <Lengths kLengths, class T> QvxStatus inverse(const T* src, T* dst, int
   const QvxStatus status = checkLevel(len, src, dst, level);
   if (status != qvxStatOk) return status;
   const auto run = [=] {
-    return inverted<kLengths, AsIs>(Reciprocal<T>{level}, destination(dst), elements(len), OnesBehind{src});
+    return inverted<kLengths, AsIs>(Reciprocal<T>{level}, destination(dst), elements(len), OnesPastEnd{src});
   };
   if constexpr (kQuietByInstruction) {
     return run();
@@ -169,11 +168,11 @@ template <Lengths kLengths, class T> QvxStatus complexInverse(const T* src, T* d
   const QvxStatus status = checkLevel<T>(len, src, dst, level);
   if (status != qvxStatOk) return status;
   if constexpr (kQuietByInstruction && std::is_same_v<T, Qvx32fc>) {
-    return inverted<kLengths, AsIs>(QuietComplexReciprocal<Quiet>{level}, destination(dst), 2 * elements(len), OnesBehind{src});
+    return inverted<kLengths, AsIs>(QuietComplexReciprocal<Quiet>{level}, destination(dst), 2 * elements(len), OnesPastEnd{src});
   } else {
     const SilentScope silent;
     return inverted<kLengths, InDoubles>(ComplexReciprocal{level}, InterleavedDestination<Part<T>>{parts(dst)}, elements(len),
-                                         deinterleavedOnesBehind(src));
+                                         deinterleavedOnesPastEnd(src));
   }
 }
 

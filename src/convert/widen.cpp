@@ -16,7 +16,7 @@ template <class T, class From> QvxStatus from24(From source, T* dst, int len) {
   return loop([](auto quad) { return each(quad, Into<T>()); }, Quads{dst}, elements(len), source);
 }
 
-// Times an exact power of two; the limits keep its exponent a normal one.
+// Multiplied by an exact power of two; the limits keep that a normal number.
 template <class T, class From> QvxStatus scaledFloat(const From* src, T* dst, int len, int scaleFactor) {
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;

@@ -72,7 +72,7 @@ requires std::is_floating_point_v<Part<H>> QvxStatus setTaps(IntegerRecord<S, T>
   const double scale = powerOfTwo<double>(-factor);
   setReduced(record, taps, factor, [=](float part) {
     const double tap = part * scale;
-    if (!(std::abs(tap) < 0x1p62)) return Qvx32s{0};  // no number, or none that an integer could stand for
+    if (!(std::abs(tap) < 0x1p62)) return Qvx32s{0};  // NaN, or too large for an integer
     return static_cast<Qvx32s>(static_cast<int64_t>(tap + std::copysign(0.5, tap)));
   });
   return qvxStatOk;

@@ -86,7 +86,7 @@ template <class T> QvxStatus oneSample(const T* x, T* y, const T* taps, int taps
 
 // ---- samples of another type: one by one
 
-// Saturated, rounded half away from zero by adding a half. What is not a number becomes the upper limit.
+// Saturated, rounded half away from zero by adding a half. NaN becomes the upper limit.
 template <class T, class F> T rounded(F v) {
   if constexpr (std::is_floating_point_v<T>) {
     return static_cast<T>(v);

@@ -5,8 +5,8 @@
 
 namespace qvx {
 
-// Interleaved parts, as a Pair of the real and the imaginary ones. kBehind: the real part of what stands past the end.
-template <class T, int kBehind = 0> struct Deinterleaved {
+// Interleaved parts, as a Pair of the real and the imaginary ones. kPastEnd: the real part of what stands past the end.
+template <class T, int kPastEnd = 0> struct Deinterleaved {
   using Lane = T;
   const T* p;
 
@@ -19,18 +19,18 @@ template <class T, int kBehind = 0> struct Deinterleaved {
     const size_t low = std::min(2 * n, N);
     const auto high = 2 * n == low ? hn::Zero(d) : loadFirst(d, p + 2 * at + low, 2 * n - low);
     auto both = deinterleaved(Pair<Vec<Lanes<T, N>>>{loadFirst(d, p + 2 * at, low), high});
-    if constexpr (kBehind != 0) both.lo = hn::IfThenElse(hn::FirstN(d, n), both.lo, hn::Set(d, T{kBehind}));
+    if constexpr (kPastEnd != 0) both.lo = hn::IfThenElse(hn::FirstN(d, n), both.lo, hn::Set(d, T{kPastEnd}));
     return both;
   }
   Deinterleaved from(size_t at) const { return {p + 2 * at}; }
 };
 template <class T> Deinterleaved<Part<T>> deinterleaved(const T* p) { return {parts(p)}; }
-template <class T> Deinterleaved<Part<T>, 1> deinterleavedOnesBehind(const T* p) { return {parts(p)}; }
+template <class T> Deinterleaved<Part<T>, 1> deinterleavedOnesPastEnd(const T* p) { return {parts(p)}; }
 
 // The same as a Complex, N of each part, whose elements stand in another order: that costs a shuffle within blocks of 128 bits,
-// a third of one across them. For reductions, and for ComplexDestination, which puts them back. kBehind: the real part of what
+// a third of one across them. For reductions, and for ComplexDestination, which puts them back. kPastEnd: the real part of what
 // stands past the end.
-template <class T, int kBehind = 0> struct ByParts {
+template <class T, int kPastEnd = 0> struct ByParts {
   using Lane = Part<T>;
   const T* p;
 
@@ -44,7 +44,7 @@ template <class T, int kBehind = 0> struct ByParts {
     const auto first = loadFirst(d, parts(p + at), low);
     auto z = evenAndOdd(first, 2 * n == low ? hn::Zero(d) : loadFirst(d, parts(p + at) + low, 2 * n - low));
     // Within one block, which a partial vector is, the order is that of the elements.
-    if constexpr (kBehind != 0) z.re = hn::IfThenElse(hn::FirstN(d, n), z.re, hn::Set(d, Lane{kBehind}));
+    if constexpr (kPastEnd != 0) z.re = hn::IfThenElse(hn::FirstN(d, n), z.re, hn::Set(d, Lane{kPastEnd}));
     return z;
   }
   ByParts from(size_t at) const { return {p + at}; }
@@ -117,10 +117,10 @@ template <class T> struct InterleavedDestination {
   InterleavedDestination from(size_t at) const { return {p + 2 * at}; }
 };
 
-template <class T, int kBehind> Deinterleaved<T, kBehind> source(Deinterleaved<T, kBehind> v) { return v; }
-template <class T, int kBehind> const T* pointerOf(Deinterleaved<T, kBehind> v) { return v.p; }
-template <class T, int kBehind> ByParts<T, kBehind> source(ByParts<T, kBehind> v) { return v; }
-template <class T, int kBehind> const T* pointerOf(ByParts<T, kBehind> v) { return v.p; }
+template <class T, int kPastEnd> Deinterleaved<T, kPastEnd> source(Deinterleaved<T, kPastEnd> v) { return v; }
+template <class T, int kPastEnd> const T* pointerOf(Deinterleaved<T, kPastEnd> v) { return v.p; }
+template <class T, int kPastEnd> ByParts<T, kPastEnd> source(ByParts<T, kPastEnd> v) { return v; }
+template <class T, int kPastEnd> const T* pointerOf(ByParts<T, kPastEnd> v) { return v.p; }
 template <class T> InterleavedDestination<T> destination(InterleavedDestination<T> v) { return v; }
 
 // map() for operations on the parts: dst = Op(sources...) over len complex elements.

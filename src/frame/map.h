@@ -79,28 +79,28 @@ template <class T> struct Constant {
 template <class T> Constant(T) -> Constant<T>;
 
 // For kernels that report zeros as errors: lanes past the end hold ones instead of zeros.
-template <class T> struct OnesBehind {
+template <class T> struct OnesPastEnd {
   using Lane = Part<T>;
   const T* p;
 
   template <size_t N> auto get(size_t at) const { return load(Lanes<Lane, N>(), parts(p) + at); }
   template <size_t N> auto get(size_t at, size_t n) const { return loadFirstOr(Lanes<Lane, N>(), parts(p) + at, n, Lane{1}); }
-  OnesBehind from(size_t at) const { return {p + at / PartsOf<T>::kCount}; }
+  OnesPastEnd from(size_t at) const { return {p + at / PartsOf<T>::kCount}; }
 };
 
-template <class T> OnesBehind(const T*) -> OnesBehind<T>;
-template <class T> OnesBehind(T*) -> OnesBehind<T>;
+template <class T> OnesPastEnd(const T*) -> OnesPastEnd<T>;
+template <class T> OnesPastEnd(T*) -> OnesPastEnd<T>;
 
 // For reductions: lanes past the end hold a neutral element. It is passed by address, since a float beside a pointer would travel
 // through the stack.
 template <class T> struct PaddedWith {
   using Lane = T;
-  const T* behind;
+  const T* padding;
   const T* p;
 
   template <size_t N> auto get(size_t at) const { return load(Lanes<T, N>(), p + at); }
-  template <size_t N> auto get(size_t at, size_t n) const { return loadFirstOr(Lanes<T, N>(), p + at, n, *behind); }
-  PaddedWith from(size_t at) const { return {behind, p + at}; }
+  template <size_t N> auto get(size_t at, size_t n) const { return loadFirstOr(Lanes<T, N>(), p + at, n, *padding); }
+  PaddedWith from(size_t at) const { return {padding, p + at}; }
 };
 
 template <class T> PaddedWith(const T*, const T*) -> PaddedWith<T>;
@@ -166,7 +166,7 @@ template <class T> Source<T> source(const T* p) { return {parts(p)}; }
 template <class T> Constant<T> source(Constant<T> c) { return c; }
 template <class T> Doubled<T> source(Doubled<T> d) { return d; }
 template <class T> Beside<T> source(Beside<T> v) { return v; }
-template <class T> OnesBehind<T> source(OnesBehind<T> v) { return v; }
+template <class T> OnesPastEnd<T> source(OnesPastEnd<T> v) { return v; }
 template <class T> InPairs<T> source(InPairs<T> v) { return v; }
 inline Places source(Places places) { return places; }
 template <class T> Destination<T> destination(T* p) { return {parts(p)}; }
@@ -174,7 +174,7 @@ template <class T> Destination<T> destination(T* p) { return {parts(p)}; }
 template <class T> const T* pointerOf(const T* p) { return p; }
 template <class T> const T* pointerOf(Doubled<T> d) { return d.p; }
 template <class T> const T* pointerOf(Beside<T> v) { return v.p; }
-template <class T> const T* pointerOf(OnesBehind<T> v) { return v.p; }
+template <class T> const T* pointerOf(OnesPastEnd<T> v) { return v.p; }
 template <class T> const T* pointerOf(InPairs<T> v) { return v.p; }
 inline constexpr char kNotNull = 0;
 template <class T> const char* pointerOf(Constant<T>) { return &kNotNull; }
@@ -238,7 +238,7 @@ template <class Kernel, class Watch> QvxStatus statusOf([[maybe_unused]] const W
 }
 
 // Calls op with its arguments passed through `prepare`, and keeps its warnings.
-template <class Op, class Prepare> auto behind(Prepare prepare, Op op) {
+template <class Op, class Prepare> auto prepared(Prepare prepare, Op op) {
   if constexpr (kWarnsOfFirst<Op>) {
     using Watch = typename Op::Watch;
     return watched<Watch>([=](Watch& watch, auto... v) { return op(watch, prepare(v)...); });
@@ -356,7 +356,7 @@ template <class Lane, class V> auto widened(Pair<V> v) {
 // Stores the result as it is; integers saturate.
 struct AsIs {
   template <class Op, class Dst, class... Src> QvxStatus run(Op op, Dst dst, size_t n, Src... src) const {
-    return loop(behind([](auto v) { return widened<typename Dst::Lane>(v); }, op), dst, n, src...);
+    return loop(prepared([](auto v) { return widened<typename Dst::Lane>(v); }, op), dst, n, src...);
   }
 };
 

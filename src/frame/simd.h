@@ -307,8 +307,8 @@ template <class D> Vec<D> loadFirst(D d, const hn::TFromD<D>* p, size_t n) {
 }
 
 // The first n lanes (0 to all) from memory, the rest a value of the caller's choice.
-template <class D> Vec<D> loadFirstOr(D d, const hn::TFromD<D>* p, size_t n, hn::TFromD<D> behind) {
-  return hn::IfThenElse(hn::FirstN(d, n), loadFirst(d, p, n), hn::Set(d, behind));
+template <class D> Vec<D> loadFirstOr(D d, const hn::TFromD<D>* p, size_t n, hn::TFromD<D> padding) {
+  return hn::IfThenElse(hn::FirstN(d, n), loadFirst(d, p, n), hn::Set(d, padding));
 }
 
 // Stores the first n lanes (0 to all). Nothing past them is written.
@@ -697,7 +697,7 @@ template <class V> V mantissaOf(V v) {
   return v;
 }
 
-// The exponent floor(log2 |v|): infinite for zero and infinity; what is not a number stays so.
+// The exponent floor(log2 |v|): infinite for zero and infinity; NaN stays NaN.
 template <class V> V exponentOf(V v) {
   detail::partOf(detail::exponent(detail::whole(v.raw)), v.raw);
   return v;

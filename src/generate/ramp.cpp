@@ -7,7 +7,7 @@ using namespace qvx;
 
 namespace {
 
-// Doubles to elements: halves away from zero, saturated; what is not a number becomes the largest integer.
+// Doubles to elements: halves away from zero, saturated; NaN becomes the largest integer.
 template <class T, class V> auto toElements(V v) {
   using Limits = std::numeric_limits<T>;
   if constexpr (std::is_floating_point_v<T>) {

@@ -1,7 +1,7 @@
 // The exponential function of whole vectors of float or double.
 //
 // Error below 0.81 ULP where a register holds a table (w4), below 1.0 ULP elsewhere, subnormal results included. -infinity gives
-// 0, what is too large gives infinity, what is not a number itself. The rounding mode must be to nearest where
+// 0, what is too large gives infinity, NaN itself. The rounding mode must be to nearest where
 // kRoundsByInstruction is not set.
 //
 // e^x = 2^k * 2^(i/steps) * e^r, k and i from the nearest multiple of 1/steps to x / ln 2. A register holds a table of 16 steps

@@ -1,8 +1,7 @@
 // The natural logarithm of whole vectors of float or double.
 //
 // Error below 0.80 ULP (float) and 1.1 ULP (double) where a register holds a table (w4), below 0.85 ULP elsewhere, subnormal
-// arguments included. +0 gives -infinity, a negative number and -0 the library's NaN, infinity and what is not a number
-// themselves.
+// arguments included. +0 gives -infinity, a negative number and -0 the library's NaN, infinity and NaN themselves.
 #pragma once
 
 #include "frame/constants.h"

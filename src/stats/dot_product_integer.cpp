@@ -100,7 +100,7 @@ template <class D, class Finish, class Sum> D eachPart(Finish finish, Sum sum) {
   else return {finish(sum.re), finish(sum.im)};
 }
 
-// As it is, or as a float after one rounding.
+// The exact sum, or a float after one rounding.
 template <class Product, class D, class... Src> QvxStatus dotProduct(D* result, int len, Src... src) {
   const auto finish = [](auto sum) { return eachPart<D>([](int64_t part) { return static_cast<Part<D>>(part); }, sum); };
   return reduceTo<ExactSum<Product>>(result, len, finish, src...);

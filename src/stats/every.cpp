@@ -1,4 +1,4 @@
-// The greater and the less of each two elements.
+// The maximum and the minimum of two vectors, element by element.
 #include "frame/map.h"
 
 using namespace qvx;

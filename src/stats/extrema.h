@@ -21,7 +21,7 @@ struct Least {
 };
 
 // What is compared: elements, or their magnitudes. The magnitude of the most negative integer is one more than its type can
-// hold: lanes have it, unsigned, and results do not.
+// hold: unsigned lanes hold it, results do not.
 struct Element {
   template <class V> static V of(V v) { return v; }
   template <class T> static T result(T lane) { return lane; }

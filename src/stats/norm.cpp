@@ -9,7 +9,7 @@ using namespace qvx;
 
 namespace {
 
-// What is measured: the elements of one vector, or the differences of two.
+// The operand: the elements of one vector, or the differences of two.
 template <class V> V between(V v) { return v; }
 template <class V> V between(V v, V w) { return v - w; }
 template <class V> Complex<V> between(Complex<V> v, Complex<V> w) { return {v.re - w.re, v.im - w.im}; }

@@ -8,7 +8,7 @@ using namespace qvx;
 
 namespace {
 
-constexpr int kFewest = 2;  // elements that have a deviation
+constexpr int kFewest = 2;  // elements, for a deviation to exist
 
 template <class... T> QvxStatus checkTwo(int len, const T*... pointers) {
   const QvxStatus status = check(len, pointers...);

@@ -5,7 +5,7 @@ using namespace qvx;
 
 namespace {
 
-// The most negative integer has no positive counterpart: its magnitude is its own bits, one too many.
+// Read as unsigned, the bits of the most negative integer are its magnitude, one more than the type holds.
 struct Magnitude {
   template <class V> V operator()(V v) const {
     using T = LaneOf<V>;

@@ -1,4 +1,4 @@
-// 64-bit integer sums: a 65-bit result never exists, only its half and its odd bit.
+// 64-bit integer sums: the 65-bit result is kept as its half and its odd bit.
 #include "vector/sum.h"
 
 using namespace qvx;

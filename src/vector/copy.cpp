@@ -1,4 +1,4 @@
-// Copy, move, zero and set. All vectors are bytes here, but for the constant of set.
+// Copy, move, zero and set. Vectors are handled as bytes; only set needs the element's width.
 #include <bit>
 #include <cstring>
 
@@ -13,7 +13,7 @@ struct Same {
   template <class V> V operator()(V v) const { return v; }
 };
 
-// Where the C library takes over. Its copies are as fast from 32 KiB on (below, it takes 1.8 times as long at 4 KiB), its
+// Lengths from which the C library is called. Its copies are as fast from 32 KiB on (1.8 times as slow at 4 KiB), its
 // fills from 1 MiB (0.8 of the loop's time at 4 MiB, 1.5 times at 256 KiB).
 constexpr size_t kLibraryCopies = size_t{32} << 10;
 constexpr size_t kLibraryFills = size_t{1} << 20;
@@ -37,7 +37,7 @@ template <size_t kHalf> QvxStatus copyShort(const uint8_t* src, uint8_t* dst, si
   return qvxStatOk;
 }
 
-// From kLibraryCopies on; a function of its own, as are the other far ones, to keep the registers it needs out of the near one.
+// From kLibraryCopies on. Out of line, as the other ways of long vectors are, so that the short ones save no registers for it.
 [[gnu::noinline]] QvxStatus copyFar(const uint8_t* src, uint8_t* dst, size_t bytes, bool apart) {
   if (!apart || !isStreamed(bytes)) {
     std::memmove(dst, src, bytes);
@@ -73,14 +73,14 @@ template <class T> QvxStatus move(const T* src, T* dst, int len) {
   auto* to = reinterpret_cast<uint8_t*>(dst);
   const size_t bytes = elements(len) * sizeof(T);
   const size_t ahead = static_cast<size_t>(to - from);  // huge if dst lies before src
-  const size_t behind = static_cast<size_t>(from - to);
-  if (ahead >= bytes) return copyForward(from, to, bytes, behind >= bytes);
+  const size_t back = static_cast<size_t>(from - to);
+  if (ahead >= bytes) return copyForward(from, to, bytes, back >= bytes);
   std::memmove(to, from, bytes);
   return qvxStatOk;
 }
 
-// What fills: an element's bits, so that types of one size share their code; of 16 bytes a block in a register, for a struct of
-// two goes through the stack at every call (16 elements: 2.1 ns, not 9.7).
+// The fill value as an element's bits, so that types of one size share their code. 16 bytes travel in a vector register: a struct
+// of two words goes through the stack at every call (16 elements: 9.7 ns, not 2.1).
 template <class T> struct Filling {
   using Element = hwy::UnsignedFromSize<sizeof(T)>;
   static auto of(T value) { return Constant{std::bit_cast<Element>(value)}; }
@@ -196,7 +196,7 @@ QvxStatus qvxsSet_32sc(Qvx32sc val, Qvx32sc* d, int len) { return fill(val, d, l
 QvxStatus qvxsSet_32f(Qvx32f val, Qvx32f* d, int len) { return fill(val, d, len); }
 QvxStatus qvxsSet_32fc(Qvx32fc val, Qvx32fc* d, int len) { return fill(val, d, len); }
 QvxStatus qvxsSet_64s(Qvx64s val, Qvx64s* d, int len) { return fill(val, d, len); }
-// As floats, bit for bit: two integers in general registers would take the way through the stack after all.
+// Passed as floats, bit for bit: two integers in general registers would go through the stack after all.
 QvxStatus qvxsSet_64sc(Qvx64sc val, Qvx64sc* d, int len) { return qvxsSet_64fc({std::bit_cast<Qvx64f>(val.re), std::bit_cast<Qvx64f>(val.im)}, reinterpret_cast<Qvx64fc*>(d), len); }
 QvxStatus qvxsSet_64f(Qvx64f val, Qvx64f* d, int len) { return fill(val, d, len); }
 QvxStatus qvxsSet_64fc(Qvx64fc val, Qvx64fc* d, int len) { return fill(val, d, len); }

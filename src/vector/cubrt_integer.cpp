@@ -20,8 +20,8 @@ template <class V> V cubeRoot(V x) {
   return y;
 }
 
-// As for square roots, the float's integer part k is the magnitude of the result or one below it. Which of the two is asked of
-// the cube of k + 1/2, in doubles: with 48 bits it is exact.
+// As for square roots, the float's integer part k is the magnitude of the result or one below it. The
+// cube of k + 1/2 decides which; it has 48 bits, so a double holds it exactly.
 struct NearestCubeRoot {
   float factor;   // 2^-scaleFactor
   double eights;  // 8 * factor^3

@@ -41,7 +41,7 @@ template <class T> T reciprocal(T val) {
   return {val.re * r, -val.im * r};
 }
 
-// What one thread takes 3 to 5 us for; a team costs about 1 us, and milliseconds where the second processor is busy.
+// Lengths that take one thread 3 to 5 us; to divide a call costs about 1 us.
 constexpr TeamRule kQuotient32f = {.worthIt = 65536};
 constexpr TeamRule kQuotient64f = {.worthIt = 32768};
 constexpr TeamRule kQuotient32fc = {.worthIt = 32768};
@@ -50,12 +50,12 @@ constexpr TeamRule kQuotient64fc = {.worthIt = 16384};
 }  // namespace
 
 // clang-format off
-QvxStatus qvxsDiv_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesBehind{a}, b); }
-QvxStatus qvxsDiv_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient64f>{}, OnesBehind{a}, b); }
+QvxStatus qvxsDiv_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesPastEnd{a}, b); }
+QvxStatus qvxsDiv_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient64f>{}, OnesPastEnd{a}, b); }
 QvxStatus qvxsDiv_32fc(const Qvx32fc* a, const Qvx32fc* b, Qvx32fc* d, int len) { return divideComplex<kQuotient32fc>(a, b, d, len); }
 QvxStatus qvxsDiv_64fc(const Qvx64fc* a, const Qvx64fc* b, Qvx64fc* d, int len) { return divideComplex<kQuotient64fc>(a, b, d, len); }
-QvxStatus qvxsDiv_32f_I(const Qvx32f* a, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesBehind{a}, d); }
-QvxStatus qvxsDiv_64f_I(const Qvx64f* a, Qvx64f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient64f>{}, OnesBehind{a}, d); }
+QvxStatus qvxsDiv_32f_I(const Qvx32f* a, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesPastEnd{a}, d); }
+QvxStatus qvxsDiv_64f_I(const Qvx64f* a, Qvx64f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient64f>{}, OnesPastEnd{a}, d); }
 QvxStatus qvxsDiv_32fc_I(const Qvx32fc* a, Qvx32fc* d, int len) { return divideComplex<kQuotient32fc>(a, d, d, len); }
 QvxStatus qvxsDiv_64fc_I(const Qvx64fc* a, Qvx64fc* d, int len) { return divideComplex<kQuotient64fc>(a, d, d, len); }
 
@@ -68,6 +68,6 @@ QvxStatus qvxsDivC_64f_I(Qvx64f val, Qvx64f* d, int len) { return isZero(val) ? 
 QvxStatus qvxsDivC_32fc_I(Qvx32fc val, Qvx32fc* d, int len) { return isZero(val) ? refused(len, d) : qvxsMulC_32fc_I(reciprocal(val), d, len); }
 QvxStatus qvxsDivC_64fc_I(Qvx64fc val, Qvx64fc* d, int len) { return isZero(val) ? refused(len, d) : qvxsMulC_64fc_I(reciprocal(val), d, len); }
 
-QvxStatus qvxsDivCRev_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesBehind{a}, Constant{val}); }
-QvxStatus qvxsDivCRev_32f_I(Qvx32f val, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesBehind{d}, Constant{val}); }
+QvxStatus qvxsDivCRev_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesPastEnd{a}, Constant{val}); }
+QvxStatus qvxsDivCRev_32f_I(Qvx32f val, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesPastEnd{d}, Constant{val}); }
 // clang-format on

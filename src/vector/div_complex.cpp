@@ -79,7 +79,7 @@ constexpr TeamRule kByConstant = {.worthIt = 16384};
 
 QvxStatus divide(const Qvx16sc* divisor, const Qvx16sc* dividend, Qvx16sc* dst, int len, int sf) {
   using Fit = ComplexQuotientFit<Window{-32, 32}>;
-  return map<IntegerDivision>(dst, len, InTeam<kQuotient, Fit>{{sf}}, OnesBehind{divisor}, dividend);
+  return map<IntegerDivision>(dst, len, InTeam<kQuotient, Fit>{{sf}}, OnesPastEnd{divisor}, dividend);
 }
 
 QvxStatus divideBy(Qvx16sc val, const Qvx16sc* src, Qvx16sc* dst, int len, int sf) {

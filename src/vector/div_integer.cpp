@@ -9,7 +9,7 @@ namespace {
 constexpr Window kShort = {-30, 15};
 constexpr Window kLong = {-62, 32};
 
-// What one thread takes 3 to 5 us for; a team costs about 1 us, and milliseconds where the second processor is busy.
+// Lengths that take one thread 3 to 5 us; to divide a call costs about 1 us.
 constexpr TeamRule kQuotient = {.worthIt = 32768};
 constexpr TeamRule kByConstant = {.worthIt = 65536};
 constexpr TeamRule kOfConstant = {.worthIt = 65536};
@@ -17,7 +17,7 @@ constexpr TeamRule kOfConstant = {.worthIt = 65536};
 template <TeamRule kRule, Window kWindow, class A, class B, class D>
 QvxStatus divide(const A* divisor, const B* dividend, D* dst, int len, int sf) {
   using Fit = IntegerQuotient<qvxRoundNearestEven, kWindow>;
-  return map<IntegerDivision>(dst, len, InTeam<kRule, Fit>{{sf}}, OnesBehind{divisor}, dividend);
+  return map<IntegerDivision>(dst, len, InTeam<kRule, Fit>{{sf}}, OnesPastEnd{divisor}, dividend);
 }
 
 template <class T> QvxStatus divideBy(T val, const T* src, T* dst, int len, int sf) {
@@ -28,7 +28,7 @@ template <class T> QvxStatus divideBy(T val, const T* src, T* dst, int len, int 
 
 QvxStatus divideInto(Qvx16u val, const Qvx16u* src, Qvx16u* dst, int len) {
   using Fit = IntegerQuotient<qvxRoundNearestEven, kShort>;
-  return map<IntegerDivision>(dst, len, InTeam<kOfConstant, Fit>{{0}}, OnesBehind{src}, Constant{val});
+  return map<IntegerDivision>(dst, len, InTeam<kOfConstant, Fit>{{0}}, OnesPastEnd{src}, Constant{val});
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ constexpr TeamRule kQuotient16 = {.worthIt = 32768, .everyThread = true};
 template <TeamRule kRule, class T>
 QvxStatus divide(const T* divisor, const T* dividend, T* dst, int len, QvxRoundMode mode, int sf) {
   const auto with = [=](auto fit) {
-    return map<IntegerDivision>(dst, len, InTeam<kRule, decltype(fit)>{fit}, OnesBehind{divisor}, dividend);
+    return map<IntegerDivision>(dst, len, InTeam<kRule, decltype(fit)>{fit}, OnesPastEnd{divisor}, dividend);
   };
   switch (mode) {
     case qvxRoundTowardZero:

@@ -91,7 +91,7 @@ constexpr Row rowAt(int scaleFactor) {
   return row;
 }
 
-// Rows made beforehand: to make one takes as long as 400 look-ups.
+// Rows made at compile time: making one takes as long as 400 look-ups.
 constexpr int kLeastRow = -32;
 constexpr int kMostRow = 31;
 constexpr auto kRows = [] {
@@ -110,7 +110,7 @@ struct ByRow {
     const auto at = [&](const uint8_t* table, V index) {
       return as<int16_t>(hn::TableLookupBytesOr0(hn::LoadDup128(bytes, table), as<uint8_t>(index)));
     };
-    // The other byte of each lane asks for none.
+    // The index of the lane's other byte has its highest bit set, which gives a zero.
     return at(row->low, i | same<V>(static_cast<int16_t>(0x8000))) | at(row->high, hn::ShiftLeft<8>(i) | same<V>(0x80));
   }
 };

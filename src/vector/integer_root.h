@@ -7,8 +7,8 @@
 namespace qvx {
 
 // Roots of 32-bit lanes through floats, of 64-bit ones through doubles. These are wrong by far less than 1/2, and so their
-// integer part k is the result or one below it. Which of the two is asked of the square of k + 1/2, in integers: no tie is lost
-// to the float's rounding, and neither the processor's mode nor the variant shows.
+// integer part k is the result or one below it. The square of k + 1/2, in integers, decides which: no tie is lost to the float's
+// rounding, and neither the processor's mode nor the variant shows.
 template <class V> V integerPart(V x, double factor) {
   if constexpr (sizeof(LaneOf<V>) == 4) {
     const auto root = hn::Sqrt(convertLanes<float>(x));

@@ -14,9 +14,9 @@ struct LnToFloat : Ln {
 }  // namespace
 
 // clang-format off
-QvxStatus qvxsLn_32f   (const Qvx32f* a, Qvx32f* d, int len) { return map<Ln>       (d, len, AsIs{}, Places{}, OnesBehind{a}); }
-QvxStatus qvxsLn_32f_I (Qvx32f* d, int len)                  { return map<Ln>       (d, len, AsIs{}, Places{}, OnesBehind{d}); }
-QvxStatus qvxsLn_64f   (const Qvx64f* a, Qvx64f* d, int len) { return map<Ln>       (d, len, AsIs{}, Places{}, OnesBehind{a}); }
-QvxStatus qvxsLn_64f_I (Qvx64f* d, int len)                  { return map<Ln>       (d, len, AsIs{}, Places{}, OnesBehind{d}); }
-QvxStatus qvxsLn_64f32f(const Qvx64f* a, Qvx32f* d, int len) { return map<LnToFloat>(d, len, AsIs{}, Places{}, OnesBehind{a}); }
+QvxStatus qvxsLn_32f   (const Qvx32f* a, Qvx32f* d, int len) { return map<Ln>       (d, len, AsIs{}, Places{}, OnesPastEnd{a}); }
+QvxStatus qvxsLn_32f_I (Qvx32f* d, int len)                  { return map<Ln>       (d, len, AsIs{}, Places{}, OnesPastEnd{d}); }
+QvxStatus qvxsLn_64f   (const Qvx64f* a, Qvx64f* d, int len) { return map<Ln>       (d, len, AsIs{}, Places{}, OnesPastEnd{a}); }
+QvxStatus qvxsLn_64f_I (Qvx64f* d, int len)                  { return map<Ln>       (d, len, AsIs{}, Places{}, OnesPastEnd{d}); }
+QvxStatus qvxsLn_64f32f(const Qvx64f* a, Qvx32f* d, int len) { return map<LnToFloat>(d, len, AsIs{}, Places{}, OnesPastEnd{a}); }
 // clang-format on

@@ -1,4 +1,4 @@
-// Logarithms of integers: times 2^-scaleFactor, nearest even, saturated. What is below 1 gives the most negative number.
+// Logarithms of integers: times 2^-scaleFactor, nearest even, saturated. Values below 1 give the most negative number.
 #include <cmath>
 
 #include "frame/power.h"

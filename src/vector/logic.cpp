@@ -1,4 +1,4 @@
-// And, or, exclusive or, not. Without a constant the element's width means nothing, and all of them are byte vectors.
+// And, or, exclusive or, not. Without a constant the element's width does not matter: all vectors are byte vectors.
 #include "frame/map.h"
 
 using namespace qvx;

@@ -10,7 +10,7 @@ namespace {
 // This one constant, of either sign, sends every element to an extreme.
 constexpr Qvx64s kOverflowingBits = 0x90000012CD94;
 
-// By way of memcpy, since p may lie at any address.
+// Through memcpy, since p may have any alignment.
 template <class F> void each(Qvx64s* p, Qvx32u len, F f) {
   auto* bytes = reinterpret_cast<unsigned char*>(p);
   for (size_t i = 0; i < len; ++i) {

@@ -1,4 +1,4 @@
-// The products that are not the exact one: through floats, or the low word alone.
+// Products that are not exact: through floats, or the low word alone.
 #include "frame/power.h"
 #include "vector/product.h"
 #include "vector/rounded_product.h"

@@ -55,7 +55,7 @@ struct Product {
   }
 
  private:
-  // The pack to 8 bits takes its lanes as signed, so they are clamped before.
+  // The pack to 8 bits takes its lanes as signed, so they are clamped first.
   template <class V, class F> static V narrow8(V a, V b, F f) {
     const auto wideA = widen<uint16_t>(a);
     const auto wideB = widen<uint16_t>(b);

@@ -5,7 +5,7 @@ using namespace qvx;
 
 namespace {
 
-// Signed elements know no left shift of their own: the bits are those of the unsigned one.
+// A left shift gives signed elements the same bits as unsigned ones.
 struct Left {
   int count;
   template <class V> V operator()(V v) const { return hn::ShiftLeftSame(v, count); }

@@ -16,7 +16,7 @@ template <class Op> struct WithItself {
   }
 };
 
-// Few squares fit 8 and 16 bits: those of 8 stand in a table (0.6 of the time of products), and 16 bits need no upper half.
+// Few squares fit 8 or 16 bits: a table holds those of 8 (0.6 of the time of products), and those of 16 need no upper half.
 struct Square : WithItself<Product> {
   template <class V> V operator()(V v) const {
     using T = LaneOf<V>;

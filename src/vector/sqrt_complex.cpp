@@ -18,8 +18,8 @@ template <class V> Complex<V> placed(V t, V smaller, V re, V im) {
   return {hn::IfThenElse(isLeft, smaller, t), hn::CopySign(hn::IfThenElse(isLeft, t, smaller), im)};
 }
 
-// Zeros and infinities as the C library has them: the root of 0 is 0, of an infinite part infinite. Everything else comes by
-// itself, and what is not a number too.
+// Zeros and infinities as the C library has them: the root of 0 is 0, of an infinite part infinite. All other
+// values, NaN included, come out right by themselves.
 template <class V> Complex<V> placedWithLimits(V t, V re, V im) {
   const V infinity = same<V>(std::numeric_limits<LaneOf<V>>::infinity());
   const V height = hn::Abs(im);
@@ -102,7 +102,7 @@ struct Root16 {
   }
 };
 
-// Worth it where one thread takes 3 to 4 us.
+// Lengths that take one thread 3 to 4 us.
 constexpr TeamRule kRoot32fc = {.worthIt = 4096};
 constexpr TeamRule kRoot64fc = {.worthIt = 4096};
 constexpr TeamRule kRoot16sc = {.worthIt = 4096};

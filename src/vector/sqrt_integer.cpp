@@ -55,8 +55,8 @@ template <class From, class To> struct IntegerRoot {
 constexpr int kPlacesInLanes = 18;  // a root of 2^49.5 is wrong by 0.3 at most, in any rounding mode
 
 // The integer nearest to sqrt(x) * 2^s, for s from kPlacesInLanes on: a step of Newton's method takes the double's root, which is
-// off by 2^10 where the result is largest, to a sixteenth from it. Only where that falls between two integers are the squares
-// asked, modulo 2^64: they differ by less than 2^63 there.
+// off by 2^10 where the result is largest, to a sixteenth from it. Only where that falls between two integers do the squares
+// decide, modulo 2^64: they differ by less than 2^63 there.
 struct RootLengthened {
   int s;
 
@@ -108,7 +108,7 @@ using Root16s = IntegerRoot<Qvx16s, Qvx16s>;
 using Root32s16s = IntegerRoot<Qvx32s, Qvx16s>;
 using Root64s16s = IntegerRoot<Qvx64s, Qvx16s>;
 
-// Worth it where one thread takes 3 to 4 us.
+// Lengths that take one thread 3 to 4 us.
 constexpr TeamRule kRoot8u = {.worthIt = 32768};
 constexpr TeamRule kRoot16 = {.worthIt = 32768};
 constexpr TeamRule kRoot32s16s = {.worthIt = 32768};

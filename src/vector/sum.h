@@ -5,7 +5,7 @@
 
 namespace qvx {
 
-// 8-bit lanes know no shifts and go through 16-bit ones, where the result fits; all others halve.
+// There are no shifts of 8-bit lanes, so these are widened to 16 bits, which hold the sum; all others halve.
 template <class Exact> struct ScaledSum {
   template <class T, class With> static QvxStatus scaleDown(int s, const With& with) {
     if constexpr (sizeof(T) == 1) {
@@ -41,7 +41,7 @@ struct Difference : ScaledSum<Difference> {
 
   template <class T, class With> static QvxStatus scaleDown(int s, const With& with) {
     if constexpr (std::is_same_v<T, uint16_t>) {
-      // What is below 0 ends there at any scale, and the rest fits a lane.
+      // A negative difference gives 0 at any scale, and any other fits a lane.
       return with([s](auto a, auto b) { return roundedShift(hn::SaturatedSub(b, a), s); });
     } else {
       return ScaledSum::template scaleDown<T>(s, with);

@@ -16,7 +16,7 @@ constexpr size_t kLanes = kVectorBytes / sizeof(double);
 class SumOfLogarithms {
  public:
   template <class T> void add(const T* src, size_t n) {
-    const OnesBehind<T> x{src};
+    const OnesPastEnd<T> x{src};
     size_t i = 0;
     if constexpr (sizeof(T) < sizeof(double)) {
       for (; i + kFactors * kLanes <= n; i += kFactors * kLanes) addProduct(x, i);
