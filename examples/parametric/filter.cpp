@@ -2,12 +2,12 @@
 
 #include <cmath>
 #include <complex>
-#include <cstdio>
 #include <memory>
 #include <numbers>
 #include <stdexcept>
 
 #include "../support/audio.h"
+#include "../support/gnuplot.h"
 
 namespace {
 
@@ -42,16 +42,6 @@ std::complex<double> polynomial(const double* taps, size_t order, std::complex<d
   std::complex<double> sum = 0;
   for (size_t k = order + 1; k-- > 0;) sum = sum * z + taps[k];
   return sum;
-}
-
-std::string terminal(const std::string& path) {
-  const auto endsIn = [&](const std::string& suffix) {
-    return path.size() > suffix.size() && path.compare(path.size() - suffix.size(), suffix.size(), suffix) == 0;
-  };
-  if (path == "-") return "set terminal dumb 100 30\n";
-  if (endsIn(".png")) return "set terminal pngcairo size 900,500\nset output '" + path + "'\n";
-  if (endsIn(".svg")) return "set terminal svg size 900,500\nset output '" + path + "'\n";
-  throw std::runtime_error(path + ": a plot is a .png or .svg file, or -");
 }
 
 }  // namespace
@@ -96,17 +86,16 @@ long long Filter::apply(const std::string& input, const std::string& output) con
 
 void plot(const Filter& filter, const std::string& path) {
   const Specification& s = filter.specification();
-  const std::string begin = terminal(path);
-  const std::unique_ptr<FILE, int (*)(FILE*)> gnuplot(popen("gnuplot", "w"), pclose);
-  if (gnuplot == nullptr) throw std::runtime_error("gnuplot does not start");
-  std::fprintf(gnuplot.get(),
-               "%sset logscale x\nset grid\nset xlabel 'Hz'\nset ylabel 'dB'\nset yrange [-80:5]\nunset key\n"
+  Gnuplot gnuplot(path, 900, 500);
+  std::fprintf(gnuplot.file(),
+               "set logscale x\nset grid\nset xlabel 'Hz'\nset ylabel 'dB'\nset yrange [-80:5]\nunset key\n"
                "set title '%s-pass, order %d, %g Hz'\nplot '-' with lines\n",
-               begin.c_str(), s.isHighPass ? "High" : "Low", s.order, s.frequency);
+               s.isHighPass ? "High" : "Low", s.order, s.frequency);
   constexpr int kPoints = 500;
   for (int i = 0; i < kPoints; ++i) {
     const double frequency = s.sampleRate / 1000 * std::pow(500, (i + 0.5) / kPoints);
-    std::fprintf(gnuplot.get(), "%g %g\n", frequency, std::max(filter.gainDb(frequency), -200.0));
+    std::fprintf(gnuplot.file(), "%g %g\n", frequency, std::max(filter.gainDb(frequency), -200.0));
   }
-  std::fprintf(gnuplot.get(), "e\n");
+  std::fprintf(gnuplot.file(), "e\n");
+  gnuplot.finish();
 }

@@ -97,7 +97,7 @@ TEST_F(SpectrumTest, RefusesWhatItCannotDo) {
                  {"nan.wav", "nan.wav: holds samples that are no finite numbers"},
                  {"none.wav", "none.wav: holds no samples"},
                  {"tone.wav -n 3", "3 not in range"},
-                 {"tone.wav -o tone.gif", "tone.gif: a picture's name ends with .png or .svg"},
+                 {"tone.wav -o tone.gif", "tone.gif: a picture is a .png or .svg file, or -"},
                  {"tone.wav -o no/folder.png", "no/folder.png: cannot be written"}});
 }
 
