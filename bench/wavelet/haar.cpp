@@ -21,9 +21,15 @@ struct PlainForward {
 };
 template <class T> [[gnu::noipa]] void plainInverse(const T* __restrict low, const T* __restrict high, T* __restrict d, int n) {
   for (int k = 0; k < n / 2; ++k) {
-    const auto a = low[k] - high[k], b = low[k] + high[k];
-    d[2 * k] = static_cast<T>(a);
-    d[2 * k + 1] = static_cast<T>(b);
+    if constexpr (std::is_floating_point_v<T>) {
+      d[2 * k] = low[k] - high[k];
+      d[2 * k + 1] = low[k] + high[k];
+    } else {
+      using Wide = std::conditional_t<sizeof(T) == 4, int64_t, int>;
+      constexpr Wide kLeast = std::numeric_limits<T>::min(), kMost = std::numeric_limits<T>::max();
+      d[2 * k] = static_cast<T>(std::clamp<Wide>(Wide{low[k]} - high[k], kLeast, kMost));
+      d[2 * k + 1] = static_cast<T>(std::clamp<Wide>(Wide{low[k]} + high[k], kLeast, kMost));
+    }
   }
 }
 
