@@ -24,7 +24,7 @@ template <> struct LnNumbers<float> {
   static constexpr float kLn2Low = 0x1.7F7D1Cp-20F;
   // degree 3 on -1/32 to 1/16, error 0.06 of 2^-24
   static constexpr float kQ[] = {-0x1p-1F, 0x1.55584p-2F, -0x1.00117cp-2F, 0x1.8227a8p-3F};
-  // off by at most 0.0321 ULP ULP ULP ULP
+  // off by at most 0.0321 ULP
   alignas(64) static constexpr float kReciprocals[32] = {
       0x1p+0F,        0x1p+0F,        0x1.de113ep-1F, 0x1.ceff92p-1F, 0x1.c23516p-1F, 0x1.b5091ep-1F, 0x1.a8ccc2p-1F,
       0x1.9f17a4p-1F, 0x1.937edcp-1F, 0x1.8a139p-1F,  0x1.818612p-1F, 0x1.788a96p-1F, 0x1.6f4d84p-1F, 0x1.676e0cp-1F,
@@ -72,7 +72,7 @@ template <> struct LnNumbers<double> {
   static constexpr double kQ[] = {-0x1.fffffffffffd5p-2, 0x1.555555555613ap-2,  -0x1.0000000053257p-2,
                                   0x1.99999986f05bp-3,   -0x1.55554fddc9462p-3, 0x1.24927aaf30abdp-3,
                                   -0x1.00118966857edp-3, 0x1.c7740616d0e72p-4,  -0x1.73b75730f4f1cp-4};
-  // off by at most 0.0818 ULP ULP ULP ULP
+  // off by at most 0.0818 ULP
   alignas(64) static constexpr double kReciprocals[16] = {0x1p+0,
                                                           0x1.d81c2511fa6b9p-1,
                                                           0x1.b8cec230055a4p-1,
