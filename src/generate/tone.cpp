@@ -55,16 +55,20 @@ template <class T, class Magn, class Phase> QvxStatus direct(T* dst, int len, Ma
 
 // ---- Q15: each sample by itself, so that a cut makes no difference
 
+// Turns are multiples of 2^-48 below 1, to which a step adds another: doubles hold them exactly.
 void fillQ15(Qvx16s* dst, size_t n, QvxsToneState& tone) {
   constexpr size_t N = kVectorBytes / sizeof(double);
   const Lanes<double, N> d;
   const RoundingScope nearest(Rounding::kNearest);
-  alignas(64) double turns[N];
+  const auto turnsOf = [](uint64_t fixed) { return static_cast<double>(static_cast<int64_t>(fixed)) * 0x1p-64; };
+  alignas(64) double first[N];
+  for (size_t k = 0; k < N; ++k) first[k] = turnsOf(tone.phase + k * tone.step);
+  auto turns = load(d, first);
+  const auto step = hn::Set(d, turnsOf(N * tone.step));
   for (size_t at = 0; at < n; at += N) {
-    for (size_t k = 0; k < N; ++k)
-      turns[k] = static_cast<double>(static_cast<int64_t>(tone.phase + (at + k) * tone.step)) * 0x1p-64;
-    const auto v = hn::Set(d, tone.magn) * sinCosOfTurns(load(d, turns)).cosine;
+    const auto v = hn::Set(d, tone.magn) * sinCosOfTurns(turns).cosine;
     putSamples(dst, at, n, v, v);
+    turns = fractionOfTurns(turns + step);
   }
   tone.phase += n * tone.step;
 }

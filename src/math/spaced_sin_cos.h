@@ -1,7 +1,7 @@
 // Sines and cosines of equally spaced angles, without a table and without a sine each: two multiplications for a vector of them.
 //
 // The angle of a lane is that of its vector's first one and a constant of the lane, so both sums of angles cost two products. The
-// first angles' sines are turned on in doubles, by a constant step, and taken anew every 4096 bytes of samples.
+// first angles' sines are turned on in doubles, by a constant step, and taken anew every 4096 floats or 512 doubles.
 //
 // Error below 2^-22 of the scale in float; below 2^-48 in double (2^-46 on SSSE3, whose vectors are turned more often). Where
 // sine and cosine are both positive, nothing cancels, and the sine is good to as many units of its own.
@@ -19,8 +19,9 @@ template <class T> class SpacedAngles {
  public:
   static constexpr size_t kLanes = kVectorBytes / sizeof(T);
   static constexpr size_t kWide = kVectorBytes / sizeof(double);
-  static constexpr size_t kBlock = 4096 / sizeof(T);  // samples from one pair of true sines to the next
-  static constexpr size_t kFew = 8 * kWide;           // up to here a sine each is cheaper
+  // Samples from one pair of true sines to the next. In doubles the error of every turn counts.
+  static constexpr size_t kBlock = sizeof(T) == sizeof(float) ? 4096 : 512;
+  static constexpr size_t kFew = 5 * kWide;  // up to here a sine each is cheaper
 
   // step: turns from one sample to the next. scale: what the results are multiplied by.
   SpacedAngles(double step, double scale) {
@@ -42,26 +43,26 @@ template <class T> class SpacedAngles {
   template <class Put> [[gnu::always_inline]] void each(double start, size_t count, Put put) const {
     const Lanes<double, kWide> wide;
     const Lanes<T, kLanes> d;
-    alignas(64) T firstSines[kBlock / kLanes];
-    alignas(64) T firstCosines[kBlock / kLanes];
+    alignas(64) T firstSines[kWide];
+    alignas(64) T firstCosines[kWide];
     const size_t vectors = (count + kLanes - 1) / kLanes;
     const auto firsts = hn::MulAdd(hn::Iota(wide, 0), hn::Set(wide, vectorStep_), hn::Set(wide, start));
     auto [sine, cosine] = sinCosOfTurns(fractionOfTurns(firsts));
     const auto byS = hn::Set(wide, turnSine_);
     const auto byC = hn::Set(wide, turnCosine_);
+    const auto laneSines = load(d, sines_);
+    const auto laneCosines = load(d, cosines_);
     for (size_t b = 0; b < vectors; b += kWide) {
-      store(convertLanes<T>(sine), Lanes<T, kWide>(), firstSines + b);
-      store(convertLanes<T>(cosine), Lanes<T, kWide>(), firstCosines + b);
+      store(convertLanes<T>(sine), Lanes<T, kWide>(), firstSines);
+      store(convertLanes<T>(cosine), Lanes<T, kWide>(), firstCosines);
       const auto on = hn::MulAdd(sine, byC, cosine * byS);
       cosine = hn::NegMulAdd(sine, byS, cosine * byC);
       sine = on;
-    }
-    const auto laneSines = load(d, sines_);
-    const auto laneCosines = load(d, cosines_);
-    for (size_t b = 0; b < vectors; ++b) {
-      const auto s = hn::Set(d, firstSines[b]);
-      const auto c = hn::Set(d, firstCosines[b]);
-      put(b * kLanes, hn::MulAdd(s, laneCosines, c * laneSines), hn::NegMulAdd(s, laneSines, c * laneCosines));
+      for (size_t k = 0; k < std::min(kWide, vectors - b); ++k) {
+        const auto s = hn::Set(d, firstSines[k]);
+        const auto c = hn::Set(d, firstCosines[k]);
+        put((b + k) * kLanes, hn::MulAdd(s, laneCosines, c * laneSines), hn::NegMulAdd(s, laneSines, c * laneCosines));
+      }
     }
   }
 
