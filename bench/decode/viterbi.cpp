@@ -63,7 +63,8 @@ template <int kStates, bool kIsOurs> QvxStatus steps(const Qvx16u*, Qvx16u* metr
 
 template <int kStates> void stateRows(Suite& s) {
   s.row("CalcStatesDV_16sc, " + std::to_string(kStates) + " states", steps<kStates, true>)
-      .against("plain", steps<kStates, false>, Agreement::kDiffers);
+      .against("plain", steps<kStates, false>, Agreement::kDiffers)
+      .stream();
 }
 
 }  // namespace

@@ -28,10 +28,10 @@ std::string cpuinfo(const std::string& key) {
   return "unknown";
 }
 
-// A name like "AMD EPYC" alone says little.
+// Numbers tell more than a brand does.
 std::string processor() {
   const bool virtualMachine = cpuinfo("flags").find(" hypervisor") != std::string::npos;
-  return cpuinfo("model name") + ", family " + cpuinfo("cpu family") + ", model " + cpuinfo("model") +
+  return std::string("family ") + cpuinfo("cpu family") + ", model " + cpuinfo("model") + ", stepping " + cpuinfo("stepping") +
          (virtualMachine ? ", in a virtual machine" : "");
 }
 

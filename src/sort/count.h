@@ -21,12 +21,18 @@ template <class T> T* putRun(T* out, const T* end, T value, size_t count) {
   return past;
 }
 
-// From so many keys on a vector of 16-bit keys is halved by value, not by a median, until a stretch of values can be counted.
+// 16-bit keys that lie close, two or more to each value between their bounds, are halved by value, not by a median, until a
+// stretch of values can be counted. Where values are fewer (10^5 keys of all 65536 values), the runs are too short: 2.4 ns a key,
+// not 2.8.
 inline constexpr size_t kCountedFrom = 4096;
 inline constexpr size_t kCountedValues = 4096;
+inline constexpr size_t kKeysPerValue = 2;
 
+template <class K> bool isDense(size_t n, K least, K most) {
+  return sizeof(K) == 2 && n >= kCountedFrom && n >= kKeysPerValue * static_cast<size_t>(most - least);
+}
 template <class K> bool isCounted(size_t n, K least, K most) {
-  return n >= kCountedFrom && static_cast<size_t>(most - least) < kCountedValues;
+  return isDense(n, least, most) && static_cast<size_t>(most - least) < kCountedValues;
 }
 
 // `memory`: kCountedValues numbers of 32 bits.

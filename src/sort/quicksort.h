@@ -40,7 +40,7 @@ template <class K> class Quicksort {
       }
       if (levels-- == 0) return sortHeap(x, n, in);
       K pivot;
-      if (sizeof(K) == 2 && n >= kCountedFrom) pivot = static_cast<K>((least + most + 1) >> 1);
+      if (isDense(n, least, most)) pivot = static_cast<K>((least + most + 1) >> 1);
       else pivot = pivotOf(x, n, in);
       // A pivot that is the least key there can be: those equal to it are done.
       if (pivot == least) {
