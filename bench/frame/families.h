@@ -39,6 +39,7 @@ void spectrum(Suite& suite);
 void fir(Suite& suite);
 void iir(Suite& suite);
 void haar(Suite& suite);
+void filterBank(Suite& suite);
 void goertzel(Suite& suite);
 void decode(Suite& suite);
 void helpers(Suite& suite);
@@ -88,6 +89,7 @@ inline constexpr Family kFamilies[] = {
     {"fir", fir},
     {"iir", iir},
     {"haar", haar},
+    {"filter_bank", filterBank},
     {"goertzel", goertzel},
     {"decode", decode},
     {"helpers", helpers},

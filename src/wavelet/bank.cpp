@@ -16,10 +16,8 @@ using V = Vec<Lanes<Qvx32f, kVectorBytes / sizeof(Qvx32f)>>;
 constexpr size_t N = kLanesOf<V>;
 constexpr size_t kTile = 4;  // vectors of results that stay in registers while the taps pass
 
-// Calls of up to this many values go through the window as a whole; of longer ones only what reaches back to the history does.
-constexpr int64_t kShort = 256;
 // Vectors past the last result read as far, in the window only.
-constexpr int64_t kPast = 2 * N + 2;
+constexpr int64_t kPast = 2 * N;
 
 // ---- forward
 
@@ -37,17 +35,33 @@ V inOrder(V v) {
 #endif
 }
 
+// Where the vectors of a tile begin. The last ones of a call overlap, so that a vector is whole where there is one.
+template <size_t kVectors> struct Tile {
+  size_t at[kVectors];
+  Tile(size_t from, size_t count) {
+    unrolled<kVectors>([&](auto i) { at[i] = count < N ? 0 : std::min(from + N * i, count - N); });
+  }
+};
+
+// with(places) for tiles that cover `count` results.
+template <class With> [[gnu::always_inline]] inline void tiled(size_t count, With with) {
+  size_t at = 0;
+  for (; at + 2 * N < count; at += kTile * N) with(Tile<kTile>(at, count));
+  if (at + N < count) with(Tile<2>(at, count));
+  else if (at < count) with(Tile<1>(at, count));
+}
+
 // kVectors vectors of results from the window at x on, for bands whose filters are alike in length and offset. Each sum is in the
 // order of the window, so that a result does not depend on the cut of the stream, nor on the bands that are computed with it.
 template <size_t kVectors, size_t kBands>
 [[gnu::always_inline]] inline void split(const SplittingBand& shape, const Qvx32f* const (&taps)[kBands], const Qvx32f* x,
-                                         V (&sum)[kBands][kVectors]) {
+                                         const Tile<kVectors>& tile, V (&sum)[kBands][kVectors]) {
   const TagOf<V> d;
   unrolled<kBands * kVectors>([&](auto i) { sum[i / kVectors][i % kVectors] = hn::Zero(d); });
   const auto add = [&](int p, auto withEven) __attribute__((always_inline)) {
     Complex<V> v[kVectors];
     unrolled<kVectors>([&](auto i) {
-      const Qvx32f* at = x + 2 * p + 2 * N * i;
+      const Qvx32f* at = x + 2 * p + 2 * tile.at[i];
       v[i] = evenAndOdd(load(d, at), load(d, at + N));
     });
     unrolled<kBands>([&](auto b) {
@@ -69,71 +83,72 @@ template <size_t kBands>
 [[gnu::flatten]] void splitMany(const SplittingBand& shape, const Qvx32f* const (&taps)[kBands], const Qvx32f* x, size_t count,
                                 Qvx32f* const (&dst)[kBands]) {
   const TagOf<V> d;
-  size_t at = 0;
-  for (; at + kTile * N <= count; at += kTile * N) {
-    V sum[kBands][kTile];
-    split(shape, taps, x + 2 * at, sum);
-    unrolled<kBands * kTile>([&](auto i) { store(sum[i / kTile][i % kTile], d, dst[i / kTile] + at + i % kTile * N); });
-  }
-  while (at < count) {
-    if (at + N > count && count >= N) at = count - N;
-    V sum[kBands][1];
-    split(shape, taps, x + 2 * at, sum);
-    const size_t left = std::min(N, count - at);
-    unrolled<kBands>([&](auto b) {
-      if (left == N) store(sum[b][0], d, dst[b] + at);
-      else storeFirst(sum[b][0], d, dst[b] + at, left);
+  tiled(count, [&]<size_t kVectors>(const Tile<kVectors>& tile) {
+    V sum[kBands][kVectors];
+    split(shape, taps, x, tile, sum);
+    unrolled<kBands * kVectors>([&](auto i) {
+      const V v = sum[i / kVectors][i % kVectors];
+      Qvx32f* to = dst[i / kVectors] + tile.at[i % kVectors];
+      if (kVectors == 1 && count < N) storeFirst(v, d, to, count);
+      else store(v, d, to);
     });
-    at += left;
-  }
+  });
+}
+
+// Some values, mostly a few: a call of memcpy takes 5 ns.
+void copy(const Qvx32f* from, int64_t n, Qvx32f* to) {
+  const TagOf<V> d;
+  const auto count = static_cast<size_t>(n);
+  size_t at = 0;
+  for (; at + N <= count; at += N) store(load(d, from + at), d, to + at);
+  if (at < count) storeFirst(loadFirst(d, from + at, count - at), d, to + at, count - at);
 }
 
 // The history moves on by n values, which stand after it in the window or end at `end`.
 void keep(Band& band, const Qvx32f* end, int64_t n) {
-  if (n >= band.history) std::copy_n(end - band.history, band.history, band.window);
-  else std::memmove(band.window, band.window + n, static_cast<size_t>(band.history) * sizeof(Qvx32f));
+  copy(n >= band.history ? end - band.history : band.window + n, band.history, band.window);
 }
 
-// How many of `count` results go through the window: those that reach back to the history, or all, if the rest would be less than
-// a vector.
-int64_t throughWindow(int64_t count, int64_t reachBack, int64_t shortCall) {
-  return count <= shortCall || count - reachBack < static_cast<int64_t>(N) ? count : reachBack;
+// Results of a call that goes through the window as a whole, where 32 results of 20 taps take half as long as in two parts.
+constexpr int64_t kShort = 64;
+
+// How many of `count` results go through the window: those that reach back to the history, or all of a short call, or if the rest
+// would be less than a vector.
+int64_t throughWindow(int64_t count, int64_t reachBack) {
+  return count <= kShort || count - reachBack < static_cast<int64_t>(N) ? count : reachBack;
 }
 
-// The first results of a band, from its window; gives their number.
-int64_t splitHead(SplittingBand& band, const Qvx32f* x, Qvx32f* dst, int64_t count) {
-  const int64_t head = throughWindow(count, (band.history + 1) / 2, kShort / 2);
-  std::copy_n(x, 2 * head, band.window + band.history);
-  splitMany<1>(band, {band.taps}, band.window, static_cast<size_t>(head), {dst});
+// What is copied to the window is read last, so that it has arrived: a load of what was stored in parts waits for 5 ns.
+template <size_t kBands>
+void splitStream(SplittingBand& band, const Qvx32f* const (&taps)[kBands], const Qvx32f* x, Qvx32f* const (&dst)[kBands],
+                 int64_t count) {
+  const int64_t head = throughWindow(count, (band.history + 1) / 2);
+  copy(x, 2 * head, band.window + band.history);
+  Qvx32f* rest[kBands];
+  for (size_t b = 0; b < kBands; ++b) rest[b] = dst[b] + head;
+  splitMany<kBands>(band, taps, x + 2 * head - band.history, static_cast<size_t>(count - head), rest);
+  splitMany<kBands>(band, taps, band.window, static_cast<size_t>(head), dst);
   keep(band, x + 2 * count, 2 * count);
-  return head;
 }
 
 void split(Bank<SplittingBand>& bank, const Qvx32f* x, Qvx32f* low, Qvx32f* high, int64_t count) {
-  const int64_t headLow = splitHead(*bank.low, x, low, count);
-  const int64_t headHigh = splitHead(*bank.high, x, high, count);
-  const auto left = [&](int64_t head) { return static_cast<size_t>(count - head); };
-  const auto from = [&](const Band& band, int64_t head) { return x + 2 * head - band.history; };
-  if (bank.low->length == bank.high->length && bank.low->offset == bank.high->offset) {
-    splitMany<2>(*bank.low, {bank.low->taps, bank.high->taps}, from(*bank.low, headLow), left(headLow),
-                 {low + headLow, high + headLow});
-  } else {
-    splitMany<1>(*bank.low, {bank.low->taps}, from(*bank.low, headLow), left(headLow), {low + headLow});
-    splitMany<1>(*bank.high, {bank.high->taps}, from(*bank.high, headHigh), left(headHigh), {high + headHigh});
-  }
+  if (bank.sharesWindow) return splitStream<2>(*bank.low, {bank.low->taps, bank.high->taps}, x, {low, high}, count);
+  splitStream<1>(*bank.low, {bank.low->taps}, x, {low}, count);
+  splitStream<1>(*bank.high, {bank.high->taps}, x, {high}, count);
 }
 
 // ---- inverse
 
 // kVectors vectors of first and of second results.
 template <size_t kVectors>
-[[gnu::always_inline]] inline void addBand(const JoiningBand& band, const Qvx32f* x, Pair<V> (&sum)[kVectors]) {
+[[gnu::always_inline]] inline void addBand(const JoiningBand& band, const Qvx32f* x, const Tile<kVectors>& tile,
+                                           Pair<V> (&sum)[kVectors]) {
   const TagOf<V> d;
   const auto add = [&](int p, auto toFirst, auto toSecond) __attribute__((always_inline)) {
     const V first = same<V>(band.taps[2 * p]);
     const V second = same<V>(band.taps[2 * p + 1]);
     unrolled<kVectors>([&](auto i) {
-      const V v = load(d, x + p + N * i);
+      const V v = load(d, x + p + tile.at[i]);
       if constexpr (toFirst) sum[i].lo = hn::MulAdd(first, v, sum[i].lo);
       if constexpr (toSecond) sum[i].hi = hn::MulAdd(second, v, sum[i].hi);
     });
@@ -147,54 +162,38 @@ template <size_t kVectors>
   if (band.newestInSecondOnly) add(end, kNo, kYes);
 }
 
-template <size_t kVectors>
-[[gnu::always_inline]] inline void join(const Bank<JoiningBand>& bank, const Qvx32f* low, const Qvx32f* high,
-                                        Pair<V> (&sum)[kVectors]) {
-  const TagOf<V> d;
-  unrolled<kVectors>([&](auto i) { sum[i] = {hn::Zero(d), hn::Zero(d)}; });
-  addBand(*bank.low, low, sum);
-  addBand(*bank.high, high, sum);
-}
-
 // `count` pairs of results. Fewer than a vector read past their windows.
 [[gnu::flatten]] void joinMany(const Bank<JoiningBand>& bank, const Qvx32f* low, const Qvx32f* high, size_t count, Qvx32f* dst) {
+  const TagOf<V> d;
   const InterleavedDestination<Qvx32f> to{dst};
-  size_t at = 0;
-  for (; at + kTile * N <= count; at += kTile * N) {
-    Pair<V> sum[kTile];
-    join(bank, low + at, high + at, sum);
-    unrolled<kTile>([&](auto i) { to.put<N>(sum[i], at + N * i); });
-  }
-  while (at < count) {
-    if (at + N > count && count >= N) at = count - N;
-    Pair<V> sum[1];
-    join(bank, low + at, high + at, sum);
-    const size_t left = std::min(N, count - at);
-    if (left == N) to.put<N>(sum[0], at);
-    else to.put<N>(sum[0], at, left);
-    at += left;
-  }
+  tiled(count, [&]<size_t kVectors>(const Tile<kVectors>& tile) {
+    Pair<V> sum[kVectors];
+    unrolled<kVectors>([&](auto i) { sum[i] = {hn::Zero(d), hn::Zero(d)}; });
+    addBand(*bank.low, low, tile, sum);
+    addBand(*bank.high, high, tile, sum);
+    unrolled<kVectors>([&](auto i) {
+      if (kVectors == 1 && count < N) to.put<N>(sum[i], 0, count);
+      else to.put<N>(sum[i], tile.at[i]);
+    });
+  });
 }
 
 void join(Bank<JoiningBand>& bank, const Qvx32f* low, const Qvx32f* high, Qvx32f* dst, int64_t count) {
-  const int64_t head = throughWindow(count, std::max(bank.low->history, bank.high->history), kShort);
-  for (const auto& [band, x] : {std::pair(bank.low, low), std::pair(bank.high, high)}) {
-    std::copy_n(x, head, band->window + band->history);
-  }
+  const int64_t head = throughWindow(count, std::max(bank.low->history, bank.high->history));
+  copy(low, head, bank.low->window + bank.low->history);
+  copy(high, head, bank.high->window + bank.high->history);
+  joinMany(bank, low + head - bank.low->history, high + head - bank.high->history, static_cast<size_t>(count - head),
+           dst + 2 * head);
   joinMany(bank, bank.low->window, bank.high->window, static_cast<size_t>(head), dst);
-  if (head < count) {
-    joinMany(bank, low + head - bank.low->history, high + head - bank.high->history, static_cast<size_t>(count - head),
-             dst + 2 * head);
-  }
   keep(*bank.low, low + count, count);
   keep(*bank.high, high + count, count);
 }
 
 // ---- filters as they are stored
 
-// New values that a window may have to hold: those of a short call, or of as many results as reach back, and less than a vector
-// more.
-int64_t room(const SplittingBand& band, int64_t) { return std::max<int64_t>(kShort, band.history + 1 + 2 * N); }
+// New values that a window may have to hold: those of a short call, or of as many results as reach back, and of less than a
+// vector more.
+int64_t room(const SplittingBand& band, int64_t) { return std::max<int64_t>(2 * kShort, band.history + 1 + 2 * N); }
 int64_t room(const JoiningBand&, int64_t mostHistory) { return std::max<int64_t>(kShort, mostHistory + N); }
 
 void shape(SplittingBand& band) {
@@ -238,6 +237,14 @@ template <class Part> void getLine(const Part& band, Qvx32f* line) {
   const int64_t n = lineLen(band);
   std::copy_n(band.window + band.history - n, n, line);
 }
+
+void shareWindow(Bank<SplittingBand>& bank) {
+  const SplittingBand& low = *bank.low;
+  const SplittingBand& high = *bank.high;
+  bank.sharesWindow = low.length == high.length && low.offset == high.offset &&
+                      std::memcmp(low.window, high.window, static_cast<size_t>(low.history) * sizeof(Qvx32f)) == 0;
+}
+void shareWindow(Bank<JoiningBand>&) {}
 
 // ---- records
 
@@ -313,6 +320,7 @@ QvxStatus allocate(S** ppState, const Qvx32f* tapsLow, int lenLow, int offsLow, 
   };
   state->low = place(low, tapsLow);
   state->high = place(high, tapsHigh);
+  shareWindow(*state);
   state->bufferLen = S::kBufferLen;
   if (state->bufferLen != 0) state->buffer = carver.take<Qvx32f>(state->bufferLen);
   state->magic = S::kId;
@@ -335,6 +343,7 @@ template <class S> QvxStatus setLines(S* state, const Qvx32f* low, const Qvx32f*
   if (isNull(low) || isNull(high)) return qvxStatNullPtr;
   setLine(*state->low, low);
   setLine(*state->high, high);
+  shareWindow(*state);
   return qvxStatOk;
 }
 template <class S> QvxStatus getLines(const S* state, Qvx32f* low, Qvx32f* high) {
@@ -342,7 +351,7 @@ template <class S> QvxStatus getLines(const S* state, Qvx32f* low, Qvx32f* high)
   if (status != qvxStatOk) return status;
   if (isNull(low) || isNull(high)) return qvxStatNullPtr;
   getLine(*state->low, low);
-  getLine(*state->high, high);
+  getLine(state->sharesWindow ? *state->low : *state->high, high);
   return qvxStatOk;
 }
 

@@ -37,6 +37,7 @@ template <class Part> struct Bank {
   Part* high;
   Qvx32f* buffer;
   int bufferLen;
+  bool sharesWindow;  // forward bands of one length and offset that have seen the same samples: the window of low serves both
 };
 
 }  // namespace qvx::wavelet
