@@ -38,6 +38,7 @@ void integerFft(Suite& suite);
 void spectrum(Suite& suite);
 void fir(Suite& suite);
 void iir(Suite& suite);
+void lms(Suite& suite);
 void haar(Suite& suite);
 void filterBank(Suite& suite);
 void goertzel(Suite& suite);
@@ -88,6 +89,7 @@ inline constexpr Family kFamilies[] = {
     {"spectrum", spectrum},
     {"fir", fir},
     {"iir", iir},
+    {"lms", lms},
     {"haar", haar},
     {"filter_bank", filterBank},
     {"goertzel", goertzel},

@@ -8,17 +8,18 @@
 extern "C" {
 #endif
 
-/* A stage of a wavelet filter bank: two filters, given by their taps, each with an offset. The forward stage splits a stream into two
- * of half its rate, the inverse one joins two such streams into one of the full rate:
- *   forward: low[k] = sum of h[j] * x[2k - o - j], j from 0 to L - 1, with the L taps h of the low band and their offset o; high alike;
+/* A stage of a wavelet filter bank: two filters, given by their taps, each with an offset. The forward stage splits a stream into
+ * two of half its rate, the inverse one joins two such streams into one of the full rate:
+ *   forward: low[k] = sum of h[j] * x[2k - o - j], j from 0 to L - 1, with the L taps h of the low band and their offset o; high
+ *            alike;
  *   inverse: y[n] = sum of h[j] * u[n - o - j], where u[2k] = low[k] and u[2k + 1] = 0, plus the same of the high band.
- * An offset is 0 or more, or -1, with which the forward stage looks one sample ahead. The inverse stage takes -1 as 1, but for the
- * length of its delay line. Offsets only delay: an orthogonal pair of L taps (L even), their reverse in the inverse stage, and the
- * same offset for both bands of a stage give x back d = L - 1 + forward offset + inverse offset samples later.
+ * An offset is 0 or more, or -1, with which the forward stage looks one sample ahead. The inverse stage takes -1 as 1, but for
+ * the length of its delay line. Offsets only delay: an orthogonal pair of L taps (L even), their reverse in the inverse stage,
+ * and the same offset for both bands of a stage give x back d = L - 1 + forward offset + inverse offset samples later.
  *
- * Before the first call all samples are zero. The record keeps those that later calls need, so that a stream may be cut between any
- * two pairs of samples: results are the same to the bit. Sums are in 32-bit floats, whatever the samples' type; integers of the
- * inverse stage are rounded to nearest with ties to even and saturated. A record serves one call at a time. */
+ * Before the first call all samples are zero. The record keeps those that later calls need, so that a stream may be cut between
+ * any two pairs of samples: results are the same to the bit. Sums are in 32-bit floats, whatever the samples' type; integers of
+ * the inverse stage are rounded to nearest with ties to even and saturated. A record serves one call at a time. */
 typedef struct QvxsWTFwdState_32f QvxsWTFwdState_32f;
 typedef struct QvxsWTFwdState_8u32f QvxsWTFwdState_8u32f;
 typedef struct QvxsWTFwdState_8s32f QvxsWTFwdState_8s32f;
@@ -37,7 +38,8 @@ QVXS_API(QvxStatus, qvxsWTFwdInitAlloc_32f, (QvxsWTFwdState_32f** ppState, const
 
 /** pDstLow, pDstHigh = the two bands of the next 2 * dstLen samples.
  *  pSrc: 2 * dstLen samples; pDstLow, pDstHigh: dstLen each. Any alignment; they must not overlap.
- *  Returns qvxStatOk; qvxStatNullPtr (the record); qvxStatContextMismatch (no such record); qvxStatNullPtr; qvxStatBadSize (dstLen < 1). */
+ *  Returns qvxStatOk; qvxStatNullPtr (the record); qvxStatContextMismatch (no such record); qvxStatNullPtr; qvxStatBadSize
+ *  (dstLen < 1). */
 QVXS_API(QvxStatus, qvxsWTFwd_32f, (const Qvx32f* pSrc, Qvx32f* pDstLow, Qvx32f* pDstHigh, int dstLen, QvxsWTFwdState_32f* pState));
 
 /** Replaces or reads what each band keeps of the stream: its last L + o - 1 samples, oldest first (none if that is below 1).

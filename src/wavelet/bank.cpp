@@ -1,6 +1,7 @@
 // The wavelet filter bank: one stage that splits a stream into two of half its rate, and one that joins them.
 #include "wavelet/bank.h"
 
+#include <bit>
 #include <cstring>
 
 #include "frame/complex.h"
@@ -241,8 +242,9 @@ template <class Part> void getLine(const Part& band, Qvx32f* line) {
 void shareWindow(Bank<SplittingBand>& bank) {
   const SplittingBand& low = *bank.low;
   const SplittingBand& high = *bank.high;
+  const auto sameBits = [](Qvx32f a, Qvx32f b) { return std::bit_cast<uint32_t>(a) == std::bit_cast<uint32_t>(b); };
   bank.sharesWindow = low.length == high.length && low.offset == high.offset &&
-                      std::memcmp(low.window, high.window, static_cast<size_t>(low.history) * sizeof(Qvx32f)) == 0;
+                      std::equal(low.window, low.window + low.history, high.window, sameBits);
 }
 void shareWindow(Bank<JoiningBand>&) {}
 
