@@ -38,7 +38,9 @@ void integerFft(Suite& suite);
 void spectrum(Suite& suite);
 void fir(Suite& suite);
 void iir(Suite& suite);
+void lms(Suite& suite);
 void haar(Suite& suite);
+void filterBank(Suite& suite);
 void goertzel(Suite& suite);
 void decode(Suite& suite);
 void helpers(Suite& suite);
@@ -87,7 +89,9 @@ inline constexpr Family kFamilies[] = {
     {"spectrum", spectrum},
     {"fir", fir},
     {"iir", iir},
+    {"lms", lms},
     {"haar", haar},
+    {"filter_bank", filterBank},
     {"goertzel", goertzel},
     {"decode", decode},
     {"helpers", helpers},

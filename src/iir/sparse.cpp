@@ -1,8 +1,9 @@
 // Recursive filters of few taps, each at a delay of its own.
-#include "frame/map.h"
+#include "convolution/sparse.h"
 #include "frame/record.h"
 
 using namespace qvx;
+using namespace qvx::convolution;
 
 namespace qvx::iir {
 
@@ -31,34 +32,13 @@ constexpr int64_t kAlign = 16;
 
 template <class T> constexpr int64_t bytesOf(int64_t count) { return up<kAlign>(count * int64_t{sizeof(T)}); }
 
-// The positions in turn, from `least` on.
-bool increases(const Qvx32s* positions, int count, int least) {
-  for (int i = 0; i < count; least = positions[i++] + 1) {
-    if (positions[i] < least) return false;
-  }
-  return true;
-}
-
 void fill(SparseSide& side, const Qvx32f* taps, const Qvx32s* positions, const Qvx32f* newestFirst) {
   std::copy_n(taps, side.count, side.taps);
   std::copy_n(positions, side.count, side.positions);
   for (int i = 0; i < side.order; ++i) side.window[i] = isNull(newestFirst) ? 0 : newestFirst[side.order - 1 - i];
 }
 
-// dst[n] = (kAdds ? dst[n] : 0) + the taps' sum, tap by tap in this order for every output, whatever the cut of the stream:
-// products and sums are rounded apart.
-void addTap(const Qvx32f* src, Qvx32f* dst, size_t n, Qvx32f tap) {
-  loop([tap](auto v, auto all) { return all + same<decltype(v)>(tap) * v; }, destination(dst), n, source(src),
-       source(static_cast<const Qvx32f*>(dst)));
-}
-void feed(const SparseSide& b, const Qvx32f* src, Qvx32f* dst, size_t n) {
-  constexpr size_t kBlock = 1024;
-  for (size_t at = 0; at < n; at += kBlock) {
-    const size_t count = std::min(kBlock, n - at);
-    std::fill_n(dst + at, count, 0.0F);
-    for (int i = 0; i < b.count; ++i) addTap(src + at - b.positions[i], dst + at, count, b.taps[i]);
-  }
-}
+void feed(const SparseSide& b, const Qvx32f* src, Qvx32f* dst, size_t n) { sumTaps(b.taps, b.positions, b.count, src, dst, n); }
 
 // y holds the feed-forward sums. As many outputs at a time as the nearest tap leaves between it and them.
 void feedBack(const SparseSide& a, Qvx32f* y, size_t n) {
@@ -77,13 +57,6 @@ void feedBack(const SparseSide& a, Qvx32f* y, size_t n) {
     const size_t count = std::min(step, n - at);
     for (int k = 0; k < a.count; ++k) addTap(y + at - a.positions[k], y + at, count, a.taps[k]);
   }
-}
-
-// The window moves on by n samples, of which the last are at `end`; short vectors are in it already.
-void moveOn(const SparseSide& side, const Qvx32f* end, size_t n) {
-  const auto order = static_cast<size_t>(side.order);
-  if (n >= order) std::copy_n(end - order, order, side.window);
-  else std::copy_n(side.window + n, order, side.window);
 }
 
 }  // namespace
@@ -130,13 +103,13 @@ QvxStatus qvxsIIRSparse_32f(const Qvx32f* src, Qvx32f* dst, int len, QvxsIIRSpar
   std::copy_n(src, headB, b.window + b.order);
   feed(b, b.window + b.order, dst, headB);
   feed(b, src + headB, dst + headB, n - headB);
-  moveOn(b, src + n, n);
+  moveOn(b.window, static_cast<size_t>(b.order), src + n, n);
 
   const size_t headA = std::min(n, static_cast<size_t>(a.order));
   std::copy_n(dst, headA, a.window + a.order);
   feedBack(a, a.window + a.order, headA);
   std::copy_n(a.window + a.order, headA, dst);
   feedBack(a, dst + headA, n - headA);
-  moveOn(a, dst + n, n);
+  moveOn(a.window, static_cast<size_t>(a.order), dst + n, n);
   return qvxStatOk;
 }

@@ -52,7 +52,7 @@ class AnyCall : public Arguments {
 
   QvxStatus run() {
     status_ = export_.call(library_(export_), *this);
-    if (contains(export_.name, {"Free"}) && status_ == qvxStatOk) records_.clear();
+    if (contains(export_.name, {"Free"}) && status_ == qvxStatOk && pointers_.at(0) != nullptr) records_.clear();
     return status_;
   }
 
@@ -274,8 +274,11 @@ inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, 
   }
   if (how == "positions") {
     auto* position = reinterpret_cast<int32_t*>(p);
-    for (const auto& [count, order] : {std::pair{"nzTapsLenB", "orderB"}, std::pair{"nzTapsLenA", "orderA"}}) {
-      int at = order[5] == 'A' ? 1 : 0;
+    using Counted = std::pair<const char*, const char*>;
+    for (const auto& [count, order] :
+         {Counted("nzTapsLenB", "orderB"), Counted("nzTapsLenA", "orderA"), Counted("nzTapsLen", "order")}) {
+      if (shape(count) == 0) continue;
+      int at = order[5] == 'B' ? 0 : 1;
       for (int64_t i = 0; i < shape(count); ++i, at += static_cast<int>(choices.between(1, 9))) shape_[order] = *position++ = at;
     }
   }

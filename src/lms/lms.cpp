@@ -1,0 +1,280 @@
+// Adaptive filters: one step after another, vectors along the taps.
+#include <array>
+
+#include "convolution/elements.h"
+#include "frame/record.h"
+#include "frame/reduce.h"
+#include "frame/unroll.h"
+
+using namespace qvx;
+using namespace qvx::convolution;
+
+namespace qvx::lms {
+
+// Taps stand with that of the oldest sample first and zeros after the last, in whole vectors. The line is a circle of tapsLen
+// samples, the oldest at the index; a call brings it into order and has room for a chunk of new samples after it.
+struct LmsRecord : RecordHead {
+  int tapsLen;
+  int index;
+  Qvx32f* taps;
+  Qvx32f* line;
+};
+
+}  // namespace qvx::lms
+
+// Fixed values of the interface.
+struct QvxsFIRLMSState_32f : qvx::lms::LmsRecord {
+  static constexpr uint32_t kId = 0x4c4d5331;
+};
+struct QvxsFIRLMSState32f_16s : qvx::lms::LmsRecord {
+  static constexpr uint32_t kId = 0x4c4d5300;
+};
+
+namespace {
+
+using V = Vec<Lanes<Qvx32f, kVectorBytes / sizeof(Qvx32f)>>;
+constexpr size_t N = kLanesOf<V>;
+constexpr size_t kChunk = 1024;
+// Vectors of taps that registers hold beside what else a step needs.
+constexpr size_t kMostInRegisters = kHasMasks ? 16 : 8;
+
+// The sum of all lanes in every lane: a sum in one would take 3 cycles more to get back into all.
+V sumInAll(V v) {
+  const TagOf<V> d;
+  if constexpr (N == 16) v = v + hn::ConcatLowerUpper(d, v, v);
+  if constexpr (N >= 8) v = v + hn::SwapAdjacentBlocks(v);
+  v = v + hn::Shuffle1032(v);
+  return v + hn::Shuffle2301(v);
+}
+
+// `count` steps with all taps in registers. The window of step i is x[i] to x[i + n - 1].
+template <size_t kVectors>
+void stepsInRegisters(Qvx32f* taps, size_t n, const Qvx32f* x, const Qvx32f* ref, Qvx32f* dst, size_t count, Qvx32f rate) {
+  const TagOf<V> d;
+  constexpr size_t kLast = kVectors - 1;
+  constexpr size_t kSums = std::min<size_t>(kVectors, 4);
+  const auto inLast = hn::FirstN(d, n - kLast * N);
+  V h[kVectors];
+  unrolled<kVectors>([&](auto k) { h[k] = load(d, taps + N * k); });
+  for (size_t i = 0; i < count; ++i) {
+    const auto sample = [&](auto k) {
+      const V v = load(d, x + i + N * k);
+      return k == kLast ? hn::IfThenElseZero(inLast, v) : v;
+    };
+    V sum[kSums];
+    unrolled<kSums>([&](auto k) { sum[k] = h[k] * sample(k); });
+    unrolled<kVectors - kSums>([&](auto k) {
+      sum[k % kSums] = hn::MulAdd(h[k + kSums], sample(std::integral_constant<size_t, k + kSums>()), sum[k % kSums]);
+    });
+    if constexpr (kSums > 2) sum[0] = sum[0] + sum[2];
+    if constexpr (kSums > 3) sum[1] = sum[1] + sum[3];
+    if constexpr (kSums > 1) sum[0] = sum[0] + sum[1];
+    const V y = sumInAll(sum[0]);
+    const V e = (hn::Set(d, ref[i]) - y) * hn::Set(d, rate);
+    dst[i] = hn::GetLane(y);
+    unrolled<kVectors>([&](auto k) { h[k] = hn::MulAdd(k == kLast ? hn::IfThenElseZero(inLast, e) : e, sample(k), h[k]); });
+  }
+  unrolled<kVectors>([&](auto k) { store(h[k], d, taps + N * k); });
+}
+
+// The same in memory: a pass adapts to the step before and takes the sum of the next, so that taps are loaded and stored once.
+void stepsInMemory(Qvx32f* taps, size_t n, const Qvx32f* x, const Qvx32f* ref, Qvx32f* dst, size_t count, Qvx32f rate) {
+  const TagOf<V> d;
+  constexpr size_t kSums = 4;
+  const size_t whole = n / N * N;
+  const auto inLast = hn::FirstN(d, n - whole);
+  V e = hn::Zero(d);
+  for (size_t i = 0; i <= count; ++i) {
+    const Qvx32f* now = x + i;
+    const Qvx32f* before = i == 0 ? now : now - 1;
+    V sum[kSums];
+    unrolled<kSums>([&](auto k) { sum[k] = hn::Zero(d); });
+    const auto step = [&](size_t at, V& all) {
+      const V h = hn::MulAdd(e, load(d, before + at), load(d, taps + at));
+      store(h, d, taps + at);
+      all = hn::MulAdd(h, load(d, now + at), all);
+    };
+    size_t at = 0;
+    for (; at + kSums * N <= whole; at += kSums * N) unrolled<kSums>([&](auto k) { step(at + N * k, sum[k]); });
+    for (; at < whole; at += N) step(at, sum[0]);
+    if (at < n) {
+      const V h = hn::MulAdd(hn::IfThenElseZero(inLast, e), hn::IfThenElseZero(inLast, load(d, before + at)), load(d, taps + at));
+      store(h, d, taps + at);
+      sum[1] = hn::MulAdd(h, hn::IfThenElseZero(inLast, load(d, now + at)), sum[1]);
+    }
+    if (i == count) return;
+    const V y = sumInAll((sum[0] + sum[2]) + (sum[1] + sum[3]));
+    e = (hn::Set(d, ref[i]) - y) * hn::Set(d, rate);
+    dst[i] = hn::GetLane(y);
+  }
+}
+
+void steps(Qvx32f* taps, size_t n, const Qvx32f* x, const Qvx32f* ref, Qvx32f* dst, size_t count, Qvx32f rate) {
+  using Steps = void (*)(Qvx32f*, size_t, const Qvx32f*, const Qvx32f*, Qvx32f*, size_t, Qvx32f);
+  static constexpr auto kSteps = []<size_t... K>(std::index_sequence<K...>) {
+    return std::array<Steps, kMostInRegisters>{stepsInRegisters<K + 1>...};
+  }
+  (std::make_index_sequence<kMostInRegisters>());
+  const size_t vectors = (n + N - 1) / N;
+  (vectors <= kMostInRegisters ? kSteps[vectors - 1] : stepsInMemory)(taps, n, x, ref, dst, count, rate);
+}
+
+// ---- records
+
+int64_t wholeVectors(int64_t n) { return up<static_cast<int64_t>(N)>(n); }
+
+template <class T> void setLine(lms::LmsRecord& record, const T* line, int index) {
+  const auto n = static_cast<size_t>(record.tapsLen);
+  record.index = index >= 0 && index < record.tapsLen ? index : 0;
+  if (isNull(line)) std::fill_n(record.line, n, 0.0F);
+  else toKernel(line, n, record.line);
+}
+
+template <class S, class T> QvxStatus allocate(S** ppState, const Qvx32f* taps, int tapsLen, const T* line, int index) {
+  if (isNull(ppState)) return qvxStatNullPtr;
+  if (tapsLen < 1) return qvxStatBadSize;
+  const int64_t tapsRoom = wholeVectors(tapsLen);
+  const int64_t lineRoom = tapsRoom + static_cast<int64_t>(kChunk + N);
+  const int64_t bytes = up<Carver::kLine>(sizeof(S)) + 2 * Carver::kLine + (tapsRoom + lineRoom) * int64_t{sizeof(Qvx32f)};
+  return allocateRecord(ppState, bytes, [=](S** made, Qvx8u* block) {
+    return initRecord(made, block, [=](S& record, Carver& carver) {
+      record.magic = S::kId;
+      record.tapsLen = tapsLen;
+      record.taps = carver.takeLines<Qvx32f>(tapsRoom);
+      record.line = carver.takeLines<Qvx32f>(lineRoom);
+      std::fill_n(record.taps, tapsRoom, 0.0F);
+      std::fill_n(record.line, lineRoom, 0.0F);
+      if (!isNull(taps)) copyReversed(taps, static_cast<size_t>(tapsLen), record.taps);
+      setLine(record, line, index);
+      return qvxStatOk;
+    });
+  });
+}
+
+QvxStatus release(lms::LmsRecord* state) {
+  if (!isNull(state)) qvxFree(state);
+  return qvxStatOk;
+}
+
+template <class S, class T> QvxStatus run(const T* src, const T* ref, T* dst, int len, S* state, Qvx32f mu) {
+  if (isNull(src) || isNull(ref) || isNull(dst) || isNull(state)) return qvxStatNullPtr;
+  if (len < 1) return qvxStatBadSize;
+  const QvxStatus status = checkRecord(state, S::kId);
+  if (status != qvxStatOk) return status;
+  const auto n = static_cast<size_t>(state->tapsLen);
+  std::rotate(state->line, state->line + state->index, state->line + n);
+  state->index = 0;
+  for (size_t at = 0; at < elements(len); at += kChunk) {
+    const size_t count = std::min(kChunk, elements(len) - at);
+    toKernel(src + at, count, state->line + n);
+    if constexpr (std::is_same_v<T, Qvx32f>) {
+      steps(state->taps, n, state->line + 1, ref + at, dst + at, count, 2 * mu);
+    } else {
+      Qvx32f wanted[kChunk];
+      Qvx32f y[kChunk];
+      toKernel(ref + at, count, wanted);
+      steps(state->taps, n, state->line + 1, wanted, y, count, 2 * mu);
+      toSamples(y, count, dst + at, 0);
+    }
+    std::copy_n(state->line + count, n, state->line);
+  }
+  return qvxStatOk;
+}
+
+template <class S> QvxStatus getTaps(const S* state, Qvx32f* taps) {
+  if (isNull(state) || isNull(taps)) return qvxStatNullPtr;
+  const QvxStatus status = checkRecord(state, S::kId);
+  if (status == qvxStatOk) copyReversed(state->taps, static_cast<size_t>(state->tapsLen), taps);
+  return status;
+}
+template <class S, class T> QvxStatus getDelayLine(const S* state, T* line, int* index) {
+  if (isNull(state) || isNull(line) || isNull(index)) return qvxStatNullPtr;
+  const QvxStatus status = checkRecord(state, S::kId);
+  if (status != qvxStatOk) return status;
+  toSamples(state->line, static_cast<size_t>(state->tapsLen), line, 0);
+  *index = state->index;
+  return qvxStatOk;
+}
+template <class S, class T> QvxStatus setDelayLine(S* state, const T* line, int index) {
+  const QvxStatus status = checkRecord(state, S::kId);
+  if (status == qvxStatOk) setLine(*state, line, index);
+  return status;
+}
+
+// ---- one step without a record
+
+struct FloatProducts : Reduction {
+  using Inner = Qvx32f;
+  template <class A, class U> A start(A h, U x) const { return h * widened<Qvx32f>(x); }
+  template <class A, class U> A add(A sum, A h, U x) const { return hn::MulAdd(h, widened<Qvx32f>(x), sum); }
+  template <class A> Qvx32f total(A sum) const { return sumOfLanes(sum); }
+};
+
+// Sums of 64 bits that wrap.
+struct LongProducts : Reduction {
+  using Inner = int32_t;
+  template <class A, class U> auto start(A h, U v) const {
+    const A x = widened<int32_t>(v);
+    return evenProducts(h, x) + evenProducts(hn::Shuffle2301(h), hn::Shuffle2301(x));
+  }
+  template <class A, class H, class U> A add(A sum, H h, U v) const { return sum + start(h, v); }
+  template <class A> int64_t total(A sum) const { return sumOfLanes(sum); }
+};
+
+template <class T, class H> QvxStatus checkStep(const void* dst, const H* taps, int tapsLen, const T* line, const int* index) {
+  if (isNull(dst) || isNull(taps) || isNull(line) || isNull(index)) return qvxStatNullPtr;
+  if (tapsLen < 1) return qvxStatBadSize;
+  return *index < 0 || *index >= tapsLen ? qvxStatBadDlyIndex : qvxStatOk;
+}
+
+// Takes a sample and gives the window.
+template <class T> const T* push(T v, T* line, int tapsLen, int* index) {
+  line[*index] = line[*index + int64_t{tapsLen}] = v;
+  if (++*index == tapsLen) *index = 0;
+  return line + *index;
+}
+
+template <class T> QvxStatus one(T src, T ref, Qvx32f mu, T* dst, Qvx32f* taps, int tapsLen, T* line, int* index) {
+  const QvxStatus status = checkStep(dst, taps, tapsLen, line, index);
+  if (status != qvxStatOk) return status;
+  const T* window = push(src, line, tapsLen, index);
+  const size_t n = elements(tapsLen);
+  const Qvx32f y = reduce(FloatProducts(), n, source(static_cast<const Qvx32f*>(taps)), source(window));
+  toSamples(&y, 1, dst, 0);
+  const Qvx32f e = (static_cast<Qvx32f>(ref) - y) * (2 * mu);
+  return loop([e](auto h, auto x) { return hn::MulAdd(same<decltype(h)>(e), widened<Qvx32f>(x), h); }, destination(taps), n,
+              source(static_cast<const Qvx32f*>(taps)), source(window));
+}
+
+QvxStatus oneQ15(Qvx16s src, Qvx16s ref, int muQ15, Qvx16s* dst, Qvx32s* taps, int tapsLen, Qvx16s* line, int* index) {
+  const QvxStatus status = checkStep(dst, taps, tapsLen, line, index);
+  if (status != qvxStatOk) return status;
+  const Qvx16s* window = push(src, line, tapsLen, index);
+  const size_t n = elements(tapsLen);
+  const auto y = scaled<Qvx16s>(reduce(LongProducts(), n, source(static_cast<const Qvx32s*>(taps)), source(window)), 15);
+  *dst = y;
+  const int64_t e = saturate<Qvx16s>(int32_t{ref} - y);
+  const int64_t factor = 2 * int64_t{muQ15} * e;  // of 47 bits, times a sample and beside a tap times 2^30 of less than 63
+  for (size_t i = 0; i < n; ++i) taps[i] = scaled<Qvx32s>(int64_t{taps[i]} * (1 << 30) + factor * window[i], 30);
+  return qvxStatOk;
+}
+
+}  // namespace
+
+// clang-format off
+QvxStatus qvxsFIRLMSInitAlloc_32f   (QvxsFIRLMSState_32f** s,    const Qvx32f* h, int n, const Qvx32f* line, int i) { return allocate(s, h, n, line, i); }
+QvxStatus qvxsFIRLMSInitAlloc32f_16s(QvxsFIRLMSState32f_16s** s, const Qvx32f* h, int n, const Qvx16s* line, int i) { return allocate(s, h, n, line, i); }
+QvxStatus qvxsFIRLMS_32f   (const Qvx32f* x, const Qvx32f* r, Qvx32f* d, int len, QvxsFIRLMSState_32f* s,    Qvx32f mu) { return run(x, r, d, len, s, mu); }
+QvxStatus qvxsFIRLMS32f_16s(const Qvx16s* x, const Qvx16s* r, Qvx16s* d, int len, QvxsFIRLMSState32f_16s* s, Qvx32f mu) { return run(x, r, d, len, s, mu); }
+QvxStatus qvxsFIRLMSGetTaps_32f   (const QvxsFIRLMSState_32f* s,    Qvx32f* h) { return getTaps(s, h); }
+QvxStatus qvxsFIRLMSGetTaps32f_16s(const QvxsFIRLMSState32f_16s* s, Qvx32f* h) { return getTaps(s, h); }
+QvxStatus qvxsFIRLMSGetDlyLine_32f   (const QvxsFIRLMSState_32f* s,    Qvx32f* line, int* i) { return getDelayLine(s, line, i); }
+QvxStatus qvxsFIRLMSGetDlyLine32f_16s(const QvxsFIRLMSState32f_16s* s, Qvx16s* line, int* i) { return getDelayLine(s, line, i); }
+QvxStatus qvxsFIRLMSSetDlyLine_32f   (QvxsFIRLMSState_32f* s,    const Qvx32f* line, int i) { return setDelayLine(s, line, i); }
+QvxStatus qvxsFIRLMSSetDlyLine32f_16s(QvxsFIRLMSState32f_16s* s, const Qvx16s* line, int i) { return setDelayLine(s, line, i); }
+QvxStatus qvxsFIRLMSFree_32f   (QvxsFIRLMSState_32f* s)    { return release(s); }
+QvxStatus qvxsFIRLMSFree32f_16s(QvxsFIRLMSState32f_16s* s) { return release(s); }
+QvxStatus qvxsFIRLMSOne_Direct_32f   (Qvx32f x, Qvx32f r, Qvx32f mu, Qvx32f* d, Qvx32f* h, int n, Qvx32f* line, int* i) { return one(x, r, mu, d, h, n, line, i); }
+QvxStatus qvxsFIRLMSOne_Direct32f_16s(Qvx16s x, Qvx16s r, Qvx32f mu, Qvx16s* d, Qvx32f* h, int n, Qvx16s* line, int* i) { return one(x, r, mu, d, h, n, line, i); }
+QvxStatus qvxsFIRLMSOne_DirectQ15_16s(Qvx16s x, Qvx16s r, int mu,    Qvx16s* d, Qvx32s* h, int n, Qvx16s* line, int* i) { return oneQ15(x, r, mu, d, h, n, line, i); }
+// clang-format on
