@@ -1,0 +1,190 @@
+// The records of multi-rate filters.
+//
+// Samples are dealt among as many rows as the reduced decimation factor has units, so that those which one tap meets, for one
+// output after another, stand side by side: a branch of the filter is a sum of ordinary convolutions of rows.
+#pragma once
+
+#include "convolution/transpose.h"
+#include "fir/contents.h"
+#include "fir/ratio.h"
+
+namespace qvx::fir {
+
+template <class C> struct MultirateRecord : RecordHead {
+  int tapsLen;
+  Ratio ratio;
+  int history;  // samples of a row that come before those of a call
+  int block;    // those of a call that a row takes at a time
+  int stride;   // from one row to the next
+  C* rows;
+
+  size_t rowCount() const { return static_cast<size_t>(ratio.down); }
+  C* row(size_t i) const { return rows + i * static_cast<size_t>(stride); }
+  // A sample by its place, counted from the first of a call.
+  C* sample(int64_t place) const {
+    const int64_t at = place + int64_t{history} * ratio.down;
+    return row(static_cast<size_t>(at % ratio.down)) + at / ratio.down;
+  }
+};
+
+template <class C> struct MultirateFloat : MultirateRecord<C> {
+  using Kernel = C;
+  using Taps = C;
+  using Branches = C;
+  static constexpr int64_t kPadding = kVectorElements<C>;  // after the samples of a row
+
+  C* taps;  // reversed
+  C* branches;
+};
+template <class S, class T> struct MultirateInteger : MultirateRecord<S> {
+  using Kernel = S;
+  using Taps = T;
+  using Branches = Qvx16sc;
+  static constexpr int64_t kPadding = 2 * kVectorElements<S>;
+
+  T* taps;  // reversed, as they were reduced
+  int tapsFactor;
+  bool isPaired;  // not if -im of a tap has no 16 bits
+  S* shortTaps;   // reversed
+  S* group;       // the taps of a row
+  Qvx16sc* branches;
+};
+
+template <class C> MultirateFloat<C> multirateFor(const FloatRecord<C>*);
+template <class S, class T> MultirateInteger<S, T> multirateFor(const IntegerRecord<S, T>*);
+
+// What a state's pointer leads to if it has the identity of multi-rate filters.
+template <class S> struct MultirateState : decltype(multirateFor(static_cast<S*>(nullptr))) {
+  using Sample = typename S::Sample;
+  static constexpr uint32_t kId = S::kMultirateId;
+};
+template <class S> bool isMultirate(const S* state) { return state->magic == S::kMultirateId; }
+template <class S> MultirateState<S>& asMultirate(S* state) { return *reinterpret_cast<MultirateState<S>*>(state); }
+template <class S> const MultirateState<S>& asMultirate(const S* state) {
+  return *reinterpret_cast<const MultirateState<S>*>(state);
+}
+
+// ---- sizes, as users allocate by them: fixed values of the interface
+
+inline int64_t multirateBytes(int64_t n, int64_t u, int64_t d, int64_t element) {
+  const int64_t length = (n + 3 * d + u - 1) / u * u;
+  const int64_t line = (n + u - 1) / u;
+  const int64_t steps = (line + d - 1) / d;
+  const int64_t block = 4 * d * (length / u / (4 * d) + 1) + 1 + d * ((4 - steps % 4) % 4);
+  const float share = static_cast<float>(n) / static_cast<float>(n + 3 * d);
+  const bool isDense = u == 1 ? share > 0.5F : double{share} > 0.3;
+  const int64_t table = isDense ? 176 + ((4 * u + 19) & ~15) : 160 + ((16 * u + 19) & ~15);
+  return table + up<16>(element * n) + 4 * element * length + element * std::max((isDense ? 4 : 8) * length, int64_t{4096}) +
+         ((element * (line + block) + 19) & ~15);
+}
+// Of integers as much as of the floats twice as wide as they would need.
+template <class C> constexpr int64_t kElementBytes = std::is_integral_v<Part<C>> ? 8 * PartsOf<C>::kCount : sizeof(C);
+template <class C> int64_t multirateBytes(int tapsLen, const Factors& f) {
+  return multirateBytes(tapsLen, f.up, f.down, kElementBytes<C>);
+}
+
+// ---- layout
+
+// Sums of branches on their way to the outputs they belong between, in bytes.
+inline constexpr size_t kSumsBytes = 8192;
+
+// Elements of all branches' taps.
+template <class C> int64_t branchesLen(const MultirateFloat<C>&, const Ratio& q) { return int64_t{q.up} * q.taps; }
+template <class S, class T> int64_t branchesLen(const MultirateInteger<S, T>&, const Ratio& q) {
+  if (PartsOf<S>::kCount == 2) return 2 * int64_t{q.up} * q.taps;
+  return int64_t{q.up} * (q.taps + 2 * int64_t{std::min(q.down, q.taps)});
+}
+
+template <class C> void placeTaps(MultirateFloat<C>& record, Carver& carver) {
+  record.taps = carver.takeLines<C>(record.tapsLen);
+  record.branches = carver.takeLines<C>(branchesLen(record, record.ratio));
+}
+template <class S, class T> void placeTaps(MultirateInteger<S, T>& record, Carver& carver) {
+  record.taps = carver.takeLines<T>(record.tapsLen);
+  if constexpr (std::is_same_v<S, T>) record.shortTaps = record.taps;
+  else record.shortTaps = carver.takeLines<S>(record.tapsLen);
+  record.group = carver.takeLines<S>(record.ratio.taps);
+  record.branches = carver.takeLines<Qvx16sc>(branchesLen(record, record.ratio));
+}
+
+// The rows take what is left of the block's bytes, from `begin` on.
+template <class R> void layOut(R& record, Carver& carver, const Qvx8u* begin, int64_t bytes, int tapsLen, const Factors& f) {
+  using C = typename R::Kernel;
+  constexpr int64_t kVector = kVectorElements<C>;
+  record.tapsLen = tapsLen;
+  const Ratio q = record.ratio = Ratio::of(tapsLen, f);
+  placeTaps(record, carver);
+  record.rows = carver.takeLines<C>(0);
+  record.history = static_cast<int>((int64_t{q.delayLen} + q.down - 1) / q.down);
+  const int64_t left = (bytes - (reinterpret_cast<const Qvx8u*>(record.rows) - begin)) / int64_t{sizeof(C)};
+  const int64_t most = static_cast<int64_t>(kSumsBytes / sizeof(C)) / std::min(q.up, 16);
+  const int64_t fits = left / q.down - record.history - R::kPadding;
+  const int64_t block = std::min(most, fits);
+  record.block = static_cast<int>(block > kVector ? block / kVector * kVector : block);
+  record.stride = static_cast<int>(record.history + record.block + R::kPadding);
+  std::fill_n(record.rows, q.down * int64_t{record.stride}, C{});
+}
+
+// ---- taps and delay line
+
+// f(branch, number) for all branches.
+template <class F> void forEachBranch(const Ratio& q, F f) {
+  Branch branch = q.branch();
+  for (int j = 0; j < q.up; ++j, branch.advance(q.up, q.down)) f(branch, j);
+}
+
+template <class C> void dealTaps(MultirateFloat<C>& record) {
+  const Ratio& q = record.ratio;
+  C* to = record.branches;
+  const int apart = areTapsByRow(static_cast<size_t>(q.taps), record.rowCount()) ? q.down : 1;
+  forEachBranch(q, [&](const Branch& branch, int) {
+    for (int row = 0; row < apart; ++row) {
+      for (int t = row; t < q.taps; t += apart) *to++ = q.tapOf(record.taps, record.tapsLen, branch.tap, t);
+    }
+  });
+}
+template <class S, class T> void dealTaps(MultirateInteger<S, T>& record) {
+  const Ratio& q = record.ratio;
+  Qvx16sc* to = record.branches;
+  forEachBranch(q, [&](const Branch& branch, int) {
+    for (int row = 0; row < std::min(q.down, q.taps); ++row) {
+      size_t n = 0;
+      for (int t = row; t < q.taps; t += q.down) record.group[n++] = q.tapOf(record.shortTaps, record.tapsLen, branch.tap, t);
+      to += 2 * paired(record.group, n, to).count;
+    }
+  });
+}
+
+template <class C, class H> QvxStatus setTaps(MultirateFloat<C>& record, const H* taps) {
+  copyReversed(taps, static_cast<size_t>(record.tapsLen), record.taps);
+  dealTaps(record);
+  return qvxStatOk;
+}
+
+// The caller's line is newest first; none stands for zeros.
+template <class R, class S> void setMultirateDelay(const R& record, const S* newestFirst) {
+  using C = typename R::Kernel;
+  for (int64_t i = 0; i < record.ratio.delayLen; ++i) {
+    *record.sample(-1 - i) = isNull(newestFirst) ? C{} : elementAs<C>(newestFirst[i]);
+  }
+}
+template <class R, class S> void getMultirateDelay(const R& record, S* newestFirst) {
+  for (int64_t i = 0; i < record.ratio.delayLen; ++i) newestFirst[i] = elementAs<S>(*record.sample(-1 - i));
+}
+
+// ---- building
+
+template <class S, class SetTaps>
+QvxStatus buildMultirate(MultirateState<S>** ppState, Qvx8u* block, int tapsLen, const Factors& f, const typename S::Sample* delay,
+                         SetTaps setTaps) {
+  const int64_t bytes = multirateBytes<typename S::Kernel>(tapsLen, f);
+  return initRecord(ppState, block, [&](MultirateState<S>& record, Carver& carver) {
+    record.magic = S::kMultirateId;
+    layOut(record, carver, block, bytes, tapsLen, f);
+    setTaps(record);
+    setMultirateDelay(record, delay);
+    return qvxStatOk;
+  });
+}
+
+}  // namespace qvx::fir
