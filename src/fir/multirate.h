@@ -88,23 +88,25 @@ template <class C> int64_t multirateBytes(int tapsLen, const Factors& f) {
 // Sums of branches on their way to the outputs they belong between, in bytes.
 inline constexpr size_t kSumsBytes = 8192;
 
-// Elements of all branches' taps.
-template <class C> int64_t branchesLen(const MultirateFloat<C>&, const Ratio& q) { return int64_t{q.up} * q.taps; }
-template <class S, class T> int64_t branchesLen(const MultirateInteger<S, T>&, const Ratio& q) {
-  if (PartsOf<S>::kCount == 2) return 2 * int64_t{q.up} * q.taps;
-  return int64_t{q.up} * (q.taps + 2 * int64_t{std::min(q.down, q.taps)});
+// Elements of a branch's taps. Those of integers are in pairs, row by row.
+template <class C> int64_t branchLen(const MultirateFloat<C>& record) { return record.ratio.taps; }
+template <class S, class T> int64_t branchLen(const MultirateInteger<S, T>& record) {
+  const Ratio& q = record.ratio;
+  const auto pairs = [](int taps) { return taps > 0 ? static_cast<int64_t>(pairsOf(static_cast<size_t>(taps), S())) : 0; };
+  const int longer = q.taps % q.down;
+  return 2 * (longer * pairs(q.taps / q.down + 1) + (q.down - longer) * pairs(q.taps / q.down));
 }
 
 template <class C> void placeTaps(MultirateFloat<C>& record, Carver& carver) {
   record.taps = carver.takeLines<C>(record.tapsLen);
-  record.branches = carver.takeLines<C>(branchesLen(record, record.ratio));
+  record.branches = carver.takeLines<C>(record.ratio.up * branchLen(record));
 }
 template <class S, class T> void placeTaps(MultirateInteger<S, T>& record, Carver& carver) {
   record.taps = carver.takeLines<T>(record.tapsLen);
   if constexpr (std::is_same_v<S, T>) record.shortTaps = record.taps;
   else record.shortTaps = carver.takeLines<S>(record.tapsLen);
   record.group = carver.takeLines<S>(record.ratio.taps);
-  record.branches = carver.takeLines<Qvx16sc>(branchesLen(record, record.ratio));
+  record.branches = carver.takeLines<Qvx16sc>(record.ratio.up * branchLen(record));
 }
 
 // The rows take what is left of the block's bytes, from `begin` on.

@@ -33,10 +33,7 @@ QvxStatus withRecord(const Caller<H, T>& caller, const T* src, T* dst, int numIt
   if (status != qvxStatOk) return status;
   const Factors& f = caller.factors;
   const auto init = [&](MultirateState<S>** pp, Qvx8u* block) {
-    return buildMultirate<S>(pp, block, caller.tapsLen, f, nullptr, [&](MultirateState<S>& record) {
-      setTaps(record);
-      setMultirateDelay(record, caller.delay);
-    });
+    return buildMultirate<S>(pp, block, caller.tapsLen, f, caller.delay, setTaps);
   };
   const int64_t bytes = multirateBytes<typename S::Kernel>(caller.tapsLen, f);
   return withTemporaryRecord<MultirateState<S>>(bytes, init, [&](MultirateState<S>& record) {

@@ -50,15 +50,15 @@ template <class R> class Branches {
   void next(C* sums) {
     const Ratio& q = record_.ratio;
     const auto taps = static_cast<size_t>(q.taps);
+    const auto* const p = record_.branches + number_ * branchLen(record_);
     const C* const first = record_.sample(branch_.sample - q.taps + 1);
     const auto stride = static_cast<size_t>(record_.stride);
     const auto place = static_cast<size_t>(first - record_.rows);
     const Dealt<C> x = {record_.rows, stride, record_.rowCount(), place / stride, place % stride};
     if constexpr (!std::is_integral_v<Part<C>>) {
-      convolve(x, record_.branches + number_ * taps, taps, periods_, sums, call_);
+      convolve(x, p, taps, periods_, sums, call_);
     } else if (record_.isPaired) {
-      const auto each = branchesLen(record_, q) / q.up;
-      convolve(x, record_.branches + static_cast<int64_t>(number_) * each, taps, periods_, sums, places_);
+      convolve(x, p, taps, periods_, sums, places_);
     } else {
       for (size_t i = 0; i < periods_; ++i) sums[i] = scaledSumAt(static_cast<int64_t>(i));
     }
@@ -90,7 +90,7 @@ template <class R> class Branches {
   Call call_;
   int64_t places_;
   Branch branch_;
-  size_t number_ = 0;
+  int64_t number_ = 0;
 };
 
 // finish(sums, n, outputs) makes the outputs of sums; integer sums come scaled by 2^places. src may be dst, unless there are more
