@@ -44,26 +44,27 @@ template <class R> class Branches {
   using C = typename R::Kernel;
 
   Branches(const R& record, size_t periods, Call call, int64_t places)
-      : record_(record), periods_(periods), call_(call), places_(places), branch_(record.ratio.branch()) {}
+      : record_(record), periods_(periods), call_(call), places_(places), p_(record.branches), branch_(record.ratio.branch()) {
+    const int64_t first = branch_.sample - record.ratio.taps + 1 + int64_t{record.history} * record.ratio.down;
+    x_ = {record.rows, static_cast<size_t>(record.stride), record.rowCount(), static_cast<size_t>(first % record.ratio.down),
+          static_cast<size_t>(first / record.ratio.down)};
+  }
 
   // What the branch gives for each period.
   void next(C* sums) {
     const Ratio& q = record_.ratio;
     const auto taps = static_cast<size_t>(q.taps);
-    const auto* const p = record_.branches + number_ * branchLen(record_);
-    const C* const first = record_.sample(branch_.sample - q.taps + 1);
-    const auto stride = static_cast<size_t>(record_.stride);
-    const auto place = static_cast<size_t>(first - record_.rows);
-    const Dealt<C> x = {record_.rows, stride, record_.rowCount(), place / stride, place % stride};
     if constexpr (!std::is_integral_v<Part<C>>) {
-      convolve(x, p, taps, periods_, sums, call_);
+      convolve(x_, p_, taps, periods_, sums, call_);
     } else if (record_.isPaired) {
-      convolve(x, p, taps, periods_, sums, places_);
+      convolve(x_, p_, taps, periods_, sums, places_);
     } else {
       for (size_t i = 0; i < periods_; ++i) sums[i] = scaledSumAt(static_cast<int64_t>(i));
     }
-    ++number_;
+    p_ += branchLen_;
+    const int64_t before = branch_.sample;
     branch_.advance(q.up, q.down);
+    for (x_.row += static_cast<size_t>(branch_.sample - before); x_.row >= x_.count; x_.row -= x_.count) ++x_.at;
   }
 
  private:
@@ -89,8 +90,10 @@ template <class R> class Branches {
   size_t periods_;
   Call call_;
   int64_t places_;
+  Dealt<C> x_;
+  const typename R::Branches* p_;
+  int64_t branchLen_ = branchLen(record_);
   Branch branch_;
-  int64_t number_ = 0;
 };
 
 // finish(sums, n, outputs) makes the outputs of sums; integer sums come scaled by 2^places. src may be dst, unless there are more
