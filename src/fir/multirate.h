@@ -1,9 +1,11 @@
 // The records of multi-rate filters.
 //
 // Samples are dealt among as many rows as the reduced decimation factor has units, so that those which one tap meets, for one
-// output after another, stand side by side: a branch of the filter is a sum of ordinary convolutions of rows.
+// output after another, stand side by side: a branch of the filter is a sum of ordinary convolutions of rows. Ratios of large
+// numbers with few taps to an output leave them in one row, and vectors go along the outputs (lanewise.h).
 #pragma once
 
+#include "convolution/lanewise.h"
 #include "convolution/transpose.h"
 #include "fir/contents.h"
 #include "fir/ratio.h"
@@ -13,17 +15,19 @@ namespace qvx::fir {
 template <class C> struct MultirateRecord : RecordHead {
   int tapsLen;
   Ratio ratio;
+  int rowLen;   // of samples in a period that a row takes: 1, or all
   int history;  // samples of a row that come before those of a call
-  int block;    // those of a call that a row takes at a time
+  int block;    // periods of a call at a time
   int stride;   // from one row to the next
   C* rows;
 
-  size_t rowCount() const { return static_cast<size_t>(ratio.down); }
+  size_t rowCount() const { return static_cast<size_t>(ratio.down / rowLen); }
   C* row(size_t i) const { return rows + i * static_cast<size_t>(stride); }
   // A sample by its place, counted from the first of a call.
   C* sample(int64_t place) const {
-    const int64_t at = place + int64_t{history} * ratio.down;
-    return row(static_cast<size_t>(at % ratio.down)) + at / ratio.down;
+    const auto count = static_cast<int64_t>(rowCount());
+    const int64_t at = place + history * count;
+    return row(static_cast<size_t>(at % count)) + at / count;
   }
 };
 
@@ -35,6 +39,10 @@ template <class C> struct MultirateFloat : MultirateRecord<C> {
 
   C* taps;  // reversed
   C* branches;
+  // In one row:
+  LaneGroup* groups;
+  LanePlace<C>* order;
+  int groupCount;
 };
 template <class S, class T> struct MultirateInteger : MultirateRecord<S> {
   using Kernel = S;
@@ -97,9 +105,38 @@ template <class S, class T> int64_t branchLen(const MultirateInteger<S, T>& reco
   return 2 * (longer * pairs(q.taps / q.down + 1) + (q.down - longer) * pairs(q.taps / q.down));
 }
 
+// f(group) for the outputs of a period, as many at a time as lanes find their samples in a register.
+template <int kLanes, class F> void forEachLaneGroup(const Ratio& q, F f) {
+  Branch branch = q.branch();
+  for (int j = 0; j < q.up;) {
+    const int64_t first = branch.sample;
+    LaneGroup group = {j, 0, static_cast<int>(first - q.taps + 1)};
+    for (; j < q.up && group.count < kLanes && branch.sample - first < kLanes; branch.advance(q.up, q.down)) ++group.count, ++j;
+    f(group);
+  }
+}
+// How many there are; 0 where rows are faster: few branches, or many taps to a branch. A lane's product costs as much as two and
+// a half of those of whole vectors in rows, and a branch in rows as much as 100 products of vectors beside them.
+template <class C> int laneGroups(const Ratio& q) {
+  constexpr int kLanes = Lanewise<C>::kLanes;
+  if (!Lanewise<C>::kPays || q.up < kLanes) return 0;
+  int count = 0;
+  forEachLaneGroup<kLanes>(q, [&](const LaneGroup&) { ++count; });
+  const int64_t lanes = q.up / count;
+  return q.taps * (2 * kLanes - lanes) < 100 * lanes ? count : 0;
+}
+
 template <class C> void placeTaps(MultirateFloat<C>& record, Carver& carver) {
+  const Ratio& q = record.ratio;
   record.taps = carver.takeLines<C>(record.tapsLen);
-  record.branches = carver.takeLines<C>(record.ratio.up * branchLen(record));
+  if (record.groupCount == 0) {
+    record.branches = carver.takeLines<C>(q.up * branchLen(record));
+    return;
+  }
+  const int64_t count = record.groupCount;
+  record.branches = carver.takeLines<C>(count * q.taps * Lanewise<C>::kEach / int64_t{PartsOf<C>::kCount});
+  record.order = carver.takeLines<LanePlace<C>>(count * Lanewise<C>::kLanes);
+  record.groups = carver.take<LaneGroup>(count);
 }
 template <class S, class T> void placeTaps(MultirateInteger<S, T>& record, Carver& carver) {
   record.taps = carver.takeLines<T>(record.tapsLen);
@@ -109,22 +146,44 @@ template <class S, class T> void placeTaps(MultirateInteger<S, T>& record, Carve
   record.branches = carver.takeLines<Qvx16sc>(record.ratio.up * branchLen(record));
 }
 
-// The rows take what is left of the block's bytes, from `begin` on.
-template <class R> void layOut(R& record, Carver& carver, const Qvx8u* begin, int64_t bytes, int tapsLen, const Factors& f) {
+// The rows take what is left of the block's bytes, from `begin` on; false if that is less than a period. branches: as many as give
+// their outputs before any of them is on its way.
+template <class R> bool placeRows(R& record, Carver& carver, const Qvx8u* begin, int64_t bytes, int branches) {
   using C = typename R::Kernel;
   constexpr int64_t kVector = kVectorElements<C>;
-  record.tapsLen = tapsLen;
-  const Ratio q = record.ratio = Ratio::of(tapsLen, f);
-  placeTaps(record, carver);
+  constexpr int64_t kSums = kSumsBytes / sizeof(C);
+  const Ratio& q = record.ratio;
+  const auto count = static_cast<int64_t>(record.rowCount());
   record.rows = carver.takeLines<C>(0);
-  record.history = static_cast<int>((int64_t{q.delayLen} + q.down - 1) / q.down);
+  const int64_t history = (q.delayLen + count - 1) / count;
   const int64_t left = (bytes - (reinterpret_cast<const Qvx8u*>(record.rows) - begin)) / int64_t{sizeof(C)};
-  const int64_t most = static_cast<int64_t>(kSumsBytes / sizeof(C)) / std::min(q.up, 16);
-  const int64_t fits = left / q.down - record.history - R::kPadding;
-  const int64_t block = std::min(most, fits);
+  const int64_t fits = (left / count - history - R::kPadding) / record.rowLen;
+  const int64_t block = std::min(kSums / branches, fits);
+  if (block < 1) return false;
+  record.history = static_cast<int>(history);
   record.block = static_cast<int>(block > kVector ? block / kVector * kVector : block);
-  record.stride = static_cast<int>(record.history + record.block + R::kPadding);
-  std::fill_n(record.rows, q.down * int64_t{record.stride}, C{});
+  record.stride = static_cast<int>(history + int64_t{record.block} * record.rowLen + R::kPadding);
+  std::fill_n(record.rows, count * record.stride, C{});
+  return true;
+}
+
+template <class R> void layOut(R& record, Carver& carver, const Qvx8u* begin, int64_t bytes, int tapsLen, const Factors& f) {
+  record.tapsLen = tapsLen;
+  record.ratio = Ratio::of(tapsLen, f);
+  if constexpr (!std::is_integral_v<Part<typename R::Kernel>>) {
+    record.groupCount = laneGroups<typename R::Kernel>(record.ratio);
+    if (record.groupCount > 0) {
+      Carver inOneRow = carver;
+      record.rowLen = record.ratio.down;
+      placeTaps(record, inOneRow);
+      constexpr bool kConverts = !std::is_same_v<typename R::Sample, typename R::Kernel>;
+      if (placeRows(record, inOneRow, begin, bytes, kConverts ? record.ratio.up : 1)) return;
+      record.groupCount = 0;
+    }
+  }
+  record.rowLen = 1;
+  placeTaps(record, carver);
+  placeRows(record, carver, begin, bytes, std::min(record.ratio.up, 16));
 }
 
 // ---- taps and delay line
@@ -135,7 +194,37 @@ template <class F> void forEachBranch(const Ratio& q, F f) {
   for (int j = 0; j < q.up; ++j, branch.advance(q.up, q.down)) f(branch, j);
 }
 
+// For each tap of a group, that of each lane: a real one, or its real part twice, and in a vector after it its imaginary part.
+template <class C> void spreadTaps(MultirateFloat<C>& record) {
+  using L = Lanewise<C>;
+  constexpr int kParts = PartsOf<C>::kCount;
+  const Ratio& q = record.ratio;
+  Part<C>* to = parts(record.branches);
+  LanePlace<C>* order = record.order;
+  LaneGroup* groups = record.groups;
+  Branch branch = q.branch();
+  forEachLaneGroup<L::kLanes>(q, [&](const LaneGroup& group) {
+    *groups++ = group;
+    std::fill_n(to, q.taps * L::kEach, Part<C>{});
+    std::fill_n(order, L::kLanes, LanePlace<C>{});
+    const int64_t first = branch.sample;
+    for (int lane = 0; lane < group.count; ++lane, branch.advance(q.up, q.down)) {
+      order[lane] = static_cast<LanePlace<C>>(branch.sample - first);
+      for (int t = 0; t < q.taps; ++t) {
+        const C tap = q.tapOf(record.taps, record.tapsLen, branch.tap, t);
+        for (int part = 0; part < kParts; ++part) {
+          Part<C>* const each = to + t * L::kEach + part * L::kLanes * kParts + lane * kParts;
+          std::fill_n(each, kParts, parts(&tap)[part]);
+        }
+      }
+    }
+    to += q.taps * L::kEach;
+    order += L::kLanes;
+  });
+}
+
 template <class C> void dealTaps(MultirateFloat<C>& record) {
+  if (record.groupCount > 0) return spreadTaps(record);
   const Ratio& q = record.ratio;
   C* to = record.branches;
   const int apart = areTapsByRow(static_cast<size_t>(q.taps), record.rowCount()) ? q.down : 1;

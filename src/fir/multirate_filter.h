@@ -10,6 +10,7 @@ template <class C, class T> void deal(const MultirateRecord<C>& record, const T*
   const size_t down = record.rowCount();
   const auto stride = static_cast<size_t>(record.stride);
   C* const rows = record.rows + record.history;
+  periods *= static_cast<size_t>(record.rowLen);
   if constexpr (std::is_same_v<C, T>) {
     if (down == 1) std::copy_n(src, periods, rows);
     else transposeElements(src, down, periods, down, rows, stride);
@@ -31,6 +32,7 @@ template <class C, class T> void deal(const MultirateRecord<C>& record, const T*
 // Forgets the first samples of the rows.
 template <class C> void forget(const MultirateRecord<C>& record, size_t periods) {
   const auto history = static_cast<size_t>(record.history);
+  periods *= static_cast<size_t>(record.rowLen);
   for (size_t i = 0; i < record.rowCount(); ++i) {
     C* const row = record.row(i);
     if (history > 4) moveVectors(row + periods, history, row);
@@ -45,9 +47,9 @@ template <class R> class Branches {
 
   Branches(const R& record, size_t periods, Call call, int64_t places)
       : record_(record), periods_(periods), call_(call), places_(places), p_(record.branches), branch_(record.ratio.branch()) {
-    const int64_t first = branch_.sample - record.ratio.taps + 1 + int64_t{record.history} * record.ratio.down;
-    x_ = {record.rows, static_cast<size_t>(record.stride), record.rowCount(), static_cast<size_t>(first % record.ratio.down),
-          static_cast<size_t>(first / record.ratio.down)};
+    const auto first = static_cast<size_t>(record.sample(branch_.sample - record.ratio.taps + 1) - record.rows);
+    const auto stride = static_cast<size_t>(record.stride);
+    x_ = {record.rows, stride, record.rowCount(), first / stride, first % stride};
   }
 
   // What the branch gives for each period.
@@ -96,6 +98,11 @@ template <class R> class Branches {
   Branch branch_;
 };
 
+template <class C> Lanewise<C> lanewise(const MultirateFloat<C>& record) {
+  return {record.groups, record.groupCount, record.order, parts(record.branches), record.ratio.taps, record.ratio.up,
+          record.ratio.down};
+}
+
 // finish(sums, n, outputs) makes the outputs of sums; integer sums come scaled by 2^places. src may be dst, unless there are more
 // outputs than samples.
 template <class R, class T, class Finish>
@@ -103,13 +110,24 @@ void resample(const R& record, const T* src, T* dst, size_t periods, int64_t pla
   using C = typename R::Kernel;
   constexpr bool kConverts = !std::is_same_v<C, T>;
   const auto up = static_cast<size_t>(record.ratio.up);
-  const size_t down = record.rowCount();
+  const auto down = static_cast<size_t>(record.ratio.down);
   const auto block = static_cast<size_t>(record.block);
   const Call call = callOf(std::min(periods, block));
   C sums[kSumsBytes / sizeof(C)];
   for (size_t some; periods > 0; periods -= some, src += some * down, dst += some * up) {
     some = std::min(periods, block);
     deal(record, src, some);
+    if constexpr (!std::is_integral_v<Part<C>> && Lanewise<C>::kPays) {
+      if (record.groupCount > 0) {
+        C* outputs;
+        if constexpr (kConverts) outputs = sums;
+        else outputs = dst;
+        convolve(lanewise(record), record.sample(0), some, outputs);
+        if constexpr (kConverts) finish(sums, some * up, dst);
+        forget(record, some);
+        continue;
+      }
+    }
     Branches<R> branches(record, some, call, places);
     const size_t batch = std::min(up, std::size(sums) / some);
     for (size_t n, from = 0; from < up; from += n) {
