@@ -146,8 +146,7 @@ int run(int argc, char** argv) {
     printHead();
     std::printf("\n");
     const auto convert = [&](const auto& x) { return resampled(x, design, level.isWide); };
-    print("level " + std::to_string(level.rejection), level.passBand,
-          measured(convert, design.from, design.to, level.passBand));
+    print("level " + std::to_string(level.rejection), level.passBand, measured(convert, design.from, design.to, level.passBand));
     std::printf("\n");
   }
   return 0;

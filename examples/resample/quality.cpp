@@ -10,7 +10,7 @@ namespace {
 constexpr int kOrder = 15;
 constexpr int kPoints = 1 << kOrder;
 constexpr double kAlpha = 20;   // of the Kaiser window: side lobes 180 dB below the line
-constexpr double kLobe = 8;    // half the width of its main lobe, in lines
+constexpr double kLobe = 8;     // half the width of its main lobe, in lines
 constexpr double kLevel = 0.5;  // of the sines
 
 class Spectrum {

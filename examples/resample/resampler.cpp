@@ -46,9 +46,9 @@ Design::Design(int fromRate, int toRate, const Level& level)
     const double place = x / static_cast<double>(half + 1);
     const double angle = std::numbers::pi * cutoff * x;
     const double sinc = i == 0 ? 1 : std::sin(angle) / angle;
-    taps[static_cast<size_t>(i + half)] =
-        up * cutoff * sinc * std::cyl_bessel_i(0, window.alpha() * std::sqrt(1 - place * place)) /
-        std::cyl_bessel_i(0, window.alpha());
+    taps[static_cast<size_t>(i + half)] = up * cutoff * sinc *
+                                          std::cyl_bessel_i(0, window.alpha() * std::sqrt(1 - place * place)) /
+                                          std::cyl_bessel_i(0, window.alpha());
   }
 }
 

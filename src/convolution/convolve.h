@@ -50,9 +50,9 @@ template <class T> struct Dealt {
   size_t row;
   size_t at;
 };
-// The taps of floats stand row by row, beginning with `row`, where a row has enough of them that a vector of samples serves several,
-// else in the order of the samples; those of integers always row by row, in pairs for each row. A row has a vector more than it
-// needs, of integers two.
+// The taps of floats stand row by row, beginning with `row`, where a row has enough of them that a vector of samples serves
+// several, else in the order of the samples; those of integers always row by row, in pairs for each row. A row has a vector more
+// than it needs, of integers two.
 constexpr bool areTapsByRow(size_t taps, size_t rows) { return taps >= 4 * rows; }
 void convolve(const Dealt<Qvx32f>& x, const Qvx32f* p, size_t taps, size_t count, Qvx32f* y, Call call);
 void convolve(const Dealt<Qvx64f>& x, const Qvx64f* p, size_t taps, size_t count, Qvx64f* y, Call call);

@@ -309,7 +309,8 @@ template <class K> struct DealtTaps {
 };
 
 // put(outputs, n) takes the vector of outputs from n on, for all n to count; put(outputs, n, some) the first some of them. The
-// samples that `products` takes for an output are there for all outputs, and those of a whole vector's if count is less than that.
+// samples that `products` takes for an output are there for all outputs, and those of a whole vector's if count is less than
+// that.
 template <class K, class Order, class Products, class Put>
 [[gnu::flatten]] void filter(const Products& products, size_t count, Put put) {
   constexpr size_t N = detail::kElements<K>;

@@ -18,7 +18,8 @@ template <class R, class H> QvxStatus copyTaps(const R& record, H* taps) {
   return qvxStatOk;
 }
 template <class S, class H> QvxStatus getTaps(const S* state, H* taps) {
-  return onRecord(state, [=](const auto& record) { return copyTaps(record, taps); }, taps);
+  return onRecord(
+      state, [=](const auto& record) { return copyTaps(record, taps); }, taps);
 }
 template <class S, class H> QvxStatus getTaps(const S* state, H* taps, int* tapsFactor) {
   const auto access = [=](const auto& record) {
@@ -39,7 +40,8 @@ template <class S, class H> QvxStatus getFloatTaps(const S* state, H* taps) {
 }
 
 template <class S, class H, class... Factor> QvxStatus replaceTaps(const H* taps, S* state, Factor... tapsFactor) {
-  return onRecord(state, [=](auto& record) { return setTaps(record, taps, tapsFactor...); }, taps);
+  return onRecord(
+      state, [=](auto& record) { return setTaps(record, taps, tapsFactor...); }, taps);
 }
 
 // Of records of one rate alone.

@@ -64,7 +64,8 @@ template <class S, class T> void dealTaps(IntegerRecord<S, T>& record) {
   paired(record.shortTaps, static_cast<size_t>(record.tapsLen), record.pairs);
 }
 
-template <class R> concept HoldsIntegers = std::is_integral_v<Part<typename R::Kernel>>;
+template <class R>
+concept HoldsIntegers = std::is_integral_v<Part<typename R::Kernel>>;
 
 template <HoldsIntegers R, class H> QvxStatus setTaps(R& record, const H* taps, int tapsFactor) {
   const auto n = static_cast<size_t>(record.tapsLen) * PartsOf<H>::kCount;

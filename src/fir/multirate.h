@@ -115,8 +115,9 @@ template <int kLanes, class F> void forEachLaneGroup(const Ratio& q, F f) {
     f(group);
   }
 }
-// How many there are; 0 where rows are faster: few branches; rows with taps enough to share the vectors of samples; lanes of which
-// most stay empty, unless a branch has so few taps that calling for it costs more, about as much as 100 products of vectors.
+// How many there are; 0 where rows are faster: few branches; rows with taps enough to share the vectors of samples; lanes of
+// which most stay empty, unless a branch has so few taps that calling for it costs more, about as much as 100 products of
+// vectors.
 template <class C> int laneGroups(const Ratio& q) {
   constexpr int kLanes = Lanewise<C>::kLanes;
   if (!Lanewise<C>::kPays || q.up < kLanes) return 0;
@@ -147,8 +148,8 @@ template <class S, class T> void placeTaps(MultirateInteger<S, T>& record, Carve
   record.branches = carver.takeLines<Qvx16sc>(record.ratio.up * branchLen(record));
 }
 
-// The rows take what is left of the block's bytes, from `begin` on; false if that is less than a period. branches: as many as give
-// their outputs before any of them is on its way.
+// The rows take what is left of the block's bytes, from `begin` on; false if that is less than a period. branches: as many as
+// give their outputs before any of them is on its way.
 template <class R> bool placeRows(R& record, Carver& carver, const Qvx8u* begin, int64_t bytes, int branches) {
   using C = typename R::Kernel;
   constexpr int64_t kVector = kVectorElements<C>;
@@ -272,8 +273,8 @@ template <class R, class S> void getMultirateDelay(const R& record, S* newestFir
 // ---- building
 
 template <class S, class SetTaps>
-QvxStatus buildMultirate(MultirateState<S>** ppState, Qvx8u* block, int tapsLen, const Factors& f, const typename S::Sample* delay,
-                         SetTaps setTaps) {
+QvxStatus buildMultirate(MultirateState<S>** ppState, Qvx8u* block, int tapsLen, const Factors& f,
+                         const typename S::Sample* delay, SetTaps setTaps) {
   const int64_t bytes = multirateBytes<typename S::Kernel>(tapsLen, f);
   return initRecord(ppState, block, [&](MultirateState<S>& record, Carver& carver) {
     record.magic = S::kMultirateId;

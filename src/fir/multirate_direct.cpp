@@ -57,7 +57,8 @@ QvxStatus block(const T* src, T* dst, int numIters, const Caller<H, T>& caller, 
     auto* to = parts(outputs);
     for (size_t i = 0; i < n * PartsOf<T>::kCount; ++i) to[i] = rounded<Part<T>>(from[i] * unit);
   };
-  return withRecord<S>(caller, src, dst, numIters, 0, [&](MultirateState<S>& record) { setTaps(record, caller.taps); }, finish);
+  return withRecord<S>(
+      caller, src, dst, numIters, 0, [&](MultirateState<S>& record) { setTaps(record, caller.taps); }, finish);
 }
 
 // 16-bit taps, as they are.

@@ -99,8 +99,8 @@ template <class R> class Branches {
 };
 
 template <class C> Lanewise<C> lanewise(const MultirateFloat<C>& record) {
-  return {record.groups, record.groupCount, record.order, parts(record.branches), record.ratio.taps, record.ratio.up,
-          record.ratio.down};
+  return {record.groups,     record.groupCount, record.order,     parts(record.branches),
+          record.ratio.taps, record.ratio.up,   record.ratio.down};
 }
 
 // finish(sums, n, outputs) makes the outputs of sums; integer sums come scaled by 2^places. src may be dst, unless there are more
@@ -175,8 +175,7 @@ template <class T, class Filter> QvxStatus onCopy(const T* src, int64_t count, F
   return qvxStatOk;
 }
 
-template <class R, class T>
-QvxStatus filterMultirateBlock(const R& record, const T* src, T* dst, int numIters, int scaleFactor) {
+template <class R, class T> QvxStatus filterMultirateBlock(const R& record, const T* src, T* dst, int numIters, int scaleFactor) {
   const auto from = [&](const T* samples) { filterMultirate(record, samples, dst, elements(numIters), scaleFactor); };
   const Ratio& q = record.ratio;
   if (src == dst && q.up > q.down) return onCopy(src, int64_t{numIters} * q.down * q.step, from);

@@ -20,8 +20,8 @@ QvxStatus buildState(S** ppState, Qvx8u* block, const H* taps, int tapsLen, cons
                      Factor... factor) {
   if (f.isOneRate()) return build(ppState, block, footprintOf<S>(tapsLen).transform, taps, tapsLen, delay, factor...);
   MultirateState<S>* made = nullptr;
-  const QvxStatus status = buildMultirate<S>(&made, block, tapsLen, f, delay,
-                                             [=](MultirateState<S>& record) { setTaps(record, taps, factor...); });
+  const QvxStatus status =
+      buildMultirate<S>(&made, block, tapsLen, f, delay, [=](MultirateState<S>& record) { setTaps(record, taps, factor...); });
   *ppState = reinterpret_cast<S*>(made);
   return status;
 }
@@ -41,9 +41,8 @@ QvxStatus allocateState(S** ppState, const H* taps, int tapsLen, const Factors& 
   const QvxStatus status = f.check(tapsLen);
   if (status != qvxStatOk) return status;
   const int64_t bytes = f.isOneRate() ? footprintOf<S>(tapsLen).bytes : multirateBytes<typename S::Kernel>(tapsLen, f);
-  return allocateRecord(ppState, bytes, [&](S** pp, Qvx8u* block) {
-    return buildState(pp, block, taps, tapsLen, f, delay, factor...);
-  });
+  return allocateRecord(ppState, bytes,
+                        [&](S** pp, Qvx8u* block) { return buildState(pp, block, taps, tapsLen, f, delay, factor...); });
 }
 
 }  // namespace

@@ -27,7 +27,8 @@ struct Factors {
   int delayLen(int tapsLen) const { return static_cast<int>((int64_t{tapsLen} + up - 1) / up); }
 };
 
-// Of one output: the sample that its first tap meets, and that tap. The taps after it, `up` places apart, meet the samples before.
+// Of one output: the sample that its first tap meets, and that tap. The taps after it, `up` places apart, meet the samples
+// before.
 struct Branch {
   int64_t sample;
   int64_t tap;
@@ -44,8 +45,8 @@ struct Branch {
   }
 };
 
-// A filter reduced to factors without a common divisor. If they have one, most of the taps meet nothing but zeros, or make what is
-// dropped: the others are the taps of the reduced filter.
+// A filter reduced to factors without a common divisor. If they have one, most of the taps meet nothing but zeros, or make what
+// is dropped: the others are the taps of the reduced filter.
 struct Ratio {
   int up;
   int down;
@@ -62,7 +63,12 @@ struct Ratio {
     const int64_t reduced = tapsLen > first ? (int64_t{tapsLen} - first + step - 1) / step : 0;
     const int up = f.up / step;
     const int64_t taps = std::max<int64_t>((reduced + up - 1) / up, 1);
-    return {up, f.down / step, static_cast<int>((int64_t{apart} - first) / step), step, first, static_cast<int>(taps),
+    return {up,
+            f.down / step,
+            static_cast<int>((int64_t{apart} - first) / step),
+            step,
+            first,
+            static_cast<int>(taps),
             f.delayLen(tapsLen)};
   }
   Branch branch() const { return Branch::of(offset, up); }

@@ -12,8 +12,7 @@ using namespace qvx::fir;
 namespace {
 
 // fill(record) for what a record holds beside its taps' place.
-template <class S, class Fill>
-QvxStatus make(S** ppState, Qvx8u* block, uint32_t id, int tapsLen, const Factors& f, Fill fill) {
+template <class S, class Fill> QvxStatus make(S** ppState, Qvx8u* block, uint32_t id, int tapsLen, const Factors& f, Fill fill) {
   using T = typename S::Sample;
   StreamRecord<T>* made = nullptr;
   initRecord(&made, block, [&](StreamRecord<T>& record, Carver& carver) {
@@ -77,8 +76,7 @@ template <class T, class Sum> void forEachResult(const StreamRecord<T>& record, 
 }
 
 // Where there are more outputs than samples, samples in place are copied first.
-template <class T, class Sum>
-QvxStatus filterEach(const StreamRecord<T>& record, const T* src, T* dst, int numIters, Sum sum) {
+template <class T, class Sum> QvxStatus filterEach(const StreamRecord<T>& record, const T* src, T* dst, int numIters, Sum sum) {
   const Factors& f = record.factors;
   if (src != dst || f.up <= f.down) return forEachResult(record, src, dst, numIters, sum), qvxStatOk;
   const int64_t count = int64_t{numIters} * f.down + f.delayLen(record.tapsLen) - 1;
@@ -113,9 +111,8 @@ QvxStatus filterStream(const StreamRecord<Qvx32f>& record, const Qvx32f* src, Qv
     filterRow(record, src, dst, elements(numIters));
     return qvxStatOk;
   }
-  return filterEach(record, src, dst, numIters, [](const Qvx32f* x, const Qvx32f* p, int64_t n) {
-    return n > 0 ? dot(x, p, static_cast<int>(n)) : 0.0F;
-  });
+  return filterEach(record, src, dst, numIters,
+                    [](const Qvx32f* x, const Qvx32f* p, int64_t n) { return n > 0 ? dot(x, p, static_cast<int>(n)) : 0.0F; });
 }
 
 QvxStatus filterStream(const StreamRecord<Qvx16s>& record, const Qvx16s* src, Qvx16s* dst, int numIters, int scaleFactor) {

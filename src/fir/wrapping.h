@@ -29,7 +29,9 @@ struct ComplexWrapping : Reduction {
 };
 
 // Scale factors here count up to 31 places only.
-inline int64_t placesOf(int tapsFactor, int scaleFactor) { return std::clamp<int64_t>(int64_t{tapsFactor} - scaleFactor, -31, 31); }
+inline int64_t placesOf(int tapsFactor, int scaleFactor) {
+  return std::clamp<int64_t>(int64_t{tapsFactor} - scaleFactor, -31, 31);
+}
 
 template <class H> Qvx16s wrappingDot(const Qvx16s* window, const H* p, size_t n, int64_t places) {
   return scaledSum(reduce(Wrapping(), n, source(window), source(p)), places);

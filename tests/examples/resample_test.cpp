@@ -1,4 +1,5 @@
-// The resample program: sines of all channels keep their level and their time, and the printed measurements are those of the level.
+// The resample program: sines of all channels keep their level and their time, and the printed measurements are those of the
+// level.
 #include <cmath>
 #include <numbers>
 
@@ -38,10 +39,10 @@ TEST_F(Resample, keepsWhatBothRatesHave) {
                         Case{48000, 16000, 100, 2e-5}, Case{44100, 44101, 60, 2e-3}}) {
     SCOPED_TRACE(testing::Message() << c.from << " to " << c.to << ", level " << c.level);
     std::vector<float> x(2 * kFrames);
-    for (size_t i = 0; i < x.size(); ++i) x[i] = static_cast<float>(sine(kFrequencies[i % 2], c.from, static_cast<double>(i / 2)));
+    for (size_t i = 0; i < x.size(); ++i)
+      x[i] = static_cast<float>(sine(kFrequencies[i % 2], c.from, static_cast<double>(i / 2)));
     write("in.wav", x, SF_FORMAT_WAV | SF_FORMAT_FLOAT, 2, c.from);
-    const Outcome outcome =
-        run("in.wav -r " + std::to_string(c.to) + " -l " + std::to_string(c.level) + " -o out.wav");
+    const Outcome outcome = run("in.wav -r " + std::to_string(c.to) + " -l " + std::to_string(c.level) + " -o out.wav");
     ASSERT_EQ(outcome.exitCode, 0) << outcome.err;
     const auto y = readFloats("out.wav", 2, c.to);
     ASSERT_EQ(y.size() / 2, (int64_t{kFrames} * c.to + c.from - 1) / c.from);
@@ -62,7 +63,8 @@ TEST_F(Resample, measuresWhatItsLevelsPromise) {
       double ripple = 0;
       double rejection = 0;
       const size_t line = outcome.out.find("level ");
-      ASSERT_EQ(std::sscanf(outcome.out.c_str() + line, "level %*d %lf %lf %lf", &passBand, &ripple, &rejection), 3) << outcome.out;
+      ASSERT_EQ(std::sscanf(outcome.out.c_str() + line, "level %*d %lf %lf %lf", &passBand, &ripple, &rejection), 3)
+          << outcome.out;
       EXPECT_GE(rejection, level) << outcome.out;
       EXPECT_LT(rejection, level + 25) << outcome.out;
       EXPECT_LE(ripple, before) << outcome.out;

@@ -14,10 +14,10 @@ struct Case {
 // Common ratios with few taps and many; factors with a common divisor, after which taps are left, or none; more zeros than taps.
 std::vector<Case> cases(Random& random, size_t drawn) {
   std::vector<Case> all = {
-      {1, {1, 0, 2, 1}},    {1, {5, 4, 3, 0}},  {3, {1, 0, 2, 0}},   {7, {1, 0, 2, 1}},     {3, {2, 1, 2, 0}},
-      {6, {2, 0, 5, 4}},    {64, {2, 1, 1, 0}}, {65, {1, 0, 4, 3}},  {33, {1, 0, 8, 2}},    {48, {3, 2, 2, 0}},
-      {50, {2, 0, 3, 2}},   {40, {6, 5, 4, 1}}, {2, {8, 7, 12, 2}},  {2, {4, 0, 4, 3}},     {30, {4, 3, 4, 0}},
-      {300, {1, 0, 3, 1}},  {257, {2, 1, 1, 0}}, {20, {37, 36, 1, 0}}, {90, {1, 0, 41, 40}}, {320, {16, 3, 15, 14}},
+      {1, {1, 0, 2, 1}},      {1, {5, 4, 3, 0}},         {3, {1, 0, 2, 0}},    {7, {1, 0, 2, 1}},    {3, {2, 1, 2, 0}},
+      {6, {2, 0, 5, 4}},      {64, {2, 1, 1, 0}},        {65, {1, 0, 4, 3}},   {33, {1, 0, 8, 2}},   {48, {3, 2, 2, 0}},
+      {50, {2, 0, 3, 2}},     {40, {6, 5, 4, 1}},        {2, {8, 7, 12, 2}},   {2, {4, 0, 4, 3}},    {30, {4, 3, 4, 0}},
+      {300, {1, 0, 3, 1}},    {257, {2, 1, 1, 0}},       {20, {37, 36, 1, 0}}, {90, {1, 0, 41, 40}}, {320, {16, 3, 15, 14}},
       {20, {160, 7, 147, 3}}, {700, {147, 0, 160, 159}},
   };
   const auto below = [&](int most) { return static_cast<int>(random() % static_cast<uint64_t>(most)); };
@@ -32,8 +32,8 @@ std::vector<Case> cases(Random& random, size_t drawn) {
 std::string describe(const char* name, const Case& c) {
   const Factors& f = c.factors;
   const auto text = [](int i) { return std::to_string(i); };
-  return std::string(name) + ", taps " + text(c.tapsLen) + ", up " + text(f.up) + " (" + text(f.upPhase) + "), down " + text(f.down) +
-         " (" + text(f.downPhase) + "), seed " + std::to_string(seed());
+  return std::string(name) + ", taps " + text(c.tapsLen) + ", up " + text(f.up) + " (" + text(f.upPhase) + "), down " +
+         text(f.down) + " (" + text(f.downPhase) + "), seed " + std::to_string(seed());
 }
 
 // Samples and outputs between unreadable pages.
@@ -55,8 +55,8 @@ template <class T> struct Vectors {
   }
 };
 
-// Calls of any length, out of place and in place, with the record in a block of just the told size at any alignment; new taps, new
-// samples and old ones read between.
+// Calls of any length, out of place and in place, with the record in a block of just the told size at any alignment; new taps,
+// new samples and old ones read between.
 TEST(Multirate, StreamsAreOneSignalHoweverTheyAreCut) {
   forEachMultirate([](const auto& pair, const auto& multirate) {
     using P = std::remove_cvref_t<decltype(pair)>;
@@ -89,7 +89,8 @@ TEST(Multirate, StreamsAreOneSignalHoweverTheyAreCut) {
         const bool inPlace = random() % 3 == 0;
         vectors.place(x, outputs, inPlace);
         if (inPlace) EXPECT_EQ(P::run(pair.inPlace, scaleFactor, vectors.dst, groups, state), qvxStatOk);
-        else EXPECT_EQ(P::run(pair.block, scaleFactor, static_cast<const T*>(vectors.src), vectors.dst, groups, state), qvxStatOk);
+        else
+          EXPECT_EQ(P::run(pair.block, scaleFactor, static_cast<const T*>(vectors.src), vectors.dst, groups, state), qvxStatOk);
         EXPECT_TRUE(vectors.areIntact(x)) << "bytes outside the outputs";
         for (const T sample : x) {
           signal.append(sample);
@@ -212,7 +213,8 @@ TEST(Multirate, RecordsFitTheirSizes) {
       const auto bytes = static_cast<size_t>(multirate.size(tapsLen, f));
       // An odd place wastes what alignment can waste.
       memory.atEnd(bytes);
-      auto* state = multirate.template build<typename P::State>(h, 0, f, static_cast<const T*>(nullptr), memory.atOffset(1, bytes));
+      auto* state =
+          multirate.template build<typename P::State>(h, 0, f, static_cast<const T*>(nullptr), memory.atOffset(1, bytes));
       std::vector<T> x(static_cast<size_t>(40 * down));
       std::vector<T> y(static_cast<size_t>(40 * up));
       EXPECT_EQ(P::run(pair.block, 0, static_cast<const T*>(x.data()), y.data(), 40, state), qvxStatOk);
@@ -336,7 +338,8 @@ TEST(Multirate, StreamsWithoutADelayLine) {
         EXPECT_EQ(inPlace ? filterInPlace(vectors.dst, state) : filter(vectors.src, vectors.dst, state), qvxStatOk);
         EXPECT_TRUE(vectors.areIntact(x)) << "bytes outside the outputs";
         for (size_t j = 0; j < outputs && !testing::Test::HasFailure(); ++j) {
-          EXPECT_TRUE(agrees(vectors.dst[j], signal.at(j))) << describe("stream", c) << ", output " << j << (inPlace ? " in place" : "");
+          EXPECT_TRUE(agrees(vectors.dst[j], signal.at(j)))
+              << describe("stream", c) << ", output " << j << (inPlace ? " in place" : "");
         }
       }
     };
@@ -350,7 +353,8 @@ TEST(Multirate, StreamsWithoutADelayLine) {
           EXPECT_EQ(qvxsFIRMRStreamGetStateSize_32f(c.tapsLen, f.up, f.down, &bytes), qvxStatOk);
           memory.resize(static_cast<size_t>(bytes));
           EXPECT_EQ(isOneRate ? qvxsFIRStreamInit_32f(&state, h.data(), c.tapsLen, memory.data())
-                              : qvxsFIRMRStreamInit_32f(&state, h.data(), c.tapsLen, f.up, f.upPhase, f.down, f.downPhase, memory.data()),
+                              : qvxsFIRMRStreamInit_32f(&state, h.data(), c.tapsLen, f.up, f.upPhase, f.down, f.downPhase,
+                                                        memory.data()),
                     qvxStatOk);
           return state;
         },
@@ -370,12 +374,13 @@ TEST(Multirate, StreamsWithoutADelayLine) {
           EXPECT_EQ(qvxsFIRMRStreamGetStateSize_16s(c.tapsLen, f.up, f.down, &bytes), qvxStatOk);
           memory.resize(static_cast<size_t>(bytes));
           EXPECT_EQ(isOneRate ? qvxsFIRStreamInit_16s(&state, h16.data(), c.tapsLen, factor, mode, memory.data())
-                              : qvxsFIRMRStreamInit_16s(&state, h16.data(), c.tapsLen, factor, f.up, f.upPhase, f.down, f.downPhase,
-                                                        mode, memory.data()),
+                              : qvxsFIRMRStreamInit_16s(&state, h16.data(), c.tapsLen, factor, f.up, f.upPhase, f.down,
+                                                        f.downPhase, mode, memory.data()),
                     qvxStatOk);
           return state;
         },
-        h16, [&](const Qvx16s* src, Qvx16s* dst, QvxsFIRState_16s* s) { return qvxsFIR_16s_Sfs(src, dst, groups, s, scaleFactor); },
+        h16,
+        [&](const Qvx16s* src, Qvx16s* dst, QvxsFIRState_16s* s) { return qvxsFIR_16s_Sfs(src, dst, groups, s, scaleFactor); },
         [&](Qvx16s* v, QvxsFIRState_16s* s) { return qvxsFIR_16s_ISfs(v, groups, s, scaleFactor); },
         [&](Qvx16s y, const Qvx16s* newest) {
           uint32_t sum = 0;

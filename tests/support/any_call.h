@@ -360,7 +360,8 @@ inline void* AnyCall::recordOf(std::string type, bool isConst, Choices& choices)
   std::vector<const Export*> makers = makersOf(type, allocates);
   const auto isStranger = [&](const Export* maker) {
     const auto& strangers = traits_.strangers;
-    return std::any_of(strangers.begin(), strangers.end(), [&](const std::string& s) { return contains(maker->name, {s.c_str()}); });
+    return std::any_of(strangers.begin(), strangers.end(),
+                       [&](const std::string& s) { return contains(maker->name, {s.c_str()}); });
   };
   makers.erase(std::remove_if(makers.begin(), makers.end(), isStranger), makers.end());
   if (makers.empty()) return recordOf(type, isConst, choices);  // none that allocates
