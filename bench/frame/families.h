@@ -37,6 +37,7 @@ void fftRecords(Suite& suite);
 void integerFft(Suite& suite);
 void spectrum(Suite& suite);
 void fir(Suite& suite);
+void multirate(Suite& suite);
 void iir(Suite& suite);
 void lms(Suite& suite);
 void haar(Suite& suite);
@@ -88,6 +89,7 @@ inline constexpr Family kFamilies[] = {
     {"fft_integer", integerFft},
     {"spectrum", spectrum},
     {"fir", fir},
+    {"multirate", multirate},
     {"iir", iir},
     {"lms", lms},
     {"haar", haar},

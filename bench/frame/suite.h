@@ -143,9 +143,9 @@ template <class F, Shape kShape, class Scalars> class Row {
     return *this;
   }
   // A stream in blocks, for filters.
-  Row& stream() {
+  Row& stream(const std::vector<int>& sizes = kStreamSizes) {
     case_.table = Table::kStream;
-    case_.sizes = kStreamSizes;
+    case_.sizes = sizes;
     return *this;
   }
   Row& operations(double each) {

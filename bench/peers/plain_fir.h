@@ -54,4 +54,31 @@ inline void filter(const int16_t* x, const int16_t* p, int taps, int16_t* y, int
   }
 }
 
+// A polyphase filter as it is written: for each output of a period its list of taps, and where its samples begin.
+struct Ratio {
+  int up;
+  int down;
+  int taps;  // of a list
+  std::vector<int> start;
+
+  Ratio(int up_, int down_, int tapsLen) : up(up_), down(down_), taps((tapsLen + up_ - 1) / up_) {
+    for (int j = 0; j < up; ++j) start.push_back(j * down / up);
+  }
+  template <class T> std::vector<T> lists(const std::vector<T>& h) const {
+    std::vector<T> all(static_cast<size_t>(up) * static_cast<size_t>(taps));
+    for (int j = 0; j < up; ++j) {
+      for (int k = 0; k < taps; ++k) {
+        const auto from = static_cast<size_t>(j * down % up + up * (taps - 1 - k));
+        if (from < h.size()) all[static_cast<size_t>(j * taps + k)] = h[from];
+      }
+    }
+    return all;
+  }
+};
+template <class T> void polyphase(const T* x, const T* lists, const Ratio& q, T* y, int periods) {
+  for (int i = 0; i < periods; ++i, x += q.down) {
+    for (int j = 0; j < q.up; ++j) filter(x + q.start[static_cast<size_t>(j)], lists + j * q.taps, q.taps, y++, 1);
+  }
+}
+
 }  // namespace plain

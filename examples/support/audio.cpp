@@ -43,6 +43,11 @@ void AudioWriter::write(const Qvx16s* samples, int frames) {
   verify(file_.writef(samples, frames) == frames);
 }
 
+void AudioWriter::write(const Qvx32f* samples, int frames) {
+  count(frames, 4);
+  verify(file_.writef(samples, frames) == frames);
+}
+
 void AudioWriter::writeBytes(const Qvx8u* codes, int frames) {
   count(frames, 1);
   const int64_t len = int64_t{frames} * file_.channels();

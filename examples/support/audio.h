@@ -56,6 +56,7 @@ class AudioWriter {
   AudioWriter(const std::string& path, int format, int channels, int sampleRate, const std::vector<std::string>& inputs);
 
   void write(const Qvx16s* samples, int frames);
+  void write(const Qvx32f* samples, int frames);
   void writeBytes(const Qvx8u* codes, int frames);
 
  private:

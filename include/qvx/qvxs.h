@@ -16,6 +16,7 @@
 #include <qvx/qvxs_spectrum.h>
 #include <qvx/qvxs_fft_integer.h>
 #include <qvx/qvxs_fir.h>
+#include <qvx/qvxs_multirate.h>
 #include <qvx/qvxs_lms.h>
 #include <qvx/qvxs_fir_design.h>
 #include <qvx/qvxs_iir.h>

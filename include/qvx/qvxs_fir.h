@@ -23,7 +23,9 @@ extern "C" {
  * of integer arithmetic do not depend on how the stream is cut, either. Floats are added up in one order in calls of up to 64
  * samples, in another one in longer calls that do not go by way of the FFT, whatever the cut; one-sample forms, short calls, long
  * calls and the FFT agree to rounding. (One order for all would cost short calls up to half of their speed: 16 samples of 64 taps
- * take 42 ns, in the order of long calls 81.) */
+ * take 42 ns, in the order of long calls 81.)
+ *
+ * The types of the records are those of multi-rate filters and of streams without a delay line, too: qvxs_multirate.h. */
 typedef struct QvxsFIRState_32f QvxsFIRState_32f;
 typedef struct QvxsFIRState_32fc QvxsFIRState_32fc;
 typedef struct QvxsFIRState32f_16s QvxsFIRState32f_16s;
@@ -150,7 +152,8 @@ QVXS_API(QvxStatus, qvxsFIRSetTaps32s_16s, (const Qvx32s* pTaps, QvxsFIRState32s
 QVXS_API(QvxStatus, qvxsFIRSetTaps32sc_16sc, (const Qvx32sc* pTaps, QvxsFIRState32sc_16sc* pState, int tapsFactor));
 QVXS_API(QvxStatus, qvxsFIRSetTaps_16s, (const Qvx16s* pTaps, QvxsFIRState_16s* pState, int tapsFactor));
 
-/** Reads or replaces the last tapsLen samples, newest first; qvxsFIRSetDlyLine takes null for zeros.
+/** Reads or replaces the last tapsLen samples, newest first; qvxsFIRSetDlyLine takes null for zeros. Of a multi-rate record, the
+ *  last (tapsLen + upFactor - 1) / upFactor.
  *  Returns as qvxsFIRGetTaps. */
 QVXS_API(QvxStatus, qvxsFIRGetDlyLine_32f, (const QvxsFIRState_32f* pState, Qvx32f* pDlyLine));
 QVXS_API(QvxStatus, qvxsFIRGetDlyLine_32fc, (const QvxsFIRState_32fc* pState, Qvx32fc* pDlyLine));
@@ -218,7 +221,10 @@ QVXS_API(QvxStatus, qvxsFIRStreamGetStateSize_32f, (int tapsLen, int* pSize));
  *  |h[k] * x[n - k]| at most, for any number of taps, eps 2^-23 (32f, 32fc arithmetic) or 2^-52 (64f, 64fc); by way of the FFT by
  *  eps times the root mean square of x times the sum of |h[k]|, which is more where x is quiet beside what is near.
  *  The number of threads never changes a bit.
- *  Returns qvxStatOk; qvxStatNullPtr; then qvxStatBadSize (numIters < 1); then qvxStatContextMismatch (not such a record). */
+ *  A multi-rate record reads numIters * downFactor samples and gives numIters * upFactor; in place, with upFactor above downFactor,
+ *  the samples are copied to memory of the call's own. qvxsFIROne refuses such records.
+ *  Returns qvxStatOk; qvxStatNullPtr; then qvxStatBadSize (numIters < 1); then qvxStatContextMismatch (not such a record);
+ *  qvxStatNoMem (no memory for that copy). */
 QVXS_API(QvxStatus, qvxsFIR_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int numIters, QvxsFIRState_32f* pState));
 QVXS_API(QvxStatus, qvxsFIR_32f_I, (Qvx32f* pSrcDst, int numIters, QvxsFIRState_32f* pState));
 QVXS_API(QvxStatus, qvxsFIROne_32f, (Qvx32f src, Qvx32f* pDstVal, QvxsFIRState_32f* pState));

@@ -12,9 +12,8 @@ namespace {
 template <class T> inline constexpr size_t kOutputsWorthTeam = PartsOf<T>::kCount == 1 ? 1601 : 801;
 inline constexpr size_t kProductsWorthTeam = 1 << 21;
 
-template <class K, class Order>
-void plain(const typename K::Element* x, const typename K::Tap* p, size_t taps, size_t count, typename K::Element* y) {
-  filter<K, Order>(x, p, taps, count, [y](auto v, size_t at, auto... some) {
+template <class K, class Order, class Products> void plain(const Products& products, size_t count, typename K::Element* y) {
+  filter<K, Order>(products, count, [y](auto v, size_t at, auto... some) {
     constexpr TagOf<decltype(v)> d;
     if constexpr (sizeof...(some) == 0) store(v, d, parts(y + at));
     else storeFirst(v, d, parts(y), some * PartsOf<typename K::Element>::kCount...);
@@ -25,11 +24,13 @@ template <class K>
 void divided(const typename K::Element* x, const typename K::Tap* p, size_t taps, size_t count, typename K::Element* y,
              Call call) {
   using T = typename K::Element;
-  if (call == Call::kShort) return plain<K, ShortOrder<K::kChannels>>(x, p, taps, count, y);
+  if (call == Call::kShort) return plain<K, ShortOrder<K::kChannels>>(OneRow<K>{x, p, taps}, count, y);
   const size_t work = count * taps * PartsOf<T>::kCount * sizeof(T) / sizeof(float);
-  if (count < kOutputsWorthTeam<T> || work < kProductsWorthTeam) return plain<K, LongOrder<K::kChannels>>(x, p, taps, count, y);
+  if (count < kOutputsWorthTeam<T> || work < kProductsWorthTeam) {
+    return plain<K, LongOrder<K::kChannels>>(OneRow<K>{x, p, taps}, count, y);
+  }
   dividedBetween(ownGetNumThreads(), count, [=](size_t from, size_t some, size_t) {
-    plain<K, LongOrder<K::kChannels>>(x + from, p, taps, some, y + from);
+    plain<K, LongOrder<K::kChannels>>(OneRow<K>{x + from, p, taps}, some, y + from);
     return qvxStatOk;
   });
 }
@@ -54,9 +55,9 @@ struct SumShift {
 };
 
 // lanes: of y, all that may be written.
-void integers(const Qvx16sc* x, PairedTaps p, size_t lanes, int16_t* y, int64_t places) {
+template <class Products> void integers(const Products& products, size_t lanes, int16_t* y, int64_t places) {
   const auto shift = SumShift::of(places);
-  filter<PairSum, AnyOrder<PairSum::kChannels>>(x, p.pairs, p.count, (lanes + 1) / 2, [=](auto sums, size_t at, auto... some) {
+  filter<PairSum, AnyOrder<PairSum::kChannels>>(products, (lanes + 1) / 2, [=](auto sums, size_t at, auto... some) {
     const auto v = shift(sums);
     constexpr TagOf<decltype(v)> d;
     constexpr size_t kWhole = hn::MaxLanes(d);
@@ -64,6 +65,21 @@ void integers(const Qvx16sc* x, PairedTaps p, size_t lanes, int16_t* y, int64_t 
     else if (lanes - 2 * at >= kWhole) store(v, d, y + 2 * at);
     else storeFirst(v, d, y + 2 * at, kWhole - 1);
   });
+}
+
+template <class K>
+void dealt(const Dealt<typename K::Element>& x, const typename K::Tap* p, size_t taps, size_t count, typename K::Element* y,
+           Call call) {
+  using S = typename K::Element;
+  const auto inOrder = [=]<class Order>(Order) {
+    if (areTapsByRow(taps, x.count)) {
+      plain<K, Order>(DealtRows<K, S>{x.rows, x.stride, x.count, x.row, x.at, p, taps}, count, y);
+    } else {
+      plain<K, Order>(DealtTaps<K>{x.rows, x.stride, x.count, x.row, x.at, p, taps}, count, y);
+    }
+  };
+  if (call == Call::kShort) inOrder(ShortOrder<K::kChannels>());
+  else inOrder(LongOrder<K::kChannels>());
 }
 
 }  // namespace
@@ -82,10 +98,29 @@ void convolve(const Qvx64fc* x, const Qvx64fc* p, size_t taps, size_t count, Qvx
 }
 
 void convolve(const Qvx16s* x, PairedTaps p, size_t count, Qvx16s* y, int64_t places) {
-  integers(reinterpret_cast<const Qvx16sc*>(x), p, count, y, places);
+  integers(OneRow<PairSum>{reinterpret_cast<const Qvx16sc*>(x), p.pairs, p.count}, count, y, places);
 }
 void convolve(const Qvx16sc* x, PairedTaps p, size_t count, Qvx16sc* y, int64_t places) {
-  integers(x, p, 2 * count, parts(y), places);
+  integers(OneRow<PairSum>{x, p.pairs, p.count}, 2 * count, parts(y), places);
+}
+
+void convolve(const Dealt<Qvx32f>& x, const Qvx32f* p, size_t taps, size_t count, Qvx32f* y, Call call) {
+  dealt<RealSum<Qvx32f>>(x, p, taps, count, y, call);
+}
+void convolve(const Dealt<Qvx64f>& x, const Qvx64f* p, size_t taps, size_t count, Qvx64f* y, Call call) {
+  dealt<RealSum<Qvx64f>>(x, p, taps, count, y, call);
+}
+void convolve(const Dealt<Qvx32fc>& x, const Qvx32fc* p, size_t taps, size_t count, Qvx32fc* y, Call call) {
+  dealt<ComplexSum<Qvx32fc>>(x, parts(p), taps, count, y, call);
+}
+void convolve(const Dealt<Qvx64fc>& x, const Qvx64fc* p, size_t taps, size_t count, Qvx64fc* y, Call call) {
+  dealt<ComplexSum<Qvx64fc>>(x, parts(p), taps, count, y, call);
+}
+void convolve(const Dealt<Qvx16s>& x, const Qvx16sc* pairs, size_t taps, size_t count, Qvx16s* y, int64_t places) {
+  integers(DealtRows<PairSum, Qvx16s>{x.rows, x.stride, x.count, x.row, x.at, pairs, taps}, count, y, places);
+}
+void convolve(const Dealt<Qvx16sc>& x, const Qvx16sc* pairs, size_t taps, size_t count, Qvx16sc* y, int64_t places) {
+  integers(DealtRows<PairSum, Qvx16sc>{x.rows, x.stride, x.count, x.row, x.at, pairs, taps}, 2 * count, parts(y), places);
 }
 
 PairedTaps paired(const Qvx16s* p, size_t taps, Qvx16sc* pairs) {

@@ -41,4 +41,24 @@ void convolve(const Qvx16sc* x, PairedTaps p, size_t count, Qvx16sc* y, int64_t 
 // The same of one sum.
 Qvx16s scaledSum(int64_t sum, int64_t places);
 
+// ---- samples dealt among rows in turn, as the outputs need them that one in `count` samples apart is kept: the sample i places
+// after that at rows[row * stride + at] meets tap i for y[0], and that `count` places after it, which is next to it, for y[1].
+template <class T> struct Dealt {
+  const T* rows;
+  size_t stride;
+  size_t count;
+  size_t row;
+  size_t at;
+};
+// The taps of floats stand row by row, beginning with `row`, where a row has enough of them that a vector of samples serves
+// several, else in the order of the samples; those of integers always row by row, in pairs for each row. A row has a vector more
+// than it needs, of integers two.
+constexpr bool areTapsByRow(size_t taps, size_t rows) { return taps >= 4 * rows; }
+void convolve(const Dealt<Qvx32f>& x, const Qvx32f* p, size_t taps, size_t count, Qvx32f* y, Call call);
+void convolve(const Dealt<Qvx64f>& x, const Qvx64f* p, size_t taps, size_t count, Qvx64f* y, Call call);
+void convolve(const Dealt<Qvx32fc>& x, const Qvx32fc* p, size_t taps, size_t count, Qvx32fc* y, Call call);
+void convolve(const Dealt<Qvx64fc>& x, const Qvx64fc* p, size_t taps, size_t count, Qvx64fc* y, Call call);
+void convolve(const Dealt<Qvx16s>& x, const Qvx16sc* pairs, size_t taps, size_t count, Qvx16s* y, int64_t places);
+void convolve(const Dealt<Qvx16sc>& x, const Qvx16sc* pairs, size_t taps, size_t count, Qvx16sc* y, int64_t places);
+
 }  // namespace qvx::convolution

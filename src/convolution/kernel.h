@@ -8,6 +8,7 @@
 
 #include <algorithm>
 
+#include "convolution/convolve.h"
 #include "frame/map.h"
 
 namespace qvx::convolution {
@@ -202,18 +203,26 @@ template <class K, class T, size_t kRows>
   }
 }
 
-template <class K, class T, class Put>
-[[gnu::always_inline]] inline void tile(const typename K::Element* x, const typename K::Tap* p, size_t taps, Put put) {
+// All taps of one convolution.
+template <class K, class T>
+[[gnu::always_inline]] inline void addAll(typename K::Sum* sum, const auto* x, const auto* p, size_t taps) {
+  constexpr size_t N = kElements<K>;
+  size_t k = 0;
+  for (; taps - k >= T::kRows * N; k += T::kRows * N) {
+    for (size_t r = k; r < k + N; ++r) add<K, T, T::kRows>(sum, x + r, p + r * K::kChannels);
+  }
+  addRest<K, T, T::kRows>(sum, x, p, k, taps);
+}
+
+// Outputs from n on of what `products` adds up.
+template <class K, class T, class Products, class Put>
+[[gnu::always_inline]] inline void tile(const Products& products, size_t n, Put put) {
   constexpr size_t N = kElements<K>;
   constexpr size_t C = K::kChannels;
   typename K::Sum sum[T::kVectors * T::kSums * C];
 #pragma GCC unroll 32
   for (auto& s : sum) s = hn::Zero(TagOf<typename K::Sum>());
-  size_t k = 0;
-  for (; taps - k >= T::kRows * N; k += T::kRows * N) {
-    for (size_t r = k; r < k + N; ++r) add<K, T, T::kRows>(sum, x + r, p + r * C);
-  }
-  addRest<K, T, T::kRows>(sum, x, p, k, taps);
+  products.template addTo<T>(sum, n);
 #pragma GCC unroll 32
   for (size_t m = 0; m < T::kVectors; ++m) {
     auto* s = sum + m * T::kSums * C;
@@ -225,17 +234,92 @@ template <class K, class T, class Put>
 
 }  // namespace detail
 
-// put(outputs, n) takes the vector of outputs from n on, for all n to count; put(outputs, n, some) the first some of them. x has
-// count + taps - 1 elements, and taps - 1 more than a whole vector's if count is less than that.
-template <class K, class Order, class Put>
-[[gnu::flatten]] void filter(const typename K::Element* x, const typename K::Tap* p, size_t taps, size_t count, Put put) {
+// One convolution: p[0] * x[n] + p[1] * x[n + 1] + ...
+template <class K> struct OneRow {
+  const typename K::Element* x;
+  const typename K::Tap* p;
+  size_t taps;
+
+  template <class T> [[gnu::always_inline]] void addTo(typename K::Sum* sum, size_t n) const {
+    detail::addAll<K, T>(sum, x + n, p, taps);
+  }
+};
+
+// The sum of those of several rows, among which the samples are dealt in turn: tap t meets the sample that is t places after that
+// at `at` of row `row`. The taps stand row by row.
+template <class K, class S> struct DealtRows {
+  const S* rows;
+  size_t stride;
+  size_t count;
+  size_t row;
+  size_t at;
+  const typename K::Tap* p;
+  size_t taps;
+
+  template <class T> [[gnu::always_inline]] void addTo(typename K::Sum* sum, size_t n) const {
+    const size_t whole = taps / count;
+    const size_t longer = taps % count;
+    const auto* tap = p;
+    size_t r = row;
+    size_t i = at;
+    for (size_t s = 0; s < std::min(count, taps); ++s) {
+      const size_t of = pairedTaps(whole + (s < longer ? 1 : 0));
+      const S* x = rows + r * stride + i;
+      detail::addAll<K, T>(sum, reinterpret_cast<const typename K::Element*>(x) + n, tap, of);
+      tap += of * K::kChannels;
+      if (++r == count) r = 0, ++i;
+    }
+  }
+
+ private:
+  static size_t pairedTaps(size_t n) {
+    if constexpr (std::is_same_v<S, Qvx16s>) return pairsOf(n, S());
+    else return n;
+  }
+};
+
+// The same with so few taps a row that they are better taken in the order of the samples.
+template <class K> struct DealtTaps {
+  using S = typename K::Element;
+  const S* rows;
+  size_t stride;
+  size_t count;
+  size_t row;
+  size_t at;
+  const typename K::Tap* p;
+  size_t taps;
+
+  template <class T> [[gnu::always_inline]] void addTo(typename K::Sum* sum, size_t n) const {
+    constexpr size_t C = K::kChannels;
+    const S* x = rows + row * stride + at + n;
+    size_t left = count - row;  // rows, up to the last
+    const ptrdiff_t back = 1 - static_cast<ptrdiff_t>((count - 1) * stride);
+    const auto addTap = [&](size_t t, size_t part) __attribute__((always_inline)) {
+      detail::add<K, T, 1>(sum + part * C, x, p + t * C);
+      if (--left == 0) x += back, left = count;
+      else x += stride;
+    };
+    size_t t = 0;
+    for (; taps - t >= T::kSums; t += T::kSums) {
+#pragma GCC unroll 8
+      for (size_t s = 0; s < T::kSums; ++s) addTap(t + s, s);
+    }
+    for (; t < taps; ++t) addTap(t, 0);
+  }
+};
+
+// put(outputs, n) takes the vector of outputs from n on, for all n to count; put(outputs, n, some) the first some of them. The
+// samples that `products` takes for an output are there for all outputs, and those of a whole vector's if count is less than
+// that.
+template <class K, class Order, class Products, class Put>
+[[gnu::flatten]] void filter(const Products& products, size_t count, Put put) {
   constexpr size_t N = detail::kElements<K>;
   constexpr size_t kWidest = Order::kWidest;
   size_t n = 0;
   const auto tiles = [&]<size_t kVectors>(std::integral_constant<size_t, kVectors>) {
     using Tile = decltype(Order::template tile<kVectors>());
     for (; n + kVectors * N <= count; n += kVectors * N) {
-      detail::tile<K, Tile>(x + n, p, taps, [&](auto v, size_t m) { put(v, n + m); });
+      detail::tile<K, Tile>(products, n, [&](auto v, size_t m) { put(v, n + m); });
     }
   };
   tiles(std::integral_constant<size_t, kWidest>());
@@ -246,9 +330,9 @@ template <class K, class Order, class Put>
   if (n == count) return;
   using Last = decltype(Order::template tile<1>());
   if (count >= N) {  // the last whole vector, some of whose outputs stand already
-    detail::tile<K, Last>(x + count - N, p, taps, [&](auto v, size_t) { put(v, count - N); });
+    detail::tile<K, Last>(products, count - N, [&](auto v, size_t) { put(v, count - N); });
   } else {
-    detail::tile<K, Last>(x, p, taps, [&](auto v, size_t) { put(v, 0, count); });
+    detail::tile<K, Last>(products, 0, [&](auto v, size_t) { put(v, 0, count); });
   }
 }
 

@@ -65,8 +65,8 @@ QvxStatus qvxsFIRSetDlyLine64fc_16sc(QvxsFIRState64fc_16sc* s, const Qvx16sc* d)
 QvxStatus qvxsFIRSetDlyLine32s_16s(QvxsFIRState32s_16s* s, const Qvx16s* d) { return setDelayLine(s, d); }
 QvxStatus qvxsFIRSetDlyLine32sc_16sc(QvxsFIRState32sc_16sc* s, const Qvx16sc* d) { return setDelayLine(s, d); }
 QvxStatus qvxsFIRSetDlyLine_16s(QvxsFIRState_16s* s, const Qvx16s* d) { return setDelayLine(s, d); }
-QvxStatus qvxsFIRGetTaps_32s(const QvxsFIRState_32s* s, Qvx32s* h) { return getTaps(s, h); }
-QvxStatus qvxsFIRSetTaps_32s(const Qvx32s* h, QvxsFIRState_32s* s) { return replaceTaps(h, s); }
+QvxStatus qvxsFIRGetTaps_32s(const QvxsFIRState_32s* s, Qvx32s* h) { return getSingleRateTaps(s, h); }
+QvxStatus qvxsFIRSetTaps_32s(const Qvx32s* h, QvxsFIRState_32s* s) { return replaceSingleRateTaps(h, s); }
 QvxStatus qvxsFIRGetTaps32s_16s32f(const QvxsFIRState32s_16s* s, Qvx32f* h) { return getFloatTaps(s, h); }
 QvxStatus qvxsFIRGetTaps32sc_16sc32fc(const QvxsFIRState32sc_16sc* s, Qvx32fc* h) { return getFloatTaps(s, h); }
 QvxStatus qvxsFIRSetTaps32s_16s32f(const Qvx32f* h, QvxsFIRState32s_16s* s) { return replaceTaps(h, s); }

@@ -1,8 +1,9 @@
 // How a record is laid out and built, in a block of the size that sizes.h reports.
 #pragma once
 
-#include "fir/contents.h"
+#include "fir/multirate.h"
 #include "fir/sizes.h"
+#include "fir/streams.h"
 
 namespace qvx::fir {
 
@@ -67,7 +68,9 @@ QvxStatus initAlloc(FootprintOf footprintOf, S** ppState, const H* taps, int tap
 }
 
 template <class S> QvxStatus release(S* state) {
-  return releaseRecord(state, checkRecord(state, S::kId), InCallersBlock::kUntouched);
+  const bool isOther = !isNull(state) && (isMultirate(state) || isStream(state));
+  const QvxStatus status = isOther ? qvxStatOk : checkRecord(state, S::kId);
+  return releaseRecord(state, status, InCallersBlock::kUntouched);
 }
 
 }  // namespace qvx::fir

@@ -52,4 +52,25 @@ template <class H, class T> struct Stateless {
   }
 };
 
+// ---- float sums as integers
+
+// Saturated, rounded half away from zero by adding a half. NaN becomes the upper limit.
+template <class T, class F> T rounded(F v) {
+  if constexpr (std::is_floating_point_v<T>) {
+    return static_cast<T>(v);
+  } else {
+    constexpr auto kMost = static_cast<F>(std::numeric_limits<T>::max());
+    constexpr auto kLeast = static_cast<F>(std::numeric_limits<T>::min());
+    if (!(v < kMost)) return std::numeric_limits<T>::max();
+    if (v <= kLeast) return std::numeric_limits<T>::min();
+    return static_cast<T>(v + std::copysign(F(0.5), v));
+  }
+}
+
+// The largest finite power is far enough up for any sum but 0, which stays 0.
+template <class F> F unitOf(int scaleFactor) {
+  constexpr int kMost = std::numeric_limits<F>::max_exponent - 1;
+  return powerOfTwo<F>(std::min(-int64_t{scaleFactor}, int64_t{kMost}));
+}
+
 }  // namespace qvx::fir

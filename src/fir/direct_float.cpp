@@ -86,25 +86,6 @@ template <class T> QvxStatus oneSample(const T* x, T* y, const T* taps, int taps
 
 // ---- samples of another type: one by one
 
-// Saturated, rounded half away from zero by adding a half. NaN becomes the upper limit.
-template <class T, class F> T rounded(F v) {
-  if constexpr (std::is_floating_point_v<T>) {
-    return static_cast<T>(v);
-  } else {
-    constexpr auto kMost = static_cast<F>(std::numeric_limits<T>::max());
-    constexpr auto kLeast = static_cast<F>(std::numeric_limits<T>::min());
-    if (!(v < kMost)) return std::numeric_limits<T>::max();
-    if (v <= kLeast) return std::numeric_limits<T>::min();
-    return static_cast<T>(v + std::copysign(F(0.5), v));
-  }
-}
-
-// The largest finite power is far enough up for any sum but 0, which stays 0.
-template <class F> F unitOf(int scaleFactor) {
-  constexpr int kMost = std::numeric_limits<F>::max_exponent - 1;
-  return powerOfTwo<F>(std::min(-int64_t{scaleFactor}, int64_t{kMost}));
-}
-
 template <class H, class T>
 QvxStatus converting(const T* src, T* dst, int numIters, const H* taps, int tapsLen, T* delay, int* index, int scaleFactor = 0) {
   using F = Part<H>;

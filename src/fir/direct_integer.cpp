@@ -1,56 +1,23 @@
 // Filters without a record, in integers.
 #include "fir/build.h"
 #include "fir/direct.h"
-#include "stats/moments.h"
+#include "fir/wrapping.h"
 
 using namespace qvx;
 using namespace qvx::fir;
 
 namespace {
 
-// Products of 32-bit taps and 16-bit samples in sums of 32 bits that wrap.
-struct Wrapping : Reduction {
-  using Inner = int32_t;
-  template <class V, class W> W start(V x, W p) const { return widened<int32_t>(x) * p; }
-  template <class V, class W> W add(W sum, V x, W p) const { return sum + start(x, p); }
-  template <class W> int64_t total(W sum) const { return sumOfLanes(sum); }
-};
-struct ComplexWrapping : Reduction {
-  using Inner = int32_t;
-  template <class V, class W> Pair<W> start(V x, W p) const {
-    const W wide = widened<int32_t>(x);
-    return {wide * p, wide * swapped(p)};
-  }
-  template <class V, class W> Pair<W> add(Pair<W> sum, V x, W p) const { return join(sum, start(x, p)); }
-  template <class W> ComplexTotal<int64_t> total(Pair<W> sum) const {
-    const auto like = folded<2>(sum.lo);
-    const auto unlike = folded<2>(sum.hi);
-    return {int64_t{hn::ExtractLane(like, 0)} - hn::ExtractLane(like, 1),
-            int64_t{hn::ExtractLane(unlike, 0)} + hn::ExtractLane(unlike, 1)};
-  }
-};
-
-// Scale factors here count up to 31 places only.
-int64_t placesOf(int tapsFactor, int scaleFactor) { return std::clamp<int64_t>(int64_t{tapsFactor} - scaleFactor, -31, 31); }
-
 template <class H, class T>
 QvxStatus wrapping(const T* src, T* dst, int numIters, const H* taps, int tapsLen, int tapsFactor, T* delay, int* index,
                    int scaleFactor) {
   const int64_t places = placesOf(tapsFactor, scaleFactor);
   const auto n = static_cast<size_t>(tapsLen);
-  return Stateless<H, T>{taps, tapsLen, delay, index}.forEachSample(src, dst, numIters, [=](const T* window, const H* p) -> T {
-    if constexpr (PartsOf<T>::kCount == 1) {
-      return scaledSum(reduce(Wrapping(), n, source(window), source(p)), places);
-    } else {
-      const auto sum = reduce(ComplexWrapping(), 2 * n, source(window), source(p));
-      return {scaledSum(sum.re, places), scaledSum(sum.im, places)};
-    }
-  });
+  return Stateless<H, T>{taps, tapsLen, delay, index}.forEachSample(
+      src, dst, numIters, [=](const T* window, const H* p) { return wrappingDot(window, p, n, places); });
 }
 
-// ---- 16-bit taps, which are fractions of 2^15
-
-constexpr int kFraction = -15;
+// ---- 16-bit taps
 
 // With a record for the time of the call, whose delay line, newest first, is the caller's before and after it.
 QvxStatus block(const Qvx16s* src, Qvx16s* dst, int numIters, const Qvx16s* taps, int tapsLen, Qvx16s* delay, int* index,

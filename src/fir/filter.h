@@ -1,32 +1,14 @@
 // The filters with a record: block, in place, one sample.
 #pragma once
 
+#include "fir/dot.h"
+#include "fir/multirate_filter.h"
 #include "fir/sizes.h"
-#include "fir/state.h"
+#include "fir/streams.h"
 
 namespace qvx::fir {
 
 // ---- one sample
-
-template <class C> C dot(const C* x, const C* p, int n) {
-  C sum;
-  if constexpr (std::is_same_v<C, Qvx32f>) qvxsDotProd_32f(x, p, n, &sum);
-  else if constexpr (std::is_same_v<C, Qvx64f>) qvxsDotProd_64f(x, p, n, &sum);
-  else if constexpr (std::is_same_v<C, Qvx32fc>) qvxsDotProd_32fc(x, p, n, &sum);
-  else qvxsDotProd_64fc(x, p, n, &sum);
-  return sum;
-}
-// Of integers exactly: the lower 32 bits are the sum that wraps.
-inline Qvx16s scaledDot(const Qvx16s* x, const Qvx16s* p, int n, int64_t places) {
-  Qvx64s sum;
-  qvxsDotProd_16s64s(x, p, n, &sum);
-  return scaledSum(sum, places);
-}
-inline Qvx16sc scaledDot(const Qvx16sc* x, const Qvx16sc* p, int n, int64_t places) {
-  Qvx64sc sum;
-  qvxsDotProd_16sc64sc(x, p, n, &sum);
-  return {scaledSum(sum.re, places), scaledSum(sum.im, places)};
-}
 
 template <class C, class T> void oneSample(FloatRecord<C>& state, T x, T* y, int scaleFactor) {
   const C* window = state.delay.push(elementAs<C>(x), state.tapsLen);
@@ -41,18 +23,6 @@ template <class S, class H> void oneSample(IntegerRecord<S, H>& state, S x, S* y
 }
 
 // ---- blocks
-
-// Copies by vectors, since most copies are short: with calls of memmove, 64 outputs of 16 taps take 52 ns, not 44. dst may lie
-// before src and overlap it.
-template <class T> void moveVectors(const T* src, size_t n, T* dst) {
-  constexpr size_t N = kVectorElements<T>;
-  constexpr size_t kParts = PartsOf<T>::kCount;
-  constexpr Lanes<Part<T>, N * kParts> d;
-  if (n < N) return storeFirst(loadFirst(d, parts(src), n * kParts), d, parts(dst), n * kParts);
-  const auto last = load(d, parts(src + n - N));
-  for (size_t i = 0; i + N < n; i += N) store(load(d, parts(src + i)), d, parts(dst + i));
-  store(last, d, parts(dst + n - N));
-}
 
 // Moves the window on by n samples, which follow it in memory.
 template <class R> void advance(R& state, size_t n) {
@@ -165,16 +135,21 @@ QvxStatus filterBlock(S& state, const typename S::Sample* src, typename S::Sampl
 
 // ---- the checked functions
 
+// The arguments that are looked at before the record's identity.
 template <class S, class... T> QvxStatus checkFilter(const S* state, int numIters, const T*... vectors) {
   if ((isNull(vectors) || ...) || isNull(state)) return qvxStatNullPtr;
-  if (numIters < 1) return qvxStatBadSize;
-  return checkRecord(state, S::kId);
+  return numIters < 1 ? qvxStatBadSize : qvxStatOk;
 }
 
 template <class S, class T> QvxStatus filter(const T* src, T* dst, int numIters, S* state, int scaleFactor = 0) {
   const QvxStatus status = checkFilter(state, numIters, src, dst);
   if (status != qvxStatOk) return status;
-  return filterBlock(*state, src, dst, elements(numIters), scaleFactor);
+  if (state->magic == S::kId) return filterBlock(*state, src, dst, elements(numIters), scaleFactor);
+  if (isMultirate(state)) return filterMultirateBlock(asMultirate(state), src, dst, numIters, scaleFactor);
+  if constexpr (kHasStreams<S>) {
+    if (isStream(state)) return filterStream(asStream(state), src, dst, numIters, scaleFactor);
+  }
+  return qvxStatContextMismatch;
 }
 
 template <class S, class T> QvxStatus filterInPlace(T* srcDst, int numIters, S* state, int scaleFactor = 0) {

@@ -6,12 +6,14 @@ using namespace qvx::fir;
 
 namespace {
 
-// The one that never takes the transform, not even with a record that has it.
-QvxStatus filterInPlaceDirect(Qvx32s* srcDst, int numIters, QvxsFIRState_32s* state, int scaleFactor) {
-  const QvxStatus status = checkFilter(state, numIters, srcDst);
+// Those that take records of one rate alone. In place, never by the transform, not even with a record that has it.
+QvxStatus filterSingleRate(const Qvx32s* src, Qvx32s* dst, int numIters, QvxsFIRState_32s* state, int scaleFactor) {
+  const QvxStatus status = checkFilter(state, numIters, src, dst);
   if (status != qvxStatOk) return status;
+  if (state->magic != QvxsFIRState_32s::kId) return qvxStatContextMismatch;
+  if (src != dst) return filterBlock(*state, src, dst, elements(numIters), scaleFactor);
   state->delay.settled(state->tapsLen);
-  return direct(*state, srcDst, srcDst, elements(numIters), scaleFactor);
+  return direct(*state, src, dst, elements(numIters), scaleFactor);
 }
 
 }  // namespace
@@ -41,7 +43,7 @@ QvxStatus qvxsFIROne64f_16s_Sfs(Qvx16s x, Qvx16s* dst, QvxsFIRState64f_16s* s, i
 QvxStatus qvxsFIR64fc_16sc_Sfs(const Qvx16sc* src, Qvx16sc* dst, int n, QvxsFIRState64fc_16sc* s, int sf) { return filter(src, dst, n, s, sf); }
 QvxStatus qvxsFIR64fc_16sc_ISfs(Qvx16sc* srcDst, int n, QvxsFIRState64fc_16sc* s, int sf) { return filterInPlace(srcDst, n, s, sf); }
 QvxStatus qvxsFIROne64fc_16sc_Sfs(Qvx16sc x, Qvx16sc* dst, QvxsFIRState64fc_16sc* s, int sf) { return filterOne(x, dst, s, sf); }
-QvxStatus qvxsFIR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, int n, QvxsFIRState_32s* s, int sf) { return filter(src, dst, n, s, sf); }
-QvxStatus qvxsFIR_32s_ISfs(Qvx32s* srcDst, int n, QvxsFIRState_32s* s, int sf) { return filterInPlaceDirect(srcDst, n, s, sf); }
+QvxStatus qvxsFIR_32s_Sfs(const Qvx32s* src, Qvx32s* dst, int n, QvxsFIRState_32s* s, int sf) { return filterSingleRate(src, dst, n, s, sf); }
+QvxStatus qvxsFIR_32s_ISfs(Qvx32s* srcDst, int n, QvxsFIRState_32s* s, int sf) { return filterSingleRate(srcDst, srcDst, n, s, sf); }
 QvxStatus qvxsFIROne_32s_Sfs(Qvx32s x, Qvx32s* dst, QvxsFIRState_32s* s, int sf) { return filterOne(x, dst, s, sf); }
 // clang-format on

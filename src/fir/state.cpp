@@ -68,7 +68,7 @@ QvxStatus qvxsFIRFree_16s(QvxsFIRState_16s* s) { return release(s); }
 QvxStatus qvxsFIRInit_32s(QvxsFIRState_32s** s, const Qvx32s* h, int n, const Qvx32s* d, Qvx8u* b) { return init(footprintOfIntegerTaps, s, h, n, d, b); }
 QvxStatus qvxsFIRInitAlloc_32s(QvxsFIRState_32s** s, const Qvx32s* h, int n, const Qvx32s* d) { return initAlloc(footprintOfIntegerTaps, s, h, n, d); }
 QvxStatus qvxsFIRGetStateSize_32s(int n, int* size) { return reportSize(n, size, footprintOfIntegerTaps); }
-QvxStatus qvxsFIRFree_32s(QvxsFIRState_32s* s) { return release(s); }
+QvxStatus qvxsFIRFree_32s(QvxsFIRState_32s* s) { return releaseRecord(s, checkRecord(s, QvxsFIRState_32s::kId), InCallersBlock::kUntouched); }
 QvxStatus qvxsFIRInit32s_16s32f(QvxsFIRState32s_16s** s, const Qvx32f* h, int n, const Qvx16s* d, Qvx8u* b) { return init(footprintOf<QvxsFIRState32s_16s>, s, h, n, d, b); }
 QvxStatus qvxsFIRInit32sc_16sc32fc(QvxsFIRState32sc_16sc** s, const Qvx32fc* h, int n, const Qvx16sc* d, Qvx8u* b) { return init(footprintOf<QvxsFIRState32sc_16sc>, s, h, n, d, b); }
 QvxStatus qvxsFIRInitAlloc32s_16s32f(QvxsFIRState32s_16s** s, const Qvx32f* h, int n, const Qvx16s* d) { return initAlloc(footprintOf<QvxsFIRState32s_16s>, s, h, n, d); }

@@ -42,26 +42,27 @@ template <class S, class T> struct IntegerRecord : RecordHead {
 // Fixed values of the interface.
 constexpr uint32_t identity(uint32_t number) { return 0x46490000 | ('0' + number / 10) << 8 | ('0' + number % 10); }
 
-// A record with its samples' type and its identity.
-template <class Record, class S, uint32_t kNumber> struct State : Record {
+// A record with its samples' type, its identity, and that of the multi-rate record that is used by the same name.
+template <class Record, class S, uint32_t kNumber, uint32_t kMultirateNumber> struct State : Record {
   using Sample = S;
   static constexpr uint32_t kId = identity(kNumber);
+  static constexpr uint32_t kMultirateId = identity(kMultirateNumber);
 };
 
 }  // namespace qvx::fir
 
-struct QvxsFIRState_32f : qvx::fir::State<qvx::fir::FloatRecord<Qvx32f>, Qvx32f, 1> {};
-struct QvxsFIRState_32fc : qvx::fir::State<qvx::fir::FloatRecord<Qvx32fc>, Qvx32fc, 2> {};
-struct QvxsFIRState32f_16s : qvx::fir::State<qvx::fir::FloatRecord<Qvx32f>, Qvx16s, 5> {};
-struct QvxsFIRState32fc_16sc : qvx::fir::State<qvx::fir::FloatRecord<Qvx32fc>, Qvx16sc, 6> {};
-struct QvxsFIRState32s_16s : qvx::fir::State<qvx::fir::IntegerRecord<Qvx16s, Qvx32s>, Qvx16s, 9> {};
-struct QvxsFIRState32sc_16sc : qvx::fir::State<qvx::fir::IntegerRecord<Qvx16sc, Qvx32sc>, Qvx16sc, 10> {};
-struct QvxsFIRState_64f : qvx::fir::State<qvx::fir::FloatRecord<Qvx64f>, Qvx64f, 13> {};
-struct QvxsFIRState_64fc : qvx::fir::State<qvx::fir::FloatRecord<Qvx64fc>, Qvx64fc, 14> {};
-struct QvxsFIRState64f_32f : qvx::fir::State<qvx::fir::FloatRecord<Qvx64f>, Qvx32f, 17> {};
-struct QvxsFIRState64fc_32fc : qvx::fir::State<qvx::fir::FloatRecord<Qvx64fc>, Qvx32fc, 18> {};
-struct QvxsFIRState64f_32s : qvx::fir::State<qvx::fir::FloatRecord<Qvx64f>, Qvx32s, 21> {};
-struct QvxsFIRState64fc_32sc : qvx::fir::State<qvx::fir::FloatRecord<Qvx64fc>, Qvx32sc, 22> {};
-struct QvxsFIRState64f_16s : qvx::fir::State<qvx::fir::FloatRecord<Qvx64f>, Qvx16s, 25> {};
-struct QvxsFIRState64fc_16sc : qvx::fir::State<qvx::fir::FloatRecord<Qvx64fc>, Qvx16sc, 26> {};
-struct QvxsFIRState_16s : qvx::fir::State<qvx::fir::IntegerRecord<Qvx16s, Qvx16s>, Qvx16s, 29> {};
+struct QvxsFIRState_32f : qvx::fir::State<qvx::fir::FloatRecord<Qvx32f>, Qvx32f, 1, 3> {};
+struct QvxsFIRState_32fc : qvx::fir::State<qvx::fir::FloatRecord<Qvx32fc>, Qvx32fc, 2, 4> {};
+struct QvxsFIRState32f_16s : qvx::fir::State<qvx::fir::FloatRecord<Qvx32f>, Qvx16s, 5, 7> {};
+struct QvxsFIRState32fc_16sc : qvx::fir::State<qvx::fir::FloatRecord<Qvx32fc>, Qvx16sc, 6, 8> {};
+struct QvxsFIRState32s_16s : qvx::fir::State<qvx::fir::IntegerRecord<Qvx16s, Qvx32s>, Qvx16s, 9, 11> {};
+struct QvxsFIRState32sc_16sc : qvx::fir::State<qvx::fir::IntegerRecord<Qvx16sc, Qvx32sc>, Qvx16sc, 10, 12> {};
+struct QvxsFIRState_64f : qvx::fir::State<qvx::fir::FloatRecord<Qvx64f>, Qvx64f, 13, 15> {};
+struct QvxsFIRState_64fc : qvx::fir::State<qvx::fir::FloatRecord<Qvx64fc>, Qvx64fc, 14, 16> {};
+struct QvxsFIRState64f_32f : qvx::fir::State<qvx::fir::FloatRecord<Qvx64f>, Qvx32f, 17, 19> {};
+struct QvxsFIRState64fc_32fc : qvx::fir::State<qvx::fir::FloatRecord<Qvx64fc>, Qvx32fc, 18, 20> {};
+struct QvxsFIRState64f_32s : qvx::fir::State<qvx::fir::FloatRecord<Qvx64f>, Qvx32s, 21, 23> {};
+struct QvxsFIRState64fc_32sc : qvx::fir::State<qvx::fir::FloatRecord<Qvx64fc>, Qvx32sc, 22, 24> {};
+struct QvxsFIRState64f_16s : qvx::fir::State<qvx::fir::FloatRecord<Qvx64f>, Qvx16s, 25, 27> {};
+struct QvxsFIRState64fc_16sc : qvx::fir::State<qvx::fir::FloatRecord<Qvx64fc>, Qvx16sc, 26, 28> {};
+struct QvxsFIRState_16s : qvx::fir::State<qvx::fir::IntegerRecord<Qvx16s, Qvx16s>, Qvx16s, 29, 30> {};

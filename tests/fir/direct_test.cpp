@@ -49,8 +49,6 @@ template <class With> void forEachDirect(With with) {
 }
 // clang-format on
 
-constexpr int kTapsFactor = -7;
-
 template <class F, class T, class H, class... Vectors>
 QvxStatus run(F f, const std::vector<H>& h, std::vector<T>& line, int& index, int scaleFactor, Vectors... vectors) {
   const int n = static_cast<int>(h.size());
@@ -63,35 +61,6 @@ QvxStatus run(F f, const std::vector<H>& h, std::vector<T>& line, int& index, in
   };
   if constexpr (std::is_same_v<H, Qvx32s> || std::is_same_v<H, Qvx32sc>) return with(h.data(), n, kTapsFactor);
   else return with(h.data(), n);
-}
-
-// One output of the last samples.
-template <class H, class T> bool agrees(T y, const std::vector<H>& h, const T* newest, int scaleFactor, bool isBlock) {
-  if constexpr (!kIsFloat<H>) {
-    const int64_t places = std::is_same_v<H, Qvx16s> ? -15 - int64_t{scaleFactor} : int64_t{kTapsFactor} - scaleFactor;
-    const bool isRecords = std::is_same_v<H, Qvx16s> && isBlock;
-    return IntegerOracle<H, T>{h, isRecords ? places : std::clamp<int64_t>(places, -31, 31)}.agrees(y, newest, 0);
-  } else if constexpr (kIsFloat<T>) {
-    return FloatOracle<H, T>{h}.agrees(y, newest, 0);
-  } else {
-    std::complex<long double> sum;
-    long double size = 0;
-    for (size_t k = 0; k < h.size(); ++k) {
-      sum += exact(h[k]) * exact(newest[-static_cast<ptrdiff_t>(k)]);
-      size += std::abs(exact(h[k])) * std::abs(exact(newest[-static_cast<ptrdiff_t>(k)]));
-    }
-    using F = Part<H>;
-    const auto matches = [&](Part<T> part, long double v) {
-      const auto rounded = [](long double x) {
-        return std::clamp<long double>(std::round(x), std::numeric_limits<Part<T>>::min(), std::numeric_limits<Part<T>>::max());
-      };
-      const long double error = std::ldexp(size, -scaleFactor) * std::numeric_limits<F>::epsilon();
-      const long double scaled = std::ldexp(v, -scaleFactor);
-      return part >= rounded(scaled - error) && part <= rounded(scaled + error);
-    };
-    const auto parts = partsOf(y);
-    return matches(parts[0], sum.real()) && (!isComplex<T> || matches(parts[1], sum.imag()));
-  }
 }
 
 // The caller's memory as the forms leave it, in the words of their definition.

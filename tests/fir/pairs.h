@@ -104,6 +104,12 @@ template <class T> T sample(Random& random) {
   }
 }
 
+template <class T> std::vector<T> samples(size_t n, Random& random) {
+  std::vector<T> v(n);
+  for (T& x : v) x = sample<T>(random);
+  return v;
+}
+
 // ---- what a filter has to give
 
 template <class T> inline constexpr bool kIsFloat = std::is_floating_point_v<Part<T>>;
@@ -181,5 +187,65 @@ template <class H, class T> struct IntegerOracle {
            (!isComplex<T> || parts[1] == roundedSum(im, factor - scaleFactor));
   }
 };
+
+// What the record has to give, with integer taps as it has them.
+template <class P> auto oracleOf(const P& pair, const typename P::State* state, const std::vector<typename P::Taps>& h) {
+  using State = typename P::State;
+  using T = typename P::Sample;
+  constexpr bool kIs16s = std::is_same_v<State, QvxsFIRState_16s>, kIsReal = std::is_same_v<State, QvxsFIRState32s_16s>;
+  if constexpr (kIs16s || kIsReal || std::is_same_v<State, QvxsFIRState32sc_16sc>) {
+    using Taps = std::conditional_t<kIs16s, Qvx16s, std::conditional_t<kIsReal, Qvx32s, Qvx32sc>>;
+    std::vector<Taps> taps(h.size());
+    int factor = 0;
+    QvxStatus status;
+    if constexpr (kIs16s) status = qvxsFIRGetTaps_16s(state, taps.data(), &factor);
+    else if constexpr (kIsReal) status = qvxsFIRGetTaps32s_16s(state, taps.data(), &factor);
+    else status = qvxsFIRGetTaps32sc_16sc(state, taps.data(), &factor);
+    EXPECT_EQ(status, qvxStatOk) << pair.name;
+    // The filter takes their low 16 bits. All have no more, but for a -2^31 beside small ones, which counts as 0.
+    for (Taps& tap : taps) {
+      if constexpr (isComplex<Taps>) tap = {static_cast<Qvx16s>(tap.re), static_cast<Qvx16s>(tap.im)};
+      else tap = static_cast<Qvx16s>(tap);
+    }
+    return IntegerOracle<Taps, T>{taps, factor};
+  } else if constexpr (std::is_same_v<typename P::Taps, Qvx32s>) {  // held as 64f
+    return FloatOracle<Qvx64f, T>{{h.begin(), h.end()}};
+  } else {
+    return FloatOracle<typename P::Taps, T>{h};
+  }
+}
+
+// ---- what filters without a record have to give
+
+constexpr int kTapsFactor = -7;
+
+// One output of the last samples.
+template <class H, class T> bool agrees(T y, const std::vector<H>& h, const T* newest, int scaleFactor, bool isBlock) {
+  if constexpr (!kIsFloat<H>) {
+    const int64_t places = std::is_same_v<H, Qvx16s> ? -15 - int64_t{scaleFactor} : int64_t{kTapsFactor} - scaleFactor;
+    const bool isRecords = std::is_same_v<H, Qvx16s> && isBlock;
+    return IntegerOracle<H, T>{h, isRecords ? places : std::clamp<int64_t>(places, -31, 31)}.agrees(y, newest, 0);
+  } else if constexpr (kIsFloat<T>) {
+    return FloatOracle<H, T>{h}.agrees(y, newest, 0);
+  } else {
+    std::complex<long double> sum;
+    long double size = 0;
+    for (size_t k = 0; k < h.size(); ++k) {
+      sum += exact(h[k]) * exact(newest[-static_cast<ptrdiff_t>(k)]);
+      size += std::abs(exact(h[k])) * std::abs(exact(newest[-static_cast<ptrdiff_t>(k)]));
+    }
+    using F = Part<H>;
+    const auto matches = [&](Part<T> part, long double v) {
+      const auto rounded = [](long double x) {
+        return std::clamp<long double>(std::round(x), std::numeric_limits<Part<T>>::min(), std::numeric_limits<Part<T>>::max());
+      };
+      const long double error = std::ldexp(size, -scaleFactor) * std::numeric_limits<F>::epsilon();
+      const long double scaled = std::ldexp(v, -scaleFactor);
+      return part >= rounded(scaled - error) && part <= rounded(scaled + error);
+    };
+    const auto parts = partsOf(y);
+    return matches(parts[0], sum.real()) && (!isComplex<T> || matches(parts[1], sum.imag()));
+  }
+}
 
 }  // namespace tests

@@ -11,39 +11,6 @@ using namespace tests;
 // Taps to both sides of where kernels and ways change, and some that fill no vector of any size.
 const int kTaps[] = {1, 2, 3, 5, 8, 15, 16, 17, 31, 32, 33, 47, 63, 64, 65, 100, 127, 128, 250, 257, 513};
 
-template <class T> std::vector<T> samples(size_t n, Random& random) {
-  std::vector<T> v(n);
-  for (T& x : v) x = sample<T>(random);
-  return v;
-}
-
-// What the record has to give, with integer taps as it has them.
-template <class P> auto oracleOf(const P& pair, const typename P::State* state, const std::vector<typename P::Taps>& h) {
-  using State = typename P::State;
-  using T = typename P::Sample;
-  constexpr bool kIs16s = std::is_same_v<State, QvxsFIRState_16s>, kIsReal = std::is_same_v<State, QvxsFIRState32s_16s>;
-  if constexpr (kIs16s || kIsReal || std::is_same_v<State, QvxsFIRState32sc_16sc>) {
-    using Taps = std::conditional_t<kIs16s, Qvx16s, std::conditional_t<kIsReal, Qvx32s, Qvx32sc>>;
-    std::vector<Taps> taps(h.size());
-    int factor = 0;
-    QvxStatus status;
-    if constexpr (kIs16s) status = qvxsFIRGetTaps_16s(state, taps.data(), &factor);
-    else if constexpr (kIsReal) status = qvxsFIRGetTaps32s_16s(state, taps.data(), &factor);
-    else status = qvxsFIRGetTaps32sc_16sc(state, taps.data(), &factor);
-    EXPECT_EQ(status, qvxStatOk) << pair.name;
-    // The filter takes their low 16 bits. All have no more, but for a -2^31 beside small ones, which counts as 0.
-    for (Taps& tap : taps) {
-      if constexpr (isComplex<Taps>) tap = {static_cast<Qvx16s>(tap.re), static_cast<Qvx16s>(tap.im)};
-      else tap = static_cast<Qvx16s>(tap);
-    }
-    return IntegerOracle<Taps, T>{taps, factor};
-  } else if constexpr (std::is_same_v<typename P::Taps, Qvx32s>) {  // held as 64f
-    return FloatOracle<Qvx64f, T>{{h.begin(), h.end()}};
-  } else {
-    return FloatOracle<typename P::Taps, T>{h};
-  }
-}
-
 int pieceLength(Random& random) {
   static const int kLengths[] = {1,   2,   3,   7,   16,  17,   63,   64,   65,   96,   200, 255,
                                  256, 257, 511, 512, 513, 1000, 1601, 2049, 4096, 4607, 4608};

@@ -194,6 +194,7 @@ class AnyCall : public Arguments {
 
 inline int64_t AnyCall::drawInteger(const Parameter& p, Choices& choices) {
   static const std::set<std::string> lengths = {"len", "numIters", "chanLen", "tblLen"};
+  if (const std::string* bound = traits_.boundOf(p.name)) return choices.between(0, std::max<int64_t>(shape(*bound), 1) - 1);
   const Range* range = traits_.rangeOf(p.name);
   if (around_.length > 0 && lengths.count(p.name) != 0)
     return std::max<int64_t>(around_.length, static_cast<int64_t>(range->least));
@@ -359,7 +360,13 @@ inline const std::vector<const Export*>& makersOf(const std::string& type, bool 
 inline void* AnyCall::recordOf(std::string type, bool isConst, Choices& choices) {
   if (type == "QvxsFIRState_32s") type = "QvxsFIRState64f_32s";  // one record by two names
   const bool allocates = makersOf(type, false).empty() || (contains(export_.name, {"Free"}) && choices.oneIn(2));
-  const std::vector<const Export*>& makers = makersOf(type, allocates);
+  std::vector<const Export*> makers = makersOf(type, allocates);
+  const auto isStranger = [&](const Export* maker) {
+    const auto& strangers = traits_.strangers;
+    return std::any_of(strangers.begin(), strangers.end(),
+                       [&](const std::string& s) { return contains(maker->name, {s.c_str()}); });
+  };
+  makers.erase(std::remove_if(makers.begin(), makers.end(), isStranger), makers.end());
   if (makers.empty()) return recordOf(type, isConst, choices);  // none that allocates
   maker_ = makers[static_cast<size_t>(choices.between(0, static_cast<int64_t>(makers.size()) - 1))];
   AnyCall made(*maker_, choices, memory_, around_, library_);

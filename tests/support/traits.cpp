@@ -104,6 +104,8 @@ void read(const std::string& line, Traits& row) {
     if (key == "extent") put(row.extents, same);
     else if (key == "work") put(row.work, same);
     else if (key == "fill") put(row.fills, same);
+    else if (key == "below") put(row.bounds, same);
+    else if (key == "without") row.strangers.insert(word);
     else if (key == "range") put(row.ranges, rangeOf);
     else if (key == "optional") row.optional.insert(word);
     else if (key == "scratch") row.scratch.insert(word);
@@ -225,6 +227,14 @@ const Range* Traits::rangeOf(const std::string& parameter) const {
   return nullptr;
 }
 
+const std::string* Traits::boundOf(const std::string& parameter) const {
+  for (const Traits* row : {this, &commonTraits()}) {
+    const auto found = row->bounds.find(parameter);
+    if (found != row->bounds.end()) return &found->second;
+  }
+  return nullptr;
+}
+
 const std::vector<Traits>& allTraits() {
   static const std::vector<Traits> all = [] {
     std::vector<Traits> rows;
@@ -233,7 +243,7 @@ const std::vector<Traits>& allTraits() {
       std::ifstream lines(file.path());
       for (std::string line; std::getline(lines, line);) {
         if (line.empty() || line[0] == '#') continue;
-        if (line[0] != ' ') rows.push_back({split(line, ' '), {}, {}, {}, {}, {}, {}, {}, {}, {}});
+        if (line[0] != ' ') rows.push_back({split(line, ' '), {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}});
         else read(line, rows.back());
       }
     }

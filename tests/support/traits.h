@@ -30,9 +30,9 @@ struct Refusal {
 
 struct Traits {
   std::vector<std::string> names;
-  std::map<std::string, std::string> extents, work, fills;
+  std::map<std::string, std::string> extents, work, fills, bounds;
   std::map<std::string, Range> ranges;
-  std::set<std::string> optional, scratch;
+  std::set<std::string> optional, scratch, strangers;
   std::vector<Refusal> refusals;
   std::set<std::string> flags;
   std::string exact;
@@ -41,6 +41,7 @@ struct Traits {
   // What all functions have, where the row is silent.
   const std::string& extentOf(const std::string& parameter) const;
   const Range* rangeOf(const std::string& parameter) const;
+  const std::string* boundOf(const std::string& parameter) const;  // the argument that one stays below
 };
 
 // All rows, and the first that is for a function; null if there is none.

@@ -1,0 +1,41 @@
+// Outputs side by side that need samples and taps of their own each, as those of a ratio like 160 to 147: a vector of samples is
+// loaded for all of them, and each lane picks its own. So nothing is dealt among rows and nothing joined; on the other hand there
+// is a permutation to each multiplication.
+#pragma once
+
+#include "convolution/convolve.h"
+
+namespace qvx::convolution {
+
+// The outputs that begin at `output` of a period: as many as a register has lanes, or as find their samples in one.
+struct LaneGroup {
+  int output;
+  int count;
+  int sample;  // that the first tap of its first output meets, after the first of the period
+};
+
+// A lane's place, of the size of its element.
+template <class C> using LanePlace = std::conditional_t<sizeof(C) == 4, int32_t, int64_t>;
+
+template <class C> struct Lanewise {
+  using Tap = Part<C>;
+  static constexpr int kLanes = static_cast<int>(kVectorElements<C>);
+  static constexpr bool kPays = kLanes >= 4 && sizeof(C) <= 8;
+  // Elements of a group's table for each tap: a complex one is a vector of real parts, each twice, and one of imaginary parts.
+  static constexpr int kEach = kLanes * PartsOf<C>::kCount * PartsOf<C>::kCount;
+
+  const LaneGroup* groups;
+  int groupCount;
+  const LanePlace<C>* order;  // kLanes for each group: the place of each lane's first sample after the group's
+  const Tap* taps;            // kEach for each tap of each group
+  int tapCount;
+  int up;
+  int down;
+};
+
+// y: periods * up outputs. x: the first sample of the first period; a vector may be read past the last that is needed.
+void convolve(const Lanewise<Qvx32f>& filter, const Qvx32f* x, size_t periods, Qvx32f* y);
+void convolve(const Lanewise<Qvx64f>& filter, const Qvx64f* x, size_t periods, Qvx64f* y);
+void convolve(const Lanewise<Qvx32fc>& filter, const Qvx32fc* x, size_t periods, Qvx32fc* y);
+
+}  // namespace qvx::convolution

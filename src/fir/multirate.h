@@ -1,0 +1,288 @@
+// The records of multi-rate filters.
+//
+// Samples are dealt among as many rows as the reduced decimation factor has units, so that those which one tap meets, for one
+// output after another, stand side by side: a branch of the filter is a sum of ordinary convolutions of rows. Ratios of large
+// numbers with few taps to an output leave them in one row, and vectors go along the outputs (lanewise.h).
+#pragma once
+
+#include "convolution/lanewise.h"
+#include "convolution/transpose.h"
+#include "fir/contents.h"
+#include "fir/ratio.h"
+
+namespace qvx::fir {
+
+template <class C> struct MultirateRecord : RecordHead {
+  int tapsLen;
+  Ratio ratio;
+  int rowLen;   // of samples in a period that a row takes: 1, or all
+  int history;  // samples of a row that come before those of a call
+  int block;    // periods of a call at a time
+  int stride;   // from one row to the next
+  C* rows;
+
+  size_t rowCount() const { return static_cast<size_t>(ratio.down / rowLen); }
+  C* row(size_t i) const { return rows + i * static_cast<size_t>(stride); }
+  // A sample by its place, counted from the first of a call.
+  C* sample(int64_t place) const {
+    const auto count = static_cast<int64_t>(rowCount());
+    const int64_t at = place + history * count;
+    return row(static_cast<size_t>(at % count)) + at / count;
+  }
+};
+
+template <class C> struct MultirateFloat : MultirateRecord<C> {
+  using Kernel = C;
+  using Taps = C;
+  using Branches = C;
+  static constexpr int64_t kPadding = kVectorElements<C>;  // after the samples of a row
+
+  C* taps;  // reversed
+  C* branches;
+  // In one row:
+  LaneGroup* groups;
+  LanePlace<C>* order;
+  int groupCount;
+};
+template <class S, class T> struct MultirateInteger : MultirateRecord<S> {
+  using Kernel = S;
+  using Taps = T;
+  using Branches = Qvx16sc;
+  static constexpr int64_t kPadding = 2 * kVectorElements<S>;
+
+  T* taps;  // reversed, as they were reduced
+  int tapsFactor;
+  bool isPaired;  // not if -im of a tap has no 16 bits
+  S* shortTaps;   // reversed
+  S* group;       // the taps of a row
+  Qvx16sc* branches;
+};
+
+template <class C> MultirateFloat<C> multirateFor(const FloatRecord<C>*);
+template <class S, class T> MultirateInteger<S, T> multirateFor(const IntegerRecord<S, T>*);
+
+// What a state's pointer leads to if it has the identity of multi-rate filters.
+template <class S> struct MultirateState : decltype(multirateFor(static_cast<S*>(nullptr))) {
+  using Sample = typename S::Sample;
+  static constexpr uint32_t kId = S::kMultirateId;
+};
+template <class S> bool isMultirate(const S* state) { return state->magic == S::kMultirateId; }
+template <class S> MultirateState<S>& asMultirate(S* state) { return *reinterpret_cast<MultirateState<S>*>(state); }
+template <class S> const MultirateState<S>& asMultirate(const S* state) {
+  return *reinterpret_cast<const MultirateState<S>*>(state);
+}
+
+// ---- sizes, as users allocate by them: fixed values of the interface
+
+inline int64_t multirateBytes(int64_t n, int64_t u, int64_t d, int64_t element) {
+  const int64_t length = (n + 3 * d + u - 1) / u * u;
+  const int64_t line = (n + u - 1) / u;
+  const int64_t steps = (line + d - 1) / d;
+  const int64_t block = 4 * d * (length / u / (4 * d) + 1) + 1 + d * ((4 - steps % 4) % 4);
+  const float share = static_cast<float>(n) / static_cast<float>(n + 3 * d);
+  const bool isDense = u == 1 ? share > 0.5F : double{share} > 0.3;
+  const int64_t table = isDense ? 176 + ((4 * u + 19) & ~15) : 160 + ((16 * u + 19) & ~15);
+  return table + up<16>(element * n) + 4 * element * length + element * std::max((isDense ? 4 : 8) * length, int64_t{4096}) +
+         ((element * (line + block) + 19) & ~15);
+}
+// Of integers as much as of the floats twice as wide as they would need.
+template <class C> constexpr int64_t kElementBytes = std::is_integral_v<Part<C>> ? 8 * PartsOf<C>::kCount : sizeof(C);
+template <class C> int64_t multirateBytes(int tapsLen, const Factors& f) {
+  return multirateBytes(tapsLen, f.up, f.down, kElementBytes<C>);
+}
+
+// ---- layout
+
+// Sums of branches on their way to the outputs they belong between, in bytes.
+inline constexpr size_t kSumsBytes = 8192;
+
+// Elements of a branch's taps. Those of integers are in pairs, row by row.
+template <class C> int64_t branchLen(const MultirateFloat<C>& record) { return record.ratio.taps; }
+template <class S, class T> int64_t branchLen(const MultirateInteger<S, T>& record) {
+  const Ratio& q = record.ratio;
+  const auto pairs = [](int taps) { return taps > 0 ? static_cast<int64_t>(pairsOf(static_cast<size_t>(taps), S())) : 0; };
+  const int longer = q.taps % q.down;
+  return 2 * (longer * pairs(q.taps / q.down + 1) + (q.down - longer) * pairs(q.taps / q.down));
+}
+
+// f(group) for the outputs of a period, as many at a time as lanes find their samples in a register.
+template <int kLanes, class F> void forEachLaneGroup(const Ratio& q, F f) {
+  Branch branch = q.branch();
+  for (int j = 0; j < q.up;) {
+    const int64_t first = branch.sample;
+    LaneGroup group = {j, 0, static_cast<int>(first - q.taps + 1)};
+    for (; j < q.up && group.count < kLanes && branch.sample - first < kLanes; branch.advance(q.up, q.down)) ++group.count, ++j;
+    f(group);
+  }
+}
+// How many there are; 0 where rows are faster: few branches; rows with taps enough to share the vectors of samples; lanes of
+// which most stay empty, unless a branch has so few taps that calling for it costs more, about as much as 100 products of
+// vectors.
+template <class C> int laneGroups(const Ratio& q) {
+  constexpr int kLanes = Lanewise<C>::kLanes;
+  if (!Lanewise<C>::kPays || q.up < kLanes) return 0;
+  int count = 0;
+  forEachLaneGroup<kLanes>(q, [&](const LaneGroup&) { ++count; });
+  const int64_t lanes = q.up / count;
+  const bool isFull = 2 * lanes >= kLanes && !areTapsByRow(static_cast<size_t>(q.taps), static_cast<size_t>(q.down));
+  return isFull || q.taps * (2 * kLanes - lanes) < 100 * lanes ? count : 0;
+}
+
+template <class C> void placeTaps(MultirateFloat<C>& record, Carver& carver) {
+  const Ratio& q = record.ratio;
+  record.taps = carver.takeLines<C>(record.tapsLen);
+  if (record.groupCount == 0) {
+    record.branches = carver.takeLines<C>(q.up * branchLen(record));
+    return;
+  }
+  const int64_t count = record.groupCount;
+  record.branches = carver.takeLines<C>(count * q.taps * Lanewise<C>::kEach / int64_t{PartsOf<C>::kCount});
+  record.order = carver.takeLines<LanePlace<C>>(count * Lanewise<C>::kLanes);
+  record.groups = carver.take<LaneGroup>(count);
+}
+template <class S, class T> void placeTaps(MultirateInteger<S, T>& record, Carver& carver) {
+  record.taps = carver.takeLines<T>(record.tapsLen);
+  if constexpr (std::is_same_v<S, T>) record.shortTaps = record.taps;
+  else record.shortTaps = carver.takeLines<S>(record.tapsLen);
+  record.group = carver.takeLines<S>(record.ratio.taps);
+  record.branches = carver.takeLines<Qvx16sc>(record.ratio.up * branchLen(record));
+}
+
+// The rows take what is left of the block's bytes, from `begin` on; false if that is less than a period. branches: as many as
+// give their outputs before any of them is on its way.
+template <class R> bool placeRows(R& record, Carver& carver, const Qvx8u* begin, int64_t bytes, int branches) {
+  using C = typename R::Kernel;
+  constexpr int64_t kVector = kVectorElements<C>;
+  constexpr int64_t kSums = kSumsBytes / sizeof(C);
+  const Ratio& q = record.ratio;
+  const auto count = static_cast<int64_t>(record.rowCount());
+  record.rows = carver.takeLines<C>(0);
+  const int64_t history = (q.delayLen + count - 1) / count;
+  const int64_t left = (bytes - (reinterpret_cast<const Qvx8u*>(record.rows) - begin)) / int64_t{sizeof(C)};
+  const int64_t fits = (left / count - history - R::kPadding) / record.rowLen;
+  int64_t block = std::min(kSums / branches, fits);
+  // All rows that a branch meets stay in the nearest cache for the next one: 134 taps in as many rows take a third of the time.
+  constexpr int64_t kNear = 24576 / sizeof(C);
+  if (record.rowLen == 1 && !areTapsByRow(static_cast<size_t>(q.taps), static_cast<size_t>(count))) {
+    block = std::min(block, std::max(kNear / std::min<int64_t>(q.taps, count), 2 * kVector));
+  }
+  if (block < 1) return false;
+  record.history = static_cast<int>(history);
+  record.block = static_cast<int>(block > kVector ? block / kVector * kVector : block);
+  record.stride = static_cast<int>(history + int64_t{record.block} * record.rowLen + R::kPadding);
+  std::fill_n(record.rows, count * record.stride, C{});
+  return true;
+}
+
+template <class R> void layOut(R& record, Carver& carver, const Qvx8u* begin, int64_t bytes, int tapsLen, const Factors& f) {
+  record.tapsLen = tapsLen;
+  record.ratio = Ratio::of(tapsLen, f);
+  if constexpr (!std::is_integral_v<Part<typename R::Kernel>>) {
+    record.groupCount = laneGroups<typename R::Kernel>(record.ratio);
+    if (record.groupCount > 0) {
+      Carver inOneRow = carver;
+      record.rowLen = record.ratio.down;
+      placeTaps(record, inOneRow);
+      constexpr bool kConverts = !std::is_same_v<typename R::Sample, typename R::Kernel>;
+      if (placeRows(record, inOneRow, begin, bytes, kConverts ? record.ratio.up : 1)) return;
+      record.groupCount = 0;
+    }
+  }
+  record.rowLen = 1;
+  placeTaps(record, carver);
+  placeRows(record, carver, begin, bytes, std::min(record.ratio.up, 16));
+}
+
+// ---- taps and delay line
+
+// f(branch, number) for all branches.
+template <class F> void forEachBranch(const Ratio& q, F f) {
+  Branch branch = q.branch();
+  for (int j = 0; j < q.up; ++j, branch.advance(q.up, q.down)) f(branch, j);
+}
+
+// For each tap of a group, that of each lane: a real one, or its real part twice, and in a vector after it its imaginary part.
+template <class C> void spreadTaps(MultirateFloat<C>& record) {
+  using L = Lanewise<C>;
+  constexpr int kParts = PartsOf<C>::kCount;
+  const Ratio& q = record.ratio;
+  Part<C>* to = parts(record.branches);
+  LanePlace<C>* order = record.order;
+  LaneGroup* groups = record.groups;
+  Branch branch = q.branch();
+  forEachLaneGroup<L::kLanes>(q, [&](const LaneGroup& group) {
+    *groups++ = group;
+    std::fill_n(to, q.taps * L::kEach, Part<C>{});
+    std::fill_n(order, L::kLanes, LanePlace<C>{});
+    const int64_t first = branch.sample;
+    for (int lane = 0; lane < group.count; ++lane, branch.advance(q.up, q.down)) {
+      order[lane] = static_cast<LanePlace<C>>(branch.sample - first);
+      for (int t = 0; t < q.taps; ++t) {
+        const C tap = q.tapOf(record.taps, record.tapsLen, branch.tap, t);
+        for (int part = 0; part < kParts; ++part) {
+          Part<C>* const each = to + t * L::kEach + part * L::kLanes * kParts + lane * kParts;
+          std::fill_n(each, kParts, parts(&tap)[part]);
+        }
+      }
+    }
+    to += q.taps * L::kEach;
+    order += L::kLanes;
+  });
+}
+
+template <class C> void dealTaps(MultirateFloat<C>& record) {
+  if (record.groupCount > 0) return spreadTaps(record);
+  const Ratio& q = record.ratio;
+  C* to = record.branches;
+  const int apart = areTapsByRow(static_cast<size_t>(q.taps), record.rowCount()) ? q.down : 1;
+  forEachBranch(q, [&](const Branch& branch, int) {
+    for (int row = 0; row < apart; ++row) {
+      for (int t = row; t < q.taps; t += apart) *to++ = q.tapOf(record.taps, record.tapsLen, branch.tap, t);
+    }
+  });
+}
+template <class S, class T> void dealTaps(MultirateInteger<S, T>& record) {
+  const Ratio& q = record.ratio;
+  Qvx16sc* to = record.branches;
+  forEachBranch(q, [&](const Branch& branch, int) {
+    for (int row = 0; row < std::min(q.down, q.taps); ++row) {
+      size_t n = 0;
+      for (int t = row; t < q.taps; t += q.down) record.group[n++] = q.tapOf(record.shortTaps, record.tapsLen, branch.tap, t);
+      to += 2 * paired(record.group, n, to).count;
+    }
+  });
+}
+
+template <class C, class H> QvxStatus setTaps(MultirateFloat<C>& record, const H* taps) {
+  copyReversed(taps, static_cast<size_t>(record.tapsLen), record.taps);
+  dealTaps(record);
+  return qvxStatOk;
+}
+
+// The caller's line is newest first; none stands for zeros.
+template <class R, class S> void setMultirateDelay(const R& record, const S* newestFirst) {
+  using C = typename R::Kernel;
+  for (int64_t i = 0; i < record.ratio.delayLen; ++i) {
+    *record.sample(-1 - i) = isNull(newestFirst) ? C{} : elementAs<C>(newestFirst[i]);
+  }
+}
+template <class R, class S> void getMultirateDelay(const R& record, S* newestFirst) {
+  for (int64_t i = 0; i < record.ratio.delayLen; ++i) newestFirst[i] = elementAs<S>(*record.sample(-1 - i));
+}
+
+// ---- building
+
+template <class S, class SetTaps>
+QvxStatus buildMultirate(MultirateState<S>** ppState, Qvx8u* block, int tapsLen, const Factors& f,
+                         const typename S::Sample* delay, SetTaps setTaps) {
+  const int64_t bytes = multirateBytes<typename S::Kernel>(tapsLen, f);
+  return initRecord(ppState, block, [&](MultirateState<S>& record, Carver& carver) {
+    record.magic = S::kMultirateId;
+    layOut(record, carver, block, bytes, tapsLen, f);
+    setTaps(record);
+    setMultirateDelay(record, delay);
+    return qvxStatOk;
+  });
+}
+
+}  // namespace qvx::fir

@@ -1,0 +1,186 @@
+// Filtering with a multi-rate record.
+#pragma once
+
+#include "fir/multirate.h"
+
+namespace qvx::fir {
+
+// Samples into the rows, from the place of a call's first on.
+template <class C, class T> void deal(const MultirateRecord<C>& record, const T* src, size_t periods) {
+  const size_t down = record.rowCount();
+  const auto stride = static_cast<size_t>(record.stride);
+  C* const rows = record.rows + record.history;
+  periods *= static_cast<size_t>(record.rowLen);
+  if constexpr (std::is_same_v<C, T>) {
+    if (down == 1) std::copy_n(src, periods, rows);
+    else transposeElements(src, down, periods, down, rows, stride);
+  } else {
+    if (down == 1) return toKernel(src, periods, rows);
+    C some[4096 / sizeof(C)];
+    const size_t columns = std::min(down, std::size(some));
+    for (size_t n, from = 0; from < periods; from += n) {
+      n = std::min(std::size(some) / columns, periods - from);  // 1 if a period is more than fits
+      for (size_t at = 0; at < down; at += columns) {
+        const size_t width = std::min(columns, down - at);
+        toKernel(src + from * down + at, n * width, some);
+        transposeElements(some, width, n, width, rows + at * stride + from, stride);
+      }
+    }
+  }
+}
+
+// Forgets the first samples of the rows.
+template <class C> void forget(const MultirateRecord<C>& record, size_t periods) {
+  const auto history = static_cast<size_t>(record.history);
+  periods *= static_cast<size_t>(record.rowLen);
+  for (size_t i = 0; i < record.rowCount(); ++i) {
+    C* const row = record.row(i);
+    if (history > 4) moveVectors(row + periods, history, row);
+    else std::copy_n(row + periods, history, row);
+  }
+}
+
+// The branches of a filter one after another, each over the samples of a block.
+template <class R> class Branches {
+ public:
+  using C = typename R::Kernel;
+
+  Branches(const R& record, size_t periods, Call call, int64_t places)
+      : record_(record), periods_(periods), call_(call), places_(places), p_(record.branches), branch_(record.ratio.branch()) {
+    const auto first = static_cast<size_t>(record.sample(branch_.sample - record.ratio.taps + 1) - record.rows);
+    const auto stride = static_cast<size_t>(record.stride);
+    x_ = {record.rows, stride, record.rowCount(), first / stride, first % stride};
+  }
+
+  // What the branch gives for each period.
+  void next(C* sums) {
+    const Ratio& q = record_.ratio;
+    const auto taps = static_cast<size_t>(q.taps);
+    if constexpr (!std::is_integral_v<Part<C>>) {
+      convolve(x_, p_, taps, periods_, sums, call_);
+    } else if (record_.isPaired) {
+      convolve(x_, p_, taps, periods_, sums, places_);
+    } else {
+      for (size_t i = 0; i < periods_; ++i) sums[i] = scaledSumAt(static_cast<int64_t>(i));
+    }
+    p_ += branchLen_;
+    const int64_t before = branch_.sample;
+    branch_.advance(q.up, q.down);
+    for (x_.row += static_cast<size_t>(branch_.sample - before); x_.row >= x_.count; x_.row -= x_.count) ++x_.at;
+  }
+
+ private:
+  // Complex integers, of which one product at least does not fit the multiplication of pairs.
+  C scaledSumAt(int64_t period) const {
+    const Ratio& q = record_.ratio;
+    uint32_t re = 0;
+    uint32_t im = 0;
+    const auto product = [](int32_t a, int32_t b) { return static_cast<uint32_t>(a * b); };
+    if constexpr (PartsOf<C>::kCount == 2) {
+      for (int64_t t = 0; t < q.taps; ++t) {
+        const C h = q.tapOf(record_.shortTaps, record_.tapsLen, branch_.tap, t);
+        const C x = *record_.sample(branch_.sample - q.taps + 1 + t + period * q.down);
+        re += product(h.re, x.re) - product(h.im, x.im);
+        im += product(h.re, x.im) + product(h.im, x.re);
+      }
+      return {scaledSum(static_cast<int32_t>(re), places_), scaledSum(static_cast<int32_t>(im), places_)};
+    }
+    return {};
+  }
+
+  const R& record_;
+  size_t periods_;
+  Call call_;
+  int64_t places_;
+  Dealt<C> x_;
+  const typename R::Branches* p_;
+  int64_t branchLen_ = branchLen(record_);
+  Branch branch_;
+};
+
+template <class C> Lanewise<C> lanewise(const MultirateFloat<C>& record) {
+  return {record.groups,     record.groupCount, record.order,     parts(record.branches),
+          record.ratio.taps, record.ratio.up,   record.ratio.down};
+}
+
+// finish(sums, n, outputs) makes the outputs of sums; integer sums come scaled by 2^places. src may be dst, unless there are more
+// outputs than samples.
+template <class R, class T, class Finish>
+void resample(const R& record, const T* src, T* dst, size_t periods, int64_t places, Finish finish) {
+  using C = typename R::Kernel;
+  constexpr bool kConverts = !std::is_same_v<C, T>;
+  const auto up = static_cast<size_t>(record.ratio.up);
+  const auto down = static_cast<size_t>(record.ratio.down);
+  const auto block = static_cast<size_t>(record.block);
+  const Call call = callOf(std::min(periods, block));
+  C sums[kSumsBytes / sizeof(C)];
+  for (size_t some; periods > 0; periods -= some, src += some * down, dst += some * up) {
+    some = std::min(periods, block);
+    deal(record, src, some);
+    if constexpr (!std::is_integral_v<Part<C>> && Lanewise<C>::kPays) {
+      if (record.groupCount > 0) {
+        C* outputs;
+        if constexpr (kConverts) outputs = sums;
+        else outputs = dst;
+        convolve(lanewise(record), record.sample(0), some, outputs);
+        if constexpr (kConverts) finish(sums, some * up, dst);
+        forget(record, some);
+        continue;
+      }
+    }
+    Branches<R> branches(record, some, call, places);
+    const size_t batch = std::min(up, std::size(sums) / some);
+    for (size_t n, from = 0; from < up; from += n) {
+      n = std::min(batch, up - from);
+      if (up == 1 && !kConverts) {
+        if constexpr (!kConverts) branches.next(dst);
+        continue;
+      }
+      for (size_t i = 0; i < n; ++i) branches.next(sums + i * some);
+      if constexpr (kConverts) {
+        T outputs[std::size(sums)];
+        if (up == 1) {
+          finish(sums, some, dst);
+          continue;
+        }
+        finish(sums, n * some, outputs);
+        transposeElements(outputs, some, n, some, dst + from, up);
+      } else {
+        transposeElements(sums, some, n, some, dst + from, up);
+      }
+    }
+    forget(record, some);
+  }
+}
+
+template <class R> int64_t multiratePlaces(const R& record, int scaleFactor) {
+  if constexpr (std::is_integral_v<Part<typename R::Kernel>>) return int64_t{record.tapsFactor} - scaleFactor;
+  else return 0;
+}
+
+// In groups of the caller's factors.
+template <class R, class T> void filterMultirate(const R& record, const T* src, T* dst, size_t groups, int scaleFactor) {
+  using C = typename R::Kernel;
+  resample(record, src, dst, groups * static_cast<size_t>(record.ratio.step), multiratePlaces(record, scaleFactor),
+           [=](const C* sums, size_t n, T* outputs) { toSamples(sums, n, outputs, scaleFactor); });
+}
+
+// Runs filter(samples) on a copy of the samples.
+template <class T, class Filter> QvxStatus onCopy(const T* src, int64_t count, Filter filter) {
+  const Block copy(count * int64_t{sizeof(T)});
+  if (!copy) return qvxStatNoMem;
+  auto* samples = reinterpret_cast<T*>(copy.get());
+  std::copy_n(src, count, samples);
+  filter(static_cast<const T*>(samples));
+  return qvxStatOk;
+}
+
+template <class R, class T> QvxStatus filterMultirateBlock(const R& record, const T* src, T* dst, int numIters, int scaleFactor) {
+  const auto from = [&](const T* samples) { filterMultirate(record, samples, dst, elements(numIters), scaleFactor); };
+  const Ratio& q = record.ratio;
+  if (src == dst && q.up > q.down) return onCopy(src, int64_t{numIters} * q.down * q.step, from);
+  from(src);
+  return qvxStatOk;
+}
+
+}  // namespace qvx::fir
