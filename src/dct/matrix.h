@@ -13,8 +13,8 @@ inline constexpr int kLongestByMatrix = 16;
 inline constexpr int kLongestByHalves = 32;
 
 // What number n of the sequence and number k of its transform have to do with each other.
-constexpr double entry(int n, int k, int N) {
-  return transform::squareRoot((k == 0 ? 1.0 : 2.0) / N) * transform::cosine((2 * n + 1) * k, N);
+constexpr long double entry(int n, int k, int N) {
+  return transform::squareRoot((k == 0 ? 1.0L : 2.0L) / N) * transform::cosine((2 * n + 1) * k, N);
 }
 
 // Row i is what number i of the source adds to the results, in vectors of L.

@@ -1,30 +1,73 @@
 // The records of cosine transforms, how they are made, and their calls.
 #pragma once
 
+#include "dct/chirp.h"
 #include "dct/matrix.h"
+#include "dct/odd.h"
+#include "dct/rows.h"
 #include "dct/sizes.h"
-#include "dct/turn.h"
-#include "fft/adapter.h"
 
 namespace qvx::dct {
 
-template <class T> using ComplexOf = std::conditional_t<sizeof(T) == 4, Qvx32fc, Qvx64fc>;
-template <class T> using Half = fft::Transform<ComplexOf<T>>;
+enum class Way : uint8_t {
+  kKernel,  // a product with a matrix of constants
+  kHalf,    // a complex transform of half the length
+  kRows,
+  kOdd,  // a complex transform of the length
+  kChirp,
+  kLongChirp,  // whose period is a power of two, which takes the least memory
+};
 
 template <class T_, bool kInverse_, uint32_t kIdentity> struct Spec : RecordHead {
   using T = T_;
   static constexpr bool kInverse = kInverse_;
   static constexpr uint32_t kId = kIdentity;
+  Way way;
   int32_t len;
-  int32_t workSize;                      // as callers are told
-  T mean;                                // 1 / sqrt(len)
-  const T* turns;                        // see turn.h
-  const typename Half<T>::Spec* half;    // transforms of len / 2 complex numbers
+  int32_t workSize;  // as callers are told
+  T mean;            // 1 / sqrt(len)
+  union {
+    const dft::ComplexPlan<T>* plan;  // of kHalf, kOdd
+    const Rows<T>* rows;
+    const Chirp<T>* chirp;
+  };
+  const T* turns;  // of kHalf, kOdd
 };
 
 template <class Record> QvxStatus check(const Record* spec) { return checkRecord(spec, Record::kId); }
 
+// ---- Which way a length goes: the first that the told sizes have room for
+
 constexpr bool hasKernel(int len) { return len <= kLongestByMatrix || (len <= kLongestByHalves && len % 2 == 0); }
+
+// What is on the stack is not asked of callers.
+inline constexpr int64_t kWorkOnStack = 4096;
+
+template <class T> Needs needsOfHalf(size_t n) {
+  const auto plan = needsOfPlan<T>(n / 2);
+  const int64_t numbers = sizeof(T);
+  return {plan.tables + static_cast<int64_t>(turnTableLength<T>(n)) * numbers, plan.work + static_cast<int64_t>(n) * numbers,
+          plan.way == dft::Way::kConvolution ? plan.work : 0};
+}
+
+template <class Record> Way wayOf(int len, Sizes sizes) {
+  using T = typename Record::T;
+  const auto n = static_cast<size_t>(len);
+  if (hasKernel(len)) return Way::kKernel;
+  const auto fits = [=](Needs needs) {
+    constexpr int64_t kSlack = Carver::kRecordAlignment - 1;
+    return static_cast<int64_t>(sizeof(Record)) + needs.tables + kSlack <= sizes.spec &&
+           needs.work + kSlack <= std::max(sizes.work, kWorkOnStack) && needs.making <= sizes.init;
+  };
+  if (len % 2 == 0 && fits(needsOfHalf<T>(n))) return Way::kHalf;
+  if (len <= kLongestByRows) return Way::kRows;
+  if (len % 2 != 0) {
+    const auto plan = needsOfPlan<T>(n);
+    constexpr int64_t kNumber = sizeof(T);
+    if (plan.way == dft::Way::kFactors && fits({plan.tables + len * kNumber, plan.work + 2 * len * kNumber, 0})) return Way::kOdd;
+  }
+  return fits(needsOfChirp<T>(n, periodOf(n))) ? Way::kChirp : Way::kLongChirp;
+}
 
 // ---- The life of a record
 
@@ -48,6 +91,42 @@ template <class Record> QvxStatus check(Record** ppSpec, int len, Sizes sizes, c
   return sizes.init > 0 && isNull(pInit) ? qvxStatNullPtr : qvxStatOk;
 }
 
+// The tables of a record that knows its way.
+template <class Record> void writeWay(Record& spec, Carver& tables, Qvx8u* making) {
+  using T = typename Record::T;
+  const auto n = static_cast<size_t>(spec.len);
+  switch (spec.way) {
+    case Way::kKernel:
+      break;
+    case Way::kHalf: {
+      T* const turns = tables.take<T>(static_cast<int64_t>(turnTableLength<T>(n)));
+      writeTurns(turns, n);
+      spec.turns = turns;
+      spec.plan = makePlan<T>(n / 2, tables, making);
+      break;
+    }
+    case Way::kRows: {
+      auto* const rows = tables.take<Rows<T>>(1);
+      writeRows(*rows, n, tables);
+      spec.rows = rows;
+      break;
+    }
+    case Way::kOdd: {
+      T* const turns = tables.take<T>(spec.len);
+      writeOddTurns(turns, n);
+      spec.turns = turns;
+      spec.plan = makePlan<T>(n, tables, making);
+      break;
+    }
+    default: {
+      auto* const chirp = tables.take<Chirp<T>>(1);
+      const size_t period = spec.way == Way::kChirp ? periodOf(n) : longPeriodOf(n);
+      writeChirp(*chirp, n, period, Record::kInverse, tables, making);
+      spec.chirp = chirp;
+    }
+  }
+}
+
 template <class Record> QvxStatus init(Record** ppSpec, int len, Qvx8u* pMemory, Qvx8u* pInit) {
   using T = typename Record::T;
   const Sizes sizes = sizesOf<T>(len < 1 ? 1 : len);
@@ -58,15 +137,9 @@ template <class Record> QvxStatus init(Record** ppSpec, int len, Qvx8u* pMemory,
     spec.workSize = static_cast<int32_t>(sizes.work);
     spec.mean = static_cast<T>(1 / std::sqrt(static_cast<double>(len)));
     spec.magic = Record::kId;
-    if (hasKernel(len)) return qvxStatOk;
-    const auto n = static_cast<size_t>(len);
-    T* const turns = tables.take<T>(static_cast<int64_t>(turnTableLength<T>(n)));
-    writeTurns(turns, n);
-    spec.turns = turns;
-    typename Half<T>::Spec* half = nullptr;
-    const QvxStatus made = Half<T>::kInit(&half, std::countr_zero(n) - 1, QVX_FFT_SCALE_NONE, 0, tables.rest(), pInit);
-    spec.half = half;
-    return made;
+    spec.way = wayOf<Record>(len, sizes);
+    writeWay(spec, tables, pInit);
+    return qvxStatOk;
   });
 }
 
@@ -93,33 +166,67 @@ template <class Record> QvxStatus bufferSize(const Record* spec, int* pSize) {
 
 // ---- Transforms
 
-template <class Record, class T> [[gnu::noinline]] QvxStatus longTransform(const Record& spec, const T* src, T* dst, Qvx8u* pBuffer) {
-  const Scratch scratch(pBuffer, spec.workSize);
-  if (scratch.isMissing(spec.workSize)) return qvxStatNoMem;
+template <class Record, class T> void halfTransform(const Record& spec, const T* src, T* dst, Carver work) {
   const auto n = static_cast<size_t>(spec.len);
-  Carver carver = scratch.carver();
-  T* const v = carver.take<T>(spec.len);
-  auto* const z = reinterpret_cast<ComplexOf<T>*>(v);
+  T* const v = work.take<T>(spec.len);
   if constexpr (Record::kInverse) {
     cosinesToSpectrum(src, v, n, spec.turns, spec.mean);
-    const QvxStatus status = Half<T>::kInverse(z, z, spec.half, carver.rest());
+    run(*spec.plan, true, v, v, work.rest());
     fromHalves(v, dst, n);
-    return status;
   } else {
     toHalves(src, v, n);
-    const QvxStatus status = Half<T>::kForward(z, z, spec.half, carver.rest());
+    run(*spec.plan, false, v, v, work.rest());
     spectrumToCosines(v, dst, n, spec.turns, spec.mean);
-    return status;
   }
+}
+template <class Record, class T> void oddTransform(const Record& spec, const T* src, T* dst, Carver work) {
+  const auto n = static_cast<size_t>(spec.len);
+  T* const z = work.take<T>(2 * int64_t{spec.len});
+  if constexpr (Record::kInverse) {
+    cosinesToSpectrumOdd(src, z, n, spec.turns, spec.mean);
+    run(*spec.plan, true, z, z, work.rest());
+    fromPoints(z, dst, n);
+  } else {
+    toPoints(src, z, n);
+    run(*spec.plan, false, z, z, work.rest());
+    spectrumToCosinesOdd(z, dst, n, spec.turns, spec.mean);
+  }
+}
+
+// In working memory.
+template <class Record, class T> [[gnu::noinline]] QvxStatus transformedIn(const Scratch& scratch, const Record& spec, const T* src, T* dst) {
+  if (scratch.isMissing(spec.workSize)) return qvxStatNoMem;
+  switch (spec.way) {
+    case Way::kHalf:
+      halfTransform(spec, src, dst, scratch.carver());
+      break;
+    case Way::kOdd:
+      oddTransform(spec, src, dst, scratch.carver());
+      break;
+    default:
+      (Record::kInverse ? inverseByChirp<T> : forwardByChirp<T>)(*spec.chirp, static_cast<size_t>(spec.len), src, dst, scratch.carver());
+  }
+  return qvxStatOk;
+}
+template <class Record, class T> [[gnu::noinline]] QvxStatus shortTransform(const Record& spec, const T* src, T* dst) {
+  if (spec.way == Way::kRows) {
+    (Record::kInverse ? inverseByRows<T> : forwardByRows<T>)(*spec.rows, static_cast<size_t>(spec.len), src, dst);
+    return qvxStatOk;
+  }
+  alignas(64) Qvx8u room[kWorkOnStack];
+  return transformedIn(Scratch(room, 0), spec, src, dst);
 }
 
 template <class Record, class T> QvxStatus transformed(const Record* spec, const T* src, T* dst, Qvx8u* pBuffer) {
   const QvxStatus status = check(spec);
   if (status != qvxStatOk) return status;
   if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
-  if (!hasKernel(spec->len)) return longTransform(*spec, src, dst, pBuffer);
-  kKernels<T, Record::kInverse>[static_cast<size_t>(spec->len - 1)](src, dst);
-  return qvxStatOk;
+  if (spec->way == Way::kKernel) {
+    kKernels<T, Record::kInverse>[static_cast<size_t>(spec->len - 1)](src, dst);
+    return qvxStatOk;
+  }
+  if (spec->len <= kLongestByRows) return shortTransform(*spec, src, dst);
+  return transformedIn(Scratch(pBuffer, spec->workSize), *spec, src, dst);
 }
 
 }  // namespace qvx::dct

@@ -29,7 +29,7 @@ template <int N> struct Matrix {
   // What number i of the source adds to number j of h: 2/n times the sum of sin(2 pi k (j - i) / n) over the k below n/2.
   constexpr Matrix() : row() {
     for (int distance = 0; distance < N; ++distance) {
-      double sum = 0;
+      long double sum = 0;
       for (int k = 1; 2 * k < N; ++k) sum += transform::cosine(4 * k * distance + 3 * N, N);
       for (int i = 0; i < N; ++i) row[i][(i + distance) % N] = static_cast<Qvx32f>(2 * sum / N);
     }

@@ -8,7 +8,7 @@
 namespace qvx::transform {
 
 // cos(pi j / (2 n)): the series, of an angle within a quarter of a turn.
-constexpr double cosine(int j, int n) {
+constexpr long double cosine(int j, int n) {
   j %= 4 * n;
   if (j > 2 * n) j = 4 * n - j;
   const bool isNegative = j > n;
@@ -20,11 +20,11 @@ constexpr double cosine(int j, int n) {
     sum += term;
     term *= -x * x / (i * (i + 1));
   }
-  return static_cast<double>(isNegative ? -sum : sum);
+  return isNegative ? -sum : sum;
 }
-constexpr double squareRoot(double x) {
-  double root = x < 1 ? 1 : x;
-  for (int i = 0; i < 40; ++i) root = 0.5 * (root + x / root);
+constexpr long double squareRoot(long double x) {
+  long double root = x < 1 ? 1 : x;
+  for (int i = 0; i < 40; ++i) root = 0.5L * (root + x / root);
   return root;
 }
 

@@ -34,15 +34,9 @@ struct Of16s16sc : Record<QvxsHilbertSpec_16s16sc> {
   explicit Of16s16sc(size_t len) : Record(qvxsHilbertInitAlloc_16s16sc, qvxsHilbertFree_16s16sc, len) {}
 };
 
-size_t largestPrimeFactor(size_t n) {
-  size_t largest = 1;
-  for (size_t p = 2; n > 1; n % p == 0 ? n /= p : ++p) largest = std::max(largest, p);
-  return largest;
-}
-
 long double allowedError(size_t n) {
   const long double one = 0.5L * std::max(1.0L, std::sqrt(std::log2(static_cast<long double>(n))));
-  return std::numeric_limits<float>::epsilon() * one * (largestPrimeFactor(n) > 13 ? 2 : 1);
+  return std::numeric_limits<float>::epsilon() * one * (tests::largestPrimeFactor(n) > 13 ? 2 : 1);
 }
 
 template <class C> void expectNear(const std::vector<C>& found, const std::vector<long double>& h) {
