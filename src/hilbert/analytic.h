@@ -102,6 +102,16 @@ inline void turn(Qvx32f* z, size_t n, const Qvx32f* table) {
   z[1] = 0;
 }
 
+// The spectrum of an odd number n of real numbers, packed with the first one alone, times -i; in place.
+inline void turnPairs(Qvx32f* spectrum, size_t n) {
+  spectrum[0] = 0;
+  for (size_t k = 1; k < n; k += 2) {
+    const Qvx32f re = spectrum[k];
+    spectrum[k] = spectrum[k + 1];
+    spectrum[k + 1] = -re;
+  }
+}
+
 // ---- The analytic signal
 
 // dst[i] = x[i] + i h[i], from the last number to the first: dst may begin where x does.

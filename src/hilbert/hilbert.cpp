@@ -1,6 +1,6 @@
 // Analytic signals: the source, and beside it its Hilbert transform.
-#include "fft/adapter.h"
-#include "frame/record.h"
+#include "dft/adapter.h"
+#include "dft/sizes.h"
 #include "hilbert/analytic.h"
 
 using namespace qvx;
@@ -8,14 +8,17 @@ using namespace qvx::hilbert;
 
 namespace {
 
-using Half = fft::Transform<Qvx32fc>;
+using HalfPlan = dft::ComplexPlan<Qvx32f>;
+using OddPlan = dft::RealPlan<Qvx32f>;
 
 template <uint32_t kIdentity> struct Spec : RecordHead {
   static constexpr uint32_t kId = kIdentity;
   int32_t len;
-  int32_t workSize;         // of a transform of half
-  const Qvx32f* turns;      // see analytic.h
-  const Half::Spec* half;   // transforms of len / 2 points
+  int64_t workSize;  // of a transform
+  // Above the lengths of matrices:
+  const HalfPlan* half;  // of len / 2 points, for even lengths
+  const OddPlan* odd;    // of len numbers
+  const Qvx32f* turns;   // see analytic.h; for even lengths
 };
 
 }  // namespace
@@ -27,37 +30,43 @@ struct QvxsHilbertSpec_16s16sc : Spec<0x434D4147> {};
 
 namespace {
 
-constexpr int kShortest = 3;  // that has a transform but 0
+// What the transforms of this length say to it.
+QvxStatus checkLength(int len) {
+  if (len < 1) return qvxStatBadSize;
+  const auto n = static_cast<uint32_t>(len);
+  if (std::has_single_bit(n)) return std::countr_zero(n) > fft::Orders<Qvx32f>::kComplex ? qvxStatBadFFTOrder : qvxStatOk;
+  return dft::complexWork<Qvx32f>(n) && dft::realWork<Qvx32f>(n) ? qvxStatOk : qvxStatBadSize;
+}
 
 template <class Record> QvxStatus initAlloc(Record** ppSpec, int len) {
   if (isNull(ppSpec)) return qvxStatNullPtr;
-  if (len < 1) return qvxStatBadSize;
+  const QvxStatus status = checkLength(len);
+  if (status != qvxStatOk) return status;
   const auto n = static_cast<size_t>(len);
-  int specSize = 0;
-  int initSize = 0;
-  int workSize = 0;
-  const int order = std::countr_zero(n) - 1;
-  if (len > kLongestByMatrix) {
-    const QvxStatus status = Half::kGetSize(order, QVX_FFT_SCALE_NONE, 0, &specSize, &initSize, &workSize);
-    if (status != qvxStatOk) return status;
-  }
-  const size_t tableLength = len > kLongestByMatrix ? turnTableLength(n) : 0;
-  const auto bytes = static_cast<int64_t>(sizeof(Record) + tableLength * sizeof(Qvx32f)) + specSize + Carver::kLine;
-  return allocateRecord(ppSpec, bytes, [=](Record** pp, Qvx8u* memory) {
-    const Block buffer(initSize);
-    if (initSize > 0 && !buffer) return qvxStatNoMem;
+  const bool isShort = len <= kLongestByMatrix;
+  const bool isEven = len % 2 == 0;
+  const int64_t table = isShort || !isEven ? 0 : static_cast<int64_t>(turnTableLength(n) * sizeof(Qvx32f)) + Carver::kLine;
+  const dft::TransformBytes bytes = isShort  ? dft::TransformBytes()
+                                    : isEven ? dft::transformBytes<HalfPlan>(len / 2)
+                                             : dft::transformBytes<OddPlan>(len);
+  const auto all = static_cast<int64_t>(sizeof(Record)) + Carver::kLine + table + bytes.plan;
+  return allocateRecord(ppSpec, all, [=](Record** pp, Qvx8u* memory) {
+    const Block making(bytes.work);
+    if (bytes.work > 0 && !making) return qvxStatNoMem;
     return initRecord(pp, memory, [&](Record& spec, Carver& tables) {
       spec.len = len;
-      spec.workSize = workSize;
+      spec.workSize = bytes.work;
       spec.magic = Record::kId;
-      if (len <= kLongestByMatrix) return qvxStatOk;
-      auto* const turns = tables.takeLines<Qvx32f>(static_cast<int64_t>(tableLength));
+      if (isShort) return qvxStatOk;
+      if (!isEven) {
+        spec.odd = dft::makeTransform<OddPlan>(len, QVX_FFT_SCALE_INV, tables.rest(), making.get());
+        return qvxStatOk;
+      }
+      auto* const turns = tables.takeLines<Qvx32f>(static_cast<int64_t>(turnTableLength(n)));
       writeTurns(turns, n);
       spec.turns = turns;
-      Half::Spec* half = nullptr;
-      const QvxStatus status = Half::kInit(&half, order, QVX_FFT_SCALE_NONE, 0, tables.rest(), buffer.get());
-      spec.half = half;
-      return status;
+      spec.half = dft::makeTransform<HalfPlan>(len / 2, QVX_FFT_SCALE_NONE, tables.rest(), making.get());
+      return qvxStatOk;
     });
   });
 }
@@ -67,21 +76,19 @@ template <class Record> QvxStatus release(Record* spec) {
 }
 
 // h of x, which may be one vector.
-template <class Record> QvxStatus hilbertOf(const Record& spec, const Qvx32f* x, Qvx32f* h, Qvx8u* work) {
+template <class Record> void hilbertOf(const Record& spec, const Qvx32f* x, Qvx32f* h, Qvx8u* work) {
   const auto n = static_cast<size_t>(spec.len);
-  if (spec.len < kShortest) {
-    std::fill_n(h, n, 0.0F);
-    return qvxStatOk;
-  }
   if (spec.len <= kLongestByMatrix) {
     kKernels[n - 1](x, h);
-    return qvxStatOk;
+  } else if (!isNull(spec.half)) {
+    run(*spec.half, false, x, h, work);
+    turn(h, n, spec.turns);
+    run(*spec.half, true, h, h, work);
+  } else {
+    forward(*spec.odd, transform::SpectrumLayout::kPerm, x, h, work);
+    turnPairs(h, n);
+    inverse(*spec.odd, transform::SpectrumLayout::kPerm, h, h, work);
   }
-  auto* const z = reinterpret_cast<Qvx32fc*>(h);
-  const QvxStatus status = Half::kForward(reinterpret_cast<const Qvx32fc*>(x), z, spec.half, work);
-  if (status != qvxStatOk) return status;
-  turn(h, n, spec.turns);
-  return Half::kInverse(z, z, spec.half, work);
 }
 
 // run(y, work) with room for `count` numbers y and the work of a transform; what fits the stack needs no block.
@@ -111,9 +118,9 @@ QvxStatus qvxsHilbert_32f32fc(const Qvx32f* pSrc, Qvx32fc* pDst, const QvxsHilbe
   if (status != qvxStatOk) return status;
   const int len = pSpec->len;
   return withRoom(*pSpec, len, [=](Qvx32f* h, Qvx8u* work) {
-    const QvxStatus done = hilbertOf(*pSpec, pSrc, h, work);
-    if (done == qvxStatOk) interleave(pSrc, h, &pDst->re, static_cast<size_t>(len));
-    return done;
+    hilbertOf(*pSpec, pSrc, h, work);
+    interleave(pSrc, h, &pDst->re, static_cast<size_t>(len));
+    return qvxStatOk;
   });
 }
 
@@ -124,9 +131,9 @@ QvxStatus qvxsHilbert_16s32fc(const Qvx16s* pSrc, Qvx32fc* pDst, const QvxsHilbe
   return withRoom(*pSpec, int64_t{2} * len, [=](Qvx32f* x, Qvx8u* work) {
     Qvx32f* const h = x + len;
     qvxsConvert_16s32f(pSrc, x, len);
-    const QvxStatus done = hilbertOf(*pSpec, x, h, work);
-    if (done == qvxStatOk) interleave(x, h, &pDst->re, static_cast<size_t>(len));
-    return done;
+    hilbertOf(*pSpec, x, h, work);
+    interleave(x, h, &pDst->re, static_cast<size_t>(len));
+    return qvxStatOk;
   });
 }
 
@@ -137,8 +144,7 @@ QvxStatus qvxsHilbert_16s16sc_Sfs(const Qvx16s* pSrc, Qvx16sc* pDst, const QvxsH
   return withRoom(*pSpec, int64_t{3} * len, [=](Qvx32f* x, Qvx8u* work) {
     Qvx32f* const h = x + int64_t{2} * len;
     qvxsConvert_16s32f(pSrc, x, len);
-    const QvxStatus done = hilbertOf(*pSpec, x, h, work);
-    if (done != qvxStatOk) return done;
+    hilbertOf(*pSpec, x, h, work);
     interleave(x, h, x, static_cast<size_t>(len));
     return qvxsConvert_32f16s_Sfs(x, &pDst->re, 2 * len, qvxRoundNearestEven, scaleFactor);
   });

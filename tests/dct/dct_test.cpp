@@ -91,8 +91,8 @@ template <class T> std::vector<T> noise(size_t n, Random& random) {
 }
 
 template <class T> long double allowedError(size_t n) {
-  const bool isByConvolution = tests::largestPrimeFactor(n) > 100;
-  const long double factor = isByConvolution ? 0.6L : 0.5L;
+  const bool isByConvolution = n > 100 && tests::largestPrimeFactor(n) > 79;
+  const long double factor = isByConvolution ? 0.75L : 0.5L;
   return std::numeric_limits<T>::epsilon() * std::max(0.5L, factor * std::sqrt(std::log2(static_cast<long double>(n))));
 }
 

@@ -34,9 +34,10 @@ struct Of16s16sc : Record<QvxsHilbertSpec_16s16sc> {
   explicit Of16s16sc(size_t len) : Record(qvxsHilbertInitAlloc_16s16sc, qvxsHilbertFree_16s16sc, len) {}
 };
 
+// Of two transforms.
 long double allowedError(size_t n) {
-  const long double one = 0.5L * std::max(1.0L, std::sqrt(std::log2(static_cast<long double>(n))));
-  return std::numeric_limits<float>::epsilon() * one * (tests::largestPrimeFactor(n) > 13 ? 2 : 1);
+  const long double factor = tests::largestPrimeFactor(n) > 13 ? 1.2L : 0.6L;
+  return std::numeric_limits<float>::epsilon() * std::max(0.5L, factor * std::sqrt(std::log2(static_cast<long double>(n))));
 }
 
 template <class C> void expectNear(const std::vector<C>& found, const std::vector<long double>& h) {
