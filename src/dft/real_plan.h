@@ -57,9 +57,8 @@ template <bool kInverse, class T> void recombinePairs(const T* src, T* dst, size
   for (; k + M <= pairs + 1; k += M) recombineAt<M, kInverse>(src, dst, h, k, c, d);
   for (; k <= pairs; ++k) recombineAt<1, kInverse>(src, dst, h, k, c, d);
   if (h % 2 != 0 || h == 0) return;
-  const T factor = kInverse ? T(0.5) : T(1);
-  dst[h] = factor * src[h];
-  dst[h + 1] = -factor * src[h + 1];
+  dst[h] = src[h];
+  dst[h + 1] = -src[h + 1];
 }
 
 template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
