@@ -126,14 +126,6 @@ template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_
   std::copy_n(points.y.im, length, spectrum + length);
 }
 
-// ---- Points by themselves, wherever their parts stand: an inverse transform has these exchanged
-
-template <class T> struct Strided {
-  T* re;
-  T* im;
-  size_t step;
-};
-
 template <class T> void convolve(const ConvolutionPlan<T>& plan, uint32_t n, Strided<const T> src, Strided<T> dst, T factor, uint8_t* work) {
   const size_t length = plan.length;
   ConvolutionWork<T> points(plan, work);
@@ -167,87 +159,7 @@ template <class T> void convolve(const ConvolutionPlan<T>& plan, uint32_t n, Str
   }
 }
 
-template <size_t R, class T> [[gnu::noinline]] void inRegisters(Strided<const T> src, Strided<T> dst, T factor) {
-  using D = Lanes<T, 1>;
-  const D d;
-  Complex<Vec<D>> x[R];
-  unrolled<R>([&](auto k) __attribute__((always_inline)) {
-    x[k] = {hn::Set(d, src.re[k * src.step]), hn::Set(d, src.im[k * src.step])};
-  });
-  anyDft(x);
-  unrolled<R>([&](auto k) __attribute__((always_inline)) {
-    dst.re[k * dst.step] = hn::GetLane(x[k].re) * factor;
-    dst.im[k * dst.step] = hn::GetLane(x[k].im) * factor;
-  });
-}
-
-inline constexpr uint32_t kMostDirect = 89;
-template <class T> constexpr size_t directWidth(uint32_t n) { return up<static_cast<int64_t>(kWidest<T>)>(n / 2); }
-
-template <class T> void direct(uint32_t n, const T* roots, Strided<const T> src, Strided<T> dst, T factor) {
-  constexpr size_t L = kWidest<T>;
-  using V = Vec<Lanes<T, L>>;
-  const Lanes<T, L> d;
-  const size_t half = n / 2;
-  const size_t wide = directWidth<T>(n);
-  T sums[kMostDirect / 2][2];
-  T differences[kMostDirect / 2][2];
-  const T first[] = {src.re[0], src.im[0]};
-  T total[] = {first[0], first[1]};
-  for (size_t k = 1; k <= half; ++k) {
-    const T a[] = {src.re[k * src.step], src.im[k * src.step]};
-    const T b[] = {src.re[(n - k) * src.step], src.im[(n - k) * src.step]};
-    for (size_t part : {0, 1}) {
-      sums[k - 1][part] = a[part] + b[part];
-      differences[k - 1][part] = a[part] - b[part];
-      total[part] += sums[k - 1][part];
-    }
-  }
-  dst.re[0] = total[0] * factor;
-  dst.im[0] = total[1] * factor;
-  for (size_t j = 0; j < half; j += L) {
-    Complex<V> even = {same<V>(first[0]), same<V>(first[1])};
-    Complex<V> odd = {hn::Zero(d), hn::Zero(d)};
-    for (size_t k = 0; k < half; ++k) {
-      const V cosine = load(d, roots + k * 2 * wide + j);
-      const V sine = load(d, roots + (k * 2 + 1) * wide + j);
-      even = {hn::MulAdd(cosine, same<V>(sums[k][0]), even.re), hn::MulAdd(cosine, same<V>(sums[k][1]), even.im)};
-      odd = {hn::MulAdd(sine, same<V>(differences[k][0]), odd.re), hn::MulAdd(sine, same<V>(differences[k][1]), odd.im)};
-    }
-    T results[4][L];
-    const V f = same<V>(factor);
-    store((even.re + odd.im) * f, d, results[0]);
-    store((even.im - odd.re) * f, d, results[1]);
-    store((even.re - odd.im) * f, d, results[2]);
-    store((even.im + odd.re) * f, d, results[3]);
-    for (size_t i = 0; i < std::min(L, half - j); ++i) {
-      const size_t k = j + i + 1;
-      dst.re[k * dst.step] = results[0][i];
-      dst.im[k * dst.step] = results[1][i];
-      dst.re[(n - k) * dst.step] = results[2][i];
-      dst.im[(n - k) * dst.step] = results[3][i];
-    }
-  }
-}
-template <class T> void writeDirect(uint32_t n, T* roots) {
-  const size_t half = n / 2;
-  const size_t wide = directWidth<T>(n);
-  writeTwiddles(
-      n, half * wide, [wide](size_t i) { return (i / wide + 1) * (i % wide + 1); },
-      [=](size_t i, double re, double im) {
-        roots[i / wide * 2 * wide + i % wide] = static_cast<T>(re);
-        roots[(i / wide * 2 + 1) * wide + i % wide] = static_cast<T>(-im);
-      });
-}
-
 // ---- Any length
-
-constexpr bool isPrime(uint32_t n) {
-  for (uint32_t p = 2; p * p <= n; ++p) {
-    if (n % p == 0) return false;
-  }
-  return n > 1;
-}
 
 template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, int flag) {
   plan.n = n;
@@ -259,13 +171,9 @@ template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, 
     plan.way = Way::kFft;
     return bytesOfFft<T>(n);
   }
-  if (n <= kWidestMixed) {
-    plan.way = Way::kRegisters;
-    return {0, 0};
-  }
-  if (n <= kMostDirect && isPrime(n)) {
+  if (n <= kMostSmall || (n <= kMostDirect && isPrime(n))) {
     plan.way = Way::kDirect;
-    return {static_cast<int64_t>(n / 2 * 2 * directWidth<T>(n) * sizeof(T)) + Carver::kLine, 0};
+    return chooseDirect(plan.direct, n, false);
   }
   MixedPlanner<T> planner;
   if (planner.plan(n, plan.mixed)) {
@@ -278,18 +186,13 @@ template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, 
 
 template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* block, uint8_t* work) {
   switch (plan.way) {
-    case Way::kRegisters:
-      break;
     case Way::kFft:
       if (plan.isApart) makeFft<T>(plan.splitFft, Fft<T>::kInitApart, plan.n, flag, block);
       else makeFft<T>(plan.fft, Fft<T>::kInit, plan.n, flag, block);
       break;
-    case Way::kDirect: {
-      T* const roots = alignedUp(reinterpret_cast<T*>(block), Carver::kLine);
-      plan.roots = roots;
-      writeDirect(plan.n, roots);
+    case Way::kDirect:
+      writeDirect(plan.direct, false, block);
       break;
-    }
     case Way::kFactors:
       if (plan.isApart) writeMixed<Planes<T>>(plan.mixed, reinterpret_cast<T*>(block));
       else writeMixed<Conjugable<T>>(plan.mixed, reinterpret_cast<T*>(block));
@@ -299,28 +202,21 @@ template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* blo
   }
 }
 
-template <class T> void runShort(const ComplexPlan<T>& plan, Strided<const T> src, Strided<T> dst, T factor) {
-  if (plan.way == Way::kDirect) return direct(plan.n, plan.roots, src, dst, factor);
-  if (plan.n == 14) return inRegisters<14>(src, dst, factor);
-  withMixedRadix(plan.n, [=](auto R) { inRegisters<R>(src, dst, factor); });
-}
-
 template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T* src, T* dst, uint8_t* work) {
   using C = typename FftOf<T>::C;
   const T factor = isInverse ? plan.inverseFactor : plan.forwardFactor;
   const size_t n = plan.n;
-  const Strided<const T> from = {src + isInverse, src + !isInverse, 2};
-  const Strided<T> to = {dst + isInverse, dst + !isInverse, 2};
   switch (plan.way) {
     case Way::kFft:
       (isInverse ? Fft<T>::kInverse : Fft<T>::kForward)(reinterpret_cast<const C*>(src), reinterpret_cast<C*>(dst), plan.fft, work);
       return;
+    case Way::kDirect:
+      return small(plan.direct, isInverse, src, dst, factor);
     case Way::kConvolution:
-      return convolve(plan.convolution, plan.n, from, to, factor, work);
+      return convolve(plan.convolution, plan.n, Strided<const T>{src + isInverse, src + !isInverse, 2},
+                      Strided<T>{dst + isInverse, dst + !isInverse, 2}, factor, work);
     case Way::kFactors:
       break;
-    default:
-      return runShort(plan, from, to, factor);
   }
   const T sign = isInverse ? T(-0.0) : T(0);
   T* const y = Carver(work, Carver::kLine).template take<T>(0);
@@ -344,8 +240,14 @@ void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* sr
     std::swap(dstRe, dstIm);
   }
   if (plan.way == Way::kConvolution) return convolve(plan.convolution, plan.n, {srcRe, srcIm, 1}, {dstRe, dstIm, 1}, factor, work);
-  if (plan.way != Way::kFactors) return runShort(plan, Strided<const T>{srcRe, srcIm, 1}, Strided<T>{dstRe, dstIm, 1}, factor);
   const size_t n = plan.n;
+  if (plan.way == Way::kDirect) {
+    T points[2 * kMostDirect];
+    for (size_t i = 0; i < n; ++i) points[2 * i] = srcRe[i], points[2 * i + 1] = srcIm[i];
+    small(plan.direct, false, points, points, factor);
+    for (size_t i = 0; i < n; ++i) dstRe[i] = points[2 * i], dstIm[i] = points[2 * i + 1];
+    return;
+  }
   T* const y = Carver(work, Carver::kLine).template take<T>(0);
   const Planes<T> own = planes(y, y + n);
   const Planes<T> theirs = planes(dstRe, dstIm);

@@ -1,18 +1,16 @@
 // Transforms of any number of points: by which way a length goes, its tables, and its run.
 #pragma once
 
-#include "transform/layout.h"
-#include "transform/mixed_plan.h"
+#include "dft/direct.h"
 
 namespace qvx::dft {
 
 using namespace transform;
 
 enum class Way : uint8_t {
-  kRegisters,    // up to 16 points, in registers
   kFactors,      // passes by factors
   kFft,          // a power of two
-  kDirect,       // the definition: few points, an odd number of them
+  kDirect,       // the definition: few points
   kConvolution,  // a chirp
 };
 
@@ -46,14 +44,8 @@ template <class T> struct ComplexPlan {
   typename FftOf<T>::Spec* fft;            // of interleaved points
   typename FftOf<T>::SplitSpec* splitFft;  // of points whose parts stand apart
   MixedPlan<T> mixed;
-  const T* roots;  // of the direct way: for n = 1..H a row of H cosines, then of H sines, each filled up to whole vectors
+  DirectPlan<T> direct;
   ConvolutionPlan<T> convolution;
-};
-
-// The bytes of a plan's tables, and of each transform's working memory.
-struct Bytes {
-  int64_t tables;
-  int64_t work;
 };
 
 // How a transform of n points goes. isApart: real and imaginary parts stand in vectors of their own. flag: one of QVX_FFT_SCALE_.
@@ -77,7 +69,9 @@ template <class T> struct RealPlan {
   uint32_t n;
   T forwardFactor;
   T inverseFactor;
-  typename RealFftOf<T>::Spec* fft;  // of a power of two, null otherwise
+  Way way;  // kFactors: through complex points
+  typename RealFftOf<T>::Spec* fft;
+  DirectPlan<T> direct;
   ComplexPlan<T> complex;
   const T* recombination;  // of k = 1 .. n/4: all 0.5 cos, then all 0.5 - 0.5 sin of 2 pi k / n
 };

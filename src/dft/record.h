@@ -58,9 +58,16 @@ QvxStatus initAlloc(Record** ppSpec, int len, int flag, int highest, Work work, 
                         });
 }
 
-// run(work), work being the memory that the transform needs; where that is more than what is told, it is allocated.
+// run(work), work being the memory that the transform needs. Where that is more than what is told, it is on the stack or
+// allocated.
+inline constexpr int64_t kMostOnStack = 16384;
+template <class Run> [[gnu::noinline]] QvxStatus withWorkOnStack(Run run) {
+  alignas(64) uint8_t work[kMostOnStack];
+  return run(work), qvxStatOk;
+}
 template <class Spec, class Run> QVX_INLINE QvxStatus withWork(const Spec& spec, Qvx8u* pBuffer, Run run) {
   if (spec.needed == 0) return run(nullptr), qvxStatOk;
+  if (spec.needed > spec.workSize && spec.needed <= kMostOnStack) return withWorkOnStack(run);
   const Scratch scratch(spec.needed <= spec.workSize ? pBuffer : nullptr, spec.needed);
   if (scratch.isMissing(spec.needed)) return qvxStatNoMem;
   return run(scratch.carver().rest()), qvxStatOk;

@@ -51,40 +51,44 @@ template <size_t P> struct PrimeRoots {
 };
 template <size_t P> inline constexpr PrimeRoots<P> kPrimeRoots;
 
+// Z: a vector of real and one of imaginary parts, or of both side by side.
+template <class V> QVX_INLINE Complex<V> scaledBy(double factor, Complex<V> z) {
+  const V f = same<V>(static_cast<LaneOf<V>>(factor));
+  return {f * z.re, f * z.im};
+}
+
 // An odd number of points: x[k] and x[P - k] come from the sums and the differences of the points at equal distances from x[0].
-template <size_t P, class V> QVX_INLINE void dftOfPairs(Complex<V> (&x)[P]) {
+template <size_t P, class Z> QVX_INLINE void dftOfPairs(Z (&x)[P]) {
   constexpr size_t H = P / 2;
-  Complex<V> sums[H];
-  Complex<V> differences[H];
+  Z sums[H];
+  Z differences[H];
   unrolled<H>([&](auto k) __attribute__((always_inline)) {
     sums[k] = sum(x[k + 1], x[P - 1 - k]);
     differences[k] = difference(x[k + 1], x[P - 1 - k]);
   });
-  const Complex<V> first = x[0];
+  const Z first = x[0];
   unrolled<H>([&](auto k) __attribute__((always_inline)) { x[0] = sum(x[0], sums[k]); });
   unrolled<H>([&](auto at) __attribute__((always_inline)) {
     constexpr size_t j = at + 1;
-    Complex<V> even = first;
-    Complex<V> odd;
-    unrolled<H>([&](auto k) __attribute__((always_inline)) {
+    Z even = sumWith(kPrimeRoots<P>.cosine[j], first, sums[0]);
+    Z odd = scaledBy(kPrimeRoots<P>.sine[j], differences[0]);
+    unrolled<H - 1>([&](auto i) __attribute__((always_inline)) {
+      constexpr size_t k = i + 1;
       constexpr size_t turn = j * (k + 1) % P;
       constexpr size_t folded = turn <= H ? turn : P - turn;
-      const V cosine = same<V>(static_cast<LaneOf<V>>(kPrimeRoots<P>.cosine[folded]));
-      const V sine = same<V>(static_cast<LaneOf<V>>(kPrimeRoots<P>.sine[folded]));
-      even = {hn::MulAdd(cosine, sums[k].re, even.re), hn::MulAdd(cosine, sums[k].im, even.im)};
-      if constexpr (k == 0) odd = {sine * differences[k].re, sine * differences[k].im};  // turn <= H here
-      else if constexpr (turn <= H) odd = {hn::MulAdd(sine, differences[k].re, odd.re), hn::MulAdd(sine, differences[k].im, odd.im)};
-      else odd = {hn::NegMulAdd(sine, differences[k].re, odd.re), hn::NegMulAdd(sine, differences[k].im, odd.im)};
+      even = sumWith(kPrimeRoots<P>.cosine[folded], even, sums[k]);
+      if constexpr (turn <= H) odd = sumWith(kPrimeRoots<P>.sine[folded], odd, differences[k]);
+      else odd = differenceWith(kPrimeRoots<P>.sine[folded], odd, differences[k]);
     });
     x[j] = differenceWithI(even, odd);
     x[P - j] = sumWithI(even, odd);
   });
 }
 
-template <size_t R, class V> QVX_INLINE void anyDft(Complex<V> (&x)[R]);
+template <size_t R, class Z> QVX_INLINE void anyDft(Z (&x)[R]);
 
 // A * B points without common factors: two dimensions without twiddles between them.
-template <size_t A, size_t B, class V> QVX_INLINE void dftOfCoprimes(Complex<V> (&x)[A * B]) {
+template <size_t A, size_t B, class Z> QVX_INLINE void dftOfCoprimes(Z (&x)[A * B]) {
   constexpr size_t N = A * B;
   constexpr auto inverseOf = [](size_t n, size_t modulus) {
     size_t i = 1;
@@ -93,39 +97,40 @@ template <size_t A, size_t B, class V> QVX_INLINE void dftOfCoprimes(Complex<V> 
   };
   constexpr size_t kStepA = B * inverseOf(B % A, A);
   constexpr size_t kStepB = A * inverseOf(A % B, B);
-  Complex<V> y[B][A];
+  Z y[B][A];
   unrolled<B>([&](auto b) __attribute__((always_inline)) {
     unrolled<A>([&](auto a) __attribute__((always_inline)) { y[b][a] = x[(B * a + A * b) % N]; });
     anyDft(y[b]);
   });
   unrolled<A>([&](auto a) __attribute__((always_inline)) {
-    Complex<V> z[B];
+    Z z[B];
     unrolled<B>([&](auto b) __attribute__((always_inline)) { z[b] = y[b][a]; });
     anyDft(z);
     unrolled<B>([&](auto b) __attribute__((always_inline)) { x[(kStepA * a + kStepB * b) % N] = z[b]; });
   });
 }
 
-template <class V> QVX_INLINE void dft9(Complex<V> (&x)[9]) {
-  Complex<V> y[3][3];
+template <class Z> QVX_INLINE void dft9(Z (&x)[9]) {
+  Z y[3][3];
   unrolled<3>([&](auto b) __attribute__((always_inline)) {
     unrolled<3>([&](auto a) __attribute__((always_inline)) { y[b][a] = x[3 * a + b]; });
     dftOfPairs(y[b]);
     if constexpr (b > 0) {
       unrolled<2>([&](auto k) __attribute__((always_inline)) {
-        constexpr size_t turn = b * (k + 1);
-        y[b][k + 1] = product(y[b][k + 1], static_cast<LaneOf<V>>(cosineOfTurn(turn, 9)), static_cast<LaneOf<V>>(-sineOfTurn(turn, 9)));
+        constexpr double kCosine = cosineOfTurn(b * (k + 1), 9);
+        constexpr double kSine = sineOfTurn(b * (k + 1), 9);
+        y[b][k + 1] = product(y[b][k + 1], kCosine, -kSine);
       });
     }
   });
   unrolled<3>([&](auto k) __attribute__((always_inline)) {
-    Complex<V> z[] = {y[0][k], y[1][k], y[2][k]};
+    Z z[] = {y[0][k], y[1][k], y[2][k]};
     dftOfPairs(z);
     unrolled<3>([&](auto a) __attribute__((always_inline)) { x[k + 3 * a] = z[a]; });
   });
 }
 
-template <size_t R, class V> QVX_INLINE void anyDft(Complex<V> (&x)[R]) {
+template <size_t R, class Z> QVX_INLINE void anyDft(Z (&x)[R]) {
   if constexpr ((R & (R - 1)) == 0) dft(x);
   else if constexpr (R == 6) dftOfCoprimes<2, 3>(x);
   else if constexpr (R == 9) dft9(x);
