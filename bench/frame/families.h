@@ -36,6 +36,8 @@ void fft64f(Suite& suite);
 void fftRecords(Suite& suite);
 void integerFft(Suite& suite);
 void spectrum(Suite& suite);
+void cosines(Suite& suite);
+void analytic(Suite& suite);
 void fir(Suite& suite);
 void multirate(Suite& suite);
 void iir(Suite& suite);
@@ -88,6 +90,8 @@ inline constexpr Family kFamilies[] = {
     {"fft_records", fftRecords},
     {"fft_integer", integerFft},
     {"spectrum", spectrum},
+    {"dct", cosines},
+    {"hilbert", analytic},
     {"fir", fir},
     {"multirate", multirate},
     {"iir", iir},

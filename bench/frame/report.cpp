@@ -34,9 +34,9 @@ void Report::open(Table table) {
                             : table == Table::kLarge      ? "Beyond the caches: 64 MB"
                             : table == Table::kStream     ? "Streams, block by block"
                             : table == Table::kTeam       ? "Two threads"
-                                                    : "Transforms by order, of 5 N log2 N operations, real ones of half as many";
+                                                    : "Transforms by length, of 5 N log2 N operations, real ones of half as many";
   if (table == Table::kTransforms) {
-    std::printf("\n## %s\n\n| export | order | ns | GFLOPS | peers |\n|---|---:|---:|---:|---|\n", title);
+    std::printf("\n## %s\n\n| export | length | ns | GFLOPS | peers |\n|---|---:|---:|---:|---|\n", title);
     return;
   }
   const std::vector<int> sizes = table == Table::kLarge    ? std::vector{64 << 20}
@@ -50,8 +50,8 @@ void Report::open(Table table) {
 void Report::transforms(const Case& c, const std::vector<Times>& bySize) {
   for (size_t i = 0; i < bySize.size(); ++i) {
     const double ours = bySize[i][0].ns;
-    std::printf("| %s | %d | %.*f | %.2f |", c.title().c_str(), std::countr_zero(static_cast<unsigned>(c.sizes[i])),
-                ours < 100 ? 1 : 0, ours, c.operations(c.sizes[i]) / ours);
+    std::printf("| %s | %d | %.*f | %.2f |", c.title().c_str(), c.sizes[i], ours < 100 ? 1 : 0, ours,
+                c.operations(c.sizes[i]) / ours);
     for (size_t peer = 1; peer < c.contenders.size(); ++peer) {
       const std::string& name = c.contenders[peer].peer;
       std::printf(" %s %.2f", name.c_str(), bySize[i][peer].ns / ours);

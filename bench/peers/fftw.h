@@ -13,6 +13,7 @@ template <> struct Api<float> {
   using Complex = fftwf_complex;
   static constexpr auto planComplex = fftwf_plan_dft_1d;
   static constexpr auto planReal = fftwf_plan_dft_r2c_1d;
+  static constexpr auto planCosines = fftwf_plan_r2r_1d;
   static constexpr auto execute = fftwf_execute;
   static constexpr auto destroy = fftwf_destroy_plan;
 };
@@ -20,6 +21,7 @@ template <> struct Api<double> {
   using Complex = fftw_complex;
   static constexpr auto planComplex = fftw_plan_dft_1d;
   static constexpr auto planReal = fftw_plan_dft_r2c_1d;
+  static constexpr auto planCosines = fftw_plan_r2r_1d;
   static constexpr auto execute = fftw_execute;
   static constexpr auto destroy = fftw_destroy_plan;
 };
@@ -42,6 +44,55 @@ template <class T, bool kReal> class Plan {
 
  private:
   decltype(F::planComplex(0, nullptr, nullptr, 0, 0)) plan_;
+};
+
+// A cosine transform of type II, or of type III where it is inverse.
+template <class T, bool kInverse> class Cosines {
+ public:
+  using F = Api<T>;
+  Cosines(int n, const T* src, T* dst)
+      : plan_(F::planCosines(n, const_cast<T*>(src), dst, kInverse ? FFTW_REDFT01 : FFTW_REDFT10,
+                             FFTW_MEASURE | FFTW_PRESERVE_INPUT * (src != dst))) {}
+  ~Cosines() { F::destroy(plan_); }
+  Cosines(const Cosines&) = delete;
+  Cosines& operator=(const Cosines&) = delete;
+  void run() const { F::execute(plan_); }
+
+ private:
+  decltype(F::planCosines(0, nullptr, nullptr, FFTW_REDFT10, 0)) plan_;
+};
+
+// The analytic signal of floats: a real transform there, a complex one back, and between them twice the positive frequencies.
+class Analytic {
+ public:
+  Analytic(int n, const float* src, float* dst)
+      : n_(n),
+        dst_(dst),
+        there_(fftwf_plan_dft_r2c_1d(n, const_cast<float*>(src), complex(), FFTW_MEASURE | FFTW_PRESERVE_INPUT)),
+        back_(fftwf_plan_dft_1d(n, complex(), complex(), FFTW_BACKWARD, FFTW_MEASURE)) {}
+  ~Analytic() {
+    fftwf_destroy_plan(there_);
+    fftwf_destroy_plan(back_);
+  }
+  Analytic(const Analytic&) = delete;
+  Analytic& operator=(const Analytic&) = delete;
+  void run() const {
+    fftwf_execute(there_);
+    const float factor = 1 / static_cast<float>(n_);
+    const int above = n_ / 2 + 1;
+    const int doubled = (n_ + 1) / 2;
+    for (int i = 0; i < 2 * above; ++i) dst_[i] *= i < 2 || i >= 2 * doubled ? factor : 2 * factor;
+    for (int i = 2 * above; i < 2 * n_; ++i) dst_[i] = 0;
+    fftwf_execute(back_);
+  }
+
+ private:
+  fftwf_complex* complex() const { return reinterpret_cast<fftwf_complex*>(dst_); }
+
+  int n_;
+  float* dst_;
+  fftwf_plan there_;
+  fftwf_plan back_;
 };
 
 }  // namespace fftw

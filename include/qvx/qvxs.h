@@ -15,6 +15,9 @@
 #include <qvx/qvxs_fft.h>
 #include <qvx/qvxs_spectrum.h>
 #include <qvx/qvxs_fft_integer.h>
+#include <qvx/qvxs_dft.h>
+#include <qvx/qvxs_dct.h>
+#include <qvx/qvxs_hilbert.h>
 #include <qvx/qvxs_fir.h>
 #include <qvx/qvxs_multirate.h>
 #include <qvx/qvxs_lms.h>

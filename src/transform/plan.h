@@ -128,24 +128,32 @@ void runPassesInTeam(int threads, const Plan<T>& plan, Src src, Dst dst, T* y, S
 // ---- Twiddles
 
 // For i = 0..count-1: put(i, cos, sin) of -2 pi x(i) / n. Many at a time: what goes through memory between scalars and vectors
-// has arrived when it is read: 3 ns for a twiddle instead of 5.
+// has arrived when it is read: 3 ns for a twiddle instead of 5. Where n is no power of two, a fraction of a turn is not exact: what
+// exceeds whole quarters is reduced as a number of n-ths, and only then divided.
 template <class Index, class Put> void writeTwiddles(size_t n, size_t count, Index x, Put put) {
   constexpr size_t kMany = 64;
   constexpr size_t kLanes = kVectorBytes / sizeof(double);
   const Lanes<double, kLanes> d;
+  using V = Vec<Lanes<double, kLanes>>;
   const double step = -1 / static_cast<double>(n);
-  const size_t mask = (n & (n - 1)) == 0 ? n - 1 : 0;
+  const bool isExact = (n & (n - 1)) == 0;
   double turns[kMany] = {};
   double cosine[kMany];
   double sine[kMany];
+  const auto ofNths = [n, step](V nths) {
+    const V all = same<V>(static_cast<double>(n));
+    const V k = hn::Round(nths * same<V>(-4 * step));
+    const V r = hn::NegMulAdd(k, all, same<V>(4) * nths);
+    return sinCosOfQuarters<53>(k, r / all * same<V>(0x1.921fb54442d18p+0), hn::Zero(TagOf<V>()));
+  };
   for (size_t i = 0; i < count; i += kMany) {
     const size_t here = std::min(kMany, count - i);
     for (size_t k = 0; k < here; ++k) {
-      const size_t at = mask != 0 ? x(i + k) & mask : x(i + k) % n;
-      turns[k] = static_cast<double>(static_cast<int64_t>(at)) * step;
+      const size_t at = isExact ? x(i + k) & (n - 1) : x(i + k);
+      turns[k] = static_cast<double>(static_cast<int64_t>(at)) * (isExact ? step : -1);
     }
     for (size_t k = 0; k < here; k += kLanes) {
-      const auto twiddle = sinCosOfTurns(load(d, turns + k));
+      const auto twiddle = isExact ? sinCosOfTurns(load(d, turns + k)) : ofNths(load(d, turns + k));
       store(twiddle.cosine, d, cosine + k);
       store(twiddle.sine, d, sine + k);
     }

@@ -14,9 +14,9 @@ template <class V, bool kSwapped> struct ComplexVector { V v; };
 
 // kHalves halves, with alternating signs.
 template <class T, int kHalves> struct Alternating {
-  T v[8];
+  T v[16];
   constexpr Alternating() : v() {
-    for (int i = 0; i < 8; ++i) v[i] = static_cast<T>((i % 2 == 0 ? 0.5 : -0.5) * kHalves);
+    for (int i = 0; i < 16; ++i) v[i] = static_cast<T>((i % 2 == 0 ? 0.5 : -0.5) * kHalves);
   }
 };
 template <class T, int kHalves> alignas(64) inline constexpr Alternating<T, kHalves> kAlternating;
@@ -44,6 +44,9 @@ QVX_INLINE auto sumWith(double factor, ComplexVector<V, kSwapped> a, ComplexVect
 template <class V, bool kSwapped>
 QVX_INLINE auto differenceWith(double factor, ComplexVector<V, kSwapped> a, ComplexVector<V, kSwapped> b) {
   return ComplexVector<V, kSwapped>{hn::NegMulAdd(b.v, same<V>(static_cast<LaneOf<V>>(factor)), a.v)};
+}
+template <class V, bool kSwapped> QVX_INLINE auto scaledBy(double factor, ComplexVector<V, kSwapped> z) {
+  return ComplexVector<V, kSwapped>{z.v * same<V>(static_cast<LaneOf<V>>(factor))};
 }
 template <class V, bool kSwapped> QVX_INLINE auto product(ComplexVector<V, kSwapped> z, LaneOf<V> re, LaneOf<V> im) {
   return ComplexVector<V, kSwapped>{minusPlus(z.v * same<V>(re), swapped(z.v) * same<V>(kSwapped ? -im : im))};

@@ -1,6 +1,7 @@
 // The discrete Fourier transform as defined, in long double.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <complex>
 #include <vector>
@@ -41,6 +42,12 @@ inline std::vector<Exact> dft(const std::vector<Exact>& x, const std::vector<Exa
   return result;
 }
 }  // namespace detail
+
+inline size_t largestPrimeFactor(size_t n) {
+  size_t largest = 1;
+  for (size_t p = 2; n > 1; n % p == 0 ? n /= p : ++p) largest = std::max(largest, p);
+  return largest;
+}
 
 // sum of x[n] exp(sign 2 pi i n k / N) for all k; even lengths above 16 by the sums over the even and the odd elements.
 inline std::vector<Exact> dft(const std::vector<Exact>& x, int sign) {

@@ -327,12 +327,15 @@ inline int AnyCall::sizeFor(const std::string& maker, const std::string& which) 
   const char* init = maker.find("InitAlloc") != maker.npos ? "InitAlloc" : "Init";
   const Export* e = findExport(replaced(maker, init, "GetStateSize"));
   if (e == nullptr) e = findExport(replaced(maker, init, "GetSize"));
+  if (e == nullptr) e = findExport(replaced(maker, init, "GetBufSize"));  // of the record, where that is all there is
   if (e == nullptr) std::abort();
   struct Sizes : Arguments {
     const Export* e;
     const AnyCall* call;
     std::map<std::string, int> sizes;
-    void* pointer(size_t index, size_t, bool, char) override { return &sizes[e->parameters[index].name]; }
+    void* pointer(size_t index, size_t, bool, char) override {
+      return e->parameters[index].isRecord() ? call->record() : &sizes[e->parameters[index].name];
+    }
     int64_t integer(size_t index) override { return call->shape(e->parameters[index].name); }
     double real(size_t) override { return 0; }
   } arguments;

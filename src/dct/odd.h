@@ -1,0 +1,64 @@
+// Odd lengths with small factors: by a complex transform of the numbers in halves (turn.h), whose spectrum is that of a real
+// sequence.
+#pragma once
+
+#include "dct/turn.h"
+#include "dct/plan.h"
+
+namespace qvx::dct {
+
+// sqrt(2/n) exp(-2 pi i k / (4n)) for k = 1 .. n/2: all real parts, then all imaginary ones.
+template <class T> void writeOddTurns(T* out, size_t n) {
+  const double factor = std::sqrt(2 / static_cast<double>(n));
+  writeTwiddles(
+      4 * n, n / 2, [](size_t i) { return i + 1; },
+      [=](size_t i, double re, double im) {
+        out[i] = static_cast<T>(factor * re);
+        out[n / 2 + i] = static_cast<T>(factor * im);
+      });
+}
+
+template <class T> void spectrumToCosinesOdd(const T* z, T* y, size_t n, const T* turns, T mean) {
+  constexpr size_t L = transform::kWidest<T>;
+  const size_t h = n / 2;
+  const Lanes<T, L> d;
+  y[0] = mean * z[0];
+  inVectors<L>(h, [=](size_t i) __attribute__((always_inline)) {
+    const size_t k = i + 1;
+    const auto spectrum = transform::Interleaved<const T, false>{z}.template getInOrder<L>(k);
+    const auto v = transform::product(spectrum, Complex<Vec<Lanes<T, L>>>{load(d, turns + i), load(d, turns + h + i)});
+    store(v.re, d, y + k);
+    store(reversed(hn::Neg(v.im)), d, y + n - k - L + 1);
+  });
+}
+
+template <class T> void cosinesToSpectrumOdd(const T* y, T* z, size_t n, const T* turns, T mean) {
+  constexpr size_t L = transform::kWidest<T>;
+  using V = Vec<Lanes<T, L>>;
+  const size_t h = n / 2;
+  const Lanes<T, L> d;
+  const transform::Interleaved<T, false> to{z};
+  z[0] = mean * y[0];
+  z[1] = 0;
+  inVectors<L>(h, [=](size_t i) __attribute__((always_inline)) {
+    const size_t k = i + 1;
+    const V half = same<V>(T(0.5));
+    const Complex<V> v{half * load(d, y + k), hn::Neg(half * reversed(load(d, y + n - k - L + 1)))};
+    const auto spectrum = productWithConjugate(v, Complex<V>{load(d, turns + i), load(d, turns + h + i)});
+    to.template putInOrder<L>(spectrum, k);
+    to.template putInOrder<L>(mirrored(conjugate(spectrum)), n - k - L + 1);
+  });
+}
+
+// The numbers in halves as real parts.
+template <class T> void toPoints(const T* x, T* z, size_t n) {
+  for (size_t j = 0; j < n; ++j) {
+    z[2 * j] = x[2 * j < n ? 2 * j : 2 * (n - j) - 1];
+    z[2 * j + 1] = 0;
+  }
+}
+template <class T> void fromPoints(const T* z, T* x, size_t n) {
+  for (size_t j = 0; j < n; ++j) x[2 * j < n ? 2 * j : 2 * (n - j) - 1] = z[2 * j];
+}
+
+}  // namespace qvx::dct

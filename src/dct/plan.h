@@ -1,0 +1,35 @@
+// The complex transforms that cosine transforms stand on, as tightly as their records need them.
+#pragma once
+
+#include "dft/adapter.h"
+
+namespace qvx::dct {
+
+template <class T> using ComplexOf = std::conditional_t<sizeof(T) == 4, Qvx32fc, Qvx64fc>;
+
+// What a way takes of a record after its head, of each call and of the record's making.
+struct Needs {
+  int64_t tables;
+  int64_t work;
+  int64_t making;
+};
+struct PlanNeeds {
+  dft::Way way;
+  int64_t tables;
+  int64_t work;
+};
+template <class T> PlanNeeds needsOfPlan(size_t n) {
+  dft::ComplexPlan<T> plan = {};
+  const dft::Bytes bytes = dft::choosePlan(plan, static_cast<int>(n), QVX_FFT_SCALE_NONE);
+  constexpr int64_t kSlack = alignof(dft::ComplexPlan<T>) - 1;
+  return {plan.way, static_cast<int64_t>(sizeof(plan)) + kSlack + bytes.tables, bytes.work};
+}
+template <class T> const dft::ComplexPlan<T>* makePlan(size_t n, Carver& tables, Qvx8u* work) {
+  auto* const plan = tables.take<dft::ComplexPlan<T>>(1);
+  *plan = {};
+  dft::choosePlan(*plan, static_cast<int>(n), QVX_FFT_SCALE_NONE);
+  dft::writeTables(*plan, QVX_FFT_SCALE_NONE, tables.rest(), work);
+  return plan;
+}
+
+}  // namespace qvx::dct

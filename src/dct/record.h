@@ -1,0 +1,239 @@
+// The records of cosine transforms, how they are made, and their calls.
+#pragma once
+
+#include "dct/chirp.h"
+#include "dct/matrix.h"
+#include "dct/odd.h"
+#include "dct/rows.h"
+#include "dct/sizes.h"
+
+namespace qvx::dct {
+
+enum class Way : uint8_t {
+  kKernel,  // a product with a matrix of constants
+  kHalf,    // a complex transform of half the length
+  kRows,
+  kOdd,  // a complex transform of the length
+  kChirp,
+  kLongChirp,  // whose period is a power of two, which takes the least memory
+};
+
+template <class T_, bool kInverse_, uint32_t kIdentity> struct Spec : RecordHead {
+  using T = T_;
+  static constexpr bool kInverse = kInverse_;
+  static constexpr uint32_t kId = kIdentity;
+  Way way;
+  int32_t len;
+  int32_t workSize;  // as callers are told
+  T mean;            // 1 / sqrt(len)
+  union {
+    const dft::ComplexPlan<T>* plan;  // of kHalf, kOdd
+    const Rows<T>* rows;
+    const Chirp<T>* chirp;
+  };
+  const T* turns;  // of kHalf, kOdd
+};
+
+template <class Record> QvxStatus check(const Record* spec) { return checkRecord(spec, Record::kId); }
+
+// ---- Which way a length goes: the first that the told sizes have room for
+
+constexpr bool hasKernel(int len) { return len <= kLongestByMatrix || (len <= kLongestByHalves && len % 2 == 0); }
+
+// What is on the stack is not asked of callers.
+inline constexpr int64_t kWorkOnStack = 4096;
+
+template <class T> Needs needsOfHalf(size_t n) {
+  const auto plan = needsOfPlan<T>(n / 2);
+  const int64_t numbers = sizeof(T);
+  return {plan.tables + static_cast<int64_t>(turnTableLength<T>(n)) * numbers, plan.work + static_cast<int64_t>(n) * numbers,
+          plan.way == dft::Way::kConvolution ? plan.work : 0};
+}
+
+template <class Record> Way wayOf(int len, Sizes sizes) {
+  using T = typename Record::T;
+  const auto n = static_cast<size_t>(len);
+  if (hasKernel(len)) return Way::kKernel;
+  const auto fits = [=](Needs needs) {
+    constexpr int64_t kSlack = Carver::kRecordAlignment - 1;
+    return static_cast<int64_t>(sizeof(Record)) + needs.tables + kSlack <= sizes.spec &&
+           needs.work + kSlack <= std::max(sizes.work, kWorkOnStack) && needs.making <= sizes.init;
+  };
+  if (len % 2 == 0 && fits(needsOfHalf<T>(n))) return Way::kHalf;
+  if (len <= kLongestByRows) return Way::kRows;
+  if (len % 2 != 0) {
+    const auto plan = needsOfPlan<T>(n);
+    constexpr int64_t kNumber = sizeof(T);
+    if (plan.way == dft::Way::kFactors && fits({plan.tables + len * kNumber, plan.work + 2 * len * kNumber, 0})) return Way::kOdd;
+  }
+  return fits(needsOfChirp<T>(n, periodOf(n))) ? Way::kChirp : Way::kLongChirp;
+}
+
+// ---- The life of a record
+
+inline QvxStatus getSize(int len, Sizes (*sizesOf)(int), int* pSpec, int* pInit, int* pWork) {
+  if (len < 1) return qvxStatBadSize;
+  if (isNull(pSpec) || isNull(pInit) || isNull(pWork)) return qvxStatNullPtr;
+  const Sizes sizes = sizesOf(len);
+  if (!fitsInt(sizes)) return qvxStatBadFFTOrder;
+  *pSpec = static_cast<int>(sizes.spec);
+  *pInit = static_cast<int>(sizes.init);
+  *pWork = static_cast<int>(sizes.work);
+  return qvxStatOk;
+}
+
+// What Init refuses.
+template <class Record> QvxStatus check(Record** ppSpec, int len, Sizes sizes, const Qvx8u* pMemory, const Qvx8u* pInit) {
+  if (isNull(ppSpec)) return qvxStatNullPtr;
+  if (len < 1) return qvxStatBadSize;
+  if (isNull(pMemory)) return qvxStatNullPtr;
+  if (!fitsInt(sizes)) return qvxStatBadFFTOrder;
+  return sizes.init > 0 && isNull(pInit) ? qvxStatNullPtr : qvxStatOk;
+}
+
+// The tables of a record that knows its way.
+template <class Record> void writeWay(Record& spec, Carver& tables, Qvx8u* making) {
+  using T = typename Record::T;
+  const auto n = static_cast<size_t>(spec.len);
+  switch (spec.way) {
+    case Way::kKernel:
+      break;
+    case Way::kHalf: {
+      T* const turns = tables.take<T>(static_cast<int64_t>(turnTableLength<T>(n)));
+      writeTurns(turns, n);
+      spec.turns = turns;
+      spec.plan = makePlan<T>(n / 2, tables, making);
+      break;
+    }
+    case Way::kRows: {
+      auto* const rows = tables.take<Rows<T>>(1);
+      writeRows(*rows, n, tables);
+      spec.rows = rows;
+      break;
+    }
+    case Way::kOdd: {
+      T* const turns = tables.take<T>(spec.len);
+      writeOddTurns(turns, n);
+      spec.turns = turns;
+      spec.plan = makePlan<T>(n, tables, making);
+      break;
+    }
+    default: {
+      auto* const chirp = tables.take<Chirp<T>>(1);
+      const size_t period = spec.way == Way::kChirp ? periodOf(n) : longPeriodOf(n);
+      writeChirp(*chirp, n, period, Record::kInverse, tables, making);
+      spec.chirp = chirp;
+    }
+  }
+}
+
+template <class Record> QvxStatus init(Record** ppSpec, int len, Qvx8u* pMemory, Qvx8u* pInit) {
+  using T = typename Record::T;
+  const Sizes sizes = sizesOf<T>(len < 1 ? 1 : len);
+  const QvxStatus status = check(ppSpec, len, sizes, pMemory, pInit);
+  if (status != qvxStatOk) return status;
+  return initRecord(ppSpec, pMemory, [=](Record& spec, Carver& tables) {
+    spec.len = len;
+    spec.workSize = static_cast<int32_t>(sizes.work);
+    spec.mean = static_cast<T>(1 / std::sqrt(static_cast<double>(len)));
+    spec.magic = Record::kId;
+    spec.way = wayOf<Record>(len, sizes);
+    writeWay(spec, tables, pInit);
+    return qvxStatOk;
+  });
+}
+
+template <class Record> QvxStatus initAlloc(Record** ppSpec, int len, Sizes (*sizesOf)(int), auto init) {
+  if (isNull(ppSpec)) return qvxStatNullPtr;
+  if (len < 1) return qvxStatBadSize;
+  const Sizes sizes = sizesOf(len);
+  if (!fitsInt(sizes)) return qvxStatBadFFTOrder;
+  return allocateRecord(ppSpec, sizes.spec, [=](Record** pp, Qvx8u* memory) {
+    const Block buffer(sizes.init);
+    if (sizes.init > 0 && !buffer) return qvxStatNoMem;
+    return init(pp, len, memory, buffer.get());
+  });
+}
+
+template <class Record> QvxStatus release(Record* spec) { return releaseRecord(spec, check(spec), InCallersBlock::kForgotten); }
+
+template <class Record> QvxStatus bufferSize(const Record* spec, int* pSize) {
+  if (isNull(spec) || isNull(pSize)) return qvxStatNullPtr;
+  const QvxStatus status = check(spec);
+  if (status == qvxStatOk) *pSize = spec->workSize;
+  return status;
+}
+
+// ---- Transforms
+
+template <class Record, class T> void halfTransform(const Record& spec, const T* src, T* dst, Carver work) {
+  const auto n = static_cast<size_t>(spec.len);
+  T* const v = work.take<T>(spec.len);
+  if constexpr (Record::kInverse) {
+    cosinesToSpectrum(src, v, n, spec.turns, spec.mean);
+    run(*spec.plan, true, v, v, work.rest());
+    fromHalves(v, dst, n);
+  } else {
+    toHalves(src, v, n);
+    run(*spec.plan, false, v, v, work.rest());
+    spectrumToCosines(v, dst, n, spec.turns, spec.mean);
+  }
+}
+template <class Record, class T> void oddTransform(const Record& spec, const T* src, T* dst, Carver work) {
+  const auto n = static_cast<size_t>(spec.len);
+  T* const z = work.take<T>(2 * int64_t{spec.len});
+  if constexpr (Record::kInverse) {
+    cosinesToSpectrumOdd(src, z, n, spec.turns, spec.mean);
+    run(*spec.plan, true, z, z, work.rest());
+    fromPoints(z, dst, n);
+  } else {
+    toPoints(src, z, n);
+    run(*spec.plan, false, z, z, work.rest());
+    spectrumToCosinesOdd(z, dst, n, spec.turns, spec.mean);
+  }
+}
+
+// In working memory.
+template <class Record, class T> [[gnu::noinline]] QvxStatus transformedIn(const Scratch& scratch, const Record& spec, const T* src, T* dst) {
+  if (scratch.isMissing(spec.workSize)) return qvxStatNoMem;
+  switch (spec.way) {
+    case Way::kHalf:
+      halfTransform(spec, src, dst, scratch.carver());
+      break;
+    case Way::kOdd:
+      oddTransform(spec, src, dst, scratch.carver());
+      break;
+    default:
+      (Record::kInverse ? inverseByChirp<T> : forwardByChirp<T>)(*spec.chirp, static_cast<size_t>(spec.len), src, dst, scratch.carver());
+  }
+  return qvxStatOk;
+}
+template <class Record, class T> [[gnu::noinline]] QvxStatus shortTransform(const Record& spec, const T* src, T* dst) {
+  if (spec.way == Way::kRows) {
+    (Record::kInverse ? inverseByRows<T> : forwardByRows<T>)(*spec.rows, static_cast<size_t>(spec.len), src, dst);
+    return qvxStatOk;
+  }
+  alignas(64) Qvx8u room[kWorkOnStack];
+  return transformedIn(Scratch(room, 0), spec, src, dst);
+}
+
+template <class Record, class T> QvxStatus transformed(const Record* spec, const T* src, T* dst, Qvx8u* pBuffer) {
+  const QvxStatus status = check(spec);
+  if (status != qvxStatOk) return status;
+  if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
+  if (spec->way == Way::kKernel) {
+    kKernels<T, Record::kInverse>[static_cast<size_t>(spec->len - 1)](src, dst);
+    return qvxStatOk;
+  }
+  if (spec->len <= kLongestByRows) return shortTransform(*spec, src, dst);
+  return transformedIn(Scratch(pBuffer, spec->workSize), *spec, src, dst);
+}
+
+}  // namespace qvx::dct
+
+// The identities are fixed values of the interface.
+struct QvxsDCTFwdSpec_32f : qvx::dct::Spec<Qvx32f, false, 21> {};
+struct QvxsDCTInvSpec_32f : qvx::dct::Spec<Qvx32f, true, 22> {};
+struct QvxsDCTFwdSpec_64f : qvx::dct::Spec<Qvx64f, false, 23> {};
+struct QvxsDCTInvSpec_64f : qvx::dct::Spec<Qvx64f, true, 24> {};
+static_assert(sizeof(QvxsDCTInvSpec_64f) + qvx::Carver::kRecordAlignment - 1 <= qvx::dct::kSmallSizes.spec);

@@ -1,0 +1,319 @@
+// Up to 100 numbers in q rows of r, r odd, with tables so small that they fit the record that such lengths have: all steps are sums
+// of products, of vectors that run along the spectrum of a row.
+//
+// The spectrum of a row of real numbers at k and -k is conjugate, so h = r/2 columns and the mean are enough. The sum and the
+// difference of the numbers at j and -j meet cosines and sines of 2 pi j k / r. Where r is a prime, columns and numbers
+// stand in the order of the powers of a primitive root: that of the product j k is that of j plus that of k, and each row of the
+// table is the one before moved on by one. Then come transforms down the columns, whose results, k, give cosines k and n - k.
+#pragma once
+
+#include <numeric>
+
+#include "dct/turn.h"
+
+namespace qvx::dct {
+
+inline constexpr int kLongestByRows = 100;
+
+template <class T> struct Rows {
+  uint8_t q, r, h;
+  uint8_t width;           // columns in whole vectors
+  uint8_t step;            // from a number's cosines to the next one's
+  const T* cosines;
+  const T* sines;
+  const T* turns;          // sqrt(2/n) exp(-2 pi i k / (4n)) of each result: a row of real parts, a row of imaginary ones
+  const T* meanTurns;      // of the results made of means, in pairs; the first one's is sqrt(1/n)
+  const T* twiddles;       // as turns, from row 1 on; null where q and r have no common factor
+  const T* roots;          // exp(-2 pi i j / q) in pairs
+  const uint8_t* source;   // of each row: where its number 0 is in the sequence, its numbers j, its numbers -j
+  const uint8_t* results;  // k: row by row, h each, then those made of means
+};
+
+// A large prime factor, or the one below that leaves the fewest rows for the room there is.
+constexpr int rowLength(int n) {
+  int rest = n;
+  for (const int p : {2, 3, 5, 7, 11, 13}) {
+    while (rest % p == 0) rest /= p;
+  }
+  if (rest > 1) return rest;
+  for (const int r : {13, 11, 9, 15, 7, 5, 3}) {
+    if (n % r == 0) return r;
+  }
+  return 1;
+}
+constexpr bool isPrimeRow(int r) { return r != 9 && r != 15; }
+
+// step(L) with the lanes that h columns take.
+template <class T, class Step> void withColumnLanes(size_t h, Step step) {
+  withLanesWithin<T>(std::bit_ceil(h), step);
+}
+
+template <class T> Rows<T> shapeOf(size_t n) {
+  Rows<T> rows = {};
+  const int r = rowLength(static_cast<int>(n));
+  rows.r = static_cast<uint8_t>(r);
+  rows.q = static_cast<uint8_t>(static_cast<int>(n) / r);
+  rows.h = static_cast<uint8_t>(r / 2);
+  withColumnLanes<T>(rows.h, [&](auto L) { rows.width = static_cast<uint8_t>((rows.h + L - 1) / L * L); });
+  rows.step = isPrimeRow(r) ? 1 : rows.width;
+  return rows;
+}
+
+// Numbers of a table of cosines; those past the end of the last one are the next table's.
+template <class T> size_t columnTableLength(const Rows<T>& rows) {
+  return isPrimeRow(rows.r) ? 2 * rows.h - size_t{1} : size_t{rows.h} * rows.width;
+}
+template <class T> bool hasTwiddles(const Rows<T>& rows) { return std::gcd(rows.q, rows.r) > 1; }
+
+template <class T> void writeRows(Rows<T>& rows, size_t n, Carver& tables) {
+  rows = shapeOf<T>(n);
+  const size_t q = rows.q;
+  const size_t r = rows.r;
+  const size_t h = rows.h;
+  const size_t width = rows.width;
+  const auto carve = [&](size_t count) { return tables.take<T>(static_cast<int64_t>(count)); };
+  const size_t length = columnTableLength(rows);
+  T* const cosines = carve(length);
+  T* const sines = carve(length);
+  T* const turns = carve(2 * q * width);
+  T* const meanTurns = carve(2 * q);
+  T* const roots = carve(2 * q);
+  T* const twiddles = hasTwiddles(rows) ? carve(2 * (q - 1) * width) : nullptr;
+  auto* const source = tables.take<uint8_t>(static_cast<int64_t>(n));
+  auto* const results = tables.take<uint8_t>(static_cast<int64_t>(q * (h + 1)));
+  rows.cosines = cosines;
+  rows.sines = sines;
+  rows.turns = turns;
+  rows.meanTurns = meanTurns;
+  rows.roots = roots;
+  rows.twiddles = twiddles;
+  rows.source = source;
+  rows.results = results;
+
+  // The order of numbers and columns: residues of r, one of each pair.
+  uint8_t residue[2 * kLongestByRows];
+  size_t root = 1;
+  if (isPrimeRow(rows.r)) {
+    const auto isPrimitive = [=](size_t g) {
+      size_t power = g;
+      size_t order = 1;
+      for (; power != 1; power = power * g % r) ++order;
+      return order == r - 1;
+    };
+    for (root = 2; !isPrimitive(root);) ++root;
+  }
+  residue[0] = 1;
+  for (size_t i = 1; i < 2 * h; ++i)
+    residue[i] = static_cast<uint8_t>(isPrimeRow(rows.r) ? residue[i - 1] * root % r : (i + 1) % r);
+
+  writeTwiddles(
+      r, length,
+      [&](size_t i) { return isPrimeRow(rows.r) ? size_t{residue[i]} : i % width < h ? (i / width + 1) * (i % width + 1) : 0; },
+      [=](size_t i, double re, double im) {
+        cosines[i] = static_cast<T>(re);
+        sines[i] = static_cast<T>(-im);
+      });
+  writeTwiddles(
+      q, q, [](size_t j) { return j; }, transform::intoPairs(roots));
+
+  const bool isCoprime = !hasTwiddles(rows);
+  const auto placeOf = [=](size_t row, size_t j) {
+    const size_t at = isCoprime ? (row * r + j * q) % n : row + j * q;
+    return static_cast<uint8_t>(2 * at < n ? 2 * at : 2 * (n - at) - 1);
+  };
+  const auto resultOf = [=](size_t row, size_t column) {
+    size_t k = column;
+    while (isCoprime ? k % q != row : k / r != row) k += r;
+    return static_cast<uint8_t>(k);
+  };
+  for (size_t row = 0; row < q; ++row) {
+    uint8_t* at = source + row * r;
+    *at++ = placeOf(row, 0);
+    for (size_t j = 0; j < h; ++j) {
+      at[j] = placeOf(row, residue[j]);
+      at[h + j] = placeOf(row, r - residue[j]);
+      results[row * h + j] = resultOf(row, residue[j]);
+    }
+    results[q * h + row] = resultOf(row, 0);
+  }
+  const double factor = std::sqrt(2 / static_cast<double>(n));
+  writeTwiddles(
+      4 * n, q * width, [=](size_t i) { return i % width < h ? size_t{results[i / width * h + i % width]} : 0; },
+      [=](size_t i, double re, double im) {
+        T* const at = turns + i / width * 2 * width + i % width;
+        at[0] = static_cast<T>(i % width < h ? factor * re : 0);
+        at[width] = static_cast<T>(i % width < h ? factor * im : 0);
+      });
+  writeTwiddles(
+      4 * n, q, [=](size_t i) { return size_t{results[q * h + i]}; },
+      [=](size_t i, double re, double im) {
+        const double f = results[q * h + i] == 0 ? factor * std::sqrt(0.5) : factor;
+        meanTurns[2 * i] = static_cast<T>(f * re);
+        meanTurns[2 * i + 1] = static_cast<T>(f * im);
+      });
+  if (isCoprime) return;
+  writeTwiddles(
+      n, (q - 1) * width, [&](size_t i) { return i % width < h ? (i / width + 1) * residue[i % width] : 0; },
+      [=](size_t i, double re, double im) {
+        T* const at = twiddles + i / width * 2 * width + i % width;
+        at[0] = static_cast<T>(re);
+        at[width] = static_cast<T>(im);
+      });
+}
+
+template <class T> int64_t bytesOfRows(size_t n) {
+  const Rows<T> rows = shapeOf<T>(n);
+  const size_t q = rows.q;
+  const size_t numbers =
+      2 * columnTableLength(rows) + 2 * q * rows.width + 4 * q + (hasTwiddles(rows) ? 2 * (q - 1) * rows.width : 0);
+  return static_cast<int64_t>(numbers * sizeof(T) + n + q * (rows.h + size_t{1}));
+}
+
+// The sum of x[j] * table[j * step + i] over h numbers, in two chains.
+template <class V> QVX_INLINE V columnSum(const LaneOf<V>* x, const LaneOf<V>* table, size_t h, size_t step) {
+  const TagOf<V> d;
+  V sum[] = {hn::Zero(d), hn::Zero(d)};
+  size_t j = 0;
+  for (; j + 2 <= h; j += 2) {
+    sum[0] = hn::MulAdd(same<V>(x[j]), load(d, table + j * step), sum[0]);
+    sum[1] = hn::MulAdd(same<V>(x[j + 1]), load(d, table + (j + 1) * step), sum[1]);
+  }
+  if (j < h) sum[0] = hn::MulAdd(same<V>(x[j]), load(d, table + j * step), sum[0]);
+  return sum[0] + sum[1];
+}
+
+// The sum of z[j] * roots[j k] down q rows, of their conjugates where it is inverse.
+template <bool kInverse, class V>
+QVX_INLINE Complex<V> columnTransform(const Complex<V>* z, size_t q, size_t k, const LaneOf<V>* roots) {
+  Complex<V> sum = z[0];
+  for (size_t j = 1, at = k; j < q; ++j, at = at + k < q ? at + k : at + k - q) {
+    const Complex<V> root{same<V>(roots[2 * at]), same<V>(kInverse ? -roots[2 * at + 1] : roots[2 * at + 1])};
+    sum.re = hn::NegMulAdd(z[j].im, root.im, hn::MulAdd(z[j].re, root.re, sum.re));
+    sum.im = hn::MulAdd(z[j].re, root.im, hn::MulAdd(z[j].im, root.re, sum.im));
+  }
+  return sum;
+}
+
+inline constexpr size_t kMostRows = kLongestByRows / 3;
+inline constexpr size_t kMostNumbers = 128;  // of q rows of whole vectors
+
+template <class T> void forwardByRows(const Rows<T>& rows, size_t n, const T* x, T* y) {
+  const size_t q = rows.q;
+  const size_t h = rows.h;
+  T sums[kLongestByRows / 2];
+  T differences[kLongestByRows / 2];
+  T first[kMostRows];
+  Complex<Vec<Lanes<T, 1>>> means[kMostRows];
+  const Lanes<T, 1> one;
+  const uint8_t* at = rows.source;
+  for (size_t row = 0; row < q; ++row, at += 2 * h) {
+    T mean = first[row] = x[*at++];
+    for (size_t j = 0; j < h; ++j) {
+      const T a = x[at[j]];
+      const T b = x[at[h + j]];
+      sums[row * h + j] = a + b;
+      differences[row * h + j] = a - b;
+      mean += a + b;
+    }
+    means[row] = {hn::Set(one, mean), hn::Zero(one)};
+  }
+  const auto put = [=](size_t k, T re, T im) __attribute__((always_inline)) {
+    if (k > 0) y[n - k] = -im;
+    y[k] = re;
+  };
+  for (size_t row = 0; row < q; ++row) {
+    const auto z = columnTransform<false>(means, q, row, rows.roots);
+    const auto turned =
+        transform::product(z, Complex<Vec<Lanes<T, 1>>>{load(one, rows.meanTurns + 2 * row), load(one, rows.meanTurns + 2 * row + 1)});
+    put(rows.results[q * h + row], hn::GetLane(turned.re), hn::GetLane(turned.im));
+  }
+  withColumnLanes<T>(h, [&](auto L) {
+    using V = Vec<Lanes<T, L>>;
+    const Lanes<T, L> d;
+    const auto column = [=](const T* table) __attribute__((always_inline)) {
+      return Complex<V>{load(d, table), load(d, table + rows.width)};
+    };
+    for (size_t i = 0; i < h; i += L) {
+      Complex<V> z[kMostRows];
+      for (size_t row = 0; row < q; ++row) {
+        z[row] = {same<V>(first[row]) + columnSum<V>(sums + row * h, rows.cosines + i, h, rows.step),
+                  hn::Neg(columnSum<V>(differences + row * h, rows.sines + i, h, rows.step))};
+        if (row > 0 && !isNull(rows.twiddles))
+          z[row] = transform::product(z[row], column(rows.twiddles + (row - 1) * 2 * rows.width + i));
+      }
+      for (size_t row = 0; row < q; ++row) {
+        const auto turned =
+            transform::product(columnTransform<false>(z, q, row, rows.roots), column(rows.turns + row * 2 * rows.width + i));
+        T re[L];
+        T im[L];
+        store(turned.re, d, re);
+        store(turned.im, d, im);
+        const uint8_t* k = rows.results + row * h + i;
+        for (size_t lane = 0; lane < std::min<size_t>(L, h - i); ++lane) put(k[lane], re[lane], im[lane]);
+      }
+    }
+  });
+}
+
+template <class T> void inverseByRows(const Rows<T>& rows, size_t n, const T* y, T* x) {
+  const size_t q = rows.q;
+  const size_t h = rows.h;
+  T re[kMostNumbers];
+  T im[kMostNumbers];
+  T means[kMostRows];
+  T firsts[kMostRows];
+  const Lanes<T, 1> one;
+  Complex<Vec<Lanes<T, 1>>> ends[kMostRows];
+  for (size_t row = 0; row < q; ++row) {
+    const size_t k = rows.results[q * h + row];
+    // Results k and n - k are both here.
+    const T f = k == 0 ? T(1) : T(0.5);
+    const Complex<Vec<Lanes<T, 1>>> z{hn::Set(one, f * y[k]), hn::Set(one, k == 0 ? T(0) : -f * y[n - k])};
+    ends[row] =
+        productWithConjugate(z, Complex<Vec<Lanes<T, 1>>>{load(one, rows.meanTurns + 2 * row), load(one, rows.meanTurns + 2 * row + 1)});
+  }
+  for (size_t row = 0; row < q; ++row) firsts[row] = means[row] = hn::GetLane(columnTransform<true>(ends, q, row, rows.roots).re);
+  T sequence[kLongestByRows];
+  withColumnLanes<T>(h, [&](auto L) {
+    using V = Vec<Lanes<T, L>>;
+    const Lanes<T, L> d;
+    const size_t width = rows.width;
+    const auto column = [=](const T* table) __attribute__((always_inline)) {
+      return Complex<V>{load(d, table), load(d, table + width)};
+    };
+    for (size_t i = 0; i < h; i += L) {
+      Complex<V> z[kMostRows];
+      for (size_t row = 0; row < q; ++row) {
+        T a[L] = {};
+        T b[L] = {};
+        const uint8_t* k = rows.results + row * h + i;
+        for (size_t lane = 0; lane < std::min<size_t>(L, h - i); ++lane) {
+          a[lane] = y[k[lane]];
+          b[lane] = -y[n - k[lane]];
+        }
+        z[row] = productWithConjugate(Complex<V>{load(d, a), load(d, b)}, column(rows.turns + row * 2 * width + i));
+      }
+      for (size_t row = 0; row < q; ++row) {
+        auto w = columnTransform<true>(z, q, row, rows.roots);
+        if (row > 0 && !isNull(rows.twiddles)) w = productWithConjugate(w, column(rows.twiddles + (row - 1) * 2 * width + i));
+        store(w.re, d, re + row * width + i);
+        store(w.im, d, im + row * width + i);
+      }
+    }
+    for (size_t row = 0; row < q; ++row) {
+      for (size_t j = 0; j < h; ++j) firsts[row] += re[row * width + j];
+      T* const to = sequence + row * rows.r;
+      to[0] = firsts[row];
+      for (size_t i = 0; i < h; i += L) {
+        const V even = same<V>(means[row]) + columnSum<V>(re + row * width, rows.cosines + i, h, rows.step);
+        const V odd = columnSum<V>(im + row * width, rows.sines + i, h, rows.step);
+        const size_t count = std::min<size_t>(L, h - i);
+        storeFirst(even - odd, d, to + 1 + i, count);
+        storeFirst(even + odd, d, to + 1 + h + i, count);
+      }
+    }
+  });
+  for (size_t j = 0; j < n; ++j) x[rows.source[j]] = sequence[j];
+}
+
+}  // namespace qvx::dct

@@ -1,0 +1,261 @@
+// Complex transforms of any length: what complex_32f.cpp and complex_64f.cpp compile.
+#pragma once
+
+#include "dft/plan.h"
+#include "dft/sizes.h"
+#include "fft/record.h"
+
+namespace qvx::dft {
+
+template <class T> Factors<T> factorsOf(uint32_t n, int flag) {
+  const T all = static_cast<T>(n);
+  const T factor = flag == QVX_FFT_SCALE_BOTH_SQRT ? fft::reciprocalRoot(all) : 1 / all;
+  return {flag == QVX_FFT_SCALE_FWD || flag == QVX_FFT_SCALE_BOTH_SQRT ? factor : 1,
+          flag == QVX_FFT_SCALE_INV || flag == QVX_FFT_SCALE_BOTH_SQRT ? factor : 1};
+}
+
+// ---- The library's own transforms of powers of two, in memory that is brought
+
+template <class T> struct Fft;
+template <> struct Fft<float> {
+  static constexpr auto kGetSize = qvxsFFTGetSize_C_32fc;
+  static constexpr auto kInit = qvxsFFTInit_C_32fc;
+  static constexpr auto kForward = qvxsFFTFwd_CToC_32fc;
+  static constexpr auto kInverse = qvxsFFTInv_CToC_32fc;
+  static constexpr auto kInitApart = qvxsFFTInit_C_32f;
+  static constexpr auto kForwardApart = qvxsFFTFwd_CToC_32f;
+  static constexpr auto kInverseApart = qvxsFFTInv_CToC_32f;
+};
+template <> struct Fft<double> {
+  static constexpr auto kGetSize = qvxsFFTGetSize_C_64fc;
+  static constexpr auto kInit = qvxsFFTInit_C_64fc;
+  static constexpr auto kForward = qvxsFFTFwd_CToC_64fc;
+  static constexpr auto kInverse = qvxsFFTInv_CToC_64fc;
+  static constexpr auto kInitApart = qvxsFFTInit_C_64f;
+  static constexpr auto kForwardApart = qvxsFFTFwd_CToC_64f;
+  static constexpr auto kInverseApart = qvxsFFTInv_CToC_64f;
+};
+
+template <class T> Bytes bytesOfFft(uint32_t n) {
+  int spec = 0;
+  int init = 0;
+  int work = 0;
+  Fft<T>::kGetSize(std::countr_zero(n), QVX_FFT_SCALE_NONE, 0, &spec, &init, &work);
+  return {spec, work};
+}
+// No transform of the library's uses the memory that its making is brought; it tests that there is some.
+template <class T, class Spec> void makeFft(Spec*& spec, QvxStatus (*init)(Spec**, int, int, int, Qvx8u*, Qvx8u*), uint32_t n, int flag, uint8_t* block) {
+  init(&spec, std::countr_zero(n), flag, 0, block, block);
+}
+
+// ---- Convolution
+
+template <class T> constexpr int64_t bytesOfPoints(int64_t n) { return n * 2 * static_cast<int64_t>(sizeof(T)); }
+
+template <class T> Bytes choose(ConvolutionPlan<T>& plan, uint32_t n) {
+  const uint32_t length = convolutionLength(n);
+  plan.length = length;
+  Bytes bytes = {bytesOfPoints<T>(int64_t{n} + length) + 3 * Carver::kLine, bytesOfPoints<T>(length) + Carver::kLine};
+  if (std::has_single_bit(length)) {
+    const Bytes fft = bytesOfFft<T>(length);
+    return {bytes.tables + fft.tables, bytes.work + fft.work - fft::kWorkSlack};
+  }
+  MixedPlanner<T>().plan(length, plan.mixed);
+  return {bytes.tables + static_cast<int64_t>(tableLength(plan.mixed) * sizeof(T)), bytes.work + bytesOfPoints<T>(length)};
+}
+
+// The points of a convolution, and room for a transform: y is in its place, and where it leaves its results becomes y.
+template <class T> struct ConvolutionWork {
+  Planes<T> y;
+  Planes<T> other;
+  uint8_t* rest;
+
+  ConvolutionWork(const ConvolutionPlan<T>& plan, uint8_t* work) {
+    const auto length = static_cast<int64_t>(plan.length);
+    Carver carver(work, Carver::kLine);
+    T* const re = carver.take<T>(length);
+    y = planes(re, carver.take<T>(length));
+    rest = carver.rest();
+    auto* const next = reinterpret_cast<T*>(rest);
+    other = planes(next, next + length);
+  }
+  void transform(const ConvolutionPlan<T>& plan) {
+    if (!isNull(plan.fft)) {
+      Fft<T>::kForwardApart(y.re, y.im, y.re, y.im, plan.fft, rest);
+    } else if (plan.mixed.count % 2 == 0) {
+      runMixed(plan.mixed, asConst(y), y, other, y, T(1));
+    } else {
+      runMixed(plan.mixed, asConst(y), other, y, other, T(1));
+      std::swap(y, other);
+    }
+  }
+  void exchangeParts() {
+    std::swap(y.re, y.im);
+    std::swap(other.re, other.im);
+  }
+};
+
+template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_t* block, uint8_t* work) {
+  const size_t length = plan.length;
+  Carver carver(block, Carver::kLine);
+  T* const chirp = carver.take<T>(2 * int64_t{n});
+  T* const spectrum = carver.takeLines<T>(2 * static_cast<int64_t>(length));
+  if (std::has_single_bit(plan.length)) makeFft<T>(plan.fft, Fft<T>::kInitApart, plan.length, QVX_FFT_SCALE_NONE, carver.rest());
+  else writeMixed<Planes<T>>(plan.mixed, reinterpret_cast<T*>(carver.rest()));
+  // exp(-pi i k^2 / n): k^2 mod 2n never exceeds 2^55.
+  writeTwiddles(
+      2 * size_t{n}, n, [n](size_t k) { return k * k % (2 * size_t{n}); },
+      [=](size_t k, double re, double im) {
+        chirp[k] = static_cast<T>(re);
+        chirp[n + k] = static_cast<T>(im);
+      });
+  plan.chirp = chirp;
+  plan.spectrum = spectrum;
+  ConvolutionWork<T> points(plan, work);
+  const T factor = 1 / static_cast<T>(length);
+  std::fill_n(points.y.re, length, T(0));
+  std::fill_n(points.y.im, length, T(0));
+  for (size_t k = 0; k < n; ++k) {
+    for (const size_t at : {k, (length - k) % length}) {
+      points.y.re[at] = chirp[k] * factor;
+      points.y.im[at] = -chirp[n + k] * factor;
+    }
+  }
+  points.transform(plan);
+  std::copy_n(points.y.re, length, spectrum);
+  std::copy_n(points.y.im, length, spectrum + length);
+}
+
+template <class T> void convolve(const ConvolutionPlan<T>& plan, uint32_t n, Strided<const T> src, Strided<T> dst, T factor, uint8_t* work) {
+  const size_t length = plan.length;
+  ConvolutionWork<T> points(plan, work);
+  const T* re = plan.chirp;
+  const T* im = re + n;
+  for (size_t k = 0; k < n; ++k) {
+    const T a = src.re[k * src.step];
+    const T b = src.im[k * src.step];
+    points.y.re[k] = a * re[k] - b * im[k];
+    points.y.im[k] = a * im[k] + b * re[k];
+  }
+  std::fill(points.y.re + n, points.y.re + length, T(0));
+  std::fill(points.y.im + n, points.y.im + length, T(0));
+  points.transform(plan);
+  const T* sre = plan.spectrum;
+  const T* sim = sre + length;
+  for (size_t k = 0; k < length; ++k) {
+    const T a = points.y.re[k];
+    const T b = points.y.im[k];
+    points.y.re[k] = a * sre[k] - b * sim[k];
+    points.y.im[k] = a * sim[k] + b * sre[k];
+  }
+  points.exchangeParts();
+  points.transform(plan);
+  points.exchangeParts();
+  for (size_t k = 0; k < n; ++k) {
+    const T a = points.y.re[k];
+    const T b = points.y.im[k];
+    dst.re[k * dst.step] = (a * re[k] - b * im[k]) * factor;
+    dst.im[k * dst.step] = (a * im[k] + b * re[k]) * factor;
+  }
+}
+
+// ---- Any length
+
+template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, int flag) {
+  plan.n = n;
+  plan.isApart = isApart;
+  const auto factors = factorsOf<T>(n, flag);
+  plan.forwardFactor = factors.forward;
+  plan.inverseFactor = factors.inverse;
+  if (std::has_single_bit(n)) {
+    plan.way = Way::kFft;
+    return bytesOfFft<T>(n);
+  }
+  if (n <= kMostSmall || (n <= kMostDirect && isPrime(n))) {
+    plan.way = Way::kDirect;
+    return chooseDirect(plan.direct, n, false);
+  }
+  MixedPlanner<T> planner;
+  if (planner.plan(n, plan.mixed)) {
+    plan.way = Way::kFactors;
+    return {static_cast<int64_t>(tableLength(plan.mixed) * sizeof(T)), bytesOfPoints<T>(n) + Carver::kLine};
+  }
+  plan.way = Way::kConvolution;
+  return choose(plan.convolution, n);
+}
+
+template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* block, uint8_t* work) {
+  switch (plan.way) {
+    case Way::kFft:
+      if (plan.isApart) makeFft<T>(plan.splitFft, Fft<T>::kInitApart, plan.n, flag, block);
+      else makeFft<T>(plan.fft, Fft<T>::kInit, plan.n, flag, block);
+      break;
+    case Way::kDirect:
+      writeDirect(plan.direct, false, block);
+      break;
+    case Way::kFactors:
+      if (plan.isApart) writeMixed<Planes<T>>(plan.mixed, reinterpret_cast<T*>(block));
+      else writeMixed<Conjugable<T>>(plan.mixed, reinterpret_cast<T*>(block));
+      break;
+    case Way::kConvolution:
+      return writeTables(plan.convolution, plan.n, block, work);
+  }
+}
+
+template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T* src, T* dst, uint8_t* work) {
+  using C = typename FftOf<T>::C;
+  const T factor = isInverse ? plan.inverseFactor : plan.forwardFactor;
+  const size_t n = plan.n;
+  switch (plan.way) {
+    case Way::kFft:
+      (isInverse ? Fft<T>::kInverse : Fft<T>::kForward)(reinterpret_cast<const C*>(src), reinterpret_cast<C*>(dst), plan.fft, work);
+      return;
+    case Way::kDirect:
+      return small(plan.direct, isInverse, src, dst, factor);
+    case Way::kConvolution:
+      return convolve(plan.convolution, plan.n, Strided<const T>{src + isInverse, src + !isInverse, 2},
+                      Strided<T>{dst + isInverse, dst + !isInverse, 2}, factor, work);
+    case Way::kFactors:
+      break;
+  }
+  const T sign = isInverse ? T(-0.0) : T(0);
+  T* const y = Carver(work, Carver::kLine).template take<T>(0);
+  const Conjugable<const T> points = {src, sign};
+  const Planes<T> own = planes(y, y + n);
+  const Planes<T> theirs = planes(dst, dst + n);
+  if (src != dst || plan.mixed.count % 2 == 0) return runMixed(plan.mixed, points, Conjugable<T>{dst, sign}, own, theirs, factor);
+  runMixed(plan.mixed, points, Conjugable<T>{y, sign}, theirs, own, factor);
+  std::copy_n(y, 2 * n, dst);
+}
+
+template <class T>
+void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, uint8_t* work) {
+  const T factor = isInverse ? plan.inverseFactor : plan.forwardFactor;
+  if (plan.way == Way::kFft) {
+    (isInverse ? Fft<T>::kInverseApart : Fft<T>::kForwardApart)(srcRe, srcIm, dstRe, dstIm, plan.splitFft, work);
+    return;
+  }
+  if (isInverse) {
+    std::swap(srcRe, srcIm);
+    std::swap(dstRe, dstIm);
+  }
+  if (plan.way == Way::kConvolution) return convolve(plan.convolution, plan.n, {srcRe, srcIm, 1}, {dstRe, dstIm, 1}, factor, work);
+  const size_t n = plan.n;
+  if (plan.way == Way::kDirect) {
+    T points[2 * kMostDirect];
+    for (size_t i = 0; i < n; ++i) points[2 * i] = srcRe[i], points[2 * i + 1] = srcIm[i];
+    small(plan.direct, false, points, points, factor);
+    for (size_t i = 0; i < n; ++i) dstRe[i] = points[2 * i], dstIm[i] = points[2 * i + 1];
+    return;
+  }
+  T* const y = Carver(work, Carver::kLine).template take<T>(0);
+  const Planes<T> own = planes(y, y + n);
+  const Planes<T> theirs = planes(dstRe, dstIm);
+  const bool isInPlace = srcRe == dstRe || srcIm == dstIm || srcRe == dstIm || srcIm == dstRe;
+  if (!isInPlace || plan.mixed.count % 2 == 0) return runMixed(plan.mixed, planes(srcRe, srcIm), theirs, own, theirs, factor);
+  runMixed(plan.mixed, planes(srcRe, srcIm), own, theirs, own, factor);
+  std::copy_n(own.re, n, dstRe);
+  std::copy_n(own.im, n, dstIm);
+}
+
+}  // namespace qvx::dft

@@ -1,0 +1,91 @@
+// Transforms of any number of points: by which way a length goes, its tables, and its run.
+#pragma once
+
+#include "dft/direct.h"
+
+namespace qvx::dft {
+
+using namespace transform;
+
+enum class Way : uint8_t {
+  kFactors,      // passes by factors
+  kFft,          // a power of two
+  kDirect,       // the definition: few points
+  kConvolution,  // a chirp
+};
+
+template <class T> struct FftOf;
+template <> struct FftOf<float> {
+  using C = Qvx32fc;
+  using Spec = QvxsFFTSpec_C_32fc;
+  using SplitSpec = QvxsFFTSpec_C_32f;
+};
+template <> struct FftOf<double> {
+  using C = Qvx64fc;
+  using Spec = QvxsFFTSpec_C_64fc;
+  using SplitSpec = QvxsFFTSpec_C_64f;
+};
+
+// A chirp turns the transform into a circular convolution of a length with good factors.
+template <class T> struct ConvolutionPlan {
+  uint32_t length;
+  typename FftOf<T>::SplitSpec* fft;  // null where `mixed` serves
+  MixedPlan<T> mixed;
+  const T* chirp;     // n real parts, n imaginary ones
+  const T* spectrum;  // of its conjugate, divided by the length
+};
+
+template <class T> struct ComplexPlan {
+  uint32_t n;
+  Way way;
+  bool isApart;
+  T forwardFactor;
+  T inverseFactor;
+  typename FftOf<T>::Spec* fft;            // of interleaved points
+  typename FftOf<T>::SplitSpec* splitFft;  // of points whose parts stand apart
+  MixedPlan<T> mixed;
+  DirectPlan<T> direct;
+  ConvolutionPlan<T> convolution;
+};
+
+// How a transform of n points goes. isApart: real and imaginary parts stand in vectors of their own. flag: one of QVX_FFT_SCALE_.
+// Powers of two up to what the fast transform takes; other lengths below 2^27.
+template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, int flag);
+// Completes a chosen plan. block, work: of the bytes that were told, any alignment.
+template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* block, uint8_t* work);
+
+// work: of the bytes that were told, any alignment. src may be dst. Interleaved points:
+template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T* src, T* dst, uint8_t* work);
+// Parts that stand apart:
+template <class T>
+void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, uint8_t* work);
+
+template <class T> struct RealFftOf;
+template <> struct RealFftOf<float> { using Spec = QvxsFFTSpec_R_32f; };
+template <> struct RealFftOf<double> { using Spec = QvxsFFTSpec_R_64f; };
+
+// Of n real numbers: half as many complex ones where n is even.
+template <class T> struct RealPlan {
+  uint32_t n;
+  T forwardFactor;
+  T inverseFactor;
+  Way way;  // kFactors: through complex points
+  typename RealFftOf<T>::Spec* fft;
+  DirectPlan<T> direct;
+  ComplexPlan<T> complex;
+  const T* recombination;  // of k = 1 .. n/4: all 0.5 cos, then all 0.5 - 0.5 sin of 2 pi k / n
+};
+template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag);
+template <class T> void writeTables(RealPlan<T>& plan, int flag, uint8_t* block, uint8_t* work);
+// src and dst may be the same.
+template <class T> void forward(const RealPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst, uint8_t* work);
+template <class T> void inverse(const RealPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst, uint8_t* work);
+
+// The factors that a flag stands for.
+template <class T> struct Factors {
+  T forward;
+  T inverse;
+};
+template <class T> Factors<T> factorsOf(uint32_t n, int flag);
+
+}  // namespace qvx::dft

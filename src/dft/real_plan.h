@@ -1,0 +1,182 @@
+// Real transforms of any length: what real_32f.cpp and real_64f.cpp compile.
+#pragma once
+
+#include <cstring>
+
+#include "dft/plan.h"
+#include "transform/real_transform.h"
+
+namespace qvx::dft {
+
+template <class T> struct RealFft;
+template <> struct RealFft<float> {
+  static constexpr auto kGetSize = qvxsFFTGetSize_R_32f;
+  static constexpr auto kInit = qvxsFFTInit_R_32f;
+  static constexpr decltype(&qvxsFFTFwd_RToPerm_32f) kForward[] = {qvxsFFTFwd_RToPerm_32f, qvxsFFTFwd_RToPack_32f, qvxsFFTFwd_RToCCS_32f};
+  static constexpr decltype(&qvxsFFTFwd_RToPerm_32f) kInverse[] = {qvxsFFTInv_PermToR_32f, qvxsFFTInv_PackToR_32f, qvxsFFTInv_CCSToR_32f};
+};
+template <> struct RealFft<double> {
+  static constexpr auto kGetSize = qvxsFFTGetSize_R_64f;
+  static constexpr auto kInit = qvxsFFTInit_R_64f;
+  static constexpr decltype(&qvxsFFTFwd_RToPerm_64f) kForward[] = {qvxsFFTFwd_RToPerm_64f, qvxsFFTFwd_RToPack_64f, qvxsFFTFwd_RToCCS_64f};
+  static constexpr decltype(&qvxsFFTFwd_RToPerm_64f) kInverse[] = {qvxsFFTInv_PermToR_64f, qvxsFFTInv_PackToR_64f, qvxsFFTInv_CCSToR_64f};
+};
+
+// Pairs k .. k + L - 1 and h - k .. of a spectrum and of the points it comes from (recombine.h). c, d: of k = 1 on.
+template <size_t L, bool kInverse, class T>
+QVX_INLINE void recombineAt(const T* src, T* dst, size_t h, size_t k, const T* c, const T* d) {
+  using V = Vec<Lanes<T, L>>;
+  const auto turned = [](Complex<V> z) __attribute__((always_inline)) {
+    if constexpr (L == 1) return z;
+    else return Complex<V>{reversed(z.re), reversed(z.im)};
+  };
+  const auto get = [=](size_t at) __attribute__((always_inline)) {
+    const Lanes<T, L> tag;
+    if constexpr (L == 1) return Complex<V>{load(tag, src + 2 * at), load(tag, src + 2 * at + 1)};
+    else return Interleaved<const T, false>{src}.template getInOrder<L>(at);
+  };
+  const auto put = [=](Complex<V> z, size_t at) __attribute__((always_inline)) {
+    const Lanes<T, L> tag;
+    if constexpr (L == 1) store(z.re, tag, dst + 2 * at), store(z.im, tag, dst + 2 * at + 1);
+    else Interleaved<T, false>{dst}.template putInOrder<L>(z, at);
+  };
+  const Lanes<T, L> tag;
+  Complex<V> a = get(k);
+  Complex<V> b = turned(get(h - k - L + 1));
+  transform::recombine<V, kInverse>(a, b, Complex<V>{load(tag, c + k - 1), load(tag, d + k - 1)});
+  put(a, k);
+  put(turned(b), h - k - L + 1);
+}
+
+template <bool kInverse, class T> void recombinePairs(const T* src, T* dst, size_t h, const T* c, const T* d) {
+  constexpr size_t L = kWidest<T>;
+  constexpr size_t M = std::min<size_t>(4, L);
+  const size_t pairs = (h - 1) / 2;
+  size_t k = 1;
+  for (; k + L <= pairs + 1; k += L) recombineAt<L, kInverse>(src, dst, h, k, c, d);
+  for (; k + M <= pairs + 1; k += M) recombineAt<M, kInverse>(src, dst, h, k, c, d);
+  for (; k <= pairs; ++k) recombineAt<1, kInverse>(src, dst, h, k, c, d);
+  if (h % 2 != 0 || h == 0) return;
+  dst[h] = src[h];
+  dst[h + 1] = -src[h + 1];
+}
+
+// Up to here the definition was measured to be faster.
+template <class T> inline constexpr uint32_t kMostDirectReal = std::max<uint32_t>(16, 2 * kWidest<T>);
+
+template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
+  plan.n = n;
+  const auto factors = factorsOf<T>(n, flag);
+  plan.forwardFactor = factors.forward;
+  plan.inverseFactor = factors.inverse;
+  plan.way = Way::kFactors;
+  if (std::has_single_bit(n)) {
+    plan.way = Way::kFft;
+    int spec = 0;
+    int init = 0;
+    int work = 0;
+    RealFft<T>::kGetSize(std::countr_zero(n), flag, 0, &spec, &init, &work);
+    return {spec, work};
+  }
+  if (n <= kMostDirectReal<T> || (n <= kMostDirect && isPrime(n))) {
+    plan.way = Way::kDirect;
+    return chooseDirect(plan.direct, n, true);
+  }
+  Bytes bytes = choose(plan.complex, n % 2 == 0 ? n / 2 : n, false, QVX_FFT_SCALE_NONE);
+  if (n % 2 == 0) bytes.tables += (n + 3) / 4 * 2 * static_cast<int64_t>(sizeof(T)) + Carver::kLine;
+  else bytes.work += 2 * int64_t{n} * static_cast<int64_t>(sizeof(T)) + Carver::kLine;
+  plan.complex.forwardFactor = factors.forward;
+  plan.complex.inverseFactor = n % 2 == 0 ? 2 * factors.inverse : factors.inverse;
+  return bytes;
+}
+
+template <class T> void writeTables(RealPlan<T>& plan, int flag, uint8_t* block, uint8_t* work) {
+  const size_t n = plan.n;
+  if (plan.way == Way::kDirect) return writeDirect(plan.direct, true, block);
+  if (plan.way == Way::kFft) {
+    RealFft<T>::kInit(&plan.fft, std::countr_zero(n), flag, 0, block, block);
+    return;
+  }
+  Carver carver(block, Carver::kLine);
+  if (n % 2 == 0) {
+    const size_t count = (n + 3) / 4;
+    T* const c = carver.take<T>(static_cast<int64_t>(2 * count));
+    plan.recombination = c;
+    writeTwiddles(
+        n, count, [](size_t i) { return i + 1; },
+        [=](size_t i, double re, double im) {
+          c[i] = static_cast<T>(0.5 * re);
+          c[count + i] = static_cast<T>(0.5 + 0.5 * im);
+        });
+  }
+  writeTables(plan.complex, QVX_FFT_SCALE_NONE, carver.rest(), work);
+}
+
+template <class T> void forward(const RealPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst, uint8_t* work) {
+  const size_t n = plan.n;
+  if (plan.way == Way::kDirect) return directForward(plan.direct, layout, src, dst, plan.forwardFactor);
+  if (plan.way == Way::kFft) {
+    RealFft<T>::kForward[static_cast<int>(layout)](src, dst, plan.fft, work);
+    return;
+  }
+  if (n % 2 == 0) {
+    run(plan.complex, false, src, dst, work);
+    const T even = dst[0];
+    const T odd = dst[1];
+    dst[0] = even + odd;
+    dst[1] = even - odd;
+    const T* c = plan.recombination;
+    recombinePairs<false>(dst, dst, n / 2, c, c + (n + 3) / 4);
+    if (layout == SpectrumLayout::kPack) fromPerm<SpectrumLayout::kPack>(dst, n);
+    if (layout == SpectrumLayout::kCcs) fromPerm<SpectrumLayout::kCcs>(dst, n);
+    return;
+  }
+  Carver carver(work, Carver::kLine);
+  T* const points = carver.take<T>(static_cast<int64_t>(2 * n));
+  for (size_t i = 0; i < n; ++i) {
+    points[2 * i] = src[i];
+    points[2 * i + 1] = 0;
+  }
+  run(plan.complex, false, points, points, carver.rest());
+  dst[0] = points[0];
+  if (layout == SpectrumLayout::kCcs) dst[1] = 0;
+  std::copy_n(points + 2, n - 1, dst + placeOfPair(layout, n, 1));
+}
+
+template <class T> void inverse(const RealPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst, uint8_t* work) {
+  const size_t n = plan.n;
+  if (plan.way == Way::kDirect) return directInverse(plan.direct, layout, src, dst, plan.inverseFactor);
+  if (plan.way == Way::kFft) {
+    RealFft<T>::kInverse[static_cast<int>(layout)](src, dst, plan.fft, work);
+    return;
+  }
+  if (n % 2 == 0) {
+    const T nyquist = src[placeOfMiddle(layout, n)];
+    const T mean = src[0];
+    if (layout == SpectrumLayout::kPack) {
+      std::memmove(dst + 2, src + 1, (n - 2) * sizeof(T));
+      src = dst;
+    }
+    const T* c = plan.recombination;
+    recombinePairs<true>(src, dst, n / 2, c, c + (n + 3) / 4);
+    dst[0] = T(0.5) * (mean + nyquist);
+    dst[1] = T(0.5) * (mean - nyquist);
+    run(plan.complex, true, dst, dst, work);
+    return;
+  }
+  Carver carver(work, Carver::kLine);
+  T* const points = carver.take<T>(static_cast<int64_t>(2 * n));
+  const T* pairs = src + placeOfPair(layout, n, 1);
+  points[0] = src[0];
+  points[1] = 0;
+  for (size_t k = 1; k <= n / 2; ++k, pairs += 2) {
+    points[2 * k] = pairs[0];
+    points[2 * k + 1] = pairs[1];
+    points[2 * (n - k)] = pairs[0];
+    points[2 * (n - k) + 1] = -pairs[1];
+  }
+  run(plan.complex, true, points, points, carver.rest());
+  for (size_t i = 0; i < n; ++i) dst[i] = points[2 * i];
+}
+
+}  // namespace qvx::dft

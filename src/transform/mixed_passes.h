@@ -1,0 +1,261 @@
+// The passes of a transform of N = R * m * s points by factors of any kind, each out of place, which leave no order to restore:
+//
+//   first pass    s = 1: transforms R points, m apart, over whole vectors of neighbours, turns the results by twiddles, and
+//                 transposes them: result j of column p goes to R * p + j
+//   middle pass   the points p + m * k, each a run of s neighbours, to the runs R * p + j, turned by one twiddle a run
+//   last pass     m = 1: the same without twiddles, in natural order, to where results belong
+//
+// s grows by each pass's radix. A vector that a run does not fill goes over its last elements again, or, where the run is shorter
+// than a vector, on into the next run, which is written later; at the end of all it is cut off.
+#pragma once
+
+#include "transform/odd_butterfly.h"
+#include "transform/passes.h"
+
+namespace qvx::transform {
+
+// The first n lanes without a look at where they end: in line, where many stand in a row.
+template <class D> QVX_INLINE Vec<D> firstLanes(D d, const hn::TFromD<D>* p, size_t n) {
+  if constexpr (qvx::detail::kMasked<hn::TFromD<D>, hn::MaxLanes(D()) * sizeof(hn::TFromD<D>)>) return hn::MaskedLoad(hn::FirstN(d, n), d, p);
+  else return loadFirst(d, p, n);
+}
+template <class D> QVX_INLINE void putFirstLanes(Vec<D> v, D d, hn::TFromD<D>* p, size_t n) {
+  if constexpr (qvx::detail::kMasked<hn::TFromD<D>, hn::MaxLanes(D()) * sizeof(hn::TFromD<D>)>) hn::BlendedStore(v, hn::FirstN(d, n), d, p);
+  else storeFirst(v, d, p, n);
+}
+
+// Points in two planes.
+template <class T> struct Planes : Split<T> {
+  using Lane = std::remove_const_t<T>;
+
+  template <size_t L> QVX_INLINE auto getFirst(size_t at, size_t n) const {
+    const Lanes<Lane, L> d;
+    return Complex<Vec<Lanes<Lane, L>>>{firstLanes(d, this->re + at, n), firstLanes(d, this->im + at, n)};
+  }
+  template <size_t L, class V> QVX_INLINE void putFirst(Complex<V> z, size_t at, size_t n) const {
+    putFirstLanes(z.re, TagOf<V>(), this->re + at, n);
+    putFirstLanes(z.im, TagOf<V>(), this->im + at, n);
+  }
+  Planes from(size_t at) const { return {{this->re + at, this->im + at}}; }
+};
+template <class T> Planes<T> planes(T* re, T* im) { return {{re, im}}; }
+template <class T> Planes<const T> asConst(Planes<T> p) { return {{p.re, p.im}}; }
+
+// Interleaved points, conjugate if `sign` is -0: so an inverse transform is a forward one, by the same code.
+template <class T> struct Conjugable {
+  using Lane = std::remove_const_t<T>;
+  T* p;
+  Lane sign;
+
+  template <size_t L> static constexpr size_t element(size_t lane) { return Interleaved<T, false>::template element<L>(lane); }
+  template <class V> QVX_INLINE V turned(V im) const { return hn::Xor(im, same<V>(sign)); }
+  template <size_t L> QVX_INLINE auto get(size_t at) const {
+    auto z = Interleaved<T, false>{p}.template get<L>(at);
+    z.im = turned(z.im);
+    return z;
+  }
+  template <size_t L> QVX_INLINE auto getFirst(size_t at, size_t n) const {
+    const Lanes<Lane, L> d;
+    const size_t low = std::min(2 * n, L);
+    auto z = evenAndOdd(firstLanes(d, p + 2 * at, low), firstLanes(d, p + 2 * at + low, 2 * n - low));
+    z.im = turned(z.im);
+    return z;
+  }
+  template <size_t L, class V> QVX_INLINE void putInOrder(Complex<V> z, size_t at) const {
+    Interleaved<T, false>{p}.template putInOrder<L>(Complex<V>{z.re, turned(z.im)}, at);
+  }
+  template <size_t L, class V> QVX_INLINE void putFirst(Complex<V> z, size_t at, size_t n) const {
+    const auto both = interleaved(Pair<V>{z.re, turned(z.im)});
+    const size_t low = std::min(2 * n, L);
+    putFirstLanes(both.lo, TagOf<V>(), p + 2 * at, low);
+    putFirstLanes(both.hi, TagOf<V>(), p + 2 * at + low, 2 * n - low);
+  }
+  Conjugable from(size_t at) const { return {p + 2 * at, sign}; }
+};
+
+// Rows of R numbers from R vectors, whose lane i belongs to row element(i); `rows` of them. Rows are written in their order, and
+// of each what is nearer to its end first, since a vector may run on into the next row.
+template <size_t L, class Src, size_t R, class V, class Part>
+QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, size_t rows, bool isEnd) {
+  constexpr size_t kChunks = (R + L - 1) / L;
+  unrolled<kChunks>([&](auto c) __attribute__((always_inline)) {
+    constexpr size_t at = (kChunks - 1 - c) * L;
+    constexpr size_t kWide = std::min(L, R - at);
+    V r[L];
+    unrolled<L>([&](auto i) __attribute__((always_inline)) { r[i] = x[at + std::min<size_t>(i, kWide - 1)].*part; });
+    transpose(r);
+    const TagOf<V> d;
+    const auto rowOf = [](size_t row) {
+      size_t lane = 0;
+      while (Src::template element<L>(lane) != row) ++lane;
+      return lane;
+    };
+    if ((kHasMasks && kWide < L) || isEnd) {
+      unrolled<L>([&](auto i) __attribute__((always_inline)) {
+        constexpr size_t lane = rowOf(i);
+        if (i < rows) putFirstLanes(r[lane], d, to + i * R + at, kWide);
+      });
+    } else {
+      unrolled<L>([&](auto i) __attribute__((always_inline)) {
+        constexpr size_t lane = rowOf(i);
+        store(r[lane], d, to + i * R + at);
+      });
+    }
+  });
+}
+
+// twiddles: for each vector of columns and each j = 1..R-1 a group, its lanes in the order of the source's elements.
+template <size_t R, size_t L, class T, class Src>
+[[gnu::noinline]] void firstMixedPass(Src src, Planes<T> y, size_t m, const T* twiddles) {
+  using V = Vec<Lanes<T, L>>;
+  const size_t wide = std::min(m, L);
+  for (size_t begin = 0; begin < m; begin += L, twiddles += (R - 1) * 2 * L) {
+    const bool isEnd = begin + L >= m;
+    const size_t p = isEnd ? m - wide : begin;
+    Complex<V> x[R];
+    if (wide == L) unrolled<R>([&](auto k) __attribute__((always_inline)) { x[k] = src.template get<L>(p + k * m); });
+    else unrolled<R>([&](auto k) __attribute__((always_inline)) { x[k] = src.template getFirst<L>(p + k * m, wide); });
+    anyDft(x);
+    unrolled<R - 1>([&](auto j) __attribute__((always_inline)) { x[j + 1] = product(x[j + 1], group<L>(twiddles + j * 2 * L)); });
+    storeRows<L, Src>(x, &Complex<V>::re, y.re + p * R, wide, isEnd);
+    storeRows<L, Src>(x, &Complex<V>::im, y.im + p * R, wide, isEnd);
+  }
+}
+
+// twiddles: for each p, for j = 1..R-1 exp(-2 pi i p j / (R * m)).
+template <size_t R, size_t L, class T>
+[[gnu::noinline]] void middleMixedPass(Planes<const T> x, Planes<T> y, size_t s, size_t m, const T* twiddles) {
+  using V = Vec<Lanes<T, L>>;
+  for (size_t p = 0; p < m; ++p, twiddles += (R - 1) * 2) {
+    const bool isWhole = s * (m - p) >= L;
+    for (size_t begin = 0; begin < s; begin += L) {
+      const size_t q = s >= L ? std::min(begin, s - L) : 0;
+      Complex<V> z[R];
+      unrolled<R>([&](auto k) __attribute__((always_inline)) {
+        const size_t at = q + s * (p + m * k);
+        z[k] = isWhole ? x.template get<L>(at) : x.template getFirst<L>(at, s);
+      });
+      anyDft(z);
+      unrolled<R>([&](auto j) __attribute__((always_inline)) {
+        const size_t at = q + s * (R * p + j);
+        if constexpr (j > 0) z[j] = product(z[j], twiddles[2 * j - 2], twiddles[2 * j - 1]);
+        if (isWhole) y.template put<L>(z[j], at);
+        else y.template putFirst<L>(z[j], at, s);
+      });
+    }
+  }
+}
+
+template <size_t L, class V, class Dst> QVX_INLINE void putResult(Dst dst, Complex<V> z, size_t at, size_t s) {
+  if (s >= L) dst.template putInOrder<L>(z, at);
+  else dst.template putFirst<L>(z, at, s);
+}
+
+template <size_t R, size_t L, class T, class Dst>
+[[gnu::noinline]] void lastMixedPass(Planes<const T> x, Dst dst, size_t s, T factor) {
+  using V = Vec<Lanes<T, L>>;
+  for (size_t begin = 0; begin < s; begin += L) {
+    const size_t q = s >= L ? std::min(begin, s - L) : 0;
+    Complex<V> z[R];
+    unrolled<R>([&](auto k) __attribute__((always_inline)) {
+      const size_t at = q + s * k;
+      z[k] = s >= L ? x.template get<L>(at) : x.template getFirst<L>(at, s);
+    });
+    anyDft(z);
+    if (factor != 1) {
+      unrolled<R>([&](auto j) __attribute__((always_inline)) { z[j] = ScaledBy<T>{factor}(z[j]); });
+    }
+    unrolled<R>([&](auto j) __attribute__((always_inline)) { putResult<L>(dst, z[j], q + s * j, s); });
+  }
+}
+
+// ---- Any odd radix, with its vectors in memory
+
+inline constexpr size_t kLargestFactor = 149;
+
+// put(j, z): the results of the points get(k). roots: for j = 1..H, for k = 1..H cos and sin of 2 pi j k / R.
+template <class V, class T, class Get, class Put> QVX_INLINE void dftOfMany(size_t R, const T* roots, Get get, Put put) {
+  const size_t H = R / 2;
+  const Complex<V> first = get(0);
+  Complex<V> sums[kLargestFactor / 2];
+  Complex<V> differences[kLargestFactor / 2];
+  Complex<V> total = first;
+  for (size_t k = 0; k < H; ++k) {
+    const Complex<V> a = get(k + 1);
+    const Complex<V> b = get(R - 1 - k);
+    sums[k] = sum(a, b);
+    differences[k] = difference(a, b);
+    total = sum(total, sums[k]);
+  }
+  put(size_t{0}, total);
+  for (size_t j = 1; j <= H; ++j) {
+    Complex<V> even = first;
+    Complex<V> odd = {hn::Zero(TagOf<V>()), hn::Zero(TagOf<V>())};
+    for (size_t k = 0; k < H; ++k, roots += 2) {
+      const V cosine = same<V>(roots[0]);
+      const V sine = same<V>(roots[1]);
+      even = {hn::MulAdd(cosine, sums[k].re, even.re), hn::MulAdd(cosine, sums[k].im, even.im)};
+      odd = {hn::MulAdd(sine, differences[k].re, odd.re), hn::MulAdd(sine, differences[k].im, odd.im)};
+    }
+    put(j, differenceWithI(even, odd));
+    put(R - j, sumWithI(even, odd));
+  }
+}
+
+// Half the widest register: twice kLargestFactor vectors have room on the stack.
+template <class T> inline constexpr size_t kManyLanes = kVectorBytes >= 64 ? kVectorBytes / 2 / sizeof(T) : kVectorBytes / sizeof(T);
+
+template <size_t L, class T, class Src>
+[[gnu::noinline]] void firstPassOfMany(size_t R, const T* roots, Src src, Planes<T> y, size_t m, const T* twiddles) {
+  using V = Vec<Lanes<T, L>>;
+  for (size_t p = 0; p < m; p += L, twiddles += (R - 1) * 2 * L) {
+    const size_t wide = std::min(m - p, L);
+    const auto get = [&](size_t k) { return src.template getFirst<L>(p + k * m, wide); };
+    const auto put = [&](size_t j, Complex<V> z) {
+      if (j > 0) z = product(z, group<L>(twiddles + (j - 1) * 2 * L));
+      T re[L];
+      T im[L];
+      store(z.re, TagOf<V>(), re);
+      store(z.im, TagOf<V>(), im);
+      for (size_t lane = 0; lane < L; ++lane) {
+        const size_t row = Src::template element<L>(lane);
+        if (row >= wide) continue;
+        y.re[(p + row) * R + j] = re[lane];
+        y.im[(p + row) * R + j] = im[lane];
+      }
+    };
+    dftOfMany<V>(R, roots, get, put);
+  }
+}
+
+template <size_t L, class T>
+[[gnu::noinline]] void middlePassOfMany(size_t R, const T* roots, Planes<const T> x, Planes<T> y, size_t s, size_t m,
+                                        const T* twiddles) {
+  using V = Vec<Lanes<T, L>>;
+  for (size_t p = 0; p < m; ++p, twiddles += (R - 1) * 2) {
+    for (size_t begin = 0; begin < s; begin += L) {
+      const size_t q = s >= L ? std::min(begin, s - L) : 0;
+      const size_t wide = std::min(s, L);
+      const auto get = [&](size_t k) { return x.template getFirst<L>(q + s * (p + m * k), wide); };
+      const auto put = [&](size_t j, Complex<V> z) {
+        if (j > 0) z = product(z, twiddles[2 * j - 2], twiddles[2 * j - 1]);
+        y.template putFirst<L>(z, q + s * (R * p + j), wide);
+      };
+      dftOfMany<V>(R, roots, get, put);
+    }
+  }
+}
+
+template <size_t L, class T, class Dst>
+[[gnu::noinline]] void lastPassOfMany(size_t R, const T* roots, Planes<const T> x, Dst dst, size_t s, T factor) {
+  using V = Vec<Lanes<T, L>>;
+  for (size_t begin = 0; begin < s; begin += L) {
+    const size_t q = s >= L ? std::min(begin, s - L) : 0;
+    const size_t wide = std::min(s, L);
+    const auto get = [&](size_t k) { return x.template getFirst<L>(q + s * k, wide); };
+    const auto put = [&](size_t j, Complex<V> z) { dst.template putFirst<L>(ScaledBy<T>{factor}(z), q + s * j, wide); };
+    dftOfMany<V>(R, roots, get, put);
+  }
+}
+
+}  // namespace qvx::transform

@@ -1,0 +1,205 @@
+// Which passes a transform of any factors takes, its twiddles, and its run.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <span>
+
+#include "transform/mixed_passes.h"
+#include "transform/plan.h"
+
+namespace qvx::transform {
+
+// Radices that stay in registers; larger primes go through memory.
+inline constexpr uint8_t kRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16};
+inline constexpr size_t kWidestMixed = 16;
+
+template <class Step> QVX_INLINE void withMixedRadix(size_t radix, Step step) {
+  [&]<size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
+    ((radix == kRadices[I] ? step(std::integral_constant<size_t, kRadices[I]>()) : void()), ...);
+  }
+  (std::make_index_sequence<std::size(kRadices)>());
+}
+
+template <class T> struct MixedPlan {
+  static constexpr size_t kMostPasses = 17;  // 3^17 < 2^27
+  uint32_t n;
+  uint8_t count;
+  uint8_t radix[kMostPasses];
+  const T* tables;  // a pass's after another's: roots of a large radix, then twiddles
+};
+
+// What a pass takes of time, in operations of a vector: seen on a processor with 32 registers of 64 bytes.
+constexpr uint32_t costOfRadix(size_t radix) {
+  constexpr uint16_t kCosts[] = {0, 0, 12, 24, 32, 52, 64, 94, 84, 142, 128, 190, 152, 250, 0, 240, 236};
+  if (radix > kWidestMixed) return static_cast<uint32_t>(radix / 2 * (radix / 2) * 6 + 20 * radix);
+  return kHasMasks || radix < 8 ? kCosts[radix] : kCosts[radix] * 5 / 4;
+}
+
+template <class T> class MixedPlanner {
+ public:
+  static constexpr size_t kMostDivisors = 720;
+
+  // False where a prime factor is too large, or n a radix itself.
+  bool plan(uint32_t n, MixedPlan<T>& plan) {
+    if (!factor(n)) return false;
+    findDivisors();
+    for (size_t i = 1; i < divisors_; ++i) {
+      best_[i] = UINT64_MAX;
+      consider(i, n, kRadices);
+      consider(i, n, std::span(large_, larges_));
+    }
+    if (best_[divisors_ - 1] == UINT64_MAX) return false;
+    plan.n = n;
+    plan.count = 0;
+    for (uint32_t rest = n; rest > 1; rest /= plan.radix[plan.count++]) plan.radix[plan.count] = radix_[indexOf(rest)];
+    return plan.count > 1;
+  }
+
+ private:
+  bool factor(uint32_t n) {
+    for (uint32_t p = 2; n > 1; p += 1 + p % 2) {
+      if (p * p > n) p = n;
+      if (p > kLargestFactor) return false;
+      if (n % p != 0) continue;
+      primes_[kinds_] = static_cast<uint8_t>(p);
+      for (; n % p == 0; n /= p) ++powers_[kinds_];
+      if (p > kWidestMixed) large_[larges_++] = static_cast<uint8_t>(p);
+      ++kinds_;
+    }
+    return true;
+  }
+  void findDivisors() {
+    divisor_[divisors_++] = 1;
+    for (size_t k = 0; k < kinds_; ++k) {
+      const size_t before = divisors_;
+      for (size_t i = 0; i < before * powers_[k]; ++i, ++divisors_) divisor_[divisors_] = divisor_[divisors_ - before] * primes_[k];
+    }
+    std::sort(divisor_, divisor_ + divisors_);
+  }
+  size_t indexOf(uint32_t d) const { return static_cast<size_t>(std::lower_bound(divisor_, divisor_ + divisors_, d) - divisor_); }
+  // The passes from divisor i on, of which n / i are done.
+  void consider(size_t i, uint32_t n, std::span<const uint8_t> radices) {
+    const uint32_t d = divisor_[i];
+    for (const uint8_t radix : radices) {
+      if (d % radix != 0) continue;
+      const uint32_t m = d / radix;
+      const uint64_t after = m == 1 ? 0 : best_[indexOf(m)];
+      if (after == UINT64_MAX) continue;
+      const uint64_t s = n / d;
+      const uint64_t here = s == 1 ? uint64_t{vectors(m)} * (costOfRadix(radix) + (radix + kWidest<T> - 1) / kWidest<T> * kTransposition)
+                                   : uint64_t{vectors(s)} * m * costOfRadix(radix);
+      if (here + after < best_[i]) {
+        best_[i] = here + after;
+        radix_[i] = radix;
+      }
+    }
+  }
+  static uint64_t vectors(uint64_t count) { return (count + kWidest<T> - 1) / kWidest<T>; }
+  static constexpr uint32_t kTransposition = 2 * kWidest<T> * (log2Of(kWidest<T>) + 1);
+
+  uint8_t primes_[10] = {};
+  uint8_t powers_[10] = {};
+  uint8_t large_[10] = {};
+  size_t kinds_ = 0;
+  size_t larges_ = 0;
+  size_t divisors_ = 0;
+  uint32_t divisor_[kMostDivisors];
+  uint64_t best_[kMostDivisors];
+  uint8_t radix_[kMostDivisors];
+};
+
+// The numbers of a plan's tables, with what aligns the first.
+template <class T> size_t rootsOf(size_t radix) { return radix > kWidestMixed ? radix / 2 * (radix / 2) * 2 : 0; }
+template <class T> size_t lanesOfFirst(size_t radix) { return radix > kWidestMixed ? kManyLanes<T> : kWidest<T>; }
+template <class T> size_t tableLength(const MixedPlan<T>& plan) {
+  size_t length = Carver::kLine / sizeof(T);
+  size_t m = plan.n;
+  for (size_t pass = 0; pass < plan.count; ++pass) {
+    const size_t radix = plan.radix[pass];
+    m /= radix;
+    length += rootsOf<T>(radix);
+    const size_t lanes = pass == 0 ? lanesOfFirst<T>(radix) : 1;
+    if (m > 1) length += (m + lanes - 1) / lanes * lanes * (radix - 1) * 2;
+  }
+  return length;
+}
+
+template <class T> void writeRoots(size_t radix, T* out) {
+  const size_t half = radix / 2;
+  writeTwiddles(
+      radix, half * half, [half](size_t i) { return (i / half + 1) * (i % half + 1); },
+      [out](size_t i, double re, double im) {
+        out[2 * i] = static_cast<T>(re);
+        out[2 * i + 1] = static_cast<T>(-im);
+      });
+}
+
+// Src: in the order of whose lanes the twiddles of the first pass stand.
+template <class Src, class T> void writeMixed(MixedPlan<T>& plan, T* block) {
+  T* out = alignedUp(block, Carver::kLine);
+  plan.tables = out;
+  size_t m = plan.n;
+  for (size_t pass = 0; pass < plan.count; ++pass) {
+    const size_t radix = plan.radix[pass];
+    const size_t others = radix - 1;
+    const size_t n = m;
+    m /= radix;
+    if (radix > kWidestMixed) writeRoots(radix, out);
+    out += rootsOf<T>(radix);
+    if (m == 1) break;
+    if (pass > 0) {
+      writeTwiddles(
+          n, m * others, [others](size_t i) { return i / others * (i % others + 1); }, intoPairs(out));
+      out += m * others * 2;
+      continue;
+    }
+    const auto write = [&](auto L) {
+      const bool overlaps = radix <= kWidestMixed && m >= L;  // the last vector ends where the columns do
+      const auto column = [=](size_t i) {
+        const size_t begin = i / (L * others) * L;
+        return (overlaps ? std::min<size_t>(begin, m - L) : begin) + Src::template element<L>(i % L);
+      };
+      const size_t count = (m + L - 1) / L * L * others;
+      writeTwiddles(
+          n, count, [=](size_t i) { return column(i) * (i / L % others + 1); }, intoGroups<L>(out));
+      out += 2 * count;
+    };
+    if (radix > kWidestMixed) write(std::integral_constant<size_t, kManyLanes<T>>());
+    else write(std::integral_constant<size_t, kWidest<T>>());
+  }
+}
+
+// From src to dst, which may be the same, by way of `even` and `odd`, each with room for n points in planes: the last pass but
+// one goes to `even`, the one before to `odd`, and so on. src is not read after the first pass, dst written by the last only.
+template <class T, class Src, class Dst>
+void runMixed(const MixedPlan<T>& plan, Src src, Dst dst, Planes<T> even, Planes<T> odd, T factor) {
+  constexpr size_t L = kWidest<T>;
+  constexpr size_t M = kManyLanes<T>;
+  const T* tables = plan.tables;
+  Planes<T> from = plan.count % 2 == 0 ? even : odd;
+  Planes<T> to = plan.count % 2 == 0 ? odd : even;
+  const size_t first = plan.radix[0];
+  size_t m = plan.n / first;
+  if (first > kWidestMixed) {
+    firstPassOfMany<M>(first, tables, src, from, m, tables + rootsOf<T>(first));
+    tables += rootsOf<T>(first) + (m + M - 1) / M * M * (first - 1) * 2;
+  } else {
+    withMixedRadix(first, [=](auto R) { firstMixedPass<R, L>(src, from, m, tables); });
+    tables += (m + L - 1) / L * L * (first - 1) * 2;
+  }
+  size_t s = first;
+  for (size_t pass = 1; pass + 1 < plan.count; ++pass) {
+    const size_t radix = plan.radix[pass];
+    m /= radix;
+    if (radix > kWidestMixed) middlePassOfMany<M>(radix, tables, asConst(from), to, s, m, tables + rootsOf<T>(radix));
+    else withMixedRadix(radix, [=](auto R) { middleMixedPass<R, L>(asConst(from), to, s, m, tables); });
+    tables += rootsOf<T>(radix) + m * (radix - 1) * 2;
+    s *= radix;
+    std::swap(from, to);
+  }
+  if (m > kWidestMixed) lastPassOfMany<M>(m, tables, asConst(from), dst, s, factor);
+  else withMixedRadix(m, [=](auto R) { lastMixedPass<R, L>(asConst(from), dst, s, factor); });
+}
+
+}  // namespace qvx::transform

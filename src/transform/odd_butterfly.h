@@ -1,0 +1,144 @@
+// Transforms of 3 to 16 points of any factors, each point a vector of real and one of imaginary parts, beside those of powers of
+// two in butterfly.h.
+#pragma once
+
+#include "transform/butterfly.h"
+
+namespace qvx::transform {
+
+// cos and sin of 2 pi k / n, to a double's last digit: series up to an eighth of a turn.
+constexpr double cosineOfTurn(size_t k, size_t n);
+constexpr double sineOfTurn(size_t k, size_t n);
+namespace detail {
+constexpr long double sineOrCosine(long double x, int first) {
+  long double term = first == 0 ? 1 : x;
+  long double sum = term;
+  for (int i = first + 2; i < 28; i += 2) {
+    term *= -x * x / (i * (i - 1));
+    sum += term;
+  }
+  return sum;
+}
+constexpr long double angleOf(size_t k, size_t n) {
+  return 6.283185307179586476925286766559005768L * static_cast<long double>(k) / static_cast<long double>(n);
+}
+}  // namespace detail
+constexpr double cosineOfTurn(size_t k, size_t n) {
+  k %= n;
+  if (2 * k > n) k = n - k;
+  if (4 * k > n) return -cosineOfTurn(n - 2 * k, 2 * n);
+  if (8 * k > n) return sineOfTurn(n - 4 * k, 4 * n);
+  return static_cast<double>(detail::sineOrCosine(detail::angleOf(k, n), 0));
+}
+constexpr double sineOfTurn(size_t k, size_t n) {
+  k %= n;
+  if (2 * k > n) return -sineOfTurn(n - k, n);
+  if (4 * k > n) return sineOfTurn(n - 2 * k, 2 * n);
+  if (8 * k > n) return cosineOfTurn(n - 4 * k, 4 * n);
+  return static_cast<double>(detail::sineOrCosine(detail::angleOf(k, n), 1));
+}
+
+template <size_t P> struct PrimeRoots {
+  static constexpr size_t kHalf = P / 2;
+  double cosine[kHalf + 1] = {};
+  double sine[kHalf + 1] = {};
+  constexpr PrimeRoots() {
+    for (size_t k = 0; k <= kHalf; ++k) {
+      cosine[k] = cosineOfTurn(k, P);
+      sine[k] = sineOfTurn(k, P);
+    }
+  }
+};
+template <size_t P> inline constexpr PrimeRoots<P> kPrimeRoots;
+
+// Z: a vector of real and one of imaginary parts, or of both side by side.
+template <class V> QVX_INLINE Complex<V> scaledBy(double factor, Complex<V> z) {
+  const V f = same<V>(static_cast<LaneOf<V>>(factor));
+  return {f * z.re, f * z.im};
+}
+
+// An odd number of points: x[k] and x[P - k] come from the sums and the differences of the points at equal distances from x[0].
+template <size_t P, class Z> QVX_INLINE void dftOfPairs(Z (&x)[P]) {
+  constexpr size_t H = P / 2;
+  Z sums[H];
+  Z differences[H];
+  unrolled<H>([&](auto k) __attribute__((always_inline)) {
+    sums[k] = sum(x[k + 1], x[P - 1 - k]);
+    differences[k] = difference(x[k + 1], x[P - 1 - k]);
+  });
+  const Z first = x[0];
+  unrolled<H>([&](auto k) __attribute__((always_inline)) { x[0] = sum(x[0], sums[k]); });
+  unrolled<H>([&](auto at) __attribute__((always_inline)) {
+    constexpr size_t j = at + 1;
+    Z even = sumWith(kPrimeRoots<P>.cosine[j], first, sums[0]);
+    Z odd = scaledBy(kPrimeRoots<P>.sine[j], differences[0]);
+    unrolled<H - 1>([&](auto i) __attribute__((always_inline)) {
+      constexpr size_t k = i + 1;
+      constexpr size_t turn = j * (k + 1) % P;
+      constexpr size_t folded = turn <= H ? turn : P - turn;
+      even = sumWith(kPrimeRoots<P>.cosine[folded], even, sums[k]);
+      if constexpr (turn <= H) odd = sumWith(kPrimeRoots<P>.sine[folded], odd, differences[k]);
+      else odd = differenceWith(kPrimeRoots<P>.sine[folded], odd, differences[k]);
+    });
+    x[j] = differenceWithI(even, odd);
+    x[P - j] = sumWithI(even, odd);
+  });
+}
+
+template <size_t R, class Z> QVX_INLINE void anyDft(Z (&x)[R]);
+
+// A * B points without common factors: two dimensions without twiddles between them.
+template <size_t A, size_t B, class Z> QVX_INLINE void dftOfCoprimes(Z (&x)[A * B]) {
+  constexpr size_t N = A * B;
+  constexpr auto inverseOf = [](size_t n, size_t modulus) {
+    size_t i = 1;
+    while (n * i % modulus != 1) ++i;
+    return i;
+  };
+  constexpr size_t kStepA = B * inverseOf(B % A, A);
+  constexpr size_t kStepB = A * inverseOf(A % B, B);
+  Z y[B][A];
+  unrolled<B>([&](auto b) __attribute__((always_inline)) {
+    unrolled<A>([&](auto a) __attribute__((always_inline)) { y[b][a] = x[(B * a + A * b) % N]; });
+    anyDft(y[b]);
+  });
+  unrolled<A>([&](auto a) __attribute__((always_inline)) {
+    Z z[B];
+    unrolled<B>([&](auto b) __attribute__((always_inline)) { z[b] = y[b][a]; });
+    anyDft(z);
+    unrolled<B>([&](auto b) __attribute__((always_inline)) { x[(kStepA * a + kStepB * b) % N] = z[b]; });
+  });
+}
+
+template <class Z> QVX_INLINE void dft9(Z (&x)[9]) {
+  Z y[3][3];
+  unrolled<3>([&](auto b) __attribute__((always_inline)) {
+    unrolled<3>([&](auto a) __attribute__((always_inline)) { y[b][a] = x[3 * a + b]; });
+    dftOfPairs(y[b]);
+    if constexpr (b > 0) {
+      unrolled<2>([&](auto k) __attribute__((always_inline)) {
+        constexpr double kCosine = cosineOfTurn(b * (k + 1), 9);
+        constexpr double kSine = sineOfTurn(b * (k + 1), 9);
+        y[b][k + 1] = product(y[b][k + 1], kCosine, -kSine);
+      });
+    }
+  });
+  unrolled<3>([&](auto k) __attribute__((always_inline)) {
+    Z z[] = {y[0][k], y[1][k], y[2][k]};
+    dftOfPairs(z);
+    unrolled<3>([&](auto a) __attribute__((always_inline)) { x[k + 3 * a] = z[a]; });
+  });
+}
+
+template <size_t R, class Z> QVX_INLINE void anyDft(Z (&x)[R]) {
+  if constexpr ((R & (R - 1)) == 0) dft(x);
+  else if constexpr (R == 6) dftOfCoprimes<2, 3>(x);
+  else if constexpr (R == 9) dft9(x);
+  else if constexpr (R == 10) dftOfCoprimes<2, 5>(x);
+  else if constexpr (R == 12) dftOfCoprimes<4, 3>(x);
+  else if constexpr (R == 14) dftOfCoprimes<2, 7>(x);
+  else if constexpr (R == 15) dftOfCoprimes<3, 5>(x);
+  else dftOfPairs(x);
+}
+
+}  // namespace qvx::transform

@@ -1,0 +1,150 @@
+// Transforms of any length: against the definition, and all forms against each other.
+#include <qvx/qvxcore.h>
+
+#include <cstring>
+
+#include "dft/transforms.h"
+
+namespace {
+
+using tests::Exact;
+using tests::Random;
+
+constexpr int kFlags[] = {QVX_FFT_SCALE_FWD, QVX_FFT_SCALE_INV, QVX_FFT_SCALE_BOTH_SQRT, QVX_FFT_SCALE_NONE};
+
+long double factorOf(int flag, bool isInverse, size_t n) {
+  const auto all = static_cast<long double>(n);
+  if (flag == QVX_FFT_SCALE_BOTH_SQRT) return 1 / std::sqrt(all);
+  return flag == (isInverse ? QVX_FFT_SCALE_INV : QVX_FFT_SCALE_FWD) ? 1 / all : 1;
+}
+
+// The factor is rounded too, and that of flag 4 in single precision an estimate.
+template <class T> long double slackOf(int flag, bool isInverse) {
+  const long double eps = std::numeric_limits<T>::epsilon();
+  return flag == QVX_FFT_SCALE_BOTH_SQRT ? 3 * eps : factorOf(flag, isInverse, 2) != 1 ? 0.5L * eps : 0;
+}
+
+// Of short transforms the error is a matter of luck: so many are drawn that all together have 512 points.
+size_t repetitions(size_t n) { return 512 / n + 1; }
+
+template <class Transform> void checkComplex(const Transform& transform, size_t n, Random& random) {
+  using T = typename Transform::T;
+  const size_t count = repetitions(n);
+  std::vector<std::vector<Exact>> sources;
+  std::vector<std::vector<Exact>> spectra[2];
+  for (size_t i = 0; i < count; ++i) {
+    sources.push_back(tests::rounded<T>(tests::noise(n, random)));
+    spectra[0].push_back(tests::dft(sources[i], -1));
+    spectra[1].push_back(tests::dft(sources[i], 1));
+  }
+  for (const int flag : kFlags) {
+    const tests::DftRecord record(transform, n, flag);
+    for (const bool isInverse : {false, true}) {
+      SCOPED_TRACE(testing::Message() << transform.name << ", " << n << " points, flag " << flag << (isInverse ? ", inverse" : ""));
+      tests::Error error;
+      for (size_t i = 0; i < count; ++i) {
+        const auto found = record.run(isInverse, sources[i], tests::Place::kApart);
+        error.add(found, spectra[isInverse][i], factorOf(flag, isInverse, n));
+        if (i > 0) continue;
+        EXPECT_EQ(found, record.run(isInverse, sources[i], tests::Place::kSame)) << "in place";
+      }
+      const long double slack = slackOf<T>(flag, isInverse);
+      EXPECT_LE(error.relative(), tests::allowedError<T>(n) + slack);
+    }
+  }
+}
+
+TEST(Dft, IsTheDefinition) {
+  Random random(tests::seed());
+  for (size_t n = 1; n <= 300; ++n) {
+    tests::forEachComplex([&](const auto& transform) { checkComplex(transform, n, random); });
+  }
+}
+
+// A spectrum in a layout, as numbers, from the whole one; and back, with what the layout leaves out.
+std::vector<long double> packed(const std::vector<Exact>& spectrum, tests::Layout layout) {
+  const size_t n = spectrum.size();
+  std::vector<long double> v = {spectrum[0].real()};
+  if (layout == tests::Layout::kCcs) v.push_back(0);
+  if (layout == tests::Layout::kPerm && n % 2 == 0) v.push_back(spectrum[n / 2].real());
+  for (size_t k = 1; k <= (n - 1) / 2; ++k) v.insert(v.end(), {spectrum[k].real(), spectrum[k].imag()});
+  if (layout != tests::Layout::kPerm && n % 2 == 0) v.push_back(spectrum[n / 2].real());
+  if (layout == tests::Layout::kCcs && n % 2 == 0) v.push_back(0);
+  return v;
+}
+
+template <class Transform> void checkReal(const Transform& transform, size_t n, Random& random) {
+  using T = typename Transform::T;
+  const size_t count = repetitions(n);
+  std::vector<std::vector<long double>> sequences;
+  std::vector<std::vector<Exact>> spectra;
+  for (size_t i = 0; i < count; ++i) {
+    std::vector<Exact> x = tests::rounded<T>(tests::noise(n, random));
+    for (Exact& z : x) z = z.real();
+    sequences.emplace_back();
+    for (const Exact& z : x) sequences[i].push_back(z.real());
+    spectra.push_back(tests::dft(x, -1));
+  }
+  for (const int flag : kFlags) {
+    const tests::DftRecord record(transform, n, flag);
+    for (const auto layout : {tests::Layout::kPerm, tests::Layout::kPack, tests::Layout::kCcs}) {
+      SCOPED_TRACE(testing::Message() << transform.name << ", " << n << " numbers, flag " << flag << ", layout "
+                                      << static_cast<int>(layout));
+      tests::Error forward;
+      tests::Error inverse;
+      for (size_t i = 0; i < count; ++i) {
+        const auto found = record.run(layout, false, sequences[i], tests::Place::kApart);
+        forward.add(found, packed(spectra[i], layout), factorOf(flag, false, n));
+        std::vector<long double> spectrum;
+        for (const long double v : packed(spectra[i], layout)) spectrum.push_back(static_cast<T>(v));
+        // What the inverse takes is the definition's, rounded: to the sequence that this is the spectrum of, it adds an error.
+        const auto back = record.run(layout, true, spectrum, tests::Place::kApart);
+        inverse.add(back, sequences[i], factorOf(flag, true, n) * static_cast<long double>(n));
+        if (i > 0) continue;
+        EXPECT_EQ(found, record.run(layout, false, sequences[i], tests::Place::kSame)) << "in place";
+        if (layout == tests::Layout::kCcs) {
+          spectrum[1] = std::numeric_limits<T>::quiet_NaN();
+          if (n % 2 == 0) spectrum[n + 1] = std::numeric_limits<T>::quiet_NaN();
+        }
+        EXPECT_EQ(back, record.run(layout, true, spectrum, tests::Place::kSame)) << "inverse in place";
+      }
+      EXPECT_LE(forward.relative(), tests::allowedError<T>(n) + slackOf<T>(flag, false));
+      // What is brought back was rounded before.
+      EXPECT_LE(inverse.relative(), tests::allowedError<T>(n) + slackOf<T>(flag, true) + 0.3L * std::numeric_limits<T>::epsilon());
+    }
+  }
+}
+
+TEST(Dft, OfRealsIsTheDefinition) {
+  Random random(tests::seed());
+  for (size_t n = 1; n <= 300; ++n) {
+    tests::forEachReal([&](const auto& transform) { checkReal(transform, n, random); });
+  }
+}
+
+// Longer ones, each a way of its own to do it: impulses, whose spectrum is known at any point, there and back.
+TEST(Dft, LongImpulses) {
+  const auto check = [](const auto& transform, size_t n) {
+    using T = typename std::decay_t<decltype(transform)>::T;
+    SCOPED_TRACE(testing::Message() << transform.name << ", " << n << " points");
+    std::vector<Exact> x(n);
+    const size_t at[] = {0, 1, n / 3, n - 2};
+    for (size_t i = 0; i < 4; ++i) x[at[i]] = {1.0L + i, 0.5L - i};
+    const tests::DftRecord record(transform, n, QVX_FFT_SCALE_INV);
+    const std::vector<Exact> spectrum = record.run(false, x, tests::Place::kApart);
+    const long double bound = 12 * 8 * std::numeric_limits<T>::epsilon();
+    for (size_t k = 0; k < n; k += n / 4093 + 1) {
+      Exact expected = 0;
+      for (const size_t i : at) expected += x[i] * std::conj(tests::rootOfUnity(i * k, n));
+      ASSERT_LE(std::abs(spectrum[k] - expected), bound) << k;
+    }
+    const std::vector<Exact> back = record.run(true, spectrum, tests::Place::kSame);
+    for (size_t i = 0; i < n; ++i) ASSERT_LE(std::abs(back[i] - x[i]), bound) << i;
+  };
+  for (const size_t n : {323, 509, 961, 1000, 1001, 1009, 1849, 2000, 2001, 2003, 2187, 2520, 4099, 4410, 5041, 8191, 10000, 44100, 48000, 65537,
+                         99999, 100000, 131070, 262143, 300000}) {
+    tests::forEachComplex([&](const auto& transform) { check(transform, n); });
+  }
+}
+
+}  // namespace
