@@ -16,6 +16,9 @@
 #include <qvx/qvxs_spectrum.h>
 #include <qvx/qvxs_fft_integer.h>
 #include <qvx/qvxs_fir.h>
+#include <qvx/qvxs_correlation.h>
+#include <qvx/qvxs_median.h>
+#include <qvx/qvxs_sample.h>
 #include <qvx/qvxs_iir.h>
 #include <qvx/qvxs_generate.h>
 #include <qvx/qvxs_window.h>
