@@ -28,7 +28,7 @@ template <class C>
 QvxStatus crossCorrelate(const C* a, size_t aLen, const C* b, size_t bLen, C* y, size_t lags, int64_t lowLag, int directTo) {
   Band<C> band = meeting(Band<C>{b, bLen, a, aLen, false, lowLag, lags}, y);
   if (band.outputs == 0) return qvxStatOk;
-  const auto [less, more] = std::minmax(static_cast<float>(aLen), static_cast<float>(bLen));
+  const auto [less, more] = std::minmax({static_cast<float>(aLen), static_cast<float>(bLen)});
   const Way way = less * static_cast<float>(band.outputs) / more < static_cast<float>(directTo + 1) ? Way::kDirect : Way::kAny;
   if (aLen <= bLen) return correlateBand(band, y, way);
   band = {a, aLen, b, bLen, false, 1 - band.from - static_cast<int64_t>(band.outputs), band.outputs};
