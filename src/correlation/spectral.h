@@ -5,6 +5,7 @@
 #include "convolution/elements.h"
 #include "correlation/direct.h"
 #include "fft/adapter.h"
+#include "fft/ready.h"
 #include "frame/record.h"
 #include "frame/team.h"
 
@@ -39,20 +40,21 @@ template <class C> Cut cutBy(size_t n, size_t less) {
   return best;
 }
 
-// A transform and its buffers, all in one block.
+// A transform and its buffers, all in one block. Up to 2^13 real numbers its record is ready; others are made.
 template <class C> class Spectra {
  public:
   using Transform = fft::Transform<C>;
+  using Spec = typename Transform::Spec;
 
   Spectra(int order, int buffers, int threads)
-      : sizes_(fft::TransformSizes::ofOrder<C>(order)), block_(sizes_.length == 0 ? 0 : bytes(buffers, threads)) {
+      : sizes_(fft::TransformSizes::ofOrder<C>(order)),
+        spec_(fft::readySpec<Spec>(order)),
+        block_(sizes_.length == 0 ? 0 : bytes(buffers, threads)) {
     if (!block_) return;
     Carver carver(block_.get(), Carver::kLine);
-    auto* memory = carver.takeLines<Qvx8u>(sizes_.spec);
-    auto* init = carver.takeLines<Qvx8u>(sizes_.init);
     buffers_ = carver.takeLines<C>(int64_t{buffers} * sizes_.length);
     work_ = carver.takeLines<Qvx8u>(int64_t{threads} * up<64>(sizes_.work));
-    status_ = Transform::kInit(&spec_, order, fft::kInverseDivides, 0, memory, init);
+    status_ = isNull(spec_) ? make(order, carver) : qvxStatOk;
   }
 
   QvxStatus status() const { return status_; }
@@ -63,14 +65,22 @@ template <class C> class Spectra {
 
  private:
   int64_t bytes(int buffers, int threads) const {
-    return up<64>(sizes_.spec) + up<64>(sizes_.init) + int64_t{buffers} * up<64>(sizes_.length * int64_t{sizeof(C)}) +
-           int64_t{threads} * up<64>(sizes_.work) + 64;
+    const int64_t record = isNull(spec_) ? up<64>(sizes_.spec) + up<64>(sizes_.init) : 0;
+    return record + int64_t{buffers} * up<64>(sizes_.length * int64_t{sizeof(C)}) + int64_t{threads} * up<64>(sizes_.work) + 64;
+  }
+  QvxStatus make(int order, Carver& carver) {
+    auto* memory = carver.takeLines<Qvx8u>(sizes_.spec);
+    auto* init = carver.takeLines<Qvx8u>(sizes_.init);
+    Spec* spec = nullptr;
+    const QvxStatus status = Transform::kInit(&spec, order, fft::kInverseDivides, 0, memory, init);
+    spec_ = spec;
+    return status;
   }
   Qvx8u* work(size_t thread) const { return work_ + thread * static_cast<size_t>(up<64>(sizes_.work)); }
 
   fft::TransformSizes sizes_;
+  const Spec* spec_;
   Block block_;
-  typename Transform::Spec* spec_ = nullptr;
   C* buffers_ = nullptr;
   Qvx8u* work_ = nullptr;
   QvxStatus status_ = qvxStatNoMem;
