@@ -22,6 +22,9 @@
 #include <qvx/qvxs_multirate.h>
 #include <qvx/qvxs_lms.h>
 #include <qvx/qvxs_fir_design.h>
+#include <qvx/qvxs_correlation.h>
+#include <qvx/qvxs_median.h>
+#include <qvx/qvxs_sample.h>
 #include <qvx/qvxs_iir.h>
 #include <qvx/qvxs_generate.h>
 #include <qvx/qvxs_window.h>

@@ -35,6 +35,16 @@ void divided(const typename K::Element* x, const typename K::Tap* p, size_t taps
   });
 }
 
+// Taps that count as their conjugates.
+template <class T> struct ConjugateSum : ComplexSum<T> {
+  using V = typename ComplexSum<T>::V;
+
+  static V total(const V* sum) {
+    const V crossed = swapped(sum[1]);
+    return hn::OddEven(sum[0] - crossed, sum[0] + crossed);
+  }
+};
+
 // Two sums of 32 bits for each element of two 16-bit results.
 struct SumShift {
   int places;
@@ -95,6 +105,19 @@ void convolve(const Qvx32fc* x, const Qvx32fc* p, size_t taps, size_t count, Qvx
 }
 void convolve(const Qvx64fc* x, const Qvx64fc* p, size_t taps, size_t count, Qvx64fc* y, Call call) {
   divided<ComplexSum<Qvx64fc>>(x, parts(p), taps, count, y, call);
+}
+
+void correlate(const Qvx32f* x, const Qvx32f* p, size_t taps, size_t count, Qvx32f* y, Call call) {
+  convolve(x, p, taps, count, y, call);
+}
+void correlate(const Qvx64f* x, const Qvx64f* p, size_t taps, size_t count, Qvx64f* y, Call call) {
+  convolve(x, p, taps, count, y, call);
+}
+void correlate(const Qvx32fc* x, const Qvx32fc* p, size_t taps, size_t count, Qvx32fc* y, Call call) {
+  divided<ConjugateSum<Qvx32fc>>(x, parts(p), taps, count, y, call);
+}
+void correlate(const Qvx64fc* x, const Qvx64fc* p, size_t taps, size_t count, Qvx64fc* y, Call call) {
+  divided<ConjugateSum<Qvx64fc>>(x, parts(p), taps, count, y, call);
 }
 
 void convolve(const Qvx16s* x, PairedTaps p, size_t count, Qvx16s* y, int64_t places) {

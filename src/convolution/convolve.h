@@ -22,6 +22,12 @@ void convolve(const Qvx64f* x, const Qvx64f* p, size_t taps, size_t count, Qvx64
 void convolve(const Qvx32fc* x, const Qvx32fc* p, size_t taps, size_t count, Qvx32fc* y, Call call);
 void convolve(const Qvx64fc* x, const Qvx64fc* p, size_t taps, size_t count, Qvx64fc* y, Call call);
 
+// The same with the conjugates of the taps: the correlation of p and x.
+void correlate(const Qvx32f* x, const Qvx32f* p, size_t taps, size_t count, Qvx32f* y, Call call);
+void correlate(const Qvx64f* x, const Qvx64f* p, size_t taps, size_t count, Qvx64f* y, Call call);
+void correlate(const Qvx32fc* x, const Qvx32fc* p, size_t taps, size_t count, Qvx32fc* y, Call call);
+void correlate(const Qvx64fc* x, const Qvx64fc* p, size_t taps, size_t count, Qvx64fc* y, Call call);
+
 // Integers, in sums of 32 bits that wrap; each result is the sum times 2^places, rounded to nearest even or wrapped at 32 bits,
 // and saturated. The taps stand in pairs for the multiplication of pairs. x may be read up to two vectors past its end.
 struct PairedTaps {

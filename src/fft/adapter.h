@@ -52,6 +52,37 @@ template <class T> void multiplyPacked(const T* spectrum, T* block, int length) 
 inline void multiply(const Qvx32f* spectrum, Qvx32f* block, int length) { multiplyPacked(spectrum, block, length); }
 inline void multiply(const Qvx64f* spectrum, Qvx64f* block, int length) { multiplyPacked(spectrum, block, length); }
 
+// sum = sum + block * spectrum.
+inline void addProduct(const Qvx32fc* spectrum, const Qvx32fc* block, Qvx32fc* sum, int length) {
+  qvxsAddProduct_32fc(spectrum, block, sum, length);
+}
+inline void addProduct(const Qvx64fc* spectrum, const Qvx64fc* block, Qvx64fc* sum, int length) {
+  qvxsAddProduct_64fc(spectrum, block, sum, length);
+}
+template <class T> void addProductPacked(const T* spectrum, const T* block, T* sum, int length) {
+  using C = std::conditional_t<std::is_same_v<T, Qvx32f>, Qvx32fc, Qvx64fc>;
+  const T first[] = {sum[0] + block[0] * spectrum[0], sum[1] + block[1] * spectrum[1]};
+  addProduct(reinterpret_cast<const C*>(spectrum), reinterpret_cast<const C*>(block), reinterpret_cast<C*>(sum), length / 2);
+  std::copy_n(first, 2, sum);
+}
+inline void addProduct(const Qvx32f* spectrum, const Qvx32f* block, Qvx32f* sum, int length) {
+  addProductPacked(spectrum, block, sum, length);
+}
+inline void addProduct(const Qvx64f* spectrum, const Qvx64f* block, Qvx64f* sum, int length) {
+  addProductPacked(spectrum, block, sum, length);
+}
+
+inline void conjugate(Qvx32fc* spectrum, int length) { qvxsConj_32fc_I(spectrum, length); }
+inline void conjugate(Qvx64fc* spectrum, int length) { qvxsConj_64fc_I(spectrum, length); }
+template <class T> void conjugatePacked(T* spectrum, int length) {
+  using C = std::conditional_t<std::is_same_v<T, Qvx32f>, Qvx32fc, Qvx64fc>;
+  const T middle = spectrum[1];
+  conjugate(reinterpret_cast<C*>(spectrum), length / 2);
+  spectrum[1] = middle;
+}
+inline void conjugate(Qvx32f* spectrum, int length) { conjugatePacked(spectrum, length); }
+inline void conjugate(Qvx64f* spectrum, int length) { conjugatePacked(spectrum, length); }
+
 // What a transform asks for, in points and bytes.
 struct TransformSizes {
   int length = 0;  // 0: none

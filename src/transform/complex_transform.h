@@ -20,7 +20,7 @@ template <class T> struct ComplexPlan {
 };
 
 // The lanes of a transform that keeps its twiddles in a record.
-template <class T, class Step> QVX_INLINE void withLanes(size_t n, Step step) {
+template <class T, class Step> QVX_INLINE constexpr void withLanes(size_t n, Step step) {
   constexpr size_t kFull = kWidest<T>;
   if constexpr (kFull * kFull > 64) {
     if (lanesFor<T>(n) != kFull) return step(std::integral_constant<size_t, kFull / 2>());
@@ -36,13 +36,13 @@ template <class T> constexpr Fold foldOf(size_t n) {
   return n == kSquare ? Fold::kSquare : 2 * n == kSquare ? Fold::kHalves : Fold::kNone;
 }
 
-// The twiddles of n points, from `block` on; the end of them. LaneOrder: that of the lanes in its source.
-template <class LaneOrder, class T> T* writePasses(Plan<T>& plan, size_t n, T* block) {
-  T* const row = alignedUp(block, Carver::kLine);
+// The twiddles of n points, from `row` on, a cache line; the end of them. LaneOrder: that of the lanes in its source.
+template <class LaneOrder, class T, class Write = BySines>
+constexpr T* writePassesAt(Plan<T>& plan, size_t n, T* row, Write write = {}) {
   plan.rowTwiddles = row;
   if (foldOf<T>(n) == Fold::kHalves) {
     constexpr size_t L = kWidest<T>;
-    writeTwiddles(
+    write(
         n, n - L, [](size_t i) { return i % L * (i / L + 1); }, intoGroups<L>(row));
     return row + 2 * (n - L);
   }
@@ -50,11 +50,14 @@ template <class LaneOrder, class T> T* writePasses(Plan<T>& plan, size_t n, T* b
   withLanes<T>(n, [&](auto L) {
     plan.rows = static_cast<uint32_t>(n / kRowRadix<L>);
     plan.levels = levelsFor(plan.rows);
-    T* const levels = writeRowTwiddles<L, LaneOrder>(plan.rows, row);
+    T* const levels = writeRowTwiddles<L, LaneOrder>(plan.rows, row, write);
     plan.levelTwiddles = levels;
-    end = writeLevelTwiddles(plan.levels, plan.rows, levels);
+    end = writeLevelTwiddles(plan.levels, plan.rows, levels, write);
   });
   return end;
+}
+template <class LaneOrder, class T> T* writePasses(Plan<T>& plan, size_t n, T* block) {
+  return writePassesAt<LaneOrder>(plan, n, alignedUp(block, Carver::kLine));
 }
 template <class LaneOrder, class T> T* writePlan(ComplexPlan<T>& plan, size_t n, T* block) {
   plan.n = static_cast<uint32_t>(n);

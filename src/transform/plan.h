@@ -162,34 +162,43 @@ template <class Index, class Put> void writeTwiddles(size_t n, size_t count, Ind
 }
 
 // Where they go: into groups of L, or each with its parts side by side.
-template <size_t L, class T> auto intoGroups(T* out) {
+template <size_t L, class T> constexpr auto intoGroups(T* out) {
   return [out](size_t i, double re, double im) {
     T* at = out + i / L * 2 * L + i % L;
     at[0] = static_cast<T>(re);
     at[L] = static_cast<T>(im);
   };
 }
-template <class T> auto intoPairs(T* out) {
+template <class T> constexpr auto intoPairs(T* out) {
   return [out](size_t i, double re, double im) {
     out[2 * i] = static_cast<T>(re);
     out[2 * i + 1] = static_cast<T>(im);
   };
 }
 
-template <size_t L, class LaneOrder, class T> T* writeRowTwiddles(size_t rows, T* out) {
+// How a plan gets its twiddles: constant tables have a way of their own.
+struct BySines {
+  template <class Index, class Put> void operator()(size_t n, size_t count, Index x, Put put) const {
+    writeTwiddles(n, count, x, put);
+  }
+};
+
+template <size_t L, class LaneOrder, class T, class Write = BySines>
+constexpr T* writeRowTwiddles(size_t rows, T* out, Write write = {}) {
   constexpr size_t R = kRowRadix<L>;
   const size_t count = rows * (R - 1);
-  writeTwiddles(
+  write(
       rows * R, count,
       [](size_t i) { return (i / (L * (R - 1)) * L + LaneOrder::template element<L>(i % L)) * (i / L % (R - 1) + 1); },
       intoGroups<L>(out));
   return out + 2 * count;
 }
 
-template <class T> T* writeLevelTwiddles(const Levels& levels, size_t rows, T* out) {
+template <class T, class Write = BySines>
+constexpr T* writeLevelTwiddles(const Levels& levels, size_t rows, T* out, Write write = {}) {
   for (size_t level = 0; level + 1 < levels.count; ++level) {
     const size_t k = levels.radix[level] - 1U;
-    writeTwiddles(
+    write(
         rows, rows / (k + 1) * k, [k](size_t i) { return i / k * (i % k + 1); }, intoPairs(out));
     rows /= k + 1;
     out += rows * k * 2;

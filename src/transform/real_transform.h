@@ -19,12 +19,15 @@ template <class T> struct RealPlan {
   size_t n() const { return 2 * size_t{half.n}; }
 };
 
+// What recombine() takes of the twiddle (re, im).
+inline constexpr auto kHalvedTwiddle = [](double re, double im) { return Complex<double>{0.5 * re, 0.5 + 0.5 * im}; };
+
 template <class T> void writePlan(RealPlan<T>& plan, size_t n, T* block) {
   T* const out = alignedUp(writePlan<Interleaved<T, false>>(plan.half, n / 2, block), Carver::kLine);
   if (n <= size_t{1} << kShortReal) return;
   if (n < kTwoTables<T>) {
     plan.twiddles = {out, nullptr};
-    writeRealGroups(out, n, n / 4, [](double re, double im) { return Complex<double>{0.5 * re, 0.5 + 0.5 * im}; });
+    writeRealGroups(out, n, n / 4, kHalvedTwiddle);
     return;
   }
   writeRealGroups(out, n, kFine<T>, [](double re, double im) { return Complex<double>{re, im}; });

@@ -59,10 +59,11 @@ template <bool kInverse, class T> void recombine(const T* src, T* dst, size_t h,
 }
 
 // Twiddles k = 1..count in groups: value(real, imaginary part) of exp(-2 pi i k / n).
-template <class T, class Value> void writeRealGroups(T* out, size_t n, size_t count, Value value) {
+template <class T, class Value, class Write = BySines>
+constexpr void writeRealGroups(T* out, size_t n, size_t count, Value value, Write write = {}) {
   constexpr size_t L = kWidest<T>;
   const auto put = intoGroups<L>(out);
-  writeTwiddles(
+  write(
       n, count, [=](size_t i) { return i / L * L + Interleaved<T, false>::template element<L>(i % L) + 1; },
       [=](size_t i, double re, double im) {
         const auto v = value(re, im);

@@ -263,6 +263,7 @@ inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, 
   const std::string how = found == traits_.fills.end() ? "" : found->second;
   if (how == "sorted") std::sort(reinterpret_cast<uint16_t*>(p), reinterpret_cast<uint16_t*>(p + bytes));
   if (how == "index") *reinterpret_cast<int*>(p) = static_cast<int>(choices.between(0, shape("tapsLen") - 1));
+  if (how == "phase") *reinterpret_cast<int*>(p) = static_cast<int>(shape_["phase"] = choices.between(0, shape("factor") - 1));
   if (how == "bitLengths") {
     for (size_t i = 0; i < bytes / sizeof(int); ++i) {
       auto& length = reinterpret_cast<int*>(p)[i];
@@ -512,11 +513,15 @@ inline void AnyCall::prepare(Choices& choices) {
     shape_[export_.parameters[i].name] = integers_[i] = drawInteger(export_.parameters[i], choices);
   }
   for (const size_t i : seen.reals) reals_[i] = drawReal(export_.parameters[i], choices);
-  // Records first, whose orders are the other vectors' lengths.
-  for (const bool wantsRecords : {true, false}) {
+  // Records first, whose orders are the other vectors' lengths, then phases, on which these depend too.
+  const auto turnOf = [&](const Parameter& p) {
+    const auto fill = traits_.fills.find(p.name);
+    if (p.isRecord() && !contains(export_.name, {"Init"})) return 0;
+    return fill != traits_.fills.end() && fill->second == "phase" ? 1 : 2;
+  };
+  for (int turn = 0; turn < 3; ++turn) {
     for (const auto& [i, p] : seen.pointers) {
-      const bool isRecord = export_.parameters[i].isRecord() && !contains(export_.name, {"Init"});
-      if (isRecord == wantsRecords) pointers_[i] = pointerFor(i, p.size, p.isConst, p.kind, choices);
+      if (turnOf(export_.parameters[i]) == turn) pointers_[i] = pointerFor(i, p.size, p.isConst, p.kind, choices);
     }
   }
 }

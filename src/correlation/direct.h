@@ -1,0 +1,114 @@
+// Bands that are added up directly. Where all of an output's window lies in x, the kernel reads it there; the others read a copy that
+// continues x by zeros, on the stack.
+#pragma once
+
+#include "convolution/elements.h"
+#include "correlation/band.h"
+
+namespace qvx::correlation {
+
+using convolution::Call;
+using convolution::callOf;
+using convolution::kVectorElements;
+using convolution::moveVectors;
+
+template <class C> inline constexpr size_t kPadded = 8192 / sizeof(C);
+// Taps that are reversed on the stack.
+template <class C> inline constexpr size_t kMostReversed = 4096 / sizeof(C);
+// Outputs at an end that share a copy.
+template <class C> inline constexpr size_t kAtEnd = 4 * kVectorElements<C>;
+
+// n zeros, and up to a vector more.
+template <class C> void zeroVectors(C* out, size_t n) {
+  constexpr Lanes<Part<C>, kVectorBytes / sizeof(Part<C>)> d;
+  for (size_t i = 0; i < n; i += kVectorElements<C>) store(hn::Zero(d), d, parts(out + i));
+}
+
+// n elements of x from `at` on, with zeros for what lies outside; a vector more of them after it.
+template <class C> void copyPadded(const C* x, size_t length, int64_t at, size_t n, C* out) {
+  const auto end = static_cast<int64_t>(n);
+  const auto first = static_cast<size_t>(std::clamp<int64_t>(-at, 0, end));
+  const auto last = static_cast<size_t>(std::clamp<int64_t>(static_cast<int64_t>(length) - at, static_cast<int64_t>(first), end));
+  zeroVectors(out, first);
+  if (last > first) moveVectors(x + at + static_cast<int64_t>(first), last - first, out + first);
+  zeroVectors(out + last, n - last + kVectorElements<C>);
+}
+
+// The stack that a direct band takes.
+template <class C> struct Workspace {
+  alignas(64) C taps[kMostReversed<C>];
+  alignas(64) C window[kPadded<C> + 2 * kVectorElements<C>];
+  C more[kAtEnd<C>];
+};
+
+template <class C> void reverseTaps(const C* taps, size_t n, C* out) {
+  for (size_t i = 0; i < n; ++i) out[i] = taps[n - 1 - i];
+}
+
+inline void add(const Qvx32f* more, size_t n, Qvx32f* y) { qvxsAdd_32f_I(more, y, static_cast<int>(n)); }
+inline void add(const Qvx64f* more, size_t n, Qvx64f* y) { qvxsAdd_64f_I(more, y, static_cast<int>(n)); }
+inline void add(const Qvx32fc* more, size_t n, Qvx32fc* y) { qvxsAdd_32fc_I(more, y, static_cast<int>(n)); }
+inline void add(const Qvx64fc* more, size_t n, Qvx64fc* y) { qvxsAdd_64fc_I(more, y, static_cast<int>(n)); }
+
+// Some outputs, no more than kAtEnd, by pieces of the taps: of those that meet x, as many at a time as the copies have room for.
+template <class C> void sumsByPieces(const Band<C>& band, int64_t from, size_t outputs, C* y, Workspace<C>& work) {
+  const auto reach = static_cast<int64_t>(outputs) - 1;
+  const auto count = static_cast<int64_t>(band.count);
+  const auto length = static_cast<int64_t>(band.length);
+  const int64_t first = std::clamp<int64_t>(-from - reach, 0, count - 1);
+  const int64_t last = std::clamp<int64_t>(length - from, first + 1, count);
+  const size_t most = band.isReversed ? kMostReversed<C> : kPadded<C> - kAtEnd<C>;
+  for (int64_t at = first; at < last;) {
+    const size_t some = std::min(static_cast<size_t>(last - at), most);
+    const auto next = at + static_cast<int64_t>(some);
+    const C* taps = band.taps + at;
+    if (band.isReversed) {
+      reverseTaps(band.taps + (count - next), some, work.taps);
+      taps = work.taps;
+    }
+    const C* window = band.x + (from + at);
+    const bool isInside = from + at >= 0 && from + next + static_cast<int64_t>(std::max(outputs, kVectorElements<C>)) - 1 <= length;
+    if (!isInside) {
+      copyPadded(band.x, band.length, from + at, some + outputs - 1, work.window);
+      window = work.window;
+    }
+    convolution::correlate(window, taps, some, outputs, at == first ? y : work.more, callOf(outputs));
+    if (at > first) add(work.more, outputs, y);
+    at = next;
+  }
+}
+
+template <class C> void directBand(Band<C> band, C* y) {
+  Workspace<C> work;
+  const auto outputs = static_cast<int64_t>(band.outputs);
+  const auto byPieces = [&](int64_t n, int64_t end) {
+    for (size_t some; n < end; n += static_cast<int64_t>(some)) {
+      some = std::min(static_cast<size_t>(end - n), kAtEnd<C>);
+      sumsByPieces(band, band.from + n, some, y + n, work);
+    }
+  };
+  if (band.isReversed) {
+    if (band.count > kMostReversed<C>) return byPieces(0, outputs);
+    reverseTaps(band.taps, band.count, work.taps);
+    band.taps = work.taps;
+    band.isReversed = false;
+  }
+  const size_t window = band.outputs + band.count - 1;
+  if (window <= kPadded<C>) {
+    copyPadded(band.x, band.length, band.from, window, work.window);
+    return convolution::correlate(work.window, band.taps, band.count, band.outputs, y, callOf(band.outputs));
+  }
+  // Outputs from `first` to `last` have their windows in x.
+  const auto slack = static_cast<int64_t>(band.length) - static_cast<int64_t>(band.count) - band.from + 1;
+  int64_t first = std::clamp<int64_t>(-band.from, 0, outputs);
+  int64_t last = std::clamp<int64_t>(slack, first, outputs);
+  if (last - first < static_cast<int64_t>(kVectorElements<C>)) first = last = outputs;
+  byPieces(0, first);
+  if (last > first) {
+    const auto some = static_cast<size_t>(last - first);
+    convolution::correlate(band.x + (band.from + first), band.taps, band.count, some, y + first, callOf(some));
+  }
+  byPieces(last, outputs);
+}
+
+}  // namespace qvx::correlation

@@ -1,0 +1,64 @@
+// The order that medians are taken in, and the lanes that have it. Integers are compared as they are, and so are floats as long as none of
+// them is a NaN or -0.0, which comparisons of floats know no place for: vectors that have such are compared by their keys, as in a sort.
+#pragma once
+
+#include "frame/reduce.h"
+#include "sort/keys.h"
+
+namespace qvx::median {
+
+// How elements T become lanes of type Lane, and back.
+template <class T> struct AsTheyAre {
+  using Lane = T;
+  static T lane(T x) { return x; }
+  static T element(T lane) { return lane; }
+  template <class V> static V lanes(V v) { return v; }
+  template <class V> static V elements(V v) { return v; }
+};
+template <class T> struct AsKey {
+  using Lane = Key<T>;
+  static Lane lane(T x) { return map().key(std::bit_cast<Lane>(x)); }
+  static T element(Lane lane) { return std::bit_cast<T>(map().original(lane)); }
+  template <class V> static auto lanes(V v) { return map().keys(as<Lane>(v)); }
+  template <class V> static auto elements(V v) { return as<T>(map().originals(v)); }
+
+ private:
+  static KeyMap<Lane> map() { return keyMap<T>(Order::kAscending); }
+};
+
+// Whether floats compare as their keys do.
+template <class T> bool compareAsTheyAre(const T* x, size_t n) {
+  if constexpr (std::is_floating_point_v<T>) {
+    const auto isOdd = [](auto v) {
+      const TagOf<decltype(v)> d;
+      const hn::RebindToUnsigned<decltype(d)> bits;
+      using U = hn::TFromD<decltype(bits)>;
+      const auto isMinusZero = hn::BitCast(bits, v) == hn::Set(bits, U{1} << (8 * sizeof(T) - 1));
+      return hn::Or(hn::RebindMask(d, isMinusZero), hn::IsNaN(v));
+    };
+    return firstWhere(isOdd, n, source(x)) == n;
+  } else {
+    return true;
+  }
+}
+
+template <class V> V least(V a, V b) {
+  if constexpr (sizeof(LaneOf<V>) == 8 && std::is_integral_v<LaneOf<V>>) return hn::IfThenElse(a > b, b, a);
+  else return hn::Min(a, b);
+}
+template <class V> V most(V a, V b) {
+  if constexpr (sizeof(LaneOf<V>) == 8 && std::is_integral_v<LaneOf<V>>) return hn::IfThenElse(a > b, a, b);
+  else return hn::Max(a, b);
+}
+template <class V> void order(V& a, V& b) {
+  const V low = least(a, b);
+  b = most(a, b);
+  a = low;
+}
+template <class V> V middle(V a, V b, V c) { return most(least(a, b), least(most(a, b), c)); }
+
+// A mask as it counts: odd, and no longer than reaches from every element to both ends. A longer one has more of the first and of the last
+// element in its window, as many of the one as of the other, and its median lies between the two.
+inline size_t effectiveMask(size_t maskSize, size_t len) { return std::min((maskSize - 1) / 2, len - 1) * 2 + 1; }
+
+}  // namespace qvx::median

@@ -1,0 +1,65 @@
+// Operands of convolution and correlation, and what results have to be.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <qvx/qvxs.h>
+
+#include <cmath>
+
+#include "reference/correlation.h"
+#include "support/blocks.h"
+#include "support/values.h"
+
+namespace tests {
+
+// A vector that ends where its block does, so that reading past it is seen.
+template <class T> class Bounded {
+ public:
+  explicit Bounded(const std::vector<T>& data) : block_(data.size() * sizeof(T)), p_(place(data.size())) {
+    std::copy(data.begin(), data.end(), p_);
+  }
+  explicit Bounded(size_t n) : block_(n * sizeof(T)), p_(place(n)) {}
+  operator T*() { return p_; }
+  bool isIntact() const { return block_.isIntact(); }
+
+ private:
+  T* place(size_t n) { return reinterpret_cast<T*>(block_.atEnd(n * sizeof(T))); }
+  Block block_;
+  T* p_;
+};
+
+// Whole numbers up to `most`, whose sums of products are exact as long as they fit the mantissa.
+template <class T> std::vector<T> wholeNumbers(size_t n, int most, Random& random) {
+  std::uniform_int_distribution<int> draw(-most, most);
+  std::vector<T> all(n);
+  for (T& v : all) {
+    if constexpr (isComplex<T>) v = {static_cast<Part<T>>(draw(random)), static_cast<Part<T>>(draw(random))};
+    else v = static_cast<T>(draw(random));
+  }
+  return all;
+}
+// Floats, the middle third of which is 10^6 times as large.
+template <class T> std::vector<T> unevenNumbers(size_t n, Random& random) {
+  std::uniform_real_distribution<Part<T>> draw(-1, 1);
+  std::vector<T> all(n);
+  for (size_t i = 0; i < n; ++i) {
+    const Part<T> size = i >= n / 3 && i < 2 * n / 3 ? Part<T>(1e6) : Part<T>(1);
+    if constexpr (isComplex<T>) all[i] = {size * draw(random), size * draw(random)};
+    else all[i] = size * draw(random);
+  }
+  return all;
+}
+
+template <class T> long double normOf(const std::vector<T>& v) {
+  long double sum = 0;
+  for (const T x : v) sum += std::norm(std::complex<long double>(reference::wide(x)));
+  return std::sqrt(sum);
+}
+// What a transform long enough for both operands may be off by.
+template <class T> long double transformError(const std::vector<T>& a, const std::vector<T>& b) {
+  const long double eps = std::numeric_limits<Part<T>>::epsilon() / 2;
+  return 4 * eps * std::ceil(std::log2(static_cast<long double>(a.size() + b.size() - 1))) * normOf(a) * normOf(b);
+}
+template <class T, class Wide> long double distance(T y, Wide exact) { return std::abs(reference::wide(y) - exact); }
+
+}  // namespace tests
