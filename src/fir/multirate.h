@@ -19,14 +19,17 @@ template <class C> struct MultirateRecord : RecordHead {
   int history;  // samples of a row that come before those of a call
   int block;    // periods of a call at a time
   int stride;   // from one row to the next
+  int done;     // periods that the rows still hold, of calls before: they are moved out only when their room is needed
   C* rows;
 
   size_t rowCount() const { return static_cast<size_t>(ratio.down / rowLen); }
   C* row(size_t i) const { return rows + i * static_cast<size_t>(stride); }
+  // Where a row takes the next sample.
+  int64_t next() const { return history + int64_t{done} * rowLen; }
   // A sample by its place, counted from the first of a call.
   C* sample(int64_t place) const {
     const auto count = static_cast<int64_t>(rowCount());
-    const int64_t at = place + history * count;
+    const int64_t at = place + next() * count;
     return row(static_cast<size_t>(at % count)) + at / count;
   }
 };
