@@ -101,9 +101,16 @@ template <class R> class Branches {
   Branch branch_;
 };
 
-template <class C> Lanewise<C> lanewise(const MultirateFloat<C>& record) {
-  return {record.groups,     record.groupCount, record.order,     parts(record.branches),
-          record.ratio.taps, record.ratio.up,   record.ratio.down};
+template <class R> Lanewise<typename R::Kernel> lanewise(const R& record) {
+  using L = Lanewise<typename R::Kernel>;
+  const Ratio& q = record.ratio;
+  return {record.groups,
+          record.groupCount,
+          record.order,
+          reinterpret_cast<const typename L::Tap*>(record.branches),
+          L::steps(q.taps),
+          q.up,
+          q.down};
 }
 
 // finish(sums, n, outputs) makes the outputs of sums; integer sums come scaled by 2^places. src may be dst, unless there are more
@@ -121,12 +128,13 @@ void resample(R& record, const T* src, T* dst, size_t periods, int64_t places, F
     some = std::min(periods, block);
     makeRoom(record, some);
     deal(record, src, some);
-    if constexpr (!std::is_integral_v<Part<C>> && Lanewise<C>::kPays) {
+    if constexpr (Lanewise<C>::kPays) {
       if (record.groupCount > 0) {
         C* outputs;
         if constexpr (kConverts) outputs = sums;
         else outputs = dst;
-        convolve(lanewise(record), record.sample(0), some, outputs);
+        if constexpr (Lanewise<C>::kIsFloat) convolve(lanewise(record), record.sample(0), some, outputs);
+        else convolve(lanewise(record), record.sample(0), some, outputs, places);
         if constexpr (kConverts) finish(sums, some * up, dst);
         record.done += static_cast<int>(some);
         continue;
