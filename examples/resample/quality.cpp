@@ -45,9 +45,9 @@ class Spectrum {
   // The strongest line, but for those around a frequency.
   double strongestBeside(double frequency) const {
     double most = 0;
-    for (int line = 0; line <= kPoints / 2; ++line) {
-      if (std::abs(line - frequency * kPoints) < kLobe + 2) continue;
-      const auto at = static_cast<size_t>(2 * line);
+    for (size_t line = 0; line <= kPoints / 2; ++line) {
+      if (std::abs(static_cast<double>(line) - frequency * kPoints) < kLobe + 2) continue;
+      const size_t at = 2 * line;
       most = std::max(most, std::hypot(points_[at], points_[at + 1]));
     }
     return 2 * most / sum_;

@@ -1,6 +1,7 @@
 #include "convolution/convolve.h"
 
 #include "convolution/kernel.h"
+#include "convolution/sum_shift.h"
 #include "frame/team.h"
 
 namespace qvx::convolution {
@@ -45,30 +46,18 @@ template <class T> struct ConjugateSum : ComplexSum<T> {
   }
 };
 
-// Two sums of 32 bits for each element of two 16-bit results.
-struct SumShift {
-  int places;
-
-  static SumShift of(int64_t places) { return {static_cast<int>(std::clamp<int64_t>(places, -31, 32))}; }
-
-  template <class V> auto operator()(Pair<V> sums) const {
-    const TagOf<V> d;
-    return narrow<int16_t>(
-        Pair<V>{shifted(hn::InterleaveLower(d, sums.lo, sums.hi)), shifted(hn::InterleaveUpper(d, sums.lo, sums.hi))});
-  }
-
- private:
-  template <class V> V shifted(V sum) const {
-    if (places < 0) return roundedShift(sum, -places);
-    return places > 31 ? hn::Zero(TagOf<V>()) : hn::ShiftLeftSame(sum, places);
-  }
-};
+// Two sums for each element of two results.
+template <class V> auto scaledInTurn(const SumShift& shift, Pair<V> sums) {
+  const TagOf<V> d;
+  return narrow<int16_t>(
+      Pair<V>{shift(hn::InterleaveLower(d, sums.lo, sums.hi)), shift(hn::InterleaveUpper(d, sums.lo, sums.hi))});
+}
 
 // lanes: of y, all that may be written.
 template <class Products> void integers(const Products& products, size_t lanes, int16_t* y, int64_t places) {
   const auto shift = SumShift::of(places);
   filter<PairSum, AnyOrder<PairSum::kChannels>>(products, (lanes + 1) / 2, [=](auto sums, size_t at, auto... some) {
-    const auto v = shift(sums);
+    const auto v = scaledInTurn(shift, sums);
     constexpr TagOf<decltype(v)> d;
     constexpr size_t kWhole = hn::MaxLanes(d);
     if constexpr (sizeof...(some) != 0) storeFirst(v, d, y, lanes);

@@ -15,20 +15,23 @@ struct LaneGroup {
 };
 
 // A lane's place, of the size of its element.
-template <class C> using LanePlace = std::conditional_t<sizeof(C) == 4, int32_t, int64_t>;
+template <class C> using LanePlace = std::conditional_t<sizeof(C) <= 4, int32_t, int64_t>;
 
 template <class C> struct Lanewise {
-  using Tap = Part<C>;
-  static constexpr int kLanes = static_cast<int>(kVectorElements<C>);
-  static constexpr bool kPays = kLanes >= 4 && sizeof(C) <= 8;
-  // Elements of a group's table for each tap: a complex one is a vector of real parts, each twice, and one of imaginary parts.
-  static constexpr int kEach = kLanes * PartsOf<C>::kCount * PartsOf<C>::kCount;
+  static constexpr bool kIsFloat = std::is_floating_point_v<Part<C>>;
+  using Tap = std::conditional_t<kIsFloat, Part<C>, Qvx16sc>;
+  static constexpr int kLanes = static_cast<int>(kVectorBytes / std::max<size_t>(sizeof(C), 4));
+  static constexpr bool kPays = kLanes >= 4 && sizeof(C) <= 8 && (kIsFloat || sizeof(C) == 2);
+  // Elements of a group's table for each step: a tap of floats, of which a complex one is a vector of real parts, each twice, and
+  // one of imaginary parts; a pair of integers.
+  static constexpr int kEach = kLanes * (kIsFloat ? PartsOf<C>::kCount * PartsOf<C>::kCount : 1);
+  static constexpr int steps(int taps) { return kIsFloat ? taps : (taps + 1) / 2; }
 
   const LaneGroup* groups;
   int groupCount;
   const LanePlace<C>* order;  // kLanes for each group: the place of each lane's first sample after the group's
-  const Tap* taps;            // kEach for each tap of each group
-  int tapCount;
+  const Tap* taps;            // kEach for each step of each group
+  int stepCount;
   int up;
   int down;
 };
@@ -37,5 +40,8 @@ template <class C> struct Lanewise {
 void convolve(const Lanewise<Qvx32f>& filter, const Qvx32f* x, size_t periods, Qvx32f* y);
 void convolve(const Lanewise<Qvx64f>& filter, const Qvx64f* x, size_t periods, Qvx64f* y);
 void convolve(const Lanewise<Qvx32fc>& filter, const Qvx32fc* x, size_t periods, Qvx32fc* y);
+// Integers as those of convolve.h, of which no more than kMostPaired samples are needed. Two vectors may be read past the last.
+inline constexpr int kMostPaired = 2048;
+void convolve(const Lanewise<Qvx16s>& filter, const Qvx16s* x, size_t periods, Qvx16s* y, int64_t places);
 
 }  // namespace qvx::convolution

@@ -13,20 +13,29 @@
 namespace qvx::fir {
 
 template <class C> struct MultirateRecord : RecordHead {
+  using Kernel = C;
+
   int tapsLen;
   Ratio ratio;
   int rowLen;   // of samples in a period that a row takes: 1, or all
   int history;  // samples of a row that come before those of a call
   int block;    // periods of a call at a time
   int stride;   // from one row to the next
+  int done;     // periods that the rows still hold, of calls before: they are moved out only when their room is needed
   C* rows;
+  // In one row:
+  int groupCount;
+  LaneGroup* groups;
+  LanePlace<C>* order;
 
   size_t rowCount() const { return static_cast<size_t>(ratio.down / rowLen); }
   C* row(size_t i) const { return rows + i * static_cast<size_t>(stride); }
+  // Where a row takes the next sample.
+  int64_t next() const { return history + int64_t{done} * rowLen; }
   // A sample by its place, counted from the first of a call.
   C* sample(int64_t place) const {
     const auto count = static_cast<int64_t>(rowCount());
-    const int64_t at = place + history * count;
+    const int64_t at = place + next() * count;
     return row(static_cast<size_t>(at % count)) + at / count;
   }
 };
@@ -39,10 +48,6 @@ template <class C> struct MultirateFloat : MultirateRecord<C> {
 
   C* taps;  // reversed
   C* branches;
-  // In one row:
-  LaneGroup* groups;
-  LanePlace<C>* order;
-  int groupCount;
 };
 template <class S, class T> struct MultirateInteger : MultirateRecord<S> {
   using Kernel = S;
@@ -128,24 +133,29 @@ template <class C> int laneGroups(const Ratio& q) {
   return isFull || q.taps * (2 * kLanes - lanes) < 100 * lanes ? count : 0;
 }
 
-template <class C> void placeTaps(MultirateFloat<C>& record, Carver& carver) {
-  const Ratio& q = record.ratio;
-  record.taps = carver.takeLines<C>(record.tapsLen);
+// The taps for lanes, of which `each` elements make a step, or for rows.
+template <class R> void placeBranches(R& record, Carver& carver, int64_t each) {
+  using L = Lanewise<typename R::Kernel>;
+  using B = typename R::Branches;
   if (record.groupCount == 0) {
-    record.branches = carver.takeLines<C>(q.up * branchLen(record));
+    record.branches = carver.takeLines<B>(record.ratio.up * branchLen(record));
     return;
   }
   const int64_t count = record.groupCount;
-  record.branches = carver.takeLines<C>(count * q.taps * Lanewise<C>::kEach / int64_t{PartsOf<C>::kCount});
-  record.order = carver.takeLines<LanePlace<C>>(count * Lanewise<C>::kLanes);
+  record.branches = carver.takeLines<B>(count * L::steps(record.ratio.taps) * each);
+  record.order = carver.takeLines<LanePlace<typename R::Kernel>>(count * L::kLanes);
   record.groups = carver.take<LaneGroup>(count);
+}
+template <class C> void placeTaps(MultirateFloat<C>& record, Carver& carver) {
+  record.taps = carver.takeLines<C>(record.tapsLen);
+  placeBranches(record, carver, Lanewise<C>::kEach / int64_t{PartsOf<C>::kCount});
 }
 template <class S, class T> void placeTaps(MultirateInteger<S, T>& record, Carver& carver) {
   record.taps = carver.takeLines<T>(record.tapsLen);
   if constexpr (std::is_same_v<S, T>) record.shortTaps = record.taps;
   else record.shortTaps = carver.takeLines<S>(record.tapsLen);
   record.group = carver.takeLines<S>(record.ratio.taps);
-  record.branches = carver.takeLines<Qvx16sc>(record.ratio.up * branchLen(record));
+  placeBranches(record, carver, Lanewise<S>::kEach);
 }
 
 // The rows take what is left of the block's bytes, from `begin` on; false if that is less than a period. branches: as many as
@@ -166,6 +176,9 @@ template <class R> bool placeRows(R& record, Carver& carver, const Qvx8u* begin,
   if (record.rowLen == 1 && !areTapsByRow(static_cast<size_t>(q.taps), static_cast<size_t>(count))) {
     block = std::min(block, std::max(kNear / std::min<int64_t>(q.taps, count), 2 * kVector));
   }
+  if (std::is_integral_v<Part<C>> && record.groupCount > 0) {
+    block = std::min<int64_t>(block, (kMostPaired - q.taps - 2) / q.down);
+  }
   if (block < 1) return false;
   record.history = static_cast<int>(history);
   record.block = static_cast<int>(block > kVector ? block / kVector * kVector : block);
@@ -177,7 +190,7 @@ template <class R> bool placeRows(R& record, Carver& carver, const Qvx8u* begin,
 template <class R> void layOut(R& record, Carver& carver, const Qvx8u* begin, int64_t bytes, int tapsLen, const Factors& f) {
   record.tapsLen = tapsLen;
   record.ratio = Ratio::of(tapsLen, f);
-  if constexpr (!std::is_integral_v<Part<typename R::Kernel>>) {
+  if constexpr (Lanewise<typename R::Kernel>::kPays) {
     record.groupCount = laneGroups<typename R::Kernel>(record.ratio);
     if (record.groupCount > 0) {
       Carver inOneRow = carver;
@@ -201,33 +214,45 @@ template <class F> void forEachBranch(const Ratio& q, F f) {
   for (int j = 0; j < q.up; ++j, branch.advance(q.up, q.down)) f(branch, j);
 }
 
-// For each tap of a group, that of each lane: a real one, or its real part twice, and in a vector after it its imaginary part.
-template <class C> void spreadTaps(MultirateFloat<C>& record) {
-  using L = Lanewise<C>;
-  constexpr int kParts = PartsOf<C>::kCount;
+// put(table, lane, t, tap) for the taps of all lanes, in tables of tableLen elements for each group.
+template <class R, class T, class Put>
+void spreadTaps(R& record, const typename R::Kernel* reversed, T* table, int64_t tableLen, Put put) {
+  using C = typename R::Kernel;
+  constexpr int kLanes = Lanewise<C>::kLanes;
   const Ratio& q = record.ratio;
-  Part<C>* to = parts(record.branches);
   LanePlace<C>* order = record.order;
   LaneGroup* groups = record.groups;
   Branch branch = q.branch();
-  forEachLaneGroup<L::kLanes>(q, [&](const LaneGroup& group) {
+  forEachLaneGroup<kLanes>(q, [&](const LaneGroup& group) {
     *groups++ = group;
-    std::fill_n(to, q.taps * L::kEach, Part<C>{});
-    std::fill_n(order, L::kLanes, LanePlace<C>{});
+    std::fill_n(table, tableLen, T{});
+    std::fill_n(order, kLanes, LanePlace<C>{});
     const int64_t first = branch.sample;
     for (int lane = 0; lane < group.count; ++lane, branch.advance(q.up, q.down)) {
       order[lane] = static_cast<LanePlace<C>>(branch.sample - first);
-      for (int t = 0; t < q.taps; ++t) {
-        const C tap = q.tapOf(record.taps, record.tapsLen, branch.tap, t);
-        for (int part = 0; part < kParts; ++part) {
-          Part<C>* const each = to + t * L::kEach + part * L::kLanes * kParts + lane * kParts;
-          std::fill_n(each, kParts, parts(&tap)[part]);
-        }
-      }
+      for (int t = 0; t < q.taps; ++t) put(table, lane, t, q.tapOf(reversed, record.tapsLen, branch.tap, t));
     }
-    to += q.taps * L::kEach;
-    order += L::kLanes;
+    table += tableLen;
+    order += kLanes;
   });
+}
+// A real tap of each lane, or its real part twice, and in a vector after it its imaginary part.
+template <class C> void spreadTaps(MultirateFloat<C>& record) {
+  using L = Lanewise<C>;
+  constexpr int kParts = PartsOf<C>::kCount;
+  spreadTaps(record, record.taps, parts(record.branches), int64_t{record.ratio.taps} * L::kEach,
+             [](Part<C>* table, int lane, int t, C tap) {
+               for (int part = 0; part < kParts; ++part) {
+                 std::fill_n(table + t * L::kEach + (part * L::kLanes + lane) * kParts, kParts, parts(&tap)[part]);
+               }
+             });
+}
+template <class S, class T> void spreadTaps(MultirateInteger<S, T>& record) {
+  using L = Lanewise<S>;
+  if constexpr (L::kPays) {
+    spreadTaps(record, record.shortTaps, record.branches, int64_t{L::steps(record.ratio.taps)} * L::kEach,
+               [](Qvx16sc* table, int lane, int t, S tap) { parts(table + t / 2 * L::kEach + lane)[t % 2] = tap; });
+  }
 }
 
 template <class C> void dealTaps(MultirateFloat<C>& record) {
@@ -242,6 +267,7 @@ template <class C> void dealTaps(MultirateFloat<C>& record) {
   });
 }
 template <class S, class T> void dealTaps(MultirateInteger<S, T>& record) {
+  if (record.groupCount > 0) return spreadTaps(record);
   const Ratio& q = record.ratio;
   Qvx16sc* to = record.branches;
   forEachBranch(q, [&](const Branch& branch, int) {

@@ -9,7 +9,7 @@ namespace qvx::fir {
 template <class C, class T> void deal(const MultirateRecord<C>& record, const T* src, size_t periods) {
   const size_t down = record.rowCount();
   const auto stride = static_cast<size_t>(record.stride);
-  C* const rows = record.rows + record.history;
+  C* const rows = record.rows + record.next();
   periods *= static_cast<size_t>(record.rowLen);
   if constexpr (std::is_same_v<C, T>) {
     if (down == 1) std::copy_n(src, periods, rows);
@@ -29,15 +29,18 @@ template <class C, class T> void deal(const MultirateRecord<C>& record, const T*
   }
 }
 
-// Forgets the first samples of the rows.
-template <class C> void forget(const MultirateRecord<C>& record, size_t periods) {
+// Makes room for some periods, at most a block.
+template <class C> void makeRoom(MultirateRecord<C>& record, size_t periods) {
+  const auto done = static_cast<size_t>(record.done);
+  if (done + periods <= static_cast<size_t>(record.block)) return;
   const auto history = static_cast<size_t>(record.history);
-  periods *= static_cast<size_t>(record.rowLen);
   for (size_t i = 0; i < record.rowCount(); ++i) {
     C* const row = record.row(i);
-    if (history > 4) moveVectors(row + periods, history, row);
-    else std::copy_n(row + periods, history, row);
+    const C* const last = row + done * static_cast<size_t>(record.rowLen);
+    if (history > 4) moveVectors(last, history, row);
+    else std::copy_n(last, history, row);
   }
+  record.done = 0;
 }
 
 // The branches of a filter one after another, each over the samples of a block.
@@ -98,15 +101,22 @@ template <class R> class Branches {
   Branch branch_;
 };
 
-template <class C> Lanewise<C> lanewise(const MultirateFloat<C>& record) {
-  return {record.groups,     record.groupCount, record.order,     parts(record.branches),
-          record.ratio.taps, record.ratio.up,   record.ratio.down};
+template <class R> Lanewise<typename R::Kernel> lanewise(const R& record) {
+  using L = Lanewise<typename R::Kernel>;
+  const Ratio& q = record.ratio;
+  return {record.groups,
+          record.groupCount,
+          record.order,
+          reinterpret_cast<const typename L::Tap*>(record.branches),
+          L::steps(q.taps),
+          q.up,
+          q.down};
 }
 
 // finish(sums, n, outputs) makes the outputs of sums; integer sums come scaled by 2^places. src may be dst, unless there are more
 // outputs than samples.
 template <class R, class T, class Finish>
-void resample(const R& record, const T* src, T* dst, size_t periods, int64_t places, Finish finish) {
+void resample(R& record, const T* src, T* dst, size_t periods, int64_t places, Finish finish) {
   using C = typename R::Kernel;
   constexpr bool kConverts = !std::is_same_v<C, T>;
   const auto up = static_cast<size_t>(record.ratio.up);
@@ -116,15 +126,17 @@ void resample(const R& record, const T* src, T* dst, size_t periods, int64_t pla
   C sums[kSumsBytes / sizeof(C)];
   for (size_t some; periods > 0; periods -= some, src += some * down, dst += some * up) {
     some = std::min(periods, block);
+    makeRoom(record, some);
     deal(record, src, some);
-    if constexpr (!std::is_integral_v<Part<C>> && Lanewise<C>::kPays) {
+    if constexpr (Lanewise<C>::kPays) {
       if (record.groupCount > 0) {
         C* outputs;
         if constexpr (kConverts) outputs = sums;
         else outputs = dst;
-        convolve(lanewise(record), record.sample(0), some, outputs);
+        if constexpr (Lanewise<C>::kIsFloat) convolve(lanewise(record), record.sample(0), some, outputs);
+        else convolve(lanewise(record), record.sample(0), some, outputs, places);
         if constexpr (kConverts) finish(sums, some * up, dst);
-        forget(record, some);
+        record.done += static_cast<int>(some);
         continue;
       }
     }
@@ -149,7 +161,7 @@ void resample(const R& record, const T* src, T* dst, size_t periods, int64_t pla
         transposeElements(sums, some, n, some, dst + from, up);
       }
     }
-    forget(record, some);
+    record.done += static_cast<int>(some);
   }
 }
 
@@ -159,7 +171,7 @@ template <class R> int64_t multiratePlaces(const R& record, int scaleFactor) {
 }
 
 // In groups of the caller's factors.
-template <class R, class T> void filterMultirate(const R& record, const T* src, T* dst, size_t groups, int scaleFactor) {
+template <class R, class T> void filterMultirate(R& record, const T* src, T* dst, size_t groups, int scaleFactor) {
   using C = typename R::Kernel;
   resample(record, src, dst, groups * static_cast<size_t>(record.ratio.step), multiratePlaces(record, scaleFactor),
            [=](const C* sums, size_t n, T* outputs) { toSamples(sums, n, outputs, scaleFactor); });
@@ -175,7 +187,7 @@ template <class T, class Filter> QvxStatus onCopy(const T* src, int64_t count, F
   return qvxStatOk;
 }
 
-template <class R, class T> QvxStatus filterMultirateBlock(const R& record, const T* src, T* dst, int numIters, int scaleFactor) {
+template <class R, class T> QvxStatus filterMultirateBlock(R& record, const T* src, T* dst, int numIters, int scaleFactor) {
   const auto from = [&](const T* samples) { filterMultirate(record, samples, dst, elements(numIters), scaleFactor); };
   const Ratio& q = record.ratio;
   if (src == dst && q.up > q.down) return onCopy(src, int64_t{numIters} * q.down * q.step, from);
