@@ -175,6 +175,10 @@ template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, 
     plan.way = Way::kDirect;
     return chooseDirect(plan.direct, n, false);
   }
+  if (!isApart && chooseGrid(plan.grid, n)) {
+    plan.way = Way::kGrid;
+    return {static_cast<int64_t>(tableLength(plan.grid) * sizeof(T)), 0};
+  }
   MixedPlanner<T> planner;
   if (planner.plan(n, plan.mixed)) {
     plan.way = Way::kFactors;
@@ -192,6 +196,9 @@ template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* blo
       break;
     case Way::kDirect:
       writeDirect(plan.direct, false, block);
+      break;
+    case Way::kGrid:
+      writeGrid(plan.grid, reinterpret_cast<T*>(block));
       break;
     case Way::kFactors:
       if (plan.isApart) writeMixed<Planes<T>>(plan.mixed, reinterpret_cast<T*>(block));
@@ -212,6 +219,8 @@ template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T*
       return;
     case Way::kDirect:
       return small(plan.direct, isInverse, src, dst, factor);
+    case Way::kGrid:
+      return runGrid(plan.grid, isInverse, src, dst, factor);
     case Way::kConvolution:
       return convolve(plan.convolution, plan.n, Strided<const T>{src + isInverse, src + !isInverse, 2},
                       Strided<T>{dst + isInverse, dst + !isInverse, 2}, factor, work);

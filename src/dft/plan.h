@@ -2,12 +2,14 @@
 #pragma once
 
 #include "dft/direct.h"
+#include "transform/grid.h"
 
 namespace qvx::dft {
 
 using namespace transform;
 
 enum class Way : uint8_t {
+  kGrid,         // two factors, in registers
   kFactors,      // passes by factors
   kFft,          // a power of two
   kDirect,       // the definition: few points
@@ -43,6 +45,7 @@ template <class T> struct ComplexPlan {
   T inverseFactor;
   typename FftOf<T>::Spec* fft;            // of interleaved points
   typename FftOf<T>::SplitSpec* splitFft;  // of points whose parts stand apart
+  GridPlan<T> grid;
   MixedPlan<T> mixed;
   DirectPlan<T> direct;
   ConvolutionPlan<T> convolution;
