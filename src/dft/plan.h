@@ -63,6 +63,9 @@ template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T*
 template <class T>
 void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, uint8_t* work);
 
+// Of n real numbers by a convolution: n / 2 + 1 points of the spectrum.
+template <class T> void spectrumByConvolution(const ComplexPlan<T>& plan, const T* src, T* dst, uint8_t* work);
+
 template <class T> struct RealFftOf;
 template <> struct RealFftOf<float> { using Spec = QvxsFFTSpec_R_32f; };
 template <> struct RealFftOf<double> { using Spec = QvxsFFTSpec_R_64f; };

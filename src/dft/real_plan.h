@@ -131,6 +131,11 @@ template <class T> void forward(const RealPlan<T>& plan, SpectrumLayout layout, 
     if (layout == SpectrumLayout::kCcs) fromPerm<SpectrumLayout::kCcs>(dst, n);
     return;
   }
+  if (plan.complex.way == Way::kConvolution && layout == SpectrumLayout::kCcs) {
+    spectrumByConvolution(plan.complex, src, dst, work);
+    dst[1] = 0;
+    return;
+  }
   Carver carver(work, Carver::kLine);
   T* const points = carver.take<T>(static_cast<int64_t>(2 * n));
   for (size_t i = 0; i < n; ++i) {

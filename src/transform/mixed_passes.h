@@ -61,6 +61,13 @@ template <class T> struct Conjugable {
     z.im = turned(z.im);
     return z;
   }
+  template <size_t L> QVX_INLINE auto getInOrder(size_t at, size_t n) const {
+    const Lanes<Lane, L> d;
+    using V = Vec<Lanes<Lane, L>>;
+    const size_t low = std::min(2 * n, L);
+    const auto parts = deinterleaved(Pair<V>{firstLanes(d, p + 2 * at, low), firstLanes(d, p + 2 * at + low, 2 * n - low)});
+    return Complex<V>{parts.lo, turned(parts.hi)};
+  }
   template <size_t L, class V> QVX_INLINE void putInOrder(Complex<V> z, size_t at) const {
     Interleaved<T, false>{p}.template putInOrder<L>(Complex<V>{z.re, turned(z.im)}, at);
   }
