@@ -9,6 +9,7 @@ namespace qvx::dft {
 using namespace transform;
 
 enum class Way : uint8_t {
+  kRegisters,    // a few real numbers
   kGrid,         // two factors, in registers
   kFactors,      // passes by factors
   kFft,          // a power of two
