@@ -5,6 +5,11 @@
 #include "dft/sizes.h"
 #include "fft/record.h"
 
+namespace qvx::transform {
+extern template void runGrid<float>(const GridPlan<float>& plan, bool isInverse, const float* src, float* dst, float factor);
+extern template void runGrid<double>(const GridPlan<double>& plan, bool isInverse, const double* src, double* dst, double factor);
+}  // namespace qvx::transform
+
 namespace qvx::dft {
 
 template <class T> Factors<T> factorsOf(uint32_t n, int flag) {

@@ -1,4 +1,4 @@
-// Transforms of R * C points, both up to 16, on complex numbers as they stand in memory: R points down each column of a grid,
+// Transforms of R * C points, both up to 32, on complex numbers as they stand in memory: R points down each column of a grid,
 // twiddles, C points along each row.
 //
 // A vector holds P columns, then, transposed in squares, P rows. Where they do not divide C or R, the last ones are done twice.
@@ -11,7 +11,48 @@
 
 namespace qvx::transform {
 
-inline constexpr size_t kWidestGrid = 16;
+inline constexpr size_t kWidestGrid = 32;
+inline constexpr uint8_t kGridRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16, 18, 20, 24, 25, 27, 30, 32};
+template <class Step> QVX_INLINE void withGridRadix(size_t radix, Step step) {
+  switch (radix) {
+    case 18:
+      return step(std::integral_constant<size_t, 18>());
+    case 20:
+      return step(std::integral_constant<size_t, 20>());
+    case 24:
+      return step(std::integral_constant<size_t, 24>());
+    case 25:
+      return step(std::integral_constant<size_t, 25>());
+    case 27:
+      return step(std::integral_constant<size_t, 27>());
+    case 30:
+      return step(std::integral_constant<size_t, 30>());
+    case 32:
+      return step(std::integral_constant<size_t, 32>());
+    default:
+      return withMixedRadix(radix, step);
+  }
+}
+constexpr uint32_t costInGrid(size_t radix) {
+  switch (radix) {
+    case 18:
+      return 330;
+    case 20:
+      return 330;
+    case 24:
+      return 400;
+    case 25:
+      return 520;
+    case 27:
+      return 560;
+    case 30:
+      return 620;
+    case 32:
+      return 640;
+    default:
+      return costOfRadix(radix);
+  }
+}
 // Columns in a vector. Half of the widest register: 5 columns are seldom worth 8.
 template <class T> inline constexpr size_t kGridColumns = std::min<size_t>(kVectorBytes, 32) / (2 * sizeof(T));
 
@@ -27,10 +68,10 @@ constexpr size_t vectorsOf(size_t count, size_t lanes) { return (count + lanes -
 template <class T> bool chooseGrid(GridPlan<T>& plan, uint32_t n) {
   constexpr size_t P = kGridColumns<T>;
   uint64_t best = UINT64_MAX;
-  for (uint32_t across = 2; across <= kWidestGrid; ++across) {
+  for (const uint32_t across : kGridRadices) {
     const uint32_t down = n / across;
-    if (n % across != 0 || down > kWidestGrid || down < P || across == 14 || down == 14) continue;
-    const uint64_t cost = vectorsOf(across, P) * (costOfRadix(down) + 4 * down) + vectorsOf(down, P) * (costOfRadix(across) + 4 * across);
+    if (n % across != 0 || down < P || !std::binary_search(std::begin(kGridRadices), std::end(kGridRadices), down)) continue;
+    const uint64_t cost = vectorsOf(across, P) * (costInGrid(down) + 4 * down) + vectorsOf(down, P) * (costInGrid(across) + 4 * across);
     if (cost >= best) continue;
     best = cost;
     plan = {static_cast<uint8_t>(down), static_cast<uint8_t>(across), nullptr};
@@ -117,8 +158,8 @@ template <class T> void runGrid(const GridPlan<T>& plan, bool isInverse, const T
   const V turn = isInverse ? alternating<V>() : same<V>(T(1));
   store(hn::And(turn, same<V>(T(-0.0))), d, signs);
   store(turn * same<V>(factor), d, factors);
-  withMixedRadix(plan.down, [&](auto R) { downGrid<R>(src, y, plan.across, plan.twiddles, signs); });
-  withMixedRadix(plan.across, [&](auto C) { acrossGrid<C>(y, dst, plan.down, factors); });
+  withGridRadix(plan.down, [&](auto R) { downGrid<R>(src, y, plan.across, plan.twiddles, signs); });
+  withGridRadix(plan.across, [&](auto C) { acrossGrid<C>(y, dst, plan.down, factors); });
 }
 
 }  // namespace qvx::transform
