@@ -140,11 +140,20 @@ template <class Index, class Put> void writeTwiddles(size_t n, size_t count, Ind
   double turns[kMany] = {};
   double cosine[kMany];
   double sine[kMany];
-  const auto ofNths = [n, step](V nths) {
+  const auto ofNths = [n, step, d](V nths) {
     const V all = same<V>(static_cast<double>(n));
     const V k = hn::Round(nths * same<V>(-4 * step));
     const V r = hn::NegMulAdd(k, all, same<V>(4) * nths);
-    return sinCosOfQuarters<53>(k, r / all * same<V>(0x1.921fb54442d18p+0), hn::Zero(TagOf<V>()));
+    const V quarters = r / all;
+    const V quarter = same<V>(0x1.921fb54442d18p+0);  // the angle, and 0x1.1a62633145c07p-54 more
+    const V angle = quarters * quarter;
+    V rest = hn::Zero(d);
+    if constexpr (kFuses) {  // what division and product have lost: half of a twiddle's error
+      const V lost = hn::NegMulAdd(quarters, all, r) / all;
+      rest = hn::MulAdd(quarters, same<V>(0x1.1a62633145c07p-54), hn::MulSub(quarters, quarter, angle));
+      rest = hn::MulAdd(lost, quarter, rest);
+    }
+    return sinCosOfQuarters<53>(k, angle, rest);
   };
   for (size_t i = 0; i < count; i += kMany) {
     const size_t here = std::min(kMany, count - i);

@@ -79,6 +79,9 @@ inline const RealDft<Qvx64f, QvxsDFTSpec_R_64f> kRealDft64f = {"R_64f", {qvxsDFT
     {{qvxsDFTFwd_RToPerm_64f, qvxsDFTFwd_RToPack_64f, qvxsDFTFwd_RToCCS_64f}, {qvxsDFTInv_PermToR_64f, qvxsDFTInv_PackToR_64f, qvxsDFTInv_CCSToR_64f}}};
 inline const InterleavedDft<Qvx32f, Qvx32fc, QvxsDFTOutOrdSpec_C_32fc> kDftOutOfOrder32fc = {"out of order, 32fc", {qvxsDFTOutOrdInitAlloc_C_32fc, qvxsDFTOutOrdFree_C_32fc, qvxsDFTOutOrdGetBufSize_C_32fc}, {qvxsDFTOutOrdFwd_CToC_32fc, qvxsDFTOutOrdInv_CToC_32fc}};
 inline const InterleavedDft<Qvx64f, Qvx64fc, QvxsDFTOutOrdSpec_C_64fc> kDftOutOfOrder64fc = {"out of order, 64fc", {qvxsDFTOutOrdInitAlloc_C_64fc, qvxsDFTOutOrdFree_C_64fc, qvxsDFTOutOrdGetBufSize_C_64fc}, {qvxsDFTOutOrdFwd_CToC_64fc, qvxsDFTOutOrdInv_CToC_64fc}};
+inline const DftLife<QvxsDFTSpec_C_16sc> kDft16sc = {qvxsDFTInitAlloc_C_16sc, qvxsDFTFree_C_16sc, qvxsDFTGetBufSize_C_16sc};
+inline const DftLife<QvxsDFTSpec_C_16s> kDft16s = {qvxsDFTInitAlloc_C_16s, qvxsDFTFree_C_16s, qvxsDFTGetBufSize_C_16s};
+inline const DftLife<QvxsDFTSpec_R_16s> kRealDft16s = {qvxsDFTInitAlloc_R_16s, qvxsDFTFree_R_16s, qvxsDFTGetBufSize_R_16s};
 // clang-format on
 
 template <class Step> void forEachComplex(Step step) {
