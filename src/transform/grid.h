@@ -11,6 +11,20 @@
 
 namespace qvx::transform {
 
+// Of parts side by side with one rounding less: the sine with both signs.
+template <class T, size_t kTurn, size_t N> struct SignedSine {
+  T v[16];
+  constexpr SignedSine() : v() {
+    for (size_t i = 0; i < 16; ++i) v[i] = static_cast<T>((i % 2 == 0 ? 1 : -1) * sineOfTurn(kTurn, N));
+  }
+};
+template <class T, size_t kTurn, size_t N> alignas(64) inline constexpr SignedSine<T, kTurn, N> kSignedSine;
+template <size_t kTurn, size_t N, class V> QVX_INLINE ComplexVector<V, false> turned(ComplexVector<V, false> z) {
+  constexpr double kCosine = cosineOfTurn(kTurn, N);
+  const V cosine = same<V>(static_cast<LaneOf<V>>(kCosine));
+  return {hn::MulAdd(swapped(z.v), load(TagOf<V>(), kSignedSine<LaneOf<V>, kTurn, N>.v), z.v * cosine)};
+}
+
 inline constexpr size_t kWidestGrid = 32;
 inline constexpr uint8_t kGridRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16, 18, 20, 24, 25, 27, 30, 32};
 template <class Step> QVX_INLINE void withGridRadix(size_t radix, Step step) {

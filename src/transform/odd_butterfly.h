@@ -110,6 +110,13 @@ template <size_t A, size_t B, class Z> QVX_INLINE void dftOfCoprimes(Z (&x)[A * 
   });
 }
 
+// z exp(-2 pi i kTurn / N)
+template <size_t kTurn, size_t N, class Z> QVX_INLINE Z turned(Z z) {
+  constexpr double kCosine = cosineOfTurn(kTurn, N);
+  constexpr double kSine = sineOfTurn(kTurn, N);
+  return product(z, kCosine, -kSine);
+}
+
 // A * B points of any factors: B transforms of A points, twiddles, A transforms of B points.
 template <size_t A, size_t B, class Z> QVX_INLINE void dftOfProduct(Z (&x)[A * B]) {
   Z y[B][A];
@@ -118,9 +125,7 @@ template <size_t A, size_t B, class Z> QVX_INLINE void dftOfProduct(Z (&x)[A * B
     anyDft(y[b]);
     if constexpr (b > 0) {
       unrolled<A - 1>([&](auto k) __attribute__((always_inline)) {
-        constexpr double kCosine = cosineOfTurn(b * (k + 1), A * B);
-        constexpr double kSine = sineOfTurn(b * (k + 1), A * B);
-        y[b][k + 1] = product(y[b][k + 1], kCosine, -kSine);
+        y[b][k + 1] = turned<b*(k + 1), A * B>(y[b][k + 1]);
       });
     }
   });
