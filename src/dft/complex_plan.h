@@ -49,7 +49,8 @@ template <class T> Bytes bytesOfFft(uint32_t n) {
   return {spec, work};
 }
 // No transform of the library's uses the memory that its making is brought; it tests that there is some.
-template <class T, class Spec> void makeFft(Spec*& spec, QvxStatus (*init)(Spec**, int, int, int, Qvx8u*, Qvx8u*), uint32_t n, int flag, uint8_t* block) {
+template <class T, class Spec>
+void makeFft(Spec*& spec, QvxStatus (*init)(Spec**, int, int, int, Qvx8u*, Qvx8u*), uint32_t n, int flag, uint8_t* block) {
   init(&spec, std::countr_zero(n), flag, 0, block, block);
 }
 
@@ -154,7 +155,8 @@ template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_
 }
 
 // get(k, count), put(z, k, count): points k on, in vectors.
-template <class T, class Get, class Put> void convolve(const ConvolutionPlan<T>& plan, size_t n, size_t results, Get get, Put put, uint8_t* work) {
+template <class T, class Get, class Put>
+void convolve(const ConvolutionPlan<T>& plan, size_t n, size_t results, Get get, Put put, uint8_t* work) {
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   const Lanes<T, L> d;
@@ -184,12 +186,16 @@ template <class T, class Get, class Put> void convolve(const ConvolutionPlan<T>&
   (void)d;
 }
 
-template <class T> void convolve(const ConvolutionPlan<T>& plan, size_t n, bool isInverse, const T* src, T* dst, T factor, uint8_t* work) {
+template <class T>
+void convolve(const ConvolutionPlan<T>& plan, size_t n, bool isInverse, const T* src, T* dst, T factor, uint8_t* work) {
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   const T sign = isInverse ? T(-0.0) : T(0);
   convolve(
-      plan, n, n, [=](size_t k, size_t count) __attribute__((always_inline)) { return Conjugable<const T>{src, sign}.template getInOrder<L>(k, count); },
+      plan, n, n,
+      [=](size_t k, size_t count) __attribute__((always_inline)) {
+        return Conjugable<const T>{src, sign}.template getInOrder<L>(k, count);
+      },
       [=](Complex<V> z, size_t k, size_t count) __attribute__((always_inline)) {
         const Conjugable<T> to = {dst, sign};
         z = ScaledBy<T>{factor}(z);
@@ -199,14 +205,15 @@ template <class T> void convolve(const ConvolutionPlan<T>& plan, size_t n, bool 
       work);
 }
 template <class T>
-void convolve(const ConvolutionPlan<T>& plan, size_t n, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, T factor, uint8_t* work) {
+void convolve(const ConvolutionPlan<T>& plan, size_t n, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, T factor,
+              uint8_t* work) {
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   convolve(
-      plan, n, n, [=](size_t k, size_t count) __attribute__((always_inline)) { return planes(srcRe, srcIm).template getFirst<L>(k, count); },
-      [=](Complex<V> z, size_t k, size_t count) __attribute__((always_inline)) {
-        planes(dstRe, dstIm).template putFirst<L>(ScaledBy<T>{factor}(z), k, count);
-      },
+      plan, n, n,
+      [=](size_t k, size_t count) __attribute__((always_inline)) { return planes(srcRe, srcIm).template getFirst<L>(k, count); },
+      [=](Complex<V> z, size_t k, size_t count)
+          __attribute__((always_inline)) { planes(dstRe, dstIm).template putFirst<L>(ScaledBy<T>{factor}(z), k, count); },
       work);
 }
 
@@ -284,7 +291,8 @@ template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T*
   const size_t n = plan.n;
   switch (plan.way) {
     case Way::kFft:
-      (isInverse ? Fft<T>::kInverse : Fft<T>::kForward)(reinterpret_cast<const C*>(src), reinterpret_cast<C*>(dst), plan.fft, work);
+      (isInverse ? Fft<T>::kInverse : Fft<T>::kForward)(reinterpret_cast<const C*>(src), reinterpret_cast<C*>(dst), plan.fft,
+                                                        work);
       return;
     case Way::kDirect:
       return small(plan.direct, isInverse, src, dst, factor);

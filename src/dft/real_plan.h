@@ -13,14 +13,18 @@ template <class T> struct RealFft;
 template <> struct RealFft<float> {
   static constexpr auto kGetSize = qvxsFFTGetSize_R_32f;
   static constexpr auto kInit = qvxsFFTInit_R_32f;
-  static constexpr decltype(&qvxsFFTFwd_RToPerm_32f) kForward[] = {qvxsFFTFwd_RToPerm_32f, qvxsFFTFwd_RToPack_32f, qvxsFFTFwd_RToCCS_32f};
-  static constexpr decltype(&qvxsFFTFwd_RToPerm_32f) kInverse[] = {qvxsFFTInv_PermToR_32f, qvxsFFTInv_PackToR_32f, qvxsFFTInv_CCSToR_32f};
+  static constexpr decltype(&qvxsFFTFwd_RToPerm_32f) kForward[] = {qvxsFFTFwd_RToPerm_32f, qvxsFFTFwd_RToPack_32f,
+                                                                   qvxsFFTFwd_RToCCS_32f};
+  static constexpr decltype(&qvxsFFTFwd_RToPerm_32f) kInverse[] = {qvxsFFTInv_PermToR_32f, qvxsFFTInv_PackToR_32f,
+                                                                   qvxsFFTInv_CCSToR_32f};
 };
 template <> struct RealFft<double> {
   static constexpr auto kGetSize = qvxsFFTGetSize_R_64f;
   static constexpr auto kInit = qvxsFFTInit_R_64f;
-  static constexpr decltype(&qvxsFFTFwd_RToPerm_64f) kForward[] = {qvxsFFTFwd_RToPerm_64f, qvxsFFTFwd_RToPack_64f, qvxsFFTFwd_RToCCS_64f};
-  static constexpr decltype(&qvxsFFTFwd_RToPerm_64f) kInverse[] = {qvxsFFTInv_PermToR_64f, qvxsFFTInv_PackToR_64f, qvxsFFTInv_CCSToR_64f};
+  static constexpr decltype(&qvxsFFTFwd_RToPerm_64f) kForward[] = {qvxsFFTFwd_RToPerm_64f, qvxsFFTFwd_RToPack_64f,
+                                                                   qvxsFFTFwd_RToCCS_64f};
+  static constexpr decltype(&qvxsFFTFwd_RToPerm_64f) kInverse[] = {qvxsFFTInv_PermToR_64f, qvxsFFTInv_PackToR_64f,
+                                                                   qvxsFFTInv_CCSToR_64f};
 };
 
 // Pairs k .. k + L - 1 and h - k .. of a spectrum and of the points it comes from (recombine.h). c, d: of k = 1 on.

@@ -2,8 +2,8 @@
 // twiddles, C points along each row.
 //
 // A vector holds P columns, then, transposed in squares, P rows. Where they do not divide C or R, the last ones are done twice.
-// What stands between is whole vectors on the stack, each loaded as it was stored: 48 points take 20 ns, where parts in planes and
-// rows of another length than a vector's take 70.
+// What stands between is whole vectors on the stack, each loaded as it was stored: 48 points take 20 ns, where parts in planes
+// and rows of another length than a vector's take 70.
 #pragma once
 
 #include "transform/mixed_plan.h"
@@ -71,8 +71,8 @@ constexpr uint32_t costInGrid(size_t radix) {
 template <class T> inline constexpr size_t kGridColumns = std::min<size_t>(kVectorBytes, 32) / (2 * sizeof(T));
 
 template <class T> struct GridPlan {
-  uint8_t down;    // R
-  uint8_t across;  // C
+  uint8_t down;       // R
+  uint8_t across;     // C
   const T* twiddles;  // for each vector of columns, for j = 1..R-1: P real parts twice, then P imaginary parts with both signs
 };
 
@@ -85,7 +85,8 @@ template <class T> bool chooseGrid(GridPlan<T>& plan, uint32_t n) {
   for (const uint32_t across : kGridRadices) {
     const uint32_t down = n / across;
     if (n % across != 0 || down < P || !std::binary_search(std::begin(kGridRadices), std::end(kGridRadices), down)) continue;
-    const uint64_t cost = vectorsOf(across, P) * (costInGrid(down) + 4 * down) + vectorsOf(down, P) * (costInGrid(across) + 4 * across);
+    const uint64_t cost =
+        vectorsOf(across, P) * (costInGrid(down) + 4 * down) + vectorsOf(down, P) * (costInGrid(across) + 4 * across);
     if (cost >= best) continue;
     best = cost;
     plan = {static_cast<uint8_t>(down), static_cast<uint8_t>(across), nullptr};

@@ -16,11 +16,13 @@ namespace qvx::transform {
 
 // The first n lanes without a look at where they end: in line, where many stand in a row.
 template <class D> QVX_INLINE Vec<D> firstLanes(D d, const hn::TFromD<D>* p, size_t n) {
-  if constexpr (qvx::detail::kMasked<hn::TFromD<D>, hn::MaxLanes(D()) * sizeof(hn::TFromD<D>)>) return hn::MaskedLoad(hn::FirstN(d, n), d, p);
+  if constexpr (qvx::detail::kMasked<hn::TFromD<D>, hn::MaxLanes(D()) * sizeof(hn::TFromD<D>)>)
+    return hn::MaskedLoad(hn::FirstN(d, n), d, p);
   else return loadFirst(d, p, n);
 }
 template <class D> QVX_INLINE void putFirstLanes(Vec<D> v, D d, hn::TFromD<D>* p, size_t n) {
-  if constexpr (qvx::detail::kMasked<hn::TFromD<D>, hn::MaxLanes(D()) * sizeof(hn::TFromD<D>)>) hn::BlendedStore(v, hn::FirstN(d, n), d, p);
+  if constexpr (qvx::detail::kMasked<hn::TFromD<D>, hn::MaxLanes(D()) * sizeof(hn::TFromD<D>)>)
+    hn::BlendedStore(v, hn::FirstN(d, n), d, p);
   else storeFirst(v, d, p, n);
 }
 
@@ -80,9 +82,9 @@ template <class T> struct Conjugable {
   Conjugable from(size_t at) const { return {p + 2 * at, sign}; }
 };
 
-// Rows of R numbers from R vectors, whose lane i belongs to row element(i); `rows` of them, `stride` apart. If isCut, nothing past
-// the end of a row is written. Else rows are written in their order, and of each what is nearer to its end first, since a vector
-// may run on into the next row.
+// Rows of R numbers from R vectors, whose lane i belongs to row element(i); `rows` of them, `stride` apart. If isCut, nothing
+// past the end of a row is written. Else rows are written in their order, and of each what is nearer to its end first, since a
+// vector may run on into the next row.
 template <size_t L, class Src, size_t R, class V, class Part>
 QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, size_t stride, size_t rows, bool isCut) {
   constexpr size_t kChunks = (R + L - 1) / L;
@@ -230,7 +232,8 @@ template <class V, class T, class Get, class Put> QVX_INLINE void dftOfMany(size
 }
 
 // Half the widest register: twice kLargestFactor vectors have room on the stack.
-template <class T> inline constexpr size_t kManyLanes = kVectorBytes >= 64 ? kVectorBytes / 2 / sizeof(T) : kVectorBytes / sizeof(T);
+template <class T>
+inline constexpr size_t kManyLanes = kVectorBytes >= 64 ? kVectorBytes / 2 / sizeof(T) : kVectorBytes / sizeof(T);
 
 template <size_t L, class T, class Src>
 [[gnu::noinline]] void firstPassOfMany(size_t R, const T* roots, Src src, Planes<T> y, size_t m, const T* twiddles) {

@@ -100,7 +100,8 @@ template <class T> class MixedPlanner {
     divisor_[divisors_++] = 1;
     for (size_t k = 0; k < kinds_; ++k) {
       const size_t before = divisors_;
-      for (size_t i = 0; i < before * powers_[k]; ++i, ++divisors_) divisor_[divisors_] = divisor_[divisors_ - before] * primes_[k];
+      for (size_t i = 0; i < before * powers_[k]; ++i, ++divisors_)
+        divisor_[divisors_] = divisor_[divisors_ - before] * primes_[k];
     }
     std::sort(divisor_, divisor_ + divisors_);
   }
@@ -114,8 +115,9 @@ template <class T> class MixedPlanner {
       const uint64_t after = m == 1 ? 0 : best_[indexOf(m)];
       if (after == UINT64_MAX) continue;
       const uint64_t s = n / d;
-      const uint64_t here = s == 1 ? uint64_t{vectors(m)} * (costOfRadix(radix) + (radix + kWidest<T> - 1) / kWidest<T> * kTransposition)
-                                   : uint64_t{vectors(s)} * m * costOfRadix(radix);
+      const uint64_t here =
+          s == 1 ? uint64_t{vectors(m)} * (costOfRadix(radix) + (radix + kWidest<T> - 1) / kWidest<T> * kTransposition)
+                 : uint64_t{vectors(s)} * m * costOfRadix(radix);
       if (here + after + kPass < best_[i]) {
         best_[i] = here + after + kPass;
         radix_[i] = radix;

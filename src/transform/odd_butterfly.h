@@ -57,6 +57,18 @@ template <class V> QVX_INLINE Complex<V> scaledBy(double factor, Complex<V> z) {
   return {f * z.re, f * z.im};
 }
 
+// a - i factor b and a + i factor b
+template <class V> QVX_INLINE void addWithI(double factor, Complex<V> a, Complex<V> b, Complex<V>& minus, Complex<V>& plus) {
+  const V f = same<V>(static_cast<LaneOf<V>>(factor));
+  minus = {hn::MulAdd(f, b.im, a.re), hn::NegMulAdd(f, b.re, a.im)};
+  plus = {hn::NegMulAdd(f, b.im, a.re), hn::MulAdd(f, b.re, a.im)};
+}
+template <class Z> QVX_INLINE void addWithI(double factor, Z a, Z b, Z& minus, Z& plus) {
+  const Z scaled = scaledBy(factor, b);
+  minus = differenceWithI(a, scaled);
+  plus = sumWithI(a, scaled);
+}
+
 // An odd number of points: x[k] and x[P - k] come from the sums and the differences of the points at equal distances from x[0].
 template <size_t P, class Z> QVX_INLINE void dftOfPairs(Z (&x)[P]) {
   constexpr size_t H = P / 2;
@@ -71,6 +83,7 @@ template <size_t P, class Z> QVX_INLINE void dftOfPairs(Z (&x)[P]) {
   unrolled<H>([&](auto at) __attribute__((always_inline)) {
     constexpr size_t j = at + 1;
     Z even = sumWith(kPrimeRoots<P>.cosine[j], first, sums[0]);
+    if constexpr (P == 3) return addWithI(kPrimeRoots<P>.sine[1], even, differences[0], x[1], x[2]);
     Z odd = scaledBy(kPrimeRoots<P>.sine[j], differences[0]);
     unrolled<H - 1>([&](auto i) __attribute__((always_inline)) {
       constexpr size_t k = i + 1;
@@ -124,9 +137,7 @@ template <size_t A, size_t B, class Z> QVX_INLINE void dftOfProduct(Z (&x)[A * B
     unrolled<A>([&](auto a) __attribute__((always_inline)) { y[b][a] = x[B * a + b]; });
     anyDft(y[b]);
     if constexpr (b > 0) {
-      unrolled<A - 1>([&](auto k) __attribute__((always_inline)) {
-        y[b][k + 1] = turned<b*(k + 1), A * B>(y[b][k + 1]);
-      });
+      unrolled<A - 1>([&](auto k) __attribute__((always_inline)) { y[b][k + 1] = turned<b*(k + 1), A * B>(y[b][k + 1]); });
     }
   });
   unrolled<A>([&](auto k) __attribute__((always_inline)) {

@@ -128,8 +128,8 @@ void runPassesInTeam(int threads, const Plan<T>& plan, Src src, Dst dst, T* y, S
 // ---- Twiddles
 
 // For i = 0..count-1: put(i, cos, sin) of -2 pi x(i) / n. Many at a time: what goes through memory between scalars and vectors
-// has arrived when it is read: 3 ns for a twiddle instead of 5. Where n is no power of two, a fraction of a turn is not exact: what
-// exceeds whole quarters is reduced as a number of n-ths, and only then divided.
+// has arrived when it is read: 3 ns for a twiddle instead of 5. Where n is no power of two, a fraction of a turn is not exact:
+// what exceeds whole quarters is reduced as a number of n-ths, and only then divided.
 template <class Index, class Put> void writeTwiddles(size_t n, size_t count, Index x, Put put) {
   constexpr size_t kMany = 64;
   constexpr size_t kLanes = kVectorBytes / sizeof(double);

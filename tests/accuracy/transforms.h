@@ -90,8 +90,8 @@ template <class T, class N> double inUnits(const std::vector<Exact>& expected, c
   return static_cast<double>(std::sqrt(error / size / std::log2(n)) / std::numeric_limits<T>::epsilon());
 }
 template <class T, class C, class Record>
-double anyLengthError(int n, bool isReal, QvxStatus (*make)(Record**, int, int, int), QvxStatus (*run)(const C*, C*, const Record*, Qvx8u*),
-                      QvxStatus (*release)(Record*)) {
+double anyLengthError(int n, bool isReal, QvxStatus (*make)(Record**, int, int, int),
+                      QvxStatus (*run)(const C*, C*, const Record*, Qvx8u*), QvxStatus (*release)(Record*)) {
   const auto count = static_cast<size_t>(n);
   std::vector<T> x = noise<T>(2 * count);
   std::vector<Exact> exact(count);

@@ -23,7 +23,9 @@ template <class Spec> class Record {
 };
 
 Qvx16s saturated(long double v) { return static_cast<Qvx16s>(std::min(std::max(std::rint(v), -32768.0L), 32767.0L)); }
-void expectNear(Qvx16s found, long double exact) { EXPECT_LE(std::abs(found - saturated(exact)), 1) << found << " for " << exact; }
+void expectNear(Qvx16s found, long double exact) {
+  EXPECT_LE(std::abs(found - saturated(exact)), 1) << found << " for " << exact;
+}
 
 std::vector<Qvx16s> numbers(size_t n, Random& random) {
   std::uniform_int_distribution<int> uniform(-32768, 32767);

@@ -21,20 +21,20 @@ struct Row {
   int real32;
   int real64;
 };
-// Few points; powers of two; factors 4 and 5, 2 and 17, 4 and 17, 4 and 53; large primes by themselves, and beside a 2; half of 46,
-// odd factors; the lengths of convolutions, of which some have factors themselves.
+// Few points; powers of two; factors 4 and 5, 2 and 17, 4 and 17, 4 and 53; large primes by themselves, and beside a 2; half of
+// 46, odd factors; the lengths of convolutions, of which some have factors themselves.
 constexpr Row kRows[] = {
     {1, 0, 0, 0, 0},
     {16, 0, 0, 0, 0},
     {32, 0, 0, 0, 0},
     {64, 544, 1056, 0, 0},
-    {17, 168, 304, 100, 168},            // as defined
-    {18, 208, 352, 0, 0},                // 6 3
-    {20, 224, 384, 0, 0},                // 5 4
-    {34, 472, 880, 168, 304},            // 17 2
-    {46, 616, 1168, 216, 400},           // 23 2
-    {47, 408, 784, 220, 408},            //
-    {51, 608, 1152, 336, 608},           // 3 17
+    {17, 168, 304, 100, 168},   // as defined
+    {18, 208, 352, 0, 0},       // 6 3
+    {20, 224, 384, 0, 0},       // 5 4
+    {34, 472, 880, 168, 304},   // 17 2
+    {46, 616, 1168, 216, 400},  // 23 2
+    {47, 408, 784, 220, 408},   //
+    {51, 608, 1152, 336, 608},  // 3 17
     {53, 1024 + 1056 + 32, 53 * 16 + 32, 1024 + 1056 + 32, 53 * 8 + 32},
     {67, 1152 + 1216 + 32, 67 * 16 + 32, 1152 + 1216 + 32, 67 * 8 + 32},
     {68, (68 + 68) * 8 + 64, (68 + 68) * 16 + 64, (34 + 17) * 8 + 64, (34 + 17) * 16 + 64},
@@ -43,7 +43,8 @@ constexpr Row kRows[] = {
     {106, 256 * 8 + 2080 + 32, (106 + 53) * 16 + 64, 1024 + 1056 + 32, 53 * 16 + 32},
     {212, (212 + 212) * 8 + 64, (212 + 212) * 16 + 64, 256 * 8 + 2080 + 32, (106 + 53) * 16 + 64},
     {1000, 1000 * 8 + 64, 1000 * 16 + 64, 500 * 8 + 64, 500 * 16 + 64},
-    {3200 - 1, 6400 * 8 + 6400 * 8 + 64 + 32, 6400 * 16 + 6400 * 16 + 64 + 32, 6400 * 8 + 6400 * 8 + 64 + 32, 6400 * 16 + 6400 * 16 + 64 + 32},
+    {3200 - 1, 6400 * 8 + 6400 * 8 + 64 + 32, 6400 * 16 + 6400 * 16 + 64 + 32, 6400 * 8 + 6400 * 8 + 64 + 32,
+     6400 * 16 + 6400 * 16 + 64 + 32},
 };
 
 TEST(DftRecord, TellsTheBytesOfWorkingMemory) {
@@ -76,7 +77,8 @@ template <class Spec> void checkLimits(const tests::DftLife<Spec>& life, int hig
     return result;
   };
   for (int order = highest + 1; order <= 30; ++order) EXPECT_EQ(status(1 << order), qvxStatBadFFTOrder) << order;
-  for (const int len : {others + 1, others + 6, others * 2 - 1, std::numeric_limits<int>::max()}) EXPECT_EQ(status(len), qvxStatBadSize) << len;
+  for (const int len : {others + 1, others + 6, others * 2 - 1, std::numeric_limits<int>::max()})
+    EXPECT_EQ(status(len), qvxStatBadSize) << len;
   EXPECT_EQ(status(others / 2 + 5), qvxStatBadSize);  // 3 * 11 * 251 * 4051 or 19 * 71 * 24877
   EXPECT_EQ(status(0), qvxStatBadSize);
   EXPECT_EQ(status(0, 3), qvxStatBadSize);
@@ -116,7 +118,8 @@ template <class Transform> void checkConvolution(const Transform& transform, siz
 
 TEST(DftOutOfOrder, ProductIsAConvolution) {
   tests::Random random(tests::seed());
-  for (const size_t n : {1, 2, 3, 5, 12, 17, 32, 53, 60, 101, 210, 625, 1000, 1009, 1024, 1500, 3000, 4410, 10000, 44100, 65537}) {
+  for (const size_t n :
+       {1, 2, 3, 5, 12, 17, 32, 53, 60, 101, 210, 625, 1000, 1009, 1024, 1500, 3000, 4410, 10000, 44100, 65537}) {
     checkConvolution(tests::kDftOutOfOrder32fc, n, random);
     checkConvolution(tests::kDftOutOfOrder64fc, n, random);
   }

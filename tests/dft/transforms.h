@@ -52,7 +52,8 @@ template <class T_, class Spec_> struct SplitDft {
     for (const Exact& z : x) re.push_back(static_cast<T>(z.real())), im.push_back(static_cast<T>(z.imag()));
     std::vector<T> dstRe = re, dstIm = im;
     const bool same = place == Place::kSame;
-    EXPECT_EQ(call[isInverse](same ? dstRe.data() : re.data(), same ? dstIm.data() : im.data(), dstRe.data(), dstIm.data(), spec, buffer),
+    EXPECT_EQ(call[isInverse](same ? dstRe.data() : re.data(), same ? dstIm.data() : im.data(), dstRe.data(), dstIm.data(), spec,
+                              buffer),
               qvxStatOk);
     std::vector<Exact> found;
     for (size_t i = 0; i < x.size(); ++i) found.push_back({dstRe[i], dstIm[i]});
