@@ -35,6 +35,8 @@ void fft32f(Suite& suite);
 void fft64f(Suite& suite);
 void fftRecords(Suite& suite);
 void integerFft(Suite& suite);
+void dft(Suite& suite);
+void dftRecords(Suite& suite);
 void spectrum(Suite& suite);
 void cosines(Suite& suite);
 void analytic(Suite& suite);
@@ -89,6 +91,8 @@ inline constexpr Family kFamilies[] = {
     {"fft_64f", fft64f},
     {"fft_records", fftRecords},
     {"fft_integer", integerFft},
+    {"dft", dft},
+    {"dft_records", dftRecords},
     {"spectrum", spectrum},
     {"dct", cosines},
     {"hilbert", analytic},

@@ -17,7 +17,9 @@ template <class Plan> Bytes choosePlan(Plan& plan, int len, int flag);
 template <class T> Bytes choosePlan(ComplexPlan<T>& plan, int len, int flag) {
   return choose(plan, static_cast<uint32_t>(len), false, flag);
 }
-template <class T> Bytes choosePlan(RealPlan<T>& plan, int len, int flag) { return choose(plan, static_cast<uint32_t>(len), flag); }
+template <class T> Bytes choosePlan(RealPlan<T>& plan, int len, int flag) {
+  return choose(plan, static_cast<uint32_t>(len), flag);
+}
 
 // Of any len from 1 up to 2^26.
 template <class Plan> TransformBytes transformBytes(int len) {

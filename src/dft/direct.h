@@ -30,8 +30,8 @@ constexpr bool isPrime(uint32_t n) {
   return n > 1;
 }
 
-// Row k = 0..H, H = n/2, for results 0..H, filled up to whole vectors: of complex points each cosine twice, then each sine twice; of
-// real numbers each cosine and sine side by side.
+// Row k = 0..H, H = n/2, for results 0..H, filled up to whole vectors: of complex points each cosine twice, then each sine twice;
+// of real numbers each cosine and sine side by side.
 template <class T> struct DirectPlan {
   uint32_t n;
   bool isNarrow;  // half of the widest vector holds all
@@ -106,7 +106,7 @@ template <size_t L, class T> QVX_INLINE void direct(const DirectPlan<T>& plan, b
     V odd = hn::Zero(d);
     V even2 = odd;
     V odd2 = odd;
-    const auto take = [&](size_t k, V& c, V& s) __attribute__((always_inline)) {
+    const auto take = [&](size_t k, V & c, V & s) __attribute__((always_inline)) {
       cosines += row;
       sines += row;
       const V x = everyPair<V>(src + 2 * k);
@@ -133,7 +133,7 @@ template <size_t L, class T> QVX_INLINE void direct(const DirectPlan<T>& plan, b
 }
 
 template <class T> [[gnu::noinline]] void direct(const DirectPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
-  if constexpr (kWidest<T> > 4) {
+  if constexpr (kWidest < T >> 4) {
     if (plan.isNarrow) return direct<kWidest<T> / 2>(plan, isInverse, src, dst, factor);
   }
   direct<kWidest<T>>(plan, isInverse, src, dst, factor);
@@ -153,7 +153,7 @@ template <size_t L, class T> QVX_INLINE void directForward(const DirectPlan<T>& 
     V sums = load(d, roots) * same<V>(src[0]);
     V sums2 = hn::Zero(d);
     // x + y where there is a cosine, y - x where a sine: the lanes of x times 1 and -1 in turn.
-    const auto take = [&](size_t k, V& to) __attribute__((always_inline)) {
+    const auto take = [&](size_t k, V & to) __attribute__((always_inline)) {
       roots += row;
       to = hn::MulAdd(load(d, roots), hn::NegMulAdd(same<V>(src[k]), minusI, same<V>(src[n - k])), to);
     };
@@ -285,12 +285,5 @@ template <class T> QVX_INLINE void small(const DirectPlan<T>& plan, bool isInver
       return direct(plan, isInverse, src, dst, factor);
   }
 }
-
-// Points one by one, wherever their parts stand: an inverse transform has these exchanged.
-template <class T> struct Strided {
-  T* re;
-  T* im;
-  size_t step;
-};
 
 }  // namespace qvx::dft

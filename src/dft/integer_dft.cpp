@@ -24,10 +24,11 @@ QvxStatus initInteger(QvxsDFTSpec_R_16s** ppSpec, int len, int flag) {
                    [=](auto& plan, uint32_t n) { return choose(plan, n, flag); });
 }
 
-// transform(y, work): y is room for 2 * n floats.
+// transform(y, work): y is room for 2 * n floats. Odd numbers of reals take more than what is told, which is then allocated.
 template <class Record, class Transform> QvxStatus throughFloats(const Record& spec, Qvx8u* pBuffer, Transform transform) {
-  const Scratch scratch(pBuffer, spec.workSize);
-  if (scratch.isMissing(spec.workSize)) return qvxStatNoMem;
+  const int64_t all = kPoint<Qvx32f> * spec.plan.n + 32 + spec.needed;
+  const Scratch scratch(all <= spec.workSize ? pBuffer : nullptr, all);
+  if (scratch.isMissing(all)) return qvxStatNoMem;
   Carver carver = scratch.carver();
   auto* y = carver.take<Qvx32f>(2 * int64_t{spec.plan.n});
   return transform(y, carver.rest());

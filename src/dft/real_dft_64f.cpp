@@ -9,7 +9,8 @@ namespace {
 using T = Qvx64f;
 
 template <class Record> QvxStatus initReal(Record** ppSpec, int len, int flag) {
-  return initAlloc(ppSpec, len, flag, fft::Orders<T>::kReal, realWork<T>, [=](auto& plan, uint32_t n) { return choose(plan, n, flag); });
+  return initAlloc(ppSpec, len, flag, fft::Orders<T>::kReal, realWork<T>,
+                   [=](auto& plan, uint32_t n) { return choose(plan, n, flag); });
 }
 
 }  // namespace

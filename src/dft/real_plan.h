@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "dft/plan.h"
+#include "dft/small_real.h"
 #include "transform/real_transform.h"
 
 namespace qvx::dft {
@@ -12,14 +13,18 @@ template <class T> struct RealFft;
 template <> struct RealFft<float> {
   static constexpr auto kGetSize = qvxsFFTGetSize_R_32f;
   static constexpr auto kInit = qvxsFFTInit_R_32f;
-  static constexpr decltype(&qvxsFFTFwd_RToPerm_32f) kForward[] = {qvxsFFTFwd_RToPerm_32f, qvxsFFTFwd_RToPack_32f, qvxsFFTFwd_RToCCS_32f};
-  static constexpr decltype(&qvxsFFTFwd_RToPerm_32f) kInverse[] = {qvxsFFTInv_PermToR_32f, qvxsFFTInv_PackToR_32f, qvxsFFTInv_CCSToR_32f};
+  static constexpr decltype(&qvxsFFTFwd_RToPerm_32f) kForward[] = {qvxsFFTFwd_RToPerm_32f, qvxsFFTFwd_RToPack_32f,
+                                                                   qvxsFFTFwd_RToCCS_32f};
+  static constexpr decltype(&qvxsFFTFwd_RToPerm_32f) kInverse[] = {qvxsFFTInv_PermToR_32f, qvxsFFTInv_PackToR_32f,
+                                                                   qvxsFFTInv_CCSToR_32f};
 };
 template <> struct RealFft<double> {
   static constexpr auto kGetSize = qvxsFFTGetSize_R_64f;
   static constexpr auto kInit = qvxsFFTInit_R_64f;
-  static constexpr decltype(&qvxsFFTFwd_RToPerm_64f) kForward[] = {qvxsFFTFwd_RToPerm_64f, qvxsFFTFwd_RToPack_64f, qvxsFFTFwd_RToCCS_64f};
-  static constexpr decltype(&qvxsFFTFwd_RToPerm_64f) kInverse[] = {qvxsFFTInv_PermToR_64f, qvxsFFTInv_PackToR_64f, qvxsFFTInv_CCSToR_64f};
+  static constexpr decltype(&qvxsFFTFwd_RToPerm_64f) kForward[] = {qvxsFFTFwd_RToPerm_64f, qvxsFFTFwd_RToPack_64f,
+                                                                   qvxsFFTFwd_RToCCS_64f};
+  static constexpr decltype(&qvxsFFTFwd_RToPerm_64f) kInverse[] = {qvxsFFTInv_PermToR_64f, qvxsFFTInv_PackToR_64f,
+                                                                   qvxsFFTInv_CCSToR_64f};
 };
 
 // Pairs k .. k + L - 1 and h - k .. of a spectrum and of the points it comes from (recombine.h). c, d: of k = 1 on.
@@ -78,6 +83,10 @@ template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
     RealFft<T>::kGetSize(std::countr_zero(n), flag, 0, &spec, &init, &work);
     return {spec, work};
   }
+  if (isInRegisters(n)) {
+    plan.way = Way::kRegisters;
+    return {0, 0};
+  }
   if (n <= kMostDirectReal<T> || (n <= kMostDirect && isPrime(n))) {
     plan.way = Way::kDirect;
     return chooseDirect(plan.direct, n, true);
@@ -92,6 +101,7 @@ template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
 
 template <class T> void writeTables(RealPlan<T>& plan, int flag, uint8_t* block, uint8_t* work) {
   const size_t n = plan.n;
+  if (plan.way == Way::kRegisters) return;
   if (plan.way == Way::kDirect) return writeDirect(plan.direct, true, block);
   if (plan.way == Way::kFft) {
     RealFft<T>::kInit(&plan.fft, std::countr_zero(n), flag, 0, block, block);
@@ -114,6 +124,7 @@ template <class T> void writeTables(RealPlan<T>& plan, int flag, uint8_t* block,
 
 template <class T> void forward(const RealPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst, uint8_t* work) {
   const size_t n = plan.n;
+  if (plan.way == Way::kRegisters) return smallForward(n, layout, src, dst, plan.forwardFactor);
   if (plan.way == Way::kDirect) return directForward(plan.direct, layout, src, dst, plan.forwardFactor);
   if (plan.way == Way::kFft) {
     RealFft<T>::kForward[static_cast<int>(layout)](src, dst, plan.fft, work);
@@ -131,6 +142,11 @@ template <class T> void forward(const RealPlan<T>& plan, SpectrumLayout layout, 
     if (layout == SpectrumLayout::kCcs) fromPerm<SpectrumLayout::kCcs>(dst, n);
     return;
   }
+  if (plan.complex.way == Way::kConvolution && layout == SpectrumLayout::kCcs) {
+    spectrumByConvolution(plan.complex, src, dst, work);
+    dst[1] = 0;
+    return;
+  }
   Carver carver(work, Carver::kLine);
   T* const points = carver.take<T>(static_cast<int64_t>(2 * n));
   for (size_t i = 0; i < n; ++i) {
@@ -145,6 +161,7 @@ template <class T> void forward(const RealPlan<T>& plan, SpectrumLayout layout, 
 
 template <class T> void inverse(const RealPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst, uint8_t* work) {
   const size_t n = plan.n;
+  if (plan.way == Way::kRegisters) return smallInverse(n, layout, src, dst, plan.inverseFactor);
   if (plan.way == Way::kDirect) return directInverse(plan.direct, layout, src, dst, plan.inverseFactor);
   if (plan.way == Way::kFft) {
     RealFft<T>::kInverse[static_cast<int>(layout)](src, dst, plan.fft, work);

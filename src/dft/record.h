@@ -60,7 +60,7 @@ QvxStatus initAlloc(Record** ppSpec, int len, int flag, int highest, Work work, 
 
 // run(work), work being the memory that the transform needs. Where that is more than what is told, it is on the stack or
 // allocated.
-inline constexpr int64_t kMostOnStack = 16384;
+inline constexpr int64_t kMostOnStack = 4096;
 template <class Run> [[gnu::noinline]] QvxStatus withWorkOnStack(Run run) {
   alignas(64) uint8_t work[kMostOnStack];
   return run(work), qvxStatOk;

@@ -1,4 +1,4 @@
-// Transforms of 3 to 16 points of any factors, each point a vector of real and one of imaginary parts, beside those of powers of
+// Transforms of 3 to 32 points of any factors, each point a vector of real and one of imaginary parts, beside those of powers of
 // two in butterfly.h.
 #pragma once
 
@@ -57,6 +57,18 @@ template <class V> QVX_INLINE Complex<V> scaledBy(double factor, Complex<V> z) {
   return {f * z.re, f * z.im};
 }
 
+// a - i factor b and a + i factor b
+template <class V> QVX_INLINE void addWithI(double factor, Complex<V> a, Complex<V> b, Complex<V>& minus, Complex<V>& plus) {
+  const V f = same<V>(static_cast<LaneOf<V>>(factor));
+  minus = {hn::MulAdd(f, b.im, a.re), hn::NegMulAdd(f, b.re, a.im)};
+  plus = {hn::NegMulAdd(f, b.im, a.re), hn::MulAdd(f, b.re, a.im)};
+}
+template <class Z> QVX_INLINE void addWithI(double factor, Z a, Z b, Z& minus, Z& plus) {
+  const Z scaled = scaledBy(factor, b);
+  minus = differenceWithI(a, scaled);
+  plus = sumWithI(a, scaled);
+}
+
 // An odd number of points: x[k] and x[P - k] come from the sums and the differences of the points at equal distances from x[0].
 template <size_t P, class Z> QVX_INLINE void dftOfPairs(Z (&x)[P]) {
   constexpr size_t H = P / 2;
@@ -71,6 +83,7 @@ template <size_t P, class Z> QVX_INLINE void dftOfPairs(Z (&x)[P]) {
   unrolled<H>([&](auto at) __attribute__((always_inline)) {
     constexpr size_t j = at + 1;
     Z even = sumWith(kPrimeRoots<P>.cosine[j], first, sums[0]);
+    if constexpr (P == 3) return addWithI(kPrimeRoots<P>.sine[1], even, differences[0], x[1], x[2]);
     Z odd = scaledBy(kPrimeRoots<P>.sine[j], differences[0]);
     unrolled<H - 1>([&](auto i) __attribute__((always_inline)) {
       constexpr size_t k = i + 1;
@@ -110,34 +123,46 @@ template <size_t A, size_t B, class Z> QVX_INLINE void dftOfCoprimes(Z (&x)[A * 
   });
 }
 
-template <class Z> QVX_INLINE void dft9(Z (&x)[9]) {
-  Z y[3][3];
-  unrolled<3>([&](auto b) __attribute__((always_inline)) {
-    unrolled<3>([&](auto a) __attribute__((always_inline)) { y[b][a] = x[3 * a + b]; });
-    dftOfPairs(y[b]);
+// z exp(-2 pi i kTurn / N)
+template <size_t kTurn, size_t N, class Z> QVX_INLINE Z turned(Z z) {
+  constexpr double kCosine = cosineOfTurn(kTurn, N);
+  constexpr double kSine = sineOfTurn(kTurn, N);
+  return product(z, kCosine, -kSine);
+}
+
+// A * B points of any factors: B transforms of A points, twiddles, A transforms of B points.
+template <size_t A, size_t B, class Z> QVX_INLINE void dftOfProduct(Z (&x)[A * B]) {
+  Z y[B][A];
+  unrolled<B>([&](auto b) __attribute__((always_inline)) {
+    unrolled<A>([&](auto a) __attribute__((always_inline)) { y[b][a] = x[B * a + b]; });
+    anyDft(y[b]);
     if constexpr (b > 0) {
-      unrolled<2>([&](auto k) __attribute__((always_inline)) {
-        constexpr double kCosine = cosineOfTurn(b * (k + 1), 9);
-        constexpr double kSine = sineOfTurn(b * (k + 1), 9);
-        y[b][k + 1] = product(y[b][k + 1], kCosine, -kSine);
-      });
+      unrolled<A - 1>([&](auto k) __attribute__((always_inline)) { y[b][k + 1] = turned<b*(k + 1), A * B>(y[b][k + 1]); });
     }
   });
-  unrolled<3>([&](auto k) __attribute__((always_inline)) {
-    Z z[] = {y[0][k], y[1][k], y[2][k]};
-    dftOfPairs(z);
-    unrolled<3>([&](auto a) __attribute__((always_inline)) { x[k + 3 * a] = z[a]; });
+  unrolled<A>([&](auto k) __attribute__((always_inline)) {
+    Z z[B];
+    unrolled<B>([&](auto b) __attribute__((always_inline)) { z[b] = y[b][k]; });
+    anyDft(z);
+    unrolled<B>([&](auto b) __attribute__((always_inline)) { x[k + A * b] = z[b]; });
   });
 }
 
 template <size_t R, class Z> QVX_INLINE void anyDft(Z (&x)[R]) {
-  if constexpr ((R & (R - 1)) == 0) dft(x);
+  if constexpr ((R & (R - 1)) == 0 && R <= 16) dft(x);
   else if constexpr (R == 6) dftOfCoprimes<2, 3>(x);
-  else if constexpr (R == 9) dft9(x);
+  else if constexpr (R == 9) dftOfProduct<3, 3>(x);
   else if constexpr (R == 10) dftOfCoprimes<2, 5>(x);
   else if constexpr (R == 12) dftOfCoprimes<4, 3>(x);
   else if constexpr (R == 14) dftOfCoprimes<2, 7>(x);
   else if constexpr (R == 15) dftOfCoprimes<3, 5>(x);
+  else if constexpr (R == 18) dftOfCoprimes<2, 9>(x);
+  else if constexpr (R == 20) dftOfCoprimes<4, 5>(x);
+  else if constexpr (R == 24) dftOfCoprimes<8, 3>(x);
+  else if constexpr (R == 25) dftOfProduct<5, 5>(x);
+  else if constexpr (R == 27) dftOfProduct<9, 3>(x);
+  else if constexpr (R == 30) dftOfCoprimes<2, 15>(x);
+  else if constexpr (R == 32) dftOfProduct<8, 4>(x);
   else dftOfPairs(x);
 }
 

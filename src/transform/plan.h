@@ -128,8 +128,8 @@ void runPassesInTeam(int threads, const Plan<T>& plan, Src src, Dst dst, T* y, S
 // ---- Twiddles
 
 // For i = 0..count-1: put(i, cos, sin) of -2 pi x(i) / n. Many at a time: what goes through memory between scalars and vectors
-// has arrived when it is read: 3 ns for a twiddle instead of 5. Where n is no power of two, a fraction of a turn is not exact: what
-// exceeds whole quarters is reduced as a number of n-ths, and only then divided.
+// has arrived when it is read: 3 ns for a twiddle instead of 5. Where n is no power of two, a fraction of a turn is not exact:
+// what exceeds whole quarters is reduced as a number of n-ths, and only then divided.
 template <class Index, class Put> void writeTwiddles(size_t n, size_t count, Index x, Put put) {
   constexpr size_t kMany = 64;
   constexpr size_t kLanes = kVectorBytes / sizeof(double);
@@ -140,11 +140,20 @@ template <class Index, class Put> void writeTwiddles(size_t n, size_t count, Ind
   double turns[kMany] = {};
   double cosine[kMany];
   double sine[kMany];
-  const auto ofNths = [n, step](V nths) {
+  const auto ofNths = [n, step, d](V nths) {
     const V all = same<V>(static_cast<double>(n));
     const V k = hn::Round(nths * same<V>(-4 * step));
     const V r = hn::NegMulAdd(k, all, same<V>(4) * nths);
-    return sinCosOfQuarters<53>(k, r / all * same<V>(0x1.921fb54442d18p+0), hn::Zero(TagOf<V>()));
+    const V quarters = r / all;
+    const V quarter = same<V>(0x1.921fb54442d18p+0);  // the angle, and 0x1.1a62633145c07p-54 more
+    const V angle = quarters * quarter;
+    V rest = hn::Zero(d);
+    if constexpr (kFuses) {  // what division and product have lost: half of a twiddle's error
+      const V lost = hn::NegMulAdd(quarters, all, r) / all;
+      rest = hn::MulAdd(quarters, same<V>(0x1.1a62633145c07p-54), hn::MulSub(quarters, quarter, angle));
+      rest = hn::MulAdd(lost, quarter, rest);
+    }
+    return sinCosOfQuarters<53>(k, angle, rest);
   };
   for (size_t i = 0; i < count; i += kMany) {
     const size_t here = std::min(kMany, count - i);

@@ -23,6 +23,19 @@ int main() {
     }
     std::printf("\n");
   }
+  std::printf("\nThe same of any length, stated %.2f, of large primes %.2f; at least 0.5 eps\n\n", tests::kSmoothBound,
+              tests::kPrimeBound);
+  std::printf("| N | 32fc | 64fc | real 32f | real 64f |\n|---:|---:|---:|---:|---:|\n");
+  for (const int n :
+       {60, 100, 360, 625, 729, 1000, 1001, 2187, 3600, 4410, 10000, 44100, 101, 139, 211, 509, 1009, 2003, 4099, 8191}) {
+    const bool isPrime = n == 139 || n == 101 || n == 211 || n == 509 || n == 1009 || n == 2003 || n == 4099 || n == 8191;
+    std::printf("| %d |", n);
+    for (const double error : tests::anyLengthErrors(n).of) {
+      std::printf(" %.4f |", error);
+      exceeded += !(error <= (isPrime ? tests::kPrimeBound : tests::kSmoothBound));
+    }
+    std::printf("\n");
+  }
   std::printf("\n");
   return exceeded > 0 ? 1 : 0;
 }

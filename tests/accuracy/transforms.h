@@ -75,4 +75,40 @@ inline TransformErrors transformErrors(int order) {
            realError(order, qvxsFFTInitAlloc_R_64f, qvxsFFTFwd_RToCCS_64f, qvxsFFTFree_R_64f)}};
 }
 
+// Transforms of any length, in units of eps sqrt(log2 n).
+inline constexpr double kSmoothBound = 0.4;
+inline constexpr double kPrimeBound = 0.7;
+
+template <class T, class N> double inUnits(const std::vector<Exact>& expected, const std::vector<N>& found) {
+  long double error = 0;
+  long double size = 0;
+  for (size_t k = 0; k < found.size() / 2; ++k) {
+    error += std::norm(Exact(found[2 * k], found[2 * k + 1]) - expected[k]);
+    size += std::norm(expected[k]);
+  }
+  const auto n = static_cast<long double>(expected.size());
+  return static_cast<double>(std::sqrt(error / size / std::log2(n)) / std::numeric_limits<T>::epsilon());
+}
+template <class T, class C, class Record>
+double anyLengthError(int n, bool isReal, QvxStatus (*make)(Record**, int, int, int),
+                      QvxStatus (*run)(const C*, C*, const Record*, Qvx8u*), QvxStatus (*release)(Record*)) {
+  const auto count = static_cast<size_t>(n);
+  std::vector<T> x = noise<T>(2 * count);
+  std::vector<Exact> exact(count);
+  for (size_t i = 0; i < count; ++i) exact[i] = isReal ? Exact(x[i]) : Exact(x[2 * i], x[2 * i + 1]);
+  std::vector<T> found(isReal ? 2 * (count / 2 + 1) : 2 * count);
+  Record* record = nullptr;
+  if (make(&record, n, QVX_FFT_SCALE_NONE, 0) != qvxStatOk) return INFINITY;
+  run(reinterpret_cast<const C*>(x.data()), reinterpret_cast<C*>(found.data()), record, nullptr);
+  release(record);
+  return inUnits<T>(dft(exact, -1), found);
+}
+inline TransformErrors anyLengthErrors(int n) {
+  return {n,
+          {anyLengthError<Qvx32f>(n, false, qvxsDFTInitAlloc_C_32fc, qvxsDFTFwd_CToC_32fc, qvxsDFTFree_C_32fc),
+           anyLengthError<Qvx64f>(n, false, qvxsDFTInitAlloc_C_64fc, qvxsDFTFwd_CToC_64fc, qvxsDFTFree_C_64fc),
+           anyLengthError<Qvx32f>(n, true, qvxsDFTInitAlloc_R_32f, qvxsDFTFwd_RToCCS_32f, qvxsDFTFree_R_32f),
+           anyLengthError<Qvx64f>(n, true, qvxsDFTInitAlloc_R_64f, qvxsDFTFwd_RToCCS_64f, qvxsDFTFree_R_64f)}};
+}
+
 }  // namespace tests

@@ -40,7 +40,8 @@ template <class Transform> void checkComplex(const Transform& transform, size_t 
   for (const int flag : kFlags) {
     const tests::DftRecord record(transform, n, flag);
     for (const bool isInverse : {false, true}) {
-      SCOPED_TRACE(testing::Message() << transform.name << ", " << n << " points, flag " << flag << (isInverse ? ", inverse" : ""));
+      SCOPED_TRACE(testing::Message() << transform.name << ", " << n << " points, flag " << flag
+                                      << (isInverse ? ", inverse" : ""));
       tests::Error error;
       for (size_t i = 0; i < count; ++i) {
         const auto found = record.run(isInverse, sources[i], tests::Place::kApart);
@@ -110,7 +111,8 @@ template <class Transform> void checkReal(const Transform& transform, size_t n, 
       }
       EXPECT_LE(forward.relative(), tests::allowedError<T>(n) + slackOf<T>(flag, false));
       // What is brought back was rounded before.
-      EXPECT_LE(inverse.relative(), tests::allowedError<T>(n) + slackOf<T>(flag, true) + 0.3L * std::numeric_limits<T>::epsilon());
+      EXPECT_LE(inverse.relative(),
+                tests::allowedError<T>(n) + slackOf<T>(flag, true) + 0.3L * std::numeric_limits<T>::epsilon());
     }
   }
 }
@@ -141,8 +143,8 @@ TEST(Dft, LongImpulses) {
     const std::vector<Exact> back = record.run(true, spectrum, tests::Place::kSame);
     for (size_t i = 0; i < n; ++i) ASSERT_LE(std::abs(back[i] - x[i]), bound) << i;
   };
-  for (const size_t n : {323, 509, 961, 1000, 1001, 1009, 1849, 2000, 2001, 2003, 2187, 2520, 4099, 4410, 5041, 8191, 10000, 44100, 48000, 65537,
-                         99999, 100000, 131070, 262143, 300000}) {
+  for (const size_t n : {323,  509,  961,  1000,  1001,  1009,  1849,  2000,  2001,   2003,   2187,   2520,  4099,
+                         4410, 5041, 8191, 10000, 44100, 48000, 65537, 99999, 100000, 131070, 262143, 300000}) {
     tests::forEachComplex([&](const auto& transform) { check(transform, n); });
   }
 }
