@@ -23,11 +23,10 @@ template <class T> struct Chirp {
   const T* spectrum;  // of conj c over the period, divided by its length; in pairs
 };
 
-inline size_t longPeriodOf(size_t n) { return std::bit_ceil(n + n / 2); }
 // The least period with small factors that suits n numbers.
-inline size_t periodOf(size_t n) {
+inline size_t shortPeriodOf(size_t n) {
   const size_t least = n + n / 2;
-  size_t best = longPeriodOf(n);
+  size_t best = std::bit_ceil(least);
   for (const size_t factor : {3, 5, 9, 15}) best = std::min(best, factor * std::bit_ceil((least + factor - 1) / factor));
   return best;
 }
