@@ -5,6 +5,11 @@
 #include "dft/sizes.h"
 #include "fft/record.h"
 
+namespace qvx::transform {
+extern template void runGrid<float>(const GridPlan<float>& plan, bool isInverse, const float* src, float* dst, float factor);
+extern template void runGrid<double>(const GridPlan<double>& plan, bool isInverse, const double* src, double* dst, double factor);
+}  // namespace qvx::transform
+
 namespace qvx::dft {
 
 template <class T> Factors<T> factorsOf(uint32_t n, int flag) {
@@ -52,10 +57,28 @@ template <class T, class Spec> void makeFft(Spec*& spec, QvxStatus (*init)(Spec*
 
 template <class T> constexpr int64_t bytesOfPoints(int64_t n) { return n * 2 * static_cast<int64_t>(sizeof(T)); }
 
+// The length of least cost from 2n - 1 on: a power of two, or, since its transform takes 0.7 of the time of other lengths for a
+// point, one that is much shorter. `told` bytes have room for it: twice the points of a transform by factors.
+template <class T> uint32_t lengthOfConvolution(uint32_t n, int64_t told) {
+  const uint32_t least = 2 * n - 1;
+  uint32_t best = std::bit_ceil(least);
+  if (bytesOfPoints<T>(best) + bytesOfFft<T>(best).work + Carver::kLine - fft::kWorkSlack > told) best = 2 * best;
+  double cost = 0.7 * best;
+  for (const uint32_t odd : {3, 5, 7, 9, 15, 21, 25, 27, 45, 63, 75, 81, 125, 135, 225}) {
+    uint32_t length = odd * 16;
+    while (length < least) length *= 2;
+    if (length >= cost || 2 * bytesOfPoints<T>(length) + Carver::kLine > told) continue;
+    best = length;
+    cost = length;
+  }
+  return best;
+}
+
 template <class T> Bytes choose(ConvolutionPlan<T>& plan, uint32_t n) {
-  const uint32_t length = convolutionLength(n);
+  const uint32_t length = lengthOfConvolution<T>(n, *complexWork<T>(n));
   plan.length = length;
-  Bytes bytes = {bytesOfPoints<T>(int64_t{n} + length) + 3 * Carver::kLine, bytesOfPoints<T>(length) + Carver::kLine};
+  const int64_t spare = kVectorBytes * 3;  // past the chirp, for whole vectors
+  Bytes bytes = {bytesOfPoints<T>(int64_t{n} + length) + spare + 3 * Carver::kLine, bytesOfPoints<T>(length) + Carver::kLine};
   if (std::has_single_bit(length)) {
     const Bytes fft = bytesOfFft<T>(length);
     return {bytes.tables + fft.tables, bytes.work + fft.work - fft::kWorkSlack};
@@ -98,7 +121,7 @@ template <class T> struct ConvolutionWork {
 template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_t* block, uint8_t* work) {
   const size_t length = plan.length;
   Carver carver(block, Carver::kLine);
-  T* const chirp = carver.take<T>(2 * int64_t{n});
+  T* const chirp = carver.take<T>(2 * int64_t{n} + 2 * static_cast<int64_t>(kWidest<T>));
   T* const spectrum = carver.takeLines<T>(2 * static_cast<int64_t>(length));
   if (std::has_single_bit(plan.length)) makeFft<T>(plan.fft, Fft<T>::kInitApart, plan.length, QVX_FFT_SCALE_NONE, carver.rest());
   else writeMixed<Planes<T>>(plan.mixed, reinterpret_cast<T*>(carver.rest()));
@@ -122,41 +145,85 @@ template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_
     }
   }
   points.transform(plan);
-  std::copy_n(points.y.re, length, spectrum);
-  std::copy_n(points.y.im, length, spectrum + length);
+  // The spectrum is symmetric as the chirp is: the mean of both halves has an error that is a third less.
+  for (size_t k = 0; k < length; ++k) {
+    const size_t mirrored = (length - k) % length;
+    spectrum[k] = T(0.5) * (points.y.re[k] + points.y.re[mirrored]);
+    spectrum[length + k] = T(0.5) * (points.y.im[k] + points.y.im[mirrored]);
+  }
 }
 
-template <class T> void convolve(const ConvolutionPlan<T>& plan, uint32_t n, Strided<const T> src, Strided<T> dst, T factor, uint8_t* work) {
+// get(k, count), put(z, k, count): points k on, in vectors.
+template <class T, class Get, class Put> void convolve(const ConvolutionPlan<T>& plan, size_t n, size_t results, Get get, Put put, uint8_t* work) {
+  constexpr size_t L = kWidest<T>;
+  using V = Vec<Lanes<T, L>>;
+  const Lanes<T, L> d;
   const size_t length = plan.length;
   ConvolutionWork<T> points(plan, work);
-  const T* re = plan.chirp;
-  const T* im = re + n;
-  for (size_t k = 0; k < n; ++k) {
-    const T a = src.re[k * src.step];
-    const T b = src.im[k * src.step];
-    points.y.re[k] = a * re[k] - b * im[k];
-    points.y.im[k] = a * im[k] + b * re[k];
+  const Planes<const T> chirp = planes(plan.chirp, plan.chirp + n);
+  for (size_t k = 0; k < n; k += L) {
+    const Complex<V> z = product(get(k, std::min(L, n - k)), chirp.template get<L>(k));
+    points.y.template put<L>(z, k);
   }
   std::fill(points.y.re + n, points.y.re + length, T(0));
   std::fill(points.y.im + n, points.y.im + length, T(0));
   points.transform(plan);
-  const T* sre = plan.spectrum;
-  const T* sim = sre + length;
-  for (size_t k = 0; k < length; ++k) {
-    const T a = points.y.re[k];
-    const T b = points.y.im[k];
-    points.y.re[k] = a * sre[k] - b * sim[k];
-    points.y.im[k] = a * sim[k] + b * sre[k];
+  const Planes<const T> spectrum = planes(plan.spectrum, plan.spectrum + length);
+  size_t k = 0;
+  for (; k + L <= length; k += L) points.y.template put<L>(product(points.y.template get<L>(k), spectrum.template get<L>(k)), k);
+  if (k < length) {
+    const Complex<V> z = product(points.y.template getFirst<L>(k, length - k), spectrum.template getFirst<L>(k, length - k));
+    points.y.template putFirst<L>(z, k, length - k);
   }
   points.exchangeParts();
   points.transform(plan);
   points.exchangeParts();
-  for (size_t k = 0; k < n; ++k) {
-    const T a = points.y.re[k];
-    const T b = points.y.im[k];
-    dst.re[k * dst.step] = (a * re[k] - b * im[k]) * factor;
-    dst.im[k * dst.step] = (a * im[k] + b * re[k]) * factor;
+  for (size_t j = 0; j < results; j += L) {
+    put(product(points.y.template get<L>(j), chirp.template get<L>(j)), j, std::min(L, results - j));
   }
+  (void)d;
+}
+
+template <class T> void convolve(const ConvolutionPlan<T>& plan, size_t n, bool isInverse, const T* src, T* dst, T factor, uint8_t* work) {
+  constexpr size_t L = kWidest<T>;
+  using V = Vec<Lanes<T, L>>;
+  const T sign = isInverse ? T(-0.0) : T(0);
+  convolve(
+      plan, n, n, [=](size_t k, size_t count) __attribute__((always_inline)) { return Conjugable<const T>{src, sign}.template getInOrder<L>(k, count); },
+      [=](Complex<V> z, size_t k, size_t count) __attribute__((always_inline)) {
+        const Conjugable<T> to = {dst, sign};
+        z = ScaledBy<T>{factor}(z);
+        if (count == L) to.template putInOrder<L>(z, k);
+        else to.template putFirst<L>(z, k, count);
+      },
+      work);
+}
+template <class T>
+void convolve(const ConvolutionPlan<T>& plan, size_t n, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, T factor, uint8_t* work) {
+  constexpr size_t L = kWidest<T>;
+  using V = Vec<Lanes<T, L>>;
+  convolve(
+      plan, n, n, [=](size_t k, size_t count) __attribute__((always_inline)) { return planes(srcRe, srcIm).template getFirst<L>(k, count); },
+      [=](Complex<V> z, size_t k, size_t count) __attribute__((always_inline)) {
+        planes(dstRe, dstIm).template putFirst<L>(ScaledBy<T>{factor}(z), k, count);
+      },
+      work);
+}
+
+// Of real numbers, forward: the half of the spectrum that is not conjugate to the other, as pairs.
+template <class T> void convolveReals(const ConvolutionPlan<T>& plan, size_t n, const T* src, T* dst, T factor, uint8_t* work) {
+  constexpr size_t L = kWidest<T>;
+  using V = Vec<Lanes<T, L>>;
+  const Lanes<T, L> d;
+  convolve(
+      plan, n, n / 2 + 1,
+      [=](size_t k, size_t count) __attribute__((always_inline)) {
+        return Complex<V>{firstLanes(d, src + k, count), hn::Zero(d)};
+      },
+      [=](Complex<V> z, size_t k, size_t count) __attribute__((always_inline)) {
+        Conjugable<T>{dst, 0}.template putFirst<L>(ScaledBy<T>{factor}(z), k, count);
+      },
+      work);
 }
 
 // ---- Any length
@@ -175,6 +242,10 @@ template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, 
     plan.way = Way::kDirect;
     return chooseDirect(plan.direct, n, false);
   }
+  if (!isApart && chooseGrid(plan.grid, n)) {
+    plan.way = Way::kGrid;
+    return {static_cast<int64_t>(tableLength(plan.grid) * sizeof(T)), 0};
+  }
   MixedPlanner<T> planner;
   if (planner.plan(n, plan.mixed)) {
     plan.way = Way::kFactors;
@@ -186,12 +257,17 @@ template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, 
 
 template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* block, uint8_t* work) {
   switch (plan.way) {
+    case Way::kRegisters:
+      break;
     case Way::kFft:
       if (plan.isApart) makeFft<T>(plan.splitFft, Fft<T>::kInitApart, plan.n, flag, block);
       else makeFft<T>(plan.fft, Fft<T>::kInit, plan.n, flag, block);
       break;
     case Way::kDirect:
       writeDirect(plan.direct, false, block);
+      break;
+    case Way::kGrid:
+      writeGrid(plan.grid, reinterpret_cast<T*>(block));
       break;
     case Way::kFactors:
       if (plan.isApart) writeMixed<Planes<T>>(plan.mixed, reinterpret_cast<T*>(block));
@@ -212,9 +288,11 @@ template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T*
       return;
     case Way::kDirect:
       return small(plan.direct, isInverse, src, dst, factor);
+    case Way::kGrid:
+      return runGrid(plan.grid, isInverse, src, dst, factor);
     case Way::kConvolution:
-      return convolve(plan.convolution, plan.n, Strided<const T>{src + isInverse, src + !isInverse, 2},
-                      Strided<T>{dst + isInverse, dst + !isInverse, 2}, factor, work);
+      return convolve(plan.convolution, n, isInverse, src, dst, factor, work);
+    case Way::kRegisters:
     case Way::kFactors:
       break;
   }
@@ -239,7 +317,7 @@ void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* sr
     std::swap(srcRe, srcIm);
     std::swap(dstRe, dstIm);
   }
-  if (plan.way == Way::kConvolution) return convolve(plan.convolution, plan.n, {srcRe, srcIm, 1}, {dstRe, dstIm, 1}, factor, work);
+  if (plan.way == Way::kConvolution) return convolve(plan.convolution, plan.n, srcRe, srcIm, dstRe, dstIm, factor, work);
   const size_t n = plan.n;
   if (plan.way == Way::kDirect) {
     T points[2 * kMostDirect];
@@ -256,6 +334,10 @@ void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* sr
   runMixed(plan.mixed, planes(srcRe, srcIm), own, theirs, own, factor);
   std::copy_n(own.re, n, dstRe);
   std::copy_n(own.im, n, dstIm);
+}
+
+template <class T> void spectrumByConvolution(const ComplexPlan<T>& plan, const T* src, T* dst, uint8_t* work) {
+  convolveReals(plan.convolution, plan.n, src, dst, plan.forwardFactor, work);
 }
 
 }  // namespace qvx::dft

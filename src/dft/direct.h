@@ -286,11 +286,4 @@ template <class T> QVX_INLINE void small(const DirectPlan<T>& plan, bool isInver
   }
 }
 
-// Points one by one, wherever their parts stand: an inverse transform has these exchanged.
-template <class T> struct Strided {
-  T* re;
-  T* im;
-  size_t step;
-};
-
 }  // namespace qvx::dft

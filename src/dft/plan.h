@@ -2,12 +2,15 @@
 #pragma once
 
 #include "dft/direct.h"
+#include "transform/grid.h"
 
 namespace qvx::dft {
 
 using namespace transform;
 
 enum class Way : uint8_t {
+  kRegisters,    // a few real numbers
+  kGrid,         // two factors, in registers
   kFactors,      // passes by factors
   kFft,          // a power of two
   kDirect,       // the definition: few points
@@ -43,6 +46,7 @@ template <class T> struct ComplexPlan {
   T inverseFactor;
   typename FftOf<T>::Spec* fft;            // of interleaved points
   typename FftOf<T>::SplitSpec* splitFft;  // of points whose parts stand apart
+  GridPlan<T> grid;
   MixedPlan<T> mixed;
   DirectPlan<T> direct;
   ConvolutionPlan<T> convolution;
@@ -59,6 +63,9 @@ template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T*
 // Parts that stand apart:
 template <class T>
 void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, uint8_t* work);
+
+// Of n real numbers by a convolution: n / 2 + 1 points of the spectrum.
+template <class T> void spectrumByConvolution(const ComplexPlan<T>& plan, const T* src, T* dst, uint8_t* work);
 
 template <class T> struct RealFftOf;
 template <> struct RealFftOf<float> { using Spec = QvxsFFTSpec_R_32f; };

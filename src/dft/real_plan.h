@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "dft/plan.h"
+#include "dft/small_real.h"
 #include "transform/real_transform.h"
 
 namespace qvx::dft {
@@ -78,6 +79,10 @@ template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
     RealFft<T>::kGetSize(std::countr_zero(n), flag, 0, &spec, &init, &work);
     return {spec, work};
   }
+  if (isInRegisters(n)) {
+    plan.way = Way::kRegisters;
+    return {0, 0};
+  }
   if (n <= kMostDirectReal<T> || (n <= kMostDirect && isPrime(n))) {
     plan.way = Way::kDirect;
     return chooseDirect(plan.direct, n, true);
@@ -92,6 +97,7 @@ template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
 
 template <class T> void writeTables(RealPlan<T>& plan, int flag, uint8_t* block, uint8_t* work) {
   const size_t n = plan.n;
+  if (plan.way == Way::kRegisters) return;
   if (plan.way == Way::kDirect) return writeDirect(plan.direct, true, block);
   if (plan.way == Way::kFft) {
     RealFft<T>::kInit(&plan.fft, std::countr_zero(n), flag, 0, block, block);
@@ -114,6 +120,7 @@ template <class T> void writeTables(RealPlan<T>& plan, int flag, uint8_t* block,
 
 template <class T> void forward(const RealPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst, uint8_t* work) {
   const size_t n = plan.n;
+  if (plan.way == Way::kRegisters) return smallForward(n, layout, src, dst, plan.forwardFactor);
   if (plan.way == Way::kDirect) return directForward(plan.direct, layout, src, dst, plan.forwardFactor);
   if (plan.way == Way::kFft) {
     RealFft<T>::kForward[static_cast<int>(layout)](src, dst, plan.fft, work);
@@ -131,6 +138,11 @@ template <class T> void forward(const RealPlan<T>& plan, SpectrumLayout layout, 
     if (layout == SpectrumLayout::kCcs) fromPerm<SpectrumLayout::kCcs>(dst, n);
     return;
   }
+  if (plan.complex.way == Way::kConvolution && layout == SpectrumLayout::kCcs) {
+    spectrumByConvolution(plan.complex, src, dst, work);
+    dst[1] = 0;
+    return;
+  }
   Carver carver(work, Carver::kLine);
   T* const points = carver.take<T>(static_cast<int64_t>(2 * n));
   for (size_t i = 0; i < n; ++i) {
@@ -145,6 +157,7 @@ template <class T> void forward(const RealPlan<T>& plan, SpectrumLayout layout, 
 
 template <class T> void inverse(const RealPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst, uint8_t* work) {
   const size_t n = plan.n;
+  if (plan.way == Way::kRegisters) return smallInverse(n, layout, src, dst, plan.inverseFactor);
   if (plan.way == Way::kDirect) return directInverse(plan.direct, layout, src, dst, plan.inverseFactor);
   if (plan.way == Way::kFft) {
     RealFft<T>::kInverse[static_cast<int>(layout)](src, dst, plan.fft, work);

@@ -61,6 +61,13 @@ template <class T> struct Conjugable {
     z.im = turned(z.im);
     return z;
   }
+  template <size_t L> QVX_INLINE auto getInOrder(size_t at, size_t n) const {
+    const Lanes<Lane, L> d;
+    using V = Vec<Lanes<Lane, L>>;
+    const size_t low = std::min(2 * n, L);
+    const auto parts = deinterleaved(Pair<V>{firstLanes(d, p + 2 * at, low), firstLanes(d, p + 2 * at + low, 2 * n - low)});
+    return Complex<V>{parts.lo, turned(parts.hi)};
+  }
   template <size_t L, class V> QVX_INLINE void putInOrder(Complex<V> z, size_t at) const {
     Interleaved<T, false>{p}.template putInOrder<L>(Complex<V>{z.re, turned(z.im)}, at);
   }
@@ -73,10 +80,11 @@ template <class T> struct Conjugable {
   Conjugable from(size_t at) const { return {p + 2 * at, sign}; }
 };
 
-// Rows of R numbers from R vectors, whose lane i belongs to row element(i); `rows` of them. Rows are written in their order, and
-// of each what is nearer to its end first, since a vector may run on into the next row.
+// Rows of R numbers from R vectors, whose lane i belongs to row element(i); `rows` of them, `stride` apart. If isCut, nothing past
+// the end of a row is written. Else rows are written in their order, and of each what is nearer to its end first, since a vector
+// may run on into the next row.
 template <size_t L, class Src, size_t R, class V, class Part>
-QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, size_t rows, bool isEnd) {
+QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, size_t stride, size_t rows, bool isCut) {
   constexpr size_t kChunks = (R + L - 1) / L;
   unrolled<kChunks>([&](auto c) __attribute__((always_inline)) {
     constexpr size_t at = (kChunks - 1 - c) * L;
@@ -90,25 +98,31 @@ QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, si
       while (Src::template element<L>(lane) != row) ++lane;
       return lane;
     };
-    if ((kHasMasks && kWide < L) || isEnd) {
+    if (kWide < L && isCut) {
       unrolled<L>([&](auto i) __attribute__((always_inline)) {
         constexpr size_t lane = rowOf(i);
-        if (i < rows) putFirstLanes(r[lane], d, to + i * R + at, kWide);
+        if (i < rows) putFirstLanes(r[lane], d, to + i * stride + at, kWide);
       });
     } else {
       unrolled<L>([&](auto i) __attribute__((always_inline)) {
         constexpr size_t lane = rowOf(i);
-        store(r[lane], d, to + i * R + at);
+        if (i < rows) store(r[lane], d, to + i * stride + at);
       });
     }
   });
 }
 
+// What stands between the rows that the first pass leaves, and how the last one finds them: nothing, or as much as fills whole
+// vectors. Then each load takes what one store has left, which a short transform needs: else it waits 20 cycles for the cache.
+template <size_t R, size_t L> constexpr size_t paddedRow() { return (R + L - 1) / L * L; }
+inline constexpr size_t kMostPadded = 16;  // rows, and numbers in each
+
 // twiddles: for each vector of columns and each j = 1..R-1 a group, its lanes in the order of the source's elements.
 template <size_t R, size_t L, class T, class Src>
-[[gnu::noinline]] void firstMixedPass(Src src, Planes<T> y, size_t m, const T* twiddles) {
+[[gnu::noinline]] void firstMixedPass(Src src, Planes<T> y, size_t m, const T* twiddles, bool isPadded) {
   using V = Vec<Lanes<T, L>>;
   const size_t wide = std::min(m, L);
+  const size_t stride = isPadded ? paddedRow<R, L>() : R;
   for (size_t begin = 0; begin < m; begin += L, twiddles += (R - 1) * 2 * L) {
     const bool isEnd = begin + L >= m;
     const size_t p = isEnd ? m - wide : begin;
@@ -117,8 +131,9 @@ template <size_t R, size_t L, class T, class Src>
     else unrolled<R>([&](auto k) __attribute__((always_inline)) { x[k] = src.template getFirst<L>(p + k * m, wide); });
     anyDft(x);
     unrolled<R - 1>([&](auto j) __attribute__((always_inline)) { x[j + 1] = product(x[j + 1], group<L>(twiddles + j * 2 * L)); });
-    storeRows<L, Src>(x, &Complex<V>::re, y.re + p * R, wide, isEnd);
-    storeRows<L, Src>(x, &Complex<V>::im, y.im + p * R, wide, isEnd);
+    const bool isCut = !isPadded && (kHasMasks || isEnd);
+    storeRows<L, Src>(x, &Complex<V>::re, y.re + p * stride, stride, wide, isCut);
+    storeRows<L, Src>(x, &Complex<V>::im, y.im + p * stride, stride, wide, isCut);
   }
 }
 
@@ -146,26 +161,27 @@ template <size_t R, size_t L, class T>
   }
 }
 
-template <size_t L, class V, class Dst> QVX_INLINE void putResult(Dst dst, Complex<V> z, size_t at, size_t s) {
-  if (s >= L) dst.template putInOrder<L>(z, at);
-  else dst.template putFirst<L>(z, at, s);
-}
-
+// stride: of the rows, s or what is padded.
 template <size_t R, size_t L, class T, class Dst>
-[[gnu::noinline]] void lastMixedPass(Planes<const T> x, Dst dst, size_t s, T factor) {
+[[gnu::noinline]] void lastMixedPass(Planes<const T> x, Dst dst, size_t s, size_t stride, T factor) {
   using V = Vec<Lanes<T, L>>;
+  const bool isPadded = stride > s || s < L;
   for (size_t begin = 0; begin < s; begin += L) {
-    const size_t q = s >= L ? std::min(begin, s - L) : 0;
+    const size_t q = isPadded ? begin : std::min(begin, s - L);
+    const size_t wide = std::min(L, s - q);
     Complex<V> z[R];
     unrolled<R>([&](auto k) __attribute__((always_inline)) {
-      const size_t at = q + s * k;
-      z[k] = s >= L ? x.template get<L>(at) : x.template getFirst<L>(at, s);
+      const size_t at = q + stride * k;
+      z[k] = stride % L == 0 || wide == L ? x.template get<L>(at) : x.template getFirst<L>(at, wide);
     });
     anyDft(z);
     if (factor != 1) {
       unrolled<R>([&](auto j) __attribute__((always_inline)) { z[j] = ScaledBy<T>{factor}(z[j]); });
     }
-    unrolled<R>([&](auto j) __attribute__((always_inline)) { putResult<L>(dst, z[j], q + s * j, s); });
+    unrolled<R>([&](auto j) __attribute__((always_inline)) {
+      if (wide == L) dst.template putInOrder<L>(z[j], q + s * j);
+      else dst.template putFirst<L>(z[j], q + s * j, wide);
+    });
   }
 }
 
@@ -179,26 +195,37 @@ template <class V, class T, class Get, class Put> QVX_INLINE void dftOfMany(size
   const Complex<V> first = get(0);
   Complex<V> sums[kLargestFactor / 2];
   Complex<V> differences[kLargestFactor / 2];
-  Complex<V> total = first;
+  const Complex<V> zero = {hn::Zero(TagOf<V>()), hn::Zero(TagOf<V>())};
+  Complex<V> totals[] = {first, zero};
   for (size_t k = 0; k < H; ++k) {
     const Complex<V> a = get(k + 1);
     const Complex<V> b = get(R - 1 - k);
     sums[k] = sum(a, b);
     differences[k] = difference(a, b);
-    total = sum(total, sums[k]);
+    totals[k % 2] = sum(totals[k % 2], sums[k]);
   }
-  put(size_t{0}, total);
+  put(size_t{0}, sum(totals[0], totals[1]));
   for (size_t j = 1; j <= H; ++j) {
-    Complex<V> even = first;
-    Complex<V> odd = {hn::Zero(TagOf<V>()), hn::Zero(TagOf<V>())};
-    for (size_t k = 0; k < H; ++k, roots += 2) {
+    // Two sums of each have half the latency, and less error.
+    Complex<V> even[] = {first, zero};
+    Complex<V> odd[] = {zero, zero};
+    const auto take = [&](size_t k, size_t to) __attribute__((always_inline)) {
       const V cosine = same<V>(roots[0]);
       const V sine = same<V>(roots[1]);
-      even = {hn::MulAdd(cosine, sums[k].re, even.re), hn::MulAdd(cosine, sums[k].im, even.im)};
-      odd = {hn::MulAdd(sine, differences[k].re, odd.re), hn::MulAdd(sine, differences[k].im, odd.im)};
+      even[to] = {hn::MulAdd(cosine, sums[k].re, even[to].re), hn::MulAdd(cosine, sums[k].im, even[to].im)};
+      odd[to] = {hn::MulAdd(sine, differences[k].re, odd[to].re), hn::MulAdd(sine, differences[k].im, odd[to].im)};
+      roots += 2;
+    };
+    size_t k = 0;
+    for (; k + 2 <= H; k += 2) {
+      take(k, 0);
+      take(k + 1, 1);
     }
-    put(j, differenceWithI(even, odd));
-    put(R - j, sumWithI(even, odd));
+    if (k < H) take(k, 0);
+    const Complex<V> evens = sum(even[0], even[1]);
+    const Complex<V> odds = sum(odd[0], odd[1]);
+    put(j, differenceWithI(evens, odds));
+    put(R - j, sumWithI(evens, odds));
   }
 }
 

@@ -15,10 +15,37 @@ inline constexpr uint8_t kRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 1
 inline constexpr size_t kWidestMixed = 16;
 
 template <class Step> QVX_INLINE void withMixedRadix(size_t radix, Step step) {
-  [&]<size_t... I>(std::index_sequence<I...>) __attribute__((always_inline)) {
-    ((radix == kRadices[I] ? step(std::integral_constant<size_t, kRadices[I]>()) : void()), ...);
+  const auto with = [&](auto R) __attribute__((always_inline)) { step(R); };
+  switch (radix) {
+    case 2:
+      return with(std::integral_constant<size_t, 2>());
+    case 3:
+      return with(std::integral_constant<size_t, 3>());
+    case 4:
+      return with(std::integral_constant<size_t, 4>());
+    case 5:
+      return with(std::integral_constant<size_t, 5>());
+    case 6:
+      return with(std::integral_constant<size_t, 6>());
+    case 7:
+      return with(std::integral_constant<size_t, 7>());
+    case 8:
+      return with(std::integral_constant<size_t, 8>());
+    case 9:
+      return with(std::integral_constant<size_t, 9>());
+    case 10:
+      return with(std::integral_constant<size_t, 10>());
+    case 11:
+      return with(std::integral_constant<size_t, 11>());
+    case 12:
+      return with(std::integral_constant<size_t, 12>());
+    case 13:
+      return with(std::integral_constant<size_t, 13>());
+    case 15:
+      return with(std::integral_constant<size_t, 15>());
+    default:
+      return with(std::integral_constant<size_t, 16>());
   }
-  (std::make_index_sequence<std::size(kRadices)>());
 }
 
 template <class T> struct MixedPlan {
@@ -89,13 +116,14 @@ template <class T> class MixedPlanner {
       const uint64_t s = n / d;
       const uint64_t here = s == 1 ? uint64_t{vectors(m)} * (costOfRadix(radix) + (radix + kWidest<T> - 1) / kWidest<T> * kTransposition)
                                    : uint64_t{vectors(s)} * m * costOfRadix(radix);
-      if (here + after < best_[i]) {
-        best_[i] = here + after;
+      if (here + after + kPass < best_[i]) {
+        best_[i] = here + after + kPass;
         radix_[i] = radix;
       }
     }
   }
   static uint64_t vectors(uint64_t count) { return (count + kWidest<T> - 1) / kWidest<T>; }
+  static constexpr uint32_t kPass = 100;
   static constexpr uint32_t kTransposition = 2 * kWidest<T> * (log2Of(kWidest<T>) + 1);
 
   uint8_t primes_[10] = {};
@@ -177,6 +205,14 @@ void runMixed(const MixedPlan<T>& plan, Src src, Dst dst, Planes<T> even, Planes
   constexpr size_t L = kWidest<T>;
   constexpr size_t M = kManyLanes<T>;
   const T* tables = plan.tables;
+  if (plan.count == 2 && plan.radix[0] <= kMostPadded && plan.radix[1] <= kMostPadded) {
+    alignas(64) T rows[2 * kMostPadded * kMostPadded];
+    const Planes<T> padded = planes(rows, rows + kMostPadded * kMostPadded);
+    const size_t stride = up<static_cast<int64_t>(L)>(plan.radix[0]);
+    withMixedRadix(plan.radix[0], [=](auto R) { firstMixedPass<R, L>(src, padded, plan.radix[1], tables, true); });
+    withMixedRadix(plan.radix[1], [=](auto R) { lastMixedPass<R, L>(asConst(padded), dst, plan.radix[0], stride, factor); });
+    return;
+  }
   Planes<T> from = plan.count % 2 == 0 ? even : odd;
   Planes<T> to = plan.count % 2 == 0 ? odd : even;
   const size_t first = plan.radix[0];
@@ -185,7 +221,7 @@ void runMixed(const MixedPlan<T>& plan, Src src, Dst dst, Planes<T> even, Planes
     firstPassOfMany<M>(first, tables, src, from, m, tables + rootsOf<T>(first));
     tables += rootsOf<T>(first) + (m + M - 1) / M * M * (first - 1) * 2;
   } else {
-    withMixedRadix(first, [=](auto R) { firstMixedPass<R, L>(src, from, m, tables); });
+    withMixedRadix(first, [=](auto R) { firstMixedPass<R, L>(src, from, m, tables, false); });
     tables += (m + L - 1) / L * L * (first - 1) * 2;
   }
   size_t s = first;
@@ -199,7 +235,7 @@ void runMixed(const MixedPlan<T>& plan, Src src, Dst dst, Planes<T> even, Planes
     std::swap(from, to);
   }
   if (m > kWidestMixed) lastPassOfMany<M>(m, tables, asConst(from), dst, s, factor);
-  else withMixedRadix(m, [=](auto R) { lastMixedPass<R, L>(asConst(from), dst, s, factor); });
+  else withMixedRadix(m, [=](auto R) { lastMixedPass<R, L>(asConst(from), dst, s, s, factor); });
 }
 
 }  // namespace qvx::transform

@@ -1,4 +1,4 @@
-// Transforms of 3 to 16 points of any factors, each point a vector of real and one of imaginary parts, beside those of powers of
+// Transforms of 3 to 32 points of any factors, each point a vector of real and one of imaginary parts, beside those of powers of
 // two in butterfly.h.
 #pragma once
 
@@ -110,34 +110,43 @@ template <size_t A, size_t B, class Z> QVX_INLINE void dftOfCoprimes(Z (&x)[A * 
   });
 }
 
-template <class Z> QVX_INLINE void dft9(Z (&x)[9]) {
-  Z y[3][3];
-  unrolled<3>([&](auto b) __attribute__((always_inline)) {
-    unrolled<3>([&](auto a) __attribute__((always_inline)) { y[b][a] = x[3 * a + b]; });
-    dftOfPairs(y[b]);
+// A * B points of any factors: B transforms of A points, twiddles, A transforms of B points.
+template <size_t A, size_t B, class Z> QVX_INLINE void dftOfProduct(Z (&x)[A * B]) {
+  Z y[B][A];
+  unrolled<B>([&](auto b) __attribute__((always_inline)) {
+    unrolled<A>([&](auto a) __attribute__((always_inline)) { y[b][a] = x[B * a + b]; });
+    anyDft(y[b]);
     if constexpr (b > 0) {
-      unrolled<2>([&](auto k) __attribute__((always_inline)) {
-        constexpr double kCosine = cosineOfTurn(b * (k + 1), 9);
-        constexpr double kSine = sineOfTurn(b * (k + 1), 9);
+      unrolled<A - 1>([&](auto k) __attribute__((always_inline)) {
+        constexpr double kCosine = cosineOfTurn(b * (k + 1), A * B);
+        constexpr double kSine = sineOfTurn(b * (k + 1), A * B);
         y[b][k + 1] = product(y[b][k + 1], kCosine, -kSine);
       });
     }
   });
-  unrolled<3>([&](auto k) __attribute__((always_inline)) {
-    Z z[] = {y[0][k], y[1][k], y[2][k]};
-    dftOfPairs(z);
-    unrolled<3>([&](auto a) __attribute__((always_inline)) { x[k + 3 * a] = z[a]; });
+  unrolled<A>([&](auto k) __attribute__((always_inline)) {
+    Z z[B];
+    unrolled<B>([&](auto b) __attribute__((always_inline)) { z[b] = y[b][k]; });
+    anyDft(z);
+    unrolled<B>([&](auto b) __attribute__((always_inline)) { x[k + A * b] = z[b]; });
   });
 }
 
 template <size_t R, class Z> QVX_INLINE void anyDft(Z (&x)[R]) {
-  if constexpr ((R & (R - 1)) == 0) dft(x);
+  if constexpr ((R & (R - 1)) == 0 && R <= 16) dft(x);
   else if constexpr (R == 6) dftOfCoprimes<2, 3>(x);
-  else if constexpr (R == 9) dft9(x);
+  else if constexpr (R == 9) dftOfProduct<3, 3>(x);
   else if constexpr (R == 10) dftOfCoprimes<2, 5>(x);
   else if constexpr (R == 12) dftOfCoprimes<4, 3>(x);
   else if constexpr (R == 14) dftOfCoprimes<2, 7>(x);
   else if constexpr (R == 15) dftOfCoprimes<3, 5>(x);
+  else if constexpr (R == 18) dftOfCoprimes<2, 9>(x);
+  else if constexpr (R == 20) dftOfCoprimes<4, 5>(x);
+  else if constexpr (R == 24) dftOfCoprimes<8, 3>(x);
+  else if constexpr (R == 25) dftOfProduct<5, 5>(x);
+  else if constexpr (R == 27) dftOfProduct<9, 3>(x);
+  else if constexpr (R == 30) dftOfCoprimes<2, 15>(x);
+  else if constexpr (R == 32) dftOfProduct<8, 4>(x);
   else dftOfPairs(x);
 }
 
