@@ -202,7 +202,8 @@ template <class Record, class T> void oddTransform(const Record& spec, const T* 
 }
 
 // In working memory.
-template <class Record, class T> [[gnu::noinline]] QvxStatus transformedIn(const Scratch& scratch, const Record& spec, const T* src, T* dst) {
+template <class Record, class T>
+[[gnu::noinline]] QvxStatus transformedIn(const Scratch& scratch, const Record& spec, const T* src, T* dst) {
   if (scratch.isMissing(spec.workSize)) return qvxStatNoMem;
   switch (spec.way) {
     case Way::kHalf:
@@ -212,7 +213,8 @@ template <class Record, class T> [[gnu::noinline]] QvxStatus transformedIn(const
       oddTransform(spec, src, dst, scratch.carver());
       break;
     default:
-      (Record::kInverse ? inverseByChirp<T> : forwardByChirp<T>)(*spec.chirp, static_cast<size_t>(spec.len), src, dst, scratch.carver());
+      (Record::kInverse ? inverseByChirp<T> : forwardByChirp<T>)(*spec.chirp, static_cast<size_t>(spec.len), src, dst,
+                                                                 scratch.carver());
   }
   return qvxStatOk;
 }

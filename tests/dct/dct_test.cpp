@@ -13,7 +13,6 @@ namespace {
 
 using tests::Random;
 
-
 template <class T_, class Spec_> struct Direction {
   using T = T_;
   using Spec = Spec_;
@@ -58,7 +57,11 @@ template <class Type> Sizes sizesOf(const Type& type, int len) {
 template <class Type> class Placed {
  public:
   Placed(const Type& type, int len)
-      : type_(type), sizes_(sizesOf(type, len)), memory_(bytes(sizes_.spec)), init_(bytes(sizes_.init)), work_(bytes(sizes_.work)) {
+      : type_(type),
+        sizes_(sizesOf(type, len)),
+        memory_(bytes(sizes_.spec)),
+        init_(bytes(sizes_.init)),
+        work_(bytes(sizes_.work)) {
     workAt_ = work_.atEnd(bytes(sizes_.work));
     Qvx8u* initAt = init_.atEnd(bytes(sizes_.init));
     EXPECT_EQ(type.init(&spec_, len, 0, memory_.atEnd(bytes(sizes_.spec)), sizes_.init > 0 ? initAt : nullptr), qvxStatOk) << len;
@@ -103,7 +106,8 @@ template <class T> long double size(const std::vector<T>& v) {
 }
 
 // Results of noise: the same in place, without working memory and where the vectors end at unreadable pages.
-template <class Type> std::vector<typename Type::T> results(const Type& type, const Placed<Type>& record, const std::vector<typename Type::T>& x) {
+template <class Type>
+std::vector<typename Type::T> results(const Type& type, const Placed<Type>& record, const std::vector<typename Type::T>& x) {
   using T = typename Type::T;
   const size_t bytes = x.size() * sizeof(T);
   tests::Block src(bytes), dst(bytes);
