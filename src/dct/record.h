@@ -65,7 +65,7 @@ template <class Record> Way wayOf(int len, Sizes sizes) {
     const auto plan = needsOfPlan<T>(n);
     constexpr int64_t kNumber = sizeof(T);
     const Needs needs = {plan.tables + len * kNumber, plan.work + 2 * len * kNumber, 0};
-    if (plan.way == dft::Way::kFactors && fits<Record>(needs, sizes)) return Way::kOdd;
+    if (plan.way != dft::Way::kConvolution && fits<Record>(needs, sizes)) return Way::kOdd;
   }
   return Way::kChirp;
 }

@@ -67,9 +67,7 @@ TEST_F(SpectrogramTest, PrintsOctaves) {
   EXPECT_NEAR(rows[0][k250], 0, 0.3);
   EXPECT_LT(rows[0][k4000], -30);
   EXPECT_NEAR(rows[1][k4000], -20, 0.1);
-  for (size_t band = 1; band < 11; ++band) {
-    if (band + 1 < k4000) EXPECT_LT(rows[1][band], -60) << band;
-  }
+  for (size_t band = 1; band + 1 < k4000; ++band) EXPECT_LT(rows[1][band], -60) << band;
 }
 
 TEST_F(SpectrogramTest, DrawsPictures) {
