@@ -19,7 +19,9 @@ struct Options {
 
 void addTo(CLI::App& command, Options& options) {
   command.add_option("file", options.input, "The audio file; its channels are averaged")->required()->check(CLI::ExistingFile);
-  command.add_option("-w,--window", options.len, "Frames of a window, any number")->check(CLI::Range(1, 1 << 24))->capture_default_str();
+  command.add_option("-w,--window", options.len, "Frames of a window, any number")
+      ->check(CLI::Range(1, 1 << 24))
+      ->capture_default_str();
   command.add_option("--hop", options.hop, "Frames from one window to the next, half a window if not given")
       ->check(CLI::Range(1, 1 << 24));
 }
@@ -49,7 +51,9 @@ int run(int argc, char** argv) {
   CLI::App* draw = app.add_subcommand("draw", "Level by time and frequency, as a picture");
   addTo(*draw, options);
   draw->add_option("-o,--output", picture, "The picture, .png or .svg (by gnuplot)")->required();
-  draw->add_option("-r,--range", range, "Decibels below the loudest that have colours")->check(CLI::Range(1, 300))->capture_default_str();
+  draw->add_option("-r,--range", range, "Decibels below the loudest that have colours")
+      ->check(CLI::Range(1, 300))
+      ->capture_default_str();
   CLI::App* bands = app.add_subcommand("bands", "Level by time in octaves, as a table");
   addTo(*bands, options);
   bands->add_option("-e,--every", seconds, "Seconds from row to row")->check(CLI::Range(0.001, 3600.0))->capture_default_str();

@@ -7,9 +7,7 @@
 Windows::Windows(const std::string& path, int len, int hop)
     : input_(path), len_(len), hop_(hop), samples_(static_cast<size_t>(len)) {}
 
-double Windows::time() const {
-  return (static_cast<double>(index_) * hop_ + 0.5 * len_) / sampleRate();
-}
+double Windows::time() const { return (static_cast<double>(index_) * hop_ + 0.5 * len_) / sampleRate(); }
 
 int64_t Windows::count() const { return input_.frames() < len_ ? 1 : (input_.frames() - len_) / hop_ + 1; }
 

@@ -1,7 +1,7 @@
 // Lengths that no plan serves: a convolution with a chirp, as long as the spectrum of n real numbers needs.
 //
-// With c[m] = exp(-pi i m^2 / n), exp(-2 pi i j k / n) = c[j] c[k] conj c[k - j]. The spectrum V of the numbers in halves (turn.h)
-// is needed up to k = n/2, so a period of n + n/2 serves both directions:
+// With c[m] = exp(-pi i m^2 / n), exp(-2 pi i j k / n) = c[j] c[k] conj c[k - j]. The spectrum V of the numbers in halves
+// (turn.h) is needed up to k = n/2, so a period of n + n/2 serves both directions:
 //
 //   V[k] = c[k] * sum over j of (v[j] c[j]) conj c[k - j]
 //   y[k] = re t[k] V[k]     y[n - k] = -im t[k] V[k]     t[k] = sqrt(2/n) exp(-2 pi i k / (4n)), sqrt(1/n) at 0
@@ -23,11 +23,10 @@ template <class T> struct Chirp {
   const T* spectrum;  // of conj c over the period, divided by its length; in pairs
 };
 
-inline size_t longPeriodOf(size_t n) { return std::bit_ceil(n + n / 2); }
 // The least period with small factors that suits n numbers.
-inline size_t periodOf(size_t n) {
+inline size_t shortPeriodOf(size_t n) {
   const size_t least = n + n / 2;
-  size_t best = longPeriodOf(n);
+  size_t best = std::bit_ceil(least);
   for (const size_t factor : {3, 5, 9, 15}) best = std::min(best, factor * std::bit_ceil((least + factor - 1) / factor));
   return best;
 }
@@ -73,7 +72,8 @@ template <class T> void writeChirp(Chirp<T>& chirp, size_t n, size_t period, boo
 // Pairs of numbers, in place: by those of another vector.
 template <class T> void convolve(const Chirp<T>& chirp, T* z, Qvx8u* work) {
   dft::run(*chirp.plan, false, z, z, work);
-  fft::multiply(reinterpret_cast<const ComplexOf<T>*>(chirp.spectrum), reinterpret_cast<ComplexOf<T>*>(z), static_cast<int>(chirp.period));
+  fft::multiply(reinterpret_cast<const ComplexOf<T>*>(chirp.spectrum), reinterpret_cast<ComplexOf<T>*>(z),
+                static_cast<int>(chirp.period));
   dft::run(*chirp.plan, true, z, z, work);
 }
 

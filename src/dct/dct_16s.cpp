@@ -44,7 +44,8 @@ template <class Record> QvxStatus init16(Record** ppSpec, int len, Qvx8u* pMemor
   });
 }
 
-template <class Record> QvxStatus transformed16(const Record* spec, const Qvx16s* src, Qvx16s* dst, int scaleFactor, Qvx8u* pBuffer) {
+template <class Record>
+QvxStatus transformed16(const Record* spec, const Qvx16s* src, Qvx16s* dst, int scaleFactor, Qvx8u* pBuffer) {
   const QvxStatus status = check(spec);
   if (status != qvxStatOk) return status;
   if (isNull(src) || isNull(dst)) return qvxStatNullPtr;

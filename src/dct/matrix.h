@@ -33,9 +33,7 @@ template <class T, int N, bool kInverse> alignas(64) inline constexpr Matrix<T, 
 template <class T, int N, bool kInverse> void byMatrix(const T* src, T* dst) {
   using M = Matrix<T, N, kInverse>;
   const auto sums = combined<N, 1, M::L>(src, kMatrix<T, N, kInverse>.row);
-  unrolled<M::kVectors>([&](auto w) __attribute__((always_inline)) {
-    storeConstant<N - w * M::L>(sums[w], dst + w * M::L);
-  });
+  unrolled<M::kVectors>([&](auto w) __attribute__((always_inline)) { storeConstant<N - w * M::L>(sums[w], dst + w * M::L); });
 }
 
 // ---- Twice as many, by the sums and the differences of numbers at the same distance from the ends: of the first, results of
@@ -65,12 +63,10 @@ template <class T, int N, bool kInverse> void byHalves(const T* src, T* dst) {
     const auto even = combined<H, 2, L>(src, rows);
     const auto odd = combined<H, 2, L>(src + 1, rows + 1);
     // What is past the half is overwritten by the other one.
-    unrolled<M::kVectors>([&](auto w) __attribute__((always_inline)) {
-      store(reversed(even[w] - odd[w]), d, dst + N - (w + 1) * L);
-    });
-    unrolled<M::kVectors>([&](auto w) __attribute__((always_inline)) {
-      storeConstant<H - w * L>(even[w] + odd[w], dst + w * L);
-    });
+    unrolled<M::kVectors>([&](auto w)
+                              __attribute__((always_inline)) { store(reversed(even[w] - odd[w]), d, dst + N - (w + 1) * L); });
+    unrolled<M::kVectors>([&](auto w)
+                              __attribute__((always_inline)) { storeConstant<H - w * L>(even[w] + odd[w], dst + w * L); });
   } else {
     alignas(64) T folded[2 * M::kVectors * L];
     unrolled<M::kVectors>([&](auto w) __attribute__((always_inline)) {

@@ -2,8 +2,8 @@
 // sequence.
 #pragma once
 
-#include "dct/turn.h"
 #include "dct/plan.h"
+#include "dct/turn.h"
 
 namespace qvx::dct {
 
@@ -23,13 +23,14 @@ template <class T> void spectrumToCosinesOdd(const T* z, T* y, size_t n, const T
   const size_t h = n / 2;
   const Lanes<T, L> d;
   y[0] = mean * z[0];
-  inVectors<L>(h, [=](size_t i) __attribute__((always_inline)) {
-    const size_t k = i + 1;
-    const auto spectrum = transform::Interleaved<const T, false>{z}.template getInOrder<L>(k);
-    const auto v = transform::product(spectrum, Complex<Vec<Lanes<T, L>>>{load(d, turns + i), load(d, turns + h + i)});
-    store(v.re, d, y + k);
-    store(reversed(hn::Neg(v.im)), d, y + n - k - L + 1);
-  });
+  inVectors<L>(
+      h, [=](size_t i) __attribute__((always_inline)) {
+        const size_t k = i + 1;
+        const auto spectrum = transform::Interleaved<const T, false>{z}.template getInOrder<L>(k);
+        const auto v = transform::product(spectrum, Complex<Vec<Lanes<T, L>>>{load(d, turns + i), load(d, turns + h + i)});
+        store(v.re, d, y + k);
+        store(reversed(hn::Neg(v.im)), d, y + n - k - L + 1);
+      });
 }
 
 template <class T> void cosinesToSpectrumOdd(const T* y, T* z, size_t n, const T* turns, T mean) {
@@ -40,14 +41,15 @@ template <class T> void cosinesToSpectrumOdd(const T* y, T* z, size_t n, const T
   const transform::Interleaved<T, false> to{z};
   z[0] = mean * y[0];
   z[1] = 0;
-  inVectors<L>(h, [=](size_t i) __attribute__((always_inline)) {
-    const size_t k = i + 1;
-    const V half = same<V>(T(0.5));
-    const Complex<V> v{half * load(d, y + k), hn::Neg(half * reversed(load(d, y + n - k - L + 1)))};
-    const auto spectrum = productWithConjugate(v, Complex<V>{load(d, turns + i), load(d, turns + h + i)});
-    to.template putInOrder<L>(spectrum, k);
-    to.template putInOrder<L>(mirrored(conjugate(spectrum)), n - k - L + 1);
-  });
+  inVectors<L>(
+      h, [=](size_t i) __attribute__((always_inline)) {
+        const size_t k = i + 1;
+        const V half = same<V>(T(0.5));
+        const Complex<V> v{half * load(d, y + k), hn::Neg(half * reversed(load(d, y + n - k - L + 1)))};
+        const auto spectrum = productWithConjugate(v, Complex<V>{load(d, turns + i), load(d, turns + h + i)});
+        to.template putInOrder<L>(spectrum, k);
+        to.template putInOrder<L>(mirrored(conjugate(spectrum)), n - k - L + 1);
+      });
 }
 
 // The numbers in halves as real parts.

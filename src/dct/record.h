@@ -15,7 +15,6 @@ enum class Way : uint8_t {
   kRows,
   kOdd,  // a complex transform of the length
   kChirp,
-  kLongChirp,  // whose period is a power of two, which takes the least memory
 };
 
 template <class T_, bool kInverse_, uint32_t kIdentity> struct Spec : RecordHead {
@@ -50,23 +49,33 @@ template <class T> Needs needsOfHalf(size_t n) {
           plan.way == dft::Way::kConvolution ? plan.work : 0};
 }
 
+template <class Record> bool fits(Needs needs, Sizes sizes) {
+  constexpr int64_t kSlack = Carver::kRecordAlignment - 1;
+  return static_cast<int64_t>(sizeof(Record)) + needs.tables + kSlack <= sizes.spec &&
+         needs.work + kSlack <= std::max(sizes.work, kWorkOnStack) && needs.making <= sizes.init;
+}
+
 template <class Record> Way wayOf(int len, Sizes sizes) {
   using T = typename Record::T;
   const auto n = static_cast<size_t>(len);
   if (hasKernel(len)) return Way::kKernel;
-  const auto fits = [=](Needs needs) {
-    constexpr int64_t kSlack = Carver::kRecordAlignment - 1;
-    return static_cast<int64_t>(sizeof(Record)) + needs.tables + kSlack <= sizes.spec &&
-           needs.work + kSlack <= std::max(sizes.work, kWorkOnStack) && needs.making <= sizes.init;
-  };
-  if (len % 2 == 0 && fits(needsOfHalf<T>(n))) return Way::kHalf;
+  if (len % 2 == 0 && fits<Record>(needsOfHalf<T>(n), sizes)) return Way::kHalf;
   if (len <= kLongestByRows) return Way::kRows;
   if (len % 2 != 0) {
     const auto plan = needsOfPlan<T>(n);
     constexpr int64_t kNumber = sizeof(T);
-    if (plan.way == dft::Way::kFactors && fits({plan.tables + len * kNumber, plan.work + 2 * len * kNumber, 0})) return Way::kOdd;
+    const Needs needs = {plan.tables + len * kNumber, plan.work + 2 * len * kNumber, 0};
+    if (plan.way != dft::Way::kConvolution && fits<Record>(needs, sizes)) return Way::kOdd;
   }
-  return fits(needsOfChirp<T>(n, periodOf(n))) ? Way::kChirp : Way::kLongChirp;
+  return Way::kChirp;
+}
+
+// The sizes have room for the last one, whose transform's own they are.
+template <class Record> size_t periodFor(size_t n, Sizes sizes) {
+  for (const size_t period : {shortPeriodOf(n), std::bit_ceil(n + n / 2)}) {
+    if (fits<Record>(needsOfChirp<typename Record::T>(n, period), sizes)) return period;
+  }
+  return std::bit_ceil(2 * n - 1);
 }
 
 // ---- The life of a record
@@ -92,7 +101,7 @@ template <class Record> QvxStatus check(Record** ppSpec, int len, Sizes sizes, c
 }
 
 // The tables of a record that knows its way.
-template <class Record> void writeWay(Record& spec, Carver& tables, Qvx8u* making) {
+template <class Record> void writeWay(Record& spec, Sizes sizes, Carver& tables, Qvx8u* making) {
   using T = typename Record::T;
   const auto n = static_cast<size_t>(spec.len);
   switch (spec.way) {
@@ -120,8 +129,7 @@ template <class Record> void writeWay(Record& spec, Carver& tables, Qvx8u* makin
     }
     default: {
       auto* const chirp = tables.take<Chirp<T>>(1);
-      const size_t period = spec.way == Way::kChirp ? periodOf(n) : longPeriodOf(n);
-      writeChirp(*chirp, n, period, Record::kInverse, tables, making);
+      writeChirp(*chirp, n, periodFor<Record>(n, sizes), Record::kInverse, tables, making);
       spec.chirp = chirp;
     }
   }
@@ -138,7 +146,7 @@ template <class Record> QvxStatus init(Record** ppSpec, int len, Qvx8u* pMemory,
     spec.mean = static_cast<T>(1 / std::sqrt(static_cast<double>(len)));
     spec.magic = Record::kId;
     spec.way = wayOf<Record>(len, sizes);
-    writeWay(spec, tables, pInit);
+    writeWay(spec, sizes, tables, pInit);
     return qvxStatOk;
   });
 }
@@ -194,7 +202,8 @@ template <class Record, class T> void oddTransform(const Record& spec, const T* 
 }
 
 // In working memory.
-template <class Record, class T> [[gnu::noinline]] QvxStatus transformedIn(const Scratch& scratch, const Record& spec, const T* src, T* dst) {
+template <class Record, class T>
+[[gnu::noinline]] QvxStatus transformedIn(const Scratch& scratch, const Record& spec, const T* src, T* dst) {
   if (scratch.isMissing(spec.workSize)) return qvxStatNoMem;
   switch (spec.way) {
     case Way::kHalf:
@@ -204,7 +213,8 @@ template <class Record, class T> [[gnu::noinline]] QvxStatus transformedIn(const
       oddTransform(spec, src, dst, scratch.carver());
       break;
     default:
-      (Record::kInverse ? inverseByChirp<T> : forwardByChirp<T>)(*spec.chirp, static_cast<size_t>(spec.len), src, dst, scratch.carver());
+      (Record::kInverse ? inverseByChirp<T> : forwardByChirp<T>)(*spec.chirp, static_cast<size_t>(spec.len), src, dst,
+                                                                 scratch.carver());
   }
   return qvxStatOk;
 }

@@ -1,5 +1,5 @@
-// Up to 100 numbers in q rows of r, r odd, with tables so small that they fit the record that such lengths have: all steps are sums
-// of products, of vectors that run along the spectrum of a row.
+// Up to 100 numbers in q rows of r, r odd, with tables so small that they fit the record that such lengths have: all steps are
+// sums of products, of vectors that run along the spectrum of a row.
 //
 // The spectrum of a row of real numbers at k and -k is conjugate, so h = r/2 columns and the mean are enough. The sum and the
 // difference of the numbers at j and -j meet cosines and sines of 2 pi j k / r. Where r is a prime, columns and numbers
@@ -17,8 +17,8 @@ inline constexpr int kLongestByRows = 100;
 
 template <class T> struct Rows {
   uint8_t q, r, h;
-  uint8_t width;           // columns in whole vectors
-  uint8_t step;            // from a number's cosines to the next one's
+  uint8_t width;  // columns in whole vectors
+  uint8_t step;   // from a number's cosines to the next one's
   const T* cosines;
   const T* sines;
   const T* turns;          // sqrt(2/n) exp(-2 pi i k / (4n)) of each result: a row of real parts, a row of imaginary ones
@@ -44,9 +44,7 @@ constexpr int rowLength(int n) {
 constexpr bool isPrimeRow(int r) { return r != 9 && r != 15; }
 
 // step(L) with the lanes that h columns take.
-template <class T, class Step> void withColumnLanes(size_t h, Step step) {
-  withLanesWithin<T>(std::bit_ceil(h), step);
-}
+template <class T, class Step> void withColumnLanes(size_t h, Step step) { withLanesWithin<T>(std::bit_ceil(h), step); }
 
 template <class T> Rows<T> shapeOf(size_t n) {
   Rows<T> rows = {};
@@ -108,7 +106,9 @@ template <class T> void writeRows(Rows<T>& rows, size_t n, Carver& tables) {
 
   writeTwiddles(
       r, length,
-      [&](size_t i) { return isPrimeRow(rows.r) ? size_t{residue[i]} : i % width < h ? (i / width + 1) * (i % width + 1) : 0; },
+      [&](size_t i) { return isPrimeRow(rows.r) ? size_t{residue[i]}
+                             : i % width < h    ? (i / width + 1) * (i % width + 1)
+                                                : 0; },
       [=](size_t i, double re, double im) {
         cosines[i] = static_cast<T>(re);
         sines[i] = static_cast<T>(-im);
@@ -223,8 +223,8 @@ template <class T> void forwardByRows(const Rows<T>& rows, size_t n, const T* x,
   };
   for (size_t row = 0; row < q; ++row) {
     const auto z = columnTransform<false>(means, q, row, rows.roots);
-    const auto turned =
-        transform::product(z, Complex<Vec<Lanes<T, 1>>>{load(one, rows.meanTurns + 2 * row), load(one, rows.meanTurns + 2 * row + 1)});
+    const auto turned = transform::product(
+        z, Complex<Vec<Lanes<T, 1>>>{load(one, rows.meanTurns + 2 * row), load(one, rows.meanTurns + 2 * row + 1)});
     put(rows.results[q * h + row], hn::GetLane(turned.re), hn::GetLane(turned.im));
   }
   withColumnLanes<T>(h, [&](auto L) {
@@ -269,8 +269,8 @@ template <class T> void inverseByRows(const Rows<T>& rows, size_t n, const T* y,
     // Results k and n - k are both here.
     const T f = k == 0 ? T(1) : T(0.5);
     const Complex<Vec<Lanes<T, 1>>> z{hn::Set(one, f * y[k]), hn::Set(one, k == 0 ? T(0) : -f * y[n - k])};
-    ends[row] =
-        productWithConjugate(z, Complex<Vec<Lanes<T, 1>>>{load(one, rows.meanTurns + 2 * row), load(one, rows.meanTurns + 2 * row + 1)});
+    ends[row] = productWithConjugate(
+        z, Complex<Vec<Lanes<T, 1>>>{load(one, rows.meanTurns + 2 * row), load(one, rows.meanTurns + 2 * row + 1)});
   }
   for (size_t row = 0; row < q; ++row) firsts[row] = means[row] = hn::GetLane(columnTransform<true>(ends, q, row, rows.roots).re);
   T sequence[kLongestByRows];

@@ -89,20 +89,21 @@ template <class T> void spectrumToCosines(const T* z, T* y, size_t n, const T* t
     const Lanes<T, L> d;
     const transform::Interleaved<const T, false> from{z};
     const T* at = table;
-    inVectors<L>(turns(n), [&](size_t i) __attribute__((always_inline)) {
-      const size_t k = i + 1;
-      const Complex<V> a = from.template getInOrder<L>(k);
-      const Complex<V> b = conjugate(mirrored(from.template getInOrder<L>(h - k - L + 1)));
-      const Complex<V> p = product(sum(a, b), group<L>(at));
-      const Complex<V> q = product(difference(a, b), group<L>(at + 2 * L));
-      at += 4 * L;
-      const Complex<V> s = sum(p, q);
-      const Complex<V> off = difference(p, q);
-      store(s.re, d, y + k);
-      store(reversed(hn::Neg(s.im)), d, y + n - k - L + 1);
-      store(reversed((off.re - off.im) * same<V>(kHalf)), d, y + h - k - L + 1);
-      store((off.re + off.im) * same<V>(kHalf), d, y + h + k);
-    });
+    inVectors<L>(
+        turns(n), [&](size_t i) __attribute__((always_inline)) {
+          const size_t k = i + 1;
+          const Complex<V> a = from.template getInOrder<L>(k);
+          const Complex<V> b = conjugate(mirrored(from.template getInOrder<L>(h - k - L + 1)));
+          const Complex<V> p = product(sum(a, b), group<L>(at));
+          const Complex<V> q = product(difference(a, b), group<L>(at + 2 * L));
+          at += 4 * L;
+          const Complex<V> s = sum(p, q);
+          const Complex<V> off = difference(p, q);
+          store(s.re, d, y + k);
+          store(reversed(hn::Neg(s.im)), d, y + n - k - L + 1);
+          store(reversed((off.re - off.im) * same<V>(kHalf)), d, y + h - k - L + 1);
+          store((off.re + off.im) * same<V>(kHalf), d, y + h + k);
+        });
   });
 }
 
@@ -118,18 +119,19 @@ template <class T> void cosinesToSpectrum(const T* y, T* z, size_t n, const T* t
     const Lanes<T, L> d;
     const transform::Interleaved<T, false> to{z};
     const T* at = table;
-    inVectors<L>(turns(n), [&](size_t i) __attribute__((always_inline)) {
-      const size_t k = i + 1;
-      const Complex<V> s{load(d, y + k), hn::Neg(reversed(load(d, y + n - k - L + 1)))};
-      const V before = reversed(load(d, y + h - k - L + 1)) * same<V>(kHalf);
-      const V after = load(d, y + h + k) * same<V>(kHalf);
-      const Complex<V> off{before + after, after - before};
-      const Complex<V> p = productWithConjugate(sum(s, off), group<L>(at));
-      const Complex<V> q = productWithConjugate(difference(s, off), group<L>(at + 2 * L));
-      at += 4 * L;
-      to.template putInOrder<L>(sum(p, q), k);
-      to.template putInOrder<L>(mirrored(conjugate(difference(p, q))), h - k - L + 1);
-    });
+    inVectors<L>(
+        turns(n), [&](size_t i) __attribute__((always_inline)) {
+          const size_t k = i + 1;
+          const Complex<V> s{load(d, y + k), hn::Neg(reversed(load(d, y + n - k - L + 1)))};
+          const V before = reversed(load(d, y + h - k - L + 1)) * same<V>(kHalf);
+          const V after = load(d, y + h + k) * same<V>(kHalf);
+          const Complex<V> off{before + after, after - before};
+          const Complex<V> p = productWithConjugate(sum(s, off), group<L>(at));
+          const Complex<V> q = productWithConjugate(difference(s, off), group<L>(at + 2 * L));
+          at += 4 * L;
+          to.template putInOrder<L>(sum(p, q), k);
+          to.template putInOrder<L>(mirrored(conjugate(difference(p, q))), h - k - L + 1);
+        });
   });
 }
 

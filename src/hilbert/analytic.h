@@ -40,9 +40,8 @@ template <int N> alignas(64) inline constexpr Matrix<N> kMatrix;
 template <int N> void byMatrix(const Qvx32f* x, Qvx32f* h) {
   using M = Matrix<N>;
   const auto sums = transform::combined<N, 1, M::L>(x, kMatrix<N>.row);
-  unrolled<M::kVectors>([&](auto w) __attribute__((always_inline)) {
-    transform::storeConstant<N - w * M::L>(sums[w], h + w * M::L);
-  });
+  unrolled<M::kVectors>([&](auto w)
+                            __attribute__((always_inline)) { transform::storeConstant<N - w * M::L>(sums[w], h + w * M::L); });
 }
 using Kernel = void (*)(const Qvx32f*, Qvx32f*);
 // By length.

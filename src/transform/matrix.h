@@ -35,7 +35,8 @@ template <class T, int n> struct RowShape {
 };
 
 // The sum of src[i * kStep] * rows[i * kStep], i < kCount, in kVectors vectors.
-template <size_t kCount, size_t kStep, size_t L, class T, size_t kRow> QVX_INLINE auto combined(const T* src, const T (*rows)[kRow]) {
+template <size_t kCount, size_t kStep, size_t L, class T, size_t kRow>
+QVX_INLINE auto combined(const T* src, const T (*rows)[kRow]) {
   constexpr size_t W = kRow / L;
   constexpr size_t kChains = std::min<size_t>(kCount, W == 1 ? 4 : W == 2 ? 2 : 1);  // sums that do not wait for one another
   const Lanes<T, L> d;
