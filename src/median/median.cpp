@@ -1,4 +1,5 @@
 // Median filters.
+#include "median/long_masks.h"
 #include "median/short_masks.h"
 #include "median/sorted_windows.h"
 
@@ -6,6 +7,9 @@ using namespace qvx;
 using namespace qvx::median;
 
 namespace {
+
+// The longest masks that sorted windows serve sooner, by a measurement.
+template <class T> inline constexpr size_t kLongestSorted = 301;
 
 template <class As, class T> QvxStatus filterInOrder(const T* src, T* dst, size_t len, size_t mask) {
   using Lane = typename As::Lane;
@@ -32,6 +36,12 @@ template <class T> QvxStatus filterMedian(const T* src, T* dst, int len, int mas
   if (mask == 1 || n <= 2) {
     if (src != dst) std::copy_n(src, n, dst);
     return status;
+  }
+  if (mask > kLongestSorted<T>) {
+    QvxStatus done = qvxStatOk;
+    if constexpr (sizeof(T) == 1) done = filterByHistogram(src, dst, n, mask);
+    else done = filterByRanks(src, dst, n, mask);
+    return done == qvxStatOk ? status : done;
   }
   const bool isPlain = compareAsTheyAre(src, n);
   const QvxStatus done = isPlain ? filterInOrder<AsTheyAre<T>>(src, dst, n, mask) : filterInOrder<AsKey<T>>(src, dst, n, mask);
