@@ -1,5 +1,5 @@
-// Bands that are added up directly. Where all of an output's window lies in x, the kernel reads it there; the others read a copy that
-// continues x by zeros, on the stack.
+// Bands that are added up directly. Where all of an output's window lies in x, the kernel reads it there; the others read a copy
+// that continues x by zeros, on the stack.
 #pragma once
 
 #include "convolution/elements.h"
@@ -38,8 +38,8 @@ template <class C> void copyPadded(const C* x, size_t length, int64_t at, size_t
 inline constexpr size_t kWorthTrimming = 64;
 
 #if QVXS_AVX512
-// The convolution of a vector that fits a register and one that leaves no more than two for the results: each tap multiplies the first,
-// moved on by as many lanes. 8 x 8 floats take 6 ns, 47 through memory.
+// The convolution of a vector that fits a register and one that leaves no more than two for the results: each tap multiplies the
+// first, moved on by as many lanes. 8 x 8 floats take 6 ns, 47 through memory.
 template <class T> void convolveInRegisters(const T* a, size_t aLen, const T* b, size_t bLen, T* y) {
   constexpr size_t N = kVectorElements<T>;
   constexpr Lanes<T, N> d;
@@ -95,7 +95,8 @@ template <class C> void sumsByPieces(const Band<C>& band, int64_t from, size_t o
       taps = work.taps;
     }
     const C* window = band.x + (from + at);
-    const bool isInside = from + at >= 0 && from + next + static_cast<int64_t>(std::max(outputs, kVectorElements<C>)) - 1 <= length;
+    const bool isInside =
+        from + at >= 0 && from + next + static_cast<int64_t>(std::max(outputs, kVectorElements<C>)) - 1 <= length;
     if (!isInside) {
       copyPadded(band.x, band.length, from + at, some + outputs - 1, work.window);
       window = work.window;

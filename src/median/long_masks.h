@@ -1,5 +1,6 @@
-// Medians of long masks, at a cost that the mask hardly changes: of bytes from a histogram of the window, of others from the ranks of all
-// elements in a stretch of the source. A window is a set of ranks then, a bit each, and its median moves from one set bit to another.
+// Medians of long masks, at a cost that the mask hardly changes: of bytes from a histogram of the window, of others from the
+// ranks of all elements in a stretch of the source. A window is a set of ranks then, a bit each, and its median moves from one
+// set bit to another.
 #pragma once
 
 #include "frame/record.h"

@@ -8,9 +8,9 @@ using namespace qvx::median;
 
 namespace {
 
-// The longest masks that sorted windows serve sooner than what long masks have, as the elements are wide and the vectors AVX-512's: other
-// vectors hold fewer windows.
-constexpr size_t kLongestInLanes[] = {0, 63, 255, 0, 155, 0, 0, 0, 301};
+// The longest masks that sorted windows serve sooner than what long masks have, as the elements are wide and the vectors
+// AVX-512's: other vectors hold fewer windows.
+constexpr size_t kLongestInLanes[] = {0, 127, 255, 0, 155, 0, 0, 0, 301};
 template <class T> inline constexpr size_t kLongestSorted = kLongestInLanes[sizeof(T)] * kVectorBytes / 64;
 
 template <class T> QvxStatus filterLong(const T* src, T* dst, size_t len, size_t mask) {

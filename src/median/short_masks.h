@@ -1,5 +1,6 @@
-// Medians of 3 to 9 elements, by networks on neighbouring outputs at a time. What windows have in common is ordered once: pairs of
-// neighbours for a mask of 5, runs of three for 7 and 9. That leaves 8, 16 and 18 minima and maxima an output, of 10, 22 and 30.
+// Medians of 3 to 9 elements, by networks on neighbouring outputs at a time. What windows have in common is ordered once: pairs
+// of neighbours for a mask of 5, runs of three for 7 and 9. That leaves 8, 16 and 18 minima and maxima an output, of 10, 22
+// and 30.
 //
 // Blocks at the ends of the source are copied to the stack, and all of them if the filter works in place.
 #pragma once
