@@ -37,6 +37,9 @@ void fftRecords(Suite& suite);
 void integerFft(Suite& suite);
 void spectrum(Suite& suite);
 void fir(Suite& suite);
+void correlations(Suite& suite);
+void medians(Suite& suite);
+void sampling(Suite& suite);
 void iir(Suite& suite);
 void haar(Suite& suite);
 void goertzel(Suite& suite);
@@ -86,6 +89,9 @@ inline constexpr Family kFamilies[] = {
     {"fft_integer", integerFft},
     {"spectrum", spectrum},
     {"fir", fir},
+    {"correlation", correlations},
+    {"median", medians},
+    {"sample", sampling},
     {"iir", iir},
     {"haar", haar},
     {"goertzel", goertzel},

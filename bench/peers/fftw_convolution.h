@@ -1,5 +1,5 @@
-// Convolution through FFTW, by overlap-save where that is faster: its plans are measured, and the length of its blocks too, before anything
-// is timed.
+// Convolution through FFTW, by overlap-save where that is faster: its plans are measured, and the length of its blocks too,
+// before anything is timed.
 #pragma once
 
 #include <fftw3.h>

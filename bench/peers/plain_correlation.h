@@ -13,7 +13,8 @@ template <class T> void convolve(const T* __restrict a, int aLen, const T* __res
   }
 }
 
-template <class T> void correlate(const T* __restrict a, int aLen, const T* __restrict b, int bLen, T* __restrict y, int lags, int low) {
+template <class T>
+void correlate(const T* __restrict a, int aLen, const T* __restrict b, int bLen, T* __restrict y, int lags, int low) {
   for (int n = 0; n < lags; ++n) {
     T sum{};
     const int lag = n + low;
