@@ -42,6 +42,9 @@ void cosines(Suite& suite);
 void analytic(Suite& suite);
 void fir(Suite& suite);
 void multirate(Suite& suite);
+void correlations(Suite& suite);
+void medians(Suite& suite);
+void sampling(Suite& suite);
 void iir(Suite& suite);
 void lms(Suite& suite);
 void haar(Suite& suite);
@@ -98,6 +101,9 @@ inline constexpr Family kFamilies[] = {
     {"hilbert", analytic},
     {"fir", fir},
     {"multirate", multirate},
+    {"correlation", correlations},
+    {"median", medians},
+    {"sample", sampling},
     {"iir", iir},
     {"lms", lms},
     {"haar", haar},

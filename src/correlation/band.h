@@ -16,7 +16,7 @@ template <class C> struct Band {
   const C* x;
   size_t length;
   const C* taps;
-  size_t count;  // of taps
+  size_t count;     // of taps
   bool isReversed;  // the last tap first; real ones only
   int64_t from;
   size_t outputs;
@@ -25,7 +25,8 @@ template <class C> struct Band {
   bool isOfItself() const { return x == taps && length == count && from == 0 && !isReversed; }
 };
 
-// The band without the outputs at either end whose windows do not meet x, which become zeros; y is moved to the first that is left.
+// The band without the outputs at either end whose windows do not meet x, which become zeros; y is moved to the first that is
+// left.
 template <class C> Band<C> meeting(Band<C> band, C*& y) {
   const auto outputs = static_cast<int64_t>(band.outputs);
   const int64_t first = std::clamp<int64_t>(1 - static_cast<int64_t>(band.count) - band.from, 0, outputs);

@@ -1,5 +1,5 @@
 // Linear convolution, whole and in part.
-#include "correlation/band.h"
+#include "correlation/direct.h"
 #include "correlation/doubles.h"
 
 using namespace qvx;
@@ -30,6 +30,14 @@ QvxStatus checkOperands(const void* a, int aLen, const void* b, int bLen, const 
 
 template <class C> QvxStatus checkedConvolve(const C* a, int aLen, const C* b, int bLen, C* y) {
   const QvxStatus status = checkOperands(a, aLen, b, bLen, y);
+#if QVXS_AVX512
+  constexpr int kMost = kVectorElements<C>;
+  if (status == qvxStatOk && aLen <= kMost && bLen <= kMost) {
+    if (aLen >= bLen) convolveInRegisters(a, elements(aLen), b, elements(bLen), y);
+    else convolveInRegisters(b, elements(bLen), a, elements(aLen), y);
+    return qvxStatOk;
+  }
+#endif
   return status == qvxStatOk ? convolve(a, elements(aLen), b, elements(bLen), y) : status;
 }
 

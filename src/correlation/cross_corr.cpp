@@ -57,12 +57,12 @@ QvxStatus qvxsCrossCorr_32fc(const Qvx32fc* a, int aLen, const Qvx32fc* b, int b
 QvxStatus qvxsCrossCorr_64fc(const Qvx64fc* a, int aLen, const Qvx64fc* b, int bLen, Qvx64fc* y, int lags, int low) { return checkedCorrelate(a, aLen, b, bLen, y, lags, low); }
 // clang-format on
 
-QvxStatus qvxsCrossCorr_16s_Sfs(const Qvx16s* a, int aLen, const Qvx16s* b, int bLen, Qvx16s* y, int lags, int low, int scaleFactor) {
+QvxStatus qvxsCrossCorr_16s_Sfs(const Qvx16s* a, int aLen, const Qvx16s* b, int bLen, Qvx16s* y, int lags, int low,
+                                int scaleFactor) {
   const QvxStatus status = checkCall(a, aLen, b, bLen, y, lags);
   if (status != qvxStatOk) return status;
-  return inDoubles(a, elements(aLen), b, elements(bLen), elements(lags), y, scaleFactor, [=](auto... operands) {
-    return crossCorrelate(operands..., elements(lags), low, kDirectTo<Qvx32f>);
-  });
+  return inDoubles(a, elements(aLen), b, elements(bLen), elements(lags), y, scaleFactor,
+                   [=](auto... operands) { return crossCorrelate(operands..., elements(lags), low, kDirectTo<Qvx32f>); });
 }
 
 QvxStatus qvxsCrossCorr_16s64s(const Qvx16s* a, int aLen, const Qvx16s* b, int bLen, Qvx64s* y, int lags, int low) {

@@ -9,8 +9,8 @@ namespace qvx::correlation {
 // run(a, aLen, b, bLen, sums) gives `outputs` whole numbers, which are rounded to such if they come from a transform; then
 // finish(sums), which may make them others. b may be a.
 template <class Run, class Finish>
-QvxStatus inDoubles(const Qvx16s* a, size_t aLen, const Qvx16s* b, size_t bLen, size_t outputs, Qvx16s* y, int scaleFactor, Run run,
-                    Finish finish) {
+QvxStatus inDoubles(const Qvx16s* a, size_t aLen, const Qvx16s* b, size_t bLen, size_t outputs, Qvx16s* y, int scaleFactor,
+                    Run run, Finish finish) {
   const bool isOne = a == b && aLen == bLen;
   const Block memory(static_cast<int64_t>((aLen + (isOne ? 0 : bLen) + outputs) * sizeof(Qvx64f)) + 3 * Carver::kLine);
   if (!memory) return qvxStatNoMem;
@@ -28,7 +28,8 @@ QvxStatus inDoubles(const Qvx16s* a, size_t aLen, const Qvx16s* b, size_t bLen, 
   return qvxStatOk;
 }
 template <class Run>
-QvxStatus inDoubles(const Qvx16s* a, size_t aLen, const Qvx16s* b, size_t bLen, size_t outputs, Qvx16s* y, int scaleFactor, Run run) {
+QvxStatus inDoubles(const Qvx16s* a, size_t aLen, const Qvx16s* b, size_t bLen, size_t outputs, Qvx16s* y, int scaleFactor,
+                    Run run) {
   return inDoubles(a, aLen, b, bLen, outputs, y, scaleFactor, run, [](Qvx64f*) {});
 }
 

@@ -1,5 +1,6 @@
-// Bands by way of the FFT. Either the taps have one spectrum, and x passes in blocks that overlap by the taps less one (overlap-save); or
-// there are fewer outputs than taps, and the taps pass in pieces, whose products with their windows of x are added up as spectra.
+// Bands by way of the FFT. Either the taps have one spectrum, and x passes in blocks that overlap by the taps less one
+// (overlap-save); or there are fewer outputs than taps, and the taps pass in pieces, whose products with their windows of x are
+// added up as spectra.
 #pragma once
 
 #include "convolution/elements.h"
@@ -97,7 +98,8 @@ template <class C> QvxStatus tapsSpectrum(const Spectra<C>& spectra, const Band<
 }
 
 // The spectrum of a whole transform's length of x.
-template <class C> QvxStatus windowSpectrum(const Spectra<C>& spectra, const Band<C>& band, int64_t at, C* out, size_t thread = 0) {
+template <class C>
+QvxStatus windowSpectrum(const Spectra<C>& spectra, const Band<C>& band, int64_t at, C* out, size_t thread = 0) {
   const auto length = static_cast<size_t>(spectra.length());
   if (at >= 0 && static_cast<size_t>(at) + length <= band.length) return spectra.forward(band.x + at, out, thread);
   const auto end = static_cast<int64_t>(length);

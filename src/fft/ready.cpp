@@ -1,6 +1,6 @@
 // Records whose tables are constants, computed by the compiler: 300 KB in all.
-#include "fft/record.h"
 #include "fft/ready.h"
+#include "fft/record.h"
 
 namespace qvx::fft {
 
@@ -127,7 +127,8 @@ template <class Record, int... kOrders> const Record* select(int order, std::int
 }  // namespace
 
 template <class Record> const Record* readySpec(int order) {
-  constexpr int kMost = requires(Record r) { r.plan.half; } ? kHighestReady : kHighestReady - 1;
+  constexpr int kMost = requires(Record r) { r.plan.half; }
+  ? kHighestReady : kHighestReady - 1;
   if (order < kLowestReady || order > kMost) return nullptr;
   return select<Record>(order, std::make_integer_sequence<int, kMost - kLowestReady + 1>());
 }

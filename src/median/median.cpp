@@ -1,4 +1,5 @@
 // Median filters.
+#include "median/long_masks.h"
 #include "median/short_masks.h"
 #include "median/sorted_windows.h"
 
@@ -7,19 +8,32 @@ using namespace qvx::median;
 
 namespace {
 
-template <class As, class T> QvxStatus filterInOrder(const T* src, T* dst, size_t len, size_t mask) {
-  using Lane = typename As::Lane;
+// The longest masks that sorted windows serve sooner than what long masks have, as the elements are wide and the vectors
+// AVX-512's: other vectors hold fewer windows.
+constexpr size_t kLongestInLanes[] = {0, 127, 255, 0, 155, 0, 0, 0, 301};
+template <class T> inline constexpr size_t kLongestSorted = kLongestInLanes[sizeof(T)] * kVectorBytes / 64;
+
+template <class T> QvxStatus filterLong(const T* src, T* dst, size_t len, size_t mask) {
+  if (mask <= kLongestSorted<T>) {
+    if (compareAsTheyAre(src, len)) return filterBySortedWindows<AsTheyAre<T>>(src, dst, len, mask);
+    return filterBySortedWindows<AsKey<T>>(src, dst, len, mask);
+  }
+  if constexpr (sizeof(T) == 1) return filterByHistogram(src, dst, len, mask);
+  else return filterByRanks(src, dst, len, mask);
+}
+
+template <class T> QvxStatus filterBy(const T* src, T* dst, size_t len, size_t mask) {
   switch (mask) {
     case 3:
-      return filterByNetwork<Median3<Lane>, As>(src, dst, len), qvxStatOk;
+      return filterByNetwork<Median3>(src, dst, len);
     case 5:
-      return filterByNetwork<Median5<Lane>, As>(src, dst, len), qvxStatOk;
+      return filterByNetwork<Median5>(src, dst, len);
     case 7:
-      return filterByNetwork<Median7<Lane>, As>(src, dst, len), qvxStatOk;
+      return filterByNetwork<Median7>(src, dst, len);
     case 9:
-      return filterByNetwork<Median9<Lane>, As>(src, dst, len), qvxStatOk;
+      return filterByNetwork<Median9>(src, dst, len);
     default:
-      return filterBySortedWindows<As>(src, dst, len, mask);
+      return filterLong(src, dst, len, mask);
   }
 }
 
@@ -33,8 +47,7 @@ template <class T> QvxStatus filterMedian(const T* src, T* dst, int len, int mas
     if (src != dst) std::copy_n(src, n, dst);
     return status;
   }
-  const bool isPlain = compareAsTheyAre(src, n);
-  const QvxStatus done = isPlain ? filterInOrder<AsTheyAre<T>>(src, dst, n, mask) : filterInOrder<AsKey<T>>(src, dst, n, mask);
+  const QvxStatus done = filterBy(src, dst, n, mask);
   return done == qvxStatOk ? status : done;
 }
 

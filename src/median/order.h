@@ -1,5 +1,6 @@
-// The order that medians are taken in, and the lanes that have it. Integers are compared as they are, and so are floats as long as none of
-// them is a NaN or -0.0, which comparisons of floats know no place for: vectors that have such are compared by their keys, as in a sort.
+// The order that medians are taken in, and the lanes that have it. Integers are compared as they are, and so are floats as long
+// as none of them is a NaN or -0.0, which comparisons of floats know no place for: vectors that have such are compared by their
+// keys, as in a sort.
 #pragma once
 
 #include "frame/reduce.h"
@@ -57,8 +58,8 @@ template <class V> void order(V& a, V& b) {
 }
 template <class V> V middle(V a, V b, V c) { return most(least(a, b), least(most(a, b), c)); }
 
-// A mask as it counts: odd, and no longer than reaches from every element to both ends. A longer one has more of the first and of the last
-// element in its window, as many of the one as of the other, and its median lies between the two.
+// A mask as it counts: odd, and no longer than reaches from every element to both ends. A longer one has more of the first and of
+// the last element in its window, as many of the one as of the other, and its median lies between the two.
 inline size_t effectiveMask(size_t maskSize, size_t len) { return std::min((maskSize - 1) / 2, len - 1) * 2 + 1; }
 
 }  // namespace qvx::median

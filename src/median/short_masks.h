@@ -1,7 +1,8 @@
-// Medians of 3 to 9 elements, by networks on neighbouring outputs at a time. What windows have in common is ordered once: pairs of
-// neighbours for a mask of 5, runs of three for 7 and 9. That leaves 8, 16 and 18 minima and maxima an output, of 10, 22 and 30.
+// Medians of 3 to 9 elements, by networks on neighbouring outputs at a time. What windows have in common is ordered once: pairs
+// of neighbours for a mask of 5, runs of three for 7 and 9. That leaves 8, 16 and 18 minima and maxima an output, of 10, 22
+// and 30.
 //
-// The source is copied to the stack block by block, because the filter may work in place.
+// Blocks at the ends of the source are copied to the stack, and all of them if the filter works in place.
 #pragma once
 
 #include "convolution/elements.h"
@@ -9,17 +10,20 @@
 
 namespace qvx::median {
 
-// The elements of a block: what it takes up of the stack is five times as much at most.
+// The elements of a block: its work on the stack is five times as much.
 template <class T> inline constexpr size_t kBlock = 2048 / sizeof(T);
 
-// One block as it lies on the stack: the window of its output n begins at x[n]. Runs are ordered from `runs` on.
+// Elements that a block has for an output each, and those that its vectors reach past them.
+template <class T> inline constexpr size_t kPast = 8 + 2 * kVectorBytes / sizeof(T);
+template <class T> inline constexpr size_t kRoom = kBlock<T> + kPast<T>;
+
+// One block: the window of its output n begins at x[n]. Runs of the same beginning are in order.
 template <class Lane> struct Runs {
   static constexpr size_t N = kVectorBytes / sizeof(Lane);
-  static constexpr size_t kRoom = kBlock<Lane> + 8 + 2 * N;
-  alignas(64) Lane x[kRoom];
-  alignas(64) Lane low[kRoom];
-  alignas(64) Lane mid[kRoom];
-  alignas(64) Lane high[kRoom];
+  const Lane* x;
+  alignas(64) Lane low[kRoom<Lane>];
+  alignas(64) Lane mid[kRoom<Lane>];
+  alignas(64) Lane high[kRoom<Lane>];
 
   static auto at(const Lane* p) { return load(Lanes<Lane, N>(), p); }
   static void put(Vec<Lanes<Lane, N>> v, Lane* p) { store(v, Lanes<Lane, N>(), p); }
@@ -86,38 +90,51 @@ template <class Lane> struct Median9 {
   }
 };
 
-// n elements as lanes, a vector or more of whatever after them.
-template <class As, class T> void toLanes(const T* src, size_t n, typename As::Lane* out) {
-  constexpr size_t N = kVectorBytes / sizeof(T);
-  constexpr Lanes<T, N> d;
-  size_t i = 0;
-  for (; i + N <= n; i += N) Runs<typename As::Lane>::put(As::lanes(load(d, src + i)), out + i);
-  if (i < n) Runs<typename As::Lane>::put(As::lanes(loadFirst(d, src + i, n - i)), out + i);
-}
-
-template <class Network, class As, class T> [[gnu::noinline]] void filterByNetwork(const T* src, T* dst, size_t len) {
+// The n outputs whose windows begin at x, which goes on past the last of them.
+template <template <class> class Network, class As, class T> void filterBlock(const T* x, T* dst, size_t n) {
   using Lane = typename As::Lane;
   using R = Runs<Lane>;
   constexpr size_t N = R::N;
-  constexpr size_t kReach = Network::kMask / 2;
   constexpr Lanes<T, N> d;
   R runs;
-  const Lane last = As::lane(src[len - 1]);
-  std::fill_n(runs.x, kReach, As::lane(src[0]));
-  size_t known = std::min(kReach, len);  // of the source, in runs.x
-  toLanes<As>(src, known, runs.x + kReach);
-  std::fill_n(runs.x + kReach + known, kReach - known, last);
+  if constexpr (std::is_same_v<Lane, T>) {
+    runs.x = x;
+    Network<Lane>::prepare(runs, n);
+    size_t i = 0;
+    for (; i + N <= n; i += N) store(Network<Lane>::of(runs, i), d, dst + i);
+    if (i < n) storeFirst(Network<Lane>::of(runs, i), d, dst + i, n - i);
+  } else {
+    alignas(64) Lane keys[kRoom<T>];
+    for (size_t i = 0; i < n + 8; i += N) R::put(As::lanes(load(d, x + i)), keys + i);
+    filterBlock<Network, AsTheyAre<Lane>>(keys, keys, n);
+    for (size_t i = 0; i < n; ++i) dst[i] = As::element(keys[i]);
+  }
+}
+
+template <template <class> class Network, class T> [[gnu::noinline]] QvxStatus filterByNetwork(const T* src, T* dst, size_t len) {
+  constexpr size_t kReach = Network<T>::kMask / 2;
+  alignas(64) T copy[kRoom<T>];
+  T before[2 * kReach];  // what the windows of a block begin with
+  std::fill_n(before, kReach, src[0]);
+  for (size_t i = 0; i < kReach; ++i) before[kReach + i] = src[std::min(i, len - 1)];
+  const T last = src[len - 1];
   for (size_t at = 0; at < len; at += kBlock<T>) {
     const size_t n = std::min(kBlock<T>, len - at);
-    const size_t fresh = std::min(n, len - std::min(len, at + kReach));
-    toLanes<As>(src + at + kReach, fresh, runs.x + 2 * kReach);
-    for (size_t i = fresh; i < n; ++i) runs.x[2 * kReach + i] = last;
-    Network::prepare(runs, n);
-    size_t i = 0;
-    for (; i + N <= n; i += N) store(As::elements(Network::of(runs, i)), d, dst + at + i);
-    if (i < n) storeFirst(As::elements(Network::of(runs, i)), d, dst + at + i, n - i);
-    std::copy_n(runs.x + n, 2 * kReach, runs.x);
+    const bool isInside = at >= kReach && at + n + kReach + kPast<T> <= len;
+    const T* x = src + at - kReach;
+    if (src == dst || !isInside) {
+      const size_t from = std::min(len, at + kReach);
+      const size_t fresh = std::min(n, len - from);
+      std::copy_n(before, 2 * kReach, copy);
+      std::copy_n(src + from, fresh, copy + 2 * kReach);
+      std::fill(copy + 2 * kReach + fresh, copy + n + kPast<T>, last);
+      x = copy;
+    }
+    std::copy_n(x + n, 2 * kReach, before);
+    if (std::is_integral_v<T> || compareAsTheyAre(x, n + 2 * kReach)) filterBlock<Network, AsTheyAre<T>>(x, dst + at, n);
+    else filterBlock<Network, AsKey<T>>(x, dst + at, n);
   }
+  return qvxStatOk;
 }
 
 }  // namespace qvx::median

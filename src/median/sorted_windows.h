@@ -1,6 +1,6 @@
-// Medians of any mask, by sorted windows: as many stretches of the source as a register has lanes are filtered at a time, each lane with a
-// window of its own that stays in order. From one output to the next every place of the window takes what is left there without the
-// oldest element and with the new one: a comparison, a choice, a minimum and a maximum, whatever the data.
+// Medians of any mask, by sorted windows: as many stretches of the source as a register has lanes are filtered at a time, each
+// lane with a window of its own that stays in order. From one output to the next every place of the window takes what is left
+// there without the oldest element and with the new one: a comparison, a choice, a minimum and a maximum, whatever the data.
 #pragma once
 
 #include "frame/record.h"
@@ -20,13 +20,16 @@ template <class Lane> class SortedWindows {
     for (size_t i = 0; i < mask_; ++i) hn::Store(v, D(), places_ + i * N);
   }
   V median() const { return hn::Load(D(), places_ + mask_ / 2 * N); }
+  // mask_ is 3 at least.
   void replace(V old, V fresh) const {
-    V kept = hn::Load(D(), places_);
-    V before = fresh;  // what stands in the place before: nothing, for a start
-    for (size_t i = 0; i + 1 < mask_; ++i) {
-      const V next = hn::Load(D(), places_ + (i + 1) * N);
+    const auto place = [this](size_t i) { return hn::Load(D(), places_ + i * N); };
+    V kept = place(1);
+    V before = hn::IfThenElse(place(0) < old, place(0), kept);  // what is left of the place before
+    hn::Store(least(before, fresh), D(), places_);
+    for (size_t i = 1; i + 1 < mask_; ++i) {
+      const V next = place(i + 1);
       const V left = hn::IfThenElse(kept < old, kept, next);
-      hn::Store(i == 0 ? least(left, fresh) : most(before, least(left, fresh)), D(), places_ + i * N);
+      hn::Store(most(before, least(left, fresh)), D(), places_ + i * N);
       before = left;
       kept = next;
     }

@@ -1,4 +1,6 @@
 // Zeros between samples, and samples left out.
+#include <cstring>
+
 #include "frame/map.h"
 
 using namespace qvx;
@@ -12,15 +14,66 @@ QvxStatus checkSampling(const void* src, int srcLen, const void* dst, const int*
   return *phase < 0 || *phase >= factor ? qvxStatBadSamplePhase : qvxStatOk;
 }
 
+// Elements as integers of their size, where there are such; those of 16 bytes are vectors in themselves.
+template <class T> inline constexpr bool kIsWord = sizeof(T) <= 8;
+template <class T> using Word = hwy::UnsignedFromSize<sizeof(T)>;
+template <class T> Word<T>* words(T* p) { return reinterpret_cast<Word<T>*>(p); }
+template <class T> const Word<T>* words(const T* p) { return reinterpret_cast<const Word<T>*>(p); }
+
+// A zero before or after each sample; returns how many samples are done, as many as fill vectors.
+template <class W> size_t spreadByTwo(const W* src, size_t n, W* dst, bool isAfterZero) {
+  constexpr size_t N = kVectorBytes / sizeof(W);
+  constexpr Lanes<W, N> d;
+  const auto zero = hn::Zero(d);
+  size_t i = 0;
+  for (; i + N <= n; i += N) {
+    const auto v = load(d, src + i);
+    const auto both = isAfterZero ? interleaved(Pair<Vec<decltype(d)>>{zero, v}) : interleaved(Pair<Vec<decltype(d)>>{v, zero});
+    store(both.lo, d, dst + 2 * i);
+    store(both.hi, d, dst + 2 * i + N);
+  }
+  return i;
+}
+
+// Every second sample; of n, those that fill vectors.
+template <class W> size_t everySecond(const W* src, size_t n, W* dst) {
+  constexpr size_t N = kVectorBytes / sizeof(W);
+  constexpr Lanes<W, N> d;
+  size_t i = 0;
+  for (; 2 * (i + N) <= n; i += N) store(hn::ConcatEven(d, load(d, src + 2 * i + N), load(d, src + 2 * i)), d, dst + i);
+  return i;
+}
+// Every fourth.
+template <class W> size_t everyFourth(const W* src, size_t n, W* dst) {
+  constexpr size_t N = kVectorBytes / sizeof(W);
+  constexpr Lanes<W, N> d;
+  const auto second = [&](const W* p) { return hn::ConcatEven(d, load(d, p + N), load(d, p)); };
+  size_t i = 0;
+  for (; 4 * (i + N) <= n; i += N) store(hn::ConcatEven(d, second(src + 4 * i + 2 * N), second(src + 4 * i)), d, dst + i);
+  return i;
+}
+
+// Results that are zeroed at a time, to be in the nearest cache when the samples come.
+constexpr size_t kSlice = 16384;
+
 template <class T> QvxStatus sampleUp(const T* src, int srcLen, T* dst, int* dstLen, int factor, const int* phase) {
   const QvxStatus status = checkSampling(src, srcLen, dst, dstLen, factor, phase);
   if (status != qvxStatOk) return status;
   const size_t apart = elements(factor);
   const size_t first = elements(*phase);
+  const size_t n = elements(srcLen);
   *dstLen = static_cast<int>(static_cast<uint32_t>(srcLen) * static_cast<uint32_t>(factor));
-  for (size_t i = 0; i < elements(srcLen); ++i, dst += apart) {
-    std::fill_n(dst, apart, T{});
-    dst[first] = src[i];
+  if (apart == 1) return std::copy_n(src, n, dst), qvxStatOk;
+  size_t at = 0;
+  if constexpr (kIsWord<T>) {
+    if (apart == 2) at = spreadByTwo(words(src), n, words(dst), first != 0);
+  }
+  const size_t slice = std::max<size_t>(1, kSlice / sizeof(T) / apart);
+  for (size_t some; at < n; at += some) {
+    some = std::min(slice, n - at);
+    T* const to = dst + at * apart;
+    std::memset(static_cast<void*>(to), 0, some * apart * sizeof(T));
+    for (size_t i = 0; i < some; ++i) to[i * apart + first] = src[at + i];
   }
   return qvxStatOk;
 }
@@ -29,12 +82,22 @@ template <class T> QvxStatus sampleDown(const T* src, int srcLen, T* dst, int* d
   const QvxStatus status = checkSampling(src, srcLen, dst, dstLen, factor, phase);
   if (status != qvxStatOk) return status;
   const size_t apart = elements(factor);
-  const size_t length = elements(srcLen);
-  size_t at = elements(*phase);
-  size_t count = 0;
-  for (; at < length; at += apart) dst[count++] = src[at];
+  const size_t first = elements(*phase);
+  const size_t n = elements(srcLen);
+  if (apart == 1) {
+    *dstLen = srcLen;
+    return std::copy_n(src, n, dst), qvxStatOk;
+  }
+  const size_t count = (n + apart - 1 - first) / apart;
   *dstLen = static_cast<int>(count);
-  *phase = static_cast<int>(at - length);
+  *phase = static_cast<int>(first + count * apart - n);
+  src += first;
+  size_t i = 0;
+  if constexpr (kIsWord<T>) {
+    if (apart == 2 && n > first) i = everySecond(words(src), n - first, words(dst));
+    if (apart == 4 && n > first) i = everyFourth(words(src), n - first, words(dst));
+  }
+  for (; i < count; ++i) dst[i] = src[i * apart];
   return qvxStatOk;
 }
 

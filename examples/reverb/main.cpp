@@ -1,0 +1,74 @@
+// reverb: a recording in a room, whose response is a file or noise that dies away, and the room's decay.
+#include <CLI/CLI.hpp>
+#include <cmath>
+#include <cstdio>
+
+#include "../support/program.h"
+#include "room.h"
+
+namespace {
+
+struct Options {
+  std::string file;
+  std::string output;
+  std::string response;
+  double seconds = 1.2;
+  double wet = -9;
+};
+
+void declare(CLI::App& app, Options& options) {
+  app.add_option("file", options.file, "The recording")->required()->check(CLI::ExistingFile);
+  app.add_option("-o,--output", options.output, "The 16-bit WAV file to write")->required();
+  auto* response = app.add_option("-r,--response", options.response, "The room's impulse response, a recording");
+  response->check(CLI::ExistingFile);
+  app.add_option("-s,--seconds", options.seconds, "Without one: how long the room takes to lose 60 dB")
+      ->check(CLI::Range(0.01, 20.0))
+      ->excludes(response)
+      ->capture_default_str();
+  app.add_option("-w,--wet", options.wet, "The level of the room beside the recording, in dB")->capture_default_str();
+}
+
+void printDecay(const std::vector<Qvx32f>& response, int sampleRate) {
+  constexpr int kTimes = 10;
+  const std::vector<double> levels = decayOf(response, kTimes);
+  std::printf("%10s %10s\n", "seconds", "dB");
+  for (int i = 0; i < kTimes; ++i) {
+    const double seconds = static_cast<double>(response.size()) * i / kTimes / sampleRate;
+    std::printf("%10.3f %10.1f %s\n", seconds, levels[static_cast<size_t>(i)],
+                std::string(static_cast<size_t>(std::max(0.0, 60 + levels[static_cast<size_t>(i)])), '*').c_str());
+  }
+}
+
+int run(int argc, char** argv) {
+  CLI::App app("Plays a recording in a room: adds its convolution with the room's impulse response, block by block.");
+  Options options;
+  declare(app, options);
+  CLI11_PARSE(app, argc, argv);
+  AudioReader reader(options.file);
+  const int rate = reader.sampleRate();
+  const std::vector<Qvx32f> response =
+      options.response.empty() ? decayingNoise(options.seconds, rate) : readResponse(options.response, rate);
+  std::vector<std::string> inputs = {options.file};
+  if (!options.response.empty()) inputs.push_back(options.response);
+  AudioWriter writer(options.output, SF_FORMAT_WAV | SF_FORMAT_PCM_16, reader.channels(), rate, inputs);
+
+  Room room(response, reader.channels());
+  const double wet = std::pow(10, options.wet / 20);
+  std::vector<Qvx16s> block(static_cast<size_t>(kBlockFrames * reader.channels()));
+  for (int frames; (frames = reader.read(block.data())) > 0;) {
+    room.play(block.data(), frames, wet);
+    writer.write(block.data(), frames);
+  }
+  for (int left = room.tail(); left > 0; left -= kBlockFrames) {  // what rings on after the recording
+    const int frames = std::min(left, kBlockFrames);
+    std::fill(block.begin(), block.end(), Qvx16s{0});
+    room.play(block.data(), frames, wet);
+    writer.write(block.data(), frames);
+  }
+  printDecay(response, rate);
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) { return runProgram("reverb", run, argc, argv); }
