@@ -13,7 +13,7 @@ inline eqlms_rrrf adaptive(int taps, float mu) {
 inline void reset(eqlms_rrrf filter) { eqlms_rrrf_reset(filter); }
 inline void run(eqlms_rrrf filter, const float* src, const float* ref, float* dst, int n) {
   for (int i = 0; i < n; ++i) {
-    eqlms_rrrf_push(filter, src[i]);
+    eqlms_rrrf_push_block(filter, const_cast<float*>(src) + i, 1);
     eqlms_rrrf_execute(filter, dst + i);
     eqlms_rrrf_step(filter, ref[i], dst[i]);
   }

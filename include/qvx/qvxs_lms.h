@@ -12,9 +12,10 @@ extern "C" {
  *   y = h[0] * x[n] + h[1] * x[n - 1] + ... + h[tapsLen - 1] * x[n - tapsLen + 1];
  *   e = (r - y) * 2 * mu;
  *   h[k] = h[k] + e * x[n - k], for all k.
- * Every output is that of the taps which the step before has left. Floats: y is summed in 32-bit floats in the order of each
- * variant; block and one-sample forms differ by that. 32f_16s: taps and arithmetic are 32f, samples are 16s; an output is y
- * rounded to nearest with ties to even, saturated, and the error is that of y before it is rounded.
+ * Every output is that of the taps which the step before has left. Sums are in 32-bit floats, in an order that differs between
+ * variants, and between one-sample forms, streams cut in one way and in another: by rounding. 32f_16s: taps and arithmetic are
+ * 32f, samples are 16s; an output is y rounded to nearest with ties to even, saturated, and the error is that of y before it is
+ * rounded.
  *
  * The delay line holds the last tapsLen samples around an index: the oldest stands at the index, the newest before it, tapsLen
  * counting as 0. A record serves one call at a time and must not be copied. */

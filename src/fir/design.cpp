@@ -22,6 +22,12 @@ Real cosineOf(Real f, int64_t halves) { return std::cos(kPi * turnsOf(f, halves)
 // The tap of the low-pass filter of cut-off f, `halves` / 2 from the middle.
 Real lowTap(Real f, int64_t halves) { return halves == 0 ? 2 * f : sineOf(f, halves) * 2 / (kPi * static_cast<Real>(halves)); }
 
+// That of `high` less that of `low`, as a product: nothing cancels in a narrow band.
+Real bandTap(Real low, Real high, int64_t halves) {
+  if (halves == 0) return 2 * (high - low);
+  return cosineOf((low + high) / 2, halves) * sineOf((high - low) / 2, halves) * 4 / (kPi * static_cast<Real>(halves));
+}
+
 void weigh(Qvx64f* taps, int n, int type) {
   if (type == kBartlett) qvxsWinBartlett_64f_I(taps, n);
   if (type == kBlackmanOpt) qvxsWinBlackmanOpt_64f_I(taps, n);
@@ -80,12 +86,12 @@ QvxStatus qvxsFIRGenBandpass_64f(Qvx64f low, Qvx64f high, Qvx64f* taps, int n, i
   if (isNull(taps)) return qvxStatNullPtr;
   if (n < 5 || !isInside(low) || !isInside(high) || low >= high) return qvxStatBadSize;
   return design(taps, n, window, normalise, (Real{low} + high) / 2, false,
-                [=](int64_t halves) { return lowTap(high, halves) - lowTap(low, halves); });
+                [=](int64_t halves) { return bandTap(low, high, halves); });
 }
 
 QvxStatus qvxsFIRGenBandstop_64f(Qvx64f low, Qvx64f high, Qvx64f* taps, int n, int window, int normalise) {
   if (isNull(taps)) return qvxStatNullPtr;
   if (n < 5 || !isInside(low) || !isInside(high) || low >= high) return qvxStatBadSize;
   return design(taps, n, window, normalise, 0, false,
-                [=](int64_t halves) { return (halves == 0 ? 1 : 0) + lowTap(low, halves) - lowTap(high, halves); });
+                [=](int64_t halves) { return (halves == 0 ? 1 : 0) - bandTap(low, high, halves); });
 }

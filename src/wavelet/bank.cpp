@@ -24,7 +24,7 @@ constexpr int64_t kPast = 2 * N;
 
 // evenAndOdd() keeps to blocks of 128 bits; this puts the lanes of its results in order.
 V inOrder(V v) {
-  const TagOf<V> d;
+  [[maybe_unused]] const TagOf<V> d;
 #if QVXS_AVX512
   alignas(64) static constexpr int32_t kOrder[16] = {0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15};
   return hn::TableLookupLanes(v, hn::SetTableIndices(d, kOrder));

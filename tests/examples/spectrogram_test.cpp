@@ -92,7 +92,7 @@ TEST_F(SpectrogramTest, RefusesWhatItCannotDo) {
                  {"bands nan.wav", "nan.wav: holds samples that are no finite numbers"},
                  {"tone none.wav", "none.wav: holds no samples"},
                  {"tone tone.wav --window 0", "0 not in range"},
-                 {"draw tone.wav -o tone.gif", "tone.gif: a picture's name ends with .png or .svg"},
+                 {"draw tone.wav -o tone.gif", "tone.gif: a picture is a .png or .svg file, or -"},
                  {"draw tone.wav -o no/folder.png", "no/folder.png: cannot be written"}},
                 false);
 }

@@ -56,9 +56,9 @@ Real weight(int window, int i, int n) {
 // What the windows promise.
 Real ulpsOf(int window) { return window == 0 ? 4 : window == 1 ? 512 : window == 2 || window == 3 ? 256 : 0; }
 
-const Filter kFilters[] = {{kLow, 0.1, 0},      {kLow, 0.25, 0},          {kLow, 0.4999, 0},  {kLow, 1e-5, 0},
-                           {kHigh, 0.1, 0},     {kHigh, 0.25, 0},         {kHigh, 0.3333, 0}, {kPass, 0.1, 0.2},
-                           {kPass, 0.01, 0.49}, {kPass, 0.25, 0.2500001}, {kStop, 0.1, 0.2},  {kStop, 0.001, 0.3}};
+const Filter kFilters[] = {{kLow, 0.1, 0},      {kLow, 0.25, 0},      {kLow, 0.4999, 0},  {kLow, 1e-5, 0},
+                           {kHigh, 0.1, 0},     {kHigh, 0.25, 0},     {kHigh, 0.3333, 0}, {kPass, 0.1, 0.2},
+                           {kPass, 0.01, 0.49}, {kPass, 0.25, 0.251}, {kStop, 0.1, 0.2},  {kStop, 0.001, 0.3}};
 
 TEST(FirDesign, TapsAreThoseOfTheDefinition) {
   for (const Filter& filter : kFilters) {

@@ -1,0 +1,100 @@
+// echo: cancels the echo of one recording in another, and makes such recordings.
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <stdexcept>
+
+#include "../support/audio.h"
+#include "../support/program.h"
+#include "canceller.h"
+
+namespace {
+
+constexpr size_t kMostFrames = size_t{1} << 27;  // 45 minutes at 48 kHz: all of them are in memory
+
+std::vector<float> firstChannel(AudioReader& in) {
+  const auto channels = static_cast<size_t>(in.channels());
+  std::vector<float> frames(kBlockFrames * channels), x;
+  for (int n; (n = in.read(frames.data())) > 0;) {
+    for (size_t i = 0; i < static_cast<size_t>(n); ++i) x.push_back(frames[i * channels]);
+    if (x.size() > kMostFrames) throw std::runtime_error(in.path() + ": is too long");
+  }
+  if (x.empty()) throw std::runtime_error(in.path() + ": has no samples");
+  return x;
+}
+
+void write(const std::vector<float>& x, const std::string& path, int sampleRate, const std::vector<std::string>& inputs) {
+  AudioWriter out(path, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1, sampleRate, inputs);
+  std::vector<Qvx16s> samples(kBlockFrames);
+  for (size_t at = 0; at < x.size(); at += kBlockFrames) {
+    const int n = static_cast<int>(std::min<size_t>(kBlockFrames, x.size() - at));
+    check(qvxsConvert_32f16s_Sfs(x.data() + at, samples.data(), n, qvxRoundNearestEven, -15));
+    out.write(samples.data(), n);
+  }
+}
+
+struct Options {
+  std::string played, recording, output, picture;
+  double stretch = 0.25;
+  Room room;
+  Learning learning;
+};
+
+void make(const Options& options) {
+  AudioReader in(options.played);
+  write(recorded(firstChannel(in), options.room, in.sampleRate()), options.output, in.sampleRate(), {options.played});
+}
+
+void cancel(const Options& options) {
+  AudioReader played(options.played);
+  AudioReader recording(options.recording);
+  if (played.sampleRate() != recording.sampleRate()) throw std::runtime_error(options.recording + ": has another sample rate");
+  const std::vector<float> heard = firstChannel(recording);
+  std::vector<float> source = firstChannel(played);
+  source.resize(heard.size());
+  const std::vector<float> left = cancelled(source, heard, options.learning);
+  write(left, options.output, recording.sampleRate(), {options.played, options.recording});
+  const std::vector<Stretch> stretches = levels(heard, left, options.stretch, recording.sampleRate());
+  std::printf("%8s %12s %10s %14s\n", "start s", "recorded dB", "left dB", "attenuation dB");
+  for (const Stretch& s : stretches) std::printf("%8.2f %12.1f %10.1f %14.1f\n", s.start, s.before, s.after, s.before - s.after);
+  if (!options.picture.empty()) plot(stretches, options.picture);
+}
+
+int run(int argc, char** argv) {
+  CLI::App app("Cancels the echo of what a loudspeaker played in what a microphone recorded.");
+  app.require_subcommand(1);
+  Options options;
+  CLI::App* maker = app.add_subcommand("make", "Writes what a microphone would record");
+  CLI::App* canceller = app.add_subcommand("cancel", "Writes a recording without its echo, prints the attenuation over time");
+  for (CLI::App* command : {maker, canceller}) {
+    command->add_option("played", options.played, "What the loudspeaker played; its first channel")
+        ->required()
+        ->check(CLI::ExistingFile);
+    command->add_option("-o,--output", options.output, "The 16-bit WAV file to write")->required();
+  }
+  maker->add_option("--delay", options.room.delay, "Seconds to the first reflection")
+      ->check(CLI::Range(0.0, 1.0))
+      ->capture_default_str();
+  maker->add_option("--level", options.room.level, "Its level, dB")->check(CLI::Range(-60.0, 0.0))->capture_default_str();
+  maker->add_option("--noise", options.room.noise, "Noise of the microphone, dB")
+      ->check(CLI::Range(-120.0, 0.0))
+      ->capture_default_str();
+  canceller->add_option("recording", options.recording, "What the microphone recorded")->required()->check(CLI::ExistingFile);
+  canceller->add_option("--taps", options.learning.taps, "Samples that an echo may last")
+      ->check(CLI::Range(1, 1 << 16))
+      ->capture_default_str();
+  canceller->add_option("--rate", options.learning.rate, "Of learning: quick at 0.5, accurate below")
+      ->check(CLI::Range(0.0, 1.0))
+      ->capture_default_str();
+  canceller->add_option("--stretch", options.stretch, "Seconds to a line")
+      ->check(CLI::Range(0.001, 3600.0))
+      ->capture_default_str();
+  canceller->add_option("-p,--plot", options.picture, "Draw the levels into this .png or .svg file");
+  CLI11_PARSE(app, argc, argv);
+  if (maker->parsed()) make(options);
+  else cancel(options);
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) { return runProgram("echo", run, argc, argv); }
