@@ -358,6 +358,22 @@ TEST(FilterBank, DelayLinesAreOldestFirst) {
   qvxsWTInvFree_32f(inverse);
 }
 
+// Bands of one length and offset whose pasts differ until calls have made them one.
+TEST(FilterBank, DelayLinesOfBandsAlikeMayDiffer) {
+  const Filter h = {1, 10};
+  auto* state = make(kForward, h, 0, h, 0);
+  float first = 5, second = 7, low, high;
+  const float x[] = {1, 2};
+  for (const auto& [wantedLow, wantedHigh] : {std::pair(51.0F, 71.0F), std::pair(21.0F, 21.0F)}) {
+    EXPECT_EQ(qvxsWTFwdSetDlyLine_32f(state, &first, &second), qvxStatOk);
+    EXPECT_EQ(qvxsWTFwd_32f(x, &low, &high, 1, state), qvxStatOk);
+    EXPECT_TRUE(low == wantedLow && high == wantedHigh) << low << ", " << high;
+    EXPECT_EQ(qvxsWTFwdGetDlyLine_32f(state, &first, &second), qvxStatOk);
+    EXPECT_TRUE(first == 2 && second == 2) << first << ", " << second;
+  }
+  qvxsWTFwdFree_32f(state);
+}
+
 // ---- records
 
 // Each way in which a record may be broken is found by each function, before anything else is looked at.
