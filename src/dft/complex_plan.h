@@ -245,7 +245,12 @@ template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, 
     plan.way = Way::kFft;
     return bytesOfFft<T>(n);
   }
-  if (n <= kMostSmall || (n <= kMostDirect && isPrime(n))) {
+  if (n <= kMostSmall) {  // in registers, with constants of the code
+    plan.way = Way::kDirect;
+    plan.direct.n = n;
+    return {0, 0};
+  }
+  if (n <= kMostDirect && isPrime(n)) {
     plan.way = Way::kDirect;
     return chooseDirect(plan.direct, n, false);
   }
@@ -271,7 +276,7 @@ template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* blo
       else makeFft<T>(plan.fft, Fft<T>::kInit, plan.n, flag, block);
       break;
     case Way::kDirect:
-      writeDirect(plan.direct, false, block);
+      if (plan.n > kMostSmall) writeDirect(plan.direct, false, block);
       break;
     case Way::kGrid:
       writeGrid(plan.grid, reinterpret_cast<T*>(block));
