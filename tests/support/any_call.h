@@ -81,12 +81,16 @@ class AnyCall : public Arguments {
   }
   size_t extentOf(size_t index) const { return extent(export_.parameters[index]); }
 
-  // What the call may write, as bytes, but for records and working memory.
+  // What the call may write, as bytes, but for records and working memory. All NaN are alike: the product of two is either.
   std::vector<uint8_t> results(const char* parameter = "") const {
     std::vector<uint8_t> all;
     for (const Vector& v : vectors_) {
-      if (v.role == Role::kDestination && v.parameter.find(parameter) != std::string::npos)
-        all.insert(all.end(), v.data(), v.data() + v.bytes);
+      if (v.role != Role::kDestination || v.parameter.find(parameter) == std::string::npos) continue;
+      const size_t from = all.size();
+      all.insert(all.end(), v.data(), v.data() + v.bytes);
+      for (size_t at = from; v.part.isFloat && at + v.part.bytes <= all.size(); at += v.part.bytes) {
+        if (std::isnan(v.part.get(&all[at]))) v.part.put(&all[at], NAN);
+      }
     }
     return all;
   }
