@@ -99,7 +99,7 @@ template <int64_t kBytes, class Run> [[gnu::noinline]] QvxStatus onStack(Run run
 }
 template <class Record, class Run> QvxStatus withRoom(const Record& spec, int64_t count, Run run) {
   constexpr int64_t kFew = 2048;
-  constexpr int64_t kMany = 16384;
+  constexpr int64_t kMany = 8192;
   const int64_t bytes = count * static_cast<int64_t>(sizeof(Qvx32f)) + spec.workSize + Carver::kLine;
   const auto in = [&](const Scratch& scratch) {
     if (scratch.isMissing(bytes)) return qvxStatNoMem;
