@@ -133,7 +133,9 @@ template <size_t R, size_t L, class T, class Src>
     else unrolled<R>([&](auto k) __attribute__((always_inline)) { x[k] = src.template getFirst<L>(p + k * m, wide); });
     anyDft(x);
     unrolled<R - 1>([&](auto j) __attribute__((always_inline)) { x[j + 1] = product(x[j + 1], group<L>(twiddles + j * 2 * L)); });
-    const bool isCut = !isPadded && (kHasMasks || isEnd);
+    // Whole vectors of the last row here end within the rows that follow it.
+    constexpr size_t kRow = (R + L - 1) / L * L;
+    const bool isCut = !isPadded && (kHasMasks || isEnd || (m - begin - L + 1) * R < kRow);
     storeRows<L, Src>(x, &Complex<V>::re, y.re + p * stride, stride, wide, isCut);
     storeRows<L, Src>(x, &Complex<V>::im, y.im + p * stride, stride, wide, isCut);
   }

@@ -8,6 +8,7 @@
 
 #include "reference/hilbert.h"
 #include "support/blocks.h"
+#include "support/ulp.h"
 #include "support/values.h"
 
 namespace {
@@ -36,7 +37,7 @@ struct Of16s16sc : Record<QvxsHilbertSpec_16s16sc> {
 
 // Of two transforms.
 long double allowedError(size_t n) {
-  const long double factor = tests::largestPrimeFactor(n) > 13 ? 1.2L : 0.6L;
+  const long double factor = (tests::largestPrimeFactor(n) > 13 ? 1.2L : 0.6L) * tests::unfused();
   return std::numeric_limits<float>::epsilon() * std::max(0.5L, factor * std::sqrt(std::log2(static_cast<long double>(n))));
 }
 

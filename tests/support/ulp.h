@@ -1,16 +1,20 @@
 // Errors in units of the last place, and the inputs over which they are measured.
 #pragma once
 
-#include <qvx/qvxdefs.h>
+#include <qvx/qvxs.h>
 
 #include <bit>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 #include <random>
+#include <string>
 #include <vector>
 
 namespace tests {
+
+// What a bound on an error gains on the variant without fused multiplications, where every product is rounded before it is added.
+inline long double unfused() { return std::string(qvxsGetLibVersion()->cpuTag, 2) == "u8" ? 1.1L : 1; }
 
 // A unit of T's last place at |v|: that of the subnormal numbers below the normal ones.
 template <class T> long double unitAt(long double v) {
