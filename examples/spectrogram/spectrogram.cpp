@@ -72,7 +72,8 @@ Bands bandsOf(Windows& windows, double seconds) {
   const double binHz = static_cast<double>(windows.sampleRate()) / windows.len();
   Bands bands;
   // Bands that hold a bin at least, and whose centre the sampling rate has.
-  for (double centre = 1000.0 / 64; centre < 0.5 * windows.sampleRate(); centre *= 2) {
+  for (int octave = -6; std::ldexp(1000, octave) < 0.5 * windows.sampleRate(); ++octave) {
+    const double centre = std::ldexp(1000, octave);
     if (centre * M_SQRT1_2 > binHz) bands.centres.push_back(centre);
   }
   std::vector<double> sums(bands.centres.size());
