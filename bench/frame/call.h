@@ -51,9 +51,9 @@ template <class R, class... P, Shape kShape> struct Signature<R (*)(P...), kShap
     using T = Parameter<I>;
     if constexpr (!kSource[I]) {
       // A second vector takes the slab of the third source; further results of a reduction lie a cache line after the first.
-      constexpr size_t kPastEnd = I - destinationAt();
-      if (kShape == Shape::kMap && kPastEnd > 0) return reinterpret_cast<T>(v.slabs.source(2)) + v.misaligned;
-      return reinterpret_cast<T>(v.slabs.destination() + 64 * kPastEnd) + v.misaligned;
+      constexpr size_t kFollowing = I - destinationAt();
+      if (kShape == Shape::kMap && kFollowing > 0) return reinterpret_cast<T>(v.slabs.source(2)) + v.misaligned;
+      return reinterpret_cast<T>(v.slabs.destination() + 64 * kFollowing) + v.misaligned;
     } else {
       const bool shared = v.overlap != 0 && sourcesBefore(I) == 0;
       std::byte* slab = shared ? v.slabs.destination() : v.slabs.source(sourcesBefore(I));

@@ -9,7 +9,7 @@ namespace bench {
 
 namespace {
 
-constexpr double kPastEnd = 0.95;
+constexpr double kClearlySlower = 0.95;
 
 std::string columns(const std::vector<int>& sizes) {
   std::string names = "| export | peer |";
@@ -30,7 +30,7 @@ void Report::head(const Context& context) {
 
 void Report::open(Table table) {
   const char* const title = table == Table::kAligned      ? "Vectors at 64-byte boundaries, data warm"
-                            : table == Table::kMisaligned ? "All vectors one element behind a 64-byte boundary"
+                            : table == Table::kMisaligned ? "All vectors one element after a 64-byte boundary"
                             : table == Table::kLarge      ? "Beyond the caches: 64 MB"
                             : table == Table::kStream     ? "Streams, block by block"
                             : table == Table::kTeam       ? "Two threads"
@@ -86,12 +86,12 @@ void Report::keep(const Case& c, size_t size, const Times& times) {
 }
 
 void Report::tail() const {
-  std::vector<Measurement> behind;
-  std::copy_if(measurements_.begin(), measurements_.end(), std::back_inserter(behind),
-               [](const Measurement& m) { return m.ratio() < kPastEnd; });
-  std::sort(behind.begin(), behind.end(), [](const Measurement& a, const Measurement& b) { return a.ratio() < b.ratio(); });
-  std::printf("\n## Behind a peer: %zu of %zu cells below %.2f\n\n", behind.size(), measurements_.size(), kPastEnd);
-  for (const Measurement& m : behind)
+  std::vector<Measurement> slower;
+  std::copy_if(measurements_.begin(), measurements_.end(), std::back_inserter(slower),
+               [](const Measurement& m) { return m.ratio() < kClearlySlower; });
+  std::sort(slower.begin(), slower.end(), [](const Measurement& a, const Measurement& b) { return a.ratio() < b.ratio(); });
+  std::printf("\n## Slower than a peer: %zu of %zu cells below %.2f\n\n", slower.size(), measurements_.size(), kClearlySlower);
+  for (const Measurement& m : slower)
     std::printf("- %.2f %s, n=%s, %s\n", m.ratio(), m.name.c_str(), lengthText(m.n).c_str(), m.peer.c_str());
   std::printf("\n## Geometric mean of the ratios\n\n");
   std::map<std::string, std::vector<double>> byPeer;
