@@ -3,6 +3,7 @@
 
 #include "convolution/elements.h"
 #include "frame/record.h"
+#include "frame/rounding.h"
 
 namespace qvx::correlation {
 
@@ -18,6 +19,7 @@ QvxStatus inDoubles(const Qvx16s* a, size_t aLen, const Qvx16s* b, size_t bLen, 
   auto* const first = carver.takeLines<Qvx64f>(static_cast<int64_t>(aLen));
   auto* const second = isOne ? first : carver.takeLines<Qvx64f>(static_cast<int64_t>(bLen));
   auto* const sums = carver.takeLines<Qvx64f>(static_cast<int64_t>(outputs));
+  const RoundingScope nearest(Rounding::kNearest);  // a transform's error would be rounded up to a whole unit
   convolution::toKernel(a, aLen, first);
   if (!isOne) convolution::toKernel(b, bLen, second);
   const QvxStatus status = run(first, aLen, second, bLen, sums);

@@ -133,6 +133,7 @@ template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_
         chirp[k] = static_cast<T>(re);
         chirp[n + k] = static_cast<T>(im);
       });
+  std::fill_n(chirp + 2 * size_t{n}, 2 * kWidest<T>, T(0));  // whole vectors read it, and raise nothing
   plan.chirp = chirp;
   plan.spectrum = spectrum;
   ConvolutionWork<T> points(plan, work);

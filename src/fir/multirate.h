@@ -9,6 +9,7 @@
 #include "convolution/transpose.h"
 #include "fir/contents.h"
 #include "fir/ratio.h"
+#include "frame/rounding.h"
 
 namespace qvx::fir {
 
@@ -84,7 +85,9 @@ inline int64_t multirateBytes(int64_t n, int64_t u, int64_t d, int64_t element) 
   const int64_t line = (n + u - 1) / u;
   const int64_t steps = (line + d - 1) / d;
   const int64_t block = 4 * d * (length / u / (4 * d) + 1) + 1 + d * ((4 - steps % 4) % 4);
-  const float share = static_cast<float>(n) / static_cast<float>(n + 3 * d);
+  const RoundingScope nearest(Rounding::kNearest);  // a size is one in every mode of the caller's
+  const float all = RoundingScope::pinned(static_cast<float>(n + 3 * d));
+  const float share = RoundingScope::pinned(static_cast<float>(n) / all);
   const bool isDense = u == 1 ? share > 0.5F : double{share} > 0.3;
   const int64_t table = isDense ? 176 + ((4 * u + 19) & ~15) : 160 + ((16 * u + 19) & ~15);
   return table + up<16>(element * n) + 4 * element * length + element * std::max((isDense ? 4 : 8) * length, int64_t{4096}) +

@@ -189,7 +189,7 @@ template <class T> class Direct {
   void carryOn(const Lane* x, const Lane* y, size_t n, Lane* d) const {
     for (size_t m = 0; m < order_; m += kElements) {
       V v = load(Wide(), d + (m + n) * kParts);
-      for (size_t i = 0; i < n; ++i) {
+      for (size_t i = m + n > order_ ? m + n - order_ : 0; i < n; ++i) {  // before it, all taps are zeros past the last one
         v = plusProduct(v, factors<kParts>(b_ + m + n - i), multiplied<kParts>(everywhere<kParts>(x + i * kParts)));
         v = plusProduct(v, factors<kParts>(a_ + m + n - i), multiplied<kParts>(everywhere<kParts>(y + i * kParts)));
       }
