@@ -9,6 +9,7 @@
 #include <cfenv>
 
 #include "support/any_call.h"
+#include "support/sanitizer.h"
 
 // The library's allocator, here in its place: it counts, gives blocks of garbage, and fails when it is told to.
 namespace {
@@ -367,7 +368,7 @@ TEST_F(EveryCall, LeavesTheControlWordAlone) {
 
 // Each call on a stack of its own, painted before: what it painted over, it used. Threads of audio programs have small stacks.
 TEST_F(EveryCall, NeedsLittleStack) {
-  if (QVXS_SANITIZED) GTEST_SKIP() << "sanitizers widen every frame, and lose track of such a stack";
+  if (tests::isSanitized()) GTEST_SKIP() << "sanitizers widen every frame, and lose track of such a stack";
   constexpr size_t kMost = 24 << 10;
   static constexpr uint8_t kPaint = 0xA5;
   static AnyCall* running;
@@ -395,7 +396,7 @@ TEST_F(EveryCall, NeedsLittleStack) {
 
 // What the library takes from others: no way to allocate but the core's, none to print, to stop the program, or to read files.
 TEST(Imports, AreFew) {
-  if (QVXS_SANITIZED) GTEST_SKIP() << "sanitizers import much";
+  if (tests::isSanitized()) GTEST_SKIP() << "sanitizers import much";
   const std::set<std::string> known = {
       "qvxMalloc",    "qvxFree",       "ownGetNumThreads", "ownRunParts",          "memcpy",         "memmove",
       "memset",       "sysconf",       "__gmon_start__",   "__gxx_personality_v0", "__cxa_finalize", "_Unwind_Resume",

@@ -11,6 +11,7 @@
 #include <set>
 
 #include "support/exports.h"
+#include "support/sanitizer.h"
 
 namespace {
 
@@ -55,7 +56,7 @@ TEST(Identity, DynamicSymbolsAreTheDeclaredExports) {
 
 // Relocations are done and locked when the library is loaded, and its stack does not execute.
 TEST(Identity, IsHardened) {
-  if (QVXS_SANITIZED) GTEST_SKIP() << "sanitizers come without";
+  if (tests::isSanitized()) GTEST_SKIP() << "sanitizers come without";
   const auto tells = [](const std::string& option, const char* what) {
     return std::system(("readelf -W " + option + " " + libraryPath() + " | grep -q '" + what + "'").c_str()) == 0;
   };

@@ -15,6 +15,8 @@
 #include <thread>
 #include <vector>
 
+#include "support/sanitizer.h"
+
 namespace {
 
 std::atomic<bool> refuseThreads{false};
@@ -22,17 +24,12 @@ std::atomic<int> threadsMade{0};
 
 }  // namespace
 
-#if QVXS_SANITIZED
-extern "C" int __interceptor_pthread_create(pthread_t*, const pthread_attr_t*, void* (*)(void*), void*);
-#endif
-
 extern "C" __attribute__((visibility("default"))) int pthread_create(pthread_t* thread, const pthread_attr_t* attributes,
                                                                      void* (*run)(void*), void* argument) {
-#if QVXS_SANITIZED  // whose own stands in for the C library's, and has to know of every thread
-  static const auto make = __interceptor_pthread_create;
-#else
-  static const auto make = reinterpret_cast<decltype(&pthread_create)>(dlsym(RTLD_NEXT, "pthread_create"));
-#endif
+  // A sanitizer's own stands in for the C library's, and has to know of every thread.
+  static void* const sanitizers = dlsym(RTLD_DEFAULT, "__interceptor_pthread_create");
+  static void* const next = sanitizers != nullptr ? sanitizers : dlsym(RTLD_NEXT, "pthread_create");
+  static const auto make = reinterpret_cast<decltype(&pthread_create)>(next);
   if (refuseThreads) return EAGAIN;
   ++threadsMade;
   return make(thread, attributes, run, argument);
@@ -65,7 +62,7 @@ class Process : public testing::Test {
 };
 
 TEST_F(Process, ForksBetweenCalls) {
-  if (QVXS_SANITIZED) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
+  if (tests::isSanitized()) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
   for (int i = 0; i < rounds(300); ++i) {
     ASSERT_TRUE(call());
     const pid_t child = fork();
@@ -102,7 +99,7 @@ TEST_F(Process, LoadsAndUnloads) {
 
 // In a child, where no call has made a thread yet.
 TEST_F(Process, WorksAloneWithoutThreads) {
-  if (QVXS_SANITIZED) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
+  if (tests::isSanitized()) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
   const pid_t child = fork();
   if (child == 0) {
     refuseThreads = true;
@@ -123,7 +120,7 @@ void* callOnSmallStack(void*) { return call() ? nullptr : &threadsMade; }
 TEST_F(Process, HasManyThreadsOfItsOwn) {
   pthread_attr_t small;
   ASSERT_EQ(pthread_attr_init(&small), 0);
-  ASSERT_EQ(pthread_attr_setstacksize(&small, QVXS_SANITIZED ? 1 << 20 : 64 << 10), 0);
+  ASSERT_EQ(pthread_attr_setstacksize(&small, tests::isSanitized() ? 1 << 20 : 64 << 10), 0);
   for (int i = 0; i < rounds(20); ++i) {
     pthread_t threads[64];
     for (pthread_t& thread : threads) ASSERT_EQ(pthread_create(&thread, &small, callOnSmallStack, nullptr), 0);
@@ -171,7 +168,7 @@ TEST_F(Process, CallsFromRealTimeThreads) {
 }
 
 TEST_F(Process, CallsFromOpenMPRegions) {
-  if (QVXS_SANITIZED) GTEST_SKIP() << "a runtime that is not instrumented";
+  if (tests::isSanitized()) GTEST_SKIP() << "a runtime that is not instrumented";
   int wrong = 0;
 #pragma omp parallel num_threads(4) reduction(+ : wrong)
   for (int i = 0; i < 50; ++i) wrong += !call();
