@@ -39,7 +39,7 @@ g711 snr --sine
 PICTURES = {
     "windows.svg": ("The spectra of the windows, by the signals example.", ("window", "index")),
     "response.svg": ("A Chebyshev low-pass filter of order 6, ripple 1 dB, by the parametric example.", ("iir", "index")),
-    "spectrum.svg": ("The tones of ten telephone keys, by the spectrum example.", ("goertzel", "fft")),
+    "spectrum.svg": ("The tones of ten telephone keys, by the spectrum example.", ("goertzel",)),
     "spectrogram.png": ("The same keys over time, by the spectrogram example.", ("dft", "index")),
     "echo.svg": ("An adaptive filter learns an echo, by the echo example.", ("lms",)),
 }

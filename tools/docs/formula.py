@@ -122,7 +122,8 @@ class Parser:
         if kind is None:
             raise NoFormula
         if value in ("-", "+"):
-            return self.signed()
+            self.take(value)
+            return f"<mo>{'−' if value == '-' else '+'}</mo>{self.power()}"
         if value == "(":
             self.take("(")
             inner = self.sum()

@@ -13,14 +13,14 @@ class Picture:
 
 STYLE = """<style>
 text { font: 14px system-ui, sans-serif; fill: #24292f; } .small { font-size: 12px; fill: #57606a; } .label { font-weight: 600; }
-.real { fill: #cfe3fb; } .imaginary { fill: #fde2c4; } .zero { fill: #ececec; } .edge { fill: #cdeccf; } rect { stroke: #8c959f; }
+.real { fill: #cfe3fb; } .imaginary { fill: #fde2c4; } .zero { fill: #ececec; } .edge { fill: #cdeccf; } rect { stroke: #8c959f; } .ground { fill: #fff; stroke: none; }
 .result { fill: #cdeccf; } .lost { fill: #f8cfcf; } path { fill: none; stroke: #57606a; }
 </style>"""
 
 
 def svg(width, height, body, label):
     return (f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width} {height}" width="{width}" height="{height}" role="img">'
-            f"<title>{label}</title>{STYLE}<rect width=\"{width}\" height=\"{height}\" fill=\"#fff\" stroke=\"none\"/>{body}</svg>\n")
+            f"<title>{label}</title>{STYLE}<rect class=\"ground\" width=\"{width}\" height=\"{height}\"/>{body}</svg>\n")
 
 
 def cell(x, y, width, kind, words):

@@ -15,6 +15,7 @@ from pathlib import Path
 
 import jinja2
 import markdown
+import markupsafe
 from pygments import highlight
 from pygments.formatters import HtmlFormatter
 from pygments.lexers import CLexer, CppLexer
@@ -41,9 +42,12 @@ class Site:
         self.tables = headers.read_traits(ROOT / "traits")
         self.docs = {path.stem: path for path in sorted((ROOT / "docs").glob("*.md"))}
         self.pictures = pictures.draw()
+        for family in self.families:
+            family.short = re.split(r": |, in ", family.title)[0]
         self.examples = examples.read(ROOT)
         self.templates = jinja2.Environment(loader=jinja2.FileSystemLoader(HERE / "templates"), autoescape=True, trim_blocks=True,
                                             lstrip_blocks=True)
+        self.templates.filters["power"] = lambda words: markupsafe.Markup(re.sub(r"\^(\w+)", r"<sup>\1</sup>", html.escape(words)))
         self.where = {}  # name of a function or status -> page#place
         for family in self.families:
             for block in family.documented:
@@ -71,7 +75,9 @@ class Site:
                 return f'<a href="{header[1]}.html"><code>{name}</code></a>'
             return f"<code>{name}</code>"
         # A stem may be written without its end: qvxsFFTFwd_, QVX_FFT_SCALE_.
-        return re.sub(r"\b(?:qvxs_\w+\.h|qvx[A-Zs]\w*|QVX_\w+|(?:8|16|32|64)(?:sc|fc|[usf])\w*)\b", link, html.escape(text, quote=False))
+        text = html.escape(text, quote=False)
+        text = re.sub(r"(?<![\w\[])(2|10|e)\^(?:\((-?\w+(?: ?[-+] ?\w+)?)\)|(-?\w+))", r"\1<sup>\2\3</sup>", text).replace("<sup>-", "<sup>−")
+        return re.sub(r"\b(?:qvxs_\w+\.h|qvx[A-Zs]\w*|QVX_\w+|(?:8|16|32|64)(?:sc|fc|[usf])\w*)\b", link, text)
 
     def prose(self, text):
         """Running text, its formulas set."""
@@ -112,10 +118,9 @@ class Site:
         return "\n".join(out)
 
     def returned(self, block):
-        """The statuses of a block's functions, in the order of their list."""
+        """The statuses of a block's functions that its text leaves to another block's."""
         found = {name for export in block.exports for name in headers.refusals(self.tables, export.name)}
-        found |= set(re.findall(r"qvx(?:Stat|Warn)\w+", block.text)) - {"qvxStatOk"}
-        return [status for status in self.statuses if status.name in found]
+        return [status for status in self.statuses if status.name in found and not re.search(rf"\b{status.name}\b", block.text)]
 
     def prototype(self, export):
         arguments = ", ".join(html.escape(re.sub(r"\* ", "*\u00a0", a)) for a in export.arguments) or "void"
@@ -143,6 +148,7 @@ class Site:
             stems = [stem for stem in block.stems if stem not in seen and not seen.add(stem)]
             used = list({example.name: example for stem in block.stems for example in near[stem]}.values())
             blocks.append({"block": block, "text": self.block(block), "anchors": stems, "statuses": self.returned(block), "examples": used,
+                           "named": [export.name for export in block.exports],
                            "prototypes": [(export.name, self.prototype(export)) for export in block.exports],
                            "summary": headers.summary(block.stems[0], [block]) if block.stems else ""})
         self.write(f"{family.name}.html", "family.html", title=family.title, family=family, blocks=blocks,
