@@ -1,0 +1,236 @@
+"""The public headers as data: families, blocks and exports, which the site and the manual pages are made of.
+
+A header is one family. Its first comment is the title, each `/** ... */` a block, which documents the QVXS_API lines up to the next
+comment. A plain comment that stands directly before such lines is a block too ("The same for complex samples"); any other one is a
+note, which holds for all blocks up to the next note. Text is kept as written; `parts` tells its paragraphs from its figures."""
+
+import re
+import textwrap
+from dataclasses import dataclass, field
+from pathlib import Path
+
+ELEMENT = r"(?:8|16|24|32|64)(?:sc|fc|[usf])"
+TOKEN = re.compile(
+    r"/\*(?P<comment>.*?)\*/"
+    r"|#define\s+(?P<constant>QVX_(?!QVXS_)\w+)\s+(?P<value>\d+)[ \t]*/\*(?P<meaning>.*?)\*/"
+    r"|QVXS_API\((?P<result>[^,]+),\s*(?P<name>\w+),\s*\((?P<arguments>[^()]*)\)\)"
+    r"|typedef\s+struct\s+(?P<record>\w+)\s+\w+;", re.S)
+
+
+@dataclass
+class Export:
+    name: str
+    result: str
+    arguments: list
+
+    @property
+    def stem(self):
+        """qvxsAdd_16s_Sfs, qvxsFIR32f_16s, qvxsFIRLMSOne_DirectQ15_16s: the name up to its types and forms."""
+        return re.match(rf"\w+?(?={ELEMENT}|_|$)", self.name)[0]
+
+    def prototype(self):
+        return f"{self.result} {self.name}({', '.join(self.arguments)});"
+
+
+@dataclass
+class Block:
+    text: str
+    family: "Family"
+    note: "Block | None" = None  # the note that holds for it
+    exports: list = field(default_factory=list)
+    constants: list = field(default_factory=list)  # (name, value, meaning)
+
+    @property
+    def stems(self):
+        return list(dict.fromkeys(export.stem for export in self.exports))
+
+    @property
+    def parts(self):
+        return parts(self.text)
+
+    @property
+    def leans(self):
+        """Whether it is told in words of the block before it."""
+        return re.match(r"(The same|Their?|Its|Both derivatives|That|As|One sample)\b", self.text) is not None
+
+
+@dataclass
+class Family:
+    name: str  # arith
+    title: str
+    blocks: list = field(default_factory=list)  # in order, notes among them: a note has no exports
+    records: list = field(default_factory=list)
+
+    @property
+    def documented(self):
+        return [block for block in self.blocks if block.exports]
+
+    @property
+    def stems(self):
+        return list(dict.fromkeys(stem for block in self.documented for stem in block.stems))
+
+    @property
+    def exports(self):
+        return [export for block in self.documented for export in block.exports]
+
+
+@dataclass
+class Status:
+    name: str
+    value: int
+    meaning: str
+
+
+def clean(comment):
+    """A comment without its stars, and without the blank that all its lines begin with."""
+    lines = [re.sub(r"^ ?\*", "", line).rstrip() for line in comment.lstrip("*").strip().split("\n")]
+    rest = [len(line) - len(line.lstrip()) for line in lines[1:] if line]
+    indent = min(rest, default=0)
+    return "\n".join([lines[0].strip()] + [line[indent:] for line in lines[1:]])
+
+
+def parts(text):
+    """The text cut into ("text", paragraph) and ("figure", lines): a figure is indented, or stands where columns are."""
+    result, lines = [], []
+
+    def flush(kind):
+        nonlocal lines
+        while lines and not lines[-1]:
+            lines.pop()
+        if lines:
+            if kind == "figure":
+                indent = min(len(line) - len(line.lstrip()) for line in lines if line)
+                result.append((kind, "\n".join(line[indent:] for line in lines)))
+            else:
+                result.append((kind, " ".join(line.strip() for line in lines)))
+        lines = []
+
+    kind = "text"
+    for line in text.split("\n"):
+        if not line:
+            if kind == "text":
+                flush(kind)
+            else:
+                lines.append(line)
+            continue
+        now = "figure" if line.startswith("  ") else "text"
+        # A line that begins with "name:" or "Returns" begins a paragraph of its own.
+        starts = now == "text" and re.match(r"[\w*\[\]]+(?:(?:, | and )[\w*\[\]]+)*(?: \([^)]*\))?: |Returns ", line)
+        if now != kind or starts:
+            flush(kind)
+        kind = now
+        lines.append(line)
+    flush(kind)
+    return result
+
+
+def arguments_of(text):
+    text = re.sub(r"\s+", " ", text.strip())
+    text = re.sub(r"\s*\*\s*", "*", text)
+    text = re.sub(r"\*(?=\w)", "* ", text)
+    return [] if text == "void" else text.split(", ")
+
+
+def read_family(path):
+    tokens = list(TOKEN.finditer(path.read_text()))
+    words = clean(tokens[0]["comment"])
+    title, _, rest = words.partition(". ")
+    family = Family(path.stem.removeprefix("qvxs_"), re.sub(r"\s+", " ", title).rstrip("."))
+    note = None
+    if rest:
+        note = Block(rest, family)
+        family.blocks.append(note)
+    block = None
+    for token, after in zip(tokens[1:], tokens[2:] + [None]):
+        if token["comment"] is not None:
+            if token["comment"].startswith("*"):
+                block = Block(clean(token["comment"]), family, note)
+                family.blocks.append(block)
+            elif after is not None and after["name"] and "\n" not in token["comment"]:
+                block = Block(clean(token["comment"]), family, note)
+                family.blocks.append(block)
+            elif "\n" in token["comment"] or "----" in token["comment"]:
+                note = block = Block(clean(token["comment"]), family)
+                family.blocks.append(note)
+        elif token["constant"]:
+            block.constants.append((token["constant"], int(token["value"]), token["meaning"].strip()))
+        elif token["record"]:
+            family.records.append(token["record"])
+        else:
+            result = re.sub(r"\s+", " ", token["result"].strip())
+            block.exports.append(Export(token["name"], result, arguments_of(token["arguments"])))
+    return family
+
+
+def read_families(include):
+    """The families in the order of the umbrella header."""
+    include = Path(include)
+    names = re.findall(r"#include <qvx/(qvxs_\w+\.h)>", (include / "qvxs.h").read_text())
+    return [read_family(include / name) for name in names]
+
+
+def read_statuses(include):
+    text = (Path(include) / "qvxdefs.h").read_text()
+    found = re.findall(r"^\s+(qvx(?:Stat|Warn)\w+) = (-?\d+),?\s*(?:/\* (.*?) \*/)?$", text, re.M)
+    return [Status(name, int(value), meaning or "done") for name, value, meaning in found]
+
+
+def summary(stem, blocks):
+    """What a stem does in a line."""
+    text = next((block for block in blocks if not block.leans), blocks[0]).text
+    sentence = re.split(r"(?<!\.)[.;](?: |$)", re.sub(r"\s+", " ", text))[0].strip().rstrip(".:").lstrip("*")
+    for cut in (r": ", r", (?:times|as|where|with|which|who|so that) "):
+        head = re.split(cut, sentence)[0]
+        if len(sentence) > 80 and len(head) > 24:
+            sentence = head
+    return textwrap.shorten(sentence, 110, placeholder=" ...") or stem
+
+
+# What refuses a call, from traits: only there is it told of each function by its name.
+
+def read_traits(folder):
+    """name without qvxs -> the statuses of its refusals."""
+    tables = []
+    for path in sorted(Path(folder).glob("*.traits")):
+        if path.stem == "parameters":
+            continue
+        rows = []
+        for line in path.read_text().split("\n"):
+            if not line.strip() or line.startswith("#"):
+                continue
+            if not line.startswith(" "):
+                rows.append((line.split(), []))
+            else:
+                rows[-1][1].append(line.split())
+        tables.append(rows)
+    return tables
+
+
+def refusals(tables, name):
+    short = name.removeprefix("qvxs")
+    for rows in tables:
+        for patterns, lines in rows:
+            if any(re.fullmatch(re.escape(p).replace(r"\*", ".*"), short) for p in patterns):
+                found = []
+                for line in lines:
+                    if line[0] == "allocates":
+                        found.append("qvxStatNoMem")
+                    if line[0] != "refuses":
+                        continue
+                    for rule in line[1:]:
+                        if rule.startswith("null"):
+                            found.append("qvxStatNullPtr")
+                        elif rule.startswith("foreign"):
+                            found.append("qvxStatContextMismatch")
+                        status = re.search(r":([A-Z]\w+)$", rule)
+                        if status and status[1] != "Ok":
+                            found.append("qvxStat" + status[1])
+                return found
+    return []
+
+
+def read_core(include):
+    """The functions of the core library: (name, prototype, text)."""
+    text = (Path(include) / "qvxcore.h").read_text()
+    found = re.findall(r"/\*\*(.*?)\*/\n([^;#]*?\b(\w+)\((?:[^;]*)\);)", text, re.S)
+    return [(name, re.sub(r"\s+", " ", prototype), re.sub(r"\s+", " ", clean(comment))) for comment, prototype, name in found]
