@@ -59,8 +59,7 @@ class [[nodiscard]] Status {
 };
 
 // A T or a refusal, with the names of std::expected<T, Status>, which GCC 12 and Clang 14 lack.
-template <class T>
-class [[nodiscard]] Result {
+template <class T> class [[nodiscard]] Result {
  public:
   Result(T&& value) : value_(std::move(value)) {}  // NOLINT(google-explicit-constructor)
   Result(Status status) : status_(status) {}       // NOLINT(google-explicit-constructor)
