@@ -100,8 +100,8 @@ concept Scaled = sizeof...(Scale) == (kIntegral<T> ? 1 : 0) && (std::is_converti
                  !(std::is_floating_point_v<Scale> || ...);
 
 // The record of a stem for taps and samples, which has one name where both are of one type.
-template <class Stem, class Tap, class T> struct FilterRecord : handles::RecordOf<Stem, Tap, T> {};
-template <class Stem, class T> struct FilterRecord<Stem, T, T> : handles::RecordOf<Stem, T> {};
+template <class Stem, class Tap, class T>
+using FilterRecord = std::conditional_t<std::is_same_v<Tap, T>, handles::RecordOf<Stem, T>, handles::RecordOf<Stem, Tap, T>>;
 
 template <class Record>
 concept Known = requires {
