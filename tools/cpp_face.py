@@ -1,0 +1,401 @@
+#!/usr/bin/env python3
+"""Writes the lists of the C++ face, include/qvx/qvxs_functions.hpp, qvxs_handles.hpp and qvxs_names.hpp, from the C headers and the
+extents in traits/.
+
+usage: cpp_face.py [--check]    --check: writes nothing, fails if a file is not what it would write
+
+A function without a record becomes an overload of its stem: vectors are spans, a length that is the extent of a vector is taken from
+it, the others are checked against their extents, a result of one element is a reference, and the scale factor comes last. A function
+with a record keeps the arguments it has in C; the classes of qvxs_records.hpp, which know the record's lengths, call it.
+"""
+import ast
+import fnmatch
+import re
+import sys
+import textwrap
+from collections import defaultdict
+from dataclasses import dataclass, field
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+INCLUDE = ROOT / 'include' / 'qvx'
+ELEMENT = r'\d+(?:fc|sc|f|s|u)'
+COLUMNS = 130
+# An integer constant would fit two overloads.
+FRACTIONS = {'qvxsMulC_64f64s_ISfs': 'val'}
+
+
+@dataclass
+class Parameter:
+    type: str
+    name: str
+
+    @property
+    def pointee(self):
+        return re.sub(r'\bconst\b|\*', '', self.type).strip()
+
+    @property
+    def is_const(self):
+        return self.type.startswith('const')
+
+    @property
+    def depth(self):
+        return self.type.count('*')
+
+    @property
+    def is_record(self):
+        return self.depth > 0 and self.type.replace('const ', '').startswith('Qvxs')
+
+    @property
+    def plain(self):
+        """The name without the p of pointers."""
+        return re.sub(r'^pp?(?=[A-Z])', '', self.name)[0].lower() + re.sub(r'^pp?(?=[A-Z])', '', self.name)[1:]
+
+
+@dataclass
+class Export:
+    name: str
+    result: str
+    parameters: list
+    header: str
+    block: str  # the documentation block above it
+
+    @property
+    def key(self):
+        """The name without what C needs to tell types and forms apart."""
+        first, *rest = self.name[4:].split('_')
+        forms = {'I', 'Sfs', 'ISfs', 'D2L', 'P', 'IP', 'PSfs', 'IPSfs'}
+        if any(p.is_record for p in self.parameters):
+            forms |= {'C', 'R'}  # which the record's type tells
+        tokens = [first] + [t for t in rest if t not in forms]
+        key = '_'.join(t for t in (re.sub(f'(?:{ELEMENT})+$', '', t) for t in tokens) if t)
+        return 'Ten' + key[2:] if key.startswith('10') else key
+
+    @property
+    def elements(self):
+        """The element types in its name, in their order."""
+        return [f'Qvx{t}' for token in self.name[4:].split('_') for t in re.findall(ELEMENT, (re.search(f'(?:{ELEMENT})+$', token) or [''])[0])]
+
+
+
+@dataclass
+class Row:
+    names: list
+    extents: dict = field(default_factory=dict)
+    optional: set = field(default_factory=set)
+    scratch: set = field(default_factory=set)
+
+
+def exports():
+    found = []
+    for header in re.findall(r'<qvx/(qvxs_\w+\.h)>', (INCLUDE / 'qvxs.h').read_text()):
+        text = (INCLUDE / header).read_text()
+        for match in re.finditer(r'(/\*\*.*?\*/)|^(?:QVXS_SLOTLESS\()?QVXS_API\(([^,]+), (\w+),\s*\((.*?)\)\)', text, re.M | re.S):
+            if match[1]:
+                block = match[1]
+                continue
+            parameters = []
+            for one in re.sub(r'\s+', ' ', match[4]).split(','):
+                if one.strip() != 'void':
+                    type_, name = re.match(r'\s*(.*?)\s*(\w+)$', one).groups()
+                    parameters.append(Parameter(re.sub(r' \*', '*', type_), name))
+            found.append(Export(match[3], match[2], parameters, header, block))
+    return found
+
+
+def rows(path):
+    found = []
+    for line in path.read_text().splitlines():
+        if not line or line.startswith('#'):
+            continue
+        if not line[0].isspace():
+            found.append(Row(line.split()))
+            continue
+        what, *values = line.split()
+        if what == 'extent':
+            found[-1].extents.update(v.split('=', 1) for v in values)
+        elif what in ('optional', 'scratch'):
+            getattr(found[-1], what).update(values)
+    return found
+
+
+ROWS = [row for path in sorted((ROOT / 'traits').glob('*.traits')) if path.stem != 'parameters' for row in rows(path)]
+COMMON = rows(ROOT / 'traits' / 'parameters.traits')[0]
+
+
+def row_of(export):
+    for row in ROWS:
+        if any(fnmatch.fnmatchcase(export.name[4:], pattern) for pattern in row.names):
+            return row
+    sys.exit(f'{export.name} has no row in traits/')
+
+
+def wrapped(text, indent):
+    """Lines of at most COLUMNS columns, whose later ones are indented by 4 more."""
+    return '\n'.join(textwrap.wrap(text, COLUMNS, initial_indent=' ' * indent, subsequent_indent=' ' * (indent + 4),
+                                   break_long_words=False, break_on_hyphens=False))
+
+
+def quoted(text):
+    """The text as adjacent literals of one line each."""
+    lines = textwrap.wrap(text, COLUMNS - 12, drop_whitespace=False, break_long_words=False, break_on_hyphens=False)
+    return '\n'.join(f'        "{line}"' for line in lines)
+
+
+class Expression(ast.NodeVisitor):
+    """An extent of traits/ in C++, in 64 bits."""
+
+    def __init__(self, values):
+        self.values = values
+
+    def visit_Expression(self, node):
+        return self.visit(node.body)
+
+    def visit_Constant(self, node):
+        return str(node.value)
+
+    def visit_Name(self, node):
+        return self.values[node.id]
+
+    def visit_BinOp(self, node):
+        a, b = self.visit(node.left), self.visit(node.right)
+        if isinstance(node.op, ast.FloorDiv):
+            return f'quotient({a}, {b})'
+        if isinstance(node.op, ast.Mult):
+            a, b = (f'({t})' if self.is_sum(n) else t for t, n in ((a, node.left), (b, node.right)))
+            return f'{a} * {b}'
+        return f'{a} + {b}' if isinstance(node.op, ast.Add) else f'{a} - ({b})' if self.is_sum(node.right) else f'{a} - {b}'
+
+    @staticmethod
+    def is_sum(node):
+        return isinstance(node, ast.BinOp) and isinstance(node.op, (ast.Add, ast.Sub))
+
+    def visit_Call(self, node):
+        return f'largest({", ".join(self.visit(a) for a in node.args)})'
+
+
+class Overload:
+    """An export as a C++ function."""
+
+    def __init__(self, export):
+        self.export = export
+        self.row = row_of(export)
+        names = {p.name for p in export.parameters}
+        self.standard = 'len' if 'len' in names else 'numIters' if 'numIters' in names else '1'
+        self.kinds = {p.name: self.kind(p) for p in export.parameters}
+        # The first vector that has just as many elements as a length says gives it.
+        self.givers = {}
+        for p in export.parameters:
+            extent = self.extent(p)
+            if self.kinds[p.name] == 'vector' and extent in names and p.name not in self.row.optional | self.row.scratch:
+                self.givers.setdefault(extent, p)
+        for p in export.parameters:
+            if self.kinds[p.name] == 'vectors':
+                self.givers.setdefault('nChannels', p)
+
+    def extent(self, p):
+        text = self.row.extents.get(p.name) or COMMON.extents.get(p.name) or self.row.extents.get('*') or self.standard
+        return text[2:] if self.packed(p) else text
+
+    def packed(self, p):
+        """Whether three bytes are an element."""
+        text = self.row.extents.get(p.name) or self.row.extents.get('*') or ''
+        return p.pointee == 'Qvx8u' and text.startswith('3*')
+
+    def element(self, p):
+        if self.packed(p):
+            return 'UInt24' if '24u' in self.export.name else 'Int24'
+        return 'Half' if p.pointee == 'Qvx16f' else p.pointee
+
+    def kind(self, p):
+        if p.depth == 0:
+            return 'value'
+        if p.depth == 2:
+            return 'vectors'
+        return 'reference' if self.extent(p) == '1' else 'vector'
+
+    def declared(self, p):
+        kind, const = self.kinds[p.name], 'const ' if p.is_const else ''
+        if kind == 'value':
+            if p.type == 'QvxRoundMode':
+                return f'Rounding {p.plain}'
+            wrapper = 'Fraction' if FRACTIONS.get(self.export.name) == p.name else 'Value'
+            return f'{wrapper}<{p.type}> {p.plain}' + (' = 0' if p.name == 'hint' else '')
+        if kind == 'reference':
+            return f'{const}{p.pointee}& {p.plain}'
+        if kind == 'vectors':
+            return f'In<{const}{p.pointee}*> {p.plain}'
+        return f'{"In" if p.is_const else "Out"}<{self.element(p)}> {p.plain}'
+
+    def passed(self, p):
+        if p.name in self.givers:
+            giver = self.givers[p.name].plain
+            return f'length({giver})' if p.type == 'int' else f'length<{p.type}>({giver})'
+        kind = self.kinds[p.name]
+        if kind == 'value':
+            return f'static_cast<QvxRoundMode>({p.plain})' if p.type == 'QvxRoundMode' else f'{p.plain}.number'
+        if kind == 'reference':
+            return f'&{p.plain}'
+        return f'{"optional" if p.name in self.row.optional else "pointer"}({p.plain})'
+
+    def value(self, p):
+        if p.name in self.givers:
+            return f'int64_t(length({self.givers[p.name].plain}))'
+        return f'int64_t({p.plain}.number)'
+
+    def requirements(self):
+        parts = []
+        values = {p.name: self.value(p) for p in self.export.parameters if self.kinds[p.name] == 'value'}
+        values['phase'] = 'int64_t(phase)'
+        for length, giver in self.givers.items():
+            type_ = next(p.type for p in self.export.parameters if p.name == length)
+            parts.append(f'countable({giver.plain})' if type_ == 'int' else f'countable<{type_}>({giver.plain})')
+        for p in self.export.parameters:
+            extent = self.extent(p)
+            if self.kinds[p.name] != 'vector' or self.givers.get(extent) is p:
+                continue
+            if extent in self.givers and p.name not in self.row.scratch:
+                test = f'sameLength({p.plain}, {self.givers[extent].plain})'
+            else:
+                tree = ast.parse(extent.replace('/', '//').replace('^', '**'), mode='eval')
+                unknown = {n.id for n in ast.walk(tree) if isinstance(n, ast.Name)} - set(values) - {'max'}
+                if unknown == {'totalBits'}:
+                    values['totalBits'] = 'totalBits(srcBitLen)'
+                elif unknown:
+                    sys.exit(f'{self.export.name}: {p.name} has {extent} elements, and nothing tells {unknown}')
+                test = f'atLeast({p.plain}, {Expression(values).visit(tree)})'
+            parts.append(f'({p.plain}.empty() || {test})' if p.name in self.row.optional else test)
+        return parts
+
+    def signature(self):
+        kept = [p for p in self.export.parameters if p.name not in self.givers]
+        kept.sort(key=lambda p: p.name == 'scaleFactor')
+        return ', '.join(self.declared(p) for p in kept)
+
+    def text(self):
+        lines = [wrapped(f'static Status call({self.signature()}) {{', 2)]
+        parts = self.requirements()
+        if parts:
+            lines.append(wrapped(f'QVX_REQUIRE({" && ".join(parts)});', 4))
+        lines.append(wrapped(f'return {self.export.name}({", ".join(self.passed(p) for p in self.export.parameters)});', 4))
+        return '\n'.join(lines + ['  }'])
+
+
+def has_record(export):
+    return any(p.is_record for p in export.parameters) or re.search(r'Get\w*Size', export.name) is not None
+
+
+def heading(export):
+    """The first sentence or formula of a documentation block."""
+    line = export.block[3:-2].strip().splitlines()[0].strip()
+    return line if len(line) < COLUMNS - 30 else textwrap.shorten(line, COLUMNS - 30, placeholder=' ...')
+
+
+STEM = '''// {heading} ({header})
+namespace exports {{
+struct {key} {{
+{overloads}
+}};
+}}  // namespace exports
+template <class... Arguments>
+[[nodiscard]] Status {key}(Arguments&&... arguments) {{
+  if constexpr (requires {{ exports::{key}::call(detail::view(arguments)...); }}) {{
+    return exports::{key}::call(detail::view(arguments)...);
+  }} else {{
+    static_assert(detail::kNever<Arguments...>,
+{message});
+    return qvxStatBadArg;
+  }}
+}}
+'''
+
+TOP = '''// {what}
+// Written by tools/cpp_face.py from the C headers and traits/: change those and run it.
+// clang-format off
+#ifndef QVX_{guard}
+#define QVX_{guard}
+'''
+
+
+def functions(all_exports):
+    stems = defaultdict(list)
+    for e in all_exports:
+        if e.result == 'QvxStatus' and not has_record(e):
+            stems[e.key].append(Overload(e))
+    text = TOP.format(what='All functions without a record, as overloads by stem.', guard='QVXS_FUNCTIONS_HPP')
+    text += '\n#include <qvx/qvxs_result.hpp>\n#include <qvx/qvxs_vectors.hpp>\n\n'
+    text += 'namespace qvx {\ninline namespace QVX_POLICY {\nnamespace exports {\nusing namespace qvx::detail;\n}\n\n'
+    for key, overloads in stems.items():
+        signatures = defaultdict(list)
+        for o in overloads:
+            signatures[re.sub(r' \w+(?=,|$)| = 0', '', o.signature())].append(o.export.name)
+        for same in signatures.values():
+            if len(same) > 1:
+                sys.exit(f'{same} cannot be told apart')
+        names = ' '.join(o.export.name[4:] for o in overloads)
+        message = quoted(f'qvx::{key}: no such function for elements of these types in this order. There are {names}')
+        text += STEM.format(heading=heading(overloads[0].export), header=overloads[0].export.header, key=key,
+                            overloads='\n'.join(o.text() for o in overloads), message=message) + '\n'
+    return text + '}  // namespace QVX_POLICY\n}  // namespace qvx\n\n#endif\n'
+
+
+def handles(all_exports):
+    """Functions with records: as in C, but overloaded. What tells no type by its arguments is given it."""
+    text = TOP.format(what='All functions with a record, and those that return no status, with the arguments they have in C, as overloads.',
+                      guard='QVXS_HANDLES_HPP')
+    text += '\n#include <qvx/qvxs_vectors.hpp>\n\nnamespace qvx::handles {\n'
+    stem = None
+    known = set()
+    for e in all_exports:
+        if e.result == 'QvxStatus' and not has_record(e):
+            continue
+        if e.key != stem:
+            text += f'\n// {e.header}: {heading(e)}\n'
+            stem = e.key
+        parameters = [f'{p.type} {p.name}' for p in e.parameters]
+        # QvxsFIRState_32s is another name of a type.
+        signature = (e.key, *(p.type.replace('FIRState_32s', 'FIRState64f_32s') for p in e.parameters))
+        if e.elements and (signature in known or not any(p.is_record for p in e.parameters)):
+            parameters.insert(0, f'Types<{", ".join(e.elements)}>')
+        known.add(signature)
+        call = f'{e.name}({", ".join(p.name for p in e.parameters)})'
+        text += wrapped(f'inline {e.result} {e.key}({", ".join(parameters)}) {{ return {call}; }}', 0) + '\n'
+    text += '\n// The record of a stem for element types, in the order of its name: taps first.\n'
+    text += 'template <class Stem, class... T>\nstruct RecordOf;\n'
+    seen = set()
+    for header in re.findall(r'<qvx/(qvxs_\w+\.h)>', (INCLUDE / 'qvxs.h').read_text()):
+        for name in re.findall(r'^typedef (?:struct )?\w+ (Qvxs\w+);', (INCLUDE / header).read_text(), re.M):
+            stem, elements = re.match(rf'Qvxs(\w+?)(?:State|Spec)_?((?:[CR]_)?(?:_?{ELEMENT})*)$', name).groups()
+            kind = re.match(r'[CR](?=_)', elements)
+            stem += f'_{kind[0]}' if kind else ''
+            types = ''.join(f', Qvx{t}' for t in re.findall(ELEMENT, elements))
+            if stem not in seen:
+                seen.add(stem)
+                text += f'struct {stem}Stem;\n'
+            text += f'template <> struct RecordOf<{stem}Stem{types}> {{ using type = {name}; }};\n'
+    return text + '\n}  // namespace qvx::handles\n\n#endif\n'
+
+
+def names():
+    text = TOP.format(what='The names of statuses, and what they say.', guard='QVXS_NAMES_HPP')
+    text += '\n#include <qvx/qvxdefs.h>\n\nnamespace qvx {\n\ninline const char* describe(QvxStatus status) {\n  switch (status) {\n'
+    for name, says in re.findall(r'^  (qvx(?:Stat|Warn)\w+) = -?\d+,?(?: +/\* (.*?) \*/)?$', (INCLUDE / 'qvxdefs.h').read_text(), re.M):
+        text += f'    case {name}: return "{name}{": " + says if says else ""}";\n'
+    return text + '  }\n  return "an unknown status";\n}\n\n}  // namespace qvx\n\n#endif\n'
+
+
+def main():
+    every = exports()
+    bad = False
+    for name, text in {'qvxs_functions.hpp': functions(every), 'qvxs_handles.hpp': handles(every), 'qvxs_names.hpp': names()}.items():
+        path = INCLUDE / name
+        if '--check' not in sys.argv[1:]:
+            path.write_text(text)
+        elif not path.exists() or path.read_text() != text:
+            print(f'include/qvx/{name} is not what tools/cpp_face.py makes of the headers and traits/')
+            bad = True
+    return bad
+
+
+if __name__ == '__main__':
+    sys.exit(main())
