@@ -1,0 +1,52 @@
+"""Calls with wrong arguments, in a process of their own: SEED ROUNDS. A fault ends it; the last line of the log is the call."""
+
+import faulthandler
+import resource
+import sys
+import warnings
+
+import numpy as np
+
+from support import STATUS_EXPORTS, Calls, Memory
+from qvxs import raw
+
+EXPECTED = (TypeError, ValueError, OverflowError, NotImplementedError, MemoryError, raw.Error)
+
+
+def limit_memory(more):
+    with open("/proc/self/statm") as sizes:
+        now = int(sizes.read().split()[0]) * resource.getpagesize()
+    resource.setrlimit(resource.RLIMIT_AS, (now + more, now + more))
+
+
+def main():
+    seed, rounds = int(sys.argv[1]), int(sys.argv[2])
+    faulthandler.enable()
+    warnings.simplefilter("ignore")
+    calls = Calls(np.random.default_rng(seed), Memory())
+    if "--unlimited" not in sys.argv:
+        limit_memory(1 << 28)
+    made = refused = 0
+    for e in STATUS_EXPORTS:
+        if not e.parameters:
+            continue
+        for _ in range(rounds):
+            arguments, _ = calls.valid(e)
+            for _ in range(int(calls.rng.integers(1, 3))):
+                i = int(calls.rng.integers(len(arguments)))
+                try:
+                    arguments[i] = calls.hostile(e.parameters[i], arguments[i])
+                except (TypeError, AttributeError, IndexError, ValueError, RuntimeError):
+                    pass  # spoilt twice
+            sys.stderr.seek(0) if sys.stderr.seekable() else None
+            print(e.name, [a if not hasattr(a, "dtype") else (a.dtype.str, a.shape) for a in arguments], " " * 200, file=sys.stderr, flush=True)
+            try:
+                e.function(*arguments)
+                made += 1
+            except EXPECTED:
+                refused += 1
+    print(made, refused)
+
+
+if __name__ == "__main__":
+    main()
