@@ -59,7 +59,7 @@ class Call {
   Record* made_ = nullptr;
   Record* record_ = nullptr;  // the only one, or the first
   bool isExclusive_ = false, hasContents_ = false, hasVectors_ = false;
-  std::vector<Record*> records_;             // of many channels
+  std::vector<Record*> records_;              // of many channels
   std::vector<std::vector<void*>> pointers_;  // to them, and to their vectors
   std::vector<Copy> copies_;
   Range ranges_[kMostParameters];
@@ -169,6 +169,7 @@ bool Call::takeRecords() {
     const auto count = static_cast<size_t>(PyTuple_GET_SIZE(objects_[i]));
     std::vector<void*>& addresses = pointers_.emplace_back(count);
     std::vector<Record*> wanted;
+    records_.reserve(count);
     for (size_t k = 0; k < count; ++k) {
       PyObject* item = PyTuple_GET_ITEM(objects_[i], static_cast<Py_ssize_t>(k));
       if (!takeRecord(i, item, addresses[k])) return false;
@@ -407,8 +408,9 @@ PyObject* allocateVector(const Export& e, PyObject* argument) {
 
 PyObject* version(const Export& e) {
   const auto* v = reinterpret_cast<const QvxLibraryVersion* (*)()>(e.function)();
-  return Py_BuildValue("{sisisisissssssss}", "verMajor", v->verMajor, "verMinor", v->verMinor, "buildMajor", v->buildMajor, "buildMinor",
-                       v->buildMinor, "cpuTag", v->cpuTag, "libFile", v->libFile, "verText", v->verText, "buildDate", v->buildDate);
+  return Py_BuildValue("{sisisisissssssss}", "verMajor", v->verMajor, "verMinor", v->verMinor, "buildMajor", v->buildMajor,
+                       "buildMinor", v->buildMinor, "cpuTag", v->cpuTag, "libFile", v->libFile, "verText", v->verText,
+                       "buildDate", v->buildDate);
 }
 
 }  // namespace

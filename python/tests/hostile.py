@@ -40,7 +40,7 @@ def main():
             continue
         for _ in range(rounds):
             arguments, _ = calls.valid(e)
-            for _ in range(int(calls.rng.integers(1, 3))):
+            for _ in range(int(calls.rng.choice([1, 1, 2, 2 * len(arguments)]))):
                 i = int(calls.rng.integers(len(arguments)))
                 try:
                     arguments[i] = calls.hostile(e.parameters[i], arguments[i])
