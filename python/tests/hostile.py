@@ -44,7 +44,7 @@ def main():
                 i = int(calls.rng.integers(len(arguments)))
                 try:
                     arguments[i] = calls.hostile(e.parameters[i], arguments[i])
-                except (TypeError, AttributeError, IndexError, ValueError, RuntimeError):
+                except (TypeError, AttributeError, IndexError, OverflowError, ValueError, RuntimeError):
                     pass  # spoilt twice
             trace(e, arguments)
             try:

@@ -240,14 +240,14 @@ class Records(unittest.TestCase):
         self.assertEqual((faults, total[0]), ([], samples * rounds * count))
 
     def test_a_record_freed_in_use_lives_until_the_call_ends(self):
-        rows = np.ones((64, 1 << 14), np.complex64)
-        for _ in range(20):
-            record = raw.qvxsFFTInitAlloc_C_32fc(14, 8, 0)
+        rows = np.ones((3, 1 << 18), np.complex64)
+        for _ in range(3):  # tables so large that they are unmapped when they are released
+            record = raw.qvxsFFTInitAlloc_C_32fc(18, 8, 0)
             faults = []
 
             def run(row):
                 try:
-                    for _ in range(8):
+                    for _ in range(20):
                         raw.qvxsFFTFwd_CToC_32fc(row, row, record, None)
                 except qvxs.Error as error:
                     if error.name != "qvxStatContextMismatch":
@@ -256,6 +256,7 @@ class Records(unittest.TestCase):
             threads = [threading.Thread(target=run, args=(rows[i],)) for i in range(3)]
             for thread in threads:
                 thread.start()
+            time.sleep(0.002)
             raw.qvxsFFTFree_C_32fc(record)
             for thread in threads:
                 thread.join()
