@@ -174,7 +174,7 @@ class Calls:
             return [None, 1, "array", [], (), [None], np.float32(1)][self.rng.integers(7)]
         if p.is_record:
             types = list(MAKERS)
-            other = self.record(types[self.rng.integers(len(types))])
+            other = self.record(p.type if choice < 7 else types[self.rng.integers(len(types))])
             return [old[0], old[0]] if p.stars == 2 and choice < 6 else [other] if p.stars == 2 else other
         if p.stars == 2:
             return [[], old[:1], [old[0], old[1][:-1]], [old[0], None], 5][self.rng.integers(5)]
