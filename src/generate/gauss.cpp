@@ -27,6 +27,7 @@ template <class T, uint32_t kNumber> struct Gauss {
   int32_t needPair;  // 0: one is waiting
   bool ownsBlock;
   Waiting waiting;
+  double unused;  // 0: the size told has room for it
 };
 
 }  // namespace qvx::generate
@@ -131,6 +132,7 @@ template <class State, class T> void build(State& state, T mean, T stdDev, uint3
   state.needPair = 1;
   state.ownsBlock = ownsBlock;
   state.waiting = {};
+  state.unused = 0;
 }
 template <class State, class T> QvxStatus initAlloc(State** ppState, T mean, T stdDev, uint32_t seed) {
   if (isNull(ppState)) return qvxStatNullPtr;

@@ -18,11 +18,12 @@ QvxStatus checked(const Qvx32f* p, const Qvx32f* other, int len, Qvx32f c) {
   return c > 0 ? qvxStatOk : qvxStatBadParam;
 }
 
-// 1 / s to 2^-27 or better, for s from 2^-298 to 2^257: an estimate of 14 bits and a step of Newton's where there is one.
+// 1 / s to 2^-27 or better, for s from 2^-298 to 2^257 and infinity: an estimate of 14 bits and a step of Newton's where there is
+// one. For an infinite s the step would be 0 times infinity; the minimum takes 1 for what is no number.
 template <class V> V reciprocal(V s) {
 #if QVXS_AVX512
   const V near = nearReciprocal(s);
-  return hn::MulAdd(near, hn::NegMulAdd(near, s, same<V>(1)), near);
+  return hn::MulAdd(near, hn::Min(hn::NegMulAdd(near, s, same<V>(1)), same<V>(1)), near);
 #else
   return same<V>(1) / s;
 #endif

@@ -3,6 +3,7 @@
 #include <qvx/qvxs.h>
 
 #include <cmath>
+#include <cstring>
 #include <numbers>
 
 #include "reference/noise.h"
@@ -175,7 +176,10 @@ TEST(Noise, RecordsInTheCallersMemory) {
     auto* state = reinterpret_cast<QvxsRandUniformState_16s*>(block.atOffset(offset, 56));
     auto* normal = reinterpret_cast<QvxsRandGaussState_16s*>(other.atOffset(offset, 64));
     ASSERT_EQ(qvxsRandUniformInit_16s(state, 7, 7, 3), qvxStatOk);
+    std::memset(normal, 0xA5, 64);
     ASSERT_EQ(qvxsRandGaussInit_16s(normal, 0, 0, 3), qvxStatOk);
+    constexpr Qvx64f kZero = 0;
+    EXPECT_EQ(std::memcmp(reinterpret_cast<const Qvx8u*>(normal) + 56, &kZero, 8), 0);  // the last word of the record
     Qvx16s y[5];
     for (int round = 0; round < 2; ++round) {
       ASSERT_EQ(qvxsRandUniform_16s(y, 5, state), qvxStatOk);

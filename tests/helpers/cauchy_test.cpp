@@ -63,6 +63,11 @@ TEST(Cauchy, TakesWhatIsNotFinite) {
     EXPECT_EQ(qvxsCauchyDD2_32f_I(&kept, d, 1, c), qvxStatBadParam);
   }
   EXPECT_EQ(kept, 5);
+  // C^2 + x^2 is infinite, so the derivative is 0 and not what an estimate of 1 / infinity is refined to.
+  Qvx32f y[] = {0, -1, 450.5F, 1e30F}, z[] = {0, -1, 450.5F, 1e30F}, second[4];
+  ASSERT_EQ(qvxsCauchyD_32f_I(y, 4, INFINITY), qvxStatOk);
+  ASSERT_EQ(qvxsCauchyDD2_32f_I(z, second, 4, INFINITY), qvxStatOk);
+  for (int i = 0; i < 4; ++i) EXPECT_TRUE(y[i] == 0 && z[i] == 0) << i;
 }
 
 // At every distance of the two vectors: one element after the other, read, written, and its second value written.

@@ -216,6 +216,24 @@ TEST(Kaiser, IsTheBesselRatioForEveryAlpha) {
   EXPECT_LT(worst64, 5.6e-6);
 }
 
+// Weights of up to 10^4 that fall back to 1 in the middle: what cancels there would be units in floats.
+TEST(WindowSteepBlackman, IsWithinAUnit) {
+  tests::Random random(tests::seed());
+  for (const int len : {16, 17, 500, 1999, 5000}) {
+    std::vector<Qvx16s> x(static_cast<size_t>(len)), y(x.size());
+    for (Qvx16s& v : x) v = static_cast<Qvx16s>(random());
+    for (const Qvx32f alpha : {100.0F, -100.0F, 1e4F}) {
+      ASSERT_EQ(qvxsWinBlackman_16s(x.data(), y.data(), len, alpha), qvxStatOk);
+      for (int n = 0; n < len; ++n) {
+        const auto at = static_cast<size_t>(n);
+        const Real w = len % 2 != 0 && n == len / 2 ? 1 : reference::blackman(std::min(n, len - 1 - n), len, alpha);
+        ASSERT_LE(std::abs(y[at] - std::clamp(w * x[at], -32768.0L, 32767.0L)), 0.52L)
+            << "length " << len << ", alpha " << alpha << ", element " << n;
+      }
+    }
+  }
+}
+
 // Q15 alphas, and the one scaled form, whose middle is scaled like the others.
 TEST(WindowQ15, IsTheFloatAlphaScaled) {
   tests::Random random(tests::seed());
