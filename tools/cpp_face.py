@@ -230,17 +230,19 @@ class Overload:
     def passed(self, p):
         if p.name in self.givers:
             giver = self.givers[p.name].plain
-            return f'length({giver})' if p.type == 'int' else f'length<{p.type}>({giver})'
+            return f'length({giver}.size())' if p.type == 'int' else f'unsignedLength({giver}.size())'
         kind = self.kinds[p.name]
         if kind == 'value':
             return f'static_cast<QvxRoundMode>({p.plain})' if p.type == 'QvxRoundMode' else f'{p.plain}.number'
         if kind == 'reference':
             return f'&{p.plain}'
-        return f'{"optional" if p.name in self.row.optional else "pointer"}({p.plain})'
+        if p.name in self.row.optional:
+            return f'optional({p.plain})'
+        return f'pointer({p.plain})' if kind == 'vector' and self.element(p) != p.pointee else f'{p.plain}.data()'
 
     def value(self, p):
         if p.name in self.givers:
-            return f'int64_t(length({self.givers[p.name].plain}))'
+            return f'int64_t({self.givers[p.name].plain}.size())'
         return f'int64_t({p.plain}.number)'
 
     def requirements(self):
@@ -249,13 +251,13 @@ class Overload:
         values['phase'] = 'int64_t(phase)'
         for length, giver in self.givers.items():
             type_ = next(p.type for p in self.export.parameters if p.name == length)
-            parts.append(f'countable({giver.plain})' if type_ == 'int' else f'countable<{type_}>({giver.plain})')
+            parts.append(f'{"countable" if type_ == "int" else "countableUnsigned"}({giver.plain}.size())')
         for p in self.export.parameters:
             extent = self.extent(p)
             if self.kinds[p.name] != 'vector' or self.givers.get(extent) is p:
                 continue
             if extent in self.givers and p.name not in self.row.scratch:
-                test = f'sameLength({p.plain}, {self.givers[extent].plain})'
+                test = f'{p.plain}.size() == {self.givers[extent].plain}.size()'
             else:
                 tree = ast.parse(extent.replace('/', '//').replace('^', '**'), mode='eval')
                 unknown = {n.id for n in ast.walk(tree) if isinstance(n, ast.Name)} - set(values) - {'max'}
@@ -263,7 +265,7 @@ class Overload:
                     values['totalBits'] = 'totalBits(srcBitLen)'
                 elif unknown:
                     sys.exit(f'{self.export.name}: {p.name} has {extent} elements, and nothing tells {unknown}')
-                test = f'atLeast({p.plain}, {Expression(values).visit(tree)})'
+                test = f'atLeast({p.plain}.size(), {Expression(values).visit(tree)})'
             parts.append(f'({p.plain}.empty() || {test})' if p.name in self.row.optional else test)
         return parts
 

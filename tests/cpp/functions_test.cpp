@@ -34,8 +34,8 @@ TEST(Functions, VectorsAndConstantsOfOneType) {
   EXPECT_EQ(qvx::MulC(0.3, face), qvxStatOk);  // one vector: in place
   EXPECT_EQ(qvxsMulC_32f_I(0.3F, c.data(), 37), qvxStatOk);
   EXPECT_TRUE(same(face, c));
-  EXPECT_EQ(qvx::Div(a, face), qvxStatOk);
-  EXPECT_EQ(qvxsDiv_32f_I(a.data(), c.data(), 37), qvxStatOk);
+  EXPECT_EQ(qvx::Div(b, face), qvxStatOk);
+  EXPECT_EQ(qvxsDiv_32f_I(b.data(), c.data(), 37), qvxStatOk);
   EXPECT_TRUE(same(face, c));
 }
 
