@@ -21,6 +21,8 @@ ROOT = Path(__file__).resolve().parent.parent
 INCLUDE = ROOT / 'include' / 'qvx'
 ELEMENT = r'\d+(?:fc|sc|f|s|u)'
 COLUMNS = 130
+# What the library takes below 0, where a span has nothing.
+NOT_NEGATIVE = {'qvxsSortRadixIndexAscend_8u': 'srcStride', 'qvxsSortRadixIndexDescend_8u': 'srcStride', 'qvxsCalcStatesDV_16sc': 'offset'}
 # An integer constant would fit two overloads.
 FRACTIONS = {'qvxsMulC_64f64s_ISfs': 'val'}
 
@@ -252,6 +254,8 @@ class Overload:
         for length, giver in self.givers.items():
             type_ = next(p.type for p in self.export.parameters if p.name == length)
             parts.append(f'{"countable" if type_ == "int" else "countableUnsigned"}({giver.plain}.size())')
+        if self.export.name in NOT_NEGATIVE:
+            parts.append(f'{NOT_NEGATIVE[self.export.name]}.number >= 0')
         for p in self.export.parameters:
             extent = self.extent(p)
             if self.kinds[p.name] != 'vector' or self.givers.get(extent) is p:

@@ -7842,8 +7842,8 @@ template <class... Arguments>
 namespace exports {
 struct SortRadixIndexAscend {
   static Status call(In<Qvx8u> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), (int64_t(dstIndx.size()) - 1) * int64_t(srcStride.number) + 1) &&
-        atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    QVX_REQUIRE(countable(dstIndx.size()) && srcStride.number >= 0 && atLeast(src.size(), (int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
     return qvxsSortRadixIndexAscend_8u(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx16s> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
@@ -7936,8 +7936,8 @@ template <class... Arguments>
 namespace exports {
 struct SortRadixIndexDescend {
   static Status call(In<Qvx8u> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), (int64_t(dstIndx.size()) - 1) * int64_t(srcStride.number) + 1) &&
-        atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    QVX_REQUIRE(countable(dstIndx.size()) && srcStride.number >= 0 && atLeast(src.size(), (int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
     return qvxsSortRadixIndexDescend_8u(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx16s> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
@@ -8028,7 +8028,7 @@ namespace exports {
 struct CalcStatesDV {
   static Status call(In<Qvx16u> pathError, In<Qvx8u> nextState, Out<Qvx16u> branchError, In<Qvx16u> currentSubsetPoint,
       Out<Qvx32u> pathTable, Value<int> offset) {
-    QVX_REQUIRE(countable(pathError.size()) && atLeast(nextState.size(), int64_t(pathError.size()) *
+    QVX_REQUIRE(countable(pathError.size()) && offset.number >= 0 && atLeast(nextState.size(), int64_t(pathError.size()) *
         (quotient(int64_t(pathError.size()), 4) + 16 - largest(quotient(int64_t(pathError.size()), 4), 16))) &&
         atLeast(branchError.size(), 256) && atLeast(currentSubsetPoint.size(), int64_t(pathError.size()) + 64 -
         largest(int64_t(pathError.size()), 64)) && atLeast(pathTable.size(), int64_t(offset.number) + 256));

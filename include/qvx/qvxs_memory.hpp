@@ -80,18 +80,11 @@ template <class T> class Span : public std::span<T> {
 template <class T> using Source = Span<const T>;
 template <class T> using Target = Span<T>;
 
-template <class T> inline constexpr bool kComplex = requires(T z) { z.re; };
 template <class T> struct ComplexOf;
 template <> struct ComplexOf<Qvx16s> { using type = Qvx16sc; };
 template <> struct ComplexOf<Qvx32s> { using type = Qvx32sc; };
 template <> struct ComplexOf<Qvx32f> { using type = Qvx32fc; };
 template <> struct ComplexOf<Qvx64f> { using type = Qvx64fc; };
-template <class T> struct PartOf { using type = T; };
-template <class T>
-requires kComplex<T>
-struct PartOf<T> {
-  using type = decltype(T::re);
-};
 template <class T> inline constexpr bool kIntegral = std::is_integral_v<typename PartOf<T>::type>;
 
 // Results in integers take a scale factor, others none.

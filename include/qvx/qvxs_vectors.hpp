@@ -51,12 +51,31 @@ enum class Rounding : int { kTowardZero = qvxRoundTowardZero, kNearestEven = qvx
 // Element types, for functions whose arguments tell none.
 template <class... T> struct Types {};
 
-// A number that becomes a T without losing a fraction: no float is taken where an integer stands.
+namespace detail {
+
+template <class T> inline constexpr bool kComplex = requires(T z) { z.re; };
+template <class T> struct PartOf { using type = T; };
+template <class T>
+requires kComplex<T>
+struct PartOf<T> {
+  using type = decltype(T::re);
+};
+
+// Numbers that become a T without losing a fraction: no float is taken where an integer stands.
+template <class U, class T>
+concept Becomes = std::is_arithmetic_v<T> && std::is_convertible_v<U, T> &&
+    (std::is_floating_point_v<T> || !std::is_floating_point_v<U>);
+
+}  // namespace detail
+
+// A constant: a T, or a number that becomes one. A real number is a complex one.
 template <class T> struct Value {
   template <class U>
-  requires(std::is_same_v<T, U> || (std::is_arithmetic_v<T> && std::is_convertible_v<U, T> &&
-                                    (std::is_floating_point_v<T> || !std::is_floating_point_v<U>))) constexpr Value(U number)
+  requires(std::is_same_v<U, T> || detail::Becomes<U, T>) constexpr Value(U number)
       : number(static_cast<T>(number)) {}  // NOLINT(google-explicit-constructor)
+  template <class U>
+  requires(detail::kComplex<T>&& detail::Becomes<U, typename detail::PartOf<T>::type>) constexpr Value(U real)
+      : number{static_cast<typename detail::PartOf<T>::type>(real), 0} {}  // NOLINT(google-explicit-constructor)
   T number;
 };
 
