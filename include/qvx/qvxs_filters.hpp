@@ -195,6 +195,7 @@ template <class T, class Tap = T> class Resampler : public records::FirRecord<T,
 
 // A FIR filter, of several rates too, that keeps no samples: src begins with the historySize() samples before the first.
 template <class T> class StreamFir {
+  static_assert(std::is_same_v<T, Qvx32f> || std::is_same_v<T, Qvx16s>, "qvx: qvx::StreamFir takes Qvx32f or Qvx16s");
   using Record = typename handles::RecordOf<handles::FIRStem, T>::type;
 
  public:
@@ -460,6 +461,8 @@ template <class T> class Lms {
 
 // An adaptive filter that gives one result for downFactor samples, of Qvx16s with taps of Qvx32s or complex ones.
 template <class T> class LmsDecimator {
+  static_assert(std::is_same_v<T, Qvx16s> || std::is_same_v<T, Qvx16sc>, "qvx: qvx::LmsDecimator takes Qvx16s or Qvx16sc");
+
  public:
   using Tap = std::conditional_t<std::is_same_v<T, Qvx16sc>, Qvx32sc, Qvx32s>;
 

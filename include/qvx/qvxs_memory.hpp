@@ -80,7 +80,7 @@ template <class T> class Span : public std::span<T> {
 template <class T> using Source = Span<const T>;
 template <class T> using Target = Span<T>;
 
-template <class T> struct ComplexOf;
+template <class T> struct ComplexOf { using type = void; };
 template <> struct ComplexOf<Qvx16s> { using type = Qvx16sc; };
 template <> struct ComplexOf<Qvx32s> { using type = Qvx32sc; };
 template <> struct ComplexOf<Qvx32f> { using type = Qvx32fc; };

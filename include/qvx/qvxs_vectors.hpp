@@ -26,7 +26,7 @@
   if (!(condition)) return qvx::Status(qvxStatBadSize)
 #elif defined(NDEBUG)
 #define QVX_POLICY lengths_trusted
-#define QVX_REQUIRE(condition) static_cast<void>(0)
+#define QVX_REQUIRE(condition) static_cast<void>(sizeof(condition))
 #else
 #define QVX_POLICY lengths_asserted
 #define QVX_REQUIRE(condition) assert(condition)
@@ -71,8 +71,8 @@ concept Becomes = std::is_arithmetic_v<T> && std::is_convertible_v<U, T> &&
 // A constant: a T, or a number that becomes one. A real number is a complex one.
 template <class T> struct Value {
   template <class U>
-  requires(std::is_same_v<U, T> || detail::Becomes<U, T>) constexpr Value(U number)
-      : number(static_cast<T>(number)) {}  // NOLINT(google-explicit-constructor)
+  requires(std::is_same_v<U, T> || detail::Becomes<U, T>) constexpr Value(U given)
+      : number(static_cast<T>(given)) {}  // NOLINT(google-explicit-constructor)
   template <class U>
   requires(detail::kComplex<T>&& detail::Becomes<U, typename detail::PartOf<T>::type>) constexpr Value(U real)
       : number{static_cast<typename detail::PartOf<T>::type>(real), 0} {}  // NOLINT(google-explicit-constructor)
@@ -82,8 +82,8 @@ template <class T> struct Value {
 // A floating-point number, where one of integers would be another function.
 template <class T> struct Fraction {
   template <class U>
-  requires(std::is_floating_point_v<U>) constexpr Fraction(U number)
-      : number(static_cast<T>(number)) {}  // NOLINT(google-explicit-constructor)
+  requires(std::is_floating_point_v<U>) constexpr Fraction(U given)
+      : number(static_cast<T>(given)) {}  // NOLINT(google-explicit-constructor)
   T number;
 };
 
