@@ -71,19 +71,17 @@ concept Becomes = std::is_arithmetic_v<T> && std::is_convertible_v<U, T> &&
 // A constant: a T, or a number that becomes one. A real number is a complex one.
 template <class T> struct Value {
   template <class U>
-  requires(std::is_same_v<U, T> || detail::Becomes<U, T>) constexpr Value(U given)
-      : number(static_cast<T>(given)) {}  // NOLINT(google-explicit-constructor)
+  requires(std::is_same_v<U, T> || detail::Becomes<U, T>) constexpr Value(U given) : number(static_cast<T>(given)) {}
   template <class U>
   requires(detail::kComplex<T>&& detail::Becomes<U, typename detail::PartOf<T>::type>) constexpr Value(U real)
-      : number{static_cast<typename detail::PartOf<T>::type>(real), 0} {}  // NOLINT(google-explicit-constructor)
+      : number{static_cast<typename detail::PartOf<T>::type>(real), 0} {}
   T number;
 };
 
 // A floating-point number, where one of integers would be another function.
 template <class T> struct Fraction {
   template <class U>
-  requires(std::is_floating_point_v<U>) constexpr Fraction(U given)
-      : number(static_cast<T>(given)) {}  // NOLINT(google-explicit-constructor)
+  requires(std::is_floating_point_v<U>) constexpr Fraction(U given) : number(static_cast<T>(given)) {}
   T number;
 };
 
