@@ -2,7 +2,9 @@
 """Writes the lists of the C++ face, include/qvx/qvxs_functions.hpp, qvxs_handles.hpp and qvxs_names.hpp, from the C headers and the
 extents in traits/.
 
-usage: cpp_face.py [--check]    --check: writes nothing, fails if a file is not what it would write
+usage: cpp_face.py [--check | --calls FILE]
+  --check: writes nothing, fails if a file is not what it would write
+  --calls: writes a program that calls every function through the C++ face and says which did not end in its export
 
 A function without a record becomes an overload of its stem: vectors are spans, a length that is the extent of a vector is taken from
 it, the others are checked against their extents, a result of one element is a reference, and the scale factor comes last. A function
@@ -21,6 +23,8 @@ ROOT = Path(__file__).resolve().parent.parent
 INCLUDE = ROOT / 'include' / 'qvx'
 ELEMENT = r'\d+(?:fc|sc|f|s|u)'
 COLUMNS = 130
+# What the library takes below 0, where a span has nothing.
+NOT_NEGATIVE = {'qvxsSortRadixIndexAscend_8u': 'srcStride', 'qvxsSortRadixIndexDescend_8u': 'srcStride', 'qvxsCalcStatesDV_16sc': 'offset'}
 # An integer constant would fit two overloads.
 FRACTIONS = {'qvxsMulC_64f64s_ISfs': 'val'}
 
@@ -230,17 +234,19 @@ class Overload:
     def passed(self, p):
         if p.name in self.givers:
             giver = self.givers[p.name].plain
-            return f'length({giver})' if p.type == 'int' else f'length<{p.type}>({giver})'
+            return f'length({giver}.size())' if p.type == 'int' else f'unsignedLength({giver}.size())'
         kind = self.kinds[p.name]
         if kind == 'value':
             return f'static_cast<QvxRoundMode>({p.plain})' if p.type == 'QvxRoundMode' else f'{p.plain}.number'
         if kind == 'reference':
             return f'&{p.plain}'
-        return f'{"optional" if p.name in self.row.optional else "pointer"}({p.plain})'
+        if p.name in self.row.optional:
+            return f'optional({p.plain})'
+        return f'pointer({p.plain})' if kind == 'vector' and self.element(p) != p.pointee else f'{p.plain}.data()'
 
     def value(self, p):
         if p.name in self.givers:
-            return f'int64_t(length({self.givers[p.name].plain}))'
+            return f'int64_t({self.givers[p.name].plain}.size())'
         return f'int64_t({p.plain}.number)'
 
     def requirements(self):
@@ -249,13 +255,15 @@ class Overload:
         values['phase'] = 'int64_t(phase)'
         for length, giver in self.givers.items():
             type_ = next(p.type for p in self.export.parameters if p.name == length)
-            parts.append(f'countable({giver.plain})' if type_ == 'int' else f'countable<{type_}>({giver.plain})')
+            parts.append(f'{"countable" if type_ == "int" else "countableUnsigned"}({giver.plain}.size())')
+        if self.export.name in NOT_NEGATIVE:
+            parts.append(f'{NOT_NEGATIVE[self.export.name]}.number >= 0')
         for p in self.export.parameters:
             extent = self.extent(p)
             if self.kinds[p.name] != 'vector' or self.givers.get(extent) is p:
                 continue
             if extent in self.givers and p.name not in self.row.scratch:
-                test = f'sameLength({p.plain}, {self.givers[extent].plain})'
+                test = f'{p.plain}.size() == {self.givers[extent].plain}.size()'
             else:
                 tree = ast.parse(extent.replace('/', '//').replace('^', '**'), mode='eval')
                 unknown = {n.id for n in ast.walk(tree) if isinstance(n, ast.Name)} - set(values) - {'max'}
@@ -263,14 +271,20 @@ class Overload:
                     values['totalBits'] = 'totalBits(srcBitLen)'
                 elif unknown:
                     sys.exit(f'{self.export.name}: {p.name} has {extent} elements, and nothing tells {unknown}')
-                test = f'atLeast({p.plain}, {Expression(values).visit(tree)})'
+                test = f'atLeast({p.plain}.size(), {Expression(values).visit(tree)})'
             parts.append(f'({p.plain}.empty() || {test})' if p.name in self.row.optional else test)
         return parts
 
+    def kept(self):
+        """The parameters of the overload, in its order."""
+        return sorted((p for p in self.export.parameters if p.name not in self.givers), key=lambda p: p.name == 'scaleFactor')
+
     def signature(self):
-        kept = [p for p in self.export.parameters if p.name not in self.givers]
-        kept.sort(key=lambda p: p.name == 'scaleFactor')
-        return ', '.join(self.declared(p) for p in kept)
+        return ', '.join(self.declared(p) for p in self.kept())
+
+    def argument(self, p):
+        """The type of an argument that a caller has for a parameter."""
+        return re.sub(r'^(?:(?:Value|Fraction)<(\w+)>|const (.*)&|(.*)&)$', r'\1\2\3', self.declared(p).removesuffix(' = 0').rsplit(' ', 1)[0])
 
     def text(self):
         lines = [wrapped(f'static Status call({self.signature()}) {{', 2)]
@@ -339,6 +353,15 @@ def functions(all_exports):
     return text + '}  // namespace QVX_POLICY\n}  // namespace qvx\n\n#endif\n'
 
 
+def typed(export, known):
+    """The argument that tells the types where nothing else does."""
+    # QvxsFIRState_32s is another name of a type.
+    signature = (export.key, *(p.type.replace('FIRState_32s', 'FIRState64f_32s') for p in export.parameters))
+    unclear = signature in known or not any(p.is_record for p in export.parameters)
+    known.add(signature)
+    return f'Types<{", ".join(export.elements)}>' if export.elements and unclear else None
+
+
 def handles(all_exports):
     """Functions with records: as in C, but overloaded. What tells no type by its arguments is given it."""
     text = TOP.format(what='All functions with a record, and those that return no status, with the arguments they have in C, as overloads.',
@@ -353,11 +376,9 @@ def handles(all_exports):
             text += f'\n// {e.header}: {heading(e)}\n'
             stem = e.key
         parameters = [f'{p.type} {p.name}' for p in e.parameters]
-        # QvxsFIRState_32s is another name of a type.
-        signature = (e.key, *(p.type.replace('FIRState_32s', 'FIRState64f_32s') for p in e.parameters))
-        if e.elements and (signature in known or not any(p.is_record for p in e.parameters)):
-            parameters.insert(0, f'Types<{", ".join(e.elements)}>')
-        known.add(signature)
+        types = typed(e, known)
+        if types:
+            parameters.insert(0, types)
         call = f'{e.name}({", ".join(p.name for p in e.parameters)})'
         text += wrapped(f'inline {e.result} {e.key}({", ".join(parameters)}) {{ return {call}; }}', 0) + '\n'
     text += '\n// The record of a stem for element types, in the order of its name: taps first.\n'
@@ -384,8 +405,61 @@ def names():
     return text + '  }\n  return "an unknown status";\n}\n\n}  // namespace qvx\n\n#endif\n'
 
 
+CALLS = '''// Stands in for the library: every function returns its number, or throws it if it returns no status.
+#define NDEBUG
+#define QVX_LENGTHS QVX_LENGTHS_ASSERTED
+#include <cstdio>
+#include <qvx/qvxs.hpp>
+
+using namespace qvx;
+
+int calls = 0;
+int wrong = 0;
+template <class Call>
+void expect(const char* name, int number, Call call) {{
+  int got = 0;
+  try {{
+    if constexpr (requires {{ static_cast<int>(call()); }}) got = static_cast<int>(call());
+    else static_cast<void>(call());
+  }} catch (int thrown) {{
+    got = thrown;
+  }}
+  ++calls;
+  if (got != number) std::printf("%s: the call ends elsewhere\\n", name), ++wrong;
+}}
+
+{stubs}
+
+int main() {{
+{calls}
+  std::printf("%d functions called, %d of them wrongly\\n", calls, wrong);
+  return wrong != 0;
+}}
+'''
+
+
+def calls(all_exports):
+    stubs, lines, known = [], [], set()
+    for number, e in enumerate(all_exports, 1):
+        parameters = ', '.join(f'{p.type} {p.name}' for p in e.parameters)
+        end = f'return static_cast<QvxStatus>({number});' if e.result == 'QvxStatus' else f'throw {number};'
+        stubs.append(f'extern "C" {e.result} {e.name}({parameters}) {{ {end} }}')
+        if e.result == 'QvxStatus' and not has_record(e):
+            overload = Overload(e)
+            types, callee, first = [overload.argument(p) for p in overload.kept()], e.key, []
+        else:
+            types, callee, first = [p.type for p in e.parameters], f'handles::{e.key}', [t for t in [typed(e, known)] if t]
+        declared = ' '.join(f'std::remove_const_t<{t}> a{i}{{}};' for i, t in enumerate(types))
+        arguments = ', '.join([f'{t}()' for t in first] + [f'a{i}' for i in range(len(types))])
+        lines.append(f'  expect("{e.name}", {number}, [] {{ {declared} return {callee}({arguments}); }});')
+    return CALLS.format(stubs='\n'.join(stubs), calls='\n'.join(lines))
+
+
 def main():
     every = exports()
+    if sys.argv[1:2] == ['--calls']:
+        Path(sys.argv[2]).write_text(calls(every))
+        return False
     bad = False
     for name, text in {'qvxs_functions.hpp': functions(every), 'qvxs_handles.hpp': handles(every), 'qvxs_names.hpp': names()}.items():
         path = INCLUDE / name

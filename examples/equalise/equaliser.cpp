@@ -21,32 +21,30 @@ std::vector<Qvx32f> readTaps(const std::string& path) {
 Equaliser::Equaliser(const std::vector<Qvx32f>& taps, int channels, int block) : block_(block) {
   const std::vector<Qvx64f> wide(taps.begin(), taps.end());
   for (int c = 0; c < channels; ++c) {
-    QvxsFIRState64f_32f* state = nullptr;
-    check(qvxsFIRInitAlloc64f_32f(&state, wide.data(), static_cast<int>(wide.size()), nullptr));
-    states_.emplace_back(state);
-    memory_.push_back(vector(qvxsMalloc_32f(kBlockFrames)));
-    samples_.push_back(memory_.back().get());
+    filters_.push_back(qvx::Fir<Qvx32f, Qvx64f>::make(wide).value());
+    samples_.push_back(memory_.emplace_back(kBlockFrames).data());
   }
 }
 
 void Equaliser::filter(const Qvx16s* src, int frames) {
-  check(qvxsSplitScaled_16s32f_D2L(src, samples_.data(), channels(), frames));
-  for (size_t c = 0; c < states_.size(); ++c) {
+  qvx::SplitScaled(std::span(src, samples_.size() * static_cast<size_t>(frames)), samples_, frames).orThrow();
+  for (size_t c = 0; c < filters_.size(); ++c) {
     for (int at = 0; at < frames; at += block_) {
-      check(qvxsFIR64f_32f_I(samples_[c] + at, std::min(block_, frames - at), states_[c].get()));
+      filters_[c].filter(std::span(samples_[c] + at, static_cast<size_t>(std::min(block_, frames - at)))).orThrow();
     }
   }
 }
 
 void Equaliser::result(Qvx16s* dst, int frames) const {
-  check(qvxsJoinScaled_32f16s_D2L(samples_.data(), channels(), frames, dst));
+  qvx::JoinScaled(samples_, frames, std::span(dst, samples_.size() * static_cast<size_t>(frames))).orThrow();
 }
 
 double Equaliser::distance(const Equaliser& other, int frames) const {
   double most = 0;
-  for (size_t c = 0; c < states_.size(); ++c) {
+  const auto len = static_cast<size_t>(frames);
+  for (size_t c = 0; c < samples_.size(); ++c) {
     Qvx32f distance = 0;
-    check(qvxsNormDiff_Inf_32f(samples_[c], other.samples_[c], frames, &distance));
+    qvx::NormDiff_Inf(std::span(samples_[c], len), std::span(other.samples_[c], len), distance).orThrow();
     most = std::max(most, static_cast<double>(distance));
   }
   return most;

@@ -1,6 +1,8 @@
 // A filter for all channels of a signal.
 #pragma once
 
+#include <qvx/qvxs.hpp>
+
 #include "../support/audio.h"
 
 // Numbers separated by white space, from # to the end of a line a comment. Throws unless there is one at least.
@@ -19,15 +21,8 @@ class Equaliser {
   int block() const { return block_; }
 
  private:
-  struct FreeState {
-    void operator()(QvxsFIRState64f_32f* state) const { qvxsFIRFree64f_32f(state); }
-  };
-  using State = std::unique_ptr<QvxsFIRState64f_32f, FreeState>;
-
-  int channels() const { return static_cast<int>(states_.size()); }
-
   int block_;
-  std::vector<State> states_;
-  std::vector<Vector<Qvx32f>> memory_;
+  std::vector<qvx::Fir<Qvx32f, Qvx64f>> filters_;
+  std::vector<std::vector<Qvx32f>> memory_;
   std::vector<Qvx32f*> samples_;  // of each channel
 };

@@ -2,16 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <qvx/qvxs.hpp>
 #include <stdexcept>
 
 namespace {
 
 // Silence has a level too.
 constexpr double kLeastDb = -300;
-
-struct EndOfRecord {
-  void operator()(QvxsFFTSpec_R_32f* record) const { qvxsFFTFree_R_32f(record); }
-};
 
 // What a block's window leaves of a sine so many bins off.
 double windowedSine(double bins) { return bins == 0 ? 1 : std::sin(M_PI * bins) / (M_PI * bins * (1 - bins * bins)); }
@@ -21,29 +18,23 @@ class Welch {
  public:
   explicit Welch(int order)
       : len_(1 << order),
-        window_(vector(qvxsMalloc_32f(len_))),
-        block_(vector(qvxsMalloc_32f(len_))),
-        spectrum_(vector(qvxsMalloc_32fc(bins()))),
-        power_(vector(qvxsMalloc_32f(bins()))),
-        sum_(vector(qvxsMalloc_64f(bins()))) {
-    QvxsFFTSpec_R_32f* record = nullptr;
-    check(qvxsFFTInitAlloc_R_32f(&record, order, QVX_FFT_SCALE_NONE, 0));
-    record_.reset(record);
-    int bytes = 0;
-    check(qvxsFFTGetBufSize_R_32f(record, &bytes));
-    if (bytes > 0) buffer_ = vector(qvxsMalloc_8u(bytes));
+        fft_(qvx::Fft<Qvx32f>::make(order, qvx::Scale::kNone).value()),
+        window_(fft_.size()),
+        block_(fft_.size()),
+        spectrum_(fft_.spectrumSize()),
+        power_(fft_.spectrumSize()),
+        sum_(fft_.spectrumSize()) {
     // A raised cosine, so that half-way blocks add up to 1, and a sine of full scale comes to 1 in the middle of a bin.
     for (int i = 0; i < len_; ++i) window_[i] = static_cast<Qvx32f>((1 - std::cos(2 * M_PI * i / len_)) * 2 / len_);
-    check(qvxsZero_64f(sum_.get(), bins()));
   }
 
   int len() const { return len_; }
   int bins() const { return len_ / 2 + 1; }
 
-  void add(const Qvx32f* samples) {
-    check(qvxsMul_32f(samples, window_.get(), block_.get(), len_));
-    check(qvxsFFTFwd_RToCCS_32f(block_.get(), &spectrum_[0].re, record_.get(), buffer_.get()));
-    check(qvxsPowerSpectr_32fc(spectrum_.get(), power_.get(), bins()));
+  void add(const std::vector<Qvx32f>& samples) {
+    qvx::Mul(samples, window_, block_).orThrow();
+    fft_.forward(block_, spectrum_).orThrow();
+    qvx::PowerSpectr(spectrum_, power_).orThrow();
     for (int k = 0; k < bins(); ++k) sum_[k] += power_[k];
     ++count_;
   }
@@ -58,13 +49,12 @@ class Welch {
  private:
   int len_;
   int64_t count_ = 0;
-  std::unique_ptr<QvxsFFTSpec_R_32f, EndOfRecord> record_;
-  Vector<Qvx8u> buffer_;
-  Vector<Qvx32f> window_;
-  Vector<Qvx32f> block_;
-  Vector<Qvx32fc> spectrum_;
-  Vector<Qvx32f> power_;
-  Vector<Qvx64f> sum_;
+  qvx::Fft<Qvx32f> fft_;
+  std::vector<Qvx32f> window_;
+  std::vector<Qvx32f> block_;
+  std::vector<Qvx32fc> spectrum_;
+  std::vector<Qvx32f> power_;
+  std::vector<Qvx64f> sum_;
 };
 
 // The last samples of each channel.
@@ -113,7 +103,7 @@ Spectrum spectrumOf(const std::string& path, int order) {
   int fresh = 2 * step;  // zeros where the file has no more
   do {
     channels.push(frames.data(), fresh);
-    for (const std::vector<Qvx32f>& samples : channels.each()) welch.add(samples.data());
+    for (const std::vector<Qvx32f>& samples : channels.each()) welch.add(samples);
     ++blocks;
     fresh = step;
   } while (readFully(input, frames.data(), step) == step);  // what does not fill a step is left out

@@ -38,8 +38,6 @@ struct WaveletInverseStem {
   static QvxStatus free(auto* record) { return handles::WTInvFree(record); }
 };
 
-template <class T> int count(std::span<T> vector) { return static_cast<int>(vector.size()); }
-
 // Taps of these integers are given times a power of two.
 template <class T, class Tap>
 inline constexpr bool kTapsHaveFactor = kIntegral<Tap> && !(std::is_same_v<T, Qvx32s> && std::is_same_v<Tap, Qvx32s>);
@@ -120,13 +118,13 @@ template <class T, class Tap = T> class Fir : public records::FirRecord<T, Tap> 
 
   template <class... S>
   requires detail::Scaled<T, S...> Status filter(detail::Source<T> src, detail::Target<T> dst, S... scaleFactor) {
-    QVX_REQUIRE(detail::countable(std::span(src)) && src.size() == dst.size());
-    return handles::FIR(src.data(), dst.data(), records::count(std::span(src)), this->record(), scaleFactor...);
+    QVX_REQUIRE(detail::countable(src.size()) && src.size() == dst.size());
+    return handles::FIR(src.data(), dst.data(), detail::length(src.size()), this->record(), scaleFactor...);
   }
   template <class... S>
   requires detail::Scaled<T, S...> Status filter(detail::Target<T> srcDst, S... scaleFactor) {
-    QVX_REQUIRE(detail::countable(std::span(srcDst)));
-    return handles::FIR(srcDst.data(), records::count(std::span(srcDst)), this->record(), scaleFactor...);
+    QVX_REQUIRE(detail::countable(srcDst.size()));
+    return handles::FIR(srcDst.data(), detail::length(srcDst.size()), this->record(), scaleFactor...);
   }
   template <class... S>
   requires detail::Scaled<T, S...> Status filterOne(T sample, T& dst, S... scaleFactor) {
@@ -197,6 +195,7 @@ template <class T, class Tap = T> class Resampler : public records::FirRecord<T,
 
 // A FIR filter, of several rates too, that keeps no samples: src begins with the historySize() samples before the first.
 template <class T> class StreamFir {
+  static_assert(std::is_same_v<T, Qvx32f> || std::is_same_v<T, Qvx16s>, "qvx: qvx::StreamFir takes Qvx32f or Qvx16s");
   using Record = typename handles::RecordOf<handles::FIRStem, T>::type;
 
  public:
@@ -253,23 +252,22 @@ class SparseFir {
   static Result<SparseFir> make(detail::Source<Qvx32f> taps, detail::Source<Qvx32s> positions,
                                 detail::Source<Qvx32f> delayLine = {}) {
     const int order = positions.empty() ? 0 : positions.back();
-    QVX_REQUIRE(taps.size() == positions.size() && (delayLine.empty() || detail::atLeast(std::span(delayLine), order)));
+    QVX_REQUIRE(taps.size() == positions.size() && (delayLine.empty() || detail::atLeast(delayLine.size(), order)));
     int bytes = 0;
-    Status status =
-        handles::FIRSparseGetStateSize(Types<Qvx32f>(), records::count(std::span(taps)), order < 1 ? 1 : order, &bytes);
+    Status status = handles::FIRSparseGetStateSize(Types<Qvx32f>(), detail::length(taps.size()), order < 1 ? 1 : order, &bytes);
     if (status.refused()) return status;
     Result<Vector<Qvx8u>> block = Vector<Qvx8u>::make(static_cast<size_t>(bytes));
     if (!block) return block.error();
     SparseFir made;
     made.block_ = std::move(*block);
-    status = handles::FIRSparseInit(&made.record_, taps.data(), positions.data(), records::count(std::span(taps)),
+    status = handles::FIRSparseInit(&made.record_, taps.data(), positions.data(), detail::length(taps.size()),
                                     detail::optional<const Qvx32f>(delayLine), made.block_.data());
     if (status.refused()) return status;
     return made;
   }
   Status filter(detail::Source<Qvx32f> src, detail::Target<Qvx32f> dst) {
-    QVX_REQUIRE(detail::countable(std::span(src)) && src.size() == dst.size());
-    return handles::FIRSparse(src.data(), dst.data(), records::count(std::span(src)), record_);
+    QVX_REQUIRE(detail::countable(src.size()) && src.size() == dst.size());
+    return handles::FIRSparse(src.data(), dst.data(), detail::length(src.size()), record_);
   }
 
  private:
@@ -282,11 +280,11 @@ class SparseIir {
  public:
   static Result<SparseIir> make(detail::Source<Qvx32f> taps, detail::Source<Qvx32s> positions, int tapsB,
                                 detail::Source<Qvx32f> delayLine = {}) {
-    QVX_REQUIRE(taps.size() == positions.size() && tapsB > 0 && detail::atLeast(std::span(positions), int64_t{tapsB} + 1));
+    QVX_REQUIRE(taps.size() == positions.size() && tapsB > 0 && detail::atLeast(positions.size(), int64_t{tapsB} + 1));
     const int orderB = positions[static_cast<size_t>(tapsB) - 1];
     const int orderA = positions.back();
-    QVX_REQUIRE(delayLine.empty() || detail::atLeast(std::span(delayLine), int64_t{orderA} + orderB));
-    const int tapsA = records::count(std::span(taps)) - tapsB;
+    QVX_REQUIRE(delayLine.empty() || detail::atLeast(delayLine.size(), int64_t{orderA} + orderB));
+    const int tapsA = detail::length(taps.size()) - tapsB;
     int bytes = 0;
     Status status = handles::IIRSparseGetStateSize(Types<Qvx32f>(), tapsB, tapsA, orderB, orderA, &bytes);
     if (status.refused()) return status;
@@ -300,8 +298,8 @@ class SparseIir {
     return made;
   }
   Status filter(detail::Source<Qvx32f> src, detail::Target<Qvx32f> dst) {
-    QVX_REQUIRE(detail::countable(std::span(src)) && src.size() == dst.size());
-    return handles::IIRSparse(src.data(), dst.data(), records::count(std::span(src)), record_);
+    QVX_REQUIRE(detail::countable(src.size()) && src.size() == dst.size());
+    return handles::IIRSparse(src.data(), dst.data(), detail::length(src.size()), record_);
   }
 
  private:
@@ -349,13 +347,13 @@ template <class T, class Tap = T> class Iir {
 
   template <class... S>
   requires detail::Scaled<T, S...> Status filter(detail::Source<T> src, detail::Target<T> dst, S... scaleFactor) {
-    QVX_REQUIRE(detail::countable(std::span(src)) && src.size() == dst.size());
-    return handles::IIR(src.data(), dst.data(), records::count(std::span(src)), owner_.get(), scaleFactor...);
+    QVX_REQUIRE(detail::countable(src.size()) && src.size() == dst.size());
+    return handles::IIR(src.data(), dst.data(), detail::length(src.size()), owner_.get(), scaleFactor...);
   }
   template <class... S>
   requires detail::Scaled<T, S...> Status filter(detail::Target<T> srcDst, S... scaleFactor) {
-    QVX_REQUIRE(detail::countable(std::span(srcDst)));
-    return handles::IIR(srcDst.data(), records::count(std::span(srcDst)), owner_.get(), scaleFactor...);
+    QVX_REQUIRE(detail::countable(srcDst.size()));
+    return handles::IIR(srcDst.data(), detail::length(srcDst.size()), owner_.get(), scaleFactor...);
   }
   template <class... S>
   requires detail::Scaled<T, S...> Status filterOne(T sample, T& dst, S... scaleFactor) {
@@ -431,8 +429,8 @@ template <class T> class Lms {
   static Result<Lms> make(int tapsLen) { return build(static_cast<size_t>(tapsLen < 0 ? 0 : tapsLen), nullptr, nullptr, 0); }
 
   Status filter(detail::Source<T> src, detail::Source<T> reference, detail::Target<T> dst, Qvx32f mu) {
-    QVX_REQUIRE(detail::countable(std::span(src)) && src.size() == reference.size() && src.size() == dst.size());
-    return handles::FIRLMS(src.data(), reference.data(), dst.data(), records::count(std::span(src)), owner_.get(), mu);
+    QVX_REQUIRE(detail::countable(src.size()) && src.size() == reference.size() && src.size() == dst.size());
+    return handles::FIRLMS(src.data(), reference.data(), dst.data(), detail::length(src.size()), owner_.get(), mu);
   }
   size_t tapsSize() const { return tapsLen_; }
   Status taps(detail::Target<Qvx32f> dst) const {
@@ -463,6 +461,8 @@ template <class T> class Lms {
 
 // An adaptive filter that gives one result for downFactor samples, of Qvx16s with taps of Qvx32s or complex ones.
 template <class T> class LmsDecimator {
+  static_assert(std::is_same_v<T, Qvx16s> || std::is_same_v<T, Qvx16sc>, "qvx: qvx::LmsDecimator takes Qvx16s or Qvx16sc");
+
  public:
   using Tap = std::conditional_t<std::is_same_v<T, Qvx16sc>, Qvx32sc, Qvx32s>;
 
@@ -470,8 +470,8 @@ template <class T> class LmsDecimator {
   static Result<LmsDecimator> make(detail::Source<Tap> taps, int downFactor, Qvx32f mu, detail::Source<T> delayLine = {}) {
     QVX_REQUIRE(delayLine.empty() || delayLine.size() == taps.size());
     LmsDecimator made;
-    const Status status = handles::FIRLMSMRInitAlloc(made.owner_.slot(), taps.data(), records::count(std::span(taps)), downFactor,
-                                                     mu, detail::optional<const T>(delayLine));
+    const Status status = handles::FIRLMSMRInitAlloc(made.owner_.slot(), taps.data(), detail::length(taps.size()), downFactor, mu,
+                                                     detail::optional<const T>(delayLine));
     if (status.refused()) return status;
     made.tapsLen_ = taps.size();
     made.downFactor_ = static_cast<size_t>(downFactor);
@@ -479,8 +479,8 @@ template <class T> class LmsDecimator {
   }
   // src: downFactor samples for each result.
   Status filter(detail::Source<T> src, detail::Source<T> reference, detail::Target<T> dst, int scaleFactor) {
-    QVX_REQUIRE(detail::countable(std::span(dst)) && src.size() == dst.size() * downFactor_ && reference.size() == dst.size());
-    return handles::FIRLMSMR(src.data(), reference.data(), dst.data(), records::count(std::span(dst)), owner_.get(), scaleFactor);
+    QVX_REQUIRE(detail::countable(dst.size()) && src.size() == dst.size() * downFactor_ && reference.size() == dst.size());
+    return handles::FIRLMSMR(src.data(), reference.data(), dst.data(), detail::length(dst.size()), owner_.get(), scaleFactor);
   }
   // The parts of a step: take a sample, give a result, adapt to its error.
   Status put(T sample) { return handles::FIRLMSMRPutVal(sample, owner_.get()); }
@@ -531,8 +531,8 @@ template <class T> class WaveletForward {
  public:
   static Result<WaveletForward> make(const Band& low, const Band& high) {
     WaveletForward made;
-    const Status status = handles::WTFwdInitAlloc(made.owner_.slot(), low.taps.data(), records::count(low.taps), low.offset,
-                                                  high.taps.data(), records::count(high.taps), high.offset);
+    const Status status = handles::WTFwdInitAlloc(made.owner_.slot(), low.taps.data(), detail::length(low.taps.size()),
+                                                  low.offset, high.taps.data(), detail::length(high.taps.size()), high.offset);
     if (status.refused()) return status;
     made.lowLen_ = low.kept();
     made.highLen_ = high.kept();
@@ -540,8 +540,8 @@ template <class T> class WaveletForward {
   }
   // src: twice as many samples as low and high each.
   Status split(detail::Source<T> src, detail::Target<Qvx32f> low, detail::Target<Qvx32f> high) {
-    QVX_REQUIRE(detail::countable(std::span(low)) && low.size() == high.size() && src.size() == 2 * low.size());
-    return handles::WTFwd(src.data(), low.data(), high.data(), records::count(std::span(low)), owner_.get());
+    QVX_REQUIRE(detail::countable(low.size()) && low.size() == high.size() && src.size() == 2 * low.size());
+    return handles::WTFwd(src.data(), low.data(), high.data(), detail::length(low.size()), owner_.get());
   }
   // What each band keeps, oldest first.
   size_t lowSize() const { return lowLen_; }
@@ -569,16 +569,16 @@ template <class T> class WaveletInverse {
  public:
   static Result<WaveletInverse> make(const Band& low, const Band& high) {
     WaveletInverse made;
-    const Status status = handles::WTInvInitAlloc(made.owner_.slot(), low.taps.data(), records::count(low.taps), low.offset,
-                                                  high.taps.data(), records::count(high.taps), high.offset);
+    const Status status = handles::WTInvInitAlloc(made.owner_.slot(), low.taps.data(), detail::length(low.taps.size()),
+                                                  low.offset, high.taps.data(), detail::length(high.taps.size()), high.offset);
     if (status.refused()) return status;
     made.lowLen_ = low.kept() / 2;
     made.highLen_ = high.kept() / 2;
     return made;
   }
   Status join(detail::Source<Qvx32f> low, detail::Source<Qvx32f> high, detail::Target<T> dst) {
-    QVX_REQUIRE(detail::countable(std::span(low)) && low.size() == high.size() && dst.size() == 2 * low.size());
-    return handles::WTInv(low.data(), high.data(), records::count(std::span(low)), dst.data(), owner_.get());
+    QVX_REQUIRE(detail::countable(low.size()) && low.size() == high.size() && dst.size() == 2 * low.size());
+    return handles::WTInv(low.data(), high.data(), detail::length(low.size()), dst.data(), owner_.get());
   }
   size_t lowSize() const { return lowLen_; }
   size_t highSize() const { return highLen_; }

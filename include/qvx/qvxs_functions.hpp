@@ -17,116 +17,116 @@ using namespace qvx::detail;
 namespace exports {
 struct Add {
   static Status call(In<Qvx8u> src1, In<Qvx8u> src2, Out<Qvx8u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_8u_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_8u_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAdd_8u_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAdd_8u_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx8u> src1, In<Qvx8u> src2, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_8u16u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_8u16u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_16s(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_16s(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAdd_16s_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAdd_16s_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_16s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_16s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAdd_16s_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAdd_16s_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src1, In<Qvx16u> src2, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_16u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_16u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16u> src1, In<Qvx16u> src2, Out<Qvx16u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_16u_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_16u_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAdd_16u_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAdd_16u_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src1, In<Qvx16sc> src2, Out<Qvx16sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_16sc_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_16sc_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAdd_16sc_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAdd_16sc_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_16s32f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_16s32f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx32s> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAdd_16s32s_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAdd_16s32s_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32u> src1, In<Qvx32u> src2, Out<Qvx32u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_32u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_32u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32s> src1, In<Qvx32s> src2, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_32s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_32s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAdd_32s_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAdd_32s_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src1, In<Qvx32sc> src2, Out<Qvx32sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_32sc_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_32sc_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src, Out<Qvx32sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAdd_32sc_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAdd_32sc_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_32f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_32f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAdd_32f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAdd_32f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32fc> src1, In<Qvx32fc> src2, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_32fc(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_32fc(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAdd_32fc_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAdd_32fc_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_64f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_64f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAdd_64f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAdd_64f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src1, In<Qvx64fc> src2, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_64fc(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_64fc(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAdd_64fc_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAdd_64fc_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64s> src1, In<Qvx64s> src2, Out<Qvx64s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAdd_64s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAdd_64s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -148,97 +148,97 @@ template <class... Arguments>
 namespace exports {
 struct AddC {
   static Status call(In<Qvx8u> src, Value<Qvx8u> val, Out<Qvx8u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAddC_8u_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAddC_8u_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx8u> val, Out<Qvx8u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAddC_8u_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAddC_8u_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16s> val, Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAddC_16s_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAddC_16s_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16s> src, Value<Qvx16s> val, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAddC_16s_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAddC_16s_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16s> val, Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAddC_16s_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAddC_16s_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src, Value<Qvx16u> val, Out<Qvx16u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAddC_16u_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAddC_16u_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16u> val, Out<Qvx16u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAddC_16u_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAddC_16u_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Value<Qvx16sc> val, Out<Qvx16sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAddC_16sc_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAddC_16sc_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16sc> val, Out<Qvx16sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAddC_16sc_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAddC_16sc_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Value<Qvx32s> val, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAddC_32s_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAddC_32s_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx32s> val, Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAddC_32s_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAddC_32s_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src, Value<Qvx32sc> val, Out<Qvx32sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAddC_32sc_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAddC_32sc_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx32sc> val, Out<Qvx32sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAddC_32sc_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAddC_32sc_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> src, Value<Qvx32f> val, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAddC_32f(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAddC_32f(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx32f> val, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAddC_32f_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAddC_32f_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Value<Qvx32fc> val, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAddC_32fc(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAddC_32fc(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx32fc> val, Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAddC_32fc_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAddC_32fc_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Value<Qvx64f> val, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAddC_64f(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAddC_64f(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx64f> val, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAddC_64f_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAddC_64f_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Value<Qvx64fc> val, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAddC_64fc(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAddC_64fc(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx64fc> val, Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAddC_64fc_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAddC_64fc_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64s> src, Value<Qvx64s> val, Out<Qvx64s> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable<Qvx32u>(src) && sameLength(dst, src));
-    return qvxsAddC_64s_Sfs(pointer(src), val.number, pointer(dst), length<Qvx32u>(src), scaleFactor.number,
+    QVX_REQUIRE(countableUnsigned(src.size()) && dst.size() == src.size());
+    return qvxsAddC_64s_Sfs(src.data(), val.number, dst.data(), unsignedLength(src.size()), scaleFactor.number,
         static_cast<QvxRoundMode>(rndMode));
   }
   static Status call(In<Qvx64u> src, Value<Qvx64u> val, Out<Qvx64u> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable<Qvx32u>(src) && sameLength(dst, src));
-    return qvxsAddC_64u_Sfs(pointer(src), val.number, pointer(dst), length<Qvx32u>(src), scaleFactor.number,
+    QVX_REQUIRE(countableUnsigned(src.size()) && dst.size() == src.size());
+    return qvxsAddC_64u_Sfs(src.data(), val.number, dst.data(), unsignedLength(src.size()), scaleFactor.number,
         static_cast<QvxRoundMode>(rndMode));
   }
 };
@@ -261,32 +261,32 @@ template <class... Arguments>
 namespace exports {
 struct AddProduct {
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(srcDst, src1));
-    return qvxsAddProduct_16s_Sfs(pointer(src1), pointer(src2), pointer(srcDst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && srcDst.size() == src1.size());
+    return qvxsAddProduct_16s_Sfs(src1.data(), src2.data(), srcDst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(srcDst, src1));
-    return qvxsAddProduct_16s32s_Sfs(pointer(src1), pointer(src2), pointer(srcDst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && srcDst.size() == src1.size());
+    return qvxsAddProduct_16s32s_Sfs(src1.data(), src2.data(), srcDst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src1, In<Qvx32s> src2, Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(srcDst, src1));
-    return qvxsAddProduct_32s_Sfs(pointer(src1), pointer(src2), pointer(srcDst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && srcDst.size() == src1.size());
+    return qvxsAddProduct_32s_Sfs(src1.data(), src2.data(), srcDst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(srcDst, src1));
-    return qvxsAddProduct_32f(pointer(src1), pointer(src2), pointer(srcDst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && srcDst.size() == src1.size());
+    return qvxsAddProduct_32f(src1.data(), src2.data(), srcDst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(srcDst, src1));
-    return qvxsAddProduct_64f(pointer(src1), pointer(src2), pointer(srcDst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && srcDst.size() == src1.size());
+    return qvxsAddProduct_64f(src1.data(), src2.data(), srcDst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32fc> src1, In<Qvx32fc> src2, Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(srcDst, src1));
-    return qvxsAddProduct_32fc(pointer(src1), pointer(src2), pointer(srcDst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && srcDst.size() == src1.size());
+    return qvxsAddProduct_32fc(src1.data(), src2.data(), srcDst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64fc> src1, In<Qvx64fc> src2, Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(srcDst, src1));
-    return qvxsAddProduct_64fc(pointer(src1), pointer(src2), pointer(srcDst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && srcDst.size() == src1.size());
+    return qvxsAddProduct_64fc(src1.data(), src2.data(), srcDst.data(), length(src1.size()));
   }
 };
 }  // namespace exports
@@ -306,8 +306,8 @@ template <class... Arguments>
 namespace exports {
 struct AddProductC {
   static Status call(In<Qvx32f> src, Value<Qvx32f> val, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAddProductC_32f(pointer(src), val.number, pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAddProductC_32f(src.data(), val.number, srcDst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -326,96 +326,96 @@ template <class... Arguments>
 namespace exports {
 struct Sub {
   static Status call(In<Qvx8u> src1, In<Qvx8u> src2, Out<Qvx8u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsSub_8u_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsSub_8u_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsSub_8u_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsSub_8u_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsSub_16s(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsSub_16s(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsSub_16s_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsSub_16s_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsSub_16s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsSub_16s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsSub_16s_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsSub_16s_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src1, In<Qvx16u> src2, Out<Qvx16u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsSub_16u_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsSub_16u_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsSub_16u_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsSub_16u_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src1, In<Qvx16sc> src2, Out<Qvx16sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsSub_16sc_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsSub_16sc_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsSub_16sc_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsSub_16sc_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsSub_16s32f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsSub_16s32f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32s> src1, In<Qvx32s> src2, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsSub_32s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsSub_32s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsSub_32s_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsSub_32s_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src1, In<Qvx32sc> src2, Out<Qvx32sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsSub_32sc_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsSub_32sc_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src, Out<Qvx32sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsSub_32sc_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsSub_32sc_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsSub_32f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsSub_32f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsSub_32f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsSub_32f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32fc> src1, In<Qvx32fc> src2, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsSub_32fc(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsSub_32fc(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsSub_32fc_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsSub_32fc_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsSub_64f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsSub_64f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsSub_64f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsSub_64f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src1, In<Qvx64fc> src2, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsSub_64fc(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsSub_64fc(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsSub_64fc_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsSub_64fc_I(src.data(), srcDst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -436,88 +436,88 @@ template <class... Arguments>
 namespace exports {
 struct SubC {
   static Status call(In<Qvx8u> src, Value<Qvx8u> val, Out<Qvx8u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubC_8u_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubC_8u_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx8u> val, Out<Qvx8u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubC_8u_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubC_8u_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16s> val, Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubC_16s_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubC_16s_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16s> src, Value<Qvx16s> val, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubC_16s_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubC_16s_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16s> val, Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubC_16s_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubC_16s_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src, Value<Qvx16u> val, Out<Qvx16u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubC_16u_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubC_16u_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16u> val, Out<Qvx16u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubC_16u_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubC_16u_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Value<Qvx16sc> val, Out<Qvx16sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubC_16sc_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubC_16sc_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16sc> val, Out<Qvx16sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubC_16sc_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubC_16sc_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Value<Qvx32s> val, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubC_32s_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubC_32s_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx32s> val, Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubC_32s_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubC_32s_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src, Value<Qvx32sc> val, Out<Qvx32sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubC_32sc_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubC_32sc_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx32sc> val, Out<Qvx32sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubC_32sc_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubC_32sc_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> src, Value<Qvx32f> val, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubC_32f(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubC_32f(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx32f> val, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubC_32f_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubC_32f_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Value<Qvx32fc> val, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubC_32fc(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubC_32fc(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx32fc> val, Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubC_32fc_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubC_32fc_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Value<Qvx64f> val, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubC_64f(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubC_64f(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx64f> val, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubC_64f_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubC_64f_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Value<Qvx64fc> val, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubC_64fc(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubC_64fc(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx64fc> val, Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubC_64fc_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubC_64fc_I(val.number, srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -538,84 +538,84 @@ template <class... Arguments>
 namespace exports {
 struct SubCRev {
   static Status call(In<Qvx8u> src, Value<Qvx8u> val, Out<Qvx8u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubCRev_8u_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubCRev_8u_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx8u> val, Out<Qvx8u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubCRev_8u_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubCRev_8u_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Value<Qvx16s> val, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubCRev_16s_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubCRev_16s_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16s> val, Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubCRev_16s_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubCRev_16s_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src, Value<Qvx16u> val, Out<Qvx16u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubCRev_16u_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubCRev_16u_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16u> val, Out<Qvx16u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubCRev_16u_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubCRev_16u_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Value<Qvx16sc> val, Out<Qvx16sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubCRev_16sc_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubCRev_16sc_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16sc> val, Out<Qvx16sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubCRev_16sc_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubCRev_16sc_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Value<Qvx32s> val, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubCRev_32s_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubCRev_32s_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx32s> val, Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubCRev_32s_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubCRev_32s_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src, Value<Qvx32sc> val, Out<Qvx32sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubCRev_32sc_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubCRev_32sc_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx32sc> val, Out<Qvx32sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubCRev_32sc_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubCRev_32sc_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> src, Value<Qvx32f> val, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubCRev_32f(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubCRev_32f(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx32f> val, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubCRev_32f_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubCRev_32f_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Value<Qvx32fc> val, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubCRev_32fc(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubCRev_32fc(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx32fc> val, Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubCRev_32fc_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubCRev_32fc_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Value<Qvx64f> val, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubCRev_64f(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubCRev_64f(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx64f> val, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubCRev_64f_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubCRev_64f_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Value<Qvx64fc> val, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSubCRev_64fc(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSubCRev_64fc(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx64fc> val, Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSubCRev_64fc_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSubCRev_64fc_I(val.number, srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -637,124 +637,124 @@ template <class... Arguments>
 namespace exports {
 struct Mul {
   static Status call(In<Qvx8u> src1, In<Qvx8u> src2, Out<Qvx8u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_8u_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_8u_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_8u_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_8u_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx8u> src1, In<Qvx8u> src2, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_8u16u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_8u16u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_16s(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_16s(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_16s_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_16s_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_16s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_16s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_16s_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_16s_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src1, In<Qvx16u> src2, Out<Qvx16u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_16u_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_16u_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_16u_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_16u_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src1, In<Qvx16s> src2, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_16u16s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_16u16s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_16s32s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_16s32s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_16s32f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_16s32f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16sc> src1, In<Qvx16sc> src2, Out<Qvx16sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_16sc_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_16sc_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_16sc_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_16sc_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src1, In<Qvx32s> src2, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_32s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_32s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_32s_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_32s_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src1, In<Qvx32sc> src2, Out<Qvx32sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_32sc_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_32sc_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src, Out<Qvx32sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_32sc_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_32sc_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src1, In<Qvx32sc> src2, Out<Qvx32sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_32s32sc_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_32s32sc_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_32s32sc_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_32s32sc_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_32f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_32f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_32f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_32f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32fc> src1, In<Qvx32fc> src2, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_32fc(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_32fc(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_32fc_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_32fc_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32f> src1, In<Qvx32fc> src2, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_32f32fc(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_32f32fc(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_32f32fc_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_32f32fc_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_64f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_64f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_64f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_64f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src1, In<Qvx64fc> src2, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_64fc(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_64fc(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMul_64fc_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMul_64fc_I(src.data(), srcDst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -776,8 +776,8 @@ template <class... Arguments>
 namespace exports {
 struct Mul_Low {
   static Status call(In<Qvx32s> src1, In<Qvx32s> src2, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMul_Low_32s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMul_Low_32s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -796,100 +796,100 @@ template <class... Arguments>
 namespace exports {
 struct MulC {
   static Status call(In<Qvx8u> src, Value<Qvx8u> val, Out<Qvx8u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMulC_8u_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMulC_8u_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx8u> val, Out<Qvx8u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsMulC_8u_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsMulC_8u_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16s> val, Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsMulC_16s_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsMulC_16s_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16s> src, Value<Qvx16s> val, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMulC_16s_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMulC_16s_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16s> val, Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsMulC_16s_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsMulC_16s_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src, Value<Qvx16u> val, Out<Qvx16u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMulC_16u_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMulC_16u_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16u> val, Out<Qvx16u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsMulC_16u_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsMulC_16u_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Value<Qvx16sc> val, Out<Qvx16sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMulC_16sc_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMulC_16sc_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16sc> val, Out<Qvx16sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsMulC_16sc_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsMulC_16sc_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Value<Qvx32s> val, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMulC_32s_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMulC_32s_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx32s> val, Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsMulC_32s_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsMulC_32s_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src, Value<Qvx32sc> val, Out<Qvx32sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMulC_32sc_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMulC_32sc_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx32sc> val, Out<Qvx32sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsMulC_32sc_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsMulC_32sc_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> src, Value<Qvx32f> val, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMulC_32f(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMulC_32f(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx32f> val, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsMulC_32f_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsMulC_32f_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Value<Qvx32fc> val, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMulC_32fc(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMulC_32fc(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx32fc> val, Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsMulC_32fc_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsMulC_32fc_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Value<Qvx64f> val, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMulC_64f(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMulC_64f(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx64f> val, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsMulC_64f_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsMulC_64f_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Value<Qvx64fc> val, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMulC_64fc(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMulC_64fc(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx64fc> val, Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsMulC_64fc_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsMulC_64fc_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32f> src, Value<Qvx32f> val, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMulC_32f16s_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMulC_32f16s_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx64s> val, Out<Qvx64s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable<Qvx32u>(srcDst));
-    return qvxsMulC_64s_ISfs(val.number, pointer(srcDst), length<Qvx32u>(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countableUnsigned(srcDst.size()));
+    return qvxsMulC_64s_ISfs(val.number, srcDst.data(), unsignedLength(srcDst.size()), scaleFactor.number);
   }
   static Status call(Fraction<Qvx64f> val, Out<Qvx64s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable<Qvx32u>(srcDst));
-    return qvxsMulC_64f64s_ISfs(val.number, pointer(srcDst), length<Qvx32u>(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countableUnsigned(srcDst.size()));
+    return qvxsMulC_64f64s_ISfs(val.number, srcDst.data(), unsignedLength(srcDst.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -911,8 +911,8 @@ template <class... Arguments>
 namespace exports {
 struct MulC_Low {
   static Status call(In<Qvx32f> src, Value<Qvx32f> val, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMulC_Low_32f16s(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMulC_Low_32f16s(src.data(), val.number, dst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -931,80 +931,80 @@ template <class... Arguments>
 namespace exports {
 struct Div {
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_32f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_32f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_64f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_64f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32fc> src1, In<Qvx32fc> src2, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_32fc(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_32fc(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64fc> src1, In<Qvx64fc> src2, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_64fc(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_64fc(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx8u> src1, In<Qvx8u> src2, Out<Qvx8u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_8u_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_8u_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src1, In<Qvx16u> src2, Out<Qvx16u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_16u_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_16u_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_16s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_16s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src1, In<Qvx16sc> src2, Out<Qvx16sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_16sc_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_16sc_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src1, In<Qvx32s> src2, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_32s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_32s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src1, In<Qvx32s> src2, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_32s16s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_32s16s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsDiv_32f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsDiv_32f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsDiv_64f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsDiv_64f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsDiv_32fc_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsDiv_32fc_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsDiv_64fc_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsDiv_64fc_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsDiv_8u_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsDiv_8u_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsDiv_16u_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsDiv_16u_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsDiv_16s_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsDiv_16s_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsDiv_16sc_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsDiv_16sc_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsDiv_32s_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsDiv_32s_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -1025,72 +1025,72 @@ template <class... Arguments>
 namespace exports {
 struct DivC {
   static Status call(In<Qvx32f> src, Value<Qvx32f> val, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsDivC_32f(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsDivC_32f(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src, Value<Qvx64f> val, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsDivC_64f(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsDivC_64f(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32fc> src, Value<Qvx32fc> val, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsDivC_32fc(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsDivC_32fc(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src, Value<Qvx64fc> val, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsDivC_64fc(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsDivC_64fc(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(In<Qvx8u> src, Value<Qvx8u> val, Out<Qvx8u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsDivC_8u_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsDivC_8u_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src, Value<Qvx16u> val, Out<Qvx16u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsDivC_16u_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsDivC_16u_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Value<Qvx16s> val, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsDivC_16s_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsDivC_16s_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Value<Qvx16sc> val, Out<Qvx16sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsDivC_16sc_Sfs(pointer(src), val.number, pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsDivC_16sc_Sfs(src.data(), val.number, dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx32f> val, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsDivC_32f_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsDivC_32f_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(Value<Qvx64f> val, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsDivC_64f_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsDivC_64f_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(Value<Qvx32fc> val, Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsDivC_32fc_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsDivC_32fc_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(Value<Qvx64fc> val, Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsDivC_64fc_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsDivC_64fc_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(Value<Qvx8u> val, Out<Qvx8u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsDivC_8u_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsDivC_8u_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16u> val, Out<Qvx16u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsDivC_16u_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsDivC_16u_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16s> val, Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsDivC_16s_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsDivC_16s_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx16sc> val, Out<Qvx16sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsDivC_16sc_ISfs(val.number, pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsDivC_16sc_ISfs(val.number, srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(Value<Qvx64s> val, Out<Qvx64s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable<Qvx32u>(srcDst));
-    return qvxsDivC_64s_ISfs(val.number, pointer(srcDst), length<Qvx32u>(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countableUnsigned(srcDst.size()));
+    return qvxsDivC_64s_ISfs(val.number, srcDst.data(), unsignedLength(srcDst.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -1111,20 +1111,20 @@ template <class... Arguments>
 namespace exports {
 struct DivCRev {
   static Status call(In<Qvx32f> src, Value<Qvx32f> val, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsDivCRev_32f(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsDivCRev_32f(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16u> src, Value<Qvx16u> val, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsDivCRev_16u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsDivCRev_16u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx32f> val, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsDivCRev_32f_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsDivCRev_32f_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(Value<Qvx16u> val, Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsDivCRev_16u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsDivCRev_16u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -1144,33 +1144,33 @@ template <class... Arguments>
 namespace exports {
 struct Div_Round {
   static Status call(In<Qvx8u> src1, In<Qvx8u> src2, Out<Qvx8u> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_Round_8u_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_Round_8u_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> srcDst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsDiv_Round_8u_ISfs(pointer(src), pointer(srcDst), length(src), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsDiv_Round_8u_ISfs(src.data(), srcDst.data(), length(src.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx16u> src1, In<Qvx16u> src2, Out<Qvx16u> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_Round_16u_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_Round_16u_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> srcDst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsDiv_Round_16u_ISfs(pointer(src), pointer(srcDst), length(src), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsDiv_Round_16u_ISfs(src.data(), srcDst.data(), length(src.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsDiv_Round_16s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsDiv_Round_16s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> srcDst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsDiv_Round_16s_ISfs(pointer(src), pointer(srcDst), length(src), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsDiv_Round_16s_ISfs(src.data(), srcDst.data(), length(src.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
 };
@@ -1191,68 +1191,68 @@ template <class... Arguments>
 namespace exports {
 struct Sqr {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqr_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqr_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqr_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqr_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqr_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqr_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqr_32fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqr_32fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqr_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqr_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqr_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqr_64f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqr_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqr_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqr_64fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqr_64fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqr_8u_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqr_8u_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx8u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqr_8u_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqr_8u_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqr_16u_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqr_16u_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx16u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqr_16u_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqr_16u_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqr_16s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqr_16s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqr_16s_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqr_16s_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqr_16sc_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqr_16sc_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqr_16sc_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqr_16sc_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -1273,84 +1273,84 @@ template <class... Arguments>
 namespace exports {
 struct Sqrt {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqrt_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqrt_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqrt_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqrt_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqrt_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqrt_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqrt_32fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqrt_32fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqrt_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqrt_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqrt_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqrt_64f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqrt_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqrt_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqrt_64fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqrt_64fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqrt_8u_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqrt_8u_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx8u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqrt_8u_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqrt_8u_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqrt_16u_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqrt_16u_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx16u> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqrt_16u_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqrt_16u_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqrt_16s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqrt_16s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqrt_16s_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqrt_16s_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqrt_16sc_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqrt_16sc_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqrt_16sc_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqrt_16sc_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx64s> src, Out<Qvx64s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqrt_64s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqrt_64s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx64s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSqrt_64s_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSqrt_64s_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqrt_32s16s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqrt_32s16s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx64s> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSqrt_64s16s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSqrt_64s16s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -1371,12 +1371,12 @@ template <class... Arguments>
 namespace exports {
 struct Cubrt {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCubrt_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCubrt_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32s> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCubrt_32s16s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCubrt_32s16s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -1395,36 +1395,36 @@ template <class... Arguments>
 namespace exports {
 struct Abs {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAbs_16s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAbs_16s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAbs_16s_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAbs_16s_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAbs_32s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAbs_32s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAbs_32s_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAbs_32s_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAbs_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAbs_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAbs_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAbs_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAbs_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAbs_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAbs_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAbs_64f_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -1444,48 +1444,48 @@ template <class... Arguments>
 namespace exports {
 struct Exp {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsExp_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsExp_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsExp_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsExp_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsExp_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsExp_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsExp_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsExp_64f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsExp_32f64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsExp_32f64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsExp_16s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsExp_16s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsExp_16s_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsExp_16s_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsExp_32s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsExp_32s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsExp_32s_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsExp_32s_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx64s> src, Out<Qvx64s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsExp_64s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsExp_64s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx64s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsExp_64s_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsExp_64s_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -1505,44 +1505,44 @@ template <class... Arguments>
 namespace exports {
 struct Ln {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLn_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLn_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsLn_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsLn_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLn_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLn_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsLn_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsLn_64f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLn_64f32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLn_64f32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLn_16s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLn_16s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsLn_16s_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsLn_16s_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLn_32s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLn_32s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsLn_32s_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsLn_32s_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLn_32s16s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLn_32s16s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -1562,12 +1562,12 @@ template <class... Arguments>
 namespace exports {
 struct TenLog10 {
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxs10Log10_32s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxs10Log10_32s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(Out<Qvx32s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxs10Log10_32s_ISfs(pointer(srcDst), length(srcDst), scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxs10Log10_32s_ISfs(srcDst.data(), length(srcDst.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -1586,20 +1586,20 @@ template <class... Arguments>
 namespace exports {
 struct SumLn {
   static Status call(In<Qvx32f> src, Qvx32f& sum) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSumLn_32f(pointer(src), length(src), &sum);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSumLn_32f(src.data(), length(src.size()), &sum);
   }
   static Status call(In<Qvx64f> src, Qvx64f& sum) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSumLn_64f(pointer(src), length(src), &sum);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSumLn_64f(src.data(), length(src.size()), &sum);
   }
   static Status call(In<Qvx32f> src, Qvx64f& sum) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSumLn_32f64f(pointer(src), length(src), &sum);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSumLn_32f64f(src.data(), length(src.size()), &sum);
   }
   static Status call(In<Qvx16s> src, Qvx32f& sum) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSumLn_16s32f(pointer(src), length(src), &sum);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSumLn_16s32f(src.data(), length(src.size()), &sum);
   }
 };
 }  // namespace exports
@@ -1619,20 +1619,20 @@ template <class... Arguments>
 namespace exports {
 struct Arctan {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsArctan_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsArctan_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsArctan_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsArctan_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsArctan_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsArctan_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsArctan_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsArctan_64f_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -1652,53 +1652,53 @@ template <class... Arguments>
 namespace exports {
 struct Copy {
   static Status call(In<Qvx8u> src, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCopy_8u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCopy_8u(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCopy_16s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCopy_16s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCopy_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCopy_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCopy_32s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCopy_32s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32sc> src, Out<Qvx32sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCopy_32sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCopy_32sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCopy_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCopy_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCopy_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCopy_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64s> src, Out<Qvx64s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCopy_64s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCopy_64s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64sc> src, Out<Qvx64sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCopy_64sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCopy_64sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCopy_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCopy_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsCopy_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsCopy_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx8u> src, Value<int> srcBitOffset, Out<Qvx8u> dst, Value<int> dstBitOffset, Value<int> len) {
-    QVX_REQUIRE(atLeast(src, quotient(int64_t(srcBitOffset.number) + int64_t(len.number) + 7, 8)) && atLeast(dst,
+    QVX_REQUIRE(atLeast(src.size(), quotient(int64_t(srcBitOffset.number) + int64_t(len.number) + 7, 8)) && atLeast(dst.size(),
         quotient(int64_t(dstBitOffset.number) + int64_t(len.number) + 7, 8)));
-    return qvxsCopy_1u(pointer(src), srcBitOffset.number, pointer(dst), dstBitOffset.number, len.number);
+    return qvxsCopy_1u(src.data(), srcBitOffset.number, dst.data(), dstBitOffset.number, len.number);
   }
 };
 }  // namespace exports
@@ -1718,48 +1718,48 @@ template <class... Arguments>
 namespace exports {
 struct Move {
   static Status call(In<Qvx8u> src, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMove_8u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMove_8u(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMove_16s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMove_16s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMove_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMove_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMove_32s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMove_32s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32sc> src, Out<Qvx32sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMove_32sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMove_32sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMove_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMove_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMove_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMove_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64s> src, Out<Qvx64s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMove_64s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMove_64s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64sc> src, Out<Qvx64sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMove_64sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMove_64sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMove_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMove_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMove_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMove_64fc(src.data(), dst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -1779,48 +1779,48 @@ template <class... Arguments>
 namespace exports {
 struct Zero {
   static Status call(Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsZero_8u(pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsZero_8u(dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsZero_16s(pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsZero_16s(dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsZero_16sc(pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsZero_16sc(dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx32s> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsZero_32s(pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsZero_32s(dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx32sc> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsZero_32sc(pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsZero_32sc(dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsZero_32f(pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsZero_32f(dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsZero_32fc(pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsZero_32fc(dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx64s> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsZero_64s(pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsZero_64s(dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx64sc> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsZero_64sc(pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsZero_64sc(dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsZero_64f(pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsZero_64f(dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsZero_64fc(pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsZero_64fc(dst.data(), length(dst.size()));
   }
 };
 }  // namespace exports
@@ -1840,48 +1840,48 @@ template <class... Arguments>
 namespace exports {
 struct Set {
   static Status call(Value<Qvx8u> val, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsSet_8u(val.number, pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsSet_8u(val.number, dst.data(), length(dst.size()));
   }
   static Status call(Value<Qvx16s> val, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsSet_16s(val.number, pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsSet_16s(val.number, dst.data(), length(dst.size()));
   }
   static Status call(Value<Qvx16sc> val, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsSet_16sc(val.number, pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsSet_16sc(val.number, dst.data(), length(dst.size()));
   }
   static Status call(Value<Qvx32s> val, Out<Qvx32s> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsSet_32s(val.number, pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsSet_32s(val.number, dst.data(), length(dst.size()));
   }
   static Status call(Value<Qvx32sc> val, Out<Qvx32sc> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsSet_32sc(val.number, pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsSet_32sc(val.number, dst.data(), length(dst.size()));
   }
   static Status call(Value<Qvx32f> val, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsSet_32f(val.number, pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsSet_32f(val.number, dst.data(), length(dst.size()));
   }
   static Status call(Value<Qvx32fc> val, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsSet_32fc(val.number, pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsSet_32fc(val.number, dst.data(), length(dst.size()));
   }
   static Status call(Value<Qvx64s> val, Out<Qvx64s> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsSet_64s(val.number, pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsSet_64s(val.number, dst.data(), length(dst.size()));
   }
   static Status call(Value<Qvx64sc> val, Out<Qvx64sc> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsSet_64sc(val.number, pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsSet_64sc(val.number, dst.data(), length(dst.size()));
   }
   static Status call(Value<Qvx64f> val, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsSet_64f(val.number, pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsSet_64f(val.number, dst.data(), length(dst.size()));
   }
   static Status call(Value<Qvx64fc> val, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsSet_64fc(val.number, pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsSet_64fc(val.number, dst.data(), length(dst.size()));
   }
 };
 }  // namespace exports
@@ -1901,28 +1901,28 @@ template <class... Arguments>
 namespace exports {
 struct And {
   static Status call(In<Qvx8u> src1, In<Qvx8u> src2, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAnd_8u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAnd_8u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAnd_8u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAnd_8u_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx16u> src1, In<Qvx16u> src2, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAnd_16u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAnd_16u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAnd_16u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAnd_16u_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32u> src1, In<Qvx32u> src2, Out<Qvx32u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsAnd_32u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsAnd_32u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32u> src, Out<Qvx32u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsAnd_32u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsAnd_32u_I(src.data(), srcDst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -1942,28 +1942,28 @@ template <class... Arguments>
 namespace exports {
 struct Or {
   static Status call(In<Qvx8u> src1, In<Qvx8u> src2, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsOr_8u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsOr_8u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsOr_8u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsOr_8u_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx16u> src1, In<Qvx16u> src2, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsOr_16u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsOr_16u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsOr_16u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsOr_16u_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32u> src1, In<Qvx32u> src2, Out<Qvx32u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsOr_32u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsOr_32u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32u> src, Out<Qvx32u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsOr_32u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsOr_32u_I(src.data(), srcDst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -1983,28 +1983,28 @@ template <class... Arguments>
 namespace exports {
 struct Xor {
   static Status call(In<Qvx8u> src1, In<Qvx8u> src2, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsXor_8u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsXor_8u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsXor_8u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsXor_8u_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx16u> src1, In<Qvx16u> src2, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsXor_16u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsXor_16u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsXor_16u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsXor_16u_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32u> src1, In<Qvx32u> src2, Out<Qvx32u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsXor_32u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsXor_32u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32u> src, Out<Qvx32u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsXor_32u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsXor_32u_I(src.data(), srcDst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -2024,28 +2024,28 @@ template <class... Arguments>
 namespace exports {
 struct AndC {
   static Status call(In<Qvx8u> src, Value<Qvx8u> val, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAndC_8u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAndC_8u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx8u> val, Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAndC_8u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAndC_8u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16u> src, Value<Qvx16u> val, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAndC_16u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAndC_16u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx16u> val, Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAndC_16u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAndC_16u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32u> src, Value<Qvx32u> val, Out<Qvx32u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsAndC_32u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsAndC_32u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx32u> val, Out<Qvx32u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsAndC_32u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsAndC_32u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -2065,28 +2065,28 @@ template <class... Arguments>
 namespace exports {
 struct OrC {
   static Status call(In<Qvx8u> src, Value<Qvx8u> val, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsOrC_8u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsOrC_8u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx8u> val, Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsOrC_8u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsOrC_8u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16u> src, Value<Qvx16u> val, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsOrC_16u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsOrC_16u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx16u> val, Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsOrC_16u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsOrC_16u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32u> src, Value<Qvx32u> val, Out<Qvx32u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsOrC_32u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsOrC_32u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx32u> val, Out<Qvx32u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsOrC_32u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsOrC_32u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -2106,28 +2106,28 @@ template <class... Arguments>
 namespace exports {
 struct XorC {
   static Status call(In<Qvx8u> src, Value<Qvx8u> val, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsXorC_8u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsXorC_8u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx8u> val, Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsXorC_8u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsXorC_8u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16u> src, Value<Qvx16u> val, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsXorC_16u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsXorC_16u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx16u> val, Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsXorC_16u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsXorC_16u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32u> src, Value<Qvx32u> val, Out<Qvx32u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsXorC_32u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsXorC_32u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<Qvx32u> val, Out<Qvx32u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsXorC_32u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsXorC_32u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -2147,28 +2147,28 @@ template <class... Arguments>
 namespace exports {
 struct Not {
   static Status call(In<Qvx8u> src, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsNot_8u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsNot_8u(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsNot_8u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsNot_8u_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsNot_16u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsNot_16u(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsNot_16u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsNot_16u_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32u> src, Out<Qvx32u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsNot_32u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsNot_32u(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsNot_32u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsNot_32u_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -2188,36 +2188,36 @@ template <class... Arguments>
 namespace exports {
 struct LShiftC {
   static Status call(In<Qvx8u> src, Value<int> val, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLShiftC_8u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLShiftC_8u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<int> val, Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsLShiftC_8u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsLShiftC_8u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16u> src, Value<int> val, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLShiftC_16u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLShiftC_16u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<int> val, Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsLShiftC_16u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsLShiftC_16u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16s> src, Value<int> val, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLShiftC_16s(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLShiftC_16s(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<int> val, Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsLShiftC_16s_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsLShiftC_16s_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32s> src, Value<int> val, Out<Qvx32s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLShiftC_32s(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLShiftC_32s(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<int> val, Out<Qvx32s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsLShiftC_32s_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsLShiftC_32s_I(val.number, srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -2237,36 +2237,36 @@ template <class... Arguments>
 namespace exports {
 struct RShiftC {
   static Status call(In<Qvx8u> src, Value<int> val, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsRShiftC_8u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsRShiftC_8u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<int> val, Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsRShiftC_8u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsRShiftC_8u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16u> src, Value<int> val, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsRShiftC_16u(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsRShiftC_16u(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<int> val, Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsRShiftC_16u_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsRShiftC_16u_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16s> src, Value<int> val, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsRShiftC_16s(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsRShiftC_16s(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<int> val, Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsRShiftC_16s_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsRShiftC_16s_I(val.number, srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32s> src, Value<int> val, Out<Qvx32s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsRShiftC_32s(pointer(src), val.number, pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsRShiftC_32s(src.data(), val.number, dst.data(), length(src.size()));
   }
   static Status call(Value<int> val, Out<Qvx32s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsRShiftC_32s_I(val.number, pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsRShiftC_32s_I(val.number, srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -2286,36 +2286,36 @@ template <class... Arguments>
 namespace exports {
 struct SwapBytes {
   static Status call(In<Qvx16u> src, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSwapBytes_16u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSwapBytes_16u(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSwapBytes_16u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSwapBytes_16u_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<UInt24> src, Out<UInt24> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSwapBytes_24u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSwapBytes_24u(pointer(src), pointer(dst), length(src.size()));
   }
   static Status call(Out<UInt24> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSwapBytes_24u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSwapBytes_24u_I(pointer(srcDst), length(srcDst.size()));
   }
   static Status call(In<Qvx32u> src, Out<Qvx32u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSwapBytes_32u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSwapBytes_32u(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSwapBytes_32u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSwapBytes_32u_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64u> src, Out<Qvx64u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsSwapBytes_64u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsSwapBytes_64u(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSwapBytes_64u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSwapBytes_64u_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -2335,168 +2335,170 @@ template <class... Arguments>
 namespace exports {
 struct Convert {
   static Status call(In<Qvx8s> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_8s16s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_8s16s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx32s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_16s32s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_16s32s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx8s> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_8s32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_8s32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx8u> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_8u32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_8u32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_16s32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_16s32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16u> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_16u32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_16u32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32s> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32s64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32s64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32f64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32f64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<UInt24> src, Out<Qvx32u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_24u32u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_24u32u(pointer(src), dst.data(), length(src.size()));
   }
   static Status call(In<Int24> src, Out<Qvx32s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_24s32s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_24s32s(pointer(src), dst.data(), length(src.size()));
   }
   static Status call(In<UInt24> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_24u32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_24u32f(pointer(src), dst.data(), length(src.size()));
   }
   static Status call(In<Int24> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_24s32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_24s32f(pointer(src), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32s> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32s32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32s32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64s> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_64s64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_64s64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_64f32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_64f32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32s> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32s16s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32s16s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx32f> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_16s32f_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_16s32f_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx64f> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_16s64f_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_16s64f_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32f> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32s32f_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32s32f_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx64f> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32s64f_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32s64f_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx8s> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32f8s_Sfs(pointer(src), pointer(dst), length(src), static_cast<QvxRoundMode>(rndMode), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32f8s_Sfs(src.data(), dst.data(), length(src.size()), static_cast<QvxRoundMode>(rndMode),
+        scaleFactor.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx8u> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32f8u_Sfs(pointer(src), pointer(dst), length(src), static_cast<QvxRoundMode>(rndMode), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32f8u_Sfs(src.data(), dst.data(), length(src.size()), static_cast<QvxRoundMode>(rndMode),
+        scaleFactor.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx16s> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32f16s_Sfs(pointer(src), pointer(dst), length(src), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32f16s_Sfs(src.data(), dst.data(), length(src.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx16u> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32f16u_Sfs(pointer(src), pointer(dst), length(src), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32f16u_Sfs(src.data(), dst.data(), length(src.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32s> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32f32s_Sfs(pointer(src), pointer(dst), length(src), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32f32s_Sfs(src.data(), dst.data(), length(src.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx32s> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_64f32s_Sfs(pointer(src), pointer(dst), length(src), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_64f32s_Sfs(src.data(), dst.data(), length(src.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx16s> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_64f16s_Sfs(pointer(src), pointer(dst), length(src), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_64f16s_Sfs(src.data(), dst.data(), length(src.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64s> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable<Qvx32u>(src) && sameLength(dst, src));
-    return qvxsConvert_64f64s_Sfs(pointer(src), pointer(dst), length<Qvx32u>(src), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countableUnsigned(src.size()) && dst.size() == src.size());
+    return qvxsConvert_64f64s_Sfs(src.data(), dst.data(), unsignedLength(src.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32s16s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32s16s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32u> src, Out<UInt24> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32u24u_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32u24u_Sfs(src.data(), pointer(dst), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Int24> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32s24s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32s24s_Sfs(src.data(), pointer(dst), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx8s> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable<Qvx32u>(src) && sameLength(dst, src));
-    return qvxsConvert_16s8s_Sfs(pointer(src), pointer(dst), length<Qvx32u>(src), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countableUnsigned(src.size()) && dst.size() == src.size());
+    return qvxsConvert_16s8s_Sfs(src.data(), dst.data(), unsignedLength(src.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx64s> src, Out<Qvx32s> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_64s32s_Sfs(pointer(src), pointer(dst), length(src), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_64s32s_Sfs(src.data(), dst.data(), length(src.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
   static Status call(In<Qvx32f> src, Out<UInt24> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32f24u_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32f24u_Sfs(src.data(), pointer(dst), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> src, Out<Int24> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32f24s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32f24s_Sfs(src.data(), pointer(dst), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Half> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_16f32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_16f32f(pointer(src), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32f> src, Out<Half> dst, Rounding rndMode) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_32f16f(pointer(src), pointer(dst), length(src), static_cast<QvxRoundMode>(rndMode));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_32f16f(src.data(), pointer(dst), length(src.size()), static_cast<QvxRoundMode>(rndMode));
   }
   static Status call(In<Qvx16s> src, Out<Half> dst, Rounding rndMode) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_16s16f(pointer(src), pointer(dst), length(src), static_cast<QvxRoundMode>(rndMode));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_16s16f(src.data(), pointer(dst), length(src.size()), static_cast<QvxRoundMode>(rndMode));
   }
   static Status call(In<Half> src, Out<Qvx16s> dst, Rounding rndMode, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConvert_16f16s_Sfs(pointer(src), pointer(dst), length(src), static_cast<QvxRoundMode>(rndMode),
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConvert_16f16s_Sfs(pointer(src), dst.data(), length(src.size()), static_cast<QvxRoundMode>(rndMode),
         scaleFactor.number);
   }
 };
@@ -2522,16 +2524,16 @@ template <class... Arguments>
 namespace exports {
 struct Real {
   static Status call(In<Qvx16sc> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsReal_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsReal_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsReal_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsReal_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsReal_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsReal_64fc(src.data(), dst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -2550,16 +2552,16 @@ template <class... Arguments>
 namespace exports {
 struct Imag {
   static Status call(In<Qvx16sc> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsImag_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsImag_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsImag_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsImag_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsImag_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsImag_64fc(src.data(), dst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -2578,16 +2580,16 @@ template <class... Arguments>
 namespace exports {
 struct CplxToReal {
   static Status call(In<Qvx16sc> src, Out<Qvx16s> dstRe, Out<Qvx16s> dstIm) {
-    QVX_REQUIRE(countable(src) && sameLength(dstRe, src) && sameLength(dstIm, src));
-    return qvxsCplxToReal_16sc(pointer(src), pointer(dstRe), pointer(dstIm), length(src));
+    QVX_REQUIRE(countable(src.size()) && dstRe.size() == src.size() && dstIm.size() == src.size());
+    return qvxsCplxToReal_16sc(src.data(), dstRe.data(), dstIm.data(), length(src.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32f> dstRe, Out<Qvx32f> dstIm) {
-    QVX_REQUIRE(countable(src) && sameLength(dstRe, src) && sameLength(dstIm, src));
-    return qvxsCplxToReal_32fc(pointer(src), pointer(dstRe), pointer(dstIm), length(src));
+    QVX_REQUIRE(countable(src.size()) && dstRe.size() == src.size() && dstIm.size() == src.size());
+    return qvxsCplxToReal_32fc(src.data(), dstRe.data(), dstIm.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64f> dstRe, Out<Qvx64f> dstIm) {
-    QVX_REQUIRE(countable(src) && sameLength(dstRe, src) && sameLength(dstIm, src));
-    return qvxsCplxToReal_64fc(pointer(src), pointer(dstRe), pointer(dstIm), length(src));
+    QVX_REQUIRE(countable(src.size()) && dstRe.size() == src.size() && dstIm.size() == src.size());
+    return qvxsCplxToReal_64fc(src.data(), dstRe.data(), dstIm.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -2607,16 +2609,19 @@ template <class... Arguments>
 namespace exports {
 struct RealToCplx {
   static Status call(In<Qvx16s> srcRe, In<Qvx16s> srcIm, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(dst) && (srcRe.empty() || sameLength(srcRe, dst)) && (srcIm.empty() || sameLength(srcIm, dst)));
-    return qvxsRealToCplx_16s(optional(srcRe), optional(srcIm), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()) && (srcRe.empty() || srcRe.size() == dst.size()) && (srcIm.empty() || srcIm.size() ==
+        dst.size()));
+    return qvxsRealToCplx_16s(optional(srcRe), optional(srcIm), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx32f> srcRe, In<Qvx32f> srcIm, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(dst) && (srcRe.empty() || sameLength(srcRe, dst)) && (srcIm.empty() || sameLength(srcIm, dst)));
-    return qvxsRealToCplx_32f(optional(srcRe), optional(srcIm), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()) && (srcRe.empty() || srcRe.size() == dst.size()) && (srcIm.empty() || srcIm.size() ==
+        dst.size()));
+    return qvxsRealToCplx_32f(optional(srcRe), optional(srcIm), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx64f> srcRe, In<Qvx64f> srcIm, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(dst) && (srcRe.empty() || sameLength(srcRe, dst)) && (srcIm.empty() || sameLength(srcIm, dst)));
-    return qvxsRealToCplx_64f(optional(srcRe), optional(srcIm), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()) && (srcRe.empty() || srcRe.size() == dst.size()) && (srcIm.empty() || srcIm.size() ==
+        dst.size()));
+    return qvxsRealToCplx_64f(optional(srcRe), optional(srcIm), dst.data(), length(dst.size()));
   }
 };
 }  // namespace exports
@@ -2636,28 +2641,28 @@ template <class... Arguments>
 namespace exports {
 struct Conj {
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConj_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConj_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16sc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsConj_16sc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsConj_16sc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConj_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConj_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsConj_32fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsConj_32fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConj_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConj_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsConj_64fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsConj_64fc_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -2677,16 +2682,16 @@ template <class... Arguments>
 namespace exports {
 struct ConjFlip {
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConjFlip_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConjFlip_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConjFlip_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConjFlip_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConjFlip_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConjFlip_64fc(src.data(), dst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -2706,52 +2711,52 @@ template <class... Arguments>
 namespace exports {
 struct Flip {
   static Status call(In<Qvx8u> src, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsFlip_8u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsFlip_8u(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsFlip_8u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsFlip_8u_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsFlip_16u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsFlip_16u(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsFlip_16u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsFlip_16u_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsFlip_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsFlip_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsFlip_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsFlip_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsFlip_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsFlip_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsFlip_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsFlip_64f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsFlip_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsFlip_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsFlip_32fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsFlip_32fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsFlip_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsFlip_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsFlip_64fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsFlip_64fc_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -2771,40 +2776,40 @@ template <class... Arguments>
 namespace exports {
 struct Magnitude {
   static Status call(In<Qvx32fc> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMagnitude_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMagnitude_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMagnitude_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMagnitude_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMagnitude_16sc32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMagnitude_16sc32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMagnitude_16sc_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMagnitude_16sc_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMagnitude_32sc_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMagnitude_32sc_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> srcRe, In<Qvx32f> srcIm, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsMagnitude_32f(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe));
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsMagnitude_32f(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()));
   }
   static Status call(In<Qvx64f> srcRe, In<Qvx64f> srcIm, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsMagnitude_64f(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe));
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsMagnitude_64f(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()));
   }
   static Status call(In<Qvx16s> srcRe, In<Qvx16s> srcIm, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsMagnitude_16s_Sfs(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe), scaleFactor.number);
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsMagnitude_16s_Sfs(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> srcRe, In<Qvx16s> srcIm, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsMagnitude_16s32f(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe));
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsMagnitude_16s32f(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()));
   }
 };
 }  // namespace exports
@@ -2824,40 +2829,40 @@ template <class... Arguments>
 namespace exports {
 struct Phase {
   static Status call(In<Qvx32fc> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsPhase_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsPhase_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsPhase_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsPhase_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsPhase_16sc32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsPhase_16sc32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsPhase_16sc_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsPhase_16sc_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsPhase_32sc_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsPhase_32sc_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> srcRe, In<Qvx32f> srcIm, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsPhase_32f(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe));
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsPhase_32f(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()));
   }
   static Status call(In<Qvx64f> srcRe, In<Qvx64f> srcIm, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsPhase_64f(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe));
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsPhase_64f(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()));
   }
   static Status call(In<Qvx16s> srcRe, In<Qvx16s> srcIm, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsPhase_16s_Sfs(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe), scaleFactor.number);
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsPhase_16s_Sfs(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> srcRe, In<Qvx16s> srcIm, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsPhase_16s32f(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe));
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsPhase_16s32f(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()));
   }
 };
 }  // namespace exports
@@ -2877,36 +2882,36 @@ template <class... Arguments>
 namespace exports {
 struct PowerSpectr {
   static Status call(In<Qvx32fc> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsPowerSpectr_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsPowerSpectr_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsPowerSpectr_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsPowerSpectr_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsPowerSpectr_16sc32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsPowerSpectr_16sc32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsPowerSpectr_16sc_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsPowerSpectr_16sc_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32f> srcRe, In<Qvx32f> srcIm, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsPowerSpectr_32f(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe));
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsPowerSpectr_32f(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()));
   }
   static Status call(In<Qvx64f> srcRe, In<Qvx64f> srcIm, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsPowerSpectr_64f(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe));
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsPowerSpectr_64f(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()));
   }
   static Status call(In<Qvx16s> srcRe, In<Qvx16s> srcIm, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsPowerSpectr_16s_Sfs(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe), scaleFactor.number);
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsPowerSpectr_16s_Sfs(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> srcRe, In<Qvx16s> srcIm, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsPowerSpectr_16s32f(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe));
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsPowerSpectr_16s32f(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()));
   }
 };
 }  // namespace exports
@@ -2927,12 +2932,12 @@ template <class... Arguments>
 namespace exports {
 struct MagSquared {
   static Status call(In<Qvx32fc> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMagSquared_32fc64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMagSquared_32fc64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32sc> src, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMagSquared_32sc32s_Sfs(pointer(src), pointer(dst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMagSquared_32sc32s_Sfs(src.data(), dst.data(), length(src.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -2952,30 +2957,30 @@ template <class... Arguments>
 namespace exports {
 struct CartToPolar {
   static Status call(In<Qvx32fc> src, Out<Qvx32f> dstMagn, Out<Qvx32f> dstPhase) {
-    QVX_REQUIRE(countable(src) && (dstMagn.empty() || sameLength(dstMagn, src)) && (dstPhase.empty() || sameLength(dstPhase,
-        src)));
-    return qvxsCartToPolar_32fc(pointer(src), optional(dstMagn), optional(dstPhase), length(src));
+    QVX_REQUIRE(countable(src.size()) && (dstMagn.empty() || dstMagn.size() == src.size()) && (dstPhase.empty() || dstPhase.size()
+        == src.size()));
+    return qvxsCartToPolar_32fc(src.data(), optional(dstMagn), optional(dstPhase), length(src.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64f> dstMagn, Out<Qvx64f> dstPhase) {
-    QVX_REQUIRE(countable(src) && (dstMagn.empty() || sameLength(dstMagn, src)) && (dstPhase.empty() || sameLength(dstPhase,
-        src)));
-    return qvxsCartToPolar_64fc(pointer(src), optional(dstMagn), optional(dstPhase), length(src));
+    QVX_REQUIRE(countable(src.size()) && (dstMagn.empty() || dstMagn.size() == src.size()) && (dstPhase.empty() || dstPhase.size()
+        == src.size()));
+    return qvxsCartToPolar_64fc(src.data(), optional(dstMagn), optional(dstPhase), length(src.size()));
   }
   static Status call(In<Qvx32f> srcRe, In<Qvx32f> srcIm, Out<Qvx32f> dstMagn, Out<Qvx32f> dstPhase) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && (dstMagn.empty() || sameLength(dstMagn, srcRe)) &&
-        (dstPhase.empty() || sameLength(dstPhase, srcRe)));
-    return qvxsCartToPolar_32f(pointer(srcRe), pointer(srcIm), optional(dstMagn), optional(dstPhase), length(srcRe));
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && (dstMagn.empty() || dstMagn.size() == srcRe.size()) &&
+        (dstPhase.empty() || dstPhase.size() == srcRe.size()));
+    return qvxsCartToPolar_32f(srcRe.data(), srcIm.data(), optional(dstMagn), optional(dstPhase), length(srcRe.size()));
   }
   static Status call(In<Qvx64f> srcRe, In<Qvx64f> srcIm, Out<Qvx64f> dstMagn, Out<Qvx64f> dstPhase) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && (dstMagn.empty() || sameLength(dstMagn, srcRe)) &&
-        (dstPhase.empty() || sameLength(dstPhase, srcRe)));
-    return qvxsCartToPolar_64f(pointer(srcRe), pointer(srcIm), optional(dstMagn), optional(dstPhase), length(srcRe));
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && (dstMagn.empty() || dstMagn.size() == srcRe.size()) &&
+        (dstPhase.empty() || dstPhase.size() == srcRe.size()));
+    return qvxsCartToPolar_64f(srcRe.data(), srcIm.data(), optional(dstMagn), optional(dstPhase), length(srcRe.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16s> dstMagn, Out<Qvx16s> dstPhase, Value<int> magnScaleFactor, Value<int>
       phaseScaleFactor) {
-    QVX_REQUIRE(countable(src) && (dstMagn.empty() || sameLength(dstMagn, src)) && (dstPhase.empty() || sameLength(dstPhase,
-        src)));
-    return qvxsCartToPolar_16sc_Sfs(pointer(src), optional(dstMagn), optional(dstPhase), length(src), magnScaleFactor.number,
+    QVX_REQUIRE(countable(src.size()) && (dstMagn.empty() || dstMagn.size() == src.size()) && (dstPhase.empty() || dstPhase.size()
+        == src.size()));
+    return qvxsCartToPolar_16sc_Sfs(src.data(), optional(dstMagn), optional(dstPhase), length(src.size()), magnScaleFactor.number,
         phaseScaleFactor.number);
   }
 };
@@ -2996,34 +3001,36 @@ template <class... Arguments>
 namespace exports {
 struct PolarToCart {
   static Status call(In<Qvx32f> srcMagn, In<Qvx32f> srcPhase, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(srcMagn) && sameLength(srcPhase, srcMagn) && sameLength(dst, srcMagn));
-    return qvxsPolarToCart_32fc(pointer(srcMagn), pointer(srcPhase), pointer(dst), length(srcMagn));
+    QVX_REQUIRE(countable(srcMagn.size()) && srcPhase.size() == srcMagn.size() && dst.size() == srcMagn.size());
+    return qvxsPolarToCart_32fc(srcMagn.data(), srcPhase.data(), dst.data(), length(srcMagn.size()));
   }
   static Status call(In<Qvx64f> srcMagn, In<Qvx64f> srcPhase, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(srcMagn) && sameLength(srcPhase, srcMagn) && sameLength(dst, srcMagn));
-    return qvxsPolarToCart_64fc(pointer(srcMagn), pointer(srcPhase), pointer(dst), length(srcMagn));
+    QVX_REQUIRE(countable(srcMagn.size()) && srcPhase.size() == srcMagn.size() && dst.size() == srcMagn.size());
+    return qvxsPolarToCart_64fc(srcMagn.data(), srcPhase.data(), dst.data(), length(srcMagn.size()));
   }
   static Status call(In<Qvx32f> srcMagn, In<Qvx32f> srcPhase, Out<Qvx32f> dstRe, Out<Qvx32f> dstIm) {
-    QVX_REQUIRE(countable(srcMagn) && sameLength(srcPhase, srcMagn) && sameLength(dstRe, srcMagn) && sameLength(dstIm, srcMagn));
-    return qvxsPolarToCart_32f(pointer(srcMagn), pointer(srcPhase), pointer(dstRe), pointer(dstIm), length(srcMagn));
+    QVX_REQUIRE(countable(srcMagn.size()) && srcPhase.size() == srcMagn.size() && dstRe.size() == srcMagn.size() && dstIm.size()
+        == srcMagn.size());
+    return qvxsPolarToCart_32f(srcMagn.data(), srcPhase.data(), dstRe.data(), dstIm.data(), length(srcMagn.size()));
   }
   static Status call(In<Qvx64f> srcMagn, In<Qvx64f> srcPhase, Out<Qvx64f> dstRe, Out<Qvx64f> dstIm) {
-    QVX_REQUIRE(countable(srcMagn) && sameLength(srcPhase, srcMagn) && sameLength(dstRe, srcMagn) && sameLength(dstIm, srcMagn));
-    return qvxsPolarToCart_64f(pointer(srcMagn), pointer(srcPhase), pointer(dstRe), pointer(dstIm), length(srcMagn));
+    QVX_REQUIRE(countable(srcMagn.size()) && srcPhase.size() == srcMagn.size() && dstRe.size() == srcMagn.size() && dstIm.size()
+        == srcMagn.size());
+    return qvxsPolarToCart_64f(srcMagn.data(), srcPhase.data(), dstRe.data(), dstIm.data(), length(srcMagn.size()));
   }
   static Status call(In<Qvx16s> srcMagn, In<Qvx16s> srcPhase, Out<Qvx16sc> dst, Value<int> magnScaleFactor, Value<int>
       phaseScaleFactor) {
-    QVX_REQUIRE(countable(srcMagn) && sameLength(srcPhase, srcMagn) && sameLength(dst, srcMagn));
-    return qvxsPolarToCart_16sc_Sfs(pointer(srcMagn), pointer(srcPhase), pointer(dst), length(srcMagn), magnScaleFactor.number,
+    QVX_REQUIRE(countable(srcMagn.size()) && srcPhase.size() == srcMagn.size() && dst.size() == srcMagn.size());
+    return qvxsPolarToCart_16sc_Sfs(srcMagn.data(), srcPhase.data(), dst.data(), length(srcMagn.size()), magnScaleFactor.number,
         phaseScaleFactor.number);
   }
   static Status call(In<Qvx16s> srcMagn, In<Qvx16s> srcPhase, Value<int> phaseFixedPoint, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(srcMagn) && sameLength(srcPhase, srcMagn) && sameLength(dst, srcMagn));
-    return qvxsPolarToCart_16sc(pointer(srcMagn), pointer(srcPhase), phaseFixedPoint.number, pointer(dst), length(srcMagn));
+    QVX_REQUIRE(countable(srcMagn.size()) && srcPhase.size() == srcMagn.size() && dst.size() == srcMagn.size());
+    return qvxsPolarToCart_16sc(srcMagn.data(), srcPhase.data(), phaseFixedPoint.number, dst.data(), length(srcMagn.size()));
   }
   static Status call(In<Qvx32s> srcMagn, In<Qvx32s> srcPhase, Value<int> phaseFixedPoint, Out<Qvx32sc> dst) {
-    QVX_REQUIRE(countable(srcMagn) && sameLength(srcPhase, srcMagn) && sameLength(dst, srcMagn));
-    return qvxsPolarToCart_32sc(pointer(srcMagn), pointer(srcPhase), phaseFixedPoint.number, pointer(dst), length(srcMagn));
+    QVX_REQUIRE(countable(srcMagn.size()) && srcPhase.size() == srcMagn.size() && dst.size() == srcMagn.size());
+    return qvxsPolarToCart_32sc(srcMagn.data(), srcPhase.data(), phaseFixedPoint.number, dst.data(), length(srcMagn.size()));
   }
 };
 }  // namespace exports
@@ -3043,12 +3050,12 @@ template <class... Arguments>
 namespace exports {
 struct ALawToLin {
   static Status call(In<Qvx8u> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsALawToLin_8u16s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsALawToLin_8u16s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx8u> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsALawToLin_8u32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsALawToLin_8u32f(src.data(), dst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -3067,12 +3074,12 @@ template <class... Arguments>
 namespace exports {
 struct MuLawToLin {
   static Status call(In<Qvx8u> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMuLawToLin_8u16s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMuLawToLin_8u16s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx8u> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMuLawToLin_8u32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMuLawToLin_8u32f(src.data(), dst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -3092,12 +3099,12 @@ template <class... Arguments>
 namespace exports {
 struct LinToALaw {
   static Status call(In<Qvx16s> src, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLinToALaw_16s8u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLinToALaw_16s8u(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLinToALaw_32f8u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLinToALaw_32f8u(src.data(), dst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -3116,12 +3123,12 @@ template <class... Arguments>
 namespace exports {
 struct LinToMuLaw {
   static Status call(In<Qvx16s> src, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLinToMuLaw_16s8u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLinToMuLaw_16s8u(src.data(), dst.data(), length(src.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsLinToMuLaw_32f8u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsLinToMuLaw_32f8u(src.data(), dst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -3141,8 +3148,8 @@ template <class... Arguments>
 namespace exports {
 struct ALawToMuLaw {
   static Status call(In<Qvx8u> src, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsALawToMuLaw_8u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsALawToMuLaw_8u(src.data(), dst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -3161,8 +3168,8 @@ template <class... Arguments>
 namespace exports {
 struct MuLawToALaw {
   static Status call(In<Qvx8u> src, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsMuLawToALaw_8u(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsMuLawToALaw_8u(src.data(), dst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -3181,9 +3188,10 @@ template <class... Arguments>
 namespace exports {
 struct PackBits {
   static Status call(In<Qvx32u> srcBit, In<int> srcBitLen, Out<Qvx8u> dst, Value<int> dstBitOffset, int& dstLenBit) {
-    QVX_REQUIRE(countable(srcBit) && sameLength(srcBitLen, srcBit) && atLeast(dst, quotient(int64_t(dstBitOffset.number) +
-        totalBits(srcBitLen) + 7, 8)));
-    return qvxsPackBits_32u8u(pointer(srcBit), pointer(srcBitLen), length(srcBit), pointer(dst), dstBitOffset.number, &dstLenBit);
+    QVX_REQUIRE(countable(srcBit.size()) && srcBitLen.size() == srcBit.size() && atLeast(dst.size(),
+        quotient(int64_t(dstBitOffset.number) + totalBits(srcBitLen) + 7, 8)));
+    return qvxsPackBits_32u8u(srcBit.data(), srcBitLen.data(), length(srcBit.size()), dst.data(), dstBitOffset.number,
+        &dstLenBit);
   }
 };
 }  // namespace exports
@@ -3202,8 +3210,8 @@ template <class... Arguments>
 namespace exports {
 struct Join {
   static Status call(In<const Qvx32f*> src, Value<int> chanLen, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, int64_t(chanLen.number) * int64_t(length(src))));
-    return qvxsJoin_32f16s_D2L(pointer(src), length(src), chanLen.number, pointer(dst));
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), int64_t(chanLen.number) * int64_t(src.size())));
+    return qvxsJoin_32f16s_D2L(src.data(), length(src.size()), chanLen.number, dst.data());
   }
 };
 }  // namespace exports
@@ -3222,12 +3230,12 @@ template <class... Arguments>
 namespace exports {
 struct JoinScaled {
   static Status call(In<const Qvx32f*> src, Value<int> chanLen, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, int64_t(chanLen.number) * int64_t(length(src))));
-    return qvxsJoinScaled_32f16s_D2L(pointer(src), length(src), chanLen.number, pointer(dst));
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), int64_t(chanLen.number) * int64_t(src.size())));
+    return qvxsJoinScaled_32f16s_D2L(src.data(), length(src.size()), chanLen.number, dst.data());
   }
   static Status call(In<const Qvx32f*> src, Value<int> chanLen, Out<Int24> dst) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, int64_t(chanLen.number) * int64_t(length(src))));
-    return qvxsJoinScaled_32f24s_D2L(pointer(src), length(src), chanLen.number, pointer(dst));
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), int64_t(chanLen.number) * int64_t(src.size())));
+    return qvxsJoinScaled_32f24s_D2L(src.data(), length(src.size()), chanLen.number, pointer(dst));
   }
 };
 }  // namespace exports
@@ -3247,12 +3255,12 @@ template <class... Arguments>
 namespace exports {
 struct SplitScaled {
   static Status call(In<Qvx16s> src, In<Qvx32f*> dst, Value<int> chanLen) {
-    QVX_REQUIRE(countable(dst) && atLeast(src, int64_t(chanLen.number) * int64_t(length(dst))));
-    return qvxsSplitScaled_16s32f_D2L(pointer(src), pointer(dst), length(dst), chanLen.number);
+    QVX_REQUIRE(countable(dst.size()) && atLeast(src.size(), int64_t(chanLen.number) * int64_t(dst.size())));
+    return qvxsSplitScaled_16s32f_D2L(src.data(), dst.data(), length(dst.size()), chanLen.number);
   }
   static Status call(In<Int24> src, In<Qvx32f*> dst, Value<int> chanLen) {
-    QVX_REQUIRE(countable(dst) && atLeast(src, int64_t(chanLen.number) * int64_t(length(dst))));
-    return qvxsSplitScaled_24s32f_D2L(pointer(src), pointer(dst), length(dst), chanLen.number);
+    QVX_REQUIRE(countable(dst.size()) && atLeast(src.size(), int64_t(chanLen.number) * int64_t(dst.size())));
+    return qvxsSplitScaled_24s32f_D2L(pointer(src), dst.data(), length(dst.size()), chanLen.number);
   }
 };
 }  // namespace exports
@@ -3272,52 +3280,52 @@ template <class... Arguments>
 namespace exports {
 struct Threshold {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<Qvx16s> level, Value<int> relOp) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_16s(pointer(src), pointer(dst), length(src), level.number, relOp.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_16s(src.data(), dst.data(), length(src.size()), level.number, relOp.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<Qvx16s> level, Value<int> relOp) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_16s_I(pointer(srcDst), length(srcDst), level.number, relOp.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_16s_I(srcDst.data(), length(srcDst.size()), level.number, relOp.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<Qvx16s> level, Value<int> relOp) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_16sc(pointer(src), pointer(dst), length(src), level.number, relOp.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_16sc(src.data(), dst.data(), length(src.size()), level.number, relOp.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<Qvx16s> level, Value<int> relOp) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_16sc_I(pointer(srcDst), length(srcDst), level.number, relOp.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_16sc_I(srcDst.data(), length(srcDst.size()), level.number, relOp.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<Qvx32f> level, Value<int> relOp) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_32f(pointer(src), pointer(dst), length(src), level.number, relOp.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_32f(src.data(), dst.data(), length(src.size()), level.number, relOp.number);
   }
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> level, Value<int> relOp) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_32f_I(pointer(srcDst), length(srcDst), level.number, relOp.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_32f_I(srcDst.data(), length(srcDst.size()), level.number, relOp.number);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, Value<Qvx32f> level, Value<int> relOp) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_32fc(pointer(src), pointer(dst), length(src), level.number, relOp.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_32fc(src.data(), dst.data(), length(src.size()), level.number, relOp.number);
   }
   static Status call(Out<Qvx32fc> srcDst, Value<Qvx32f> level, Value<int> relOp) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_32fc_I(pointer(srcDst), length(srcDst), level.number, relOp.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_32fc_I(srcDst.data(), length(srcDst.size()), level.number, relOp.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<Qvx64f> level, Value<int> relOp) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_64f(pointer(src), pointer(dst), length(src), level.number, relOp.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_64f(src.data(), dst.data(), length(src.size()), level.number, relOp.number);
   }
   static Status call(Out<Qvx64f> srcDst, Value<Qvx64f> level, Value<int> relOp) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_64f_I(pointer(srcDst), length(srcDst), level.number, relOp.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_64f_I(srcDst.data(), length(srcDst.size()), level.number, relOp.number);
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, Value<Qvx64f> level, Value<int> relOp) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_64fc(pointer(src), pointer(dst), length(src), level.number, relOp.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_64fc(src.data(), dst.data(), length(src.size()), level.number, relOp.number);
   }
   static Status call(Out<Qvx64fc> srcDst, Value<Qvx64f> level, Value<int> relOp) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_64fc_I(pointer(srcDst), length(srcDst), level.number, relOp.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_64fc_I(srcDst.data(), length(srcDst.size()), level.number, relOp.number);
   }
 };
 }  // namespace exports
@@ -3338,60 +3346,60 @@ template <class... Arguments>
 namespace exports {
 struct Threshold_LT {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<Qvx16s> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LT_16s(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LT_16s(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<Qvx16s> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LT_16s_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LT_16s_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<Qvx16s> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LT_16sc(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LT_16sc(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<Qvx16s> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LT_16sc_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LT_16sc_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst, Value<Qvx32s> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LT_32s(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LT_32s(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx32s> srcDst, Value<Qvx32s> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LT_32s_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LT_32s_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LT_32f(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LT_32f(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LT_32f_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LT_32f_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LT_32fc(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LT_32fc(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx32fc> srcDst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LT_32fc_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LT_32fc_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LT_64f(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LT_64f(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx64f> srcDst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LT_64f_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LT_64f_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LT_64fc(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LT_64fc(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx64fc> srcDst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LT_64fc_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LT_64fc_I(srcDst.data(), length(srcDst.size()), level.number);
   }
 };
 }  // namespace exports
@@ -3413,60 +3421,60 @@ template <class... Arguments>
 namespace exports {
 struct Threshold_GT {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<Qvx16s> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GT_16s(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GT_16s(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<Qvx16s> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GT_16s_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GT_16s_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<Qvx16s> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GT_16sc(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GT_16sc(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<Qvx16s> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GT_16sc_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GT_16sc_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst, Value<Qvx32s> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GT_32s(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GT_32s(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx32s> srcDst, Value<Qvx32s> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GT_32s_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GT_32s_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GT_32f(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GT_32f(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GT_32f_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GT_32f_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GT_32fc(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GT_32fc(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx32fc> srcDst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GT_32fc_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GT_32fc_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GT_64f(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GT_64f(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx64f> srcDst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GT_64f_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GT_64f_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GT_64fc(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GT_64fc(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx64fc> srcDst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GT_64fc_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GT_64fc_I(srcDst.data(), length(srcDst.size()), level.number);
   }
 };
 }  // namespace exports
@@ -3488,52 +3496,52 @@ template <class... Arguments>
 namespace exports {
 struct Threshold_LTVal {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<Qvx16s> level, Value<Qvx16s> value) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTVal_16s(pointer(src), pointer(dst), length(src), level.number, value.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTVal_16s(src.data(), dst.data(), length(src.size()), level.number, value.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<Qvx16s> level, Value<Qvx16s> value) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTVal_16s_I(pointer(srcDst), length(srcDst), level.number, value.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTVal_16s_I(srcDst.data(), length(srcDst.size()), level.number, value.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<Qvx16s> level, Value<Qvx16sc> value) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTVal_16sc(pointer(src), pointer(dst), length(src), level.number, value.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTVal_16sc(src.data(), dst.data(), length(src.size()), level.number, value.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<Qvx16s> level, Value<Qvx16sc> value) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTVal_16sc_I(pointer(srcDst), length(srcDst), level.number, value.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTVal_16sc_I(srcDst.data(), length(srcDst.size()), level.number, value.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<Qvx32f> level, Value<Qvx32f> value) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTVal_32f(pointer(src), pointer(dst), length(src), level.number, value.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTVal_32f(src.data(), dst.data(), length(src.size()), level.number, value.number);
   }
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> level, Value<Qvx32f> value) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTVal_32f_I(pointer(srcDst), length(srcDst), level.number, value.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTVal_32f_I(srcDst.data(), length(srcDst.size()), level.number, value.number);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, Value<Qvx32f> level, Value<Qvx32fc> value) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTVal_32fc(pointer(src), pointer(dst), length(src), level.number, value.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTVal_32fc(src.data(), dst.data(), length(src.size()), level.number, value.number);
   }
   static Status call(Out<Qvx32fc> srcDst, Value<Qvx32f> level, Value<Qvx32fc> value) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTVal_32fc_I(pointer(srcDst), length(srcDst), level.number, value.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTVal_32fc_I(srcDst.data(), length(srcDst.size()), level.number, value.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<Qvx64f> level, Value<Qvx64f> value) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTVal_64f(pointer(src), pointer(dst), length(src), level.number, value.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTVal_64f(src.data(), dst.data(), length(src.size()), level.number, value.number);
   }
   static Status call(Out<Qvx64f> srcDst, Value<Qvx64f> level, Value<Qvx64f> value) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTVal_64f_I(pointer(srcDst), length(srcDst), level.number, value.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTVal_64f_I(srcDst.data(), length(srcDst.size()), level.number, value.number);
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, Value<Qvx64f> level, Value<Qvx64fc> value) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTVal_64fc(pointer(src), pointer(dst), length(src), level.number, value.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTVal_64fc(src.data(), dst.data(), length(src.size()), level.number, value.number);
   }
   static Status call(Out<Qvx64fc> srcDst, Value<Qvx64f> level, Value<Qvx64fc> value) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTVal_64fc_I(pointer(srcDst), length(srcDst), level.number, value.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTVal_64fc_I(srcDst.data(), length(srcDst.size()), level.number, value.number);
   }
 };
 }  // namespace exports
@@ -3555,52 +3563,52 @@ template <class... Arguments>
 namespace exports {
 struct Threshold_GTVal {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<Qvx16s> level, Value<Qvx16s> value) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GTVal_16s(pointer(src), pointer(dst), length(src), level.number, value.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GTVal_16s(src.data(), dst.data(), length(src.size()), level.number, value.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<Qvx16s> level, Value<Qvx16s> value) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GTVal_16s_I(pointer(srcDst), length(srcDst), level.number, value.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GTVal_16s_I(srcDst.data(), length(srcDst.size()), level.number, value.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<Qvx16s> level, Value<Qvx16sc> value) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GTVal_16sc(pointer(src), pointer(dst), length(src), level.number, value.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GTVal_16sc(src.data(), dst.data(), length(src.size()), level.number, value.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<Qvx16s> level, Value<Qvx16sc> value) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GTVal_16sc_I(pointer(srcDst), length(srcDst), level.number, value.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GTVal_16sc_I(srcDst.data(), length(srcDst.size()), level.number, value.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<Qvx32f> level, Value<Qvx32f> value) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GTVal_32f(pointer(src), pointer(dst), length(src), level.number, value.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GTVal_32f(src.data(), dst.data(), length(src.size()), level.number, value.number);
   }
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> level, Value<Qvx32f> value) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GTVal_32f_I(pointer(srcDst), length(srcDst), level.number, value.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GTVal_32f_I(srcDst.data(), length(srcDst.size()), level.number, value.number);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, Value<Qvx32f> level, Value<Qvx32fc> value) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GTVal_32fc(pointer(src), pointer(dst), length(src), level.number, value.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GTVal_32fc(src.data(), dst.data(), length(src.size()), level.number, value.number);
   }
   static Status call(Out<Qvx32fc> srcDst, Value<Qvx32f> level, Value<Qvx32fc> value) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GTVal_32fc_I(pointer(srcDst), length(srcDst), level.number, value.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GTVal_32fc_I(srcDst.data(), length(srcDst.size()), level.number, value.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<Qvx64f> level, Value<Qvx64f> value) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GTVal_64f(pointer(src), pointer(dst), length(src), level.number, value.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GTVal_64f(src.data(), dst.data(), length(src.size()), level.number, value.number);
   }
   static Status call(Out<Qvx64f> srcDst, Value<Qvx64f> level, Value<Qvx64f> value) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GTVal_64f_I(pointer(srcDst), length(srcDst), level.number, value.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GTVal_64f_I(srcDst.data(), length(srcDst.size()), level.number, value.number);
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, Value<Qvx64f> level, Value<Qvx64fc> value) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GTVal_64fc(pointer(src), pointer(dst), length(src), level.number, value.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GTVal_64fc(src.data(), dst.data(), length(src.size()), level.number, value.number);
   }
   static Status call(Out<Qvx64fc> srcDst, Value<Qvx64f> level, Value<Qvx64fc> value) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GTVal_64fc_I(pointer(srcDst), length(srcDst), level.number, value.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GTVal_64fc_I(srcDst.data(), length(srcDst.size()), level.number, value.number);
   }
 };
 }  // namespace exports
@@ -3623,50 +3631,50 @@ namespace exports {
 struct Threshold_LTValGTVal {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<Qvx16s> levelLT, Value<Qvx16s> valueLT, Value<Qvx16s> levelGT,
       Value<Qvx16s> valueGT) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTValGTVal_16s(pointer(src), pointer(dst), length(src), levelLT.number, valueLT.number, levelGT.number,
-        valueGT.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTValGTVal_16s(src.data(), dst.data(), length(src.size()), levelLT.number, valueLT.number,
+        levelGT.number, valueGT.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<Qvx16s> levelLT, Value<Qvx16s> valueLT, Value<Qvx16s> levelGT, Value<Qvx16s>
       valueGT) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTValGTVal_16s_I(pointer(srcDst), length(srcDst), levelLT.number, valueLT.number, levelGT.number,
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTValGTVal_16s_I(srcDst.data(), length(srcDst.size()), levelLT.number, valueLT.number, levelGT.number,
         valueGT.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst, Value<Qvx32s> levelLT, Value<Qvx32s> valueLT, Value<Qvx32s> levelGT,
       Value<Qvx32s> valueGT) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTValGTVal_32s(pointer(src), pointer(dst), length(src), levelLT.number, valueLT.number, levelGT.number,
-        valueGT.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTValGTVal_32s(src.data(), dst.data(), length(src.size()), levelLT.number, valueLT.number,
+        levelGT.number, valueGT.number);
   }
   static Status call(Out<Qvx32s> srcDst, Value<Qvx32s> levelLT, Value<Qvx32s> valueLT, Value<Qvx32s> levelGT, Value<Qvx32s>
       valueGT) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTValGTVal_32s_I(pointer(srcDst), length(srcDst), levelLT.number, valueLT.number, levelGT.number,
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTValGTVal_32s_I(srcDst.data(), length(srcDst.size()), levelLT.number, valueLT.number, levelGT.number,
         valueGT.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<Qvx32f> levelLT, Value<Qvx32f> valueLT, Value<Qvx32f> levelGT,
       Value<Qvx32f> valueGT) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTValGTVal_32f(pointer(src), pointer(dst), length(src), levelLT.number, valueLT.number, levelGT.number,
-        valueGT.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTValGTVal_32f(src.data(), dst.data(), length(src.size()), levelLT.number, valueLT.number,
+        levelGT.number, valueGT.number);
   }
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> levelLT, Value<Qvx32f> valueLT, Value<Qvx32f> levelGT, Value<Qvx32f>
       valueGT) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTValGTVal_32f_I(pointer(srcDst), length(srcDst), levelLT.number, valueLT.number, levelGT.number,
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTValGTVal_32f_I(srcDst.data(), length(srcDst.size()), levelLT.number, valueLT.number, levelGT.number,
         valueGT.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<Qvx64f> levelLT, Value<Qvx64f> valueLT, Value<Qvx64f> levelGT,
       Value<Qvx64f> valueGT) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTValGTVal_64f(pointer(src), pointer(dst), length(src), levelLT.number, valueLT.number, levelGT.number,
-        valueGT.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTValGTVal_64f(src.data(), dst.data(), length(src.size()), levelLT.number, valueLT.number,
+        levelGT.number, valueGT.number);
   }
   static Status call(Out<Qvx64f> srcDst, Value<Qvx64f> levelLT, Value<Qvx64f> valueLT, Value<Qvx64f> levelGT, Value<Qvx64f>
       valueGT) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTValGTVal_64f_I(pointer(srcDst), length(srcDst), levelLT.number, valueLT.number, levelGT.number,
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTValGTVal_64f_I(srcDst.data(), length(srcDst.size()), levelLT.number, valueLT.number, levelGT.number,
         valueGT.number);
   }
 };
@@ -3688,36 +3696,36 @@ template <class... Arguments>
 namespace exports {
 struct Threshold_LTAbs {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<Qvx16s> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTAbs_16s(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTAbs_16s(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<Qvx16s> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTAbs_16s_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTAbs_16s_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst, Value<Qvx32s> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTAbs_32s(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTAbs_32s(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx32s> srcDst, Value<Qvx32s> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTAbs_32s_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTAbs_32s_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTAbs_32f(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTAbs_32f(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTAbs_32f_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTAbs_32f_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTAbs_64f(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTAbs_64f(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx64f> srcDst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTAbs_64f_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTAbs_64f_I(srcDst.data(), length(srcDst.size()), level.number);
   }
 };
 }  // namespace exports
@@ -3738,36 +3746,36 @@ template <class... Arguments>
 namespace exports {
 struct Threshold_GTAbs {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<Qvx16s> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GTAbs_16s(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GTAbs_16s(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<Qvx16s> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GTAbs_16s_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GTAbs_16s_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst, Value<Qvx32s> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GTAbs_32s(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GTAbs_32s(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx32s> srcDst, Value<Qvx32s> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GTAbs_32s_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GTAbs_32s_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GTAbs_32f(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GTAbs_32f(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GTAbs_32f_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GTAbs_32f_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_GTAbs_64f(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_GTAbs_64f(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx64f> srcDst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_GTAbs_64f_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_GTAbs_64f_I(srcDst.data(), length(srcDst.size()), level.number);
   }
 };
 }  // namespace exports
@@ -3788,36 +3796,36 @@ template <class... Arguments>
 namespace exports {
 struct Threshold_LTInv {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTInv_32f(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTInv_32f(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTInv_32f_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTInv_32f_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTInv_32fc(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTInv_32fc(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx32fc> srcDst, Value<Qvx32f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTInv_32fc_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTInv_32fc_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTInv_64f(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTInv_64f(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx64f> srcDst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTInv_64f_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTInv_64f_I(srcDst.data(), length(srcDst.size()), level.number);
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsThreshold_LTInv_64fc(pointer(src), pointer(dst), length(src), level.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsThreshold_LTInv_64fc(src.data(), dst.data(), length(src.size()), level.number);
   }
   static Status call(Out<Qvx64fc> srcDst, Value<Qvx64f> level) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsThreshold_LTInv_64fc_I(pointer(srcDst), length(srcDst), level.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsThreshold_LTInv_64fc_I(srcDst.data(), length(srcDst.size()), level.number);
   }
 };
 }  // namespace exports
@@ -3838,40 +3846,40 @@ template <class... Arguments>
 namespace exports {
 struct Sum {
   static Status call(In<Qvx32f> src, Qvx32f& sum, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSum_32f(pointer(src), length(src), &sum, hint.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSum_32f(src.data(), length(src.size()), &sum, hint.number);
   }
   static Status call(In<Qvx32fc> src, Qvx32fc& sum, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSum_32fc(pointer(src), length(src), &sum, hint.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSum_32fc(src.data(), length(src.size()), &sum, hint.number);
   }
   static Status call(In<Qvx64f> src, Qvx64f& sum) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSum_64f(pointer(src), length(src), &sum);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSum_64f(src.data(), length(src.size()), &sum);
   }
   static Status call(In<Qvx64fc> src, Qvx64fc& sum) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSum_64fc(pointer(src), length(src), &sum);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSum_64fc(src.data(), length(src.size()), &sum);
   }
   static Status call(In<Qvx16s> src, Qvx16s& sum, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSum_16s_Sfs(pointer(src), length(src), &sum, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSum_16s_Sfs(src.data(), length(src.size()), &sum, scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Qvx16sc& sum, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSum_16sc_Sfs(pointer(src), length(src), &sum, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSum_16sc_Sfs(src.data(), length(src.size()), &sum, scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Qvx32s& sum, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSum_16s32s_Sfs(pointer(src), length(src), &sum, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSum_16s32s_Sfs(src.data(), length(src.size()), &sum, scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Qvx32sc& sum, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSum_16sc32sc_Sfs(pointer(src), length(src), &sum, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSum_16sc32sc_Sfs(src.data(), length(src.size()), &sum, scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Qvx32s& sum, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsSum_32s_Sfs(pointer(src), length(src), &sum, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsSum_32s_Sfs(src.data(), length(src.size()), &sum, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -3891,32 +3899,32 @@ template <class... Arguments>
 namespace exports {
 struct Mean {
   static Status call(In<Qvx32f> src, Qvx32f& mean, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMean_32f(pointer(src), length(src), &mean, hint.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMean_32f(src.data(), length(src.size()), &mean, hint.number);
   }
   static Status call(In<Qvx32fc> src, Qvx32fc& mean, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMean_32fc(pointer(src), length(src), &mean, hint.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMean_32fc(src.data(), length(src.size()), &mean, hint.number);
   }
   static Status call(In<Qvx64f> src, Qvx64f& mean) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMean_64f(pointer(src), length(src), &mean);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMean_64f(src.data(), length(src.size()), &mean);
   }
   static Status call(In<Qvx64fc> src, Qvx64fc& mean) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMean_64fc(pointer(src), length(src), &mean);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMean_64fc(src.data(), length(src.size()), &mean);
   }
   static Status call(In<Qvx16s> src, Qvx16s& mean, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMean_16s_Sfs(pointer(src), length(src), &mean, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMean_16s_Sfs(src.data(), length(src.size()), &mean, scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Qvx16sc& mean, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMean_16sc_Sfs(pointer(src), length(src), &mean, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMean_16sc_Sfs(src.data(), length(src.size()), &mean, scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Qvx32s& mean, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMean_32s_Sfs(pointer(src), length(src), &mean, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMean_32s_Sfs(src.data(), length(src.size()), &mean, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -3936,20 +3944,20 @@ template <class... Arguments>
 namespace exports {
 struct StdDev {
   static Status call(In<Qvx32f> src, Qvx32f& stdDev, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(src));
-    return qvxsStdDev_32f(pointer(src), length(src), &stdDev, hint.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsStdDev_32f(src.data(), length(src.size()), &stdDev, hint.number);
   }
   static Status call(In<Qvx64f> src, Qvx64f& stdDev) {
-    QVX_REQUIRE(countable(src));
-    return qvxsStdDev_64f(pointer(src), length(src), &stdDev);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsStdDev_64f(src.data(), length(src.size()), &stdDev);
   }
   static Status call(In<Qvx16s> src, Qvx16s& stdDev, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsStdDev_16s_Sfs(pointer(src), length(src), &stdDev, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsStdDev_16s_Sfs(src.data(), length(src.size()), &stdDev, scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Qvx32s& stdDev, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsStdDev_16s32s_Sfs(pointer(src), length(src), &stdDev, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsStdDev_16s32s_Sfs(src.data(), length(src.size()), &stdDev, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -3969,20 +3977,20 @@ template <class... Arguments>
 namespace exports {
 struct MeanStdDev {
   static Status call(In<Qvx32f> src, Qvx32f& mean, Qvx32f& stdDev, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMeanStdDev_32f(pointer(src), length(src), &mean, &stdDev, hint.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMeanStdDev_32f(src.data(), length(src.size()), &mean, &stdDev, hint.number);
   }
   static Status call(In<Qvx64f> src, Qvx64f& mean, Qvx64f& stdDev) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMeanStdDev_64f(pointer(src), length(src), &mean, &stdDev);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMeanStdDev_64f(src.data(), length(src.size()), &mean, &stdDev);
   }
   static Status call(In<Qvx16s> src, Qvx16s& mean, Qvx16s& stdDev, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMeanStdDev_16s_Sfs(pointer(src), length(src), &mean, &stdDev, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMeanStdDev_16s_Sfs(src.data(), length(src.size()), &mean, &stdDev, scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Qvx32s& mean, Qvx32s& stdDev, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMeanStdDev_16s32s_Sfs(pointer(src), length(src), &mean, &stdDev, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMeanStdDev_16s32s_Sfs(src.data(), length(src.size()), &mean, &stdDev, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -4002,20 +4010,20 @@ template <class... Arguments>
 namespace exports {
 struct Max {
   static Status call(In<Qvx16s> src, Qvx16s& max) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMax_16s(pointer(src), length(src), &max);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMax_16s(src.data(), length(src.size()), &max);
   }
   static Status call(In<Qvx32s> src, Qvx32s& max) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMax_32s(pointer(src), length(src), &max);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMax_32s(src.data(), length(src.size()), &max);
   }
   static Status call(In<Qvx32f> src, Qvx32f& max) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMax_32f(pointer(src), length(src), &max);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMax_32f(src.data(), length(src.size()), &max);
   }
   static Status call(In<Qvx64f> src, Qvx64f& max) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMax_64f(pointer(src), length(src), &max);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMax_64f(src.data(), length(src.size()), &max);
   }
 };
 }  // namespace exports
@@ -4034,20 +4042,20 @@ template <class... Arguments>
 namespace exports {
 struct Min {
   static Status call(In<Qvx16s> src, Qvx16s& min) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMin_16s(pointer(src), length(src), &min);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMin_16s(src.data(), length(src.size()), &min);
   }
   static Status call(In<Qvx32s> src, Qvx32s& min) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMin_32s(pointer(src), length(src), &min);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMin_32s(src.data(), length(src.size()), &min);
   }
   static Status call(In<Qvx32f> src, Qvx32f& min) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMin_32f(pointer(src), length(src), &min);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMin_32f(src.data(), length(src.size()), &min);
   }
   static Status call(In<Qvx64f> src, Qvx64f& min) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMin_64f(pointer(src), length(src), &min);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMin_64f(src.data(), length(src.size()), &min);
   }
 };
 }  // namespace exports
@@ -4066,20 +4074,20 @@ template <class... Arguments>
 namespace exports {
 struct MaxIndx {
   static Status call(In<Qvx16s> src, Qvx16s& max, int& indx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMaxIndx_16s(pointer(src), length(src), &max, &indx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMaxIndx_16s(src.data(), length(src.size()), &max, &indx);
   }
   static Status call(In<Qvx32s> src, Qvx32s& max, int& indx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMaxIndx_32s(pointer(src), length(src), &max, &indx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMaxIndx_32s(src.data(), length(src.size()), &max, &indx);
   }
   static Status call(In<Qvx32f> src, Qvx32f& max, int& indx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMaxIndx_32f(pointer(src), length(src), &max, &indx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMaxIndx_32f(src.data(), length(src.size()), &max, &indx);
   }
   static Status call(In<Qvx64f> src, Qvx64f& max, int& indx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMaxIndx_64f(pointer(src), length(src), &max, &indx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMaxIndx_64f(src.data(), length(src.size()), &max, &indx);
   }
 };
 }  // namespace exports
@@ -4099,20 +4107,20 @@ template <class... Arguments>
 namespace exports {
 struct MinIndx {
   static Status call(In<Qvx16s> src, Qvx16s& min, int& indx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinIndx_16s(pointer(src), length(src), &min, &indx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinIndx_16s(src.data(), length(src.size()), &min, &indx);
   }
   static Status call(In<Qvx32s> src, Qvx32s& min, int& indx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinIndx_32s(pointer(src), length(src), &min, &indx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinIndx_32s(src.data(), length(src.size()), &min, &indx);
   }
   static Status call(In<Qvx32f> src, Qvx32f& min, int& indx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinIndx_32f(pointer(src), length(src), &min, &indx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinIndx_32f(src.data(), length(src.size()), &min, &indx);
   }
   static Status call(In<Qvx64f> src, Qvx64f& min, int& indx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinIndx_64f(pointer(src), length(src), &min, &indx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinIndx_64f(src.data(), length(src.size()), &min, &indx);
   }
 };
 }  // namespace exports
@@ -4132,32 +4140,32 @@ template <class... Arguments>
 namespace exports {
 struct MinMax {
   static Status call(In<Qvx8u> src, Qvx8u& min, Qvx8u& max) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMax_8u(pointer(src), length(src), &min, &max);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMax_8u(src.data(), length(src.size()), &min, &max);
   }
   static Status call(In<Qvx16u> src, Qvx16u& min, Qvx16u& max) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMax_16u(pointer(src), length(src), &min, &max);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMax_16u(src.data(), length(src.size()), &min, &max);
   }
   static Status call(In<Qvx16s> src, Qvx16s& min, Qvx16s& max) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMax_16s(pointer(src), length(src), &min, &max);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMax_16s(src.data(), length(src.size()), &min, &max);
   }
   static Status call(In<Qvx32u> src, Qvx32u& min, Qvx32u& max) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMax_32u(pointer(src), length(src), &min, &max);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMax_32u(src.data(), length(src.size()), &min, &max);
   }
   static Status call(In<Qvx32s> src, Qvx32s& min, Qvx32s& max) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMax_32s(pointer(src), length(src), &min, &max);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMax_32s(src.data(), length(src.size()), &min, &max);
   }
   static Status call(In<Qvx32f> src, Qvx32f& min, Qvx32f& max) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMax_32f(pointer(src), length(src), &min, &max);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMax_32f(src.data(), length(src.size()), &min, &max);
   }
   static Status call(In<Qvx64f> src, Qvx64f& min, Qvx64f& max) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMax_64f(pointer(src), length(src), &min, &max);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMax_64f(src.data(), length(src.size()), &min, &max);
   }
 };
 }  // namespace exports
@@ -4177,32 +4185,32 @@ template <class... Arguments>
 namespace exports {
 struct MinMaxIndx {
   static Status call(In<Qvx8u> src, Qvx8u& min, int& minIndx, Qvx8u& max, int& maxIndx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMaxIndx_8u(pointer(src), length(src), &min, &minIndx, &max, &maxIndx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMaxIndx_8u(src.data(), length(src.size()), &min, &minIndx, &max, &maxIndx);
   }
   static Status call(In<Qvx16u> src, Qvx16u& min, int& minIndx, Qvx16u& max, int& maxIndx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMaxIndx_16u(pointer(src), length(src), &min, &minIndx, &max, &maxIndx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMaxIndx_16u(src.data(), length(src.size()), &min, &minIndx, &max, &maxIndx);
   }
   static Status call(In<Qvx16s> src, Qvx16s& min, int& minIndx, Qvx16s& max, int& maxIndx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMaxIndx_16s(pointer(src), length(src), &min, &minIndx, &max, &maxIndx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMaxIndx_16s(src.data(), length(src.size()), &min, &minIndx, &max, &maxIndx);
   }
   static Status call(In<Qvx32u> src, Qvx32u& min, int& minIndx, Qvx32u& max, int& maxIndx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMaxIndx_32u(pointer(src), length(src), &min, &minIndx, &max, &maxIndx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMaxIndx_32u(src.data(), length(src.size()), &min, &minIndx, &max, &maxIndx);
   }
   static Status call(In<Qvx32s> src, Qvx32s& min, int& minIndx, Qvx32s& max, int& maxIndx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMaxIndx_32s(pointer(src), length(src), &min, &minIndx, &max, &maxIndx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMaxIndx_32s(src.data(), length(src.size()), &min, &minIndx, &max, &maxIndx);
   }
   static Status call(In<Qvx32f> src, Qvx32f& min, int& minIndx, Qvx32f& max, int& maxIndx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMaxIndx_32f(pointer(src), length(src), &min, &minIndx, &max, &maxIndx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMaxIndx_32f(src.data(), length(src.size()), &min, &minIndx, &max, &maxIndx);
   }
   static Status call(In<Qvx64f> src, Qvx64f& min, int& minIndx, Qvx64f& max, int& maxIndx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinMaxIndx_64f(pointer(src), length(src), &min, &minIndx, &max, &maxIndx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinMaxIndx_64f(src.data(), length(src.size()), &min, &minIndx, &max, &maxIndx);
   }
 };
 }  // namespace exports
@@ -4222,12 +4230,12 @@ template <class... Arguments>
 namespace exports {
 struct MaxAbs {
   static Status call(In<Qvx16s> src, Qvx16s& maxAbs) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMaxAbs_16s(pointer(src), length(src), &maxAbs);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMaxAbs_16s(src.data(), length(src.size()), &maxAbs);
   }
   static Status call(In<Qvx32s> src, Qvx32s& maxAbs) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMaxAbs_32s(pointer(src), length(src), &maxAbs);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMaxAbs_32s(src.data(), length(src.size()), &maxAbs);
   }
 };
 }  // namespace exports
@@ -4246,12 +4254,12 @@ template <class... Arguments>
 namespace exports {
 struct MinAbs {
   static Status call(In<Qvx16s> src, Qvx16s& minAbs) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinAbs_16s(pointer(src), length(src), &minAbs);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinAbs_16s(src.data(), length(src.size()), &minAbs);
   }
   static Status call(In<Qvx32s> src, Qvx32s& minAbs) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinAbs_32s(pointer(src), length(src), &minAbs);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinAbs_32s(src.data(), length(src.size()), &minAbs);
   }
 };
 }  // namespace exports
@@ -4270,12 +4278,12 @@ template <class... Arguments>
 namespace exports {
 struct MaxAbsIndx {
   static Status call(In<Qvx16s> src, Qvx16s& maxAbs, int& indx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMaxAbsIndx_16s(pointer(src), length(src), &maxAbs, &indx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMaxAbsIndx_16s(src.data(), length(src.size()), &maxAbs, &indx);
   }
   static Status call(In<Qvx32s> src, Qvx32s& maxAbs, int& indx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMaxAbsIndx_32s(pointer(src), length(src), &maxAbs, &indx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMaxAbsIndx_32s(src.data(), length(src.size()), &maxAbs, &indx);
   }
 };
 }  // namespace exports
@@ -4294,12 +4302,12 @@ template <class... Arguments>
 namespace exports {
 struct MinAbsIndx {
   static Status call(In<Qvx16s> src, Qvx16s& minAbs, int& indx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinAbsIndx_16s(pointer(src), length(src), &minAbs, &indx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinAbsIndx_16s(src.data(), length(src.size()), &minAbs, &indx);
   }
   static Status call(In<Qvx32s> src, Qvx32s& minAbs, int& indx) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMinAbsIndx_32s(pointer(src), length(src), &minAbs, &indx);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMinAbsIndx_32s(src.data(), length(src.size()), &minAbs, &indx);
   }
 };
 }  // namespace exports
@@ -4318,44 +4326,44 @@ template <class... Arguments>
 namespace exports {
 struct MaxEvery {
   static Status call(In<Qvx8u> src1, In<Qvx8u> src2, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMaxEvery_8u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMaxEvery_8u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16u> src1, In<Qvx16u> src2, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMaxEvery_16u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMaxEvery_16u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMaxEvery_32f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMaxEvery_32f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMaxEvery_64f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMaxEvery_64f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMaxEvery_8u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMaxEvery_8u_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMaxEvery_16u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMaxEvery_16u_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMaxEvery_16s_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMaxEvery_16s_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMaxEvery_32s_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMaxEvery_32s_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMaxEvery_32f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMaxEvery_32f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMaxEvery_64f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMaxEvery_64f_I(src.data(), srcDst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -4375,44 +4383,44 @@ template <class... Arguments>
 namespace exports {
 struct MinEvery {
   static Status call(In<Qvx8u> src1, In<Qvx8u> src2, Out<Qvx8u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMinEvery_8u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMinEvery_8u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx16u> src1, In<Qvx16u> src2, Out<Qvx16u> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMinEvery_16u(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMinEvery_16u(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMinEvery_32f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMinEvery_32f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMinEvery_64f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMinEvery_64f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMinEvery_8u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMinEvery_8u_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx16u> src, Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMinEvery_16u_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMinEvery_16u_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMinEvery_16s_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMinEvery_16s_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMinEvery_32s_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMinEvery_32s_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMinEvery_32f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMinEvery_32f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMinEvery_64f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMinEvery_64f_I(src.data(), srcDst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -4432,20 +4440,20 @@ template <class... Arguments>
 namespace exports {
 struct MaxOrder {
   static Status call(In<Qvx16s> src, int& order) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMaxOrder_16s(pointer(src), length(src), &order);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMaxOrder_16s(src.data(), length(src.size()), &order);
   }
   static Status call(In<Qvx32s> src, int& order) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMaxOrder_32s(pointer(src), length(src), &order);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMaxOrder_32s(src.data(), length(src.size()), &order);
   }
   static Status call(In<Qvx32f> src, int& order) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMaxOrder_32f(pointer(src), length(src), &order);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMaxOrder_32f(src.data(), length(src.size()), &order);
   }
   static Status call(In<Qvx64f> src, int& order) {
-    QVX_REQUIRE(countable(src));
-    return qvxsMaxOrder_64f(pointer(src), length(src), &order);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsMaxOrder_64f(src.data(), length(src.size()), &order);
   }
 };
 }  // namespace exports
@@ -4465,8 +4473,8 @@ template <class... Arguments>
 namespace exports {
 struct CountInRange {
   static Status call(In<Qvx32s> src, int& counts, Value<Qvx32s> lowerBound, Value<Qvx32s> upperBound) {
-    QVX_REQUIRE(countable(src));
-    return qvxsCountInRange_32s(pointer(src), length(src), &counts, lowerBound.number, upperBound.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsCountInRange_32s(src.data(), length(src.size()), &counts, lowerBound.number, upperBound.number);
   }
 };
 }  // namespace exports
@@ -4485,8 +4493,10 @@ template <class... Arguments>
 namespace exports {
 struct FindNearest {
   static Status call(In<Qvx16u> vals, Out<Qvx16u> outVals, Out<int> outIndx, In<Qvx16u> table) {
-    QVX_REQUIRE(countable(vals) && countable(table) && sameLength(outVals, vals) && sameLength(outIndx, vals));
-    return qvxsFindNearest_16u(pointer(vals), pointer(outVals), pointer(outIndx), length(vals), pointer(table), length(table));
+    QVX_REQUIRE(countable(vals.size()) && countable(table.size()) && outVals.size() == vals.size() && outIndx.size() ==
+        vals.size());
+    return qvxsFindNearest_16u(vals.data(), outVals.data(), outIndx.data(), length(vals.size()), table.data(),
+        length(table.size()));
   }
 };
 }  // namespace exports
@@ -4505,8 +4515,8 @@ template <class... Arguments>
 namespace exports {
 struct FindNearestOne {
   static Status call(Value<Qvx16u> inpVal, Qvx16u& outVal, int& outIndx, In<Qvx16u> table) {
-    QVX_REQUIRE(countable(table));
-    return qvxsFindNearestOne_16u(inpVal.number, &outVal, &outIndx, pointer(table), length(table));
+    QVX_REQUIRE(countable(table.size()));
+    return qvxsFindNearestOne_16u(inpVal.number, &outVal, &outIndx, table.data(), length(table.size()));
   }
 };
 }  // namespace exports
@@ -4525,28 +4535,28 @@ template <class... Arguments>
 namespace exports {
 struct Norm_Inf {
   static Status call(In<Qvx32f> src, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_Inf_32f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_Inf_32f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx64f> src, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_Inf_64f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_Inf_64f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx16s> src, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_Inf_16s32f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_Inf_16s32f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx16s> src, Qvx32s& norm, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_Inf_16s32s_Sfs(pointer(src), length(src), &norm, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_Inf_16s32s_Sfs(src.data(), length(src.size()), &norm, scaleFactor.number);
   }
   static Status call(In<Qvx32fc> src, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_Inf_32fc32f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_Inf_32fc32f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx64fc> src, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_Inf_64fc64f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_Inf_64fc64f(src.data(), length(src.size()), &norm);
   }
 };
 }  // namespace exports
@@ -4566,32 +4576,32 @@ template <class... Arguments>
 namespace exports {
 struct Norm_L1 {
   static Status call(In<Qvx32f> src, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L1_32f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L1_32f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx64f> src, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L1_64f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L1_64f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx16s> src, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L1_16s32f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L1_16s32f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx16s> src, Qvx32s& norm, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L1_16s32s_Sfs(pointer(src), length(src), &norm, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L1_16s32s_Sfs(src.data(), length(src.size()), &norm, scaleFactor.number);
   }
   static Status call(In<Qvx64fc> src, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L1_64fc64f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L1_64fc64f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx32fc> src, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L1_32fc64f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L1_32fc64f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx16s> src, Qvx64s& norm, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L1_16s64s_Sfs(pointer(src), length(src), &norm, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L1_16s64s_Sfs(src.data(), length(src.size()), &norm, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -4611,28 +4621,28 @@ template <class... Arguments>
 namespace exports {
 struct Norm_L2 {
   static Status call(In<Qvx32f> src, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L2_32f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L2_32f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx64f> src, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L2_64f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L2_64f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx16s> src, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L2_16s32f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L2_16s32f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx16s> src, Qvx32s& norm, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L2_16s32s_Sfs(pointer(src), length(src), &norm, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L2_16s32s_Sfs(src.data(), length(src.size()), &norm, scaleFactor.number);
   }
   static Status call(In<Qvx64fc> src, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L2_64fc64f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L2_64fc64f(src.data(), length(src.size()), &norm);
   }
   static Status call(In<Qvx32fc> src, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L2_32fc64f(pointer(src), length(src), &norm);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L2_32fc64f(src.data(), length(src.size()), &norm);
   }
 };
 }  // namespace exports
@@ -4652,8 +4662,8 @@ template <class... Arguments>
 namespace exports {
 struct Norm_L2Sqr {
   static Status call(In<Qvx16s> src, Qvx64s& norm, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsNorm_L2Sqr_16s64s_Sfs(pointer(src), length(src), &norm, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsNorm_L2Sqr_16s64s_Sfs(src.data(), length(src.size()), &norm, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -4672,28 +4682,28 @@ template <class... Arguments>
 namespace exports {
 struct NormDiff_Inf {
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_Inf_32f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_Inf_32f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_Inf_64f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_Inf_64f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_Inf_16s32f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_Inf_16s32f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Qvx32s& norm, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_Inf_16s32s_Sfs(pointer(src1), pointer(src2), length(src1), &norm, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_Inf_16s32s_Sfs(src1.data(), src2.data(), length(src1.size()), &norm, scaleFactor.number);
   }
   static Status call(In<Qvx32fc> src1, In<Qvx32fc> src2, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_Inf_32fc32f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_Inf_32fc32f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx64fc> src1, In<Qvx64fc> src2, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_Inf_64fc64f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_Inf_64fc64f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
 };
 }  // namespace exports
@@ -4713,32 +4723,32 @@ template <class... Arguments>
 namespace exports {
 struct NormDiff_L1 {
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L1_32f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L1_32f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L1_64f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L1_64f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L1_16s32f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L1_16s32f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Qvx32s& norm, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L1_16s32s_Sfs(pointer(src1), pointer(src2), length(src1), &norm, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L1_16s32s_Sfs(src1.data(), src2.data(), length(src1.size()), &norm, scaleFactor.number);
   }
   static Status call(In<Qvx64fc> src1, In<Qvx64fc> src2, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L1_64fc64f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L1_64fc64f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx32fc> src1, In<Qvx32fc> src2, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L1_32fc64f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L1_32fc64f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Qvx64s& norm, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L1_16s64s_Sfs(pointer(src1), pointer(src2), length(src1), &norm, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L1_16s64s_Sfs(src1.data(), src2.data(), length(src1.size()), &norm, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -4759,28 +4769,28 @@ template <class... Arguments>
 namespace exports {
 struct NormDiff_L2 {
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L2_32f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L2_32f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L2_64f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L2_64f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Qvx32f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L2_16s32f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L2_16s32f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Qvx32s& norm, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L2_16s32s_Sfs(pointer(src1), pointer(src2), length(src1), &norm, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L2_16s32s_Sfs(src1.data(), src2.data(), length(src1.size()), &norm, scaleFactor.number);
   }
   static Status call(In<Qvx64fc> src1, In<Qvx64fc> src2, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L2_64fc64f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L2_64fc64f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
   static Status call(In<Qvx32fc> src1, In<Qvx32fc> src2, Qvx64f& norm) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L2_32fc64f(pointer(src1), pointer(src2), length(src1), &norm);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L2_32fc64f(src1.data(), src2.data(), length(src1.size()), &norm);
   }
 };
 }  // namespace exports
@@ -4800,8 +4810,8 @@ template <class... Arguments>
 namespace exports {
 struct NormDiff_L2Sqr {
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Qvx64s& norm, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsNormDiff_L2Sqr_16s64s_Sfs(pointer(src1), pointer(src2), length(src1), &norm, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsNormDiff_L2Sqr_16s64s_Sfs(src1.data(), src2.data(), length(src1.size()), &norm, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -4820,104 +4830,104 @@ template <class... Arguments>
 namespace exports {
 struct DotProd {
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Qvx32f& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_32f(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_32f(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Qvx64f& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_64f(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_64f(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx32fc> src1, In<Qvx32fc> src2, Qvx32fc& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_32fc(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_32fc(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx64fc> src1, In<Qvx64fc> src2, Qvx64fc& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_64fc(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_64fc(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx32f> src1, In<Qvx32fc> src2, Qvx32fc& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_32f32fc(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_32f32fc(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx64f> src1, In<Qvx64fc> src2, Qvx64fc& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_64f64fc(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_64f64fc(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Qvx64f& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_32f64f(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_32f64f(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx32fc> src1, In<Qvx32fc> src2, Qvx64fc& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_32fc64fc(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_32fc64fc(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx32f> src1, In<Qvx32fc> src2, Qvx64fc& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_32f32fc64fc(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_32f32fc64fc(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Qvx32f& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16s32f(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16s32f(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx16sc> src1, In<Qvx16sc> src2, Qvx32fc& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16sc32fc(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16sc32fc(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16sc> src2, Qvx32fc& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16s16sc32fc(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16s16sc32fc(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Qvx64s& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16s64s(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16s64s(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx16sc> src1, In<Qvx16sc> src2, Qvx64sc& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16sc64sc(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16sc64sc(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16sc> src2, Qvx64sc& dp) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16s16sc64sc(pointer(src1), pointer(src2), length(src1), &dp);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16s16sc64sc(src1.data(), src2.data(), length(src1.size()), &dp);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Qvx16s& dp, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16s_Sfs(pointer(src1), pointer(src2), length(src1), &dp, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16s_Sfs(src1.data(), src2.data(), length(src1.size()), &dp, scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src1, In<Qvx16sc> src2, Qvx16sc& dp, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16sc_Sfs(pointer(src1), pointer(src2), length(src1), &dp, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16sc_Sfs(src1.data(), src2.data(), length(src1.size()), &dp, scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16sc> src2, Qvx16sc& dp, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16s16sc_Sfs(pointer(src1), pointer(src2), length(src1), &dp, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16s16sc_Sfs(src1.data(), src2.data(), length(src1.size()), &dp, scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Qvx32s& dp, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16s32s_Sfs(pointer(src1), pointer(src2), length(src1), &dp, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16s32s_Sfs(src1.data(), src2.data(), length(src1.size()), &dp, scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src1, In<Qvx16sc> src2, Qvx32sc& dp, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16sc32sc_Sfs(pointer(src1), pointer(src2), length(src1), &dp, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16sc32sc_Sfs(src1.data(), src2.data(), length(src1.size()), &dp, scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16sc> src2, Qvx32sc& dp, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16s16sc32sc_Sfs(pointer(src1), pointer(src2), length(src1), &dp, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16s16sc32sc_Sfs(src1.data(), src2.data(), length(src1.size()), &dp, scaleFactor.number);
   }
   static Status call(In<Qvx32s> src1, In<Qvx32s> src2, Qvx32s& dp, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_32s_Sfs(pointer(src1), pointer(src2), length(src1), &dp, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_32s_Sfs(src1.data(), src2.data(), length(src1.size()), &dp, scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src1, In<Qvx32sc> src2, Qvx32sc& dp, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_32sc_Sfs(pointer(src1), pointer(src2), length(src1), &dp, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_32sc_Sfs(src1.data(), src2.data(), length(src1.size()), &dp, scaleFactor.number);
   }
   static Status call(In<Qvx32s> src1, In<Qvx32sc> src2, Qvx32sc& dp, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_32s32sc_Sfs(pointer(src1), pointer(src2), length(src1), &dp, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_32s32sc_Sfs(src1.data(), src2.data(), length(src1.size()), &dp, scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx32s> src2, Qvx32s& dp, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1));
-    return qvxsDotProd_16s32s32s_Sfs(pointer(src1), pointer(src2), length(src1), &dp, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size());
+    return qvxsDotProd_16s32s32s_Sfs(src1.data(), src2.data(), length(src1.size()), &dp, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -4940,28 +4950,28 @@ template <class... Arguments>
 namespace exports {
 struct MulPack {
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMulPack_32f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMulPack_32f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMulPack_32f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMulPack_32f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMulPack_64f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMulPack_64f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMulPack_64f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMulPack_64f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMulPack_16s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMulPack_16s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMulPack_16s_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMulPack_16s_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -4981,28 +4991,28 @@ template <class... Arguments>
 namespace exports {
 struct MulPerm {
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMulPerm_32f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMulPerm_32f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMulPerm_32f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMulPerm_32f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMulPerm_64f(pointer(src1), pointer(src2), pointer(dst), length(src1));
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMulPerm_64f(src1.data(), src2.data(), dst.data(), length(src1.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMulPerm_64f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMulPerm_64f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && sameLength(src2, src1) && sameLength(dst, src1));
-    return qvxsMulPerm_16s_Sfs(pointer(src1), pointer(src2), pointer(dst), length(src1), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && src2.size() == src1.size() && dst.size() == src1.size());
+    return qvxsMulPerm_16s_Sfs(src1.data(), src2.data(), dst.data(), length(src1.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> srcDst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMulPerm_16s_ISfs(pointer(src), pointer(srcDst), length(src), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMulPerm_16s_ISfs(src.data(), srcDst.data(), length(src.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -5022,12 +5032,12 @@ template <class... Arguments>
 namespace exports {
 struct MulPackConj {
   static Status call(In<Qvx32f> src, Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMulPackConj_32f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMulPackConj_32f_I(src.data(), srcDst.data(), length(src.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(src) && sameLength(srcDst, src));
-    return qvxsMulPackConj_64f_I(pointer(src), pointer(srcDst), length(src));
+    QVX_REQUIRE(countable(src.size()) && srcDst.size() == src.size());
+    return qvxsMulPackConj_64f_I(src.data(), srcDst.data(), length(src.size()));
   }
 };
 }  // namespace exports
@@ -5047,28 +5057,28 @@ template <class... Arguments>
 namespace exports {
 struct ConjPack {
   static Status call(In<Qvx32f> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConjPack_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConjPack_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsConjPack_32fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsConjPack_32fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConjPack_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConjPack_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsConjPack_64fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsConjPack_64fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConjPack_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConjPack_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16sc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsConjPack_16sc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsConjPack_16sc_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -5088,28 +5098,28 @@ template <class... Arguments>
 namespace exports {
 struct ConjPerm {
   static Status call(In<Qvx32f> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConjPerm_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConjPerm_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsConjPerm_32fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsConjPerm_32fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConjPerm_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConjPerm_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsConjPerm_64fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsConjPerm_64fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsConjPerm_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsConjPerm_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16sc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsConjPerm_16sc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsConjPerm_16sc_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -5129,28 +5139,28 @@ template <class... Arguments>
 namespace exports {
 struct ConjCcs {
   static Status call(In<Qvx32f> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(dst) && atLeast(src, 2 * (quotient(int64_t(length(dst)), 2) + 1)));
-    return qvxsConjCcs_32fc(pointer(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()) && atLeast(src.size(), 2 * (quotient(int64_t(dst.size()), 2) + 1)));
+    return qvxsConjCcs_32fc(src.data(), dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsConjCcs_32fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsConjCcs_32fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(dst) && atLeast(src, 2 * (quotient(int64_t(length(dst)), 2) + 1)));
-    return qvxsConjCcs_64fc(pointer(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()) && atLeast(src.size(), 2 * (quotient(int64_t(dst.size()), 2) + 1)));
+    return qvxsConjCcs_64fc(src.data(), dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsConjCcs_64fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsConjCcs_64fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(dst) && atLeast(src, 2 * (quotient(int64_t(length(dst)), 2) + 1)));
-    return qvxsConjCcs_16sc(pointer(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()) && atLeast(src.size(), 2 * (quotient(int64_t(dst.size()), 2) + 1)));
+    return qvxsConjCcs_16sc(src.data(), dst.data(), length(dst.size()));
   }
   static Status call(Out<Qvx16sc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsConjCcs_16sc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsConjCcs_16sc_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -5170,160 +5180,180 @@ template <class... Arguments>
 namespace exports {
 struct FIR_Direct {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, In<Qvx32f> taps, Out<Qvx32f> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR_Direct_32f(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR_Direct_32f(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex);
   }
   static Status call(Out<Qvx32f> srcDst, In<Qvx32f> taps, Out<Qvx32f> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR_Direct_32f_I(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR_Direct_32f_I(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
+        &dlyLineIndex);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, In<Qvx32fc> taps, Out<Qvx32fc> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR_Direct_32fc(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR_Direct_32fc(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex);
   }
   static Status call(Out<Qvx32fc> srcDst, In<Qvx32fc> taps, Out<Qvx32fc> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR_Direct_32fc_I(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR_Direct_32fc_I(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
+        &dlyLineIndex);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, In<Qvx32f> taps, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR32f_Direct_16s_Sfs(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR32f_Direct_16s_Sfs(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Out<Qvx16s> srcDst, In<Qvx32f> taps, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR32f_Direct_16s_ISfs(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR32f_Direct_16s_ISfs(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, In<Qvx32fc> taps, Out<Qvx16sc> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR32fc_Direct_16sc_Sfs(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
-        &dlyLineIndex, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR32fc_Direct_16sc_Sfs(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()),
+        dlyLine.data(), &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Out<Qvx16sc> srcDst, In<Qvx32fc> taps, Out<Qvx16sc> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR32fc_Direct_16sc_ISfs(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR32fc_Direct_16sc_ISfs(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, In<Qvx64f> taps, Out<Qvx64f> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR_Direct_64f(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR_Direct_64f(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex);
   }
   static Status call(Out<Qvx64f> srcDst, In<Qvx64f> taps, Out<Qvx64f> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR_Direct_64f_I(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR_Direct_64f_I(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
+        &dlyLineIndex);
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, In<Qvx64fc> taps, Out<Qvx64fc> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR_Direct_64fc(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR_Direct_64fc(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex);
   }
   static Status call(Out<Qvx64fc> srcDst, In<Qvx64fc> taps, Out<Qvx64fc> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR_Direct_64fc_I(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR_Direct_64fc_I(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
+        &dlyLineIndex);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, In<Qvx64f> taps, Out<Qvx32f> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR64f_Direct_32f(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR64f_Direct_32f(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex);
   }
   static Status call(Out<Qvx32f> srcDst, In<Qvx64f> taps, Out<Qvx32f> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR64f_Direct_32f_I(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR64f_Direct_32f_I(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
+        &dlyLineIndex);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, In<Qvx64fc> taps, Out<Qvx32fc> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR64fc_Direct_32fc(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR64fc_Direct_32fc(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex);
   }
   static Status call(Out<Qvx32fc> srcDst, In<Qvx64fc> taps, Out<Qvx32fc> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR64fc_Direct_32fc_I(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR64fc_Direct_32fc_I(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst, In<Qvx64f> taps, Out<Qvx32s> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR64f_Direct_32s_Sfs(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR64f_Direct_32s_Sfs(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Out<Qvx32s> srcDst, In<Qvx64f> taps, Out<Qvx32s> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR64f_Direct_32s_ISfs(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR64f_Direct_32s_ISfs(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src, Out<Qvx32sc> dst, In<Qvx64fc> taps, Out<Qvx32sc> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR64fc_Direct_32sc_Sfs(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
-        &dlyLineIndex, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR64fc_Direct_32sc_Sfs(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()),
+        dlyLine.data(), &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Out<Qvx32sc> srcDst, In<Qvx64fc> taps, Out<Qvx32sc> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR64fc_Direct_32sc_ISfs(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR64fc_Direct_32sc_ISfs(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, In<Qvx64f> taps, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR64f_Direct_16s_Sfs(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR64f_Direct_16s_Sfs(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Out<Qvx16s> srcDst, In<Qvx64f> taps, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR64f_Direct_16s_ISfs(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR64f_Direct_16s_ISfs(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, In<Qvx64fc> taps, Out<Qvx16sc> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR64fc_Direct_16sc_Sfs(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
-        &dlyLineIndex, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR64fc_Direct_16sc_Sfs(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()),
+        dlyLine.data(), &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Out<Qvx16sc> srcDst, In<Qvx64fc> taps, Out<Qvx16sc> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR64fc_Direct_16sc_ISfs(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR64fc_Direct_16sc_ISfs(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, In<Qvx32s> taps, Value<int> tapsFactor, Out<Qvx16s> dlyLine, int&
       dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR32s_Direct_16s_Sfs(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), tapsFactor.number,
-        pointer(dlyLine), &dlyLineIndex, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR32s_Direct_16s_Sfs(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()),
+        tapsFactor.number, dlyLine.data(), &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Out<Qvx16s> srcDst, In<Qvx32s> taps, Value<int> tapsFactor, Out<Qvx16s> dlyLine, int& dlyLineIndex,
       Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR32s_Direct_16s_ISfs(pointer(srcDst), length(srcDst), pointer(taps), length(taps), tapsFactor.number,
-        pointer(dlyLine), &dlyLineIndex, scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR32s_Direct_16s_ISfs(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), tapsFactor.number,
+        dlyLine.data(), &dlyLineIndex, scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, In<Qvx32sc> taps, Value<int> tapsFactor, Out<Qvx16sc> dlyLine, int&
       dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR32sc_Direct_16sc_Sfs(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), tapsFactor.number,
-        pointer(dlyLine), &dlyLineIndex, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR32sc_Direct_16sc_Sfs(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()),
+        tapsFactor.number, dlyLine.data(), &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Out<Qvx16sc> srcDst, In<Qvx32sc> taps, Value<int> tapsFactor, Out<Qvx16sc> dlyLine, int& dlyLineIndex,
       Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR32sc_Direct_16sc_ISfs(pointer(srcDst), length(srcDst), pointer(taps), length(taps), tapsFactor.number,
-        pointer(dlyLine), &dlyLineIndex, scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR32sc_Direct_16sc_ISfs(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), tapsFactor.number,
+        dlyLine.data(), &dlyLineIndex, scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, In<Qvx16s> taps, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(src) && countable(taps) && sameLength(dst, src) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR_Direct_16s_Sfs(pointer(src), pointer(dst), length(src), pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(src.size()) && countable(taps.size()) && dst.size() == src.size() && atLeast(dlyLine.size(), 2 *
+        int64_t(taps.size())));
+    return qvxsFIR_Direct_16s_Sfs(src.data(), dst.data(), length(src.size()), taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Out<Qvx16s> srcDst, In<Qvx16s> taps, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst) && countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIR_Direct_16s_ISfs(pointer(srcDst), length(srcDst), pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
-        scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()) && countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIR_Direct_16s_ISfs(srcDst.data(), length(srcDst.size()), taps.data(), length(taps.size()), dlyLine.data(),
+        &dlyLineIndex, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -5348,152 +5378,152 @@ template <class... Arguments>
 namespace exports {
 struct FIROne_Direct {
   static Status call(Value<Qvx32f> src, Qvx32f& dstVal, In<Qvx32f> taps, Out<Qvx32f> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne_Direct_32f(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne_Direct_32f(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex);
   }
   static Status call(Value<Qvx32fc> src, Qvx32fc& dstVal, In<Qvx32fc> taps, Out<Qvx32fc> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne_Direct_32fc(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne_Direct_32fc(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex);
   }
   static Status call(Value<Qvx16s> src, Qvx16s& dstVal, In<Qvx32f> taps, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne32f_Direct_16s_Sfs(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne32f_Direct_16s_Sfs(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Value<Qvx16sc> src, Qvx16sc& dstVal, In<Qvx32fc> taps, Out<Qvx16sc> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne32fc_Direct_16sc_Sfs(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne32fc_Direct_16sc_Sfs(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Value<Qvx64f> src, Qvx64f& dstVal, In<Qvx64f> taps, Out<Qvx64f> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne_Direct_64f(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne_Direct_64f(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex);
   }
   static Status call(Value<Qvx64fc> src, Qvx64fc& dstVal, In<Qvx64fc> taps, Out<Qvx64fc> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne_Direct_64fc(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne_Direct_64fc(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex);
   }
   static Status call(Value<Qvx32f> src, Qvx32f& dstVal, In<Qvx64f> taps, Out<Qvx32f> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne64f_Direct_32f(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne64f_Direct_32f(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex);
   }
   static Status call(Value<Qvx32fc> src, Qvx32fc& dstVal, In<Qvx64fc> taps, Out<Qvx32fc> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne64fc_Direct_32fc(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne64fc_Direct_32fc(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex);
   }
   static Status call(Value<Qvx32s> src, Qvx32s& dstVal, In<Qvx64f> taps, Out<Qvx32s> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne64f_Direct_32s_Sfs(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne64f_Direct_32s_Sfs(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Value<Qvx32sc> src, Qvx32sc& dstVal, In<Qvx64fc> taps, Out<Qvx32sc> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne64fc_Direct_32sc_Sfs(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne64fc_Direct_32sc_Sfs(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Value<Qvx16s> src, Qvx16s& dstVal, In<Qvx64f> taps, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne64f_Direct_16s_Sfs(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne64f_Direct_16s_Sfs(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Value<Qvx16sc> src, Qvx16sc& dstVal, In<Qvx64fc> taps, Out<Qvx16sc> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne64fc_Direct_16sc_Sfs(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne64fc_Direct_16sc_Sfs(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Value<Qvx16s> src, Qvx16s& dstVal, In<Qvx32s> taps, Value<int> tapsFactor, Out<Qvx16s> dlyLine, int&
       dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne32s_Direct_16s_Sfs(src.number, &dstVal, pointer(taps), length(taps), tapsFactor.number, pointer(dlyLine),
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne32s_Direct_16s_Sfs(src.number, &dstVal, taps.data(), length(taps.size()), tapsFactor.number, dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Value<Qvx16sc> src, Qvx16sc& dstVal, In<Qvx32sc> taps, Value<int> tapsFactor, Out<Qvx16sc> dlyLine, int&
       dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne32sc_Direct_16sc_Sfs(src.number, &dstVal, pointer(taps), length(taps), tapsFactor.number, pointer(dlyLine),
-        &dlyLineIndex, scaleFactor.number);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne32sc_Direct_16sc_Sfs(src.number, &dstVal, taps.data(), length(taps.size()), tapsFactor.number,
+        dlyLine.data(), &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Value<Qvx16s> src, Qvx16s& dstVal, In<Qvx16s> taps, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne_Direct_16s_Sfs(src.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne_Direct_16s_Sfs(src.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Qvx32f& srcDstVal, In<Qvx32f> taps, Out<Qvx32f> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne_Direct_32f_I(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne_Direct_32f_I(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex);
   }
   static Status call(Qvx32fc& srcDstVal, In<Qvx32fc> taps, Out<Qvx32fc> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne_Direct_32fc_I(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne_Direct_32fc_I(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex);
   }
   static Status call(Qvx16s& srcDstVal, In<Qvx32f> taps, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne32f_Direct_16s_ISfs(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne32f_Direct_16s_ISfs(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Qvx16sc& srcDstVal, In<Qvx32fc> taps, Out<Qvx16sc> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne32fc_Direct_16sc_ISfs(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne32fc_Direct_16sc_ISfs(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Qvx64f& srcDstVal, In<Qvx64f> taps, Out<Qvx64f> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne_Direct_64f_I(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne_Direct_64f_I(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex);
   }
   static Status call(Qvx64fc& srcDstVal, In<Qvx64fc> taps, Out<Qvx64fc> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne_Direct_64fc_I(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne_Direct_64fc_I(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex);
   }
   static Status call(Qvx32f& srcDstVal, In<Qvx64f> taps, Out<Qvx32f> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne64f_Direct_32f_I(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne64f_Direct_32f_I(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex);
   }
   static Status call(Qvx32fc& srcDstVal, In<Qvx64fc> taps, Out<Qvx32fc> dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne64fc_Direct_32fc_I(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne64fc_Direct_32fc_I(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex);
   }
   static Status call(Qvx32s& srcDstVal, In<Qvx64f> taps, Out<Qvx32s> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne64f_Direct_32s_ISfs(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne64f_Direct_32s_ISfs(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Qvx32sc& srcDstVal, In<Qvx64fc> taps, Out<Qvx32sc> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne64fc_Direct_32sc_ISfs(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne64fc_Direct_32sc_ISfs(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Qvx16s& srcDstVal, In<Qvx64f> taps, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne64f_Direct_16s_ISfs(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne64f_Direct_16s_ISfs(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Qvx16sc& srcDstVal, In<Qvx64fc> taps, Out<Qvx16sc> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne64fc_Direct_16sc_ISfs(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne64fc_Direct_16sc_ISfs(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
   static Status call(Qvx16s& srcDstVal, In<Qvx32s> taps, Value<int> tapsFactor, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int>
       scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne32s_Direct_16s_ISfs(&srcDstVal, pointer(taps), length(taps), tapsFactor.number, pointer(dlyLine),
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne32s_Direct_16s_ISfs(&srcDstVal, taps.data(), length(taps.size()), tapsFactor.number, dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Qvx16sc& srcDstVal, In<Qvx32sc> taps, Value<int> tapsFactor, Out<Qvx16sc> dlyLine, int& dlyLineIndex,
       Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne32sc_Direct_16sc_ISfs(&srcDstVal, pointer(taps), length(taps), tapsFactor.number, pointer(dlyLine),
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne32sc_Direct_16sc_ISfs(&srcDstVal, taps.data(), length(taps.size()), tapsFactor.number, dlyLine.data(),
         &dlyLineIndex, scaleFactor.number);
   }
   static Status call(Qvx16s& srcDstVal, In<Qvx16s> taps, Out<Qvx16s> dlyLine, int& dlyLineIndex, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIROne_Direct_16s_ISfs(&srcDstVal, pointer(taps), length(taps), pointer(dlyLine), &dlyLineIndex,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIROne_Direct_16s_ISfs(&srcDstVal, taps.data(), length(taps.size()), dlyLine.data(), &dlyLineIndex,
         scaleFactor.number);
   }
 };
@@ -5521,245 +5551,245 @@ namespace exports {
 struct FIRMR_Direct {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<int> numIters, In<Qvx32f> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx32f> dlyLine) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR_Direct_32f(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine));
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR_Direct_32f(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data());
   }
   static Status call(Out<Qvx32f> srcDst, Value<int> numIters, In<Qvx32f> taps, Value<int> upFactor, Value<int> upPhase, Value<int>
       downFactor, Value<int> downPhase, Out<Qvx32f> dlyLine) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR_Direct_32f_I(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number, upPhase.number,
-        downFactor.number, downPhase.number, pointer(dlyLine));
+    return qvxsFIRMR_Direct_32f_I(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data());
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, Value<int> numIters, In<Qvx32fc> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx32fc> dlyLine) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR_Direct_32fc(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine));
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR_Direct_32fc(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data());
   }
   static Status call(Out<Qvx32fc> srcDst, Value<int> numIters, In<Qvx32fc> taps, Value<int> upFactor, Value<int> upPhase,
       Value<int> downFactor, Value<int> downPhase, Out<Qvx32fc> dlyLine) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR_Direct_32fc_I(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number, upPhase.number,
-        downFactor.number, downPhase.number, pointer(dlyLine));
+    return qvxsFIRMR_Direct_32fc_I(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data());
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> numIters, In<Qvx32f> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx16s> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR32f_Direct_16s_Sfs(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR32f_Direct_16s_Sfs(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<int> numIters, In<Qvx32f> taps, Value<int> upFactor, Value<int> upPhase, Value<int>
       downFactor, Value<int> downPhase, Out<Qvx16s> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR32f_Direct_16s_ISfs(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    return qvxsFIRMR32f_Direct_16s_ISfs(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<int> numIters, In<Qvx32fc> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx16sc> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR32fc_Direct_16sc_Sfs(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps),
-        upFactor.number, upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR32fc_Direct_16sc_Sfs(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()),
+        upFactor.number, upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<int> numIters, In<Qvx32fc> taps, Value<int> upFactor, Value<int> upPhase,
       Value<int> downFactor, Value<int> downPhase, Out<Qvx16sc> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR32fc_Direct_16sc_ISfs(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    return qvxsFIRMR32fc_Direct_16sc_ISfs(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<int> numIters, In<Qvx64f> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx64f> dlyLine) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR_Direct_64f(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine));
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR_Direct_64f(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data());
   }
   static Status call(Out<Qvx64f> srcDst, Value<int> numIters, In<Qvx64f> taps, Value<int> upFactor, Value<int> upPhase, Value<int>
       downFactor, Value<int> downPhase, Out<Qvx64f> dlyLine) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR_Direct_64f_I(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number, upPhase.number,
-        downFactor.number, downPhase.number, pointer(dlyLine));
+    return qvxsFIRMR_Direct_64f_I(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data());
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, Value<int> numIters, In<Qvx64fc> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx64fc> dlyLine) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR_Direct_64fc(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine));
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR_Direct_64fc(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data());
   }
   static Status call(Out<Qvx64fc> srcDst, Value<int> numIters, In<Qvx64fc> taps, Value<int> upFactor, Value<int> upPhase,
       Value<int> downFactor, Value<int> downPhase, Out<Qvx64fc> dlyLine) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR_Direct_64fc_I(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number, upPhase.number,
-        downFactor.number, downPhase.number, pointer(dlyLine));
+    return qvxsFIRMR_Direct_64fc_I(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data());
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<int> numIters, In<Qvx64f> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx32f> dlyLine) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR64f_Direct_32f(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine));
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR64f_Direct_32f(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data());
   }
   static Status call(Out<Qvx32f> srcDst, Value<int> numIters, In<Qvx64f> taps, Value<int> upFactor, Value<int> upPhase, Value<int>
       downFactor, Value<int> downPhase, Out<Qvx32f> dlyLine) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR64f_Direct_32f_I(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine));
+    return qvxsFIRMR64f_Direct_32f_I(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data());
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, Value<int> numIters, In<Qvx64fc> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx32fc> dlyLine) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR64fc_Direct_32fc(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine));
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR64fc_Direct_32fc(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data());
   }
   static Status call(Out<Qvx32fc> srcDst, Value<int> numIters, In<Qvx64fc> taps, Value<int> upFactor, Value<int> upPhase,
       Value<int> downFactor, Value<int> downPhase, Out<Qvx32fc> dlyLine) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR64fc_Direct_32fc_I(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine));
+    return qvxsFIRMR64fc_Direct_32fc_I(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data());
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst, Value<int> numIters, In<Qvx64f> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx32s> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR64f_Direct_32s_Sfs(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR64f_Direct_32s_Sfs(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(Out<Qvx32s> srcDst, Value<int> numIters, In<Qvx64f> taps, Value<int> upFactor, Value<int> upPhase, Value<int>
       downFactor, Value<int> downPhase, Out<Qvx32s> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR64f_Direct_32s_ISfs(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    return qvxsFIRMR64f_Direct_32s_ISfs(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(In<Qvx32sc> src, Out<Qvx32sc> dst, Value<int> numIters, In<Qvx64fc> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx32sc> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR64fc_Direct_32sc_Sfs(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps),
-        upFactor.number, upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR64fc_Direct_32sc_Sfs(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()),
+        upFactor.number, upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(Out<Qvx32sc> srcDst, Value<int> numIters, In<Qvx64fc> taps, Value<int> upFactor, Value<int> upPhase,
       Value<int> downFactor, Value<int> downPhase, Out<Qvx32sc> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR64fc_Direct_32sc_ISfs(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    return qvxsFIRMR64fc_Direct_32sc_ISfs(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> numIters, In<Qvx64f> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx16s> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR64f_Direct_16s_Sfs(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR64f_Direct_16s_Sfs(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<int> numIters, In<Qvx64f> taps, Value<int> upFactor, Value<int> upPhase, Value<int>
       downFactor, Value<int> downPhase, Out<Qvx16s> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR64f_Direct_16s_ISfs(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    return qvxsFIRMR64f_Direct_16s_ISfs(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<int> numIters, In<Qvx64fc> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx16sc> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR64fc_Direct_16sc_Sfs(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps),
-        upFactor.number, upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR64fc_Direct_16sc_Sfs(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()),
+        upFactor.number, upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<int> numIters, In<Qvx64fc> taps, Value<int> upFactor, Value<int> upPhase,
       Value<int> downFactor, Value<int> downPhase, Out<Qvx16sc> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR64fc_Direct_16sc_ISfs(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    return qvxsFIRMR64fc_Direct_16sc_ISfs(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> numIters, In<Qvx32s> taps, Value<int> tapsFactor, Value<int>
       upFactor, Value<int> upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx16s> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR32s_Direct_16s_Sfs(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps),
-        tapsFactor.number, upFactor.number, upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine),
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR32s_Direct_16s_Sfs(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()),
+        tapsFactor.number, upFactor.number, upPhase.number, downFactor.number, downPhase.number, dlyLine.data(),
         scaleFactor.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<int> numIters, In<Qvx32s> taps, Value<int> tapsFactor, Value<int> upFactor,
       Value<int> upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx16s> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR32s_Direct_16s_ISfs(pointer(srcDst), numIters.number, pointer(taps), length(taps), tapsFactor.number,
-        upFactor.number, upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    return qvxsFIRMR32s_Direct_16s_ISfs(srcDst.data(), numIters.number, taps.data(), length(taps.size()), tapsFactor.number,
+        upFactor.number, upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<int> numIters, In<Qvx32sc> taps, Value<int> tapsFactor, Value<int>
       upFactor, Value<int> upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx16sc> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR32sc_Direct_16sc_Sfs(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps),
-        tapsFactor.number, upFactor.number, upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine),
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR32sc_Direct_16sc_Sfs(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()),
+        tapsFactor.number, upFactor.number, upPhase.number, downFactor.number, downPhase.number, dlyLine.data(),
         scaleFactor.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<int> numIters, In<Qvx32sc> taps, Value<int> tapsFactor, Value<int> upFactor,
       Value<int> upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx16sc> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR32sc_Direct_16sc_ISfs(pointer(srcDst), numIters.number, pointer(taps), length(taps), tapsFactor.number,
-        upFactor.number, upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    return qvxsFIRMR32sc_Direct_16sc_ISfs(srcDst.data(), numIters.number, taps.data(), length(taps.size()), tapsFactor.number,
+        upFactor.number, upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> numIters, In<Qvx16s> taps, Value<int> upFactor, Value<int>
       upPhase, Value<int> downFactor, Value<int> downPhase, Out<Qvx16s> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(src, int64_t(numIters.number) * int64_t(downFactor.number)) && atLeast(dst,
-        int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine, quotient(int64_t(length(taps)) +
-        int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
-    return qvxsFIRMR_Direct_16s_Sfs(pointer(src), pointer(dst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(src.size(), int64_t(numIters.number) * int64_t(downFactor.number)) &&
+        atLeast(dst.size(), int64_t(numIters.number) * int64_t(upFactor.number)) && atLeast(dlyLine.size(),
+        quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1, int64_t(upFactor.number))));
+    return qvxsFIRMR_Direct_16s_Sfs(src.data(), dst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<int> numIters, In<Qvx16s> taps, Value<int> upFactor, Value<int> upPhase, Value<int>
       downFactor, Value<int> downPhase, Out<Qvx16s> dlyLine, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(taps) && atLeast(srcDst, int64_t(numIters.number) * largest(int64_t(upFactor.number),
-        int64_t(downFactor.number))) && atLeast(dlyLine, quotient(int64_t(length(taps)) + int64_t(upFactor.number) - 1,
+    QVX_REQUIRE(countable(taps.size()) && atLeast(srcDst.size(), int64_t(numIters.number) * largest(int64_t(upFactor.number),
+        int64_t(downFactor.number))) && atLeast(dlyLine.size(), quotient(int64_t(taps.size()) + int64_t(upFactor.number) - 1,
         int64_t(upFactor.number))));
-    return qvxsFIRMR_Direct_16s_ISfs(pointer(srcDst), numIters.number, pointer(taps), length(taps), upFactor.number,
-        upPhase.number, downFactor.number, downPhase.number, pointer(dlyLine), scaleFactor.number);
+    return qvxsFIRMR_Direct_16s_ISfs(srcDst.data(), numIters.number, taps.data(), length(taps.size()), upFactor.number,
+        upPhase.number, downFactor.number, downPhase.number, dlyLine.data(), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -5786,15 +5816,15 @@ namespace exports {
 struct FIRLMSOne_Direct {
   static Status call(Value<Qvx32f> src, Value<Qvx32f> ref, Value<Qvx32f> mu, Qvx32f& dstVal, Out<Qvx32f> taps, Out<Qvx32f>
       dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIRLMSOne_Direct_32f(src.number, ref.number, mu.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine),
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIRLMSOne_Direct_32f(src.number, ref.number, mu.number, &dstVal, taps.data(), length(taps.size()), dlyLine.data(),
         &dlyLineIndex);
   }
   static Status call(Value<Qvx16s> src, Value<Qvx16s> ref, Value<Qvx32f> mu, Qvx16s& dstVal, Out<Qvx32f> taps, Out<Qvx16s>
       dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIRLMSOne_Direct32f_16s(src.number, ref.number, mu.number, &dstVal, pointer(taps), length(taps), pointer(dlyLine),
-        &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIRLMSOne_Direct32f_16s(src.number, ref.number, mu.number, &dstVal, taps.data(), length(taps.size()),
+        dlyLine.data(), &dlyLineIndex);
   }
 };
 }  // namespace exports
@@ -5815,9 +5845,9 @@ namespace exports {
 struct FIRLMSOne_DirectQ15 {
   static Status call(Value<Qvx16s> src, Value<Qvx16s> ref, Value<int> muQ15, Qvx16s& dstVal, Out<Qvx32s> taps, Out<Qvx16s>
       dlyLine, int& dlyLineIndex) {
-    QVX_REQUIRE(countable(taps) && atLeast(dlyLine, 2 * int64_t(length(taps))));
-    return qvxsFIRLMSOne_DirectQ15_16s(src.number, ref.number, muQ15.number, &dstVal, pointer(taps), length(taps),
-        pointer(dlyLine), &dlyLineIndex);
+    QVX_REQUIRE(countable(taps.size()) && atLeast(dlyLine.size(), 2 * int64_t(taps.size())));
+    return qvxsFIRLMSOne_DirectQ15_16s(src.number, ref.number, muQ15.number, &dstVal, taps.data(), length(taps.size()),
+        dlyLine.data(), &dlyLineIndex);
   }
 };
 }  // namespace exports
@@ -5837,8 +5867,8 @@ template <class... Arguments>
 namespace exports {
 struct FIRGenLowpass {
   static Status call(Value<Qvx64f> rFreq, Out<Qvx64f> taps, Value<int> winType, Value<int> doNormal) {
-    QVX_REQUIRE(countable(taps));
-    return qvxsFIRGenLowpass_64f(rFreq.number, pointer(taps), length(taps), winType.number, doNormal.number);
+    QVX_REQUIRE(countable(taps.size()));
+    return qvxsFIRGenLowpass_64f(rFreq.number, taps.data(), length(taps.size()), winType.number, doNormal.number);
   }
 };
 }  // namespace exports
@@ -5857,8 +5887,8 @@ template <class... Arguments>
 namespace exports {
 struct FIRGenHighpass {
   static Status call(Value<Qvx64f> rFreq, Out<Qvx64f> taps, Value<int> winType, Value<int> doNormal) {
-    QVX_REQUIRE(countable(taps));
-    return qvxsFIRGenHighpass_64f(rFreq.number, pointer(taps), length(taps), winType.number, doNormal.number);
+    QVX_REQUIRE(countable(taps.size()));
+    return qvxsFIRGenHighpass_64f(rFreq.number, taps.data(), length(taps.size()), winType.number, doNormal.number);
   }
 };
 }  // namespace exports
@@ -5877,8 +5907,8 @@ template <class... Arguments>
 namespace exports {
 struct FIRGenBandpass {
   static Status call(Value<Qvx64f> rLowFreq, Value<Qvx64f> rHighFreq, Out<Qvx64f> taps, Value<int> winType, Value<int> doNormal) {
-    QVX_REQUIRE(countable(taps));
-    return qvxsFIRGenBandpass_64f(rLowFreq.number, rHighFreq.number, pointer(taps), length(taps), winType.number,
+    QVX_REQUIRE(countable(taps.size()));
+    return qvxsFIRGenBandpass_64f(rLowFreq.number, rHighFreq.number, taps.data(), length(taps.size()), winType.number,
         doNormal.number);
   }
 };
@@ -5898,8 +5928,8 @@ template <class... Arguments>
 namespace exports {
 struct FIRGenBandstop {
   static Status call(Value<Qvx64f> rLowFreq, Value<Qvx64f> rHighFreq, Out<Qvx64f> taps, Value<int> winType, Value<int> doNormal) {
-    QVX_REQUIRE(countable(taps));
-    return qvxsFIRGenBandstop_64f(rLowFreq.number, rHighFreq.number, pointer(taps), length(taps), winType.number,
+    QVX_REQUIRE(countable(taps.size()));
+    return qvxsFIRGenBandstop_64f(rLowFreq.number, rHighFreq.number, taps.data(), length(taps.size()), winType.number,
         doNormal.number);
   }
 };
@@ -5919,16 +5949,19 @@ template <class... Arguments>
 namespace exports {
 struct Conv {
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src1) && countable(src2) && atLeast(dst, int64_t(length(src1)) + int64_t(length(src2)) - 1));
-    return qvxsConv_32f(pointer(src1), length(src1), pointer(src2), length(src2), pointer(dst));
+    QVX_REQUIRE(countable(src1.size()) && countable(src2.size()) && atLeast(dst.size(), int64_t(src1.size()) +
+        int64_t(src2.size()) - 1));
+    return qvxsConv_32f(src1.data(), length(src1.size()), src2.data(), length(src2.size()), dst.data());
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src1) && countable(src2) && atLeast(dst, int64_t(length(src1)) + int64_t(length(src2)) - 1));
-    return qvxsConv_64f(pointer(src1), length(src1), pointer(src2), length(src2), pointer(dst));
+    QVX_REQUIRE(countable(src1.size()) && countable(src2.size()) && atLeast(dst.size(), int64_t(src1.size()) +
+        int64_t(src2.size()) - 1));
+    return qvxsConv_64f(src1.data(), length(src1.size()), src2.data(), length(src2.size()), dst.data());
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && countable(src2) && atLeast(dst, int64_t(length(src1)) + int64_t(length(src2)) - 1));
-    return qvxsConv_16s_Sfs(pointer(src1), length(src1), pointer(src2), length(src2), pointer(dst), scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && countable(src2.size()) && atLeast(dst.size(), int64_t(src1.size()) +
+        int64_t(src2.size()) - 1));
+    return qvxsConv_16s_Sfs(src1.data(), length(src1.size()), src2.data(), length(src2.size()), dst.data(), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -5947,8 +5980,9 @@ template <class... Arguments>
 namespace exports {
 struct ConvBiased {
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> dst, Value<int> bias) {
-    QVX_REQUIRE(countable(src1) && countable(src2) && countable(dst));
-    return qvxsConvBiased_32f(pointer(src1), length(src1), pointer(src2), length(src2), pointer(dst), length(dst), bias.number);
+    QVX_REQUIRE(countable(src1.size()) && countable(src2.size()) && countable(dst.size()));
+    return qvxsConvBiased_32f(src1.data(), length(src1.size()), src2.data(), length(src2.size()), dst.data(), length(dst.size()),
+        bias.number);
   }
 };
 }  // namespace exports
@@ -5967,12 +6001,12 @@ template <class... Arguments>
 namespace exports {
 struct ConvCyclic8x8 {
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> dst) {
-    QVX_REQUIRE(atLeast(src1, 8) && atLeast(src2, 8) && atLeast(dst, 8));
-    return qvxsConvCyclic8x8_32f(pointer(src1), pointer(src2), pointer(dst));
+    QVX_REQUIRE(atLeast(src1.size(), 8) && atLeast(src2.size(), 8) && atLeast(dst.size(), 8));
+    return qvxsConvCyclic8x8_32f(src1.data(), src2.data(), dst.data());
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(atLeast(src1, 8) && atLeast(src2, 8) && atLeast(dst, 8));
-    return qvxsConvCyclic8x8_16s_Sfs(pointer(src1), pointer(src2), pointer(dst), scaleFactor.number);
+    QVX_REQUIRE(atLeast(src1.size(), 8) && atLeast(src2.size(), 8) && atLeast(dst.size(), 8));
+    return qvxsConvCyclic8x8_16s_Sfs(src1.data(), src2.data(), dst.data(), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -5992,8 +6026,8 @@ template <class... Arguments>
 namespace exports {
 struct ConvCyclic4x4 {
   static Status call(In<Qvx32f> src1, In<Qvx32fc> src2, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(atLeast(src1, 4) && atLeast(src2, 4) && atLeast(dst, 4));
-    return qvxsConvCyclic4x4_32f32fc(pointer(src1), pointer(src2), pointer(dst));
+    QVX_REQUIRE(atLeast(src1.size(), 4) && atLeast(src2.size(), 4) && atLeast(dst.size(), 4));
+    return qvxsConvCyclic4x4_32f32fc(src1.data(), src2.data(), dst.data());
   }
 };
 }  // namespace exports
@@ -6012,30 +6046,34 @@ template <class... Arguments>
 namespace exports {
 struct CrossCorr {
   static Status call(In<Qvx32f> src1, In<Qvx32f> src2, Out<Qvx32f> dst, Value<int> lowLag) {
-    QVX_REQUIRE(countable(src1) && countable(src2) && countable(dst));
-    return qvxsCrossCorr_32f(pointer(src1), length(src1), pointer(src2), length(src2), pointer(dst), length(dst), lowLag.number);
+    QVX_REQUIRE(countable(src1.size()) && countable(src2.size()) && countable(dst.size()));
+    return qvxsCrossCorr_32f(src1.data(), length(src1.size()), src2.data(), length(src2.size()), dst.data(), length(dst.size()),
+        lowLag.number);
   }
   static Status call(In<Qvx64f> src1, In<Qvx64f> src2, Out<Qvx64f> dst, Value<int> lowLag) {
-    QVX_REQUIRE(countable(src1) && countable(src2) && countable(dst));
-    return qvxsCrossCorr_64f(pointer(src1), length(src1), pointer(src2), length(src2), pointer(dst), length(dst), lowLag.number);
+    QVX_REQUIRE(countable(src1.size()) && countable(src2.size()) && countable(dst.size()));
+    return qvxsCrossCorr_64f(src1.data(), length(src1.size()), src2.data(), length(src2.size()), dst.data(), length(dst.size()),
+        lowLag.number);
   }
   static Status call(In<Qvx32fc> src1, In<Qvx32fc> src2, Out<Qvx32fc> dst, Value<int> lowLag) {
-    QVX_REQUIRE(countable(src1) && countable(src2) && countable(dst));
-    return qvxsCrossCorr_32fc(pointer(src1), length(src1), pointer(src2), length(src2), pointer(dst), length(dst), lowLag.number);
+    QVX_REQUIRE(countable(src1.size()) && countable(src2.size()) && countable(dst.size()));
+    return qvxsCrossCorr_32fc(src1.data(), length(src1.size()), src2.data(), length(src2.size()), dst.data(), length(dst.size()),
+        lowLag.number);
   }
   static Status call(In<Qvx64fc> src1, In<Qvx64fc> src2, Out<Qvx64fc> dst, Value<int> lowLag) {
-    QVX_REQUIRE(countable(src1) && countable(src2) && countable(dst));
-    return qvxsCrossCorr_64fc(pointer(src1), length(src1), pointer(src2), length(src2), pointer(dst), length(dst), lowLag.number);
+    QVX_REQUIRE(countable(src1.size()) && countable(src2.size()) && countable(dst.size()));
+    return qvxsCrossCorr_64fc(src1.data(), length(src1.size()), src2.data(), length(src2.size()), dst.data(), length(dst.size()),
+        lowLag.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx16s> dst, Value<int> lowLag, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src1) && countable(src2) && countable(dst));
-    return qvxsCrossCorr_16s_Sfs(pointer(src1), length(src1), pointer(src2), length(src2), pointer(dst), length(dst),
-        lowLag.number, scaleFactor.number);
+    QVX_REQUIRE(countable(src1.size()) && countable(src2.size()) && countable(dst.size()));
+    return qvxsCrossCorr_16s_Sfs(src1.data(), length(src1.size()), src2.data(), length(src2.size()), dst.data(),
+        length(dst.size()), lowLag.number, scaleFactor.number);
   }
   static Status call(In<Qvx16s> src1, In<Qvx16s> src2, Out<Qvx64s> dst, Value<int> lowLag) {
-    QVX_REQUIRE(countable(src1) && countable(src2) && countable(dst));
-    return qvxsCrossCorr_16s64s(pointer(src1), length(src1), pointer(src2), length(src2), pointer(dst), length(dst),
-        lowLag.number);
+    QVX_REQUIRE(countable(src1.size()) && countable(src2.size()) && countable(dst.size()));
+    return qvxsCrossCorr_16s64s(src1.data(), length(src1.size()), src2.data(), length(src2.size()), dst.data(),
+        length(dst.size()), lowLag.number);
   }
 };
 }  // namespace exports
@@ -6055,24 +6093,24 @@ template <class... Arguments>
 namespace exports {
 struct AutoCorr {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_32f(pointer(src), length(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_32f(src.data(), length(src.size()), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_64f(pointer(src), length(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_64f(src.data(), length(src.size()), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_32fc(pointer(src), length(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_32fc(src.data(), length(src.size()), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_64fc(pointer(src), length(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_64fc(src.data(), length(src.size()), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_16s_Sfs(pointer(src), length(src), pointer(dst), length(dst), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_16s_Sfs(src.data(), length(src.size()), dst.data(), length(dst.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -6092,24 +6130,24 @@ template <class... Arguments>
 namespace exports {
 struct AutoCorr_NormA {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_NormA_32f(pointer(src), length(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_NormA_32f(src.data(), length(src.size()), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_NormA_64f(pointer(src), length(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_NormA_64f(src.data(), length(src.size()), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_NormA_32fc(pointer(src), length(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_NormA_32fc(src.data(), length(src.size()), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_NormA_64fc(pointer(src), length(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_NormA_64fc(src.data(), length(src.size()), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_NormA_16s_Sfs(pointer(src), length(src), pointer(dst), length(dst), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_NormA_16s_Sfs(src.data(), length(src.size()), dst.data(), length(dst.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -6129,24 +6167,24 @@ template <class... Arguments>
 namespace exports {
 struct AutoCorr_NormB {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_NormB_32f(pointer(src), length(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_NormB_32f(src.data(), length(src.size()), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_NormB_64f(pointer(src), length(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_NormB_64f(src.data(), length(src.size()), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_NormB_32fc(pointer(src), length(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_NormB_32fc(src.data(), length(src.size()), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_NormB_64fc(pointer(src), length(src), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_NormB_64fc(src.data(), length(src.size()), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && countable(dst));
-    return qvxsAutoCorr_NormB_16s_Sfs(pointer(src), length(src), pointer(dst), length(dst), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && countable(dst.size()));
+    return qvxsAutoCorr_NormB_16s_Sfs(src.data(), length(src.size()), dst.data(), length(dst.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -6166,44 +6204,44 @@ template <class... Arguments>
 namespace exports {
 struct FilterMedian {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<int> maskSize) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsFilterMedian_32f(pointer(src), pointer(dst), length(src), maskSize.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsFilterMedian_32f(src.data(), dst.data(), length(src.size()), maskSize.number);
   }
   static Status call(Out<Qvx32f> srcDst, Value<int> maskSize) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsFilterMedian_32f_I(pointer(srcDst), length(srcDst), maskSize.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsFilterMedian_32f_I(srcDst.data(), length(srcDst.size()), maskSize.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<int> maskSize) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsFilterMedian_64f(pointer(src), pointer(dst), length(src), maskSize.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsFilterMedian_64f(src.data(), dst.data(), length(src.size()), maskSize.number);
   }
   static Status call(Out<Qvx64f> srcDst, Value<int> maskSize) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsFilterMedian_64f_I(pointer(srcDst), length(srcDst), maskSize.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsFilterMedian_64f_I(srcDst.data(), length(srcDst.size()), maskSize.number);
   }
   static Status call(In<Qvx8u> src, Out<Qvx8u> dst, Value<int> maskSize) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsFilterMedian_8u(pointer(src), pointer(dst), length(src), maskSize.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsFilterMedian_8u(src.data(), dst.data(), length(src.size()), maskSize.number);
   }
   static Status call(Out<Qvx8u> srcDst, Value<int> maskSize) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsFilterMedian_8u_I(pointer(srcDst), length(srcDst), maskSize.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsFilterMedian_8u_I(srcDst.data(), length(srcDst.size()), maskSize.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> maskSize) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsFilterMedian_16s(pointer(src), pointer(dst), length(src), maskSize.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsFilterMedian_16s(src.data(), dst.data(), length(src.size()), maskSize.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<int> maskSize) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsFilterMedian_16s_I(pointer(srcDst), length(srcDst), maskSize.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsFilterMedian_16s_I(srcDst.data(), length(srcDst.size()), maskSize.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dst, Value<int> maskSize) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsFilterMedian_32s(pointer(src), pointer(dst), length(src), maskSize.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsFilterMedian_32s(src.data(), dst.data(), length(src.size()), maskSize.number);
   }
   static Status call(Out<Qvx32s> srcDst, Value<int> maskSize) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsFilterMedian_32s_I(pointer(srcDst), length(srcDst), maskSize.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsFilterMedian_32s_I(srcDst.data(), length(srcDst.size()), maskSize.number);
   }
 };
 }  // namespace exports
@@ -6224,12 +6262,12 @@ template <class... Arguments>
 namespace exports {
 struct SumWindow {
   static Status call(In<Qvx8u> src, Out<Qvx32f> dst, Value<int> maskSize) {
-    QVX_REQUIRE(countable(dst) && atLeast(src, int64_t(length(dst)) + int64_t(maskSize.number) - 1));
-    return qvxsSumWindow_8u32f(pointer(src), pointer(dst), length(dst), maskSize.number);
+    QVX_REQUIRE(countable(dst.size()) && atLeast(src.size(), int64_t(dst.size()) + int64_t(maskSize.number) - 1));
+    return qvxsSumWindow_8u32f(src.data(), dst.data(), length(dst.size()), maskSize.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx32f> dst, Value<int> maskSize) {
-    QVX_REQUIRE(countable(dst) && atLeast(src, int64_t(length(dst)) + int64_t(maskSize.number) - 1));
-    return qvxsSumWindow_16s32f(pointer(src), pointer(dst), length(dst), maskSize.number);
+    QVX_REQUIRE(countable(dst.size()) && atLeast(src.size(), int64_t(dst.size()) + int64_t(maskSize.number) - 1));
+    return qvxsSumWindow_16s32f(src.data(), dst.data(), length(dst.size()), maskSize.number);
   }
 };
 }  // namespace exports
@@ -6248,28 +6286,28 @@ template <class... Arguments>
 namespace exports {
 struct SampleUp {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, int& dstLen, Value<int> factor, int& phase) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, int64_t(length(src)) * int64_t(factor.number)));
-    return qvxsSampleUp_16s(pointer(src), length(src), pointer(dst), &dstLen, factor.number, &phase);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), int64_t(src.size()) * int64_t(factor.number)));
+    return qvxsSampleUp_16s(src.data(), length(src.size()), dst.data(), &dstLen, factor.number, &phase);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, int& dstLen, Value<int> factor, int& phase) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, int64_t(length(src)) * int64_t(factor.number)));
-    return qvxsSampleUp_16sc(pointer(src), length(src), pointer(dst), &dstLen, factor.number, &phase);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), int64_t(src.size()) * int64_t(factor.number)));
+    return qvxsSampleUp_16sc(src.data(), length(src.size()), dst.data(), &dstLen, factor.number, &phase);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, int& dstLen, Value<int> factor, int& phase) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, int64_t(length(src)) * int64_t(factor.number)));
-    return qvxsSampleUp_32f(pointer(src), length(src), pointer(dst), &dstLen, factor.number, &phase);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), int64_t(src.size()) * int64_t(factor.number)));
+    return qvxsSampleUp_32f(src.data(), length(src.size()), dst.data(), &dstLen, factor.number, &phase);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, int& dstLen, Value<int> factor, int& phase) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, int64_t(length(src)) * int64_t(factor.number)));
-    return qvxsSampleUp_32fc(pointer(src), length(src), pointer(dst), &dstLen, factor.number, &phase);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), int64_t(src.size()) * int64_t(factor.number)));
+    return qvxsSampleUp_32fc(src.data(), length(src.size()), dst.data(), &dstLen, factor.number, &phase);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, int& dstLen, Value<int> factor, int& phase) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, int64_t(length(src)) * int64_t(factor.number)));
-    return qvxsSampleUp_64f(pointer(src), length(src), pointer(dst), &dstLen, factor.number, &phase);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), int64_t(src.size()) * int64_t(factor.number)));
+    return qvxsSampleUp_64f(src.data(), length(src.size()), dst.data(), &dstLen, factor.number, &phase);
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, int& dstLen, Value<int> factor, int& phase) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, int64_t(length(src)) * int64_t(factor.number)));
-    return qvxsSampleUp_64fc(pointer(src), length(src), pointer(dst), &dstLen, factor.number, &phase);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), int64_t(src.size()) * int64_t(factor.number)));
+    return qvxsSampleUp_64fc(src.data(), length(src.size()), dst.data(), &dstLen, factor.number, &phase);
   }
 };
 }  // namespace exports
@@ -6289,34 +6327,34 @@ template <class... Arguments>
 namespace exports {
 struct SampleDown {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, int& dstLen, Value<int> factor, int& phase) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, quotient(int64_t(length(src)) - int64_t(phase) + int64_t(factor.number) - 1,
-        int64_t(factor.number))));
-    return qvxsSampleDown_16s(pointer(src), length(src), pointer(dst), &dstLen, factor.number, &phase);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), quotient(int64_t(src.size()) - int64_t(phase) +
+        int64_t(factor.number) - 1, int64_t(factor.number))));
+    return qvxsSampleDown_16s(src.data(), length(src.size()), dst.data(), &dstLen, factor.number, &phase);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, int& dstLen, Value<int> factor, int& phase) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, quotient(int64_t(length(src)) - int64_t(phase) + int64_t(factor.number) - 1,
-        int64_t(factor.number))));
-    return qvxsSampleDown_16sc(pointer(src), length(src), pointer(dst), &dstLen, factor.number, &phase);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), quotient(int64_t(src.size()) - int64_t(phase) +
+        int64_t(factor.number) - 1, int64_t(factor.number))));
+    return qvxsSampleDown_16sc(src.data(), length(src.size()), dst.data(), &dstLen, factor.number, &phase);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, int& dstLen, Value<int> factor, int& phase) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, quotient(int64_t(length(src)) - int64_t(phase) + int64_t(factor.number) - 1,
-        int64_t(factor.number))));
-    return qvxsSampleDown_32f(pointer(src), length(src), pointer(dst), &dstLen, factor.number, &phase);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), quotient(int64_t(src.size()) - int64_t(phase) +
+        int64_t(factor.number) - 1, int64_t(factor.number))));
+    return qvxsSampleDown_32f(src.data(), length(src.size()), dst.data(), &dstLen, factor.number, &phase);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, int& dstLen, Value<int> factor, int& phase) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, quotient(int64_t(length(src)) - int64_t(phase) + int64_t(factor.number) - 1,
-        int64_t(factor.number))));
-    return qvxsSampleDown_32fc(pointer(src), length(src), pointer(dst), &dstLen, factor.number, &phase);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), quotient(int64_t(src.size()) - int64_t(phase) +
+        int64_t(factor.number) - 1, int64_t(factor.number))));
+    return qvxsSampleDown_32fc(src.data(), length(src.size()), dst.data(), &dstLen, factor.number, &phase);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, int& dstLen, Value<int> factor, int& phase) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, quotient(int64_t(length(src)) - int64_t(phase) + int64_t(factor.number) - 1,
-        int64_t(factor.number))));
-    return qvxsSampleDown_64f(pointer(src), length(src), pointer(dst), &dstLen, factor.number, &phase);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), quotient(int64_t(src.size()) - int64_t(phase) +
+        int64_t(factor.number) - 1, int64_t(factor.number))));
+    return qvxsSampleDown_64f(src.data(), length(src.size()), dst.data(), &dstLen, factor.number, &phase);
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, int& dstLen, Value<int> factor, int& phase) {
-    QVX_REQUIRE(countable(src) && atLeast(dst, quotient(int64_t(length(src)) - int64_t(phase) + int64_t(factor.number) - 1,
-        int64_t(factor.number))));
-    return qvxsSampleDown_64fc(pointer(src), length(src), pointer(dst), &dstLen, factor.number, &phase);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dst.size(), quotient(int64_t(src.size()) - int64_t(phase) +
+        int64_t(factor.number) - 1, int64_t(factor.number))));
+    return qvxsSampleDown_64fc(src.data(), length(src.size()), dst.data(), &dstLen, factor.number, &phase);
   }
 };
 }  // namespace exports
@@ -6336,12 +6374,13 @@ template <class... Arguments>
 namespace exports {
 struct IIR_Direct {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, In<Qvx16s> taps, Out<Qvx32s> dlyLine) {
-    QVX_REQUIRE(countable(src) && countable(dlyLine) && sameLength(dst, src) && atLeast(taps, 2 * int64_t(length(dlyLine)) + 2));
-    return qvxsIIR_Direct_16s(pointer(src), pointer(dst), length(src), pointer(taps), length(dlyLine), pointer(dlyLine));
+    QVX_REQUIRE(countable(src.size()) && countable(dlyLine.size()) && dst.size() == src.size() && atLeast(taps.size(), 2 *
+        int64_t(dlyLine.size()) + 2));
+    return qvxsIIR_Direct_16s(src.data(), dst.data(), length(src.size()), taps.data(), length(dlyLine.size()), dlyLine.data());
   }
   static Status call(Out<Qvx16s> srcDst, In<Qvx16s> taps, Out<Qvx32s> dlyLine) {
-    QVX_REQUIRE(countable(srcDst) && countable(dlyLine) && atLeast(taps, 2 * int64_t(length(dlyLine)) + 2));
-    return qvxsIIR_Direct_16s_I(pointer(srcDst), length(srcDst), pointer(taps), length(dlyLine), pointer(dlyLine));
+    QVX_REQUIRE(countable(srcDst.size()) && countable(dlyLine.size()) && atLeast(taps.size(), 2 * int64_t(dlyLine.size()) + 2));
+    return qvxsIIR_Direct_16s_I(srcDst.data(), length(srcDst.size()), taps.data(), length(dlyLine.size()), dlyLine.data());
   }
 };
 }  // namespace exports
@@ -6360,12 +6399,12 @@ template <class... Arguments>
 namespace exports {
 struct IIROne_Direct {
   static Status call(Value<Qvx16s> src, Qvx16s& dstVal, In<Qvx16s> taps, Out<Qvx32s> dlyLine) {
-    QVX_REQUIRE(countable(dlyLine) && atLeast(taps, 2 * int64_t(length(dlyLine)) + 2));
-    return qvxsIIROne_Direct_16s(src.number, &dstVal, pointer(taps), length(dlyLine), pointer(dlyLine));
+    QVX_REQUIRE(countable(dlyLine.size()) && atLeast(taps.size(), 2 * int64_t(dlyLine.size()) + 2));
+    return qvxsIIROne_Direct_16s(src.number, &dstVal, taps.data(), length(dlyLine.size()), dlyLine.data());
   }
   static Status call(Qvx16s& srcDst, In<Qvx16s> taps, Out<Qvx32s> dlyLine) {
-    QVX_REQUIRE(countable(dlyLine) && atLeast(taps, 2 * int64_t(length(dlyLine)) + 2));
-    return qvxsIIROne_Direct_16s_I(&srcDst, pointer(taps), length(dlyLine), pointer(dlyLine));
+    QVX_REQUIRE(countable(dlyLine.size()) && atLeast(taps.size(), 2 * int64_t(dlyLine.size()) + 2));
+    return qvxsIIROne_Direct_16s_I(&srcDst, taps.data(), length(dlyLine.size()), dlyLine.data());
   }
 };
 }  // namespace exports
@@ -6385,13 +6424,14 @@ template <class... Arguments>
 namespace exports {
 struct IIR_BiQuadDirect {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, In<Qvx16s> taps, Value<int> numBq, Out<Qvx32s> dlyLine) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src) && atLeast(taps, 6 * int64_t(numBq.number)) && atLeast(dlyLine, 2 *
-        int64_t(numBq.number)));
-    return qvxsIIR_BiQuadDirect_16s(pointer(src), pointer(dst), length(src), pointer(taps), numBq.number, pointer(dlyLine));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size() && atLeast(taps.size(), 6 * int64_t(numBq.number)) &&
+        atLeast(dlyLine.size(), 2 * int64_t(numBq.number)));
+    return qvxsIIR_BiQuadDirect_16s(src.data(), dst.data(), length(src.size()), taps.data(), numBq.number, dlyLine.data());
   }
   static Status call(Out<Qvx16s> srcDst, In<Qvx16s> taps, Value<int> numBq, Out<Qvx32s> dlyLine) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(taps, 6 * int64_t(numBq.number)) && atLeast(dlyLine, 2 * int64_t(numBq.number)));
-    return qvxsIIR_BiQuadDirect_16s_I(pointer(srcDst), length(srcDst), pointer(taps), numBq.number, pointer(dlyLine));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(taps.size(), 6 * int64_t(numBq.number)) && atLeast(dlyLine.size(), 2 *
+        int64_t(numBq.number)));
+    return qvxsIIR_BiQuadDirect_16s_I(srcDst.data(), length(srcDst.size()), taps.data(), numBq.number, dlyLine.data());
   }
 };
 }  // namespace exports
@@ -6411,12 +6451,12 @@ template <class... Arguments>
 namespace exports {
 struct IIROne_BiQuadDirect {
   static Status call(Value<Qvx16s> src, Qvx16s& dstVal, In<Qvx16s> taps, Value<int> numBq, Out<Qvx32s> dlyLine) {
-    QVX_REQUIRE(atLeast(taps, 6 * int64_t(numBq.number)) && atLeast(dlyLine, 2 * int64_t(numBq.number)));
-    return qvxsIIROne_BiQuadDirect_16s(src.number, &dstVal, pointer(taps), numBq.number, pointer(dlyLine));
+    QVX_REQUIRE(atLeast(taps.size(), 6 * int64_t(numBq.number)) && atLeast(dlyLine.size(), 2 * int64_t(numBq.number)));
+    return qvxsIIROne_BiQuadDirect_16s(src.number, &dstVal, taps.data(), numBq.number, dlyLine.data());
   }
   static Status call(Qvx16s& srcDst, In<Qvx16s> taps, Value<int> numBq, Out<Qvx32s> dlyLine) {
-    QVX_REQUIRE(atLeast(taps, 6 * int64_t(numBq.number)) && atLeast(dlyLine, 2 * int64_t(numBq.number)));
-    return qvxsIIROne_BiQuadDirect_16s_I(&srcDst, pointer(taps), numBq.number, pointer(dlyLine));
+    QVX_REQUIRE(atLeast(taps.size(), 6 * int64_t(numBq.number)) && atLeast(dlyLine.size(), 2 * int64_t(numBq.number)));
+    return qvxsIIROne_BiQuadDirect_16s_I(&srcDst, taps.data(), numBq.number, dlyLine.data());
   }
 };
 }  // namespace exports
@@ -6436,8 +6476,8 @@ template <class... Arguments>
 namespace exports {
 struct IIRGenLowpass {
   static Status call(Value<Qvx64f> rFreq, Value<Qvx64f> ripple, Value<int> order, Out<Qvx64f> taps, Value<int> filterType) {
-    QVX_REQUIRE(atLeast(taps, 2 * int64_t(order.number) + 2));
-    return qvxsIIRGenLowpass_64f(rFreq.number, ripple.number, order.number, pointer(taps), filterType.number);
+    QVX_REQUIRE(atLeast(taps.size(), 2 * int64_t(order.number) + 2));
+    return qvxsIIRGenLowpass_64f(rFreq.number, ripple.number, order.number, taps.data(), filterType.number);
   }
 };
 }  // namespace exports
@@ -6456,8 +6496,8 @@ template <class... Arguments>
 namespace exports {
 struct IIRGenHighpass {
   static Status call(Value<Qvx64f> rFreq, Value<Qvx64f> ripple, Value<int> order, Out<Qvx64f> taps, Value<int> filterType) {
-    QVX_REQUIRE(atLeast(taps, 2 * int64_t(order.number) + 2));
-    return qvxsIIRGenHighpass_64f(rFreq.number, ripple.number, order.number, pointer(taps), filterType.number);
+    QVX_REQUIRE(atLeast(taps.size(), 2 * int64_t(order.number) + 2));
+    return qvxsIIRGenHighpass_64f(rFreq.number, ripple.number, order.number, taps.data(), filterType.number);
   }
 };
 }  // namespace exports
@@ -6476,16 +6516,16 @@ template <class... Arguments>
 namespace exports {
 struct RandUniform_Direct {
   static Status call(Out<Qvx16s> dst, Value<Qvx16s> low, Value<Qvx16s> high, Qvx32u& seed) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsRandUniform_Direct_16s(pointer(dst), length(dst), low.number, high.number, &seed);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsRandUniform_Direct_16s(dst.data(), length(dst.size()), low.number, high.number, &seed);
   }
   static Status call(Out<Qvx32f> dst, Value<Qvx32f> low, Value<Qvx32f> high, Qvx32u& seed) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsRandUniform_Direct_32f(pointer(dst), length(dst), low.number, high.number, &seed);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsRandUniform_Direct_32f(dst.data(), length(dst.size()), low.number, high.number, &seed);
   }
   static Status call(Out<Qvx64f> dst, Value<Qvx64f> low, Value<Qvx64f> high, Qvx32u& seed) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsRandUniform_Direct_64f(pointer(dst), length(dst), low.number, high.number, &seed);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsRandUniform_Direct_64f(dst.data(), length(dst.size()), low.number, high.number, &seed);
   }
 };
 }  // namespace exports
@@ -6505,16 +6545,16 @@ template <class... Arguments>
 namespace exports {
 struct RandGauss_Direct {
   static Status call(Out<Qvx16s> dst, Value<Qvx16s> mean, Value<Qvx16s> stdDev, Qvx32u& seed) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsRandGauss_Direct_16s(pointer(dst), length(dst), mean.number, stdDev.number, &seed);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsRandGauss_Direct_16s(dst.data(), length(dst.size()), mean.number, stdDev.number, &seed);
   }
   static Status call(Out<Qvx32f> dst, Value<Qvx32f> mean, Value<Qvx32f> stdDev, Qvx32u& seed) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsRandGauss_Direct_32f(pointer(dst), length(dst), mean.number, stdDev.number, &seed);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsRandGauss_Direct_32f(dst.data(), length(dst.size()), mean.number, stdDev.number, &seed);
   }
   static Status call(Out<Qvx64f> dst, Value<Qvx64f> mean, Value<Qvx64f> stdDev, Qvx32u& seed) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsRandGauss_Direct_64f(pointer(dst), length(dst), mean.number, stdDev.number, &seed);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsRandGauss_Direct_64f(dst.data(), length(dst.size()), mean.number, stdDev.number, &seed);
   }
 };
 }  // namespace exports
@@ -6534,28 +6574,28 @@ template <class... Arguments>
 namespace exports {
 struct Tone_Direct {
   static Status call(Out<Qvx64f> dst, Value<Qvx64f> magn, Value<Qvx64f> rFreq, Qvx64f& phase, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTone_Direct_64f(pointer(dst), length(dst), magn.number, rFreq.number, &phase, hint.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTone_Direct_64f(dst.data(), length(dst.size()), magn.number, rFreq.number, &phase, hint.number);
   }
   static Status call(Out<Qvx32f> dst, Value<Qvx32f> magn, Value<Qvx32f> rFreq, Qvx32f& phase, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTone_Direct_32f(pointer(dst), length(dst), magn.number, rFreq.number, &phase, hint.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTone_Direct_32f(dst.data(), length(dst.size()), magn.number, rFreq.number, &phase, hint.number);
   }
   static Status call(Out<Qvx16s> dst, Value<Qvx16s> magn, Value<Qvx32f> rFreq, Qvx32f& phase, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTone_Direct_16s(pointer(dst), length(dst), magn.number, rFreq.number, &phase, hint.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTone_Direct_16s(dst.data(), length(dst.size()), magn.number, rFreq.number, &phase, hint.number);
   }
   static Status call(Out<Qvx64fc> dst, Value<Qvx64f> magn, Value<Qvx64f> rFreq, Qvx64f& phase, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTone_Direct_64fc(pointer(dst), length(dst), magn.number, rFreq.number, &phase, hint.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTone_Direct_64fc(dst.data(), length(dst.size()), magn.number, rFreq.number, &phase, hint.number);
   }
   static Status call(Out<Qvx32fc> dst, Value<Qvx32f> magn, Value<Qvx32f> rFreq, Qvx32f& phase, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTone_Direct_32fc(pointer(dst), length(dst), magn.number, rFreq.number, &phase, hint.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTone_Direct_32fc(dst.data(), length(dst.size()), magn.number, rFreq.number, &phase, hint.number);
   }
   static Status call(Out<Qvx16sc> dst, Value<Qvx16s> magn, Value<Qvx32f> rFreq, Qvx32f& phase, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTone_Direct_16sc(pointer(dst), length(dst), magn.number, rFreq.number, &phase, hint.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTone_Direct_16sc(dst.data(), length(dst.size()), magn.number, rFreq.number, &phase, hint.number);
   }
 };
 }  // namespace exports
@@ -6575,8 +6615,8 @@ template <class... Arguments>
 namespace exports {
 struct ToneQ15_Direct {
   static Status call(Out<Qvx16s> dst, Value<Qvx16s> magn, Value<Qvx16s> rFreqQ15, Value<Qvx32s> phaseQ15) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsToneQ15_Direct_16s(pointer(dst), length(dst), magn.number, rFreqQ15.number, phaseQ15.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsToneQ15_Direct_16s(dst.data(), length(dst.size()), magn.number, rFreqQ15.number, phaseQ15.number);
   }
 };
 }  // namespace exports
@@ -6595,28 +6635,28 @@ template <class... Arguments>
 namespace exports {
 struct Triangle_Direct {
   static Status call(Out<Qvx64f> dst, Value<Qvx64f> magn, Value<Qvx64f> rFreq, Value<Qvx64f> asym, Qvx64f& phase) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTriangle_Direct_64f(pointer(dst), length(dst), magn.number, rFreq.number, asym.number, &phase);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTriangle_Direct_64f(dst.data(), length(dst.size()), magn.number, rFreq.number, asym.number, &phase);
   }
   static Status call(Out<Qvx32f> dst, Value<Qvx32f> magn, Value<Qvx32f> rFreq, Value<Qvx32f> asym, Qvx32f& phase) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTriangle_Direct_32f(pointer(dst), length(dst), magn.number, rFreq.number, asym.number, &phase);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTriangle_Direct_32f(dst.data(), length(dst.size()), magn.number, rFreq.number, asym.number, &phase);
   }
   static Status call(Out<Qvx16s> dst, Value<Qvx16s> magn, Value<Qvx32f> rFreq, Value<Qvx32f> asym, Qvx32f& phase) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTriangle_Direct_16s(pointer(dst), length(dst), magn.number, rFreq.number, asym.number, &phase);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTriangle_Direct_16s(dst.data(), length(dst.size()), magn.number, rFreq.number, asym.number, &phase);
   }
   static Status call(Out<Qvx64fc> dst, Value<Qvx64f> magn, Value<Qvx64f> rFreq, Value<Qvx64f> asym, Qvx64f& phase) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTriangle_Direct_64fc(pointer(dst), length(dst), magn.number, rFreq.number, asym.number, &phase);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTriangle_Direct_64fc(dst.data(), length(dst.size()), magn.number, rFreq.number, asym.number, &phase);
   }
   static Status call(Out<Qvx32fc> dst, Value<Qvx32f> magn, Value<Qvx32f> rFreq, Value<Qvx32f> asym, Qvx32f& phase) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTriangle_Direct_32fc(pointer(dst), length(dst), magn.number, rFreq.number, asym.number, &phase);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTriangle_Direct_32fc(dst.data(), length(dst.size()), magn.number, rFreq.number, asym.number, &phase);
   }
   static Status call(Out<Qvx16sc> dst, Value<Qvx16s> magn, Value<Qvx32f> rFreq, Value<Qvx32f> asym, Qvx32f& phase) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTriangle_Direct_16sc(pointer(dst), length(dst), magn.number, rFreq.number, asym.number, &phase);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTriangle_Direct_16sc(dst.data(), length(dst.size()), magn.number, rFreq.number, asym.number, &phase);
   }
 };
 }  // namespace exports
@@ -6636,8 +6676,9 @@ template <class... Arguments>
 namespace exports {
 struct TriangleQ15_Direct {
   static Status call(Out<Qvx16s> dst, Value<Qvx16s> magn, Value<Qvx16s> rFreqQ15, Value<Qvx32s> asymQ15, Value<Qvx32s> phaseQ15) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsTriangleQ15_Direct_16s(pointer(dst), length(dst), magn.number, rFreqQ15.number, asymQ15.number, phaseQ15.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsTriangleQ15_Direct_16s(dst.data(), length(dst.size()), magn.number, rFreqQ15.number, asymQ15.number,
+        phaseQ15.number);
   }
 };
 }  // namespace exports
@@ -6656,36 +6697,36 @@ template <class... Arguments>
 namespace exports {
 struct VectorRamp {
   static Status call(Out<Qvx8u> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorRamp_8u(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorRamp_8u(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx8s> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorRamp_8s(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorRamp_8s(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx16u> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorRamp_16u(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorRamp_16u(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx16s> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorRamp_16s(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorRamp_16s(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx32u> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorRamp_32u(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorRamp_32u(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx32s> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorRamp_32s(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorRamp_32s(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx32f> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorRamp_32f(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorRamp_32f(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx64f> dst, Value<Qvx64f> offset, Value<Qvx64f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorRamp_64f(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorRamp_64f(dst.data(), length(dst.size()), offset.number, slope.number);
   }
 };
 }  // namespace exports
@@ -6705,36 +6746,36 @@ template <class... Arguments>
 namespace exports {
 struct VectorSlope {
   static Status call(Out<Qvx8u> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorSlope_8u(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorSlope_8u(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx8s> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorSlope_8s(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorSlope_8s(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx16u> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorSlope_16u(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorSlope_16u(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx16s> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorSlope_16s(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorSlope_16s(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx32u> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorSlope_32u(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorSlope_32u(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx32s> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorSlope_32s(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorSlope_32s(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx32f> dst, Value<Qvx32f> offset, Value<Qvx32f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorSlope_32f(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorSlope_32f(dst.data(), length(dst.size()), offset.number, slope.number);
   }
   static Status call(Out<Qvx64f> dst, Value<Qvx64f> offset, Value<Qvx64f> slope) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorSlope_64f(pointer(dst), length(dst), offset.number, slope.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorSlope_64f(dst.data(), length(dst.size()), offset.number, slope.number);
   }
 };
 }  // namespace exports
@@ -6754,36 +6795,36 @@ template <class... Arguments>
 namespace exports {
 struct VectorJaehne {
   static Status call(Out<Qvx8u> dst, Value<Qvx8u> magn) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorJaehne_8u(pointer(dst), length(dst), magn.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorJaehne_8u(dst.data(), length(dst.size()), magn.number);
   }
   static Status call(Out<Qvx8s> dst, Value<Qvx8s> magn) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorJaehne_8s(pointer(dst), length(dst), magn.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorJaehne_8s(dst.data(), length(dst.size()), magn.number);
   }
   static Status call(Out<Qvx16u> dst, Value<Qvx16u> magn) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorJaehne_16u(pointer(dst), length(dst), magn.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorJaehne_16u(dst.data(), length(dst.size()), magn.number);
   }
   static Status call(Out<Qvx16s> dst, Value<Qvx16s> magn) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorJaehne_16s(pointer(dst), length(dst), magn.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorJaehne_16s(dst.data(), length(dst.size()), magn.number);
   }
   static Status call(Out<Qvx32u> dst, Value<Qvx32u> magn) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorJaehne_32u(pointer(dst), length(dst), magn.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorJaehne_32u(dst.data(), length(dst.size()), magn.number);
   }
   static Status call(Out<Qvx32s> dst, Value<Qvx32s> magn) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorJaehne_32s(pointer(dst), length(dst), magn.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorJaehne_32s(dst.data(), length(dst.size()), magn.number);
   }
   static Status call(Out<Qvx32f> dst, Value<Qvx32f> magn) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorJaehne_32f(pointer(dst), length(dst), magn.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorJaehne_32f(dst.data(), length(dst.size()), magn.number);
   }
   static Status call(Out<Qvx64f> dst, Value<Qvx64f> magn) {
-    QVX_REQUIRE(countable(dst));
-    return qvxsVectorJaehne_64f(pointer(dst), length(dst), magn.number);
+    QVX_REQUIRE(countable(dst.size()));
+    return qvxsVectorJaehne_64f(dst.data(), length(dst.size()), magn.number);
   }
 };
 }  // namespace exports
@@ -6803,52 +6844,52 @@ template <class... Arguments>
 namespace exports {
 struct WinBartlett {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBartlett_16s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBartlett_16s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBartlett_16s_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBartlett_16s_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBartlett_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBartlett_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16sc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBartlett_16sc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBartlett_16sc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBartlett_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBartlett_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBartlett_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBartlett_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBartlett_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBartlett_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBartlett_32fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBartlett_32fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBartlett_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBartlett_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBartlett_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBartlett_64f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBartlett_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBartlett_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBartlett_64fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBartlett_64fc_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -6869,52 +6910,52 @@ template <class... Arguments>
 namespace exports {
 struct WinHann {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinHann_16s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinHann_16s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinHann_16s_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinHann_16s_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinHann_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinHann_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16sc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinHann_16sc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinHann_16sc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinHann_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinHann_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinHann_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinHann_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinHann_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinHann_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinHann_32fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinHann_32fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinHann_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinHann_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinHann_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinHann_64f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinHann_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinHann_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinHann_64fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinHann_64fc_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -6935,52 +6976,52 @@ template <class... Arguments>
 namespace exports {
 struct WinHamming {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinHamming_16s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinHamming_16s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinHamming_16s_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinHamming_16s_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinHamming_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinHamming_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16sc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinHamming_16sc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinHamming_16sc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinHamming_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinHamming_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinHamming_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinHamming_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinHamming_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinHamming_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinHamming_32fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinHamming_32fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinHamming_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinHamming_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinHamming_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinHamming_64f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinHamming_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinHamming_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinHamming_64fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinHamming_64fc_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -7001,52 +7042,52 @@ template <class... Arguments>
 namespace exports {
 struct WinBlackman {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackman_16s(pointer(src), pointer(dst), length(src), alpha.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackman_16s(src.data(), dst.data(), length(src.size()), alpha.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackman_16s_I(pointer(srcDst), length(srcDst), alpha.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackman_16s_I(srcDst.data(), length(srcDst.size()), alpha.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackman_16sc(pointer(src), pointer(dst), length(src), alpha.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackman_16sc(src.data(), dst.data(), length(src.size()), alpha.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackman_16sc_I(pointer(srcDst), length(srcDst), alpha.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackman_16sc_I(srcDst.data(), length(srcDst.size()), alpha.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackman_32f(pointer(src), pointer(dst), length(src), alpha.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackman_32f(src.data(), dst.data(), length(src.size()), alpha.number);
   }
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackman_32f_I(pointer(srcDst), length(srcDst), alpha.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackman_32f_I(srcDst.data(), length(srcDst.size()), alpha.number);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackman_32fc(pointer(src), pointer(dst), length(src), alpha.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackman_32fc(src.data(), dst.data(), length(src.size()), alpha.number);
   }
   static Status call(Out<Qvx32fc> srcDst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackman_32fc_I(pointer(srcDst), length(srcDst), alpha.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackman_32fc_I(srcDst.data(), length(srcDst.size()), alpha.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<Qvx64f> alpha) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackman_64f(pointer(src), pointer(dst), length(src), alpha.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackman_64f(src.data(), dst.data(), length(src.size()), alpha.number);
   }
   static Status call(Out<Qvx64f> srcDst, Value<Qvx64f> alpha) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackman_64f_I(pointer(srcDst), length(srcDst), alpha.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackman_64f_I(srcDst.data(), length(srcDst.size()), alpha.number);
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, Value<Qvx64f> alpha) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackman_64fc(pointer(src), pointer(dst), length(src), alpha.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackman_64fc(src.data(), dst.data(), length(src.size()), alpha.number);
   }
   static Status call(Out<Qvx64fc> srcDst, Value<Qvx64f> alpha) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackman_64fc_I(pointer(srcDst), length(srcDst), alpha.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackman_64fc_I(srcDst.data(), length(srcDst.size()), alpha.number);
   }
 };
 }  // namespace exports
@@ -7067,52 +7108,52 @@ template <class... Arguments>
 namespace exports {
 struct WinBlackmanStd {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanStd_16s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanStd_16s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanStd_16s_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanStd_16s_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanStd_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanStd_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16sc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanStd_16sc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanStd_16sc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanStd_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanStd_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanStd_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanStd_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanStd_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanStd_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanStd_32fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanStd_32fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanStd_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanStd_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanStd_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanStd_64f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanStd_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanStd_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanStd_64fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanStd_64fc_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -7134,52 +7175,52 @@ template <class... Arguments>
 namespace exports {
 struct WinBlackmanOpt {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanOpt_16s(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanOpt_16s(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanOpt_16s_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanOpt_16s_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanOpt_16sc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanOpt_16sc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx16sc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanOpt_16sc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanOpt_16sc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanOpt_32f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanOpt_32f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanOpt_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanOpt_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanOpt_32fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanOpt_32fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx32fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanOpt_32fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanOpt_32fc_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanOpt_64f(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanOpt_64f(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanOpt_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanOpt_64f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanOpt_64fc(pointer(src), pointer(dst), length(src));
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanOpt_64fc(src.data(), dst.data(), length(src.size()));
   }
   static Status call(Out<Qvx64fc> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanOpt_64fc_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanOpt_64fc_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -7201,52 +7242,52 @@ template <class... Arguments>
 namespace exports {
 struct WinKaiser {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinKaiser_16s(pointer(src), pointer(dst), length(src), alpha.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinKaiser_16s(src.data(), dst.data(), length(src.size()), alpha.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinKaiser_16s_I(pointer(srcDst), length(srcDst), alpha.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinKaiser_16s_I(srcDst.data(), length(srcDst.size()), alpha.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinKaiser_16sc(pointer(src), pointer(dst), length(src), alpha.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinKaiser_16sc(src.data(), dst.data(), length(src.size()), alpha.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinKaiser_16sc_I(pointer(srcDst), length(srcDst), alpha.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinKaiser_16sc_I(srcDst.data(), length(srcDst.size()), alpha.number);
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinKaiser_32f(pointer(src), pointer(dst), length(src), alpha.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinKaiser_32f(src.data(), dst.data(), length(src.size()), alpha.number);
   }
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinKaiser_32f_I(pointer(srcDst), length(srcDst), alpha.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinKaiser_32f_I(srcDst.data(), length(srcDst.size()), alpha.number);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinKaiser_32fc(pointer(src), pointer(dst), length(src), alpha.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinKaiser_32fc(src.data(), dst.data(), length(src.size()), alpha.number);
   }
   static Status call(Out<Qvx32fc> srcDst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinKaiser_32fc_I(pointer(srcDst), length(srcDst), alpha.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinKaiser_32fc_I(srcDst.data(), length(srcDst.size()), alpha.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinKaiser_64f(pointer(src), pointer(dst), length(src), alpha.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinKaiser_64f(src.data(), dst.data(), length(src.size()), alpha.number);
   }
   static Status call(Out<Qvx64f> srcDst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinKaiser_64f_I(pointer(srcDst), length(srcDst), alpha.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinKaiser_64f_I(srcDst.data(), length(srcDst.size()), alpha.number);
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinKaiser_64fc(pointer(src), pointer(dst), length(src), alpha.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinKaiser_64fc(src.data(), dst.data(), length(src.size()), alpha.number);
   }
   static Status call(Out<Qvx64fc> srcDst, Value<Qvx32f> alpha) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinKaiser_64fc_I(pointer(srcDst), length(srcDst), alpha.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinKaiser_64fc_I(srcDst.data(), length(srcDst.size()), alpha.number);
   }
 };
 }  // namespace exports
@@ -7267,24 +7308,24 @@ template <class... Arguments>
 namespace exports {
 struct WinBlackmanQ15 {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> alphaQ15) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanQ15_16s(pointer(src), pointer(dst), length(src), alphaQ15.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanQ15_16s(src.data(), dst.data(), length(src.size()), alphaQ15.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<int> alphaQ15) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanQ15_16s_I(pointer(srcDst), length(srcDst), alphaQ15.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanQ15_16s_I(srcDst.data(), length(srcDst.size()), alphaQ15.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<int> alphaQ15) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinBlackmanQ15_16sc(pointer(src), pointer(dst), length(src), alphaQ15.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinBlackmanQ15_16sc(src.data(), dst.data(), length(src.size()), alphaQ15.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<int> alphaQ15) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanQ15_16sc_I(pointer(srcDst), length(srcDst), alphaQ15.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanQ15_16sc_I(srcDst.data(), length(srcDst.size()), alphaQ15.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<int> alphaQ15, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinBlackmanQ15_16s_ISfs(pointer(srcDst), length(srcDst), alphaQ15.number, scaleFactor.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinBlackmanQ15_16s_ISfs(srcDst.data(), length(srcDst.size()), alphaQ15.number, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -7304,20 +7345,20 @@ template <class... Arguments>
 namespace exports {
 struct WinKaiserQ15 {
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<int> alphaQ15) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinKaiserQ15_16s(pointer(src), pointer(dst), length(src), alphaQ15.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinKaiserQ15_16s(src.data(), dst.data(), length(src.size()), alphaQ15.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<int> alphaQ15) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinKaiserQ15_16s_I(pointer(srcDst), length(srcDst), alphaQ15.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinKaiserQ15_16s_I(srcDst.data(), length(srcDst.size()), alphaQ15.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<int> alphaQ15) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsWinKaiserQ15_16sc(pointer(src), pointer(dst), length(src), alphaQ15.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsWinKaiserQ15_16sc(src.data(), dst.data(), length(src.size()), alphaQ15.number);
   }
   static Status call(Out<Qvx16sc> srcDst, Value<int> alphaQ15) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsWinKaiserQ15_16sc_I(pointer(srcDst), length(srcDst), alphaQ15.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsWinKaiserQ15_16sc_I(srcDst.data(), length(srcDst.size()), alphaQ15.number);
   }
 };
 }  // namespace exports
@@ -7337,54 +7378,54 @@ template <class... Arguments>
 namespace exports {
 struct WTHaarFwd {
   static Status call(In<Qvx8s> src, Out<Qvx8s> dstLow, Out<Qvx8s> dstHigh) {
-    QVX_REQUIRE(countable(src) && atLeast(dstLow, quotient(int64_t(length(src)) + 1, 2)) && atLeast(dstHigh,
-        quotient(int64_t(length(src)), 2)));
-    return qvxsWTHaarFwd_8s(pointer(src), length(src), pointer(dstLow), pointer(dstHigh));
+    QVX_REQUIRE(countable(src.size()) && atLeast(dstLow.size(), quotient(int64_t(src.size()) + 1, 2)) && atLeast(dstHigh.size(),
+        quotient(int64_t(src.size()), 2)));
+    return qvxsWTHaarFwd_8s(src.data(), length(src.size()), dstLow.data(), dstHigh.data());
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dstLow, Out<Qvx16s> dstHigh) {
-    QVX_REQUIRE(countable(src) && atLeast(dstLow, quotient(int64_t(length(src)) + 1, 2)) && atLeast(dstHigh,
-        quotient(int64_t(length(src)), 2)));
-    return qvxsWTHaarFwd_16s(pointer(src), length(src), pointer(dstLow), pointer(dstHigh));
+    QVX_REQUIRE(countable(src.size()) && atLeast(dstLow.size(), quotient(int64_t(src.size()) + 1, 2)) && atLeast(dstHigh.size(),
+        quotient(int64_t(src.size()), 2)));
+    return qvxsWTHaarFwd_16s(src.data(), length(src.size()), dstLow.data(), dstHigh.data());
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dstLow, Out<Qvx32s> dstHigh) {
-    QVX_REQUIRE(countable(src) && atLeast(dstLow, quotient(int64_t(length(src)) + 1, 2)) && atLeast(dstHigh,
-        quotient(int64_t(length(src)), 2)));
-    return qvxsWTHaarFwd_32s(pointer(src), length(src), pointer(dstLow), pointer(dstHigh));
+    QVX_REQUIRE(countable(src.size()) && atLeast(dstLow.size(), quotient(int64_t(src.size()) + 1, 2)) && atLeast(dstHigh.size(),
+        quotient(int64_t(src.size()), 2)));
+    return qvxsWTHaarFwd_32s(src.data(), length(src.size()), dstLow.data(), dstHigh.data());
   }
   static Status call(In<Qvx64s> src, Out<Qvx64s> dstLow, Out<Qvx64s> dstHigh) {
-    QVX_REQUIRE(countable(src) && atLeast(dstLow, quotient(int64_t(length(src)) + 1, 2)) && atLeast(dstHigh,
-        quotient(int64_t(length(src)), 2)));
-    return qvxsWTHaarFwd_64s(pointer(src), length(src), pointer(dstLow), pointer(dstHigh));
+    QVX_REQUIRE(countable(src.size()) && atLeast(dstLow.size(), quotient(int64_t(src.size()) + 1, 2)) && atLeast(dstHigh.size(),
+        quotient(int64_t(src.size()), 2)));
+    return qvxsWTHaarFwd_64s(src.data(), length(src.size()), dstLow.data(), dstHigh.data());
   }
   static Status call(In<Qvx32f> src, Out<Qvx32f> dstLow, Out<Qvx32f> dstHigh) {
-    QVX_REQUIRE(countable(src) && atLeast(dstLow, quotient(int64_t(length(src)) + 1, 2)) && atLeast(dstHigh,
-        quotient(int64_t(length(src)), 2)));
-    return qvxsWTHaarFwd_32f(pointer(src), length(src), pointer(dstLow), pointer(dstHigh));
+    QVX_REQUIRE(countable(src.size()) && atLeast(dstLow.size(), quotient(int64_t(src.size()) + 1, 2)) && atLeast(dstHigh.size(),
+        quotient(int64_t(src.size()), 2)));
+    return qvxsWTHaarFwd_32f(src.data(), length(src.size()), dstLow.data(), dstHigh.data());
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dstLow, Out<Qvx64f> dstHigh) {
-    QVX_REQUIRE(countable(src) && atLeast(dstLow, quotient(int64_t(length(src)) + 1, 2)) && atLeast(dstHigh,
-        quotient(int64_t(length(src)), 2)));
-    return qvxsWTHaarFwd_64f(pointer(src), length(src), pointer(dstLow), pointer(dstHigh));
+    QVX_REQUIRE(countable(src.size()) && atLeast(dstLow.size(), quotient(int64_t(src.size()) + 1, 2)) && atLeast(dstHigh.size(),
+        quotient(int64_t(src.size()), 2)));
+    return qvxsWTHaarFwd_64f(src.data(), length(src.size()), dstLow.data(), dstHigh.data());
   }
   static Status call(In<Qvx8s> src, Out<Qvx8s> dstLow, Out<Qvx8s> dstHigh, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && atLeast(dstLow, quotient(int64_t(length(src)) + 1, 2)) && atLeast(dstHigh,
-        quotient(int64_t(length(src)), 2)));
-    return qvxsWTHaarFwd_8s_Sfs(pointer(src), length(src), pointer(dstLow), pointer(dstHigh), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dstLow.size(), quotient(int64_t(src.size()) + 1, 2)) && atLeast(dstHigh.size(),
+        quotient(int64_t(src.size()), 2)));
+    return qvxsWTHaarFwd_8s_Sfs(src.data(), length(src.size()), dstLow.data(), dstHigh.data(), scaleFactor.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dstLow, Out<Qvx16s> dstHigh, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && atLeast(dstLow, quotient(int64_t(length(src)) + 1, 2)) && atLeast(dstHigh,
-        quotient(int64_t(length(src)), 2)));
-    return qvxsWTHaarFwd_16s_Sfs(pointer(src), length(src), pointer(dstLow), pointer(dstHigh), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dstLow.size(), quotient(int64_t(src.size()) + 1, 2)) && atLeast(dstHigh.size(),
+        quotient(int64_t(src.size()), 2)));
+    return qvxsWTHaarFwd_16s_Sfs(src.data(), length(src.size()), dstLow.data(), dstHigh.data(), scaleFactor.number);
   }
   static Status call(In<Qvx32s> src, Out<Qvx32s> dstLow, Out<Qvx32s> dstHigh, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && atLeast(dstLow, quotient(int64_t(length(src)) + 1, 2)) && atLeast(dstHigh,
-        quotient(int64_t(length(src)), 2)));
-    return qvxsWTHaarFwd_32s_Sfs(pointer(src), length(src), pointer(dstLow), pointer(dstHigh), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dstLow.size(), quotient(int64_t(src.size()) + 1, 2)) && atLeast(dstHigh.size(),
+        quotient(int64_t(src.size()), 2)));
+    return qvxsWTHaarFwd_32s_Sfs(src.data(), length(src.size()), dstLow.data(), dstHigh.data(), scaleFactor.number);
   }
   static Status call(In<Qvx64s> src, Out<Qvx64s> dstLow, Out<Qvx64s> dstHigh, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && atLeast(dstLow, quotient(int64_t(length(src)) + 1, 2)) && atLeast(dstHigh,
-        quotient(int64_t(length(src)), 2)));
-    return qvxsWTHaarFwd_64s_Sfs(pointer(src), length(src), pointer(dstLow), pointer(dstHigh), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && atLeast(dstLow.size(), quotient(int64_t(src.size()) + 1, 2)) && atLeast(dstHigh.size(),
+        quotient(int64_t(src.size()), 2)));
+    return qvxsWTHaarFwd_64s_Sfs(src.data(), length(src.size()), dstLow.data(), dstHigh.data(), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -7405,54 +7446,54 @@ template <class... Arguments>
 namespace exports {
 struct WTHaarInv {
   static Status call(In<Qvx8s> srcLow, In<Qvx8s> srcHigh, Out<Qvx8s> dst) {
-    QVX_REQUIRE(countable(dst) && atLeast(srcLow, quotient(int64_t(length(dst)) + 1, 2)) && atLeast(srcHigh,
-        quotient(int64_t(length(dst)), 2)));
-    return qvxsWTHaarInv_8s(pointer(srcLow), pointer(srcHigh), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()) && atLeast(srcLow.size(), quotient(int64_t(dst.size()) + 1, 2)) && atLeast(srcHigh.size(),
+        quotient(int64_t(dst.size()), 2)));
+    return qvxsWTHaarInv_8s(srcLow.data(), srcHigh.data(), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx16s> srcLow, In<Qvx16s> srcHigh, Out<Qvx16s> dst) {
-    QVX_REQUIRE(countable(dst) && atLeast(srcLow, quotient(int64_t(length(dst)) + 1, 2)) && atLeast(srcHigh,
-        quotient(int64_t(length(dst)), 2)));
-    return qvxsWTHaarInv_16s(pointer(srcLow), pointer(srcHigh), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()) && atLeast(srcLow.size(), quotient(int64_t(dst.size()) + 1, 2)) && atLeast(srcHigh.size(),
+        quotient(int64_t(dst.size()), 2)));
+    return qvxsWTHaarInv_16s(srcLow.data(), srcHigh.data(), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx32s> srcLow, In<Qvx32s> srcHigh, Out<Qvx32s> dst) {
-    QVX_REQUIRE(countable(dst) && atLeast(srcLow, quotient(int64_t(length(dst)) + 1, 2)) && atLeast(srcHigh,
-        quotient(int64_t(length(dst)), 2)));
-    return qvxsWTHaarInv_32s(pointer(srcLow), pointer(srcHigh), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()) && atLeast(srcLow.size(), quotient(int64_t(dst.size()) + 1, 2)) && atLeast(srcHigh.size(),
+        quotient(int64_t(dst.size()), 2)));
+    return qvxsWTHaarInv_32s(srcLow.data(), srcHigh.data(), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx64s> srcLow, In<Qvx64s> srcHigh, Out<Qvx64s> dst) {
-    QVX_REQUIRE(countable(dst) && atLeast(srcLow, quotient(int64_t(length(dst)) + 1, 2)) && atLeast(srcHigh,
-        quotient(int64_t(length(dst)), 2)));
-    return qvxsWTHaarInv_64s(pointer(srcLow), pointer(srcHigh), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()) && atLeast(srcLow.size(), quotient(int64_t(dst.size()) + 1, 2)) && atLeast(srcHigh.size(),
+        quotient(int64_t(dst.size()), 2)));
+    return qvxsWTHaarInv_64s(srcLow.data(), srcHigh.data(), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx32f> srcLow, In<Qvx32f> srcHigh, Out<Qvx32f> dst) {
-    QVX_REQUIRE(countable(dst) && atLeast(srcLow, quotient(int64_t(length(dst)) + 1, 2)) && atLeast(srcHigh,
-        quotient(int64_t(length(dst)), 2)));
-    return qvxsWTHaarInv_32f(pointer(srcLow), pointer(srcHigh), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()) && atLeast(srcLow.size(), quotient(int64_t(dst.size()) + 1, 2)) && atLeast(srcHigh.size(),
+        quotient(int64_t(dst.size()), 2)));
+    return qvxsWTHaarInv_32f(srcLow.data(), srcHigh.data(), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx64f> srcLow, In<Qvx64f> srcHigh, Out<Qvx64f> dst) {
-    QVX_REQUIRE(countable(dst) && atLeast(srcLow, quotient(int64_t(length(dst)) + 1, 2)) && atLeast(srcHigh,
-        quotient(int64_t(length(dst)), 2)));
-    return qvxsWTHaarInv_64f(pointer(srcLow), pointer(srcHigh), pointer(dst), length(dst));
+    QVX_REQUIRE(countable(dst.size()) && atLeast(srcLow.size(), quotient(int64_t(dst.size()) + 1, 2)) && atLeast(srcHigh.size(),
+        quotient(int64_t(dst.size()), 2)));
+    return qvxsWTHaarInv_64f(srcLow.data(), srcHigh.data(), dst.data(), length(dst.size()));
   }
   static Status call(In<Qvx8s> srcLow, In<Qvx8s> srcHigh, Out<Qvx8s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(dst) && atLeast(srcLow, quotient(int64_t(length(dst)) + 1, 2)) && atLeast(srcHigh,
-        quotient(int64_t(length(dst)), 2)));
-    return qvxsWTHaarInv_8s_Sfs(pointer(srcLow), pointer(srcHigh), pointer(dst), length(dst), scaleFactor.number);
+    QVX_REQUIRE(countable(dst.size()) && atLeast(srcLow.size(), quotient(int64_t(dst.size()) + 1, 2)) && atLeast(srcHigh.size(),
+        quotient(int64_t(dst.size()), 2)));
+    return qvxsWTHaarInv_8s_Sfs(srcLow.data(), srcHigh.data(), dst.data(), length(dst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx16s> srcLow, In<Qvx16s> srcHigh, Out<Qvx16s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(dst) && atLeast(srcLow, quotient(int64_t(length(dst)) + 1, 2)) && atLeast(srcHigh,
-        quotient(int64_t(length(dst)), 2)));
-    return qvxsWTHaarInv_16s_Sfs(pointer(srcLow), pointer(srcHigh), pointer(dst), length(dst), scaleFactor.number);
+    QVX_REQUIRE(countable(dst.size()) && atLeast(srcLow.size(), quotient(int64_t(dst.size()) + 1, 2)) && atLeast(srcHigh.size(),
+        quotient(int64_t(dst.size()), 2)));
+    return qvxsWTHaarInv_16s_Sfs(srcLow.data(), srcHigh.data(), dst.data(), length(dst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx32s> srcLow, In<Qvx32s> srcHigh, Out<Qvx32s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(dst) && atLeast(srcLow, quotient(int64_t(length(dst)) + 1, 2)) && atLeast(srcHigh,
-        quotient(int64_t(length(dst)), 2)));
-    return qvxsWTHaarInv_32s_Sfs(pointer(srcLow), pointer(srcHigh), pointer(dst), length(dst), scaleFactor.number);
+    QVX_REQUIRE(countable(dst.size()) && atLeast(srcLow.size(), quotient(int64_t(dst.size()) + 1, 2)) && atLeast(srcHigh.size(),
+        quotient(int64_t(dst.size()), 2)));
+    return qvxsWTHaarInv_32s_Sfs(srcLow.data(), srcHigh.data(), dst.data(), length(dst.size()), scaleFactor.number);
   }
   static Status call(In<Qvx64s> srcLow, In<Qvx64s> srcHigh, Out<Qvx64s> dst, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(dst) && atLeast(srcLow, quotient(int64_t(length(dst)) + 1, 2)) && atLeast(srcHigh,
-        quotient(int64_t(length(dst)), 2)));
-    return qvxsWTHaarInv_64s_Sfs(pointer(srcLow), pointer(srcHigh), pointer(dst), length(dst), scaleFactor.number);
+    QVX_REQUIRE(countable(dst.size()) && atLeast(srcLow.size(), quotient(int64_t(dst.size()) + 1, 2)) && atLeast(srcHigh.size(),
+        quotient(int64_t(dst.size()), 2)));
+    return qvxsWTHaarInv_64s_Sfs(srcLow.data(), srcHigh.data(), dst.data(), length(dst.size()), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -7473,28 +7514,28 @@ template <class... Arguments>
 namespace exports {
 struct Goertz {
   static Status call(In<Qvx32f> src, Qvx32fc& val, Value<Qvx32f> rFreq) {
-    QVX_REQUIRE(countable(src));
-    return qvxsGoertz_32f(pointer(src), length(src), &val, rFreq.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsGoertz_32f(src.data(), length(src.size()), &val, rFreq.number);
   }
   static Status call(In<Qvx64f> src, Qvx64fc& val, Value<Qvx64f> rFreq) {
-    QVX_REQUIRE(countable(src));
-    return qvxsGoertz_64f(pointer(src), length(src), &val, rFreq.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsGoertz_64f(src.data(), length(src.size()), &val, rFreq.number);
   }
   static Status call(In<Qvx32fc> src, Qvx32fc& val, Value<Qvx32f> rFreq) {
-    QVX_REQUIRE(countable(src));
-    return qvxsGoertz_32fc(pointer(src), length(src), &val, rFreq.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsGoertz_32fc(src.data(), length(src.size()), &val, rFreq.number);
   }
   static Status call(In<Qvx64fc> src, Qvx64fc& val, Value<Qvx64f> rFreq) {
-    QVX_REQUIRE(countable(src));
-    return qvxsGoertz_64fc(pointer(src), length(src), &val, rFreq.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsGoertz_64fc(src.data(), length(src.size()), &val, rFreq.number);
   }
   static Status call(In<Qvx16s> src, Qvx16sc& val, Value<Qvx32f> rFreq, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsGoertz_16s_Sfs(pointer(src), length(src), &val, rFreq.number, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsGoertz_16s_Sfs(src.data(), length(src.size()), &val, rFreq.number, scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Qvx16sc& val, Value<Qvx32f> rFreq, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsGoertz_16sc_Sfs(pointer(src), length(src), &val, rFreq.number, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsGoertz_16sc_Sfs(src.data(), length(src.size()), &val, rFreq.number, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -7514,24 +7555,24 @@ template <class... Arguments>
 namespace exports {
 struct GoertzTwo {
   static Status call(In<Qvx32f> src, Out<Qvx32fc> val, In<Qvx32f> rFreq) {
-    QVX_REQUIRE(countable(src) && atLeast(val, 2) && atLeast(rFreq, 2));
-    return qvxsGoertzTwo_32f(pointer(src), length(src), pointer(val), pointer(rFreq));
+    QVX_REQUIRE(countable(src.size()) && atLeast(val.size(), 2) && atLeast(rFreq.size(), 2));
+    return qvxsGoertzTwo_32f(src.data(), length(src.size()), val.data(), rFreq.data());
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> val, In<Qvx32f> rFreq) {
-    QVX_REQUIRE(countable(src) && atLeast(val, 2) && atLeast(rFreq, 2));
-    return qvxsGoertzTwo_32fc(pointer(src), length(src), pointer(val), pointer(rFreq));
+    QVX_REQUIRE(countable(src.size()) && atLeast(val.size(), 2) && atLeast(rFreq.size(), 2));
+    return qvxsGoertzTwo_32fc(src.data(), length(src.size()), val.data(), rFreq.data());
   }
   static Status call(In<Qvx64f> src, Out<Qvx64fc> val, In<Qvx64f> rFreq) {
-    QVX_REQUIRE(countable(src) && atLeast(val, 2) && atLeast(rFreq, 2));
-    return qvxsGoertzTwo_64f(pointer(src), length(src), pointer(val), pointer(rFreq));
+    QVX_REQUIRE(countable(src.size()) && atLeast(val.size(), 2) && atLeast(rFreq.size(), 2));
+    return qvxsGoertzTwo_64f(src.data(), length(src.size()), val.data(), rFreq.data());
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> val, In<Qvx64f> rFreq) {
-    QVX_REQUIRE(countable(src) && atLeast(val, 2) && atLeast(rFreq, 2));
-    return qvxsGoertzTwo_64fc(pointer(src), length(src), pointer(val), pointer(rFreq));
+    QVX_REQUIRE(countable(src.size()) && atLeast(val.size(), 2) && atLeast(rFreq.size(), 2));
+    return qvxsGoertzTwo_64fc(src.data(), length(src.size()), val.data(), rFreq.data());
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> val, In<Qvx32f> rFreq, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && atLeast(val, 2) && atLeast(rFreq, 2));
-    return qvxsGoertzTwo_16sc_Sfs(pointer(src), length(src), pointer(val), pointer(rFreq), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && atLeast(val.size(), 2) && atLeast(rFreq.size(), 2));
+    return qvxsGoertzTwo_16sc_Sfs(src.data(), length(src.size()), val.data(), rFreq.data(), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -7551,8 +7592,8 @@ template <class... Arguments>
 namespace exports {
 struct GoertzQ15 {
   static Status call(In<Qvx16sc> src, Qvx16sc& val, Value<Qvx16s> rFreqQ15, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src));
-    return qvxsGoertzQ15_16sc_Sfs(pointer(src), length(src), &val, rFreqQ15.number, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsGoertzQ15_16sc_Sfs(src.data(), length(src.size()), &val, rFreqQ15.number, scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -7571,8 +7612,8 @@ template <class... Arguments>
 namespace exports {
 struct GoertzTwoQ15 {
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> val, In<Qvx16s> rFreqQ15, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && atLeast(val, 2) && atLeast(rFreqQ15, 2));
-    return qvxsGoertzTwoQ15_16sc_Sfs(pointer(src), length(src), pointer(val), pointer(rFreqQ15), scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && atLeast(val.size(), 2) && atLeast(rFreqQ15.size(), 2));
+    return qvxsGoertzTwoQ15_16sc_Sfs(src.data(), length(src.size()), val.data(), rFreqQ15.data(), scaleFactor.number);
   }
 };
 }  // namespace exports
@@ -7591,28 +7632,28 @@ template <class... Arguments>
 namespace exports {
 struct SortAscend {
   static Status call(Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSortAscend_8u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSortAscend_8u_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSortAscend_16s_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSortAscend_16s_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSortAscend_16u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSortAscend_16u_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSortAscend_32s_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSortAscend_32s_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSortAscend_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSortAscend_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSortAscend_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSortAscend_64f_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -7632,28 +7673,28 @@ template <class... Arguments>
 namespace exports {
 struct SortDescend {
   static Status call(Out<Qvx8u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSortDescend_8u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSortDescend_8u_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx16s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSortDescend_16s_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSortDescend_16s_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx16u> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSortDescend_16u_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSortDescend_16u_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32s> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSortDescend_32s_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSortDescend_32s_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSortDescend_32f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSortDescend_32f_I(srcDst.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx64f> srcDst) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsSortDescend_64f_I(pointer(srcDst), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsSortDescend_64f_I(srcDst.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -7673,28 +7714,28 @@ template <class... Arguments>
 namespace exports {
 struct SortIndexAscend {
   static Status call(Out<Qvx8u> srcDst, Out<Qvx32s> dstIndx) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(dstIndx, srcDst));
-    return qvxsSortIndexAscend_8u_I(pointer(srcDst), pointer(dstIndx), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && dstIndx.size() == srcDst.size());
+    return qvxsSortIndexAscend_8u_I(srcDst.data(), dstIndx.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx16s> srcDst, Out<Qvx32s> dstIndx) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(dstIndx, srcDst));
-    return qvxsSortIndexAscend_16s_I(pointer(srcDst), pointer(dstIndx), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && dstIndx.size() == srcDst.size());
+    return qvxsSortIndexAscend_16s_I(srcDst.data(), dstIndx.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx16u> srcDst, Out<Qvx32s> dstIndx) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(dstIndx, srcDst));
-    return qvxsSortIndexAscend_16u_I(pointer(srcDst), pointer(dstIndx), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && dstIndx.size() == srcDst.size());
+    return qvxsSortIndexAscend_16u_I(srcDst.data(), dstIndx.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32s> srcDst, Out<Qvx32s> dstIndx) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(dstIndx, srcDst));
-    return qvxsSortIndexAscend_32s_I(pointer(srcDst), pointer(dstIndx), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && dstIndx.size() == srcDst.size());
+    return qvxsSortIndexAscend_32s_I(srcDst.data(), dstIndx.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32f> srcDst, Out<Qvx32s> dstIndx) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(dstIndx, srcDst));
-    return qvxsSortIndexAscend_32f_I(pointer(srcDst), pointer(dstIndx), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && dstIndx.size() == srcDst.size());
+    return qvxsSortIndexAscend_32f_I(srcDst.data(), dstIndx.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx64f> srcDst, Out<Qvx32s> dstIndx) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(dstIndx, srcDst));
-    return qvxsSortIndexAscend_64f_I(pointer(srcDst), pointer(dstIndx), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && dstIndx.size() == srcDst.size());
+    return qvxsSortIndexAscend_64f_I(srcDst.data(), dstIndx.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -7714,28 +7755,28 @@ template <class... Arguments>
 namespace exports {
 struct SortIndexDescend {
   static Status call(Out<Qvx8u> srcDst, Out<Qvx32s> dstIndx) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(dstIndx, srcDst));
-    return qvxsSortIndexDescend_8u_I(pointer(srcDst), pointer(dstIndx), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && dstIndx.size() == srcDst.size());
+    return qvxsSortIndexDescend_8u_I(srcDst.data(), dstIndx.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx16s> srcDst, Out<Qvx32s> dstIndx) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(dstIndx, srcDst));
-    return qvxsSortIndexDescend_16s_I(pointer(srcDst), pointer(dstIndx), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && dstIndx.size() == srcDst.size());
+    return qvxsSortIndexDescend_16s_I(srcDst.data(), dstIndx.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx16u> srcDst, Out<Qvx32s> dstIndx) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(dstIndx, srcDst));
-    return qvxsSortIndexDescend_16u_I(pointer(srcDst), pointer(dstIndx), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && dstIndx.size() == srcDst.size());
+    return qvxsSortIndexDescend_16u_I(srcDst.data(), dstIndx.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32s> srcDst, Out<Qvx32s> dstIndx) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(dstIndx, srcDst));
-    return qvxsSortIndexDescend_32s_I(pointer(srcDst), pointer(dstIndx), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && dstIndx.size() == srcDst.size());
+    return qvxsSortIndexDescend_32s_I(srcDst.data(), dstIndx.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32f> srcDst, Out<Qvx32s> dstIndx) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(dstIndx, srcDst));
-    return qvxsSortIndexDescend_32f_I(pointer(srcDst), pointer(dstIndx), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && dstIndx.size() == srcDst.size());
+    return qvxsSortIndexDescend_32f_I(srcDst.data(), dstIndx.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx64f> srcDst, Out<Qvx32s> dstIndx) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(dstIndx, srcDst));
-    return qvxsSortIndexDescend_64f_I(pointer(srcDst), pointer(dstIndx), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && dstIndx.size() == srcDst.size());
+    return qvxsSortIndexDescend_64f_I(srcDst.data(), dstIndx.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -7755,32 +7796,32 @@ template <class... Arguments>
 namespace exports {
 struct SortRadixAscend {
   static Status call(Out<Qvx8u> srcDst, Out<Qvx8u> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixAscend_8u_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixAscend_8u_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx16s> srcDst, Out<Qvx16s> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixAscend_16s_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixAscend_16s_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx16u> srcDst, Out<Qvx16u> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixAscend_16u_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixAscend_16u_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32s> srcDst, Out<Qvx32s> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixAscend_32s_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixAscend_32s_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32u> srcDst, Out<Qvx32u> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixAscend_32u_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixAscend_32u_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32f> srcDst, Out<Qvx32f> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixAscend_32f_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixAscend_32f_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx64f> srcDst, Out<Qvx64f> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixAscend_64f_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixAscend_64f_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -7801,34 +7842,34 @@ template <class... Arguments>
 namespace exports {
 struct SortRadixIndexAscend {
   static Status call(In<Qvx8u> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx) && atLeast(src, (int64_t(length(dstIndx)) - 1) * int64_t(srcStride.number) + 1) &&
-        atLeast(tmpIndx, int64_t(length(dstIndx))));
-    return qvxsSortRadixIndexAscend_8u(pointer(src), srcStride.number, pointer(dstIndx), pointer(tmpIndx), length(dstIndx));
+    QVX_REQUIRE(countable(dstIndx.size()) && srcStride.number >= 0 && atLeast(src.size(), (int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    return qvxsSortRadixIndexAscend_8u(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx16s> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx) && atLeast(src, quotient((int64_t(length(dstIndx)) - 1) * int64_t(srcStride.number), 2) + 1) &&
-        atLeast(tmpIndx, int64_t(length(dstIndx))));
-    return qvxsSortRadixIndexAscend_16s(pointer(src), srcStride.number, pointer(dstIndx), pointer(tmpIndx), length(dstIndx));
+    QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number), 2) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    return qvxsSortRadixIndexAscend_16s(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx16u> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx) && atLeast(src, quotient((int64_t(length(dstIndx)) - 1) * int64_t(srcStride.number), 2) + 1) &&
-        atLeast(tmpIndx, int64_t(length(dstIndx))));
-    return qvxsSortRadixIndexAscend_16u(pointer(src), srcStride.number, pointer(dstIndx), pointer(tmpIndx), length(dstIndx));
+    QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number), 2) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    return qvxsSortRadixIndexAscend_16u(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx32s> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx) && atLeast(src, quotient((int64_t(length(dstIndx)) - 1) * int64_t(srcStride.number), 4) + 1) &&
-        atLeast(tmpIndx, int64_t(length(dstIndx))));
-    return qvxsSortRadixIndexAscend_32s(pointer(src), srcStride.number, pointer(dstIndx), pointer(tmpIndx), length(dstIndx));
+    QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number), 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    return qvxsSortRadixIndexAscend_32s(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx32u> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx) && atLeast(src, quotient((int64_t(length(dstIndx)) - 1) * int64_t(srcStride.number), 4) + 1) &&
-        atLeast(tmpIndx, int64_t(length(dstIndx))));
-    return qvxsSortRadixIndexAscend_32u(pointer(src), srcStride.number, pointer(dstIndx), pointer(tmpIndx), length(dstIndx));
+    QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number), 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    return qvxsSortRadixIndexAscend_32u(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx32f> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx) && atLeast(src, quotient((int64_t(length(dstIndx)) - 1) * int64_t(srcStride.number), 4) + 1) &&
-        atLeast(tmpIndx, int64_t(length(dstIndx))));
-    return qvxsSortRadixIndexAscend_32f(pointer(src), srcStride.number, pointer(dstIndx), pointer(tmpIndx), length(dstIndx));
+    QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number), 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    return qvxsSortRadixIndexAscend_32f(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
 };
 }  // namespace exports
@@ -7849,32 +7890,32 @@ template <class... Arguments>
 namespace exports {
 struct SortRadixDescend {
   static Status call(Out<Qvx8u> srcDst, Out<Qvx8u> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixDescend_8u_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixDescend_8u_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx16s> srcDst, Out<Qvx16s> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixDescend_16s_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixDescend_16s_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx16u> srcDst, Out<Qvx16u> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixDescend_16u_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixDescend_16u_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32s> srcDst, Out<Qvx32s> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixDescend_32s_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixDescend_32s_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32u> srcDst, Out<Qvx32u> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixDescend_32u_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixDescend_32u_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx32f> srcDst, Out<Qvx32f> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixDescend_32f_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixDescend_32f_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
   static Status call(Out<Qvx64f> srcDst, Out<Qvx64f> tmp) {
-    QVX_REQUIRE(countable(srcDst) && atLeast(tmp, int64_t(length(srcDst))));
-    return qvxsSortRadixDescend_64f_I(pointer(srcDst), pointer(tmp), length(srcDst));
+    QVX_REQUIRE(countable(srcDst.size()) && atLeast(tmp.size(), int64_t(srcDst.size())));
+    return qvxsSortRadixDescend_64f_I(srcDst.data(), tmp.data(), length(srcDst.size()));
   }
 };
 }  // namespace exports
@@ -7895,34 +7936,34 @@ template <class... Arguments>
 namespace exports {
 struct SortRadixIndexDescend {
   static Status call(In<Qvx8u> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx) && atLeast(src, (int64_t(length(dstIndx)) - 1) * int64_t(srcStride.number) + 1) &&
-        atLeast(tmpIndx, int64_t(length(dstIndx))));
-    return qvxsSortRadixIndexDescend_8u(pointer(src), srcStride.number, pointer(dstIndx), pointer(tmpIndx), length(dstIndx));
+    QVX_REQUIRE(countable(dstIndx.size()) && srcStride.number >= 0 && atLeast(src.size(), (int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    return qvxsSortRadixIndexDescend_8u(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx16s> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx) && atLeast(src, quotient((int64_t(length(dstIndx)) - 1) * int64_t(srcStride.number), 2) + 1) &&
-        atLeast(tmpIndx, int64_t(length(dstIndx))));
-    return qvxsSortRadixIndexDescend_16s(pointer(src), srcStride.number, pointer(dstIndx), pointer(tmpIndx), length(dstIndx));
+    QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number), 2) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    return qvxsSortRadixIndexDescend_16s(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx16u> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx) && atLeast(src, quotient((int64_t(length(dstIndx)) - 1) * int64_t(srcStride.number), 2) + 1) &&
-        atLeast(tmpIndx, int64_t(length(dstIndx))));
-    return qvxsSortRadixIndexDescend_16u(pointer(src), srcStride.number, pointer(dstIndx), pointer(tmpIndx), length(dstIndx));
+    QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number), 2) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    return qvxsSortRadixIndexDescend_16u(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx32s> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx) && atLeast(src, quotient((int64_t(length(dstIndx)) - 1) * int64_t(srcStride.number), 4) + 1) &&
-        atLeast(tmpIndx, int64_t(length(dstIndx))));
-    return qvxsSortRadixIndexDescend_32s(pointer(src), srcStride.number, pointer(dstIndx), pointer(tmpIndx), length(dstIndx));
+    QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number), 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    return qvxsSortRadixIndexDescend_32s(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx32u> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx) && atLeast(src, quotient((int64_t(length(dstIndx)) - 1) * int64_t(srcStride.number), 4) + 1) &&
-        atLeast(tmpIndx, int64_t(length(dstIndx))));
-    return qvxsSortRadixIndexDescend_32u(pointer(src), srcStride.number, pointer(dstIndx), pointer(tmpIndx), length(dstIndx));
+    QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number), 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    return qvxsSortRadixIndexDescend_32u(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx32f> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
-    QVX_REQUIRE(countable(dstIndx) && atLeast(src, quotient((int64_t(length(dstIndx)) - 1) * int64_t(srcStride.number), 4) + 1) &&
-        atLeast(tmpIndx, int64_t(length(dstIndx))));
-    return qvxsSortRadixIndexDescend_32f(pointer(src), srcStride.number, pointer(dstIndx), pointer(tmpIndx), length(dstIndx));
+    QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
+        int64_t(srcStride.number), 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+    return qvxsSortRadixIndexDescend_32f(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
 };
 }  // namespace exports
@@ -7943,9 +7984,9 @@ template <class... Arguments>
 namespace exports {
 struct GetVarPointDV {
   static Status call(const Qvx16sc& src, Qvx32u& refPoint, Out<Qvx32u> variantPoint, In<Qvx8u> label, Value<int> states) {
-    QVX_REQUIRE(atLeast(variantPoint, 4 + 4 * (1 + quotient(int64_t(states.number), 17) - largest(1,
-        quotient(int64_t(states.number), 17)))) && atLeast(label, 16));
-    return qvxsGetVarPointDV_16sc(&src, &refPoint, pointer(variantPoint), pointer(label), states.number);
+    QVX_REQUIRE(atLeast(variantPoint.size(), 4 + 4 * (1 + quotient(int64_t(states.number), 17) - largest(1,
+        quotient(int64_t(states.number), 17)))) && atLeast(label.size(), 16));
+    return qvxsGetVarPointDV_16sc(&src, &refPoint, variantPoint.data(), label.data(), states.number);
   }
 };
 }  // namespace exports
@@ -7964,9 +8005,9 @@ template <class... Arguments>
 namespace exports {
 struct BuildSymblTableDV4D {
   static Status call(In<Qvx32u> variantPoint, Out<Qvx16u> currentSubsetPoint, Value<int> states, Value<int> bitInversion) {
-    QVX_REQUIRE(atLeast(variantPoint, 16) && atLeast(currentSubsetPoint, int64_t(states.number) + 64 -
+    QVX_REQUIRE(atLeast(variantPoint.size(), 16) && atLeast(currentSubsetPoint.size(), int64_t(states.number) + 64 -
         largest(int64_t(states.number), 64)));
-    return qvxsBuildSymblTableDV4D_16sc(pointer(variantPoint), pointer(currentSubsetPoint), states.number, bitInversion.number);
+    return qvxsBuildSymblTableDV4D_16sc(variantPoint.data(), currentSubsetPoint.data(), states.number, bitInversion.number);
   }
 };
 }  // namespace exports
@@ -7987,12 +8028,12 @@ namespace exports {
 struct CalcStatesDV {
   static Status call(In<Qvx16u> pathError, In<Qvx8u> nextState, Out<Qvx16u> branchError, In<Qvx16u> currentSubsetPoint,
       Out<Qvx32u> pathTable, Value<int> offset) {
-    QVX_REQUIRE(countable(pathError) && atLeast(nextState, int64_t(length(pathError)) * (quotient(int64_t(length(pathError)), 4) +
-        16 - largest(quotient(int64_t(length(pathError)), 4), 16))) && atLeast(branchError, 256) && atLeast(currentSubsetPoint,
-        int64_t(length(pathError)) + 64 - largest(int64_t(length(pathError)), 64)) && atLeast(pathTable, int64_t(offset.number) +
-        256));
-    return qvxsCalcStatesDV_16sc(pointer(pathError), pointer(nextState), pointer(branchError), pointer(currentSubsetPoint),
-        pointer(pathTable), length(pathError), offset.number);
+    QVX_REQUIRE(countable(pathError.size()) && offset.number >= 0 && atLeast(nextState.size(), int64_t(pathError.size()) *
+        (quotient(int64_t(pathError.size()), 4) + 16 - largest(quotient(int64_t(pathError.size()), 4), 16))) &&
+        atLeast(branchError.size(), 256) && atLeast(currentSubsetPoint.size(), int64_t(pathError.size()) + 64 -
+        largest(int64_t(pathError.size()), 64)) && atLeast(pathTable.size(), int64_t(offset.number) + 256));
+    return qvxsCalcStatesDV_16sc(pathError.data(), nextState.data(), branchError.data(), currentSubsetPoint.data(),
+        pathTable.data(), length(pathError.size()), offset.number);
   }
 };
 }  // namespace exports
@@ -8011,9 +8052,9 @@ template <class... Arguments>
 namespace exports {
 struct UpdatePathMetricsDV {
   static Status call(Out<Qvx16u> branchError, Qvx16u& minPathError, Qvx8u& minState, Out<Qvx16u> pathError, Value<int> states) {
-    QVX_REQUIRE(atLeast(branchError, int64_t(states.number) + 64 - largest(int64_t(states.number), 64)) && atLeast(pathError,
-        int64_t(states.number) + 64 - largest(int64_t(states.number), 64)));
-    return qvxsUpdatePathMetricsDV_16u(pointer(branchError), &minPathError, &minState, pointer(pathError), states.number);
+    QVX_REQUIRE(atLeast(branchError.size(), int64_t(states.number) + 64 - largest(int64_t(states.number), 64)) &&
+        atLeast(pathError.size(), int64_t(states.number) + 64 - largest(int64_t(states.number), 64)));
+    return qvxsUpdatePathMetricsDV_16u(branchError.data(), &minPathError, &minState, pathError.data(), states.number);
   }
 };
 }  // namespace exports
@@ -8033,12 +8074,12 @@ template <class... Arguments>
 namespace exports {
 struct Preemphasize {
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> val) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsPreemphasize_32f(pointer(srcDst), length(srcDst), val.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsPreemphasize_32f(srcDst.data(), length(srcDst.size()), val.number);
   }
   static Status call(Out<Qvx16s> srcDst, Value<Qvx32f> val) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsPreemphasize_16s(pointer(srcDst), length(srcDst), val.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsPreemphasize_16s(srcDst.data(), length(srcDst.size()), val.number);
   }
 };
 }  // namespace exports
@@ -8058,8 +8099,8 @@ template <class... Arguments>
 namespace exports {
 struct DemodulateFM_CToR {
   static Status call(In<Qvx16s> srcRe, In<Qvx16s> srcIm, Out<Qvx16s> dst, Qvx16sc& dlyPoint) {
-    QVX_REQUIRE(countable(srcRe) && sameLength(srcIm, srcRe) && sameLength(dst, srcRe));
-    return qvxsDemodulateFM_CToR_16s(pointer(srcRe), pointer(srcIm), pointer(dst), length(srcRe), &dlyPoint);
+    QVX_REQUIRE(countable(srcRe.size()) && srcIm.size() == srcRe.size() && dst.size() == srcRe.size());
+    return qvxsDemodulateFM_CToR_16s(srcRe.data(), srcIm.data(), dst.data(), length(srcRe.size()), &dlyPoint);
   }
 };
 }  // namespace exports
@@ -8078,8 +8119,8 @@ template <class... Arguments>
 namespace exports {
 struct UpdateLinear {
   static Status call(In<Qvx16s> src, Qvx32s& srcDst, Value<int> srcShiftRight, Value<Qvx16s> alpha, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(src));
-    return qvxsUpdateLinear_16s32s_I(pointer(src), length(src), &srcDst, srcShiftRight.number, alpha.number, hint.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsUpdateLinear_16s32s_I(src.data(), length(src.size()), &srcDst, srcShiftRight.number, alpha.number, hint.number);
   }
 };
 }  // namespace exports
@@ -8098,8 +8139,8 @@ template <class... Arguments>
 namespace exports {
 struct UpdatePower {
   static Status call(In<Qvx16s> src, Qvx32s& srcDst, Value<int> srcShiftRight, Value<Qvx16s> alpha, Value<int> hint = 0) {
-    QVX_REQUIRE(countable(src));
-    return qvxsUpdatePower_16s32s_I(pointer(src), length(src), &srcDst, srcShiftRight.number, alpha.number, hint.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsUpdatePower_16s32s_I(src.data(), length(src.size()), &srcDst, srcShiftRight.number, alpha.number, hint.number);
   }
 };
 }  // namespace exports
@@ -8118,12 +8159,12 @@ template <class... Arguments>
 namespace exports {
 struct ZeroCrossing {
   static Status call(In<Qvx16s> src, Qvx32f& valZC, Value<int> zcType) {
-    QVX_REQUIRE(countable(src));
-    return qvxsZeroCrossing_16s32f(pointer(src), length(src), &valZC, zcType.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsZeroCrossing_16s32f(src.data(), length(src.size()), &valZC, zcType.number);
   }
   static Status call(In<Qvx32f> src, Qvx32f& valZC, Value<int> zcType) {
-    QVX_REQUIRE(countable(src));
-    return qvxsZeroCrossing_32f(pointer(src), length(src), &valZC, zcType.number);
+    QVX_REQUIRE(countable(src.size()));
+    return qvxsZeroCrossing_32f(src.data(), length(src.size()), &valZC, zcType.number);
   }
 };
 }  // namespace exports
@@ -8143,8 +8184,8 @@ template <class... Arguments>
 namespace exports {
 struct Cauchy {
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> c) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsCauchy_32f_I(pointer(srcDst), length(srcDst), c.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsCauchy_32f_I(srcDst.data(), length(srcDst.size()), c.number);
   }
 };
 }  // namespace exports
@@ -8163,8 +8204,8 @@ template <class... Arguments>
 namespace exports {
 struct CauchyD {
   static Status call(Out<Qvx32f> srcDst, Value<Qvx32f> c) {
-    QVX_REQUIRE(countable(srcDst));
-    return qvxsCauchyD_32f_I(pointer(srcDst), length(srcDst), c.number);
+    QVX_REQUIRE(countable(srcDst.size()));
+    return qvxsCauchyD_32f_I(srcDst.data(), length(srcDst.size()), c.number);
   }
 };
 }  // namespace exports
@@ -8183,8 +8224,8 @@ template <class... Arguments>
 namespace exports {
 struct CauchyDD2 {
   static Status call(Out<Qvx32f> srcDst, Out<Qvx32f> d2F, Value<Qvx32f> c) {
-    QVX_REQUIRE(countable(srcDst) && sameLength(d2F, srcDst));
-    return qvxsCauchyDD2_32f_I(pointer(srcDst), pointer(d2F), length(srcDst), c.number);
+    QVX_REQUIRE(countable(srcDst.size()) && d2F.size() == srcDst.size());
+    return qvxsCauchyDD2_32f_I(srcDst.data(), d2F.data(), length(srcDst.size()), c.number);
   }
 };
 }  // namespace exports
@@ -8203,28 +8244,28 @@ template <class... Arguments>
 namespace exports {
 struct Normalize {
   static Status call(In<Qvx32f> src, Out<Qvx32f> dst, Value<Qvx32f> vSub, Value<Qvx32f> vDiv) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsNormalize_32f(pointer(src), pointer(dst), length(src), vSub.number, vDiv.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsNormalize_32f(src.data(), dst.data(), length(src.size()), vSub.number, vDiv.number);
   }
   static Status call(In<Qvx64f> src, Out<Qvx64f> dst, Value<Qvx64f> vSub, Value<Qvx64f> vDiv) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsNormalize_64f(pointer(src), pointer(dst), length(src), vSub.number, vDiv.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsNormalize_64f(src.data(), dst.data(), length(src.size()), vSub.number, vDiv.number);
   }
   static Status call(In<Qvx32fc> src, Out<Qvx32fc> dst, Value<Qvx32fc> vSub, Value<Qvx32f> vDiv) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsNormalize_32fc(pointer(src), pointer(dst), length(src), vSub.number, vDiv.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsNormalize_32fc(src.data(), dst.data(), length(src.size()), vSub.number, vDiv.number);
   }
   static Status call(In<Qvx64fc> src, Out<Qvx64fc> dst, Value<Qvx64fc> vSub, Value<Qvx64f> vDiv) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsNormalize_64fc(pointer(src), pointer(dst), length(src), vSub.number, vDiv.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsNormalize_64fc(src.data(), dst.data(), length(src.size()), vSub.number, vDiv.number);
   }
   static Status call(In<Qvx16s> src, Out<Qvx16s> dst, Value<Qvx16s> vSub, Value<int> vDiv, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsNormalize_16s_Sfs(pointer(src), pointer(dst), length(src), vSub.number, vDiv.number, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsNormalize_16s_Sfs(src.data(), dst.data(), length(src.size()), vSub.number, vDiv.number, scaleFactor.number);
   }
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst, Value<Qvx16sc> vSub, Value<int> vDiv, Value<int> scaleFactor) {
-    QVX_REQUIRE(countable(src) && sameLength(dst, src));
-    return qvxsNormalize_16sc_Sfs(pointer(src), pointer(dst), length(src), vSub.number, vDiv.number, scaleFactor.number);
+    QVX_REQUIRE(countable(src.size()) && dst.size() == src.size());
+    return qvxsNormalize_16sc_Sfs(src.data(), dst.data(), length(src.size()), vSub.number, vDiv.number, scaleFactor.number);
   }
 };
 }  // namespace exports

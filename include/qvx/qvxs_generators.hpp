@@ -41,7 +41,7 @@ template <class Stem, class Record, class T, class... Arguments> class Generator
     return made;
   }
   Status generate(Target<T> dst) {
-    QVX_REQUIRE(countable(std::span(dst)));
+    QVX_REQUIRE(countable(dst.size()));
     return Stem::run(dst.data(), static_cast<int>(dst.size()), owner_.get());
   }
 

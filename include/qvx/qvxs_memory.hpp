@@ -66,32 +66,27 @@ template <class Stem, class Record> class Owner {
   Record* record_ = nullptr;
 };
 
+template <class Range, class T>
+concept Holds = Contiguous<Range> &&
+    std::is_same_v<std::remove_const_t<T>, std::remove_const_t<typename decltype(view(std::declval<Range&>()))::element_type>>;
+
 // What a member function takes: any contiguous range of elements that are, or look like, a T.
 template <class T> class Span : public std::span<T> {
  public:
   Span() = default;
   template <class Range>
-  requires(Contiguous<std::remove_reference_t<Range>>&&
-               std::is_same_v<std::remove_const_t<T>,
-                              std::remove_const_t<typename decltype(view(
-                                  std::declval<std::remove_reference_t<Range>&>()))::element_type>>) constexpr Span(Range&& range)
-      : std::span<T>(view(range)) {}  // NOLINT(bugprone-forwarding-reference-overload,google-explicit-constructor)
+  requires Holds<std::remove_reference_t<Range>, T>
+  // NOLINTNEXTLINE(bugprone-forwarding-reference-overload): a copy of a span is made as it is from any range
+  constexpr Span(Range&& range) : std::span<T>(view(range)) {}
 };
 template <class T> using Source = Span<const T>;
 template <class T> using Target = Span<T>;
 
-template <class T> inline constexpr bool kComplex = requires(T z) { z.re; };
-template <class T> struct ComplexOf;
+template <class T> struct ComplexOf { using type = void; };
 template <> struct ComplexOf<Qvx16s> { using type = Qvx16sc; };
 template <> struct ComplexOf<Qvx32s> { using type = Qvx32sc; };
 template <> struct ComplexOf<Qvx32f> { using type = Qvx32fc; };
 template <> struct ComplexOf<Qvx64f> { using type = Qvx64fc; };
-template <class T> struct PartOf { using type = T; };
-template <class T>
-requires kComplex<T>
-struct PartOf<T> {
-  using type = decltype(T::re);
-};
 template <class T> inline constexpr bool kIntegral = std::is_integral_v<typename PartOf<T>::type>;
 
 // Results in integers take a scale factor, others none.

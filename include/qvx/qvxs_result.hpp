@@ -38,9 +38,9 @@ namespace detail {
 // A QvxStatus that cannot be overlooked. Negative: refused. Positive: done, but some element had no proper result.
 class [[nodiscard]] Status {
  public:
-  constexpr Status(QvxStatus code) : code_(code) {}  // NOLINT(google-explicit-constructor): it is one
+  constexpr Status(QvxStatus code) : code_(code) {}
 
-  constexpr operator QvxStatus() const { return code_; }  // NOLINT(google-explicit-constructor)
+  constexpr operator QvxStatus() const { return code_; }
   constexpr bool refused() const { return code_ < 0; }
   constexpr bool warned() const { return code_ > 0; }
   // Its name in qvxdefs.h and what that says of it.
@@ -61,8 +61,8 @@ class [[nodiscard]] Status {
 // A T or a refusal, with the names of std::expected<T, Status>, which GCC 12 and Clang 14 lack.
 template <class T> class [[nodiscard]] Result {
  public:
-  Result(T&& value) : value_(std::move(value)) {}  // NOLINT(google-explicit-constructor)
-  Result(Status status) : status_(status) {}       // NOLINT(google-explicit-constructor)
+  Result(T&& value) : value_(std::move(value)) {}
+  Result(Status status) : status_(status) {}
 
   bool has_value() const { return !status_.refused(); }
   explicit operator bool() const { return has_value(); }

@@ -253,6 +253,8 @@ template <class T> using DftOutOfOrder = typename records::TransformOf<records::
 
 // The cosine transforms of types II, forward, and III, inverse, of len numbers. One vector for both is transformed in place.
 template <class T> class Dct {
+  static_assert(detail::Known<handles::RecordOf<handles::DCTFwdStem, T>>, "qvx: qvx::Dct takes Qvx32f, Qvx64f or Qvx16s");
+
  public:
   Dct() = default;
   static Result<Dct> make(int len) {
@@ -299,6 +301,9 @@ template <class T> class Dct {
 
 // The analytic signal of len real numbers of T, in complex ones of C.
 template <class T, class C = typename detail::ComplexOf<T>::type> class Hilbert {
+  static_assert(detail::Known<handles::RecordOf<handles::HilbertStem, T, C>>,
+                "qvx: qvx::Hilbert takes Qvx32f or Qvx16s, the latter into Qvx16sc or Qvx32fc");
+
  public:
   Hilbert() = default;
   static Result<Hilbert> make(int len) {

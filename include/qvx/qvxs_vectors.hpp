@@ -26,7 +26,7 @@
   if (!(condition)) return qvx::Status(qvxStatBadSize)
 #elif defined(NDEBUG)
 #define QVX_POLICY lengths_trusted
-#define QVX_REQUIRE(condition) static_cast<void>(0)
+#define QVX_REQUIRE(condition) static_cast<void>(sizeof(condition))
 #else
 #define QVX_POLICY lengths_asserted
 #define QVX_REQUIRE(condition) assert(condition)
@@ -51,20 +51,37 @@ enum class Rounding : int { kTowardZero = qvxRoundTowardZero, kNearestEven = qvx
 // Element types, for functions whose arguments tell none.
 template <class... T> struct Types {};
 
-// A number that becomes a T without losing a fraction: no float is taken where an integer stands.
+namespace detail {
+
+template <class T> inline constexpr bool kComplex = requires(T z) { z.re; };
+template <class T> struct PartOf { using type = T; };
+template <class T>
+requires kComplex<T>
+struct PartOf<T> {
+  using type = decltype(T::re);
+};
+
+// Numbers that become a T without losing a fraction: no float is taken where an integer stands.
+template <class U, class T>
+concept Becomes = std::is_arithmetic_v<T> && std::is_convertible_v<U, T> &&
+    (std::is_floating_point_v<T> || !std::is_floating_point_v<U>);
+
+}  // namespace detail
+
+// A constant: a T, or a number that becomes one. A real number is a complex one.
 template <class T> struct Value {
   template <class U>
-  requires(std::is_same_v<T, U> || (std::is_arithmetic_v<T> && std::is_convertible_v<U, T> &&
-                                    (std::is_floating_point_v<T> || !std::is_floating_point_v<U>))) constexpr Value(U number)
-      : number(static_cast<T>(number)) {}  // NOLINT(google-explicit-constructor)
+  requires(std::is_same_v<U, T> || detail::Becomes<U, T>) constexpr Value(U given) : number(static_cast<T>(given)) {}
+  template <class U>
+  requires(detail::kComplex<T>&& detail::Becomes<U, typename detail::PartOf<T>::type>) constexpr Value(U real)
+      : number{static_cast<typename detail::PartOf<T>::type>(real), 0} {}
   T number;
 };
 
 // A floating-point number, where one of integers would be another function.
 template <class T> struct Fraction {
   template <class U>
-  requires(std::is_floating_point_v<U>) constexpr Fraction(U number)
-      : number(static_cast<T>(number)) {}  // NOLINT(google-explicit-constructor)
+  requires(std::is_floating_point_v<U>) constexpr Fraction(U given) : number(static_cast<T>(given)) {}
   T number;
 };
 
@@ -112,8 +129,7 @@ template <class T> constexpr decltype(auto) view(T& argument) {
   }
 }
 
-// The pointers that C takes.
-template <class T> constexpr T* pointer(std::span<T> vector) { return vector.data(); }
+// The pointers that C takes, where they are not data().
 template <class T> T* optional(std::span<T> vector) { return vector.empty() ? nullptr : vector.data(); }
 inline const Qvx16f* pointer(In<Half> vector) { return reinterpret_cast<const Qvx16f*>(vector.data()); }
 inline Qvx16f* pointer(Out<Half> vector) { return reinterpret_cast<Qvx16f*>(vector.data()); }
@@ -123,16 +139,13 @@ inline const Qvx8u* pointer(In<UInt24> vector) { return reinterpret_cast<const Q
 inline Qvx8u* pointer(Out<UInt24> vector) { return reinterpret_cast<Qvx8u*>(vector.data()); }
 
 // The length that C takes, and whether it can.
-template <class L = int, class T> constexpr L length(std::span<T> vector) { return static_cast<L>(vector.size()); }
-template <class L = int, class T> constexpr bool countable(std::span<T> vector) {
-  return vector.size() <= static_cast<size_t>(std::is_same_v<L, int> ? INT_MAX : UINT_MAX);
-}
-template <class A, class B> constexpr bool sameLength(std::span<A> a, std::span<B> b) { return a.size() == b.size(); }
+constexpr int length(size_t size) { return static_cast<int>(size); }
+constexpr Qvx32u unsignedLength(size_t size) { return static_cast<Qvx32u>(size); }
+constexpr bool countable(size_t size) { return size <= INT_MAX; }
+constexpr bool countableUnsigned(size_t size) { return size <= UINT_MAX; }
 // At least so many elements; the expressions are those of the table of extents. What they make of arguments that the function
 // refuses anyhow does not matter.
-template <class T> constexpr bool atLeast(std::span<T> vector, int64_t elements) {
-  return elements <= 0 || vector.size() >= static_cast<size_t>(elements);
-}
+constexpr bool atLeast(size_t size, int64_t elements) { return elements <= 0 || size >= static_cast<size_t>(elements); }
 constexpr int64_t quotient(int64_t a, int64_t b) { return b == 0 ? 0 : a / b; }
 // Of PackBits: a length below 0 counts as 0, one above 32 as 32.
 inline int64_t totalBits(std::span<const int> lengths) {

@@ -34,8 +34,8 @@ TEST(Functions, VectorsAndConstantsOfOneType) {
   EXPECT_EQ(qvx::MulC(0.3, face), qvxStatOk);  // one vector: in place
   EXPECT_EQ(qvxsMulC_32f_I(0.3F, c.data(), 37), qvxStatOk);
   EXPECT_TRUE(same(face, c));
-  EXPECT_EQ(qvx::Div(a, face), qvxStatOk);
-  EXPECT_EQ(qvxsDiv_32f_I(a.data(), c.data(), 37), qvxStatOk);
+  EXPECT_EQ(qvx::Div(b, face), qvxStatOk);
+  EXPECT_EQ(qvxsDiv_32f_I(b.data(), c.data(), 37), qvxStatOk);
   EXPECT_TRUE(same(face, c));
 }
 
@@ -99,6 +99,8 @@ TEST(Functions, ComplexNumbersOfTheStandardLibrary) {
   EXPECT_EQ(product[1], a[1] * a[1]);
   EXPECT_EQ(qvx::AddC(std::complex<Qvx32f>(1, -1), product), qvxStatOk);
   EXPECT_EQ(product[2], std::complex<Qvx32f>(0, -1));
+  EXPECT_EQ(qvx::MulC(2, product), qvxStatOk);  // a real number is a complex one
+  EXPECT_EQ(product[2], std::complex<Qvx32f>(0, -2));
   std::complex<Qvx32f> sum;
   EXPECT_EQ(qvx::Sum(a, sum), qvxStatOk);
   EXPECT_EQ(sum, std::complex<Qvx32f>(4, -1));
@@ -168,6 +170,12 @@ TEST(Functions, WrongLengthsAreRefused) {
   std::vector<Qvx32fc> spectrum(10);
   EXPECT_EQ(qvx::ConjCcs(x, spectrum), qvxStatBadSize);  // 12 numbers hold it
   EXPECT_EQ(qvx::FIR_Direct(x, y, std::span(x).first(4), some(7), count), qvxStatBadSize);
+  const std::vector<Qvx8u> keys(9);
+  std::vector<Qvx32s> places(5);
+  std::vector<Qvx32s> scratch(6);
+  EXPECT_EQ(qvx::SortRadixIndexAscend(keys, 2, places, scratch), qvxStatOk);  // scratch may be longer
+  EXPECT_EQ(qvx::SortRadixIndexAscend(keys, 3, places, scratch), qvxStatBadSize);
+  EXPECT_EQ(qvx::SortRadixIndexAscend(keys, -2, places, scratch), qvxStatBadSize);
   std::vector<Qvx8u> bytes(3);
   int bits = 0;
   const std::array<Qvx32u, 3> values = {1, 2, 3};

@@ -27,6 +27,8 @@ void wrongTypes() {
   qvx::Fir<Qvx16sc>::make(std::vector<Qvx16sc>(3)).value();
   // qvx: there is no recursive filter of such samples with such taps
   qvx::Iir<Qvx32f, Qvx16s> filter;
+  // qvx: qvx::Dct takes Qvx32f, Qvx64f or Qvx16s
+  qvx::Dct<Qvx32s> cosine;
 }
 
 void wrongArguments(qvx::Fft<Qvx32f>& fft, qvx::Fir<Qvx16s>& fir) {
