@@ -105,9 +105,13 @@ class Site:
             if part.startswith("Returns "):
                 out.append(f'<p class="returns">{self.prose(part)}</p>')
                 continue
+            # The formula that a block begins with, maybe after a name: "Hann: w[n] = ...".
             if i == 0:
-                first = formula.read(part, 1 if part.startswith("*") else 0, True)
+                head = re.match(r"(?:[^.;:=]{1,90}: )?\*?", part)
+                first = formula.read(part, head.end(), True)
                 if first and re.match(r"[.;:,]( |$)|$", part[first[1]:]):
+                    label = head[0].rstrip("*")
+                    out.append(f"<p>{self.prose(label)}</p>" if label else "")
                     out.append(f'<div class="formula">{formula.math(first[0], True)}</div>')
                     part = part[first[1]:].lstrip(".;:, ")
                     part = part[:1].upper() + part[1:] if re.match(r"[a-z]+[ ,]", part) else part
