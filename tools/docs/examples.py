@@ -56,7 +56,11 @@ class Example:
 
 
 def read(root):
+    """The examples in the order of the guide's table, which must have all of them."""
     rows = re.findall(r"^\| \[(\w+)\]\([^)]*\) \| (.*?) \|$", (root / "docs/guide.md").read_text(), re.M)
+    missing = {path.parent.name for path in (root / "examples").glob("*/main.cpp")} - {name for name, _ in rows}
+    if missing:
+        raise SystemExit(f"docs/guide.md has no line for the examples {', '.join(sorted(missing))}")
     result = []
     for name, does in rows:
         folder = root / "examples" / name
