@@ -176,6 +176,7 @@ class Site:
                                       extension_configs={"toc": {"toc_depth": "2-3"}})
         body = converter.convert(text)
         body = re.sub(r'href="(?:docs/)?([\w-]+)\.md(#[^"]*)?"', lambda m: f'href="{m[1]}.html{m[2] or ""}"', body)
+        body = re.sub(r'>([\w-]+)\.md</a>', lambda m: f">{self.titles.get(m[1], m[1])}</a>", body)
         body = re.sub(r'href="(?:\.\./)*include/qvx/qvxs_(\w+)\.h"', r'href="\1.html"', body)
         body = re.sub(r'href="(?:\.\./)*examples/(\w+)/?"', r'href="example-\1.html"', body)
         # Links to what the site does not hold: the text stays.
