@@ -123,7 +123,7 @@ class Site:
 
     def returned(self, block):
         """The statuses of a block's functions that its text leaves to another block's."""
-        found = {name for export in block.exports for name in headers.refusals(self.tables, export.name)}
+        found = headers.returned(block, self.tables, self.families)
         return [status for status in self.statuses if status.name in found and not re.search(rf"\b{status.name}\b", block.text)]
 
     def prototype(self, export):
@@ -162,11 +162,8 @@ class Site:
         returns = {status.name: {} for status in self.statuses}
         for family in self.families:
             for block in family.documented:
-                for export in block.exports:
-                    names = set(headers.refusals(self.tables, export.name)) | set(re.findall(r"qvx(?:Stat|Warn)\w+", block.text))
-                    for name in names:
-                        if name in returns:
-                            returns[name].setdefault(family.name, dict())[export.stem] = None
+                for name in headers.returned(block, self.tables, self.families) & set(returns):
+                    returns[name].setdefault(family.name, {}).update(dict.fromkeys(block.stems))
         rows = [(s, [(f, list(returns[s.name][f.name])) for f in self.families if f.name in returns[s.name]]) for s in self.statuses]
         self.write("statuses.html", "statuses.html", title="Status codes", rows=rows, total=sum(len(f.stems) for f in self.families))
 
@@ -187,9 +184,13 @@ class Site:
         body = body.replace("<table>", '<div class="wide"><table>').replace("</table>", "</table></div>")
         body = re.sub(r"<code class=\"language-(c|cpp)\">(.*?)</code>",
                       lambda m: f"<code>{self.coloured(html.unescape(m[2]), m[1] == 'c')}</code>", body, flags=re.S)
+        for picture in self.pictures:  # under the headings that they are for
+            for page in picture.families:
+                if page.partition("#")[0] == name and "#" in page:
+                    shown = str(self.templates.get_template("pictures.html").module.show([picture]))
+                    body = re.sub(rf'(<h2 id="{page.partition("#")[2]}">.*?</h2>)', lambda m: m[1] + shown, body)
         contents = [(t["id"], t["name"]) for token in converter.toc_tokens for t in [token] + token["children"] if t["level"] == 2]
-        self.write(f"{name}.html", "document.html", title=self.titles[name], body=body, contents=contents,
-                   pictures=[p for p in self.pictures if name in p.families])
+        self.write(f"{name}.html", "document.html", title=self.titles[name], body=body, contents=contents)
         return [(f"{name}.html#{place}", words, self.titles[name]) for place, words in contents]
 
     def coloured(self, source, plain_c):
