@@ -37,6 +37,7 @@ class Site:
         self.options = options
         self.output = Path(options.output)
         self.families = headers.read_families(ROOT / "include/qvx")
+        self.stems = {stem for family in self.families for stem in family.stems}  # those of the FFT are in two families
         self.statuses = headers.read_statuses(ROOT / "include/qvx")
         self.core = headers.read_core(ROOT / "include/qvx")
         self.tables = headers.read_traits(ROOT / "traits")
@@ -164,8 +165,11 @@ class Site:
             for block in family.documented:
                 for name in headers.returned(block, self.tables, self.families) & set(returns):
                     returns[name].setdefault(family.name, {}).update(dict.fromkeys(block.stems))
-        rows = [(s, [(f, list(returns[s.name][f.name])) for f in self.families if f.name in returns[s.name]]) for s in self.statuses]
-        self.write("statuses.html", "statuses.html", title="Status codes", rows=rows, total=sum(len(f.stems) for f in self.families))
+        rows = []
+        for status in self.statuses:
+            by_family = [(f, list(returns[status.name][f.name])) for f in self.families if f.name in returns[status.name]]
+            rows.append((status, by_family, len({stem for _, stems in by_family for stem in stems})))
+        self.write("statuses.html", "statuses.html", title="Status codes", rows=rows, total=len(self.stems))
 
     def document(self, name, text):
         """A page of docs/: Markdown, its links turned to pages of the site, the functions it names to their blocks."""
@@ -248,7 +252,7 @@ class Site:
         self.write("functions.html", "functions.html", title="All functions")
         start = self.coloured(re.search(r"```c\n(.*?)```", (ROOT / "README.md").read_text(), re.S)[1], True)
         self.write("index.html", "index.html", title="qvxs", start=start, count=sum(len(f.exports) for f in self.families),
-                   stems=sum(len(f.stems) for f in self.families), pictures=self.pictures, examples=self.examples)
+                   stems=len(self.stems), pictures=self.pictures, examples=self.examples)
         self.index(headings)
 
 
