@@ -58,7 +58,7 @@ execute_process(COMMAND ${QVXS_GZIP} -9nc ${PROJECT_SOURCE_DIR}/cmake/debian/cha
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME qvxs)
 set(CPACK_PACKAGE_VENDOR qvxs)
-set(CPACK_PACKAGE_CONTACT "qvxs maintainers <maintainers@users.noreply.c-seed-4908b7cb.example>")
+set(CPACK_PACKAGE_CONTACT "qvxs maintainers <maintainers@qvxs.example>")
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_SOURCE_DIR}/build/packages)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_COMPONENTS_ALL ${QVXS_PACKAGES})

@@ -25,8 +25,9 @@ extern "C" {
  *
  * A record is of one of three forms, set by its initialiser:
  *   direct       one filter of any order N; taps b[0..N], a[0..N]; line d[0..N-1]
- *   BiQuad       numBq sections of second order, one after the other; taps b0, b1, b2, a0, a1, a2 for each; line d[0], d[1] for
- * each BiQuad_DF1   the same sections in the direct form I; line x[n-2], x[n-1], y[n-2], y[n-1] for each
+ *   BiQuad       numBq sections of second order, one after the other; taps b0, b1, b2, a0, a1, a2 for each; line d[0], d[1]
+ *                for each
+ *   BiQuad_DF1   the same sections in the direct form I; line x[n-2], x[n-1], y[n-2], y[n-1] for each
  *
  * The same functions filter all forms. Each is written by one thread at a time. */
 typedef struct QvxsIIRState_32f QvxsIIRState_32f;

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # In a system of its own, with the packages in /packages: a user's programs find all they need where the system has it, and nothing is
 # left when the packages are gone. The argument is the variant that this processor takes.
 set -euo pipefail

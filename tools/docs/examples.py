@@ -13,16 +13,19 @@ from pictures import Picture
 CALLS = """
 signals make sweep -o sweep.wav
 signals make tone --seconds 2 -o tone.wav
+signals make uniform --seconds 20 -o noise.wav
 signals windows --plot windows.svg
 dtmf dial 0123456789 -o keys.wav
 dtmf listen keys.wav
 spectrum keys.wav --order 11 --output spectrum.svg
 spectrogram draw keys.wav --window 400 --output spectrogram.png
 spectrogram bands keys.wav
+spectrogram draw sweep.wav --window 800 --output sweep.png
 parametric low --frequency 4000 --order 6 --ripple 1 --plot response.svg
 parametric high --frequency 300 --order 4
 mixdown tone.wav sweep.wav --gain -6 --gain -12 -o mix.wav
-equalise sweep.wav --taps telephone.txt -o telephone.wav
+equalise noise.wav --taps telephone.txt -o telephone.wav
+spectrum telephone.wav --order 10 --peaks 3 --output telephone.svg
 resample tone.wav --rate 44100 -o cd.wav
 echo make sweep.wav -o microphone.wav
 echo cancel sweep.wav microphone.wav -o cancelled.wav --plot echo.svg
@@ -41,6 +44,8 @@ PICTURES = {
     "response.svg": ("A Chebyshev low-pass filter of order 6, ripple 1 dB, by the parametric example.", ("iir", "index")),
     "spectrum.svg": ("The tones of ten telephone keys, by the spectrum example.", ("goertzel",)),
     "spectrogram.png": ("The same keys over time, by the spectrogram example.", ("dft", "index")),
+    "telephone.svg": ("White noise through a telephone's FIR filter, by the examples equalise and spectrum.", ("fir", "fir_design")),
+    "sweep.png": ("A sweep, by the examples signals and spectrogram.", ("generate",)),
     "echo.svg": ("An adaptive filter learns an echo, by the echo example.", ("lms",)),
 }
 
@@ -56,7 +61,11 @@ class Example:
 
 
 def read(root):
+    """The examples in the order of the guide's table, which must have all of them."""
     rows = re.findall(r"^\| \[(\w+)\]\([^)]*\) \| (.*?) \|$", (root / "docs/guide.md").read_text(), re.M)
+    missing = {path.parent.name for path in (root / "examples").glob("*/main.cpp")} - {name for name, _ in rows}
+    if missing:
+        raise SystemExit(f"docs/guide.md has no line for the examples {', '.join(sorted(missing))}")
     result = []
     for name, does in rows:
         folder = root / "examples" / name

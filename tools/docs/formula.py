@@ -101,8 +101,16 @@ class Parser:
         base = self.atom()
         if self.peek()[1] == "^":
             self.take("^")
-            return f"<msup><mrow>{base}</mrow><mrow>{unwrapped(self.signed())}</mrow></msup>"
+            return f"<msup><mrow>{base}</mrow><mrow>{unwrapped(self.inline(self.signed))}</mrow></msup>"
         return base
+
+    def inline(self, read):
+        """As read does, without fractions on two lines: an exponent has no room for them."""
+        before, self.display = self.display, False
+        try:
+            return read()
+        finally:
+            self.display = before
 
     def signed(self):
         sign = self.peek()[1]
@@ -128,12 +136,12 @@ class Parser:
             self.take("(")
             inner = self.sum()
             self.take(")")
-            return f"<mrow><mo>(</mo>{inner}<mo>)</mo></mrow>"
+            return bracketed("(", inner, ")")
         if value == "|":
             self.take("|")
             inner = self.sum()
             self.take("|")
-            return f"<mrow><mo>|</mo>{inner}<mo>|</mo></mrow>"
+            return bracketed("|", inner, "|")
         if value == "...":
             self.take(value)
             return "<mo>⋯</mo>"
@@ -148,7 +156,7 @@ class Parser:
         following = self.text[self.at:self.at + 1]
         if following == "(":
             self.take("(")
-            arguments = [self.sum()]
+            arguments = [self.inline(self.sum) if value == "exp" else self.sum()]
             while self.peek()[1] == ",":
                 self.take(",")
                 arguments.append(self.sum())
@@ -157,19 +165,25 @@ class Parser:
                 return f"<msqrt>{''.join(arguments)}</msqrt>"
             if value == "exp" and self.display:
                 return f"<msup><mi>e</mi><mrow>{arguments[0]}</mrow></msup>"
-            return f"<mrow>{name}<mo>&#x2061;</mo><mo>(</mo>{'<mo>,</mo>'.join(arguments)}<mo>)</mo></mrow>"
+            return f"<mrow>{name}<mo>&#x2061;</mo>{bracketed('(', '<mo>,</mo>'.join(arguments), ')')}</mrow>"
         if following == "[":
             self.take("[")
             inner = self.sum()
             self.take("]")
-            return f"<mrow>{name}<mo>[</mo>{inner}<mo>]</mo></mrow>"
+            return f"<mrow>{name}{bracketed('[', inner, ']')}</mrow>"
         return name
+
+
+def bracketed(left, inner, right):
+    """Brackets as high as the line, unless a fraction stands between them."""
+    fixed = "" if "<mfrac>" in inner else ' stretchy="false"'
+    return f"<mrow><mo{fixed}>{left}</mo>{inner}<mo{fixed}>{right}</mo></mrow>"
 
 
 def unwrapped(markup):
     """Without brackets that a fraction or an exponent makes needless."""
-    inner = re.fullmatch(r"<mrow><mo>\(</mo>(.*)<mo>\)</mo></mrow>", markup, re.S)
-    return inner[1] if inner and "<mo>(</mo>" not in inner[1] else markup
+    inner = re.fullmatch(r"<mrow><mo[^>]*>\(</mo>(.*)<mo[^>]*>\)</mo></mrow>", markup, re.S)
+    return inner[1] if inner and ">(</mo>" not in inner[1] else markup
 
 
 START = re.compile(r"(?<![\w.*\[(|&>-])(?:\|?[A-Za-z]\w*(?:\[[^\]=]*\])?\|?) (?:=) ")

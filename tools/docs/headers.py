@@ -229,6 +229,17 @@ def refusals(tables, name):
     return []
 
 
+def returned(block, tables, families):
+    """The names of the statuses that the functions of a block return beside qvxStatOk: refusals by traits, the others by the text, or by
+    that of the block whose returns it says it has."""
+    found = {name for export in block.exports for name in refusals(tables, export.name)}
+    found |= set(re.findall(r"\bqvx(?:Stat|Warn)\w+", block.text)) - {"qvxStatOk"}
+    for stem in re.findall(r"(?:[Rr]eturns|[Oo]therwise) as (qvxs[A-Z]\w*)", block.text):
+        for other in (b for family in families for b in family.documented if stem in b.stems and b is not block):
+            found |= set(re.findall(r"\bqvxWarn\w+", other.text))
+    return found
+
+
 def read_core(include):
     """The functions of the core library: (name, prototype, text)."""
     text = (Path(include) / "qvxcore.h").read_text()

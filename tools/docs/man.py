@@ -61,12 +61,8 @@ def page(stem, families, statuses, tables, version):
     family = blocks[0].family
     out = [title(stem, 3, version), ".nh", ".ad l", ".SH NAME", rf"{stem} \- {roff(headers.summary(stem, blocks))}",
            ".SH LIBRARY", r"libqvxs, \-lqvxs", ".SH SYNOPSIS", ".nf", r"\fB#include <qvx/qvxs.h>\fP", ".sp"]
-    found = []
     for block in blocks:
-        for export in block.exports:
-            if export.stem == stem:
-                out.append(roff(wrapped(export.prototype())))
-                found += headers.refusals(tables, export.name)
+        out += [roff(wrapped(export.prototype())) for export in block.exports if export.stem == stem]
     out += [".fi", ".SH DESCRIPTION"]
     shown = []
     for block in blocks:
@@ -91,8 +87,7 @@ def page(stem, families, statuses, tables, version):
         out.append(".SH CONVENTIONS")
         for note in notes:
             out += described(note)
-    text = " ".join(block.text for block in shown)
-    names = {s.name for s in statuses if s.name in found or re.search(rf"\b{s.name}\b", text)}
+    names = set().union(*(headers.returned(block, tables, families) for block in shown))
     if any(export.result == "QvxStatus" for block in blocks for export in block.exports):
         out.append(".SH RETURN VALUE")
         for status in statuses:

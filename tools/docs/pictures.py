@@ -7,7 +7,7 @@ from dataclasses import dataclass
 class Picture:
     file: str
     caption: str
-    families: tuple  # the pages that show it
+    families: tuple  # the pages that show it, maybe under a heading: page#heading
     svg: str = ""
 
 
@@ -74,7 +74,7 @@ def scaling():
 def draw():
     return [
         Picture("layouts.svg", "The three layouts of the spectrum of N real numbers. X0 and, for even N, X4 are real.",
-                ("fft", "spectrum", "dft", "scaling"), layouts()),
+                ("fft", "spectrum", "dft", "scaling#packed-spectra"), layouts()),
         Picture("scaling.svg", "Nothing is rounded or saturated before the scale factor: 1 saves the sum that 0 clips.",
-                ("arith", "scaling"), scaling()),
+                ("arith", "scaling#the-scale-factor"), scaling()),
     ]

@@ -37,6 +37,7 @@ class Site:
         self.options = options
         self.output = Path(options.output)
         self.families = headers.read_families(ROOT / "include/qvx")
+        self.stems = {stem for family in self.families for stem in family.stems}  # those of the FFT are in two families
         self.statuses = headers.read_statuses(ROOT / "include/qvx")
         self.core = headers.read_core(ROOT / "include/qvx")
         self.tables = headers.read_traits(ROOT / "traits")
@@ -105,9 +106,13 @@ class Site:
             if part.startswith("Returns "):
                 out.append(f'<p class="returns">{self.prose(part)}</p>')
                 continue
+            # The formula that a block begins with, maybe after a name: "Hann: w[n] = ...".
             if i == 0:
-                first = formula.read(part, 1 if part.startswith("*") else 0, True)
+                head = re.match(r"(?:[^.;:=]{1,90}: )?\*?", part)
+                first = formula.read(part, head.end(), True)
                 if first and re.match(r"[.;:,]( |$)|$", part[first[1]:]):
+                    label = head[0].rstrip("*")
+                    out.append(f"<p>{self.prose(label)}</p>" if label else "")
                     out.append(f'<div class="formula">{formula.math(first[0], True)}</div>')
                     part = part[first[1]:].lstrip(".;:, ")
                     part = part[:1].upper() + part[1:] if re.match(r"[a-z]+[ ,]", part) else part
@@ -119,7 +124,7 @@ class Site:
 
     def returned(self, block):
         """The statuses of a block's functions that its text leaves to another block's."""
-        found = {name for export in block.exports for name in headers.refusals(self.tables, export.name)}
+        found = headers.returned(block, self.tables, self.families)
         return [status for status in self.statuses if status.name in found and not re.search(rf"\b{status.name}\b", block.text)]
 
     def prototype(self, export):
@@ -158,13 +163,13 @@ class Site:
         returns = {status.name: {} for status in self.statuses}
         for family in self.families:
             for block in family.documented:
-                for export in block.exports:
-                    names = set(headers.refusals(self.tables, export.name)) | set(re.findall(r"qvx(?:Stat|Warn)\w+", block.text))
-                    for name in names:
-                        if name in returns:
-                            returns[name].setdefault(family.name, dict())[export.stem] = None
-        rows = [(s, [(f, list(returns[s.name][f.name])) for f in self.families if f.name in returns[s.name]]) for s in self.statuses]
-        self.write("statuses.html", "statuses.html", title="Status codes", rows=rows, total=sum(len(f.stems) for f in self.families))
+                for name in headers.returned(block, self.tables, self.families) & set(returns):
+                    returns[name].setdefault(family.name, {}).update(dict.fromkeys(block.stems))
+        rows = []
+        for status in self.statuses:
+            by_family = [(f, list(returns[status.name][f.name])) for f in self.families if f.name in returns[status.name]]
+            rows.append((status, by_family, len({stem for _, stems in by_family for stem in stems})))
+        self.write("statuses.html", "statuses.html", title="Status codes", rows=rows, total=len(self.stems))
 
     def document(self, name, text):
         """A page of docs/: Markdown, its links turned to pages of the site, the functions it names to their blocks."""
@@ -172,6 +177,7 @@ class Site:
                                       extension_configs={"toc": {"toc_depth": "2-3"}})
         body = converter.convert(text)
         body = re.sub(r'href="(?:docs/)?([\w-]+)\.md(#[^"]*)?"', lambda m: f'href="{m[1]}.html{m[2] or ""}"', body)
+        body = re.sub(r'>([\w-]+)\.md</a>', lambda m: f">{self.titles.get(m[1], m[1])}</a>", body)
         body = re.sub(r'href="(?:\.\./)*include/qvx/qvxs_(\w+)\.h"', r'href="\1.html"', body)
         body = re.sub(r'href="(?:\.\./)*examples/(\w+)/?"', r'href="example-\1.html"', body)
         # Links to what the site does not hold: the text stays.
@@ -182,9 +188,13 @@ class Site:
         body = body.replace("<table>", '<div class="wide"><table>').replace("</table>", "</table></div>")
         body = re.sub(r"<code class=\"language-(c|cpp)\">(.*?)</code>",
                       lambda m: f"<code>{self.coloured(html.unescape(m[2]), m[1] == 'c')}</code>", body, flags=re.S)
+        for picture in self.pictures:  # under the headings that they are for
+            for page in picture.families:
+                if page.partition("#")[0] == name and "#" in page:
+                    shown = str(self.templates.get_template("pictures.html").module.show([picture]))
+                    body = re.sub(rf'(<h2 id="{page.partition("#")[2]}">.*?</h2>)', lambda m: m[1] + shown, body)
         contents = [(t["id"], t["name"]) for token in converter.toc_tokens for t in [token] + token["children"] if t["level"] == 2]
-        self.write(f"{name}.html", "document.html", title=self.titles[name], body=body, contents=contents,
-                   pictures=[p for p in self.pictures if name in p.families])
+        self.write(f"{name}.html", "document.html", title=self.titles[name], body=body, contents=contents)
         return [(f"{name}.html#{place}", words, self.titles[name]) for place, words in contents]
 
     def coloured(self, source, plain_c):
@@ -242,7 +252,7 @@ class Site:
         self.write("functions.html", "functions.html", title="All functions")
         start = self.coloured(re.search(r"```c\n(.*?)```", (ROOT / "README.md").read_text(), re.S)[1], True)
         self.write("index.html", "index.html", title="qvxs", start=start, count=sum(len(f.exports) for f in self.families),
-                   stems=sum(len(f.stems) for f in self.families), pictures=self.pictures, examples=self.examples)
+                   stems=len(self.stems), pictures=self.pictures, examples=self.examples)
         self.index(headings)
 
 
