@@ -100,6 +100,11 @@ template <bool kInverse, class T, class Record> void besideFftw(Suite& suite, co
   c.contenders.push_back(contender<T>("ours", own));
   c.contenders.push_back(contender<T>(
       "FFTW", [](int n, const T* src, T* dst) { return std::make_shared<fftw::Cosines<T, kInverse>>(n, src, dst); }));
+  if (fftw::isBuilt<T>()) {
+    c.contenders.push_back(contender<T>("FFTW, built", [](int n, const T* src, T* dst) {
+      return std::make_shared<fftw::Cosines<T, kInverse, fftw::BuiltApi<T>>>(n, src, dst);
+    }));
+  }
   suite.add(c);
 
   if (kInverse) return;

@@ -41,8 +41,8 @@ template <class C, class Record>
 auto maker(QvxStatus (*run)(const C*, C*, const Record*, Qvx8u*), typename Own<Record, decltype(run)>::Life life) {
   return [=](int n, const auto*, auto*) { return std::make_shared<Own<Record, decltype(run)>>(n, run, life); };
 }
-template <class T, bool kReal> auto peer() {
-  return [](int n, const T* src, T* dst) { return std::make_shared<fftw::Plan<T, kReal>>(n, src, dst); };
+template <template <class, bool> class Plan, class T, bool kReal> auto peer() {
+  return [](int n, const T* src, T* dst) { return std::make_shared<Plan<T, kReal>>(n, src, dst); };
 }
 
 // Planning writes both vectors, so the source is kept.
@@ -110,7 +110,8 @@ template <class T, bool kReal, class Make> void besideFftw(Suite& suite, const s
   for (const Group& group : kGroups) {
     Case c = transforms<T, kReal>(name, group);
     c.contenders.push_back(contender<T>("ours", make));
-    c.contenders.push_back(contender<T>("FFTW", peer<T, kReal>()));
+    c.contenders.push_back(contender<T>("FFTW", peer<fftw::MeasuredPlan, T, kReal>()));
+    if (fftw::isBuilt<T>()) c.contenders.push_back(contender<T>("FFTW, built", peer<fftw::BuiltPlan, T, kReal>()));
     suite.add(std::move(c));
   }
 }

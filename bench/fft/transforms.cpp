@@ -123,7 +123,7 @@ struct Group {
   int from;
   int to;
 };
-constexpr Group kGroups[] = {{"short", 3, 12}, {"medium", 13, 17}, {"long", 18, 22}};
+constexpr Group kGroups[] = {{"short", 3, 12}, {"medium", 13, 16}, {"long", 17, 22}};
 
 template <class T, int kKind, class Make> void besideOthers(Suite& suite, const std::string& name, Make make) {
   for (const bool inPlace : {false, true}) {
@@ -131,7 +131,12 @@ template <class T, int kKind, class Make> void besideOthers(Suite& suite, const 
       Case c = transforms<T, kKind>(name + (inPlace ? "_I" : ""), inPlace, lengths(group.from, group.to));
       c.group = group.name;
       c.contenders.push_back(contender<T>("ours", make, inPlace));
-      c.contenders.push_back(contender<T>("FFTW", maker<fftw::Plan, T, kKind == kReals>(), inPlace));
+      c.contenders.push_back(contender<T>("FFTW", maker<fftw::MeasuredPlan, T, kKind == kReals>(), inPlace));
+      if (fftw::isBuilt<T>()) {
+        c.contenders.push_back(contender<T>("FFTW, built", maker<fftw::BuiltPlan, T, kKind == kReals>(), inPlace));
+        if (1 << group.to <= fftw::kMostPatient)
+          c.contenders.push_back(contender<T>("FFTW, patient", maker<fftw::PatientPlan, T, kKind == kReals>(), inPlace));
+      }
       // In place it copies.
       if constexpr (sizeof(T) == 4) {
         if (!inPlace) c.contenders.push_back(contender<T>("kissfft", maker<kissfft::Plan, T, kKind == kReals>(), inPlace));

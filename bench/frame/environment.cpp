@@ -90,7 +90,9 @@ Context environment() {
       {"Library", "variant " + variant() + " of version " + qvxsGetLibVersion()->verText},
       {"Compiler", "GCC " __VERSION__ ", the library with " + libraryFlags()},
       {"Plain loops", QVXS_BENCH_FLAGS ", reductions and filters with -ffast-math, \"-Ofast\" with that"},
-      {"FFTW", std::string(fftwf_version) + ", planned with FFTW_MEASURE"},
+      {"FFTW",
+       std::string(fftwf_version) +
+           ", planned with FFTW_MEASURE; *built*: from the source package, for this processor; *patient*: with FFTW_PATIENT"},
       {"VOLK", std::string(volk_version()) + ", machine " + volk_get_machine()},
       {"SLEEF", packageVersion("sleef") + ", functions of 1.0 ULP in the registers of the variant"},
       {"liquid-dsp", liquid_libversion()},

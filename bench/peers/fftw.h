@@ -1,9 +1,12 @@
 // FFTW's plans under one interface, planned by measurement; for a length and a place once in a process.
 #pragma once
 
+#include <dlfcn.h>
 #include <fftw3.h>
 
+#include <cstdlib>
 #include <memory>
+#include <string>
 
 namespace fftw {
 
@@ -27,15 +30,43 @@ template <> struct Api<double> {
 };
 // clang-format on
 
+// The same of libraries that were built for this very processor, where QVXS_BUILT_FFTW tells their folder. Their names are those
+// of the packaged ones, so they are opened by themselves; what is not there is null.
+inline void* built(const char* library, const char* name) {
+  const char* folder = std::getenv("QVXS_BUILT_FFTW");
+  if (folder == nullptr) return nullptr;
+  void* handle = dlopen((std::string(folder) + "/" + library).c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_DEEPBIND);
+  return handle == nullptr ? nullptr : dlsym(handle, name);
+}
+template <class F> F* built(F*, const char* library, const char* name) { return reinterpret_cast<F*>(built(library, name)); }
+template <class T> struct BuiltApi;
+template <> struct BuiltApi<float> {
+  using Complex = fftwf_complex;
+  static inline const auto planComplex = built(fftwf_plan_dft_1d, "libfftw3f.so.3", "fftwf_plan_dft_1d");
+  static inline const auto planReal = built(fftwf_plan_dft_r2c_1d, "libfftw3f.so.3", "fftwf_plan_dft_r2c_1d");
+  static inline const auto planCosines = built(fftwf_plan_r2r_1d, "libfftw3f.so.3", "fftwf_plan_r2r_1d");
+  static inline const auto execute = built(fftwf_execute, "libfftw3f.so.3", "fftwf_execute");
+  static inline const auto destroy = built(fftwf_destroy_plan, "libfftw3f.so.3", "fftwf_destroy_plan");
+};
+template <> struct BuiltApi<double> {
+  using Complex = fftw_complex;
+  static inline const auto planComplex = built(fftw_plan_dft_1d, "libfftw3.so.3", "fftw_plan_dft_1d");
+  static inline const auto planReal = built(fftw_plan_dft_r2c_1d, "libfftw3.so.3", "fftw_plan_dft_r2c_1d");
+  static inline const auto planCosines = built(fftw_plan_r2r_1d, "libfftw3.so.3", "fftw_plan_r2r_1d");
+  static inline const auto execute = built(fftw_execute, "libfftw3.so.3", "fftw_execute");
+  static inline const auto destroy = built(fftw_destroy_plan, "libfftw3.so.3", "fftw_destroy_plan");
+};
+// Asked of when suites are made, after all static objects.
+template <class T> bool isBuilt() { return BuiltApi<T>::execute != nullptr; }
+
 // A forward transform. Planning writes both vectors.
-template <class T, bool kReal> class Plan {
+template <class T, bool kReal, class F = Api<T>, unsigned kEffort = FFTW_MEASURE> class Plan {
  public:
-  using F = Api<T>;
   Plan(int n, const T* src, T* dst) {
     T* in = const_cast<T*>(src);
     auto* out = reinterpret_cast<typename F::Complex*>(dst);
-    if constexpr (kReal) plan_ = F::planReal(n, in, out, FFTW_MEASURE | FFTW_PRESERVE_INPUT * (src != dst));
-    else plan_ = F::planComplex(n, reinterpret_cast<typename F::Complex*>(in), out, FFTW_FORWARD, FFTW_MEASURE);
+    if constexpr (kReal) plan_ = F::planReal(n, in, out, kEffort | FFTW_PRESERVE_INPUT * (src != dst));
+    else plan_ = F::planComplex(n, reinterpret_cast<typename F::Complex*>(in), out, FFTW_FORWARD, kEffort);
   }
   ~Plan() { F::destroy(plan_); }
   Plan(const Plan&) = delete;
@@ -46,10 +77,15 @@ template <class T, bool kReal> class Plan {
   decltype(F::planComplex(0, nullptr, nullptr, 0, 0)) plan_;
 };
 
+template <class T, bool kReal> using MeasuredPlan = Plan<T, kReal>;
+template <class T, bool kReal> using BuiltPlan = Plan<T, kReal, BuiltApi<T>>;
+// Planning 2^17 points so would take a minute and more.
+template <class T, bool kReal> using PatientPlan = Plan<T, kReal, BuiltApi<T>, FFTW_PATIENT>;
+inline constexpr int kMostPatient = 1 << 16;
+
 // A cosine transform of type II, or of type III where it is inverse.
-template <class T, bool kInverse> class Cosines {
+template <class T, bool kInverse, class F = Api<T>> class Cosines {
  public:
-  using F = Api<T>;
   Cosines(int n, const T* src, T* dst)
       : plan_(F::planCosines(n, const_cast<T*>(src), dst, kInverse ? FFTW_REDFT01 : FFTW_REDFT10,
                              FFTW_MEASURE | FFTW_PRESERVE_INPUT * (src != dst))) {}

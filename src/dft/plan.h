@@ -14,7 +14,7 @@ enum class Way : uint8_t {
   kFactors,      // passes by factors
   kFft,          // a power of two
   kDirect,       // the definition: few points
-  kConvolution,  // a chirp
+  kConvolution,  // a chirp, or another order of the points
 };
 
 template <class T> struct FftOf;
@@ -29,13 +29,16 @@ template <> struct FftOf<double> {
   using SplitSpec = QvxsFFTSpec_C_64f;
 };
 
-// A chirp turns the transform into a circular convolution of a length with good factors.
+// A chirp turns the transform into a circular convolution of a length with good factors; another order of a prime number of
+// points does so by itself.
 template <class T> struct ConvolutionPlan {
   uint32_t length;
+  bool isPermuted;
   typename FftOf<T>::SplitSpec* fft;  // null where `mixed` serves
   MixedPlan<T> mixed;
-  const T* chirp;     // n real parts, n imaginary ones
-  const T* spectrum;  // of its conjugate, divided by the length
+  const T* chirp;          // n real parts, n imaginary ones
+  const uint32_t* powers;  // the other order
+  const T* spectrum;       // of what the points are convolved with, divided by the length
 };
 
 template <class T> struct ComplexPlan {

@@ -125,6 +125,10 @@ template <class V> QVX_INLINE void transposeInBlocks(V& a, V& b, V& c, V& e) {
   e = as<float>(hn::InterleaveUpper(pairs, highA, highC));
 }
 
+template <class V> QVX_INLINE void transposeInBlocks(V (&)[1]) {}
+template <class V> QVX_INLINE void transposeInBlocks(V (&r)[2]) { transposeInBlocks(r[0], r[1]); }
+template <class V> QVX_INLINE void transposeInBlocks(V (&r)[4]) { transposeInBlocks(r[0], r[1], r[2], r[3]); }
+
 template <class V> QVX_INLINE void transposeBlocks(V (&)[1]) {}
 template <class V> QVX_INLINE void transposeBlocks(V (&r)[2]) {
   const V odd = oddBlocks(r[0], r[1]);

@@ -120,19 +120,36 @@ template <class V, size_t R> QVX_INLINE void eachPart(Complex<V> (&x)[R], auto s
 template <size_t L, class T, class Src, class Dst, class Scale>
 QVX_INLINE void transformInSquare(Src src, Dst dst, const T* rowTwiddles, Scale scale) {
   using V = Vec<Lanes<T, L>>;
-  const auto element = [](size_t lane) { return Src::template element<L>(lane); };
+  constexpr auto element = &Src::template element<L>;
+  constexpr size_t kBlock = std::min(L, 16 / sizeof(T));
   Complex<V> x[L];
   unrolled<L>([&](auto m) __attribute__((always_inline)) { x[m] = src.template get<L>(m * L); });
   dft(x);
-  unrolled<L - 1>([&](auto m)
-                      __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowTwiddles + m * 2 * L)); });
-  const auto inOrder = [&](auto& r) __attribute__((always_inline)) {
-    V rows[L];
-    unrolled<L>([&](auto i) __attribute__((always_inline)) { rows[i] = r[element(i)]; });
-    transpose(rows);
-    unrolled<L>([&](auto i) __attribute__((always_inline)) { r[element(i)] = rows[i]; });
-  };
-  eachPart(x, inOrder);
+  // The steps of the transposition find sums and products beside them, as in the row pass.
+  unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) {
+    V re[kBlock];
+    V im[kBlock];
+    unrolled<kBlock>([&](auto i) __attribute__((always_inline)) {
+      constexpr size_t k = element(q * kBlock + i);
+      if constexpr (k > 0) x[k] = product(x[k], group<L>(rowTwiddles + (k - 1) * 2 * L));
+      re[i] = x[k].re;
+      im[i] = x[k].im;
+    });
+    transposeInBlocks(re);
+    transposeInBlocks(im);
+    unrolled<kBlock>([&](auto i) __attribute__((always_inline)) { x[element(q * kBlock + i)] = {re[i], im[i]}; });
+  });
+  unrolled<kBlock>([&](auto i) __attribute__((always_inline)) {
+    V re[L / kBlock];
+    V im[L / kBlock];
+    unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) {
+      re[q] = x[element(q * kBlock + i)].re;
+      im[q] = x[element(q * kBlock + i)].im;
+    });
+    transposeBlocks(re);
+    transposeBlocks(im);
+    unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) { x[element(q * kBlock + i)] = {re[q], im[q]}; });
+  });
   dft(x);
   unrolled<L>([&](auto k) __attribute__((always_inline)) { dst.template put<L>(scale(x[k]), k * L); });
 }

@@ -129,30 +129,80 @@ template <size_t L, class T, class V> QVX_INLINE void putGroup(Complex<V> z, T* 
   store(z.im, TagOf<V>(), y + L);
 }
 
+// Rows of the work array from vectors of results, whose lanes are points. The last step of their transposition is left to stores
+// of half a vector each: a processor with one port for permutations of 64 bytes, which also carries half of its multiplications,
+// has stores to spare, and one with two extracts the upper half in the time of the permutation.
+template <class V> QVX_INLINE void storeHalves(V v, LaneOf<V>* low, LaneOf<V>* high) {
+  const hn::Half<TagOf<V>> half;
+  store(hn::LowerHalf(half, v), half, low);
+  store(hn::UpperHalf(half, v), half, high);
+}
+
 // twiddles: for each L rows and each k = 1..R-1 a group of exp(-2 pi i j k / N), its lanes in the order of the source's elements.
+// Results are multiplied by them, transposed and stored a few at a time, so that permutations find multiplications beside them:
+// all after one another take 1.4 times as long.
 template <size_t L, class T, class Src>
 [[gnu::noinline]] void rowPass(Src src, T* y, size_t rows, const T* twiddles, size_t from, size_t to) {
   constexpr size_t R = kRowRadix<L>;
+  constexpr size_t kBlock = std::min(L, 16 / sizeof(T));
+  constexpr size_t kBlocks = L / kBlock;
+  constexpr auto element = &Src::template element<L>;
   using V = Vec<Lanes<T, L>>;
   twiddles += from * (R - 1) * 2;
   for (size_t j = from; j < to; j += L, twiddles += (R - 1) * 2 * L) {
     Complex<V> x[R];
     unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = src.template get<L>(j + m * rows); });
     dft(x);
-    unrolled<R - 1>([&](auto m) __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(twiddles + m * 2 * L)); });
-    unrolled<R / L>([&](auto w) __attribute__((always_inline)) {
-      constexpr auto element = &Src::template element<L>;
-      const auto out = [&](auto part, T* to) __attribute__((always_inline)) {
-        V r[L];
-        unrolled<L>([&](auto i) __attribute__((always_inline)) { r[i] = x[w * L + element(i)].*part; });
-        transpose(r);
-        unrolled<L>([&](auto i) __attribute__((always_inline)) {
-          store(r[i], TagOf<V>(), to + ((j + element(i)) * (R / L) + w) * 2 * L);
+    // Of results in the places first..first + kBlock - 1 of a row: vector w holds them for the points in lanes w of the blocks.
+    const auto turned = [&](auto first, V(&re)[kBlock], V(&im)[kBlock]) __attribute__((always_inline)) {
+      unrolled<kBlock>([&](auto i) __attribute__((always_inline)) {
+        constexpr size_t k = (first + i) / L * L + element((first + i) % L);
+        Complex<V> z = x[k];
+        if constexpr (k > 0) z = product(z, group<L>(twiddles + (k - 1) * 2 * L));
+        re[i] = z.re;
+        im[i] = z.im;
+      });
+      transposeInBlocks(re);
+      transposeInBlocks(im);
+    };
+    const auto placeOf = [&](size_t block, size_t w, size_t first) __attribute__((always_inline)) {
+      return y + ((j + element(block * kBlock + w)) * (R / L) + first / L) * 2 * L + first % L;
+    };
+    if constexpr (kBlocks == 4) {
+      unrolled<R / kBlock / 2>([&](auto pair) __attribute__((always_inline)) {
+        constexpr std::integral_constant<size_t, 2 * pair * kBlock> first;
+        V re[2][kBlock];
+        V im[2][kBlock];
+        turned(first, re[0], im[0]);
+        turned(std::integral_constant<size_t, first + kBlock>(), re[1], im[1]);
+        unrolled<kBlock>([&](auto w) __attribute__((always_inline)) {
+          const auto out = [&](V a, V b, size_t part) __attribute__((always_inline)) {
+            storeHalves(hn::OddEvenBlocks(hn::SwapAdjacentBlocks(b), a), placeOf(0, w, first) + part,
+                        placeOf(2, w, first) + part);
+            storeHalves(hn::OddEvenBlocks(b, hn::SwapAdjacentBlocks(a)), placeOf(1, w, first) + part,
+                        placeOf(3, w, first) + part);
+          };
+          out(re[0][w], re[1][w], 0);
+          out(im[0][w], im[1][w], L);
         });
-      };
-      out(&Complex<V>::re, y);
-      out(&Complex<V>::im, y + L);
-    });
+      });
+    } else {
+      unrolled<R / kBlock>([&](auto q) __attribute__((always_inline)) {
+        constexpr std::integral_constant<size_t, q * kBlock> first;
+        V re[kBlock];
+        V im[kBlock];
+        turned(first, re, im);
+        unrolled<kBlock>([&](auto w) __attribute__((always_inline)) {
+          if constexpr (kBlocks == 2) {
+            storeHalves(re[w], placeOf(0, w, first), placeOf(1, w, first));
+            storeHalves(im[w], placeOf(0, w, first) + L, placeOf(1, w, first) + L);
+          } else {
+            store(re[w], TagOf<V>(), placeOf(0, w, first));
+            store(im[w], TagOf<V>(), placeOf(0, w, first) + L);
+          }
+        });
+      });
+    }
   }
 }
 

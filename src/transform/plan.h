@@ -36,7 +36,7 @@ struct Levels {
 // and 16 points need 32 registers.
 constexpr Levels levelsFor(size_t rows) {
   // log2 of each
-  constexpr const char* kWide[] = {"", "1", "2", "3", "4", "23", "33", "34", "233", "333", "343", "3422", "22422", "33322"};
+  constexpr const char* kWide[] = {"", "1", "2", "3", "4", "23", "33", "34", "233", "333", "343", "3422", "3333", "3433"};
   constexpr const char* kNarrow[] = {"",    "1",   "2",    "3",    "22",    "23",    "33",    "223",
                                      "233", "333", "2233", "3233", "32322", "32323", "33332", "333222"};
   Levels levels;

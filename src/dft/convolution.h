@@ -1,0 +1,358 @@
+// Transforms of lengths with a large prime factor, by way of a circular convolution: with a chirp, or in another order of the
+// points.
+#pragma once
+
+#include "dft/plan.h"
+#include "dft/sizes.h"
+#include "fft/record.h"
+
+namespace qvx::dft {
+
+// ---- The library's own transforms of powers of two, in memory that is brought
+
+template <class T> struct Fft;
+template <> struct Fft<float> {
+  static constexpr auto kGetSize = qvxsFFTGetSize_C_32fc;
+  static constexpr auto kInit = qvxsFFTInit_C_32fc;
+  static constexpr auto kForward = qvxsFFTFwd_CToC_32fc;
+  static constexpr auto kInverse = qvxsFFTInv_CToC_32fc;
+  static constexpr auto kInitApart = qvxsFFTInit_C_32f;
+  static constexpr auto kForwardApart = qvxsFFTFwd_CToC_32f;
+  static constexpr auto kInverseApart = qvxsFFTInv_CToC_32f;
+};
+template <> struct Fft<double> {
+  static constexpr auto kGetSize = qvxsFFTGetSize_C_64fc;
+  static constexpr auto kInit = qvxsFFTInit_C_64fc;
+  static constexpr auto kForward = qvxsFFTFwd_CToC_64fc;
+  static constexpr auto kInverse = qvxsFFTInv_CToC_64fc;
+  static constexpr auto kInitApart = qvxsFFTInit_C_64f;
+  static constexpr auto kForwardApart = qvxsFFTFwd_CToC_64f;
+  static constexpr auto kInverseApart = qvxsFFTInv_CToC_64f;
+};
+
+template <class T> Bytes bytesOfFft(uint32_t n) {
+  int spec = 0;
+  int init = 0;
+  int work = 0;
+  Fft<T>::kGetSize(std::countr_zero(n), QVX_FFT_SCALE_NONE, 0, &spec, &init, &work);
+  return {spec, work};
+}
+// No transform of the library's uses the memory that its making is brought; it tests that there is some.
+template <class T, class Spec>
+void makeFft(Spec*& spec, QvxStatus (*init)(Spec**, int, int, int, Qvx8u*, Qvx8u*), uint32_t n, int flag, uint8_t* block) {
+  init(&spec, std::countr_zero(n), flag, 0, block, block);
+}
+
+// ---- Convolution
+
+template <class T> constexpr int64_t bytesOfPoints(int64_t n) { return n * 2 * static_cast<int64_t>(sizeof(T)); }
+
+// The length of least cost from 2n - 1 on: a power of two, or, since its transform takes 0.7 of the time of other lengths for a
+// point, one that is much shorter. `told` bytes have room for it: twice the points of a transform by factors.
+template <class T> uint32_t lengthOfConvolution(uint32_t n, int64_t told) {
+  const uint32_t least = 2 * n - 1;
+  uint32_t best = std::bit_ceil(least);
+  if (bytesOfPoints<T>(best) + bytesOfFft<T>(best).work + Carver::kLine - fft::kWorkSlack > told) best = 2 * best;
+  double cost = 0.7 * best;
+  for (const uint32_t odd : {3, 5, 7, 9, 15, 21, 25, 27, 45, 63, 75, 81, 125, 135, 225}) {
+    uint32_t length = odd * 16;
+    while (length < least) length *= 2;
+    if (length >= cost || 2 * bytesOfPoints<T>(length) + Carver::kLine > told) continue;
+    best = length;
+    cost = length;
+  }
+  return best;
+}
+
+// The points of a prime number but the first, in the order of the powers of a generator g, go through a circular convolution that
+// is one point shorter than they are: half of what a chirp takes. Where that length is a power of two, or thrice one, it takes
+// 0.3 to 0.8 of the time (65537 doubles 1.0 ms instead of 3.5); with other factors 0.6 to 1.6, and half of the lengths lose.
+inline bool isPermuted(uint32_t n) {
+  const uint32_t length = n - 1;
+  return (std::has_single_bit(length) || (length % 3 == 0 && std::has_single_bit(length / 3))) && isPrime(n);
+}
+// For one point more, and a vector that ends past it.
+template <class T> int64_t roomOfPermuted(uint32_t length) {
+  return up<16>(int64_t{length} + 1 + static_cast<int64_t>(kWidest<T>));
+}
+
+template <class T> Bytes choosePermuted(ConvolutionPlan<T>& plan, uint32_t n) {
+  const uint32_t length = n - 1;
+  plan.length = length;
+  const int64_t room = 2 * roomOfPermuted<T>(length) * static_cast<int64_t>(sizeof(T));
+  Bytes bytes = {bytesOfPoints<T>(length) + int64_t{length} * 4 + 3 * Carver::kLine, room + Carver::kLine};
+  if (std::has_single_bit(length)) {
+    const Bytes fft = bytesOfFft<T>(length);
+    return {bytes.tables + fft.tables, bytes.work + std::max(room, fft.work)};
+  }
+  MixedPlanner<T>().plan(length, plan.mixed);
+  return {bytes.tables + static_cast<int64_t>(tableLength(plan.mixed) * sizeof(T)), bytes.work + room};
+}
+
+template <class T> Bytes choose(ConvolutionPlan<T>& plan, uint32_t n) {
+  plan.isPermuted = isPermuted(n);
+  if (plan.isPermuted) {
+    const Bytes bytes = choosePermuted(plan, n);
+    if (bytes.work <= *complexWork<T>(n)) return bytes;
+    plan.isPermuted = false;
+  }
+  const uint32_t length = lengthOfConvolution<T>(n, *complexWork<T>(n));
+  plan.length = length;
+  const int64_t spare = kVectorBytes * 3;  // past the chirp, for whole vectors
+  Bytes bytes = {bytesOfPoints<T>(int64_t{n} + length) + spare + 3 * Carver::kLine, bytesOfPoints<T>(length) + Carver::kLine};
+  if (std::has_single_bit(length)) {
+    const Bytes fft = bytesOfFft<T>(length);
+    return {bytes.tables + fft.tables, bytes.work + fft.work - fft::kWorkSlack};
+  }
+  MixedPlanner<T>().plan(length, plan.mixed);
+  return {bytes.tables + static_cast<int64_t>(tableLength(plan.mixed) * sizeof(T)), bytes.work + bytesOfPoints<T>(length)};
+}
+
+// The points of a convolution, and room for a transform: y is in its place, and where it leaves its results becomes y.
+template <class T> struct ConvolutionWork {
+  Planes<T> y;
+  Planes<T> other;
+  uint8_t* rest;
+
+  ConvolutionWork(const ConvolutionPlan<T>& plan, uint8_t* work) {
+    const auto room = plan.isPermuted ? roomOfPermuted<T>(plan.length) : static_cast<int64_t>(plan.length);
+    Carver carver(work, Carver::kLine);
+    T* const re = carver.take<T>(room);
+    y = planes(re, carver.take<T>(room));
+    rest = carver.rest();
+    auto* const next = reinterpret_cast<T*>(rest);
+    other = planes(next, next + room);
+  }
+  void transform(const ConvolutionPlan<T>& plan) {
+    if (!isNull(plan.fft)) {
+      Fft<T>::kForwardApart(y.re, y.im, y.re, y.im, plan.fft, rest);
+    } else if (plan.mixed.count % 2 == 0) {
+      runMixed(plan.mixed, asConst(y), y, other, y, T(1));
+    } else {
+      runMixed(plan.mixed, asConst(y), other, y, other, T(1));
+      std::swap(y, other);
+    }
+  }
+  // by the spectrum
+  void multiply(const ConvolutionPlan<T>& plan) {
+    constexpr size_t L = kWidest<T>;
+    const size_t length = plan.length;
+    const Planes<const T> spectrum = planes(plan.spectrum, plan.spectrum + length);
+    size_t k = 0;
+    for (; k + L <= length; k += L) y.template put<L>(product(y.template get<L>(k), spectrum.template get<L>(k)), k);
+    if (k == length) return;
+    y.template putFirst<L>(product(y.template getFirst<L>(k, length - k), spectrum.template getFirst<L>(k, length - k)), k,
+                           length - k);
+  }
+  void exchangeParts() {
+    std::swap(y.re, y.im);
+    std::swap(other.re, other.im);
+  }
+};
+
+// ---- Of a prime number of points, in the order of the powers of a generator g:
+//
+//   X[0] = sum of all x     X[g^-q] = x[0] + sum over m of x[g^m] w^(g^(m - q)), w = exp(-2 pi i / n)
+
+inline uint32_t generatorOf(uint32_t n) {
+  const auto power = [n](uint64_t base, uint32_t exponent) {
+    uint64_t result = 1;
+    for (; exponent > 0; exponent /= 2, base = base * base % n) {
+      if (exponent % 2 != 0) result = result * base % n;
+    }
+    return result;
+  };
+  uint32_t g = 2;
+  const auto generates = [&] {
+    for (const uint32_t p : {2, 3}) {
+      if ((n - 1) % p == 0 && power(g, (n - 1) / p) == 1) return false;
+    }
+    return true;
+  };
+  while (!generates()) ++g;
+  return g;
+}
+
+template <class T> void writePermuted(ConvolutionPlan<T>& plan, uint32_t n, uint8_t* block, uint8_t* work) {
+  const size_t length = plan.length;
+  Carver carver(block, Carver::kLine);
+  T* const spectrum = carver.takeLines<T>(2 * static_cast<int64_t>(length));
+  auto* const powers = carver.takeLines<uint32_t>(static_cast<int64_t>(length));
+  if (std::has_single_bit(plan.length)) makeFft<T>(plan.fft, Fft<T>::kInitApart, plan.length, QVX_FFT_SCALE_NONE, carver.rest());
+  else writeMixed<Planes<T>>(plan.mixed, reinterpret_cast<T*>(carver.rest()));
+  const uint64_t g = generatorOf(n);
+  uint64_t power = 1;
+  for (size_t m = 0; m < length; ++m, power = power * g % n) powers[m] = static_cast<uint32_t>(power);
+  plan.powers = powers;
+  plan.spectrum = spectrum;
+  ConvolutionWork<T> points(plan, work);
+  const double factor = 1 / static_cast<double>(length);
+  writeTwiddles(
+      n, length, [=](size_t m) { return powers[m == 0 ? 0 : length - m]; },
+      [&](size_t m, double re, double im) {
+        points.y.re[m] = static_cast<T>(factor * re);
+        points.y.im[m] = static_cast<T>(factor * im);
+      });
+  points.transform(plan);
+  // The real part of w^(g^-m) has half the period, its imaginary part is odd by it: so each term has a mirror image, and the mean
+  // of both half the variance. All are of one magnitude but the first, which is -1.
+  const double magnitude = std::sqrt(static_cast<double>(n)) * factor;
+  spectrum[0] = static_cast<T>(-factor);
+  spectrum[length] = 0;
+  for (size_t k = 1; k < length; ++k) {
+    const T sign = k % 2 == 0 ? T(1) : T(-1);
+    const double re = points.y.re[k] + sign * points.y.re[length - k];
+    const double im = points.y.im[k] - sign * points.y.im[length - k];
+    const double scale = magnitude / std::sqrt(re * re + im * im);
+    spectrum[k] = static_cast<T>(scale * re);
+    spectrum[length + k] = static_cast<T>(scale * im);
+  }
+}
+
+template <class T, class Get, class Put>
+void convolvePermuted(const ConvolutionPlan<T>& plan, size_t n, size_t results, Get get, Put put, uint8_t* work) {
+  constexpr size_t L = kWidest<T>;
+  const size_t length = plan.length;
+  ConvolutionWork<T> points(plan, work);
+  const Planes<T> x = points.other;
+  for (size_t k = 0; k < n; k += L) x.template put<L>(get(k, std::min(L, n - k)), k);
+  for (size_t m = 0; m < length; ++m) {
+    points.y.re[m] = x.re[plan.powers[m]];
+    points.y.im[m] = x.im[plan.powers[m]];
+  }
+  const T firstRe = x.re[0];
+  const T firstIm = x.im[0];
+  points.transform(plan);
+  const T sumRe = firstRe + points.y.re[0];
+  const T sumIm = firstIm + points.y.im[0];
+  points.multiply(plan);
+  points.y.re[0] += firstRe;  // and so each result is greater by it
+  points.y.im[0] += firstIm;
+  points.exchangeParts();
+  points.transform(plan);
+  points.exchangeParts();
+  const Planes<T> all = points.other;
+  all.re[0] = sumRe;
+  all.im[0] = sumIm;
+  for (size_t m = 0; m < length; ++m) {
+    const size_t q = m == 0 ? 0 : length - m;
+    all.re[plan.powers[m]] = points.y.re[q];
+    all.im[plan.powers[m]] = points.y.im[q];
+  }
+  for (size_t k = 0; k < results; k += L) put(all.template get<L>(k), k, std::min(L, results - k));
+}
+
+// ---- With a chirp
+
+template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_t* block, uint8_t* work) {
+  if (plan.isPermuted) return writePermuted(plan, n, block, work);
+  const size_t length = plan.length;
+  Carver carver(block, Carver::kLine);
+  T* const chirp = carver.take<T>(2 * int64_t{n} + 2 * static_cast<int64_t>(kWidest<T>));
+  T* const spectrum = carver.takeLines<T>(2 * static_cast<int64_t>(length));
+  if (std::has_single_bit(plan.length)) makeFft<T>(plan.fft, Fft<T>::kInitApart, plan.length, QVX_FFT_SCALE_NONE, carver.rest());
+  else writeMixed<Planes<T>>(plan.mixed, reinterpret_cast<T*>(carver.rest()));
+  // exp(-pi i k^2 / n): k^2 mod 2n never exceeds 2^55.
+  writeTwiddles(
+      2 * size_t{n}, n, [n](size_t k) { return k * k % (2 * size_t{n}); },
+      [=](size_t k, double re, double im) {
+        chirp[k] = static_cast<T>(re);
+        chirp[n + k] = static_cast<T>(im);
+      });
+  std::fill_n(chirp + 2 * size_t{n}, 2 * kWidest<T>, T(0));  // whole vectors read it, and raise nothing
+  plan.chirp = chirp;
+  plan.spectrum = spectrum;
+  ConvolutionWork<T> points(plan, work);
+  const T factor = 1 / static_cast<T>(length);
+  std::fill_n(points.y.re, length, T(0));
+  std::fill_n(points.y.im, length, T(0));
+  for (size_t k = 0; k < n; ++k) {
+    for (const size_t at : {k, (length - k) % length}) {
+      points.y.re[at] = chirp[k] * factor;
+      points.y.im[at] = -chirp[n + k] * factor;
+    }
+  }
+  points.transform(plan);
+  // The spectrum is symmetric as the chirp is: the mean of both halves has an error that is a third less.
+  for (size_t k = 0; k < length; ++k) {
+    const size_t mirrored = (length - k) % length;
+    spectrum[k] = T(0.5) * (points.y.re[k] + points.y.re[mirrored]);
+    spectrum[length + k] = T(0.5) * (points.y.im[k] + points.y.im[mirrored]);
+  }
+}
+
+// get(k, count), put(z, k, count): points k on, in vectors.
+template <class T, class Get, class Put>
+void convolve(const ConvolutionPlan<T>& plan, size_t n, size_t results, Get get, Put put, uint8_t* work) {
+  constexpr size_t L = kWidest<T>;
+  using V = Vec<Lanes<T, L>>;
+  const Lanes<T, L> d;
+  if (plan.isPermuted) return convolvePermuted(plan, n, results, get, put, work);
+  const size_t length = plan.length;
+  ConvolutionWork<T> points(plan, work);
+  const Planes<const T> chirp = planes(plan.chirp, plan.chirp + n);
+  for (size_t k = 0; k < n; k += L) {
+    const Complex<V> z = product(get(k, std::min(L, n - k)), chirp.template get<L>(k));
+    points.y.template put<L>(z, k);
+  }
+  std::fill(points.y.re + n, points.y.re + length, T(0));
+  std::fill(points.y.im + n, points.y.im + length, T(0));
+  points.transform(plan);
+  points.multiply(plan);
+  points.exchangeParts();
+  points.transform(plan);
+  points.exchangeParts();
+  for (size_t j = 0; j < results; j += L) {
+    put(product(points.y.template get<L>(j), chirp.template get<L>(j)), j, std::min(L, results - j));
+  }
+  (void)d;
+}
+
+template <class T>
+void convolve(const ConvolutionPlan<T>& plan, size_t n, bool isInverse, const T* src, T* dst, T factor, uint8_t* work) {
+  constexpr size_t L = kWidest<T>;
+  using V = Vec<Lanes<T, L>>;
+  const T sign = isInverse ? T(-0.0) : T(0);
+  convolve(
+      plan, n, n,
+      [=](size_t k, size_t count) __attribute__((always_inline)) {
+        return Conjugable<const T>{src, sign}.template getInOrder<L>(k, count);
+      },
+      [=](Complex<V> z, size_t k, size_t count) __attribute__((always_inline)) {
+        const Conjugable<T> to = {dst, sign};
+        z = ScaledBy<T>{factor}(z);
+        if (count == L) to.template putInOrder<L>(z, k);
+        else to.template putFirst<L>(z, k, count);
+      },
+      work);
+}
+template <class T>
+void convolve(const ConvolutionPlan<T>& plan, size_t n, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, T factor,
+              uint8_t* work) {
+  constexpr size_t L = kWidest<T>;
+  using V = Vec<Lanes<T, L>>;
+  convolve(
+      plan, n, n,
+      [=](size_t k, size_t count) __attribute__((always_inline)) { return planes(srcRe, srcIm).template getFirst<L>(k, count); },
+      [=](Complex<V> z, size_t k, size_t count)
+          __attribute__((always_inline)) { planes(dstRe, dstIm).template putFirst<L>(ScaledBy<T>{factor}(z), k, count); },
+      work);
+}
+
+// Of real numbers, forward: the half of the spectrum that is not conjugate to the other, as pairs.
+template <class T> void convolveReals(const ConvolutionPlan<T>& plan, size_t n, const T* src, T* dst, T factor, uint8_t* work) {
+  constexpr size_t L = kWidest<T>;
+  using V = Vec<Lanes<T, L>>;
+  const Lanes<T, L> d;
+  convolve(
+      plan, n, n / 2 + 1,
+      [=](size_t k, size_t count) __attribute__((always_inline)) {
+        return Complex<V>{firstLanes(d, src + k, count), hn::Zero(d)};
+      },
+      [=](Complex<V> z, size_t k, size_t count) __attribute__((always_inline)) {
+        Conjugable<T>{dst, 0}.template putFirst<L>(ScaledBy<T>{factor}(z), k, count);
+      },
+      work);
+}
+
+}  // namespace qvx::dft
