@@ -22,6 +22,7 @@ template <class C> QvxStatus correlateBand(const Band<C>& band, C* y, Way way) {
     if (!isFasterDirectly(band, cut)) return spectralBand(band, cut, y);
   }
   directBand(band, y);
+  mendEnds(band, y);
   return qvxStatOk;
 }
 

@@ -33,8 +33,9 @@ template <class C> QvxStatus checkedConvolve(const C* a, int aLen, const C* b, i
 #if QVXS_AVX512
   constexpr int kMost = kVectorElements<C>;
   if (status == qvxStatOk && aLen <= kMost && bLen <= kMost) {
-    if (aLen >= bLen) convolveInRegisters(a, elements(aLen), b, elements(bLen), y);
-    else convolveInRegisters(b, elements(bLen), a, elements(aLen), y);
+    const Band<C> band = bandOf(a, elements(aLen), b, elements(bLen), 0, elements(aLen + bLen - 1));
+    if (convolveInRegisters(band.x, band.length, band.taps, band.count, y)) [[unlikely]]
+      mendEnds(band, y);
     return qvxStatOk;
   }
 #endif

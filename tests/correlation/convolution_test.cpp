@@ -49,6 +49,30 @@ TYPED_TEST(Convolution, OfWholeNumbersIsExactWhereItIsShort) {
   }
 }
 
+// What lies outside the other operand is no factor: not of an infinite element either.
+TYPED_TEST(Convolution, OfAnInfiniteElementIsFiniteElsewhere) {
+  using T = typename TypeParam::T;
+  Random random(9);
+  for (const auto& [aLen, bLen] : {std::pair<size_t, size_t>{1, 3}, {3, 3}, {8, 8}, {17, 20}, {70, 100}, {5, 3000}}) {
+    const auto whole = wholeNumbers<T>(aLen, 64, random), b = wholeNumbers<T>(bLen, 64, random);
+    for (const size_t at : {size_t{0}, aLen / 2, aLen - 1}) {
+      const Spoiled<T> a(whole, at);
+      std::vector<T> y(aLen + bLen - 1), z(y.size());
+      const int n1 = static_cast<int>(aLen), n2 = static_cast<int>(bLen);
+      TypeParam::kFunction(a.data.data(), n1, b.data(), n2, y.data());
+      TypeParam::kFunction(b.data(), n2, a.data.data(), n1, z.data());
+      for (size_t n = 0; n < y.size(); ++n) {
+        const auto place = static_cast<int64_t>(n);
+        const bool isTouched = reference::convolution(a.marks, ones<T>(bLen), place) != 0;
+        ASSERT_EQ(isFinite(y[n]), !isTouched) << aLen << 'x' << bLen << ", " << at << ", " << n;
+        ASSERT_EQ(isFinite(z[n]), !isTouched) << bLen << 'x' << aLen << ", " << at << ", " << n;
+        if (isTouched) continue;
+        ASSERT_EQ(reference::wide(y[n]), reference::convolution(whole, b, place));
+      }
+    }
+  }
+}
+
 // The lengths where the way changes; one transform, several blocks, the last of them almost empty or full.
 TYPED_TEST(Convolution, StaysWithinTheErrorOfATransform) {
   using T = typename TypeParam::T;

@@ -81,6 +81,30 @@ TYPED_TEST(Correlation, OfWholeNumbersIsExactWhereItIsShort) {
   check(5, 5, 9, std::numeric_limits<int>::min());
 }
 
+TYPED_TEST(Correlation, OfAnInfiniteElementIsFiniteElsewhere) {
+  using T = typename TypeParam::T;
+  Random random(7);
+  for (const auto& [aLen, bLen] : {std::pair<size_t, size_t>{3, 3}, {8, 9}, {9, 8}, {40, 60}, {60, 40}, {30, 3000}, {5000, 4}}) {
+    const auto whole = wholeNumbers<T>(aLen, 30, random), b = wholeNumbers<T>(bLen, 30, random);
+    const int n1 = static_cast<int>(aLen), n2 = static_cast<int>(bLen);
+    for (const size_t at : {size_t{0}, aLen / 2, aLen - 1}) {
+      const Spoiled<T> a(whole, at);
+      std::vector<T> y(aLen + bLen + 1), z(y.size());
+      TypeParam::kCross(a.data.data(), n1, b.data(), n2, y.data(), n1 + n2 + 1, -n1);
+      TypeParam::kCross(b.data(), n2, a.data.data(), n1, z.data(), n1 + n2 + 1, -n2);
+      for (int n = 0; n <= n1 + n2; ++n) {
+        const bool isTouched =
+            reference::correlation(a.marks, ones<T>(bLen), int64_t{n} - n1) != decltype(reference::wide(T()))(0);
+        ASSERT_EQ(isFinite(y[static_cast<size_t>(n)]), !isTouched) << aLen << " with " << bLen << ", " << at << ", " << n;
+        ASSERT_EQ(isFinite(z[static_cast<size_t>(n1 + n2 - n)]), !isTouched)
+            << bLen << " with " << aLen << ", " << at << ", " << n;
+        if (isTouched) continue;
+        ASSERT_EQ(reference::wide(y[static_cast<size_t>(n)]), reference::correlation(whole, b, int64_t{n} - n1));
+      }
+    }
+  }
+}
+
 TYPED_TEST(Correlation, StaysWithinTheErrorOfATransform) {
   using T = typename TypeParam::T;
   struct Call {

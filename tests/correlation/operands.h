@@ -50,6 +50,26 @@ template <class T> std::vector<T> unevenNumbers(size_t n, Random& random) {
   return all;
 }
 
+// One element becomes infinite.
+template <class T> struct Spoiled {
+  std::vector<T> data;
+  std::vector<T> marks;  // 1 there, 0 elsewhere
+
+  Spoiled(const std::vector<T>& whole, size_t at) : data(whole), marks(whole.size()) {
+    constexpr Part<T> kInfinity = std::numeric_limits<Part<T>>::infinity();
+    if constexpr (isComplex<T>) data[at].re = kInfinity, marks[at] = {1, 0};
+    else data[at] = kInfinity, marks[at] = 1;
+  }
+};
+template <class T> std::vector<T> ones(size_t n) {
+  if constexpr (isComplex<T>) return std::vector<T>(n, T{1, 0});
+  else return std::vector<T>(n, T{1});
+}
+template <class T> bool isFinite(T v) {
+  const auto z = reference::wide(v);
+  return std::isfinite(std::real(z)) && std::isfinite(std::imag(z));
+}
+
 template <class T> long double normOf(const std::vector<T>& v) {
   long double sum = 0;
   for (const T x : v) sum += std::norm(std::complex<long double>(reference::wide(x)));

@@ -26,7 +26,8 @@ std::set<std::string> names(const std::string& text, const char* pattern) {
 TEST(Contracts, NameTestsThatExist) {
   std::set<std::string> tests;
   for (const auto& file : std::filesystem::recursive_directory_iterator(QVXS_DOCS_DIR "/../tests")) {
-    if (file.path().extension() == ".cpp") tests.merge(names(textOf(file.path()), R"(\nTEST(?:_F|_P)?\((\w+), (\w+)\))"));
+    if (file.path().extension() == ".cpp")
+      tests.merge(names(textOf(file.path()), R"(\n(?:TYPED_)?TEST(?:_F|_P)?\((\w+), (\w+)\))"));
   }
   const std::set<std::string> promised = names(textOf(QVXS_DOCS_DIR "/contracts.md"), R"(`([A-Z]\w+)\.([A-Z]\w+)`)");
   EXPECT_GT(promised.size(), 8U);
