@@ -35,6 +35,9 @@ _COMPLEX_OF = {np.dtype(np.float32): np.dtype(np.complex64), np.dtype(np.float64
 _REAL_OF = {wide: narrow for narrow, wide in _COMPLEX_OF.items()}
 
 
+_ndarray, _empty_like = np.ndarray, np.empty_like
+
+
 class _NotHere(Exception):
     """Asks for a transform that SciPy has and this module has not."""
 
@@ -109,6 +112,13 @@ def _apply(call, record, size, source, target, workers):
 
 def _complex(x, n, axis, norm, forward, overwrite, workers):
     """Complex numbers to complex numbers; the real ones by way of half a spectrum."""
+    if x.__class__ is _ndarray and n is None and x.ndim == 1 and x.dtype in _COMPLEX and x.size and x.flags.carray and workers is None:
+        # The usual call without the questions: 64 points take 4 us, 7 on the way below.
+        tag = _COMPLEX[x.dtype]
+        record, size = _record("DFT", "C_" + tag, check_axis(axis, 1) or x.size, _flag(norm))
+        target = x if overwrite else _empty_like(x)
+        _TO_COMPLEX[forward, tag](x, target, record, scratch(size))
+        return target
     x = _floats(x)
     axis = check_axis(axis, x.ndim)
     n = _length(n, x.shape[axis])
@@ -154,6 +164,12 @@ _EXPAND = {tag: getattr(raw, f"qvxsConjCcs_{tag}c_I") for tag in ("32f", "64f")}
 
 def _half_spectrum(x, n, axis, flag, workers):
     """Real numbers to the first half of their spectrum."""
+    if x.__class__ is _ndarray and n is None and x.ndim == 1 and x.dtype in _REAL and x.size and x.flags.carray and workers is None:
+        tag = _REAL[x.dtype]
+        record, size = _record("DFT", "R_" + tag, check_axis(axis, 1) or x.size, flag)
+        target = np.empty(x.size // 2 + 1, _COMPLEX_OF[x.dtype])
+        _TO_CCS[tag](x, target.view(x.dtype), record, scratch(size))
+        return target
     if np.iscomplexobj(x):
         raise TypeError("x must be a real sequence")
     x = _floats(x)
@@ -307,6 +323,7 @@ def _all_axes(x, s, axes, norm, forward, overwrite, workers):
     s, axes = _shape_and_axes(x, s, axes)
     if not axes:
         return x
+    overwrite = overwrite and all(x.shape[axis] == n for n, axis in zip(s, axes))
     for n, axis in zip(reversed(s), reversed(axes)):
         x = _complex(x, n, axis, norm, forward, overwrite, workers)
         overwrite = True
@@ -449,6 +466,9 @@ def __ua_function__(method, args, kwargs):
     if transform is None or kwargs.get("plan") is not None:
         return NotImplemented
     kwargs.pop("plan", None)
+    if "workers" not in kwargs and len(args) < 6:
+        from scipy.fft import get_workers
+        kwargs["workers"] = get_workers()
     try:
         return transform.__wrapped__(*args, **kwargs)
     except _NotHere:

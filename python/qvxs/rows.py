@@ -47,6 +47,9 @@ def _pool(workers):
     return ThreadPoolExecutor(workers, thread_name_prefix="qvxs")
 
 
+os.register_at_fork(after_in_child=_pool.cache_clear)  # the child has none of the threads
+
+
 def for_rows(work, rows, workers=None):
     """Calls work(first, past) for the rows in as many parts as there are workers."""
     workers = min(count_workers(workers), rows)

@@ -63,6 +63,8 @@ class _Stream:
         self._lock = threading.Lock()
 
     def _vector(self, block):
+        if self.dtype.kind == "f" and np.iscomplexobj(block):
+            raise TypeError(f"this stream is of {self.dtype}, the block is complex")
         block = np.ascontiguousarray(block, self.dtype)
         if block.ndim != 1:
             raise ValueError(f"a block is a vector, not an array of shape {block.shape}")

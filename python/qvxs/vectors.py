@@ -431,7 +431,7 @@ def sort(x, axis=-1, descending=False, out=None):
 def argsort(x, axis=-1, descending=False):
     """The indices that sort, as np.argsort(kind="stable"): uint8, uint16, uint32, int16, int32, float32.
 
-    Descending, equal elements still come in the order of their places. Exports: qvxsSortRadixIndexAscend_, qvxsSortRadixIndexDescend_.
+    Descending, equal elements still come in the order of their places. -0.0 comes before 0.0. Exports: qvxsSortRadixIndexAscend_, qvxsSortRadixIndexDescend_.
 
     >>> import numpy as np, qvxs
     >>> qvxs.argsort(np.int16([3, 1, 2]))
