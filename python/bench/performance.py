@@ -53,7 +53,7 @@ def plan(x, real):
     source = pyfftw.empty_aligned(x.shape, x.dtype)
     last = x.shape[-1] // 2 + 1 if real else x.shape[-1]
     target = pyfftw.empty_aligned(x.shape[:-1] + (last,), np.result_type(x.dtype, np.complex64))
-    planned = pyfftw.FFTW(source, target, flags=("FFTW_MEASURE",), planning_timelimit=5.0)
+    planned = pyfftw.FFTW(source, target, flags=("FFTW_MEASURE",), planning_timelimit=2.0)
     source[:] = x
     return planned.execute
 

@@ -15,7 +15,7 @@ The streams `Fir`, `Iir`, `Sos`, `Resampler` and `Lms` keep their state between 
 """
 
 import math
-from functools import wraps
+from functools import lru_cache, wraps
 
 import numpy as np
 import scipy.signal
@@ -66,7 +66,7 @@ def lfilter(b, a, x, axis=-1, zi=None):
     """Filters along an axis by the taps b / a, as scipy.signal.lfilter; with zi returns the final state as well.
 
     b, a: taps, a[0] not 0; x: array; zi: max(len(a), len(b)) - 1 values for each row. The type is that of NumPy's promotion of all.
-    Exports: qvxsIIRInitAlloc64f_32f, _64f, 64fc_32fc, _64fc and their qvxsIIR; of b alone qvxsFIR_ (qvxsConv_ with zi).
+    Exports: qvxsIIRInitAlloc_, qvxsIIR_, qvxsIIRGetDlyLine_ and qvxsIIRSetDlyLine_ of 32f, 64f, 32fc, 64fc; of b alone qvxsFIR_ (qvxsConv_ with zi).
 
         >>> lfilter([1.], [1, -0.5], [1., 0, 0, 0])
         array([1.   , 0.5  , 0.25 , 0.125])
@@ -74,6 +74,7 @@ def lfilter(b, a, x, axis=-1, zi=None):
     b, a, x = np.atleast_1d(b), np.atleast_1d(a), np.asarray(x)
     if b.ndim != 1 or a.ndim != 1 or not x.ndim or not b.size or not a.size or not x.size:
         raise _NotHere
+    zi = zi if zi is None else np.asarray(zi)
     dtype = _common(b, a, x) if zi is None else _common(b, a, x, zi)
     if a[0] == 0:
         raise _NotHere
@@ -84,7 +85,7 @@ def lfilter(b, a, x, axis=-1, zi=None):
     if len(a) == 1:
         return _moving_average(b / a[0], x, axis, zi, dtype)
     rows = last(x.astype(dtype, copy=False), axis)
-    record, run, read, write = filter_record(b, a, dtype)
+    record, run, read, write = filter_record(b, a, dtype, wide=False)
     return _each_row(rows, axis, zi, (order,), dtype, record, run, read, write)
 
 
@@ -92,9 +93,8 @@ def _each_row(rows, axis, zi, shape, dtype, record, run, read, write):
     """Every row through the record, from the state it has in zi."""
     result = np.empty_like(rows)
     n = rows.shape[-1]
-    wide = np.dtype(np.complex128 if dtype.kind == "c" else np.float64)
     if zi is not None:
-        start = _states(zi, rows.shape[:-1], shape, axis, rows.ndim).astype(wide)
+        start = _states(zi, rows.shape[:-1], shape, axis, rows.ndim).astype(dtype, copy=False)
         states = start.reshape(-1, math.prod(shape))
         final = np.empty_like(states)
     for i, (source, target) in enumerate(zip(rows.reshape(-1, n), result.reshape(-1, n))):
@@ -108,7 +108,7 @@ def _each_row(rows, axis, zi, shape, dtype, record, run, read, write):
     result = back(result, axis)
     if zi is None:
         return result
-    return result, _states_back(final.astype(dtype).reshape(start.shape), shape, axis)
+    return result, _states_back(final.reshape(start.shape), shape, axis)
 
 
 def _states(zi, outer, shape, axis, ndim):
@@ -160,10 +160,11 @@ def sosfilt(sos, x, axis=-1, zi=None):
     sos, x = np.atleast_2d(sos), np.asarray(x)
     if sos.ndim != 2 or sos.shape[1] != 6 or not x.ndim or not x.size or not (sos[:, 3] == 1).all() or not sos[:, 0].all():
         raise _NotHere
+    zi = zi if zi is None else np.asarray(zi)
     dtype = _common(sos, x) if zi is None else _common(sos, x, zi)
     axis = check_axis(axis, x.ndim)
     rows = last(x.astype(dtype, copy=False), axis)
-    return _each_row(rows, axis, zi, (len(sos), 2), dtype, *section_record(sos, dtype))
+    return _each_row(rows, axis, zi, (len(sos), 2), dtype, *section_record(sos, dtype, wide=False))
 
 
 def _extended(x, padtype, padlen, axis, taps):
@@ -286,6 +287,8 @@ def convolve(in1, in2, mode="full", method="auto"):
     if method not in ("auto", "direct", "fft") or not in1.ndim == in2.ndim or not in1.ndim or not in1.size or not in2.size:
         raise _NotHere
     if in1.ndim > 1:
+        if np.result_type(in1, in2).char not in _TAGS:
+            raise _NotHere
         if method == "direct" or method == "auto" and scipy.signal.choose_conv_method(in1, in2, mode) == "direct":
             raise _NotHere
         return fftconvolve(in1, in2, mode)
@@ -403,6 +406,14 @@ def upfirdn(h, x, up=1, down=1, axis=-1, mode="constant", cval=0):
     return back(result[..., :wanted], axis)
 
 
+@lru_cache(maxsize=32)
+def resampling_taps(rate, window=("kaiser", 5.0)):
+    """The filter of resample_poly. Its design takes 1 ms at a rate of 160, as long as 30000 samples; so it is kept."""
+    taps = firwin(20 * rate + 1, 1 / rate, window=window)
+    taps.flags.writeable = False
+    return taps
+
+
 @_or_scipy
 def resample_poly(x, up, down, axis=0, window=("kaiser", 5.0), padtype="constant", cval=None):
     """Resampling by up / down through a polyphase filter, as scipy.signal.resample_poly; padtype "constant", or one of the means.
@@ -426,8 +437,7 @@ def resample_poly(x, up, down, axis=0, window=("kaiser", 5.0), padtype="constant
         if taps.ndim != 1:
             raise ValueError("window must be 1-D")
     else:
-        rate = max(up, down)
-        taps = firwin(20 * rate + 1, 1 / rate, window=window).astype(x.dtype if x.dtype.kind in "fc" else np.float64)
+        taps = resampling_taps(max(up, down), window).astype(x.dtype if x.dtype.kind in "fc" else np.float64)
     taps = taps * up
     half = (taps.size - 1) // 2
     before = down - half % down
@@ -512,13 +522,15 @@ def firwin(numtaps, cutoff, width=None, window="hamming", pass_zero=True, scale=
     """
     cutoff = np.atleast_1d(cutoff)
     half = 1.0 if nyq is None and fs is None else None
+    if not isinstance(pass_zero, (bool, str)):
+        raise _NotHere
     if half is None or width is not None or not isinstance(window, str) or window not in _FIR_WINDOWS or numtaps < 5:
         raise _NotHere
     if cutoff.ndim != 1 or cutoff.size not in (1, 2) or (cutoff <= 0).any() or (cutoff >= 1).any() or (np.diff(cutoff) <= 0).any():
         raise _NotHere
     kinds = {(1, True): "Lowpass", (1, "lowpass"): "Lowpass", (1, False): "Highpass", (1, "highpass"): "Highpass",
              (2, True): "Bandstop", (2, "bandstop"): "Bandstop", (2, False): "Bandpass", (2, "bandpass"): "Bandpass"}
-    kind = kinds.get((cutoff.size, pass_zero if isinstance(pass_zero, str) else bool(pass_zero)))
+    kind = kinds.get((cutoff.size, pass_zero))
     if kind is None or kind in ("Highpass", "Bandstop") and numtaps % 2 == 0:
         raise _NotHere
     taps = np.empty(numtaps)
@@ -526,21 +538,8 @@ def firwin(numtaps, cutoff, width=None, window="hamming", pass_zero=True, scale=
     return taps
 
 
-_WINDOWS = {"hann": "Hann", "hamming": "Hamming", "bartlett": "Bartlett"}
-
-
-@_or_scipy
-def get_window(window, Nx, fftbins=True):
-    """A window of Nx points, as scipy.signal.get_window. Exports: qvxsWinHann_64f_I, Hamming and Bartlett; SciPy has the others.
-
-        >>> get_window("hann", 4)
-        array([0. , 0.5, 1. , 0.5])
-    """
-    if not isinstance(window, str) or window not in _WINDOWS or Nx < 4:
-        raise _NotHere
-    weights = np.ones(Nx + 1 if fftbins else Nx)
-    getattr(raw, f"qvxsWin{_WINDOWS[window]}_64f_I")(weights, weights.size)
-    return weights[:Nx]
+# The library's windows are good to 2^-45, SciPy's to the last bit, and nobody waits for a window.
+get_window = scipy.signal.get_window
 
 
 def _classic(order, frequency, ripple, kind, btype, analog, output, fs):
