@@ -58,9 +58,7 @@ template <class T> bool setReal(PyObject* object, const Export& e, const Paramet
   return true;
 }
 
-template <class T> struct Pair {
-  T re, im;
-};
+template <class T> struct Pair { T re, im; };
 
 template <class T> bool setComplex(PyObject* object, const Export& e, const Parameter& p, Slot& slot) {
   const Py_complex value = PyComplex_AsCComplex(object);
@@ -72,7 +70,8 @@ template <class T> bool setComplex(PyObject* object, const Export& e, const Para
 
 // A pair of integers, an integer, or a complex number whose parts are whole.
 template <class T> bool setWholeComplex(PyObject* object, const Export& e, const Parameter& p, Slot& slot) {
-  const auto least = static_cast<int64_t>(std::numeric_limits<T>::min()), most = static_cast<int64_t>(std::numeric_limits<T>::max());
+  const auto least = static_cast<int64_t>(std::numeric_limits<T>::min()),
+             most = static_cast<int64_t>(std::numeric_limits<T>::max());
   int64_t re = 0, im = 0;
   if (PyTuple_Check(object) && PyTuple_GET_SIZE(object) == 2) {
     if (!toInteger(PyTuple_GET_ITEM(object, 0), e, p, least, most, re)) return false;
@@ -110,7 +109,8 @@ bool matches(PyArrayObject* array, const ElementType& type, int& parts) {
     PyObject* field = PyDict_GetItemString(descr->fields, name);
     if (field == nullptr || !PyTuple_Check(field)) return false;
     const auto* part = reinterpret_cast<PyArray_Descr*>(PyTuple_GET_ITEM(field, 0));
-    if (!PyArray_ISNBO(part->byteorder) || !isNumber(part, type) || PyLong_AsLong(PyTuple_GET_ITEM(field, 1)) != offset) return false;
+    if (!PyArray_ISNBO(part->byteorder) || !isNumber(part, type) || PyLong_AsLong(PyTuple_GET_ITEM(field, 1)) != offset)
+      return false;
   }
   return true;
 }
@@ -118,16 +118,15 @@ bool matches(PyArrayObject* array, const ElementType& type, int& parts) {
 }  // namespace
 
 const ElementType& elementType(Element element) {
-  static const ElementType types[] = {
-      {"uint8", 'u', 1, false, NPY_UINT8},        {"int8", 'i', 1, false, NPY_INT8},
-      {"uint16", 'u', 2, false, NPY_UINT16},      {"int16", 'i', 2, false, NPY_INT16},
-      {"uint32", 'u', 4, false, NPY_UINT32},      {"int32", 'i', 4, false, NPY_INT32},
-      {"uint64", 'u', 8, false, NPY_UINT64},      {"int64", 'i', 8, false, NPY_INT64},
-      {"float16", 'f', 2, false, NPY_FLOAT16},    {"float32", 'f', 4, false, NPY_FLOAT32},
-      {"float64", 'f', 8, false, NPY_FLOAT64},    {"a pair of int8", 'i', 1, true, NPY_INT8},
-      {"a pair of int16", 'i', 2, true, NPY_INT16}, {"a pair of int32", 'i', 4, true, NPY_INT32},
-      {"a pair of int64", 'i', 8, true, NPY_INT64}, {"complex64", 'c', 8, false, NPY_COMPLEX64},
-      {"complex128", 'c', 16, false, NPY_COMPLEX128}};
+  static const ElementType types[] = {{"uint8", 'u', 1, false, NPY_UINT8},           {"int8", 'i', 1, false, NPY_INT8},
+                                      {"uint16", 'u', 2, false, NPY_UINT16},         {"int16", 'i', 2, false, NPY_INT16},
+                                      {"uint32", 'u', 4, false, NPY_UINT32},         {"int32", 'i', 4, false, NPY_INT32},
+                                      {"uint64", 'u', 8, false, NPY_UINT64},         {"int64", 'i', 8, false, NPY_INT64},
+                                      {"float16", 'f', 2, false, NPY_FLOAT16},       {"float32", 'f', 4, false, NPY_FLOAT32},
+                                      {"float64", 'f', 8, false, NPY_FLOAT64},       {"a pair of int8", 'i', 1, true, NPY_INT8},
+                                      {"a pair of int16", 'i', 2, true, NPY_INT16},  {"a pair of int32", 'i', 4, true, NPY_INT32},
+                                      {"a pair of int64", 'i', 8, true, NPY_INT64},  {"complex64", 'c', 8, false, NPY_COMPLEX64},
+                                      {"complex128", 'c', 16, false, NPY_COMPLEX128}};
   return types[static_cast<size_t>(element)];
 }
 

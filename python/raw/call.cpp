@@ -12,8 +12,10 @@ namespace raw {
 
 namespace {
 
-// Elements from which on other threads of Python may run meanwhile: letting them costs 50 ns.
+// Elements above which other threads of Python may run meanwhile: letting them costs 25 ns where none waits.
 constexpr int64_t kLong = 10000, kLongOfFilters = 1000;
+
+const int64_t kNothingBrought[kMostBrought] = {};
 
 class Call {
  public:
@@ -21,7 +23,7 @@ class Call {
   Call(const Call&) = delete;
   ~Call() { end(); }
 
-  PyObject* run(PyObject* const* arguments, Py_ssize_t count);
+  PyObject* run(PyObject* const* arguments);
 
  private:
   struct Range {
@@ -53,13 +55,13 @@ class Call {
   Slot slots_[kMostParameters];
   Integers integers_ = {};
   PyObject* objects_[kMostParameters] = {};  // by place; tuples are the call's own
-  const int64_t* brought_ = nullptr;
+  const int64_t* brought_ = kNothingBrought;
   int64_t elements_ = 0;
   void* handle_ = nullptr;
   Record* made_ = nullptr;
-  Record* record_ = nullptr;  // the only one, or the first
-  bool isExclusive_ = false, hasContents_ = false, hasVectors_ = false;
-  std::vector<Record*> records_;             // of many channels
+  Record* record_ = nullptr;
+  bool isExclusive_ = false, hasContents_ = false;
+  std::vector<Record*> records_;              // of many channels
   std::vector<std::vector<void*>> pointers_;  // to them, and to their vectors
   std::vector<Copy> copies_;
   Range ranges_[kMostParameters];
@@ -68,12 +70,10 @@ class Call {
   int tupleCount_ = 0;
 };
 
-const int64_t kNothingBrought[kMostBrought] = {};
-
 bool isSequence(Kind kind) { return kind == Kind::kVectors || kind == Kind::kRecords; }
 
 void Call::end() {
-  if (record_ != nullptr && records_.empty()) endUse(record_, isExclusive_);
+  if (record_ != nullptr) endUse(record_, isExclusive_);
   for (Record* record : records_) endUse(record, true);
   record_ = nullptr;
   records_.clear();
@@ -91,8 +91,6 @@ int64_t Call::integerNamed(const char* name) const {
 // ---- numbers
 
 bool Call::takeNumbers(PyObject* const* arguments) {
-  static const int64_t* const none = kNothingBrought;
-  brought_ = none;
   for (int i = 0; i < e_.count; ++i) {
     const Parameter& p = e_.parameters[i];
     if (p.kind == Kind::kHandle) {
@@ -169,6 +167,7 @@ bool Call::takeRecords() {
     const auto count = static_cast<size_t>(PyTuple_GET_SIZE(objects_[i]));
     std::vector<void*>& addresses = pointers_.emplace_back(count);
     std::vector<Record*> wanted;
+    records_.reserve(count);
     for (size_t k = 0; k < count; ++k) {
       PyObject* item = PyTuple_GET_ITEM(objects_[i], static_cast<Py_ssize_t>(k));
       if (!takeRecord(i, item, addresses[k])) return false;
@@ -353,7 +352,7 @@ PyObject* Call::result(int status) {
   return result;
 }
 
-PyObject* Call::run(PyObject* const* arguments, Py_ssize_t) {
+PyObject* Call::run(PyObject* const* arguments) {
   if (!takeNumbers(arguments)) return nullptr;
   if (e_.remember != nullptr) {
     for (int i = 0; i < e_.count && made_ == nullptr; ++i) {
@@ -407,8 +406,9 @@ PyObject* allocateVector(const Export& e, PyObject* argument) {
 
 PyObject* version(const Export& e) {
   const auto* v = reinterpret_cast<const QvxLibraryVersion* (*)()>(e.function)();
-  return Py_BuildValue("{sisisisissssssss}", "verMajor", v->verMajor, "verMinor", v->verMinor, "buildMajor", v->buildMajor, "buildMinor",
-                       v->buildMinor, "cpuTag", v->cpuTag, "libFile", v->libFile, "verText", v->verText, "buildDate", v->buildDate);
+  return Py_BuildValue("{sisisisissssssss}", "verMajor", v->verMajor, "verMinor", v->verMinor, "buildMajor", v->buildMajor,
+                       "buildMinor", v->buildMinor, "cpuTag", v->cpuTag, "libFile", v->libFile, "verText", v->verText,
+                       "buildDate", v->buildDate);
 }
 
 }  // namespace
@@ -428,7 +428,7 @@ PyObject* callExport(const Export& e, PyObject* const* arguments, Py_ssize_t cou
       Py_RETURN_NONE;
   }
   try {
-    return Call(e).run(arguments, count);
+    return Call(e).run(arguments);
   } catch (const std::bad_alloc&) {
     return PyErr_NoMemory();
   }

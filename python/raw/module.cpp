@@ -9,8 +9,7 @@ namespace raw {
 namespace {
 
 struct ExportObject {
-  PyObject_HEAD
-  vectorcallfunc vectorcall;
+  PyObject_HEAD vectorcallfunc vectorcall;
   const Export* row;
 };
 
@@ -61,8 +60,15 @@ bool addExports(PyObject* module) {
   return true;
 }
 
-PyModuleDef definition = {PyModuleDef_HEAD_INIT, "qvxs.raw", "Every export of the library, by its name in C, with its arguments in C's order.",
-                          -1, nullptr, nullptr, nullptr, nullptr, nullptr};
+PyModuleDef definition = {PyModuleDef_HEAD_INIT,
+                          "qvxs.raw",
+                          "Every export of the library, by its name in C, with its arguments in C's order.",
+                          -1,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr};
 
 }  // namespace
 

@@ -31,8 +31,7 @@ bool warnOfStatus(const Export& e, int status);
 constexpr int kMostBrought = 24;
 
 struct Record {
-  PyObject_HEAD
-  const Export* maker;
+  PyObject_HEAD const Export* maker;
   int type;
   void* address;  // null once it is released
   void* memory;   // where it lies, unless the library allocated it
@@ -57,7 +56,7 @@ void endUse(Record* record, bool exclusive);
 struct ElementType {
   const char* name;  // NumPy's
   char kind;
-  int bytes;   // of a number, or of one part
+  int bytes;    // of a number, or of one part
   bool isPair;  // complex integers, which NumPy lacks
   int number;   // NumPy's, of a part where it is a pair
 };

@@ -11,11 +11,14 @@ namespace {
 
 const StatusRow& rowOf(int status) {
   static const StatusRow unknown = {0, "unknown", "a status that the headers do not name"};
-  const StatusRow* found = std::find_if(kStatuses, kStatuses + kStatusCount, [=](const StatusRow& row) { return row.value == status; });
+  const StatusRow* found =
+      std::find_if(kStatuses, kStatuses + kStatusCount, [=](const StatusRow& row) { return row.value == status; });
   return found == kStatuses + kStatusCount ? unknown : *found;
 }
 
-std::string messageOf(const Export& e, const StatusRow& row) { return std::string(e.name) + ": " + row.text + " (" + row.name + ")"; }
+std::string messageOf(const Export& e, const StatusRow& row) {
+  return std::string(e.name) + ": " + row.text + " (" + row.name + ")";
+}
 
 // A new exception with the status in its attributes.
 PyObject* exceptionOf(PyObject* type, const Export& e, int status) {
@@ -43,13 +46,11 @@ void raiseStatus(const Export& e, int status) {
   }
 }
 
-bool warnOfStatus(const Export& e, int status) {
-  return PyErr_WarnEx(warningType, messageOf(e, rowOf(status)).c_str(), 1) == 0;
-}
+bool warnOfStatus(const Export& e, int status) { return PyErr_WarnEx(warningType, messageOf(e, rowOf(status)).c_str(), 1) == 0; }
 
 bool addStatuses(PyObject* module) {
-  errorType = PyErr_NewExceptionWithDoc("qvxs.Error", "A call was refused, and nothing was written. status, name and text tell why.",
-                                        nullptr, nullptr);
+  errorType = PyErr_NewExceptionWithDoc(
+      "qvxs.Error", "A call was refused, and nothing was written. status, name and text tell why.", nullptr, nullptr);
   warningType = PyErr_NewExceptionWithDoc("qvxs.Warning", "Everything was written, but some element had no proper result.",
                                           PyExc_RuntimeWarning, nullptr);
   return PyModule_AddObjectRef(module, "Error", errorType) == 0 && PyModule_AddObjectRef(module, "Warning", warningType) == 0;

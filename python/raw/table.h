@@ -25,7 +25,8 @@ using Function = void (*)();
 template <class Result, class... Arguments> int call(Function function, const Slot* slots) {
   return [&]<size_t... I>(std::index_sequence<I...>) {
     return static_cast<int>(reinterpret_cast<Result (*)(Arguments...)>(function)(slots[I].template get<Arguments>()...));
-  }(std::index_sequence_for<Arguments...>());
+  }
+  (std::index_sequence_for<Arguments...>());
 }
 
 // The number of elements a vector needs. Arguments may be anything, so it stops at the ends instead of wrapping.
@@ -64,8 +65,23 @@ using Integers = int64_t[kMostParameters + 2];
 using ExtentOf = Extent (*)(const int64_t* integers, const int64_t* record);
 
 enum class Element : uint8_t {
-  k8u, k8s, k16u, k16s, k32u, k32s, k64u, k64s, k16f, k32f, k64f,  // clang-format: one line
-  k8sc, k16sc, k32sc, k64sc, k32fc, k64fc
+  k8u,
+  k8s,
+  k16u,
+  k16s,
+  k32u,
+  k32s,
+  k64u,
+  k64s,
+  k16f,
+  k32f,
+  k64f,  // clang-format: one line
+  k8sc,
+  k16sc,
+  k32sc,
+  k64sc,
+  k32fc,
+  k64fc
 };
 
 enum class Kind : uint8_t {
@@ -115,14 +131,14 @@ struct Export {
   Guard guard;
   int64_t (*blockSize)(const int64_t* integers);               // of makers in blocks; negative: a status
   void (*remember)(const int64_t* integers, int64_t* record);  // of makers
-  const char* const* strangers;                                // makers whose records are refused have one of these in their names
+  const char* const* strangers;  // makers whose records are refused have one of these in their names
   bool isFree, isApart, isUnlike, mayBeLong;
 };
 
 struct RecordType {
   const char* name;
-  Function release;                                // null where there is nothing to release
-  int64_t (*workSize)(const void* record);         // of the buffer that its calls take; null if they take none
+  Function release;                         // null where there is nothing to release
+  int64_t (*workSize)(const void* record);  // of the buffer that its calls take; null if they take none
 };
 
 struct StatusRow {
