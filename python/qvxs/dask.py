@@ -20,6 +20,7 @@ import dask.array as da
 import numpy as np
 
 from . import signal, vectors
+from .rows import contiguous
 
 __all__ = ["lfilter", "sosfilt", "upfirdn", "resample_poly", "spectrogram", "welch", "sum", "mean", "std", "min", "max", "norm_l2"]
 
@@ -204,7 +205,7 @@ def _moments(block):
     """Count, mean and sum of squared differences from it, of a whole chunk."""
     n = block.size
     mean = float(vectors.mean(block.astype(np.float64, copy=False)))
-    centred = vectors.subtract(np.ascontiguousarray(block, np.float64), mean)
+    centred = vectors.subtract(contiguous(block, np.float64), mean)
     off = float(vectors.mean(centred))  # what the first mean was wrong by
     return n, mean + off, float(vectors.dot(centred.reshape(-1), centred.reshape(-1))) - n * off * off
 
@@ -231,15 +232,15 @@ def _block_sum(block):
 
 
 def _block_norm(block):
-    return float(vectors.norm_l2(np.ascontiguousarray(block)))
+    return float(vectors.norm_l2(contiguous(block)))
 
 
 def _block_max(block):
-    return float(vectors.max(np.ascontiguousarray(block)))
+    return float(vectors.max(contiguous(block)))
 
 
 def _block_min(block):
-    return float(vectors.min(np.ascontiguousarray(block)))
+    return float(vectors.min(contiguous(block)))
 
 
 def sum(x):  # noqa: A001

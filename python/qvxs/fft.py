@@ -21,7 +21,7 @@ import numpy as np
 from numpy.fft import fftfreq, fftshift, ifftshift, rfftfreq
 
 from . import raw
-from .rows import back, check_axis, count_workers, for_rows, last, scratch
+from .rows import back, check_axis, contiguous, count_workers, for_rows, last, scratch
 
 __all__ = ["fft", "ifft", "rfft", "irfft", "hfft", "ihfft", "fft2", "ifft2", "fftn", "ifftn", "rfft2", "irfft2", "rfftn", "irfftn",
            "dct", "idct", "next_fast_len", "fftfreq", "rfftfreq", "fftshift", "ifftshift"]
@@ -78,7 +78,7 @@ def _fit(x, n, axis):
         return last(x, axis)
     x = np.moveaxis(x, axis, -1)
     if have > n:
-        return np.ascontiguousarray(x[..., :n])
+        return contiguous(x[..., :n])
     padded = np.zeros(x.shape[:-1] + (n,), x.dtype)
     padded[..., :have] = x
     return padded

@@ -30,11 +30,17 @@ def check_axis(axis, ndim):
     return axis % ndim
 
 
+def contiguous(x, dtype=None):
+    """The array in C order and aligned: one that came over a network may be neither."""
+    x = np.ascontiguousarray(x, dtype)
+    return x if x.flags.aligned else x.copy()
+
+
 def last(x, axis):
     """The array with `axis` last, contiguous; no copy where it is so already."""
     if axis not in (-1, x.ndim - 1):
         x = np.moveaxis(x, axis, -1)
-    return np.ascontiguousarray(x)
+    return contiguous(x)
 
 
 def back(x, axis):

@@ -22,7 +22,7 @@ import scipy.signal
 
 from . import raw
 from .fft import fftn, ifft, ifftn, irfftn, next_fast_len, rfft, rfftn
-from .rows import back, check_axis, last
+from .rows import back, check_axis, contiguous, last
 from .streams import Fir, Iir, Lms, Resampler, Sos, filter_record, section_record
 
 COVERED = ["lfilter", "sosfilt", "filtfilt", "sosfiltfilt", "upfirdn", "resample_poly", "convolve", "fftconvolve", "oaconvolve",
@@ -118,13 +118,13 @@ def _states(zi, outer, shape, axis, ndim):
         expected = (shape[0], *outer[:axis], shape[1], *outer[axis:])
         if zi.shape != expected:
             raise ValueError(f"Invalid zi shape. With axis={axis}, zi must have shape {expected}, got {zi.shape}.")
-        return np.ascontiguousarray(np.moveaxis(zi, [0, axis + 1], [-2, -1]))
+        return contiguous(np.moveaxis(zi, [0, axis + 1], [-2, -1]))
     if zi.ndim != ndim:
         raise ValueError("object of too small depth for desired array")
     moved = np.moveaxis(zi, axis, -1)
     if moved.shape[-1] != shape[0] or any(have not in (1, want) for have, want in zip(moved.shape, outer)):
         raise ValueError(f"Unexpected shape for zi: expected {(*outer[:axis], shape[0], *outer[axis:])}, found {zi.shape}.")
-    return np.ascontiguousarray(np.broadcast_to(moved, outer + shape))
+    return contiguous(np.broadcast_to(moved, outer + shape))
 
 
 def _states_back(states, shape, axis):
@@ -189,7 +189,7 @@ def _extended(x, padtype, padlen, axis, taps):
 def _there_and_back(run, x, edge, axis):
     """run filters rows from a state that goes with their first element."""
     y = run(x)
-    y = run(np.ascontiguousarray(y[..., ::-1]))[..., ::-1]
+    y = run(contiguous(y[..., ::-1]))[..., ::-1]
     return np.moveaxis(y[..., edge:y.shape[-1] - edge], -1, axis)
 
 
@@ -236,10 +236,10 @@ def _convolve_rows(rows, taps):
     n, m = rows.shape[-1], len(taps)
     result = np.empty(rows.shape[:-1] + (n + m - 1,), rows.dtype)
     tag = _TAGS[rows.dtype.char]
-    taps = np.ascontiguousarray(taps)
+    taps = contiguous(taps)
     if rows.dtype.kind == "c":
         # A correlation with the taps turned round: it conjugates its first source.
-        turned = np.ascontiguousarray(taps[::-1].conj())
+        turned = contiguous(taps[::-1].conj())
         correlate_lags = getattr(raw, "qvxsCrossCorr_" + tag)
         for source, target in zip(rows.reshape(-1, n), result.reshape(-1, n + m - 1)):
             correlate_lags(turned, m, source, n, target, n + m - 1, 1 - m)
@@ -299,7 +299,7 @@ def convolve(in1, in2, mode="full", method="auto"):
     if whole:
         in1, in2, dtype = _integral(in1, in2)
     common = np.dtype(np.float64) if whole else dtype
-    full = _convolve_rows(np.ascontiguousarray(in1, common), in2.astype(common, copy=False))
+    full = _convolve_rows(contiguous(in1, common), in2.astype(common, copy=False))
     full = _cut(full, n, m, mode)
     return np.rint(full).astype(np.int64).astype(dtype) if whole else full
 
@@ -396,7 +396,7 @@ def upfirdn(h, x, up=1, down=1, axis=-1, mode="constant", cval=0):
     padded = np.zeros(rows.shape[:-1] + (max(groups * down, n),), dtype)
     padded[..., :n] = rows
     result = np.empty(rows.shape[:-1] + (groups * up,), dtype)
-    taps = np.ascontiguousarray(h, dtype)
+    taps = contiguous(h, dtype)
     record = getattr(raw, "qvxsFIRMRInitAlloc_" + tag)(taps, len(taps), up, 0, down, 0, None)
     run, write = getattr(raw, "qvxsFIR_" + tag), getattr(raw, "qvxsFIRSetDlyLine_" + tag)
     for i, (source, target) in enumerate(zip(padded.reshape(-1, padded.shape[-1]), result.reshape(-1, groups * up))):

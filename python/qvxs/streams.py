@@ -16,6 +16,7 @@ import threading
 import numpy as np
 
 from . import raw
+from .rows import contiguous
 
 # The tail of an export's name by the samples' type: filters with taps of that type, and recursive ones, whose taps and memory are doubles.
 _SAME = {"f": "_32f", "d": "_64f", "F": "_32fc", "D": "_64fc"}
@@ -54,7 +55,7 @@ def section_record(sos, dtype, wide=True):
     """The same for second-order sections."""
     tail = _tail(dtype, _WIDE if wide else _SAME)
     stem, _, samples = tail.partition("_")
-    taps = np.ascontiguousarray(sos, _wide(dtype) if wide else dtype).reshape(-1)
+    taps = contiguous(sos, _wide(dtype) if wide else dtype).reshape(-1)
     return getattr(raw, f"qvxsIIRInitAlloc{stem}_BiQuad_{samples}")(taps, len(taps) // 6, None), *_calls(tail)
 
 
@@ -68,7 +69,7 @@ class _Stream:
     def _vector(self, block):
         if self.dtype.kind == "f" and np.iscomplexobj(block):
             raise TypeError(f"this stream is of {self.dtype}, the block is complex")
-        block = np.ascontiguousarray(block, self.dtype)
+        block = contiguous(block, self.dtype)
         if block.ndim != 1:
             raise ValueError(f"a block is a vector, not an array of shape {block.shape}")
         return block
@@ -88,7 +89,7 @@ class Fir(_Stream):
         super().__init__(np.result_type(taps, np.float32) if dtype is None else dtype)
         tail = _tail(self.dtype, _SAME)
         self._taps = len(taps)
-        self._record = getattr(raw, "qvxsFIRInitAlloc" + tail)(np.ascontiguousarray(taps, self.dtype), len(taps), None)
+        self._record = getattr(raw, "qvxsFIRInitAlloc" + tail)(contiguous(taps, self.dtype), len(taps), None)
         self._run, self._read, self._write = (getattr(raw, f"qvxsFIR{what}{tail}") for what in ("", "GetDlyLine", "SetDlyLine"))
 
     def process(self, block, out=None):
@@ -149,7 +150,7 @@ class _Recursive(_Stream):
 
     @state.setter
     def state(self, line):
-        line = np.ascontiguousarray(line, _wide(self.dtype))
+        line = contiguous(line, _wide(self.dtype))
         if line.shape != self._memory:
             raise ValueError(f"the state has the shape {self._memory}, not {line.shape}")
         with self._lock:
@@ -212,7 +213,7 @@ class Resampler(_Stream):
         taps = np.atleast_1d(taps)
         super().__init__(np.result_type(taps, np.float32) if dtype is None else dtype)
         self._tail = _tail(self.dtype, _SAME)
-        self.taps = np.ascontiguousarray(taps, self.dtype)
+        self.taps = contiguous(taps, self.dtype)
         self._run = getattr(raw, "qvxsFIR" + self._tail)
         self.reset()
 
@@ -242,7 +243,7 @@ class Resampler(_Stream):
         groups = samples.size // self.down
         result = np.empty(groups * self.up, self.dtype)
         if groups:
-            self._run(np.ascontiguousarray(samples[:groups * self.down]), result, groups, self._record)
+            self._run(contiguous(samples[:groups * self.down]), result, groups, self._record)
         return result
 
     def process(self, block):
@@ -283,7 +284,7 @@ class Lms(_Stream):
 
     def __init__(self, taps, step):
         super().__init__(np.float32)
-        first = np.zeros(taps, np.float32) if np.ndim(taps) == 0 else np.ascontiguousarray(taps, np.float32)
+        first = np.zeros(taps, np.float32) if np.ndim(taps) == 0 else contiguous(taps, np.float32)
         self.step = step
         self._taps = len(first)
         self._record = raw.qvxsFIRLMSInitAlloc_32f(first, len(first), None, 0)

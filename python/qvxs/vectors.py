@@ -19,7 +19,7 @@ import numpy as np
 
 from . import raw
 from .forms import TAGS, forms
-from .rows import back, check_axis, last
+from .rows import back, check_axis, contiguous, last
 
 __all__ = []
 _REFUSED = (KeyError, TypeError, ValueError, AttributeError, raw.Error)
@@ -109,13 +109,13 @@ def _binary(name, stem, summary, example, minus=False):
             array, number, table = (a, b, constants) if a.ndim else (b, a, reverse)
             fitting = [form for form in table if form.source == common and (form.scaled or not scale)]
             if fitting and dtype in (None, common) and not (minus and stem == "Div" and number == 0):
-                array = np.ascontiguousarray(array, common)
+                array = contiguous(array, common)
                 result = _destination(out, array.shape, common, array)
                 if array.size:
                     fitting[0](pSrc=array, val=number.astype(common)[()], pDst=result, len=array.size, scaleFactor=scale, rndMode=1)
                 return _deliver(result, out)
         form = _choose(name, found, common, scale, dtype)
-        a, b = (np.ascontiguousarray(x) for x in np.broadcast_arrays(a.astype(common, copy=False), b.astype(common, copy=False)))
+        a, b = (contiguous(x) for x in np.broadcast_arrays(a.astype(common, copy=False), b.astype(common, copy=False)))
         shape = np.broadcast_shapes(a.shape, b.shape)
         result = _destination(out, shape, form.target, a, b)
         if result.size:
@@ -164,7 +164,7 @@ def _unary(name, stem, summary, example, extra=()):
 
     def general(x, numbers, scale, out, dtype):
         form = _choose(name, found, x.dtype, scale, dtype)
-        x = np.ascontiguousarray(x)
+        x = contiguous(x)
         result = _destination(out, x.shape, form.target, x)
         if result.size:
             values = {parameter: x.dtype.type(number) if x.dtype.names is None and "level" not in parameter else number
@@ -268,7 +268,7 @@ def _reduction(name, stem, results, summary, example, overflow=False, widest=Fal
         form = best.get(x.dtype)
         if form is None:
             raise TypeError(f"{name} has no form for {x.dtype}")
-        rows = np.ascontiguousarray(x).reshape(1, -1) if axis is None else last(x, check_axis(axis, x.ndim))
+        rows = contiguous(x).reshape(1, -1) if axis is None else last(x, check_axis(axis, x.ndim))
         shape = rows.shape[:-1] if axis is not None else ()
         if rows.shape[-1] < (2 if "StdDev" in stem else 1):
             raise ValueError(f"{name} of {rows.shape[-1]} elements")
@@ -349,7 +349,7 @@ def dot(a, b):
     if form is None:
         raise TypeError(f"dot has no form for {common}")
     result = np.empty(1, form.target)
-    form(pSrc1=np.ascontiguousarray(a, common), pSrc2=np.ascontiguousarray(b, common), len=a.size, pDp=result)
+    form(pSrc1=contiguous(a, common), pSrc2=contiguous(b, common), len=a.size, pDp=result)
     return result[0]
 
 
@@ -380,7 +380,7 @@ def convert(x, dtype, scale=0, rounding="even", out=None):
     form = (not scale and _CONVERSIONS.get((source + target, False))) or _CONVERSIONS.get((source + target, True))
     if not form:
         raise TypeError(f"convert has no form from {source} to {target}{' with a scale' if scale else ''}")
-    x = np.ascontiguousarray(x)
+    x = contiguous(x)
     shape = x.shape[:-1] if source.startswith("24") else x.shape
     result = _destination(out, shape + ((3,) if target.startswith("24") else ()), form.target, x)
     count = int(np.prod(shape))

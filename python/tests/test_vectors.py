@@ -6,6 +6,7 @@ import numpy as np
 import pytest
 
 import qvxs
+import qvxs.signal
 
 LENGTHS = (1, 2, 7, 16, 33, 1000)
 INTEGERS = (np.uint8, np.int16, np.uint16, np.int32)
@@ -72,6 +73,13 @@ def test_shapes(name):
         ours(a, a[:, :3])
     b = np.arange(1.0, 7)
     assert (ours(b.reshape(2, 3).T, b.reshape(3, 2)) == theirs(b.reshape(2, 3).T, b.reshape(3, 2))).all()
+
+
+def test_arrays_out_of_alignment():
+    x = np.frombuffer(b"_" + noise(100, "d").tobytes(), "d", offset=1)
+    assert not x.flags.aligned
+    assert (qvxs.add(x, x) == 2 * x).all() and (qvxs.sort(x) == np.sort(x)).all() and qvxs.max(x) == x.max()
+    assert np.allclose(qvxs.fft.rfft(x), np.fft.rfft(x)) and np.allclose(qvxs.signal.lfilter([1.0], [1, -0.5], x)[1], x[1] + x[0] / 2)
 
 
 def test_out():
