@@ -94,6 +94,7 @@ def _pieces(x, parts, work, lengths, tail, dtype):
     for part, length in zip(parts, lengths):
         piece = x[..., part].rechunk({x.ndim - 1: -1})
         results.append(piece.map_blocks(work[len(results)], dtype=dtype, chunks=piece.chunks[:-1] + tail + ((length,),),
+                                        meta=np.empty((0,) * (x.ndim + len(tail)), dtype),
                                         new_axis=list(range(x.ndim - 1, x.ndim - 1 + len(tail))) or None))
     return da.concatenate(results, axis=-1)
 

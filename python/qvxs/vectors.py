@@ -24,7 +24,7 @@ from .rows import back, check_axis, contiguous, last
 __all__ = []
 _REFUSED = (KeyError, TypeError, ValueError, AttributeError, raw.Error)
 _ROUNDING = {"zero": 0, "even": 1, "away": 2}
-_ndarray, _empty_like = np.ndarray, np.empty_like
+_ndarray, _empty = np.ndarray, np.empty
 
 
 def _public(function, name, doc):
@@ -95,9 +95,10 @@ def _binary(name, stem, summary, example, minus=False):
     def function(a, b, scale=0, out=None, dtype=None):
         if out is None and dtype is None and not scale:
             try:
-                if a.__class__ is _ndarray is b.__class__ and a.shape == b.shape:
-                    result = _empty_like(a)
-                    plain[a.dtype](a, b, result, a.size)
+                kind, shape = a.dtype, a.shape
+                if a.__class__ is _ndarray is b.__class__ and shape == b.shape:
+                    result = _empty(shape, kind)  # 130 ns, empty_like 280
+                    plain[kind](a, b, result, result.size)
                     return result
             except _REFUSED:
                 pass  # told in full below
@@ -182,8 +183,8 @@ def _unary(name, stem, summary, example, extra=()):
             if out is None and dtype is None and not scale:
                 try:
                     if x.__class__ is _ndarray:
-                        result = _empty_like(x)
-                        plain[x.dtype](x, result, x.size)
+                        result = _empty(x.shape, x.dtype)
+                        plain[x.dtype](x, result, result.size)
                         return result
                 except _REFUSED:
                     pass  # told in full below
