@@ -15,6 +15,7 @@ The streams `Fir`, `Iir`, `Sos`, `Resampler` and `Lms` keep their state between 
 """
 
 import math
+from collections import deque
 from functools import lru_cache, wraps
 
 import numpy as np
@@ -71,6 +72,17 @@ def lfilter(b, a, x, axis=-1, zi=None):
         >>> lfilter([1.], [1, -0.5], [1., 0, 0, 0])
         array([1.   , 0.5  , 0.25 , 0.125])
     """
+    if zi is None and x.__class__ is a.__class__ is b.__class__ is np.ndarray and x.ndim == a.ndim == b.ndim == 1 and (
+            a.size > 1 and b.size and x.size and a.dtype == b.dtype == x.dtype and x.dtype.char in _TAGS and x.flags.carray and a[0]):
+        # The usual call without the questions below, which take as long as 2000 samples.
+        check_axis(axis, 1)
+        result = np.empty(x.shape, x.dtype)
+        calls, spares = _record(filter_record, x.dtype, b, a)
+        record, run, _, write = calls
+        run(x, result, x.size, record)
+        write(record, None)
+        spares.append(calls)
+        return result
     b, a, x = np.atleast_1d(b), np.atleast_1d(a), np.asarray(x)
     if b.ndim != 1 or a.ndim != 1 or not x.ndim or not b.size or not a.size or not x.size:
         raise _NotHere
@@ -85,12 +97,28 @@ def lfilter(b, a, x, axis=-1, zi=None):
     if len(a) == 1:
         return _moving_average(b / a[0], x, axis, zi, dtype)
     rows = last(x.astype(dtype, copy=False), axis)
-    record, run, read, write = filter_record(b, a, dtype, wide=False)
-    return _each_row(rows, axis, zi, (order,), dtype, record, run, read, write)
+    return _each_row(rows, axis, zi, (order,), dtype, filter_record, b, a)
 
 
-def _each_row(rows, axis, zi, shape, dtype, record, run, read, write):
-    """Every row through the record, from the state it has in zi."""
+@lru_cache(maxsize=32)
+def _spares(*key):
+    """Records that wait for the next call with the same taps, their state zero: making one takes as long as 3000 samples."""
+    return deque(maxlen=4)
+
+
+def _record(make, dtype, *taps):
+    """A record of the taps with its exports, and where to put them when they have been used."""
+    spares = _spares(make, dtype, *[x.tobytes() for x in taps], *[x.dtype for x in taps])
+    try:
+        return spares.pop(), spares
+    except IndexError:
+        return make(*taps, dtype, wide=False), spares
+
+
+def _each_row(rows, axis, zi, shape, dtype, make, *taps):
+    """Every row through the record of the taps, from the state it has in zi."""
+    calls, spares = _record(make, dtype, *taps)
+    record, run, read, write = calls
     result = np.empty_like(rows)
     n = rows.shape[-1]
     if zi is not None:
@@ -105,6 +133,8 @@ def _each_row(rows, axis, zi, shape, dtype, record, run, read, write):
         run(source, target, n, record)
         if zi is not None:
             read(record, final[i])
+    write(record, None)
+    spares.append(calls)
     result = back(result, axis)
     if zi is None:
         return result
@@ -164,7 +194,7 @@ def sosfilt(sos, x, axis=-1, zi=None):
     dtype = _common(sos, x) if zi is None else _common(sos, x, zi)
     axis = check_axis(axis, x.ndim)
     rows = last(x.astype(dtype, copy=False), axis)
-    return _each_row(rows, axis, zi, (len(sos), 2), dtype, *section_record(sos, dtype, wide=False))
+    return _each_row(rows, axis, zi, (len(sos), 2), dtype, section_record, sos)
 
 
 def _extended(x, padtype, padlen, axis, taps):
