@@ -199,3 +199,25 @@ def test_generators():
         assert (make(100, seed=7) == make(100, seed=7)).all() and (make(100, seed=7) != make(100, seed=8)).any() and make(0).size == 0
     noise_ = qvxs.uniform(10000, -2, 2, dtype="d")
     assert abs(noise_.std() - 4 / np.sqrt(12)) < 0.03 and noise_.min() >= -2 and noise_.max() <= 2
+
+
+def test_rows_of_a_batch():
+    rows, call = qvxs.raw.rows, qvxs.raw.qvxsAdd_64f
+    a, b = noise((50, 8), "d", 1), noise((50, 8), "d", 2)
+    wide = np.zeros((50, 20))
+    assert rows(call, (a, b[::-1], wide[:, 3:11]), 8) is None
+    assert (wide[:, 3:11] == a + b[::-1]).all() and not wide[:, 11:].any() and not wide[:, :3].any()
+    assert rows(call, (a[:0], b[:0], wide[:0]), 8) is None
+    packed = np.frombuffer(bytearray(60), np.uint8).reshape(5, 12)
+    for arguments, kind in (((call, (a, b, wide.T), 8), TypeError), ((call, (a, b[:49], wide), 8), ValueError), ((call, (a, b, wide), 9), ValueError),
+                            ((call, (a, b[:, ::2], wide), 4), TypeError), ((call, (a, b, wide), 8, 8), TypeError), ((call, (a, b), 8), TypeError),
+                            ((call, (a[0], b, wide), 8), TypeError), ((len, (a, b, wide), 8), TypeError), ((call, [a, b, wide], 8), TypeError),
+                            ((call, (a, b, None), 8), TypeError), ((call, (a.astype("f"), b, wide), 8), TypeError), ((call, (), 8), TypeError),
+                            ((call, (packed[:, 1:9].view("d"),) * 3, 1), TypeError), ((call, (a,) * 20, 8), TypeError), ((), TypeError), ((call,), TypeError)):
+        with pytest.raises(kind):
+            rows(*arguments)
+    fixed = np.zeros((50, 8))
+    fixed.flags.writeable = False
+    with pytest.raises(ValueError):
+        rows(call, (a, b, fixed), 8)
+    assert not fixed.any()
