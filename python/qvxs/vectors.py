@@ -264,14 +264,21 @@ def _reduction(name, stem, results, summary, example, overflow=False, widest=Fal
         if held is None or widest and held.target.kind == form.target.kind and form.target.itemsize > held.target.itemsize:
             best[form.source] = form
 
+    fewest = 2 if "StdDev" in stem else 1
+
     def function(x, axis=None):
         x = np.asarray(x)
         form = best.get(x.dtype)
+        if axis is None and form is not None and x.size >= fewest and x.flags.carray and form.target.kind == "f" and len(results) == 1:
+            # The usual call without the rows below.
+            made = np.empty(1, form.target)
+            form.call(*[x if p == "pSrc" else x.size if p == "len" else made if p == results[0] else 2 for p in form.parameters])
+            return made[0]
         if form is None:
             raise TypeError(f"{name} has no form for {x.dtype}")
         rows = contiguous(x).reshape(1, -1) if axis is None else last(x, check_axis(axis, x.ndim))
         shape = rows.shape[:-1] if axis is not None else ()
-        if rows.shape[-1] < (2 if "StdDev" in stem else 1):
+        if rows.shape[-1] < fewest:
             raise ValueError(f"{name} of {rows.shape[-1]} elements")
         rows = rows.reshape(-1, rows.shape[-1])
         made = [np.empty((len(rows), 1), np.int32 if "Indx" in result else form.target) for result in results]
@@ -418,6 +425,10 @@ def sort(x, axis=-1, descending=False, out=None):
     call = _SORTS[bool(descending)].get(x.dtype)
     if call is None:
         raise TypeError(f"sort has no form for {x.dtype}")
+    if x.ndim == 1 and x.size and axis in (0, -1, None) and out is None:
+        rows = x.copy()
+        call(rows, np.empty(x.size, x.dtype), x.size)
+        return rows
     if axis is None:
         x, axis = x.reshape(-1), -1
     axis = check_axis(axis, x.ndim)
