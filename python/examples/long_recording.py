@@ -1,6 +1,6 @@
 """Filters, resamples and measures a recording that is longer than the memory allowed, on a cluster of dask.
 
-    long_recording.py                           makes a recording of 10 minutes of 16-bit samples and works on it, two workers on this machine
+    long_recording.py                           makes a recording of an hour and works on it, two workers of 300 MB on this machine
     long_recording.py recording.raw --memory 400MB
     long_recording.py recording.raw --address tcp://scheduler:8786
 
@@ -91,7 +91,7 @@ def main():
     parser.add_argument("recording", nargs="?")
     parser.add_argument("--address", help="of a scheduler; workers must see the file and have this package")
     parser.add_argument("--memory", default="300MB", help="of each of the two local workers")
-    parser.add_argument("--minutes", type=int, default=10, help="of the recording that is made")
+    parser.add_argument("--minutes", type=int, default=60, help="of the recording that is made")
     parser.add_argument("--chunk", type=int, default=60 * RATE, help="samples")
     arguments = parser.parse_args()
     with tempfile.TemporaryDirectory() as folder:
