@@ -60,11 +60,65 @@ bool addExports(PyObject* module) {
   return true;
 }
 
+// A vector that moves over the rows of an array; nobody else ever sees it.
+PyArrayObject* firstRow(PyObject* object, npy_intp& rows) {
+  if (!PyArray_Check(object)) return PyErr_Format(PyExc_TypeError, "rows takes arrays"), nullptr;
+  auto* array = reinterpret_cast<PyArrayObject*>(object);
+  if (PyArray_NDIM(array) != 2 || (PyArray_DIM(array, 1) > 1 && PyArray_STRIDE(array, 1) != PyArray_ITEMSIZE(array)))
+    return PyErr_Format(PyExc_TypeError, "rows takes arrays of two axes, the second contiguous"), nullptr;
+  if (rows >= 0 && PyArray_DIM(array, 0) != rows)
+    return PyErr_Format(PyExc_ValueError, "arrays of different numbers of rows"), nullptr;
+  rows = PyArray_DIM(array, 0);
+  // A row is aligned where the first one and the step to the next are.
+  const bool steps = rows < 2 || PyArray_STRIDE(array, 0) % PyArray_DESCR(array)->alignment == 0;
+  if (!steps || !PyArray_ISALIGNED(array)) return PyErr_Format(PyExc_TypeError, "rows takes aligned arrays"), nullptr;
+  npy_intp length = PyArray_DIM(array, 1);
+  PyArray_Descr* type = PyArray_DESCR(array);
+  Py_INCREF(type);
+  return reinterpret_cast<PyArrayObject*>(PyArray_NewFromDescr(&PyArray_Type, type, 1, &length, nullptr, PyArray_DATA(array),
+                                                               PyArray_FLAGS(array) & NPY_ARRAY_WRITEABLE, nullptr));
+}
+
+PyObject* callRows(PyObject*, PyObject* const* arguments, Py_ssize_t count) {
+  constexpr Py_ssize_t kMost = 16;
+  if (count < 2 || count > kMost || Py_TYPE(arguments[0]) != &exportType || !PyTuple_Check(arguments[1]))
+    return PyErr_Format(PyExc_TypeError, "rows takes a function of this module, a tuple of arrays, and what comes after them");
+  const Export& e = rowOf(arguments[0]);
+  const Py_ssize_t vectors = PyTuple_GET_SIZE(arguments[1]);
+  if (vectors < 1 || vectors + count - 2 > kMost)
+    return PyErr_Format(PyExc_TypeError, "rows takes one array to %zd", kMost - count + 2);
+  PyObject* all[kMost] = {};
+  npy_intp rows = -1;
+  bool good = true;
+  for (Py_ssize_t i = 0; i < vectors && good; ++i) {
+    all[i] = reinterpret_cast<PyObject*>(firstRow(PyTuple_GET_ITEM(arguments[1], i), rows));
+    good = all[i] != nullptr;
+  }
+  for (Py_ssize_t i = 2; i < count; ++i) all[vectors + i - 2] = arguments[i];
+  for (npy_intp row = 0; row < rows && good; ++row) {
+    PyObject* none = callExport(e, all, vectors + count - 2);
+    good = none != nullptr;
+    Py_XDECREF(none);
+    for (Py_ssize_t i = 0; i < vectors; ++i) {
+      auto* whole = reinterpret_cast<PyArrayObject*>(PyTuple_GET_ITEM(arguments[1], i));
+      reinterpret_cast<PyArrayObject_fields*>(all[i])->data += PyArray_STRIDE(whole, 0);
+    }
+  }
+  for (Py_ssize_t i = 0; i < vectors; ++i) Py_XDECREF(all[i]);
+  if (!good) return nullptr;
+  Py_RETURN_NONE;
+}
+
+PyMethodDef methods[] = {
+    {"rows", reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(callRows)), METH_FASTCALL,
+     "rows(function, arrays, *rest): function(row of each array, *rest) for all rows of arrays of two axes."},
+    {nullptr, nullptr, 0, nullptr}};
+
 PyModuleDef definition = {PyModuleDef_HEAD_INIT,
                           "qvxs.raw",
                           "Every export of the library, by its name in C, with its arguments in C's order.",
                           -1,
-                          nullptr,
+                          methods,
                           nullptr,
                           nullptr,
                           nullptr,

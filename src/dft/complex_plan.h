@@ -1,4 +1,4 @@
-// Complex transforms of any length: what complex_32f.cpp and complex_64f.cpp compile.
+// Complex transforms of any length: what complex_plan_32f.cpp and complex_plan_64f.cpp compile.
 #pragma once
 
 #include "dft/convolution.h"

@@ -1,0 +1,308 @@
+"""Filters that keep their state between blocks: `process(block)` gives what one call on the whole signal would.
+
+    >>> import numpy as np
+    >>> from qvxs.streams import Fir
+    >>> fir = Fir([0.5, 0.5])
+    >>> fir.process([1., 3.]), fir.process([5.])
+    (array([0.5, 2. ]), array([4.]))
+
+Each object holds a record of the library and a lock: threads may share it, but the order of their blocks is theirs to keep. Blocks
+are vectors; they are converted to the dtype that the object was made for.
+"""
+
+import math
+import threading
+
+import numpy as np
+
+from . import raw
+from .rows import contiguous
+
+# The tail of an export's name by the samples' type: filters with taps of that type, and recursive ones, whose taps and memory are doubles.
+_SAME = {"f": "_32f", "d": "_64f", "F": "_32fc", "D": "_64fc"}
+_WIDE = {"f": "64f_32f", "d": "_64f", "F": "64fc_32fc", "D": "_64fc"}
+
+
+def _tail(dtype, tails):
+    try:
+        return tails[np.dtype(dtype).char]
+    except KeyError:
+        raise TypeError(f"filters take float32, float64, complex64 and complex128, not {np.dtype(dtype)}") from None
+
+
+def _wide(dtype):
+    return np.complex128 if np.dtype(dtype).kind == "c" else np.float64
+
+
+def _calls(tail):
+    return tuple(getattr(raw, f"qvxsIIR{what}{tail}") for what in ("", "GetDlyLine", "SetDlyLine"))
+
+
+def filter_record(b, a, dtype, wide=True):
+    """A record of the direct form and the exports that run it, read its state and write it.
+
+    wide: taps and state are doubles; else they are of the samples' type: 3.4 ns a sample of float32 at order 4, 10 through doubles.
+    """
+    tail = _tail(dtype, _WIDE if wide else _SAME)
+    order = max(len(a), len(b)) - 1
+    taps = np.zeros(2 * (order + 1), _wide(dtype) if wide else dtype)
+    taps[:len(b)] = b
+    taps[order + 1:order + 1 + len(a)] = a
+    return getattr(raw, "qvxsIIRInitAlloc" + tail)(taps, order, None), *_calls(tail)
+
+
+def section_record(sos, dtype, wide=True):
+    """The same for second-order sections."""
+    tail = _tail(dtype, _WIDE if wide else _SAME)
+    stem, _, samples = tail.partition("_")
+    taps = contiguous(sos, _wide(dtype) if wide else dtype).reshape(-1)
+    return getattr(raw, f"qvxsIIRInitAlloc{stem}_BiQuad_{samples}")(taps, len(taps) // 6, None), *_calls(tail)
+
+
+class _Stream:
+    """What all have: a lock, the dtype, blocks made into vectors of it."""
+
+    def __init__(self, dtype):
+        self.dtype = np.dtype(dtype)
+        self._lock = threading.Lock()
+
+    def _vector(self, block):
+        if self.dtype.kind == "f" and np.iscomplexobj(block):
+            raise TypeError(f"this stream is of {self.dtype}, the block is complex")
+        block = contiguous(block, self.dtype)
+        if block.ndim != 1:
+            raise ValueError(f"a block is a vector, not an array of shape {block.shape}")
+        return block
+
+    def __getstate__(self):
+        raise TypeError(f"a {type(self).__name__} is not copied: take its state")
+
+
+class Fir(_Stream):
+    """A FIR filter of a stream: taps as of lfilter(taps, 1, x). Exports: qvxsFIRInitAlloc_ and qvxsFIR_ of 32f, 64f, 32fc, 64fc.
+
+    state: the last len(taps) samples, newest first, to be read and set.
+    """
+
+    def __init__(self, taps, dtype=None):
+        taps = np.atleast_1d(taps)
+        super().__init__(np.result_type(taps, np.float32) if dtype is None else dtype)
+        tail = _tail(self.dtype, _SAME)
+        self._taps = len(taps)
+        self._record = getattr(raw, "qvxsFIRInitAlloc" + tail)(contiguous(taps, self.dtype), len(taps), None)
+        self._run, self._read, self._write = (getattr(raw, f"qvxsFIR{what}{tail}") for what in ("", "GetDlyLine", "SetDlyLine"))
+
+    def process(self, block, out=None):
+        """The outputs for the next samples, as many."""
+        block = self._vector(block)
+        result = np.empty_like(block) if out is None else out
+        if block.size:
+            with self._lock:
+                self._run(block, result, block.size, self._record)
+        return result
+
+    def reset(self):
+        """Begins anew, after zeros."""
+        with self._lock:
+            self._write(self._record, None)
+
+    @property
+    def state(self):
+        line = np.empty(self._taps, self.dtype)
+        with self._lock:
+            self._read(self._record, line)
+        return line
+
+    @state.setter
+    def state(self, line):
+        line = self._vector(line)
+        if line.size != self._taps:
+            raise ValueError(f"the state has {self._taps} samples, not {line.size}")
+        with self._lock:
+            self._write(self._record, line)
+
+
+class _Recursive(_Stream):
+    def _begin(self, memory, calls):
+        self._memory = memory
+        self._record, self._run, self._read, self._write = calls
+
+    def process(self, block, out=None):
+        """The outputs for the next samples, as many."""
+        block = self._vector(block)
+        result = np.empty_like(block) if out is None else out
+        if block.size:
+            with self._lock:
+                self._run(block, result, block.size, self._record)
+        return result
+
+    def reset(self):
+        """Begins anew, after zeros."""
+        with self._lock:
+            self._write(self._record, None)
+
+    @property
+    def state(self):
+        line = np.empty(self._memory, _wide(self.dtype))
+        with self._lock:
+            self._read(self._record, line.reshape(-1))
+        return line
+
+    @state.setter
+    def state(self, line):
+        line = contiguous(line, _wide(self.dtype))
+        if line.shape != self._memory:
+            raise ValueError(f"the state has the shape {self._memory}, not {line.shape}")
+        with self._lock:
+            self._write(self._record, line.reshape(-1))
+
+
+class Iir(_Recursive):
+    """A recursive filter of a stream: taps as of lfilter(b, a, x). Exports: qvxsIIRInitAlloc, qvxsIIR of 64f_32f, 64f, 64fc_32fc, 64fc.
+
+    state: what lfilter calls zi, in doubles.
+
+        >>> iir = Iir([1.], [1, -0.5])
+        >>> iir.process([1., 0]), iir.process([0., 0])
+        (array([1. , 0.5]), array([0.25 , 0.125]))
+    """
+
+    def __init__(self, b, a, dtype=None):
+        b, a = np.atleast_1d(b), np.atleast_1d(a)
+        super().__init__(np.result_type(b, a, np.float32) if dtype is None else dtype)
+        order = max(len(a), len(b)) - 1
+        if order < 1:
+            raise ValueError("a filter of order 0 is a factor")
+        self._begin((order,), filter_record(b, a, self.dtype))
+
+
+class Sos(_Recursive):
+    """Second-order sections of a stream, as sosfilt; b0 of each must not be 0. Exports: qvxsIIRInitAlloc_BiQuad_, qvxsIIR_.
+
+    state: what sosfilt calls zi, (sections, 2), in doubles.
+
+        >>> Sos([[1., 0, 0, 1, -0.5, 0]]).process([1., 0, 0])
+        array([1.  , 0.5 , 0.25])
+    """
+
+    def __init__(self, sos, dtype=None):
+        sos = np.atleast_2d(sos)
+        if sos.ndim != 2 or sos.shape[1] != 6:
+            raise ValueError("sos array must be shape (n_sections, 6)")
+        super().__init__(np.result_type(sos, np.float32) if dtype is None else dtype)
+        self._begin((len(sos), 2), section_record(sos, self.dtype))
+
+
+class Resampler(_Stream):
+    """Resampling of a stream by up / down through taps, as upfirdn; what is due later comes with later blocks or with `flush`.
+
+    taps: None for those of resample_poly. Exports: qvxsFIRMRInitAlloc_ and qvxsFIR_ of 32f, 64f, 32fc, 64fc.
+
+        >>> double = Resampler(2, 1, [1., 1])
+        >>> double.process([1., 2.]), double.process([3.])
+        (array([1., 1., 2., 2.]), array([3., 3.]))
+    """
+
+    def __init__(self, up, down, taps=None, dtype=None):
+        common = math.gcd(up, down)
+        self.up, self.down = up // common, down // common
+        if taps is None:
+            from .signal import resampling_taps
+            rate = max(self.up, self.down)
+            taps = resampling_taps(rate) * self.up if rate > 1 else np.ones(1)
+        taps = np.atleast_1d(taps)
+        super().__init__(np.result_type(taps, np.float32) if dtype is None else dtype)
+        self._tail = _tail(self.dtype, _SAME)
+        self.taps = contiguous(taps, self.dtype)
+        self._run = getattr(raw, "qvxsFIR" + self._tail)
+        self.reset()
+
+    def reset(self):
+        """Begins anew, after zeros."""
+        with self._lock:
+            self._record = getattr(raw, "qvxsFIRMRInitAlloc" + self._tail)(self.taps, len(self.taps), self.up, 0, self.down, 0, None)
+            self._waiting = np.empty(0, self.dtype)  # fewer than down samples
+            self._taken = self._given = 0
+
+    @property
+    def state(self):
+        """All that the next outputs depend on: the delay line, the samples that wait for their group, and the counts."""
+        line = np.empty((len(self.taps) + self.up - 1) // self.up, self.dtype)
+        with self._lock:
+            getattr(raw, "qvxsFIRGetDlyLine" + self._tail)(self._record, line)
+            return line, self._waiting.copy(), self._taken, self._given
+
+    @state.setter
+    def state(self, state):
+        line, waiting, taken, given = state
+        with self._lock:
+            getattr(raw, "qvxsFIRSetDlyLine" + self._tail)(self._record, self._vector(line))
+            self._waiting, self._taken, self._given = waiting.copy(), taken, given
+
+    def _groups(self, samples):
+        groups = samples.size // self.down
+        result = np.empty(groups * self.up, self.dtype)
+        if groups:
+            self._run(contiguous(samples[:groups * self.down]), result, groups, self._record)
+        return result
+
+    def process(self, block):
+        """The outputs of the groups of `down` samples that are complete."""
+        block = self._vector(block)
+        with self._lock:
+            samples = np.concatenate((self._waiting, block)) if self._waiting.size else block
+            self._taken += block.size
+            result = self._groups(samples)
+            self._waiting = samples[samples.size - samples.size % self.down:].copy()
+            self._given += result.size
+        return result
+
+    def flush(self):
+        """The rest of the outputs, as upfirdn has them, after zeros; the stream begins anew."""
+        with self._lock:
+            wanted = ((self._taken - 1) * self.up + len(self.taps) - 1) // self.down + 1 if self._taken else 0
+            missing = max(wanted - self._given, 0)
+            zeros = np.zeros(-(-missing // self.up) * self.down, self.dtype)
+            zeros[:self._waiting.size] = self._waiting[:zeros.size]
+            result = self._groups(zeros)[:missing]
+        self.reset()
+        return result
+
+
+class Lms(_Stream):
+    """An adaptive FIR filter of float32 samples: its taps follow a reference by the least-mean-squares rule.
+
+    taps: a number of zeros, or the first taps; step: the step size. Exports: qvxsFIRLMSInitAlloc_32f, qvxsFIRLMS_32f.
+
+        >>> rng = np.random.default_rng(1)
+        >>> x = rng.standard_normal(4000).astype(np.float32)
+        >>> lms = Lms(2, 0.01)
+        >>> _ = lms.process(x, 0.5 * x)
+        >>> lms.taps.round(3) + 0
+        array([0.5, 0. ], dtype=float32)
+    """
+
+    def __init__(self, taps, step):
+        super().__init__(np.float32)
+        first = np.zeros(taps, np.float32) if np.ndim(taps) == 0 else contiguous(taps, np.float32)
+        self.step = step
+        self._taps = len(first)
+        self._record = raw.qvxsFIRLMSInitAlloc_32f(first, len(first), None, 0)
+
+    def process(self, block, reference):
+        """The outputs for the next samples, each of the taps that the one before has left."""
+        block, reference = self._vector(block), self._vector(reference)
+        if block.shape != reference.shape:
+            raise ValueError(f"the block has {block.size} samples, the reference {reference.size}")
+        result = np.empty_like(block)
+        if block.size:
+            with self._lock:
+                raw.qvxsFIRLMS_32f(block, reference, result, block.size, self._record, self.step)
+        return result
+
+    @property
+    def taps(self):
+        taps = np.empty(self._taps, np.float32)
+        with self._lock:
+            raw.qvxsFIRLMSGetTaps_32f(self._record, taps)
+        return taps

@@ -1,0 +1,223 @@
+"""Vectors by stem beside NumPy and beside their definitions in wide integers."""
+
+import warnings
+
+import numpy as np
+import pytest
+
+import qvxs
+import qvxs.signal
+
+LENGTHS = (1, 2, 7, 16, 33, 1000)
+INTEGERS = (np.uint8, np.int16, np.uint16, np.int32)
+FLOATS = (np.float32, np.float64, np.complex64, np.complex128)
+
+
+def noise(shape, dtype, seed=1):
+    rng = np.random.default_rng(seed)
+    dtype = np.dtype(dtype)
+    if dtype.kind in "iu":
+        return rng.integers(np.iinfo(dtype).min, np.iinfo(dtype).max, shape, dtype, endpoint=True)
+    x = rng.standard_normal(shape)
+    return (x + 1j * rng.standard_normal(shape) if dtype.kind == "c" else x).astype(dtype)
+
+
+def scaled(exact, scale, dtype):
+    """Exact integers times 2^-scale, rounded to nearest with ties to even, saturated."""
+    limits = np.iinfo(dtype)
+    rounded = [value << -scale if scale <= 0 else _halves_to_even(value, scale) for value in exact]
+    return np.array([min(max(value, limits.min), limits.max) for value in rounded], dtype)
+
+
+def _halves_to_even(value, scale):
+    whole, rest = divmod(value, 1 << scale)
+    half = 1 << (scale - 1)
+    return whole + (rest > half or rest == half and whole % 2)
+
+
+@pytest.mark.parametrize("dtype", INTEGERS)
+@pytest.mark.parametrize("scale", [-2, 0, 1, 5])
+def test_scaled_integers(dtype, scale):
+    a, b = noise(500, dtype, 1), noise(500, dtype, 2)
+    wide = list(zip(a.tolist(), b.tolist()))
+    assert (qvxs.add(a, b, scale) == scaled([x + y for x, y in wide], scale, dtype)).all()
+    assert (qvxs.subtract(a, b, scale) == scaled([x - y for x, y in wide], scale, dtype)).all()
+    assert (qvxs.multiply(a, b, scale) == scaled([x * y for x, y in wide], scale, dtype)).all()
+    assert (qvxs.add(a, 7, scale) == scaled([x + 7 for x, _ in wide], scale, dtype)).all()
+    assert (qvxs.subtract(7, a, scale) == scaled([7 - x for x, _ in wide], scale, dtype)).all()
+
+
+@pytest.mark.parametrize("dtype", FLOATS)
+def test_floats_are_numpys(dtype):
+    for n in LENGTHS:
+        a, b = noise(n, dtype, 1), noise(n, dtype, 2)
+        for name in ("add", "subtract", "multiply", "divide"):
+            ours, theirs = getattr(qvxs, name)(a, b), getattr(np, name)(a, b)
+            assert ours.dtype == theirs.dtype
+            if np.dtype(dtype).kind == "f" or name in ("add", "subtract"):
+                assert (ours == theirs).all(), name
+            else:
+                assert np.allclose(ours, theirs, rtol=1e-5 if np.dtype(dtype) == np.complex64 else 1e-13)
+        for number in (2, dtype(3)):
+            assert np.allclose(qvxs.subtract(number, a), number - a) and np.allclose(qvxs.divide(a, number), a / number)
+
+
+@pytest.mark.parametrize("name", ["add", "subtract", "multiply", "divide", "maximum"])
+def test_shapes(name):
+    ours, theirs = getattr(qvxs, name), getattr(np, name)
+    a = noise((6, 5, 4), "d")
+    for x, y in ((a, a[:, ::-1]), (a[::2], a[1::2]), (a.T, a.T), (a, a[0]), (a[:, :1], a[:1]), (a, 2), (3, a), (np.float64(2), a),
+                 (a[0, 0], a), (a[:0], a[:0]), (a, np.float32(2)), (np.asfortranarray(a), a), (a[:4, :4, 0], a[:4, :4, 0].T)):
+        assert (ours(x, y) == theirs(x, y)).all() and ours(x, y).shape == theirs(x, y).shape
+    with pytest.raises(ValueError):
+        ours(a, a[:, :3])
+    b = np.arange(1.0, 7)
+    assert (ours(b.reshape(2, 3).T, b.reshape(3, 2)) == theirs(b.reshape(2, 3).T, b.reshape(3, 2))).all()
+
+
+def test_arrays_out_of_alignment():
+    x = np.frombuffer(b"_" + noise(100, "d").tobytes(), "d", offset=1)
+    assert not x.flags.aligned
+    assert (qvxs.add(x, x) == 2 * x).all() and (qvxs.sort(x) == np.sort(x)).all() and qvxs.max(x) == x.max()
+    assert np.allclose(qvxs.fft.rfft(x), np.fft.rfft(x)) and np.allclose(qvxs.signal.lfilter([1.0], [1, -0.5], x)[1], x[1] + x[0] / 2)
+
+
+def test_out():
+    a, b = noise(100, "f", 1), noise(100, "f", 2)
+    out = np.empty(100, "f")
+    assert qvxs.add(a, b, out=out) is out and (out == a + b).all()
+    wide = np.empty((100, 2))
+    assert (qvxs.add(a, b, out=wide[:, 0]) == a + b).all() and (wide[:, 0] == a + b).all()
+    long = noise(101, "f")
+    expected = long[:-1] + long[1:]
+    assert (qvxs.add(long[:-1], long[1:], out=long[1:]) == expected).all()
+    with pytest.raises(ValueError):
+        qvxs.add(a, b, out=np.empty(99, "f"))
+    with pytest.raises(TypeError):
+        qvxs.add(a, b, out=np.empty(100, np.int16))
+
+
+def test_types_without_an_export():
+    for call in (lambda: qvxs.exp(np.int8([1])), lambda: qvxs.add(np.float16([1]), np.float16([1])), lambda: qvxs.sort(np.int64([2, 1])),
+                 lambda: qvxs.add(np.float32([1]), np.float32([1]), scale=1), lambda: qvxs.add(["a"], ["b"]), lambda: qvxs.max(np.uint8([1])),
+                 lambda: qvxs.convert(np.float32([1]), np.int64)):
+        with pytest.raises(TypeError):
+            call()
+
+
+def test_other_results():
+    a, b = noise(50, np.int16, 1), noise(50, np.int16, 2)
+    assert (qvxs.add(a, b, dtype=np.float32) == a.astype("f") + b).all()
+    assert (qvxs.multiply(a, b, dtype=np.int32) == a.astype("i") * b).all()
+    c = np.zeros(3, qvxs.complex_int16)
+    c["re"], c["im"] = (1, 2, 30000), (4, 5, 6)
+    total = qvxs.add(c, c)
+    assert total["re"].tolist() == [2, 4, 32767] and total["im"].tolist() == [8, 10, 12]
+
+
+@pytest.mark.parametrize("dtype", ["f", "d"])
+def test_elementary_functions(dtype):
+    x = noise(1000, dtype) * 5
+    near = {"rtol": 4 * np.finfo(dtype).eps}
+    assert np.allclose(qvxs.exp(x), np.exp(x), **near) and np.allclose(qvxs.arctan(x), np.arctan(x), **near)
+    assert np.allclose(qvxs.log(np.abs(x)), np.log(np.abs(x)), atol=1e-7 if dtype == "f" else 1e-15, **near)
+    assert (qvxs.sqrt(np.abs(x)) == np.sqrt(np.abs(x))).all() and (qvxs.absolute(x) == np.abs(x)).all()
+    z = noise(1000, "F" if dtype == "f" else "D")
+    assert np.allclose(qvxs.magnitude(z), np.abs(z), **near) and (qvxs.conjugate(z) == z.conj()).all()
+    assert (qvxs.clip(x, -1, 2) == np.clip(x, -1, 2)).all() and (qvxs.threshold_lt(x, 0.5) == np.maximum(x, dtype and np.dtype(dtype).type(0.5))).all()
+
+
+def test_warnings():
+    with pytest.warns(qvxs.Warning):
+        assert qvxs.divide(np.int16([5]), np.int16([0]))[0] == 32767
+    with pytest.warns(qvxs.Warning):
+        assert np.isnan(qvxs.sqrt(np.float32([-1]))[0])
+    with warnings.catch_warnings():
+        warnings.simplefilter("error")
+        with pytest.raises(qvxs.Warning):
+            qvxs.log(np.float32([-1]))
+
+
+@pytest.mark.parametrize("dtype", ["f", "d", np.int16, np.int32])
+def test_statistics(dtype):
+    x = noise((5, 300), dtype)
+    if x.dtype.kind == "i":
+        x //= 4000 if dtype is np.int16 else 2**24
+    for axis in (None, 0, 1, -1):
+        assert np.allclose(qvxs.sum(x, axis), x.sum(axis, dtype="d"), rtol=1e-5, atol=1e-3)
+        assert (qvxs.max(x, axis) == x.max(axis)).all() and (qvxs.min(x, axis) == x.min(axis)).all()
+        if x.dtype.kind == "f":
+            assert np.allclose(qvxs.std(x, axis), x.std(axis), rtol=1e-5) and np.allclose(qvxs.std(x, axis, 1), x.std(axis, ddof=1), rtol=1e-5)
+            assert np.allclose(qvxs.mean(x, axis), x.mean(axis), atol=1e-6)
+    flat = x.reshape(-1)
+    lowest, where, _, _ = qvxs.min_max_index(x)
+    assert flat[where] == lowest == flat.min() and where == flat.argmin()
+    for empty in (qvxs.sum, qvxs.mean, qvxs.max):
+        with pytest.raises(ValueError):
+            empty(x[:0])
+
+
+def test_sums_do_not_saturate_without_a_word():
+    with pytest.raises(OverflowError):
+        qvxs.sum(np.full(3, 2**30, np.int32))
+    assert qvxs.sum(np.full(60000, 32767, np.int16)) == 60000 * 32767
+    assert qvxs.dot(np.full(10**5, 32767, np.int16), np.full(10**5, -32768, np.int16)) == -(10**5) * 32767 * 32768
+
+
+def test_conversion():
+    x = np.float32([0.5, 1.5, -2.5, 300, np.nan])
+    assert qvxs.convert(x, np.uint8).tolist() == [0, 2, 0, 255, 0]
+    assert qvxs.convert(x, np.int16, rounding="away").tolist()[:3] in ([1, 2, -3],)
+    assert qvxs.convert(x, np.int16, rounding="zero").tolist()[:3] == [0, 1, -2]
+    whole = np.int32([-8388608, 8388607, -1, 12345])
+    packed = qvxs.convert(whole, "24s")
+    assert packed.shape == (4, 3) and (qvxs.convert(packed, ("24s", np.int32)) == whole).all()
+    assert (qvxs.convert(np.float16([1.5, -2]), np.float32) == [1.5, -2]).all()
+    codes = np.arange(256, dtype=np.uint8)
+    assert (qvxs.linear_to_a_law(qvxs.a_law_to_linear(codes)) == codes).all()
+
+
+@pytest.mark.parametrize("dtype", [np.uint8, np.int16, np.uint16, np.int32, np.uint32, "f", "d"])
+def test_sorting(dtype):
+    for shape, axis in (((0,), -1), ((1,), 0), ((1000,), -1), ((20, 30), 0), ((20, 30), 1), ((20, 30), None)):
+        x = noise(shape, dtype)
+        assert (qvxs.sort(x, axis) == np.sort(x, axis)).all()
+        down = qvxs.sort(x, axis, descending=True)
+        assert (np.flip(down, axis if axis is not None else 0) == np.sort(x, axis)).all()
+        if dtype != "d":
+            x = x // 64 if x.dtype.kind in "iu" else x.round() + 0  # the library tells -0 from 0
+            assert (qvxs.argsort(x, axis) == np.argsort(x, axis, kind="stable")).all()
+
+
+def test_generators():
+    n = np.arange(1000)
+    for dtype in ("f", "d", "D"):
+        theirs = 3 * np.exp(1j * (2 * np.pi * 0.01 * n + 0.5))
+        assert np.allclose(qvxs.tone(1000, 3, 0.01, 0.5, dtype), theirs if dtype == "D" else theirs.real, atol=1e-5)
+    assert (qvxs.ramp(300, -5, 2, np.int8) == np.clip(-5 + 2 * n[:300], -128, 127)).all()
+    for make in (qvxs.uniform, qvxs.gauss):
+        assert (make(100, seed=7) == make(100, seed=7)).all() and (make(100, seed=7) != make(100, seed=8)).any() and make(0).size == 0
+    noise_ = qvxs.uniform(10000, -2, 2, dtype="d")
+    assert abs(noise_.std() - 4 / np.sqrt(12)) < 0.03 and noise_.min() >= -2 and noise_.max() <= 2
+
+
+def test_rows_of_a_batch():
+    rows, call = qvxs.raw.rows, qvxs.raw.qvxsAdd_64f
+    a, b = noise((50, 8), "d", 1), noise((50, 8), "d", 2)
+    wide = np.zeros((50, 20))
+    assert rows(call, (a, b[::-1], wide[:, 3:11]), 8) is None
+    assert (wide[:, 3:11] == a + b[::-1]).all() and not wide[:, 11:].any() and not wide[:, :3].any()
+    assert rows(call, (a[:0], b[:0], wide[:0]), 8) is None
+    packed = np.frombuffer(bytearray(60), np.uint8).reshape(5, 12)
+    for arguments, kind in (((call, (a, b, wide.T), 8), TypeError), ((call, (a, b[:49], wide), 8), ValueError), ((call, (a, b, wide), 9), ValueError),
+                            ((call, (a, b[:, ::2], wide), 4), TypeError), ((call, (a, b, wide), 8, 8), TypeError), ((call, (a, b), 8), TypeError),
+                            ((call, (a[0], b, wide), 8), TypeError), ((len, (a, b, wide), 8), TypeError), ((call, [a, b, wide], 8), TypeError),
+                            ((call, (a, b, None), 8), TypeError), ((call, (a.astype("f"), b, wide), 8), TypeError), ((call, (), 8), TypeError),
+                            ((call, (packed[:, 1:9].view("d"),) * 3, 1), TypeError), ((call, (a,) * 20, 8), TypeError), ((), TypeError), ((call,), TypeError)):
+        with pytest.raises(kind):
+            rows(*arguments)
+    fixed = np.zeros((50, 8))
+    fixed.flags.writeable = False
+    with pytest.raises(ValueError):
+        rows(call, (a, b, fixed), 8)
+    assert not fixed.any()
