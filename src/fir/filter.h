@@ -8,9 +8,68 @@
 
 namespace qvx::fir {
 
+// ---- by partitions
+
+// Filters samples that are copied to the end of the window first, so src may be dst. The window moves on in its memory, and back
+// to the beginning when it comes to the end.
+template <class C, class T> void throughPartitions(FloatRecord<C>& state, const T* src, T* dst, size_t n, int scaleFactor) {
+  Partitions<C>& partitions = state.partitions;
+  const auto taps = static_cast<size_t>(state.tapsLen);
+  const size_t length = partitions.length;
+  const C* const first = state.taps + taps - length;
+  const Call call = callOf(n);
+  for (size_t some; n > 0; n -= some, src += some, dst += some) {
+    const size_t filled = partitions.filled;
+    some = std::min(n, length - filled);
+    if (static_cast<size_t>(state.delay.index) + taps + some + kVectorElements<C> > state.windowLen(taps)) {
+      state.delay.settled(state.tapsLen);
+    }
+    C* const fresh = state.delay.window + state.delay.index + taps;
+    toKernel(src, some, fresh);
+    state.delay.index += static_cast<int>(some);
+    if (some == length) {
+      partitions.take(fresh + length);
+      partitions.addUp(0);
+      toSamples(partitions.block + length, length, dst, scaleFactor);
+      continue;
+    }
+    if (filled == 0) partitions.addUp(1);
+    const C* const tail = partitions.block + length + filled;
+    if (some < kVectorElements<C>) std::fill_n(fresh + some, kVectorElements<C> - some, C{});
+    if constexpr (std::is_same_v<C, T>) {
+      convolve(fresh - (length - 1), first, length, some, dst, call);
+      addTo(dst, tail, some);
+    } else {
+      convolve(fresh - (length - 1), first, length, some, partitions.spectrum, call);
+      addTo(partitions.spectrum, tail, some);
+      toSamples(partitions.spectrum, some, dst, scaleFactor);
+    }
+    partitions.filled += some;
+    if (filled + some < length) continue;
+    partitions.take(fresh + some);
+    partitions.filled = 0;
+  }
+}
+
+// The samples of a call from which the long transform is faster: most of those that fill one.
+template <class C> size_t mostPartitioned(const FloatRecord<C>& state) {
+  return static_cast<size_t>(state.spectral.length - state.tapsLen) / 4 * 3;
+}
+
+// Whether a call of n samples goes that way, for which the spectra are made where they are missing.
+template <class C> bool takesPartitions(FloatRecord<C>& state, size_t n) {
+  if (!state.partitions.exists || n >= mostPartitioned(state)) return false;
+  if (!state.partitions.isLive) state.delay.settled(state.tapsLen);
+  return state.partitions.serve(n, state.taps, state.delay.window + state.delay.index, static_cast<size_t>(state.tapsLen));
+}
+
 // ---- one sample
 
 template <class C, class T> void oneSample(FloatRecord<C>& state, T x, T* y, int scaleFactor) {
+  if constexpr (kHasPartitions<C>) {
+    if (state.partitions.isLive) return throughPartitions(state, &x, y, 1, scaleFactor);
+    state.partitions.forgetSamples();
+  }
   const C* window = state.delay.push(elementAs<C>(x), state.tapsLen);
   const C sum = dot(window, state.taps, state.tapsLen);
   toSamples(&sum, 1, y, scaleFactor);
@@ -124,9 +183,13 @@ template <class S> bool takesTransform(const S& state, size_t n) {
 // src may be dst.
 template <class S>
 QvxStatus filterBlock(S& state, const typename S::Sample* src, typename S::Sample* dst, size_t n, int scaleFactor) {
+  if constexpr (kHasPartitions<typename S::Kernel>) {
+    if (takesPartitions(state, n)) return throughPartitions(state, src, dst, n, scaleFactor), qvxStatOk;
+  }
   state.delay.settled(state.tapsLen);
   if constexpr (!std::is_integral_v<Part<typename S::Kernel>>) {
     if (takesTransform(state, n)) {
+      state.partitions.forgetSamples();
       return overlapSave(state.spectral, static_cast<size_t>(state.tapsLen), state.delay.window, src, dst, n, scaleFactor);
     }
   }
