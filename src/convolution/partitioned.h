@@ -25,7 +25,6 @@ template <class C> inline constexpr bool kHasPartitions = std::is_same_v<C, Qvx3
 template <class T> struct Partitions {
   using Spec = typename fft::Transform<T>::Spec;
 
-  bool exists;
   bool hasTaps;    // the spectra are those of the taps
   bool isLive;     // and of the samples
   T* taps;         // the spectra of the partitions
@@ -49,8 +48,7 @@ template <class T> struct Partitions {
   static size_t mostPoints(size_t tapsLen) { return std::clamp(std::bit_floor(tapsLen) / 2, size_t{512}, kMostPoints); }
   size_t points() const { return 2 * length; }
 
-  // After a change of the taps, or of the samples but by calls of what is below.
-  void forgetTaps() { hasTaps = false, forgetSamples(); }
+  // After samples that took another way.
   void forgetSamples() { isLive = false, pending = 0; }
 
   // Whether there are spectra for a call of so many samples that are, or have become, worth the time to make them. window: of the

@@ -21,10 +21,9 @@ template <class C> void place(FloatRecord<C>& record, Carver& carver, const fft:
   fft::Transform<C>::kInit(&spectral.spec, transform.order, fft::kInverseDivides, 0, specMemory, initMemory);
   if constexpr (kHasPartitions<C>) {
     if (record.tapsLen < kLeastPartitioned) return;
-    Partitions<C>& partitions = record.partitions;
-    const auto taps = static_cast<size_t>(record.tapsLen);
-    const auto most = static_cast<int64_t>(partitions.mostPoints(taps));
-    partitions.exists = true;
+    record.partitions = carver.take<Partitions<C>>(1);
+    Partitions<C>& partitions = *record.partitions = {};
+    const auto most = static_cast<int64_t>(partitions.mostPoints(static_cast<size_t>(record.tapsLen)));
     partitions.taps = carver.takeLines<C>(2 * record.tapsLen + most);
     partitions.samples = carver.takeLines<C>(2 * record.tapsLen + most);
     partitions.block = carver.takeLines<C>(most);

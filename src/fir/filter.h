@@ -10,10 +10,12 @@ namespace qvx::fir {
 
 // ---- by partitions
 
+template <class C> bool isLive(const FloatRecord<C>& state) { return !isNull(state.partitions) && state.partitions->isLive; }
+
 // Filters samples that are copied to the end of the window first, so src may be dst. The window moves on in its memory, and back
 // to the beginning when it comes to the end.
 template <class C, class T> void throughPartitions(FloatRecord<C>& state, const T* src, T* dst, size_t n, int scaleFactor) {
-  Partitions<C>& partitions = state.partitions;
+  Partitions<C>& partitions = *state.partitions;
   const auto taps = static_cast<size_t>(state.tapsLen);
   const size_t length = partitions.length;
   const C* const first = state.taps + taps - length;
@@ -58,17 +60,17 @@ template <class C> size_t mostPartitioned(const FloatRecord<C>& state) {
 
 // Whether a call of n samples goes that way, for which the spectra are made where they are missing.
 template <class C> bool takesPartitions(FloatRecord<C>& state, size_t n) {
-  if (!state.partitions.exists || n >= mostPartitioned(state)) return false;
-  if (!state.partitions.isLive) state.delay.settled(state.tapsLen);
-  return state.partitions.serve(n, state.taps, state.delay.window + state.delay.index, static_cast<size_t>(state.tapsLen));
+  if (isNull(state.partitions) || n >= mostPartitioned(state)) return false;
+  if (!isLive(state)) state.delay.settled(state.tapsLen);
+  return state.partitions->serve(n, state.taps, state.delay.window + state.delay.index, static_cast<size_t>(state.tapsLen));
 }
 
 // ---- one sample
 
 template <class C, class T> void oneSample(FloatRecord<C>& state, T x, T* y, int scaleFactor) {
   if constexpr (kHasPartitions<C>) {
-    if (state.partitions.isLive) return throughPartitions(state, &x, y, 1, scaleFactor);
-    state.partitions.forgetSamples();
+    if (isLive(state)) return throughPartitions(state, &x, y, 1, scaleFactor);
+    state.forgetSamples();
   }
   const C* window = state.delay.push(elementAs<C>(x), state.tapsLen);
   const C sum = dot(window, state.taps, state.tapsLen);
@@ -189,7 +191,7 @@ QvxStatus filterBlock(S& state, const typename S::Sample* src, typename S::Sampl
   state.delay.settled(state.tapsLen);
   if constexpr (!std::is_integral_v<Part<typename S::Kernel>>) {
     if (takesTransform(state, n)) {
-      state.partitions.forgetSamples();
+      state.forgetSamples();
       return overlapSave(state.spectral, static_cast<size_t>(state.tapsLen), state.delay.window, src, dst, n, scaleFactor);
     }
   }

@@ -22,12 +22,17 @@ template <class C> struct FloatRecord : RecordHead {
   DelayLine<C> delay;
   C* taps;  // reversed
   SpectralFilter<C> spectral;
-  Partitions<C> partitions;  // of filters that have a spectrum
+  Partitions<C>* partitions;  // null: none
 
-  // For whatever filters without the partitions: their spectra are no longer those of the samples.
+  // Before whatever filters by other ways: the partitions' spectra are no longer those of the samples.
   void settle() {
     delay.settled(tapsLen);
-    partitions.forgetSamples();
+    forgetSamples();
+  }
+  void forgetSamples() {
+    if constexpr (kHasPartitions<C>) {
+      if (!isNull(partitions)) partitions->forgetSamples();
+    }
   }
 };
 
