@@ -9,7 +9,7 @@ namespace {
 // real numbers, the first and the last of the spectrum.
 inline constexpr size_t kVectors = kHasMasks ? 4 : kFuses ? 2 : 1;  // of each part in a slice
 
-template <class T> inline constexpr size_t kSlice = 2 * kVectors * kVectorElements<T>;  // numbers
+template <class T> inline constexpr size_t kSlice = 2 * kVectors* kVectorElements<T>;  // numbers
 
 // From the packed spectrum of a transform to the place `slot` among `count`.
 template <class T> void place(const T* packed, size_t points, T* spectra, size_t count, size_t slot) {
@@ -26,9 +26,7 @@ template <class T> void place(const T* packed, size_t points, T* spectra, size_t
 }
 
 // Products of parts, kept apart: their sums become complex ones at the end, and bin 0 two real ones.
-template <class V> struct Sums {
-  V reRe, imIm, reIm, imRe;
-};
+template <class V> struct Sums { V reRe, imIm, reIm, imRe; };
 
 template <class T, class V>
 [[gnu::always_inline]] inline void addProducts(const T* a, const T* b, size_t spectra, Sums<V> (&sums)[kVectors]) {

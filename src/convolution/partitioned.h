@@ -25,15 +25,15 @@ template <class C> inline constexpr bool kHasPartitions = std::is_same_v<C, Qvx3
 template <class T> struct Partitions {
   using Spec = typename fft::Transform<T>::Spec;
 
-  bool hasTaps;    // the spectra are those of the taps
-  bool isLive;     // and of the samples
-  T* taps;         // the spectra of the partitions
-  T* samples;      // those of the last `count` blocks, the newest at `newest`, older ones after it, in a ring
-  T* block;        // in its second half the present block's tail
-  T* spectrum;     // room for one
+  bool hasTaps;  // the spectra are those of the taps
+  bool isLive;   // and of the samples
+  T* taps;       // the spectra of the partitions
+  T* samples;    // those of the last `count` blocks, the newest at `newest`, older ones after it, in a ring
+  T* block;      // in its second half the present block's tail
+  T* spectrum;   // room for one
   Qvx8u* work;
   const Spec* spec;
-  size_t length;   // of a partition and a block, half of a transform's
+  size_t length;  // of a partition and a block, half of a transform's
   size_t count;
   size_t newest;
   size_t filled;   // samples of the present block

@@ -23,7 +23,7 @@ template <class C, class T> void throughPartitions(FloatRecord<C>& state, const 
   for (size_t some; n > 0; n -= some, src += some, dst += some) {
     const size_t filled = partitions.filled;
     some = std::min(n, length - filled);
-    if (static_cast<size_t>(state.delay.index) + taps + some + kVectorElements<C> > state.windowLen(taps)) {
+    if (static_cast<size_t>(state.delay.index) + taps + some + kVectorElements < C >> state.windowLen(taps)) {
       state.delay.settled(state.tapsLen);
     }
     C* const fresh = state.delay.window + state.delay.index + taps;
