@@ -14,7 +14,8 @@ template <class C> bool isLive(const FloatRecord<C>& state) { return !isNull(sta
 
 // Filters samples that are copied to the end of the window first, so src may be dst. The window moves on in its memory, and back
 // to the beginning when it comes to the end.
-template <class C, class T> void throughPartitions(FloatRecord<C>& state, const T* src, T* dst, size_t n, int scaleFactor) {
+template <class C, class T>
+[[gnu::noinline]] void throughPartitions(FloatRecord<C>& state, const T* src, T* dst, size_t n, int scaleFactor) {
   Partitions<C>& partitions = *state.partitions;
   const auto taps = static_cast<size_t>(state.tapsLen);
   const size_t length = partitions.length;
@@ -23,9 +24,8 @@ template <class C, class T> void throughPartitions(FloatRecord<C>& state, const 
   for (size_t some; n > 0; n -= some, src += some, dst += some) {
     const size_t filled = partitions.filled;
     some = std::min(n, length - filled);
-    if (static_cast<size_t>(state.delay.index) + taps + some + kVectorElements < C >> state.windowLen(taps)) {
-      state.delay.settled(state.tapsLen);
-    }
+    const size_t end = static_cast<size_t>(state.delay.index) + taps + some + kVectorElements<C>;
+    if (end > state.windowLen(taps)) state.delay.settled(state.tapsLen);
     C* const fresh = state.delay.window + state.delay.index + taps;
     toKernel(src, some, fresh);
     state.delay.index += static_cast<int>(some);
@@ -59,8 +59,8 @@ template <class C> size_t mostPartitioned(const FloatRecord<C>& state) {
 }
 
 // Whether a call of n samples goes that way, for which the spectra are made where they are missing.
-template <class C> bool takesPartitions(FloatRecord<C>& state, size_t n) {
-  if (isNull(state.partitions) || n >= mostPartitioned(state)) return false;
+template <class C> [[gnu::noinline]] bool takesPartitions(FloatRecord<C>& state, size_t n) {
+  if (n >= mostPartitioned(state)) return false;
   if (!isLive(state)) state.delay.settled(state.tapsLen);
   return state.partitions->serve(n, state.taps, state.delay.window + state.delay.index, static_cast<size_t>(state.tapsLen));
 }
@@ -186,7 +186,9 @@ template <class S> bool takesTransform(const S& state, size_t n) {
 template <class S>
 QvxStatus filterBlock(S& state, const typename S::Sample* src, typename S::Sample* dst, size_t n, int scaleFactor) {
   if constexpr (kHasPartitions<typename S::Kernel>) {
-    if (takesPartitions(state, n)) return throughPartitions(state, src, dst, n, scaleFactor), qvxStatOk;
+    if (!isNull(state.partitions) && takesPartitions(state, n)) {
+      return throughPartitions(state, src, dst, n, scaleFactor), qvxStatOk;
+    }
   }
   state.delay.settled(state.tapsLen);
   if constexpr (!std::is_integral_v<Part<typename S::Kernel>>) {

@@ -7,10 +7,11 @@
 // one fused addition of it, times a factor of full precision, gives the result.
 //   - Directed modes: a result that comes nearer than 2^-40 to a float has that float for r; what is left over tells its side, or
 //     is 0. Others are not near enough for the last addition, which is off by 2^-46, to matter.
-//   - To nearest: what counts is how near a result comes to the middle m of two floats. A root does not come nearer than 2^-50,
-//     and all mantissas were tried with all r and factors that another estimate could lead to. For a quotient, b - a * m is a
-//     multiple of the last place of a * m, and with a from 1 to 2 that is enough unless it is just one of them: there are four
-//     such b for an odd a at most, and the tests try all.
+//   - To nearest: what counts is how near a result comes to the middle m of two floats. Of roots, all mantissas were tried with
+//     all r and all factors that an estimate of that error can lead to: right but for two mantissas, the neighbours of 1, with
+//     factors that this processor's estimate does not give (tests/vector/sqrt_test.cpp tries them all). For a quotient, b - a * m
+//     is a multiple of the last place of a * m; only where it is just one of them could the factor's own error matter, and the
+//     tests try all b and a for which it is.
 #pragma once
 
 #include "frame/simd_rare.h"
