@@ -10,8 +10,9 @@
 //   - To nearest: what counts is how near a result comes to the middle m of two floats. Of roots, all mantissas were tried with
 //     all r and all factors that an estimate of that error can lead to: right but for two mantissas, the neighbours of 1, with
 //     factors that this processor's estimate does not give (tests/vector/sqrt_test.cpp tries them all). For a quotient, b - a * m
-//     is a multiple of the last place of a * m; only where it is just one of them could the factor's own error matter, and the
-//     tests try all b and a for which it is.
+//     is a multiple of the last place of a * m, which is more than the factor, 1 / a rounded to nearest, can be off by, unless
+//     all bits of a's mantissa are set: such vectors take the divider. The tests try all b and a for which it is just one of
+//     them.
 #pragma once
 
 #include "frame/simd_rare.h"
@@ -58,10 +59,15 @@ struct Steps {
 
 #if QVXS_AVX512
   using V = nearest::V;
+  using Bits = Vec<Lanes<uint32_t, 16>>;
 
-  // Where nothing of the steps underflows or overflows.
-  static bool takes(V x) { return areWithin<-71, 127>(x); }
-  static bool takes(V b, V a) { return areWithin<-60, 60>(hn::Abs(a)) && areWithin<-60, 60>(hn::Abs(b)); }
+  // Where nothing of the steps underflows or overflows, and the divisor is not the one kind whose factor may be off.
+  static bool takes(V x) { return hn::AllTrue(TagOf<Bits>(), areWithin<-71, 127>(x)); }
+  static bool takes(V b, V a) {
+    const auto isOrdinary = (as<uint32_t>(a) | same<Bits>(0xFF800000)) != same<Bits>(0xFFFFFFFF);
+    const auto within = hn::And(areWithin<-60, 60>(hn::Abs(a)), areWithin<-60, 60>(hn::Abs(b)));
+    return hn::AllTrue(TagOf<Bits>(), hn::And(isOrdinary, within));
+  }
 
   static V root(V x) {
     const V half = same<V>(0.5F);
@@ -75,17 +81,17 @@ struct Steps {
   static V quotient(V b, V a) {
     const V estimate = nearest::nearReciprocal(a);
     const V near = nearest::product(b, estimate);
-    const V factor = nearest::mulAdd(estimate, nearest::negMulAdd(a, estimate, same<V>(1)), estimate);
+    const V error = nearest::negMulAdd(a, estimate, same<V>(1));
+    const V factor = nearest::mulAdd(estimate, nearest::mulAdd(error, error, error), estimate);
     const V nearer = nearest::mulAdd(nearest::negMulAdd(a, near, b), factor, near);
     return hn::MulAdd(nearest::negMulAdd(a, nearer, b), factor, nearer);
   }
 
  private:
-  // All lanes from 2^least to below 2^most.
-  template <int kLeast, int kMost> static bool areWithin(V v) {
-    using Bits = Vec<Lanes<uint32_t, 16>>;
+  // From 2^least to below 2^most.
+  template <int kLeast, int kMost> static hn::Mask<TagOf<Bits>> areWithin(V v) {
     const auto above = as<uint32_t>(v) - same<Bits>(uint32_t{127 + kLeast} << 23);
-    return hn::AllTrue(TagOf<Bits>(), above < same<Bits>(uint32_t{kMost - kLeast} << 23));
+    return above < same<Bits>(uint32_t{kMost - kLeast} << 23);
   }
 #endif
 };
