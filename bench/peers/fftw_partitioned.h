@@ -17,8 +17,8 @@ class PartitionedFilter {
     x_ = fftwf_alloc_real(2 * block_);
     y_ = fftwf_alloc_real(2 * block_);
     sums_ = fftwf_alloc_complex(bins());
-    taps_ = fftwf_alloc_complex(count_ * bins());
-    samples_ = fftwf_alloc_complex(count_ * bins());
+    taps_ = fftwf_alloc_complex(count_ * stride());
+    samples_ = fftwf_alloc_complex(count_ * stride());
     forward_ = fftwf_plan_dft_r2c_1d(2 * block, x_, sums_, FFTW_MEASURE);
     inverse_ = fftwf_plan_dft_c2r_1d(2 * block, sums_, y_, FFTW_MEASURE);
     for (size_t p = 0; p < count_; ++p) {
@@ -26,7 +26,7 @@ class PartitionedFilter {
       for (size_t i = 0; i < std::min(block_, taps.size() - p * block_); ++i) {
         x_[i] = taps[p * block_ + i] / static_cast<float>(2 * block_);
       }
-      fftwf_execute_dft_r2c(forward_, x_, taps_ + p * bins());
+      fftwf_execute_dft_r2c(forward_, x_, taps_ + p * stride());
     }
     reset();
   }
@@ -41,7 +41,7 @@ class PartitionedFilter {
 
   void reset() {
     std::fill_n(x_, 2 * block_, 0.0F);
-    std::fill_n(&samples_[0][0], 2 * count_ * bins(), 0.0F);
+    std::fill_n(&samples_[0][0], 2 * count_ * stride(), 0.0F);
     filled_ = newest_ = 0;
   }
 
@@ -49,7 +49,7 @@ class PartitionedFilter {
     for (size_t left = static_cast<size_t>(n), some; left > 0; left -= some, src += some, dst += some) {
       some = std::min(left, block_ - filled_);
       std::copy_n(src, some, x_ + block_ + filled_);
-      fftwf_execute_dft_r2c(forward_, x_, samples_ + newest_ * bins());
+      fftwf_execute_dft_r2c(forward_, x_, samples_ + newest_ * stride());
       addUp();
       fftwf_execute_dft_c2r(inverse_, sums_, y_);
       std::copy_n(y_ + block_ + filled_, some, dst);
@@ -64,12 +64,13 @@ class PartitionedFilter {
 
  private:
   size_t bins() const { return block_ + 1; }
+  size_t stride() const { return block_ + 8; }  // plans count on the alignment they were made for
 
   void addUp() {
     std::fill_n(&sums_[0][0], 2 * bins(), 0.0F);
     for (size_t p = 0; p < count_; ++p) {
-      const fftwf_complex* const a = taps_ + p * bins();
-      const fftwf_complex* const b = samples_ + (newest_ + p) % count_ * bins();
+      const fftwf_complex* const a = taps_ + p * stride();
+      const fftwf_complex* const b = samples_ + (newest_ + p) % count_ * stride();
       for (size_t k = 0; k < bins(); ++k) {
         sums_[k][0] += a[k][0] * b[k][0] - a[k][1] * b[k][1];
         sums_[k][1] += a[k][0] * b[k][1] + a[k][1] * b[k][0];
