@@ -109,8 +109,8 @@ TEST(FirStream, IsOneSignalHoweverItIsCut) {
   });
 }
 
-// Long filters keep spectra that go with the length of the calls: new ones are made for calls of another length, for such as begin
-// within a block, after new taps, and after samples that went another way; and the window moves through its memory.
+// Long filters keep spectra that go with the length of the calls: new ones are made for calls of another length, for such as
+// begin within a block, after new taps, and after samples that went another way; and the window moves through its memory.
 TEST(FirStream, IsOneSignalWhateverLengthTheCallsComeToHave) {
   forEachPair([](const auto& pair) {
     using P = std::remove_cvref_t<decltype(pair)>;
