@@ -1,5 +1,6 @@
 // Magnitudes, phases, and both from and to complex elements.
 #include "frame/families.h"
+#include "peers/ofast.h"
 #include "peers/plain_polar.h"
 #include "peers/sleef.h"
 #include "peers/volk.h"
@@ -12,7 +13,7 @@ void polar(Suite& s) {
   const auto magnitude = plain::Each<plain::magnitudeOf>();
   s.row("Magnitude_32fc", qvxsMagnitude_32fc).plain(magnitude, Agreement::kFused).against("VOLK", volk::magnitude32fc, Agreement::kFused);
   s.row("Magnitude_64fc", qvxsMagnitude_64fc).plain(magnitude, Agreement::kFused);
-  s.row("Magnitude_32f", qvxsMagnitude_32f).plain(magnitude, Agreement::kFused);
+  s.row("Magnitude_32f", qvxsMagnitude_32f).plain(magnitude, Agreement::kFused).against("-Ofast", ofast::magnitude, kDiffers);
   s.row("Magnitude_64f", qvxsMagnitude_64f).plain(magnitude, Agreement::kFused);
   s.row("Magnitude_16sc32f", qvxsMagnitude_16sc32f).plain(magnitude, kDiffers);
   s.row("Magnitude_16s32f", qvxsMagnitude_16s32f).plain(magnitude, kDiffers);

@@ -1,6 +1,7 @@
 // FIR filters, as streams.
 #include "fir/taps.h"
 #include "frame/families.h"
+#include "peers/fftw_partitioned.h"
 #include "peers/liquid.h"
 #include "peers/plain_fir.h"
 #include "peers/volk.h"
@@ -114,6 +115,20 @@ template <class T> void rows(Suite& s, const std::string& name) {
   row<T, 2048>(s, name);
 }
 
+// Long filters on streams in blocks of kBlock samples.
+template <int kTaps, int kBlock> void blocks(Suite& s) {
+  const auto peer = [](const Qvx32f* src, Qvx32f* dst, int n) {
+    static fftw::PartitionedFilter filter(taps<Qvx32f>(kTaps), kBlock);
+    static int seen = -1;
+    if (seen != freshData) filter.reset();
+    seen = freshData;
+    for (int i = 0; i < n; i += kBlock) filter.run(src + i, dst + i, std::min(n - i, kBlock));
+  };
+  s.row("FIR_32f, " + std::to_string(kTaps) + " taps, blocks of " + std::to_string(kBlock), ours<Qvx32f, kTaps, kBlock>)
+      .stream({kBlock, 16 * kBlock})
+      .against("FFTW by partitions", peer, kSummed);
+}
+
 }  // namespace
 
 void fir(Suite& s) {
@@ -122,6 +137,15 @@ void fir(Suite& s) {
   rows<Qvx32fc>(s, "FIR_32fc");
   rows<Qvx64fc>(s, "FIR_64fc");
   rows<Qvx16s>(s, "FIR_16s_Sfs");
+  blocks<512, 32>(s);
+  blocks<512, 64>(s);
+  blocks<2048, 64>(s);
+  blocks<2048, 1024>(s);
+  blocks<8192, 256>(s);
+  blocks<8192, 4096>(s);
+  blocks<65536, 64>(s);
+  blocks<65536, 1024>(s);
+  blocks<65536, 4096>(s);
   s.row("FIR_32f, 16 taps", ours<Qvx32f, 16>).inTeam();
   s.row("FIR_32f, 63 taps", ours<Qvx32f, 63>).inTeam();
   s.row("FIR_32f, 127 taps", ours<Qvx32f, 127>).inTeam();

@@ -42,6 +42,18 @@ void ln(const double* a, double* d, int n) {
 }
 void sumLn(const float* a, int n, float* sum) { *sum = sumOfLogarithms(a, n); }
 void sumLn(const double* a, int n, double* sum) { *sum = sumOfLogarithms(a, n); }
+void root(const float* a, float* d, int n) {
+  each(a, d, n, [](float x) { return std::sqrt(x); });
+}
+void quotient(const float* __restrict a, const float* __restrict b, float* __restrict d, int n) {
+  for (int i = 0; i < n; ++i) d[i] = b[i] / a[i];
+}
+void magnitude(const float* __restrict re, const float* __restrict im, float* __restrict d, int n) {
+  for (int i = 0; i < n; ++i) d[i] = std::sqrt(re[i] * re[i] + im[i] * im[i]);
+}
+void product(const Qvx32fc* __restrict a, const Qvx32fc* __restrict b, Qvx32fc* __restrict d, int n) {
+  for (int i = 0; i < n; ++i) d[i] = {a[i].re * b[i].re - a[i].im * b[i].im, a[i].re * b[i].im + a[i].im * b[i].re};
+}
 void tone(float* d, int n, float magn, float w, float phase) { cosines(d, n, magn, w, phase); }
 void tone(double* d, int n, double magn, double w, double phase) { cosines(d, n, magn, w, phase); }
 void hann(float* x, int n) {

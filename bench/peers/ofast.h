@@ -13,6 +13,11 @@ void ln(const double* a, double* d, int n);
 void sumLn(const float* a, int n, float* sum);
 void sumLn(const double* a, int n, double* sum);
 
+void root(const float* a, float* d, int n);
+void quotient(const float* a, const float* b, float* d, int n);
+void magnitude(const float* re, const float* im, float* d, int n);
+void product(const Qvx32fc* a, const Qvx32fc* b, Qvx32fc* d, int n);
+
 void demodulateFm(const Qvx16s* re, const Qvx16s* im, Qvx16s* d, int n, int p, int q);
 template <int kType, class T> void zeroCrossing(const T* a, int n, float* count);
 void cauchy(float* x, int n, float c);

@@ -1,5 +1,6 @@
 // Quotients.
 #include "frame/families.h"
+#include "peers/ofast.h"
 #include "peers/plain_arithmetic.h"
 #include "peers/plain_division.h"
 #include "peers/volk.h"
@@ -19,7 +20,7 @@ template <class F> auto constantInDoubles(F) { return plain::loopFor<plain::Quot
 
 // clang-format off
 void div(Suite& s) {
-  s.row("Div_32f", qvxsDiv_32f).within(1, 1000).plain(plain::FloatQuotient<>()).against("VOLK", volk::div32f);
+  s.row("Div_32f", qvxsDiv_32f).within(1, 1000).plain(plain::FloatQuotient<>()).against("VOLK", volk::div32f).against("-Ofast", ofast::quotient, Agreement::kDiffers);
   s.row("Div_64f", qvxsDiv_64f).within(1, 1000).plain(plain::FloatQuotient<>());
   s.row("Div_32fc", qvxsDiv_32fc).within(1, 1000).plain(plain::FloatQuotient<>(), kFused).against("fast math", plain::fastComplexQuotient<Qvx32fc>, kFused).against("VOLK", volk::div32fc, kFused);
   s.row("Div_64fc", qvxsDiv_64fc).within(1, 1000).plain(plain::FloatQuotient<>(), kFused).against("fast math", plain::fastComplexQuotient<Qvx64fc>, kFused);

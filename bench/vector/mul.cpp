@@ -1,5 +1,6 @@
 // Products.
 #include "frame/families.h"
+#include "peers/ofast.h"
 #include "peers/plain_arithmetic.h"
 #include "peers/volk.h"
 
@@ -31,7 +32,7 @@ void mul(Suite& s) {
   s.row("Mul_32sc_Sfs, scale 3", qvxsMul_32sc_Sfs, 3).plain(plain::Scaled<plain::Product>());
   s.row("Mul_32s32sc_Sfs, scale 3", qvxsMul_32s32sc_Sfs, 3).plain(plain::Scaled<plain::Product>());
   s.row("Mul_32f", qvxsMul_32f).plain(plain::Direct<plain::Product>()).against("VOLK", volk::mul32f);
-  s.row("Mul_32fc", qvxsMul_32fc).plain(plain::Direct<plain::Product>(), kFused).against("VOLK", volk::mul32fc, kFused);
+  s.row("Mul_32fc", qvxsMul_32fc).plain(plain::Direct<plain::Product>(), kFused).against("VOLK", volk::mul32fc, kFused).against("-Ofast", ofast::product, kFused);
   s.row("Mul_32f32fc", qvxsMul_32f32fc).plain(plain::Direct<plain::Product>()).against("VOLK", volk::mul32f32fc);
   s.row("Mul_64f", qvxsMul_64f).plain(plain::Direct<plain::Product>()).against("VOLK", volk::mul64f);
   s.row("Mul_64fc", qvxsMul_64fc).plain(plain::Direct<plain::Product>(), kFused);

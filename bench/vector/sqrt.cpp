@@ -1,5 +1,6 @@
 // Square roots.
 #include "frame/families.h"
+#include "peers/ofast.h"
 #include "peers/plain_math.h"
 #include "peers/volk.h"
 
@@ -17,7 +18,7 @@ constexpr auto kDiffers = Agreement::kDiffers;
 void sqrt(Suite& s) {
   const auto root = plain::Each<plain::squareRoot>();
   const auto complexRoot = plain::Each<plain::complexRoot>();
-  s.row("Sqrt_32f", qvxsSqrt_32f).within(0, 1000).plain(root).against("VOLK", volk::sqrt32f);
+  s.row("Sqrt_32f", qvxsSqrt_32f).within(0, 1000).plain(root).against("VOLK", volk::sqrt32f).against("-Ofast", ofast::root, kDiffers);
   s.row("Sqrt_64f", qvxsSqrt_64f).within(0, 1000).plain(root);
   s.row("Sqrt_32fc", qvxsSqrt_32fc).plain(complexRoot, kDiffers);
   s.row("Sqrt_64fc", qvxsSqrt_64fc).plain(complexRoot, kDiffers);

@@ -18,12 +18,15 @@ extern "C" {
  * by whatever form, is filtered as if it were one. It lies in one block, must not be copied to another address, and serves one
  * call at a time. Long filters on long blocks are computed by way of the FFT: where that is faster, from 64 to 128 taps (real) or
  * 18 to 38 taps (complex) on, as the processor's vectors are wide, in calls of more than 511 (real) or 255 (complex) samples.
+ * From 512 taps of 32f on, shorter calls go by way of the FFT, too, by partitions of the taps and without a delay: as soon as
+ * calls have brought 64 samples since the taps or the delay line were set, or since a call was long enough to fill most of the
+ * long transform, of two to four times the taps. From then on one-sample forms take that way as well.
  *
  * To the bit: in place equals out of place, and no result depends on the address of a vector or on the number of threads. Results
  * of integer arithmetic do not depend on how the stream is cut, either. Floats are added up in one order in calls of up to 64
- * samples, in another one in longer calls that do not go by way of the FFT, whatever the cut; one-sample forms, short calls, long
- * calls and the FFT agree to rounding. (One order for all would cost short calls up to half of their speed: 16 samples of 64 taps
- * take 42 ns, in the order of long calls 81.)
+ * samples, in another one in longer calls, whatever the cut, where they do not go by way of the FFT; one-sample forms, short
+ * calls, long calls and both ways by the FFT agree to rounding. (One order for all would cost short calls up to half of their
+ * speed: 16 samples of 64 taps take 42 ns, in the order of long calls 81.)
  *
  * The types of the records are those of multi-rate filters and of streams without a delay line, too: qvxs_multirate.h. */
 typedef struct QvxsFIRState_32f QvxsFIRState_32f;

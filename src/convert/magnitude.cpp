@@ -1,6 +1,7 @@
 // Magnitudes of complex vectors.
 #include "convert/power.h"
 #include "frame/team.h"
+#include "vector/both_ways.h"
 #include "vector/integer_root.h"
 
 using namespace qvx;
@@ -8,8 +9,17 @@ using namespace qvx;
 namespace {
 
 struct Magnitude {
-  template <class V> V operator()(V re, V im) const { return hn::Sqrt(Power()(re, im)); }
-  template <class V> V operator()(Pair<V> z) const { return hn::Sqrt(Power()(z)); }
+  template <class V, class Way = Divider> V operator()(V re, V im, Way way = {}) const { return root(Power()(re, im), way); }
+  template <class V, class Way = Divider> V operator()(Pair<V> z, Way way = {}) const { return root(Power()(z), way); }
+
+ private:
+  template <class V, class Way> static V root(V power, Way) {
+    if constexpr (Way::template kServes<V>) {
+      if (Way::takes(power)) [[likely]]
+        return Way::root(power);
+    }
+    return hn::Sqrt(power);
+  }
 };
 
 // Of 16-bit parts to floats: the root of the exact power, rounded once before and once after it.
@@ -66,12 +76,12 @@ const uint64_t* words(const Qvx32sc* p) { return reinterpret_cast<const uint64_t
 }  // namespace
 
 // clang-format off
-QvxStatus qvxsMagnitude_32fc(const Qvx32fc* a, Qvx32f* d, int len) { return map<Magnitude>(d, len, InTeam<kMagnitude32fc>{}, deinterleaved(a)); }
+QvxStatus qvxsMagnitude_32fc(const Qvx32fc* a, Qvx32f* d, int len) { return mapBothWays<Magnitude, kMagnitude32fc>(d, len, deinterleaved(a)); }
 QvxStatus qvxsMagnitude_64fc(const Qvx64fc* a, Qvx64f* d, int len) { return map<Magnitude>(d, len, InTeam<kMagnitude64>{}, deinterleaved(a)); }
 QvxStatus qvxsMagnitude_16sc32f(const Qvx16sc* a, Qvx32f* d, int len) { return map<Magnitude16ToFloat>(d, len, InTeam<kMagnitude16sc32f, InOwnLanes>{}, words(a)); }
 QvxStatus qvxsMagnitude_16sc_Sfs(const Qvx16sc* a, Qvx16s* d, int len, int sf) { return map<Magnitude16Complex>(d, len, InTeam<kMagnitude16, ScaledRoot>{{sf}}, InPairs{words(a)}); }
 QvxStatus qvxsMagnitude_32sc_Sfs(const Qvx32sc* a, Qvx32s* d, int len, int sf) { return map<Magnitude32Complex>(d, len, InTeam<kMagnitude32sc, ScaledRoot>{{sf}}, words(a)); }
-QvxStatus qvxsMagnitude_32f(const Qvx32f* re, const Qvx32f* im, Qvx32f* d, int len) { return map<Magnitude>(d, len, InTeam<kMagnitude32f>{}, re, im); }
+QvxStatus qvxsMagnitude_32f(const Qvx32f* re, const Qvx32f* im, Qvx32f* d, int len) { return mapBothWays<Magnitude, kMagnitude32f>(d, len, re, im); }
 QvxStatus qvxsMagnitude_64f(const Qvx64f* re, const Qvx64f* im, Qvx64f* d, int len) { return map<Magnitude>(d, len, InTeam<kMagnitude64>{}, re, im); }
 QvxStatus qvxsMagnitude_16s_Sfs(const Qvx16s* re, const Qvx16s* im, Qvx16s* d, int len, int sf) { return map<Magnitude16>(d, len, InTeam<kMagnitude16, ScaledRoot>{{sf}}, re, im); }
 QvxStatus qvxsMagnitude_16s32f(const Qvx16s* re, const Qvx16s* im, Qvx32f* d, int len) { return map<Magnitude16ToFloat>(d, len, InTeam<kMagnitude16, InOwnLanes>{}, re, im); }

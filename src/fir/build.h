@@ -19,6 +19,17 @@ template <class C> void place(FloatRecord<C>& record, Carver& carver, const fft:
   spectral.work = carver.takeLines<Qvx8u>(transform.work * int64_t{spectral.threads});
   auto* initMemory = carver.takeLines<Qvx8u>(transform.init);
   fft::Transform<C>::kInit(&spectral.spec, transform.order, fft::kInverseDivides, 0, specMemory, initMemory);
+  if constexpr (kHasPartitions<C>) {
+    if (record.tapsLen < kLeastPartitioned) return;
+    record.partitions = carver.take<Partitions<C>>(1);
+    Partitions<C>& partitions = *record.partitions = {};
+    const auto most = static_cast<int64_t>(partitions.mostPoints(static_cast<size_t>(record.tapsLen)));
+    partitions.taps = carver.takeLines<C>(2 * record.tapsLen + most);
+    partitions.samples = carver.takeLines<C>(2 * record.tapsLen + most);
+    partitions.block = carver.takeLines<C>(most);
+    partitions.spectrum = carver.takeLines<C>(most);
+    partitions.work = spectral.work;
+  }
 }
 
 template <class S, class T> void place(IntegerRecord<S, T>& record, Carver& carver, const fft::TransformSizes&) {

@@ -9,6 +9,10 @@ namespace qvx::fir {
 template <class C, class H> QvxStatus setTaps(FloatRecord<C>& record, const H* taps) {
   const auto n = static_cast<size_t>(record.tapsLen);
   copyReversed(taps, n, record.taps);
+  record.settle();
+  if constexpr (kHasPartitions<C>) {
+    if (!isNull(record.partitions)) record.partitions->hasTaps = false;
+  }
   return isNull(record.spectral.spec) ? qvxStatOk : record.spectral.setTaps(record.taps, n);
 }
 
@@ -88,6 +92,7 @@ requires std::is_floating_point_v<Part<H>> QvxStatus setTaps(R& record, const H*
 // The caller's delay line is newest first; none stands for zeros.
 template <class S> void setDelay(S& state, const typename S::Sample* newestFirst) {
   state.delay.index = 0;
+  if constexpr (!std::is_integral_v<Part<typename S::Kernel>>) state.forgetSamples();
   copyReversed(newestFirst, static_cast<size_t>(state.tapsLen), state.delay.window);
 }
 

@@ -19,6 +19,7 @@ QvxStatus withRecord(const Stateless<typename S::Kernel, typename S::Sample>& ca
     auto* const line = caller.delay + *caller.index;
     std::copy_n(line, caller.tapsLen, state.delay.window);
     const QvxStatus status = run(state);
+    state.settle();
     std::copy_n(state.delay.window, caller.tapsLen, line);
     return status;
   });

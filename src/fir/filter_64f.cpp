@@ -12,7 +12,7 @@ QvxStatus filterSingleRate(const Qvx32s* src, Qvx32s* dst, int numIters, QvxsFIR
   if (status != qvxStatOk) return status;
   if (state->magic != QvxsFIRState_32s::kId) return qvxStatContextMismatch;
   if (src != dst) return filterBlock(*state, src, dst, elements(numIters), scaleFactor);
-  state->delay.settled(state->tapsLen);
+  state->settle();
   return direct(*state, src, dst, elements(numIters), scaleFactor);
 }
 

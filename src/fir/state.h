@@ -4,6 +4,7 @@
 #include "convolution/convolve.h"
 #include "convolution/delay_line.h"
 #include "convolution/overlap_save.h"
+#include "convolution/partitioned.h"
 #include "frame/record.h"
 
 namespace qvx::fir {
@@ -21,6 +22,18 @@ template <class C> struct FloatRecord : RecordHead {
   DelayLine<C> delay;
   C* taps;  // reversed
   SpectralFilter<C> spectral;
+  Partitions<C>* partitions;  // null: none
+
+  // Before whatever filters by other ways: the partitions' spectra are no longer those of the samples.
+  void settle() {
+    delay.settled(tapsLen);
+    forgetSamples();
+  }
+  void forgetSamples() {
+    if constexpr (kHasPartitions<C>) {
+      if (!isNull(partitions)) partitions->forgetSamples();
+    }
+  }
 };
 
 // Of those for integers: taps as they were reduced, in 16 bits, and in pairs.

@@ -1,5 +1,5 @@
 // The library's vocabulary of vectors: Highway's operations under the name hn::, what it lacks or does slowly, and raw
-// intrinsics, which are nowhere else.
+// intrinsics, which are nowhere else but in simd_rare.h.
 //
 // Kernels are written on whole vectors of the variant's widest register and on `Lanes<T, N>`, a tag for N elements of T;
 // N times the size of T may be anything from 4 bytes to a register.

@@ -1,6 +1,7 @@
 // Quotients of floats: dst = src2 / src1, dst = src / val and dst = val / src
 #include "frame/complex.h"
 #include "frame/team.h"
+#include "vector/both_ways.h"
 #include "vector/divisor.h"
 
 using namespace qvx;
@@ -10,7 +11,11 @@ namespace {
 struct Quotient {
   static constexpr QvxStatus kWarning = qvxWarnDivByZero;
 
-  template <class V> V operator()(Flag& flag, V a, V b) const {
+  template <class V, class Way = Divider> V operator()(Flag& flag, V a, V b, Way = {}) const {
+    if constexpr (Way::template kServes<V>) {
+      if (Way::takes(b, a)) [[likely]]  // no zero
+        return Way::quotient(b, a);
+    }
     const TagOf<V> d;
     flag.raise(d, a == hn::Zero(d));
     return b / a;
@@ -50,11 +55,11 @@ constexpr TeamRule kQuotient64fc = {.worthIt = 16384};
 }  // namespace
 
 // clang-format off
-QvxStatus qvxsDiv_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesPastEnd{a}, b); }
+QvxStatus qvxsDiv_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return mapBothWays<Quotient, kQuotient32f>(d, len, OnesPastEnd{a}, b); }
 QvxStatus qvxsDiv_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient64f>{}, OnesPastEnd{a}, b); }
 QvxStatus qvxsDiv_32fc(const Qvx32fc* a, const Qvx32fc* b, Qvx32fc* d, int len) { return divideComplex<kQuotient32fc>(a, b, d, len); }
 QvxStatus qvxsDiv_64fc(const Qvx64fc* a, const Qvx64fc* b, Qvx64fc* d, int len) { return divideComplex<kQuotient64fc>(a, b, d, len); }
-QvxStatus qvxsDiv_32f_I(const Qvx32f* a, Qvx32f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient32f>{}, OnesPastEnd{a}, d); }
+QvxStatus qvxsDiv_32f_I(const Qvx32f* a, Qvx32f* d, int len) { return mapBothWays<Quotient, kQuotient32f>(d, len, OnesPastEnd{a}, d); }
 QvxStatus qvxsDiv_64f_I(const Qvx64f* a, Qvx64f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient64f>{}, OnesPastEnd{a}, d); }
 QvxStatus qvxsDiv_32fc_I(const Qvx32fc* a, Qvx32fc* d, int len) { return divideComplex<kQuotient32fc>(a, d, d, len); }
 QvxStatus qvxsDiv_64fc_I(const Qvx64fc* a, Qvx64fc* d, int len) { return divideComplex<kQuotient64fc>(a, d, d, len); }

@@ -109,6 +109,40 @@ TEST(FirStream, IsOneSignalHoweverItIsCut) {
   });
 }
 
+// Long filters keep spectra that go with the length of the calls: new ones are made for calls of another length, for such as
+// begin within a block, after new taps, and after samples that went another way; and the window moves through its memory.
+TEST(FirStream, IsOneSignalWhateverLengthTheCallsComeToHave) {
+  forEachPair([](const auto& pair) {
+    using P = std::remove_cvref_t<decltype(pair)>;
+    Random random(seed());
+    for (const int tapsLen : {512, 701}) {
+      auto h = samples<typename P::Taps>(static_cast<size_t>(tapsLen), random);
+      SCOPED_TRACE(testing::Message() << pair.name << ", taps " << tapsLen << ", seed " << seed());
+      Stream<P> stream(pair, tapsLen, random);
+      const auto bytes = static_cast<size_t>(pair.size(tapsLen));
+      Block memory(bytes + 128);
+      auto* state = pair.build(h, 0, stream.newestFirst().data(), memory.atEnd(bytes));
+      auto oracle = oracleOf(pair, state, h);
+      const auto calls = [&](int count, int length) {
+        for (int i = 0; i < count && !testing::Test::HasFailure(); ++i) stream.piece(state, oracle, length, 29);
+      };
+      calls(5, 31);
+      calls(20, 64);
+      calls(14, 256);
+      calls(1, 37);
+      calls(14, 256);
+      calls(1, 1400);
+      calls(4, 256);
+      h = samples<typename P::Taps>(h.size(), random);
+      EXPECT_EQ(P::run(pair.setTaps, 0, static_cast<const typename P::Taps*>(h.data()), state), qvxStatOk);
+      oracle = oracleOf(pair, state, h);
+      calls(4, 100);
+      EXPECT_TRUE(memory.isIntact()) << "bytes outside the record";
+      EXPECT_EQ(pair.free(state), qvxStatOk);
+    }
+  });
+}
+
 // Calls of one kind, of up to 64 samples or longer ones that stay with the direct way, give the same bits wherever the cuts are.
 TEST(FirStream, HasTheSameBitsHoweverItIsCut) {
   forEachPair([](const auto& pair) {

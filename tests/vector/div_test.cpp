@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "support/rounding.h"
 #include "vector/divisors.h"
 
 namespace {
@@ -49,6 +50,46 @@ template <class T> auto hardOperands() {
     }
   }
   return data;
+}
+
+// All quotients b / a that are as near as can be to the middle of two floats: b * 2^places = a * m + 1 or - 1 for an odd m of 25
+// bits. To an odd a there is one m for each sign and number of places.
+TEST(Div, NextToTheMiddleInEveryRounding) {
+  constexpr size_t kMany = 8192, kVector = 16;
+  std::vector<float> a(kVector, 1.0F), b(kVector, 1.0F), y(kMany + 2 * kVector);
+  size_t all = 0;
+  const auto compare = [&] {
+    for (const int mode : kRoundings) {
+      const CallersRounding scope(mode);
+      for (const size_t from : {size_t{0}, kVector}) {  // each in either vector of a pair
+        ASSERT_EQ(qvxsDiv_32f(a.data() + from, b.data() + from, y.data(), static_cast<int>(a.size() - from)), qvxStatOk);
+        size_t differ = 0;
+        for (size_t i = from; i < a.size(); ++i) differ += y[i - from] != b[i] / a[i];
+        ASSERT_EQ(differ, 0U) << "mode " << mode;
+      }
+    }
+    all += a.size() - kVector;
+    a.resize(kVector);
+    b.resize(kVector);
+  };
+  for (uint64_t divisor = (1 << 23) + 1; divisor < 1 << 24; divisor += 2) {
+    uint64_t inverse = divisor;
+    for (int i = 0; i < 5; ++i) inverse *= 2 - divisor * inverse;
+    for (const int places : {24, 25}) {
+      for (const uint64_t rest : {uint64_t{1}, ~uint64_t{0}}) {
+        const uint64_t m = (uint64_t{0} - rest * inverse) % (uint64_t{1} << places) | 1 << 24;
+        const uint64_t product = divisor * m + rest;
+        const uint64_t dividend = product >> places;
+        if (product % (uint64_t{1} << places) != 0 || dividend < 1 << 23 || dividend >= 1 << 24) continue;
+        a.push_back(static_cast<float>(divisor));
+        b.push_back(static_cast<float>(dividend));
+      }
+    }
+    if (a.size() >= kMany) compare();
+    if (HasFatalFailure()) return;
+  }
+  compare();
+  EXPECT_GT(all, size_t{1} << 22);
 }
 
 template <class T> void divides(QvxStatus (*f)(const T*, const T*, T*, int)) {

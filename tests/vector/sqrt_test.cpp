@@ -1,9 +1,11 @@
 // Square roots of reals: floats, and integers at every scale factor.
 #include <qvx/qvxs.h>
 
+#include <bit>
 #include <cmath>
 
 #include "reference/roots.h"
+#include "support/rounding.h"
 #include "vector/members.h"
 
 namespace {
@@ -41,6 +43,24 @@ template <class T> void floatRoots(QvxStatus (*f)(const T*, T*, int)) {
 TEST(Sqrt, Floats) {
   floatRoots(qvxsSqrt_32f);
   floatRoots(qvxsSqrt_64f);
+}
+
+// Both vectors of a pair take each mantissa, with an even exponent and an odd one.
+TEST(Sqrt, OfEveryMantissaInEveryRounding) {
+  constexpr uint32_t kMany = 4096, kVector = 16;
+  std::vector<float> x(kMany + kVector, 1.0F), y(x.size());
+  for (const int mode : kRoundings) {
+    const CallersRounding scope(mode);
+    for (uint32_t from = 0x3F000000; from < 0x40000000; from += kMany) {
+      for (const uint32_t shift : {0U, kVector}) {
+        for (uint32_t i = 0; i < kMany; ++i) x[shift + i] = std::bit_cast<float>(from + i);
+        ASSERT_EQ(qvxsSqrt_32f(x.data(), y.data(), static_cast<int>(shift + kMany)), qvxStatOk);
+        uint32_t differ = 0;
+        for (uint32_t i = 0; i < kMany; ++i) differ += y[shift + i] != std::sqrt(x[shift + i]);
+        ASSERT_EQ(differ, 0U) << "from " << from << ", mode " << mode;
+      }
+    }
+  }
 }
 
 TEST(Sqrt, AllNarrowSources) {

@@ -1,0 +1,123 @@
+// Roots and quotients of floats by both of the processor's ways: of two vectors one goes through the divider, which takes up to
+// 18 cycles for it, the other through multiplications in the meantime. Both are rounded correctly, in the caller's mode: 256
+// roots take 27 ns, by the divider alone 55, by multiplications alone 33.
+//
+// The steps. An estimate with an error of 2^-14 is improved once to the result r, by what is left over, x - r * r or b - a * r,
+// and the estimate's own factor: r is then off by 2^-27, rounded to nearest. What is left over now is a float and known exactly;
+// one fused addition of it, times a factor of full precision, gives the result.
+//   - Directed modes: a result that comes nearer than 2^-40 to a float has that float for r; what is left over tells its side, or
+//     is 0. Others are not near enough for the last addition, which is off by 2^-46, to matter.
+//   - To nearest: what counts is how near a result comes to the middle m of two floats. Of roots, all mantissas were tried with
+//     all r and all factors that an estimate of that error can lead to: right but for two mantissas, the neighbours of 1, with
+//     factors that this processor's estimate does not give (tests/vector/sqrt_test.cpp tries them all). For a quotient, b - a * m
+//     is a multiple of the last place of a * m, which is more than the factor, 1 / a rounded to nearest, can be off by, unless
+//     all bits of a's mantissa are set: such vectors take the divider. The tests try all b and a for which it is just one of
+//     them.
+#pragma once
+
+#include "frame/simd_rare.h"
+#include "frame/team.h"
+
+namespace qvx {
+
+// Two vectors at a time of what a source or a destination has one of.
+template <class One> struct InTwos {
+  using Lane = hwy::UnsignedFromSize<sizeof(typename One::Lane) / 2>;
+  static constexpr size_t kParts = 1;
+  One one;
+
+  template <size_t N> auto get(size_t at) const {
+    const auto lo = one.template get<N / 2>(at);
+    return Pair<std::remove_const_t<decltype(lo)>>{lo, one.template get<N / 2>(at + N / 2)};
+  }
+  template <size_t N> auto get(size_t at, size_t n) const {
+    const size_t low = std::min(n, N / 2);
+    const auto lo = one.template get<N / 2>(at, low);
+    return Pair<std::remove_const_t<decltype(lo)>>{lo, one.template get<N / 2>(at + low, n - low)};
+  }
+  template <size_t N, class V> void put(Pair<V> v, size_t at) const {
+    one.template put<N / 2>(v.lo, at);
+    one.template put<N / 2>(v.hi, at + N / 2);
+  }
+  template <size_t N, class V> void put(Pair<V> v, size_t at, size_t n) const {
+    const size_t low = std::min(n, N / 2);
+    one.template put<N / 2>(v.lo, at, low);
+    if (n > low) one.template put<N / 2>(v.hi, at + low, n - low);
+  }
+  template <size_t N> size_t misaligned() const { return one.template misaligned<N / 2>(); }
+  InTwos from(size_t at) const { return {one.from(at)}; }
+};
+template <class One> InTwos(One) -> InTwos<One>;
+
+// Ways to take a root or a quotient, and what they serve.
+struct Divider {
+  template <class V> static constexpr bool kServes = false;  // needs no test
+};
+
+struct Steps {
+  template <class V> static constexpr bool kServes = kHasMasks && sizeof(V) == 64 && std::is_same_v<LaneOf<V>, float>;
+
+#if QVXS_AVX512
+  using V = nearest::V;
+  using Bits = Vec<Lanes<uint32_t, 16>>;
+
+  // Where nothing of the steps underflows or overflows, and the divisor is not the one kind whose factor may be off.
+  static bool takes(V x) { return hn::AllTrue(TagOf<Bits>(), areWithin<-71, 127>(x)); }
+  static bool takes(V b, V a) {
+    const auto isOrdinary = (as<uint32_t>(a) | same<Bits>(0xFF800000)) != same<Bits>(0xFFFFFFFF);
+    const auto within = hn::And(areWithin<-60, 60>(hn::Abs(a)), areWithin<-60, 60>(hn::Abs(b)));
+    return hn::AllTrue(TagOf<Bits>(), hn::And(isOrdinary, within));
+  }
+
+  static V root(V x) {
+    const V half = same<V>(0.5F);
+    const V estimate = nearest::nearReciprocalRoot(x);
+    const V near = nearest::product(x, estimate);
+    const V factor = nearest::product(half, estimate);
+    const V nearer = nearest::mulAdd(nearest::negMulAdd(near, near, x), factor, near);
+    const V better = nearest::mulAdd(factor, nearest::negMulAdd(near, factor, half), factor);
+    return hn::MulAdd(nearest::negMulAdd(nearer, nearer, x), better, nearer);
+  }
+  static V quotient(V b, V a) {
+    const V estimate = nearest::nearReciprocal(a);
+    const V near = nearest::product(b, estimate);
+    const V error = nearest::negMulAdd(a, estimate, same<V>(1));
+    const V factor = nearest::mulAdd(estimate, nearest::mulAdd(error, error, error), estimate);
+    const V nearer = nearest::mulAdd(nearest::negMulAdd(a, near, b), factor, near);
+    return hn::MulAdd(nearest::negMulAdd(a, nearer, b), factor, nearer);
+  }
+
+ private:
+  // From 2^least to below 2^most.
+  template <int kLeast, int kMost> static hn::Mask<TagOf<Bits>> areWithin(V v) {
+    const auto above = as<uint32_t>(v) - same<Bits>(uint32_t{127 + kLeast} << 23);
+    return above < same<Bits>(uint32_t{kMost - kLeast} << 23);
+  }
+#endif
+};
+
+// The first of two vectors by the divider, the second by steps if they take it. An operation has the way after its vectors.
+template <class Op> struct BothWays : Op {
+  template <class... V> auto operator()(Flag& flag, Pair<V>... v) const {
+    return pair(Op::operator()(flag, v.lo..., Divider()), Op::operator()(flag, v.hi..., Steps()));
+  }
+  template <class... V> auto operator()(Pair<V>... v) const {
+    return pair(Op::operator()(v.lo..., Divider()), Op::operator()(v.hi..., Steps()));
+  }
+
+ private:
+  template <class V> static Pair<V> pair(V lo, V hi) { return {lo, hi}; }
+};
+
+// dst = Op(sources...) over len elements, as map() has it.
+template <class Op, TeamRule kRule, class T, class... Src> QvxStatus mapBothWays(T* dst, int len, Src... src) {
+  if constexpr (!kHasMasks) {
+    return map<Op>(dst, len, InTeam<kRule>{}, src...);
+  } else {
+    const QvxStatus status = check(len, pointerOf(src)..., dst);
+    if (status != qvxStatOk) return status;
+    return InTeam<kRule, InOwnLanes>{}.run(BothWays<Op>(), InTwos{destination(dst)}, elements(len), InTwos{source(src)}...);
+  }
+}
+
+}  // namespace qvx
