@@ -8,11 +8,10 @@
 //   - Directed modes: a result that comes nearer than 2^-40 to a float has that float for r; what is left over tells its side, or
 //     is 0. Others are not near enough for the last addition, which is off by 2^-46, to matter.
 //   - To nearest: what counts is how near a result comes to the middle m of two floats. Of roots, all mantissas were tried with
-//     all r and all factors that an estimate of that error can lead to: right but for two mantissas, the neighbours of 1, with
-//     factors that this processor's estimate does not give (tests/vector/sqrt_test.cpp tries them all). For a quotient, b - a * m
-//     is a multiple of the last place of a * m, which is more than the factor, 1 / a rounded to nearest, can be off by, unless
-//     all bits of a's mantissa are set: such vectors take the divider. The tests try all b and a for which it is just one of
-//     them.
+//     all r and all factors that an estimate of that error can lead to: right but for two mantissas, the neighbours of 1, whose
+//     vectors take the divider. For a quotient, b - a * m is a multiple of the last place of a * m, which is more than the
+//     factor, 1 / a rounded to nearest, can be off by, unless all bits of a's mantissa are set: such vectors take the divider
+//     too. The tests try all b and a for which it is just one of them.
 #pragma once
 
 #include "frame/simd_rare.h"
@@ -61,8 +60,13 @@ struct Steps {
   using V = nearest::V;
   using Bits = Vec<Lanes<uint32_t, 16>>;
 
-  // Where nothing of the steps underflows or overflows, and the divisor is not the one kind whose factor may be off.
-  static bool takes(V x) { return hn::AllTrue(TagOf<Bits>(), areWithin<-71, 127>(x)); }
+  // Where nothing of the steps underflows or overflows, and the number is none of those for which a factor may be off.
+  static bool takes(V x) {
+    const Lanes<int32_t, 16> d;
+    const auto aroundPower = hn::Abs(as<int32_t>(hn::ShiftLeft<9>(as<uint32_t>(x))));  // 512: one place from a power of two
+    return hn::AllTrue(TagOf<Bits>(),
+                       hn::And(areWithin<-71, 127>(x), hn::RebindMask(TagOf<Bits>(), aroundPower != hn::Set(d, 512))));
+  }
   static bool takes(V b, V a) {
     const auto isOrdinary = (as<uint32_t>(a) | same<Bits>(0xFF800000)) != same<Bits>(0xFFFFFFFF);
     const auto within = hn::And(areWithin<-60, 60>(hn::Abs(a)), areWithin<-60, 60>(hn::Abs(b)));
