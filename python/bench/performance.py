@@ -5,6 +5,7 @@ usage: performance.py OUTPUT
 
 import math
 import platform
+import re
 import sys
 import time
 
@@ -163,7 +164,8 @@ def main(output):
 
 def processor():
     with open("/proc/cpuinfo") as info:
-        return next(line.split(":")[1].strip() for line in info if line.startswith("model name"))
+        told = dict(re.split(r"\s*:\s*", line.strip(), maxsplit=1) for line in info if ":" in line)
+    return f"a processor of family {told['cpu family']}, model {told['model']}, variant {qvxs.raw.qvxsGetLibVersion()['cpuTag']}"
 
 
 if __name__ == "__main__":
