@@ -42,8 +42,7 @@ template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, 
     plan.way = Way::kGrid;
     return {static_cast<int64_t>(tableLength(plan.grid) * sizeof(T)), 0};
   }
-  MixedPlanner<T> planner;
-  if (planner.plan(n, plan.mixed)) {
+  if (planMixed(n, plan.mixed)) {
     plan.way = Way::kFactors;
     return {static_cast<int64_t>(tableLength(plan.mixed) * sizeof(T)), bytesOfPoints<T>(n) + Carver::kLine};
   }

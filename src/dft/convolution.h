@@ -85,7 +85,7 @@ template <class T> Bytes choosePermuted(ConvolutionPlan<T>& plan, uint32_t n) {
     const Bytes fft = bytesOfFft<T>(length);
     return {bytes.tables + fft.tables, bytes.work + std::max(room, fft.work)};
   }
-  MixedPlanner<T>().plan(length, plan.mixed);
+  planMixed(plan.length, plan.mixed);
   return {bytes.tables + static_cast<int64_t>(tableLength(plan.mixed) * sizeof(T)), bytes.work + room};
 }
 
@@ -104,7 +104,7 @@ template <class T> Bytes choose(ConvolutionPlan<T>& plan, uint32_t n) {
     const Bytes fft = bytesOfFft<T>(length);
     return {bytes.tables + fft.tables, bytes.work + fft.work - fft::kWorkSlack};
   }
-  MixedPlanner<T>().plan(length, plan.mixed);
+  planMixed(plan.length, plan.mixed);
   return {bytes.tables + static_cast<int64_t>(tableLength(plan.mixed) * sizeof(T)), bytes.work + bytesOfPoints<T>(length)};
 }
 

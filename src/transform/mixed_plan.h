@@ -139,6 +139,9 @@ template <class T> class MixedPlanner {
   uint8_t radix_[kMostDivisors];
 };
 
+// The planner is some KiB of the stack, which callers need not hold while they go on.
+template <class T> [[gnu::noinline]] bool planMixed(uint32_t n, MixedPlan<T>& plan) { return MixedPlanner<T>().plan(n, plan); }
+
 // The numbers of a plan's tables, with what aligns the first.
 template <class T> size_t rootsOf(size_t radix) { return radix > kWidestMixed ? radix / 2 * (radix / 2) * 2 : 0; }
 template <class T> size_t lanesOfFirst(size_t radix) { return radix > kWidestMixed ? kManyLanes<T> : kWidest<T>; }
