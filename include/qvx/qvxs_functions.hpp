@@ -7848,27 +7848,27 @@ struct SortRadixIndexAscend {
   }
   static Status call(In<Qvx16s> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
     QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
-        int64_t(srcStride.number), 2) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+        int64_t(srcStride.number) + 1, 2) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
     return qvxsSortRadixIndexAscend_16s(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx16u> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
     QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
-        int64_t(srcStride.number), 2) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+        int64_t(srcStride.number) + 1, 2) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
     return qvxsSortRadixIndexAscend_16u(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx32s> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
     QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
-        int64_t(srcStride.number), 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+        int64_t(srcStride.number) + 3, 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
     return qvxsSortRadixIndexAscend_32s(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx32u> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
     QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
-        int64_t(srcStride.number), 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+        int64_t(srcStride.number) + 3, 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
     return qvxsSortRadixIndexAscend_32u(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx32f> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
     QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
-        int64_t(srcStride.number), 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+        int64_t(srcStride.number) + 3, 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
     return qvxsSortRadixIndexAscend_32f(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
 };
@@ -7942,27 +7942,27 @@ struct SortRadixIndexDescend {
   }
   static Status call(In<Qvx16s> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
     QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
-        int64_t(srcStride.number), 2) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+        int64_t(srcStride.number) + 1, 2) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
     return qvxsSortRadixIndexDescend_16s(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx16u> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
     QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
-        int64_t(srcStride.number), 2) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+        int64_t(srcStride.number) + 1, 2) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
     return qvxsSortRadixIndexDescend_16u(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx32s> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
     QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
-        int64_t(srcStride.number), 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+        int64_t(srcStride.number) + 3, 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
     return qvxsSortRadixIndexDescend_32s(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx32u> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
     QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
-        int64_t(srcStride.number), 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+        int64_t(srcStride.number) + 3, 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
     return qvxsSortRadixIndexDescend_32u(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
   static Status call(In<Qvx32f> src, Value<int> srcStride, Out<Qvx32s> dstIndx, Out<Qvx32s> tmpIndx) {
     QVX_REQUIRE(countable(dstIndx.size()) && atLeast(src.size(), quotient((int64_t(dstIndx.size()) - 1) *
-        int64_t(srcStride.number), 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
+        int64_t(srcStride.number) + 3, 4) + 1) && atLeast(tmpIndx.size(), int64_t(dstIndx.size())));
     return qvxsSortRadixIndexDescend_32f(src.data(), srcStride.number, dstIndx.data(), tmpIndx.data(), length(dstIndx.size()));
   }
 };
@@ -7984,8 +7984,8 @@ template <class... Arguments>
 namespace exports {
 struct GetVarPointDV {
   static Status call(const Qvx16sc& src, Qvx32u& refPoint, Out<Qvx32u> variantPoint, In<Qvx8u> label, Value<int> states) {
-    QVX_REQUIRE(atLeast(variantPoint.size(), 4 + 4 * (1 + quotient(int64_t(states.number), 17) - largest(1,
-        quotient(int64_t(states.number), 17)))) && atLeast(label.size(), 16));
+    QVX_REQUIRE(atLeast(variantPoint.size(), 8 - 4 * quotient(1, 1 + (int64_t(states.number) - 16) * (int64_t(states.number) -
+        16))) && atLeast(label.size(), 16));
     return qvxsGetVarPointDV_16sc(&src, &refPoint, variantPoint.data(), label.data(), states.number);
   }
 };
@@ -8005,8 +8005,9 @@ template <class... Arguments>
 namespace exports {
 struct BuildSymblTableDV4D {
   static Status call(In<Qvx32u> variantPoint, Out<Qvx16u> currentSubsetPoint, Value<int> states, Value<int> bitInversion) {
-    QVX_REQUIRE(atLeast(variantPoint.size(), 16) && atLeast(currentSubsetPoint.size(), int64_t(states.number) + 64 -
-        largest(int64_t(states.number), 64)));
+    QVX_REQUIRE(atLeast(variantPoint.size(), 16) && atLeast(currentSubsetPoint.size(), 64 - 48 * quotient(1, 1 +
+        (int64_t(states.number) - 16) * (int64_t(states.number) - 16)) - 32 * quotient(1, 1 + (int64_t(states.number) - 32) *
+        (int64_t(states.number) - 32))));
     return qvxsBuildSymblTableDV4D_16sc(variantPoint.data(), currentSubsetPoint.data(), states.number, bitInversion.number);
   }
 };
@@ -8028,10 +8029,12 @@ namespace exports {
 struct CalcStatesDV {
   static Status call(In<Qvx16u> pathError, In<Qvx8u> nextState, Out<Qvx16u> branchError, In<Qvx16u> currentSubsetPoint,
       Out<Qvx32u> pathTable, Value<int> offset) {
-    QVX_REQUIRE(countable(pathError.size()) && offset.number >= 0 && atLeast(nextState.size(), int64_t(pathError.size()) *
-        (quotient(int64_t(pathError.size()), 4) + 16 - largest(quotient(int64_t(pathError.size()), 4), 16))) &&
-        atLeast(branchError.size(), 256) && atLeast(currentSubsetPoint.size(), int64_t(pathError.size()) + 64 -
-        largest(int64_t(pathError.size()), 64)) && atLeast(pathTable.size(), int64_t(offset.number) + 256));
+    QVX_REQUIRE(countable(pathError.size()) && offset.number >= 0 && atLeast(nextState.size(), int64_t(pathError.size()) * (16 -
+        12 * quotient(1, 1 + (int64_t(pathError.size()) - 16) * (int64_t(pathError.size()) - 16)) - 8 * quotient(1, 1 +
+        (int64_t(pathError.size()) - 32) * (int64_t(pathError.size()) - 32)))) && atLeast(branchError.size(), 256) &&
+        atLeast(currentSubsetPoint.size(), 64 - 48 * quotient(1, 1 + (int64_t(pathError.size()) - 16) * (int64_t(pathError.size())
+        - 16)) - 32 * quotient(1, 1 + (int64_t(pathError.size()) - 32) * (int64_t(pathError.size()) - 32))) &&
+        atLeast(pathTable.size(), int64_t(offset.number) + 256));
     return qvxsCalcStatesDV_16sc(pathError.data(), nextState.data(), branchError.data(), currentSubsetPoint.data(),
         pathTable.data(), length(pathError.size()), offset.number);
   }
@@ -8052,8 +8055,10 @@ template <class... Arguments>
 namespace exports {
 struct UpdatePathMetricsDV {
   static Status call(Out<Qvx16u> branchError, Qvx16u& minPathError, Qvx8u& minState, Out<Qvx16u> pathError, Value<int> states) {
-    QVX_REQUIRE(atLeast(branchError.size(), int64_t(states.number) + 64 - largest(int64_t(states.number), 64)) &&
-        atLeast(pathError.size(), int64_t(states.number) + 64 - largest(int64_t(states.number), 64)));
+    QVX_REQUIRE(atLeast(branchError.size(), 64 - 48 * quotient(1, 1 + (int64_t(states.number) - 16) * (int64_t(states.number) -
+        16)) - 32 * quotient(1, 1 + (int64_t(states.number) - 32) * (int64_t(states.number) - 32))) && atLeast(pathError.size(),
+        64 - 48 * quotient(1, 1 + (int64_t(states.number) - 16) * (int64_t(states.number) - 16)) - 32 * quotient(1, 1 +
+        (int64_t(states.number) - 32) * (int64_t(states.number) - 32))));
     return qvxsUpdatePathMetricsDV_16u(branchError.data(), &minPathError, &minState, pathError.data(), states.number);
   }
 };
