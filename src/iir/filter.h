@@ -158,6 +158,9 @@ template <class T> void runPlain(const Record<T>& s, Lane* work, size_t n) {
   };
   if (s.isDirect()) {
     const size_t order = lineValues(s);
+    if constexpr (kFuses && std::is_same_v<T, Qvx64f>) {
+      if (directInRegisters(s.taps, s.line, order, at, n)) return;
+    }
     constexpr bool kHasVectors = sizeof(T) < kVectorBytes;
     if (kHasVectors && n >= kWorthLookingAhead && order <= kMostStill<T>) return directStill(s.taps, s.line, order, work, n);
     return each([&](T v) { return directOne(s.taps, s.line, order, v); });
