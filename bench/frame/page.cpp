@@ -18,7 +18,7 @@ using Measurements = std::vector<Measurement>;
 
 constexpr const char* kHead = R"(# Performance
 
-Written by `./run bench --report`, from one run beside the peers. How to read such numbers, and how to make them, is in
+Written by `./run bench --report`: each family in one run beside its peers. How to read such numbers, and how to make them, is in
 [HACKING.md](HACKING.md#read-a-benchmark).
 )";
 

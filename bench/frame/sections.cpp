@@ -7,6 +7,7 @@ namespace {
 
 const std::vector<int> kVectors = {16, 256, 4096, 65536, 4 << 20};
 const std::vector<int> kLists = {10, 100, 1000, 10000, 100000, 1000000};
+const std::vector<int> kLengths = {7, 9, 96, 97, 640, 768, 9600, 65537};
 const std::vector<int> kBlocks = {64, 1024, 65536};
 const std::vector<int> kOrders = {1 << 3, 1 << 4, 1 << 5, 1 << 6, 1 << 8, 1 << 10, 1 << 12, 1 << 14, 1 << 16, 1 << 18, 1 << 20};
 
@@ -61,6 +62,11 @@ const std::vector<Section> kSections = {
      {"FFTFwd_CToC_16sc_Sfs", "FFTFwd_CToC_32sc_Sfs", "FFTFwd_RToCCS_16s_Sfs", "FFTFwd_RToCCS_32s_Sfs", "FFTFwd_RToCCS_16s32s_Sfs"},
      true},
     {"Packed spectra", "", {}, {"spectrum"}, kVectors, {"MulPack_32f", "MulPerm_32f", "MulPerm_16s_Sfs, scale 15", "ConjPack_32fc"}},
+    {"Transforms of any length",
+     "As the Fourier transforms above; lengths with large prime factors are convolutions inside.", {}, {"dft"}, kLengths,
+     {"DFTFwd_CToC_32fc", "DFTFwd_CToC_64fc", "DFTFwd_RToCCS_32f", "DFTFwd_RToCCS_64f"}},
+    {"Cosine and Hilbert transforms", "FFTW has cosine transforms of its own, and two transforms for a Hilbert one.", {}, {"dct", "hilbert"},
+     kLengths, {"DCTFwd_32f", "DCTInv_32f", "DCTFwd_64f", "DCTInv_64f", "Hilbert_32f32fc"}},
     {"FIR filters",
      "Streams in blocks of n samples. 2 operations are counted for a tap and a sample, 8 in complex numbers; long filters on long "
      "blocks go by way of the FFT and need fewer, so they come out above what the processor could multiply.",
@@ -76,12 +82,26 @@ const std::vector<Section> kSections = {
       "FIRMR_32f, 3:2, 64 taps", "FIRMR_32f, 2:3, 256 taps", "FIRMR_32f, 147:160, 2048 taps", "FIRMR_32f, 160:147, 2048 taps",
       "FIRMR_32fc, 2:1, 64 taps", "FIRMR_32fc, 147:160, 2048 taps", "FIRMR_16s_Sfs, 2:1, 64 taps",
       "FIRMR_16s_Sfs, 160:147, 2048 taps"}},
+    {"Adaptive filters", "", {}, {"lms"}, kBlocks, {"FIRLMS_32f, 16 taps", "FIRLMS_32f, 64 taps", "FIRLMS_32f, 256 taps"}},
     {"Recursive filters",
      "Streams in blocks of n samples. 9 operations are counted for a section and a sample, 4 order + 1 for a direct form.",
      {"iir"}, {"iir"}, kBlocks,
      {"IIR_32f, 1 section", "IIR_32f, 2 sections", "IIR_32f, 4 sections", "IIR_32f, 8 sections", "IIR_32f, 16 sections",
       "IIR_32f, DF1, 4 sections", "IIR_64f, 2 sections", "IIR_64f, 8 sections", "IIR_32f, order 2", "IIR_32f, order 8",
       "IIR_64f, order 16", "IIR32f_16s, order 4"}},
+    {"Wavelets and single frequencies", "", {}, {"haar", "filter_bank", "goertzel"}, kVectors,
+     {"WTHaarFwd_32f", "WTHaarInv_32f", "WTHaarFwd_16s", "Goertz_32f", "Goertz_64f", "GoertzTwo_32f"}},
+    {"Convolution, correlation, medians, sampling",
+     "*networks* keep a window in registers, for one mask each; *sorted window* is the textbook's. A convolution stands at its number of results.",
+     {}, {"correlation", "median", "sample"}, kVectors,
+     {"FilterMedian_32f, mask 3", "FilterMedian_32f, mask 5", "FilterMedian_64f, mask 5", "FilterMedian_32f, mask 9"}},
+    {"Generators and windows",
+     "*a fill* only stores a constant, *a table* multiplies by a window computed before: both are bounds and not peers.", {},
+     {"generators", "windows"}, kVectors,
+     {"RandUniform_32f", "RandGauss_32f", "Tone_32f", "Tone_64f", "WinHann_32f_I", "WinHann_64f_I", "WinHamming_32f_I",
+      "WinKaiser_32f_I"}},
+    {"Modem helpers", "", {}, {"decode", "helpers"}, kVectors,
+     {"DemodulateFM_CToR_16s", "ZeroCrossing_32f, type 0", "ZeroCrossing_16s32f, type 0", "Cauchy_32f_I", "CauchyD_32f_I"}},
     {"Sorting",
      "The time holds a copy of the vector. *VQSort* is that of Highway 1.0.3, *radix* a textbook's with digits of 8 or 11 bits and room to "
      "move elements through.",
