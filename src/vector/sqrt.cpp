@@ -19,7 +19,7 @@ struct Root {
   }
 };
 
-constexpr TeamRule kRoot32f = {.worthIt = 16384};
+constexpr TeamRule kRoot32f = {.worthIt = 32768};
 constexpr TeamRule kRoot64f = {.worthIt = 8192};
 
 }  // namespace

@@ -39,7 +39,7 @@ constexpr auto kZero = qvxWarnDivByZero;
 
 // clang-format off
 const Divided kDivided[] = {
-    {"qvxsSqrt_32f", 16384, kNegative, "pSrc", -1}, {"qvxsSqrt_32f_I", 16384, kNegative, "pSrcDst", -1},
+    {"qvxsSqrt_32f", 32768, kNegative, "pSrc", -1}, {"qvxsSqrt_32f_I", 32768, kNegative, "pSrcDst", -1},
     {"qvxsSqrt_64f", 8192, kNegative, "pSrc", -1}, {"qvxsSqrt_64f_I", 8192, kNegative, "pSrcDst", -1},
     {"qvxsSqrt_32fc", 4096}, {"qvxsSqrt_32fc_I", 4096},
     {"qvxsSqrt_64fc", 4096}, {"qvxsSqrt_64fc_I", 4096},
