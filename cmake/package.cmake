@@ -34,11 +34,11 @@ if(QVXS_SITE)
   set(CPACK_DEBIAN_DOC_PACKAGE_ARCHITECTURE all)
 endif()
 if(QVXS_PYTHON)
-  qvxs_package(python python3-qvxs python "libqvxs7 (>= ${version}), python3, python3-numpy"
+  qvxs_package(python python3-qvxs python "libqvxs7 (>= ${version}), libqvxcore1 (>= ${version}), libc6, libstdc++6, python3 (>= 3.11), python3 (<< 3.12), python3-numpy (>= 1:1.24), python3-numpy-abi9"
     "vector primitives for signal processing - Python module"
     "The functions of the qvxs library over NumPy arrays.")
 endif()
-foreach(component core library python)
+foreach(component core library)
   string(TOUPPER ${component} upper)
   set(CPACK_DEBIAN_${upper}_PACKAGE_SHLIBDEPS ON)
   set(CPACK_DEBIAN_${upper}_PACKAGE_CONTROL_STRICT_PERMISSION ON)
