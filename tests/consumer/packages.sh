@@ -20,7 +20,7 @@ done
 man --warnings qvxsAdd_16s_Sfs >/dev/null
 [[ $(man -w qvxsAdd_16s_Sfs) == /usr/share/man/man3/qvxsAdd.3.gz ]]
 [[ -f /usr/share/doc/libqvxs-doc/html/index.html ]]
-dpkg --purge libqvxs-doc libqvxs-dev libqvxs7 libqvxcore1 >/dev/null
+dpkg --purge python3-qvxs libqvxs-doc libqvxs-dev libqvxs7 libqvxcore1 >/dev/null
 find /usr /etc /lib /var/lib/dpkg/info | sort >/after
 diff /before /after
 if /program "$1" 2>/dev/null; then exit 1; fi
