@@ -78,19 +78,8 @@ class _Stream:
         raise TypeError(f"a {type(self).__name__} is not copied: take its state")
 
 
-class Fir(_Stream):
-    """A FIR filter of a stream: taps as of lfilter(taps, 1, x). Exports: qvxsFIRInitAlloc_ and qvxsFIR_ of 32f, 64f, 32fc, 64fc.
-
-    state: the last len(taps) samples, newest first, to be read and set.
-    """
-
-    def __init__(self, taps, dtype=None):
-        taps = np.atleast_1d(taps)
-        super().__init__(np.result_type(taps, np.float32) if dtype is None else dtype)
-        tail = _tail(self.dtype, _SAME)
-        self._taps = len(taps)
-        self._record = getattr(raw, "qvxsFIRInitAlloc" + tail)(contiguous(taps, self.dtype), len(taps), None)
-        self._run, self._read, self._write = (getattr(raw, f"qvxsFIR{what}{tail}") for what in ("", "GetDlyLine", "SetDlyLine"))
+class _OneToOne(_Stream):
+    """As many outputs as samples, of a record with a delay line: _record, _run, _read, _write."""
 
     def process(self, block, out=None):
         """The outputs for the next samples, as many."""
@@ -105,6 +94,21 @@ class Fir(_Stream):
         """Begins anew, after zeros."""
         with self._lock:
             self._write(self._record, None)
+
+
+class Fir(_OneToOne):
+    """A FIR filter of a stream: taps as of lfilter(taps, 1, x). Exports: qvxsFIRInitAlloc_ and qvxsFIR_ of 32f, 64f, 32fc, 64fc.
+
+    state: the last len(taps) samples, newest first, to be read and set.
+    """
+
+    def __init__(self, taps, dtype=None):
+        taps = np.atleast_1d(taps)
+        super().__init__(np.result_type(taps, np.float32) if dtype is None else dtype)
+        tail = _tail(self.dtype, _SAME)
+        self._taps = len(taps)
+        self._record = getattr(raw, "qvxsFIRInitAlloc" + tail)(contiguous(taps, self.dtype), len(taps), None)
+        self._run, self._read, self._write = (getattr(raw, f"qvxsFIR{what}{tail}") for what in ("", "GetDlyLine", "SetDlyLine"))
 
     @property
     def state(self):
@@ -122,24 +126,10 @@ class Fir(_Stream):
             self._write(self._record, line)
 
 
-class _Recursive(_Stream):
+class _Recursive(_OneToOne):
     def _begin(self, memory, calls):
         self._memory = memory
         self._record, self._run, self._read, self._write = calls
-
-    def process(self, block, out=None):
-        """The outputs for the next samples, as many."""
-        block = self._vector(block)
-        result = np.empty_like(block) if out is None else out
-        if block.size:
-            with self._lock:
-                self._run(block, result, block.size, self._record)
-        return result
-
-    def reset(self):
-        """Begins anew, after zeros."""
-        with self._lock:
-            self._write(self._record, None)
 
     @property
     def state(self):

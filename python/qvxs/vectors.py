@@ -476,6 +476,15 @@ def _generator(stem, dtype, choices):
     return tag
 
 
+def _wave(stem, n, dtype, phase, arguments):
+    tag = _generator(stem.lower(), dtype, ("16s", "16sc", "32f", "32fc", "64f", "64fc"))
+    result = np.empty(n, dtype)
+    start = np.array([phase], np.float64 if "64" in tag else np.float32)
+    if n:
+        getattr(raw, f"qvxs{stem}_Direct_" + tag)(result, n, *arguments(start))
+    return result
+
+
 def tone(n, magnitude, frequency, phase=0.0, dtype=np.float32):
     """n samples of magnitude * cos(2 pi frequency n + phase), with the sine as imaginary part of complex types.
 
@@ -486,12 +495,7 @@ def tone(n, magnitude, frequency, phase=0.0, dtype=np.float32):
     >>> qvxs.tone(4, 1, 0.25, dtype=np.float64).round(6) + 0
     array([ 1.,  0., -1.,  0.])
     """
-    tag = _generator("tone", dtype, ("16s", "16sc", "32f", "32fc", "64f", "64fc"))
-    result = np.empty(n, dtype)
-    start = np.array([phase], np.float64 if "64" in tag else np.float32)
-    if n:
-        getattr(raw, "qvxsTone_Direct_" + tag)(result, n, magnitude, frequency, start, 2)
-    return result
+    return _wave("Tone", n, dtype, phase, lambda start: (magnitude, frequency, start, 2))
 
 
 def triangle(n, magnitude, frequency, asymmetry=0.0, phase=0.0, dtype=np.float32):
@@ -503,12 +507,7 @@ def triangle(n, magnitude, frequency, asymmetry=0.0, phase=0.0, dtype=np.float32
     >>> qvxs.triangle(4, 1, 0.25, dtype=np.float64).round(6) + 0
     array([ 1.,  0., -1.,  0.])
     """
-    tag = _generator("triangle", dtype, ("16s", "16sc", "32f", "32fc", "64f", "64fc"))
-    result = np.empty(n, dtype)
-    start = np.array([phase], np.float64 if "64" in tag else np.float32)
-    if n:
-        getattr(raw, "qvxsTriangle_Direct_" + tag)(result, n, magnitude, frequency, asymmetry, start)
-    return result
+    return _wave("Triangle", n, dtype, phase, lambda start: (magnitude, frequency, asymmetry, start))
 
 
 def ramp(n, offset, slope, dtype=np.float32):
