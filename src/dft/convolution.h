@@ -286,7 +286,6 @@ template <class T, class Get, class Put>
 void convolve(const ConvolutionPlan<T>& plan, size_t n, size_t results, Get get, Put put, uint8_t* work) {
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
-  const Lanes<T, L> d;
   if (plan.isPermuted) return convolvePermuted(plan, n, results, get, put, work);
   const size_t length = plan.length;
   ConvolutionWork<T> points(plan, work);
@@ -305,7 +304,6 @@ void convolve(const ConvolutionPlan<T>& plan, size_t n, size_t results, Get get,
   for (size_t j = 0; j < results; j += L) {
     put(product(points.y.template get<L>(j), chirp.template get<L>(j)), j, std::min(L, results - j));
   }
-  (void)d;
 }
 
 template <class T>
