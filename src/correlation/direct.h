@@ -150,15 +150,6 @@ template <class C> void directBand(Band<C> band, C* y) {
   byPieces(last, outputs);
 }
 
-template <class T> bool areFinite(const T* x, size_t n) {
-  constexpr Lanes<T, kVectorBytes / sizeof(T)> d;
-  constexpr size_t N = hn::MaxLanes(d);
-  for (; n >= N; n -= N, x += N) {
-    if (!hn::AllTrue(d, hn::IsFinite(load(d, x)))) return false;
-  }
-  return hn::AllTrue(d, hn::IsFinite(loadFirst(d, x, n)));
-}
-
 // An output's products with elements of x alone.
 template <class C, class TapAt> C sumOverX(const Band<C>& band, TapAt tapAt, int64_t place, int64_t first, int64_t last) {
   C sum{};

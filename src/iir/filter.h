@@ -129,15 +129,6 @@ template <class T, class With> void withSectionLine(const Record<T>& s, With wit
   std::copy_n(line, lineValues(s), s.line);
 }
 
-inline bool areFinite(const Lane* p, size_t n) {
-  const V zero = hn::Zero(Wide());
-  V sum = zero;
-  size_t i = 0;
-  for (; i + kLanes <= n; i += kLanes) sum = hn::MulAdd(load(Wide(), p + i), zero, sum);
-  if (i < n) sum = hn::MulAdd(loadFirst(Wide(), p + i, n - i), zero, sum);
-  return hn::AllTrue(Wide(), sum == zero);
-}
-
 // False if the samples or the delay line are not finite: then nothing is done.
 template <class T> bool runDirect(const Record<T>& s, Lane* work, size_t n) {
   constexpr size_t kRoom = (Direct<T>::kMostVectors + 2) * kLanes;

@@ -14,7 +14,7 @@
 //     too. The tests try all b and a for which it is just one of them.
 #pragma once
 
-#include "frame/simd_rare.h"
+#include "frame/simd.h"
 #include "frame/team.h"
 
 namespace qvx {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "frame/map.h"
-#include "frame/simd_rare.h"
+#include "frame/simd.h"
 
 namespace qvx {
 
