@@ -96,7 +96,7 @@ const std::vector<Section> kSections = {
      {}, {"correlation", "median", "sample"}, kVectors,
      {"FilterMedian_32f, mask 3", "FilterMedian_32f, mask 5", "FilterMedian_64f, mask 5", "FilterMedian_32f, mask 9"}},
     {"Generators and windows",
-     "*a fill* only stores a constant, *a table* multiplies by a window computed before: both are bounds and not peers.", {},
+     "*a fill* only stores a constant, *a table* multiplies by a window computed before: both are bounds, counted nowhere.", {},
      {"generators", "windows"}, kVectors,
      {"RandUniform_32f", "RandGauss_32f", "Tone_32f", "Tone_64f", "WinHann_32f_I", "WinHann_64f_I", "WinHamming_32f_I",
       "WinKaiser_32f_I"}},

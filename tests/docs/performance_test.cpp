@@ -17,10 +17,10 @@ Piece piece(std::vector<Measurement> measurements, const std::string& processor 
 Measurement cell(const std::string& family, const std::string& name, int n, double ours, const std::string& peer, double theirs) {
   return {family, name, n, 0, {ours, 0.01}, peer, {theirs, 0.03}};
 }
-// Behind the faster of two peers by half, behind it by little, and behind by less than is printed.
+// Slower than the faster of two peers by half, by little, and by less than is printed; a bound, which is no peer.
 const Piece kAdd = piece({cell("add", "Add_32f", 16, 2, "plain", 8), cell("add", "Add_32f", 16, 2, "VOLK", 1),
                           cell("add", "Add_32f", 4096, 100, "plain", 400), cell("add", "Add_32f", 4096, 100, "VOLK", 98),
-                          cell("add", "Add_16s", 16, 1000, "plain", 996)});
+                          cell("add", "Add_32f", 16, 2, "a fill", 0.5), cell("add", "Add_16s", 16, 1000, "plain", 996)});
 const Piece kFft = piece({{"fft", "FFT", 1024, 51200, {400, 0}, "FFTW", {500, 0}}});
 const std::vector<bench::Section> kSections = {{"Sums", "Some text.", {"plot"}, {"add"}, {16, 4096}, {"Add_32f"}},
                                                {"Transforms", "", {}, {"fft"}, {1024}, {"FFT"}, true},
@@ -43,10 +43,11 @@ TEST(PerformancePage, ShowsOursAndTheirsAndHidesNoLoss) {
                "| All | 4 | **0.88** | 2 (1) | 1 (0) | **0.50** |", "| plain | 3 | 2.52 | 0 | 0 |",
                "| VOLK | 2 | **0.70** | 2 | 1 |", "| Processor | abacus |", "| Date | 2001-02-03 |", "| Time taken | 2 minutes |",
                "| | n = | 16 | 4096 |", "| `Add_32f` | ours, elements/ns | 2.00 ns, 8.00 | 100 ns, 41.0 |",
-               "|  | plain | 4.00 | 4.00 |", "|  | VOLK | **0.50** | **0.98** |", "![Sums](performance/plot.svg)",
-               "- `Add_32f` beside VOLK: **0.50** at 16, **0.98** at 4096", "| `FFT` | ours, GFLOPS | 400 ns, 128 |",
-               "No comparison of 1 is below 1."});
-  EXPECT_EQ(text.find("Not measured"), std::string::npos);
+               "|  | plain | 4.00 | 4.00 |", "|  | VOLK | **0.50** | **0.98** |", "|  | a fill | **0.25** |  |",
+               "![Sums](performance/plot.svg)", "- `Add_32f` beside VOLK: **0.50** at 16, **0.98** at 4096",
+               "| `FFT` | ours, GFLOPS | 400 ns, 128 |", "No comparison of 1 is below 1."});
+  for (const char* absent : {"Not measured", "beside a fill", "| a fill | 1 |"})
+    EXPECT_EQ(text.find(absent), std::string::npos) << absent;
 }
 
 TEST(PerformancePage, GivesFamiliesWithoutASectionTheirOwn) {
@@ -66,7 +67,7 @@ TEST(PerformancePage, ReadsWhatItWrites) {
   const std::string text = file.str();
   const Piece back = bench::read(file, "file");
   EXPECT_EQ(back["Processor"], "abacus");
-  ASSERT_EQ(back.measurements.size(), 6U);
+  ASSERT_EQ(back.measurements.size(), 7U);
   const Measurement& last = back.measurements.back();
   EXPECT_EQ(last.family + last.name + last.peer, "fftFFTFFTW");
   EXPECT_EQ(last.n, 1024);
