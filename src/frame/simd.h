@@ -360,6 +360,14 @@ template <class T, class V> auto as(V v) { return hn::BitCast(hn::Repartition<T,
 
 template <class V> V same(LaneOf<V> value) { return hn::Set(TagOf<V>(), value); }
 
+// The upper half of the lanes. Highway clears what follows a part of a register before it shifts, by a mask or a constant.
+template <class V> auto upperHalf(V v) {
+  const hn::Half<TagOf<V>> half;
+  if constexpr (kLanesOf<V> * sizeof(LaneOf<V>) >= 16) return hn::UpperHalf(half, v);
+  else if constexpr (sizeof(LaneOf<V>) == 4) return hn::LowerHalf(half, hn::Shuffle2301(v));
+  else return Vec<hn::Half<TagOf<V>>>{_mm_srli_si128(v.raw, kLanesOf<V> * sizeof(LaneOf<V>) / 2)};
+}
+
 // v where it is greater (less) than held, else held: also where one of them is a NaN, and where both are zeros. That is what
 // the processor's own instruction gives for this order of operands.
 template <class V> V greater(V v, V held) { return hn::Max(v, held); }

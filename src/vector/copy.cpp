@@ -37,6 +37,32 @@ template <size_t kHalf> QvxStatus copyShort(const uint8_t* src, uint8_t* dst, si
   return qvxStatOk;
 }
 
+struct Four {
+  Vec<Lanes<uint8_t, kVectorBytes>> a, b, c, d;
+};
+
+// From nine registers on. Both ends are loaded before anything is stored, and what lies between is stored at addresses that do
+// not cross cache lines. Four at a time: 1 KiB takes 0.8 of the time of two.
+QvxStatus copyInFours(const uint8_t* src, uint8_t* dst, size_t bytes) {
+  constexpr size_t N = kVectorBytes;
+  const Lanes<uint8_t, N> d;
+  const auto loaded = [=](size_t at) {
+    return Four{load(d, src + at), load(d, src + at + N), load(d, src + at + 2 * N), load(d, src + at + 3 * N)};
+  };
+  const auto put = [=](Four v, size_t at) {
+    store(v.a, d, dst + at);
+    store(v.b, d, dst + at + N);
+    store(v.c, d, dst + at + 2 * N);
+    store(v.d, d, dst + at + 3 * N);
+  };
+  const auto first = load(d, src);
+  const Four last = loaded(bytes - 4 * N);
+  for (size_t i = N - reinterpret_cast<uintptr_t>(dst) % N; i + 4 * N < bytes; i += 4 * N) put(loaded(i), i);
+  store(first, d, dst);
+  put(last, bytes - 4 * N);
+  return qvxStatOk;
+}
+
 // From kLibraryCopies on. Out of line, as the other ways of long vectors are, so that the short ones save no registers for it.
 [[gnu::noinline]] QvxStatus copyFar(const uint8_t* src, uint8_t* dst, size_t bytes, bool apart) {
   if (!apart || !isStreamed(bytes)) {
@@ -56,7 +82,7 @@ template <size_t kHalf> QvxStatus copyShort(const uint8_t* src, uint8_t* dst, si
   if (bytes <= 2 * kVectorBytes) return loop(Same(), destination(dst), bytes, source(src));
   if (bytes <= 4 * kVectorBytes) return copyShort<2>(src, dst, bytes);
   if (bytes <= 8 * kVectorBytes) return copyShort<4>(src, dst, bytes);
-  if (bytes < kLibraryCopies) return loop(Same(), destination(dst), bytes, source(src));
+  if (bytes < kLibraryCopies) return copyInFours(src, dst, bytes);
   return copyFar(src, dst, bytes, apart);
 }
 
