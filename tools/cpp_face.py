@@ -8,7 +8,7 @@ usage: cpp_face.py [--check | --calls FILE]
 
 A function without a record becomes an overload of its stem: vectors are spans, a length that is the extent of a vector is taken from
 it, the others are checked against their extents, a result of one element is a reference, and the scale factor comes last. A function
-with a record keeps the arguments it has in C; the classes of qvxs_records.hpp, which know the record's lengths, call it.
+with a record keeps the arguments it has in C; the classes of qvxs_transforms.hpp and its like, which know the record's lengths, call it.
 """
 import ast
 import fnmatch

@@ -40,7 +40,7 @@ typedef enum {
   qvxWarnDivByZero = 6,  /* a divisor element was zero */
   qvxWarnLnZeroArg = 7,  /* a source element was zero */
   qvxWarnLnNegArg = 8,   /* a source element was negative */
-  qvxWarnNotFinite = 9,  /* a source element was infinite or not a number */
+  qvxWarnNotFinite = 9,  /* a source element was infinite or a NaN */
   qvxWarnBadBitLen = 27, /* a bit length was outside 0 to 32 */
 
   qvxStatBadArg = -5,             /* an enumerated argument or an index is outside its set */

@@ -14,8 +14,8 @@ extern "C" {
  *  64s_Sfs departs in one case: where the signs of the operands differ or one is zero, the sum is not negative and
  *  scaleFactor is 2 to 63, an exact tie gives 0 (6 + 0 at scale factor 2 gives 0; 3 + 3 gives 2).
  *  Float results are one IEEE addition in the element's type and the caller's rounding mode.
- *  pSrc1, pSrc2, pDst: len elements each, any alignment. Any scaleFactor is allowed. dst may be a source itself only in the
- *  _I forms; other overlaps have no defined result.
+ *  pSrc1, pSrc2, pDst: len elements each, any alignment. Any scaleFactor is allowed. pDst may be a source of its own type; other
+ *  overlaps have no defined result.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). The complex forms test len before the pointers. */
 QVXS_API(QvxStatus, qvxsAdd_8u_Sfs, (const Qvx8u* pSrc1, const Qvx8u* pSrc2, Qvx8u* pDst, int len, int scaleFactor));
 QVXS_API(QvxStatus, qvxsAdd_8u_ISfs, (const Qvx8u* pSrc, Qvx8u* pSrcDst, int len, int scaleFactor));
@@ -50,7 +50,7 @@ QVXS_API(QvxStatus, qvxsAdd_64s_Sfs, (const Qvx64s* pSrc1, const Qvx64s* pSrc2, 
  *  A real float val of 0 (of either sign) leaves every bit of the source as it is.
  *  64s_Sfs and 64u_Sfs take the rounding of the scaled result as an argument, the last one: toward zero, nearest even, or
  *  nearest with ties away from zero (2, and any other value); their len is unsigned. They give zeros at scale factors above
- *  64, but for val = -2^63 at 65 with ties away from zero, where -2^64 gives -1.
+ *  64, but for val = -2^63 at 65 with rndMode 2 itself, where -2^64 gives -1.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1; for 64s_Sfs and 64u_Sfs len 0, and a len from 2^31 on where
  *  the call comes down to a copy (val 0, scale factor 0) or to zeros). */
 QVXS_API(QvxStatus, qvxsAddC_8u_Sfs, (const Qvx8u* pSrc, Qvx8u val, Qvx8u* pDst, int len, int scaleFactor));
@@ -213,7 +213,7 @@ QVXS_API(QvxStatus, qvxsMul_Low_32s_Sfs, (const Qvx32s* pSrc1, const Qvx32s* pSr
 /** dst[n] = src[n] * val; the _I forms: srcDst[n] = srcDst[n] * val.
  *  Integer results are exact, times 2^-scaleFactor where there is one, rounded to nearest with ties to even, saturated.
  *  32f16s_Sfs: the float product src * (val * 2^-scaleFactor), scaleFactor limited to -127 to 126, saturated to 16 bits and
- *  rounded to nearest even whatever the caller's rounding mode; a product that is not a number gives 32767.
+ *  rounded to nearest even whatever the caller's rounding mode; a product that is a NaN gives 32767.
  *  64f64s_ISfs multiplies integers by a float exactly: the product with its 53-bit fraction takes its power of two along with
  *  the scale factor. If val's bits, as a signed integer, have the absolute value 0x90000012CD94, every element but 0 goes to the
  *  64-bit extreme of the product's sign.
@@ -244,7 +244,7 @@ QVXS_API(QvxStatus, qvxsMulC_64s_ISfs, (Qvx64s val, Qvx64s* pSrcDst, Qvx32u len,
 QVXS_API(QvxStatus, qvxsMulC_64f64s_ISfs, (Qvx64f val, Qvx64s* pSrcDst, Qvx32u len, int scaleFactor));
 
 /** dst[n] = src[n] * val as a float product, converted in the caller's rounding mode and saturated from 32 bits to 16: what
- *  32 bits cannot hold (2^31 and above, not a number) becomes -32768, whatever its sign. Returns as qvxsMul. */
+ *  32 bits cannot hold (2^31 and above, a NaN) becomes -32768, whatever its sign. Returns as qvxsMul. */
 QVXS_API(QvxStatus, qvxsMulC_Low_32f16s, (const Qvx32f* pSrc, Qvx32f val, Qvx16s* pDst, int len));
 
 /** dst[n] = src2[n] / src1[n], the first source being the divisor; the _I forms: srcDst[n] = srcDst[n] / src[n].
@@ -259,8 +259,8 @@ QVXS_API(QvxStatus, qvxsMulC_Low_32f16s, (const Qvx32f* pSrc, Qvx32f val, Qvx16s
  *  Zero divisors in integers: the largest number for a positive dividend, the smallest for a negative one, 0 for 0 (in 16sc by
  *  the sign of each part). Far scale factors: beyond -30 to 15 (8u, 16u, 16s), -32 to 32 (16sc) and -62 to 32 (32s, 32s16s) a
  *  quotient of 0 stays 0; any other saturates by its sign below and becomes 0 above, unless its divisor is zero.
- *  pSrc1, pSrc2, pDst: len elements each, any alignment. dst may be a source itself only in the _I forms. Long vectors may be
- *  divided between two threads.
+ *  pSrc1, pSrc2, pDst: len elements each, any alignment; pDst may be a source of its own type. Long vectors may be divided
+ *  between two threads.
  *  Returns qvxStatOk; qvxWarnDivByZero if a divisor was zero (the others are complete); qvxStatNullPtr; qvxStatBadSize
  *  (len < 1). */
 QVXS_API(QvxStatus, qvxsDiv_32f, (const Qvx32f* pSrc1, const Qvx32f* pSrc2, Qvx32f* pDst, int len));

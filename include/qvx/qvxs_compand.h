@@ -18,7 +18,7 @@ QVXS_API(QvxStatus, qvxsMuLawToLin_8u16s, (const Qvx8u* pSrc, Qvx16s* pDst, int 
 QVXS_API(QvxStatus, qvxsMuLawToLin_8u32f, (const Qvx8u* pSrc, Qvx32f* pDst, int len));
 
 /** dst[n] = the code whose interval holds src[n]: A-law codes tell 13 bits apart, mu-law codes 14, the rest is cut off.
- *  32f: src[n] * 32768 is rounded half away from zero, the half added in Qvx32f, and clipped to 16 bits first; not a number
+ *  32f: src[n] * 32768 is rounded half away from zero, the half added in Qvx32f, and clipped to 16 bits first; a NaN
  *  gives the upper limit. A mu-law code is negative wherever its float is below 0, even if that rounds to 0.
  *  The caller's rounding mode has no influence. */
 QVXS_API(QvxStatus, qvxsLinToALaw_16s8u, (const Qvx16s* pSrc, Qvx8u* pDst, int len));
@@ -33,7 +33,7 @@ QVXS_API(QvxStatus, qvxsMuLawToALaw_8u, (const Qvx8u* pSrc, Qvx8u* pDst, int len
 
 /** Writes the low pSrcBitLen[n] bits of every pSrcBit[n] one after another, the highest bit first, from dstBitOffset bits after
  *  pDst on; bit 0 of a byte is its highest. The bits of the first byte before that are kept, those of the last byte after the
- *  bits written become 0. *pDstLenBit = the number of bits written.
+ *  bits written become 0, also where none are written. *pDstLenBit = the number of bits written.
  *  A length below 0 counts as 0, one above 32 as 32.
  *  Returns qvxStatOk; qvxWarnBadBitLen if there was such a length (everything is written); qvxStatNullPtr; qvxStatBadSize
  *  (len < 1 or dstBitOffset < 0). */
@@ -43,7 +43,7 @@ QVXS_API(QvxStatus, qvxsPackBits_32u8u,
 /** pDst[frame * nChannels + channel] = pSrc[channel][frame], rounded to nearest even whatever the caller's rounding mode.
  *  Join: clipped to 16 bits. JoinScaled: full scale, so that -1 gives the least integer and 1 the largest: clipped to -1 and 1,
  *  times 32767.5 less 0.5 in Qvx32f (16s), or times 8388607.5 less 0.5 in Qvx64f (24s: three bytes, the lowest first).
- *  Not a number gives the largest integer.
+ *  A NaN gives the largest integer.
  *  pSrc: nChannels pointers to chanLen elements each; pDst: nChannels * chanLen elements. Any alignment, no overlap.
  *  Returns qvxStatOk; in this order qvxStatNullPtr (pDst), qvxStatBadSize (nChannels or chanLen < 1), qvxStatNullPtr (pSrc or a
  *  pointer in it). */

@@ -10,7 +10,8 @@ extern "C" {
 #endif
 
 /** dst[n] = the real part of src[n].
- *  pSrc, pDst: len elements each, any alignment, not overlapping.
+ *  pSrc, pDst: len elements each, any alignment, here and below; a destination may be a source of its own type, but not overlap
+ *  otherwise.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
 QVXS_API(QvxStatus, qvxsReal_16sc, (const Qvx16sc* pSrc, Qvx16s* pDst, int len));
 QVXS_API(QvxStatus, qvxsReal_32fc, (const Qvx32fc* pSrc, Qvx32f* pDst, int len));
@@ -41,12 +42,12 @@ QVXS_API(QvxStatus, qvxsConj_32fc_I, (Qvx32fc* pSrcDst, int len));
 QVXS_API(QvxStatus, qvxsConj_64fc, (const Qvx64fc* pSrc, Qvx64fc* pDst, int len));
 QVXS_API(QvxStatus, qvxsConj_64fc_I, (Qvx64fc* pSrcDst, int len));
 
-/** dst[n] = the conjugate of src[len - 1 - n]. As qvxsConj. */
+/** dst[n] = the conjugate of src[len - 1 - n]. As qvxsConj, but the vectors must not overlap. */
 QVXS_API(QvxStatus, qvxsConjFlip_16sc, (const Qvx16sc* pSrc, Qvx16sc* pDst, int len));
 QVXS_API(QvxStatus, qvxsConjFlip_32fc, (const Qvx32fc* pSrc, Qvx32fc* pDst, int len));
 QVXS_API(QvxStatus, qvxsConjFlip_64fc, (const Qvx64fc* pSrc, Qvx64fc* pDst, int len));
 
-/** dst[n] = src[len - 1 - n]; the _I forms reverse srcDst. As qvxsReal. */
+/** dst[n] = src[len - 1 - n], the vectors apart; the _I forms reverse srcDst. As qvxsReal. */
 QVXS_API(QvxStatus, qvxsFlip_8u, (const Qvx8u* pSrc, Qvx8u* pDst, int len));
 QVXS_API(QvxStatus, qvxsFlip_8u_I, (Qvx8u* pSrcDst, int len));
 QVXS_API(QvxStatus, qvxsFlip_16u, (const Qvx16u* pSrc, Qvx16u* pDst, int len));

@@ -41,10 +41,11 @@ QVXS_API(QvxStatus, qvxsConvert_32s64f_Sfs, (const Qvx32s* pSrc, Qvx64f* pDst, i
 
 /** dst[n] = src[n] * 2^-scaleFactor, rounded as rndMode says and saturated. rndMode: qvxRoundTowardZero, qvxRoundNearestEven;
  *  anything else is qvxRoundHalfAway.
- *  The factor and the product are of the source's type: far scale factors underflow to 0 or overflow to infinity.
+ *  The factor and the product are of the source's type: far scale factors underflow to 0 or overflow to infinity, which makes a
+ *  NaN of 0. But 64f16s limits scaleFactor to -1008 to 1022, and 64f64s multiplies by any power of two.
  *  Half away adds 0.5 to the magnitude in the source's type and truncates, so that the float just below 0.5 gives 1 from 32f
  *  sources; from 64f sources to 16s and 64s it gives 0, and to 32s what the caller's rounding mode makes of that sum.
- *  Not a number gives the upper limit; 0 for the destinations 8u, 16u and 64s.
+ *  A NaN gives the upper limit; 0 for the destinations 8u, 16u and 64s.
  *  64f64s: len is unsigned, and only 0 is refused. Returns as above. */
 QVXS_API(QvxStatus, qvxsConvert_32f8s_Sfs, (const Qvx32f* pSrc, Qvx8s* pDst, int len, QvxRoundMode rndMode, int scaleFactor));
 QVXS_API(QvxStatus, qvxsConvert_32f8u_Sfs, (const Qvx32f* pSrc, Qvx8u* pDst, int len, QvxRoundMode rndMode, int scaleFactor));
@@ -67,13 +68,13 @@ QVXS_API(QvxStatus, qvxsConvert_16s8s_Sfs, (const Qvx16s* pSrc, Qvx8s* pDst, Qvx
 QVXS_API(QvxStatus, qvxsConvert_64s32s_Sfs, (const Qvx64s* pSrc, Qvx32s* pDst, int len, QvxRoundMode rndMode, int scaleFactor));
 
 /** dst[n] = src[n] * 2^-scaleFactor, saturated to 24 bits, rounded to nearest even whatever the caller's rounding mode.
- *  Not a number gives the lower limit. */
+ *  A NaN gives the lower limit, and so does 0 where 2^-scaleFactor overflows to infinity: below -127. */
 QVXS_API(QvxStatus, qvxsConvert_32f24u_Sfs, (const Qvx32f* pSrc, Qvx8u* pDst, int len, int scaleFactor));
 QVXS_API(QvxStatus, qvxsConvert_32f24s_Sfs, (const Qvx32f* pSrc, Qvx8u* pDst, int len, int scaleFactor));
 
 /** Conversions from and to binary16, overflow to infinity as in IEEE 754 and subnormal numbers kept.
  *  32f16f, 16s16f: rndMode qvxRoundNearestEven, else toward zero (then an overflow gives the largest number). 16f16s: the value
- *  times 2^-scaleFactor, rounded as rndMode says and saturated; not a number gives 32767. A number that is not one stays so.
+ *  times 2^-scaleFactor, rounded as rndMode says and saturated; a NaN gives 32767. Between floats a NaN stays one.
  *  Returns as above; qvxStatBadRoundMode (rndMode is qvxRoundHalfAway). */
 QVXS_API(QvxStatus, qvxsConvert_16f32f, (const Qvx16f* pSrc, Qvx32f* pDst, int len));
 QVXS_API(QvxStatus, qvxsConvert_32f16f, (const Qvx32f* pSrc, Qvx16f* pDst, int len, QvxRoundMode rndMode));

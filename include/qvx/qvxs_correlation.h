@@ -13,7 +13,7 @@ extern "C" {
  * length of the transform and eps 2^-24 or 2^-53. A convolution is long from 512 results with at least 64 elements in the shorter vector
  * on, a correlation where (less * lags / more) exceeds 383 (64f, 64fc: 511, 32fc: 255), less and more being the shorter and the longer
  * length, and an autocorrelation from 856 lags on (32fc: 152, 64fc: 368); not all of those that are long gain by it. An infinite element
- * or one that is no number spoils all results of the transforms it enters.
+ * or a NaN spoils all results of the transforms it enters.
  *
  * 16-bit sums are those of integers, rounded once to nearest with ties to even and saturated: exact when added up directly, within one unit
  * of that otherwise. A scaleFactor beyond what can matter gives zeros or the ends of the range.

@@ -42,6 +42,9 @@ struct WaveletInverseStem {
 template <class T, class Tap>
 inline constexpr bool kTapsHaveFactor = kIntegral<Tap> && !(std::is_same_v<T, Qvx32s> && std::is_same_v<Tap, Qvx32s>);
 
+// C wants a pointer even to what has no element.
+template <class T> T* orNone(std::span<T> vector, T& none) { return vector.empty() ? &none : vector.data(); }
+
 // What FIR filters of one rate and of several have in common.
 template <class T, class Tap> class FirRecord {
   using Known = FilterRecord<handles::FIRStem, Tap, T>;
@@ -219,7 +222,7 @@ template <class T> class StreamFir {
     const size_t steps = dst.size() / static_cast<size_t>(rates_.up);
     QVX_REQUIRE(steps <= INT_MAX && dst.size() == steps * static_cast<size_t>(rates_.up) &&
                 src.size() == historySize_ + steps * static_cast<size_t>(rates_.down));
-    return handles::FIR(src.data(), dst.data(), static_cast<int>(steps), record_, scaleFactor...);
+    return handles::FIR(src.data(), dst.data(), static_cast<int>(steps), record_.get(), scaleFactor...);
   }
 
  private:
@@ -232,7 +235,7 @@ template <class T> class StreamFir {
     Result<Vector<Qvx8u>> block = Vector<Qvx8u>::make(static_cast<size_t>(bytes));
     if (!block) return block.error();
     made.block_ = std::move(*block);
-    status = init(&made.record_, len, made.block_.data());
+    status = init(made.record_.slot(), len, made.block_.data());
     if (status.refused()) return status;
     made.rates_ = rates;
     made.historySize_ = (tapsLen + static_cast<size_t>(rates.up) - 1) / static_cast<size_t>(rates.up) - 1;
@@ -240,7 +243,7 @@ template <class T> class StreamFir {
   }
 
   Vector<Qvx8u> block_;
-  Record* record_ = nullptr;
+  detail::Owner<detail::InBlockStem, Record> record_;
   Rates rates_;
   size_t historySize_ = 0;
 };
@@ -260,19 +263,19 @@ class SparseFir {
     if (!block) return block.error();
     SparseFir made;
     made.block_ = std::move(*block);
-    status = handles::FIRSparseInit(&made.record_, taps.data(), positions.data(), detail::length(taps.size()),
+    status = handles::FIRSparseInit(made.record_.slot(), taps.data(), positions.data(), detail::length(taps.size()),
                                     detail::optional<const Qvx32f>(delayLine), made.block_.data());
     if (status.refused()) return status;
     return made;
   }
   Status filter(detail::Source<Qvx32f> src, detail::Target<Qvx32f> dst) {
     QVX_REQUIRE(detail::countable(src.size()) && src.size() == dst.size());
-    return handles::FIRSparse(src.data(), dst.data(), detail::length(src.size()), record_);
+    return handles::FIRSparse(src.data(), dst.data(), detail::length(src.size()), record_.get());
   }
 
  private:
   Vector<Qvx8u> block_;
-  QvxsFIRSparseState_32f* record_ = nullptr;
+  detail::Owner<detail::InBlockStem, QvxsFIRSparseState_32f> record_;
 };
 
 // The same with feedback, which is added: tapsB on samples and tapsA on results, whose positions increase from 1 on.
@@ -292,19 +295,19 @@ class SparseIir {
     if (!block) return block.error();
     SparseIir made;
     made.block_ = std::move(*block);
-    status = handles::IIRSparseInit(&made.record_, taps.data(), positions.data(), tapsB, tapsA,
+    status = handles::IIRSparseInit(made.record_.slot(), taps.data(), positions.data(), tapsB, tapsA,
                                     detail::optional<const Qvx32f>(delayLine), made.block_.data());
     if (status.refused()) return status;
     return made;
   }
   Status filter(detail::Source<Qvx32f> src, detail::Target<Qvx32f> dst) {
     QVX_REQUIRE(detail::countable(src.size()) && src.size() == dst.size());
-    return handles::IIRSparse(src.data(), dst.data(), detail::length(src.size()), record_);
+    return handles::IIRSparse(src.data(), dst.data(), detail::length(src.size()), record_.get());
   }
 
  private:
   Vector<Qvx8u> block_;
-  QvxsIIRSparseState_32f* record_ = nullptr;
+  detail::Owner<detail::InBlockStem, QvxsIIRSparseState_32f> record_;
 };
 
 // A recursive filter: the direct form of any order, or second-order sections one after another.
@@ -548,11 +551,13 @@ template <class T> class WaveletForward {
   size_t highSize() const { return highLen_; }
   Status delayLines(detail::Target<Qvx32f> low, detail::Target<Qvx32f> high) const {
     QVX_REQUIRE(low.size() >= lowLen_ && high.size() >= highLen_);
-    return handles::WTFwdGetDlyLine(owner_.get(), low.data(), high.data());
+    Qvx32f none = 0;
+    return handles::WTFwdGetDlyLine(owner_.get(), records::orNone(low, none), records::orNone(high, none));
   }
   Status setDelayLines(detail::Source<Qvx32f> low, detail::Source<Qvx32f> high) {
     QVX_REQUIRE(low.size() >= lowLen_ && high.size() >= highLen_);
-    return handles::WTFwdSetDlyLine(owner_.get(), low.data(), high.data());
+    const Qvx32f none = 0;
+    return handles::WTFwdSetDlyLine(owner_.get(), records::orNone(low, none), records::orNone(high, none));
   }
 
  private:
@@ -584,11 +589,13 @@ template <class T> class WaveletInverse {
   size_t highSize() const { return highLen_; }
   Status delayLines(detail::Target<Qvx32f> low, detail::Target<Qvx32f> high) const {
     QVX_REQUIRE(low.size() >= lowLen_ && high.size() >= highLen_);
-    return handles::WTInvGetDlyLine(owner_.get(), low.data(), high.data());
+    Qvx32f none = 0;
+    return handles::WTInvGetDlyLine(owner_.get(), records::orNone(low, none), records::orNone(high, none));
   }
   Status setDelayLines(detail::Source<Qvx32f> low, detail::Source<Qvx32f> high) {
     QVX_REQUIRE(low.size() >= lowLen_ && high.size() >= highLen_);
-    return handles::WTInvSetDlyLine(owner_.get(), low.data(), high.data());
+    const Qvx32f none = 0;
+    return handles::WTInvSetDlyLine(owner_.get(), records::orNone(low, none), records::orNone(high, none));
   }
 
  private:

@@ -47,7 +47,8 @@ typedef struct QvxsFIRState_16s QvxsFIRState_16s;
 typedef QvxsFIRState64f_32s QvxsFIRState_32s; /* integer taps, held as 64f */
 
 /** *pSize = the bytes of a record of tapsLen taps, for a block of any alignment. It depends on the number of threads
- *  (ownGetNumThreads), which must be no higher at qvxsFIRInit than here.
+ *  (ownGetNumThreads), which must be no higher at qvxsFIRInit than here. The number is modulo 2^32: a record of 2^31 bytes or
+ *  more, which 8.4 million taps of 64fc and 23.7 million of 32f take, is not for qvxsFIRInit, and qvxsFIRInitAlloc refuses it.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadTapsLen (tapsLen < 1). */
 QVXS_API(QvxStatus, qvxsFIRGetStateSize_32f, (int tapsLen, int* pSize));
 QVXS_API(QvxStatus, qvxsFIRGetStateSize_32fc, (int tapsLen, int* pSize));
@@ -222,7 +223,9 @@ QVXS_API(QvxStatus, qvxsFIRStreamGetStateSize_32f, (int tapsLen, int* pSize));
  *  counts as -31 if it is less; s above 0 wraps at 32 bits, and from 32 on gives 0.
  *  Accuracy: float sums are added in an order that depends on the call. With noise, a result is off by 2.5 eps of the sum of
  *  |h[k] * x[n - k]| at most, for any number of taps, eps 2^-23 (32f, 32fc arithmetic) or 2^-52 (64f, 64fc); by way of the FFT by
- *  eps times the root mean square of x times the sum of |h[k]|, which is more where x is quiet beside what is near.
+ *  eps times the root mean square of x times the sum of |h[k]|, which is more where x is quiet beside what is near. An infinity or
+ *  a NaN spoils all results of the transforms it enters, earlier ones of the same call too; once it has left them, the results are
+ *  those of the samples again.
  *  The number of threads never changes a bit.
  *  A multi-rate record reads numIters * downFactor samples and gives numIters * upFactor; in place, with upFactor above downFactor,
  *  the samples are copied to memory of the call's own. qvxsFIROne refuses such records.

@@ -2678,7 +2678,7 @@ template <class... Arguments>
   }
 }
 
-// dst[n] = the conjugate of src[len - 1 - n]. As qvxsConj. (qvxs_complex.h)
+// dst[n] = the conjugate of src[len - 1 - n]. As qvxsConj, but the vectors must not overlap. (qvxs_complex.h)
 namespace exports {
 struct ConjFlip {
   static Status call(In<Qvx16sc> src, Out<Qvx16sc> dst) {
@@ -2707,7 +2707,7 @@ template <class... Arguments>
   }
 }
 
-// dst[n] = src[len - 1 - n]; the _I forms reverse srcDst. As qvxsReal. (qvxs_complex.h)
+// dst[n] = src[len - 1 - n], the vectors apart; the _I forms reverse srcDst. As qvxsReal. (qvxs_complex.h)
 namespace exports {
 struct Flip {
   static Status call(In<Qvx8u> src, Out<Qvx8u> dst) {

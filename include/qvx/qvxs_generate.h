@@ -172,7 +172,7 @@ QVXS_API(QvxStatus, qvxsTriangleFree, (QvxsTriangleState* pState));
 /* ---- lines and chirps */
 
 /** dst[n] = offset + slope * n: a product and a sum in doubles, then one rounding, of integers with halves away from zero; saturated.
- *  What is not a number becomes the largest integer. The same to the bit in all variants.
+ *  A NaN becomes the largest integer. The same to the bit in all variants.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
 QVXS_API(QvxStatus, qvxsVectorRamp_8u, (Qvx8u* pDst, int len, Qvx32f offset, Qvx32f slope));
 QVXS_API(QvxStatus, qvxsVectorRamp_8s, (Qvx8s* pDst, int len, Qvx32f offset, Qvx32f slope));

@@ -13,7 +13,7 @@ extern "C" {
  *  16sc: both parts times 2^-scaleFactor, rounded to nearest, saturated: within one unit.
  *  pSrc: len elements, any alignment. rFreq: relative to the sampling rate, from 0 to below 1; of a real vector one above 0.5 is a
  *  mirrored frequency.
- *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1); qvxStatBadRelFreq (rFreq outside [0, 1), or no number). */
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1); qvxStatBadRelFreq (rFreq outside [0, 1), or a NaN). */
 QVXS_API(QvxStatus, qvxsGoertz_32f, (const Qvx32f* pSrc, int len, Qvx32fc* pVal, Qvx32f rFreq));
 QVXS_API(QvxStatus, qvxsGoertz_64f, (const Qvx64f* pSrc, int len, Qvx64fc* pVal, Qvx64f rFreq));
 QVXS_API(QvxStatus, qvxsGoertz_32fc, (const Qvx32fc* pSrc, int len, Qvx32fc* pVal, Qvx32f rFreq));

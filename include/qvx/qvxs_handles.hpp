@@ -1650,7 +1650,7 @@ inline QvxStatus FIRSparseInit(QvxsFIRSparseState_32f** ppState, const Qvx32f* p
 inline QvxStatus FIRSparse(const Qvx32f* pSrc, Qvx32f* pDst, int len, QvxsFIRSparseState_32f* pState) { return
     qvxsFIRSparse_32f(pSrc, pDst, len, pState); }
 
-// qvxs_iir.h: *pStateSize = the bytes that a record of this order takes, wherever its block starts.
+// qvxs_iir.h: *pStateSize = the bytes that a record of this order takes, wherever its block starts, modulo ...
 inline QvxStatus IIRGetStateSize(Types<Qvx32f>, int order, int* pStateSize) { return qvxsIIRGetStateSize_32f(order, pStateSize); }
 inline QvxStatus IIRGetStateSize(Types<Qvx32fc>, int order, int* pStateSize) { return qvxsIIRGetStateSize_32fc(order, pStateSize);
     }

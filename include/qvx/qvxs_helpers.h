@@ -10,7 +10,7 @@ extern "C" {
 #endif
 
 /** In place: y[0] = x[0], y[n] = x[n] - val * x[n - 1]. Nothing is carried from one call to the next.
- *  Product and difference are rounded in Qvx32f; 16s: the result to nearest, ties to even, saturated, what is no number to 32767.
+ *  Product and difference are rounded in Qvx32f; 16s: the result to nearest, ties to even, saturated, a NaN to 32767.
  *  pSrcDst: len elements, any alignment.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
 QVXS_API(QvxStatus, qvxsPreemphasize_32f, (Qvx32f* pSrcDst, int len, Qvx32f val));
@@ -25,7 +25,7 @@ QVXS_API(QvxStatus, qvxsPreemphasize_16s, (Qvx16s* pSrcDst, int len, Qvx32f val)
 QVXS_API(QvxStatus, qvxsDemodulateFM_CToR_16s, (const Qvx16s* pSrcRe, const Qvx16s* pSrcIm, Qvx16s* pDst, int len, Qvx16sc* pDlyPoint));
 
 /** A running average y = *pSrcDst over the samples in turn: y = (alpha * y + (32768 - alpha) * v) / 32768, exact, rounded to nearest with
- *  ties to even, saturated. Linear: v = x >> srcShiftRight; Power: v = (x* x) >> srcShiftRight.
+ *  ties to even, saturated. Linear: v = x >> srcShiftRight; Power: v = (x * x) >> srcShiftRight.
  *  pSrc: len elements, any alignment.
  *  srcShiftRight counts as the nearest of 0 to 15 (Linear), 0 to 31 (Power). alpha: any, in Q15. hint: of no effect.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
@@ -36,7 +36,7 @@ QVXS_API(QvxStatus, qvxsUpdatePower_16s32s_I, (const Qvx16s* pSrc, int len, Qvx3
  *    zcType 0   neighbours on different sides of zero: zeros count for nothing
  *           1   neighbours of different signs: either zero is positive
  *           2   half the sum of |sign(x[n]) - sign(x[n - 1])| with signs -1, 0 and 1: a passage through zero is one in two steps
- *  What is no number is on no side of zero (types 0 and 2) and has the sign of its sign bit (type 1).
+ *  A NaN is on no side of zero (types 0 and 2) and has the sign of its sign bit (type 1).
  *  pSrc: len elements, any alignment.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1); qvxStatBadRange (another zcType). */
 QVXS_API(QvxStatus, qvxsZeroCrossing_16s32f, (const Qvx16s* pSrc, int len, Qvx32f* pValZC, int zcType));
@@ -61,7 +61,7 @@ QVXS_API(QvxStatus, qvxsCauchyDD2_32f_I, (Qvx32f* pSrcDst, Qvx32f* pD2F, int len
  *  2^-scaleFactor, rounded to nearest with ties to even, saturated. Of scaleFactor the magnitude modulo 128 counts, and 127 gives
  *  zeros.
  *  pSrc, pDst: len elements each, any alignment; pDst may be pSrc.
- *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1); qvxStatDivByZero (|vDiv| below the smallest normal number, or no number;
+ *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1); qvxStatDivByZero (|vDiv| below the smallest normal number, or a NaN;
  *  of integers 0). */
 QVXS_API(QvxStatus, qvxsNormalize_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int len, Qvx32f vSub, Qvx32f vDiv));
 QVXS_API(QvxStatus, qvxsNormalize_64f, (const Qvx64f* pSrc, Qvx64f* pDst, int len, Qvx64f vSub, Qvx64f vDiv));

@@ -67,7 +67,7 @@ QVXS_API(QvxStatus, qvxsSet_64fc, (Qvx64fc val, Qvx64fc* pDst, int len));
 QVXS_API(QvxStatus, qvxsCopy_1u, (const Qvx8u* pSrc, int srcBitOffset, Qvx8u* pDst, int dstBitOffset, int len));
 
 /** dst[n] = src1[n] & src2[n]; the _I form: srcDst[n] &= src[n].
- *  Here and in the bit operations below: len elements, any alignment; in place only in the _I forms.
+ *  Here and in the bit operations below: len elements, any alignment; pDst may be a source.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
 QVXS_API(QvxStatus, qvxsAnd_8u, (const Qvx8u* pSrc1, const Qvx8u* pSrc2, Qvx8u* pDst, int len));
 QVXS_API(QvxStatus, qvxsAnd_8u_I, (const Qvx8u* pSrc, Qvx8u* pSrcDst, int len));

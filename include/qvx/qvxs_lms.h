@@ -68,7 +68,7 @@ QVXS_API(QvxStatus, qvxsFIRLMSOne_DirectQ15_16s, (Qvx16s src, Qvx16s ref, int mu
  *   y = the sum of h[k] * x[n - k] in 64 bits, which wrap, times 2^-scaleFactor, rounded to nearest with ties to even, saturated
  *       to 16 bits; err = reference - y, saturated to 16 bits;
  *   h[k] = h[k] + rint(2 * mu * err * x[n - k]), saturated to 32 bits; of complex numbers the conjugate of x. err * x is exact,
- *       what it is multiplied by is 2 * mu in a 64-bit float, rint rounds ties to even; what is not a number counts as the least.
+ *       what it is multiplied by is 2 * mu in a 64-bit float, rint rounds ties to even; a NaN counts as the least.
  * Delay lines are newest first here. All results are the same to the bit in all variants. */
 typedef struct QvxsFIRLMSMRState32s_16s QvxsFIRLMSMRState32s_16s;
 typedef struct QvxsFIRLMSMRState32sc_16sc QvxsFIRLMSMRState32sc_16sc;

@@ -34,7 +34,7 @@ QVXS_API(QvxStatus, qvxsSqr_16sc_ISfs, (Qvx16sc* pSrcDst, int len, int scaleFact
  *  forms: of srcDst[n].
  *  Real floats: correctly rounded. Integers: the root of the exact value, rounded once, at every scale factor; of 16sc each part
  *  of the exact complex root. Complex floats: each part within 0.501 (32fc) and 2 (64fc) units in its last place, without
- *  overflow or loss for parts of any size; zeros, infinities and what is not a number as csqrt has them.
+ *  overflow or loss for parts of any size; zeros, infinities and NaN as csqrt has them.
  *  A real element below 0 has no root: floats become the processor's quiet NaN, integers 0.
  *  pSrc, pDst: len elements each, any alignment. Long vectors may be divided between two threads.
  *  Returns qvxStatOk; qvxWarnSqrtNegArg if a real element was below 0 (the others are complete); qvxStatNullPtr;

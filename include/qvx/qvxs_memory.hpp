@@ -23,8 +23,9 @@ template <class T> class Vector {
   }
   Vector(Vector&& other) noexcept : data_(std::exchange(other.data_, nullptr)), size_(std::exchange(other.size_, 0)) {}
   Vector& operator=(Vector&& other) noexcept {
-    std::swap(data_, other.data_);
-    std::swap(size_, other.size_);
+    Vector taken(std::move(other));
+    std::swap(data_, taken.data_);
+    std::swap(size_, taken.size_);
     return *this;
   }
   ~Vector() { handles::Free(data_); }
@@ -53,7 +54,8 @@ template <class Stem, class Record> class Owner {
   Owner() = default;
   Owner(Owner&& other) noexcept : record_(std::exchange(other.record_, nullptr)) {}
   Owner& operator=(Owner&& other) noexcept {
-    std::swap(record_, other.record_);
+    Owner taken(std::move(other));
+    std::swap(record_, taken.record_);
     return *this;
   }
   ~Owner() {
@@ -64,6 +66,11 @@ template <class Stem, class Record> class Owner {
 
  private:
   Record* record_ = nullptr;
+};
+
+// The stem of a record in a block that the object has beside it: there is nothing to give back.
+struct InBlockStem {
+  static QvxStatus free(const void*) { return qvxStatOk; }
 };
 
 template <class Range, class T>

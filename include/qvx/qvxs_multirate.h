@@ -29,7 +29,7 @@ extern "C" {
  *  of integers as 64f, of complex ones as 64fc), b = 4d(S / u / (4d) + 1) + 1 + d(-r mod 4), and up(x) the next multiple of 16:
  *    176 + up(EN) + up(4u + 4) + 4ES + E max(4S, 4096) + up(E(D + b) + 4)   where N / (N + 3d) is above 0.3 (u = 1: 0.5), else
  *    160 + up(EN) + up(16u + 4) + 4ES + E max(8S, 4096) + up(E(D + b) + 4).
- *  With u = d = 1 as qvxsFIRGetStateSize.
+ *  With u = d = 1 as qvxsFIRGetStateSize, and modulo 2^32 as there.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadTapsLen (tapsLen < 1); qvxStatBadMRFactor (upFactor or downFactor < 1). */
 QVXS_API(QvxStatus, qvxsFIRMRGetStateSize_32f, (int tapsLen, int upFactor, int downFactor, int* pSize));
 QVXS_API(QvxStatus, qvxsFIRMRGetStateSize_32fc, (int tapsLen, int upFactor, int downFactor, int* pSize));

@@ -17,7 +17,7 @@ inline const char* describe(QvxStatus status) {
     case qvxWarnDivByZero: return "qvxWarnDivByZero: a divisor element was zero";
     case qvxWarnLnZeroArg: return "qvxWarnLnZeroArg: a source element was zero";
     case qvxWarnLnNegArg: return "qvxWarnLnNegArg: a source element was negative";
-    case qvxWarnNotFinite: return "qvxWarnNotFinite: a source element was infinite or not a number";
+    case qvxWarnNotFinite: return "qvxWarnNotFinite: a source element was infinite or a NaN";
     case qvxWarnBadBitLen: return "qvxWarnBadBitLen: a bit length was outside 0 to 32";
     case qvxStatBadArg: return "qvxStatBadArg: an enumerated argument or an index is outside its set";
     case qvxStatBadSize: return "qvxStatBadSize: a length is below 1";

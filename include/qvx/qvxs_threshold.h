@@ -16,9 +16,9 @@ extern "C" {
  *  32fc: compared by squares and clipped in Qvx64f, which no magnitude overflows. 64fc: the same after a scaling of every
  *  element by a power of two of its own, so that nothing overflows there either; squares that differ by less than 2 roundings
  *  may compare as equal. level is finite.
- *  Here and below a number that is not one is neither below nor above: it stays, bit by bit, and a level that is not one leaves
- *  everything as it is. So -0 is not below 0. A complex element with such a part counts as one.
- *  pSrc, pDst: len elements each, any alignment, no overlap; the _I forms take pSrcDst.
+ *  Here and below a NaN is neither below nor above: it stays, bit by bit, and a level that is a NaN leaves everything as it is. A
+ *  complex element with a NaN as a part counts as one. -0 is not below 0.
+ *  pSrc, pDst: len elements each, any alignment; pDst may be pSrc, which the _I forms have as pSrcDst.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1); qvxStatBadArg (relOp neither 0 nor 4); qvxStatNegThreshold
  *  (complex, level < 0). */
 QVXS_API(QvxStatus, qvxsThreshold_16s, (const Qvx16s* pSrc, Qvx16s* pDst, int len, Qvx16s level, int relOp));
@@ -129,7 +129,7 @@ QVXS_API(QvxStatus, qvxsThreshold_GTAbs_64f_I, (Qvx64f* pSrcDst, int len, Qvx64f
 
 /** dst[n] = 1 / src[n], where the magnitude of src[n] is raised to level first, its sign or phase kept.
  *  Real forms round once. Complex forms compute as the complex threshold does: 32fc in Qvx64f, 64fc to a few roundings; an
- *  infinite element gives zeros, one with a part that is not a number two of those. A zero at level 0 becomes an infinity of
+ *  infinite element gives zeros, a NaN as a part gives two. A zero at level 0 becomes an infinity of
  *  its sign; the complex one has both parts +infinity.
  *  All rounds to nearest whatever the mode. No floating-point exception reaches the caller: neither flag nor trap.
  *  Long vectors (32f: 8192; 64f and 32fc: 2048; 64fc: 512 elements) may be divided between two threads.

@@ -188,9 +188,9 @@ template <class Stem, class Record, class CallsOfIt> class Transform : public Ca
         owner_(std::move(other.owner_)),
         memory_(std::move(other.memory_)) {}
   Transform& operator=(Transform&& other) noexcept {
-    std::swap(static_cast<CallsOfIt&>(*this), static_cast<CallsOfIt&>(other));
-    std::swap(owner_, other.owner_);
-    std::swap(memory_, other.memory_);
+    static_cast<CallsOfIt&>(*this) = std::exchange(static_cast<CallsOfIt&>(other), CallsOfIt());
+    owner_ = std::move(other.owner_);
+    memory_ = std::move(other.memory_);
     return *this;
   }
 

@@ -119,7 +119,7 @@ QVXS_API(QvxStatus, qvxsWinBlackmanOpt_64fc_I, (Qvx64fc* pSrcDst, int len));
  *     16s, 16sc    7.0e-7, what is above an argument of 38 counted in
  *     64f, 64fc    5.6e-6
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1); qvxStatBadKaiserAlpha (|alpha| (N-1) / 2 above 38 for 32f and
- *  32fc, above 308 for the others, or not a number). A vector of one element is copied. */
+ *  32fc, above 308 for the others, or a NaN). A vector of one element is copied. */
 QVXS_API(QvxStatus, qvxsWinKaiser_16s, (const Qvx16s* pSrc, Qvx16s* pDst, int len, Qvx32f alpha));
 QVXS_API(QvxStatus, qvxsWinKaiser_16s_I, (Qvx16s* pSrcDst, int len, Qvx32f alpha));
 QVXS_API(QvxStatus, qvxsWinKaiser_16sc, (const Qvx16sc* pSrc, Qvx16sc* pDst, int len, Qvx32f alpha));

@@ -31,8 +31,8 @@ def check_axis(axis, ndim):
 
 
 def contiguous(x, dtype=None):
-    """The array in C order and aligned: one that came over a network may be neither."""
-    x = np.ascontiguousarray(x, dtype)
+    """The array in C order and aligned: one that came over a network may be neither. A number stays one, without an axis."""
+    x = np.asarray(x, dtype, order="C")
     return x if x.flags.aligned else x.copy()
 
 

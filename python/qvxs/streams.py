@@ -186,7 +186,7 @@ class Sos(_Recursive):
 class Resampler(_Stream):
     """Resampling of a stream by up / down through taps, as upfirdn; what is due later comes with later blocks or with `flush`.
 
-    taps: None for those of resample_poly. Exports: qvxsFIRMRInitAlloc_ and qvxsFIR_ of 32f, 64f, 32fc, 64fc.
+    taps: None for those of resample_poly, which are for up / down in lowest terms. Exports: qvxsFIRMRInitAlloc_ and qvxsFIR_ of 32f, 64f, 32fc, 64fc.
 
         >>> double = Resampler(2, 1, [1., 1])
         >>> double.process([1., 2.]), double.process([3.])
@@ -194,12 +194,13 @@ class Resampler(_Stream):
     """
 
     def __init__(self, up, down, taps=None, dtype=None):
-        common = math.gcd(up, down)
-        self.up, self.down = up // common, down // common
         if taps is None:
             from .signal import resampling_taps
-            rate = max(self.up, self.down)
-            taps = resampling_taps(rate) * self.up if rate > 1 else np.ones(1)
+            common = math.gcd(up, down)
+            up, down = up // common, down // common
+            rate = max(up, down)
+            taps = resampling_taps(rate) * up if rate > 1 else np.ones(1)
+        self.up, self.down = up, down
         taps = np.atleast_1d(taps)
         super().__init__(np.result_type(taps, np.float32) if dtype is None else dtype)
         self._tail = _tail(self.dtype, _SAME)

@@ -13,7 +13,7 @@ copied. A dtype without an export raises TypeError.
 Complex integers are structured arrays with the fields re and im: `qvxs.complex_int16` and its like.
 """
 
-from math import sqrt
+import math
 
 import numpy as np
 
@@ -286,7 +286,8 @@ def _reduction(name, stem, results, summary, example, overflow=False, widest=Fal
             form(pSrc=row, len=row.size, hint=2, scaleFactor=0, **{result: made[k][i] for k, result in enumerate(results)})
         for values in made if overflow and form.target.kind in "iu" else ():
             limits = np.iinfo(values.dtype)
-            if ((values == limits.max) | (values == limits.min)).any():
+            at_limit = ((values == limits.max) | (values == limits.min))[:, 0]
+            if (rows[at_limit].sum(axis=1, dtype=np.int64) != values[at_limit, 0]).any():
                 raise OverflowError(f"{name} is beyond {values.dtype}: convert the array to a wider type first")
         made = [values.reshape(shape) if axis is not None else values[0, 0] for values in made]
         return made[0] if len(made) == 1 else tuple(made)
@@ -332,7 +333,7 @@ def std(x, axis=None, ddof=0):
     n = x.size if axis is None else x.shape[axis]
     if n == 1:
         return np.zeros(np.delete(x.shape, axis) if axis is not None else (), x.dtype)[()] * (0.0 if ddof == 0 else np.nan)
-    return sample_deviation(x, axis) * x.dtype.type(sqrt((n - 1) / (n - ddof)) if n > ddof else np.nan)  # noqa: F821
+    return sample_deviation(x, axis) * x.dtype.type(math.sqrt((n - 1) / (n - ddof)) if n > ddof else np.nan)  # noqa: F821
 
 
 _DOT = {form.source: form for form in forms("DotProd")

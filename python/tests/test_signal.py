@@ -182,7 +182,7 @@ def test_streams_may_be_cut_anywhere(dtype):
 
 
 @pytest.mark.parametrize("dtype", TYPES)
-@pytest.mark.parametrize("up, down", [(1, 1), (2, 1), (1, 4), (3, 2), (7, 16)])
+@pytest.mark.parametrize("up, down", [(1, 1), (2, 1), (1, 4), (3, 2), (7, 16), (4, 6), (3, 3)])
 def test_resampled_streams(dtype, up, down):
     taps = noise(40, dtype, 2)
     for n in (1, 3, 100, 1003):

@@ -67,7 +67,7 @@ def test_shapes(name):
     ours, theirs = getattr(qvxs, name), getattr(np, name)
     a = noise((6, 5, 4), "d")
     for x, y in ((a, a[:, ::-1]), (a[::2], a[1::2]), (a.T, a.T), (a, a[0]), (a[:, :1], a[:1]), (a, 2), (3, a), (np.float64(2), a),
-                 (a[0, 0], a), (a[:0], a[:0]), (a, np.float32(2)), (np.asfortranarray(a), a), (a[:4, :4, 0], a[:4, :4, 0].T)):
+                 (a[0, 0], a), (a[:0], a[:0]), (a, np.float32(2)), (np.float32(3), np.float32(2)), (np.asfortranarray(a), a), (a[:4, :4, 0], a[:4, :4, 0].T)):
         assert (ours(x, y) == theirs(x, y)).all() and ours(x, y).shape == theirs(x, y).shape
     with pytest.raises(ValueError):
         ours(a, a[:, :3])
@@ -147,6 +147,7 @@ def test_statistics(dtype):
         assert np.allclose(qvxs.sum(x, axis), x.sum(axis, dtype="d"), rtol=1e-5, atol=1e-3)
         assert (qvxs.max(x, axis) == x.max(axis)).all() and (qvxs.min(x, axis) == x.min(axis)).all()
         if x.dtype.kind == "f":
+            assert np.shape(qvxs.std(x, axis)) == np.shape(x.std(axis))
             assert np.allclose(qvxs.std(x, axis), x.std(axis), rtol=1e-5) and np.allclose(qvxs.std(x, axis, 1), x.std(axis, ddof=1), rtol=1e-5)
             assert np.allclose(qvxs.mean(x, axis), x.mean(axis), atol=1e-6)
     flat = x.reshape(-1)
@@ -160,6 +161,7 @@ def test_statistics(dtype):
 def test_sums_do_not_saturate_without_a_word():
     with pytest.raises(OverflowError):
         qvxs.sum(np.full(3, 2**30, np.int32))
+    assert qvxs.sum(np.int32([2**31 - 2, 1])) == 2**31 - 1  # the largest there is, and the sum
     assert qvxs.sum(np.full(60000, 32767, np.int16)) == 60000 * 32767
     assert qvxs.dot(np.full(10**5, 32767, np.int16), np.full(10**5, -32768, np.int16)) == -(10**5) * 32767 * 32768
 

@@ -10,6 +10,10 @@ namespace {
 
 // In lanes of doubles; floats have one rounding, at the end.
 template <class T> struct ToCart {
+  // SSSE3 rounds quarter turns to a whole number in the processor's mode: any other than to nearest would lead out of the
+  // polynomials' interval.
+  static constexpr Rounding kNeeds = kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest;
+
   template <class V> auto operator()(V magnitude, V phase) const {
     constexpr int kDigits = std::numeric_limits<T>::digits;
     const auto turn = sinCos<kDigits>(convertLanes<double>(phase));
@@ -22,12 +26,14 @@ template <class T> struct ToCart {
 template <class T, class C> QvxStatus toComplex(const T* magnitude, const T* phase, C* dst, int len) {
   const QvxStatus status = check(len, magnitude, phase, dst);
   if (status != qvxStatOk) return status;
+  const RoundingScope scope(ToCart<T>::kNeeds);
   return loop<double>(ToCart<T>(), InterleavedDestination<T>{parts(dst)}, elements(len), source(magnitude), source(phase));
 }
 
 template <class T> QvxStatus toParts(const T* magnitude, const T* phase, T* re, T* im, int len) {
   const QvxStatus status = check(len, magnitude, phase, re, im);
   if (status != qvxStatOk) return status;
+  const RoundingScope scope(ToCart<T>::kNeeds);
   return loop<double>(ToCart<T>(), SplitDestination<T>{re, im}, elements(len), source(magnitude), source(phase));
 }
 

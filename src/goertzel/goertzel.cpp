@@ -107,6 +107,7 @@ QvxStatus goertz(const T* src, int len, R* val, const F* frequency, Result resul
   if (status != qvxStatOk) return status;
   Component found[kCount];
   for (size_t k = 0; k < kCount; ++k) found[k].frequency = frequency[k];
+  const RoundingScope scope(kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest);  // of the turns, by sinCosOfTurns
   transform(src, elements(len), found);
   for (size_t k = 0; k < kCount; ++k) val[k] = result(found[k]);
   return qvxStatOk;

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "frame/record.h"
+#include "frame/rounding.h"
 #include "frame/team.h"
 #include "math/sin_cos.h"
 #include "transform/passes.h"
@@ -129,8 +130,10 @@ void runPassesInTeam(int threads, const Plan<T>& plan, Src src, Dst dst, T* y, S
 
 // For i = 0..count-1: put(i, cos, sin) of -2 pi x(i) / n. Many at a time: what goes through memory between scalars and vectors
 // has arrived when it is read: 3 ns for a twiddle instead of 5. Where n is no power of two, a fraction of a turn is not exact:
-// what exceeds whole quarters is reduced as a number of n-ths, and only then divided.
+// what exceeds whole quarters is reduced as a number of n-ths, and only then divided. A record is made once, for callers in any
+// rounding mode: to nearest. In another, SSSE3 would find the wrong quarters, and transforms of doubles be off by 1e-7.
 template <class Index, class Put> void writeTwiddles(size_t n, size_t count, Index x, Put put) {
+  const RoundingScope nearest(Rounding::kNearest);
   constexpr size_t kMany = 64;
   constexpr size_t kLanes = kVectorBytes / sizeof(double);
   const Lanes<double, kLanes> d;

@@ -1,4 +1,5 @@
 // The Blackman windows.
+#include "frame/rounding.h"
 #include "math/sin_cos.h"
 #include "window/cosine.h"
 
@@ -12,6 +13,7 @@ constexpr double kStandard = -0.16F;
 // alpha = -(0.5 / cos(pi / (N-1)))^2, with which the window is 0 at the second sample too: 1 + 4 alpha is -tan^2(pi / (N-1)),
 // which a difference of 1 and alpha would leave few digits of.
 InSquares optimalForm(int len) {
+  const RoundingScope scope(kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest);
   const auto angle = sinCosOfTurns(same<Vec<Lanes<double, 2>>>(0.5 / (len - 1)));
   const double tangent = hn::GetLane(angle.sine) / hn::GetLane(angle.cosine);
   return {0, -tangent * tangent, 1 + tangent * tangent};

@@ -7,6 +7,7 @@
 #include "reference/roots.h"
 #include "reference/scaled.h"
 #include "support/elementwise.h"
+#include "support/rounding.h"
 #include "support/ulp.h"
 
 namespace {
@@ -231,6 +232,29 @@ void checkPolar(QvxStatus (*complex)(const T*, const T*, C*, int), QvxStatus (*s
 TEST(PolarToCart, StaysWithinItsBound) {
   checkPolar(qvxsPolarToCart_32fc, qvxsPolarToCart_32f, 0.6);
   checkPolar(qvxsPolarToCart_64fc, qvxsPolarToCart_64f, 1.5);
+}
+
+// Quarters of a turn that are rounded another way would take the polynomials out of their interval.
+TEST(PolarToCart, LosesNoDigitInAnyRoundingMode) {
+  Random random(tests::seed());
+  std::uniform_real_distribution<double> turns(-20, 20);
+  std::vector<Qvx64f> phase(1000), re(1000), im(1000);
+  std::vector<Qvx32f> phase32(1000);
+  for (size_t i = 0; i < phase.size(); ++i) phase[i] = phase32[i] = static_cast<Qvx32f>(turns(random));
+  const std::vector<Qvx64f> magn(1000, 1);
+  const std::vector<Qvx32f> magn32(1000, 1);
+  std::vector<Qvx32fc> z(1000);
+  for (const int mode : tests::kRoundings) {
+    {
+      const tests::CallersRounding callers(mode);
+      ASSERT_EQ(qvxsPolarToCart_64f(magn.data(), phase.data(), re.data(), im.data(), 1000), qvxStatOk);
+      ASSERT_EQ(qvxsPolarToCart_32fc(magn32.data(), phase32.data(), z.data(), 1000), qvxStatOk);
+    }
+    for (size_t i = 0; i < phase.size(); ++i) {
+      ASSERT_LE(std::hypot(re[i] - std::cos(phase[i]), im[i] - std::sin(phase[i])), 0x1p-50) << mode << ", " << phase[i];
+      ASSERT_LE(std::hypot(z[i].re - std::cos(phase[i]), z[i].im - std::sin(phase[i])), 0x1p-22) << mode << ", " << phase[i];
+    }
+  }
 }
 
 // Nearest, but for what the sine may be wrong by.

@@ -149,14 +149,45 @@ TEST(Records, RefuseWhatTheyCannotDo) {
   auto bank = qvx::WaveletForward<Qvx32f>::make({taps, 0}, {taps, 0}).value();
   EXPECT_EQ(bank.split(x, std::span(y).first(15), std::span(y).first(15)), qvxStatBadSize);
   EXPECT_EQ(bank.delayLines(std::span(y).first(4), y), qvxStatBadSize);
+}
 
-  // One that is empty or was moved from is refused by whatever it is used for.
+// One that is empty or was moved from is refused by whatever it is used for. What it had before is gone: by the record of a
+// longer filter its vectors would be too short.
+TEST(Records, AreEmptyOnceMovedFrom) {
+  const std::vector<Qvx32f> longer(100, 1), taps(6, 1), pair = {1, 0.5F};
+  const std::vector<Qvx32s> far = {2, 90}, near = {2, 6};
+  std::vector<Qvx32f> x(32), y(32);
   qvx::Fir<Qvx32f> empty;
   EXPECT_EQ(empty.filter(y), qvxStatNullPtr);
-  auto filter = qvx::Fir<Qvx32f>::make(taps).value();
-  empty = std::move(filter);
-  EXPECT_EQ(filter.filter(y), qvxStatNullPtr);  // NOLINT(bugprone-use-after-move)
-  EXPECT_EQ(empty.filter(y), qvxStatOk);
+
+  const auto expectEmpty = [](auto first, auto second, const auto& use) {
+    first = std::move(second);
+    EXPECT_TRUE(use(second).refused());  // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(use(first), qvxStatOk);
+    auto third = std::move(first);
+    EXPECT_TRUE(use(first).refused());  // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(use(third), qvxStatOk);
+  };
+  const auto onPlace = [&](auto& filter) { return filter.filter(y); };
+  const auto apart = [&](auto& filter) { return filter.filter(x, y); };
+  const auto afterHistory = [&](auto& filter) { return filter.filter(x, std::span(y).first(27)); };
+  const auto itsTaps = [&](auto& filter) { return filter.taps(std::span(y).first(6)); };
+  const auto toPack = [&](auto& fft) { return fft.toPack(x, y); };
+  const auto forward = [&](auto& dct) { return dct.forward(x, y); };
+  expectEmpty(qvx::Fir<Qvx32f>::make(longer).value(), qvx::Fir<Qvx32f>::make(taps).value(), onPlace);
+  expectEmpty(qvx::Fir<Qvx32f>::make(longer).value(), qvx::Fir<Qvx32f>::make(taps).value(), itsTaps);
+  expectEmpty(qvx::Iir<Qvx32f>::make(longer).value(), qvx::Iir<Qvx32f>::make(taps).value(), onPlace);
+  expectEmpty(qvx::StreamFir<Qvx32f>::make(longer).value(), qvx::StreamFir<Qvx32f>::make(taps).value(), afterHistory);
+  expectEmpty(qvx::SparseFir::make(pair, far).value(), qvx::SparseFir::make(pair, near).value(), apart);
+  expectEmpty(qvx::SparseIir::make(pair, far, 1).value(), qvx::SparseIir::make(pair, near, 1).value(), apart);
+  expectEmpty(qvx::Fft<Qvx32f>::make(9).value(), qvx::Fft<Qvx32f>::make(5).value(), toPack);
+  expectEmpty(qvx::Dct<Qvx32f>::make(500).value(), qvx::Dct<Qvx32f>::make(32).value(), forward);
+
+  auto block = qvx::Vector<Qvx16s>::make(40).value();
+  block = qvx::Vector<Qvx16s>::make(7).value();
+  auto taken = std::move(block);
+  EXPECT_EQ(taken.size(), 7U);
+  EXPECT_TRUE(block.empty());  // NOLINT(bugprone-use-after-move)
 }
 
 // A stream in pieces through an object is the stream in one through C.
@@ -309,6 +340,13 @@ TEST(Filters, WaveletBanksJoinWhatTheySplit) {
   EXPECT_EQ(forward.split(x, lows, highs), qvxStatOk);
   EXPECT_EQ(inverse.join(lows, highs, y), qvxStatOk);
   EXPECT_EQ(y, x);
+
+  std::vector<Qvx32f> nothing(inverse.lowSize() + forward.highSize());
+  EXPECT_TRUE(nothing.empty());
+  EXPECT_EQ(inverse.delayLines(nothing, nothing), qvxStatOk);
+  EXPECT_EQ(inverse.setDelayLines(nothing, nothing), qvxStatOk);
+  EXPECT_EQ(forward.delayLines(nothing, nothing), qvxStatOk);
+  EXPECT_EQ(forward.setDelayLines(nothing, nothing), qvxStatOk);
 }
 
 TEST(Generators, GoOnWhereTheyWere) {

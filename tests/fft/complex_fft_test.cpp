@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "fft/transforms.h"
+#include "support/rounding.h"
 
 namespace {
 
@@ -274,6 +275,24 @@ TEST(ComplexFft, NobodyCanTellTheThreads) {
   for (const int order : {13, 14, 15, 16, 17}) check(k32fc, order);
   for (const int order : {12, 13, 14, 15, 16}) check(k64fc, order);
   check(k32f, 15);
+}
+
+// Records are made to nearest, whatever the caller's mode.
+TEST(ComplexFft, RecordsOfAllRoundingModesAreTheSame) {
+  Random random(tests::seed());
+  const std::vector<Qvx64fc> x = noise<Qvx64fc>(1024, random);
+  std::vector<Qvx64fc> expected(1024), found(1024);
+  for (const int mode : tests::kRoundings) {
+    std::vector<Qvx64fc>& y = mode == FE_TONEAREST ? expected : found;
+    QvxsFFTSpec_C_64fc* record = nullptr;
+    {
+      const tests::CallersRounding callers(mode);
+      ASSERT_EQ(qvxsFFTInitAlloc_C_64fc(&record, 10, QVX_FFT_SCALE_NONE, 0), qvxStatOk);
+    }
+    EXPECT_EQ(qvxsFFTFwd_CToC_64fc(x.data(), y.data(), record, nullptr), qvxStatOk);
+    EXPECT_EQ(qvxsFFTFree_C_64fc(record), qvxStatOk);
+    EXPECT_TRUE(sameBits(expected, y.data())) << mode;
+  }
 }
 
 // The record is only read: calls at the same time do not meet.

@@ -7,6 +7,7 @@
 #include <numbers>
 
 #include "support/placements.h"
+#include "support/rounding.h"
 
 namespace {
 
@@ -69,6 +70,24 @@ TEST(Goertzel, IsTheSumThatDefinesIt) {
   EXPECT_LE((worstOf<Qvx32fc, Qvx32fc, Qvx32f>(700, qvxsGoertz_32fc, qvxsGoertzTwo_32fc)), kEps);
   EXPECT_LE((worstOf<Qvx64f, Qvx64fc, Qvx64f>(700, qvxsGoertz_64f, qvxsGoertzTwo_64f)), 100 * kEps64);
   EXPECT_LE((worstOf<Qvx64fc, Qvx64fc, Qvx64f>(700, qvxsGoertz_64fc, qvxsGoertzTwo_64fc)), 100 * kEps64);
+}
+
+TEST(Goertzel, LosesNoDigitInAnyRoundingMode) {
+  Random random(tests::seed());
+  std::uniform_real_distribution<double> level(-1, 1);
+  std::vector<Qvx64f> x(700);
+  for (Qvx64f& v : x) v = level(random);
+  for (const double f : kFrequencies) {
+    const Exact expected = exact(x.data(), x.size(), f);
+    for (const int mode : tests::kRoundings) {
+      Qvx64fc r;
+      {
+        const tests::CallersRounding callers(mode);
+        ASSERT_EQ(qvxsGoertz_64f(x.data(), 700, &r, f), qvxStatOk);
+      }
+      EXPECT_LE(distance(r, expected), 100 * 0x1p-52) << "frequency " << f << ", mode " << mode;
+    }
+  }
 }
 
 // Where a recursion has lost all digits: its states grow with the inverse of a low frequency.

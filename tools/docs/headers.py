@@ -83,10 +83,10 @@ class Status:
 
 def clean(comment):
     """A comment without its stars, and without the blank that all its lines begin with."""
-    lines = [re.sub(r"^ ?\*", "", line).rstrip() for line in comment.lstrip("*").strip().split("\n")]
-    rest = [len(line) - len(line.lstrip()) for line in lines[1:] if line]
-    indent = min(rest, default=0)
-    return "\n".join([lines[0].strip()] + [line[indent:] for line in lines[1:]])
+    first, *rest = comment.lstrip("*").strip().split("\n")  # the first line may begin with a star of its own: *pSum = ...
+    rest = [re.sub(r"^ ?\*", "", line).rstrip() for line in rest]
+    indent = min((len(line) - len(line.lstrip()) for line in rest if line), default=0)
+    return "\n".join([first.rstrip()] + [line[indent:] for line in rest])
 
 
 def parts(text):
