@@ -898,56 +898,67 @@ template <size_t kBytes> __m256i partedBy(__m256i v, uint64_t mask) {
 }
 #endif
 #if QVXS_AVX512
-// Lanes of 32 and 64 bits by an instruction; in registers, because one make takes 100 times as long to store what it gathers.
-template <class V> inline constexpr bool kGathersLanes = sizeof(LaneOf<V>) >= 4;
-template <class V, class M> auto gathered(V v, M mask) {
-  const auto lanes = as<uint8_t>(v).raw;
-  if constexpr (sizeof(LaneOf<V>) == 4) return _mm512_maskz_compress_epi32(mask.raw, lanes);
-  else return _mm512_maskz_compress_epi64(mask.raw, lanes);
+template <size_t kBytes> __m512i partedBy(__m512i v, uint64_t mask) {
+  static_assert(kBytes == 8);
+  const auto* order = kPartedOrder<uint8_t, 8, 1>.of[mask];
+  return _mm512_permutexvar_epi64(_mm512_cvtepu8_epi64(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(order))), v);
 }
+// 16 lanes by an instruction; in registers, because one make takes 100 times as long to store what it gathers. 8 lanes by a
+// table, whose one shuffle serves both parts: a partition takes 0.9 of the time.
+template <class V> inline constexpr bool kGathersLanes = sizeof(V) == 64 && sizeof(LaneOf<V>) == 4;
+template <class V, class M> auto gathered(V v, M mask) { return _mm512_maskz_compress_epi32(mask.raw, as<uint8_t>(v).raw); }
+#else
+template <class V> inline constexpr bool kGathersLanes = false;
 #endif
 
 }  // namespace detail
 
-// Lanes parted by a mask: those in it go on at `low`, which becomes their end, the others end at `high`, which becomes their
-// start. There is room for a whole vector at either.
-template <class V, class M> void part(V v, M mask, LaneOf<V>*& low, LaneOf<V>*& high) {
+// Lanes parted by the bits of a mask: those in it go on at `low`, which becomes their end, the others end at `high`, which
+// becomes their start. There is room for a whole vector at either.
+template <class V> void part(V v, uint64_t bits, LaneOf<V>*& low, LaneOf<V>*& high) {
   const TagOf<V> d;
   constexpr size_t N = kLanesOf<V>;
-  const uint64_t bits = maskBits(d, mask);
   const auto count = static_cast<size_t>(__builtin_popcountll(bits));
+  const V both{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits)};
+  hn::StoreU(both, d, low);
+  hn::StoreU(both, d, high - N);
+  low += count;
+  high -= N - count;
+}
+template <class V, class M> void part(V v, M mask, LaneOf<V>*& low, LaneOf<V>*& high) {
+  const TagOf<V> d;
+  if constexpr (!detail::kGathersLanes<V>) {
+    part(v, maskBits(d, mask), low, high);
+  } else {
 #if QVXS_AVX512
-  if constexpr (detail::kGathersLanes<V>) {
+    const auto count = static_cast<size_t>(__builtin_popcountll(maskBits(d, mask)));
+    constexpr size_t N = kLanesOf<V>;
     hn::StoreU(V{detail::gathered(v, mask)}, d, low);
     low += count;
     high -= N - count;
     hn::BlendedStore(V{detail::gathered(v, hn::Not(mask))}, hn::FirstN(d, N - count), d, high);
-  } else
 #endif
-  {
-    const V both{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits)};
-    hn::StoreU(both, d, low);
-    hn::StoreU(both, d, high - N);
-    low += count;
-    high -= N - count;
   }
 }
 // The same with the others going on at `high` too. Returns how many lanes are in the mask.
+template <class V> size_t separate(V v, uint64_t bits, LaneOf<V>* low, LaneOf<V>* high) {
+  const TagOf<V> d;
+  constexpr uint64_t kAll = (uint64_t{1} << kLanesOf<V>)-1;
+  hn::StoreU(V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits)}, d, low);
+  hn::StoreU(V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits ^ kAll)}, d, high);
+  return static_cast<size_t>(__builtin_popcountll(bits));
+}
 template <class V, class M> size_t separate(V v, M mask, LaneOf<V>* low, LaneOf<V>* high) {
   const TagOf<V> d;
-  const uint64_t bits = maskBits(d, mask);
+  if constexpr (!detail::kGathersLanes<V>) {
+    return separate(v, maskBits(d, mask), low, high);
+  } else {
 #if QVXS_AVX512
-  if constexpr (detail::kGathersLanes<V>) {
     hn::StoreU(V{detail::gathered(v, mask)}, d, low);
     hn::StoreU(V{detail::gathered(v, hn::Not(mask))}, d, high);
-  } else
+    return static_cast<size_t>(__builtin_popcountll(maskBits(d, mask)));
 #endif
-  {
-    constexpr uint64_t kAll = (uint64_t{1} << kLanesOf<V>)-1;
-    hn::StoreU(V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits)}, d, low);
-    hn::StoreU(V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits ^ kAll)}, d, high);
   }
-  return static_cast<size_t>(__builtin_popcountll(bits));
 }
 // The lanes of vectors that are parted: what the instruction takes, or what a table of a few KiB serves.
 #if QVXS_AVX512

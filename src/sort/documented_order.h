@@ -12,19 +12,17 @@ template <Order kOrder, class T> class DocumentedOrder {
   // numbers[] goes along with x.
   DocumentedOrder(T* x, int32_t* numbers) : x_(x), numbers_(numbers) {}
 
-  // Gives up, somewhere between, when partitions have looked at more than `most` elements: whether it came to the end.
-  bool sort(ptrdiff_t n, double most) {
+  void sort(ptrdiff_t n) {
     Range pending[32];  // the longer part waits, so each is no more than half of the one before
     int count = 0;
     for (Range r = {0, n - 1};;) {
       const ptrdiff_t size = r.high - r.low + 1;
       if (size <= 9) {
         select(r);
-        if (count == 0) return true;
+        if (count == 0) return;
         r = pending[--count];
         continue;
       }
-      if ((most -= static_cast<double>(size)) < 0) return false;
       const auto [i, j] = part(r);
       const Range left = {r.low, i}, right = {j, r.high};
       if (i - r.low < r.high - j) {

@@ -1,4 +1,4 @@
-// 32-bit keys that take their numbers along.
+// Keys that take their numbers along.
 #pragma once
 
 #include "sort/keys.h"
@@ -7,6 +7,10 @@ namespace qvx {
 
 // keys[0..n-1] in ascending order, numbers[] of equal keys too: the order of their pairs. No pair may occur twice.
 void sortPairs(int32_t* keys, int32_t* numbers, size_t n);
+
+// The same where all keys are different and none is the greatest there can be; false, with the pairs in no order, if it came upon
+// equal keys.
+bool sortDifferentPairs(int64_t* keys, int32_t* numbers, size_t n);
 
 // 0, 1, 2 ...
 inline void fillNumbers(int32_t* numbers, size_t n) {

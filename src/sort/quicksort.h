@@ -6,16 +6,26 @@
 
 #include "sort/count.h"
 #include "sort/network.h"
+#include "sort/often.h"
 #include "sort/partition.h"
 
 namespace qvx {
 
-// The median of keys from all over x, as `in` maps them: of 15, or from 4096 keys on of 63, which is within 6 % of the middle in
-// two of three vectors.
-template <class K> [[gnu::noinline]] K pivotOf(const K* x, size_t n, KeyMap<K> in) {
-  constexpr size_t kMost = std::min<size_t>(63, kNetworkKeys<K> - 1);
-  const size_t count = n < 4096 ? 15 : kMost;
-  K sample[kMost];
+// How many neighbours of n keys, which are in order, are equal.
+template <class K> size_t equalNeighbours(const K* keys, size_t n) {
+  constexpr size_t N = kVectorBytes / sizeof(K);
+  const Lanes<K, N> d;
+  size_t count = 0, i = 0;
+  for (; i + N < n; i += N) count += hn::CountTrue(d, load(d, keys + i) == load(d, keys + i + 1));
+  const size_t rest = n - 1 - i;
+  return count + hn::CountTrue(d, loadFirstOr(d, keys + i, rest, K{0}) == loadFirstOr(d, keys + i + 1, rest, K{1}));
+}
+
+template <class K> inline constexpr size_t kMostSample = std::min<size_t>(63, kNetworkKeys<K> - 1);
+
+// Keys from all over x, as `in` maps them, in order: 15, or from 4096 keys on 63. How many.
+template <class K> size_t takeSample(const K* x, size_t n, KeyMap<K> in, K (&sample)[kMostSample<K>]) {
+  const size_t count = n < 4096 ? 15 : kMostSample<K>;
   const size_t stretch = n / count;
   uint32_t random = static_cast<uint32_t>(n);
   for (size_t i = 0; i < count; ++i) {
@@ -23,7 +33,21 @@ template <class K> [[gnu::noinline]] K pivotOf(const K* x, size_t n, KeyMap<K> i
     sample[i] = in.key(x[i * stretch + (uint64_t{random} * stretch >> 32)]);
   }
   sortByNetwork(sample, count, {}, {});
+  return count;
+}
+
+// The median of a sample, which of 63 keys is within 6 % of the middle in two of three vectors; and what x has often.
+template <class K> [[gnu::noinline]] K pivotOf(const K* x, size_t n, KeyMap<K> in, Often<K>& often) {
+  K sample[kMostSample<K>];
+  const size_t count = takeSample(x, n, in, sample);
+  often.count = 0;
+  // Half of the sample in pairs are as many equal neighbours as a quarter of it.
+  if (4 * equalNeighbours(sample, count) >= count) often = oftenIn(sample, count);
   return sample[count / 2];
+}
+template <class K> K pivotOf(const K* x, size_t n, KeyMap<K> in) {
+  Often<K> often;
+  return pivotOf(x, n, in, often);
 }
 
 template <class K> class Quicksort {
@@ -39,9 +63,18 @@ template <class K> class Quicksort {
         if (isCounted<K>(n, least, most)) return sortByCounting(x, n, in, map_, least, most, buffer_);
       }
       if (levels-- == 0) return sortHeap(x, n, in);
-      K pivot;
+      Often<K> often;
+      K pivot = pivotOf(x, n, in, often);
+      if (often.count > 0) {
+        const size_t others = countOut(x, n, in, often);
+        if (others <= n / 2) {
+          if (others > 0) sort(x, others, {}, least, most);
+          return mergeRuns(x, n, others, often, map_);
+        }
+        putBack(x, others, often);  // the sample misled
+        in = {};
+      }
       if (isDense(n, least, most)) pivot = static_cast<K>((least + most + 1) >> 1);
-      else pivot = pivotOf(x, n, in);
       // A pivot that is the least key there can be: those equal to it are done.
       if (pivot == least) {
         if (pivot == most) return fill(x, n, pivot);
@@ -70,7 +103,7 @@ template <class K> class Quicksort {
  private:
   using Limits = std::numeric_limits<K>;
 
-  void fill(K* x, size_t n, K key) const { std::fill_n(x, n, map_.original(key)); }
+  void fill(K* x, size_t n, K key) const { fillRun(x, n, map_.original(key)); }
   [[gnu::noinline]] void sortHeap(K* x, size_t n, KeyMap<K> in) const {
     std::transform(x, x + n, x, [=](K v) { return in.key(v); });
     std::make_heap(x, x + n);

@@ -2,18 +2,15 @@
 //
 // Different elements have one order, which is found the fast way. Equal ones are only seen when that is done: then the elements
 // go back to where they were, and the steps that tell their order are taken one by one.
-#include <bit>
-
 #include "frame/check.h"
 #include "sort/documented_order.h"
 #include "sort/pairs.h"
+#include "sort/quicksort.h"
 #include "sort/sort_keys.h"
 
 using namespace qvx;
 
 namespace {
-
-constexpr double kUnlimited = std::numeric_limits<double>::infinity();
 
 // Elements of known places back to these. A place that has been served is its own complement.
 template <class T> [[gnu::noinline]] void restore(T* x, int32_t* places, size_t n) {
@@ -30,7 +27,7 @@ template <class T> [[gnu::noinline]] void restore(T* x, int32_t* places, size_t 
 
 template <Order kOrder, class T> void sortAsTold(T* x, int32_t* places, size_t n) {
   fillNumbers(places, n);
-  DocumentedOrder<kOrder, T>(x, places).sort(static_cast<ptrdiff_t>(n), kUnlimited);
+  DocumentedOrder<kOrder, T>(x, places).sort(static_cast<ptrdiff_t>(n));
 }
 
 // ---- 8 and 16 bits: as many different elements as there can be have places that fit beside them into 32 bits
@@ -52,11 +49,33 @@ template <Order kOrder, class T> bool sortDifferent(T* x, int32_t* places, size_
   return true;
 }
 
-// ---- 32 bits: keys in the place of the elements
+// ---- 32 and 64 bits: keys in the place of the elements
 
-template <class T> bool areDifferent(const int32_t* keys, size_t n) {
-  constexpr size_t N = kVectorBytes / sizeof(int32_t);
-  const Lanes<int32_t, N> d;
+// Where a sample has equal keys, there is no need to sort the rest.
+template <class K> [[gnu::noinline]] bool hasEqualSample(const K* x, size_t n, KeyMap<K> map) {
+  if (n < 2 * kNetworkKeys<K>) return false;
+  K sample[kMostSample<K>];
+  return equalNeighbours(sample, takeSample(x, n, map, sample)) > 0;
+}
+
+template <class T> bool hasNan([[maybe_unused]] const T* x, [[maybe_unused]] size_t n) {
+  if constexpr (std::is_floating_point_v<T>) {
+    constexpr size_t N = kVectorBytes / sizeof(T);
+    const Lanes<T, N> d;
+    auto isNan = hn::IsNaN(hn::Zero(d));
+    size_t i = 0;
+    for (; i + N <= n; i += N) isNan = hn::Or(isNan, hn::IsNaN(load(d, x + i)));
+    if (i < n) isNan = hn::Or(isNan, hn::IsNaN(loadFirst(d, x + i, n - i)));
+    return !hn::AllFalse(d, isNan);
+  } else {
+    return false;
+  }
+}
+
+template <class T> bool areDifferent(const Key<T>* keys, size_t n) {
+  using K = Key<T>;
+  constexpr size_t N = kVectorBytes / sizeof(K);
+  const Lanes<K, N> d;
   auto different = hn::Set(d, -1);
   size_t i = 1;
   // The zeros of floats have the keys -1 and 0, in either direction.
@@ -71,63 +90,26 @@ template <class T> bool areDifferent(const int32_t* keys, size_t n) {
   return all;
 }
 
-// Those at the ends tell for all.
-template <class T> bool isNumber(int32_t key, KeyMap<int32_t> map) {
-  if constexpr (std::is_integral_v<T>) return true;
-  else return (map.original(key) & INT32_MAX) <= 0x7F800000;
-}
-
-template <class Each> void change(int32_t* x, size_t n, Each each) {
-  constexpr size_t N = kVectorBytes / sizeof(int32_t);
-  const Lanes<int32_t, N> d;
+template <class K, class Each> void change(K* x, size_t n, Each each) {
+  constexpr size_t N = kVectorBytes / sizeof(K);
+  const Lanes<K, N> d;
   size_t i = 0;
   for (; i + N <= n; i += N) store(each(load(d, x + i)), d, x + i);
   if (i < n) storeFirst(each(loadFirst(d, x + i, n - i)), d, x + i, n - i);
 }
 
-template <Order kOrder, class T> bool sortDifferent(T* x, int32_t* places, size_t n) requires(sizeof(T) == 4) {
+bool sortPairsIfDifferent(int32_t* keys, int32_t* places, size_t n) { return sortPairs(keys, places, n), true; }
+bool sortPairsIfDifferent(int64_t* keys, int32_t* places, size_t n) { return sortDifferentPairs(keys, places, n); }
+
+template <Order kOrder, class T> bool sortDifferent(T* x, int32_t* places, size_t n) requires(sizeof(T) >= 4) {
   const auto map = keyMap<T>(kOrder);
-  int32_t* const keys = asKeys(x);
+  Key<T>* const keys = asKeys(x);
+  if (hasNan(x, n) || hasEqualSample(keys, n, map)) return false;
   if (!map.isIdentity()) change(keys, n, [=](auto v) { return map.keys(v); });
   fillNumbers(places, n);
-  sortPairs(keys, places, n);
-  const bool isDone = areDifferent<T>(keys, n) && isNumber<T>(keys[0], map) && isNumber<T>(keys[n - 1], map);
+  const bool isDone = sortPairsIfDifferent(keys, places, n) && areDifferent<T>(keys, n);
   if (!map.isIdentity()) change(keys, n, [=](auto v) { return map.originals(v); });
   if (!isDone) restore(keys, places, n);
-  return isDone;
-}
-
-// ---- 64 bits: the told steps, unless they come to be too many
-
-template <Order kOrder> [[gnu::noinline]] void sortHeap(double* x, int32_t* places, size_t n) {
-  const auto isLess = [](double a, double b) { return kOrder == Order::kAscending ? a < b : a > b; };
-  const auto exchange = [&](size_t a, size_t b) {
-    std::swap(x[a], x[b]);
-    std::swap(places[a], places[b]);
-  };
-  const auto sift = [&](size_t at, size_t end) {
-    for (size_t child; (child = 2 * at + 1) < end; at = child) {
-      if (child + 1 < end && isLess(x[child], x[child + 1])) ++child;
-      if (!isLess(x[at], x[child])) return;
-      exchange(at, child);
-    }
-  };
-  for (size_t i = n / 2; i-- > 0;) sift(i, n);
-  for (size_t end = n; end-- > 1;) {
-    exchange(0, end);
-    sift(0, end);
-  }
-}
-
-template <Order kOrder> bool sortDifferent(double* x, int32_t* places, size_t n) {
-  fillNumbers(places, n);
-  // Random elements take 1.2 to 1.4 n log2 n.
-  const double usual = static_cast<double>(n) * std::bit_width(n);
-  if (DocumentedOrder<kOrder, double>(x, places).sort(static_cast<ptrdiff_t>(n), 4 * usual)) return true;
-  sortHeap<kOrder>(x, places, n);
-  bool isDone = true;
-  for (size_t i = 1; i < n; ++i) isDone &= kOrder == Order::kAscending ? x[i - 1] < x[i] : x[i - 1] > x[i];
-  if (!isDone) restore(x, places, n);
   return isDone;
 }
 
