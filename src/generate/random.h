@@ -43,36 +43,68 @@ alignas(64) inline constexpr StepsOn kStepsOn;
 
 }  // namespace detail
 
-// One step of the part with the borrow. 2.5 cycles each, for the chain over two of them is a difference, the borrow, its sign,
-// the 18 and their difference.
-inline uint32_t difference(uint32_t lag2, uint32_t lag3, uint32_t& borrow) {
-  const uint32_t t = lag2 - lag3 + borrow;
-  borrow = static_cast<uint32_t>(static_cast<int32_t>(t) >> 31);
-  return t - (borrow & 18);
-}
-
-// The next n numbers, as whole vectors: r has room for a register more.
-inline void advance(Generator& state, size_t n, int32_t* r) {
+// Numbers of the part with the borrow, one after the other: three at a time, so that they keep their registers. `step` takes lags
+// 2 and 3 and the borrow.
+template <class Step> [[gnu::always_inline]] inline void chain(Generator& state, size_t n, int32_t* r, Step step) {
   uint32_t a = state.lag1;
   uint32_t b = state.lag2;
   uint32_t c = state.lag3;
   uint32_t borrow = state.borrow;
   size_t i = 0;
   for (; i + 3 <= n; i += 3) {
-    c = difference(b, c, borrow);
-    b = difference(a, b, borrow);
-    a = difference(c, a, borrow);
+    c = step(b, c, borrow);
+    b = step(a, b, borrow);
+    a = step(c, a, borrow);
     r[i] = static_cast<int32_t>(c);
     r[i + 1] = static_cast<int32_t>(b);
     r[i + 2] = static_cast<int32_t>(a);
   }
   for (; i < n; ++i) {
-    const uint32_t t = difference(b, c, borrow);
+    const uint32_t t = step(b, c, borrow);
     c = b;
     b = a;
     a = t;
     r[i] = static_cast<int32_t>(t);
   }
+  state = {state.cong, a, b, c, borrow};
+}
+
+inline uint32_t signOf(uint32_t t) { return static_cast<uint32_t>(static_cast<int32_t>(t) >> 31); }
+
+// By the rule the borrow is the sign of the difference less the borrow before, for which each step waits: 3.2 cycles a number.
+// The difference has that sign by itself unless it is 0 or -2^31, which 2^-31 of them are: 2.5 cycles, and a look at them
+// afterwards.
+inline void makeBorrowed(Generator& state, size_t n, int32_t* r) {
+  Generator next = state;
+  chain(next, n, r, [](uint32_t lag2, uint32_t lag3, uint32_t& borrow) {
+    const uint32_t t = lag2 - lag3 + borrow;
+    borrow = signOf(lag2 - lag3);
+    return t - (borrow & 18);
+  });
+  constexpr size_t N = kVectorBytes / sizeof(int32_t);
+  const Lanes<int32_t, N> d;
+  const auto zero = hn::Zero(d);
+  const auto areTold = [&](auto difference) { return hn::AllFalse(d, difference + difference == zero); };
+  bool told = (state.lag2 - state.lag3) << 1 != 0 && (state.lag1 - state.lag2) << 1 != 0;
+  if (n > 2) told &= (static_cast<uint32_t>(r[0]) - state.lag1) << 1 != 0;
+  for (size_t i = 0; told && i + 3 < n; i += N) {
+    const auto difference = load(d, r + i + 1) - load(d, r + i);
+    told = areTold(n - 3 - i >= N ? difference : hn::IfThenElse(hn::FirstN(d, n - 3 - i), difference, hn::Set(d, 1)));
+  }
+  if (!told) [[unlikely]] {
+    next = state;
+    chain(next, n, r, [](uint32_t lag2, uint32_t lag3, uint32_t& borrow) {
+      const uint32_t t = lag2 - lag3 + borrow;
+      borrow = signOf(t);
+      return t - (borrow & 18);
+    });
+  }
+  state = next;
+}
+
+// The next n numbers, as whole vectors: r has room for a register more.
+inline void advance(Generator& state, size_t n, int32_t* r) {
+  makeBorrowed(state, n, r);
   constexpr size_t N = kVectorBytes / sizeof(uint32_t);
   const Lanes<uint32_t, N> d;
   const auto factor = load(d, detail::kStepsOn.factor);
@@ -85,7 +117,7 @@ inline void advance(Generator& state, size_t n, int32_t* r) {
     const size_t steps = std::min(N, n - at);
     cong = cong * detail::kStepsOn.factor[steps - 1] + detail::kStepsOn.term[steps - 1];
   }
-  state = {cong, a, b, c, borrow};
+  state.cong = cong;
 }
 
 // Reals to the elements of T, in the mode to nearest; limited to their range.

@@ -27,20 +27,18 @@ template <class T> struct AsKey {
   static KeyMap<Lane> map() { return keyMap<T>(Order::kAscending); }
 };
 
-// Whether floats compare as their keys do.
+// Lanes of floats that do not compare as their keys do.
+template <class V> auto isOdd(V v) {
+  const TagOf<V> d;
+  const hn::RebindToUnsigned<decltype(d)> bits;
+  using U = hn::TFromD<decltype(bits)>;
+  const auto isMinusZero = hn::BitCast(bits, v) == hn::Set(bits, U{1} << (8 * sizeof(U) - 1));
+  return hn::Or(hn::RebindMask(d, isMinusZero), hn::IsNaN(v));
+}
+template <class V> bool needsKeys(V v) { return !hn::AllFalse(TagOf<V>(), isOdd(v)); }
 template <class T> bool compareAsTheyAre(const T* x, size_t n) {
-  if constexpr (std::is_floating_point_v<T>) {
-    const auto isOdd = [](auto v) {
-      const TagOf<decltype(v)> d;
-      const hn::RebindToUnsigned<decltype(d)> bits;
-      using U = hn::TFromD<decltype(bits)>;
-      const auto isMinusZero = hn::BitCast(bits, v) == hn::Set(bits, U{1} << (8 * sizeof(T) - 1));
-      return hn::Or(hn::RebindMask(d, isMinusZero), hn::IsNaN(v));
-    };
-    return firstWhere(isOdd, n, source(x)) == n;
-  } else {
-    return true;
-  }
+  if constexpr (std::is_integral_v<T>) return true;
+  else return firstWhere([](auto v) { return isOdd(v); }, n, source(x)) == n;
 }
 
 template <class V> V least(V a, V b) {
@@ -55,6 +53,17 @@ template <class V> void order(V& a, V& b) {
   const V low = least(a, b);
   b = most(a, b);
   a = low;
+}
+template <class V> struct Run {
+  V low;
+  V mid;
+  V high;
+};
+template <class V> Run<V> ordered(V a, V b, V c) {
+  order(a, b);
+  order(b, c);
+  order(a, b);
+  return {a, b, c};
 }
 template <class V> V middle(V a, V b, V c) { return most(least(a, b), least(most(a, b), c)); }
 

@@ -1,139 +1,251 @@
-// Medians of 3 to 9 elements, by networks on neighbouring outputs at a time. What windows have in common is ordered once: pairs
-// of neighbours for a mask of 5, runs of three for 7 and 9. That leaves 8, 16 and 18 minima and maxima an output, of 10, 22
-// and 30.
-//
-// Blocks at the ends of the source are copied to the stack, and all of them if the filter works in place.
+// Medians of 3 to 9 elements, by networks of minima and maxima on the windows of neighbouring outputs, whose elements are loads
+// that overlap. For masks of 7 and 9 the runs of three that windows share are ordered once where there are many: that leaves 16
+// and 18 operations an output, of 22 and 30.
 #pragma once
 
-#include "convolution/elements.h"
+#include <array>
+
 #include "median/order.h"
 
 namespace qvx::median {
 
-// The elements of a block: its work on the stack is five times as much.
-template <class T> inline constexpr size_t kBlock = 2048 / sizeof(T);
-
-// Elements that a block has for an output each, and those that its vectors reach past them.
-template <class T> inline constexpr size_t kPast = 8 + 2 * kVectorBytes / sizeof(T);
-template <class T> inline constexpr size_t kRoom = kBlock<T> + kPast<T>;
-
-// One block: the window of its output n begins at x[n]. Runs of the same beginning are in order.
-template <class Lane> struct Runs {
-  static constexpr size_t N = kVectorBytes / sizeof(Lane);
-  const Lane* x;
-  alignas(64) Lane low[kRoom<Lane>];
-  alignas(64) Lane mid[kRoom<Lane>];
-  alignas(64) Lane high[kRoom<Lane>];
-
-  static auto at(const Lane* p) { return load(Lanes<Lane, N>(), p); }
-  static void put(Vec<Lanes<Lane, N>> v, Lane* p) { store(v, Lanes<Lane, N>(), p); }
-
-  void orderPairs(size_t n) {
-    for (size_t i = 0; i < n; i += N) {
-      auto a = at(x + i);
-      auto b = at(x + i + 1);
-      order(a, b);
-      put(a, low + i);
-      put(b, high + i);
-    }
-  }
-  void orderTriples(size_t n) {
-    for (size_t i = 0; i < n; i += N) {
-      auto a = at(x + i);
-      auto b = at(x + i + 1);
-      auto c = at(x + i + 2);
-      order(a, b);
-      order(b, c);
-      order(a, b);
-      put(a, low + i);
-      put(b, mid + i);
-      put(c, high + i);
-    }
-  }
-};
-
-template <class Lane> struct Median3 {
+// at(k) is a vector of the windows' elements k, run(k) of k to k + 2 in order.
+struct Median3 {
   static constexpr size_t kMask = 3;
-  static void prepare(Runs<Lane>&, size_t) {}
-  static auto of(const Runs<Lane>& r, size_t n) { return middle(r.at(r.x + n), r.at(r.x + n + 1), r.at(r.x + n + 2)); }
+  template <class At, class Run> static auto of(At at, Run) { return middle(at(0), at(1), at(2)); }
 };
 // The least of two pairs' lesser ones is below the median, the greatest of the others above it.
-template <class Lane> struct Median5 {
+struct Median5 {
   static constexpr size_t kMask = 5;
-  static void prepare(Runs<Lane>& r, size_t n) { r.orderPairs(n + 3); }
-  static auto of(const Runs<Lane>& r, size_t n) {
-    return middle(r.at(r.x + n + 4), most(r.at(r.low + n), r.at(r.low + n + 2)), least(r.at(r.high + n), r.at(r.high + n + 2)));
+  template <class At, class Run> static auto of(At at, Run) {
+    auto a = at(0), b = at(1), c = at(2), d = at(3);
+    order(a, b);
+    order(c, d);
+    return middle(at(4), most(a, c), least(b, d));
   }
 };
 // Without the least and the greatest of two runs, five are left, two pairs of which are in order.
-template <class Lane> struct Median7 {
+struct Median7 {
   static constexpr size_t kMask = 7;
-  static void prepare(Runs<Lane>& r, size_t n) { r.orderTriples(n + 4); }
-  static auto of(const Runs<Lane>& r, size_t n) {
-    auto a = r.at(r.mid + n);
-    auto b = r.at(r.mid + n + 3);
-    order(a, b);
-    const auto low = most(r.at(r.low + n), r.at(r.low + n + 3));
-    const auto high = least(r.at(r.high + n), r.at(r.high + n + 3));
-    return middle(r.at(r.x + n + 6), most(low, a), least(high, b));
+  template <class At, class Run> static auto of(At at, Run run) {
+    auto a = run(0), b = run(3);
+    order(a.mid, b.mid);
+    return middle(at(6), most(most(a.low, b.low), a.mid), least(least(a.high, b.high), b.mid));
   }
 };
 // The median of the greatest of the least, the median of the medians, and the least of the greatest.
-template <class Lane> struct Median9 {
+struct Median9 {
   static constexpr size_t kMask = 9;
-  static void prepare(Runs<Lane>& r, size_t n) { r.orderTriples(n + 7); }
-  static auto of(const Runs<Lane>& r, size_t n) {
-    const auto low = most(most(r.at(r.low + n), r.at(r.low + n + 3)), r.at(r.low + n + 6));
-    const auto mid = middle(r.at(r.mid + n), r.at(r.mid + n + 3), r.at(r.mid + n + 6));
-    const auto high = least(least(r.at(r.high + n), r.at(r.high + n + 3)), r.at(r.high + n + 6));
-    return middle(low, mid, high);
+  template <class At, class Run> static auto of(At, Run run) {
+    const auto a = run(0), b = run(3), c = run(6);
+    return middle(most(most(a.low, b.low), c.low), middle(a.mid, b.mid, c.mid), least(least(a.high, b.high), c.high));
+  }
+};
+template <class Network> inline constexpr bool kHasRuns = Network::kMask >= 7;
+
+template <class Network, class At> auto medians(At at) {
+  return Network::of(at, [&](size_t k) { return ordered(at(k), at(k + 1), at(k + 2)); });
+}
+template <class Network, class At> auto mediansByKeys(At at) {
+  using T = LaneOf<decltype(at(0))>;
+  return AsKey<T>::elements(medians<Network>([&](size_t k) { return AsKey<T>::lanes(at(k)); }));
+}
+
+enum class ByKeys { kNo, kYes };
+
+// A vector as the windows of its outputs see it: it goes on with its first and its last element.
+template <class Network, class T> struct Windows {
+  static constexpr size_t N = kVectorBytes / sizeof(T);
+  static constexpr size_t kReach = Network::kMask / 2;
+  // Vectors of outputs whose runs are ordered at a time, and the elements from the first one on that this reads.
+  static constexpr size_t kChunk = 24;
+  static constexpr size_t kOrdered = (kChunk + (2 * kReach - 2 + N - 1) / N) * N;
+  static constexpr size_t kReadByChunk = kOrdered + 2 - kReach;
+  // Lanes that can be shuffled across the register, for outputs at the ends.
+  using Lane = std::conditional_t<sizeof(T) < 4, int32_t, T>;
+  static constexpr size_t kEnd = kVectorBytes / sizeof(Lane);
+
+  struct Runs {
+    static constexpr Lanes<T, N> d{};
+    alignas(64) T low[kOrdered];
+    alignas(64) T mid[kOrdered];
+    alignas(64) T high[kOrdered];
+
+    void put(size_t k, Run<Vec<Lanes<T, N>>> run) {
+      store(run.low, d, low + k);
+      store(run.mid, d, mid + k);
+      store(run.high, d, high + k);
+    }
+    Run<Vec<Lanes<T, N>>> at(size_t k) const { return {load(d, low + k), load(d, mid + k), load(d, high + k)}; }
+  };
+
+  const T* x;
+  size_t n;
+
+  // N outputs from i on, whose windows lie in the vector.
+  auto inside(size_t i) const {
+    return [p = x + i - kReach](size_t k) { return load(Lanes<T, N>(), p + k); };
+  }
+
+  // kEnd outputs from i on. A shuffle repeats the first and the last element, since a copy with room at its ends would be loaded
+  // across what was just stored, which takes 20 ns.
+  template <ByKeys byKeys = ByKeys::kNo> [[gnu::noinline]] Vec<Lanes<T, kEnd>> atEnd(size_t i) const {
+    const Lanes<T, kEnd> narrow;
+    const Lanes<Lane, kEnd> d;
+    const hn::RebindToSigned<decltype(d)> places;
+    using Place = hn::TFromD<decltype(places)>;
+    const size_t count = std::min(n, kEnd);
+    const auto all = n < kEnd ? loadFirst(narrow, x, n) : hn::Undefined(narrow);
+    const auto top = hn::Set(places, static_cast<Place>(count - 1));
+    const auto at = [&](size_t k) __attribute__((always_inline)) {
+      const auto from = static_cast<ptrdiff_t>(i + k) - static_cast<ptrdiff_t>(kReach);
+      const auto base = std::clamp<ptrdiff_t>(from, 0, static_cast<ptrdiff_t>(n - count));
+      const auto v = convertLanes<Lane>(n < kEnd ? all : load(narrow, x + base));
+      const auto place = hn::Iota(places, 0) + hn::Set(places, static_cast<Place>(from - base));
+      return hn::TableLookupLanes(v, hn::IndicesFromVec(d, hn::Min(hn::Max(place, hn::Zero(places)), top)));
+    };
+    if constexpr (std::is_floating_point_v<T>) {
+      if (byKeys == ByKeys::kYes) return mediansByKeys<Network>(at);
+      bool needed = needsKeys(at(2 * kReach));
+      for (size_t k = 0; k < 2 * kReach; k += kEnd) needed |= needsKeys(at(k));
+      if (needed) [[unlikely]]
+        return atEnd<ByKeys::kYes>(i);
+    }
+    return convertLanes<T>(medians<Network>(at));
+  }
+
+  // Orders the runs of kChunk vectors of outputs from i on; false if their elements need keys.
+  bool order(size_t i, Runs& runs) const {
+    const auto at = inside(i);
+    bool byKeys = false;
+    for (size_t k = 0; k < kOrdered; k += N) {
+      if constexpr (std::is_floating_point_v<T>) byKeys |= needsKeys(at(k));
+      runs.put(k, ordered(at(k), at(k + 1), at(k + 2)));
+    }
+    if constexpr (std::is_floating_point_v<T>) byKeys |= needsKeys(at(kOrdered - N + 2));
+    return !byKeys;
   }
 };
 
-// The n outputs whose windows begin at x, which goes on past the last of them.
-template <template <class> class Network, class As, class T> void filterBlock(const T* x, T* dst, size_t n) {
-  using Lane = typename As::Lane;
-  using R = Runs<Lane>;
-  constexpr size_t N = R::N;
-  constexpr Lanes<T, N> d;
-  R runs;
-  if constexpr (std::is_same_v<Lane, T>) {
-    runs.x = x;
-    Network<Lane>::prepare(runs, n);
-    size_t i = 0;
-    for (; i + N <= n; i += N) store(Network<Lane>::of(runs, i), d, dst + i);
-    if (i < n) storeFirst(Network<Lane>::of(runs, i), d, dst + i, n - i);
-  } else {
-    alignas(64) Lane keys[kRoom<T>];
-    for (size_t i = 0; i < n + 8; i += N) R::put(As::lanes(load(d, x + i)), keys + i);
-    filterBlock<Network, AsTheyAre<Lane>>(keys, keys, n);
-    for (size_t i = 0; i < n; ++i) dst[i] = As::element(keys[i]);
+// Vectors of outputs that are stored when the windows of the next kLate are loaded, so that the destination may be the source.
+template <class T, size_t N, size_t kReach> class Late {
+ public:
+  using V = Vec<Lanes<T, N>>;
+  void put(V v, T* to) {
+    if (count_ == kLate) storeFirst();
+    held_[count_] = v;
+    to_[count_++] = to;
   }
-}
+  void finish() {
+    while (count_ > 0) storeFirst();
+  }
 
-template <template <class> class Network, class T> [[gnu::noinline]] QvxStatus filterByNetwork(const T* src, T* dst, size_t len) {
-  constexpr size_t kReach = Network<T>::kMask / 2;
-  alignas(64) T copy[kRoom<T>];
-  T before[2 * kReach];  // what the windows of a block begin with
-  std::fill_n(before, kReach, src[0]);
-  for (size_t i = 0; i < kReach; ++i) before[kReach + i] = src[std::min(i, len - 1)];
-  const T last = src[len - 1];
-  for (size_t at = 0; at < len; at += kBlock<T>) {
-    const size_t n = std::min(kBlock<T>, len - at);
-    const bool isInside = at >= kReach && at + n + kReach + kPast<T> <= len;
-    const T* x = src + at - kReach;
-    if (src == dst || !isInside) {
-      const size_t from = std::min(len, at + kReach);
-      const size_t fresh = std::min(n, len - from);
-      std::copy_n(before, 2 * kReach, copy);
-      std::copy_n(src + from, fresh, copy + 2 * kReach);
-      std::fill(copy + 2 * kReach + fresh, copy + n + kPast<T>, last);
-      x = copy;
+ private:
+  static constexpr size_t kLate = (kReach + N - 1) / N;
+  void storeFirst() {
+    store(held_[0], Lanes<T, N>(), to_[0]);
+    --count_;
+    for (size_t k = 0; k + 1 < kLate; ++k) {
+      held_[k] = held_[k + 1];
+      to_[k] = to_[k + 1];
     }
-    std::copy_n(x + n, 2 * kReach, before);
-    if (std::is_integral_v<T> || compareAsTheyAre(x, n + 2 * kReach)) filterBlock<Network, AsTheyAre<T>>(x, dst + at, n);
-    else filterBlock<Network, AsKey<T>>(x, dst + at, n);
   }
+  size_t count_ = 0;
+  V held_[kLate];
+  T* to_[kLate];
+};
+
+template <class Network, class T> class Inside {
+ public:
+  explicit Inside(Windows<Network, T> windows) : windows_(windows) {}
+
+  // N outputs from i on. A step checks the elements that its windows are the first to have.
+  auto outputs(size_t i) {
+    const auto at = windows_.inside(i);
+    if constexpr (std::is_floating_point_v<T>) {
+      if (needsKeys(at(2 * kReach))) [[unlikely]]
+        byKeys_ = kByKeys;
+      if (byKeys_ > 0) [[unlikely]] {
+        --byKeys_;
+        return outputsByKeys(windows_.x + i - kReach);
+      }
+    }
+    return medians<Network>(at);
+  }
+  // Before outputs that do not follow those before them: checks what their windows share with others.
+  void goTo(size_t i) {
+    byKeys_ = 0;
+    if constexpr (std::is_floating_point_v<T>) {
+      for (size_t k = 0; k < 2 * kReach; k += N) {
+        if (needsKeys(windows_.inside(i)(k))) [[unlikely]]
+          byKeys_ = kByKeys;
+      }
+    }
+  }
+  // Of as many vectors as kChunk has.
+  template <class Put> void chunk(size_t i, Put put) {
+    typename Windows<Network, T>::Runs runs;
+    const bool asTheyAre = windows_.order(i, runs);
+    if (!asTheyAre) goTo(i);
+    for (size_t v = 0; v < Windows<Network, T>::kChunk; ++v, i += N) {
+      if (asTheyAre) [[likely]]
+        put(Network::of(windows_.inside(i), [&](size_t k) { return runs.at(v * N + k); }), i);
+      else put(outputs(i), i);
+    }
+  }
+
+ private:
+  static constexpr size_t N = kVectorBytes / sizeof(T);
+  static constexpr size_t kReach = Network::kMask / 2;
+  static constexpr size_t kByKeys = 1 + (2 * kReach + N - 1) / N;
+  [[gnu::noinline]] static auto outputsByKeys(const T* p) {
+    return mediansByKeys<Network>([=](size_t k) { return load(Lanes<T, N>(), p + k); });
+  }
+  Windows<Network, T> windows_;
+  size_t byKeys_ = 0;  // steps whose windows may have elements that need keys
+};
+
+template <class Network, class T> [[gnu::noinline]] QvxStatus filterByNetwork(const T* x, T* dst, size_t n) {
+  using W = Windows<Network, T>;
+  constexpr size_t N = W::N;
+  constexpr size_t kEnd = W::kEnd;
+  constexpr size_t kReach = W::kReach;
+  const W windows{x, n};
+  if (n <= kEnd) {
+    storeFirst(windows.atEnd(0), Lanes<T, kEnd>(), dst, n);
+    return qvxStatOk;
+  }
+  constexpr size_t kLast = (kReach + kEnd - 1) / kEnd;  // vectors whose windows may go past the end
+  std::array<typename Late<T, kEnd, kReach>::V, kLast> last;
+  for (size_t k = 0; k < kLast && (k + 1) * kEnd <= n; ++k) last[k] = windows.atEnd(n - (k + 1) * kEnd);
+  Late<T, kEnd, kReach> ends;
+  size_t i = 0;
+  if (n <= 2 * kEnd || n < N + 2 * kReach) {
+    for (; i < n - kEnd; i += kEnd) ends.put(windows.atEnd(i), dst + i);
+    ends.finish();
+  } else {
+    Inside<Network, T> inside(windows);
+    Late<T, N, kReach> outputs;
+    const auto put = [&](auto v, size_t at) { outputs.put(v, dst + at); };
+    const size_t tail = n - kReach - N;  // of the last whole vector
+    inside.goTo(tail);
+    const auto atTail = inside.outputs(tail);
+    for (; i < kReach; i += kEnd) ends.put(windows.atEnd(i), dst + i);
+    if (i < tail) inside.goTo(i);
+    if (kEnd < N && i < tail) {
+      put(inside.outputs(i), i);
+      i = N;
+    }
+    if constexpr (kHasRuns<Network>) {
+      for (; i + W::kReadByChunk <= n; i += W::kChunk * N) inside.chunk(i, put);
+      if (i < tail) inside.goTo(i);
+    }
+    for (; i < tail; i += N) put(inside.outputs(i), i);
+    outputs.finish();
+    ends.finish();
+    store(atTail, Lanes<T, N>(), dst + tail);
+  }
+  for (size_t k = 0; k < kLast && (k + 1) * kEnd <= n; ++k) store(last[k], Lanes<T, kEnd>(), dst + n - (k + 1) * kEnd);
   return qvxStatOk;
 }
 

@@ -111,7 +111,11 @@ TEST(Noise, OfARecordIsOneSequence) {
 template <class T, class Run> void expectUniformChain(Run run, T low, T high) {
   std::vector<T> y(300);
   Qvx32u seed = 77;
+  // Seeds after which, 7, 9, 21, 35, 85 and 92 numbers on, lags 2 and 3 differ by 0 or -2^31: one difference in 2^31 is such that
+  // the borrow decides its sign.
+  constexpr Qvx32u kRare[] = {24376020, 221408167, 166021412, 288920055, 367243760, 214097469};
   for (int len = 1; len < 300; len += len < 70 ? 1 : 37) {
+    if (len >= 100 || len % 7 == 3) seed = kRare[static_cast<size_t>(len) % std::size(kRare)];
     NoiseSource source(seed);
     ASSERT_EQ(run(y.data(), len, low, high, &seed), qvxStatOk);
     for (int i = 0; i < len; ++i) ASSERT_EQ(y[static_cast<size_t>(i)], uniform(source.next(), low, high)) << len << ", " << i;
