@@ -99,7 +99,7 @@ def _apply(call, record, size, source, target, workers):
     target = target.reshape(-1, target.shape[-1])
 
     def some(first, past):
-        raw.rows(call, (source[first:past], target[first:past]), record, scratch(size))
+        raw.rows(call, source[first:past], target[first:past], record, scratch(size))
 
     for_rows(some, len(source), workers)
 
@@ -141,8 +141,8 @@ def _complex_of_real(x, n, axis, flag, forward, workers):
     halves = spectra.view(source.dtype)[:, :2 * half]
 
     def some(first, past):
-        raw.rows(call, (source[first:past], halves[first:past]), record, scratch(size))
-        raw.rows(expand, (spectra[first:past],), n)
+        raw.rows(call, source[first:past], halves[first:past], record, scratch(size))
+        raw.rows(expand, spectra[first:past], n)
 
     for_rows(some, len(source), workers)
     if not forward:

@@ -22,16 +22,15 @@ from .forms import TAGS, forms
 from .rows import back, check_axis, contiguous, last
 
 __all__ = []
-_REFUSED = (KeyError, TypeError, ValueError, AttributeError, raw.Error)
 _ROUNDING = {"zero": 0, "even": 1, "away": 2}
-_ndarray, _empty = np.ndarray, np.empty
 
 
-def _public(function, name, doc):
+def _public(function, name, plain, turned, doc):
+    """The function under its name; calls of `plain` exports with whole arrays do not reach it."""
     function.__name__ = function.__qualname__ = name
     function.__module__ = __name__
     function.__doc__ = doc
-    globals()[name] = function
+    globals()[name] = raw.elementwise(plain, function, turned) if plain else function
     __all__.append(name)
 
 
@@ -45,6 +44,12 @@ def _choose(name, candidates, source, scale, dtype):
         raise TypeError(f"{name} has no form for {source}{wanted}{' with a scale' if scale else ''}")
     own = [form for form in fitting if form.target == source]
     return (own or fitting)[0]
+
+
+def _plain(name, found, parameters):
+    """The exports of calls without scale, dtype and numbers, where there is one with just these parameters."""
+    chosen = [_choose(name, found, source, 0, None) for source in dict.fromkeys(form.source for form in found) if source.names is None]
+    return tuple(form.call for form in chosen if form.parameters == parameters and form.target.names is None)
 
 
 def _destination(out, shape, dtype, *sources):
@@ -89,22 +94,8 @@ def _binary(name, stem, summary, example, minus=False):
 
     constants = family("C")
     reverse = family("CRev") if minus else constants
-    plain = {form.source: form.call if not minus else _turned(form.call) for form in found
-             if form.source == form.target and form.parameters == ("pSrc1", "pSrc2", "pDst", "len")}
-
     def function(a, b, scale=0, out=None, dtype=None):
-        if out is None and dtype is None and not scale:
-            try:
-                kind, shape = a.dtype, a.shape
-                if a.__class__ is _ndarray is b.__class__ and shape == b.shape:
-                    result = _empty(shape, kind)  # 130 ns, empty_like 280
-                    plain[kind](a, b, result, result.size)
-                    return result
-            except _REFUSED:
-                pass  # told in full below
-        return general(np.asarray(a), np.asarray(b), scale, out, dtype)
-
-    def general(a, b, scale, out, dtype):
+        a, b = np.asarray(a), np.asarray(b)
         common = np.result_type(a, b)
         if a.ndim and not b.ndim or b.ndim and not a.ndim:
             array, number, table = (a, b, constants) if a.ndim else (b, a, reverse)
@@ -124,7 +115,7 @@ def _binary(name, stem, summary, example, minus=False):
             form(pSrc1=first, pSrc2=second, pDst=result.reshape(-1), len=result.size, scaleFactor=scale, rndMode=1)
         return _deliver(result, out)
 
-    _public(function, name, f"""{summary}
+    _public(function, name, _plain(name, found, ("pSrc1", "pSrc2", "pDst", "len")), minus, f"""{summary}
 
     a, b: arrays of one type after NumPy's promotion, broadcast together, or a number: {_types(found)}.
     scale: integer results times 2^-scale, rounded to nearest with ties to even, saturated to their type; dtype: that of the
@@ -132,10 +123,6 @@ def _binary(name, stem, summary, example, minus=False):
 
         {example}
     """)
-
-
-def _turned(call):
-    return lambda a, b, result, size: call(b, a, result, size)
 
 
 _SETUP = ">>> import numpy as np, qvxs\n        "
@@ -160,8 +147,6 @@ _binary("minimum", "MinEvery", "The less of a and b; a NaN in b stays, one in a 
 def _unary(name, stem, summary, example, extra=()):
     """A function of one source and numbers after it, named as Python has them: level for `level`."""
     found = forms(stem)
-    plain = {form.source: form.call for form in found
-             if form.source == form.target and form.parameters == ("pSrc", "pDst", "len")}
 
     def general(x, numbers, scale, out, dtype):
         form = _choose(name, found, x.dtype, scale, dtype)
@@ -180,18 +165,10 @@ def _unary(name, stem, summary, example, extra=()):
             return general(np.asarray(x), numbers, 0, out, None)
     else:
         def function(x, scale=0, out=None, dtype=None):
-            if out is None and dtype is None and not scale:
-                try:
-                    if x.__class__ is _ndarray:
-                        result = _empty(x.shape, x.dtype)
-                        plain[x.dtype](x, result, result.size)
-                        return result
-                except _REFUSED:
-                    pass  # told in full below
             return general(np.asarray(x), (), scale, out, dtype)
 
     scaled = any(form.scaled for form in found)
-    _public(function, name, f"""{summary}
+    _public(function, name, _plain(name, found, ("pSrc", "pDst", "len")), False, f"""{summary}
 
     x: array of any shape: {_types(found)}.{' Then the numbers: ' + ', '.join(extra) + '.' if extra else ''}
     {'scale: integer results times 2^-scale, rounded to nearest, saturated to their type. ' if scaled else ''}out: an array for the result.
@@ -291,7 +268,7 @@ def _reduction(name, stem, results, summary, example, overflow=False, widest=Fal
         made = [values.reshape(shape) if axis is not None else values[0, 0] for values in made]
         return made[0] if len(made) == 1 else tuple(made)
 
-    _public(function, name, f"""{summary}
+    _public(function, name, (), False, f"""{summary}
 
     x: array: {_types(best.values())}; over all of it, or along an axis.{' OverflowError where the sum of integers is beyond the type that it has.' if overflow else ''}
     Exports: {_exports(best.values())}.
