@@ -11,7 +11,8 @@ whose functions are called for them. float32 stays float32; recursive filters co
 FIR filters go by way of the FFT: there a NaN or an infinity spoils all results of the transforms that it enters, not only those
 that its taps reach.
 
-The streams `Fir`, `Iir`, `Sos`, `Resampler` and `Lms` keep their state between blocks: see qvxs.streams.
+The streams `Fir`, `Iir`, `Sos`, `Resampler`, `Lms`, `SparseFir`, `SparseIir`, `WaveletSplit` and `WaveletJoin` keep their state between
+blocks: see qvxs.streams.
 """
 
 import math
@@ -24,11 +25,12 @@ import scipy.signal
 from . import raw
 from .fft import fftn, ifft, ifftn, irfftn, next_fast_len, rfft, rfftn
 from .rows import back, check_axis, contiguous, last
-from .streams import Fir, Iir, Lms, Resampler, Sos, filter_record, section_record
+from .streams import (Fir, Iir, Lms, Resampler, Sos, SparseFir, SparseIir, WaveletJoin, WaveletSplit, filter_record,
+                      section_record)
 
 COVERED = ["lfilter", "sosfilt", "filtfilt", "sosfiltfilt", "upfirdn", "resample_poly", "convolve", "fftconvolve", "oaconvolve",
            "correlate", "medfilt", "hilbert", "firwin", "get_window", "butter", "cheby1", "welch", "spectrogram"]
-__all__ = [*COVERED, "Fir", "Iir", "Sos", "Resampler", "Lms"]
+__all__ = [*COVERED, "Fir", "Iir", "Sos", "Resampler", "Lms", "SparseFir", "SparseIir", "WaveletSplit", "WaveletJoin"]
 
 _TAGS = {"f": "32f", "d": "64f", "F": "32fc", "D": "64fc"}
 
