@@ -70,7 +70,7 @@ def recorded(x, real):
     export, work = getattr(qvxs.raw, "qvxsDFTFwd_" + call), np.empty(size, np.uint8) if size else None
     if x.ndim == 1:
         return lambda: export(x, target, record, work)
-    return lambda: qvxs.raw.rows(export, (x, target), record, work)
+    return lambda: qvxs.raw.rows(export, x, target, record, work)
 
 
 def transforms():

@@ -6,8 +6,8 @@
     array([10.+0.j, -2.+2.j, -2.+0.j], dtype=complex64)
 
 Single precision stays single, half precision becomes single, integers become double. The module is a backend of SciPy: under
-`scipy.fft.set_backend(qvxs.fft)` programs that call scipy.fft use it. Whatever is not here (sine transforms, cosine transforms of
-types I and IV, long doubles) is left to SciPy; with scipy.fft.set_global_backend, register_backend("scipy") says so.
+`scipy.fft.set_backend(qvxs.fft)` programs that call scipy.fft use it. Whatever is not here (cosine and sine transforms of types I and
+IV, long doubles) is left to SciPy; with scipy.fft.set_global_backend, register_backend("scipy") says so.
 
 Exports: qvxsDFTFwd_ and qvxsDFTInv_ with CToC, RToCCS and CCSToR of 32f, 32fc, 64f and 64fc; qvxsConjCcs_; qvxsDCTFwd_,
 qvxsDCTInv_. Their records are kept by type, length and factor, the last 32 of them, for all threads.
@@ -24,7 +24,7 @@ from . import raw
 from .rows import back, check_axis, contiguous, count_workers, for_rows, last, scratch
 
 __all__ = ["fft", "ifft", "rfft", "irfft", "hfft", "ihfft", "fft2", "ifft2", "fftn", "ifftn", "rfft2", "irfft2", "rfftn", "irfftn",
-           "dct", "idct", "next_fast_len", "fftfreq", "rfftfreq", "fftshift", "ifftshift"]
+           "dct", "idct", "dctn", "idctn", "dst", "idst", "dstn", "idstn", "next_fast_len", "fftfreq", "rfftfreq", "fftshift", "ifftshift"]
 __ua_domain__ = "numpy.scipy.fft"
 
 _LONGEST = 2**26 - 1  # complex doubles of any length; the real ones go further, and so do powers of two
@@ -99,7 +99,7 @@ def _apply(call, record, size, source, target, workers):
     target = target.reshape(-1, target.shape[-1])
 
     def some(first, past):
-        raw.rows(call, (source[first:past], target[first:past]), record, scratch(size))
+        raw.rows(call, source[first:past], target[first:past], record, scratch(size))
 
     for_rows(some, len(source), workers)
 
@@ -141,8 +141,8 @@ def _complex_of_real(x, n, axis, flag, forward, workers):
     halves = spectra.view(source.dtype)[:, :2 * half]
 
     def some(first, past):
-        raw.rows(call, (source[first:past], halves[first:past]), record, scratch(size))
-        raw.rows(expand, (spectra[first:past],), n)
+        raw.rows(call, source[first:past], halves[first:past], record, scratch(size))
+        raw.rows(expand, spectra[first:past], n)
 
     for_rows(some, len(source), workers)
     if not forward:
@@ -443,6 +443,71 @@ def idct(x, type=2, n=None, axis=-1, norm=None, overwrite_x=False, workers=None,
         array([1., 2., 3.])
     """
     return _cosine(x, type, n, axis, norm, orthogonalize, True, workers)
+
+
+def _sine(x, type, n, axis, norm, orthogonalize, inverse, workers):
+    """By the cosine transform of the same type: the spectrum in reverse order, every other sample negative."""
+    if type not in (2, 3):
+        raise _NotHere
+    x = _floats(x)
+    axis = check_axis(axis, x.ndim)
+    n = _length(n, x.shape[axis])
+    x = _fit(x, n, axis)
+    if orthogonalize is None:
+        orthogonalize = norm == "ortho"
+    signs = np.ones(n, x.dtype)
+    signs[1::2] = -1
+    # SciPy's factor of an orthogonal transform stands at point 0, where that of the cosines has it, not at the last one.
+    if (type == 2) != inverse:
+        result = _cosine(x * signs, type, None, -1, norm, False, inverse, workers)[..., ::-1]
+        if orthogonalize:
+            result[..., 0] *= sqrt(0.5)
+        return back(result, axis)
+    turned = x[..., ::-1].copy()
+    if orthogonalize:
+        turned[..., -1] *= sqrt(2)
+    return back(_cosine(turned, type, None, -1, norm, False, inverse, workers) * signs, axis)
+
+
+@_or_scipy
+def dst(x, type=2, n=None, axis=-1, norm=None, overwrite_x=False, workers=None, orthogonalize=None):
+    """The discrete sine transform of type 2 or 3 along an axis, by `dct`; SciPy computes types 1 and 4.
+
+        >>> dst([1., 2., 3.], norm="ortho").round(6)
+        array([ 2.309401, -1.414214,  1.632993])
+    """
+    return _sine(x, type, n, axis, norm, orthogonalize, False, workers)
+
+
+@_or_scipy
+def idst(x, type=2, n=None, axis=-1, norm=None, overwrite_x=False, workers=None, orthogonalize=None):
+    """The inverse of `dst` of the same type.
+
+        >>> idst(dst([1., 2., 3.])).round(6)
+        array([1., 2., 3.])
+    """
+    return _sine(x, type, n, axis, norm, orthogonalize, True, workers)
+
+
+def _over_axes(one):
+    """The transform over several axes, all by default, of the lengths s."""
+    name = one.__name__ + "n"
+
+    def public(x, type=2, s=None, axes=None, norm=None, overwrite_x=False, workers=None, *, orthogonalize=None):
+        if type not in (2, 3):
+            raise _NotHere
+        x = _floats(x)
+        s, axes = _shape_and_axes(x, s, axes)
+        for n, axis in zip(s, axes):
+            x = one.__wrapped__(x, type, n, axis, norm, False, workers, orthogonalize)
+        return x
+
+    public.__name__ = public.__qualname__ = name
+    public.__doc__ = f"`{one.__name__}` over several axes, all by default, of the lengths s.\n\n        >>> {name}(np.zeros((2, 3))).shape\n        (2, 3)\n    "
+    return _or_scipy(public)
+
+
+dctn, idctn, dstn, idstn = (_over_axes(one) for one in (dct, idct, dst, idst))
 
 
 @lru_cache(maxsize=256)

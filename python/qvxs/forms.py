@@ -30,10 +30,13 @@ class Form(NamedTuple):
     source: np.dtype
     second: np.dtype
     target: np.dtype
+    types: dict  # of every parameter, a pointer's being that of its elements
+    sources: tuple  # the parameters that are read, then those that are written alone
+    results: tuple
 
     @property
     def scaled(self):
-        return "scaleFactor" in self.parameters
+        return "scaleFactor" in self.parameters or "magnScaleFactor" in self.parameters
 
     def __call__(self, **values):
         return self.call(*[values[parameter] for parameter in self.parameters])
@@ -41,19 +44,21 @@ class Form(NamedTuple):
 
 def _form(name):
     call = getattr(raw, name)
-    parameters = re.findall(r"(\w[\w ]*[\w*]) (\w+)[,)]", call.__doc__)  # from "QvxStatus qvxsAbs_32f(const Qvx32f* pSrc, ...)"
-    vectors = [(kind.startswith("const "), DTYPES.get(re.sub(r"const |\*", "", kind))) for kind, _ in parameters if "*" in kind]
-    sources = [dtype for const, dtype in vectors if const]
-    targets = [dtype for const, dtype in vectors if not const]
-    return Form(name, call, tuple(parameter for _, parameter in parameters), sources[0] if sources else None,
-                sources[1] if len(sources) > 1 else None, targets[0] if targets else None)
+    pairs = re.findall(r"(\w[\w ]*[\w*]) (\w+)[,)]", call.__doc__)  # from "QvxStatus qvxsAbs_32f(const Qvx32f* pSrc, ...)"
+    types = {parameter: DTYPES.get(re.sub(r"const |\W", "", kind)) for kind, parameter in pairs}
+    read = tuple(parameter for kind, parameter in pairs if "*" in kind and kind.startswith("const "))
+    written = tuple(parameter for kind, parameter in pairs if "*" in kind and parameter not in read)
+    both = tuple(parameter for parameter in written if parameter.startswith("pSrcDst"))
+    dtypes = [types[parameter] for parameter in read]
+    return Form(name, call, tuple(types), dtypes[0] if read else None, dtypes[1] if len(read) > 1 else None,
+                types[written[0]] if written else None, types, read + both, tuple(parameter for parameter in written if parameter not in both))
 
 
-def forms(stem):
-    """All forms of a stem that are not in place, plain ones before scaled ones: `forms("Threshold_LT")`."""
+def forms(stem, tail=""):
+    """All forms of a stem that are not in place, plain ones before scaled ones: `forms("Threshold_LT")`. tail: of the names, "_I"."""
     found = []
     for name in dir(raw):
-        if re.fullmatch(rf"qvxs{stem}_?(?:[0-9]+[suf]c?)+(?:_Sfs)?", name):
+        if re.fullmatch(rf"qvxs{stem}_?(?:[0-9]+[suf]c?)+{tail}(?:_Sfs)?", name):
             found.append(_form(name))
     if not found:
         raise LookupError(f"there is no export of {stem}")

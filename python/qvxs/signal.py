@@ -11,7 +11,8 @@ whose functions are called for them. float32 stays float32; recursive filters co
 FIR filters go by way of the FFT: there a NaN or an infinity spoils all results of the transforms that it enters, not only those
 that its taps reach.
 
-The streams `Fir`, `Iir`, `Sos`, `Resampler` and `Lms` keep their state between blocks: see qvxs.streams.
+The streams `Fir`, `Iir`, `Sos`, `Resampler`, `Lms`, `SparseFir`, `SparseIir`, `WaveletSplit` and `WaveletJoin` keep their state between
+blocks: see qvxs.streams.
 """
 
 import math
@@ -24,12 +25,14 @@ import scipy.signal
 from . import raw
 from .fft import fftn, ifft, ifftn, irfftn, next_fast_len, rfft, rfftn
 from .rows import back, check_axis, contiguous, last
-from .streams import Fir, Iir, Lms, Resampler, Sos, filter_record, section_record
+from .streams import (Fir, Iir, Lms, Resampler, Sos, SparseFir, SparseIir, WaveletJoin, WaveletSplit, filter_record,
+                      section_record)
 
 COVERED = ["lfilter", "sosfilt", "filtfilt", "sosfiltfilt", "upfirdn", "resample_poly", "convolve", "fftconvolve", "oaconvolve",
            "correlate", "medfilt", "hilbert", "firwin", "get_window", "butter", "cheby1", "welch", "spectrogram"]
-__all__ = [*COVERED, "Fir", "Iir", "Sos", "Resampler", "Lms"]
+__all__ = [*COVERED, "Fir", "Iir", "Sos", "Resampler", "Lms", "SparseFir", "SparseIir", "WaveletSplit", "WaveletJoin"]
 
+_ndarray = np.ndarray
 _TAGS = {"f": "32f", "d": "64f", "F": "32fc", "D": "64fc"}
 
 
@@ -72,17 +75,19 @@ def lfilter(b, a, x, axis=-1, zi=None):
         >>> lfilter([1.], [1, -0.5], [1., 0, 0, 0])
         array([1.   , 0.5  , 0.25 , 0.125])
     """
-    if zi is None and x.__class__ is a.__class__ is b.__class__ is np.ndarray and x.ndim == a.ndim == b.ndim == 1 and (
-            a.size > 1 and b.size and x.size and a.dtype == b.dtype == x.dtype and x.dtype.char in _TAGS and x.flags.carray and a[0]):
+    if zi is None and x.__class__ is a.__class__ is b.__class__ is _ndarray and x.ndim == a.ndim == b.ndim == 1 and (
+            x.dtype is a.dtype is b.dtype and x.dtype.char in _TAGS and a.size > 1 and b.size and x.size and a[0] and (axis == -1 or axis == 0)):
         # The usual call without the questions below, which take as long as 2000 samples.
-        check_axis(axis, 1)
-        result = np.empty(x.shape, x.dtype)
+        result = np.empty(x.size, x.dtype)
         calls, spares = _record(filter_record, x.dtype, b, a)
         record, run, _, write = calls
-        run(x, result, x.size, record)
-        write(record, None)
-        spares.append(calls)
-        return result
+        try:
+            run(x, result, x.size, record)
+            write(record, None)
+            spares.append(calls)
+            return result
+        except (TypeError, ValueError):  # of strides
+            spares.append(calls)
     b, a, x = np.atleast_1d(b), np.atleast_1d(a), np.asarray(x)
     if b.ndim != 1 or a.ndim != 1 or not x.ndim or not b.size or not a.size or not x.size:
         raise _NotHere
@@ -100,15 +105,18 @@ def lfilter(b, a, x, axis=-1, zi=None):
     return _each_row(rows, axis, zi, (order,), dtype, filter_record, b, a)
 
 
-@lru_cache(maxsize=32)
-def _spares(*key):
-    """Records that wait for the next call with the same taps, their state zero: making one takes as long as 3000 samples."""
-    return deque(maxlen=4)
+# Records that wait for the next call with the same taps, their state zero: making one takes as long as 3000 samples.
+_spares = {}
 
 
 def _record(make, dtype, *taps):
     """A record of the taps with its exports, and where to put them when they have been used."""
-    spares = _spares(make, dtype, *[x.tobytes() for x in taps], *[x.dtype for x in taps])
+    key = make, dtype.char, *[part for x in taps for part in (x.tobytes(), x.dtype.char)]
+    spares = _spares.get(key)
+    if spares is None:
+        while len(_spares) >= 32:
+            _spares.pop(list(_spares)[0], None)
+        spares = _spares[key] = deque(maxlen=4)
     try:
         return spares.pop(), spares
     except IndexError:
@@ -197,30 +205,64 @@ def sosfilt(sos, x, axis=-1, zi=None):
     return _each_row(rows, axis, zi, (len(sos), 2), dtype, section_record, sos)
 
 
-def _extended(x, padtype, padlen, axis, taps):
-    """The array with its ends continued, and by how much."""
+def _edge(x, padtype, padlen, axis, taps):
+    """By how many samples the ends are continued."""
     if padtype not in ("even", "odd", "constant", None):
         raise ValueError(f"Unknown value '{padtype}' given to padtype.  padtype must be 'even', 'odd', 'constant', or None.")
     edge = 0 if padtype is None else taps * 3 if padlen is None else padlen
     if x.shape[axis] <= edge:
         raise ValueError(f"The length of the input vector x must be greater than padlen, which is {edge}.")
-    x = np.moveaxis(x, axis, -1)
-    if not edge:
-        return x, 0
-    first, final = x[..., :1], x[..., -1:]
-    before, after = x[..., edge:0:-1], x[..., -2:-edge - 2:-1]
-    if padtype == "odd":
-        before, after = 2 * first - before, 2 * final - after
-    elif padtype == "constant":
-        before, after = np.broadcast_to(first, before.shape), np.broadcast_to(final, after.shape)
-    return np.concatenate((before, x, after), axis=-1), edge
+    return edge
 
 
-def _there_and_back(run, x, edge, axis):
-    """run filters rows from a state that goes with their first element."""
-    y = run(x)
-    y = run(contiguous(y[..., ::-1]))[..., ::-1]
-    return np.moveaxis(y[..., edge:y.shape[-1] - edge], -1, axis)
+def _continued(rows, edge, padtype, dtype):
+    """The rows with their ends continued: through the end points (odd), mirrored (even), or by them."""
+    n = rows.shape[1]
+    buffer = np.empty((len(rows), n + 2 * edge), dtype)
+    buffer[:, edge:edge + n] = rows
+    if edge:
+        before, after = rows[:, edge:0:-1], rows[:, -2:-edge - 2:-1]
+        if padtype == "constant":
+            before, after = rows[:, :1], rows[:, -1:]
+        buffer[:, :edge] = 2 * rows[:, :1] - before if padtype == "odd" else before
+        buffer[:, edge + n:] = 2 * rows[:, -1:] - after if padtype == "odd" else after
+    return buffer
+
+
+def _there_and_back(make, taps, start, x, edge, padtype, axis):
+    """Every row through the record of the taps, turned round, through it again, and back; each time from the state `start` times its
+    first element. All in one buffer: a new one of a megabyte costs as much as half a filter."""
+    dtype = _common(*taps, x, start)
+    axis = check_axis(axis, x.ndim)
+    x = last(x, axis)
+    n = x.shape[-1]
+    buffer = _continued(x.reshape(-1, n), edge, padtype, dtype)
+    result = np.empty(x.shape, dtype)
+    tag, length = _TAGS[dtype.char], n + 2 * edge
+    run, turn, turned = (getattr(raw, f"qvxs{stem}_{tag}{end}") for stem, end in (("IIR", "_I"), ("Flip", "_I"), ("Flip", "")))
+    start = start.astype(dtype, copy=False).reshape(-1)
+    calls, spares = _record(make, dtype, *taps)
+    record, write = calls[0], calls[3]
+    for row, target in zip(buffer, result.reshape(-1, n)):
+        write(record, start * row[0])
+        run(row, length, record)
+        turn(row, length)
+        write(record, start * row[0])
+        run(row, length, record)
+        turned(row[edge:edge + n], target, n)
+    write(record, None)
+    spares.append(calls)
+    return back(result, axis)
+
+
+@lru_cache(maxsize=32)
+def _steady(function, *taps):
+    """What lfilter_zi or sosfilt_zi says of taps, which are told as bytes, type and shape: solving for it takes as long as 5000 samples."""
+    return function(*(np.frombuffer(data, dtype).reshape(shape) for data, dtype, shape in taps))
+
+
+def _key(x):
+    return x.tobytes(), x.dtype, x.shape
 
 
 @_or_scipy
@@ -232,12 +274,20 @@ def filtfilt(b, a, x, axis=-1, padtype="odd", padlen=None, method="pad", irlen=N
         array([1., 1., 1.])
     """
     b, a, x = np.atleast_1d(b), np.atleast_1d(a), np.asarray(x)
-    if method != "pad" or not x.size or max(len(a), len(b)) < 2:
+    if method != "pad" or not x.size or max(len(a), len(b)) < 2 or a.ndim != 1 or b.ndim != 1 or a[0] == 0:
         raise _NotHere
     _common(b, a, x)
-    extended, edge = _extended(x, padtype, padlen, axis, max(len(a), len(b)))
-    zi = scipy.signal.lfilter_zi(b, a)
-    return _there_and_back(lambda rows: lfilter(b, a, rows, zi=zi * rows[..., :1])[0], extended, edge, axis)
+    edge = _edge(x, padtype, padlen, axis, max(len(a), len(b)))
+    zi = _steady(scipy.signal.lfilter_zi, _key(b), _key(a))
+    if len(a) > 1:
+        return _there_and_back(filter_record, (b, a), zi, x, edge, padtype, axis)
+    # Without feedback, by lfilter, which knows the convolution.
+    axis = check_axis(axis, x.ndim)
+    x = last(x, axis)
+    y = _continued(x.reshape(-1, x.shape[-1]), edge, padtype, _common(b, a, x))
+    for _ in range(2):
+        y = lfilter(b, a, y, zi=zi * y[:, :1])[0][:, ::-1]
+    return back(y[:, edge:y.shape[1] - edge].reshape(x.shape), axis)
 
 
 @_or_scipy
@@ -248,14 +298,12 @@ def sosfiltfilt(sos, x, axis=-1, padtype="odd", padlen=None):
         array([1., 1., 1.])
     """
     sos, x = np.atleast_2d(sos), np.asarray(x)
-    if sos.ndim != 2 or sos.shape[1] != 6 or not x.ndim or not x.size or not sos[:, 0].all():
+    if sos.ndim != 2 or sos.shape[1] != 6 or not x.ndim or not x.size or not sos[:, 0].all() or not (sos[:, 3] == 1).all():
         raise _NotHere
     _common(sos, x)
     taps = 2 * len(sos) + 1 - min((sos[:, 2] == 0).sum(), (sos[:, 5] == 0).sum())
-    extended, edge = _extended(x, padtype, padlen, axis, taps)
-    zi = scipy.signal.sosfilt_zi(sos)
-    zi = zi.reshape((len(sos),) + (1,) * (x.ndim - 1) + (2,))
-    return _there_and_back(lambda rows: sosfilt(sos, rows, zi=zi * rows[..., :1])[0], extended, edge, axis)
+    edge = _edge(x, padtype, padlen, axis, taps)
+    return _there_and_back(section_record, (sos,), _steady(scipy.signal.sosfilt_zi, _key(sos)), x, edge, padtype, axis)
 
 
 # ---- convolution
@@ -612,8 +660,19 @@ def cheby1(N, rp, Wn, btype="low", analog=False, output="ba", fs=None):
 _PIECE = 1 << 16  # samples transformed at a time, so that they stay in the second cache
 
 
+@lru_cache(maxsize=16)
+def _weights(window, nperseg, dtype):
+    """A window by its name. SciPy's takes 25 us, a quarter of `welch` of 1000 samples."""
+    return get_window(window, nperseg).astype(dtype)
+
+
+@lru_cache(maxsize=16)
+def _frequencies(nfft, fs):
+    return np.fft.rfftfreq(nfft, 1 / fs)
+
+
 def _segments(x, fs, window, nperseg, noverlap, nfft, detrend, return_onesided, scaling):
-    """Segments of the rows, what they are weighted with, and the frequencies: what welch and spectrogram begin with."""
+    """Segments of the rows, what they and their powers are weighted with, and the frequencies: what welch and spectrogram begin with."""
     if x.dtype.char not in "fd" or not x.size or not return_onesided or scaling not in ("density", "spectrum"):
         raise _NotHere
     if detrend not in ("constant", False, None):
@@ -623,43 +682,49 @@ def _segments(x, fs, window, nperseg, noverlap, nfft, detrend, return_onesided, 
         nperseg = 256 if nperseg is None else int(nperseg)
         if nperseg > n or nperseg < 1:
             raise _NotHere
-        weights = get_window(window, nperseg)
+        try:
+            weights = _weights(window, nperseg, x.dtype)
+        except TypeError:  # a tuple with what cannot be kept
+            weights = get_window(window, nperseg).astype(x.dtype)
     else:
         weights = np.asarray(window)
         if weights.ndim != 1 or weights.size > n or weights.dtype.kind == "c" or nperseg not in (None, weights.size):
             raise _NotHere
-        nperseg = weights.size
+        nperseg, weights = weights.size, weights.astype(x.dtype)
     nfft = nperseg if nfft is None else int(nfft)
     noverlap = nperseg // 2 if noverlap is None else int(noverlap)
     if nfft < nperseg or noverlap >= nperseg:
         raise _NotHere
-    weights = weights.astype(x.dtype)
-    scale = 1 / (fs * (weights * weights).sum()) if scaling == "density" else 1 / weights.sum()**2
-    segments = np.lib.stride_tricks.sliding_window_view(x, nperseg, axis=-1)[..., ::nperseg - noverlap, :]
-    frequencies = np.fft.rfftfreq(nfft, 1 / fs)
-    times = np.arange(nperseg / 2, n - nperseg / 2 + 1, nperseg - noverlap) / float(fs)
-    return segments, weights, nfft, scale, frequencies, times
+    scale = 1 / (fs * np.dot(weights, weights)) if scaling == "density" else 1 / weights.sum()**2
+    hop = nperseg - noverlap
+    shape = x.shape[:-1] + ((n - nperseg) // hop + 1, nperseg)
+    segments = np.ndarray(shape, x.dtype, x, 0, x.strides[:-1] + (hop * x.itemsize, x.itemsize))
+    return segments, weights, nfft, scale, _frequencies(nfft, fs).copy(), hop
 
 
 def _powers(segments, weights, nfft, scale, detrend):
     """The one-sided power of every segment: (..., segments, frequencies), piece by piece."""
-    result = np.empty(segments.shape[:-1] + (nfft // 2 + 1,), segments.dtype)
-    outer = result.reshape(-1, *result.shape[-2:])
-    pieces = segments.reshape(-1, *segments.shape[-2:]) if segments.ndim != 2 else segments[np.newaxis]
+    n, points = segments.shape[-1], nfft // 2 + 1
+    result = np.empty(segments.shape[:-1] + (points,), segments.dtype)
     step = max(1, _PIECE // nfft)
-    power = getattr(raw, "qvxsPowerSpectr_" + _TAGS[np.result_type(segments.dtype, np.complex64).char])
-    for source, target in zip(pieces, outer):
+    tag = _TAGS[segments.dtype.char]
+    mean, power = getattr(raw, "qvxsMean_" + tag), getattr(raw, f"qvxsPowerSpectr_{tag}c")
+    hint = (0,) if tag == "32f" else ()
+    factors = np.full(points, 2 * scale, segments.dtype)
+    factors[::points if nfft % 2 else points - 1 or 1] = scale  # neither 0 nor half the rate has a mirror image
+    for source, target in zip(segments.reshape(-1, *segments.shape[-2:]) if segments.ndim > 2 else segments[np.newaxis],
+                              result.reshape(-1, *result.shape[-2:])):
         for first in range(0, len(source), step):
-            part = source[first:first + step]
+            part = source[first:first + step].copy()
             if detrend:
-                part = part - part.mean(axis=-1, keepdims=True)
-                part *= weights
-            else:
-                part = part * weights
+                means = np.empty((len(part), 1), part.dtype)
+                raw.rows(mean, part, n, means, *hint)
+                part -= means
+            part *= weights
             spectrum = rfft(part, nfft)
-            power(spectrum.reshape(-1), target[first:first + step].reshape(-1), spectrum.size)
-    result *= scale
-    result[..., 1:(nfft + 1) // 2] *= 2
+            place = target[first:first + step]
+            power(spectrum, place, spectrum.size)
+            place *= factors
     return result
 
 
@@ -680,8 +745,10 @@ def spectrogram(x, fs=1.0, window=("tukey", 0.25), nperseg=None, noverlap=None, 
     if noverlap is None:
         length = np.size(window) if not isinstance(window, (str, tuple)) else 256 if nperseg is None else int(nperseg)
         noverlap = length // 8
-    segments, weights, nfft, scale, frequencies, times = _segments(
-        np.moveaxis(x, axis, -1), fs, window, nperseg, noverlap, nfft, detrend, return_onesided, scaling)
+    x = last(x, axis)
+    segments, weights, nfft, scale, frequencies, hop = _segments(
+        x, fs, window, nperseg, noverlap, nfft, detrend, return_onesided, scaling)
+    times = np.arange(weights.size / 2, x.shape[-1] - weights.size / 2 + 1, hop) / float(fs)
     powers = _powers(segments, weights, nfft, scale, detrend)
     return frequencies, times, np.moveaxis(powers, -1, axis)
 
@@ -700,5 +767,8 @@ def welch(x, fs=1.0, window="hann", nperseg=None, noverlap=None, nfft=None, detr
     if average != "mean":
         raise _NotHere
     segments, weights, nfft, scale, frequencies, _ = _segments(
-        np.moveaxis(x, axis, -1), fs, window, nperseg, noverlap, nfft, detrend, return_onesided, scaling)
-    return frequencies, np.moveaxis(_powers(segments, weights, nfft, scale, detrend).mean(axis=-2), -1, axis)
+        last(x, axis), fs, window, nperseg, noverlap, nfft, detrend, return_onesided, scaling)
+    powers = _powers(segments, weights, nfft, scale, detrend)
+    mean = np.add.reduce(powers, axis=-2)
+    mean *= 1 / powers.shape[-2]
+    return frequencies, back(mean, axis)

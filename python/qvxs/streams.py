@@ -16,26 +16,35 @@ import threading
 import numpy as np
 
 from . import raw
+from .forms import TAGS
 from .rows import contiguous
 
-# The tail of an export's name by the samples' type: filters with taps of that type, and recursive ones, whose taps and memory are doubles.
-_SAME = {"f": "_32f", "d": "_64f", "F": "_32fc", "D": "_64fc"}
-_WIDE = {"f": "64f_32f", "d": "_64f", "F": "64fc_32fc", "D": "_64fc"}
+# The tail of an export's name by that of the samples' type: filters with taps of that type, and those whose taps and memory are doubles.
+_SAME = {"32f": "_32f", "64f": "_64f", "32fc": "_32fc", "64fc": "_64fc"}
+_WIDE = {"32f": "64f_32f", "64f": "_64f", "32fc": "64fc_32fc", "64fc": "_64fc",
+         "16s": "64f_16s", "32s": "64f_32s", "16sc": "64fc_16sc", "32sc": "64fc_32sc"}
 
 
-def _tail(dtype, tails):
-    try:
-        return tails[np.dtype(dtype).char]
-    except KeyError:
-        raise TypeError(f"filters take float32, float64, complex64 and complex128, not {np.dtype(dtype)}") from None
+def _tail(dtype, *tables):
+    for tails in tables:
+        tail = tails.get(TAGS.get(np.dtype(dtype)))
+        if tail is not None:
+            return tail
+    raise TypeError(f"filters take float32, float64, complex64, complex128 and, as streams, integers of 16 and 32 bits, not {np.dtype(dtype)}")
 
 
 def _wide(dtype):
-    return np.complex128 if np.dtype(dtype).kind == "c" else np.float64
+    return np.float64 if np.dtype(dtype).kind in "fi" else np.complex128
+
+
+def _runner(name):
+    """The export that runs a filter, and whether it takes a scale: those of integers do."""
+    call = getattr(raw, name, None)
+    return call or getattr(raw, name + "_Sfs")
 
 
 def _calls(tail):
-    return tuple(getattr(raw, f"qvxsIIR{what}{tail}") for what in ("", "GetDlyLine", "SetDlyLine"))
+    return _runner("qvxsIIR" + tail), *(getattr(raw, f"qvxsIIR{what}{tail}") for what in ("GetDlyLine", "SetDlyLine"))
 
 
 def filter_record(b, a, dtype, wide=True):
@@ -67,6 +76,8 @@ class _Stream:
         self._lock = threading.Lock()
 
     def _vector(self, block):
+        if self.dtype.kind not in "fc" and np.asarray(block).dtype != self.dtype:
+            raise TypeError(f"this stream is of {self.dtype}, the block is of {np.asarray(block).dtype}")
         if self.dtype.kind == "f" and np.iscomplexobj(block):
             raise TypeError(f"this stream is of {self.dtype}, the block is complex")
         block = contiguous(block, self.dtype)
@@ -81,14 +92,19 @@ class _Stream:
 class _OneToOne(_Stream):
     """As many outputs as samples, of a record with a delay line: _record, _run, _read, _write."""
 
+    scale = 0
+
     def process(self, block, out=None):
         """The outputs for the next samples, as many."""
         block = self._vector(block)
         result = np.empty_like(block) if out is None else out
         if block.size:
             with self._lock:
-                self._run(block, result, block.size, self._record)
+                self._run(block, result, block.size, self._record, *self._scales())
         return result
+
+    def _scales(self):
+        return () if self.dtype.kind in "fc" else (self.scale,)
 
     def reset(self):
         """Begins anew, after zeros."""
@@ -97,18 +113,25 @@ class _OneToOne(_Stream):
 
 
 class Fir(_OneToOne):
-    """A FIR filter of a stream: taps as of lfilter(taps, 1, x). Exports: qvxsFIRInitAlloc_ and qvxsFIR_ of 32f, 64f, 32fc, 64fc.
+    """A FIR filter of a stream: taps as of lfilter(taps, 1, x). Exports: qvxsFIRInitAlloc_ and qvxsFIR_ of 32f, 64f, 32fc, 64fc; of
+    integers those with taps in doubles: results times 2^-scale are rounded and saturated.
+
+        >>> Fir([0.5, 0.5], np.int16).process(np.int16([100, 30000, 32767]))
+        array([   50, 15050, 31384], dtype=int16)
 
     state: the last len(taps) samples, newest first, to be read and set.
     """
 
-    def __init__(self, taps, dtype=None):
+    def __init__(self, taps, dtype=None, scale=0):
         taps = np.atleast_1d(taps)
         super().__init__(np.result_type(taps, np.float32) if dtype is None else dtype)
-        tail = _tail(self.dtype, _SAME)
+        self.scale = scale
+        tail = _tail(self.dtype, _SAME, _WIDE)
         self._taps = len(taps)
-        self._record = getattr(raw, "qvxsFIRInitAlloc" + tail)(contiguous(taps, self.dtype), len(taps), None)
-        self._run, self._read, self._write = (getattr(raw, f"qvxsFIR{what}{tail}") for what in ("", "GetDlyLine", "SetDlyLine"))
+        typed = contiguous(taps, self.dtype if self.dtype.kind in "fc" else _wide(self.dtype))
+        self._record = getattr(raw, "qvxsFIRInitAlloc" + tail)(typed, len(taps), None)
+        self._run = _runner("qvxsFIR" + tail)
+        self._read, self._write = (getattr(raw, f"qvxsFIR{what}{tail}") for what in ("GetDlyLine", "SetDlyLine"))
 
     @property
     def state(self):
@@ -148,7 +171,8 @@ class _Recursive(_OneToOne):
 
 
 class Iir(_Recursive):
-    """A recursive filter of a stream: taps as of lfilter(b, a, x). Exports: qvxsIIRInitAlloc, qvxsIIR of 64f_32f, 64f, 64fc_32fc, 64fc.
+    """A recursive filter of a stream: taps as of lfilter(b, a, x). Exports: qvxsIIRInitAlloc, qvxsIIR of 64f_32f, 64f, 64fc_32fc, 64fc,
+    and of integers, whose results times 2^-scale are rounded and saturated.
 
     state: what lfilter calls zi, in doubles.
 
@@ -157,7 +181,8 @@ class Iir(_Recursive):
         (array([1. , 0.5]), array([0.25 , 0.125]))
     """
 
-    def __init__(self, b, a, dtype=None):
+    def __init__(self, b, a, dtype=None, scale=0):
+        self.scale = scale
         b, a = np.atleast_1d(b), np.atleast_1d(a)
         super().__init__(np.result_type(b, a, np.float32) if dtype is None else dtype)
         order = max(len(a), len(b)) - 1
@@ -167,7 +192,8 @@ class Iir(_Recursive):
 
 
 class Sos(_Recursive):
-    """Second-order sections of a stream, as sosfilt; b0 of each must not be 0. Exports: qvxsIIRInitAlloc_BiQuad_, qvxsIIR_.
+    """Second-order sections of a stream, as sosfilt; b0 of each must not be 0; types and scale as of `Iir`. Exports:
+    qvxsIIRInitAlloc_BiQuad_, qvxsIIR_.
 
     state: what sosfilt calls zi, (sections, 2), in doubles.
 
@@ -175,12 +201,143 @@ class Sos(_Recursive):
         array([1.  , 0.5 , 0.25])
     """
 
-    def __init__(self, sos, dtype=None):
+    def __init__(self, sos, dtype=None, scale=0):
+        self.scale = scale
         sos = np.atleast_2d(sos)
         if sos.ndim != 2 or sos.shape[1] != 6:
             raise ValueError("sos array must be shape (n_sections, 6)")
         super().__init__(np.result_type(sos, np.float32) if dtype is None else dtype)
         self._begin((len(sos), 2), section_record(sos, self.dtype))
+
+
+class _Sparse(_OneToOne):
+    """Filters of float32 with few taps, each at a delay of its own."""
+
+    def __init__(self, stem, sides):
+        super().__init__(np.float32)
+        taps = [contiguous(np.atleast_1d(values), np.float32) for values, _ in sides]
+        places = [contiguous(np.atleast_1d(positions), np.int32) for _, positions in sides]
+        if any(values.shape != positions.shape or values.ndim != 1 or not values.size for values, positions in zip(taps, places)):
+            raise ValueError("a sparse filter takes as many positions as taps, from 1 on")
+        counts = [values.size for values in taps]
+        size = np.empty(1, np.int32)
+        getattr(raw, f"qvxs{stem}GetStateSize_32f")(*counts, *(max(int(positions[-1]), 1) for positions in places), size)
+        self._make = getattr(raw, f"qvxs{stem}Init_32f")
+        self._arguments = np.concatenate(taps), np.concatenate(places), *counts, None, np.empty(size[0], np.uint8)
+        self._run = getattr(raw, f"qvxs{stem}_32f")
+        self.reset()
+
+    def reset(self):
+        """Begins anew, after zeros."""
+        with self._lock:
+            self._record = self._make(*self._arguments)
+
+
+class SparseFir(_Sparse):
+    """y[n] = the sum of taps[i] * x[n - positions[i]], positions increasing from 0 on. Exports: qvxsFIRSparseInit_32f, qvxsFIRSparse_32f.
+
+        >>> SparseFir([1, 0.5], [0, 3]).process(np.float32([1, 0, 0, 0, 0]))
+        array([1. , 0. , 0. , 0.5, 0. ], dtype=float32)
+    """
+
+    def __init__(self, taps, positions):
+        super().__init__("FIRSparse", [(taps, positions)])
+
+
+class SparseIir(_Sparse):
+    """The same with feedback: plus the sum of a[i] * y[n - a_positions[i]], these from 1 on. Exports: qvxsIIRSparseInit_32f, qvxsIIRSparse_32f.
+
+        >>> SparseIir([1], [0], [0.5], [3]).process(np.float32([1, 0, 0, 0, 0]))
+        array([1. , 0. , 0. , 0.5, 0. ], dtype=float32)
+    """
+
+    def __init__(self, b, b_positions, a, a_positions):
+        super().__init__("IIRSparse", [(b, b_positions), (a, a_positions)])
+
+
+class _Bank(_Stream):
+    def __init__(self, stem, tail, dtype, low, high, offsets):
+        super().__init__(dtype)
+        self._taps = [contiguous(np.atleast_1d(taps), np.float32) for taps in (low, high)]
+        self._offsets = offsets
+        self._make, self._run = getattr(raw, f"qvxs{stem}InitAlloc_{tail}"), getattr(raw, f"qvxs{stem}_{tail}")
+        self._read, self._write = (getattr(raw, f"qvxs{stem}{what}DlyLine_{tail}") for what in ("Get", "Set"))
+        self.reset()
+
+    def reset(self):
+        """Begins anew, after zeros."""
+        with self._lock:
+            self._record = self._make(*(part for taps, offset in zip(self._taps, self._offsets) for part in (taps, taps.size, offset)))
+
+    @property
+    def state(self):
+        lines = [np.zeros(max(self._kept(taps.size + offset - 1), 0), np.float32) for taps, offset in zip(self._taps, self._offsets)]
+        with self._lock:
+            self._read(self._record, *lines)
+        return tuple(lines)
+
+    @state.setter
+    def state(self, lines):
+        with self._lock:
+            self._write(self._record, *(contiguous(line, np.float32) for line in lines))
+
+
+class WaveletSplit(_Bank):
+    """One stage of a wavelet filter bank: pairs of samples become one value in the low band and one in the high band.
+
+    low, high: the taps; offsets: of both bands; dtype of the samples: float32, uint8, int8, uint16, int16. Exports: qvxsWTFwdInitAlloc_, qvxsWTFwd_.
+
+        >>> WaveletSplit([0.5, 0.5], [0.5, -0.5]).process(np.float32([0, 2, 4, 8]))
+        (array([0., 3.], dtype=float32), array([0., 1.], dtype=float32))
+    """
+
+    def __init__(self, low, high, offsets=(0, 0), dtype=np.float32):
+        tail = TAGS.get(np.dtype(dtype))
+        if tail not in ("32f", "8u", "8s", "16u", "16s"):
+            raise TypeError(f"a filter bank takes no {np.dtype(dtype)}")
+        super().__init__("WTFwd", tail if tail == "32f" else tail + "32f", dtype, low, high, offsets)
+
+    def _kept(self, count):
+        return count
+
+    def process(self, block):
+        """The two bands of the next samples, of which there must be an even number."""
+        block = self._vector(block)
+        if block.size % 2:
+            raise ValueError("a filter bank takes pairs of samples")
+        bands = np.empty(block.size // 2, np.float32), np.empty(block.size // 2, np.float32)
+        if block.size:
+            with self._lock:
+                self._run(block, *bands, block.size // 2, self._record)
+        return bands
+
+
+class WaveletJoin(_Bank):
+    """The inverse stage: with the taps reversed and the same offsets the signal comes back, later. Exports: qvxsWTInvInitAlloc_, qvxsWTInv_.
+
+        >>> WaveletJoin([1, 1], [-1, 1]).process(np.float32([1, 3]), np.float32([1, 1]))
+        array([0., 2., 2., 4.], dtype=float32)
+    """
+
+    def __init__(self, low, high, offsets=(0, 0), dtype=np.float32):
+        tail = TAGS.get(np.dtype(dtype))
+        if tail not in ("32f", "8u", "8s", "16u", "16s"):
+            raise TypeError(f"a filter bank takes no {np.dtype(dtype)}")
+        super().__init__("WTInv", tail if tail == "32f" else "32f" + tail, dtype, low, high, offsets)
+
+    def _kept(self, count):
+        return count // 2
+
+    def process(self, low, high):
+        """Two samples for each pair of values."""
+        low, high = (contiguous(band, np.float32) for band in (low, high))
+        if low.ndim != 1 or low.shape != high.shape:
+            raise ValueError(f"the bands have the shapes {low.shape} and {high.shape}")
+        result = np.empty(2 * low.size, self.dtype)
+        if low.size:
+            with self._lock:
+                self._run(low, high, low.size, result, self._record)
+        return result
 
 
 class Resampler(_Stream):

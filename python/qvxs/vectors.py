@@ -22,16 +22,15 @@ from .forms import TAGS, forms
 from .rows import back, check_axis, contiguous, last
 
 __all__ = []
-_REFUSED = (KeyError, TypeError, ValueError, AttributeError, raw.Error)
 _ROUNDING = {"zero": 0, "even": 1, "away": 2}
-_ndarray, _empty = np.ndarray, np.empty
 
 
-def _public(function, name, doc):
+def _public(function, name, plain, turned, doc):
+    """The function under its name; calls of `plain` exports with whole arrays do not reach it."""
     function.__name__ = function.__qualname__ = name
     function.__module__ = __name__
     function.__doc__ = doc
-    globals()[name] = function
+    globals()[name] = raw.elementwise(plain, function, turned) if plain else function
     __all__.append(name)
 
 
@@ -45,6 +44,12 @@ def _choose(name, candidates, source, scale, dtype):
         raise TypeError(f"{name} has no form for {source}{wanted}{' with a scale' if scale else ''}")
     own = [form for form in fitting if form.target == source]
     return (own or fitting)[0]
+
+
+def _plain(name, found, parameters):
+    """The exports of calls without scale, dtype and numbers, where there is one with just these parameters."""
+    chosen = [_choose(name, found, source, 0, None) for source in dict.fromkeys(form.source for form in found) if source.names is None]
+    return tuple(form.call for form in chosen if form.parameters == parameters and form.target.names is None)
 
 
 def _destination(out, shape, dtype, *sources):
@@ -61,13 +66,15 @@ def _destination(out, shape, dtype, *sources):
 def _deliver(result, out):
     if out is None or out is result:
         return result
+    if out.shape != result.shape:
+        raise ValueError(f"out has the shape {out.shape}, the result {result.shape}")
     np.copyto(out, result, casting="same_kind")
     return out
 
 
 def _types(found):
-    return ", ".join(dict.fromkeys(str(form.source) if form.source.names is None else "complex_int" + TAGS[form.source][:-2]
-                                   for form in found))
+    sources = dict.fromkeys(form.types[form.sources[0]] for form in found)
+    return ", ".join(str(source) if source.names is None else "complex_int" + TAGS[source][:-2] for source in sources)
 
 
 def _exports(found):
@@ -89,22 +96,8 @@ def _binary(name, stem, summary, example, minus=False):
 
     constants = family("C")
     reverse = family("CRev") if minus else constants
-    plain = {form.source: form.call if not minus else _turned(form.call) for form in found
-             if form.source == form.target and form.parameters == ("pSrc1", "pSrc2", "pDst", "len")}
-
     def function(a, b, scale=0, out=None, dtype=None):
-        if out is None and dtype is None and not scale:
-            try:
-                kind, shape = a.dtype, a.shape
-                if a.__class__ is _ndarray is b.__class__ and shape == b.shape:
-                    result = _empty(shape, kind)  # 130 ns, empty_like 280
-                    plain[kind](a, b, result, result.size)
-                    return result
-            except _REFUSED:
-                pass  # told in full below
-        return general(np.asarray(a), np.asarray(b), scale, out, dtype)
-
-    def general(a, b, scale, out, dtype):
+        a, b = np.asarray(a), np.asarray(b)
         common = np.result_type(a, b)
         if a.ndim and not b.ndim or b.ndim and not a.ndim:
             array, number, table = (a, b, constants) if a.ndim else (b, a, reverse)
@@ -124,7 +117,7 @@ def _binary(name, stem, summary, example, minus=False):
             form(pSrc1=first, pSrc2=second, pDst=result.reshape(-1), len=result.size, scaleFactor=scale, rndMode=1)
         return _deliver(result, out)
 
-    _public(function, name, f"""{summary}
+    _public(function, name, _plain(name, found, ("pSrc1", "pSrc2", "pDst", "len")), minus, f"""{summary}
 
     a, b: arrays of one type after NumPy's promotion, broadcast together, or a number: {_types(found)}.
     scale: integer results times 2^-scale, rounded to nearest with ties to even, saturated to their type; dtype: that of the
@@ -132,10 +125,6 @@ def _binary(name, stem, summary, example, minus=False):
 
         {example}
     """)
-
-
-def _turned(call):
-    return lambda a, b, result, size: call(b, a, result, size)
 
 
 _SETUP = ">>> import numpy as np, qvxs\n        "
@@ -160,8 +149,6 @@ _binary("minimum", "MinEvery", "The less of a and b; a NaN in b stays, one in a 
 def _unary(name, stem, summary, example, extra=()):
     """A function of one source and numbers after it, named as Python has them: level for `level`."""
     found = forms(stem)
-    plain = {form.source: form.call for form in found
-             if form.source == form.target and form.parameters == ("pSrc", "pDst", "len")}
 
     def general(x, numbers, scale, out, dtype):
         form = _choose(name, found, x.dtype, scale, dtype)
@@ -180,18 +167,10 @@ def _unary(name, stem, summary, example, extra=()):
             return general(np.asarray(x), numbers, 0, out, None)
     else:
         def function(x, scale=0, out=None, dtype=None):
-            if out is None and dtype is None and not scale:
-                try:
-                    if x.__class__ is _ndarray:
-                        result = _empty(x.shape, x.dtype)
-                        plain[x.dtype](x, result, result.size)
-                        return result
-                except _REFUSED:
-                    pass  # told in full below
             return general(np.asarray(x), (), scale, out, dtype)
 
     scaled = any(form.scaled for form in found)
-    _public(function, name, f"""{summary}
+    _public(function, name, _plain(name, found, ("pSrc", "pDst", "len")), False, f"""{summary}
 
     x: array of any shape: {_types(found)}.{' Then the numbers: ' + ', '.join(extra) + '.' if extra else ''}
     {'scale: integer results times 2^-scale, rounded to nearest, saturated to their type. ' if scaled else ''}out: an array for the result.
@@ -253,52 +232,103 @@ def clip(x, low, high, out=None):
 # ---- reductions
 
 
-def _reduction(name, stem, results, summary, example, overflow=False, widest=False):
-    """A function from rows to one number each, or to several, named by the parameters that receive them."""
-    found = forms(stem)
+def _reduction(name, stem, results, summary, example, overflow=False, widest=False, numbers=(), sources=1):
+    """A function from rows of one or two arrays to one number each, or to several, named by the parameters that receive them."""
     best = {}
-    for form in found:
-        if form.second is not None:
+    for form in forms(stem):
+        if len(form.sources) != sources or sources == 2 and form.second != form.source:
             continue
-        held = best.get(form.source)
-        if held is None or widest and held.target.kind == form.target.kind and form.target.itemsize > held.target.itemsize:
-            best[form.source] = form
-
+        scaled = best.setdefault((form.source, True), form) if form.scaled else form  # for calls with a scale
+        held = best.setdefault((form.source, False), scaled)
+        if widest and held.target.kind == form.target.kind and form.target.itemsize > held.target.itemsize:
+            best[form.source, False] = form
     fewest = 2 if "StdDev" in stem else 1
+    names = ("pSrc",) if sources == 1 else ("pSrc1", "pSrc2")
 
-    def function(x, axis=None):
-        x = np.asarray(x)
-        form = best.get(x.dtype)
-        if axis is None and form is not None and x.size >= fewest and x.flags.carray and form.target.kind == "f" and len(results) == 1:
-            # The usual call without the rows below.
-            made = np.empty(1, form.target)
-            form.call(*[x if p == "pSrc" else x.size if p == "len" else made if p == results[0] else 2 for p in form.parameters])
-            return made[0]
+    def general(arrays, values, axis, out, scale):
+        common = arrays[0].dtype if sources == 1 else np.result_type(*arrays)
+        form = best.get((common, bool(scale)))
         if form is None:
-            raise TypeError(f"{name} has no form for {x.dtype}")
-        rows = contiguous(x).reshape(1, -1) if axis is None else last(x, check_axis(axis, x.ndim))
-        shape = rows.shape[:-1] if axis is not None else ()
-        if rows.shape[-1] < fewest:
-            raise ValueError(f"{name} of {rows.shape[-1]} elements")
-        rows = rows.reshape(-1, rows.shape[-1])
-        made = [np.empty((len(rows), 1), np.int32 if "Indx" in result else form.target) for result in results]
-        for i, row in enumerate(rows):
-            form(pSrc=row, len=row.size, hint=2, scaleFactor=0, **{result: made[k][i] for k, result in enumerate(results)})
-        for values in made if overflow and form.target.kind in "iu" else ():
+            raise TypeError(f"{name} has no form for {common}{' with a scale' if scale else ''}")
+        if sources == 2:
+            arrays = np.broadcast_arrays(*(array.astype(common, copy=False) for array in arrays))
+        rows = [contiguous(x).reshape(1, -1) if axis is None else last(x, check_axis(axis, x.ndim)) for x in arrays]
+        shape = rows[0].shape[:-1] if axis is not None else ()
+        n = rows[0].shape[-1]
+        if n < fewest:
+            raise ValueError(f"{name} of {n} elements")
+        made = {result: np.empty((rows[0].size // n, 1), form.types[result]) for result in results}
+        given = {**{parameter: x.reshape(-1, n) for parameter, x in zip(names, rows)}, **made, "len": n, "hint": 2, "scaleFactor": scale,
+                 **{parameter: value for (_, parameter, _), value in zip(numbers, values)}}
+        raw.rows(form.call, *[given[parameter] for parameter in form.parameters])
+        for values in made.values() if overflow and form.target.kind in "iu" else ():
             limits = np.iinfo(values.dtype)
             at_limit = ((values == limits.max) | (values == limits.min))[:, 0]
-            if (rows[at_limit].sum(axis=1, dtype=np.int64) != values[at_limit, 0]).any():
+            if (rows[0].reshape(-1, n)[at_limit].sum(axis=1, dtype=np.int64) != values[at_limit, 0]).any():
                 raise OverflowError(f"{name} is beyond {values.dtype}: convert the array to a wider type first")
-        made = [values.reshape(shape) if axis is not None else values[0, 0] for values in made]
+        made = [values.reshape(shape) if axis is not None else values[0, 0] for values in made.values()]
+        if out is not None:
+            for value, place in zip(made, (out,) if len(made) == 1 else out):
+                if place.shape != np.shape(value):
+                    raise ValueError(f"out has the shape {place.shape}, the result {np.shape(value)}")
+                np.copyto(place, value, casting="same_kind")
+            return out
         return made[0] if len(made) == 1 else tuple(made)
 
-    _public(function, name, f"""{summary}
+    def usual(x):
+        """The number of a whole array without the rows above; None where they are needed."""
+        form = best.get((x.dtype, False))
+        if form is None or x.size < fewest or not x.flags.carray or form.target.kind != "f":
+            return None
+        made = np.empty(1, form.target)
+        form.call(*[x if p == "pSrc" else x.size if p == "len" else made if p == results[0] else 2 for p in form.parameters])
+        return made[0]
 
-    x: array: {_types(best.values())}; over all of it, or along an axis.{' OverflowError where the sum of integers is beyond the type that it has.' if overflow else ''}
-    Exports: {_exports(best.values())}.
+    brief = sources == len(results) == 1 and not numbers
+
+    def one(x, *values, axis=None, out=None, scale=0):
+        return general((np.asarray(x),), values, axis, out, scale)
+
+    if sources == 2:
+        def function(a, b, axis=None, out=None, scale=0):
+            return general((np.asarray(a), np.asarray(b)), (), axis, out, scale)
+    elif numbers:
+        def function(x, *arguments, axis=None, out=None, scale=0, **named):
+            return one(x, *_numbers(name, numbers, arguments, named), axis=axis, out=out, scale=scale)
+    else:
+        def function(x, axis=None, out=None, scale=0):
+            x = np.asarray(x)
+            made = usual(x) if brief and axis is None and out is None and not scale else None
+            return one(x, axis=axis, out=out, scale=scale) if made is None else made
+
+    found = list({form.name: form for form in best.values()}.values())
+    _public(function, name, (), False, f"""{summary}
+
+    {'x: array' if sources == 1 else 'a, b: arrays'}: {_types(found)}; over all of it, or along an axis.{_told(numbers)}{' OverflowError where the sum of integers is beyond the type that it has.' if overflow else ''}
+    out: an array for the result, a tuple of them where there are several.{' scale: of the exports that end in _Sfs, times 2^-scale.' if any(form.scaled for form in found) else ''}
+    Exports: {_exports(found)}.
 
         {example}
     """)
+
+
+def _numbers(name, numbers, arguments, named):
+    """The values of the numbers after the arrays: (name, parameter, default) each, None for no default."""
+    if len(arguments) > len(numbers):
+        raise TypeError(f"{name} takes {len(numbers)} numbers after the array: {', '.join(number for number, _, _ in numbers)}")
+    values = list(arguments)
+    for number, _, default in numbers[len(arguments):]:
+        if number not in named and default is None:
+            raise TypeError(f"{name} lacks {number}")
+        values.append(named.pop(number, default))
+    if named:
+        raise TypeError(f"{name} takes no {', '.join(named)}")
+    return values
+
+
+def _told(numbers):
+    listed = ", ".join(number if default is None else f"{number}={default}" for number, _, default in numbers)
+    return f" Then {listed}." if numbers else ""
 
 
 for _row in (
@@ -314,11 +344,31 @@ for _row in (
     ("norm_inf", "Norm_Inf", ("pNorm",), "The largest magnitude.", ">>> qvxs.norm_inf(np.float32([3, -4]))\n        4.0"),
     ("norm_l1", "Norm_L1", ("pNorm",), "The sum of the magnitudes.", ">>> qvxs.norm_l1(np.float32([3, -4]))\n        7.0"),
     ("norm_l2", "Norm_L2", ("pNorm",), "The root of the sum of the squares.", ">>> qvxs.norm_l2(np.float32([3, -4]))\n        5.0"),
+    ("norm_l2_squared", "Norm_L2Sqr", ("pNorm",), "The sum of the squares, exact.", ">>> qvxs.norm_l2_squared(np.int16([3, -4]))\n        25"),
+    ("sum_log", "SumLn", ("pSum",), "The sum of the natural logarithms.", ">>> qvxs.sum_log(np.float64([1, np.e, np.e])).round(12)\n        2.0"),
+    ("mean_deviation", "MeanStdDev", ("pMean", "pStdDev"), "The mean and the standard deviation of a sample in one pass.",
+     ">>> qvxs.mean_deviation(np.float64([1, 2, 3]))\n        (2.0, 1.0)"),
+    ("max_index", "MaxIndx", ("pMax", "pIndx"), "The greatest element and its first index.", ">>> qvxs.max_index(np.int16([1, 7, 2]))\n        (7, 1)"),
+    ("min_index", "MinIndx", ("pMin", "pIndx"), "The least element and its first index.", ">>> qvxs.min_index(np.int16([1, 7, 0]))\n        (0, 2)"),
+    ("min_abs", "MinAbs", ("pMinAbs",), "The least magnitude.", ">>> qvxs.min_abs(np.int16([3, -7]))\n        3"),
+    ("max_abs_index", "MaxAbsIndx", ("pMaxAbs", "pIndx"), "The greatest magnitude and its first index.", ">>> qvxs.max_abs_index(np.int16([3, -7]))\n        (7, 1)"),
+    ("min_abs_index", "MinAbsIndx", ("pMinAbs", "pIndx"), "The least magnitude and its first index.", ">>> qvxs.min_abs_index(np.int16([3, -7]))\n        (3, 0)"),
+    ("max_order", "MaxOrder", ("pOrder",), "How many binary digits the greatest magnitude has before its point.", ">>> qvxs.max_order(np.int16([3, -700]))\n        10"),
+    ("count_in_range", "CountInRange", ("pCounts",), "How many elements are greater than `low` and less than `high`.",
+     ">>> qvxs.count_in_range(np.int32([1, 5, 9]), 1, 9)\n        1", False, False, (("low", "lowerBound", None), ("high", "upperBound", None))),
+    ("zero_crossings", "ZeroCrossing", ("pValZC",), "How often the sign changes; kind 0: to the other side of zero, 1: of the sign bit, 2: half the steps of -1, 0, 1.",
+     ">>> qvxs.zero_crossings(np.float32([1, -1, 0, 2]))\n        1.0", False, False, (("kind", "zcType", 0),)),
+    ("goertzel", "Goertz", ("pVal",), "The component at a frequency relative to the sampling rate: the sum of x[n] e^(2 pi i frequency (len - n)).",
+     ">>> qvxs.goertzel(np.float64([1, 0, -1, 0]), 0.25).round(6)\n        (2+0j)", False, False, (("frequency", "rFreq", None),)),
+    ("norm_diff_inf", "NormDiff_Inf", ("pNorm",), "The largest magnitude of a - b.", ">>> qvxs.norm_diff_inf(np.float32([3, -4]), np.float32([1, 1]))\n        5.0", False, False, (), 2),
+    ("norm_diff_l1", "NormDiff_L1", ("pNorm",), "The sum of the magnitudes of a - b.", ">>> qvxs.norm_diff_l1(np.float32([3, -4]), np.float32([1, 1]))\n        7.0", False, False, (), 2),
+    ("norm_diff_l2", "NormDiff_L2", ("pNorm",), "The root of the sum of the squares of a - b.", ">>> qvxs.norm_diff_l2(np.float32([3, -3]), np.float32([0, 1]))\n        5.0", False, False, (), 2),
+    ("norm_diff_l2_squared", "NormDiff_L2Sqr", ("pNorm",), "The sum of the squares of a - b, exact.", ">>> qvxs.norm_diff_l2_squared(np.int16([3, -3]), np.int16([0, 1]))\n        25", False, False, (), 2),
 ):
     _reduction(_row[0], _row[1], _row[2], _row[3], _SETUP + _row[4], *_row[5:])
 
 
-def std(x, axis=None, ddof=0):
+def std(x, axis=None, ddof=0, out=None):
     """The standard deviation, as np.std: float32, float64. Exports: qvxsStdDev_32f, qvxsStdDev_64f.
 
     The squares are summed beside the sum, in doubles: where the deviation is less than 1e-8 of the mean, little of it is left.
@@ -332,15 +382,17 @@ def std(x, axis=None, ddof=0):
         raise TypeError(f"std has no form for {x.dtype}")
     n = x.size if axis is None else x.shape[axis]
     if n == 1:
-        return np.zeros(np.delete(x.shape, axis) if axis is not None else (), x.dtype)[()] * (0.0 if ddof == 0 else np.nan)
-    return sample_deviation(x, axis) * x.dtype.type(math.sqrt((n - 1) / (n - ddof)) if n > ddof else np.nan)  # noqa: F821
+        made = np.zeros(np.delete(x.shape, axis) if axis is not None else (), x.dtype)[()] * (0.0 if ddof == 0 else np.nan)
+    else:
+        made = sample_deviation(x, axis) * x.dtype.type(math.sqrt((n - 1) / (n - ddof)) if n > ddof else np.nan)  # noqa: F821
+    return made if out is None else _deliver(np.asarray(made), out)
 
 
 _DOT = {form.source: form for form in forms("DotProd")
         if form.second == form.source and (form.source.kind in "fc" and form.target == form.source or form.name == "qvxsDotProd_16s64s")}
 
 
-def dot(a, b):
+def dot(a, b, out=None):
     """The sum of the products of two vectors, without conjugation, as np.dot of two vectors: that of int16 in int64, exact.
 
     a, b: vectors of one type and length: int16, float32, float64, complex64, complex128.
@@ -359,7 +411,7 @@ def dot(a, b):
         raise TypeError(f"dot has no form for {common}")
     result = np.empty(1, form.target)
     form(pSrc1=contiguous(a, common), pSrc2=contiguous(b, common), len=a.size, pDp=result)
-    return result[0]
+    return result[0] if out is None else _deliver(result.reshape(()), out)
 
 
 # ---- conversion
@@ -435,13 +487,11 @@ def sort(x, axis=-1, descending=False, out=None):
     axis = check_axis(axis, x.ndim)
     rows = np.array(np.moveaxis(x, axis, -1), order="C", copy=True)
     if rows.size:
-        spare = np.empty(rows.shape[-1], x.dtype)
-        for row in rows.reshape(-1, rows.shape[-1]):
-            call(row, spare, row.size)
+        raw.rows(call, rows.reshape(-1, rows.shape[-1]), np.empty(rows.shape[-1], x.dtype), rows.shape[-1])
     return _deliver(back(rows, axis), out)
 
 
-def argsort(x, axis=-1, descending=False):
+def argsort(x, axis=-1, descending=False, out=None):
     """The indices that sort, as np.argsort(kind="stable"): uint8, uint16, uint32, int16, int32, float32.
 
     Descending, equal elements still come in the order of their places. -0.0 comes before 0.0. Exports: qvxsSortRadixIndexAscend_, qvxsSortRadixIndexDescend_.
@@ -461,32 +511,31 @@ def argsort(x, axis=-1, descending=False):
     indices = np.empty(rows.shape, np.int32)
     if rows.size:
         n = rows.shape[-1]
-        spare = np.empty(n, np.int32)
-        for row, index in zip(rows.reshape(-1, n), indices.reshape(-1, n)):
-            form(pSrc=row, srcStride=x.itemsize, pDstIndx=index, pTmpIndx=spare, len=n)
-    return back(indices.astype(np.intp), axis)
+        raw.rows(form.call, rows.reshape(-1, n), x.itemsize, indices.reshape(-1, n), np.empty(n, np.int32), n)
+    return _deliver(back(indices.astype(np.intp), axis), out)
 
 
 # ---- generators
 
 
-def _generator(stem, dtype, choices):
-    tag = TAGS.get(np.dtype(dtype))
+def _generator(stem, n, dtype, choices, out):
+    """The vector that a generator fills, and the tail of its export's name: of `out`, or of n elements of the type."""
+    dtype = np.dtype(dtype if out is None else out.dtype)
+    tag = TAGS.get(dtype)
     if tag not in choices:
-        raise TypeError(f"there is no {stem} of {np.dtype(dtype)}")
-    return tag
+        raise TypeError(f"there is no {stem} of {dtype}")
+    return _destination(out, (n,), dtype), tag
 
 
-def _wave(stem, n, dtype, phase, arguments):
-    tag = _generator(stem.lower(), dtype, ("16s", "16sc", "32f", "32fc", "64f", "64fc"))
-    result = np.empty(n, dtype)
+def _wave(stem, n, dtype, phase, out, arguments):
+    result, tag = _generator(stem.lower(), n, dtype, ("16s", "16sc", "32f", "32fc", "64f", "64fc"), out)
     start = np.array([phase], np.float64 if "64" in tag else np.float32)
     if n:
         getattr(raw, f"qvxs{stem}_Direct_" + tag)(result, n, *arguments(start))
-    return result
+    return _deliver(result, out)
 
 
-def tone(n, magnitude, frequency, phase=0.0, dtype=np.float32):
+def tone(n, magnitude, frequency, phase=0.0, dtype=np.float32, out=None):
     """n samples of magnitude * cos(2 pi frequency n + phase), with the sine as imaginary part of complex types.
 
     frequency: in [0, 0.5), relative to the sampling rate; phase: in [0, 2 pi). Integers saturate.
@@ -496,10 +545,10 @@ def tone(n, magnitude, frequency, phase=0.0, dtype=np.float32):
     >>> qvxs.tone(4, 1, 0.25, dtype=np.float64).round(6) + 0
     array([ 1.,  0., -1.,  0.])
     """
-    return _wave("Tone", n, dtype, phase, lambda start: (magnitude, frequency, start, 2))
+    return _wave("Tone", n, dtype, phase, out, lambda start: (magnitude, frequency, start, 2))
 
 
-def triangle(n, magnitude, frequency, asymmetry=0.0, phase=0.0, dtype=np.float32):
+def triangle(n, magnitude, frequency, asymmetry=0.0, phase=0.0, dtype=np.float32, out=None):
     """n samples of a triangle wave: from magnitude at phase 0 down to -magnitude at phase pi + asymmetry, and up again.
 
     Exports: qvxsTriangle_Direct_16s, 16sc, 32f, 32fc, 64f, 64fc.
@@ -508,34 +557,49 @@ def triangle(n, magnitude, frequency, asymmetry=0.0, phase=0.0, dtype=np.float32
     >>> qvxs.triangle(4, 1, 0.25, dtype=np.float64).round(6) + 0
     array([ 1.,  0., -1.,  0.])
     """
-    return _wave("Triangle", n, dtype, phase, lambda start: (magnitude, frequency, asymmetry, start))
+    return _wave("Triangle", n, dtype, phase, out, lambda start: (magnitude, frequency, asymmetry, start))
 
 
-def ramp(n, offset, slope, dtype=np.float32):
-    """n samples of offset + slope * n, rounded once; integers saturate. Exports: qvxsVectorSlope_.
+_RAMPS = ("8u", "8s", "16u", "16s", "32u", "32s", "32f", "64f")
+
+
+def ramp(n, offset, slope, dtype=np.float32, out=None):
+    """n samples of offset + slope * n, rounded once; integers saturate. Exports: qvxsVectorRamp_.
 
     >>> import numpy as np, qvxs
     >>> qvxs.ramp(4, 1, 0.5, np.float64)
     array([1. , 1.5, 2. , 2.5])
     """
-    tag = _generator("ramp", dtype, ("8u", "8s", "16u", "16s", "32u", "32s", "32f", "64f"))
-    result = np.empty(n, dtype)
+    result, tag = _generator("ramp", n, dtype, _RAMPS, out)
     if n:
-        getattr(raw, "qvxsVectorSlope_" + tag)(result, n, offset, slope)
-    return result
+        getattr(raw, "qvxsVectorRamp_" + tag)(result, n, offset, slope)
+    return _deliver(result, out)
 
 
-def _noise(stem, n, first, second, seed, dtype):
-    tag = _generator(stem, dtype, ("8u", "16s", "32f", "64f"))
-    result = np.empty(n, dtype)
+def chirp(n, magnitude, dtype=np.float32, out=None):
+    """n samples of magnitude * sin(pi/2 k^2 / n), which sweeps from 0 to half the sampling rate; unsigned types are shifted so that the
+    least is 0. Exports: qvxsVectorJaehne_.
+
+    >>> import numpy as np, qvxs
+    >>> qvxs.chirp(4, 100, np.int16)
+    array([  0,  38, 100, -38], dtype=int16)
+    """
+    result, tag = _generator("chirp", n, dtype, _RAMPS, out)
+    if n:
+        getattr(raw, "qvxsVectorJaehne_" + tag)(result, n, magnitude)
+    return _deliver(result, out)
+
+
+def _noise(stem, n, first, second, seed, dtype, out):
+    result, tag = _generator(stem, n, dtype, ("8u", "16s", "32f", "64f"), out)
     if n and tag == "64f":
         getattr(raw, f"qvxs{stem}_Direct_64f")(result, n, first, second, np.array([seed], np.uint32))
     elif n:
         getattr(raw, f"qvxs{stem}_{tag}")(result, n, getattr(raw, f"qvxs{stem}InitAlloc_{tag}")(first, second, seed))
-    return result
+    return _deliver(result, out)
 
 
-def uniform(n, low=0.0, high=1.0, seed=0, dtype=np.float32):
+def uniform(n, low=0.0, high=1.0, seed=0, dtype=np.float32, out=None):
     """n numbers of uniform noise between low and high, the same for a seed in every release: uint8, int16, float32, float64.
 
     Exports: qvxsRandUniformInitAlloc_, qvxsRandUniform_.
@@ -544,10 +608,10 @@ def uniform(n, low=0.0, high=1.0, seed=0, dtype=np.float32):
     >>> bool(abs(qvxs.uniform(10000, -1, 1).mean()) < 0.05)
     True
     """
-    return _noise("RandUniform", n, low, high, seed, dtype)
+    return _noise("RandUniform", n, low, high, seed, dtype, out)
 
 
-def gauss(n, mean=0.0, deviation=1.0, seed=0, dtype=np.float32):
+def gauss(n, mean=0.0, deviation=1.0, seed=0, dtype=np.float32, out=None):
     """n numbers of Gaussian noise, the same for a seed up to rounding: uint8, int16, float32, float64.
 
     Exports: qvxsRandGaussInitAlloc_, qvxsRandGauss_.
@@ -556,8 +620,8 @@ def gauss(n, mean=0.0, deviation=1.0, seed=0, dtype=np.float32):
     >>> bool(abs(qvxs.gauss(10000).std() - 1) < 0.05)
     True
     """
-    return _noise("RandGauss", n, mean, deviation, seed, dtype)
+    return _noise("RandGauss", n, mean, deviation, seed, dtype, out)
 
 
 sub, mul, div = subtract, multiply, divide  # noqa: F821
-__all__ += ["sub", "mul", "div", "clip", "std", "dot", "convert", "sort", "argsort", "tone", "triangle", "ramp", "uniform", "gauss"]
+__all__ += ["sub", "mul", "div", "clip", "std", "dot", "convert", "sort", "argsort", "tone", "triangle", "ramp", "chirp", "uniform", "gauss"]

@@ -12,9 +12,6 @@ namespace raw {
 
 namespace {
 
-// Elements above which other threads of Python may run meanwhile: letting them costs 25 ns where none waits.
-constexpr int64_t kLong = 10000, kLongOfFilters = 1000;
-
 const int64_t kNothingBrought[kMostBrought] = {};
 
 class Call {
@@ -23,7 +20,8 @@ class Call {
   Call(const Call&) = delete;
   ~Call() { end(); }
 
-  PyObject* run(PyObject* const* arguments);
+  // For rows, of which the arguments are the first and steps the bytes from one to the next.
+  PyObject* run(PyObject* const* arguments, npy_intp rows, const npy_intp* steps);
 
  private:
   struct Range {
@@ -47,7 +45,8 @@ class Call {
   bool isNull(int index, PyObject* object, bool& isTaken);
   void tooShort(const Parameter& p, int64_t count, int64_t needed);
   int64_t integerNamed(const char* name) const;
-  int invoke();
+  int invoke(npy_intp rows, const npy_intp* steps);
+  int callAll(npy_intp rows, const npy_intp* steps);
   PyObject* result(int status);
   void end();
 
@@ -317,15 +316,29 @@ bool Call::isApart() {
 
 // ---- the call
 
-int Call::invoke() {
+// Stops at a refusal; of warnings the last one counts.
+int Call::callAll(npy_intp rows, const npy_intp* steps) {
+  int warning = qvxStatOk;
+  for (npy_intp row = 0;;) {
+    const int status = e_.call(e_.function, slots_);
+    if (status < 0) return status;
+    if (status > 0) warning = status;
+    if (++row == rows) return warning;
+    for (int i = 0; i < e_.count; ++i) {
+      if (steps[i] != 0) slots_[i].set(slots_[i].get<unsigned char*>() + steps[i]);
+    }
+  }
+}
+
+int Call::invoke(npy_intp rows, const npy_intp* steps) {
   const int64_t least = e_.mayBeLong || record_ != nullptr ? kLongOfFilters : kLong;
   int status = qvxStatOk;
-  if (elements_ > least || made_ != nullptr) {
+  if (elements_ * rows > least || made_ != nullptr) {
     Py_BEGIN_ALLOW_THREADS;
-    status = e_.call(e_.function, slots_);
+    status = callAll(rows, steps);
     Py_END_ALLOW_THREADS;
   } else {
-    status = e_.call(e_.function, slots_);
+    status = callAll(rows, steps);
   }
   for (const Copy& copy : copies_) {
     if (!copy.isConst) std::memcpy(copy.original, copy.numbers.data(), copy.numbers.size() * sizeof(int32_t));
@@ -352,7 +365,7 @@ PyObject* Call::result(int status) {
   return result;
 }
 
-PyObject* Call::run(PyObject* const* arguments) {
+PyObject* Call::run(PyObject* const* arguments, npy_intp rows, const npy_intp* steps) {
   if (!takeNumbers(arguments)) return nullptr;
   if (e_.remember != nullptr) {
     for (int i = 0; i < e_.count && made_ == nullptr; ++i) {
@@ -374,7 +387,7 @@ PyObject* Call::run(PyObject* const* arguments) {
     return nullptr;
   }
   if ((e_.isApart || e_.isUnlike) && !isApart()) return nullptr;
-  return result(invoke());
+  return result(invoke(rows, steps));
 }
 
 // ---- the few that return no status
@@ -428,7 +441,22 @@ PyObject* callExport(const Export& e, PyObject* const* arguments, Py_ssize_t cou
       Py_RETURN_NONE;
   }
   try {
-    return Call(e).run(arguments);
+    return Call(e).run(arguments, 1, nullptr);
+  } catch (const std::bad_alloc&) {
+    return PyErr_NoMemory();
+  }
+}
+
+bool takesRows(const Export& e) {
+  if (e.result != Result::kStatus || e.remember != nullptr || e.isFree || e.isApart || e.isUnlike || e.guard != nullptr) return false;
+  return std::all_of(e.parameters, e.parameters + e.count, [](const Parameter& p) {
+    return p.content == Content::kNone && (p.kind == Kind::kNumber || p.kind == Kind::kVector || p.kind == Kind::kRecord);
+  });
+}
+
+PyObject* callExportForRows(const Export& e, PyObject* const* arguments, npy_intp rows, const npy_intp* steps) {
+  try {
+    return Call(e).run(arguments, rows, steps);
   } catch (const std::bad_alloc&) {
     return PyErr_NoMemory();
   }

@@ -60,12 +60,10 @@ bool addExports(PyObject* module) {
   return true;
 }
 
-// A vector that moves over the rows of an array; nobody else ever sees it.
-PyArrayObject* firstRow(PyObject* object, npy_intp& rows) {
-  if (!PyArray_Check(object)) return PyErr_Format(PyExc_TypeError, "rows takes arrays"), nullptr;
-  auto* array = reinterpret_cast<PyArrayObject*>(object);
-  if (PyArray_NDIM(array) != 2 || (PyArray_DIM(array, 1) > 1 && PyArray_STRIDE(array, 1) != PyArray_ITEMSIZE(array)))
-    return PyErr_Format(PyExc_TypeError, "rows takes arrays of two axes, the second contiguous"), nullptr;
+// A vector over the first row of an array.
+PyArrayObject* firstRow(PyArrayObject* array, npy_intp& rows) {
+  if (PyArray_DIM(array, 1) > 1 && PyArray_STRIDE(array, 1) != PyArray_ITEMSIZE(array))
+    return PyErr_Format(PyExc_TypeError, "rows takes arrays whose second axis is contiguous"), nullptr;
   if (rows >= 0 && PyArray_DIM(array, 0) != rows)
     return PyErr_Format(PyExc_ValueError, "arrays of different numbers of rows"), nullptr;
   rows = PyArray_DIM(array, 0);
@@ -79,39 +77,67 @@ PyArrayObject* firstRow(PyObject* object, npy_intp& rows) {
                                                                PyArray_FLAGS(array) & NPY_ARRAY_WRITEABLE, nullptr));
 }
 
-PyObject* callRows(PyObject*, PyObject* const* arguments, Py_ssize_t count) {
-  constexpr Py_ssize_t kMost = 16;
-  if (count < 2 || count > kMost || Py_TYPE(arguments[0]) != &exportType || !PyTuple_Check(arguments[1]))
-    return PyErr_Format(PyExc_TypeError, "rows takes a function of this module, a tuple of arrays, and what comes after them");
-  const Export& e = rowOf(arguments[0]);
-  const Py_ssize_t vectors = PyTuple_GET_SIZE(arguments[1]);
-  if (vectors < 1 || vectors + count - 2 > kMost)
-    return PyErr_Format(PyExc_TypeError, "rows takes one array to %zd", kMost - count + 2);
-  PyObject* all[kMost] = {};
+// The arguments of a call for the rows of those of two axes.
+struct Rows {
+  PyObject* first[kMostParameters];
+  npy_intp steps[kMostParameters] = {};  // 0 where an argument stays
+  Py_ssize_t count = 0;
   npy_intp rows = -1;
-  bool good = true;
-  for (Py_ssize_t i = 0; i < vectors && good; ++i) {
-    all[i] = reinterpret_cast<PyObject*>(firstRow(PyTuple_GET_ITEM(arguments[1], i), rows));
-    good = all[i] != nullptr;
+
+  Rows() = default;
+  Rows(const Rows&) = delete;
+  ~Rows() {
+    while (count > 0) Py_DECREF(first[--count]);
   }
-  for (Py_ssize_t i = 2; i < count; ++i) all[vectors + i - 2] = arguments[i];
-  for (npy_intp row = 0; row < rows && good; ++row) {
-    PyObject* none = callExport(e, all, vectors + count - 2);
-    good = none != nullptr;
-    Py_XDECREF(none);
-    for (Py_ssize_t i = 0; i < vectors; ++i) {
-      auto* whole = reinterpret_cast<PyArrayObject*>(PyTuple_GET_ITEM(arguments[1], i));
-      reinterpret_cast<PyArrayObject_fields*>(all[i])->data += PyArray_STRIDE(whole, 0);
+  bool take(PyObject* const* arguments, Py_ssize_t all) {
+    while (count < all) {
+      PyObject* object = arguments[count];
+      if (PyArray_Check(object) && PyArray_NDIM(reinterpret_cast<PyArrayObject*>(object)) == 2) {
+        auto* array = reinterpret_cast<PyArrayObject*>(object);
+        object = reinterpret_cast<PyObject*>(firstRow(array, rows));
+        if (object == nullptr) return false;
+        steps[count] = PyArray_STRIDE(array, 0);
+        isRow[count] = true;
+      } else {
+        Py_INCREF(object);
+      }
+      first[count++] = object;
+    }
+    return true;
+  }
+  // Nobody else ever sees these vectors.
+  void goOn() {
+    for (Py_ssize_t i = 0; i < count; ++i) {
+      if (isRow[i]) reinterpret_cast<PyArrayObject_fields*>(first[i])->data += steps[i];
     }
   }
-  for (Py_ssize_t i = 0; i < vectors; ++i) Py_XDECREF(all[i]);
-  if (!good) return nullptr;
+
+ private:
+  bool isRow[kMostParameters] = {};
+};
+
+PyObject* callRows(PyObject*, PyObject* const* arguments, Py_ssize_t count) {
+  if (count < 1 || exportOf(arguments[0]) == nullptr)
+    return PyErr_Format(PyExc_TypeError, "rows takes a function of this module and its arguments");
+  const Export& e = *exportOf(arguments[0]);
+  const bool isMaker = e.count > 0 && e.parameters[0].kind == Kind::kHandle;
+  if (--count != e.count || isMaker) return PyErr_Format(PyExc_TypeError, "%s: rows takes its %d arguments", e.name, e.count);
+  Rows all;
+  if (!all.take(arguments + 1, count)) return nullptr;
+  if (all.rows < 0) return PyErr_Format(PyExc_TypeError, "%s: rows takes arrays of two axes", e.name);
+  if (all.rows > 0 && takesRows(e)) return callExportForRows(e, all.first, all.rows, all.steps);
+  for (npy_intp row = 0; row < all.rows; ++row) {
+    PyObject* none = callExport(e, all.first, count);
+    if (none == nullptr) return nullptr;
+    Py_DECREF(none);
+    all.goOn();
+  }
   Py_RETURN_NONE;
 }
 
 PyMethodDef methods[] = {
     {"rows", reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(callRows)), METH_FASTCALL,
-     "rows(function, arrays, *rest): function(row of each array, *rest) for all rows of arrays of two axes."},
+     "rows(function, *arguments): the function for every row of the arguments that are arrays of two axes, the others as they are."},
     {nullptr, nullptr, 0, nullptr}};
 
 PyModuleDef definition = {PyModuleDef_HEAD_INIT,
@@ -126,13 +152,17 @@ PyModuleDef definition = {PyModuleDef_HEAD_INIT,
 
 }  // namespace
 
+const Export* exportOf(PyObject* object) { return Py_IS_TYPE(object, &exportType) ? &rowOf(object) : nullptr; }
+
 }  // namespace raw
 
 PyMODINIT_FUNC PyInit_raw() {
   import_array();
   PyObject* module = PyModule_Create(&raw::definition);
   if (module == nullptr) return nullptr;
-  if (raw::addStatuses(module) && raw::addRecords(module) && raw::addExports(module)) return module;
+  if (raw::addStatuses(module) && raw::addRecords(module) && raw::addExports(module) &&
+      raw::addElementwise(module))
+    return module;
   Py_DECREF(module);
   return nullptr;
 }

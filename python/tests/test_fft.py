@@ -11,7 +11,7 @@ import qvxs.fft
 
 LENGTHS = (1, 2, 3, 5, 8, 12, 64, 97, 1000, 1331)
 SHAPES = ((None, (), -1), ((3,), (), -1), ((), (4,), 0), ((2,), (3,), 1))
-PAIRS = ("fft", "ifft", "rfft", "irfft", "hfft", "ihfft", "dct", "idct")
+PAIRS = ("fft", "ifft", "rfft", "irfft", "hfft", "ihfft", "dct", "idct", "dst", "idst")
 EPSILON = {"f": 2.0**-23, "d": 2.0**-52}
 
 
@@ -41,18 +41,28 @@ def test_every_transform_at_every_length_and_axis(dtype):
             for before, after, axis in SHAPES:
                 x = noise((before or ()) + (n,) + after, dtype)
                 for norm in (None, "ortho", "forward"):
-                    for kinds in ({"type": 2}, {"type": 3}) if "dct" in name else ({},):
+                    for kinds in ({"type": 2}, {"type": 3}) if name[-3:] in ("dct", "dst") else ({},):
                         agree(getattr(qvxs.fft, name)(x, axis=axis, norm=norm, **kinds),
                               getattr(scipy.fft, name)(x, axis=axis, norm=norm, **kinds), (name, n, x.shape, norm, kinds))
 
 
-@pytest.mark.parametrize("name", ["fft", "ifft", "rfft", "irfft", "hfft", "ihfft", "dct"])
+@pytest.mark.parametrize("name", ["fft", "ifft", "rfft", "irfft", "hfft", "ihfft", "dct", "dst", "idst"])
 def test_cut_and_padded(name):
     for n in (1, 4, 7, 16, 33):
         for x in (noise(9, "d"), noise((9, 4), "f")[::2].T, noise((3, 9), "d")[:, ::-1]):
             before = x.copy()
             agree(getattr(qvxs.fft, name)(x, n=n), getattr(scipy.fft, name)(x, n=n), n)
             assert (x == before).all()
+
+
+@pytest.mark.parametrize("name", ["dctn", "idctn", "dstn", "idstn"])
+def test_cosines_and_sines_over_several_axes(name):
+    x = noise((4, 5, 6), "d")
+    for kind in (1, 2, 3, 4):
+        for named in ({}, {"axes": 1}, {"axes": (0, -1), "s": (3, 9)}, {"s": (7, 2)}, {"axes": (), "s": ()}, {"norm": "ortho", "orthogonalize": False}, {"norm": "forward"}):
+            agree(getattr(qvxs.fft, name)(x, kind, **named), getattr(scipy.fft, name)(x, kind, **named), (kind, named))
+    with scipy.fft.set_backend(qvxs.fft, only=True):
+        agree(getattr(scipy.fft, name)(x.astype("f")), getattr(qvxs.fft, name)(x.astype("f")))
 
 
 @pytest.mark.parametrize("name", ["fft2", "ifft2", "fftn", "ifftn", "rfft2", "irfft2", "rfftn", "irfftn"])

@@ -1,5 +1,7 @@
 """Vectors by stem beside NumPy and beside their definitions in wide integers."""
 
+import inspect
+import pickle
 import warnings
 
 import numpy as np
@@ -207,19 +209,53 @@ def test_rows_of_a_batch():
     rows, call = qvxs.raw.rows, qvxs.raw.qvxsAdd_64f
     a, b = noise((50, 8), "d", 1), noise((50, 8), "d", 2)
     wide = np.zeros((50, 20))
-    assert rows(call, (a, b[::-1], wide[:, 3:11]), 8) is None
+    assert rows(call, a, b[::-1], wide[:, 3:11], 8) is None
     assert (wide[:, 3:11] == a + b[::-1]).all() and not wide[:, 11:].any() and not wide[:, :3].any()
-    assert rows(call, (a[:0], b[:0], wide[:0]), 8) is None
+    rows(call, a, b[7], wide[:, :8], 8)
+    assert (wide[:, :8] == a + b[7]).all()
+    assert rows(call, a[:0], b[:0], wide[:0], 8) is None
     packed = np.frombuffer(bytearray(60), np.uint8).reshape(5, 12)
-    for arguments, kind in (((call, (a, b, wide.T), 8), TypeError), ((call, (a, b[:49], wide), 8), ValueError), ((call, (a, b, wide), 9), ValueError),
-                            ((call, (a, b[:, ::2], wide), 4), TypeError), ((call, (a, b, wide), 8, 8), TypeError), ((call, (a, b), 8), TypeError),
-                            ((call, (a[0], b, wide), 8), TypeError), ((len, (a, b, wide), 8), TypeError), ((call, [a, b, wide], 8), TypeError),
-                            ((call, (a, b, None), 8), TypeError), ((call, (a.astype("f"), b, wide), 8), TypeError), ((call, (), 8), TypeError),
-                            ((call, (packed[:, 1:9].view("d"),) * 3, 1), TypeError), ((call, (a,) * 20, 8), TypeError), ((), TypeError), ((call,), TypeError)):
+    for arguments, kind in (((call, a, b, wide.T, 8), TypeError), ((call, a, b[:49], wide, 8), ValueError), ((call, a, b, wide, 9), ValueError),
+                            ((call, a, b[:, ::2], wide, 4), TypeError), ((call, a, b, wide, 8, 8), TypeError), ((call, a, b, 8), TypeError),
+                            ((call, a[0], b[0], wide[0], 8), TypeError), ((len, a, b, wide, 8), TypeError), ((call, [a, b, wide], 8), TypeError),
+                            ((call, a, b, None, 8), qvxs.Error), ((call, a.astype("f"), b, wide, 8), TypeError), ((call, 8), TypeError),
+                            ((call, *(packed[:, 1:9].view("d"),) * 3, 1), TypeError), ((), TypeError), ((call,), TypeError),
+                            ((qvxs.raw.qvxsFFTInitAlloc_C_32fc, 3, 2, a), TypeError)):
         with pytest.raises(kind):
             rows(*arguments)
     fixed = np.zeros((50, 8))
     fixed.flags.writeable = False
     with pytest.raises(ValueError):
-        rows(call, (a, b, fixed), 8)
+        rows(call, a, b, fixed, 8)
     assert not fixed.any()
+    # Row by row, where a call looks into its vectors; and refused, warned of, as a call is.
+    phases, made, lengths = np.tile(np.int32([0]), (4, 1)), np.zeros((4, 6), "f"), np.zeros((4, 1), np.int32)
+    rows(qvxs.raw.qvxsSampleUp_32f, np.float32([[1, 2], [3, 4], [5, 6], [7, 8]]), 2, made, lengths, 3, phases)
+    assert (made[:, ::3] == [[1, 2], [3, 4], [5, 6], [7, 8]]).all() and (lengths == 6).all()
+    with pytest.raises(qvxs.Error):
+        rows(call, a, b, wide, 0)
+    with pytest.warns(qvxs.Warning):
+        rows(qvxs.raw.qvxsSqrt_64f, np.float64([[1, 2], [-3, 4]]), wide[:2, :2], 2)
+
+
+def test_usual_calls_and_their_exceptions():
+    """What goes by the extension alone, beside what must not."""
+    a, b = noise((5, 60), "d", 1), noise((5, 60), "d", 2)
+    out = np.empty_like(a)
+    assert qvxs.subtract(a, b, out=out) is out and (out == a - b).all()
+    expected = a + b
+    assert qvxs.add(a, b, out=a) is a and (a == expected).all()
+    line = noise(100, "d")
+    expected = line[:-1] - line[1:]
+    assert (qvxs.subtract(line[:-1], line[1:], out=line[1:]) == expected).all()
+    assert qvxs.add(np.float32(2), np.float32(3)) == 5 and qvxs.add(np.ma.array([1.0]), np.ones(1)) == 2
+    swapped = b.astype(">f8")
+    assert (qvxs.add(swapped, swapped) == 2 * b).all() and (qvxs.exp(b[:, ::2]) == qvxs.exp(b)[:, ::2]).all()
+    assert qvxs.add.__name__ == "add" and pickle.loads(pickle.dumps(qvxs.add)) is qvxs.add
+    assert list(inspect.signature(qvxs.add).parameters) == ["a", "b", "scale", "out", "dtype"]
+    for wrong in ((lambda: qvxs.add(b)), (lambda: qvxs.add(b, b, b, b, b, b)), (lambda: qvxs.add(b, b, into=b)), (lambda: qvxs.exp(b, out=[0]))):
+        with pytest.raises((TypeError, AttributeError)):
+            wrong()
+    for table in ((), (len,), (qvxs.raw.qvxsSum_64f,), (qvxs.raw.qvxsAdd_64f, qvxs.raw.qvxsExp_32f), (qvxs.raw.qvxsSortAscend_64f_I,)):
+        with pytest.raises(TypeError):
+            qvxs.raw.elementwise(table, len)
