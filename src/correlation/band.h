@@ -25,18 +25,18 @@ template <class C> struct Band {
   bool isOfItself() const { return x == taps && length == count && from == 0 && !isReversed; }
 };
 
-// The band without the outputs at either end whose windows do not meet x, which become zeros; y is moved to the first that is
-// left.
-template <class C> Band<C> meeting(Band<C> band, C*& y) {
+// correlate(band, y) on the outputs whose windows meet x. The others become zeros, but not if there was no memory for these.
+template <class C, class Correlate> QvxStatus whereMeeting(Band<C> band, C* y, Correlate correlate) {
   const auto outputs = static_cast<int64_t>(band.outputs);
   const int64_t first = std::clamp<int64_t>(1 - static_cast<int64_t>(band.count) - band.from, 0, outputs);
   const int64_t last = std::clamp<int64_t>(static_cast<int64_t>(band.length) - band.from, first, outputs);
-  std::fill(y, y + first, C{});
-  std::fill(y + last, y + outputs, C{});
-  y += first;
   band.from += first;
   band.outputs = static_cast<size_t>(last - first);
-  return band;
+  const QvxStatus status = first == last ? qvxStatOk : correlate(band, y + first);
+  if (status != qvxStatOk) return status;
+  std::fill(y, y + first, C{});
+  std::fill(y + last, y + outputs, C{});
+  return qvxStatOk;
 }
 
 // Direct, where sums of whole numbers have to be exact, or whichever way is faster.

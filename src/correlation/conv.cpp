@@ -74,6 +74,6 @@ QvxStatus qvxsConvBiased_32f(const Qvx32f* a, int aLen, const Qvx32f* b, int bLe
     const size_t ahead = taps - 1;
     return correlateBand(Band<Qvx32f>{b - ahead, outputs + ahead, a, taps, true, 0, outputs}, y, Way::kDirect);
   }
-  const auto band = meeting(bandOf(a, taps, b, elements(bLen), bias, outputs), y);
-  return band.outputs == 0 ? qvxStatOk : correlateBand(band, y, Way::kDirect);
+  return whereMeeting(bandOf(a, taps, b, elements(bLen), bias, outputs), y,
+                      [](const auto& band, Qvx32f* sums) { return correlateBand(band, sums, Way::kDirect); });
 }

@@ -26,15 +26,15 @@ void turn(Qvx64fc* y, int n) {
 // The shorter vector becomes the taps. If that is the second one, the lags run the other way, and sums are conjugates.
 template <class C>
 QvxStatus crossCorrelate(const C* a, size_t aLen, const C* b, size_t bLen, C* y, size_t lags, int64_t lowLag, int directTo) {
-  Band<C> band = meeting(Band<C>{b, bLen, a, aLen, false, lowLag, lags}, y);
-  if (band.outputs == 0) return qvxStatOk;
-  const auto [less, more] = std::minmax({static_cast<float>(aLen), static_cast<float>(bLen)});
-  const Way way = less * static_cast<float>(band.outputs) / more < static_cast<float>(directTo + 1) ? Way::kDirect : Way::kAny;
-  if (aLen <= bLen) return correlateBand(band, y, way);
-  band = {a, aLen, b, bLen, false, 1 - band.from - static_cast<int64_t>(band.outputs), band.outputs};
-  const QvxStatus status = correlateBand(band, y, way);
-  if (status == qvxStatOk) turn(y, static_cast<int>(band.outputs));
-  return status;
+  return whereMeeting(Band<C>{b, bLen, a, aLen, false, lowLag, lags}, y, [=](const Band<C>& band, C* sums) {
+    const auto [less, more] = std::minmax({static_cast<float>(aLen), static_cast<float>(bLen)});
+    const Way way = less * static_cast<float>(band.outputs) / more < static_cast<float>(directTo + 1) ? Way::kDirect : Way::kAny;
+    if (aLen <= bLen) return correlateBand(band, sums, way);
+    const int64_t from = 1 - band.from - static_cast<int64_t>(band.outputs);
+    const QvxStatus status = correlateBand(Band<C>{a, aLen, b, bLen, false, from, band.outputs}, sums, way);
+    if (status == qvxStatOk) turn(sums, static_cast<int>(band.outputs));
+    return status;
+  });
 }
 
 QvxStatus checkCall(const void* a, int aLen, const void* b, int bLen, const void* y, int lags) {

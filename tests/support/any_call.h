@@ -16,6 +16,7 @@
 #include "support/choices.h"
 #include "support/exports.h"
 #include "support/refusals.h"
+#include "support/sanitizer.h"
 #include "support/traits.h"
 
 namespace tests {
@@ -124,6 +125,13 @@ class AnyCall : public Arguments {
       return v.block->isIntact() && (isFree || std::equal(v.copy.begin(), v.copy.end(), v.data()));
     });
   }
+  // The parameter of a result that is not written in all its parts, where the memory sanitizer knows.
+  const char* unwritten() const {
+    for (const Vector& v : vectors_) {
+      if (v.role == Role::kDestination && !isWritten(v.at, v.bytes)) return v.parameter.c_str();
+    }
+    return nullptr;
+  }
   // Where a record's address goes: as it was, or null.
   bool leadsNowhere() const {
     return std::all_of(vectors_.begin(), vectors_.end(), [](const Vector& v) {
@@ -168,7 +176,9 @@ class AnyCall : public Arguments {
   int64_t drawInteger(const Parameter& p, Choices& choices);
   double drawReal(const Parameter& p, Choices& choices);
   size_t extent(const Parameter& p) const;
-  uint8_t* vector(size_t bytes, Role role, size_t index, const std::function<void(uint8_t*)>& fill);
+  // Garbage, unless it is filled.
+  using Fill = std::function<void(uint8_t*)>;
+  uint8_t* vector(size_t bytes, Role role, size_t index, const Fill& fill = nullptr);
   void fill(uint8_t* p, size_t bytes, const Parameter& parameter, Choices& choices);
   void fillTaps(uint8_t* p, const Parameter& parameter, Choices& choices);
   void* recordOf(std::string type, bool isConst, Choices& choices);
@@ -227,13 +237,14 @@ inline size_t AnyCall::extent(const Parameter& p) const {
   return static_cast<size_t>(std::max<int64_t>(count, 0));
 }
 
-inline uint8_t* AnyCall::vector(size_t bytes, Role role, size_t index, const std::function<void(uint8_t*)>& fill) {
+inline uint8_t* AnyCall::vector(size_t bytes, Role role, size_t index, const Fill& fill) {
   Block& block = memory_.take();
   if (bytes + 512 > Memory::kCapacity) std::abort();
   const bool isAtEnd = around_.offset < 0;
   uint8_t* at = isAtEnd ? block.atEnd(bytes) : block.atOffset(static_cast<size_t>(around_.offset) * (index + 1), bytes);
   std::memset(at, around_.garbage, bytes);
-  fill(at);
+  if (fill) fill(at);
+  markWritten(at, bytes, fill != nullptr);
   const Parameter& p = export_.parameters[index];
   vectors_.push_back({&block, at, bytes, role, p.name, PartType(p.pointee()), std::vector<uint8_t>(at, at + bytes)});
   return at;
@@ -379,7 +390,9 @@ inline void* AnyCall::recordOf(std::string type, bool isConst, Choices& choices)
   maker_ = makers[static_cast<size_t>(choices.between(0, static_cast<int64_t>(makers.size()) - 1))];
   AnyCall made(*maker_, choices, memory_, around_, library_);
   choices.bits();
-  made.run();
+  if (made.run() < 0) {  // it may still be looked at
+    for (const Vector& v : made.vectors_) markWritten(v.at, v.bytes);
+  }
   void* record = made.pointers_[0];  // in the caller's memory, or where a maker leaves its address
   if (maker_->parameters[0].isArrayOfPointers()) record = *static_cast<void**>(record);
   for (const auto& [name, value] : made.shape_) {
@@ -437,7 +450,7 @@ inline void AnyCall::spoil(const Wrong& wrong, size_t which) {
   const auto whole = [&] {
     return static_cast<int64_t>(std::isnan(value()) ? wrong.values[0] : value());
   };  // a row for both types
-  if (wrong.kind == Refusal::kForeignRecord) pointers_[wrong.index] = vector(4096, Role::kWork, wrong.index, [](uint8_t*) {});
+  if (wrong.kind == Refusal::kForeignRecord) pointers_[wrong.index] = vector(4096, Role::kWork, wrong.index);
   if (wrong.kind == Refusal::kNull) pointers_[wrong.index] = nullptr;
   if (wrong.kind == Refusal::kValue && integers_.count(wrong.index) != 0) integers_[wrong.index] = whole();
   if (wrong.kind == Refusal::kValue && reals_.count(wrong.index) != 0) reals_[wrong.index] = value();
@@ -459,7 +472,7 @@ inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst,
   const bool isState = p.isRecord();
   if (p.isArrayOfPointers()) {
     if (isState && contains(name, {"Init"})) {  // where a maker leaves its record
-      return vector(sizeof(void*), Role::kHandle, index, [](uint8_t*) {});
+      return vector(sizeof(void*), Role::kHandle, index);
     }
     std::vector<void*>& array = arrays_.emplace_back();
     const bool isSource = p.name.find("Dst") == p.name.npos;
@@ -469,10 +482,11 @@ inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst,
         continue;
       }
       const size_t bytes = PartType(type).bytes * extent(p);
-      array.push_back(vector(bytes, isSource ? Role::kSource : Role::kDestination, index, [&](uint8_t* at) {
-        if (p.name.find("Src") != p.name.npos || isSource) fill(at, bytes, p, choices);
-      }));
+      const bool isRead = isSource || p.name.find("Src") != p.name.npos;
+      const Fill numbers = [&](uint8_t* at) { fill(at, bytes, p, choices); };
+      array.push_back(vector(bytes, isSource ? Role::kSource : Role::kDestination, index, isRead ? numbers : nullptr));
     }
+    markWritten(array.data(), array.size() * sizeof(void*));
     return array.data();
   }
   const auto taken = [&](const Refusal& r) {
@@ -482,16 +496,15 @@ inline void* AnyCall::pointerFor(size_t index, size_t elementSize, bool isConst,
   if (std::any_of(refusals.begin(), refusals.end(), taken) && choices.oneIn(3)) return nullptr;
   if (work != traits_.work.end()) {
     const int bytes = sizeFor(maker_ != nullptr ? maker_->name : name, work->second);
-    return vector(static_cast<size_t>(bytes), Role::kWork, index, [](uint8_t*) {});
+    return vector(static_cast<size_t>(bytes), Role::kWork, index);
   }
-  if (traits_.scratch.count(p.name) != 0) return vector(elementSize * extent(p), Role::kWork, index, [](uint8_t*) {});
+  if (traits_.scratch.count(p.name) != 0) return vector(elementSize * extent(p), Role::kWork, index);
   if (void* source = sourceInPlace(p)) return source;
   // The first byte and the last keep the bits beside those written.
   const bool isRead = isConst || contains(p.name, {"Src", "DlyLine"}) || traits_.fills.count(p.name) != 0;
   const size_t bytes = elementSize * extent(p);
-  return vector(bytes, isConst ? Role::kSource : Role::kDestination, index, [&](uint8_t* at) {
-    if (isRead) fill(at, bytes, p, choices);
-  });
+  const Fill numbers = [&](uint8_t* at) { fill(at, bytes, p, choices); };
+  return vector(bytes, isConst ? Role::kSource : Role::kDestination, index, isRead ? numbers : nullptr);
 }
 
 // Looks at the types of the arguments of a call that is not made.

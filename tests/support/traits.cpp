@@ -203,7 +203,7 @@ class Expression {
 }  // namespace
 
 int64_t evaluate(const std::string& expression, const Shape& shape) {
-  static std::unordered_map<std::string, Expression> known;
+  static thread_local std::unordered_map<std::string, Expression> known;
   auto found = known.find(expression);
   if (found == known.end()) found = known.emplace(expression, Expression(expression)).first;
   return found->second.value(shape);
