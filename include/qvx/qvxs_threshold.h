@@ -129,7 +129,7 @@ QVXS_API(QvxStatus, qvxsThreshold_GTAbs_64f_I, (Qvx64f* pSrcDst, int len, Qvx64f
 
 /** dst[n] = 1 / src[n], where the magnitude of src[n] is raised to level first, its sign or phase kept.
  *  Real forms round once. Complex forms compute as the complex threshold does: 32fc in Qvx64f, 64fc to a few roundings; an
- *  infinite element gives zeros, a NaN as a part gives two. A zero at level 0 becomes an infinity of
+ *  infinite element gives zeros, a NaN as a part gives two. A zero at level 0, or at a NaN, becomes an infinity of
  *  its sign; the complex one has both parts +infinity.
  *  All rounds to nearest whatever the mode. No floating-point exception reaches the caller: neither flag nor trap.
  *  Long vectors (32f: 8192; 64f and 32fc: 2048; 64fc: 512 elements) may be divided between two threads.

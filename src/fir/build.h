@@ -7,12 +7,12 @@
 
 namespace qvx::fir {
 
-template <class C> void place(FloatRecord<C>& record, Carver& carver, const fft::TransformSizes& transform) {
+template <class C> void place(FloatRecord<C>& record, Carver& carver, const FilterTransform& transform) {
   SpectralFilter<C>& spectral = record.spectral;
   if (transform.length == 0) return;
   auto* specMemory = carver.takeLines<Qvx8u>(transform.spec);
   spectral.length = transform.length;
-  spectral.threads = ownGetNumThreads();
+  spectral.threads = transform.threads;
   spectral.workSize = transform.work;
   spectral.spectrum = carver.takeLines<C>(transform.length);
   spectral.blocks = carver.takeLines<C>(transform.length * int64_t{spectral.threads});
@@ -32,14 +32,14 @@ template <class C> void place(FloatRecord<C>& record, Carver& carver, const fft:
   }
 }
 
-template <class S, class T> void place(IntegerRecord<S, T>& record, Carver& carver, const fft::TransformSizes&) {
+template <class S, class T> void place(IntegerRecord<S, T>& record, Carver& carver, const FilterTransform&) {
   record.pairs = carver.takeLines<Qvx16sc>(2 * static_cast<int64_t>(pairsOf(static_cast<size_t>(record.tapsLen), S())));
   if constexpr (std::is_same_v<S, T>) record.shortTaps = record.taps;
   else record.shortTaps = carver.takeLines<S>(record.tapsLen);
 }
 
 // Vectors begin with a cache line, so that transforms and filters meet their buffers at its beginning.
-template <class S> void layOut(S& state, Carver& carver, int tapsLen, const fft::TransformSizes& transform) {
+template <class S> void layOut(S& state, Carver& carver, int tapsLen, const FilterTransform& transform) {
   state.magic = S::kId;
   state.tapsLen = tapsLen;
   state.taps = carver.takeLines<typename S::Taps>(tapsLen);
@@ -49,7 +49,7 @@ template <class S> void layOut(S& state, Carver& carver, int tapsLen, const fft:
 
 // factor: of integer taps.
 template <class S, class H, class... Factor>
-QvxStatus build(S** ppState, Qvx8u* block, const fft::TransformSizes& transform, const H* taps, int tapsLen,
+QvxStatus build(S** ppState, Qvx8u* block, const FilterTransform& transform, const H* taps, int tapsLen,
                 const typename S::Sample* delay, Factor... factor) {
   return initRecord(ppState, block, [&](S& state, Carver& carver) {
     layOut(state, carver, tapsLen, transform);

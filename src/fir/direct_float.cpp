@@ -13,7 +13,7 @@ namespace {
 template <class S, class Run>
 QvxStatus withRecord(const Stateless<typename S::Kernel, typename S::Sample>& caller, size_t left, Run run) {
   const Footprint footprint = footprintOf<S>(caller.tapsLen);
-  const auto transform = isWorthTransform<S>(caller.tapsLen, left) ? footprint.transform : fft::TransformSizes{};
+  const auto transform = isWorthTransform<S>(caller.tapsLen, left) ? footprint.transform : FilterTransform{};
   const auto init = [&](S** state, Qvx8u* block) { return build(state, block, transform, caller.taps, caller.tapsLen, nullptr); };
   return withTemporaryRecord<S>(footprint.bytes, init, [&](S& state) {
     auto* const line = caller.delay + *caller.index;

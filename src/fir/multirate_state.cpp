@@ -6,19 +6,23 @@ using namespace qvx::fir;
 
 namespace {
 
+template <class S> Footprint footprintAt(int tapsLen, const Factors& f) {
+  if (f.isOneRate()) return footprintOf<S>(tapsLen);
+  return {multirateBytes<typename S::Kernel>(tapsLen, f), {}};
+}
+
 template <class S> QvxStatus report(int tapsLen, int up, int down, int* pSize) {
   const Factors f = {up, 0, down, 0};
   if (isNull(pSize)) return qvxStatNullPtr;
   const QvxStatus status = f.checkSizes(tapsLen);
   if (status != qvxStatOk) return status;
-  if (f.isOneRate()) return reportSize(tapsLen, pSize, footprintOf<S>);
-  return reportBytes(multirateBytes<typename S::Kernel>(tapsLen, f), pSize);
+  return reportBytes(footprintAt<S>(tapsLen, f).bytes, pSize);
 }
 
 template <class S, class H, class... Factor>
-QvxStatus buildState(S** ppState, Qvx8u* block, const H* taps, int tapsLen, const Factors& f, const typename S::Sample* delay,
-                     Factor... factor) {
-  if (f.isOneRate()) return build(ppState, block, footprintOf<S>(tapsLen).transform, taps, tapsLen, delay, factor...);
+QvxStatus buildState(S** ppState, Qvx8u* block, const FilterTransform& transform, const H* taps, int tapsLen, const Factors& f,
+                     const typename S::Sample* delay, Factor... factor) {
+  if (f.isOneRate()) return build(ppState, block, transform, taps, tapsLen, delay, factor...);
   MultirateState<S>* made = nullptr;
   const QvxStatus status =
       buildMultirate<S>(&made, block, tapsLen, f, delay, [=](MultirateState<S>& record) { setTaps(record, taps, factor...); });
@@ -31,7 +35,8 @@ QvxStatus initState(S** ppState, const H* taps, int tapsLen, const Factors& f, c
                     Factor... factor) {
   if (isNull(ppState) || isNull(taps) || isNull(block)) return qvxStatNullPtr;
   const QvxStatus status = f.check(tapsLen);
-  return status == qvxStatOk ? buildState(ppState, block, taps, tapsLen, f, delay, factor...) : status;
+  if (status != qvxStatOk) return status;
+  return buildState(ppState, block, footprintAt<S>(tapsLen, f).transform, taps, tapsLen, f, delay, factor...);
 }
 
 template <class S, class H, class... Factor>
@@ -40,9 +45,10 @@ QvxStatus allocateState(S** ppState, const H* taps, int tapsLen, const Factors& 
   if (isNull(ppState) || isNull(taps)) return qvxStatNullPtr;
   const QvxStatus status = f.check(tapsLen);
   if (status != qvxStatOk) return status;
-  const int64_t bytes = f.isOneRate() ? footprintOf<S>(tapsLen).bytes : multirateBytes<typename S::Kernel>(tapsLen, f);
-  return allocateRecord(ppState, bytes,
-                        [&](S** pp, Qvx8u* block) { return buildState(pp, block, taps, tapsLen, f, delay, factor...); });
+  const Footprint footprint = footprintAt<S>(tapsLen, f);
+  return allocateRecord(ppState, footprint.bytes, [&](S** pp, Qvx8u* block) {
+    return buildState(pp, block, footprint.transform, taps, tapsLen, f, delay, factor...);
+  });
 }
 
 }  // namespace

@@ -47,24 +47,30 @@ template <class C> inline constexpr int kLeastTransformed = 64;
 template <> inline constexpr int kLeastTransformed<Qvx32fc> = 16;
 template <> inline constexpr int kLeastTransformed<Qvx64fc> = 32;
 
-template <class C> fft::TransformSizes transformOf(int tapsLen) {
+// The transform of a filter, and the threads that find memory of their own in the record. They are counted once, since another
+// thread may set their number between the size of a record and its layout.
+struct FilterTransform : fft::TransformSizes {
+  int threads = 1;
+};
+
+template <class C> FilterTransform transformOf(int tapsLen, int threads) {
   if (tapsLen < kLeastTransformed<C>) return {};
-  return fft::TransformSizes::ofOrder<C>(std::bit_width(static_cast<uint32_t>(tapsLen)) + 1);
+  return {fft::TransformSizes::ofOrder<C>(std::bit_width(static_cast<uint32_t>(tapsLen)) + 1), threads};
 }
 
 // The bytes of a record of a number of taps, and its transform.
 struct Footprint {
   int64_t bytes;
-  fft::TransformSizes transform;
+  FilterTransform transform;
 };
 
 template <class S> Footprint footprintOf(int tapsLen) {
-  const int64_t threads = ownGetNumThreads();
+  const int threads = ownGetNumThreads();
   const int64_t bytes = bytesOf(static_cast<const S*>(nullptr), tapsLen, threads);
   if constexpr (std::is_integral_v<Part<typename S::Kernel>>) {
     return {bytes, {}};
   } else {
-    const auto transform = transformOf<typename S::Kernel>(tapsLen);
+    const auto transform = transformOf<typename S::Kernel>(tapsLen, threads);
     const int64_t block = up16(int64_t{sizeof(typename S::Kernel)} * transform.length);
     return {bytes + transform.spec + transform.init + block + threads * (transform.work + block), transform};
   }

@@ -18,16 +18,21 @@ struct Allocator {
   int requests = 0;
   int failing = 0;  // the number of the request that fails
   uint8_t garbage = 0xA5;
+  int threadsMeanwhile = 0;  // set by another thread, as it were, before the library has its block
+  size_t margin = 0;         // bytes after the last block that are not its own
+  const uint8_t* end = nullptr;
 } allocator;
 }  // namespace
 
 #pragma GCC visibility push(default)
 extern "C" void* qvxMalloc(int64_t bytes) {
   if (bytes < 1 || ++allocator.requests == allocator.failing) return nullptr;
-  const size_t rounded = (static_cast<size_t>(bytes) + 63) / 64 * 64;
+  const size_t rounded = (static_cast<size_t>(bytes) + 63) / 64 * 64 + allocator.margin;
   void* block = std::aligned_alloc(64, rounded);
   if (block == nullptr) return nullptr;
   ++allocator.live;
+  allocator.end = static_cast<const uint8_t*>(block) + rounded - allocator.margin;
+  if (allocator.threadsMeanwhile != 0) qvxSetNumThreads(allocator.threadsMeanwhile);
   return std::memset(block, allocator.garbage, rounded);
 }
 extern "C" void qvxFree(void* block) {
@@ -196,6 +201,26 @@ TEST_F(EveryCall, InPlaceIsAsOutOfPlace) {
     if (!failures_.empty()) ADD_FAILURE() << failures_;
   }
   EXPECT_GT(pairs, 250U);
+}
+
+// The record of a filter has memory for each thread: for as many as its block was asked for.
+TEST(Records, CountTheThreadsOnce) {
+  const std::vector<Qvx32f> taps(2000, 1);
+  QvxsFIRState_32f* records[2] = {};
+  const auto staysWithinItsBlock = [](QvxStatus status) {
+    const auto isGarbage = [](uint8_t byte) { return byte == allocator.garbage; };
+    return status == qvxStatOk && std::all_of(allocator.end, allocator.end + allocator.margin, isGarbage);
+  };
+  allocator.margin = size_t{4} << 20;
+  allocator.threadsMeanwhile = 64;
+  qvxSetNumThreads(1);
+  EXPECT_TRUE(staysWithinItsBlock(qvxsFIRInitAlloc_32f(&records[0], taps.data(), 2000, nullptr)));
+  qvxSetNumThreads(1);
+  EXPECT_TRUE(staysWithinItsBlock(qvxsFIRMRInitAlloc_32f(&records[1], taps.data(), 2000, 1, 0, 1, 0, nullptr)));
+  allocator.margin = 0;
+  allocator.threadsMeanwhile = 0;
+  qvxSetNumThreads(0);
+  for (QvxsFIRState_32f* record : records) EXPECT_EQ(qvxsFIRFree_32f(record), qvxStatOk);
 }
 
 // An element of a call by itself.

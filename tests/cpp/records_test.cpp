@@ -81,7 +81,7 @@ TEST(Transforms, ThereAndBack) {
   std::vector<Qvx16s> y(32);
   auto wide = qvx::Fft<Qvx16s, Qvx32s>::make(5, qvx::Scale::kInverse).value();
   std::vector<Qvx32sc> bins(wide.spectrumSize());
-  EXPECT_EQ(wide.forward(x, bins, -4), qvxStatOk);  // 4 bits behind the point
+  EXPECT_EQ(wide.forward(x, bins, -4), qvxStatOk);  // 4 bits after the point
   EXPECT_EQ(wide.inverse(bins, y, 4), qvxStatOk);
   EXPECT_EQ(y, x);
   auto cosine = qvx::Dct<Qvx16s>::make(32).value();
