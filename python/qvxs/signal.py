@@ -709,7 +709,7 @@ def _powers(segments, weights, nfft, scale, detrend):
     step = max(1, _PIECE // nfft)
     tag = _TAGS[segments.dtype.char]
     mean, power = getattr(raw, "qvxsMean_" + tag), getattr(raw, f"qvxsPowerSpectr_{tag}c")
-    hint = (0,) if tag == "32f" else ()
+    hint = (2,) if tag == "32f" else ()  # in doubles
     factors = np.full(points, 2 * scale, segments.dtype)
     factors[::points if nfft % 2 else points - 1 or 1] = scale  # neither 0 nor half the rate has a mirror image
     for source, target in zip(segments.reshape(-1, *segments.shape[-2:]) if segments.ndim > 2 else segments[np.newaxis],
