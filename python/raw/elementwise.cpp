@@ -1,5 +1,5 @@
 // The usual call of an element-wise function of the upper level: whole arrays of one type and shape in, a new array out.
-// Everything else is for the function in Python beside it. 1000 floats take 0.25 us this way, 0.5 through Python's checks.
+// Everything else is for the function in Python beside it. 1000 floats take 0.2 us this way, 0.5 through Python's checks.
 #include <climits>
 #include <cstddef>
 
