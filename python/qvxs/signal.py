@@ -16,6 +16,7 @@ blocks: see qvxs.streams.
 """
 
 import math
+import warnings
 from collections import deque
 from functools import lru_cache, wraps
 
@@ -680,8 +681,11 @@ def _segments(x, fs, window, nperseg, noverlap, nfft, detrend, return_onesided, 
     n = x.shape[-1]
     if isinstance(window, (str, tuple)):
         nperseg = 256 if nperseg is None else int(nperseg)
-        if nperseg > n or nperseg < 1:
+        if nperseg < 1:
             raise _NotHere
+        if nperseg > n:
+            warnings.warn(f"nperseg = {nperseg} is greater than input length  = {n}, using nperseg = {n}", stacklevel=4)
+            nperseg = n
         try:
             weights = _weights(window, nperseg, x.dtype)
         except TypeError:  # a tuple with what cannot be kept
@@ -709,7 +713,7 @@ def _powers(segments, weights, nfft, scale, detrend):
     step = max(1, _PIECE // nfft)
     tag = _TAGS[segments.dtype.char]
     mean, power = getattr(raw, "qvxsMean_" + tag), getattr(raw, f"qvxsPowerSpectr_{tag}c")
-    hint = (0,) if tag == "32f" else ()
+    hint = (2,) if tag == "32f" else ()  # in doubles
     factors = np.full(points, 2 * scale, segments.dtype)
     factors[::points if nfft % 2 else points - 1 or 1] = scale  # neither 0 nor half the rate has a mirror image
     for source, target in zip(segments.reshape(-1, *segments.shape[-2:]) if segments.ndim > 2 else segments[np.newaxis],
@@ -744,7 +748,7 @@ def spectrogram(x, fs=1.0, window=("tukey", 0.25), nperseg=None, noverlap=None, 
         raise _NotHere
     if noverlap is None:
         length = np.size(window) if not isinstance(window, (str, tuple)) else 256 if nperseg is None else int(nperseg)
-        noverlap = length // 8
+        noverlap = min(length, x.shape[axis]) // 8
     x = last(x, axis)
     segments, weights, nfft, scale, frequencies, hop = _segments(
         x, fs, window, nperseg, noverlap, nfft, detrend, return_onesided, scaling)

@@ -19,6 +19,9 @@ _ROUNDING = {"zero": 0, "even": 1, "away": 2}
 
 
 def _broadcast(arrays, types):
+    shape = arrays[0].shape
+    if all(x.shape == shape for x in arrays):
+        return [contiguous(x, dtype) for x, dtype in zip(arrays, types)], shape
     shape = np.broadcast_shapes(*(x.shape for x in arrays))
     return [contiguous(np.broadcast_to(x.astype(dtype, copy=False), shape)) for x, dtype in zip(arrays, types)], shape
 
@@ -60,6 +63,7 @@ def _stem(name, stem, summary, example, numbers=(), tail="", keep=lambda form: T
     turned: the library takes the first array last."""
     found = [form for form in forms(stem, tail) if keep(form)]
     counts = sorted({len(form.sources) for form in found})
+    chosen = {}  # by types: looking through all forms takes 20 us
 
     def function(*arguments, scale=0, out=None, dtype=None, **named):
         count = len(found[0].sources) if len(counts) == 1 else len(arguments)
@@ -67,7 +71,10 @@ def _stem(name, stem, summary, example, numbers=(), tail="", keep=lambda form: T
         if count not in counts or len(arguments) < count:
             raise TypeError(f"{name} takes {' or '.join(map(str, counts))} arrays, not {len(arguments)}")
         arrays = [np.asarray(x) for x in arguments[:count]][::-1 if turned else 1]
-        form = _choose(name, found, arrays, scale, dtype)
+        key = (*[x.dtype for x in arrays], all(x.ndim for x in arrays), bool(scale), dtype)
+        form = chosen.get(key)
+        if form is None:
+            form = chosen[key] = _choose(name, found, arrays, scale, dtype)
         arrays, shape = _broadcast(arrays, [form.types[source] for source in form.sources])
         n = shape[-1] if shape else 1
         lengths = [n] * len(form.results) if sizes is None else sizes(n)
@@ -163,6 +170,8 @@ for _row in (
 
 # ---- of other shapes
 
+_INVERSE_HAAR, _GOERTZEL_TWO = forms("WTHaarInv"), forms("GoertzTwo")
+
 
 def _rows(x, dtype=None):
     x = contiguous(np.asarray(x), dtype)
@@ -197,7 +206,7 @@ def inverse_haar(low, high, scale=0, out=None):
     n = low.shape[-1] + high.shape[-1]
     if low.shape[:-1] != high.shape[:-1] or low.shape[-1] != (n + 1) // 2:
         raise ValueError(f"low and high of the shapes {low.shape} and {high.shape} are no halves of rows")
-    form = _choose("inverse_haar", forms("WTHaarInv"), [low, high], scale, None)
+    form = _choose("inverse_haar", _INVERSE_HAAR, [low, high], scale, None)
     result = np.empty(low.shape[:-1] + (n,), low.dtype)
     if result.size:
         values = {"pSrcLow": low.reshape(-1, low.shape[-1]), "pSrcHigh": high.reshape(-1, high.shape[-1]), "pDst": result.reshape(-1, n),
@@ -214,7 +223,7 @@ def goertzel_two(x, first, second, scale=0, out=None):
     array([2.+0.j, 0.+0.j])
     """
     x, rows = _rows(x)
-    form = _choose("goertzel_two", forms("GoertzTwo"), [x, np.empty(0, np.float64 if x.dtype.char in "dD" else np.float32)], scale, None)
+    form = _choose("goertzel_two", _GOERTZEL_TWO, [x, np.empty(0, np.float64 if x.dtype.char in "dD" else np.float32)], scale, None)
     result = np.empty(x.shape[:-1] + (2,), form.target)
     frequencies = np.array([first, second], form.types["pRFreq"])
     raw.rows(form.call, rows, rows.shape[1], result.reshape(-1, 2), frequencies, *_scale(form.call, scale, "goertzel_two"))

@@ -14,6 +14,7 @@ Complex integers are structured arrays with the fields re and im: `qvxs.complex_
 """
 
 import math
+from functools import lru_cache
 
 import numpy as np
 
@@ -44,6 +45,15 @@ def _choose(name, candidates, source, scale, dtype):
         raise TypeError(f"{name} has no form for {source}{wanted}{' with a scale' if scale else ''}")
     own = [form for form in fitting if form.target == source]
     return (own or fitting)[0]
+
+
+def _chooser(name, found):
+    """_choose for the forms of one function; what it has found once it keeps: looking through all takes 5 us."""
+    @lru_cache(maxsize=64)
+    def choose(source, scaled, dtype):
+        return _choose(name, found, source, scaled, dtype)
+
+    return choose
 
 
 def _plain(name, found, parameters):
@@ -96,9 +106,10 @@ def _binary(name, stem, summary, example, minus=False):
 
     constants = family("C")
     reverse = family("CRev") if minus else constants
+    choose = _chooser(name, found)
     def function(a, b, scale=0, out=None, dtype=None):
         a, b = np.asarray(a), np.asarray(b)
-        common = np.result_type(a, b)
+        common = a.dtype if a.dtype == b.dtype and a.dtype.isnative else np.result_type(a, b)
         if a.ndim and not b.ndim or b.ndim and not a.ndim:
             array, number, table = (a, b, constants) if a.ndim else (b, a, reverse)
             fitting = [form for form in table if form.source == common and (form.scaled or not scale)]
@@ -108,9 +119,11 @@ def _binary(name, stem, summary, example, minus=False):
                 if array.size:
                     fitting[0](pSrc=array, val=number.astype(common)[()], pDst=result, len=array.size, scaleFactor=scale, rndMode=1)
                 return _deliver(result, out)
-        form = _choose(name, found, common, scale, dtype)
-        a, b = (contiguous(x) for x in np.broadcast_arrays(a.astype(common, copy=False), b.astype(common, copy=False)))
-        shape = np.broadcast_shapes(a.shape, b.shape)
+        form = choose(common, bool(scale), dtype)
+        if a.shape != b.shape:
+            a, b = np.broadcast_arrays(a, b)
+        shape = a.shape
+        a, b = contiguous(a, common), contiguous(b, common)
         result = _destination(out, shape, form.target, a, b)
         if result.size:
             first, second = (b, a) if minus else (a, b)
@@ -150,8 +163,10 @@ def _unary(name, stem, summary, example, extra=()):
     """A function of one source and numbers after it, named as Python has them: level for `level`."""
     found = forms(stem)
 
+    choose = _chooser(name, found)
+
     def general(x, numbers, scale, out, dtype):
-        form = _choose(name, found, x.dtype, scale, dtype)
+        form = choose(x.dtype, bool(scale), dtype)
         x = contiguous(x)
         result = _destination(out, x.shape, form.target, x)
         if result.size:

@@ -448,7 +448,8 @@ PyObject* callExport(const Export& e, PyObject* const* arguments, Py_ssize_t cou
 }
 
 bool takesRows(const Export& e) {
-  if (e.result != Result::kStatus || e.remember != nullptr || e.isFree || e.isApart || e.isUnlike || e.guard != nullptr) return false;
+  if (e.result != Result::kStatus || e.remember != nullptr || e.isFree || e.isApart || e.isUnlike || e.guard != nullptr)
+    return false;
   return std::all_of(e.parameters, e.parameters + e.count, [](const Parameter& p) {
     return p.content == Content::kNone && (p.kind == Kind::kNumber || p.kind == Kind::kVector || p.kind == Kind::kRecord);
   });

@@ -1,5 +1,5 @@
-// The usual call of an element-wise function of the upper level: whole arrays of one type and shape in, a new array out. Everything
-// else is for the function in Python beside it. 1000 floats take 0.25 us this way, 0.5 through Python's checks.
+// The usual call of an element-wise function of the upper level: whole arrays of one type and shape in, a new array out.
+// Everything else is for the function in Python beside it. 1000 floats take 0.2 us this way, 0.5 through Python's checks.
 #include <climits>
 #include <cstddef>
 
@@ -15,7 +15,7 @@ struct Elementwise {
   PyObject_HEAD vectorcallfunc vectorcall;
   PyObject* general;  // the function in Python
   int sources;
-  bool isTurned;                // the library takes the second source first
+  bool isTurned;                  // the library takes the second source first
   const Export* exports[kTypes];  // by the type of the sources
   int results[kTypes];
 };
@@ -53,7 +53,8 @@ PyObject* callShortly(const Elementwise& self, PyObject* const* arguments, PyObj
   for (int i = 0; i < self.sources; ++i) {
     if (!PyArray_CheckExact(arguments[i])) return nullptr;
     sources[i] = reinterpret_cast<PyArrayObject*>(arguments[i]);
-    if (!isPlain(sources[i]) || PyArray_TYPE(sources[i]) != PyArray_TYPE(sources[0]) || !haveOneShape(sources[i], sources[0])) return nullptr;
+    if (!isPlain(sources[i]) || PyArray_TYPE(sources[i]) != PyArray_TYPE(sources[0]) || !haveOneShape(sources[i], sources[0]))
+      return nullptr;
   }
   const int type = PyArray_TYPE(sources[0]);
   const npy_intp size = PyArray_SIZE(sources[0]);
@@ -196,9 +197,11 @@ PyObject* make(PyObject*, PyObject* arguments) {
   return reinterpret_cast<PyObject*>(self);
 }
 
-PyMethodDef maker = {"elementwise", make, METH_VARARGS,
-                     "elementwise(exports, general, turned=False): a function that calls the export for the type of its arrays where they are "
-                     "of one type and shape and contiguous, and `general` for all else. turned: the export takes its two sources the other way round."};
+PyMethodDef maker = {
+    "elementwise", make, METH_VARARGS,
+    "elementwise(exports, general, turned=False): a function that calls the export for the type of its arrays where they are "
+    "of one type and shape and contiguous, and `general` for all else. turned: the export takes its two sources the other way "
+    "round."};
 
 }  // namespace
 

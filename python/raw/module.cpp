@@ -135,10 +135,10 @@ PyObject* callRows(PyObject*, PyObject* const* arguments, Py_ssize_t count) {
   Py_RETURN_NONE;
 }
 
-PyMethodDef methods[] = {
-    {"rows", reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(callRows)), METH_FASTCALL,
-     "rows(function, *arguments): the function for every row of the arguments that are arrays of two axes, the others as they are."},
-    {nullptr, nullptr, 0, nullptr}};
+PyMethodDef methods[] = {{"rows", reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(callRows)), METH_FASTCALL,
+                          "rows(function, *arguments): the function for every row of the arguments that are arrays of two axes, "
+                          "the others as they are."},
+                         {nullptr, nullptr, 0, nullptr}};
 
 PyModuleDef definition = {PyModuleDef_HEAD_INIT,
                           "qvxs.raw",
@@ -160,8 +160,7 @@ PyMODINIT_FUNC PyInit_raw() {
   import_array();
   PyObject* module = PyModule_Create(&raw::definition);
   if (module == nullptr) return nullptr;
-  if (raw::addStatuses(module) && raw::addRecords(module) && raw::addExports(module) &&
-      raw::addElementwise(module))
+  if (raw::addStatuses(module) && raw::addRecords(module) && raw::addExports(module) && raw::addElementwise(module))
     return module;
   Py_DECREF(module);
   return nullptr;

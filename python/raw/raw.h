@@ -77,7 +77,7 @@ constexpr int64_t kLong = 10000, kLongOfFilters = 1000;
 
 PyObject* callExport(const Export& e, PyObject* const* arguments, Py_ssize_t count);
 
-// Whether the checks of a first row hold for the others. Then one call does them all: 20 ns a row less the library's work, not 90.
+// Whether the checks of a first row hold for the others. Then one call does them all: 20 ns for a row of 4 floats, not 90.
 bool takesRows(const Export& e);
 // For as many arguments as there are parameters.
 PyObject* callExportForRows(const Export& e, PyObject* const* arguments, npy_intp rows, const npy_intp* steps);

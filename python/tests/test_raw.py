@@ -283,7 +283,7 @@ class Interpreter(unittest.TestCase):
         self.assertTrue((np.diff(vector) >= 0).all())
 
     def test_nothing_leaks(self):
-        a, pair = np.ones(16, np.float32), [np.ones(4, np.float32)] * 2
+        a, square, pair = np.ones(16, np.float32), np.ones((4, 4), np.float32), [np.ones(4, np.float32)] * 2
         joined, size = np.zeros(8, np.int16), np.zeros(1, np.int32)
         raw.qvxsRandUniformGetSize_16s(size)
 
@@ -306,17 +306,23 @@ class Interpreter(unittest.TestCase):
             raw.qvxsRandUniformInit_16s(np.zeros(size[0], np.uint8), 0, 9, 1)
             raw.qvxsFFTFree_R_32f(raw.qvxsFFTInitAlloc_R_32f(4, 8, 0))
             raw.qvxsMalloc_32f(100)
+            raw.rows(raw.qvxsAdd_32f, square, square, square, 4)
+            refused(raw.rows, raw.qvxsAdd_32f, square, square[:3], square, 4)
+            refused(raw.rows, raw.qvxsAdd_32f, square, None, square, 4)
+            qvxs.add(a, a, out=qvxs.add(a, a))
+            refused(qvxs.add, a, a[:3])
+            raw.elementwise((raw.qvxsAdd_32f,), once)
 
         def resident():
             gc.collect()
             with open("/proc/self/statm") as sizes:
                 return int(sizes.read().split()[1]) * 4096
 
-        references = [sys.getrefcount(x) for x in (a, pair, joined, None)]
         for _ in range(500):
             once()
+        references = [sys.getrefcount(x) for x in (a, pair, joined, None)]
         before = resident()
-        for _ in range(8000):  # 10^5 calls
+        for _ in range(8000):  # 1.4 * 10^5 calls
             once()
         self.assertLess(resident() - before, 1 << 20)
         np.testing.assert_allclose([sys.getrefcount(x) for x in (a, pair, joined, None)], references, atol=50)

@@ -155,6 +155,12 @@ def test_spectra(name, dtype):
 # ---- streams
 
 
+@pytest.mark.parametrize("name", ["welch", "spectrogram"])
+def test_spectra_of_short_signals(name):
+    with pytest.warns(UserWarning, match="nperseg = 256 is greater than input length  = 99"):
+        same(name, noise(99), loose=30)
+
+
 def cuts(n, seed=3):
     rng = np.random.default_rng(seed)
     places = np.sort(rng.integers(0, n, 20))
