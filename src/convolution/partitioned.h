@@ -11,8 +11,8 @@
 
 namespace qvx::convolution {
 
-// The fewest taps that are partitioned. Of 512 taps, 64 outputs of 32f take 0.5 of the direct way's time, of 384 0.7, of 256 all of
-// it; 512 of 64f take 0.2.
+// The fewest taps that are partitioned. Of 512 taps, 64 outputs of 32f take 0.5 of the direct way's time, of 384 0.7, of 256 all
+// of it; 512 of 64f take 0.2.
 inline constexpr int kLeastPartitioned = 512;
 // New spectra of all partitions take the time in which 30 to 70 samples are filtered directly: they are made when calls have
 // brought as many since taps or samples changed in another way. Those of another length save less: of calls that partitions of
