@@ -15,18 +15,27 @@ extern "C" {
  * integers: products of 16 bits in sums of 32 bits that wrap.
  *
  * A record holds the taps and the last tapsLen samples of earlier calls, so that a stream cut into calls, in whatever pieces and
- * by whatever form, is filtered as if it were one. It lies in one block, must not be copied to another address, and serves one
- * call at a time. Long filters on long blocks are computed by way of the FFT: where that is faster, from 64 to 128 taps (real) or
- * 18 to 38 taps (complex) on, as the processor's vectors are wide, in calls of more than 511 (real) or 255 (complex) samples.
- * From 512 taps of 32f on, shorter calls go by way of the FFT, too, by partitions of the taps and without a delay: as soon as
- * calls have brought 64 samples since the taps or the delay line were set, or since a call was long enough to fill most of the
- * long transform, of two to four times the taps. From then on one-sample forms take that way as well.
+ * by whatever form, is filtered as if it were one, without a delay. It lies in one block, must not be copied to another address,
+ * and serves one call at a time. Integers are filtered in the first of these ways, floats in all three:
  *
- * To the bit: in place equals out of place, and no result depends on the address of a vector or on the number of threads. Results
- * of integer arithmetic do not depend on how the stream is cut, either. Floats are added up in one order in calls of up to 64
- * samples, in another one in longer calls, whatever the cut, where they do not go by way of the FFT; one-sample forms, short
- * calls, long calls and both ways by the FFT agree to rounding. (One order for all would cost short calls up to half of their
- * speed: 16 samples of 64 taps take 42 ns, in the order of long calls 81.)
+ * - Directly, as sums of products: whatever does not go by way of the FFT.
+ * - By long transforms, of two to four times the taps: from 64 to 128 taps (real) or 18 to 38 taps (complex) on, as the
+ *   processor's vectors are wide, in calls of more than 511 (real) or 255 (complex) samples. A filter that has partitions goes
+ *   this way in calls that bring three quarters of the samples that a transform takes beside the taps, or more.
+ * - By partitions of the taps, each of which meets the samples as a product of spectra: filters with 512 or more taps of 32f or
+ *   64f, in shorter calls, as soon as such have brought 64 samples since the taps or the delay line were set, or since a call of
+ *   the second way. From then on one-sample forms go this way as well.
+ *
+ * To the bit: in place equals out of place, and no result depends on the address of a vector or on the number of threads.
+ * Results of integer arithmetic do not depend on how the stream is cut, either. Floats that are filtered directly are added up
+ * in one order in calls of up to 64 samples, in another one in longer calls, whatever the cut; one-sample forms have an order of
+ * their own. (One order for all would cost short calls up to half of their speed: 16 samples of 64 taps take 42 ns, in the order
+ * of long calls 81.)
+ *
+ * To rounding: the three ways agree, and so do the orders of the first. An output of the first is as exact as its own products;
+ * by the FFT the error goes with the largest samples of the transform, so that what is quiet beside a loud passage has its
+ * noise. In the same way an infinite sample or a NaN spoils the outputs whose sums contain it, or all outputs of the transforms
+ * that contain it.
  *
  * The types of the records are those of multi-rate filters and of streams without a delay line, too: qvxs_multirate.h. */
 typedef struct QvxsFIRState_32f QvxsFIRState_32f;

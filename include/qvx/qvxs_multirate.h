@@ -21,6 +21,9 @@ extern "C" {
  * qvxsFIRGetTaps, qvxsFIRSetTaps, qvxsFIRGetDlyLine, qvxsFIRSetDlyLine and qvxsFIRFree take them; qvxsFIROne and the functions of
  * QvxsFIRState_32s do not. Arithmetic and types are told there as well.
  *
+ * All results have as many products: phases with a tap fewer than others are padded with a zero. So an infinite sample or a NaN,
+ * whose product with zero is a NaN, spoils a result more of such a phase than the formula says.
+ *
  * Results of integer arithmetic do not depend on how a stream is cut into calls; those of floats agree to rounding. To the bit: in
  * place equals out of place, and no result depends on the address of a vector or on the number of threads. */
 

@@ -1,5 +1,6 @@
 // To types that hold every value of the source, and from integers to floats.
 #include "frame/packed24.h"
+#include "frame/past_caches.h"
 #include "frame/power.h"
 
 using namespace qvx;
@@ -30,21 +31,21 @@ template <class T, class From> QvxStatus scaledFloat(const From* src, T* dst, in
 
 // clang-format off
 QvxStatus qvxsConvert_8s16s(const Qvx8s* a, Qvx16s* d, int len) { return map<Into<Qvx16s>>(d, len, AsIs{}, a); }
-QvxStatus qvxsConvert_16s32s(const Qvx16s* a, Qvx32s* d, int len) { return map<Into<Qvx32s>>(d, len, AsIs{}, a); }
-QvxStatus qvxsConvert_8s32f(const Qvx8s* a, Qvx32f* d, int len) { return map<Into<Qvx32f>>(d, len, AsIs{}, a); }
-QvxStatus qvxsConvert_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return map<Into<Qvx32f>>(d, len, AsIs{}, a); }
-QvxStatus qvxsConvert_16s32f(const Qvx16s* a, Qvx32f* d, int len) { return map<Into<Qvx32f>>(d, len, AsIs{}, a); }
-QvxStatus qvxsConvert_16u32f(const Qvx16u* a, Qvx32f* d, int len) { return map<Into<Qvx32f>>(d, len, AsIs{}, a); }
-QvxStatus qvxsConvert_32s64f(const Qvx32s* a, Qvx64f* d, int len) { return map<Into<Qvx64f>>(d, len, AsIs{}, a); }
-QvxStatus qvxsConvert_32f64f(const Qvx32f* a, Qvx64f* d, int len) { return map<Into<Qvx64f>>(d, len, AsIs{}, a); }
+QvxStatus qvxsConvert_16s32s(const Qvx16s* a, Qvx32s* d, int len) { return map<Into<Qvx32s>>(d, len, PastCaches{}, a); }
+QvxStatus qvxsConvert_8s32f(const Qvx8s* a, Qvx32f* d, int len) { return map<Into<Qvx32f>>(d, len, PastCaches{}, a); }
+QvxStatus qvxsConvert_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return map<Into<Qvx32f>>(d, len, PastCaches{}, a); }
+QvxStatus qvxsConvert_16s32f(const Qvx16s* a, Qvx32f* d, int len) { return map<Into<Qvx32f>>(d, len, PastCaches{}, a); }
+QvxStatus qvxsConvert_16u32f(const Qvx16u* a, Qvx32f* d, int len) { return map<Into<Qvx32f>>(d, len, PastCaches{}, a); }
+QvxStatus qvxsConvert_32s64f(const Qvx32s* a, Qvx64f* d, int len) { return map<Into<Qvx64f>>(d, len, PastCaches{}, a); }
+QvxStatus qvxsConvert_32f64f(const Qvx32f* a, Qvx64f* d, int len) { return map<Into<Qvx64f>>(d, len, PastCaches{}, a); }
 QvxStatus qvxsConvert_24u32u(const Qvx8u* a, Qvx32u* d, int len) { return from24(From24<Qvx32u>{a}, d, len); }
 QvxStatus qvxsConvert_24s32s(const Qvx8u* a, Qvx32s* d, int len) { return from24(From24<Qvx32s>{a}, d, len); }
 QvxStatus qvxsConvert_24u32f(const Qvx8u* a, Qvx32f* d, int len) { return from24(From24<Qvx32u>{a}, d, len); }
 QvxStatus qvxsConvert_24s32f(const Qvx8u* a, Qvx32f* d, int len) { return from24(From24<Qvx32s>{a}, d, len); }
 
-QvxStatus qvxsConvert_32s32f(const Qvx32s* a, Qvx32f* d, int len) { return map<Into<Qvx32f>>(d, len, AsIs{}, a); }
-QvxStatus qvxsConvert_64s64f(const Qvx64s* a, Qvx64f* d, int len) { return map<Into<Qvx64f>>(d, len, AsIs{}, a); }
-QvxStatus qvxsConvert_64f32f(const Qvx64f* a, Qvx32f* d, int len) { return map<Into<Qvx32f>>(d, len, AsIs{}, a); }
+QvxStatus qvxsConvert_32s32f(const Qvx32s* a, Qvx32f* d, int len) { return map<Into<Qvx32f>>(d, len, PastCaches{}, a); }
+QvxStatus qvxsConvert_64s64f(const Qvx64s* a, Qvx64f* d, int len) { return map<Into<Qvx64f>>(d, len, PastCaches{}, a); }
+QvxStatus qvxsConvert_64f32f(const Qvx64f* a, Qvx32f* d, int len) { return map<Into<Qvx32f>>(d, len, PastCaches{}, a); }
 
 QvxStatus qvxsConvert_16s32f_Sfs(const Qvx16s* a, Qvx32f* d, int len, int sf) { return scaledFloat(a, d, len, sf); }
 QvxStatus qvxsConvert_16s64f_Sfs(const Qvx16s* a, Qvx64f* d, int len, int sf) { return scaledFloat(a, d, len, sf); }

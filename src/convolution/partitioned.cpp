@@ -119,5 +119,6 @@ template <class T> void Partitions<T>::addUp(size_t first) {
 }
 
 template struct Partitions<Qvx32f>;
+template struct Partitions<Qvx64f>;
 
 }  // namespace qvx::convolution

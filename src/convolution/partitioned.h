@@ -11,7 +11,8 @@
 
 namespace qvx::convolution {
 
-// The fewest taps that are partitioned. Of 512 taps, 64 outputs take 0.5 of the direct way's time, of 384 0.7, of 256 all of it.
+// The fewest taps that are partitioned. Of 512 taps, 64 outputs of 32f take 0.5 of the direct way's time, of 384 0.7, of 256 all
+// of it; 512 of 64f take 0.2.
 inline constexpr int kLeastPartitioned = 512;
 // New spectra of all partitions take the time in which 30 to 70 samples are filtered directly: they are made when calls have
 // brought as many since taps or samples changed in another way. Those of another length save less: of calls that partitions of
@@ -20,7 +21,7 @@ inline constexpr int kLeastPartitioned = 512;
 inline constexpr size_t kWorthSpectra = 64;
 inline constexpr size_t kTapsWorthChange = 4;
 
-template <class C> inline constexpr bool kHasPartitions = std::is_same_v<C, Qvx32f>;
+template <class C> inline constexpr bool kHasPartitions = std::is_same_v<C, Qvx32f> || std::is_same_v<C, Qvx64f>;
 
 template <class T> struct Partitions {
   using Spec = typename fft::Transform<T>::Spec;
@@ -45,7 +46,7 @@ template <class T> struct Partitions {
     const size_t least = size_t{1} << (std::bit_width(tapsLen) / 2 + 1);
     return std::clamp(samples & -samples, std::clamp<size_t>(least, 64, kMostPoints / 2), mostPoints(tapsLen) / 2);
   }
-  static size_t mostPoints(size_t tapsLen) { return std::clamp(std::bit_floor(tapsLen) / 2, size_t{512}, kMostPoints); }
+  static size_t mostPoints(size_t tapsLen) { return std::clamp(std::bit_floor(tapsLen) / 2, 2048 / sizeof(T), kMostPoints); }
   size_t points() const { return 2 * length; }
 
   // After samples that took another way.
@@ -75,7 +76,9 @@ template <class T> struct Partitions {
 };
 
 inline void addTo(Qvx32f* sums, const Qvx32f* v, size_t n) { qvxsAdd_32f_I(v, sums, static_cast<int>(n)); }
+inline void addTo(Qvx64f* sums, const Qvx64f* v, size_t n) { qvxsAdd_64f_I(v, sums, static_cast<int>(n)); }
 
 extern template struct Partitions<Qvx32f>;
+extern template struct Partitions<Qvx64f>;
 
 }  // namespace qvx::convolution

@@ -21,11 +21,13 @@ template <class C> void place(FloatRecord<C>& record, Carver& carver, const Filt
   fft::Transform<C>::kInit(&spectral.spec, transform.order, fft::kInverseDivides, 0, specMemory, initMemory);
   if constexpr (kHasPartitions<C>) {
     if (record.tapsLen < kLeastPartitioned) return;
+    // The spectra of the samples, which are as many as a long transform's numbers at most, lie where that has its block: a call
+    // that takes it forgets them. The told size of a record for doubles has no room for both.
     record.partitions = carver.take<Partitions<C>>(1);
     Partitions<C>& partitions = *record.partitions = {};
     const auto most = static_cast<int64_t>(partitions.mostPoints(static_cast<size_t>(record.tapsLen)));
     partitions.taps = carver.takeLines<C>(2 * record.tapsLen + most);
-    partitions.samples = carver.takeLines<C>(2 * record.tapsLen + most);
+    partitions.samples = spectral.blocks;
     partitions.block = carver.takeLines<C>(most);
     partitions.spectrum = carver.takeLines<C>(most);
     partitions.work = spectral.work;

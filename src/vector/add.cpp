@@ -1,4 +1,5 @@
 // dst = src1 + src2 and dst = src + val
+#include "frame/past_caches.h"
 #include "vector/sum.h"
 
 using namespace qvx;
@@ -23,13 +24,13 @@ QvxStatus qvxsAdd_32s_Sfs(const Qvx32s* a, const Qvx32s* b, Qvx32s* d, int len, 
 QvxStatus qvxsAdd_32s_ISfs(const Qvx32s* a, Qvx32s* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, d); }
 QvxStatus qvxsAdd_32sc_Sfs(const Qvx32sc* a, const Qvx32sc* b, Qvx32sc* d, int len, int sf) { return map<Sum>(d, LengthFirst{len}, Scaled{sf}, a, b); }
 QvxStatus qvxsAdd_32sc_ISfs(const Qvx32sc* a, Qvx32sc* d, int len, int sf) { return map<Sum>(d, LengthFirst{len}, Scaled{sf}, a, d); }
-QvxStatus qvxsAdd_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Sum>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsAdd_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Sum>(d, len, PastCaches{}, a, b); }
 QvxStatus qvxsAdd_32f_I(const Qvx32f* a, Qvx32f* d, int len) { return map<Sum>(d, len, AsIs{}, a, d); }
-QvxStatus qvxsAdd_32fc(const Qvx32fc* a, const Qvx32fc* b, Qvx32fc* d, int len) { return map<Sum>(d, LengthFirst{len}, AsIs{}, a, b); }
+QvxStatus qvxsAdd_32fc(const Qvx32fc* a, const Qvx32fc* b, Qvx32fc* d, int len) { return map<Sum>(d, LengthFirst{len}, PastCaches{}, a, b); }
 QvxStatus qvxsAdd_32fc_I(const Qvx32fc* a, Qvx32fc* d, int len) { return map<Sum>(d, LengthFirst{len}, AsIs{}, a, d); }
-QvxStatus qvxsAdd_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Sum>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsAdd_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Sum>(d, len, PastCaches{}, a, b); }
 QvxStatus qvxsAdd_64f_I(const Qvx64f* a, Qvx64f* d, int len) { return map<Sum>(d, len, AsIs{}, a, d); }
-QvxStatus qvxsAdd_64fc(const Qvx64fc* a, const Qvx64fc* b, Qvx64fc* d, int len) { return map<Sum>(d, LengthFirst{len}, AsIs{}, a, b); }
+QvxStatus qvxsAdd_64fc(const Qvx64fc* a, const Qvx64fc* b, Qvx64fc* d, int len) { return map<Sum>(d, LengthFirst{len}, PastCaches{}, a, b); }
 QvxStatus qvxsAdd_64fc_I(const Qvx64fc* a, Qvx64fc* d, int len) { return map<Sum>(d, LengthFirst{len}, AsIs{}, a, d); }
 
 // A float constant of 0 copies: adding it would turn -0 into 0.
@@ -46,12 +47,12 @@ QvxStatus qvxsAddC_32s_Sfs(const Qvx32s* a, Qvx32s val, Qvx32s* d, int len, int 
 QvxStatus qvxsAddC_32s_ISfs(Qvx32s val, Qvx32s* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, d, Constant{val}); }
 QvxStatus qvxsAddC_32sc_Sfs(const Qvx32sc* a, Qvx32sc val, Qvx32sc* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, Constant{val}); }
 QvxStatus qvxsAddC_32sc_ISfs(Qvx32sc val, Qvx32sc* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, d, Constant{val}); }
-QvxStatus qvxsAddC_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return val == 0 ? qvxsCopy_32f(a, d, len) : map<Sum>(d, len, AsIs{}, a, Constant{val}); }
+QvxStatus qvxsAddC_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return val == 0 ? qvxsCopy_32f(a, d, len) : map<Sum>(d, len, PastCaches{}, a, Constant{val}); }
 QvxStatus qvxsAddC_32f_I(Qvx32f val, Qvx32f* d, int len) { return val == 0 ? check(len, d) : map<Sum>(d, len, AsIs{}, d, Constant{val}); }
-QvxStatus qvxsAddC_32fc(const Qvx32fc* a, Qvx32fc val, Qvx32fc* d, int len) { return map<Sum>(d, len, AsIs{}, a, Constant{val}); }
+QvxStatus qvxsAddC_32fc(const Qvx32fc* a, Qvx32fc val, Qvx32fc* d, int len) { return map<Sum>(d, len, PastCaches{}, a, Constant{val}); }
 QvxStatus qvxsAddC_32fc_I(Qvx32fc val, Qvx32fc* d, int len) { return map<Sum>(d, len, AsIs{}, d, Constant{val}); }
-QvxStatus qvxsAddC_64f(const Qvx64f* a, Qvx64f val, Qvx64f* d, int len) { return val == 0 ? qvxsCopy_64f(a, d, len) : map<Sum>(d, len, AsIs{}, a, Constant{val}); }
+QvxStatus qvxsAddC_64f(const Qvx64f* a, Qvx64f val, Qvx64f* d, int len) { return val == 0 ? qvxsCopy_64f(a, d, len) : map<Sum>(d, len, PastCaches{}, a, Constant{val}); }
 QvxStatus qvxsAddC_64f_I(Qvx64f val, Qvx64f* d, int len) { return val == 0 ? check(len, d) : map<Sum>(d, len, AsIs{}, d, Constant{val}); }
-QvxStatus qvxsAddC_64fc(const Qvx64fc* a, Qvx64fc val, Qvx64fc* d, int len) { return map<Sum>(d, len, AsIs{}, a, Constant{val}); }
+QvxStatus qvxsAddC_64fc(const Qvx64fc* a, Qvx64fc val, Qvx64fc* d, int len) { return map<Sum>(d, len, PastCaches{}, a, Constant{val}); }
 QvxStatus qvxsAddC_64fc_I(Qvx64fc val, Qvx64fc* d, int len) { return map<Sum>(d, len, AsIs{}, d, Constant{val}); }
 // clang-format on

@@ -1,4 +1,5 @@
 // dst = src1 * src2 and dst = src * val, exact
+#include "frame/past_caches.h"
 #include "vector/product.h"
 
 using namespace qvx;
@@ -22,15 +23,15 @@ QvxStatus qvxsMul_32sc_Sfs(const Qvx32sc* a, const Qvx32sc* b, Qvx32sc* d, int l
 QvxStatus qvxsMul_32sc_ISfs(const Qvx32sc* a, Qvx32sc* d, int len, int sf) { return map<ComplexProduct>(d, len, Scaled{sf}, a, d); }
 QvxStatus qvxsMul_32s32sc_Sfs(const Qvx32s* a, const Qvx32sc* b, Qvx32sc* d, int len, int sf) { return map<Product>(d, len, Scaled{sf}, Doubled{a}, b); }
 QvxStatus qvxsMul_32s32sc_ISfs(const Qvx32s* a, Qvx32sc* d, int len, int sf) { return map<Product>(d, len, Scaled{sf}, Doubled{a}, d); }
-QvxStatus qvxsMul_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Product>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsMul_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Product>(d, len, PastCaches{}, a, b); }
 QvxStatus qvxsMul_32f_I(const Qvx32f* a, Qvx32f* d, int len) { return map<Product>(d, len, AsIs{}, a, d); }
-QvxStatus qvxsMul_32fc(const Qvx32fc* a, const Qvx32fc* b, Qvx32fc* d, int len) { return map<ComplexProduct>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsMul_32fc(const Qvx32fc* a, const Qvx32fc* b, Qvx32fc* d, int len) { return map<ComplexProduct>(d, len, PastCaches{}, a, b); }
 QvxStatus qvxsMul_32fc_I(const Qvx32fc* a, Qvx32fc* d, int len) { return map<ComplexProduct>(d, len, AsIs{}, a, d); }
 QvxStatus qvxsMul_32f32fc(const Qvx32f* a, const Qvx32fc* b, Qvx32fc* d, int len) { return map<Product>(d, len, AsIs{}, Doubled{a}, b); }
 QvxStatus qvxsMul_32f32fc_I(const Qvx32f* a, Qvx32fc* d, int len) { return map<Product>(d, len, AsIs{}, Doubled{a}, d); }
-QvxStatus qvxsMul_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Product>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsMul_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Product>(d, len, PastCaches{}, a, b); }
 QvxStatus qvxsMul_64f_I(const Qvx64f* a, Qvx64f* d, int len) { return map<Product>(d, len, AsIs{}, a, d); }
-QvxStatus qvxsMul_64fc(const Qvx64fc* a, const Qvx64fc* b, Qvx64fc* d, int len) { return map<ComplexProduct>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsMul_64fc(const Qvx64fc* a, const Qvx64fc* b, Qvx64fc* d, int len) { return map<ComplexProduct>(d, len, PastCaches{}, a, b); }
 QvxStatus qvxsMul_64fc_I(const Qvx64fc* a, Qvx64fc* d, int len) { return map<ComplexProduct>(d, len, AsIs{}, a, d); }
 
 QvxStatus qvxsMulC_8u_Sfs(const Qvx8u* a, Qvx8u val, Qvx8u* d, int len, int sf) { return map<Product>(d, len, Scaled{sf}, a, Constant{val}); }
@@ -46,12 +47,12 @@ QvxStatus qvxsMulC_32s_Sfs(const Qvx32s* a, Qvx32s val, Qvx32s* d, int len, int 
 QvxStatus qvxsMulC_32s_ISfs(Qvx32s val, Qvx32s* d, int len, int sf) { return map<Product>(d, len, Scaled{sf}, d, Constant{val}); }
 QvxStatus qvxsMulC_32sc_Sfs(const Qvx32sc* a, Qvx32sc val, Qvx32sc* d, int len, int sf) { return map<ComplexProduct>(d, len, Scaled{sf}, a, Constant{val}); }
 QvxStatus qvxsMulC_32sc_ISfs(Qvx32sc val, Qvx32sc* d, int len, int sf) { return map<ComplexProduct>(d, len, Scaled{sf}, d, Constant{val}); }
-QvxStatus qvxsMulC_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return map<Product>(d, len, AsIs{}, a, Constant{val}); }
+QvxStatus qvxsMulC_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return map<Product>(d, len, PastCaches{}, a, Constant{val}); }
 QvxStatus qvxsMulC_32f_I(Qvx32f val, Qvx32f* d, int len) { return map<Product>(d, len, AsIs{}, d, Constant{val}); }
-QvxStatus qvxsMulC_32fc(const Qvx32fc* a, Qvx32fc val, Qvx32fc* d, int len) { return map<ComplexProduct>(d, len, AsIs{}, a, Constant{val}); }
+QvxStatus qvxsMulC_32fc(const Qvx32fc* a, Qvx32fc val, Qvx32fc* d, int len) { return map<ComplexProduct>(d, len, PastCaches{}, a, Constant{val}); }
 QvxStatus qvxsMulC_32fc_I(Qvx32fc val, Qvx32fc* d, int len) { return map<ComplexProduct>(d, len, AsIs{}, d, Constant{val}); }
-QvxStatus qvxsMulC_64f(const Qvx64f* a, Qvx64f val, Qvx64f* d, int len) { return map<Product>(d, len, AsIs{}, a, Constant{val}); }
+QvxStatus qvxsMulC_64f(const Qvx64f* a, Qvx64f val, Qvx64f* d, int len) { return map<Product>(d, len, PastCaches{}, a, Constant{val}); }
 QvxStatus qvxsMulC_64f_I(Qvx64f val, Qvx64f* d, int len) { return map<Product>(d, len, AsIs{}, d, Constant{val}); }
-QvxStatus qvxsMulC_64fc(const Qvx64fc* a, Qvx64fc val, Qvx64fc* d, int len) { return map<ComplexProduct>(d, len, AsIs{}, a, Constant{val}); }
+QvxStatus qvxsMulC_64fc(const Qvx64fc* a, Qvx64fc val, Qvx64fc* d, int len) { return map<ComplexProduct>(d, len, PastCaches{}, a, Constant{val}); }
 QvxStatus qvxsMulC_64fc_I(Qvx64fc val, Qvx64fc* d, int len) { return map<ComplexProduct>(d, len, AsIs{}, d, Constant{val}); }
 // clang-format on

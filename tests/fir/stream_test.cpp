@@ -115,7 +115,7 @@ TEST(FirStream, IsOneSignalWhateverLengthTheCallsComeToHave) {
   forEachPair([](const auto& pair) {
     using P = std::remove_cvref_t<decltype(pair)>;
     Random random(seed());
-    for (const int tapsLen : {512, 701}) {
+    for (const int tapsLen : {512, 701, 1023}) {
       auto h = samples<typename P::Taps>(static_cast<size_t>(tapsLen), random);
       SCOPED_TRACE(testing::Message() << pair.name << ", taps " << tapsLen << ", seed " << seed());
       Stream<P> stream(pair, tapsLen, random);

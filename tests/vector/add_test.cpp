@@ -77,4 +77,29 @@ TEST(AddC, FloatZeroKeepsTheBits) {
   zeroKeepsBits<Qvx64f>(uint64_t{0x7FF0000000000001}, {qvxsAddC_64f, qvxsSubC_64f});
 }
 
+// Vectors that no cache holds are stored in another way, unless the destination is a source: all as their pieces are.
+template <class T, class F> void isAsItsPieces(F f) {
+  constexpr int n = (33 << 20) / static_cast<int>(sizeof(T)) + 77;
+  Random random(seed());
+  const auto a = values<T>(n, random);
+  const auto b = values<T>(n, random);
+  std::vector<T> expected(n);
+  for (int i = 0; i < n; i += 50000) f(a.data() + i, b.data() + i, expected.data() + i, std::min(50000, n - i));
+  Block block(n * sizeof(T) + 64);
+  for (const size_t offset : {0, 1, 8}) {
+    auto* d = reinterpret_cast<T*>(block.atOffset(offset, n * sizeof(T)));
+    ASSERT_EQ(f(a.data(), b.data(), d, n), qvxStatOk);
+    EXPECT_EQ(std::memcmp(d, expected.data(), n * sizeof(T)), 0) << "at " << offset;
+    EXPECT_TRUE(block.isIntact());
+    std::memcpy(d, b.data(), n * sizeof(T));
+    ASSERT_EQ(f(a.data(), d, d, n), qvxStatOk);
+    EXPECT_EQ(std::memcmp(d, expected.data(), n * sizeof(T)), 0) << "at " << offset << ", in place";
+  }
+}
+
+TEST(Add, VectorsThatNoCacheHolds) {
+  isAsItsPieces<Qvx32f>(qvxsAdd_32f);
+  isAsItsPieces<Qvx64fc>([](const Qvx64fc*, const Qvx64fc* b, Qvx64fc* d, int n) { return qvxsMulC_64fc(b, {2, 3}, d, n); });
+}
+
 }  // namespace
