@@ -2,9 +2,8 @@
 // twiddles, C points along each row.
 //
 // A vector holds P columns, then, transposed in squares, P rows. Where they do not divide C or R, the last ones are done twice.
-// What stands between is whole vectors on the stack, each loaded as it was stored: 96 points take 43 ns, where parts in planes
-// and rows of another length than a vector's took thrice that. P rows stay in registers: 24 points take 14 ns, 18 through the
-// stack.
+// What stands between is whole vectors on the stack, each loaded as it was stored: 48 points take 24 ns, where parts in planes
+// and rows of another length than a vector's take 70. P rows stay in registers: 24 points take 14 ns, 18 through the stack.
 #pragma once
 
 #include "transform/mixed_plan.h"

@@ -111,25 +111,32 @@ inline TransformErrors anyLengthErrors(int n) {
            anyLengthError<Qvx64f>(n, true, qvxsDFTInitAlloc_R_64f, qvxsDFTFwd_RToCCS_64f, qvxsDFTFree_R_64f)}};
 }
 
-// Cosine transforms there and back, in the same units.
+// Cosine transforms there and back, in the same units; short ones many times.
 inline constexpr double kCosineBound = 0.5;
+inline constexpr double kPrimeCosineBound = 0.75;
 
 template <class T, class Record>
 double cosineError(int n, bool isInverse, QvxStatus (*make)(Record**, int, int),
                    QvxStatus (*run)(const T*, T*, const Record*, Qvx8u*), QvxStatus (*release)(Record*)) {
-  const std::vector<T> x = noise<T>(static_cast<size_t>(n));
-  std::vector<T> found(x.size());
+  constexpr size_t kLeast = 2048;  // numbers
+  const auto count = static_cast<size_t>(n);
+  const std::vector<T> all = noise<T>((kLeast + count - 1) / count * count);
+  const CosineTransform exact(count);
   Record* record = nullptr;
   if (make(&record, n, 0) != qvxStatOk) return INFINITY;
-  run(x.data(), found.data(), record, nullptr);
-  release(record);
-  const std::vector<long double> expected = CosineTransform(x.size()).all(x, isInverse);
   long double error = 0;
   long double size = 0;
-  for (size_t k = 0; k < x.size(); ++k) {
-    error += std::pow(found[k] - expected[k], 2);
-    size += std::pow(expected[k], 2);
+  for (size_t at = 0; at < all.size(); at += count) {
+    const std::vector<T> x(all.begin() + static_cast<std::ptrdiff_t>(at), all.begin() + static_cast<std::ptrdiff_t>(at + count));
+    std::vector<T> found(count);
+    run(x.data(), found.data(), record, nullptr);
+    const std::vector<long double> expected = exact.all(x, isInverse);
+    for (size_t k = 0; k < count; ++k) {
+      error += std::pow(found[k] - expected[k], 2);
+      size += std::pow(expected[k], 2);
+    }
   }
+  release(record);
   return static_cast<double>(std::sqrt(error / size / std::log2(static_cast<long double>(n))) /
                              std::numeric_limits<T>::epsilon());
 }
