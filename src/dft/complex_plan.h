@@ -83,7 +83,8 @@ template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T*
                                                         work);
       return;
     case Way::kDirect:
-      return small(plan.direct, isInverse, src, dst, factor);
+      small(plan.direct, isInverse, src, dst, factor);
+      return;
     case Way::kGrid:
       return runGrid(plan.grid, isInverse, src, dst, factor);
     case Way::kConvolution:
@@ -100,6 +101,10 @@ template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T*
   if (src != dst || plan.mixed.count % 2 == 0) return runMixed(plan.mixed, points, Conjugable<T>{dst, sign}, own, theirs, factor);
   runMixed(plan.mixed, points, Conjugable<T>{y, sign}, theirs, own, factor);
   std::copy_n(y, 2 * n, dst);
+}
+
+template <class T> QvxStatus runSmall(const ComplexPlan<T>& plan, bool isInverse, const T* src, T* dst) {
+  return small(plan.direct, isInverse, src, dst, isInverse ? plan.inverseFactor : plan.forwardFactor);
 }
 
 template <class T>

@@ -8,6 +8,7 @@ template Factors<T> factorsOf<T>(uint32_t n, int flag);
 template Bytes choose<T>(ComplexPlan<T>& plan, uint32_t n, bool isApart, int flag);
 template void writeTables<T>(ComplexPlan<T>& plan, int flag, uint8_t* block, uint8_t* work);
 template void run<T>(const ComplexPlan<T>& plan, bool isInverse, const T* src, T* dst, uint8_t* work);
+template QvxStatus runSmall<T>(const ComplexPlan<T>& plan, bool isInverse, const T* src, T* dst);
 template void run<T>(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm,
                      uint8_t* work);
 template void spectrumByConvolution<T>(const ComplexPlan<T>& plan, const T* src, T* dst, uint8_t* work);

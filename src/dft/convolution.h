@@ -10,26 +10,6 @@ namespace qvx::dft {
 
 // ---- The library's own transforms of powers of two, in memory that is brought
 
-template <class T> struct Fft;
-template <> struct Fft<float> {
-  static constexpr auto kGetSize = qvxsFFTGetSize_C_32fc;
-  static constexpr auto kInit = qvxsFFTInit_C_32fc;
-  static constexpr auto kForward = qvxsFFTFwd_CToC_32fc;
-  static constexpr auto kInverse = qvxsFFTInv_CToC_32fc;
-  static constexpr auto kInitApart = qvxsFFTInit_C_32f;
-  static constexpr auto kForwardApart = qvxsFFTFwd_CToC_32f;
-  static constexpr auto kInverseApart = qvxsFFTInv_CToC_32f;
-};
-template <> struct Fft<double> {
-  static constexpr auto kGetSize = qvxsFFTGetSize_C_64fc;
-  static constexpr auto kInit = qvxsFFTInit_C_64fc;
-  static constexpr auto kForward = qvxsFFTFwd_CToC_64fc;
-  static constexpr auto kInverse = qvxsFFTInv_CToC_64fc;
-  static constexpr auto kInitApart = qvxsFFTInit_C_64f;
-  static constexpr auto kForwardApart = qvxsFFTFwd_CToC_64f;
-  static constexpr auto kInverseApart = qvxsFFTInv_CToC_64f;
-};
-
 template <class T> Bytes bytesOfFft(uint32_t n) {
   int spec = 0;
   int init = 0;

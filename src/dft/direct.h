@@ -242,7 +242,7 @@ template <class T>
 }
 
 // Up to 15 points, a vector each. An inverse transform is a forward one with its results in the opposite order.
-template <size_t N, class T> [[gnu::noinline]] void inRegisters(bool isInverse, const T* src, T* dst, T factor) {
+template <size_t N, class T> [[gnu::noinline]] QvxStatus inRegisters(bool isInverse, const T* src, T* dst, T factor) {
   const Lanes<T, 2> d;
   using V = Vec<Lanes<T, 2>>;
   ComplexVector<V, false> x[N];
@@ -255,9 +255,10 @@ template <size_t N, class T> [[gnu::noinline]] void inRegisters(bool isInverse, 
   unrolled<N - 1>([&](auto k) __attribute__((always_inline)) {
     store(x[k + 1].v * f, d, to + static_cast<std::ptrdiff_t>(k + 1) * step);
   });
+  return qvxStatOk;
 }
 
-template <class T> QVX_INLINE void small(const DirectPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
+template <class T> QVX_INLINE QvxStatus small(const DirectPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
   switch (plan.n) {
     case 3:
       return inRegisters<3>(isInverse, src, dst, factor);
@@ -282,7 +283,7 @@ template <class T> QVX_INLINE void small(const DirectPlan<T>& plan, bool isInver
     case 15:
       return inRegisters<15>(isInverse, src, dst, factor);
     default:
-      return direct(plan, isInverse, src, dst, factor);
+      return direct(plan, isInverse, src, dst, factor), qvxStatOk;
   }
 }
 

@@ -29,6 +29,26 @@ template <> struct FftOf<double> {
   using SplitSpec = QvxsFFTSpec_C_64f;
 };
 
+template <class T> struct Fft;
+template <> struct Fft<float> {
+  static constexpr auto kGetSize = qvxsFFTGetSize_C_32fc;
+  static constexpr auto kInit = qvxsFFTInit_C_32fc;
+  static constexpr auto kForward = qvxsFFTFwd_CToC_32fc;
+  static constexpr auto kInverse = qvxsFFTInv_CToC_32fc;
+  static constexpr auto kInitApart = qvxsFFTInit_C_32f;
+  static constexpr auto kForwardApart = qvxsFFTFwd_CToC_32f;
+  static constexpr auto kInverseApart = qvxsFFTInv_CToC_32f;
+};
+template <> struct Fft<double> {
+  static constexpr auto kGetSize = qvxsFFTGetSize_C_64fc;
+  static constexpr auto kInit = qvxsFFTInit_C_64fc;
+  static constexpr auto kForward = qvxsFFTFwd_CToC_64fc;
+  static constexpr auto kInverse = qvxsFFTInv_CToC_64fc;
+  static constexpr auto kInitApart = qvxsFFTInit_C_64f;
+  static constexpr auto kForwardApart = qvxsFFTFwd_CToC_64f;
+  static constexpr auto kInverseApart = qvxsFFTInv_CToC_64f;
+};
+
 // A chirp turns the transform into a circular convolution of a length with good factors; another order of a prime number of
 // points does so by itself.
 template <class T> struct ConvolutionPlan {
@@ -63,6 +83,9 @@ template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* blo
 
 // work: of the bytes that were told, any alignment. src may be dst. Interleaved points:
 template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T* src, T* dst, uint8_t* work);
+// Fewer than kMostSmall of them, no power of two, by a jump to their code: a stack frame and a return would be a third of the
+// time.
+template <class T> QvxStatus runSmall(const ComplexPlan<T>& plan, bool isInverse, const T* src, T* dst);
 // Parts that stand apart:
 template <class T>
 void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, uint8_t* work);

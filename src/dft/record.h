@@ -75,8 +75,13 @@ template <class Spec, class Run> QVX_INLINE QvxStatus withWork(const Spec& spec,
 
 template <bool kInverse, class C, class Record>
 QvxStatus interleavedTransform(const C* src, C* dst, const Record* spec, Qvx8u* pBuffer) {
-  const QvxStatus status = checkCall(spec, src, dst);
+  using F = Fft<typename Record::T>;
+  const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
+  if (spec->plan.way == Way::kFft && spec->needed <= spec->workSize)
+    return (kInverse ? F::kInverse : F::kForward)(src, dst, spec->plan.fft, pBuffer);
+  if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
+  if (spec->plan.n < kMostSmall) return runSmall(spec->plan, kInverse, parts(src), parts(dst));
   return withWork(*spec, pBuffer, [=](Qvx8u* work) { run(spec->plan, kInverse, parts(src), parts(dst), work); });
 }
 template <bool kInverse, class T, class Record>

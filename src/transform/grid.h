@@ -2,8 +2,8 @@
 // twiddles, C points along each row.
 //
 // A vector holds P columns, then, transposed in squares, P rows. Where they do not divide C or R, the last ones are done twice.
-// What stands between is whole vectors on the stack, each loaded as it was stored: 48 points take 20 ns, where parts in planes
-// and rows of another length than a vector's take 70.
+// What stands between is whole vectors on the stack, each loaded as it was stored: 48 points take 24 ns, where parts in planes
+// and rows of another length than a vector's take 70. P rows stay in registers: 24 points take 14 ns, 18 through the stack.
 #pragma once
 
 #include "transform/mixed_plan.h"
@@ -67,48 +67,63 @@ constexpr uint32_t costInGrid(size_t radix) {
       return costOfRadix(radix);
   }
 }
-// Columns in a vector. Half of the widest register: 5 columns are seldom worth 8.
+// Columns in a vector: half of the widest register, since 5 columns are seldom worth 8; or twice as many.
 template <class T> inline constexpr size_t kGridColumns = std::min<size_t>(kVectorBytes, 32) / (2 * sizeof(T));
+template <class T> inline constexpr size_t kMostGridColumns = kVectorBytes / (2 * sizeof(T));
 
 template <class T> struct GridPlan {
   uint8_t down;       // R
   uint8_t across;     // C
+  uint8_t lanes;      // P
   const T* twiddles;  // for each vector of columns, for j = 1..R-1: P real parts twice, then P imaginary parts with both signs
 };
 
 constexpr size_t vectorsOf(size_t count, size_t lanes) { return (count + lanes - 1) / lanes; }
 
+template <class T, class Step> QVX_INLINE constexpr void withGridColumns(size_t lanes, Step step) {
+  if constexpr (kGridColumns<T> < kMostGridColumns<T>) {
+    if (lanes == kMostGridColumns<T>) return step(std::integral_constant<size_t, kMostGridColumns<T>>());
+  }
+  step(std::integral_constant<size_t, kGridColumns<T>>());
+}
+
+// A column of as many points as a vector has columns: all stay in registers.
+constexpr bool isInRegisters(size_t down, size_t across, size_t lanes) { return down == lanes && across <= 16; }
+
 // False where n is no such product.
-template <class T> bool chooseGrid(GridPlan<T>& plan, uint32_t n) {
-  constexpr size_t P = kGridColumns<T>;
+template <class T> constexpr bool chooseGrid(GridPlan<T>& plan, uint32_t n) {
   uint64_t best = UINT64_MAX;
-  for (const uint32_t across : kGridRadices) {
-    const uint32_t down = n / across;
-    if (n % across != 0 || down < P || !std::binary_search(std::begin(kGridRadices), std::end(kGridRadices), down)) continue;
-    const uint64_t cost =
-        vectorsOf(across, P) * (costInGrid(down) + 4 * down) + vectorsOf(down, P) * (costInGrid(across) + 4 * across);
-    if (cost >= best) continue;
-    best = cost;
-    plan = {static_cast<uint8_t>(down), static_cast<uint8_t>(across), nullptr};
+  for (size_t P = kGridColumns<T>; P <= kMostGridColumns<T>; P *= 2) {
+    for (const uint32_t across : kGridRadices) {
+      const uint32_t down = n / across;
+      if (n % across != 0 || down < P || !std::binary_search(std::begin(kGridRadices), std::end(kGridRadices), down)) continue;
+      uint64_t cost =
+          vectorsOf(across, P) * (costInGrid(down) + 4 * down) + vectorsOf(down, P) * (costInGrid(across) + 4 * across);
+      // Seen of registers of 64 bytes, and of what goes through memory.
+      if (P > kGridColumns<T>) cost = cost * 3 / 2;
+      if (!isInRegisters(down, across, P)) cost += 150;
+      if (cost >= best) continue;
+      best = cost;
+      plan = {static_cast<uint8_t>(down), static_cast<uint8_t>(across), static_cast<uint8_t>(P), nullptr};
+    }
   }
   return best != UINT64_MAX;
 }
-template <class T> size_t tableLength(const GridPlan<T>& plan) {
-  return vectorsOf(plan.across, kGridColumns<T>) * (plan.down - 1U) * 4 * kGridColumns<T> + Carver::kLine / sizeof(T);
-}
+
 constexpr size_t gridColumn(size_t vector, size_t columns, size_t lanes) {
   return columns < lanes ? 0 : std::min(vector * lanes, columns - lanes);
 }
-template <class T> void writeGrid(GridPlan<T>& plan, T* block) {
-  constexpr size_t P = kGridColumns<T>;
-  T* const out = alignedUp(block, Carver::kLine);
-  plan.twiddles = out;
+template <class T> constexpr size_t gridTwiddles(const GridPlan<T>& plan) {
+  return vectorsOf(plan.across, plan.lanes) * (plan.down - 1U) * plan.lanes;
+}
+template <class T, class Write> constexpr void writeGridTwiddles(const GridPlan<T>& plan, T* out, Write write) {
+  const size_t P = plan.lanes;
   const size_t others = plan.down - 1U;
   const size_t across = plan.across;
-  writeTwiddles(
-      plan.down * across, vectorsOf(across, P) * others * P,
+  write(
+      plan.down * across, gridTwiddles(plan),
       [=](size_t i) { return (i / P % others + 1) * (gridColumn(i / (P * others), across, P) + i % P); },
-      [out](size_t i, double re, double im) {
+      [=](size_t i, double re, double im) {
         T* const at = out + i / P * 4 * P + 2 * (i % P);
         at[0] = at[1] = static_cast<T>(re);
         at[2 * P] = static_cast<T>(-im);
@@ -116,37 +131,92 @@ template <class T> void writeGrid(GridPlan<T>& plan, T* block) {
       });
 }
 
-// signs: -0 where an inverse transform takes the conjugate.
-template <size_t R, class T>
-[[gnu::noinline]] void downGrid(const T* src, T* y, size_t across, const T* twiddles, const T* signs) {
-  constexpr size_t P = kGridColumns<T>;
+// Up to here tables are constants of the code: records of cosine transforms have no room for them.
+inline constexpr uint32_t kLongestReadyGrid = 50;
+
+struct BySeries {
+  template <class Index, class Put> constexpr void operator()(size_t n, size_t count, Index x, Put put) const {
+    for (size_t i = 0; i < count; ++i) put(i, cosineOfTurn(x(i), n), -sineOfTurn(x(i), n));
+  }
+};
+template <class T, uint32_t n>
+constexpr GridPlan<T> kGridPlan = [] {
+  GridPlan<T> plan{};
+  return chooseGrid(plan, n) ? plan : GridPlan<T>{};
+}();
+template <class T, uint32_t n> struct ReadyGrid {
+  T twiddles[4 * std::max<size_t>(gridTwiddles(kGridPlan<T, n>), 1)] = {};
+  constexpr ReadyGrid() { writeGridTwiddles(kGridPlan<T, n>, twiddles, BySeries()); }
+};
+template <class T, uint32_t n> alignas(64) inline constexpr ReadyGrid<T, n> kReadyGrid;
+template <class T, uint32_t n> constexpr const T* readyTwiddles() {
+  if constexpr (kGridPlan<T, n>.down == 0) return nullptr;
+  else return kReadyGrid<T, n>.twiddles;
+}
+template <class T> const T* readyGrid(uint32_t n) {
+  static constexpr auto kAll = []<uint32_t... i>(std::integer_sequence<uint32_t, i...>) {
+    return std::array<const T*, sizeof...(i)>{readyTwiddles<T, i>()...};
+  }
+  (std::make_integer_sequence<uint32_t, kLongestReadyGrid + 1>());
+  return kAll[n];
+}
+
+template <class T> bool isReady(const GridPlan<T>& plan) { return size_t{plan.down} * plan.across <= kLongestReadyGrid; }
+template <class T> size_t tableLength(const GridPlan<T>& plan) {
+  return isReady(plan) ? 0 : 4 * gridTwiddles(plan) + Carver::kLine / sizeof(T);
+}
+template <class T> void writeGrid(GridPlan<T>& plan, T* block) {
+  if (isReady(plan)) {
+    plan.twiddles = readyGrid<T>(uint32_t{plan.down} * plan.across);
+    return;
+  }
+  T* const out = alignedUp(block, Carver::kLine);
+  plan.twiddles = out;
+  writeGridTwiddles(plan, out, BySines());
+}
+
+// What a transform does beside: conjugates its points and its results where it is inverse, and multiplies results by a factor.
+template <class V> struct GridEnds {
+  V sign;
+  V factor;
+
+  GridEnds(bool isInverse, LaneOf<V> by) {
+    const V turn = isInverse ? alternating<V>() : same<V>(LaneOf<V>(1));
+    sign = hn::And(turn, same<V>(LaneOf<V>(-0.0)));
+    factor = turn * same<V>(by);
+  }
+};
+template <class T, size_t P> using GridVector = Vec<Lanes<T, 2 * P>>;
+
+// P columns from `column` on, transformed and turned.
+template <size_t R, size_t P, class T>
+QVX_INLINE void transformColumns(ComplexVector<GridVector<T, P>, false> (&x)[R], const T* column, size_t across,
+                                 const T* twiddles, GridVector<T, P> sign) {
   const Lanes<T, 2 * P> d;
-  using V = Vec<Lanes<T, 2 * P>>;
-  const V sign = load(d, signs);
-  for (size_t h = 0; h < vectorsOf(across, P); ++h, y += R * 2 * P) {
-    const T* column = src + 2 * gridColumn(h, across, P);
-    ComplexVector<V, false> x[R];
-    if (across >= P) {
-      unrolled<R>([&](auto j) __attribute__((always_inline)) { x[j].v = hn::Xor(load(d, column + j * 2 * across), sign); });
-    } else {
-      unrolled<R>([&](auto j) __attribute__((always_inline)) {
-        x[j].v = hn::Xor(firstLanes(d, column + j * 2 * across, 2 * across), sign);
-      });
-    }
-    anyDft(x);
-    store(x[0].v, d, y);
-    unrolled<R - 1>([&](auto j) __attribute__((always_inline)) {
-      store(twiddled<false>(x[j + 1].v, twiddles), d, y + (j + 1) * 2 * P);
-      twiddles += 4 * P;
+  if (across >= P) {
+    unrolled<R>([&](auto j) __attribute__((always_inline)) { x[j].v = hn::Xor(load(d, column + j * 2 * across), sign); });
+  } else {
+    unrolled<R>([&](auto j) __attribute__((always_inline)) {
+      x[j].v = hn::Xor(firstLanes(d, column + j * 2 * across, 2 * across), sign);
     });
+  }
+  anyDft(x);
+  unrolled<R - 1>([&](auto j) __attribute__((always_inline)) { x[j + 1].v = twiddled<false>(x[j + 1].v, twiddles + j * 4 * P); });
+}
+
+template <size_t R, size_t P, class T>
+[[gnu::noinline]] void downGrid(const T* src, T* y, size_t across, const T* twiddles, const T* signs) {
+  const Lanes<T, 2 * P> d;
+  for (size_t h = 0; h < vectorsOf(across, P); ++h, y += R * 2 * P, twiddles += (R - 1) * 4 * P) {
+    ComplexVector<GridVector<T, P>, false> x[R];
+    transformColumns<R, P>(x, src + 2 * gridColumn(h, across, P), across, twiddles, load(d, signs));
+    unrolled<R>([&](auto j) __attribute__((always_inline)) { store(x[j].v, d, y + j * 2 * P); });
   }
 }
 
-// factors: that of the transform, its sign turned for imaginary parts where the result is to be conjugate.
-template <size_t C, class T> [[gnu::noinline]] void acrossGrid(const T* y, T* dst, size_t down, const T* factors) {
-  constexpr size_t P = kGridColumns<T>;
+template <size_t C, size_t P, class T> [[gnu::noinline]] void acrossGrid(const T* y, T* dst, size_t down, const T* factors) {
   const Lanes<T, 2 * P> d;
-  using V = Vec<Lanes<T, 2 * P>>;
+  using V = GridVector<T, P>;
   const V factor = load(d, factors);
   for (size_t q = 0; q < down; q += P) {
     const size_t row = std::min(q, down - P);
@@ -163,18 +233,42 @@ template <size_t C, class T> [[gnu::noinline]] void acrossGrid(const T* y, T* ds
   }
 }
 
-template <class T> void runGrid(const GridPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
-  constexpr size_t P = kGridColumns<T>;
+// P * C points without leaving registers.
+template <size_t C, size_t P, class T>
+[[gnu::noinline]] void gridInRegisters(const T* src, T* dst, const T* twiddles, bool isInverse, T factor) {
+  using V = GridVector<T, P>;
+  const GridEnds<V> ends(isInverse, factor);
+  ComplexVector<V, false> x[C];
+  unrolled<vectorsOf(C, P)>([&](auto h) __attribute__((always_inline)) {
+    constexpr size_t kFirst = gridColumn(h, C, P);
+    ComplexVector<V, false> column[P];
+    transformColumns<P, P>(column, src + 2 * kFirst, C, twiddles + h * (P - 1) * 4 * P, ends.sign);
+    V r[P];
+    unrolled<P>([&](auto l) __attribute__((always_inline)) { r[l] = column[l].v; });
+    transposePoints(r);
+    unrolled<std::min(P, C)>([&](auto l) __attribute__((always_inline)) { x[kFirst + l].v = r[l]; });
+  });
+  anyDft(x);
+  unrolled<C>([&](auto k) __attribute__((always_inline)) { store(x[k].v * ends.factor, Lanes<T, 2 * P>(), dst + 2 * k * P); });
+}
+
+template <size_t P, class T> void runGrid(const GridPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
+  if constexpr (P > 1) {
+    if (isInRegisters(plan.down, plan.across, P))
+      return withMixedRadix(plan.across, [&](auto C) { gridInRegisters<C, P>(src, dst, plan.twiddles, isInverse, factor); });
+  }
   alignas(64) T y[(kWidestGrid + P) * kWidestGrid * 2];
   alignas(64) T signs[2 * P];
   alignas(64) T factors[2 * P];
   const Lanes<T, 2 * P> d;
-  using V = Vec<Lanes<T, 2 * P>>;
-  const V turn = isInverse ? alternating<V>() : same<V>(T(1));
-  store(hn::And(turn, same<V>(T(-0.0))), d, signs);
-  store(turn * same<V>(factor), d, factors);
-  withGridRadix(plan.down, [&](auto R) { downGrid<R>(src, y, plan.across, plan.twiddles, signs); });
-  withGridRadix(plan.across, [&](auto C) { acrossGrid<C>(y, dst, plan.down, factors); });
+  const GridEnds<GridVector<T, P>> ends(isInverse, factor);
+  store(ends.sign, d, signs);
+  store(ends.factor, d, factors);
+  withGridRadix(plan.down, [&](auto R) { downGrid<R, P>(src, y, plan.across, plan.twiddles, signs); });
+  withGridRadix(plan.across, [&](auto C) { acrossGrid<C, P>(y, dst, plan.down, factors); });
+}
+template <class T> void runGrid(const GridPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
+  withGridColumns<T>(plan.lanes, [&](auto P) { runGrid<P>(plan, isInverse, src, dst, factor); });
 }
 
 }  // namespace qvx::transform

@@ -82,7 +82,7 @@ template <int kOrder, class Src, class Dst, class Scale>
 template <class Points> inline constexpr int kShortOrder = 5;
 template <class Points>
 requires kIsInterleaved<Points>
-inline constexpr int kShortOrder<Points> = kWidest<typename Points::Lane> == 16 ? 6 : 7;
+inline constexpr int kShortOrder<Points> = 7;
 template <class Src, class Dst, class Scale> QVX_INLINE QvxStatus smallTransform(int order, Src src, Dst dst, Scale scale) {
   switch (order) {
     case 0:

@@ -1,4 +1,4 @@
-// Transforms of up to 128 points on complex numbers as they stand in memory, one, two or four to a vector.
+// Transforms of up to 128 points on complex numbers as they stand in memory, one, two, four or eight to a vector.
 //
 // There is nothing to deinterleave, and a quarter turn costs an exchange of parts. What counts for so few points is the way from
 // a load to a store: 3 cycles for any shuffle or sum, 5 for a fused one, and 10 more from that store to the next call's load
@@ -94,7 +94,7 @@ template <class T_, size_t N> struct Shape {
   using T = T_;
   static constexpr size_t R = N <= 8 ? N : N == 16 ? 4 : 8;
   static constexpr size_t C = N / R;
-  static constexpr size_t P = N <= 8 ? 1 : std::min<size_t>(N == 16 ? 2 : 4, kWidest<T> / 2);
+  static constexpr size_t P = N <= 8 ? 1 : std::min<size_t>(N == 16 ? 2 : N < 128 ? 4 : 8, kWidest<T> / 2);
   using V = Vec<Lanes<T, 2 * P>>;
 
   static constexpr double kFactor = 1;

@@ -36,6 +36,17 @@ int main() {
     }
     std::printf("\n");
   }
+  std::printf("\nCosine transforms, stated %.2f, of large primes %.2f\n\n", tests::kCosineBound, tests::kPrimeCosineBound);
+  std::printf("| N | forward 32f | forward 64f | inverse 32f | inverse 64f |\n|---:|---:|---:|---:|---:|\n");
+  for (const int n : {5, 8, 16, 24, 31, 50, 64, 81, 97, 100, 256, 360, 625, 1000, 1001, 1024, 4096, 4410, 101, 509, 1009}) {
+    const bool isPrime = n == 101 || n == 509 || n == 1009;
+    std::printf("| %d |", n);
+    for (const double error : tests::cosineErrors(n).of) {
+      std::printf(" %.4f |", error);
+      exceeded += !(error <= (isPrime ? tests::kPrimeCosineBound : tests::kCosineBound));
+    }
+    std::printf("\n");
+  }
   std::printf("\n");
   return exceeded > 0 ? 1 : 0;
 }

@@ -6,7 +6,7 @@
 #include <limits>
 #include <random>
 
-#include "reference/dft.h"
+#include "reference/dct.h"
 
 namespace tests {
 
@@ -109,6 +109,43 @@ inline TransformErrors anyLengthErrors(int n) {
            anyLengthError<Qvx64f>(n, false, qvxsDFTInitAlloc_C_64fc, qvxsDFTFwd_CToC_64fc, qvxsDFTFree_C_64fc),
            anyLengthError<Qvx32f>(n, true, qvxsDFTInitAlloc_R_32f, qvxsDFTFwd_RToCCS_32f, qvxsDFTFree_R_32f),
            anyLengthError<Qvx64f>(n, true, qvxsDFTInitAlloc_R_64f, qvxsDFTFwd_RToCCS_64f, qvxsDFTFree_R_64f)}};
+}
+
+// Cosine transforms there and back, in the same units; short ones many times.
+inline constexpr double kCosineBound = 0.5;
+inline constexpr double kPrimeCosineBound = 0.75;
+
+template <class T, class Record>
+double cosineError(int n, bool isInverse, QvxStatus (*make)(Record**, int, int),
+                   QvxStatus (*run)(const T*, T*, const Record*, Qvx8u*), QvxStatus (*release)(Record*)) {
+  constexpr size_t kLeast = 2048;  // numbers
+  const auto count = static_cast<size_t>(n);
+  const std::vector<T> all = noise<T>((kLeast + count - 1) / count * count);
+  const CosineTransform exact(count);
+  Record* record = nullptr;
+  if (make(&record, n, 0) != qvxStatOk) return INFINITY;
+  long double error = 0;
+  long double size = 0;
+  for (size_t at = 0; at < all.size(); at += count) {
+    const std::vector<T> x(all.begin() + static_cast<std::ptrdiff_t>(at), all.begin() + static_cast<std::ptrdiff_t>(at + count));
+    std::vector<T> found(count);
+    run(x.data(), found.data(), record, nullptr);
+    const std::vector<long double> expected = exact.all(x, isInverse);
+    for (size_t k = 0; k < count; ++k) {
+      error += std::pow(found[k] - expected[k], 2);
+      size += std::pow(expected[k], 2);
+    }
+  }
+  release(record);
+  return static_cast<double>(std::sqrt(error / size / std::log2(static_cast<long double>(n))) /
+                             std::numeric_limits<T>::epsilon());
+}
+inline TransformErrors cosineErrors(int n) {
+  return {n,
+          {cosineError(n, false, qvxsDCTFwdInitAlloc_32f, qvxsDCTFwd_32f, qvxsDCTFwdFree_32f),
+           cosineError(n, false, qvxsDCTFwdInitAlloc_64f, qvxsDCTFwd_64f, qvxsDCTFwdFree_64f),
+           cosineError(n, true, qvxsDCTInvInitAlloc_32f, qvxsDCTInv_32f, qvxsDCTInvFree_32f),
+           cosineError(n, true, qvxsDCTInvInitAlloc_64f, qvxsDCTInv_64f, qvxsDCTInvFree_64f)}};
 }
 
 }  // namespace tests
