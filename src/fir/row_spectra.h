@@ -26,7 +26,7 @@ template <class C> class RowSpectra {
     rows_ = rows;
     up_ = q.up;
     taps_ = q.taps;
-    const int least = std::max(static_cast<int>(std::bit_width(static_cast<uint64_t>(2 * span_ - 1))), fft::kLowestReady);
+    const int least = std::max(static_cast<int>(std::bit_width(static_cast<uint64_t>(span_ + span_ / 2 - 1))), fft::kLowestReady);
     order_ = least;
     while (points() < 4 * span_ && points() - span_ < most) ++order_;
     for (; order_ >= least; --order_) {
@@ -34,12 +34,12 @@ template <class C> class RowSpectra {
       const auto* spec = fft::readySpec<typename fft::Transform<C>::Spec>(order_);
       const int64_t work = fft::TransformSizes::ofOrder<C>(order_).work;
       const int64_t samples = rows * (history + std::min(most, block()) + 2 * kVectorElements<C>);
-      const int64_t spectra = ((up_ + 1) * rows_ + 1) * points();
+      const int64_t spectra = (up_ * rows_ + kept() + 1) * points();
       const int64_t needed = (samples + spectra) * int64_t{sizeof(C)} + work + 5 * Carver::kLine;
       if (isNull(spec) || needed > bytes) continue;
       spec_ = spec;
       spectra_ = carver.takeLines<C>(up_ * rows_ * points());
-      samples_ = carver.takeLines<C>(rows_ * points());
+      samples_ = carver.takeLines<C>(kept() * points());
       sum_ = carver.takeLines<C>(points());
       work_ = carver.takeLines<Qvx8u>(work);
       return;
@@ -78,22 +78,29 @@ template <class C> class RowSpectra {
   void transformRows(const C* rows, int64_t stride, int64_t periods) {
     const int64_t count = span_ - 1 + periods;
     for (int64_t i = 0; i < rows_; ++i) {
-      C* const block = samples_ + i * points();
+      C* const block = samples_ + i % kept() * points();
       std::copy_n(rows + i * stride + first_, count, block);
       std::fill(block + count, block + points(), C{});
       fft::Transform<C>::kForward(block, block, spec_, work_);
+      if (up_ == 1) addProduct(0, i);
     }
   }
   void filter(int64_t branch, int64_t periods, C* outputs) {
-    const C* spectrum = spectra_ + branch * rows_ * points();
-    std::copy_n(samples_, points(), sum_);
-    fft::multiply(spectrum, sum_, length());
-    for (int64_t i = 1; i < rows_; ++i) fft::addProduct(spectrum + i * points(), samples_ + i * points(), sum_, length());
+    for (int64_t i = 0; up_ > 1 && i < rows_; ++i) addProduct(branch, i);
     fft::Transform<C>::kInverse(sum_, sum_, spec_, work_);
     std::copy_n(sum_, periods, outputs);
   }
 
  private:
+  // Spectra of rows that wait for the branches: none does for a single one.
+  int64_t kept() const { return up_ == 1 ? 1 : rows_; }
+  void addProduct(int64_t branch, int64_t row) {
+    const C* const spectrum = spectra_ + (branch * rows_ + row) * points();
+    const C* const block = samples_ + row % kept() * points();
+    if (row > 0) return fft::addProduct(spectrum, block, sum_, length());
+    std::copy_n(block, points(), sum_);
+    fft::multiply(spectrum, sum_, length());
+  }
   int64_t points() const { return int64_t{1} << order_; }
   int length() const { return 1 << order_; }
 
