@@ -9,6 +9,7 @@
 #include "convolution/transpose.h"
 #include "fir/contents.h"
 #include "fir/ratio.h"
+#include "fir/row_spectra.h"
 #include "frame/rounding.h"
 
 namespace qvx::fir {
@@ -49,6 +50,7 @@ template <class C> struct MultirateFloat : MultirateRecord<C> {
 
   C* taps;  // reversed
   C* branches;
+  RowSpectra<C>* spectra;  // null: none
 };
 template <class S, class T> struct MultirateInteger : MultirateRecord<S> {
   using Kernel = S;
@@ -103,6 +105,8 @@ template <class C> int64_t multirateBytes(int tapsLen, const Factors& f) {
 
 // Sums of branches on their way to the outputs they belong between, in bytes.
 inline constexpr size_t kSumsBytes = 8192;
+
+template <class R> inline constexpr bool kHasSpectra = requires(R record) { record.spectra; };
 
 // Elements of a branch's taps. Those of integers are in pairs, row by row.
 template <class C> int64_t branchLen(const MultirateFloat<C>& record) { return record.ratio.taps; }
@@ -206,7 +210,24 @@ template <class R> void layOut(R& record, Carver& carver, const Qvx8u* begin, in
   }
   record.rowLen = 1;
   placeTaps(record, carver);
-  placeRows(record, carver, begin, bytes, std::min(record.ratio.up, 16));
+  const int branches = std::min(record.ratio.up, 16);
+  if constexpr (kHasSpectra<R>) {
+    Carver withSpectra = carver;
+    const auto rows = static_cast<int64_t>(record.rowCount());
+    const int64_t history = (record.ratio.delayLen + rows - 1) / rows;
+    const int64_t most = kSumsBytes / int64_t{sizeof(typename R::Kernel)} / branches;
+    using Spectra = RowSpectra<typename R::Kernel>;
+    record.spectra = withSpectra.take<Spectra>(1);
+    Spectra made;
+    made.place(record.ratio, rows, history, most, withSpectra, bytes - (withSpectra.rest() - begin));
+    if (made.isPlaced() && placeRows(record, withSpectra, begin, bytes, branches) &&
+        made.takes(std::min<int64_t>(record.block, made.block()))) {
+      *record.spectra = made;
+      return;
+    }
+    record.spectra = nullptr;
+  }
+  placeRows(record, carver, begin, bytes, branches);
 }
 
 // ---- taps and delay line
@@ -282,9 +303,23 @@ template <class S, class T> void dealTaps(MultirateInteger<S, T>& record) {
   });
 }
 
+template <class C> void setSpectra(MultirateFloat<C>& record) {
+  const Ratio& q = record.ratio;
+  const auto rows = static_cast<int64_t>(record.rowCount());
+  record.spectra->setTaps([&](auto put) {
+    forEachBranch(q, [&](const Branch& branch, int number) {
+      for (int t = 0; t < q.taps; ++t) {
+        const int64_t place = branch.sample - q.taps + 1 + t + int64_t{record.history} * rows;
+        put(number, place % rows, place / rows, q.tapOf(record.taps, record.tapsLen, branch.tap, t));
+      }
+    });
+  });
+}
+
 template <class C, class H> QvxStatus setTaps(MultirateFloat<C>& record, const H* taps) {
   copyReversed(taps, static_cast<size_t>(record.tapsLen), record.taps);
   dealTaps(record);
+  if (!isNull(record.spectra)) setSpectra(record);
   return qvxStatOk;
 }
 

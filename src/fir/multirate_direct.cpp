@@ -57,8 +57,13 @@ QvxStatus block(const T* src, T* dst, int numIters, const Caller<H, T>& caller, 
     auto* to = parts(outputs);
     for (size_t i = 0; i < n * PartsOf<T>::kCount; ++i) to[i] = rounded<Part<T>>(from[i] * unit);
   };
-  return withRecord<S>(
-      caller, src, dst, numIters, 0, [&](MultirateState<S>& record) { setTaps(record, caller.taps); }, finish);
+  const auto set = [&](MultirateState<S>& record) {
+    // Spectra for one call take the time of a few blocks.
+    const int64_t periods = int64_t{numIters} * record.ratio.step;
+    if (!isNull(record.spectra) && periods < 4 * record.spectra->block()) record.spectra = nullptr;
+    setTaps(record, caller.taps);
+  };
+  return withRecord<S>(caller, src, dst, numIters, 0, set, finish);
 }
 
 // 16-bit taps, as they are.

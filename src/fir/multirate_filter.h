@@ -48,15 +48,22 @@ template <class R> class Branches {
  public:
   using C = typename R::Kernel;
 
-  Branches(const R& record, size_t periods, Call call, int64_t places)
+  Branches(R& record, size_t periods, Call call, int64_t places)
       : record_(record), periods_(periods), call_(call), places_(places), p_(record.branches), branch_(record.ratio.branch()) {
     const auto first = static_cast<size_t>(record.sample(branch_.sample - record.ratio.taps + 1) - record.rows);
     const auto stride = static_cast<size_t>(record.stride);
     x_ = {record.rows, stride, record.rowCount(), first / stride, first % stride};
+    if constexpr (kHasSpectra<R>) {
+      bySpectra_ = !isNull(record.spectra) && record.spectra->takes(static_cast<int64_t>(periods));
+      if (bySpectra_) record.spectra->transformRows(record.rows + record.done, record.stride, static_cast<int64_t>(periods));
+    }
   }
 
   // What the branch gives for each period.
   void next(C* sums) {
+    if constexpr (kHasSpectra<R>) {
+      if (bySpectra_) return record_.spectra->filter(number_++, static_cast<int64_t>(periods_), sums);
+    }
     const Ratio& q = record_.ratio;
     const auto taps = static_cast<size_t>(q.taps);
     if constexpr (!std::is_integral_v<Part<C>>) {
@@ -91,7 +98,7 @@ template <class R> class Branches {
     return {};
   }
 
-  const R& record_;
+  R& record_;
   size_t periods_;
   Call call_;
   int64_t places_;
@@ -99,6 +106,8 @@ template <class R> class Branches {
   const typename R::Branches* p_;
   int64_t branchLen_ = branchLen(record_);
   Branch branch_;
+  bool bySpectra_ = false;
+  int64_t number_ = 0;
 };
 
 template <class R> Lanewise<typename R::Kernel> lanewise(const R& record) {
@@ -126,6 +135,9 @@ void resample(R& record, const T* src, T* dst, size_t periods, int64_t places, F
   C sums[kSumsBytes / sizeof(C)];
   for (size_t some; periods > 0; periods -= some, src += some * down, dst += some * up) {
     some = std::min(periods, block);
+    if constexpr (kHasSpectra<R>) {
+      if (!isNull(record.spectra)) some = std::min(some, static_cast<size_t>(record.spectra->block()));
+    }
     makeRoom(record, some);
     deal(record, src, some);
     if constexpr (Lanewise<C>::kPays) {

@@ -18,7 +18,7 @@ std::vector<Case> cases(Random& random, size_t drawn) {
       {6, {2, 0, 5, 4}},      {64, {2, 1, 1, 0}},        {65, {1, 0, 4, 3}},   {33, {1, 0, 8, 2}},   {48, {3, 2, 2, 0}},
       {50, {2, 0, 3, 2}},     {40, {6, 5, 4, 1}},        {2, {8, 7, 12, 2}},   {2, {4, 0, 4, 3}},    {30, {4, 3, 4, 0}},
       {300, {1, 0, 3, 1}},    {257, {2, 1, 1, 0}},       {20, {37, 36, 1, 0}}, {90, {1, 0, 41, 40}}, {320, {16, 3, 15, 14}},
-      {20, {160, 7, 147, 3}}, {700, {147, 0, 160, 159}},
+      {20, {160, 7, 147, 3}}, {700, {147, 0, 160, 159}}, {900, {2, 1, 1, 0}},  {700, {1, 0, 2, 1}},  {1100, {2, 1, 3, 2}},
   };
   const auto below = [&](int most) { return static_cast<int>(random() % static_cast<uint64_t>(most)); };
   for (size_t i = 0; i < drawn; ++i) {
@@ -34,6 +34,12 @@ std::string describe(const char* name, const Case& c) {
   const auto text = [](int i) { return std::to_string(i); };
   return std::string(name) + ", taps " + text(c.tapsLen) + ", up " + text(f.up) + " (" + text(f.upPhase) + "), down " +
          text(f.down) + " (" + text(f.downPhase) + "), seed " + std::to_string(seed());
+}
+
+template <class T> long double rootMeanSquare(const std::vector<T>& x) {
+  long double sum = 0;
+  for (const T v : x) sum += std::norm(exact(v));
+  return std::sqrt(sum / static_cast<long double>(x.size()));
 }
 
 // Samples and outputs between unreadable pages.
@@ -88,6 +94,7 @@ TEST(Multirate, StreamsAreOneSignalHoweverTheyAreCut) {
         const size_t outputs = static_cast<size_t>(groups) * static_cast<size_t>(f.up);
         const bool inPlace = random() % 3 == 0;
         vectors.place(x, outputs, inPlace);
+        if constexpr (requires { oracle.around; }) oracle.around = c.tapsLen < 500 ? 0 : rootMeanSquare(x);
         if (inPlace) EXPECT_EQ(P::run(pair.inPlace, scaleFactor, vectors.dst, groups, state), qvxStatOk);
         else
           EXPECT_EQ(P::run(pair.block, scaleFactor, static_cast<const T*>(vectors.src), vectors.dst, groups, state), qvxStatOk);

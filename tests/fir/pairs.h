@@ -139,6 +139,7 @@ template <class T> bool isRounded(T y, long double v, long double error, int sca
 // Float arithmetic: the error is a multiple of that of one product of the largest sample with all taps.
 template <class H, class T> struct FloatOracle {
   std::vector<H> taps;
+  long double around = 0;  // the root mean square of a block, over which a transform spreads its error
   static constexpr long double kEpsilon = std::numeric_limits<Part<H>>::epsilon();
 
   // newest: the last sample of a stream that has tapsLen samples at least.
@@ -146,7 +147,7 @@ template <class H, class T> struct FloatOracle {
     long double re = 0;
     long double im = 0;
     long double size = 0;
-    long double most = 0;
+    long double most = around;
     for (size_t k = 0; k < taps.size(); ++k) {
       const auto h = exactParts(taps[k]);
       const auto x = exactParts(newest[-static_cast<ptrdiff_t>(k)]);
