@@ -24,7 +24,8 @@ template <class K> size_t equalNeighbours(const K* keys, size_t n) {
 template <class K> inline constexpr size_t kMostSample = std::min<size_t>(63, kNetworkKeys<K> - 1);
 
 // Keys from all over x, as `in` maps them, in order. How many: from 4096 on 63; below that 15, or where a row has 8 lanes or
-// more, the medians of three rows lane by lane, which tell as much in a third of the time.
+// more, the medians of nine rows lane by lane, which need no gathering: 10^5 random keys take 0.91 of the time. Of three rows,
+// elements that were in order take 1.4 times as long: what lies side by side is then alike.
 template <class K> size_t takeSample(const K* x, size_t n, KeyMap<K> in, K (&sample)[kMostSample<K>]) {
   uint32_t random = static_cast<uint32_t>(n);
   // A fixed place in each stretch would meet whatever has its period.
@@ -33,13 +34,16 @@ template <class K> size_t takeSample(const K* x, size_t n, KeyMap<K> in, K (&sam
     return uint64_t{random} * stretch >> 32;
   };
   constexpr size_t N = kRowLanes<K>;
-  if (N >= 8 && n < 4096) {
+  if (N >= 8 && n >= 9 * N && n < 4096) {
     const Lanes<K, N> d;
-    const size_t third = n / 3;
-    const auto row = [&](size_t i) { return in.keys(load(d, x + i * third + placeIn(third - N))); };
-    const auto some = detail::ordered(row(0), row(1));
-    const auto most = detail::ordered(some.most, row(2)).least;
-    store(detail::ordered(some.least, most).most, d, sample);
+    const size_t stretch = n / 9;
+    const auto row = [&](size_t i) { return in.keys(load(d, x + i * stretch + placeIn(stretch - N + 1))); };
+    const auto medianOf = [](auto a, auto b, auto c) {
+      const auto some = detail::ordered(a, b);
+      return detail::ordered(some.least, detail::ordered(some.most, c).least).most;
+    };
+    const auto medianFrom = [&](size_t i) { return medianOf(row(i), row(i + 3), row(i + 6)); };
+    store(medianOf(medianFrom(0), medianFrom(1), medianFrom(2)), d, sample);
     sortByNetwork(sample, N, {}, {});
     return N;
   }
