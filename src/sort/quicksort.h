@@ -23,40 +23,22 @@ template <class K> size_t equalNeighbours(const K* keys, size_t n) {
 
 template <class K> inline constexpr size_t kMostSample = std::min<size_t>(63, kNetworkKeys<K> - 1);
 
-// Keys from all over x, as `in` maps them, in order. How many: from 4096 on 63; below that 15, or where a row has 8 lanes or
-// more, the medians of nine rows lane by lane, which need no gathering: 10^5 random keys take 0.91 of the time. Of three rows,
-// elements that were in order take 1.4 times as long: what lies side by side is then alike.
+// Keys from all over x, as `in` maps them, in order: 15, or from 4096 keys on 63. How many.
 template <class K> size_t takeSample(const K* x, size_t n, KeyMap<K> in, K (&sample)[kMostSample<K>]) {
-  uint32_t random = static_cast<uint32_t>(n);
-  // A fixed place in each stretch would meet whatever has its period.
-  const auto placeIn = [&](size_t stretch) {
-    random = random * 1664525 + 1013904223;
-    return uint64_t{random} * stretch >> 32;
-  };
-  constexpr size_t N = kRowLanes<K>;
-  if (N >= 8 && n >= 9 * N && n < 4096) {
-    const Lanes<K, N> d;
-    const size_t stretch = n / 9;
-    const auto row = [&](size_t i) { return in.keys(load(d, x + i * stretch + placeIn(stretch - N + 1))); };
-    const auto medianOf = [](auto a, auto b, auto c) {
-      const auto some = detail::ordered(a, b);
-      return detail::ordered(some.least, detail::ordered(some.most, c).least).most;
-    };
-    const auto medianFrom = [&](size_t i) { return medianOf(row(i), row(i + 3), row(i + 6)); };
-    store(medianOf(medianFrom(0), medianFrom(1), medianFrom(2)), d, sample);
-    sortByNetwork(sample, N, {}, {});
-    return N;
-  }
   const size_t count = n < 4096 ? 15 : kMostSample<K>;
   const size_t stretch = n / count;
-  for (size_t i = 0; i < count; ++i) sample[i] = in.key(x[i * stretch + placeIn(stretch)]);
+  uint32_t random = static_cast<uint32_t>(n);
+  for (size_t i = 0; i < count; ++i) {
+    random = random * 1664525 + 1013904223;  // a fixed place in each stretch would meet whatever has its period
+    sample[i] = in.key(x[i * stretch + (uint64_t{random} * stretch >> 32)]);
+  }
   sortByNetwork(sample, count, {}, {});
   return count;
 }
 
 // The median of a sample, which of 63 keys is within 6 % of the middle in two of three vectors; and what x has often.
 template <class K> [[gnu::noinline]] K pivotOf(const K* x, size_t n, KeyMap<K> in, Often<K>& often) {
-  alignas(64) K sample[kMostSample<K>];
+  K sample[kMostSample<K>];
   const size_t count = takeSample(x, n, in, sample);
   often.count = 0;
   // Half of the sample in pairs are as many equal neighbours as a quarter of it.

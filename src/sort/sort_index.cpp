@@ -54,7 +54,7 @@ template <Order kOrder, class T> bool sortDifferent(T* x, int32_t* places, size_
 // Where a sample has equal keys, there is no need to sort the rest.
 template <class K> [[gnu::noinline]] bool hasEqualSample(const K* x, size_t n, KeyMap<K> map) {
   if (n < 2 * kNetworkKeys<K>) return false;
-  alignas(64) K sample[kMostSample<K>];
+  K sample[kMostSample<K>];
   return equalNeighbours(sample, takeSample(x, n, map, sample)) > 0;
 }
 
