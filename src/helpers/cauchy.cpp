@@ -63,7 +63,8 @@ struct NearHalfLogarithm {
     const V u = t * t;
     const V uRest = hn::MulAdd(t + t, tRest, hn::MulSub(t, t, u));
     const V w = one + u;
-    const V rest = hn::Min(u, one) - (w - hn::Max(u, one)) + uRest;
+    // w - 1 is exact up to 2^24; beyond, the rest is less than the logarithm's last place.
+    const V rest = (u - (w - one)) + uRest;
     const V near = hn::ApproximateReciprocal(w);  // 14 bits: too few where the logarithm is hardly more than the rest
     const V slope = hn::MulAdd(near, hn::NegMulAdd(near, w, one), near);
     const V y = hn::MulAdd(rest, slope, ln(w)) * same<V>(0.5F);
@@ -84,20 +85,24 @@ struct Derivative {
   }
 };
 
-// The same in floats. The sum is off by 1 ULP at most, the quotient by 0.6 more.
-struct NearDerivative {
-  float square;
+// The same in floats. The rounding of the sum counts for 1 ULP of the quotient at most; the rounding of C^2 would count for as
+// much, and is part of the remainder that corrects the quotient, which adds 0.6 ULP.
+template <bool kExactSquare> struct NearDerivative {
+  float square, squareRest;  // their sum is C^2
+  double wide;               // C^2
 
   template <class V> V operator()(V x) const {
     const V s = hn::MulAdd(x, x, same<V>(square));
     const V near = hn::ApproximateReciprocal(s);
     const V r = hn::MulAdd(near, hn::NegMulAdd(near, s, same<V>(1)), near);
     const V quotient = x * r;
-    const V y = hn::MulAdd(hn::NegMulAdd(quotient, s, x), r, quotient);
+    V remainder = hn::NegMulAdd(quotient, s, x);
+    if (!kExactSquare) remainder = hn::NegMulAdd(quotient, same<V>(squareRest), remainder);
+    const V y = hn::MulAdd(remainder, r, quotient);
     const uint64_t far = maskBits(TagOf<V>(), hn::Not(s < same<V>(kMostNear)));
     if (HWY_LIKELY(far == 0)) return y;
     return redone(
-        far, y, [c2 = double{square}](float v) { return static_cast<float>(v / (c2 + double{v} * v)); }, x);
+        far, y, [c2 = wide](float v) { return static_cast<float>(v / (c2 + double{v} * v)); }, x);
   }
 };
 
@@ -148,8 +153,14 @@ QvxStatus qvxsCauchy_32f_I(Qvx32f* p, int len, Qvx32f c) {
 QvxStatus qvxsCauchyD_32f_I(Qvx32f* p, int len, Qvx32f c) {
   const QvxStatus status = checked(p, p, len, c);
   if (status != qvxStatOk) return status;
-  if (isNear(c)) return loop(NearDerivative{c * c}, destination(p), elements(len), source(p));
-  return loop<double>(Derivative{squareOf(c)}, destination(p), elements(len), source(p));
+  const double square = squareOf(c);
+  if (isNear(c)) {
+    const auto high = static_cast<float>(square);
+    const auto rest = static_cast<float>(square - high);
+    if (rest == 0) return loop(NearDerivative<true>{high, rest, square}, destination(p), elements(len), source(p));
+    return loop(NearDerivative<false>{high, rest, square}, destination(p), elements(len), source(p));
+  }
+  return loop<double>(Derivative{square}, destination(p), elements(len), source(p));
 }
 
 QvxStatus qvxsCauchyDD2_32f_I(Qvx32f* p, Qvx32f* second, int len, Qvx32f c) {

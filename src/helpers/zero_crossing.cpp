@@ -3,6 +3,7 @@
 
 #include "frame/check.h"
 #include "frame/map.h"
+#include "frame/unroll.h"
 
 using namespace qvx;
 
@@ -22,23 +23,30 @@ template <class V> Sides sidesOf(V v) {
   const V zero = hn::Zero(d);
   return {maskBits(d, v < zero), maskBits(d, v > zero)};
 }
-// By sign bits, but for zeros.
+// By sign bits, but for zeros: a negative float has more than the sign bit.
 template <class V> Sides signsOf(V v) {
-  const TagOf<V> d;
-  const auto isNegative = hn::MaskFromVec(
-      hn::BitCast(d, hn::BroadcastSignBit(hn::BitCast(hn::RebindToSigned<TagOf<V>>(), hn::IfThenZeroElse(v == hn::Zero(d), v)))));
-  return {maskBits(d, isNegative), 0};
+  if constexpr (std::is_integral_v<LaneOf<V>>) {
+    return {maskBits(TagOf<V>(), v < hn::Zero(TagOf<V>())), 0};
+  } else {
+    const auto bits = as<uint32_t>(v);
+    using U = std::remove_const_t<decltype(bits)>;
+    return {maskBits(TagOf<U>(), bits > same<U>(0x80000000)), 0};
+  }
 }
 
 template <bool kSigns, class T> Sides sidesOfWord(const T* p, size_t n) {
   constexpr size_t N = kVectorBytes / sizeof(T);
   const Lanes<T, N> d;
   Sides all;
-  for (size_t k = 0; k < kWord / N && k * N < n; ++k) {
-    const auto v = n - k * N >= N ? load(d, p + k * N) : loadFirst(d, p + k * N, n - k * N);
+  const auto add = [&](auto v, size_t at) __attribute__((always_inline)) {
     const Sides s = kSigns ? signsOf(v) : sidesOf(v);
-    all.below |= s.below << k * N;
-    all.above |= s.above << k * N;
+    all.below |= s.below << at;
+    all.above |= s.above << at;
+  };
+  if (n >= kWord) {
+    unrolled<kWord / N>([&](auto k) __attribute__((always_inline)) { add(load(d, p + k * N), k * N); });
+  } else {
+    for (size_t at = 0; at < n; at += N) add(n - at >= N ? load(d, p + at) : loadFirst(d, p + at, n - at), at);
   }
   return all;
 }
@@ -48,7 +56,7 @@ template <bool kSigns, class T, class Changes> int64_t countChanges(const T* p, 
   int64_t count = 0;
   Sides last;  // the bit of the last element, as the lowest
   for (size_t at = 0; at < n; at += kWord) {
-    const Sides now = sidesOfWord<kSigns>(p + at, std::min(kWord, n - at));
+    const Sides now = sidesOfWord<kSigns>(p + at, n - at);
     const Sides before = {now.below << 1 | last.below, now.above << 1 | last.above};
     uint64_t pairs = n - at < kWord ? (uint64_t{1} << (n - at)) - 1 : ~uint64_t{0};
     if (at == 0) pairs &= ~uint64_t{1};

@@ -29,10 +29,16 @@ constexpr int kValues = 256;
 }
 
 void sortFewBytes(int8_t* x, size_t n, KeyMap<int8_t> map) {
+  constexpr size_t N = kVectorBytes / sizeof(int16_t);
+  const Lanes<int16_t, N> d;
+  const Lanes<int8_t, N> bytes;
   int16_t wide[kNetworkKeys<int16_t>];
-  for (size_t i = 0; i < n; ++i) wide[i] = map.key(x[i]);
+  const size_t whole = n / N * N;
+  for (size_t i = 0; i < whole; i += N) store(hn::PromoteTo(d, map.keys(load(bytes, x + i))), d, wide + i);
+  if (whole < n) store(hn::PromoteTo(d, map.keys(loadFirst(bytes, x + whole, n - whole))), d, wide + whole);
   sortByNetwork(wide, n, {}, {});
-  for (size_t i = 0; i < n; ++i) x[i] = map.original(static_cast<int8_t>(wide[i]));
+  for (size_t i = 0; i < whole; i += N) store(map.originals(hn::DemoteTo(bytes, load(d, wide + i))), bytes, x + i);
+  if (whole < n) storeFirst(map.originals(hn::DemoteTo(bytes, load(d, wide + whole))), bytes, x + whole, n - whole);
 }
 
 }  // namespace

@@ -17,9 +17,11 @@ long double cauchy(long double x, long double c) { return std::log1p(x / c * (x 
 long double first(long double x, long double c) { return x / (c * c + x * x); }
 long double second(long double x, long double c) { return (c - x) * (c + x) / ((c * c + x * x) * (c * c + x * x)); }
 
-// All magnitudes of a float, and those around C, where the second derivative passes zero.
+// All magnitudes of a float, and those around C, where the second derivative passes zero. And one that, with C = 0x1.000f5ap+0,
+// tells whether C^2 was rounded to a float.
 std::vector<Qvx32f> arguments(Qvx32f c, Random& random) {
-  std::vector<Qvx32f> x = {0.0F, -0.0F, c, -c, std::nextafter(c, 0.0F), std::nextafter(c, INFINITY), 3.4e38F, -3.4e38F, 1e-45F};
+  std::vector<Qvx32f> x = {0.0F,   -0.0F,          c, -c, std::nextafter(c, 0.0F), std::nextafter(c, INFINITY), 3.4e38F, -3.4e38F,
+                           1e-45F, 0x1.fbf0f4p-10F};
   for (int i = 0; i < 4000; ++i) {
     const auto any = std::bit_cast<Qvx32f>(static_cast<uint32_t>(random()));
     if (std::isfinite(any)) x.push_back(any);
@@ -33,7 +35,7 @@ std::vector<Qvx32f> arguments(Qvx32f c, Random& random) {
 TEST(Cauchy, IsWithinTwoUlp) {
   Random random(tests::seed());
   double worst[4] = {};
-  for (const Qvx32f c : {1.0F, 0.37F, 2.3849F, 1e-3F, 1e19F, 1e20F, 3.4e38F, 1e-19F, 1e-23F, 1e-38F, 1e-45F}) {
+  for (const Qvx32f c : {1.0F, 0.37F, 2.3849F, 0x1.000f5ap+0F, 1e-3F, 1e19F, 1e20F, 3.4e38F, 1e-19F, 1e-23F, 1e-38F, 1e-45F}) {
     const auto x = arguments(c, random);
     const auto n = static_cast<int>(x.size());
     std::vector<Qvx32f> y = x, d = x, e = x, dd(x.size());

@@ -11,10 +11,10 @@
 
 namespace tests {
 
-enum class Pattern { kRandom, kWide, kFew, kOne, kSorted, kReversed, kSaw, kPipe, kKiller, kExtremes, kNarrow };
-inline constexpr Pattern kPatterns[] = {Pattern::kRandom, Pattern::kWide,     Pattern::kFew,   Pattern::kOne,
-                                        Pattern::kSorted, Pattern::kReversed, Pattern::kSaw,   Pattern::kPipe,
-                                        Pattern::kKiller, Pattern::kExtremes, Pattern::kNarrow};
+enum class Pattern { kRandom, kWide, kFew, kMostlyFew, kOne, kSorted, kReversed, kSaw, kPipe, kKiller, kExtremes, kNarrow };
+inline constexpr Pattern kPatterns[] = {Pattern::kRandom, Pattern::kWide,   Pattern::kFew,      Pattern::kMostlyFew,
+                                        Pattern::kOne,    Pattern::kSorted, Pattern::kReversed, Pattern::kSaw,
+                                        Pattern::kPipe,   Pattern::kKiller, Pattern::kExtremes, Pattern::kNarrow};
 
 template <class T> T ofBits(uint64_t bits) {
   T x;
@@ -33,6 +33,9 @@ template <class T> std::vector<T> vectorOf(Pattern pattern, size_t n, Random& ra
     switch (pattern) {
       case Pattern::kFew:
         x[i] = static_cast<T>(r % 3);
+        break;
+      case Pattern::kMostlyFew:
+        x[i] = r % 10 == 0 ? ofBits<T>(random()) : static_cast<T>(r % 3 + 7);
         break;
       case Pattern::kOne:
         x[i] = static_cast<T>(77);
