@@ -39,7 +39,7 @@ template <class T> Function unary(const char* name, int threshold, QvxStatus (*f
 }
 
 Function transform() {
-  return {"FFTFwd_CToC_32fc", 1 << 14, [](int length) -> Call {
+  return {"FFTFwd_CToC_32fc", 1 << 16, [](int length) -> Call {
             int order = 0;
             while (2 << order <= length) ++order;
             QvxsFFTSpec_C_32fc* made = nullptr;
@@ -52,7 +52,7 @@ Function transform() {
 }
 
 Function filter() {
-  return {"FIR_32f, 500 taps", 1 << 14, [](int length) -> Call {
+  return {"FIR_32f, 500 taps", 1 << 15, [](int length) -> Call {
             QvxsFIRState_32f* made = nullptr;
             const auto taps = vectorOf(500, 0.01F);
             qvxsFIRInitAlloc_32f(&made, taps.get(), 500, nullptr);
@@ -65,7 +65,7 @@ Function filter() {
 
 std::vector<Function> functions() {
   return {unary<Qvx64fc>("Sqrt_64fc", 4096, qvxsSqrt_64fc, {-3, 4}), unary<Qvx64f>("Sqrt_64f", 8192, qvxsSqrt_64f, 2.0),
-          unary<Qvx32f>("Sqrt_32f", 16384, qvxsSqrt_32f, 2.0F), transform(), filter()};
+          unary<Qvx32f>("Sqrt_32f", 32768, qvxsSqrt_32f, 2.0F), transform(), filter()};
 }
 
 // Programs that do nothing but turn.

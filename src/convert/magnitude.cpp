@@ -62,8 +62,8 @@ struct Magnitude32Complex {
   }
 };
 
-constexpr TeamRule kMagnitude32f = {.worthIt = 16384};
-constexpr TeamRule kMagnitude32fc = {.worthIt = 16384};
+constexpr TeamRule kMagnitude32f = {.worthIt = 32768};
+constexpr TeamRule kMagnitude32fc = {.worthIt = 32768};
 constexpr TeamRule kMagnitude64 = {.worthIt = 8192};
 constexpr TeamRule kMagnitude16sc32f = {.worthIt = 16384};
 constexpr TeamRule kMagnitude16 = {.worthIt = 16384};

@@ -176,7 +176,7 @@ template <Lengths kLengths, class T> QvxStatus complexInverse(const T* src, T* d
   }
 }
 
-constexpr Lengths k32f = {8192, {.worthIt = 16384}};
+constexpr Lengths k32f = {8192, {.worthIt = 32768}};
 constexpr Lengths k64f = {2048, {.worthIt = 16384}};
 constexpr Lengths k32fc = {2048, {.worthIt = 8192}};
 constexpr Lengths k64fc = {512, {.worthIt = 8192}};

@@ -10,7 +10,7 @@ namespace qvx::convolution {
 
 // Samples from which the blocks of a call are divided between threads, each with buffers of its own. A block is done at 1 to 2 ns
 // a sample, and forking costs up to 5 us.
-inline constexpr size_t kBlocksWorthTeam = 16384;
+inline constexpr size_t kBlocksWorthTeam = 32768;
 
 // A filter as the spectrum of its taps, and the buffers of `threads` threads.
 template <class C> struct SpectralFilter {

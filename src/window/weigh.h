@@ -21,7 +21,7 @@ template <class T> QvxStatus checkWindow(const T* src, const T* dst, int len) {
 // In what the weights of an element are made.
 template <class T> using Weight = std::conditional_t<std::is_same_v<Part<T>, Qvx64f>, Qvx64f, Qvx32f>;
 
-// Weights from the last before `end` to the first. What stands before them may be read.
+// Weights from the last before `end` to the first. What stands before them is read, where there are fewer than lanes.
 template <class T> struct Mirrored {
   using Lane = T;
   const T* end;
@@ -61,6 +61,7 @@ template <class T, class Fill> void weigh(const T* src, T* dst, size_t len, Qvx3
   constexpr size_t kParts = PartsOf<T>::kCount;
   alignas(64) W memory[kChunk + 2 * kPadding];
   W* const w = memory + kPadding;
+  std::fill_n(memory, kPadding, W{});  // what mirrored vectors hold beside fewer elements than they have lanes
   const Weighed<T> kernel{factor};
   const size_t half = len / 2;
   for (size_t from = 0; from < half; from += kChunk) {

@@ -1,6 +1,5 @@
 // The library as a guest in other people's processes: ones that fork, load and unload it, have no thread to give, or many of
 // their own.
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <omp.h>
 #include <pthread.h>
@@ -15,27 +14,13 @@
 #include <thread>
 #include <vector>
 
+#include "support/no_threads.h"
 #include "support/sanitizer.h"
 
 namespace {
 
-std::atomic<bool> refuseThreads{false};
-std::atomic<int> threadsMade{0};
-
-}  // namespace
-
-extern "C" __attribute__((visibility("default"))) int pthread_create(pthread_t* thread, const pthread_attr_t* attributes,
-                                                                     void* (*run)(void*), void* argument) {
-  // A sanitizer's own stands in for the C library's, and has to know of every thread.
-  static void* const sanitizers = dlsym(RTLD_DEFAULT, "__interceptor_pthread_create");
-  static void* const next = sanitizers != nullptr ? sanitizers : dlsym(RTLD_NEXT, "pthread_create");
-  static const auto make = reinterpret_cast<decltype(&pthread_create)>(next);
-  if (refuseThreads) return EAGAIN;
-  ++threadsMade;
-  return make(thread, attributes, run, argument);
-}
-
-namespace {
+using tests::refuseThreads;
+using tests::threadsMade;
 
 constexpr int kLength = 1 << 15;
 

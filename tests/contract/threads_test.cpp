@@ -3,11 +3,15 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <atomic>
 #include <cfenv>
 #include <thread>
 
 #include "support/any_call.h"
+#include "support/no_threads.h"
 
 // The library's way to its team, counted.
 namespace {
@@ -63,9 +67,9 @@ const Divided kDivided[] = {
     {"qvxsDiv_Round_16s_Sfs", 32768, kZero, "pSrc1", 0}, {"qvxsDiv_Round_16s_ISfs", 32768, kZero, "pSrc", 0},
     {"qvxsDivC_8u_Sfs", 65536}, {"qvxsDivC_16s_Sfs", 65536}, {"qvxsDivC_16sc_Sfs", 16384},
     {"qvxsDivCRev_16u", 65536, kZero, "pSrc", 0}, {"qvxsDivCRev_32f", 65536, kZero, "pSrc", 0},
-    {"qvxsThreshold_LTInv_32f", 16384}, {"qvxsThreshold_LTInv_64f", 16384},
+    {"qvxsThreshold_LTInv_32f", 32768}, {"qvxsThreshold_LTInv_64f", 16384},
     {"qvxsThreshold_LTInv_32fc", 8192}, {"qvxsThreshold_LTInv_64fc", 8192},
-    {"qvxsMagnitude_32f", 16384}, {"qvxsMagnitude_64f", 8192}, {"qvxsMagnitude_32fc", 16384}, {"qvxsMagnitude_64fc", 8192},
+    {"qvxsMagnitude_32f", 32768}, {"qvxsMagnitude_64f", 8192}, {"qvxsMagnitude_32fc", 32768}, {"qvxsMagnitude_64fc", 8192},
     {"qvxsMagnitude_16sc32f", 16384}, {"qvxsMagnitude_16s32f", 16384}, {"qvxsMagnitude_16s_Sfs", 16384},
     {"qvxsMagnitude_16sc_Sfs", 16384}, {"qvxsMagnitude_32sc_Sfs", 8192},
     {"qvxsSortRadixAscend_32s_I", 16384}, {"qvxsSortRadixDescend_32s_I", 16384},
@@ -166,6 +170,62 @@ TEST(AnyFunction, GivesTheSame) {
       expectSame(e, {2, 5}, 20011, nullptr, seed);
     }
   }
+}
+
+// In a child, which has none of its parent's threads and can make none, work() gives what it gave with one thread alone; and it
+// asked for a thread.
+template <class Work> bool worksWithoutThreads(Work work) {
+  qvxSetNumThreads(1);
+  const auto alone = work();
+  qvxSetNumThreads(2);
+  const pid_t child = fork();
+  if (child == 0) {
+    tests::refuseThreads = true;
+    _exit(work() == alone && tests::threadsRefused > 0 ? 0 : 1);
+  }
+  int status = -1;
+  return waitpid(child, &status, 0) == child && status == 0;
+}
+
+TEST(AnyFunction, WorksWithoutThreads) {
+  if (tests::isSanitized()) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
+  size_t count = 0;
+  for (const Export& e : tests::exportTable()) {
+    if (!e.call || tests::traitsOf(e).is("threads")) continue;
+    const bool isLong = std::any_of(std::begin(kDivided), std::end(kDivided), [&](const Divided& d) { return d.name == e.name; });
+    const auto work = [&] { return outcome(e, isLong ? kLong : 20011); };
+    qvxSetNumThreads(2);
+    teamCalls = 0;
+    work();
+    if (teamCalls == 0) continue;
+    ++count;
+    EXPECT_TRUE(worksWithoutThreads(work)) << e.name;
+  }
+  EXPECT_GT(count, std::size(kDivided));
+  qvxSetNumThreads(0);
+}
+
+// Transforms, whose orders are beyond those that are drawn.
+template <class T, class Spec>
+void expectWithoutThreads(int order, QvxStatus (*make)(Spec**, int, int, int),
+                          QvxStatus (*run)(const T*, T*, const Spec*, Qvx8u*), QvxStatus (*release)(Spec*)) {
+  EXPECT_TRUE(worksWithoutThreads([=] {
+    std::vector<uint8_t> x(sizeof(T) << order, 0x3C), y(x.size());
+    Spec* spec = nullptr;
+    EXPECT_EQ(make(&spec, order, QVX_FFT_SCALE_NONE, 0), qvxStatOk);
+    EXPECT_EQ(run(reinterpret_cast<T*>(x.data()), reinterpret_cast<T*>(y.data()), spec, nullptr), qvxStatOk);
+    release(spec);
+    return y;
+  }));
+  qvxSetNumThreads(0);
+}
+
+TEST(LongTransform, WorksWithoutThreads) {
+  if (tests::isSanitized()) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
+  expectWithoutThreads(17, qvxsFFTInitAlloc_C_32fc, qvxsFFTFwd_CToC_32fc, qvxsFFTFree_C_32fc);
+  expectWithoutThreads(16, qvxsFFTInitAlloc_C_64fc, qvxsFFTInv_CToC_64fc, qvxsFFTFree_C_64fc);
+  expectWithoutThreads(17, qvxsFFTInitAlloc_R_32f, qvxsFFTFwd_RToPerm_32f, qvxsFFTFree_R_32f);
+  expectWithoutThreads(16, qvxsFFTInitAlloc_R_64f, qvxsFFTInv_PermToR_64f, qvxsFFTFree_R_64f);
 }
 
 std::string nameOf(const testing::TestParamInfo<Divided>& info) { return info.param.name; }
