@@ -132,27 +132,26 @@ template <class T, size_t N, size_t kReach> class Late {
  public:
   using V = Vec<Lanes<T, N>>;
   void put(V v, T* to) {
-    if (count_ == kLate) storeFirst();
-    held_[count_] = v;
-    to_[count_++] = to;
-  }
-  void finish() {
-    while (count_ > 0) storeFirst();
-  }
-
- private:
-  static constexpr size_t kLate = (kReach + N - 1) / N;
-  void storeFirst() {
-    store(held_[0], Lanes<T, N>(), to_[0]);
-    --count_;
+    storeIfAny(0);
     for (size_t k = 0; k + 1 < kLate; ++k) {
       held_[k] = held_[k + 1];
       to_[k] = to_[k + 1];
     }
+    held_[kLate - 1] = v;
+    to_[kLate - 1] = to;
   }
-  size_t count_ = 0;
+  void finish() {
+    for (size_t k = 0; k < kLate; ++k) storeIfAny(k);
+  }
+
+ private:
+  static constexpr size_t kLate = (kReach + N - 1) / N;
+  void storeIfAny(size_t k) const {
+    if (to_[k] != nullptr) [[likely]]
+      store(held_[k], Lanes<T, N>(), to_[k]);
+  }
   V held_[kLate];
-  T* to_[kLate];
+  T* to_[kLate] = {};
 };
 
 template <class Network, class T> class Inside {
