@@ -2,6 +2,7 @@
 
 import gc
 import math
+import os
 import pathlib
 import subprocess
 import sys
@@ -324,7 +325,8 @@ class Interpreter(unittest.TestCase):
         before = resident()
         for _ in range(8000):  # 1.4 * 10^5 calls
             once()
-        self.assertLess(resident() - before, 1 << 20)
+        if "asan" not in os.environ.get("LD_PRELOAD", ""):  # the address sanitizer keeps what was freed for a while
+            self.assertLess(resident() - before, 1 << 20)
         np.testing.assert_allclose([sys.getrefcount(x) for x in (a, pair, joined, None)], references, atol=50)
 
 
