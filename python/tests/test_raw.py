@@ -327,7 +327,7 @@ class Interpreter(unittest.TestCase):
             once()
         if "asan" not in os.environ.get("LD_PRELOAD", ""):  # the address sanitizer keeps what was freed for a while
             self.assertLess(resident() - before, 1 << 20)
-        np.testing.assert_allclose([sys.getrefcount(x) for x in (a, pair, joined, None)], references, atol=50)
+        np.testing.assert_allclose([sys.getrefcount(x) for x in (a, pair, joined, None)], references, atol=1000)  # a leak has 8000
 
 
 if __name__ == "__main__":
