@@ -1,4 +1,4 @@
-"""Arrays between unreadable pages, and calls of any export drawn from a seed."""
+"""Noise, arrays between unreadable pages, and calls of any export drawn from a seed."""
 
 import ctypes
 import math
@@ -16,6 +16,15 @@ LIBC = ctypes.CDLL(None, use_errno=True)
 DTYPES = {"8u": "u1", "8s": "i1", "16u": "u2", "16s": "i2", "32u": "u4", "32s": "i4", "64u": "u8", "64s": "i8", "16f": "f2", "32f": "f4",
           "64f": "f8", "32fc": "c8", "64fc": "c16", "8sc": "i1", "16sc": "i2", "32sc": "i4", "64sc": "i8"}
 PAIRS = ("8sc", "16sc", "32sc", "64sc")
+
+
+def noise(shape, dtype, seed=1):
+    rng = np.random.default_rng(seed)
+    dtype = np.dtype(dtype)
+    if dtype.kind in "iu":
+        return rng.integers(np.iinfo(dtype).min, np.iinfo(dtype).max, shape, dtype, endpoint=True)
+    x = rng.standard_normal(shape)
+    return (x + 1j * rng.standard_normal(shape) if dtype.kind == "c" else x).astype(dtype)
 
 
 class Memory:

@@ -11,6 +11,7 @@ import pytest
 
 import qvxs
 from qvxs import raw, spectra
+from support import noise
 
 # Stems that the upper level leaves to qvxs.raw, by pattern.
 LEFT = {
@@ -47,15 +48,6 @@ def test_every_stem_is_reached():
     patterns = [pattern for listed in LEFT.values() for pattern in listed]
     assert [name for name in sorted(missing) if not any(fnmatch.fnmatchcase(name, pattern) for pattern in patterns)] == []
     assert [pattern for pattern in patterns if not any(fnmatch.fnmatchcase(name, pattern) for name in missing)] == []
-
-
-def noise(shape, dtype, seed=1):
-    rng = np.random.default_rng(seed)
-    dtype = np.dtype(dtype)
-    if dtype.kind in "iu":
-        return rng.integers(np.iinfo(dtype).min, np.iinfo(dtype).max, shape, dtype, endpoint=True)
-    x = rng.standard_normal(shape)
-    return (x + 1j * rng.standard_normal(shape) if dtype.kind == "c" else x).astype(dtype)
 
 
 def close(ours, theirs, dtype="f"):

@@ -9,19 +9,11 @@ import pytest
 
 import qvxs
 import qvxs.signal
+from support import noise
 
 LENGTHS = (1, 2, 7, 16, 33, 1000)
 INTEGERS = (np.uint8, np.int16, np.uint16, np.int32)
 FLOATS = (np.float32, np.float64, np.complex64, np.complex128)
-
-
-def noise(shape, dtype, seed=1):
-    rng = np.random.default_rng(seed)
-    dtype = np.dtype(dtype)
-    if dtype.kind in "iu":
-        return rng.integers(np.iinfo(dtype).min, np.iinfo(dtype).max, shape, dtype, endpoint=True)
-    x = rng.standard_normal(shape)
-    return (x + 1j * rng.standard_normal(shape) if dtype.kind == "c" else x).astype(dtype)
 
 
 def scaled(exact, scale, dtype):
