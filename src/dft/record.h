@@ -78,6 +78,7 @@ QvxStatus interleavedTransform(const C* src, C* dst, const Record* spec, Qvx8u* 
   using F = Fft<typename Record::T>;
   const QvxStatus status = checkSpec(spec);
   if (status != qvxStatOk) return status;
+  // By jumps: the fast transform tests the vectors itself.
   if (spec->plan.way == Way::kFft && spec->needed <= spec->workSize)
     return (kInverse ? F::kInverse : F::kForward)(src, dst, spec->plan.fft, pBuffer);
   if (isNull(src) || isNull(dst)) return qvxStatNullPtr;
