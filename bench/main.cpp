@@ -1,6 +1,7 @@
 // All exports whose name contains a filter, as a table on the screen; or one family into a file, and such files into a page.
 #include <CLI/CLI.hpp>
 #include <chrono>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -9,6 +10,7 @@
 #include "frame/families.h"
 #include "frame/page.h"
 #include "frame/runner.h"
+#include "peers/volk.h"
 
 namespace {
 
@@ -46,36 +48,60 @@ int measure(const std::string& filter) {
   return mismatches;
 }
 
-int measureFamily(const std::string& name, const std::string& filter, const std::string& output) {
+int measureFamily(const std::string& name, const std::string& filter, bool brief, const std::string& output) {
   bench::Suite suite;
   for (const bench::Family& family : bench::kFamilies) {
     if (family.name == name) family.rows(suite);
   }
   suite.keepPeers();
+  if (brief) suite.keepBrief();
+  const bench::Effort& effort = brief ? bench::kBrief : bench::kThorough;
   const auto start = std::chrono::steady_clock::now();
   bench::Report report;
-  const int mismatches = bench::run(suite, std::regex(filter), report);
+  const int mismatches = bench::run(suite, std::regex(filter), report, effort);
   bench::Piece piece{bench::environment(), report.measurements()};
   for (bench::Measurement& m : piece.measurements) m.family = name;
   const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+  piece.context.emplace_back("Of a call", std::to_string(effort.repetitions) + " times " +
+                                              std::to_string(std::lround(1e3 * effort.seconds)) +
+                                              " ms; twice as often or more where a peer seems ahead");
   piece.context.emplace_back("Date", today());
   piece.context.emplace_back("Seconds", std::to_string(taken.count()));
   if (mismatches == 0) replace(output, [&](std::ostream& out) { bench::write(out, piece); });
   return mismatches;
 }
 
+bench::Face bestFace() {
+  return {"Performance", "The other variants beside peers of their level: [AVX2](performance-w3.md), [SSSE3](performance-u8.md)."};
+}
+
+// The page of a variant that is not the processor's best.
+bench::Face briefFace() {
+  const bool avx2 = std::string(QVXS_BENCH_VARIANT) == "w3";
+  return {std::string("Performance under ") + (avx2 ? "AVX2" : "SSSE3"),
+          std::string("Variant " QVXS_BENCH_VARIANT
+                      ", beside peers that are held to the same instructions: plain loops are compiled for ") +
+              (avx2 ? "x86-64-v3" : "SSSE3") + ", FFTW is " +
+              (avx2 ? "the packaged one and one built with AVX2" : "one built with SSE2 alone, in place of the packaged one") +
+              ", SLEEF, VOLK and VQSort are kept from choosing higher ones, and so is the C library. "
+              "[performance.md](performance.md) "
+              "has the best variant of the same processor.",
+          "performance/" QVXS_BENCH_VARIANT ".tsv", false};
+}
+
 // In the order of the families; those without a file in the folder are left out.
-void page(const std::string& folder, const std::string& output) {
+void page(const std::string& folder, bool brief, const std::string& output) {
   std::vector<bench::Piece> pieces;
   for (const bench::Family& family : bench::kFamilies) {
     std::ifstream in(std::filesystem::path(folder) / (std::string(family.name) + ".tsv"));
     if (in) pieces.push_back(bench::read(in, family.name));
   }
   const bench::Piece all = bench::joined(pieces);
-  const std::filesystem::path beside = std::filesystem::path(output).replace_extension();
-  std::filesystem::create_directories(beside);
-  replace(output, [&](std::ostream& out) { bench::writePage(out, all, bench::kSections); });
-  replace(beside / "measurements.tsv", [&](std::ostream& out) { bench::write(out, all); });
+  const bench::Face face = brief ? briefFace() : bestFace();
+  const std::filesystem::path measurements = std::filesystem::path(output).replace_filename(face.measurements);
+  std::filesystem::create_directories(measurements.parent_path());
+  replace(output, [&](std::ostream& out) { bench::writePage(out, all, bench::kSections, face); });
+  replace(measurements, [&](std::ostream& out) { bench::write(out, all); });
 }
 
 }  // namespace
@@ -84,10 +110,12 @@ int main(int argc, char** argv) {
   CLI::App app("Benchmarks beside peers.");
   std::string filter, family, folder, output;
   bool families = false;
+  bool brief = false;
   app.add_option("filter", filter, "a regular expression in the name");
   app.add_flag("--families", families, "list the families");
   app.add_option("--family", family, "measure one family beside its peers, into --output");
   app.add_option("--page", folder, "assemble a page, --output, of the families measured into this folder");
+  app.add_flag("--brief", brief, "fewer lengths and repetitions, and a page without plots");
   app.add_option("--output", output, "a file");
   CLI11_PARSE(app, argc, argv);
   if (families) {
@@ -96,11 +124,15 @@ int main(int argc, char** argv) {
   }
   try {
     if (!folder.empty()) {
-      page(folder, output);
+      page(folder, brief, output);
       return 0;
     }
+    if (std::string(qvxsGetLibVersion()->cpuTag) != QVXS_BENCH_VARIANT)
+      throw std::runtime_error("these peers are for variant " QVXS_BENCH_VARIANT ", the library is " +
+                               std::string(qvxsGetLibVersion()->cpuTag));
+    if (std::string(QVXS_BENCH_VARIANT) != "w4") volk::hold();
     initialize(argv[0]);
-    const int mismatches = family.empty() ? measure(filter) : measureFamily(family, filter, output);
+    const int mismatches = family.empty() ? measure(filter) : measureFamily(family, filter, brief, output);
     if (mismatches > 0) std::cerr << mismatches << " outputs differ from a peer's\n";
     return mismatches > 0 ? 1 : 0;
   } catch (const std::exception& error) {

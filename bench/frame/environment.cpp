@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -70,13 +71,12 @@ std::string packageVersion(const std::string& package) {
   return line.substr(0, line.find('\n'));
 }
 
-std::string variant() { return qvxsGetLibVersion()->cpuTag; }
-
-// "w4=-O2 -march=...|" stands among those of the other variants.
-std::string libraryFlags() {
-  const std::string all = QVXS_LIBRARY_FLAGS;
-  const size_t from = all.find(variant() + "=") + variant().size() + 1;
-  return all.substr(from, all.find('|', from) - from);
+// The packaged one, and where there is another, built by the bench.
+std::string builtFftw() {
+  if (std::getenv("QVXS_BUILT_FFTW") == nullptr) return "";
+  const bool highest = std::string(QVXS_BENCH_VARIANT) == "w4";
+  return std::string("; *built*: from the source package, for ") + (highest ? "this processor" : "AVX2") +
+         (highest ? "; *patient*: with FFTW_PATIENT" : "");
 }
 
 }  // namespace
@@ -87,13 +87,11 @@ Context environment() {
       {"Processors", std::to_string(sysconf(_SC_NPROCESSORS_ONLN))},
       {"Caches", caches()},
       {"System", system()},
-      {"Library", "variant " + variant() + " of version " + qvxsGetLibVersion()->verText},
-      {"Compiler", "GCC " __VERSION__ ", the library with " + libraryFlags()},
+      {"Library", std::string("variant " QVXS_BENCH_VARIANT " of version ") + qvxsGetLibVersion()->verText},
+      {"Compiler", "GCC " __VERSION__ ", the library with " QVXS_LIBRARY_FLAGS},
       {"Plain loops", QVXS_BENCH_FLAGS ", reductions and filters with -ffast-math, \"-Ofast\" with that"},
-      {"FFTW",
-       std::string(fftwf_version) +
-           ", planned with FFTW_MEASURE; *built*: from the source package, for this processor; *patient*: with FFTW_PATIENT"},
-      {"VOLK", std::string(volk_version()) + ", machine " + volk_get_machine()},
+      {"FFTW", std::string(fftwf_version) + ", planned with FFTW_MEASURE" + builtFftw()},
+      {"VOLK", std::string(volk_version()) + ", machine " + volk_get_machine() + ", kernels up to the level of the variant"},
       {"SLEEF", packageVersion("sleef") + ", functions of 1.0 ULP in the registers of the variant"},
       {"liquid-dsp", liquid_libversion()},
       {"kissfft", packageVersion("kissfft-float")},

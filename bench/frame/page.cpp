@@ -16,8 +16,7 @@ namespace {
 
 using Measurements = std::vector<Measurement>;
 
-constexpr const char* kHead = R"(# Performance
-
+constexpr const char* kHead = R"(
 Written by `./run bench --report`: each family in one run beside its peers. How to read such numbers, and how to make them, is in
 [HACKING.md](HACKING.md#read-a-benchmark).
 )";
@@ -33,21 +32,19 @@ shortest length of each function, where the cost of a call counts.
 )";
 
 constexpr const char* kHowMeasured = R"(
-A call is repeated until 8 ms have passed, and that five times, ours and the peers' in random order in one process, on the same
-data at the same addresses. The least of the five counts: what another process takes away only ever adds. Where a peer seems
-ahead, all of that cell are measured twice more, which is as good for the peer as for us. Results are compared before anything
-is timed: to the bit, or up to the roundings that an order of operations leaves open. One thread each.
+A call is repeated for the time above, several times over, ours and the peers' in random order in one process, on the same data at
+the same addresses. The least of these times counts: what another process takes away only ever adds. Where a peer seems ahead, all
+of that cell are measured again, which is as good for the peer as for us. Results are compared before anything is timed: to the
+bit, or up to the roundings that an order of operations leaves open. One thread each.
 
-A peer *plain* is the loop a user would write, compiled for this very processor with the flags above into the program itself, but
-not inlined. A call of ours passes the dynamic loader's jump, the library's own, and the tests of its arguments: at 16 elements
+A peer *plain* is the loop a user would write, compiled with the flags above into the program itself, but not inlined. A call of ours passes the dynamic loader's jump, the library's own, and the tests of its arguments: at 16 elements
 that is seen. VOLK, FFTW, SLEEF, liquid-dsp and kissfft are as Debian packages them. Some peers have an
 easier task: -Ofast and SLEEF differ in the last place, plain roots of 64-bit integers go through doubles, and plain thresholds of
 complex vectors compute in the type of the elements.
 
 Every table has our time of a call, what that comes to, and under it for each peer **its time over ours: above 1 we are
 faster**. Cells below 1 are bold. The sections show some functions; all that were measured are counted, and every comparison
-below 1 is listed at the end of its section. [measurements.tsv](performance/measurements.tsv) has all of them.
-)";
+below 1 is listed at the end of its section. )";
 
 // Two decimals are printed: below 1 is what is printed so.
 bool isBelow(double ratio) { return std::lround(100 * ratio) < 100; }
@@ -218,17 +215,21 @@ void cellsBelow(std::ostream& out, const Section& section, const Measurements& c
   out << "\n\n</details>\n";
 }
 
-void write(std::ostream& out, const Section& section, const Measurements& all) {
+void write(std::ostream& out, const Section& section, const Measurements& all, bool plots) {
   Measurements cells = ofFamilies(all, section.families);
+  std::vector<int> lengths = section.lengths;
+  std::erase_if(lengths,
+                [&](int n) { return std::none_of(cells.begin(), cells.end(), [=](const Measurement& m) { return m.n == n; }); });
   out << "\n## " << section.title << "\n";
   if (!section.text.empty()) out << "\n" << section.text << "\n";
-  for (const std::string& plot : section.plots) out << "\n![" << section.title << "](performance/" << plot << ".svg)\n";
+  for (const std::string& plot : plots ? section.plots : std::vector<std::string>())
+    out << "\n![" << section.title << "](performance/" << plot << ".svg)\n";
   out << "\n| | " << (section.transforms ? "N" : "n") << " = |";
-  for (const int n : section.lengths) out << " " << lengthOf(section, n) << " |";
+  for (const int n : lengths) out << " " << lengthOf(section, n) << " |";
   out << "\n|---|---|";
-  for (size_t i = 0; i < section.lengths.size(); ++i) out << "---:|";
+  for (size_t i = 0; i < lengths.size(); ++i) out << "---:|";
   out << "\n";
-  for (const std::string& name : section.exports) lines(out, cells, name, section.lengths);
+  for (const std::string& name : section.exports) lines(out, cells, name, lengths);
   // Cells of one peer stand together.
   std::stable_sort(cells.begin(), cells.end(), [](const Measurement& a, const Measurement& b) {
     return std::tie(a.family, a.name, a.peer) < std::tie(b.family, b.name, b.peer);
@@ -302,17 +303,19 @@ Piece joined(const std::vector<Piece>& pieces) {
   return all;
 }
 
-void writePage(std::ostream& out, const Piece& all, const std::vector<Section>& sections) {
+void writePage(std::ostream& out, const Piece& all, const std::vector<Section>& sections, const Face& face) {
   if (all.measurements.empty()) throw std::runtime_error("no measurements to make a page of");
   checkExports(all.measurements, sections);
   const std::vector<Section> present = withOthers(all.measurements, sections);
-  out << kHead;
+  out << "# " << face.title << "\n" << kHead;
+  if (!face.introduction.empty()) out << "\n" << face.introduction << "\n";
   summary(out, all.measurements, present);
   out << "\n## How it was measured\n\n";
   machine(out, all);
   out << kHowMeasured;
+  out << "[" << face.measurements.substr(face.measurements.rfind('/') + 1) << "](" << face.measurements << ") has all of them.\n";
   noise(out, all.measurements);
-  for (const Section& section : present) write(out, section, all.measurements);
+  for (const Section& section : present) write(out, section, all.measurements, face.plots);
 }
 
 }  // namespace bench

@@ -25,8 +25,16 @@ extern const std::vector<Section> kSections;
 // All pieces as one. They have to be of one machine and one variant.
 Piece joined(const std::vector<Piece>& pieces);
 
+// What tells the pages of variants apart.
+struct Face {
+  std::string title = "Performance";
+  std::string introduction;                                   // a paragraph
+  std::string measurements = "performance/measurements.tsv";  // beside the page
+  bool plots = true;
+};
+
 // A family that no section names gets one of its own, so that nothing measured is hidden; a section without measurements is left
 // out. An export that a section names and its families lack is an error.
-void writePage(std::ostream& out, const Piece& all, const std::vector<Section>& sections);
+void writePage(std::ostream& out, const Piece& all, const std::vector<Section>& sections, const Face& face = {});
 
 }  // namespace bench

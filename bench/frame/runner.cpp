@@ -9,13 +9,8 @@ namespace bench {
 
 namespace {
 
-// The minimum of 5 short runs: what another process takes away only ever adds.
-constexpr double kMinSeconds = 0.008;
-constexpr int kRepetitions = 5;
-// A cell that looks slower is measured again, all contenders of it alike: two looks once gave 0.54 where a quiet machine gives
-// 0.99.
+// A cell that looks slower is measured again, all contenders of it alike.
 constexpr double kWorthAnotherLook = 1.0;
-constexpr int kMostLooks = 3;
 
 // All repetitions of each contender.
 class Repetitions : public benchmark::BenchmarkReporter {
@@ -40,15 +35,15 @@ Timing timing(std::vector<double> repetitions) {
 }
 
 // The contenders take turns in random order.
-void measure(const Case& c, const Vectors& v, std::vector<std::vector<double>>& times) {
+void measure(const Case& c, const Vectors& v, const Effort& effort, std::vector<std::vector<double>>& times) {
   for (const Contender& contender : c.contenders) {
     benchmark::RegisterBenchmark(contender.peer.c_str(),
                                  [&](benchmark::State& state) {
                                    qvxSetNumThreads(contender.threads);
                                    contender.timed(state, v);
                                  })
-        ->MinTime(kMinSeconds)
-        ->Repetitions(kRepetitions)
+        ->MinTime(effort.seconds)
+        ->Repetitions(effort.repetitions)
         ->UseRealTime();
   }
   Repetitions repetitions(times, c.inRealTime);
@@ -56,12 +51,12 @@ void measure(const Case& c, const Vectors& v, std::vector<std::vector<double>>& 
   benchmark::ClearRegisteredBenchmarks();
 }
 
-Times measured(const Case& c, const Vectors& v) {
+Times measured(const Case& c, const Vectors& v, const Effort& effort) {
   std::vector<std::vector<double>> repetitions(c.contenders.size());
   Times times(c.contenders.size());
   const auto behind = [&](const Timing& t) { return t.ns / times[0].ns < kWorthAnotherLook; };
-  for (int look = 0; look == 0 || (look < kMostLooks && std::any_of(times.begin() + 1, times.end(), behind)); ++look) {
-    measure(c, v, repetitions);
+  for (int look = 0; look == 0 || (look < effort.looks && std::any_of(times.begin() + 1, times.end(), behind)); ++look) {
+    measure(c, v, effort, repetitions);
     std::transform(repetitions.begin(), repetitions.end(), times.begin(), timing);
   }
   return times;
@@ -87,7 +82,7 @@ bool agrees(const Case& c, const Contender& peer, const Vectors& v) {
 
 }  // namespace
 
-int run(const Suite& suite, const std::regex& filter, Report& report) {
+int run(const Suite& suite, const std::regex& filter, Report& report, const Effort& effort) {
   const Slabs slabs;
   int mismatches = 0;
   for (const Table table :
@@ -101,7 +96,7 @@ int run(const Suite& suite, const std::regex& filter, Report& report) {
       for (const int n : c.sizes) {
         const Vectors v{slabs, n, c.misaligned, c.overlap};
         for (size_t i = 1; i < c.contenders.size(); ++i) mismatches += !agrees(c, c.contenders[i], v);
-        bySize.push_back(measured(c, v));
+        bySize.push_back(measured(c, v, effort));
       }
       report.row(c, bySize);
     }

@@ -51,8 +51,7 @@ const std::vector<Section> kSections = {
       "MinMax_16s", "MaxAbs_16s", "Norm_Inf_32f", "Norm_L1_16s64s_Sfs", "Norm_L2_32f", "NormDiff_L2_32f"}},
     {"Fourier transforms",
      "Forward, without scaling; 5 N log2 N operations are counted for a complex transform and half of that for a real one. `_I` is in "
-     "place. Real spectra are in the layout of FFTW. *built*: from its source package for this processor; *patient*: so, planned with "
-     "FFTW_PATIENT. kissfft has floats only, and copies in place.",
+     "place. Real spectra are in the layout of FFTW. *built*: from its source package; *patient*: so, planned with FFTW_PATIENT. kissfft has floats only, and copies in place.",
      {"fft_complex", "fft_real"}, {"fft_32fc", "fft_64fc", "fft_32f", "fft_64f"}, kOrders,
      {"FFTFwd_CToC_32fc", "FFTFwd_CToC_32fc_I", "FFTFwd_CToC_64fc", "FFTFwd_CToC_64fc_I", "FFTFwd_RToCCS_32f", "FFTFwd_RToCCS_64f"},
      true},

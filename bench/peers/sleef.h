@@ -4,8 +4,6 @@
 #include <immintrin.h>
 #include <sleef.h>
 
-#include "qvx/qvxs.h"
-
 #pragma GCC diagnostic ignored "-Wignored-attributes"  // of the registers as template arguments
 
 namespace sleef {
@@ -27,31 +25,37 @@ template <auto kFunction, class R, class T, class... Src> void over(T* d, int n,
   if (i < n) at(n - kLanes);
 }
 
-// The function of the variant's instruction set.
-template <auto kSse2, auto kAvx2, auto kAvx512, class T, class... Src> void bestOver(T* d, int n, const Src*... src) {
-  constexpr bool kFloat = sizeof(T) == 4;
-  const char variant = qvxsGetLibVersion()->cpuTag[1];
-  if (variant == '4') over<kAvx512, std::conditional_t<kFloat, __m512, __m512d>>(d, n, src...);
-  else if (variant == '3') over<kAvx2, std::conditional_t<kFloat, __m256, __m256d>>(d, n, src...);
-  else over<kSse2, std::conditional_t<kFloat, __m128, __m128d>>(d, n, src...);
-}
-template <auto kSse2, auto kAvx2, auto kAvx512, class T> void best(const T* a, T* d, int n) {
-  bestOver<kSse2, kAvx2, kAvx512>(d, n, a);
-}
-template <auto kSse2, auto kAvx2, auto kAvx512, class T> void bestPhase(const T* re, const T* im, T* d, int n) {
-  bestOver<kSse2, kAvx2, kAvx512>(d, n, im, re);
+// The registers of the variant's instruction set, and the names of its functions.
+#if defined __AVX512F__
+using Floats = __m512;
+using Doubles = __m512d;
+#define SLEEF_32F(function) Sleef_##function##f16_u10avx512f
+#define SLEEF_64F(function) Sleef_##function##d8_u10avx512f
+#elif defined __AVX2__
+using Floats = __m256;
+using Doubles = __m256d;
+#define SLEEF_32F(function) Sleef_##function##f8_u10avx2
+#define SLEEF_64F(function) Sleef_##function##d4_u10avx2
+#else
+using Floats = __m128;
+using Doubles = __m128d;
+#define SLEEF_32F(function) Sleef_##function##f4_u10sse2
+#define SLEEF_64F(function) Sleef_##function##d2_u10sse2
+#endif
+
+template <auto kFunction, class R, class T> void call(const T* a, T* d, int n) { over<kFunction, R>(d, n, a); }
+template <auto kFunction, class R, class T> void phase(const T* re, const T* im, T* d, int n) {
+  over<kFunction, R>(d, n, im, re);
 }
 
-// clang-format off
-inline constexpr auto exp32f = best<Sleef_expf4_u10sse2, Sleef_expf8_u10avx2, Sleef_expf16_u10avx512f, float>;
-inline constexpr auto exp64f = best<Sleef_expd2_u10sse2, Sleef_expd4_u10avx2, Sleef_expd8_u10avx512f, double>;
-inline constexpr auto ln32f = best<Sleef_logf4_u10sse2, Sleef_logf8_u10avx2, Sleef_logf16_u10avx512f, float>;
-inline constexpr auto ln64f = best<Sleef_logd2_u10sse2, Sleef_logd4_u10avx2, Sleef_logd8_u10avx512f, double>;
-inline constexpr auto arctan32f = best<Sleef_atanf4_u10sse2, Sleef_atanf8_u10avx2, Sleef_atanf16_u10avx512f, float>;
-inline constexpr auto arctan64f = best<Sleef_atand2_u10sse2, Sleef_atand4_u10avx2, Sleef_atand8_u10avx512f, double>;
-inline constexpr auto phase32f = bestPhase<Sleef_atan2f4_u10sse2, Sleef_atan2f8_u10avx2, Sleef_atan2f16_u10avx512f, float>;
-inline constexpr auto phase64f = bestPhase<Sleef_atan2d2_u10sse2, Sleef_atan2d4_u10avx2, Sleef_atan2d8_u10avx512f, double>;
-inline constexpr auto cubrt32f = best<Sleef_cbrtf4_u10sse2, Sleef_cbrtf8_u10avx2, Sleef_cbrtf16_u10avx512f, float>;
-// clang-format on
+inline constexpr auto exp32f = call<SLEEF_32F(exp), Floats, float>;
+inline constexpr auto exp64f = call<SLEEF_64F(exp), Doubles, double>;
+inline constexpr auto ln32f = call<SLEEF_32F(log), Floats, float>;
+inline constexpr auto ln64f = call<SLEEF_64F(log), Doubles, double>;
+inline constexpr auto arctan32f = call<SLEEF_32F(atan), Floats, float>;
+inline constexpr auto arctan64f = call<SLEEF_64F(atan), Doubles, double>;
+inline constexpr auto phase32f = phase<SLEEF_32F(atan2), Floats, float>;
+inline constexpr auto phase64f = phase<SLEEF_64F(atan2), Doubles, double>;
+inline constexpr auto cubrt32f = call<SLEEF_32F(cbrt), Floats, float>;
 
 }  // namespace sleef

@@ -11,6 +11,9 @@
 
 namespace volk {
 
+// VOLK chooses by the processor. Called before all else, this keeps it within the instructions that the peers are compiled for.
+void hold();
+
 inline const lv_32fc_t* complex(const Qvx32fc* p) { return reinterpret_cast<const lv_32fc_t*>(p); }
 inline lv_32fc_t* complex(Qvx32fc* p) { return reinterpret_cast<lv_32fc_t*>(p); }
 inline int32_t* asSigned(Qvx32u* p) { return reinterpret_cast<int32_t*>(p); }
