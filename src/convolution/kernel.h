@@ -257,8 +257,8 @@ template <class K, class S> struct DealtRows {
   size_t taps;
 
   template <class T> [[gnu::always_inline]] void addTo(typename K::Sum* sum, size_t n) const {
-    const size_t whole = taps / count;
-    const size_t longer = taps % count;
+    const size_t whole = static_cast<uint32_t>(taps) / static_cast<uint32_t>(count);
+    const size_t longer = taps - whole * count;
     const auto* tap = p;
     size_t r = row;
     size_t i = at;

@@ -32,7 +32,14 @@ template <size_t N, class F> bool forEachWhole(size_t n, F f) {
 
 // ---- 2, 4 and 8 columns that make up the rows, and as many rows that make up the columns: whole vectors alone. What takes the
 // lowest bit of an element's place to the highest, for each of the column's bits, leaves a vector for each column.
-template <size_t K, class T> using Group = Vec<Lanes<T, kVectorBytes / sizeof(T)>>[K];
+template <size_t K, class T, size_t N> using Group = Vec<Lanes<T, N>>[K];
+
+// f(N) for the widest vectors that n elements fill; false if they fill none.
+template <class T, size_t N = kVectorBytes / sizeof(T), class F> bool byWidest(size_t n, F f) {
+  if (n >= N) return f(std::integral_constant<size_t, N>());
+  if constexpr (N * sizeof(T) > 16) return byWidest<T, N / 2>(n, f);
+  return false;
+}
 
 template <size_t K, class V> [[gnu::always_inline]] inline void split(V (&v)[K]) {
 #pragma GCC unroll 3
@@ -62,11 +69,10 @@ template <size_t K, class V> [[gnu::always_inline]] inline void join(V (&v)[K]) 
     for (size_t i = 0; i < K; ++i) v[i] = to[i];
   }
 }
-template <size_t K, class T> bool split(const Matrix<T>& m, size_t rows) {
-  constexpr size_t N = kVectorBytes / sizeof(T);
+template <size_t K, size_t N, class T> bool split(const Matrix<T>& m, size_t rows) {
   constexpr Lanes<T, N> d;
   return forEachWhole<N>(rows, [&](size_t r) {
-    Group<K, T> v;
+    Group<K, T, N> v;
 #pragma GCC unroll 8
     for (size_t i = 0; i < K; ++i) v[i] = load(d, m.src + K * r + i * N);
     split(v);
@@ -74,11 +80,10 @@ template <size_t K, class T> bool split(const Matrix<T>& m, size_t rows) {
     for (size_t i = 0; i < K; ++i) store(v[i], d, m.dst + i * m.dstStride + r);
   });
 }
-template <size_t K, class T> bool join(const Matrix<T>& m, size_t columns) {
-  constexpr size_t N = kVectorBytes / sizeof(T);
+template <size_t K, size_t N, class T> bool join(const Matrix<T>& m, size_t columns) {
   constexpr Lanes<T, N> d;
   return forEachWhole<N>(columns, [&](size_t c) {
-    Group<K, T> v;
+    Group<K, T, N> v;
 #pragma GCC unroll 8
     for (size_t i = 0; i < K; ++i) v[i] = load(d, m.src + i * m.srcStride + c);
     join(v);
@@ -86,30 +91,33 @@ template <size_t K, class T> bool join(const Matrix<T>& m, size_t columns) {
     for (size_t i = 0; i < K; ++i) store(v[i], d, m.dst + K * c + i * N);
   });
 }
+template <size_t N, class T> bool splitThree(const Matrix<T>& m, size_t rows) {
+  constexpr Lanes<T, N> d;
+  return forEachWhole<N>(rows, [&](size_t r) {
+    Group<3, T, N> v;
+    hn::LoadInterleaved3(d, m.src + 3 * r, v[0], v[1], v[2]);
+    for (size_t i = 0; i < 3; ++i) store(v[i], d, m.dst + i * m.dstStride + r);
+  });
+}
+template <size_t N, class T> bool joinThree(const Matrix<T>& m, size_t columns) {
+  constexpr Lanes<T, N> d;
+  return forEachWhole<N>(columns, [&](size_t c) {
+    const auto row = [&](size_t i) { return load(d, m.src + i * m.srcStride + c); };
+    hn::StoreInterleaved3(row(0), row(1), row(2), d, m.dst + 3 * c);
+  });
+}
 template <class T> bool wholeVectors(const Matrix<T>& m, size_t rows, size_t columns) {
-  constexpr Lanes<T, kVectorBytes / sizeof(T)> d;
   if (m.srcStride == columns) {
-    if (columns == 2) return split<2>(m, rows);
-    if (columns == 4) return split<4>(m, rows);
-    if (columns == 8) return split<8>(m, rows);
-    if (columns == 3) {
-      return forEachWhole<hn::MaxLanes(d)>(rows, [&](size_t r) {
-        Group<3, T> v;
-        hn::LoadInterleaved3(d, m.src + 3 * r, v[0], v[1], v[2]);
-        for (size_t i = 0; i < 3; ++i) store(v[i], d, m.dst + i * m.dstStride + r);
-      });
-    }
+    if (columns == 2) return byWidest<T>(rows, [&](auto n) { return split<2, n()>(m, rows); });
+    if (columns == 4) return byWidest<T>(rows, [&](auto n) { return split<4, n()>(m, rows); });
+    if (columns == 8) return byWidest<T>(rows, [&](auto n) { return split<8, n()>(m, rows); });
+    if (columns == 3) return byWidest<T>(rows, [&](auto n) { return splitThree<n()>(m, rows); });
   }
   if (m.dstStride == rows) {
-    if (rows == 2) return join<2>(m, columns);
-    if (rows == 4) return join<4>(m, columns);
-    if (rows == 8) return join<8>(m, columns);
-    if (rows == 3) {
-      return forEachWhole<hn::MaxLanes(d)>(columns, [&](size_t c) {
-        const auto row = [&](size_t i) { return load(d, m.src + i * m.srcStride + c); };
-        hn::StoreInterleaved3(row(0), row(1), row(2), d, m.dst + 3 * c);
-      });
-    }
+    if (rows == 2) return byWidest<T>(columns, [&](auto n) { return join<2, n()>(m, columns); });
+    if (rows == 4) return byWidest<T>(columns, [&](auto n) { return join<4, n()>(m, columns); });
+    if (rows == 8) return byWidest<T>(columns, [&](auto n) { return join<8, n()>(m, columns); });
+    if (rows == 3) return byWidest<T>(columns, [&](auto n) { return joinThree<n()>(m, columns); });
   }
   return false;
 }

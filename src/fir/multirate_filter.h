@@ -50,9 +50,8 @@ template <class R> class Branches {
 
   Branches(R& record, size_t periods, Call call, int64_t places)
       : record_(record), periods_(periods), call_(call), places_(places), p_(record.branches), branch_(record.ratio.branch()) {
-    const auto first = static_cast<size_t>(record.sample(branch_.sample - record.ratio.taps + 1) - record.rows);
-    const auto stride = static_cast<size_t>(record.stride);
-    x_ = {record.rows, stride, record.rowCount(), first / stride, first % stride};
+    x_ = {record.rows, static_cast<size_t>(record.stride), static_cast<size_t>(record.ratio.down),
+          static_cast<size_t>(record.firstRow), static_cast<size_t>(record.firstAt + record.done)};
     if constexpr (kHasSpectra<R>) {
       bySpectra_ = !isNull(record.spectra) && record.spectra->takes(static_cast<int64_t>(periods));
       if (bySpectra_) record.spectra->transformRows(record.rows + record.done, record.stride, static_cast<int64_t>(periods));
@@ -73,9 +72,11 @@ template <class R> class Branches {
     } else {
       for (size_t i = 0; i < periods_; ++i) sums[i] = scaledSumAt(static_cast<int64_t>(i));
     }
+    if (++number_ == q.up) return;
+    if (number_ == 1) step_ = {q.down / q.up, q.down % q.up}, branchLen_ = branchLen(record_);
     p_ += branchLen_;
     const int64_t before = branch_.sample;
-    branch_.advance(q.up, q.down);
+    branch_.advance(step_, q.up);
     for (x_.row += static_cast<size_t>(branch_.sample - before); x_.row >= x_.count; x_.row -= x_.count) ++x_.at;
   }
 
@@ -104,7 +105,8 @@ template <class R> class Branches {
   int64_t places_;
   Dealt<C> x_;
   const typename R::Branches* p_;
-  int64_t branchLen_ = branchLen(record_);
+  Branch step_ = {};  // from a branch to the next, and so many taps, told where there is a second one
+  int64_t branchLen_ = 0;
   Branch branch_;
   bool bySpectra_ = false;
   int64_t number_ = 0;
@@ -153,7 +155,7 @@ void resample(R& record, const T* src, T* dst, size_t periods, int64_t places, F
       }
     }
     Branches<R> branches(record, some, call, places);
-    const size_t batch = std::min(up, std::size(sums) / some);
+    const size_t batch = up * some <= std::size(sums) ? up : std::size(sums) / some;
     for (size_t n, from = 0; from < up; from += n) {
       n = std::min(batch, up - from);
       if (up == 1 && !kConverts) {

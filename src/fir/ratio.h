@@ -37,10 +37,11 @@ struct Branch {
     const int64_t sample = (place >= 0 ? place : place - up + 1) / up;
     return {sample, place - up * sample};
   }
-  // That of the output after it.
-  void advance(int64_t up, int64_t down) {
-    sample += down / up;
-    tap += down % up;
+  // That of the output after it; by what place `down` stands for.
+  void advance(int64_t up, int64_t down) { advance(of(down, up), up); }
+  void advance(const Branch& by, int64_t up) {
+    sample += by.sample;
+    tap += by.tap;
     if (tap >= up) tap -= up, ++sample;
   }
 };

@@ -7,6 +7,7 @@
 #include "frame/complex.h"
 #include "frame/redo.h"
 #include "math/ln.h"
+#include "vector/both_ways.h"
 
 using namespace qvx;
 
@@ -18,12 +19,11 @@ QvxStatus checked(const Qvx32f* p, const Qvx32f* other, int len, Qvx32f c) {
   return c > 0 ? qvxStatOk : qvxStatBadParam;
 }
 
-// 1 / s to 2^-27 or better, for s from 2^-298 to 2^257 and infinity: an estimate of 14 bits and a step of Newton's where there is
-// one. For an infinite s the step would be 0 times infinity; the minimum takes 1 for what is no number.
+// 1 / s to 2^-27 or better, for s from 2^-298 to 2^1000: an estimate of 14 bits and a step of Newton's where there is one.
 template <class V> V reciprocal(V s) {
 #if QVXS_AVX512
   const V near = nearReciprocal(s);
-  return hn::MulAdd(near, hn::Min(hn::NegMulAdd(near, s, same<V>(1)), same<V>(1)), near);
+  return hn::MulAdd(near, hn::NegMulAdd(near, s, same<V>(1)), near);
 #else
   return same<V>(1) / s;
 #endif
@@ -49,29 +49,35 @@ struct HalfLogarithm {
 // What floats can do: the caller's C, and squares and sums of squares far from overflow. Elements beyond are taken one by one.
 bool isNear(Qvx32f c) { return kFuses && c >= 0x1p-30F && c <= 0x1p30F; }
 constexpr float kMostNear = 0x1p120F;
+constexpr auto kFarBits = std::bit_cast<uint32_t>(kMostNear);
 
-// ln(1 + u) / 2 in floats, u = (x / C)^2 as the sum of two. What the rounding of 1 + u takes is added to the logarithm, times its
-// slope 1 / (1 + u).
+// ln(1 + u) / 2 in floats, u = (x / C)^2 = x * (b + bRest), which is rounded once. What the rounding of 1 + u takes goes into the
+// logarithm.
 struct NearHalfLogarithm {
-  float inverse, inverseRest;  // their sum is 1 / C
-  double wide;                 // 1 / C
+  float c;
+  float square, squareRest;  // their sum is 1 / C^2
+
+  static NearHalfLogarithm of(float c) {
+    const double square = 1 / (double{c} * c);
+    const auto high = static_cast<float>(square);
+    return {c, high, static_cast<float>(square - high)};
+  }
 
   template <class V> V operator()(V x) const {
     const V one = same<V>(1);
-    const V t = x * same<V>(inverse);
-    const V tRest = hn::MulAdd(x, same<V>(inverseRest), hn::MulSub(x, same<V>(inverse), t));
-    const V u = t * t;
-    const V uRest = hn::MulAdd(t + t, tRest, hn::MulSub(t, t, u));
+    const V b = x * same<V>(square);
+    const V bRest = hn::MulAdd(x, same<V>(squareRest), hn::MulSub(x, same<V>(square), b));
+    const V u = hn::MulAdd(x, b, x * bRest);
     const V w = one + u;
     // w - 1 is exact up to 2^24; beyond, the rest is less than the logarithm's last place.
-    const V rest = (u - (w - one)) + uRest;
-    const V near = hn::ApproximateReciprocal(w);  // 14 bits: too few where the logarithm is hardly more than the rest
-    const V slope = hn::MulAdd(near, hn::NegMulAdd(near, w, one), near);
-    const V y = hn::MulAdd(rest, slope, ln(w)) * same<V>(0.5F);
-    const uint64_t far = maskBits(TagOf<V>(), hn::Not(u < same<V>(kMostNear)));
+    const V y = halfLnOfSum(w, u - (w - one));
+    // Products that overflow may have made u negative: as an unsigned number that is far, too.
+    const auto bits = as<uint32_t>(u);
+    const auto isFar = bits > same<std::remove_const_t<decltype(bits)>>(kFarBits - 1);
+    const uint64_t far = maskBits(TagOf<decltype(bits)>(), isFar);
     if (HWY_LIKELY(far == 0)) return y;
     return redone(
-        far, y, [c = wide](float v) { return static_cast<float>(std::log1p((v * c) * (v * c)) / 2); }, x);
+        far, y, [c = double{c}](float v) { return static_cast<float>(std::log1p((v / c) * (v / c)) / 2); }, x);
   }
 };
 
@@ -85,24 +91,32 @@ struct Derivative {
   }
 };
 
-// The same in floats. The rounding of the sum counts for 1 ULP of the quotient at most; the rounding of C^2 would count for as
-// much, and is part of the remainder that corrects the quotient, which adds 0.6 ULP.
+// The same in floats, of two vectors. An estimate r of 1 / (C^2 + x^2) makes the quotient f = x r; it is corrected by what 1 is
+// more than r C^2 + f x. Of the rounding of f that takes part back: the error is below 1.6 ULP.
 template <bool kExactSquare> struct NearDerivative {
+  float c;
   float square, squareRest;  // their sum is C^2
-  double wide;               // C^2
 
-  template <class V> V operator()(V x) const {
-    const V s = hn::MulAdd(x, x, same<V>(square));
+  template <class V> Pair<V> operator()(Pair<V> x) const {
+    const Pair<V> s = each(x, [this](V v) { return hn::MulAdd(v, v, same<V>(square)); });
+    const Pair<V> y = {quotient(x.lo, s.lo), quotient(x.hi, s.hi)};
+    const TagOf<V> d;
+    const auto isFar = [d](V sum) { return maskBits(d, hn::Not(sum < same<V>(kMostNear))); };
+    const auto areNear = hn::And(s.lo < same<V>(kMostNear), s.hi < same<V>(kMostNear));
+    if (HWY_LIKELY(hn::AllTrue(d, areNear))) return y;
+    const auto one = [c = double{c}](float v) { return static_cast<float>(v / (c * c + double{v} * v)); };
+    return {redone(isFar(s.lo), y.lo, one, x.lo), redone(isFar(s.hi), y.hi, one, x.hi)};
+  }
+
+ private:
+  template <class V> V quotient(V x, V s) const {
     const V near = hn::ApproximateReciprocal(s);
-    const V r = hn::MulAdd(near, hn::NegMulAdd(near, s, same<V>(1)), near);
-    const V quotient = x * r;
-    V remainder = hn::NegMulAdd(quotient, s, x);
-    if (!kExactSquare) remainder = hn::NegMulAdd(quotient, same<V>(squareRest), remainder);
-    const V y = hn::MulAdd(remainder, r, quotient);
-    const uint64_t far = maskBits(TagOf<V>(), hn::Not(s < same<V>(kMostNear)));
-    if (HWY_LIKELY(far == 0)) return y;
-    return redone(
-        far, y, [c2 = wide](float v) { return static_cast<float>(v / (c2 + double{v} * v)); }, x);
+    const V f = x * near;
+    V more = hn::NegMulAdd(near, same<V>(square), same<V>(1));
+    if (!kExactSquare) more = hn::NegMulAdd(near, same<V>(squareRest), more);
+    more = hn::NegMulAdd(f, x, more);
+    if (!kHasMasks) more = hn::MulAdd(more, more, more);  // an estimate of 11 bits, not 14
+    return hn::MulAdd(f, more, f);
   }
 };
 
@@ -118,7 +132,8 @@ struct SecondDerivative {
   }
 };
 
-double squareOf(Qvx32f c) { return double{c} * c; }
+// Of an infinite C a number as good as infinite: Newton's step would take 0 times infinity.
+double squareOf(Qvx32f c) { return std::min(double{c} * c, 0x1p1000); }
 
 // One element after the other, for vectors that overlap.
 template <class Kernel> QvxStatus inTurn(Kernel kernel, Qvx32f* p, Qvx32f* second, size_t n) {
@@ -142,25 +157,20 @@ bool overlap(const Qvx32f* a, const Qvx32f* b, size_t n) {
 QvxStatus qvxsCauchy_32f_I(Qvx32f* p, int len, Qvx32f c) {
   const QvxStatus status = checked(p, p, len, c);
   if (status != qvxStatOk) return status;
-  const double inverse = 1 / double{c};
-  if (isNear(c)) {
-    const auto high = static_cast<float>(inverse);
-    return loop(NearHalfLogarithm{high, static_cast<float>(inverse - high), inverse}, destination(p), elements(len), source(p));
-  }
-  return loop<double>(HalfLogarithm{inverse}, destination(p), elements(len), source(p));
+  if (isNear(c)) return loop(NearHalfLogarithm::of(c), destination(p), elements(len), source(p));
+  return loop<double>(HalfLogarithm{1 / double{c}}, destination(p), elements(len), source(p));
 }
 
 QvxStatus qvxsCauchyD_32f_I(Qvx32f* p, int len, Qvx32f c) {
   const QvxStatus status = checked(p, p, len, c);
   if (status != qvxStatOk) return status;
-  const double square = squareOf(c);
   if (isNear(c)) {
-    const auto high = static_cast<float>(square);
-    const auto rest = static_cast<float>(square - high);
-    if (rest == 0) return loop(NearDerivative<true>{high, rest, square}, destination(p), elements(len), source(p));
-    return loop(NearDerivative<false>{high, rest, square}, destination(p), elements(len), source(p));
+    const float square = c * c;
+    const auto rest = static_cast<float>(double{c} * c - double{square});
+    const auto in = [&](auto kernel) { return loop(kernel, InTwos{destination(p)}, elements(len), InTwos{source(p)}); };
+    return rest == 0 ? in(NearDerivative<true>{c, square, rest}) : in(NearDerivative<false>{c, square, rest});
   }
-  return loop<double>(Derivative{square}, destination(p), elements(len), source(p));
+  return loop<double>(Derivative{squareOf(c)}, destination(p), elements(len), source(p));
 }
 
 QvxStatus qvxsCauchyDD2_32f_I(Qvx32f* p, Qvx32f* second, int len, Qvx32f c) {

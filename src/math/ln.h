@@ -167,6 +167,22 @@ template <class V, class OnBad> V ln(V x, OnBad onBad) {
   return y;
 }
 
+// ln(x + rest) / 2 for x from 1 to below infinity and a rest that is hardly more than half of its last place. With a rest within
+// 2^-26 of its own the error is below 1 ULP.
+template <class V> V halfLnOfSum(V x, V rest) {
+  using C = detail::LnNumbers<float>;
+  const V m = mantissaOf(x);
+  const auto exponent = as<int32_t>(x) - as<int32_t>(m);  // k, in the place of a float's
+  const V k = hn::ConvertTo(TagOf<V>(), exponent);
+  const V scale = as<float>(as<int32_t>(same<V>(1)) - exponent);
+  const auto i = hn::ShiftRight<23 - 5>(as<uint32_t>(m));
+  const V c = lookup<V>(i, C::kReciprocals);
+  const V r = hn::MulAdd(rest * scale, c, hn::MulSub(m, c, same<V>(1)));
+  const V high = hn::MulAdd(k, same<V>(C::kLn2High * 0x1p-23F), lookup<V>(i, C::kLogarithms));
+  const V low = hn::MulAdd(k, same<V>(C::kLn2Low * 0x1p-23F), r);
+  return (high + hn::MulAdd(r * r, polynomial(r, C::kQ), low)) * same<V>(0.5F);
+}
+
 #else
 
 template <class V, class OnBad> V ln(V x, OnBad onBad) {
@@ -205,6 +221,23 @@ template <class V, class OnBad> V ln(V x, OnBad onBad) {
     y = detail::lnOfBad(given, y, isBad);
   }
   return y;
+}
+
+template <class V> V halfLnOfSum(V x, V rest) {
+  using C = detail::LnNumbers<float>;
+  const auto integer = [&](uint32_t value) { return hn::Set(hn::Repartition<uint32_t, TagOf<V> >(), value); };
+  const auto fromRoot = as<uint32_t>(x) + integer(C::kOne - C::kRootOfHalf);
+  const V m = as<float>((fromRoot & integer((1U << 23) - 1)) + integer(C::kRootOfHalf));
+  const auto exponent = as<int32_t>(x) - as<int32_t>(m);
+  const V k = hn::ConvertTo(TagOf<V>(), exponent) * same<V>(0x1p-23F);
+  const V scale = as<float>(as<int32_t>(same<V>(1)) - exponent);
+  const V f = hn::MulAdd(rest, scale, m - same<V>(1));
+  const V s = f / (f + same<V>(2));
+  const V z = s * s;
+  const V half = f * f * same<V>(0.5F);
+  const V more = hn::MulAdd(z, polynomial(z, C::kP), half);
+  const V low = hn::MulAdd(s, more, k * same<V>(C::kLn2Low));
+  return hn::MulSub(k, same<V>(C::kLn2High), (half - low) - f) * same<V>(0.5F);
 }
 
 #endif
