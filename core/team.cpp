@@ -1,7 +1,8 @@
 // The threads of divided calls: a few workers for the whole process, made when a call first asks for them.
 //
-// A call is a number of parts. Whoever is there takes the next one: the caller, and workers as they wake. So a caller never waits
-// for a thread that has not begun, however busy the machine is, and nothing has to be done if none can be made.
+// A call is a number of parts. The caller takes the first; whoever is there takes the next one: the caller, and workers as they
+// wake. So a caller never waits for a thread that has not begun, however busy the machine is, and nothing has to be done if none
+// can be made.
 #include <linux/futex.h>
 #include <pthread.h>
 #include <qvx/qvxcore.h>
@@ -22,7 +23,7 @@ namespace {
 using Part = void (*)(void*, int);
 
 constexpr int kMostWorkers = 63;
-constexpr size_t kStack = size_t{256} << 10;  // a call takes no more than 24 KiB
+constexpr size_t kStack = size_t{256} << 10;  // a part takes no more than 160 KiB
 // Cycles for which a thread looks before it sleeps: 5 us, as long as waking one takes.
 constexpr uint64_t kPatience = 15000;
 
@@ -60,11 +61,12 @@ template <class Condition> bool comesSoon(Condition condition, uint64_t patience
   return condition();
 }
 
+void takePart(int i) {
+  team.part(team.argument, i);
+  if (team.left.fetch_sub(1) == 1 && team.isAwaited.load()) wake(team.left, 1);
+}
 void takeParts() {
-  for (int i; (i = team.next.fetch_add(1)) < team.count;) {
-    team.part(team.argument, i);
-    if (team.left.fetch_sub(1) == 1 && team.isAwaited.load()) wake(team.left, 1);
-  }
+  for (int i; (i = team.next.fetch_add(1)) < team.count;) takePart(i);
 }
 
 // The caller looks for as long as it has worked, as long as a part of a worker's takes. If it slept sooner, waking it took 25 us
@@ -146,10 +148,11 @@ void ownRunParts(int count, void (*part)(void*, int), void* argument) {
   team.argument = argument;
   team.count = count;
   team.left.store(static_cast<uint32_t>(count));
-  team.next.store(0);
+  team.next.store(1);
   team.call.fetch_add(1);
   if (team.asleep.load() > 0) wake(team.call, std::min(count - 1, team.workers));
   const uint64_t start = __rdtsc();
+  takePart(0);
   takeParts();
   awaitParts(__rdtsc() - start);
   team.call.fetch_add(1);

@@ -111,7 +111,7 @@ template <class Record> QvxStatus initComplex(Record** ppSpec, int order, int fl
   using T = typename Record::T;
   return init(ppSpec, order, flag, Orders<T>::kComplex, pMemory, pInitBuffer, [order](Record& spec, T* tables) {
     spec.workSize = spec.plan.workBytes = static_cast<int32_t>(complexSizes<T>(order).work);
-    if (order > Orders<T>::kCached && order <= Orders<T>::kThreaded) spec.plan.plan.threads = threadsOf();
+    if (order > Orders<T>::kCached) spec.plan.plan.threads = threadsOf();
     writePlan<typename Record::Points>(spec.plan, size_t{1} << order, tables);
   });
 }
@@ -119,7 +119,7 @@ template <class Record> QvxStatus initReal(Record** ppSpec, int order, int flag,
   using T = typename Record::T;
   return init(ppSpec, order, flag, Orders<T>::kReal, pMemory, pInitBuffer, [order](Record& spec, T* tables) {
     spec.workSize = spec.plan.half.workBytes = static_cast<int32_t>(realSizes<T>(order).work);
-    if (order - 1 > Orders<T>::kCached && order - 1 <= Orders<T>::kThreaded) spec.plan.half.plan.threads = threadsOf();
+    if (order - 1 > Orders<T>::kCached) spec.plan.half.plan.threads = threadsOf();
     writePlan(spec.plan, size_t{1} << order, tables);
   });
 }

@@ -4,15 +4,26 @@
 // result ka + n * (kb + m * kc) at (ka, kb, kc); the swap of ka and kc puts it where it belongs. So each point goes through
 // memory three times: down a by tiles of neighbouring columns, then a block of m * n points after the other, then the swap, which
 // follows as soon as the blocks it needs are done.
+//
+// Two threads take half of the columns each; then half of the blocks, and of the swap what these need; then half of what is left
+// of the swap.
 #pragma once
 
+#include <atomic>
+
 #include "frame/stream.h"
+#include "frame/team.h"
 #include "transform/folded.h"
 #include "transform/plan.h"
 
 namespace qvx::transform {
 
 inline constexpr size_t kBlockPoints = 256;
+
+struct Range {
+  size_t from;
+  size_t to;
+};
 
 // The twiddles of transforms down `rows` rows of `columns` points: of their passes, and those that turn row k of column c by
 // exp(-2 pi i k c / (rows * columns)), as products of one that depends on k and the column within its tile, and one on k and the
@@ -145,14 +156,15 @@ template <bool kAhead, size_t R, size_t L, class T, class Dst>
 // written at 15 GB/s where these are at 50. What the first level has made of a tile goes through the others part by part, in the
 // nearest cache.
 template <bool kAhead, size_t L, class T, class Src, class Dst>
-void downColumns(Src src, Dst dst, size_t rows, size_t columns, size_t wide, const ColumnTwiddles<T>& twiddles, T* y) {
+[[gnu::noinline]] void downColumns(Src src, Dst dst, size_t rows, size_t columns, Range range, size_t wide,
+                                   const ColumnTwiddles<T>& twiddles, T* y) {
   constexpr size_t C = kRowRadix<L>;
   const Levels levels = levelsFor(rows);
   const DigitsReversed place(levels);
   const ColumnTile<L, T> tile{y, rows, wide};
   const size_t parts = levels.radix[0];
   const size_t part = rows / parts;
-  for (size_t c = 0; c < columns; c += wide) {
+  for (size_t c = range.from; c < range.to; c += wide) {
     withRadix(parts, [=](auto R) { loadColumns<kAhead, R>(src.from(c), columns, tile, twiddles.levels); });
     for (size_t a = 0; a < parts; ++a) {
       middleLevels<L>(levels, ColumnTile<L, T>{tile.at(a * part, 0), part, wide}, twiddles.levels + part * (parts - 1) * 2, 1);
@@ -215,11 +227,11 @@ template <size_t L, class T, class Points> [[gnu::noinline]] void putSquare(cons
   }
 }
 
-// The squares of rows i, i + 1 .. and of the columns before and at them.
-template <size_t L, class T, class Points> void transposeUpTo(Points points, size_t i, size_t stride, T* y) {
+// The squares of rows i, i + 1 .. and of these columns, none of them past the rows.
+template <size_t L, class T, class Points> void swapSquares(Points points, size_t i, Range columns, size_t stride, T* y) {
   constexpr size_t kSide = kSquare<T>;
   T* const other = y + 2 * kSide * kSide;
-  for (size_t j = 0; j <= i; j += kSide) {
+  for (size_t j = columns.from; j < columns.to; j += kSide) {
     const Points left = points.from(i * stride + j);
     const Points upper = points.from(j * stride + i);
     takeSquare<L>(left, stride, y);
@@ -256,25 +268,77 @@ QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Scale scale)
   else runPasses<L>(plan, row, row, y, scale);
 }
 
-// tile: the points of working memory.
-template <size_t L, class Src, class Dst, class T, class Scale>
-void blockedTransform(const Plan<T>& rowPlan, const BlockedPlan<T>& plan, size_t points, size_t tile, Src src, Dst dst, T* y,
-                      Scale scale) {
+// Working memory of `points` for each part of a divided call. The first is always the caller's, and has the caller's memory. By
+// the next, the caller is done with it, or another thread has begun: that has a stack on which a tile finds room.
+template <class T> inline constexpr size_t kTileOnStack = (size_t{128} << 10) / (2 * sizeof(T));
+
+template <class T, class Step> [[gnu::noinline]] void onOwnTile(size_t points, Step step) {
+  alignas(Carver::kLine) T own[2 * kTileOnStack<T>];
+  step(own, std::min(points, kTileOnStack<T>));
+}
+
+// step(part, y, points) for each of two or one.
+template <class T, class Step> void withTiles(size_t parts, T* y, size_t points, Step step) {
+  if (parts == 1) return step(size_t{0}, y, points);
+  std::atomic<bool> isFree{false};
+  inParts(static_cast<int>(parts), [&](size_t part) {
+    if (part > 0 && !isFree.load()) {
+      onOwnTile<T>(points, [&](T* own, size_t count) { step(part, own, count); });
+    } else {
+      step(part, y, points);
+      isFree.store(true);
+    }
+    return qvxStatOk;
+  });
+}
+
+// The blocks of these ka; afterwards the squares of their rows and columns are swapped.
+template <size_t L, class Dst, class T>
+[[gnu::noinline]] void transformBlocks(const Plan<T>& rowPlan, const ColumnTwiddles<T>& inner, size_t block, size_t tile, Dst dst,
+                                       Range range, T* y, ScaledBy<T> scale) {
   constexpr size_t n = kBlockPoints;
-  const size_t block = points / n;
   const size_t m = block / n;
-  firstColumns<L>(src, dst, n, block, std::min({tile / n, block, kSquare<T>}), plan.outer, y);
-  for (size_t ka = 0; ka < n; ++ka) {
+  for (size_t ka = range.from; ka < range.to; ++ka) {
     const Dst here = dst.from(ka * block);
-    if (m <= kWidestRadix) withRadix(m, [&](auto R) { downShortColumns<R, L>(here, n, plan.inner); });
-    else downColumns<false, L>(here, here, m, n, std::min(tile / m, n), plan.inner, y);
+    if (m <= kWidestRadix) withRadix(m, [&](auto R) { downShortColumns<R, L>(here, n, inner); });
+    else downColumns<false, L>(here, here, m, n, {0, n}, std::min(tile / m, n), inner, y);
     for (size_t kb = 0; kb < m; ++kb) {
       const Dst row = here.from(kb * n);
       rowTransform<L>(rowPlan, row, y, scale);
     }
-    if ((ka + 1) % kSquare<T> != 0) continue;
-    for (size_t kb = 0; kb < m; ++kb) transposeUpTo<L>(dst.from(kb * n), ka + 1 - kSquare<T>, block, y);
+    const size_t done = ka + 1;
+    if (done % kSquare<T> != 0) continue;
+    for (size_t kb = 0; kb < m; ++kb) {
+      swapSquares<L>(dst.from(kb * n), done - kSquare<T>, {range.from, done}, block, y);
+    }
   }
+}
+
+// tile: the points of working memory.
+template <size_t L, class Src, class Dst, class T>
+void blockedTransform(size_t threads, const Plan<T>& rowPlan, const BlockedPlan<T>& plan, size_t points, size_t tile, Src src,
+                      Dst dst, T* y, ScaledBy<T> scale) {
+  constexpr size_t n = kBlockPoints;
+  const size_t block = points / n;
+  const auto divided = [=](size_t count, auto step) {
+    withTiles(threads, y, tile, [=](size_t part, T* own, size_t room) {
+      step(Range{count * part / threads, count * (part + 1) / threads}, own, room);
+    });
+  };
+  divided(block, [=, &plan](Range columns, T* own, size_t room) {
+    firstColumns<L>(src, dst, n, block, columns, std::min({room / n, block / 2, kSquare<T>}), plan.outer, own);
+  });
+  divided(n, [=, &rowPlan, &plan](Range blocks, T* own, size_t room) {
+    transformBlocks<L>(rowPlan, plan.inner, block, room, dst, blocks, own, scale);
+  });
+  if (threads == 1) return;
+  divided(n / 2 / kSquare<T>, [=](Range squares, T* own, size_t) {
+    for (size_t i = squares.from; i < squares.to; ++i) {
+      for (size_t kb = 0; kb < block / n; ++kb) {
+        swapSquares<L>(dst.from(kb * n), n / 2 + i * kSquare<T>, {0, n / 2}, block, own);
+      }
+    }
+  });
 }
 
 }  // namespace qvx::transform

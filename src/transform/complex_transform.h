@@ -17,6 +17,9 @@ template <class T> struct ComplexPlan {
   int32_t workBytes;
   Plan<T> plan;  // of the transform, or of the rows of a blocked one
   BlockedPlan<T> blocked;
+
+  // Between which a transform is divided now.
+  int threads() const { return plan.threads > 1 && n >= kWorthTeam<T> ? std::min(int{plan.threads}, ownGetNumThreads()) : 1; }
 };
 
 // The lanes of a transform that keeps its twiddles in a record.
@@ -73,15 +76,14 @@ template <class LaneOrder, class T> T* writePlan(ComplexPlan<T>& plan, size_t n,
 // More points than those of smallTransform.
 template <class T, class Src, class Dst, class Scale>
 [[gnu::noinline]] void longTransform(const ComplexPlan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
+  constexpr size_t L = kWidest<T>;
+  const int threads = plan.threads();
   if (plan.n > kLongestInCache<T>) {
     const size_t tile = static_cast<size_t>(plan.workBytes) / (2 * sizeof(T));
-    return blockedTransform<kWidest<T>>(plan.plan, plan.blocked, plan.n, tile, src, dst, y, scale);
+    return blockedTransform<L>(static_cast<size_t>(threads), plan.plan, plan.blocked, plan.n, tile, src, dst, y,
+                               factorOf<T>(scale));
   }
-  constexpr size_t L = kWidest<T>;
-  if (plan.plan.threads > 1 && plan.n >= kWorthTeam<T>) {
-    const int threads = std::min(int{plan.plan.threads}, ownGetNumThreads());
-    if (threads > 1) return runPassesInTeam<L>(threads, plan.plan, src, dst, y, scale);
-  }
+  if (threads > 1) return runPassesInTeam<L>(threads, plan.plan, src, dst, y, scale);
   switch (foldOf<T>(plan.n)) {
     case Fold::kSquare:
       if constexpr (L >= 8) return transformInSquare<L>(src, dst, plan.plan.rowTwiddles, scale);

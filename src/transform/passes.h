@@ -116,6 +116,8 @@ template <class T> struct ScaledBy {
   template <class V> QVX_INLINE V operator()(V v) const { return v * same<V>(factor); }
   template <class V> QVX_INLINE Complex<V> operator()(Complex<V> z) const { return {(*this)(z.re), (*this)(z.im)}; }
 };
+template <class T> ScaledBy<T> factorOf(ScaledBy<T> scale) { return scale; }
+template <class T> ScaledBy<T> factorOf(Unscaled) { return {1}; }
 
 // The row pass takes as many points as a register has lanes, and 4 at least: fewer would not be worth a pass.
 template <size_t L> inline constexpr size_t kRowRadix = L < 4 ? 4 : L;

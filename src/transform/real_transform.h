@@ -57,7 +57,7 @@ void longForward(const RealPlan<T>& plan, const T* src, T* dst, T* y, Scale scal
   const T odd = dst[1];
   dst[0] = even + odd;
   dst[1] = even - odd;
-  recombine<false>(dst, dst, n / 2, plan.twiddles);
+  recombineInTeam<false>(plan.half.threads(), dst, dst, n / 2, plan.twiddles);
   fromPerm<kLayout>(dst, n);
 }
 
@@ -74,7 +74,7 @@ void longInverse(const RealPlan<T>& plan, const T* src, T* dst, T* y, Scale scal
     std::memmove(dst + 2, src + 1, (n - 2) * sizeof(T));
     src = dst;
   }
-  recombine<true>(src, dst, n / 2, plan.twiddles);
+  recombineInTeam<true>(plan.half.threads(), src, dst, n / 2, plan.twiddles);
   dst[0] = T(0.5) * (mean + nyquist);
   dst[1] = T(0.5) * (mean - nyquist);
   complexTransform(plan.half, Interleaved<const T, true>{dst}, Interleaved<T, true>{dst}, y, doubled<T>(scale));

@@ -35,15 +35,17 @@ template <class V, bool kInverse> QVX_INLINE void recombine(Complex<V>& a, Compl
   b = {z.re - t, u - z.im};
 }
 
-// A vector from either end of the lower and the upper half at a time; h from 32 on.
-template <bool kInverse, class T> void recombine(const T* src, T* dst, size_t h, RealTwiddles<T> twiddles) {
+// A vector from either end of the lower and the upper half at a time, of those whose first k are in a range of 0 to h / 2; h from
+// 32 on.
+template <bool kInverse, class T>
+[[gnu::noinline]] void recombine(const T* src, T* dst, size_t h, Range range, RealTwiddles<T> twiddles) {
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   const Interleaved<const T, false> from{src};
   const Interleaved<T, false> to{dst};
   const auto turned = [](Complex<V> z) { return Complex<V>{reversed(z.re), reversed(z.im)}; };
   const V half = same<V>(T(0.5));
-  for (size_t k = 0; k < h / 2; k += L) {
+  for (size_t k = range.from; k < range.to; k += L) {
     Complex<V> cd = group<L>(twiddles.fine + 2 * (isNull(twiddles.coarse) ? k : k % kFine<T>));
     if (!isNull(twiddles.coarse)) {
       const T* coarse = twiddles.coarse + k / kFine<T> * 2;
@@ -56,6 +58,13 @@ template <bool kInverse, class T> void recombine(const T* src, T* dst, size_t h,
     to.template put<L>(a, k + 1);
     to.template put<L>(turned(b), h - k - L);
   }
+}
+template <bool kInverse, class T> void recombineInTeam(int threads, const T* src, T* dst, size_t h, RealTwiddles<T> twiddles) {
+  constexpr size_t L = kWidest<T>;
+  dividedBetween(threads, h / 2 / L, [=](size_t from, size_t count, size_t) {
+    recombine<kInverse>(src, dst, h, {from * L, (from + count) * L}, twiddles);
+    return qvxStatOk;
+  });
 }
 
 // Twiddles k = 1..count in groups: value(real, imaginary part) of exp(-2 pi i k / n).

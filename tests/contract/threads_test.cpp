@@ -223,6 +223,7 @@ void expectWithoutThreads(int order, QvxStatus (*make)(Spec**, int, int, int),
 TEST(LongTransform, WorksWithoutThreads) {
   if (tests::isSanitized()) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
   expectWithoutThreads(17, qvxsFFTInitAlloc_C_32fc, qvxsFFTFwd_CToC_32fc, qvxsFFTFree_C_32fc);
+  expectWithoutThreads(18, qvxsFFTInitAlloc_C_32fc, qvxsFFTFwd_CToC_32fc, qvxsFFTFree_C_32fc);
   expectWithoutThreads(16, qvxsFFTInitAlloc_C_64fc, qvxsFFTInv_CToC_64fc, qvxsFFTFree_C_64fc);
   expectWithoutThreads(17, qvxsFFTInitAlloc_R_32f, qvxsFFTFwd_RToPerm_32f, qvxsFFTFree_R_32f);
   expectWithoutThreads(16, qvxsFFTInitAlloc_R_64f, qvxsFFTInv_PermToR_64f, qvxsFFTFree_R_64f);

@@ -259,22 +259,28 @@ TEST(ComplexFft, NobodyCanTellTheThreads) {
     SCOPED_TRACE(testing::Message() << "order " << order << ", " << sizeof(C) << " bytes");
     const size_t n = size_t{1} << order;
     const std::vector<C> x = noise<C>(n, random);
-    std::vector<C> found[3];
+    std::vector<C> found[3], back[3];
     for (const int threads : {1, 2}) {
       qvxSetNumThreads(threads);
       const tests::Record record(type.life, order, QVX_FFT_SCALE_FWD);
       for (const int now : {threads, 1}) {  // a record for two may be used by one
         qvxSetNumThreads(now);
-        found[threads + now - 2].resize(n);
-        type.run(false, x.data(), found[threads + now - 2].data(), n, record.get(), nullptr);
+        const auto at = static_cast<size_t>(threads + now - 2);
+        found[at].resize(n);
+        type.run(false, x.data(), found[at].data(), n, record.get(), nullptr);
+        back[at] = found[at];
+        type.run(true, back[at].data(), back[at].data(), n, record.get(), nullptr);
       }
     }
     qvxSetNumThreads(0);
     EXPECT_TRUE(sameBits(found[0], found[1].data()) && sameBits(found[0], found[2].data()));
+    EXPECT_TRUE(sameBits(back[0], back[1].data()) && sameBits(back[0], back[2].data())) << "inverse in place";
   };
-  for (const int order : {13, 14, 15, 16, 17}) check(k32fc, order);
-  for (const int order : {12, 13, 14, 15, 16}) check(k64fc, order);
+  for (const int order : {13, 14, 15, 16, 17, 18, 21}) check(k32fc, order);
+  for (const int order : {12, 13, 14, 15, 16, 17, 18}) check(k64fc, order);
   check(k32f, 15);
+  check(k32f, 18);
+  check(k64f, 17);
 }
 
 // Records are made to nearest, whatever the caller's mode.

@@ -1,4 +1,6 @@
-// Transforms of real sequences: the definition in each layout, and the way back.
+// Transforms of real sequences: the definition in each layout, and the way back, by one thread and by two.
+#include <qvx/qvxcore.h>
+
 #include <cstring>
 
 #include "fft/transforms.h"
@@ -128,6 +130,34 @@ TEST(RealFft, IsTheDefinitionInEachLayout) {
   }
   for (const int order : {15, 18, 19, 20, 21}) checkOrder(k32f, order, {QVX_FFT_SCALE_NONE}, random);
   for (const int order : {16, 17, 18, 19}) checkOrder(k64f, order, {QVX_FFT_SCALE_NONE}, random);
+}
+
+// The transform and what makes a spectrum of it, both divided.
+TEST(RealFft, NobodyCanTellTheThreads) {
+  Random random(tests::seed());
+  const auto check = [&](const auto& type, int order) {
+    using T = typename std::decay_t<decltype(type)>::T;
+    const size_t n = size_t{1} << order;
+    std::uniform_real_distribution<T> uniform(-1, 1);
+    std::vector<T> x(n);
+    for (T& v : x) v = uniform(random);
+    for (int layout = 0; layout < kLayouts; ++layout) {
+      std::vector<T> spectrum[2], back[2];
+      for (const int threads : {1, 2}) {
+        qvxSetNumThreads(threads);
+        const tests::Record record(type.life, order, QVX_FFT_SCALE_INV);
+        std::vector<T>& found = spectrum[threads - 1];
+        found.resize(lengthOf(layout, n));
+        EXPECT_EQ(type.fwd[layout](x.data(), found.data(), record.get(), nullptr), qvxStatOk);
+        back[threads - 1] = found;
+        EXPECT_EQ(type.invI[layout](back[threads - 1].data(), record.get(), nullptr), qvxStatOk);
+      }
+      qvxSetNumThreads(0);
+      EXPECT_TRUE(spectrum[0] == spectrum[1] && back[0] == back[1]) << sizeof(T) << " bytes, " << order << ", layout " << layout;
+    }
+  };
+  for (const int order : {17, 19}) check(k32f, order);
+  for (const int order : {16, 18}) check(k64f, order);
 }
 
 }  // namespace
