@@ -72,7 +72,8 @@ int measureFamily(const std::string& name, const std::string& filter, bool brief
 }
 
 bench::Face bestFace() {
-  return {"Performance", "The other variants beside peers of their level: [AVX2](performance-w3.md), [SSSE3](performance-u8.md)."};
+  return {"Performance",
+          "The other variants beside peers of their level: [AVX2](performance-w3.md), [SSSE3](performance-u8.md)."};
 }
 
 // The page of a variant that is not the processor's best.

@@ -23,8 +23,7 @@ constexpr size_t kLibraryFills = size_t{1} << 20;
 // 16 bytes took five more.
 template <size_t N> [[gnu::always_inline]] inline QvxStatus copyUpTo(const uint8_t* src, uint8_t* dst, size_t bytes) {
   if constexpr (N > 1) {
-    if (bytes < N) [[likely]]
-      return copyUpTo<N / 2>(src, dst, bytes);
+    if (__builtin_expect_with_probability(bytes < N, N < kVectorBytes, 0.6)) return copyUpTo<N / 2>(src, dst, bytes);
   }
   if constexpr (N >= 16) {
     const Lanes<uint8_t, N> d;
@@ -197,12 +196,29 @@ template <size_t kHalf, size_t N, class T, class Value>
   return qvxStatOk;
 }
 
+// From nine registers on, within the first-level cache: beyond it stores one at a time are faster.
+constexpr size_t kFillsInFours = size_t{32} << 10;
+template <size_t N, class T, class Value> QvxStatus fillInFours(Value value, Destination<T> dst, size_t lanes) {
+  const auto v = value.template get<N>(0);
+  const auto four = [=](size_t at) {
+#pragma GCC unroll 4
+    for (size_t k = 0; k < 4; ++k) dst.template put<N>(v, at + k * N);
+  };
+  dst.template put<N>(v, 0);
+  const size_t misaligned = dst.template misaligned<N>();
+  for (size_t i = misaligned == 0 ? N : misaligned; i + 4 * N < lanes; i += 4 * N) four(i);
+  four(lanes - 4 * N);
+  return qvxStatOk;
+}
+
 // More than two registers.
 template <class T, class Value> [[gnu::noinline]] QvxStatus fillLong(Value value, T* dst, size_t len) {
   constexpr size_t N = kVectorBytes / sizeof(Part<T>);
   const size_t lanes = len * PartsOf<T>::kCount;
   if (lanes <= 4 * N) return fillEnds<2, N>(value, parts(dst), lanes);
   if (lanes <= 8 * N) return fillEnds<4, N>(value, parts(dst), lanes);
+  if (len * sizeof(T) < kFillsInFours) [[likely]]
+    return fillInFours<N>(value, destination(dst), lanes);
   if (len * sizeof(T) >= kLibraryFills) return fillFar(value, dst, len);
   return loop(Same(), destination(dst), lanes, value);
 }
