@@ -60,6 +60,7 @@ template <class T, Order kOrder> struct Deviate {
 };
 
 inline constexpr size_t kPairs = 128;
+static_assert(2 * kPairs % kBlock == 0);
 
 // Accepted pairs: each value beside its factor, in the order in which they are given out.
 struct Accepted {
@@ -70,14 +71,16 @@ struct Accepted {
 // As many of the next `tries` pairs as the method takes.
 size_t tryPairs(Generator& source, size_t tries, Accepted& pairs) {
   constexpr size_t kWide = kVectorBytes / sizeof(double);
-  alignas(64) int32_t r[2 * kPairs + kVectorBytes / sizeof(int32_t)];
   alignas(64) double scaled[2 * kPairs];
   alignas(64) double q[kPairs + kWide];
   const Lanes<double, kWide> d;
-  advance(source, 2 * tries, r);
-  for (size_t i = 0; i < 2 * tries; i += kWide) {
-    store(convertLanes<double>(load(Lanes<int32_t, kWide>(), r + i)) * hn::Set(d, 4.656612873077e-10), d, scaled + i);
-  }
+  const auto scale = [&](size_t at, const int32_t* r) {
+    unrolled<kBlock / kWide>([&](auto v) {
+      constexpr size_t i = v * kWide;
+      store(convertLanes<double>(load(Lanes<int32_t, kWide>(), r + i)) * hn::Set(d, 4.656612873077e-10), d, scaled + at + i);
+    });
+  };
+  advance(source, 2 * tries, scale, [&](size_t at, size_t, const int32_t* r) { scale(at, r); });
   size_t count = 0;
   for (size_t k = 0; k < tries; ++k) {
     const double u = scaled[2 * k];

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/map.h"
+#include "frame/unroll.h"
 
 namespace qvx::generate {
 
@@ -21,17 +22,18 @@ struct Generator {
   }
 };
 
+inline constexpr size_t kBlock = 32;  // numbers made together
+
 namespace detail {
 
-// The congruential part 1, 2, ... steps on is factor * cong + term: as many of each as a register has lanes.
+// The congruential part 1, 2, ... steps on is factor * cong + term.
 struct StepsOn {
-  static constexpr size_t kMost = 16;
-  uint32_t factor[kMost];
-  uint32_t term[kMost];
+  uint32_t factor[kBlock];
+  uint32_t term[kBlock];
   constexpr StepsOn() : factor(), term() {
     uint32_t f = 1;
     uint32_t t = 0;
-    for (size_t i = 0; i < kMost; ++i) {
+    for (size_t i = 0; i < kBlock; ++i) {
       f *= kMultiplier;
       t = t * kMultiplier + kIncrement;
       factor[i] = f;
@@ -41,83 +43,126 @@ struct StepsOn {
 };
 alignas(64) inline constexpr StepsOn kStepsOn;
 
-}  // namespace detail
+// The part with the borrow is x[n] = x[n-2] - x[n-3], less 1 if there was a borrow at n-1, less 18 if there is one at n, which is
+// so where all but the 18 is negative. Without the borrows it is linear: each number of a block is a sum of multiples of the lags
+// before the block. What the borrows of the block add is small beside 2^32, so the signs of these sums are the borrows
+// themselves, unless a sum is as close to 0 or 2^31 as what may have to be added.
+struct LinearPart {
+  uint32_t ofLag[3][kBlock];
+  // The sums of the numbers that four borrows, the bits of a row's index, add from the first of them on, after zeros.
+  int32_t ofBorrows[16][2 * kBlock];
+  uint32_t bound[kBlock];  // of what is added before the sign is taken
 
-// Numbers of the part with the borrow, one after the other: three at a time, so that they keep their registers. `step` takes lags
-// 2 and 3 and the borrow.
-template <class Step> [[gnu::always_inline]] inline void chain(Generator& state, size_t n, int32_t* r, Step step) {
-  uint32_t a = state.lag1;
-  uint32_t b = state.lag2;
-  uint32_t c = state.lag3;
-  uint32_t borrow = state.borrow;
-  size_t i = 0;
-  for (; i + 3 <= n; i += 3) {
-    c = step(b, c, borrow);
-    b = step(a, b, borrow);
-    a = step(c, a, borrow);
-    r[i] = static_cast<int32_t>(c);
-    r[i + 1] = static_cast<int32_t>(b);
-    r[i + 2] = static_cast<int32_t>(a);
+  constexpr LinearPart() : ofLag(), ofBorrows(), bound() {
+    for (size_t lag = 0; lag < 3; ++lag) {
+      uint32_t x[kBlock + 3] = {};
+      x[2 - lag] = 1;
+      for (size_t i = 0; i < kBlock; ++i) ofLag[lag][i] = x[i + 3] = x[i + 1] - x[i];
+    }
+    int32_t added[kBlock + 3] = {};  // by one borrow
+    for (size_t i = 0; i < kBlock; ++i) {
+      added[i + 3] = i == 0 ? -18 : added[i + 1] - added[i] - (i == 1);
+      for (size_t k = 1; k <= i; ++k) bound[i] += static_cast<uint32_t>(added[k + 3] < 0 ? -added[k + 3] : added[k + 3]);
+    }
+    for (size_t row = 0; row < 16; ++row) {
+      for (size_t bit = 0; bit < 4; ++bit) {
+        for (size_t i = bit; i < kBlock && (row >> bit & 1) != 0; ++i) ofBorrows[row][kBlock + i] += added[i - bit + 3];
+      }
+    }
   }
-  for (; i < n; ++i) {
-    const uint32_t t = step(b, c, borrow);
-    c = b;
-    b = a;
-    a = t;
-    r[i] = static_cast<int32_t>(t);
-  }
-  state = {state.cong, a, b, c, borrow};
-}
+};
+alignas(64) inline constexpr LinearPart kLinear;
 
 inline uint32_t signOf(uint32_t t) { return static_cast<uint32_t>(static_cast<int32_t>(t) >> 31); }
 
-// By the rule the borrow is the sign of the difference less the borrow before, for which each step waits: 3.2 cycles a number.
-// The difference has that sign by itself unless it is 0 or -2^31, which 2^-31 of them are: 2.5 cycles, and a look at them
-// afterwards.
-inline void makeBorrowed(Generator& state, size_t n, int32_t* r) {
-  Generator next = state;
-  chain(next, n, r, [](uint32_t lag2, uint32_t lag3, uint32_t& borrow) {
+// A block by the rule, one number after the other; returns its borrows, a bit each.
+[[gnu::noinline, gnu::cold]] inline uint32_t followRule(uint32_t lag1, uint32_t lag2, uint32_t lag3, uint32_t borrow,
+                                                        uint32_t* r) {
+  uint32_t borrows = 0;
+  for (size_t i = 0; i < kBlock; ++i) {
     const uint32_t t = lag2 - lag3 + borrow;
-    borrow = signOf(lag2 - lag3);
-    return t - (borrow & 18);
-  });
-  constexpr size_t N = kVectorBytes / sizeof(int32_t);
-  const Lanes<int32_t, N> d;
-  const auto zero = hn::Zero(d);
-  const auto areTold = [&](auto difference) { return hn::AllFalse(d, difference + difference == zero); };
-  bool told = (state.lag2 - state.lag3) << 1 != 0 && (state.lag1 - state.lag2) << 1 != 0;
-  if (n > 2) told &= (static_cast<uint32_t>(r[0]) - state.lag1) << 1 != 0;
-  for (size_t i = 0; told && i + 3 < n; i += N) {
-    const auto difference = load(d, r + i + 1) - load(d, r + i);
-    told = areTold(n - 3 - i >= N ? difference : hn::IfThenElse(hn::FirstN(d, n - 3 - i), difference, hn::Set(d, 1)));
+    borrow = signOf(t);
+    borrows |= (borrow & 1) << i;
+    lag3 = lag2;
+    lag2 = lag1;
+    r[i] = lag1 = t - (borrow & 18);
   }
-  if (!told) [[unlikely]] {
-    next = state;
-    chain(next, n, r, [](uint32_t lag2, uint32_t lag3, uint32_t& borrow) {
-      const uint32_t t = lag2 - lag3 + borrow;
-      borrow = signOf(t);
-      return t - (borrow & 18);
-    });
-  }
-  state = next;
+  return borrows;
 }
 
-// The next n numbers, as whole vectors: r has room for a register more.
-inline void advance(Generator& state, size_t n, int32_t* r) {
-  makeBorrowed(state, n, r);
+template <size_t kLane, class V> V everyLaneOf(V v) {
+  const TagOf<V> d;
+  return hn::TableLookupLanes(v, hn::IndicesFromVec(d, hn::Set(d, kLane)));
+}
+
+}  // namespace detail
+
+// The next n numbers, a block at a time: take(at, r) gets kBlock of them, from `at` on, takeLast(at, count, r) as many as are
+// left. By the rule they take 2.5 cycles each, of which a block takes half. It is made before the one before it is taken, so that
+// the processor has that to do beside: in order the two take 1.6 times as long.
+template <class Take, class TakeLast>
+[[gnu::always_inline]] inline void advance(Generator& state, size_t n, Take take, TakeLast takeLast) {
+  using namespace detail;
   constexpr size_t N = kVectorBytes / sizeof(uint32_t);
+  constexpr size_t kVectors = kBlock / N;
   const Lanes<uint32_t, N> d;
-  const auto factor = load(d, detail::kStepsOn.factor);
-  const auto term = load(d, detail::kStepsOn.term);
+  const Lanes<int32_t, N> numbers;
+  using V = Vec<decltype(d)>;
+  const auto areNegative = [=](V v) { return static_cast<uint32_t>(maskBits(numbers, as<int32_t>(v) < hn::Zero(numbers))); };
+  alignas(64) uint32_t r[kBlock];  // of the part with the borrow
+  alignas(64) int32_t made[2][kBlock];
+  V lag1 = hn::Set(d, state.lag1);
+  V lag2 = hn::Set(d, state.lag2);
+  V lag3 = hn::Set(d, state.lag3);
+  uint32_t borrow = state.borrow;
   uint32_t cong = state.cong;
-  for (size_t at = 0; at < n; at += N) {
-    const auto congs = hn::Set(d, cong) * factor + term;
-    auto* const place = reinterpret_cast<uint32_t*>(r) + at;
-    store(load(d, place) + congs, d, place);
-    const size_t steps = std::min(N, n - at);
-    cong = cong * detail::kStepsOn.factor[steps - 1] + detail::kStepsOn.term[steps - 1];
+  for (size_t at = 0;; at += kBlock) {
+    const V third = lag3 - hn::Set(d, borrow);  // as if it had been greater: nothing else is made of it
+    V sums[kVectors];
+    V close = hn::Zero(d);
+    uint32_t borrows = 0;
+    unrolled<kVectors>([&](auto v) {
+      constexpr size_t from = v * N;
+      const auto times = [&](V lag, size_t number) { return lag * load(d, kLinear.ofLag[number] + from); };
+      sums[v] = times(lag1, 0) + (times(lag2, 1) + times(third, 2));
+      const V bound = load(d, kLinear.bound + from);
+      close = close | ((sums[v] - bound) ^ (sums[v] + bound));
+      borrows |= areNegative(sums[v]) << from;
+    });
+    if (areNegative(close) == 0) [[likely]] {
+      unrolled<kBlock / 4>([&](auto four) {
+        const int32_t* const row = kLinear.ofBorrows[borrows >> (4 * four) & 15] + kBlock - 4 * four;
+        unrolled<kVectors>([&](auto v) {
+          constexpr size_t from = v * N;
+          if constexpr (from + N > 4 * four) sums[v] = sums[v] + as<uint32_t>(load(numbers, row + from));
+        });
+      });
+    } else {
+      borrows = followRule(hn::GetLane(lag1), hn::GetLane(lag2), hn::GetLane(lag3), borrow, r);
+      unrolled<kVectors>([&](auto v) { sums[v] = load(d, r + v * N); });
+    }
+    int32_t* const here = made[at / kBlock % 2];
+    unrolled<kVectors>([&](auto v) {
+      constexpr size_t from = v * N;
+      const V congs = hn::Set(d, cong) * load(d, kStepsOn.factor + from) + load(d, kStepsOn.term + from);
+      store(as<int32_t>(sums[v] + congs), numbers, here + from);
+    });
+    const size_t count = std::min(kBlock, n - at);
+    cong = cong * kStepsOn.factor[count - 1] + kStepsOn.term[count - 1];
+    if (n - at <= kBlock) {
+      unrolled<kVectors>([&](auto v) { store(sums[v], d, r + v * N); });
+      const uint32_t before[] = {hn::GetLane(lag1), hn::GetLane(lag2)};
+      const auto back = [&](size_t steps) { return steps <= count ? r[count - steps] : before[steps - count - 1]; };
+      state = {cong, back(1), back(2), back(3), signOf(borrows << (kBlock - count))};
+      if (at > 0) take(at - kBlock, made[(at / kBlock - 1) % 2]);
+      return takeLast(at, count, here);
+    }
+    borrow = signOf(borrows);
+    lag1 = everyLaneOf<N - 1>(sums[kVectors - 1]);
+    lag2 = everyLaneOf<N - 2>(sums[kVectors - 1]);
+    lag3 = everyLaneOf<N - 3>(sums[kVectors - 1]);
+    if (at > 0) take(at - kBlock, made[(at / kBlock - 1) % 2]);
   }
-  state.cong = cong;
 }
 
 // Reals to the elements of T, in the mode to nearest; limited to their range.

@@ -41,24 +41,23 @@ struct Mapping {
   static Mapping between(double low, double high) { return {(high - low) * 2.3283064365387e-10, (low + high) * 0.5}; }
 };
 
-// The chain of the generator is as long as all else takes: in pieces that the processor looks over, the two overlap.
 template <class T> void fill(T* dst, size_t n, Mapping map, Generator& source) {
-  constexpr size_t kPiece = 48;
+  constexpr size_t kWide = kVectorBytes / sizeof(double);
   const RoundingScope mode(std::is_integral_v<T> ? Rounding::kNearest : Rounding::kCallers);
-  Generator state = source;
-  alignas(64) int32_t r[kPiece + kVectorBytes / sizeof(int32_t)];
-  for (size_t at = 0; at < n; at += kPiece) {
-    const size_t count = std::min(kPiece, n - at);
-    advance(state, count, r);
-    loop<double>(
-        [map](auto v) {
-          const auto wide = convertLanes<double>(v);
-          using W = std::remove_const_t<decltype(wide)>;
-          return rounded<T>(wide * same<W>(map.scale) + same<W>(map.mid));
-        },
-        destination(dst + at), count, Source<int32_t>{r});
-  }
-  source = state;
+  const auto mapped = [map](auto v) {
+    const auto wide = convertLanes<double>(v);
+    using W = std::remove_const_t<decltype(wide)>;
+    return rounded<T>(wide * same<W>(map.scale) + same<W>(map.mid));
+  };
+  const auto whole = [=](size_t at, const int32_t* r) {
+    unrolled<kBlock / kWide>([&](auto v) {
+      constexpr size_t i = v * kWide;
+      destination(dst + at).template put<kWide>(mapped(load(Lanes<int32_t, kWide>(), r + i)), i);
+    });
+  };
+  advance(source, n, whole, [=](size_t at, size_t count, const int32_t* r) {
+    loop<double>(mapped, destination(dst + at), count, Source<int32_t>{r});
+  });
 }
 
 template <class State, class T> void build(State& state, T low, T high, uint32_t seed, bool ownsBlock) {

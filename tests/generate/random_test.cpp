@@ -146,6 +146,16 @@ TEST(Noise, DirectCallsChainThroughTheSeed) {
   expectNormalChain<Qvx64f>(qvxsRandGauss_Direct_64f, 1, 0.25);
 }
 
+// One block in 1500 has a difference so small that the borrows before it may turn its sign.
+TEST(Noise, StaysTheSequenceForLong) {
+  Qvx32u seed = 5;
+  NoiseSource source(seed);
+  std::vector<Qvx32f> y(1 << 22);
+  ASSERT_EQ(qvxsRandUniform_Direct_32f(y.data(), static_cast<int>(y.size()), -1, 1, &seed), qvxStatOk);
+  for (size_t i = 0; i < y.size(); ++i) ASSERT_EQ(y[i], uniform(source.next(), -1.0F, 1.0F)) << i;
+  EXPECT_EQ(seed, source.lag1());
+}
+
 TEST(Noise, LimitsAreThoseOfTheType) {
   QvxsRandGaussState_16s* wide = nullptr;
   QvxsRandGaussState_8u* narrow = nullptr;
