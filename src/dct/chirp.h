@@ -38,11 +38,21 @@ template <class T> Needs needsOfChirp(size_t n, size_t period) {
           static_cast<int64_t>(period) * kPair + plan.work, plan.work};
 }
 
-template <class T> void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, Carver& tables, Qvx8u* work) {
+// A period of numbers that the making of a more accurate record takes, of its own block.
+template <class T> Needs needsOfMeans(size_t n, size_t period) {
+  Needs needs = needsOfChirp<T>(n, period);
+  needs.tables += static_cast<int64_t>(2 * period * sizeof(T));
+  return needs;
+}
+
+// takesMeans: there is room for what needsOfMeans() says.
+template <class T>
+void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool takesMeans, Carver& tables, Qvx8u* work) {
   const size_t half = n / 2;
   T* const c = tables.take<T>(static_cast<int64_t>(2 * n));
   T* const turns = tables.take<T>(static_cast<int64_t>(2 * (half + 1)));
   T* const spectrum = tables.take<T>(static_cast<int64_t>(2 * period));
+  T* const z = tables.take<T>(takesMeans ? static_cast<int64_t>(2 * period) : 0);
   chirp = {period, makePlan<T>(period, tables, work), c, turns, spectrum};
   const auto square = [n](size_t j) { return j * j % (2 * n); };  // j^2 is below 2^56
   writeTwiddles(2 * n, n, square, transform::intoPairs(c));
@@ -57,16 +67,36 @@ template <class T> void writeChirp(Chirp<T>& chirp, size_t n, size_t period, boo
       });
   const size_t before = isInverse ? half : n - 1;
   const size_t after = isInverse ? n - 1 : half;
-  std::fill_n(spectrum, 2 * period, T(0));
-  const T scale = 1 / static_cast<T>(period);
-  for (size_t j = 0; j <= std::max(before, after); ++j) {
-    for (const size_t at : {j <= after ? j : 0, j > 0 && j <= before ? period - j : 0}) {
-      if (at == 0 && j > 0) continue;
-      spectrum[2 * at] = c[2 * j] * scale;
-      spectrum[2 * at + 1] = -c[2 * j + 1] * scale;
+  const auto transformed = [&](T* z, size_t shift) {
+    std::fill_n(z, 2 * period, T(0));
+    for (size_t j = 0; j < before + 1 + after; ++j) {
+      const size_t from = j < before ? before - j : j - before;
+      const size_t at = (period + j - before + shift) % period;
+      z[2 * at] = c[2 * from];
+      z[2 * at + 1] = -c[2 * from + 1];
     }
+    dft::run(*chirp.plan, false, z, z, work);
+  };
+  transformed(spectrum, 0);
+  const double share = 1 / static_cast<double>(period);
+  if (!takesMeans) {
+    for (size_t k = 0; k < 2 * period; ++k) spectrum[k] *= static_cast<T>(share);
+    return;
   }
-  dft::run(*chirp.plan, false, spectrum, spectrum, work);
+  // The error of the spectrum would be a third of the whole. Transforms of the chirp begun elsewhere have errors of their own.
+  constexpr size_t kMeans = 8;
+  for (size_t k = 0; k < 2 * period; ++k) spectrum[k] *= static_cast<T>(share / kMeans);
+  for (size_t shift = 1; shift < kMeans; ++shift) {
+    transformed(z, shift);
+    writeTwiddles(
+        period, period, [=](size_t k) { return k * (period - shift) % period; },
+        [=](size_t k, double re, double im) {
+          const double a = share / kMeans * static_cast<double>(z[2 * k]);
+          const double b = share / kMeans * static_cast<double>(z[2 * k + 1]);
+          spectrum[2 * k] += static_cast<T>(a * re - b * im);
+          spectrum[2 * k + 1] += static_cast<T>(a * im + b * re);
+        });
+  }
 }
 
 // Pairs of numbers, in place: by those of another vector.

@@ -1,5 +1,5 @@
-// The shortest transforms as products with their matrix, whose columns stay constants of the code: up to 16 numbers that is
-// faster than any way by sums that share terms, since the sums of all results go on at once.
+// The shortest transforms as products with their matrix, whose columns stay constants of the code: up to 16 numbers, and 25, that
+// is faster than any way by sums that share terms, since the sums of all results go on at once.
 #pragma once
 
 #include "transform/matrix.h"
@@ -11,6 +11,8 @@ using transform::storeConstant;
 
 inline constexpr int kLongestByMatrix = 16;
 inline constexpr int kLongestByHalves = 32;
+constexpr bool isByMatrix(int n) { return n <= kLongestByMatrix || n == 25; }
+constexpr bool hasKernel(int n) { return isByMatrix(n) || (n <= kLongestByHalves && n % 2 == 0); }
 
 // What number n of the sequence and number k of its transform have to do with each other.
 constexpr long double entry(int n, int k, int N) {
@@ -89,11 +91,11 @@ template <class T, int N, bool kInverse> void byHalves(const T* src, T* dst) {
 
 template <class T> using Kernel = void (*)(const T*, T*);
 template <class T, int N, bool kInverse> constexpr Kernel<T> kernelOf() {
-  if constexpr (N <= kLongestByMatrix) return byMatrix<T, N, kInverse>;
-  else if constexpr (N % 2 == 0) return byHalves<T, N, kInverse>;
+  if constexpr (isByMatrix(N)) return byMatrix<T, N, kInverse>;
+  else if constexpr (hasKernel(N)) return byHalves<T, N, kInverse>;
   else return nullptr;
 }
-// By length; null for odd ones past the longest matrix.
+// By length; null for those that have none.
 template <class T, bool kInverse> inline constexpr auto kKernels = []<int... N>(std::integer_sequence<int, N...>) {
   return std::array<Kernel<T>, sizeof...(N)>{kernelOf<T, N + 1, kInverse>()...};
 }

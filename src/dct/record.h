@@ -37,8 +37,6 @@ template <class Record> QvxStatus check(const Record* spec) { return checkRecord
 
 // ---- Which way a length goes: the first that the told sizes have room for
 
-constexpr bool hasKernel(int len) { return len <= kLongestByMatrix || (len <= kLongestByHalves && len % 2 == 0); }
-
 // What is on the stack is not asked of callers.
 inline constexpr int64_t kWorkOnStack = 4096;
 
@@ -129,7 +127,8 @@ template <class Record> void writeWay(Record& spec, Sizes sizes, Carver& tables,
     }
     default: {
       auto* const chirp = tables.take<Chirp<T>>(1);
-      writeChirp(*chirp, n, periodFor<Record>(n, sizes), Record::kInverse, tables, making);
+      const size_t period = periodFor<Record>(n, sizes);
+      writeChirp(*chirp, n, period, Record::kInverse, fits<Record>(needsOfMeans<T>(n, period), sizes), tables, making);
       spec.chirp = chirp;
     }
   }

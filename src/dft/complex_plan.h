@@ -19,6 +19,10 @@ template <class T> Factors<T> factorsOf(uint32_t n, int flag) {
 
 // ---- Any length
 
+// 1 MiB of points: with source, destination and working memory what the second cache holds, more or less. 80000 complex doubles
+// take 0.87 of the time by blocks, 48000 take 1.15; 200000 floats 0.8, 100000 floats 1.15.
+template <class T> inline constexpr uint32_t kLongestByFactors = (1U << 20) / (2 * sizeof(T));
+
 template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, int flag) {
   plan.n = n;
   plan.isApart = isApart;
@@ -41,6 +45,11 @@ template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, 
   if (!isApart && chooseGrid(plan.grid, n)) {
     plan.way = Way::kGrid;
     return {static_cast<int64_t>(tableLength(plan.grid) * sizeof(T)), 0};
+  }
+  if (n > kLongestByFactors<T> && planBlocks(n, plan.blocks.columns, plan.blocks.rows)) {
+    plan.way = Way::kBlocks;
+    return {static_cast<int64_t>(tableLength(plan.blocks.columns, plan.blocks.rows) * sizeof(T)),
+            bytesOfPoints<T>(n) + Carver::kLine};
   }
   if (planMixed(n, plan.mixed)) {
     plan.way = Way::kFactors;
@@ -68,6 +77,9 @@ template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* blo
       if (plan.isApart) writeMixed<Planes<T>>(plan.mixed, reinterpret_cast<T*>(block));
       else writeMixed<Conjugable<T>>(plan.mixed, reinterpret_cast<T*>(block));
       break;
+    case Way::kBlocks:
+      writeBlocks(plan.blocks, reinterpret_cast<T*>(block));
+      break;
     case Way::kConvolution:
       return writeTables(plan.convolution, plan.n, block, work);
   }
@@ -90,11 +102,18 @@ template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T*
     case Way::kConvolution:
       return convolve(plan.convolution, n, isInverse, src, dst, factor, work);
     case Way::kRegisters:
+    case Way::kBlocks:
     case Way::kFactors:
       break;
   }
   const T sign = isInverse ? T(-0.0) : T(0);
   T* const y = Carver(work, Carver::kLine).template take<T>(0);
+  if (plan.isOutOfOrder) return runBlocksOutOfOrder(plan.blocks, isInverse, src, dst, y, factor);
+  if (plan.way == Way::kBlocks) {
+    if (src == dst) std::copy_n(src, 2 * n, y);
+    const Conjugable<const T> points = {src == dst ? y : src, sign};
+    return runBlocks(plan.blocks, points, Conjugable<T>{dst, sign}, y, {dst, dst + n}, factor);
+  }
   const Conjugable<const T> points = {src, sign};
   const Planes<T> own = planes(y, y + n);
   const Planes<T> theirs = planes(dst, dst + n);
@@ -131,6 +150,11 @@ void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* sr
   const Planes<T> own = planes(y, y + n);
   const Planes<T> theirs = planes(dstRe, dstIm);
   const bool isInPlace = srcRe == dstRe || srcIm == dstIm || srcRe == dstIm || srcIm == dstRe;
+  if (plan.way == Way::kBlocks) {
+    if (!isInPlace) return runBlocks(plan.blocks, planes(srcRe, srcIm), theirs, y, {dstRe, dstIm}, factor);
+    for (size_t i = 0; i < n; ++i) y[2 * i] = srcRe[i], y[2 * i + 1] = srcIm[i];
+    return runBlocks(plan.blocks, Conjugable<const T>{y, 0}, theirs, y, {dstRe, dstIm}, factor);
+  }
   if (!isInPlace || plan.mixed.count % 2 == 0) return runMixed(plan.mixed, planes(srcRe, srcIm), theirs, own, theirs, factor);
   runMixed(plan.mixed, planes(srcRe, srcIm), own, theirs, own, factor);
   std::copy_n(own.re, n, dstRe);

@@ -8,8 +8,12 @@ namespace {
 
 template <class Record> QvxStatus initOutOfOrder(Record** ppSpec, int len, int flag) {
   using T = typename Record::T;
-  return initAlloc(ppSpec, len, flag, fft::Orders<T>::kComplex, complexWorkOutOfOrder<T>,
-                   [=](auto& plan, uint32_t n) { return choose(plan, n, false, flag); });
+  return initAlloc(ppSpec, len, flag, fft::Orders<T>::kComplex, complexWorkOutOfOrder<T>, [=](auto& plan, uint32_t n) {
+    Bytes bytes = choose(plan, n, false, flag);
+    plan.isOutOfOrder = plan.way == Way::kBlocks;
+    if (plan.isOutOfOrder) bytes.work = static_cast<int64_t>(lengthOfTiles(plan.blocks) * sizeof(T));
+    return bytes;
+  });
 }
 
 template <bool kInverse, class C, class Record> QvxStatus outOfOrder(const C* src, C* dst, const Record* spec, Qvx8u* pBuffer) {

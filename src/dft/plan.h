@@ -3,6 +3,7 @@
 
 #include "dft/direct.h"
 #include "transform/grid.h"
+#include "transform/mixed_blocks.h"
 
 namespace qvx::dft {
 
@@ -12,6 +13,7 @@ enum class Way : uint8_t {
   kRegisters,    // a few real numbers
   kGrid,         // two factors, in registers
   kFactors,      // passes by factors
+  kBlocks,       // the same in two dimensions
   kFft,          // a power of two
   kDirect,       // the definition: few points
   kConvolution,  // a chirp, or another order of the points
@@ -65,6 +67,7 @@ template <class T> struct ComplexPlan {
   uint32_t n;
   Way way;
   bool isApart;
+  bool isOutOfOrder;  // by blocks, with their results where they are made
   T forwardFactor;
   T inverseFactor;
   typename FftOf<T>::Spec* fft;            // of interleaved points
@@ -72,7 +75,10 @@ template <class T> struct ComplexPlan {
   GridPlan<T> grid;
   MixedPlan<T> mixed;
   DirectPlan<T> direct;
-  ConvolutionPlan<T> convolution;
+  union {
+    ConvolutionPlan<T> convolution;
+    MixedBlocks<T> blocks;
+  };
 };
 
 // How a transform of n points goes. isApart: real and imaginary parts stand in vectors of their own. flag: one of QVX_FFT_SCALE_.

@@ -38,6 +38,8 @@ template <class T> struct Planes : Split<T> {
     putFirstLanes(z.re, TagOf<V>(), this->re + at, n);
     putFirstLanes(z.im, TagOf<V>(), this->im + at, n);
   }
+  template <size_t L> QVX_INLINE auto getInOrder(size_t at) const { return this->template get<L>(at); }
+  template <size_t L> QVX_INLINE auto getInOrder(size_t at, size_t n) const { return getFirst<L>(at, n); }
   Planes from(size_t at) const { return {{this->re + at, this->im + at}}; }
 };
 template <class T> Planes<T> planes(T* re, T* im) { return {{re, im}}; }
@@ -60,6 +62,11 @@ template <class T> struct Conjugable {
     const Lanes<Lane, L> d;
     const size_t low = std::min(2 * n, L);
     auto z = evenAndOdd(firstLanes(d, p + 2 * at, low), firstLanes(d, p + 2 * at + low, 2 * n - low));
+    z.im = turned(z.im);
+    return z;
+  }
+  template <size_t L> QVX_INLINE auto getInOrder(size_t at) const {
+    auto z = Interleaved<T, false>{p}.template getInOrder<L>(at);
     z.im = turned(z.im);
     return z;
   }
@@ -165,27 +172,41 @@ template <size_t R, size_t L, class T>
   }
 }
 
-// stride: of the rows, s or what is padded.
+// Where a last pass finds its columns, and where their results belong: in runs of neighbours. The distances are between the R
+// points, between the R results, and from a run to the next in either place.
+struct LastSteps {
+  size_t columns;  // of a run
+  size_t points;
+  size_t results;
+  size_t runs = 1;
+  size_t fromRun = 0;
+  size_t toRun = 0;
+  bool isPadded = false;  // whole vectors may be read
+};
+
 template <size_t R, size_t L, class T, class Dst>
-[[gnu::noinline]] void lastMixedPass(Planes<const T> x, Dst dst, size_t s, size_t stride, T factor) {
+[[gnu::noinline]] void lastMixedPass(Planes<const T> x, Dst dst, LastSteps steps, T factor) {
   using V = Vec<Lanes<T, L>>;
-  const bool isPadded = stride > s || s < L;
-  for (size_t begin = 0; begin < s; begin += L) {
-    const size_t q = isPadded ? begin : std::min(begin, s - L);
-    const size_t wide = std::min(L, s - q);
-    Complex<V> z[R];
-    unrolled<R>([&](auto k) __attribute__((always_inline)) {
-      const size_t at = q + stride * k;
-      z[k] = stride % L == 0 || wide == L ? x.template get<L>(at) : x.template getFirst<L>(at, wide);
-    });
-    anyDft(z);
-    if (factor != 1) {
-      unrolled<R>([&](auto j) __attribute__((always_inline)) { z[j] = ScaledBy<T>{factor}(z[j]); });
+  const size_t columns = steps.columns;
+  const bool overlaps = !steps.isPadded && columns >= L;
+  for (size_t run = 0; run < steps.runs; ++run, x = x.from(steps.fromRun), dst = dst.from(steps.toRun)) {
+    for (size_t begin = 0; begin < columns; begin += L) {
+      const size_t q = overlaps ? std::min(begin, columns - L) : begin;
+      const size_t wide = std::min(L, columns - q);
+      Complex<V> z[R];
+      unrolled<R>([&](auto k) __attribute__((always_inline)) {
+        const size_t at = q + steps.points * k;
+        z[k] = steps.isPadded || wide == L ? x.template get<L>(at) : x.template getFirst<L>(at, wide);
+      });
+      anyDft(z);
+      if (factor != 1) {
+        unrolled<R>([&](auto j) __attribute__((always_inline)) { z[j] = ScaledBy<T>{factor}(z[j]); });
+      }
+      unrolled<R>([&](auto j) __attribute__((always_inline)) {
+        if (wide == L) dst.template putInOrder<L>(z[j], q + steps.results * j);
+        else dst.template putFirst<L>(z[j], q + steps.results * j, wide);
+      });
     }
-    unrolled<R>([&](auto j) __attribute__((always_inline)) {
-      if (wide == L) dst.template putInOrder<L>(z[j], q + s * j);
-      else dst.template putFirst<L>(z[j], q + s * j, wide);
-    });
   }
 }
 
@@ -279,14 +300,19 @@ template <size_t L, class T>
 }
 
 template <size_t L, class T, class Dst>
-[[gnu::noinline]] void lastPassOfMany(size_t R, const T* roots, Planes<const T> x, Dst dst, size_t s, T factor) {
+[[gnu::noinline]] void lastPassOfMany(size_t R, const T* roots, Planes<const T> x, Dst dst, LastSteps steps, T factor) {
   using V = Vec<Lanes<T, L>>;
-  for (size_t begin = 0; begin < s; begin += L) {
-    const size_t q = s >= L ? std::min(begin, s - L) : 0;
-    const size_t wide = std::min(s, L);
-    const auto get = [&](size_t k) { return x.template getFirst<L>(q + s * k, wide); };
-    const auto put = [&](size_t j, Complex<V> z) { dst.template putFirst<L>(ScaledBy<T>{factor}(z), q + s * j, wide); };
-    dftOfMany<V>(R, roots, get, put);
+  const size_t columns = steps.columns;
+  for (size_t run = 0; run < steps.runs; ++run, x = x.from(steps.fromRun), dst = dst.from(steps.toRun)) {
+    for (size_t begin = 0; begin < columns; begin += L) {
+      const size_t q = columns >= L ? std::min(begin, columns - L) : 0;
+      const size_t wide = std::min(columns, L);
+      const auto get = [&](size_t k) { return x.template getFirst<L>(q + steps.points * k, wide); };
+      const auto put = [&](size_t j, Complex<V> z) {
+        dst.template putFirst<L>(ScaledBy<T>{factor}(z), q + steps.results * j, wide);
+      };
+      dftOfMany<V>(R, roots, get, put);
+    }
   }
 }
 

@@ -67,8 +67,9 @@ template <class T> class MixedPlanner {
  public:
   static constexpr size_t kMostDivisors = 720;
 
-  // False where a prime factor is too large, or n a radix itself.
-  bool plan(uint32_t n, MixedPlan<T>& plan) {
+  // columns: transforms side by side, 1 or whole vectors. False where a prime factor is too large, or n a radix itself.
+  bool plan(uint32_t n, size_t columns, MixedPlan<T>& plan) {
+    columns_ = columns;
     if (!factor(n)) return false;
     findDivisors();
     for (size_t i = 1; i < divisors_; ++i) {
@@ -82,6 +83,8 @@ template <class T> class MixedPlanner {
     for (uint32_t rest = n; rest > 1; rest /= plan.radix[plan.count++]) plan.radix[plan.count] = radix_[indexOf(rest)];
     return plan.count > 1;
   }
+  // What a planned transform takes, in operations of a vector.
+  uint64_t cost() const { return best_[divisors_ - 1]; }
 
  private:
   bool factor(uint32_t n) {
@@ -114,10 +117,10 @@ template <class T> class MixedPlanner {
       const uint32_t m = d / radix;
       const uint64_t after = m == 1 ? 0 : best_[indexOf(m)];
       if (after == UINT64_MAX) continue;
-      const uint64_t s = n / d;
+      const uint64_t s = n / d * columns_;
       const uint64_t here =
           s == 1 ? uint64_t{vectors(m)} * (costOfRadix(radix) + (radix + kWidest<T> - 1) / kWidest<T> * kTransposition)
-                 : uint64_t{vectors(s)} * m * costOfRadix(radix);
+                 : uint64_t{vectors(s)} * m * (costOfRadix(radix) + (columns_ > 1 ? radix * kAwayFromNearest : 0));
       if (here + after + kPass < best_[i]) {
         best_[i] = here + after + kPass;
         radix_[i] = radix;
@@ -126,8 +129,10 @@ template <class T> class MixedPlanner {
   }
   static uint64_t vectors(uint64_t count) { return (count + kWidest<T> - 1) / kWidest<T>; }
   static constexpr uint32_t kPass = 100;
+  static constexpr uint32_t kAwayFromNearest = 8;  // a vector of a tile that the nearest cache does not hold, there and back
   static constexpr uint32_t kTransposition = 2 * kWidest<T> * (log2Of(kWidest<T>) + 1);
 
+  size_t columns_ = 1;
   uint8_t primes_[10] = {};
   uint8_t powers_[10] = {};
   uint8_t large_[10] = {};
@@ -140,7 +145,7 @@ template <class T> class MixedPlanner {
 };
 
 // The planner is some KiB of the stack, which callers need not hold while they go on.
-template <class T> [[gnu::noinline]] bool planMixed(uint32_t n, MixedPlan<T>& plan) { return MixedPlanner<T>().plan(n, plan); }
+template <class T> [[gnu::noinline]] bool planMixed(uint32_t n, MixedPlan<T>& plan) { return MixedPlanner<T>().plan(n, 1, plan); }
 
 // The numbers of a plan's tables, with what aligns the first.
 template <class T> size_t rootsOf(size_t radix) { return radix > kWidestMixed ? radix / 2 * (radix / 2) * 2 : 0; }
@@ -158,6 +163,17 @@ template <class T> size_t tableLength(const MixedPlan<T>& plan) {
   return length;
 }
 
+// The same of transforms side by side, all of whose passes are middle ones.
+template <class T> size_t tableLengthOfColumns(const MixedPlan<T>& plan) {
+  size_t length = 0;
+  size_t m = plan.n;
+  for (size_t pass = 0; pass < plan.count; ++pass) {
+    m /= plan.radix[pass];
+    length += rootsOf<T>(plan.radix[pass]) + (m > 1 ? m * (plan.radix[pass] - 1U) * 2 : 0);
+  }
+  return length;
+}
+
 template <class T> void writeRoots(size_t radix, T* out) {
   const size_t half = radix / 2;
   writeTwiddles(
@@ -166,6 +182,26 @@ template <class T> void writeRoots(size_t radix, T* out) {
         out[2 * i] = static_cast<T>(re);
         out[2 * i + 1] = static_cast<T>(-im);
       });
+}
+
+// Of a pass that transforms n points and is not the first of a row; the end of them.
+template <class T> T* writeMiddle(size_t n, size_t radix, T* out) {
+  const size_t m = n / radix;
+  const size_t others = radix - 1;
+  writeTwiddles(
+      n, m * others, [others](size_t i) { return i / others * (i % others + 1); }, intoPairs(out));
+  return out + m * others * 2;
+}
+
+template <class T> T* writeMixedColumns(MixedPlan<T>& plan, T* out) {
+  plan.tables = out;
+  for (size_t pass = 0, n = plan.n; pass < plan.count; n /= plan.radix[pass++]) {
+    const size_t radix = plan.radix[pass];
+    if (radix > kWidestMixed) writeRoots(radix, out);
+    out += rootsOf<T>(radix);
+    if (n > radix) out = writeMiddle(n, radix, out);
+  }
+  return out;
 }
 
 // Src: in the order of whose lanes the twiddles of the first pass stand.
@@ -182,9 +218,7 @@ template <class Src, class T> void writeMixed(MixedPlan<T>& plan, T* block) {
     out += rootsOf<T>(radix);
     if (m == 1) break;
     if (pass > 0) {
-      writeTwiddles(
-          n, m * others, [others](size_t i) { return i / others * (i % others + 1); }, intoPairs(out));
-      out += m * others * 2;
+      out = writeMiddle(n, radix, out);
       continue;
     }
     const auto write = [&](auto L) {
@@ -203,6 +237,18 @@ template <class Src, class T> void writeMixed(MixedPlan<T>& plan, T* block) {
   }
 }
 
+// The passes of one radix, which is large or one of kRadices.
+template <class T>
+void runMiddlePass(size_t radix, const T* tables, Planes<const T> from, Planes<T> to, size_t s, size_t m, const T* twiddles) {
+  if (radix > kWidestMixed) return middlePassOfMany<kManyLanes<T>>(radix, tables, from, to, s, m, twiddles);
+  withMixedRadix(radix, [=](auto R) { middleMixedPass<R, kWidest<T>>(from, to, s, m, twiddles); });
+}
+template <class T, class Dst>
+void runLastPass(size_t radix, const T* tables, Planes<const T> from, Dst dst, LastSteps steps, T factor) {
+  if (radix > kWidestMixed) return lastPassOfMany<kManyLanes<T>>(radix, tables, from, dst, steps, factor);
+  withMixedRadix(radix, [=](auto R) { lastMixedPass<R, kWidest<T>>(from, dst, steps, factor); });
+}
+
 // From src to dst, which may be the same, by way of `even` and `odd`, each with room for n points in planes: the last pass but
 // one goes to `even`, the one before to `odd`, and so on. src is not read after the first pass, dst written by the last only.
 template <class T, class Src, class Dst>
@@ -215,7 +261,8 @@ void runMixed(const MixedPlan<T>& plan, Src src, Dst dst, Planes<T> even, Planes
     const Planes<T> padded = planes(rows, rows + kMostPadded * kMostPadded);
     const size_t stride = up<static_cast<int64_t>(L)>(plan.radix[0]);
     withMixedRadix(plan.radix[0], [=](auto R) { firstMixedPass<R, L>(src, padded, plan.radix[1], tables, true); });
-    withMixedRadix(plan.radix[1], [=](auto R) { lastMixedPass<R, L>(asConst(padded), dst, plan.radix[0], stride, factor); });
+    const LastSteps steps = {.columns = plan.radix[0], .points = stride, .results = plan.radix[0], .isPadded = true};
+    withMixedRadix(plan.radix[1], [=](auto R) { lastMixedPass<R, L>(asConst(padded), dst, steps, factor); });
     return;
   }
   Planes<T> from = plan.count % 2 == 0 ? even : odd;
@@ -233,14 +280,12 @@ void runMixed(const MixedPlan<T>& plan, Src src, Dst dst, Planes<T> even, Planes
   for (size_t pass = 1; pass + 1 < plan.count; ++pass) {
     const size_t radix = plan.radix[pass];
     m /= radix;
-    if (radix > kWidestMixed) middlePassOfMany<M>(radix, tables, asConst(from), to, s, m, tables + rootsOf<T>(radix));
-    else withMixedRadix(radix, [=](auto R) { middleMixedPass<R, L>(asConst(from), to, s, m, tables); });
+    runMiddlePass(radix, tables, asConst(from), to, s, m, tables + rootsOf<T>(radix));
     tables += rootsOf<T>(radix) + m * (radix - 1) * 2;
     s *= radix;
     std::swap(from, to);
   }
-  if (m > kWidestMixed) lastPassOfMany<M>(m, tables, asConst(from), dst, s, factor);
-  else withMixedRadix(m, [=](auto R) { lastMixedPass<R, L>(asConst(from), dst, s, s, factor); });
+  runLastPass(m, tables, asConst(from), dst, LastSteps{.columns = s, .points = s, .results = s}, factor);
 }
 
 }  // namespace qvx::transform

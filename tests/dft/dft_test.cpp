@@ -143,9 +143,40 @@ TEST(Dft, LongImpulses) {
     const std::vector<Exact> back = record.run(true, spectrum, tests::Place::kSame);
     for (size_t i = 0; i < n; ++i) ASSERT_LE(std::abs(back[i] - x[i]), bound) << i;
   };
-  for (const size_t n : {323,  509,  961,  1000,  1001,  1009,  1849,  2000,  2001,   2003,   2187,   2520,  4099,
-                         4410, 5041, 8191, 10000, 44100, 48000, 65537, 99999, 100000, 131070, 262143, 300000}) {
+  for (const size_t n : {323,  509,  961,   1000,  1001,  1009,  1849,  2000,   2001,   2003,   2187,   2520,   4099,   4410,
+                         5041, 8191, 10000, 44100, 48000, 65537, 99999, 100000, 131070, 148225, 177147, 215441, 262143, 300000}) {
     tests::forEachComplex([&](const auto& transform) { check(transform, n); });
+  }
+}
+
+// Long real sequences, whose transforms of half the length go by two dimensions: noise, against the complex transform.
+template <class Real, class Complex> void checkLongReal(const Real& real, const Complex& complex, size_t n) {
+  using T = typename Real::T;
+  SCOPED_TRACE(testing::Message() << real.name << ", " << n << " numbers");
+  Random random(tests::seed());
+  std::vector<Exact> x = tests::rounded<T>(tests::noise(n, random));
+  std::vector<long double> numbers;
+  for (Exact& z : x) z = z.real(), numbers.push_back(z.real());
+  const std::vector<Exact> whole = tests::DftRecord(complex, n, QVX_FFT_SCALE_NONE).run(false, x, tests::Place::kApart);
+  const tests::DftRecord record(real, n, QVX_FFT_SCALE_INV);
+  for (const auto layout : {tests::Layout::kPerm, tests::Layout::kPack, tests::Layout::kCcs}) {
+    const auto found = record.run(layout, false, numbers, tests::Place::kApart);
+    tests::Error forward;
+    forward.add(found, packed(whole, layout), 1);
+    EXPECT_LE(forward.relative(), 2 * tests::allowedError<T>(n));
+    EXPECT_EQ(found, record.run(layout, false, numbers, tests::Place::kSame)) << "in place";
+    const auto back = record.run(layout, true, found, tests::Place::kApart);
+    tests::Error inverse;
+    inverse.add(back, numbers, 1);
+    EXPECT_LE(inverse.relative(), 2 * tests::allowedError<T>(n));
+    EXPECT_EQ(back, record.run(layout, true, found, tests::Place::kSame)) << "inverse in place";
+  }
+}
+
+TEST(Dft, OfLongReals) {
+  for (const size_t n : {59049, 96000, 177147, 2 * 177147}) {
+    checkLongReal(tests::kRealDft32f, tests::kDft32fc, n);
+    checkLongReal(tests::kRealDft64f, tests::kDft64fc, n);
   }
 }
 

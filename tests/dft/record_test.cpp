@@ -1,6 +1,8 @@
 // Records of transforms of any length: which lengths there are, what callers are told, how memory runs out.
 #include <qvx/qvxcore.h>
 
+#include <numbers>
+
 #include "dft/transforms.h"
 
 namespace {
@@ -119,9 +121,38 @@ template <class Transform> void checkConvolution(const Transform& transform, siz
 TEST(DftOutOfOrder, ProductIsAConvolution) {
   tests::Random random(tests::seed());
   for (const size_t n :
-       {1, 2, 3, 5, 12, 17, 32, 53, 60, 101, 210, 625, 1000, 1009, 1024, 1500, 3000, 4410, 10000, 44100, 65537}) {
+       {1, 2, 3, 5, 12, 17, 32, 53, 60, 101, 210, 625, 1000, 1009, 1024, 1500, 3000, 4410, 10000, 44100, 65537, 177147, 200000}) {
     checkConvolution(tests::kDftOutOfOrder32fc, n, random);
     checkConvolution(tests::kDftOutOfOrder64fc, n, random);
+  }
+}
+
+// The order of the spectrum, as an impulse at 1 tells it, is that of any other spectrum too, and no result is missing.
+template <class OutOfOrder, class InOrder> void checkOrder(const OutOfOrder& outOfOrder, const InOrder& inOrder, size_t n) {
+  using T = typename OutOfOrder::T;
+  SCOPED_TRACE(testing::Message() << outOfOrder.name << ", " << n);
+  const tests::DftRecord record(outOfOrder, n, QVX_FFT_SCALE_NONE);
+  std::vector<tests::Exact> impulse(n);
+  impulse[1] = 1;
+  std::vector<size_t> order;
+  for (const tests::Exact& z : record.run(false, impulse, tests::Place::kApart)) {
+    const long double turns = -std::arg(z) / (2 * std::numbers::pi_v<long double>);
+    order.push_back((static_cast<size_t>(std::lround(turns * n) + static_cast<long>(n))) % n);
+  }
+  tests::Random random(tests::seed());
+  const auto x = tests::rounded<T>(tests::noise(n, random));
+  const auto found = record.run(false, x, tests::Place::kApart);
+  std::vector<tests::Exact> placed(n, {std::numeric_limits<long double>::infinity(), 0});
+  for (size_t i = 0; i < n; ++i) placed[order[i]] = found[i];
+  tests::Error error;
+  error.add(placed, tests::DftRecord(inOrder, n, QVX_FFT_SCALE_NONE).run(false, x, tests::Place::kApart), 1);
+  EXPECT_LE(error.relative(), 2 * tests::allowedError<T>(n));
+}
+
+TEST(DftOutOfOrder, IsAPermutation) {
+  for (const size_t n : {7, 60, 1001, 1024, 10000, 44100, 177147, 200000, 215441}) {
+    checkOrder(tests::kDftOutOfOrder32fc, tests::kDft32fc, n);
+    checkOrder(tests::kDftOutOfOrder64fc, tests::kDft64fc, n);
   }
 }
 
