@@ -287,6 +287,8 @@ def copy_bits(source, source_offset, destination, offset, count):
     >>> qvxs.copy_bits(np.uint8([0b11000000]), 0, np.uint8([0]), 3, 2)
     array([24], dtype=uint8)
     """
+    if source_offset < 0 or offset < 0:
+        raise ValueError(f"copy_bits: offsets of {source_offset} and {offset}")
     if count:
         skipped, written = source[source_offset // 8:], destination[offset // 8:]
         raw.qvxsCopy_1u(skipped, source_offset % 8, written, offset % 8, count)

@@ -80,13 +80,12 @@ PyObject* callShortly(const Elementwise& self, PyObject* const* arguments, PyObj
 
 PyObject* vectorcall(PyObject* object, PyObject* const* arguments, size_t count, PyObject* names) {
   const Elementwise& self = of(object);
-  PyObject* out = nullptr;
-  bool isUsual = PyVectorcall_NARGS(count) == self.sources;
-  if (names != nullptr && PyTuple_GET_SIZE(names) > 0) {
-    isUsual = isUsual && PyTuple_GET_SIZE(names) == 1 && PyUnicode_CompareWithASCIIString(PyTuple_GET_ITEM(names, 0), "out") == 0;
-    out = arguments[self.sources];
-  }
-  if (isUsual) {
+  const bool isNamed = names != nullptr && PyTuple_GET_SIZE(names) > 0;
+  const auto isOutAlone = [names] {
+    return PyTuple_GET_SIZE(names) == 1 && PyUnicode_CompareWithASCIIString(PyTuple_GET_ITEM(names, 0), "out") == 0;
+  };
+  if (PyVectorcall_NARGS(count) == self.sources && (!isNamed || isOutAlone())) {
+    PyObject* const out = isNamed ? arguments[self.sources] : nullptr;
     PyObject* result = callShortly(self, arguments, out);
     if (result != nullptr || PyErr_Occurred() != nullptr) return result;
   }

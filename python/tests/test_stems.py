@@ -135,6 +135,9 @@ def test_bits_and_channels():
     assert (np.unpackbits(target) == expected).all()
     with pytest.raises(ValueError):
         qvxs.copy_bits(np.packbits(bits), 100, target, 0, 61)
+    for offsets in (-8, 0), (0, -8):  # no byte from the end
+        with pytest.raises(ValueError):
+            qvxs.copy_bits(np.packbits(bits), offsets[0], target, offsets[1], 8)
     frames = noise((40, 3), np.int16)
     channels = qvxs.split_channels(frames)
     assert channels.shape == (3, 40) and np.abs(channels).max() <= 1 and (qvxs.join_channels(channels) == frames).all()
