@@ -87,8 +87,8 @@ const std::vector<Section> kSections = {
      "Streams in blocks of n samples; taps lie up to 200 samples apart. *by tap* adds a tap's products to all samples of the block.", {},
      {"sparse"}, kBlocks, {"FIRSparse_32f, 4 taps", "FIRSparse_32f, 16 taps", "FIRSparse_32f, 64 taps"}},
     {"Design of FIR filters",
-     "n taps under the Hamming window. Ours are computed in long double, to the rounding of their formula; *doubles* is a loop of double "
-     "precision whose bands cancel.",
+     "n taps under the Hamming window. *doubles* is the formula in a loop with -ffast-math; where it is the difference of two filters, it "
+     "cancels.",
      {}, {"fir_design"}, kTaps, {"FIRGenLowpass_64f", "FIRGenBandpass_64f"}},
     {"Adaptive filters", "", {}, {"lms"}, kBlocks, {"FIRLMS_32f, 16 taps", "FIRLMS_32f, 64 taps", "FIRLMS_32f, 256 taps"}},
     {"Recursive filters",
