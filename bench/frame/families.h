@@ -42,6 +42,8 @@ void cosines(Suite& suite);
 void analytic(Suite& suite);
 void fir(Suite& suite);
 void multirate(Suite& suite);
+void sparse(Suite& suite);
+void firDesign(Suite& suite);
 void correlations(Suite& suite);
 void medians(Suite& suite);
 void sampling(Suite& suite);
@@ -101,6 +103,8 @@ inline constexpr Family kFamilies[] = {
     {"hilbert", analytic},
     {"fir", fir},
     {"multirate", multirate},
+    {"sparse", sparse},
+    {"fir_design", firDesign},
     {"correlation", correlations},
     {"median", medians},
     {"sample", sampling},

@@ -9,6 +9,7 @@ const std::vector<int> kVectors = {16, 256, 4096, 65536, 4 << 20};
 const std::vector<int> kLists = {10, 100, 1000, 10000, 100000, 1000000};
 const std::vector<int> kLengths = {7, 9, 96, 97, 640, 768, 9600, 65537};
 const std::vector<int> kBlocks = {64, 1024, 65536};
+const std::vector<int> kTaps = {16, 64, 256, 1024};
 const std::vector<int> kOrders = {1 << 3, 1 << 4, 1 << 5, 1 << 6, 1 << 8, 1 << 10, 1 << 12, 1 << 14, 1 << 16, 1 << 18, 1 << 20};
 
 }  // namespace
@@ -81,6 +82,13 @@ const std::vector<Section> kSections = {
       "FIRMR_32f, 3:2, 64 taps", "FIRMR_32f, 2:3, 256 taps", "FIRMR_32f, 147:160, 2048 taps", "FIRMR_32f, 160:147, 2048 taps",
       "FIRMR_32fc, 2:1, 64 taps", "FIRMR_32fc, 147:160, 2048 taps", "FIRMR_16s_Sfs, 2:1, 64 taps",
       "FIRMR_16s_Sfs, 160:147, 2048 taps"}},
+    {"Sparse FIR filters",
+     "Streams in blocks of n samples; taps lie up to 200 samples apart. *by tap* adds a tap's products to all samples of the block.", {},
+     {"sparse"}, kBlocks, {"FIRSparse_32f, 4 taps", "FIRSparse_32f, 16 taps", "FIRSparse_32f, 64 taps"}},
+    {"Design of FIR filters",
+     "n taps under the Hamming window. *doubles* is the formula in a loop with -ffast-math; where it is the difference of two filters, it "
+     "cancels.",
+     {}, {"fir_design"}, kTaps, {"FIRGenLowpass_64f", "FIRGenBandpass_64f"}},
     {"Adaptive filters", "", {}, {"lms"}, kBlocks, {"FIRLMS_32f, 16 taps", "FIRLMS_32f, 64 taps", "FIRLMS_32f, 256 taps"}},
     {"Recursive filters",
      "Streams in blocks of n samples. 9 operations are counted for a section and a sample, 4 order + 1 for a direct form.",

@@ -30,10 +30,11 @@ template <class K> struct KeyMap {
 
   template <class V> V keys(V x) const { return folded(x) ^ same<V>(flip); }
   template <class V> V originals(V k) const { return folded(k ^ same<V>(flip)); }
+  // Of keys: the bits of numbers that are in the order of the keys.
+  template <class V> V folded(V x) const { return x ^ (hn::BroadcastSignBit(x) & same<V>(fold)); }
 
  private:
   K folded(K x) const { return static_cast<K>(x ^ (x < 0 ? fold : 0)); }
-  template <class V> V folded(V x) const { return x ^ (hn::BroadcastSignBit(x) & same<V>(fold)); }
 };
 
 // What is a key already.

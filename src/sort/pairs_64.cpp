@@ -28,12 +28,14 @@ template <class V> [[gnu::always_inline]] inline Pair<Both<V>> interleaved(Pair<
   const auto numbers = qvx::interleaved(Pair<V>{v.lo.numbers, v.hi.numbers});
   return {{keys.lo, numbers.lo}, {keys.hi, numbers.hi}};
 }
-template <class V> [[gnu::always_inline]] inline Ordered<Both<V>> ordered(Both<V> a, Both<V> b) {
-  const auto isAbove = a.keys > b.keys;
-  return {chosen(isAbove, b, a), chosen(isAbove, a, b)};
-}
+struct ByKeysOfBoth {
+  template <class V> [[gnu::always_inline]] static Ordered<Both<V>> ordered(Both<V> a, Both<V> b) {
+    const auto isAbove = a.keys > b.keys;
+    return {chosen(isAbove, b, a), chosen(isAbove, a, b)};
+  }
+};
 // Either lane compares the lower one with the upper: equal keys stay where they are, and none of their numbers is lost.
-template <size_t kBit, class V> [[gnu::always_inline]] inline void orderLanes(Both<V>& v) {
+template <class By, size_t kBit, class V> [[gnu::always_inline]] inline void orderLanes(Both<V>& v) {
   const Both<V> other = exchanged<kBit>(v);
   const auto isAbove = qvx::lanesByBit<kBit>(v.keys, other.keys) > qvx::lanesByBit<kBit>(other.keys, v.keys);
   v = chosen(isAbove, other, v);
@@ -71,7 +73,7 @@ template <size_t kUsed> [[gnu::noinline]] void sortInRows(Pairs<K> x, size_t n) 
       if (r == whole) v[r] = partial;
     });
   }
-  detail::sortRows(v);
+  detail::sortRows<detail::ByKeysOfBoth>(v);
   const auto numbersOf = [=](B row) {
     return hn::BitCast(d32, hn::TruncateTo(hn::RebindToUnsigned<Lanes<int32_t, N>>(), as<uint64_t>(row.numbers)));
   };

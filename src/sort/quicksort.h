@@ -120,5 +120,10 @@ template <class K> void quicksort(K* x, size_t n, KeyMap<K> in, KeyMap<K> out) {
   alignas(64) K buffer[kSortBuffer<K>];
   Quicksort<K>(out, buffer).sort(x, n, in);
 }
+// A whole vector.
+template <class K> void quicksort(K* x, size_t n, KeyMap<K> map) {
+  if (n > 0 && n <= kFewElements && areInOrder(x, n, map)) return;
+  quicksort(x, n, map, map);
+}
 
 }  // namespace qvx

@@ -26,7 +26,7 @@ template <class K> [[gnu::noinline]] size_t halve(K* x, size_t n, KeyMap<K> in) 
 }
 
 template <class K> void sortInTeam(K* x, size_t n, KeyMap<K> map) {
-  if (n < kSortTeam.worthIt || kSortTeam.threads() < 2) return quicksort(x, n, map, map);
+  if (n < kSortTeam.worthIt || kSortTeam.threads() < 2) return quicksort(x, n, map);
   const size_t below = halve(x, n, map);
   inParts(2, [=](size_t part) {
     if (part == 0) quicksort<K>(x, below, {}, map);

@@ -28,7 +28,19 @@ constexpr int kValues = 256;
   }
 }
 
+// Of one row.
+void sortRowOfBytes(int8_t* x, size_t n, KeyMap<int8_t> map) {
+  constexpr size_t N = kRowLanes<int16_t>;
+  const Lanes<int8_t, N> bytes;
+  Vec<Lanes<int16_t, N>> v[] = {
+      hn::PromoteTo(Lanes<int16_t, N>(), map.keys(loadFirstOr(bytes, x, n, map.original(std::numeric_limits<int8_t>::max()))))};
+  detail::sortRows<detail::ByKeys>(v);
+  storeFirst(map.originals(hn::DemoteTo(bytes, v[0])), bytes, x, n);
+}
+
 void sortFewBytes(int8_t* x, size_t n, KeyMap<int8_t> map) {
+  if (n > 0 && n <= kFewElements && areInOrder(x, n, map)) return;
+  if (n <= kRowLanes<int16_t>) return sortRowOfBytes(x, n, map);
   constexpr size_t N = kVectorBytes / sizeof(int16_t);
   const Lanes<int16_t, N> d;
   const Lanes<int8_t, N> bytes;
@@ -48,4 +60,4 @@ void qvx::sortKeys(int8_t* x, size_t n, KeyMap<int8_t> map) {
   sortBytes(reinterpret_cast<uint8_t*>(x), n, map);
 }
 
-void qvx::sortKeys(int16_t* x, size_t n, KeyMap<int16_t> map) { quicksort(x, n, map, map); }
+void qvx::sortKeys(int16_t* x, size_t n, KeyMap<int16_t> map) { quicksort(x, n, map); }
