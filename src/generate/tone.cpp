@@ -24,7 +24,8 @@ template <class T> using Real = std::conditional_t<std::is_same_v<Part<T>, Qvx64
 template <class T> void fill(T* dst, size_t n, double magn, double rFreq, double turns) {
   using Angles = SpacedAngles<Real<T>>;
   if (n <= Angles::kFew) {
-    Angles::few(turns, rFreq, magn, n, [=](size_t at, auto sine, auto cosine) { putSamples(dst, at, n, cosine, sine); });
+    Angles::few(turns, rFreq, magn, n,
+                [=](size_t at, auto sine, auto cosine, auto... rest) { putSamples(dst, at, cosine, sine, rest...); });
     return;
   }
   const Angles angles(rFreq, magn);
@@ -33,7 +34,8 @@ template <class T> void fill(T* dst, size_t n, double magn, double rFreq, double
   for (size_t from = 0; from < n; from += Angles::kBlock) {
     const size_t count = std::min(Angles::kBlock, n - from);
     T* const to = dst + from;
-    angles.each(turns, count, [=](size_t at, auto sine, auto cosine) { putSamples(to, at, count, cosine, sine); });
+    angles.each(turns, count,
+                [=](size_t at, auto sine, auto cosine, auto... rest) { putSamples(to, at, cosine, sine, rest...); });
     turns += blockStep;
     turns -= static_cast<double>(static_cast<int64_t>(turns));
   }
@@ -65,11 +67,11 @@ void fillQ15(Qvx16s* dst, size_t n, QvxsToneState& tone) {
   for (size_t k = 0; k < N; ++k) first[k] = turnsOf(tone.phase + k * tone.step);
   auto turns = load(d, first);
   const auto step = hn::Set(d, turnsOf(N * tone.step));
-  for (size_t at = 0; at < n; at += N) {
+  eachVector<N>(n, [&](size_t at, auto... rest) {
     const auto v = hn::Set(d, tone.magn) * sinCosOfTurns(turns).cosine;
-    putSamples(dst, at, n, v, v);
+    putSamples(dst, at, v, v, rest...);
     turns = fractionOfTurns(turns + step);
-  }
+  });
   tone.phase += n * tone.step;
 }
 

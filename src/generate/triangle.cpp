@@ -1,5 +1,7 @@
 // Triangle waves. Each sample comes from its own phase, a fraction of 2^64 that wraps by itself: nothing has to be folded, and
 // nothing accumulates.
+#include "frame/each_vector.h"
+#include "frame/unroll.h"
 #include "generate/record.h"
 #include "generate/wave.h"
 
@@ -15,11 +17,10 @@ struct Lines {
   double fallAt0;
   double riseAt0;
 
-  // falls: the part of a turn in which the wave falls
-  static Lines of(double falls) {
-    constexpr double kLeast = 0x1p-52;  // what is no slope becomes one that nothing overflows by
-    falls = std::max(falls, kLeast);
-    const double rises = std::max(1 - falls, kLeast);
+  // falls: the part of a turn in which the wave falls. least: what is no slope becomes one that nothing overflows by.
+  static Lines of(double falls, double least) {
+    falls = std::max(falls, least);
+    const double rises = std::max(1 - falls, least);
     return {-2 / falls, 2 / rises, 1 - 1 / falls, 1 - 1 / rises};
   }
 };
@@ -39,59 +40,88 @@ constexpr uint32_t kId = 0x434D4149;
 constexpr int kBytes = 136;
 static_assert(sizeof(QvxsTriangleState) <= kBytes);
 
+// Slopes in parts of a turn: in floats, so that the magnitude and the fall from it have a sum that a double holds.
+constexpr double kLeastOfDoubles = 0x1p-52;
+constexpr double kLeastOfFloats = 0x1p-24;
+
 constexpr uint64_t kHalfTurn = uint64_t{1} << 63;
 constexpr uint64_t kQuarterTurn = uint64_t{1} << 62;
 
-template <class V> [[gnu::always_inline]] inline V upperLine(V v, Lines lines, double magn) {
-  using T = LaneOf<V>;
-  const auto line = [&](double slope, double at0) {
-    return hn::MulAdd(v, same<V>(static_cast<T>(slope)), same<V>(static_cast<T>(at0)));
-  };
-  const V unit = hn::Max(line(lines.fall, lines.fallAt0), line(lines.rise, lines.riseAt0));
-  return hn::Max(hn::Min(unit, same<V>(1)), same<V>(-1)) * same<V>(static_cast<T>(magn));
+template <class V, class T> [[gnu::always_inline]] inline V line(V v, T slope, T at0) {
+  return hn::MulAdd(v, same<V>(slope), same<V>(at0));
 }
 
-// N samples at a time of wave(phase); an imaginary part is a quarter of a turn late.
+// Vectors whose phases are the sums of one and the same with what is theirs: it comes from a 64-bit number, at the price of two
+// additions.
+inline constexpr size_t kTogether = 4;
+
+// N samples at a time of wave(phase, i), where i vectors have been made of that phase; an imaginary part is a quarter of a turn
+// late.
 template <size_t N, class T, class Wave>
 [[gnu::always_inline]] inline void putWave(T* dst, size_t n, Wave wave, uint64_t step, uint64_t phase) {
-  for (size_t at = 0; at < n; at += N, phase += N * step) {
-    if constexpr (PartsOf<T>::kCount == 1) {
-      const auto v = wave(phase);
-      putSamples(dst, at, n, v, v);
-    } else {
-      putSamples(dst, at, n, wave(phase), wave(phase - kQuarterTurn));
-    }
+  const auto put = [&](size_t i, size_t at, auto... rest) __attribute__((always_inline)) {
+    const auto v = wave(phase, i);
+    if constexpr (PartsOf<T>::kCount == 1) putSamples(dst, at, v, v, rest...);
+    else putSamples(dst, at, v, wave(phase - kQuarterTurn, i), rest...);
+  };
+  size_t from = 0;
+  for (; from + kTogether * N <= n; from += kTogether * N, phase += kTogether * N * step) {
+    unrolled<kTogether>([&](auto i) __attribute__((always_inline)) { put(i, from + i * N); });
   }
+  eachVector<N>(
+      n - from, [&](size_t at, auto... rest) __attribute__((always_inline)) { put(at / N, from + at, rest...); });
 }
 
-// In doubles: the first phase of a vector exact, the others a product more.
+// In doubles: the first phase exact, the others two products more.
 template <class T> void fill(T* dst, size_t n, double magn, Lines lines, uint64_t step, uint64_t phase) {
   constexpr size_t N = kVectorBytes / sizeof(double);
   const Lanes<double, N> d;
-  alignas(64) double steps[N];
+  alignas(64) double steps[kTogether * N];
   for (size_t k = 0; k < N; ++k) steps[k] = static_cast<double>(k * step) * 0x1p-64;
-  const auto lanes = load(d, steps);
-  const auto wave = [=](uint64_t at) {
-    const auto v = hn::Set(d, static_cast<double>(static_cast<int64_t>(at)) * 0x1p-64) + lanes;
-    return upperLine(v - hn::Round(v), lines, magn);
+  for (size_t i = 1; i < kTogether; ++i) {
+    store(load(d, steps) + hn::Set(d, static_cast<double>(i * N * step) * 0x1p-64), d, steps + i * N);
+  }
+  const auto wave = [&](uint64_t at, size_t i) {
+    const auto turns = hn::Set(d, static_cast<double>(static_cast<int64_t>(at)) * 0x1p-64) + load(d, steps + i * N);
+    const auto v = turns - hn::Round(turns);
+    const auto unit = hn::Max(line(v, lines.fall, lines.fallAt0), line(v, lines.rise, lines.riseAt0));
+    return hn::Max(hn::Min(unit, hn::Set(d, 1.0)), hn::Set(d, -1.0)) * hn::Set(d, magn);
   };
   putWave<N>(dst, n, wave, step, phase);
 }
 
-// In floats: phases of 32 bits, which are more than a float keeps.
+// The greatest float up to v.
+float floatUpTo(double v) {
+  const auto nearest = static_cast<float>(v);
+  return static_cast<double>(nearest) <= v ? nearest : std::nextafter(nearest, -std::numeric_limits<float>::infinity());
+}
+
+// In floats: phases of 32 bits, which are more than a float keeps. The lines have the magnitude in them, and begin so low that
+// what they come to at the peak is at most that.
 template <class T>
 requires std::is_same_v<Part<T>, Qvx32f>
 void fill(T* dst, size_t n, double magn, Lines lines, uint64_t step, uint64_t phase) {
   constexpr size_t N = kVectorBytes / sizeof(float);
   const Lanes<int32_t, N> d;
   const Lanes<float, N> real;
-  alignas(64) int32_t steps[N];
-  for (size_t k = 0; k < N; ++k) steps[k] = static_cast<int32_t>(static_cast<uint32_t>(k * step >> 32));
-  const auto lanes = load(d, steps);
-  const Lines scaled = {lines.fall * 0x1p-32, lines.rise * 0x1p-32, lines.fallAt0, lines.riseAt0};
-  const auto wave = [=](uint64_t at) {
-    const auto v = hn::ConvertTo(real, hn::Set(d, static_cast<int32_t>(static_cast<uint32_t>(at >> 32))) + lanes);
-    return upperLine(v, scaled, magn);
+  if (!(magn >= 0x1p-64 && magn <= 0x1p64)) {  // the lines would leave the range of floats
+    fill(dst, n, 1, lines, step, phase);
+    const auto scaled = [=](auto v) { return v * same<decltype(v)>(static_cast<float>(magn)); };
+    loop(scaled, destination(dst), PartsOf<T>::kCount * n, source(dst));
+    return;
+  }
+  const auto upper = [](uint64_t turns) { return static_cast<int32_t>(static_cast<uint32_t>(turns >> 32)); };
+  alignas(64) int32_t steps[kTogether * N];
+  for (size_t k = 0; k < N; ++k) steps[k] = upper(k * step);
+  for (size_t i = 1; i < kTogether; ++i) store(load(d, steps) + hn::Set(d, upper(i * N * step)), d, steps + i * N);
+  const auto fall = static_cast<float>(lines.fall * magn * 0x1p-32);
+  const auto rise = static_cast<float>(lines.rise * magn * 0x1p-32);
+  const float fallAt0 = floatUpTo(magn + static_cast<double>(fall) * 0x1p31);
+  const float riseAt0 = floatUpTo(magn - static_cast<double>(rise) * 0x1p31);
+  const auto least = hn::Set(real, static_cast<float>(-magn));
+  const auto wave = [&](uint64_t at, size_t i) {
+    const auto v = hn::ConvertTo(real, hn::Set(d, upper(at)) + load(d, steps + i * N));
+    return hn::Max(hn::Max(line(v, fall, fallAt0), line(v, rise, riseAt0)), least);
   };
   putWave<N>(dst, n, wave, step, phase);
 }
@@ -108,7 +138,8 @@ template <class T, class Magn, class Phase> QvxStatus direct(T* dst, int len, Ma
   if (len < 1) return qvxStatBadSize;
   *phase = phaseAfter(start, rFreq, len);
   const RoundingScope mode(kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest);
-  fill(dst, elements(len), static_cast<double>(magn), Lines::of(0.5 + asym * kTurn), fixedTurns(rFreq),
+  constexpr double kLeast = std::is_same_v<Part<T>, Qvx32f> ? kLeastOfFloats : kLeastOfDoubles;
+  fill(dst, elements(len), static_cast<double>(magn), Lines::of(0.5 + asym * kTurn, kLeast), fixedTurns(rFreq),
        fixedTurns(start * kTurn) - kHalfTurn);
   return qvxStatOk;
 }
@@ -125,7 +156,7 @@ void build(QvxsTriangleState& wave, int magn, int rFreqQ15, int asymQ15, int pha
   wave.magic = kId;
   wave.ownsBlock = false;
   wave.magn = magn;
-  wave.lines = Lines::of(0.5 + asymQ15 * 0x1p-15 * kTurn);
+  wave.lines = Lines::of(0.5 + asymQ15 * 0x1p-15 * kTurn, kLeastOfDoubles);
   wave.step = static_cast<uint64_t>(rFreqQ15) << 49;
   wave.phase = shortTurns(phaseQ15 * 0x1p-15 * kTurn) - kHalfTurn;
 }

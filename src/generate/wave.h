@@ -34,23 +34,17 @@ template <class T, class V> auto toSamples(V v) {
   }
 }
 
-// Samples `at` on of `count`, a real number or a pair of parts each.
-template <class T, class V> [[gnu::always_inline]] inline void putSamples(T* dst, size_t at, size_t count, V re, V im) {
+// Samples from `at` on, a real number or a pair of parts each: of all lanes, or of the first `rest`.
+template <class T, class V, class... Rest>
+[[gnu::always_inline]] inline void putSamples(T* dst, size_t at, V re, V im, Rest... rest) {
   constexpr size_t N = kLanesOf<V>;
-  const auto samples = [&] {
-    if constexpr (PartsOf<T>::kCount == 1) {
-      return toSamples<T>(re);
-    } else {
-      const auto first = toSamples<Part<T>>(re);
-      return Pair<std::remove_const_t<decltype(first)>>{first, toSamples<Part<T>>(im)};
-    }
-  }();
-  const auto to = [&] {
-    if constexpr (PartsOf<T>::kCount == 1) return destination(dst);
-    else return InterleavedDestination<Part<T>>{parts(dst)};
-  }();
-  if (at + N <= count) to.template put<N>(samples, at);
-  else to.template put<N>(samples, at, count - at);
+  if constexpr (PartsOf<T>::kCount == 1) {
+    destination(dst).template put<N>(toSamples<T>(re), at, rest...);
+  } else {
+    const auto first = toSamples<Part<T>>(re);
+    const Pair<std::remove_const_t<decltype(first)>> samples{first, toSamples<Part<T>>(im)};
+    InterleavedDestination<Part<T>>{parts(dst)}.template put<N>(samples, at, rest...);
+  }
 }
 
 }  // namespace qvx::generate

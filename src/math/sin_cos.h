@@ -63,11 +63,11 @@ template <int kDigits, class V> SinCos<V> sinCosOfQuarters(V k, V r, V rest) {
   return {ifNegative(odd, c, s) ^ turned, ifNegative(odd, s, c) ^ turned ^ (odd & signBit)};
 }
 
-// Of an angle in whole turns, a fraction whose quarters and their remainder are exact. Error below 1 ULP.
-template <class V> SinCos<V> sinCosOfTurns(V turns) {
+// Of an angle in whole turns, a fraction whose quarters and their remainder are exact. Error below 1 ULP, or as above.
+template <int kDigits = 53, class V> SinCos<V> sinCosOfTurns(V turns) {
   const V k = hn::Round(turns * same<V>(4));
   const V r = hn::NegMulAdd(k, same<V>(0.25), turns) * same<V>(0x1.921fb54442d18p+2);
-  return sinCosOfQuarters<53>(k, r, hn::Zero(TagOf<V>()));
+  return sinCosOfQuarters<kDigits>(k, r, hn::Zero(TagOf<V>()));
 }
 
 template <int kDigits, class V> SinCos<V> sinCos(V x) {

@@ -7,6 +7,7 @@
 // sine and cosine are both positive, nothing cancels, and the sine is good to as many units of its own.
 #pragma once
 
+#include "frame/each_vector.h"
 #include "frame/map.h"
 #include "math/sin_cos.h"
 
@@ -29,7 +30,7 @@ template <class T> class SpacedAngles {
     const auto count = hn::Iota(wide, 0);
     for (size_t k = 0; k < kLanes; k += kWide) {
       const auto angle = (count + hn::Set(wide, static_cast<double>(k))) * hn::Set(wide, step);
-      const auto lanes = sinCosOfTurns(fractionOfTurns(angle));
+      const auto lanes = sinCosOfTurns<kDigits>(fractionOfTurns(angle));
       store(convertLanes<T>(lanes.sine * hn::Set(wide, scale)), Lanes<T, kWide>(), sines_ + k);
       store(convertLanes<T>(lanes.cosine * hn::Set(wide, scale)), Lanes<T, kWide>(), cosines_ + k);
     }
@@ -39,44 +40,51 @@ template <class T> class SpacedAngles {
     turnCosine_ = hn::GetLane(turned.cosine);
   }
 
-  // put(at, sines, cosines) for whole vectors that cover `count` samples, kBlock at most, from the angle `start` on.
+  // put(at, sines, cosines) for whole vectors of `count` samples, kBlock at most, from the angle `start` on, and
+  // put(at, sines, cosines, rest) for the last one, of which only `rest` lanes count.
   template <class Put> [[gnu::always_inline]] void each(double start, size_t count, Put put) const {
     const Lanes<double, kWide> wide;
     const Lanes<T, kLanes> d;
     alignas(64) T firstSines[kWide];
     alignas(64) T firstCosines[kWide];
-    const size_t vectors = (count + kLanes - 1) / kLanes;
     const auto firsts = hn::MulAdd(hn::Iota(wide, 0), hn::Set(wide, vectorStep_), hn::Set(wide, start));
-    auto [sine, cosine] = sinCosOfTurns(fractionOfTurns(firsts));
+    auto [sine, cosine] = sinCosOfTurns<kDigits>(fractionOfTurns(firsts));
     const auto byS = hn::Set(wide, turnSine_);
     const auto byC = hn::Set(wide, turnCosine_);
     const auto laneSines = load(d, sines_);
     const auto laneCosines = load(d, cosines_);
-    for (size_t b = 0; b < vectors; b += kWide) {
+    for (size_t at = 0; at < count;) {
       store(convertLanes<T>(sine), Lanes<T, kWide>(), firstSines);
       store(convertLanes<T>(cosine), Lanes<T, kWide>(), firstCosines);
       const auto on = hn::MulAdd(sine, byC, cosine * byS);
       cosine = hn::NegMulAdd(sine, byS, cosine * byC);
       sine = on;
-      for (size_t k = 0; k < std::min(kWide, vectors - b); ++k) {
+      const auto putNext = [&](size_t k, auto... rest) __attribute__((always_inline)) {
         const auto s = hn::Set(d, firstSines[k]);
         const auto c = hn::Set(d, firstCosines[k]);
-        put((b + k) * kLanes, hn::MulAdd(s, laneCosines, c * laneSines), hn::NegMulAdd(s, laneSines, c * laneCosines));
-      }
+        put(at, hn::MulAdd(s, laneCosines, c * laneSines), hn::NegMulAdd(s, laneSines, c * laneCosines), rest...);
+        at += kLanes;
+      };
+      // Not unrolled: with constant places the compiler shuffles what it would load, five instructions for two.
+      size_t k = 0;
+      for (; k < kWide && at + kLanes <= count; ++k) putNext(k);
+      if (k < kWide && at < count) putNext(k, count - at);
     }
   }
 
   // The same for a few samples, a sine each.
   template <class Put> [[gnu::always_inline]] static void few(double start, double step, double scale, size_t count, Put put) {
     const Lanes<double, kWide> wide;
-    for (size_t at = 0; at < count; at += kWide) {
+    const auto putNext = [&](size_t at, auto... rest) __attribute__((always_inline)) {
       const auto number = hn::Iota(wide, 0) + hn::Set(wide, static_cast<double>(at));
-      const auto v = sinCosOfTurns(fractionOfTurns(hn::MulAdd(number, hn::Set(wide, step), hn::Set(wide, start))));
-      put(at, convertLanes<T>(v.sine * hn::Set(wide, scale)), convertLanes<T>(v.cosine * hn::Set(wide, scale)));
-    }
+      const auto v = sinCosOfTurns<kDigits>(fractionOfTurns(hn::MulAdd(number, hn::Set(wide, step), hn::Set(wide, start))));
+      put(at, convertLanes<T>(v.sine * hn::Set(wide, scale)), convertLanes<T>(v.cosine * hn::Set(wide, scale)), rest...);
+    };
+    eachVector<kWide>(count, putNext);
   }
 
  private:
+  static constexpr int kDigits = sizeof(T) == sizeof(float) ? 24 : 53;
   alignas(64) T sines_[kLanes];
   alignas(64) T cosines_[kLanes];
   double vectorStep_;

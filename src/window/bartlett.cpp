@@ -1,4 +1,5 @@
 // The Bartlett window.
+#include "frame/each_vector.h"
 #include "window/weigh.h"
 
 using namespace qvx;
@@ -10,12 +11,13 @@ namespace {
 template <class W> struct Rising {
   double step;
 
-  void operator()(size_t from, size_t count, W* w) const {
-    const Lanes<W, kVectorBytes / sizeof(W)> d;
+  template <class Put> void operator()(size_t count, Put put) const {
+    constexpr size_t N = kVectorBytes / sizeof(W);
+    const Lanes<W, N> d;
     const auto lanes = hn::Iota(d, 0) * hn::Set(d, static_cast<W>(step));
-    for (size_t at = 0; at < count; at += kVectorBytes / sizeof(W)) {
-      store(lanes + hn::Set(d, static_cast<W>(static_cast<double>(from + at) * step)), d, w + at);
-    }
+    eachVector<N>(count, [&](size_t at, auto... rest) {
+      put(at, lanes + hn::Set(d, static_cast<W>(static_cast<double>(at) * step)), rest...);
+    });
   }
 };
 

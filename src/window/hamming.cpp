@@ -13,14 +13,14 @@ Qvx16sc atEnd(Qvx16sc v) { return {atEnd(v.re), atEnd(v.im)}; }
 
 template <class T> QvxStatus hamming(const T* src, T* dst, int len) {
   if constexpr (std::is_floating_point_v<Part<T>>) {
-    return cosineWindow(src, dst, len, kHamming);
+    return cosineWindow(src, dst, len, Hamming{});
   } else {
     const QvxStatus status = checkWindow(src, dst, len);
     if (status != qvxStatOk) return status;
     const RoundingScope nearest(Rounding::kNearest);
     const T first = atEnd(src[0]);
     const T last = atEnd(src[len - 1]);
-    cosineWindow(src, dst, len, kHamming);
+    cosineWindow(src, dst, len, Hamming{});
     dst[0] = first;
     dst[len - 1] = last;
     return qvxStatOk;

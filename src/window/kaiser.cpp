@@ -1,4 +1,5 @@
 // The Kaiser window: a quotient of two modified Bessel functions of order 0.
+#include "frame/each_vector.h"
 #include "math/exp.h"
 #include "window/weigh.h"
 
@@ -45,16 +46,15 @@ template <class Series, class W> struct BesselWeights {
   double last;
   double norm;
 
-  void operator()(size_t from, size_t count, W* w) const {
+  template <class Put> void operator()(size_t count, Put put) const {
     constexpr size_t kWide = kVectorBytes / sizeof(double);
     const Lanes<double, kWide> d;
-    for (size_t at = 0; at < count; at += kWide) {
-      const auto n = hn::Iota(d, 0) + hn::Set(d, static_cast<double>(from + at));
+    eachVector<kWide>(count, [&](size_t at, auto... rest) {
+      const auto n = hn::Iota(d, 0) + hn::Set(d, static_cast<double>(at));
       // Past the middle of short windows nobody takes the weight, but a negative product has no root.
       const auto product = hn::Max(n * (hn::Set(d, last) - n), hn::Zero(d));
-      const auto value = bessel0<Series>(hn::Set(d, alpha) * hn::Sqrt(product)) * hn::Set(d, norm);
-      store(convertLanes<W>(value), Lanes<W, kWide>(), w + at);
-    }
+      put(at, convertLanes<W>(bessel0<Series>(hn::Set(d, alpha) * hn::Sqrt(product)) * hn::Set(d, norm)), rest...);
+    });
   }
 };
 

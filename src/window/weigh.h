@@ -1,4 +1,4 @@
-// A vector times a symmetric window: every weight is made once and serves both ends.
+// A vector times a symmetric window: every weight is made once, and serves both ends from its register.
 #pragma once
 
 #include "frame/map.h"
@@ -21,22 +21,6 @@ template <class T> QvxStatus checkWindow(const T* src, const T* dst, int len) {
 // In what the weights of an element are made.
 template <class T> using Weight = std::conditional_t<std::is_same_v<Part<T>, Qvx64f>, Qvx64f, Qvx32f>;
 
-// Weights from the last before `end` to the first. What stands before them is read, where there are fewer than lanes.
-template <class T> struct Mirrored {
-  using Lane = T;
-  const T* end;
-
-  template <size_t N> auto get(size_t at) const { return reversed(load(Lanes<T, N>(), end - at - N)); }
-  template <size_t N> auto get(size_t at, size_t) const { return get<N>(at); }
-};
-template <class T> struct MirroredTwice {
-  using Lane = T;
-  const T* end;
-
-  template <size_t N> auto get(size_t at) const { return twice(reversed(load(Lanes<T, N / 2>(), end - at / 2 - N / 2))); }
-  template <size_t N> auto get(size_t at, size_t) const { return get<N>(at); }
-};
-
 // Floats as they come. Integers times 2^-scaleFactor, to nearest, saturated: `factor` is that power of two.
 template <class T> struct Weighed {
   Qvx32f factor;
@@ -52,31 +36,57 @@ template <class T> struct Weighed {
   }
 };
 
-// dst[n] = src[n] * w[n], w[len-1-n] = w[n], and the middle of odd lengths as it is. fill(from, count, w) makes weights, and may
-// store a vector more than count.
-template <class T, class Fill> void weigh(const T* src, T* dst, size_t len, Qvx32f factor, Fill fill) {
-  using W = Weight<T>;
-  constexpr size_t kPadding = kVectorBytes / sizeof(W);
-  constexpr size_t kChunk = 4096 / sizeof(W);
-  constexpr size_t kParts = PartsOf<T>::kCount;
-  alignas(64) W memory[kChunk + 2 * kPadding];
-  W* const w = memory + kPadding;
-  std::fill_n(memory, kPadding, W{});  // what mirrored vectors hold beside fewer elements than they have lanes
-  const Weighed<T> kernel{factor};
-  const size_t half = len / 2;
-  for (size_t from = 0; from < half; from += kChunk) {
-    const size_t count = std::min(kChunk, half - from);
-    const size_t back = len - from - count;
-    fill(from, count, w);
-    if constexpr (kParts == 1) {
-      loop(kernel, destination(dst + from), count, source(src + from), Source<W>{w});
-      loop(kernel, destination(dst + back), count, source(src + back), Mirrored<W>{w + count});
+// dst[n] = src[n] * w[n], w[len-1-n] = w[n], as far as vectors of the first half's weights come: `at` is the place of the first.
+template <class T> struct BothEnds {
+  const T* src;
+  T* dst;
+  size_t len;
+  Weighed<T> kernel;
+
+  template <class V> void operator()(size_t at, V weights) const {
+    both(at, weights);
+    both(len - at - kLanesOf<V>, reversed(weights));
+  }
+  // Of which the first `rest` count.
+  template <class V> void operator()(size_t at, V weights, size_t rest) const {
+    const TagOf<V> d;
+    const hn::RebindToSigned<decltype(d)> places;
+    const auto last = hn::Set(places, static_cast<hn::TFromD<decltype(places)>>(rest - 1));
+    const auto order = hn::Max(last - hn::Iota(places, 0), hn::Zero(places));
+    both(at, weights, rest);
+    both(len - at - rest, hn::TableLookupLanes(weights, hn::IndicesFromVec(d, order)), rest);
+  }
+
+ private:
+  // A weight for each element, from `at` on.
+  template <class V, class... Rest> void both(size_t at, V weights, Rest... rest) const {
+    if constexpr (PartsOf<T>::kCount == 1) {
+      each(at, weights, rest...);
     } else {
-      loop(kernel, destination(dst + from), 2 * count, source(src + from), Doubled<W>{w});
-      loop(kernel, destination(dst + back), 2 * count, source(src + back), MirroredTwice<W>{w + count});
+      constexpr size_t N = kLanesOf<V>;
+      const auto twice = interleaved(Pair<V>{weights, weights});
+      if constexpr (sizeof...(rest) == 0) {
+        each(2 * at, twice.lo);
+        each(2 * at + N, twice.hi);
+      } else {
+        const size_t all = 2 * (rest + ...);
+        each(2 * at, twice.lo, std::min(all, N));
+        if (all > N) each(2 * at + N, twice.hi, all - N);
+      }
     }
   }
-  if (len % 2 != 0) dst[half] = src[half];
+  // A weight for each part, from i on.
+  template <class V, class... Rest> void each(size_t i, V weights, Rest... rest) const {
+    constexpr size_t N = kLanesOf<V>;
+    const auto x = Source<Part<T>>{parts(src)}.template get<N>(i, rest...);
+    Destination<Part<T>>{parts(dst)}.template put<N>(kernel(x, weights), i, rest...);
+  }
+};
+
+// The middle of odd lengths stays as it is. make(count, put) makes weights for put, a BothEnds.
+template <class T, class Make> void weigh(const T* src, T* dst, size_t len, Qvx32f factor, Make make) {
+  make(len / 2, BothEnds<T>{src, dst, len, {factor}});
+  if (len % 2 != 0) dst[len / 2] = src[len / 2];
 }
 
 // Integers are rounded to nearest in any mode of the processor; on SSSE3 the elementary functions need it for floats as well.

@@ -125,6 +125,8 @@ template <class T, class Phase, class Run> void expectTriangle(Run run, double m
 
 TEST(Triangle, IsItsLines) {
   expectTriangle<Qvx32f, Qvx32f>(qvxsTriangle_Direct_32f, 3.5, 0x1p-23, 0x1p-22);
+  expectTriangle<Qvx32f, Qvx32f>(qvxsTriangle_Direct_32f, 0x1p126, 0x1p-23, 0x1p-22);
+  expectTriangle<Qvx32f, Qvx32f>(qvxsTriangle_Direct_32f, 0x1p-100, 0x1p-23, 0x1p-22);
   expectTriangle<Qvx32fc, Qvx32f>(qvxsTriangle_Direct_32fc, 100, 0x1p-23, 0x1p-22);
   expectTriangle<Qvx64f, Qvx64f>(qvxsTriangle_Direct_64f, 0.75, 0x1p-50, 0x1p-50);
   expectTriangle<Qvx64fc, Qvx64f>(qvxsTriangle_Direct_64fc, 1, 0x1p-50, 0x1p-50);
