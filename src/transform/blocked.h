@@ -151,6 +151,13 @@ template <bool kAhead, size_t R, size_t L, class T, class Dst>
   }
 }
 
+// The first radix or the last. The pass that looks ahead has kBlockPoints rows, so there is one, and one large kernel to compile.
+inline constexpr Levels kBlockLevels = levelsFor(kBlockPoints);
+template <bool kAhead, bool kLast, class Step> QVX_INLINE void withColumnRadix(const Levels& levels, Step step) {
+  if constexpr (kAhead) step(std::integral_constant<size_t, kBlockLevels.radix[kLast ? kBlockLevels.count - 1 : 0]>());
+  else withRadix(levels.radix[kLast ? levels.count - 1 : 0], step);
+}
+
 // Transforms down the rows, each column in its place. Tiles of them go through the work array, so that the caller's memory is
 // read and written in runs of 512 bytes: rows a power of two apart leave the caches no room for more, and runs of 128 bytes are
 // written at 15 GB/s where these are at 50. What the first level has made of a tile goes through the others part by part, in the
@@ -165,10 +172,10 @@ template <bool kAhead, size_t L, class T, class Src, class Dst>
   const size_t parts = levels.radix[0];
   const size_t part = rows / parts;
   for (size_t c = range.from; c < range.to; c += wide) {
-    withRadix(parts, [=](auto R) { loadColumns<kAhead, R>(src.from(c), columns, tile, twiddles.levels); });
+    withColumnRadix<kAhead, false>(levels, [=](auto R) { loadColumns<kAhead, R>(src.from(c), columns, tile, twiddles.levels); });
     for (size_t a = 0; a < parts; ++a) {
       middleLevels<L>(levels, ColumnTile<L, T>{tile.at(a * part, 0), part, wide}, twiddles.levels + part * (parts - 1) * 2, 1);
-      withRadix(levels.radix[levels.count - 1], [=, &place](auto R) {
+      withColumnRadix<kAhead, true>(levels, [=, &place](auto R) {
         storeColumns<kAhead, R>(tile, place, a, parts, twiddles.lanes, twiddles.tiles + c / C * 2 * rows, dst.from(c), columns);
       });
     }
@@ -264,8 +271,8 @@ void firstColumns(Split<const T> src, Split<T> dst, size_t rows, size_t columns,
 // n points in place.
 template <size_t L, class T, class Points, class Scale>
 QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Scale scale) {
-  if constexpr (L * L == kBlockPoints) transformInSquare<L>(row, row, plan.rowTwiddles, scale);
-  else runPasses<L>(plan, row, row, y, scale);
+  if constexpr (L * L == kBlockPoints) transformInSquare<L>(row.asSource(), row, plan.rowTwiddles, scale);
+  else runPasses<L>(plan, row.asSource(), row, y, scale);
 }
 
 // Working memory of `points` for each part of a divided call. The first is always the caller's, and has the caller's memory. By
@@ -301,7 +308,7 @@ template <size_t L, class Dst, class T>
   for (size_t ka = range.from; ka < range.to; ++ka) {
     const Dst here = dst.from(ka * block);
     if (m <= kWidestRadix) withRadix(m, [&](auto R) { downShortColumns<R, L>(here, n, inner); });
-    else downColumns<false, L>(here, here, m, n, {0, n}, std::min(tile / m, n), inner, y);
+    else downColumns<false, L>(here.asSource(), here, m, n, {0, n}, std::min(tile / m, n), inner, y);
     for (size_t kb = 0; kb < m; ++kb) {
       const Dst row = here.from(kb * n);
       rowTransform<L>(rowPlan, row, y, scale);
