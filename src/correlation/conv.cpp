@@ -34,7 +34,7 @@ template <class C> QvxStatus checkedConvolve(const C* a, int aLen, const C* b, i
   constexpr int kMost = kVectorElements<C>;
   if (status == qvxStatOk && aLen <= kMost && bLen <= kMost) {
     const Band<C> band = bandOf(a, elements(aLen), b, elements(bLen), 0, elements(aLen + bLen - 1));
-    if (convolveInRegisters(band.x, band.length, band.taps, band.count, y)) [[unlikely]]
+    if (correlateInRegisters(band, y)) [[unlikely]]
       mendEnds(band, y);
     return qvxStatOk;
   }

@@ -1,5 +1,5 @@
 // Cross-correlation at a range of lags.
-#include "correlation/band.h"
+#include "correlation/direct.h"
 #include "correlation/doubles.h"
 
 using namespace qvx;
@@ -45,6 +45,16 @@ QvxStatus checkCall(const void* a, int aLen, const void* b, int bLen, const void
 template <class C> QvxStatus checkedCorrelate(const C* a, int aLen, const C* b, int bLen, C* y, int lags, int lowLag) {
   const QvxStatus status = checkCall(a, aLen, b, bLen, y, lags);
   if (status != qvxStatOk) return status;
+#if QVXS_AVX512
+  if constexpr (PartsOf<C>::kCount == 1) {
+    const Band<C> band{b, elements(bLen), a, elements(aLen), false, lowLag, elements(lags)};
+    if (fitsRegisters(band)) {
+      if (correlateInRegisters(band, y)) [[unlikely]]
+        mendEnds(band, y);
+      return qvxStatOk;
+    }
+  }
+#endif
   return crossCorrelate(a, elements(aLen), b, elements(bLen), y, elements(lags), lowLag, kDirectTo<C>);
 }
 

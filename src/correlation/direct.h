@@ -38,25 +38,38 @@ template <class C> void copyPadded(const C* x, size_t length, int64_t at, size_t
 inline constexpr size_t kWorthTrimming = 64;
 
 #if QVXS_AVX512
-// The convolution of a vector that fits a register and one that leaves no more than two for the results: each tap multiplies the
-// first, moved on by as many lanes. 8 x 8 floats take 6 ns, 47 through memory. Returns whether a result may be no number: asking
-// that of the sums takes 1 ns, asking it of the taps 5.
-template <class T> bool convolveInRegisters(const T* a, size_t aLen, const T* b, size_t bLen, T* y) {
+// Bands of x and taps that fit a register each, all outputs of which meet x.
+template <class C> bool fitsRegisters(const Band<C>& band) {
+  constexpr size_t N = kVectorElements<C>;
+  const auto count = static_cast<int64_t>(band.count);
+  return band.length <= N && band.count <= N && band.from > -count &&
+         band.from + static_cast<int64_t>(band.outputs) <= static_cast<int64_t>(band.length);
+}
+
+// Each tap multiplies x, moved on by as many lanes: two registers have all results. A convolution of 8 x 8 floats takes 6 ns, 47
+// through memory. Returns whether a result may be no number: asking that of the sums takes 1 ns, asking it of the taps 5.
+template <class T> bool correlateInRegisters(const Band<T>& band, T* y) {
   constexpr size_t N = kVectorElements<T>;
   constexpr Lanes<T, N> d;
   using V = Vec<Lanes<T, N>>;
   const V zero = hn::Zero(d);
-  const V x = loadFirst(d, a, aLen);
+  const V x = loadFirst(d, band.x, band.length);
   V low = zero;
   V high = zero;
   auto index = laneNumbers<V>(N);
-  for (size_t k = 0; k < bLen; ++k) {
-    const V tap = hn::Set(d, b[k]);
+  for (size_t k = 0; k < band.count; ++k) {
+    const V tap = hn::Set(d, band.taps[band.isReversed ? k : band.count - 1 - k]);
     low = hn::MulAdd(tap, lanesOfTwo(zero, x, index), low);
     high = hn::MulAdd(tap, lanesOfTwo(x, zero, index), high);
     index = index - same<decltype(index)>(1);
   }
-  const size_t n = aLen + bLen - 1;
+  if (const auto first = static_cast<size_t>(band.from + static_cast<int64_t>(band.count) - 1); first > 0) {
+    const auto moved = laneNumbers<V>(first % N);
+    const V next = first < N ? lanesOfTwo(low, high, moved) : lanesOfTwo(high, zero, moved);
+    high = first < N ? lanesOfTwo(high, zero, moved) : zero;
+    low = next;
+  }
+  const size_t n = band.outputs;
   storeFirst(low, d, y, std::min(n, N));
   if (n > N) storeFirst(high, d, y + N, n - N);
   return !hn::AllFalse(d, hn::Or(hn::IsNaN(low), hn::IsNaN(high)));

@@ -249,6 +249,13 @@ inline __m512 lookup(__m512i i, const float (&t)[32]) {
 inline __m512d lookup(__m512i i, const double (&t)[16]) {
   return _mm512_permutex2var_pd(_mm512_load_pd(t), i, _mm512_load_pd(t + 8));
 }
+constexpr int kNanOrMinusZero = 0x01 | 0x04 | 0x80;  // as vfpclass numbers quiet NaN, -0.0, signalling NaN
+inline __mmask8 areNanOrMinusZero(__m128 v) { return _mm_fpclass_ps_mask(v, kNanOrMinusZero); }
+inline __mmask8 areNanOrMinusZero(__m256 v) { return _mm256_fpclass_ps_mask(v, kNanOrMinusZero); }
+inline __mmask16 areNanOrMinusZero(__m512 v) { return _mm512_fpclass_ps_mask(v, kNanOrMinusZero); }
+inline __mmask8 areNanOrMinusZero(__m128d v) { return _mm_fpclass_pd_mask(v, kNanOrMinusZero); }
+inline __mmask8 areNanOrMinusZero(__m256d v) { return _mm256_fpclass_pd_mask(v, kNanOrMinusZero); }
+inline __mmask8 areNanOrMinusZero(__m512d v) { return _mm512_fpclass_pd_mask(v, kNanOrMinusZero); }
 #endif
 
 }  // namespace detail
@@ -359,6 +366,19 @@ inline float reciprocalRootEstimate(float x) { return _mm_cvtss_f32(_mm_rsqrt_ss
 template <class T, class V> auto as(V v) { return hn::BitCast(hn::Repartition<T, TagOf<V>>(), v); }
 
 template <class V> V same(LaneOf<V> value) { return hn::Set(TagOf<V>(), value); }
+
+// Lanes of floats that minima and maxima have no place for.
+template <class V> auto areNanOrMinusZero(V v) {
+  const TagOf<V> d;
+#if QVXS_AVX512
+  return hn::Mask<decltype(d)>{detail::areNanOrMinusZero(v.raw)};
+#else
+  const hn::RebindToUnsigned<decltype(d)> bits;
+  using U = hn::TFromD<decltype(bits)>;
+  const auto isMinusZero = hn::BitCast(bits, v) == hn::Set(bits, U{1} << (8 * sizeof(U) - 1));
+  return hn::Or(hn::RebindMask(d, isMinusZero), hn::IsNaN(v));
+#endif
+}
 
 // The upper half of the lanes. Highway clears what follows a part of a register before it shifts, by a mask or a constant.
 template <class V> auto upperHalf(V v) {

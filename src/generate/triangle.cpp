@@ -78,7 +78,7 @@ template <class T> void fill(T* dst, size_t n, double magn, Lines lines, uint64_
   const Lanes<double, N> d;
   alignas(64) double steps[kTogether * N];
   for (size_t k = 0; k < N; ++k) steps[k] = static_cast<double>(k * step) * 0x1p-64;
-  for (size_t i = 1; i < kTogether; ++i) {
+  for (size_t i = 1; i < kTogether && i * N < n; ++i) {
     store(load(d, steps) + hn::Set(d, static_cast<double>(i * N * step) * 0x1p-64), d, steps + i * N);
   }
   const auto wave = [&](uint64_t at, size_t i) {
@@ -113,7 +113,7 @@ void fill(T* dst, size_t n, double magn, Lines lines, uint64_t step, uint64_t ph
   const auto upper = [](uint64_t turns) { return static_cast<int32_t>(static_cast<uint32_t>(turns >> 32)); };
   alignas(64) int32_t steps[kTogether * N];
   for (size_t k = 0; k < N; ++k) steps[k] = upper(k * step);
-  for (size_t i = 1; i < kTogether; ++i) store(load(d, steps) + hn::Set(d, upper(i * N * step)), d, steps + i * N);
+  for (size_t i = 1; i < kTogether && i * N < n; ++i) store(load(d, steps) + hn::Set(d, upper(i * N * step)), d, steps + i * N);
   const auto fall = static_cast<float>(lines.fall * magn * 0x1p-32);
   const auto rise = static_cast<float>(lines.rise * magn * 0x1p-32);
   const float fallAt0 = floatUpTo(magn + static_cast<double>(fall) * 0x1p31);

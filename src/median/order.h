@@ -27,18 +27,11 @@ template <class T> struct AsKey {
   static KeyMap<Lane> map() { return keyMap<T>(Order::kAscending); }
 };
 
-// Lanes of floats that do not compare as their keys do.
-template <class V> auto isOdd(V v) {
-  const TagOf<V> d;
-  const hn::RebindToUnsigned<decltype(d)> bits;
-  using U = hn::TFromD<decltype(bits)>;
-  const auto isMinusZero = hn::BitCast(bits, v) == hn::Set(bits, U{1} << (8 * sizeof(U) - 1));
-  return hn::Or(hn::RebindMask(d, isMinusZero), hn::IsNaN(v));
-}
-template <class V> bool needsKeys(V v) { return !hn::AllFalse(TagOf<V>(), isOdd(v)); }
+// Whether there is a float that does not compare as its key does.
+template <class V> bool needsKeys(V v) { return !hn::AllFalse(TagOf<V>(), areNanOrMinusZero(v)); }
 template <class T> bool compareAsTheyAre(const T* x, size_t n) {
   if constexpr (std::is_integral_v<T>) return true;
-  else return firstWhere([](auto v) { return isOdd(v); }, n, source(x)) == n;
+  else return firstWhere([](auto v) { return areNanOrMinusZero(v); }, n, source(x)) == n;
 }
 
 template <class V> V least(V a, V b) {

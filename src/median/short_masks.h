@@ -87,29 +87,35 @@ template <class Network, class T> struct Windows {
     return [p = x + i - kReach](size_t k) { return load(Lanes<T, N>(), p + k); };
   }
 
-  // kEnd outputs from i on. A shuffle repeats the first and the last element, since a copy with room at its ends would be loaded
-  // across what was just stored, which takes 20 ns.
-  template <ByKeys byKeys = ByKeys::kNo> [[gnu::noinline]] Vec<Lanes<T, kEnd>> atEnd(size_t i) const {
+  // kEnd outputs from i on; of a vector that is no longer than that, all. A shuffle repeats the first and the last element, since
+  // a copy with room at its ends would be loaded across what was just stored, which takes 20 ns.
+  template <bool kIsAll, ByKeys byKeys = ByKeys::kNo> [[gnu::noinline]] Vec<Lanes<T, kEnd>> atEnd(size_t i) const {
     const Lanes<T, kEnd> narrow;
     const Lanes<Lane, kEnd> d;
     const hn::RebindToSigned<decltype(d)> places;
     using Place = hn::TFromD<decltype(places)>;
-    const size_t count = std::min(n, kEnd);
-    const auto all = n < kEnd ? loadFirst(narrow, x, n) : hn::Undefined(narrow);
-    const auto top = hn::Set(places, static_cast<Place>(count - 1));
+    const auto all = convertLanes<Lane>(kIsAll ? n < kEnd ? loadFirst(narrow, x, n) : load(narrow, x) : hn::Zero(narrow));
+    const auto top = hn::Set(places, static_cast<Place>(kIsAll ? n - 1 : kEnd - 1));
+    const auto shuffled = [&](auto v, ptrdiff_t by) __attribute__((always_inline)) {
+      const auto place = hn::Iota(places, 0) + hn::Set(places, static_cast<Place>(by));
+      return hn::TableLookupLanes(v, hn::IndicesFromVec(d, hn::Min(hn::Max(place, hn::Zero(places)), top)));
+    };
     const auto at = [&](size_t k) __attribute__((always_inline)) {
       const auto from = static_cast<ptrdiff_t>(i + k) - static_cast<ptrdiff_t>(kReach);
-      const auto base = std::clamp<ptrdiff_t>(from, 0, static_cast<ptrdiff_t>(n - count));
-      const auto v = convertLanes<Lane>(n < kEnd ? all : load(narrow, x + base));
-      const auto place = hn::Iota(places, 0) + hn::Set(places, static_cast<Place>(from - base));
-      return hn::TableLookupLanes(v, hn::IndicesFromVec(d, hn::Min(hn::Max(place, hn::Zero(places)), top)));
+      if constexpr (kIsAll) {
+        return k == kReach ? all : shuffled(all, static_cast<ptrdiff_t>(k) - static_cast<ptrdiff_t>(kReach));
+      } else {
+        const auto base = std::clamp<ptrdiff_t>(from, 0, static_cast<ptrdiff_t>(n - kEnd));
+        const auto v = convertLanes<Lane>(load(narrow, x + base));
+        return from == base ? v : shuffled(v, from - base);
+      }
     };
     if constexpr (std::is_floating_point_v<T>) {
       if (byKeys == ByKeys::kYes) return mediansByKeys<Network>(at);
       bool needed = needsKeys(at(2 * kReach));
       for (size_t k = 0; k < 2 * kReach; k += kEnd) needed |= needsKeys(at(k));
       if (needed) [[unlikely]]
-        return atEnd<ByKeys::kYes>(i);
+        return atEnd<kIsAll, ByKeys::kYes>(i);
     }
     return convertLanes<T>(medians<Network>(at));
   }
@@ -211,16 +217,16 @@ template <class Network, class T> [[gnu::noinline]] QvxStatus filterByNetwork(co
   constexpr size_t kReach = W::kReach;
   const W windows{x, n};
   if (n <= kEnd) {
-    storeFirst(windows.atEnd(0), Lanes<T, kEnd>(), dst, n);
+    storeFirst(windows.template atEnd<true>(0), Lanes<T, kEnd>(), dst, n);
     return qvxStatOk;
   }
   constexpr size_t kLast = (kReach + kEnd - 1) / kEnd;  // vectors whose windows may go past the end
   std::array<typename Late<T, kEnd, kReach>::V, kLast> last;
-  for (size_t k = 0; k < kLast && (k + 1) * kEnd <= n; ++k) last[k] = windows.atEnd(n - (k + 1) * kEnd);
+  for (size_t k = 0; k < kLast && (k + 1) * kEnd <= n; ++k) last[k] = windows.template atEnd<false>(n - (k + 1) * kEnd);
   Late<T, kEnd, kReach> ends;
   size_t i = 0;
   if (n <= 2 * kEnd || n < N + 2 * kReach) {
-    for (; i < n - kEnd; i += kEnd) ends.put(windows.atEnd(i), dst + i);
+    for (; i < n - kEnd; i += kEnd) ends.put(windows.template atEnd<false>(i), dst + i);
     ends.finish();
   } else {
     Inside<Network, T> inside(windows);
@@ -229,7 +235,7 @@ template <class Network, class T> [[gnu::noinline]] QvxStatus filterByNetwork(co
     const size_t tail = n - kReach - N;  // of the last whole vector
     inside.goTo(tail);
     const auto atTail = inside.outputs(tail);
-    for (; i < kReach; i += kEnd) ends.put(windows.atEnd(i), dst + i);
+    for (; i < kReach; i += kEnd) ends.put(windows.template atEnd<false>(i), dst + i);
     if (i < tail) inside.goTo(i);
     if (kEnd < N && i < tail) {
       put(inside.outputs(i), i);

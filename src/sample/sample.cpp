@@ -1,7 +1,9 @@
 // Zeros between samples, and samples left out.
+#include <bit>
 #include <cstring>
 
 #include "frame/map.h"
+#include "frame/unroll.h"
 
 using namespace qvx;
 
@@ -78,6 +80,12 @@ template <class T> QvxStatus sampleUp(const T* src, int srcLen, T* dst, int* dst
   return qvxStatOk;
 }
 
+// A division takes 5 ns, as long as 16 samples.
+size_t quotientUp(size_t n, size_t by) {
+  const auto most = static_cast<uint32_t>(n + by - 1);
+  return std::has_single_bit(by) ? most >> std::countr_zero(by) : most / static_cast<uint32_t>(by);
+}
+
 template <class T> QvxStatus sampleDown(const T* src, int srcLen, T* dst, int* dstLen, int factor, int* phase) {
   const QvxStatus status = checkSampling(src, srcLen, dst, dstLen, factor, phase);
   if (status != qvxStatOk) return status;
@@ -88,7 +96,7 @@ template <class T> QvxStatus sampleDown(const T* src, int srcLen, T* dst, int* d
     *dstLen = srcLen;
     return std::copy_n(src, n, dst), qvxStatOk;
   }
-  const size_t count = (n + apart - 1 - first) / apart;
+  const size_t count = n > first ? quotientUp(n - first, apart) : 0;
   *dstLen = static_cast<int>(count);
   *phase = static_cast<int>(first + count * apart - n);
   src += first;
@@ -96,6 +104,9 @@ template <class T> QvxStatus sampleDown(const T* src, int srcLen, T* dst, int* d
   if constexpr (kIsWord<T>) {
     if (apart == 2 && n > first) i = everySecond(words(src), n - first, words(dst));
     if (apart == 4 && n > first) i = everyFourth(words(src), n - first, words(dst));
+  }
+  for (; i + 4 <= count; i += 4) {
+    unrolled<4>([&](auto k) { dst[i + k] = src[(i + k) * apart]; });
   }
   for (; i < count; ++i) dst[i] = src[i * apart];
   return qvxStatOk;

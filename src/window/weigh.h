@@ -44,42 +44,59 @@ template <class T> struct BothEnds {
   Weighed<T> kernel;
 
   template <class V> void operator()(size_t at, V weights) const {
-    both(at, weights);
-    both(len - at - kLanesOf<V>, reversed(weights));
+    weighBoth(at, weights, len - at - kLanesOf<V>, reversed(weights));
   }
-  // Of which the first `rest` count.
+  // Of which the first `rest` count: whole halves as far as they go.
   template <class V> void operator()(size_t at, V weights, size_t rest) const {
     const TagOf<V> d;
-    const hn::RebindToSigned<decltype(d)> places;
-    const auto last = hn::Set(places, static_cast<hn::TFromD<decltype(places)>>(rest - 1));
-    const auto order = hn::Max(last - hn::Iota(places, 0), hn::Zero(places));
-    both(at, weights, rest);
-    both(len - at - rest, hn::TableLookupLanes(weights, hn::IndicesFromVec(d, order)), rest);
+    constexpr size_t kHalf = kLanesOf<V> / 2;
+    if constexpr (2 * kHalf * sizeof(Part<T>) > 16) {
+      const hn::Half<decltype(d)> half;
+      const auto lower = hn::LowerHalf(half, weights);
+      if (rest < kHalf) return (*this)(at, lower, rest);
+      (*this)(at, lower);
+      if (rest > kHalf) (*this)(at + kHalf, upperHalf(weights), rest - kHalf);
+    } else {
+      const hn::RebindToSigned<decltype(d)> places;
+      const auto last = hn::Set(places, static_cast<hn::TFromD<decltype(places)>>(rest - 1));
+      const auto order = hn::Max(last - hn::Iota(places, 0), hn::Zero(places));
+      weighBoth(at, weights, len - at - rest, hn::TableLookupLanes(weights, hn::IndicesFromVec(d, order)), rest);
+    }
   }
 
  private:
-  // A weight for each element, from `at` on.
-  template <class V, class... Rest> void both(size_t at, V weights, Rest... rest) const {
+  // Both are loaded before one is stored: parts of a vector that lie closer than a whole one would wait for each other.
+  template <class V, class... Rest> void weighBoth(size_t front, V atFront, size_t back, V atBack, Rest... rest) const {
     if constexpr (PartsOf<T>::kCount == 1) {
-      each(at, weights, rest...);
+      const auto first = product(front, atFront, rest...);
+      const auto last = product(back, atBack, rest...);
+      put(first, front, rest...);
+      put(last, back, rest...);
     } else {
-      constexpr size_t N = kLanesOf<V>;
-      const auto twice = interleaved(Pair<V>{weights, weights});
-      if constexpr (sizeof...(rest) == 0) {
-        each(2 * at, twice.lo);
-        each(2 * at + N, twice.hi);
-      } else {
-        const size_t all = 2 * (rest + ...);
-        each(2 * at, twice.lo, std::min(all, N));
-        if (all > N) each(2 * at + N, twice.hi, all - N);
-      }
+      weighPairs(front, atFront, rest...);
+      weighPairs(back, atBack, rest...);
     }
   }
-  // A weight for each part, from i on.
-  template <class V, class... Rest> void each(size_t i, V weights, Rest... rest) const {
+  // A weight for each complex number from `at` on.
+  template <class V, class... Rest> void weighPairs(size_t at, V weights, Rest... rest) const {
     constexpr size_t N = kLanesOf<V>;
-    const auto x = Source<Part<T>>{parts(src)}.template get<N>(i, rest...);
-    Destination<Part<T>>{parts(dst)}.template put<N>(kernel(x, weights), i, rest...);
+    const auto twice = interleaved(Pair<V>{weights, weights});
+    const auto each = [this](size_t i, V w, auto... count) { put(product(i, w, count...), i, count...); };
+    if constexpr (sizeof...(rest) == 0) {
+      each(2 * at, twice.lo);
+      each(2 * at + N, twice.hi);
+    } else {
+      const size_t all = 2 * (rest + ...);
+      each(2 * at, twice.lo, std::min(all, N));
+      if (all > N) each(2 * at + N, twice.hi, all - N);
+    }
+  }
+  // Parts from i on.
+  template <class V, class... Rest> auto product(size_t i, V weights, Rest... rest) const {
+    return kernel(Source<Part<T>>{parts(src)}.template get<kLanesOf<V>>(i, rest...), weights);
+  }
+  template <class V, class... Rest> void put(V v, size_t i, Rest... rest) const {
+    Destination<Part<T>>{parts(dst)}.template put<kLanesOf<V>>(v, i, rest...);
   }
 };
 
