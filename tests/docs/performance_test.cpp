@@ -50,6 +50,15 @@ TEST(PerformancePage, ShowsOursAndTheirsAndHidesNoLoss) {
     EXPECT_EQ(text.find(absent), std::string::npos) << absent;
 }
 
+TEST(PerformancePage, OfAnotherVariantHasNoPlotsAndOnlyLengthsThatWereMeasured) {
+  const Piece shorter = piece({kAdd.measurements[0]});
+  std::ostringstream out;
+  bench::writePage(out, shorter, kSections, {"Another", "About it.", "elsewhere/other.tsv", false});
+  expectLines("\n" + out.str(),
+              {"# Another", "About it.", "| | n = | 16 |", "[other.tsv](elsewhere/other.tsv) has all of them."});
+  EXPECT_EQ(out.str().find("plot.svg"), std::string::npos);
+}
+
 TEST(PerformancePage, GivesFamiliesWithoutASectionTheirOwn) {
   expectLines(page({kAdd, piece({cell("sort", "Sort", 64, 10, "std::sort", 5), cell("sort", "Sort", 32, 10, "std::sort", 20)})}),
               {"## sort", "| | n = | 32 | 64 |", "|  | std::sort | 2.00 | **0.50** |"});
