@@ -8,7 +8,9 @@
 extern "C" {
 #endif
 
-/** The factor of a transform, one of these values: both directions of a record are built with it. N is the length. */
+/** The factor of a transform, one of these values: both directions of a record are built with it. N is the length.
+ *  In 64-bit records 1/sqrt(N) is rounded; in 32-bit ones it is the processor's estimate after one step of Newton's method, off by
+ *  up to 3 eps (2^-23). The relative errors stated for transforms do not include that of the factor. */
 #define QVX_FFT_SCALE_FWD 1       /* forward by 1/N */
 #define QVX_FFT_SCALE_INV 2       /* inverse by 1/N */
 #define QVX_FFT_SCALE_BOTH_SQRT 4 /* both by 1/sqrt(N) */

@@ -8,12 +8,14 @@
 namespace qvx {
 
 // How a function tests its length. Most take a plain int: pointers are tested first, then lengths below 1 are refused.
+// Tested before the pointers.
 struct LengthFirst {
   int count;
-};  // tested before the pointers
+};
+// Refuses 0 alone; a negative argument is a very long vector.
 struct Unsigned {
   Qvx32u count;
-};  // refuses 0 alone; a negative argument is a very long vector
+};
 
 inline size_t elements(int len) { return static_cast<size_t>(len); }
 inline size_t elements(LengthFirst len) { return static_cast<size_t>(len.count); }

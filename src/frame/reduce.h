@@ -10,9 +10,8 @@
 //   kSlice     elements that an accumulator takes without overflow, or without losing more accuracy than the reduction states;
 //              longer vectors are reduced slice by slice
 //   kFlight    accumulators in use at the same time, to hide the latency of `add`
-//   kRepeats   whether an element may be added twice, as into a maximum. If so, the last vector overlaps its neighbour; if not,
-//   it
-//              is a partial one, whose zeros must add nothing
+//   kRepeats   whether an element may be added twice, as into a maximum. If so, the last vector overlaps its neighbour; if
+//              not, it is a partial one, whose zeros must add nothing
 //   Inner      the widest lane type of the computation
 //
 // The lane that an element is added to depends on its index alone, never on its address.

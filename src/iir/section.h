@@ -2,8 +2,8 @@
 //
 // The recursion 1 / A(z) waits 8 cycles for every output. With A(-z) above and below, 1 / A(z) = A(-z) / B(z^2), it waits as long
 // for every second one, and what comes above is no recursion: it is one shift and multiplication per power of z. Doubled until
-// the recursion reaches back by a whole vector, every lane has one of its own, and the loop's bound is no more the latency but
-// the 17 (AVX-512) multiplications and shifts of a vector.
+// the recursion reaches back by a whole vector, every lane has one of its own, and what bounds the loop is no longer the latency
+// but the 17 (AVX-512) multiplications and shifts of a vector.
 //
 // What is lost is the rounding at the poles that the doubling adds. They lie at the true ones' opposites, and are cancelled by
 // A(-z): where true and added poles come close (angles near a multiple of pi over the vector's length, and radii near 1), noise
