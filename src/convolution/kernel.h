@@ -260,14 +260,17 @@ template <class K, class S> struct DealtRows {
     const size_t whole = static_cast<uint32_t>(taps) / static_cast<uint32_t>(count);
     const size_t longer = taps - whole * count;
     const auto* tap = p;
-    size_t r = row;
-    size_t i = at;
+    const S* x = rows + row * stride + at;
+    size_t left = count - row;  // rows, up to the last
     for (size_t s = 0; s < std::min(count, taps); ++s) {
       const size_t of = pairedTaps(whole + (s < longer ? 1 : 0));
-      const S* x = rows + r * stride + i;
-      detail::addAll<K, T>(sum, reinterpret_cast<const typename K::Element*>(x) + n, tap, of);
+      const auto* first = reinterpret_cast<const typename K::Element*>(x) + n;
+      // Of few taps, the comparisons for more would take as long as the products.
+      if (of <= detail::kElements<K>) detail::addRow<K, T>(sum, first, tap, 0, of);
+      else detail::addAll<K, T>(sum, first, tap, of);
       tap += of * K::kChannels;
-      if (++r == count) r = 0, ++i;
+      x += stride;
+      if (--left == 0) x -= count * stride - 1, left = count;
     }
   }
 

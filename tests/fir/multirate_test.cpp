@@ -86,7 +86,7 @@ TEST(Multirate, StreamsAreOneSignalHoweverTheyAreCut) {
       Upsampled<T> signal(f, line, n);
       size_t done = 0;
       for (int piece = 0; piece < 6 && !testing::Test::HasFailure(); ++piece) {
-        static const int kGroups[] = {1, 2, 3, 17, 64, 65, 130, 700};
+        static const int kGroups[] = {1, 2, 3, 6, 13, 17, 40, 64, 65, 130, 700};
         const int most = 10000 / std::max(f.up, f.down);
         const int groups = std::min(kGroups[random() % std::size(kGroups)], std::max(most, 1));
         const int scaleFactor = static_cast<int>(random() % 5) + (P::kHasFactor ? static_cast<int>(random() % 40) - 10 : 0);
