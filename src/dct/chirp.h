@@ -11,6 +11,7 @@
 
 #include "dct/plan.h"
 #include "dct/turn.h"
+#include "dft/precise.h"
 #include "fft/adapter.h"
 
 namespace qvx::dct {
@@ -38,22 +39,23 @@ template <class T> Needs needsOfChirp(size_t n, size_t period) {
           static_cast<int64_t>(period) * kPair + plan.work, plan.work};
 }
 
-// A period of numbers that the making of a more accurate record takes, of its own block.
-template <class T> Needs needsOfMeans(size_t n, size_t period) {
+// The same where the spectrum is made in a wider type: in its place and that of the plan, which is made afterwards.
+template <class T> Needs needsOfPrecise(size_t n, size_t period) {
   Needs needs = needsOfChirp<T>(n, period);
-  needs.tables += static_cast<int64_t>(2 * period * sizeof(T));
+  const auto beyond = static_cast<int64_t>(2 * period * sizeof(T)) - needsOfPlan<T>(period).tables;
+  needs.tables += std::max<int64_t>(beyond, 0) + Carver::kRecordAlignment;
   return needs;
 }
 
-// takesMeans: there is room for what needsOfMeans() says.
+// isPrecise: there is room for what needsOfPrecise() says.
 template <class T>
-void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool takesMeans, Carver& tables, Qvx8u* work) {
+void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool isPrecise, Carver& tables, Qvx8u* work) {
   const size_t half = n / 2;
   T* const c = tables.take<T>(static_cast<int64_t>(2 * n));
   T* const turns = tables.take<T>(static_cast<int64_t>(2 * (half + 1)));
-  T* const spectrum = tables.take<T>(static_cast<int64_t>(2 * period));
-  T* const z = tables.take<T>(takesMeans ? static_cast<int64_t>(2 * period) : 0);
-  chirp = {period, makePlan<T>(period, tables, work), c, turns, spectrum};
+  using Wide = dft::Wider<T>;
+  T* const spectrum = isPrecise ? tables.take<T, Carver::kRecordAlignment>(static_cast<int64_t>(2 * period))
+                                : tables.take<T>(static_cast<int64_t>(2 * period));
   const auto square = [n](size_t j) { return j * j % (2 * n); };  // j^2 is below 2^56
   writeTwiddles(2 * n, n, square, transform::intoPairs(c));
   const double factor = std::sqrt(2 / static_cast<double>(n));
@@ -67,36 +69,39 @@ void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool t
       });
   const size_t before = isInverse ? half : n - 1;
   const size_t after = isInverse ? n - 1 : half;
-  const auto transformed = [&](T* z, size_t shift) {
-    std::fill_n(z, 2 * period, T(0));
+  const Wide scale = 1 / static_cast<Wide>(period);
+  const auto fill = [&](auto put) {
     for (size_t j = 0; j < before + 1 + after; ++j) {
       const size_t from = j < before ? before - j : j - before;
-      const size_t at = (period + j - before + shift) % period;
-      z[2 * at] = c[2 * from];
-      z[2 * at + 1] = -c[2 * from + 1];
+      put((period + j - before) % period, static_cast<Wide>(c[2 * from]) * scale, -static_cast<Wide>(c[2 * from + 1]) * scale);
     }
-    dft::run(*chirp.plan, false, z, z, work);
   };
-  transformed(spectrum, 0);
-  const double share = 1 / static_cast<double>(period);
-  if (!takesMeans) {
-    for (size_t k = 0; k < 2 * period; ++k) spectrum[k] *= static_cast<T>(share);
+  if (!isPrecise) {
+    std::fill_n(spectrum, 2 * period, T(0));
+    fill([=](size_t at, Wide re, Wide im) { spectrum[2 * at] = static_cast<T>(re), spectrum[2 * at + 1] = static_cast<T>(im); });
+    chirp = {period, makePlan<T>(period, tables, work), c, turns, spectrum};
+    dft::run(*chirp.plan, false, spectrum, spectrum, work);
     return;
   }
-  // The error of the spectrum would be a third of the whole. Transforms of the chirp begun elsewhere have errors of their own.
-  constexpr size_t kMeans = 8;
-  for (size_t k = 0; k < 2 * period; ++k) spectrum[k] *= static_cast<T>(share / kMeans);
-  for (size_t shift = 1; shift < kMeans; ++shift) {
-    transformed(z, shift);
-    writeTwiddles(
-        period, period, [=](size_t k) { return k * (period - shift) % period; },
-        [=](size_t k, double re, double im) {
-          const double a = share / kMeans * static_cast<double>(z[2 * k]);
-          const double b = share / kMeans * static_cast<double>(z[2 * k + 1]);
-          spectrum[2 * k] += static_cast<T>(a * re - b * im);
-          spectrum[2 * k + 1] += static_cast<T>(a * im + b * re);
-        });
+  auto* const wide = reinterpret_cast<Complex<Wide>*>(spectrum);
+  std::fill_n(wide, period, Complex<Wide>{});
+  fill([=](size_t at, Wide re, Wide im) { wide[at] = {re, im}; });
+  // Rounded where they are, and put in order by way of the room past them.
+  const dft::PreciseTransform transform(period);
+  transform.run(wide);
+  for (size_t i = 0; i < period; ++i) {
+    const Complex<Wide> z = wide[i];
+    spectrum[2 * i] = static_cast<T>(z.re);
+    spectrum[2 * i + 1] = static_cast<T>(z.im);
   }
+  T* const inOrder = spectrum + 2 * period;
+  for (size_t k = 0; k < period; ++k) {
+    const size_t place = transform.placeOf(k);
+    inOrder[2 * k] = spectrum[2 * place];
+    inOrder[2 * k + 1] = spectrum[2 * place + 1];
+  }
+  std::copy_n(inOrder, 2 * period, spectrum);
+  chirp = {period, makePlan<T>(period, tables, work), c, turns, spectrum};
 }
 
 // Pairs of numbers, in place: by those of another vector.

@@ -128,7 +128,7 @@ template <class Record> void writeWay(Record& spec, Sizes sizes, Carver& tables,
     default: {
       auto* const chirp = tables.take<Chirp<T>>(1);
       const size_t period = periodFor<Record>(n, sizes);
-      writeChirp(*chirp, n, period, Record::kInverse, fits<Record>(needsOfMeans<T>(n, period), sizes), tables, making);
+      writeChirp(*chirp, n, period, Record::kInverse, fits<Record>(needsOfPrecise<T>(n, period), sizes), tables, making);
       spec.chirp = chirp;
     }
   }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "dft/plan.h"
+#include "dft/precise.h"
 #include "dft/sizes.h"
 #include "fft/record.h"
 
@@ -224,6 +225,28 @@ void convolvePermuted(const ConvolutionPlan<T>& plan, size_t n, size_t results, 
 
 // ---- With a chirp
 
+// Of a chirp so long that there is no room for its points in a wider type.
+template <class T> void writePlainSpectrum(const ConvolutionPlan<T>& plan, size_t n, T* spectrum, uint8_t* work) {
+  const size_t length = plan.length;
+  ConvolutionWork<T> points(plan, work);
+  const T factor = 1 / static_cast<T>(length);
+  std::fill_n(points.y.re, length, T(0));
+  std::fill_n(points.y.im, length, T(0));
+  for (size_t k = 0; k < n; ++k) {
+    for (const size_t at : {k, (length - k) % length}) {
+      points.y.re[at] = plan.chirp[k] * factor;
+      points.y.im[at] = -plan.chirp[n + k] * factor;
+    }
+  }
+  points.transform(plan);
+  // The spectrum is symmetric as the chirp is: the mean of both halves has an error that is a third less.
+  for (size_t k = 0; k < length; ++k) {
+    const size_t mirrored = (length - k) % length;
+    spectrum[k] = T(0.5) * (points.y.re[k] + points.y.re[mirrored]);
+    spectrum[length + k] = T(0.5) * (points.y.im[k] + points.y.im[mirrored]);
+  }
+}
+
 template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_t* block, uint8_t* work) {
   if (plan.isPermuted) return writePermuted(plan, n, block, work);
   const size_t length = plan.length;
@@ -242,37 +265,22 @@ template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_
   std::fill_n(chirp + 2 * size_t{n}, 2 * kWidest<T>, T(0));  // whole vectors read it, and raise nothing
   plan.chirp = chirp;
   plan.spectrum = spectrum;
-  // The error of the spectrum would be a third of the whole. Transforms of the chirp begun elsewhere have errors of their own, so
-  // it is the mean of a few; and of both halves, since it is symmetric as the chirp is.
-  constexpr size_t kMeans = 4;
-  const double factor = 1 / static_cast<double>(length) / (2 * kMeans);
-  std::fill_n(spectrum, 2 * length, T(0));
-  for (size_t shift = 0; shift < kMeans; ++shift) {
-    ConvolutionWork<T> points(plan, work);
-    std::fill_n(points.y.re, length, T(0));
-    std::fill_n(points.y.im, length, T(0));
-    for (size_t k = 0; k < n; ++k) {
-      for (const size_t place : {k, length - k}) {
-        const size_t at = (place + shift) % length;
-        points.y.re[at] = chirp[k];
-        points.y.im[at] = -chirp[n + k];
-      }
-    }
-    points.transform(plan);
-    writeTwiddles(
-        length, length, [=](size_t k) { return k * (length - shift) % length; },
-        [&](size_t k, double re, double im) {
-          const double a = factor * static_cast<double>(points.y.re[k]);
-          const double b = factor * static_cast<double>(points.y.im[k]);
-          spectrum[k] += static_cast<T>(a * re - b * im);
-          spectrum[length + k] += static_cast<T>(a * im + b * re);
-        });
+  const bool isPlain =
+      std::has_single_bit(plan.length) && bytesOfFft<T>(plan.length).work - fft::kWorkSlack < bytesOfPoints<T>(length);
+  if (isPlain) return writePlainSpectrum(plan, n, spectrum, work);
+  auto* const wide = Carver(work, Carver::kLine).template take<Complex<Wider<T>>>(static_cast<int64_t>(length));
+  const Wider<T> factor = 1 / static_cast<Wider<T>>(length);
+  std::fill_n(wide, length, Complex<Wider<T>>{});
+  for (size_t k = 0; k < n; ++k) {
+    wide[k] =
+        wide[(length - k) % length] = {factor * static_cast<Wider<T>>(chirp[k]), -factor * static_cast<Wider<T>>(chirp[n + k])};
   }
-  for (T* part : {spectrum, spectrum + length}) {
-    for (size_t k = 0; k <= length / 2; ++k) {
-      const size_t mirrored = (length - k) % length;
-      part[k] = part[mirrored] = part[k] + part[mirrored];
-    }
+  const PreciseTransform transform(length);
+  transform.run(wide);
+  for (size_t k = 0; k < length; ++k) {
+    const Complex<Wider<T>> z = wide[transform.placeOf(k)];
+    spectrum[k] = static_cast<T>(z.re);
+    spectrum[length + k] = static_cast<T>(z.im);
   }
 }
 

@@ -77,7 +77,7 @@ inline TransformErrors transformErrors(int order) {
 
 // Transforms of any length, in units of eps sqrt(log2 n).
 inline constexpr double kSmoothBound = 0.4;
-inline constexpr double kPrimeBound = 0.7;
+inline constexpr double kPrimeBound = 0.6;
 
 template <class T, class N> double inUnits(const std::vector<Exact>& expected, const std::vector<N>& found) {
   long double error = 0;
@@ -113,7 +113,7 @@ inline TransformErrors anyLengthErrors(int n) {
 
 // Cosine transforms there and back, in the same units; short ones many times.
 inline constexpr double kCosineBound = 0.5;
-inline constexpr double kPrimeCosineBound = 0.75;
+inline constexpr double kPrimeCosineBound = 0.6;
 
 template <class T, class Record>
 double cosineError(int n, bool isInverse, QvxStatus (*make)(Record**, int, int),

@@ -95,7 +95,7 @@ template <class T> std::vector<T> noise(size_t n, Random& random) {
 
 template <class T> long double allowedError(size_t n) {
   const bool hasLargeFactor = n > 100 && tests::largestPrimeFactor(n) > 47;
-  const long double factor = hasLargeFactor ? 0.75L : 0.5L;
+  const long double factor = hasLargeFactor ? 0.6L : 0.5L;
   return std::numeric_limits<T>::epsilon() * std::max(0.5L, factor * std::sqrt(std::log2(static_cast<long double>(n))));
 }
 

@@ -143,8 +143,9 @@ TEST(Dft, LongImpulses) {
     const std::vector<Exact> back = record.run(true, spectrum, tests::Place::kSame);
     for (size_t i = 0; i < n; ++i) ASSERT_LE(std::abs(back[i] - x[i]), bound) << i;
   };
-  for (const size_t n : {323,  509,  961,   1000,  1001,  1009,  1849,  2000,   2001,   2003,   2187,   2520,   4099,   4410,
-                         5041, 8191, 10000, 44100, 48000, 65537, 99999, 100000, 131070, 148225, 177147, 215441, 262143, 300000}) {
+  for (const size_t n :
+       {323,  509,   961,   1000,  1001,  1009,  1849,   2000,   2001,   2003,   2187,   2520,   4099,   4410,   5041,
+        8191, 10000, 44100, 48000, 65537, 99999, 100000, 131070, 148225, 177147, 215441, 262143, 300000, 1058400}) {
     tests::forEachComplex([&](const auto& transform) { check(transform, n); });
   }
 }

@@ -167,7 +167,7 @@ inline bool hasLargeFactor(size_t n) {
 template <class T> long double allowedError(size_t n) {
   const long double eps = std::numeric_limits<T>::epsilon();
   const long double root = std::sqrt(std::log2(static_cast<long double>(std::max<size_t>(n, 2))));
-  return std::max(0.5L * eps, (hasLargeFactor(n) ? 0.7L : 0.4L) * unfused() * eps * root);
+  return std::max(0.5L * eps, (hasLargeFactor(n) ? 0.6L : 0.4L) * unfused() * eps * root);
 }
 
 }  // namespace tests

@@ -1,0 +1,99 @@
+// The transform of a table in more than the table's own precision, once for a record: rounded, it has an error of 0.2 eps, where
+// that of the table's type would have 1 eps and be a third of the error of a convolution.
+#pragma once
+
+#include <type_traits>
+
+#include "transform/odd_butterfly.h"
+
+namespace qvx::dft {
+
+template <class T> using Wider = std::conditional_t<sizeof(T) == 4, double, long double>;
+
+// exp(-2 pi i k / n)
+template <class W> Complex<W> preciseRoot(size_t k, size_t n) {
+  using transform::detail::angleOf;
+  using transform::detail::sineOrCosine;
+  // By quarters of a turn, and from the nearer end of one.
+  const size_t quarter = 4 * k / n % 4;
+  const size_t rest = 4 * k % n;  // of 4n
+  const bool isNearEnd = 2 * rest > n;
+  const long double angle = angleOf(isNearEnd ? n - rest : rest, 4 * n);
+  const long double a = sineOrCosine(angle, isNearEnd ? 1 : 0);
+  const long double b = sineOrCosine(angle, isNearEnd ? 0 : 1);
+  const W cosine = static_cast<W>(quarter == 0 ? a : quarter == 1 ? -b : quarter == 2 ? -a : b);
+  const W sine = static_cast<W>(quarter == 0 ? b : quarter == 1 ? a : quarter == 2 ? -b : -a);
+  return {cosine, -sine};
+}
+
+template <class W> Complex<W> preciseProduct(Complex<W> a, Complex<W> b) {
+  return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
+}
+
+// Forward, in place, of n points with prime factors up to 7.
+class PreciseTransform {
+ public:
+  explicit PreciseTransform(size_t n) : n_(n) {
+    for (const uint8_t p : {7, 5, 3, 2}) {
+      for (; n % p == 0; n /= p) factors_[count_++] = p;
+    }
+  }
+
+  template <class W> void run(Complex<W>* x) const {
+    size_t m = n_;
+    for (size_t i = 0; i < count_; ++i) {
+      const size_t p = factors_[i];
+      m /= p;
+      Complex<W> roots[kMost];
+      for (size_t j = 0; j < p; ++j) roots[j] = preciseRoot<W>(j, p);
+      const Complex<W> step = preciseRoot<W>(1, m * p);
+      Complex<W> turn = {};
+      for (size_t q = 0; q < m; ++q) {
+        turn = q % 64 == 0 ? preciseRoot<W>(q, m * p) : preciseProduct(turn, step);
+        for (Complex<W>* at = x + q; at < x + n_; at += m * p) {
+          if (p == 2) pair(at[0], at[m], turn);
+          else several(at, m, p, roots, turn);
+        }
+      }
+    }
+  }
+  // Where result k stands.
+  size_t placeOf(size_t k) const {
+    size_t place = 0;
+    size_t part = n_;
+    for (size_t i = 0; i < count_; ++i) {
+      part /= factors_[i];
+      place += k % factors_[i] * part;
+      k /= factors_[i];
+    }
+    return place;
+  }
+
+ private:
+  static constexpr size_t kMost = 7;
+
+  template <class W> static void pair(Complex<W>& a, Complex<W>& b, Complex<W> turn) {
+    const Complex<W> difference = {a.re - b.re, a.im - b.im};
+    a = {a.re + b.re, a.im + b.im};
+    b = preciseProduct(difference, turn);
+  }
+  template <class W> static void several(Complex<W>* at, size_t m, size_t p, const Complex<W>* roots, Complex<W> turn) {
+    Complex<W> z[kMost];
+    for (size_t k = 0; k < p; ++k) z[k] = at[k * m];
+    Complex<W> power = {1, 0};
+    for (size_t j = 0; j < p; ++j, power = preciseProduct(power, turn)) {
+      Complex<W> sum = z[0];
+      for (size_t k = 1; k < p; ++k) {
+        const Complex<W> term = preciseProduct(z[k], roots[j * k % p]);
+        sum = {sum.re + term.re, sum.im + term.im};
+      }
+      at[j * m] = preciseProduct(sum, power);
+    }
+  }
+
+  size_t n_;
+  size_t count_ = 0;
+  uint8_t factors_[32];
+};
+
+}  // namespace qvx::dft
