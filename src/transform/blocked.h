@@ -39,12 +39,26 @@ template <class T> struct BlockedPlan {
   ColumnTwiddles<T> inner;
 };
 
+// Where a vector of points is two cache lines, transforms out of place that the far cache still holds take two passes, and no
+// swap (turned.h).
+template <size_t L, class T> inline constexpr bool kTurns = sizeof(T) == 8 && L == 8;
+inline constexpr size_t kMostTurned = size_t{1} << 18;
+
+// The levels of transforms down columns: where either way may be taken, those of the rows, whose results are the same to the bit.
+template <size_t L, class T> Levels columnLevels(size_t rows) {
+  if (!kTurns<L, T> || rows != kBlockPoints) return levelsFor(rows);
+  const Levels rest = levelsFor(rows / L);
+  Levels levels{static_cast<uint8_t>(rest.count + 1), {L}};
+  std::copy_n(rest.radix, rest.count, levels.radix + 1);
+  return levels;
+}
+
 template <size_t L, class LaneOrder, class T>
 T* writeColumnTwiddles(ColumnTwiddles<T>& twiddles, size_t rows, size_t columns, T* out) {
   constexpr size_t C = kRowRadix<L>;
   const size_t n = rows * columns;
   twiddles.levels = out;
-  T* lanes = alignedUp(writeLevelTwiddles(levelsFor(rows), rows, out), Carver::kLine);
+  T* lanes = alignedUp(writeLevelTwiddles(columnLevels<L, T>(rows), rows, out), Carver::kLine);
   twiddles.lanes = lanes;
   writeTwiddles(
       n, rows * C, [](size_t i) { return i / C * (i % C / L * L + LaneOrder::template element<L>(i % L)); },
@@ -166,7 +180,7 @@ template <bool kAhead, size_t L, class T, class Src, class Dst>
 [[gnu::noinline]] void downColumns(Src src, Dst dst, size_t rows, size_t columns, Range range, size_t wide,
                                    const ColumnTwiddles<T>& twiddles, T* y) {
   constexpr size_t C = kRowRadix<L>;
-  const Levels levels = levelsFor(rows);
+  const Levels levels = columnLevels<L, T>(rows);
   const DigitsReversed place(levels);
   const ColumnTile<L, T> tile{y, rows, wide};
   const size_t parts = levels.radix[0];
@@ -284,15 +298,16 @@ template <class T, class Step> [[gnu::noinline]] void onOwnTile(size_t points, S
   step(own, std::min(points, kTileOnStack<T>));
 }
 
-// step(part, y, points) for each of two or one.
-template <class T, class Step> void withTiles(size_t parts, T* y, size_t points, Step step) {
-  if (parts == 1) return step(size_t{0}, y, points);
+// step(range, y, points) for all of 0 to count, or for two halves.
+template <class T, class Step> void dividedWithTiles(size_t parts, size_t count, T* y, size_t points, Step step) {
+  if (parts == 1) return step(Range{0, count}, y, points);
   std::atomic<bool> isFree{false};
   inParts(static_cast<int>(parts), [&](size_t part) {
+    const Range range{count * part / parts, count * (part + 1) / parts};
     if (part > 0 && !isFree.load()) {
-      onOwnTile<T>(points, [&](T* own, size_t count) { step(part, own, count); });
+      onOwnTile<T>(points, [&](T* own, size_t room) { step(range, own, room); });
     } else {
-      step(part, y, points);
+      step(range, y, points);
       isFree.store(true);
     }
     return qvxStatOk;
@@ -327,19 +342,15 @@ void blockedTransform(size_t threads, const Plan<T>& rowPlan, const BlockedPlan<
                       Dst dst, T* y, ScaledBy<T> scale) {
   constexpr size_t n = kBlockPoints;
   const size_t block = points / n;
-  const auto divided = [=](size_t count, auto step) {
-    withTiles(threads, y, tile, [=](size_t part, T* own, size_t room) {
-      step(Range{count * part / threads, count * (part + 1) / threads}, own, room);
-    });
-  };
-  divided(block, [=, &plan](Range columns, T* own, size_t room) {
+  if (block / n > kTileOnStack<T> / L) threads = 1;  // from 2^27 points on: no vector of columns finds room
+  dividedWithTiles(threads, block, y, tile, [=, &plan](Range columns, T* own, size_t room) {
     firstColumns<L>(src, dst, n, block, columns, std::min({room / n, block / 2, kSquare<T>}), plan.outer, own);
   });
-  divided(n, [=, &rowPlan, &plan](Range blocks, T* own, size_t room) {
+  dividedWithTiles(threads, n, y, tile, [=, &rowPlan, &plan](Range blocks, T* own, size_t room) {
     transformBlocks<L>(rowPlan, plan.inner, block, room, dst, blocks, own, scale);
   });
   if (threads == 1) return;
-  divided(n / 2 / kSquare<T>, [=](Range squares, T* own, size_t) {
+  dividedWithTiles(threads, n / 2 / kSquare<T>, y, tile, [=](Range squares, T* own, size_t) {
     for (size_t i = squares.from; i < squares.to; ++i) {
       for (size_t kb = 0; kb < block / n; ++kb) {
         swapSquares<L>(dst.from(kb * n), n / 2 + i * kSquare<T>, {0, n / 2}, block, own);

@@ -1,8 +1,8 @@
 // Complex transforms of powers of two: the plan of a length, and the kernel that it takes.
 #pragma once
 
-#include "transform/blocked.h"
 #include "transform/small.h"
+#include "transform/turned.h"
 
 namespace qvx::transform {
 
@@ -70,7 +70,11 @@ template <class LaneOrder, class T> T* writePlan(ComplexPlan<T>& plan, size_t n,
   const size_t m = n / kBlockPoints / kBlockPoints;
   T* end = writePasses<LaneOrder>(plan.plan, kBlockPoints, block);
   end = writeColumnTwiddles<L, LaneOrder>(plan.blocked.outer, kBlockPoints, m * kBlockPoints, end);
-  return writeColumnTwiddles<L, LaneOrder>(plan.blocked.inner, m, kBlockPoints, end);
+  end = writeColumnTwiddles<L, LaneOrder>(plan.blocked.inner, m, kBlockPoints, end);
+  if constexpr (kTurns<L, T> && kIsInterleaved<LaneOrder>) {
+    if (n <= kMostTurned) end = writeTurnedTwiddles<L, LaneOrder>(m * kBlockPoints, end);
+  }
+  return end;
 }
 
 // More points than those of smallTransform.
@@ -80,6 +84,11 @@ template <class T, class Src, class Dst, class Scale>
   const int threads = plan.threads();
   if (plan.n > kLongestInCache<T>) {
     const size_t tile = static_cast<size_t>(plan.workBytes) / (2 * sizeof(T));
+    if constexpr (kTurns<L, T> && kIsInterleaved<Src>) {
+      if (plan.n <= kMostTurned && src.p != dst.p) {
+        return turnedTransform<L>(static_cast<size_t>(threads), plan.blocked, plan.n, tile, src, dst, y, factorOf<T>(scale));
+      }
+    }
     return blockedTransform<L>(static_cast<size_t>(threads), plan.plan, plan.blocked, plan.n, tile, src, dst, y,
                                factorOf<T>(scale));
   }
