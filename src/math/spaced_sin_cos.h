@@ -53,7 +53,8 @@ template <class T> class SpacedAngles {
     const auto byC = hn::Set(wide, turnCosine_);
     const auto laneSines = load(d, sines_);
     const auto laneCosines = load(d, cosines_);
-    for (size_t at = 0; at < count;) {
+    size_t at = 0;
+    while (at < count) {
       store(convertLanes<T>(sine), Lanes<T, kWide>(), firstSines);
       store(convertLanes<T>(cosine), Lanes<T, kWide>(), firstCosines);
       const auto on = hn::MulAdd(sine, byC, cosine * byS);
