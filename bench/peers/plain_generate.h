@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <memory>
 #include <random>
 #include <type_traits>
 #include <vector>
@@ -49,15 +50,16 @@ template <class T> struct Fill {
   }
 };
 
+// Shared, since a contender is copied for every repetition.
 template <class T> struct WindowTable {
-  mutable std::vector<T> weights;
+  std::shared_ptr<std::vector<T>> weights = std::make_shared<std::vector<T>>();
   template <class X> void operator()(X* x, int n, auto...) const {
-    if (weights.size() != static_cast<size_t>(n)) {
-      weights.resize(static_cast<size_t>(n));
+    if (weights->size() != static_cast<size_t>(n)) {
+      weights->resize(static_cast<size_t>(n));
       for (int i = 0; i < n; ++i)
-        weights[static_cast<size_t>(i)] = static_cast<T>(0.5 - 0.5 * std::cos(6.283185307179586 * i / (n - 1)));
+        (*weights)[static_cast<size_t>(i)] = static_cast<T>(0.5 - 0.5 * std::cos(6.283185307179586 * i / (n - 1)));
     }
-    const T* const w = weights.data();
+    const T* const w = weights->data();
     for (int i = 0; i < n; ++i) x[i] = static_cast<X>(static_cast<T>(x[i]) * w[i]);
   }
 };

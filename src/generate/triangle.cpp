@@ -1,5 +1,7 @@
 // Triangle waves. Each sample comes from its own phase, a fraction of 2^64 that wraps by itself: nothing has to be folded, and
 // nothing accumulates.
+#include <bit>
+
 #include "frame/each_vector.h"
 #include "frame/unroll.h"
 #include "generate/record.h"
@@ -93,7 +95,9 @@ template <class T> void fill(T* dst, size_t n, double magn, Lines lines, uint64_
 // The greatest float up to v.
 float floatUpTo(double v) {
   const auto nearest = static_cast<float>(v);
-  return static_cast<double>(nearest) <= v ? nearest : std::nextafter(nearest, -std::numeric_limits<float>::infinity());
+  if (static_cast<double>(nearest) <= v) return nearest;
+  const auto bits = std::bit_cast<int32_t>(nearest);
+  return std::bit_cast<float>(bits < 0 ? bits + 1 : bits - 1);
 }
 
 // In floats: phases of 32 bits, which are more than a float keeps. The lines have the magnitude in them, and begin so low that

@@ -22,7 +22,7 @@ template <class T> class SpacedAngles {
   static constexpr size_t kWide = kVectorBytes / sizeof(double);
   // Samples from one pair of true sines to the next. In doubles the error of every turn counts.
   static constexpr size_t kBlock = sizeof(T) == sizeof(float) ? 4096 : 512;
-  static constexpr size_t kFew = 5 * kWide;  // up to here a sine each is cheaper
+  static constexpr size_t kFew = 4 * kWide;  // up to here a sine each is cheaper
 
   // step: turns from one sample to the next. scale: what the results are multiplied by.
   SpacedAngles(double step, double scale) {
@@ -53,7 +53,8 @@ template <class T> class SpacedAngles {
     const auto byC = hn::Set(wide, turnCosine_);
     const auto laneSines = load(d, sines_);
     const auto laneCosines = load(d, cosines_);
-    for (size_t at = 0; at < count;) {
+    size_t at = 0;
+    while (at < count) {
       store(convertLanes<T>(sine), Lanes<T, kWide>(), firstSines);
       store(convertLanes<T>(cosine), Lanes<T, kWide>(), firstCosines);
       const auto on = hn::MulAdd(sine, byC, cosine * byS);

@@ -73,7 +73,8 @@ template <class T, class Form> QvxStatus cosineWindow(const T* src, T* dst, int 
   const auto factor = powerOfTwo<Qvx32f>(std::min(-int64_t{scaleFactor}, int64_t{127}));
   if (!isCleared) detail::weighAsNeeded(src, dst, elements(len), form, factor);
   if constexpr (std::is_same_v<T, Qvx16s>) {
-    if (len % 2 != 0 && scaleFactor != 0) dst[len / 2] = roundedTo<Qvx16s>(static_cast<double>(dst[len / 2] * factor));
+    T& middle = dst[len / 2];
+    if (len % 2 != 0 && scaleFactor != 0) middle = roundedTo<Qvx16s>(static_cast<double>(middle * factor));
   }
   return qvxStatOk;
 }

@@ -81,7 +81,7 @@ template <class T> struct BothEnds {
   template <class V, class... Rest> void weighPairs(size_t at, V weights, Rest... rest) const {
     constexpr size_t N = kLanesOf<V>;
     const auto twice = interleaved(Pair<V>{weights, weights});
-    const auto each = [this](size_t i, V w, auto... count) { put(product(i, w, count...), i, count...); };
+    const auto each = [&](size_t i, V w, auto... count) { put(product(i, w, count...), i, count...); };
     if constexpr (sizeof...(rest) == 0) {
       each(2 * at, twice.lo);
       each(2 * at + N, twice.hi);
