@@ -95,11 +95,10 @@ void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool i
     spectrum[2 * i + 1] = static_cast<T>(z.im);
   }
   T* const inOrder = spectrum + 2 * period;
-  for (size_t k = 0; k < period; ++k) {
-    const size_t place = transform.placeOf(k);
+  transform.forEachResult([=](size_t k, size_t place) {
     inOrder[2 * k] = spectrum[2 * place];
     inOrder[2 * k + 1] = spectrum[2 * place + 1];
-  }
+  });
   std::copy_n(inOrder, 2 * period, spectrum);
   chirp = {period, makePlan<T>(period, tables, work), c, turns, spectrum};
 }

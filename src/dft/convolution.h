@@ -277,11 +277,11 @@ template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_
   }
   const PreciseTransform transform(length);
   transform.run(wide);
-  for (size_t k = 0; k < length; ++k) {
-    const Complex<Wider<T>> z = wide[transform.placeOf(k)];
+  transform.forEachResult([=](size_t k, size_t place) {
+    const Complex<Wider<T>> z = wide[place];
     spectrum[k] = static_cast<T>(z.re);
     spectrum[length + k] = static_cast<T>(z.im);
-  }
+  });
 }
 
 // get(k, count), put(z, k, count): points k on, in vectors.

@@ -57,20 +57,26 @@ class PreciseTransform {
       }
     }
   }
-  // Where result k stands.
-  size_t placeOf(size_t k) const {
+  // put(k, place) for each result k, which stands at `place`: the digits of k in the opposite order.
+  template <class Put> void forEachResult(Put put) const {
+    size_t parts[kMostFactors];
+    size_t digits[kMostFactors] = {};
+    for (size_t i = 0, part = n_; i < count_; ++i) parts[i] = part /= factors_[i];
     size_t place = 0;
-    size_t part = n_;
-    for (size_t i = 0; i < count_; ++i) {
-      part /= factors_[i];
-      place += k % factors_[i] * part;
-      k /= factors_[i];
+    for (size_t k = 0; k < n_; ++k) {
+      put(k, place);
+      for (size_t i = 0; i < count_; ++i) {
+        place += parts[i];
+        if (++digits[i] < factors_[i]) break;
+        place -= factors_[i] * parts[i];
+        digits[i] = 0;
+      }
     }
-    return place;
   }
 
  private:
   static constexpr size_t kMost = 7;
+  static constexpr size_t kMostFactors = 32;
 
   template <class W> static void pair(Complex<W>& a, Complex<W>& b, Complex<W> turn) {
     const Complex<W> difference = {a.re - b.re, a.im - b.im};
@@ -93,7 +99,7 @@ class PreciseTransform {
 
   size_t n_;
   size_t count_ = 0;
-  uint8_t factors_[32];
+  uint8_t factors_[kMostFactors];
 };
 
 }  // namespace qvx::dft

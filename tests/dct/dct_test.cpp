@@ -7,6 +7,7 @@
 
 #include "reference/dct.h"
 #include "support/blocks.h"
+#include "support/ulp.h"
 #include "support/values.h"
 
 namespace {
@@ -95,7 +96,7 @@ template <class T> std::vector<T> noise(size_t n, Random& random) {
 
 template <class T> long double allowedError(size_t n) {
   const bool hasLargeFactor = n > 100 && tests::largestPrimeFactor(n) > 47;
-  const long double factor = hasLargeFactor ? 0.6L : 0.5L;
+  const long double factor = hasLargeFactor ? 0.6L * tests::unfused() : 0.5L;
   return std::numeric_limits<T>::epsilon() * std::max(0.5L, factor * std::sqrt(std::log2(static_cast<long double>(n))));
 }
 
