@@ -1,10 +1,10 @@
 // align: how much later a sound is in one recording than in another, by their cross-correlation.
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <stdexcept>
 
+#include "../support/arguments.h"
 #include "../support/audio.h"
 #include "../support/program.h"
 
@@ -33,16 +33,14 @@ Recording readRecording(const std::string& path) {
 }
 
 int run(int argc, char** argv) {
-  CLI::App app("Prints how much later the second recording is than the first, in samples and milliseconds.");
+  Arguments app("Prints how much later the second recording is than the first, in samples and milliseconds.");
   std::string first;
   std::string second;
   double most = 1000;
-  app.add_option("first", first, "A recording")->required()->check(CLI::ExistingFile);
-  app.add_option("second", second, "Another one of the same sound")->required()->check(CLI::ExistingFile);
-  app.add_option("-m,--most", most, "The longest delay that is looked for, in milliseconds")
-      ->check(CLI::Range(1.0, 60000.0))
-      ->capture_default_str();
-  CLI11_PARSE(app, argc, argv);
+  app.option("first", first, "A recording").required().existingFile();
+  app.option("second", second, "Another one of the same sound").required().existingFile();
+  app.option("-m,--most", most, "The longest delay that is looked for, in milliseconds").range(1.0, 60000.0).showDefault();
+  app.parse(argc, argv);
   const Recording a = readRecording(first);
   const Recording b = readRecording(second);
   if (a.rate != b.rate) throw std::runtime_error(second + ": another sampling rate than " + first);

@@ -1,9 +1,9 @@
 // denoise: removes white noise from a recording by thresholds on its wavelet coefficients.
-#include <CLI/CLI.hpp>
 #include <cmath>
 #include <cstdio>
 #include <stdexcept>
 
+#include "../support/arguments.h"
 #include "../support/audio.h"
 #include "../support/program.h"
 #include "denoiser.h"
@@ -34,24 +34,22 @@ void write(const std::vector<float>& x, const std::string& path, int sampleRate,
 }
 
 int run(int argc, char** argv) {
-  CLI::App app("Removes white noise from the first channel of a recording.");
+  Arguments app("Removes white noise from the first channel of a recording.");
   std::string input, output, noisyOutput;
   int levels = 5;
   double strength = 0.3, level = 0;
-  app.add_option("recording", input, "An audio file")->required()->check(CLI::ExistingFile);
-  app.add_option("-o,--output", output, "The 16-bit WAV file to write")->required();
-  app.add_option("--levels", levels, "Levels of the decomposition")->check(CLI::Range(1, 12))->capture_default_str();
-  app.add_option("--strength", strength, "The threshold, relative to the largest noise to be expected")
-      ->check(CLI::NonNegativeNumber)
-      ->capture_default_str();
-  CLI::Option* added = app.add_option("--add-noise", level, "Add noise of this level, dB below full scale, and tell what is won");
-  app.add_option("--noisy", noisyOutput, "Write the recording with that noise, too")->needs(added);
-  CLI11_PARSE(app, argc, argv);
+  app.option("recording", input, "An audio file").required().existingFile();
+  app.option("-o,--output", output, "The 16-bit WAV file to write").required();
+  app.option("--levels", levels, "Levels of the decomposition").range(1, 12).showDefault();
+  app.option("--strength", strength, "The threshold, relative to the largest noise to be expected").notNegative().showDefault();
+  Option added = app.option("--add-noise", level, "Add noise of this level, dB below full scale, and tell what is won");
+  app.option("--noisy", noisyOutput, "Write the recording with that noise, too").needs(added);
+  app.parse(argc, argv);
 
   AudioReader in(input);
   const std::vector<float> clean = firstChannel(in);
   std::vector<float> noisy = clean;
-  if (*added) {
+  if (added.isGiven()) {
     const std::vector<float> all = noise(clean.size(), std::pow(10, level / 20), 1);
     check(qvxsAdd_32f_I(all.data(), noisy.data(), static_cast<int>(noisy.size())));
     if (!noisyOutput.empty()) write(noisy, noisyOutput, in.sampleRate(), input);
@@ -62,7 +60,7 @@ int run(int argc, char** argv) {
   std::printf("%10s %12s %9s\n", "from Hz", "threshold dB", "kept %");
   for (const Level& l : result.levels)
     std::printf("%10.0f %12.1f %9.2f\n", l.hertz, 20 * std::log10(std::max(l.threshold, 1e-10)), 100 * l.kept);
-  if (*added) {
+  if (added.isGiven()) {
     const double before = signalToNoise(clean, noisy), after = signalToNoise(clean, result.samples);
     std::printf("signal-to-noise ratio %.2f dB before, %.2f dB after, gain %.2f dB\n", before, after, after - before);
   }

@@ -1,7 +1,7 @@
 // dtmf: the digits of a recording of telephone keys, and such recordings.
-#include <CLI/CLI.hpp>
 #include <cstdio>
 
+#include "../support/arguments.h"
 #include "../support/program.h"
 #include "keypad.h"
 
@@ -22,20 +22,19 @@ void printTable(const std::vector<Press>& presses) {
 }
 
 int run(int argc, char** argv) {
-  CLI::App app("Decodes the keys of a recording by their tones, and makes such recordings.");
-  app.require_subcommand(1);
+  Arguments app("Decodes the keys of a recording by their tones, and makes such recordings.");
   std::string input, keys, output;
   int sampleRate = 8000;
   double noise = -40;
-  CLI::App* hear = app.add_subcommand("listen", "Prints the keys of a recording and the levels of all tones");
-  hear->add_option("recording", input, "The recording; its first channel")->required()->check(CLI::ExistingFile);
-  CLI::App* make = app.add_subcommand("dial", "Writes a recording");
-  make->add_option("keys", keys, "Of 0 to 9, A to D, * and #")->required();
-  make->add_option("-o,--output", output, "The 16-bit WAV file to write")->required();
-  make->add_option("--rate", sampleRate, "Sample rate")->check(CLI::Range(4000, 192000))->capture_default_str();
-  make->add_option("--noise", noise, "Level of white noise, dB below a sine of full scale")->capture_default_str();
-  CLI11_PARSE(app, argc, argv);
-  if (make->parsed()) dial(keys, sampleRate, noise, output);
+  Arguments hear = app.command("listen", "Prints the keys of a recording and the levels of all tones");
+  hear.option("recording", input, "The recording; its first channel").required().existingFile();
+  Arguments make = app.command("dial", "Writes a recording");
+  make.option("keys", keys, "Of 0 to 9, A to D, * and #").required();
+  make.option("-o,--output", output, "The 16-bit WAV file to write").required();
+  make.option("--rate", sampleRate, "Sample rate").range(4000, 192000).showDefault();
+  make.option("--noise", noise, "Level of white noise, dB below a sine of full scale").showDefault();
+  app.parse(argc, argv);
+  if (make.isGiven()) dial(keys, sampleRate, noise, output);
   else printTable(listen(input));
   return 0;
 }

@@ -1,8 +1,8 @@
 // echo: cancels the echo of one recording in another, and makes such recordings.
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <stdexcept>
 
+#include "../support/arguments.h"
 #include "../support/audio.h"
 #include "../support/program.h"
 #include "canceller.h"
@@ -60,37 +60,24 @@ void cancel(const Options& options) {
 }
 
 int run(int argc, char** argv) {
-  CLI::App app("Cancels the echo of what a loudspeaker played in what a microphone recorded.");
-  app.require_subcommand(1);
+  Arguments app("Cancels the echo of what a loudspeaker played in what a microphone recorded.");
   Options options;
-  CLI::App* maker = app.add_subcommand("make", "Writes what a microphone would record");
-  CLI::App* canceller = app.add_subcommand("cancel", "Writes a recording without its echo, prints the attenuation over time");
-  for (CLI::App* command : {maker, canceller}) {
-    command->add_option("played", options.played, "What the loudspeaker played; its first channel")
-        ->required()
-        ->check(CLI::ExistingFile);
-    command->add_option("-o,--output", options.output, "The 16-bit WAV file to write")->required();
+  Arguments maker = app.command("make", "Writes what a microphone would record");
+  Arguments canceller = app.command("cancel", "Writes a recording without its echo, prints the attenuation over time");
+  for (Arguments command : {maker, canceller}) {
+    command.option("played", options.played, "What the loudspeaker played; its first channel").required().existingFile();
+    command.option("-o,--output", options.output, "The 16-bit WAV file to write").required();
   }
-  maker->add_option("--delay", options.room.delay, "Seconds to the first reflection")
-      ->check(CLI::Range(0.0, 1.0))
-      ->capture_default_str();
-  maker->add_option("--level", options.room.level, "Its level, dB")->check(CLI::Range(-60.0, 0.0))->capture_default_str();
-  maker->add_option("--noise", options.room.noise, "Noise of the microphone, dB")
-      ->check(CLI::Range(-120.0, 0.0))
-      ->capture_default_str();
-  canceller->add_option("recording", options.recording, "What the microphone recorded")->required()->check(CLI::ExistingFile);
-  canceller->add_option("--taps", options.learning.taps, "Samples that an echo may last")
-      ->check(CLI::Range(1, 1 << 16))
-      ->capture_default_str();
-  canceller->add_option("--rate", options.learning.rate, "Of learning: quick at 0.5, accurate below")
-      ->check(CLI::Range(0.0, 1.0))
-      ->capture_default_str();
-  canceller->add_option("--stretch", options.stretch, "Seconds to a line")
-      ->check(CLI::Range(0.001, 3600.0))
-      ->capture_default_str();
-  canceller->add_option("-p,--plot", options.picture, "Draw the levels into this .png or .svg file");
-  CLI11_PARSE(app, argc, argv);
-  if (maker->parsed()) make(options);
+  maker.option("--delay", options.room.delay, "Seconds to the first reflection").range(0.0, 1.0).showDefault();
+  maker.option("--level", options.room.level, "Its level, dB").range(-60.0, 0.0).showDefault();
+  maker.option("--noise", options.room.noise, "Noise of the microphone, dB").range(-120.0, 0.0).showDefault();
+  canceller.option("recording", options.recording, "What the microphone recorded").required().existingFile();
+  canceller.option("--taps", options.learning.taps, "Samples that an echo may last").range(1, 1 << 16).showDefault();
+  canceller.option("--rate", options.learning.rate, "Of learning: quick at 0.5, accurate below").range(0.0, 1.0).showDefault();
+  canceller.option("--stretch", options.stretch, "Seconds to a line").range(0.001, 3600.0).showDefault();
+  canceller.option("-p,--plot", options.picture, "Draw the levels into this .png or .svg file");
+  app.parse(argc, argv);
+  if (maker.isGiven()) make(options);
   else cancel(options);
   return 0;
 }

@@ -1,11 +1,11 @@
 // equalise: an audio file through a filter of given taps, block by block, and what the size of the blocks changes: nothing.
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <functional>
 #include <numeric>
 
+#include "../support/arguments.h"
 #include "../support/program.h"
 #include "equaliser.h"
 
@@ -19,19 +19,14 @@ struct Options {
   std::vector<int> others = {1, 64, 1000};
 };
 
-void declare(CLI::App& app, Options& options) {
-  app.add_option("file", options.file, "The audio file")->required()->check(CLI::ExistingFile);
-  app.add_option("-t,--taps", options.taps, "A text file of the filter's taps, # begins a comment")
-      ->required()
-      ->check(CLI::ExistingFile);
-  app.add_option("-o,--output", options.output, "The 16-bit WAV file to write")->required();
-  const auto sizes = CLI::Range(1, kBlockFrames);
-  app.add_option("-b,--block", options.block, "Samples that a channel is filtered at a time")
-      ->check(sizes)
-      ->capture_default_str();
-  app.add_option("-c,--compare", options.others, "Other sizes, whose results are compared with the first")
-      ->check(sizes)
-      ->capture_default_str();
+void declare(Arguments app, Options& options) {
+  app.option("file", options.file, "The audio file").required().existingFile();
+  app.option("-t,--taps", options.taps, "A text file of the filter's taps, # begins a comment").required().existingFile();
+  app.option("-o,--output", options.output, "The 16-bit WAV file to write").required();
+  app.option("-b,--block", options.block, "Samples that a channel is filtered at a time").range(1, kBlockFrames).showDefault();
+  app.option("-c,--compare", options.others, "Other sizes, whose results are compared with the first")
+      .range(1, kBlockFrames)
+      .showDefault();
 }
 
 // A filter that is given other blocks, and how far its results have been from the first one's.
@@ -49,10 +44,10 @@ struct Other {
 };
 
 int run(int argc, char** argv) {
-  CLI::App app("Filters an audio file by given taps, as a stream of blocks, and compares blocks of other sizes.");
+  Arguments app("Filters an audio file by given taps, as a stream of blocks, and compares blocks of other sizes.");
   Options options;
   declare(app, options);
-  CLI11_PARSE(app, argc, argv);
+  app.parse(argc, argv);
   const std::vector<Qvx32f> taps = readTaps(options.taps);
   AudioReader reader(options.file);
   const int channels = reader.channels();

@@ -1,9 +1,9 @@
 // g711: audio files to A-law or mu-law codes and back, and what that costs in signal-to-noise ratio.
-#include <CLI/CLI.hpp>
 #include <cmath>
 #include <cstdio>
 #include <map>
 
+#include "../support/arguments.h"
 #include "../support/program.h"
 #include "codec.h"
 #include "distortion.h"
@@ -22,36 +22,33 @@ struct Options {
 
 const std::map<std::string, const Law*> kLawNames = {{"a", &kALaw}, {"mu", &kMuLaw}};
 
-CLI::Option* addInput(CLI::App* command, Options& options, const char* what) {
-  return command->add_option("file", options.input, what)->check(CLI::ExistingFile);
+Option addInput(Arguments command, Options& options, const char* what) {
+  return command.option("file", options.input, what).existingFile();
 }
 
-CLI::Option* addLaw(CLI::App* command, Options& options) {
-  return command->add_option("-l,--law", options.law, "A-law or mu-law")->check(CLI::IsMember(kLawNames))->capture_default_str();
+Option addLaw(Arguments command, Options& options) {
+  return command.option("-l,--law", options.law, "A-law or mu-law").oneOf(kLawNames).showDefault();
 }
 
-void declareEncode(CLI::App& app, Options& options) {
-  CLI::App* command = app.add_subcommand("encode", "Writes the codes of an audio file");
-  addInput(command, options, "The audio file; rate and channels are kept")->required();
-  command->add_option("-o,--output", options.output, "The file of codes to write")->required();
+void declareEncode(Arguments app, Options& options) {
+  Arguments command = app.command("encode", "Writes the codes of an audio file");
+  addInput(command, options, "The audio file; rate and channels are kept").required();
+  command.option("-o,--output", options.output, "The file of codes to write").required();
   addLaw(command, options);
-  command->add_flag("-r,--raw", options.raw, "Write the codes alone, not a WAV file");
-  command->callback(
+  command.flag("-r,--raw", options.raw, "Write the codes alone, not a WAV file");
+  command.whenGiven(
       [&] { encode(options.input, options.output, *kLawNames.at(options.law), options.raw ? SF_FORMAT_RAW : SF_FORMAT_WAV); });
 }
 
-void declareDecode(CLI::App& app, Options& options) {
-  CLI::App* command = app.add_subcommand("decode", "Writes the 16-bit WAV file that codes stand for");
-  addInput(command, options, "An audio file that holds codes; with --raw, a file of codes alone")->required();
-  command->add_option("-o,--output", options.output, "The 16-bit WAV file to write")->required();
-  CLI::Option* raw = command->add_flag("-r,--raw", options.raw, "The file holds codes alone: the next three say what they are");
-  addLaw(command, options)->needs(raw);
-  command->add_option("--rate", options.sampleRate, "Sample rate")
-      ->check(CLI::Range(1, 655350))
-      ->capture_default_str()
-      ->needs(raw);
-  command->add_option("--channels", options.channels, "Channels")->check(CLI::Range(1, 1024))->capture_default_str()->needs(raw);
-  command->callback([&] {
+void declareDecode(Arguments app, Options& options) {
+  Arguments command = app.command("decode", "Writes the 16-bit WAV file that codes stand for");
+  addInput(command, options, "An audio file that holds codes; with --raw, a file of codes alone").required();
+  command.option("-o,--output", options.output, "The 16-bit WAV file to write").required();
+  Option raw = command.flag("-r,--raw", options.raw, "The file holds codes alone: the next three say what they are");
+  addLaw(command, options).needs(raw);
+  command.option("--rate", options.sampleRate, "Sample rate").range(1, 655350).showDefault().needs(raw);
+  command.option("--channels", options.channels, "Channels").range(1, 1024).showDefault().needs(raw);
+  command.whenGiven([&] {
     AudioReader input = options.raw ? AudioReader(options.input, SF_FORMAT_RAW | kLawNames.at(options.law)->subtype,
                                                   options.channels, options.sampleRate)
                                     : AudioReader(options.input);
@@ -80,24 +77,22 @@ void printTable(const DistortionByLevel& rows, bool withTotal) {
   if (withTotal) printRow("all", total);
 }
 
-void declareSnr(CLI::App& app, Options& options) {
-  CLI::App* command = app.add_subcommand("snr", "Prints signal-to-noise ratios after encoding and decoding, by input level");
-  CLI::App* source = command->add_option_group("signal");
+void declareSnr(Arguments app, Options& options) {
+  Arguments command = app.command("snr", "Prints signal-to-noise ratios after encoding and decoding, by input level");
+  Arguments source = command.either("signal");
   addInput(source, options, "The audio file, by the levels of blocks of 20 ms");
-  source->add_flag("-s,--sine", options.sine, "Sines of 1013 Hz at 8000 Hz, -60 to 0 dBFS");
-  source->require_option(1);
-  command->callback([&] { printTable(options.sine ? distortionOfSines() : distortionOf(options.input), !options.sine); });
+  source.flag("-s,--sine", options.sine, "Sines of 1013 Hz at 8000 Hz, -60 to 0 dBFS");
+  command.whenGiven([&] { printTable(options.sine ? distortionOfSines() : distortionOf(options.input), !options.sine); });
 }
 
 int run(int argc, char** argv) {
-  CLI::App app(
+  Arguments app(
       "Encodes audio by G.711, decodes it, and tells the signal-to-noise ratio. 0 dBFS is a sine that reaches full scale.");
-  app.require_subcommand(1);
   Options options;
   declareEncode(app, options);
   declareDecode(app, options);
   declareSnr(app, options);
-  CLI11_PARSE(app, argc, argv);
+  app.parse(argc, argv);
   return 0;
 }
 

@@ -1,9 +1,9 @@
 // loudness: how the levels of a recording are spread, and where it is loudest and quietest.
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 
+#include "../support/arguments.h"
 #include "../support/program.h"
 #include "loudness.h"
 
@@ -35,17 +35,15 @@ void printHistogram(const std::vector<float>& sorted, double width) {
 }
 
 int run(int argc, char** argv) {
-  CLI::App app("Prints the percentiles and the histogram of a recording's block levels, and its loudest and quietest seconds.");
+  Arguments app("Prints the percentiles and the histogram of a recording's block levels, and its loudest and quietest seconds.");
   std::string input;
   double milliseconds = 100, width = 6;
   size_t count = 3;
-  app.add_option("file", input, "The audio file")->required()->check(CLI::ExistingFile);
-  app.add_option("-b,--block", milliseconds, "Length of a block in ms")->check(CLI::Range(1.0, 10000.0))->capture_default_str();
-  app.add_option("-w,--width", width, "Width of the histogram's classes in dB")
-      ->check(CLI::Range(0.5, 60.0))
-      ->capture_default_str();
-  app.add_option("-c,--count", count, "Seconds to print at either end")->check(CLI::Range(1, 1000))->capture_default_str();
-  CLI11_PARSE(app, argc, argv);
+  app.option("file", input, "The audio file").required().existingFile();
+  app.option("-b,--block", milliseconds, "Length of a block in ms").range(1.0, 10000.0).showDefault();
+  app.option("-w,--width", width, "Width of the histogram's classes in dB").range(0.5, 60.0).showDefault();
+  app.option("-c,--count", count, "Seconds to print at either end").range(1, 1000).showDefault();
+  app.parse(argc, argv);
 
   const Levels levels = levelsOf(input, milliseconds / 1000);
   const std::vector<float> blocks = sorted(levels.blocks);

@@ -1,12 +1,12 @@
 // mixdown: audio files in, their sum as a 16-bit WAV file out, and a table of levels.
 #include <unistd.h>
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 #include <map>
 #include <stdexcept>
 
+#include "../support/arguments.h"
 #include "../support/program.h"
 #include "mixer.h"
 
@@ -22,20 +22,17 @@ struct Options {
 const std::map<std::string, QvxRoundMode> kRoundModes = {
     {"nearest", qvxRoundNearestEven}, {"zero", qvxRoundTowardZero}, {"away", qvxRoundHalfAway}};
 
-void declare(CLI::App& app, Options& options) {
-  app.add_option("files", options.files, "Audio files of one sample rate; mono files go to all channels of the mix")
-      ->required()
-      ->check(CLI::ExistingFile);
-  app.add_option("-g,--gain", options.gainsDb, "Gain in dB, once for each file in their order; 0 for files without one")
-      ->expected(1)
-      ->allow_extra_args(false)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-      ->check(CLI::Range(-200.0, 100.0));
-  app.add_option("-o,--output", options.output, "The 16-bit WAV file to write")->required();
-  app.add_option("-r,--round", options.rounding,
-                 "To nearest with ties to even, toward zero, or to nearest with ties away from zero")
-      ->check(CLI::IsMember(kRoundModes))
-      ->capture_default_str();
+void declare(Arguments app, Options& options) {
+  app.option("files", options.files, "Audio files of one sample rate; mono files go to all channels of the mix")
+      .required()
+      .existingFile();
+  app.option("-g,--gain", options.gainsDb, "Gain in dB, once for each file in their order; 0 for files without one")
+      .repeated()
+      .range(-200.0, 100.0);
+  app.option("-o,--output", options.output, "The 16-bit WAV file to write").required();
+  app.option("-r,--round", options.rounding, "To nearest with ties to even, toward zero, or to nearest with ties away from zero")
+      .oneOf(kRoundModes)
+      .showDefault();
 }
 
 std::vector<Track> open(const Options& options) {
@@ -75,10 +72,10 @@ void printTable(const std::vector<Track>& tracks, const std::string& output, con
 }
 
 int run(int argc, char** argv) {
-  CLI::App app("Mixes audio files into one: gain, sum, saturation to 16 bits, and a table of the levels.");
+  Arguments app("Mixes audio files into one: gain, sum, saturation to 16 bits, and a table of the levels.");
   Options options;
   declare(app, options);
-  CLI11_PARSE(app, argc, argv);
+  app.parse(argc, argv);
   std::vector<Track> tracks = open(options);
   const MixFormat format = commonFormat(tracks);
   std::function<void(int64_t)> progress = [](int64_t) {};

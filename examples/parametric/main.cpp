@@ -1,7 +1,7 @@
 // parametric: designs a low-pass or high-pass filter, prints and draws it, and filters an audio file.
-#include <CLI/CLI.hpp>
 #include <cstdio>
 
+#include "../support/arguments.h"
 #include "../support/program.h"
 #include "filter.h"
 
@@ -14,22 +14,20 @@ struct Options {
   std::string output;
 };
 
-void declare(CLI::App& app, const char* name, bool isHighPass, Options& options) {
-  CLI::App* command = app.add_subcommand(name, isHighPass ? "A high-pass filter" : "A low-pass filter");
-  command->add_option("-f,--frequency", options.filter.frequency, "The edge in Hz: 3 dB down, or the ripple")->required();
-  command->add_option("-n,--order", options.filter.order, "1 to 12")->capture_default_str();
-  command->add_option("-r,--ripple", options.filter.ripple, "Ripple of the pass band in dB: Chebyshev; 0 is Butterworth")
-      ->check(CLI::NonNegativeNumber)
-      ->capture_default_str();
-  command->add_option("-s,--rate", options.filter.sampleRate, "Sampling rate in Hz")
-      ->check(CLI::PositiveNumber)
-      ->capture_default_str();
-  command->add_option("-p,--plot", options.plot, "Draw the response into this .png or .svg file, or with letters for -");
-  CLI::Option* input = command->add_option("file", options.input, "An audio file to filter")->check(CLI::ExistingFile);
-  CLI::Option* output = command->add_option("-o,--output", options.output, "The 16-bit WAV file to write");
-  input->needs(output);
-  output->needs(input);
-  command->callback([&options, isHighPass] { options.filter.isHighPass = isHighPass; });
+void declare(Arguments app, const char* name, bool isHighPass, Options& options) {
+  Arguments command = app.command(name, isHighPass ? "A high-pass filter" : "A low-pass filter");
+  command.option("-f,--frequency", options.filter.frequency, "The edge in Hz: 3 dB down, or the ripple").required();
+  command.option("-n,--order", options.filter.order, "1 to 12").showDefault();
+  command.option("-r,--ripple", options.filter.ripple, "Ripple of the pass band in dB: Chebyshev; 0 is Butterworth")
+      .notNegative()
+      .showDefault();
+  command.option("-s,--rate", options.filter.sampleRate, "Sampling rate in Hz").positive().showDefault();
+  command.option("-p,--plot", options.plot, "Draw the response into this .png or .svg file, or with letters for -");
+  Option input = command.option("file", options.input, "An audio file to filter").existingFile();
+  Option output = command.option("-o,--output", options.output, "The 16-bit WAV file to write");
+  input.needs(output);
+  output.needs(input);
+  command.whenGiven([&options, isHighPass] { options.filter.isHighPass = isHighPass; });
 }
 
 void print(const Filter& filter) {
@@ -45,12 +43,11 @@ void print(const Filter& filter) {
 }
 
 int run(int argc, char** argv) {
-  CLI::App app("Designs a low-pass or high-pass filter, prints its coefficients and response, and filters an audio file.");
-  app.require_subcommand(1);
+  Arguments app("Designs a low-pass or high-pass filter, prints its coefficients and response, and filters an audio file.");
   Options options;
   declare(app, "low", false, options);
   declare(app, "high", true, options);
-  CLI11_PARSE(app, argc, argv);
+  app.parse(argc, argv);
   const Filter filter(options.filter);
   print(filter);
   if (!options.plot.empty()) plot(filter, options.plot);

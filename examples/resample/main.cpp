@@ -1,10 +1,10 @@
 // resample: an audio file at another sampling rate, by a filter designed for it, and how good and fast that is.
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <random>
 
+#include "../support/arguments.h"
 #include "../support/program.h"
 #include "peers.h"
 #include "resampler.h"
@@ -19,14 +19,12 @@ struct Options {
   bool compares = false;
 };
 
-void declare(CLI::App& app, Options& options) {
-  app.add_option("file", options.file, "The audio file")->required()->check(CLI::ExistingFile);
-  app.add_option("-r,--rate", options.rate, "The rate to convert to, in Hz")
-      ->check(CLI::Range(1000, 1000000))
-      ->capture_default_str();
-  app.add_option("-l,--level", options.level, "Rejection of images and aliases in dB: 60, 100 or 140")->capture_default_str();
-  app.add_option("-o,--output", options.output, "The WAV file to write, of 32-bit floats")->required();
-  app.add_flag("-c,--compare", options.compares, "Measures all levels beside libsamplerate and soxr");
+void declare(Arguments app, Options& options) {
+  app.option("file", options.file, "The audio file").required().existingFile();
+  app.option("-r,--rate", options.rate, "The rate to convert to, in Hz").range(1000, 1000000).showDefault();
+  app.option("-l,--level", options.level, "Rejection of images and aliases in dB: 60, 100 or 140").showDefault();
+  app.option("-o,--output", options.output, "The WAV file to write, of 32-bit floats").required();
+  app.flag("-c,--compare", options.compares, "Measures all levels beside libsamplerate and soxr");
 }
 
 // The channels of a file through a filter each, in blocks.
@@ -129,10 +127,10 @@ void compare(int from, int to) {
 }
 
 int run(int argc, char** argv) {
-  CLI::App app("Converts an audio file to another sampling rate, and measures the filter that does it.");
+  Arguments app("Converts an audio file to another sampling rate, and measures the filter that does it.");
   Options options;
   declare(app, options);
-  CLI11_PARSE(app, argc, argv);
+  app.parse(argc, argv);
   const Level& level = levelOf(options.level);
   AudioReader reader(options.file);
   const Design design(reader.sampleRate(), options.rate, level);

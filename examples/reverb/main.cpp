@@ -1,8 +1,8 @@
 // reverb: a recording in a room, whose response is a file or noise that dies away, and the room's decay.
-#include <CLI/CLI.hpp>
 #include <cmath>
 #include <cstdio>
 
+#include "../support/arguments.h"
 #include "../support/program.h"
 #include "room.h"
 
@@ -16,16 +16,16 @@ struct Options {
   double wet = -9;
 };
 
-void declare(CLI::App& app, Options& options) {
-  app.add_option("file", options.file, "The recording")->required()->check(CLI::ExistingFile);
-  app.add_option("-o,--output", options.output, "The 16-bit WAV file to write")->required();
-  auto* response = app.add_option("-r,--response", options.response, "The room's impulse response, a recording");
-  response->check(CLI::ExistingFile);
-  app.add_option("-s,--seconds", options.seconds, "Without one: how long the room takes to lose 60 dB")
-      ->check(CLI::Range(0.01, 20.0))
-      ->excludes(response)
-      ->capture_default_str();
-  app.add_option("-w,--wet", options.wet, "The level of the room beside the recording, in dB")->capture_default_str();
+void declare(Arguments app, Options& options) {
+  app.option("file", options.file, "The recording").required().existingFile();
+  app.option("-o,--output", options.output, "The 16-bit WAV file to write").required();
+  Option response = app.option("-r,--response", options.response, "The room's impulse response, a recording");
+  response.existingFile();
+  app.option("-s,--seconds", options.seconds, "Without one: how long the room takes to lose 60 dB")
+      .range(0.01, 20.0)
+      .excludes(response)
+      .showDefault();
+  app.option("-w,--wet", options.wet, "The level of the room beside the recording, in dB").showDefault();
 }
 
 void printDecay(const std::vector<Qvx32f>& response, int sampleRate) {
@@ -40,10 +40,10 @@ void printDecay(const std::vector<Qvx32f>& response, int sampleRate) {
 }
 
 int run(int argc, char** argv) {
-  CLI::App app("Plays a recording in a room: adds its convolution with the room's impulse response, block by block.");
+  Arguments app("Plays a recording in a room: adds its convolution with the room's impulse response, block by block.");
   Options options;
   declare(app, options);
-  CLI11_PARSE(app, argc, argv);
+  app.parse(argc, argv);
   AudioReader reader(options.file);
   const int rate = reader.sampleRate();
   const std::vector<Qvx32f> response =

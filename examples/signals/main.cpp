@@ -1,7 +1,7 @@
 // signals: writes test signals and measures them, and tells the properties of windows.
-#include <CLI/CLI.hpp>
 #include <cstdio>
 
+#include "../support/arguments.h"
 #include "../support/program.h"
 #include "generator.h"
 #include "measure.h"
@@ -32,53 +32,48 @@ void printWindows() {
 }
 
 int run(int argc, char** argv) {
-  CLI::App app("Writes test signals into 16-bit WAV files and measures them; tells the properties of windows.");
-  app.require_subcommand(1);
+  Arguments app("Writes test signals into 16-bit WAV files and measures them; tells the properties of windows.");
   Signal signal;
   std::string output, input, picture;
   std::string window = "kaiser-4pi";
 
-  CLI::App* make = app.add_subcommand("make", "Writes a signal, then measures what it wrote");
-  make->add_option("shape", signal.shape, "tone, triangle, sweep, uniform or gauss")
-      ->required()
-      ->check(CLI::IsMember({"tone", "triangle", "sweep", "uniform", "gauss"}));
-  make->add_option("-o,--output", output, "The 16-bit WAV file to write")->required();
-  make->add_option("-f,--frequency", signal.frequency, "Hz; where a sweep begins")
-      ->check(CLI::PositiveNumber)
-      ->capture_default_str();
-  make->add_option("-t,--to", signal.last, "Hz, where a sweep ends")->check(CLI::PositiveNumber)->capture_default_str();
-  make->add_option("-l,--level", signal.level, "Of the peak, dB below full scale; of gauss, of the standard deviation")
-      ->check(CLI::Range(-80.0, 0.0))
-      ->capture_default_str();
-  make->add_option("-a,--asymmetry", signal.asymmetry, "Of a triangle: from -1, a sawtooth that rises, to 1, one that falls")
-      ->check(CLI::Range(-1.0, 1.0))
-      ->capture_default_str();
-  make->add_option("-s,--seconds", signal.seconds, "Length")->check(CLI::Range(0.0, 3600.0))->capture_default_str();
-  make->add_option("-r,--rate", signal.rate, "Sampling rate in Hz")->check(CLI::Range(1000, 384000))->capture_default_str();
-  make->add_option("--seed", signal.seed, "Of noise")->capture_default_str();
+  Arguments make = app.command("make", "Writes a signal, then measures what it wrote");
+  make.option("shape", signal.shape, "tone, triangle, sweep, uniform or gauss")
+      .required()
+      .oneOf({"tone", "triangle", "sweep", "uniform", "gauss"});
+  make.option("-o,--output", output, "The 16-bit WAV file to write").required();
+  make.option("-f,--frequency", signal.frequency, "Hz; where a sweep begins").positive().showDefault();
+  make.option("-t,--to", signal.last, "Hz, where a sweep ends").positive().showDefault();
+  make.option("-l,--level", signal.level, "Of the peak, dB below full scale; of gauss, of the standard deviation")
+      .range(-80.0, 0.0)
+      .showDefault();
+  make.option("-a,--asymmetry", signal.asymmetry, "Of a triangle: from -1, a sawtooth that rises, to 1, one that falls")
+      .range(-1.0, 1.0)
+      .showDefault();
+  make.option("-s,--seconds", signal.seconds, "Length").range(0.0, 3600.0).showDefault();
+  make.option("-r,--rate", signal.rate, "Sampling rate in Hz").range(1000, 384000).showDefault();
+  make.option("--seed", signal.seed, "Of noise").showDefault();
 
-  CLI::App* measured = app.add_subcommand("measure", "Measures a recording");
-  measured->add_option("file", input, "The audio file; its first channel")->required()->check(CLI::ExistingFile);
-  for (CLI::App* command : {make, measured})
-    command->add_option("-w,--window", window, "The window to measure with")
-        ->check(CLI::IsMember(windowNames()))
-        ->capture_default_str();
+  Arguments measured = app.command("measure", "Measures a recording");
+  measured.option("file", input, "The audio file; its first channel").required().existingFile();
+  for (Arguments command : {make, measured})
+    command.option("-w,--window", window, "The window to measure with").oneOf(windowNames()).showDefault();
 
-  CLI::App* table = app.add_subcommand("windows", "Prints the properties of the windows, in bins and dB");
-  table->add_option("-p,--plot", picture, "Draw their spectra into this .png or .svg file, or with letters for -");
-  CLI11_PARSE(app, argc, argv);
+  Arguments table = app.command("windows", "Prints the properties of the windows, in bins and dB");
+  table.option("-p,--plot", picture, "Draw their spectra into this .png or .svg file, or with letters for -");
+  app.parse(argc, argv);
 
-  if (table->parsed()) {
+  if (table.isGiven()) {
     printWindows();
     if (!picture.empty()) plotWindows(picture);
     return 0;
   }
-  if (make->parsed()) {
+  if (make.isGiven()) {
     if (2 * std::max(signal.frequency, signal.shape == "sweep" ? signal.last : 0) >= signal.rate)
       throw std::runtime_error("frequencies have to be below half the sampling rate");
     writeSignal(signal, output);
   }
-  print(measure(make->parsed() ? output : input, windowOf(window)));
+  print(measure(make.isGiven() ? output : input, windowOf(window)));
   return 0;
 }
 

@@ -1,7 +1,7 @@
 // spectrogram: what an audio file holds from moment to moment, as a picture, as octave bands, or as the frequency of a tone.
-#include <CLI/CLI.hpp>
 #include <cstdio>
 
+#include "../support/arguments.h"
 #include "../support/program.h"
 #include "plot.h"
 #include "tone.h"
@@ -17,13 +17,10 @@ struct Options {
   int hop = 0;
 };
 
-void addTo(CLI::App& command, Options& options) {
-  command.add_option("file", options.input, "The audio file; its channels are averaged")->required()->check(CLI::ExistingFile);
-  command.add_option("-w,--window", options.len, "Frames of a window, any number")
-      ->check(CLI::Range(1, 1 << 24))
-      ->capture_default_str();
-  command.add_option("--hop", options.hop, "Frames from one window to the next, half a window if not given")
-      ->check(CLI::Range(1, 1 << 24));
+void addTo(Arguments command, Options& options) {
+  command.option("file", options.input, "The audio file; its channels are averaged").required().existingFile();
+  command.option("-w,--window", options.len, "Frames of a window, any number").range(1, 1 << 24).showDefault();
+  command.option("--hop", options.hop, "Frames from one window to the next, half a window if not given").range(1, 1 << 24);
 }
 
 Windows windowsOf(const Options& options) {
@@ -42,29 +39,26 @@ void printBands(const Bands& bands) {
 }
 
 int run(int argc, char** argv) {
-  CLI::App app("Shows what an audio file holds from moment to moment. 0 dBFS is a sine that reaches full scale.");
-  app.require_subcommand(1);
+  Arguments app("Shows what an audio file holds from moment to moment. 0 dBFS is a sine that reaches full scale.");
   Options options;
   std::string picture;
   double range = 90;
   double seconds = 1;
-  CLI::App* draw = app.add_subcommand("draw", "Level by time and frequency, as a picture");
-  addTo(*draw, options);
-  draw->add_option("-o,--output", picture, "The picture, .png or .svg (by gnuplot)")->required();
-  draw->add_option("-r,--range", range, "Decibels below the loudest that have colours")
-      ->check(CLI::Range(1, 300))
-      ->capture_default_str();
-  CLI::App* bands = app.add_subcommand("bands", "Level by time in octaves, as a table");
-  addTo(*bands, options);
-  bands->add_option("-e,--every", seconds, "Seconds from row to row")->check(CLI::Range(0.001, 3600.0))->capture_default_str();
-  CLI::App* tone = app.add_subcommand("tone", "Frequency and level of a tone by time");
-  addTo(*tone, options);
-  CLI11_PARSE(app, argc, argv);
+  Arguments draw = app.command("draw", "Level by time and frequency, as a picture");
+  addTo(draw, options);
+  draw.option("-o,--output", picture, "The picture, .png or .svg (by gnuplot)").required();
+  draw.option("-r,--range", range, "Decibels below the loudest that have colours").range(1, 300).showDefault();
+  Arguments bands = app.command("bands", "Level by time in octaves, as a table");
+  addTo(bands, options);
+  bands.option("-e,--every", seconds, "Seconds from row to row").range(0.001, 3600.0).showDefault();
+  Arguments tone = app.command("tone", "Frequency and level of a tone by time");
+  addTo(tone, options);
+  app.parse(argc, argv);
 
   Windows windows = windowsOf(options);
-  if (draw->parsed()) {
+  if (draw.isGiven()) {
     plot(spectrogramOf(windows, kMostColumns, kMostRows), range, options.input, picture);
-  } else if (bands->parsed()) {
+  } else if (bands.isGiven()) {
     printBands(bandsOf(windows, seconds));
   } else {
     std::printf("%10s %10s %8s\n", "s", "Hz", "dBFS");
