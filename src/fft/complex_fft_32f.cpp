@@ -1,6 +1,15 @@
 // Complex transforms in single precision: interleaved parts (32fc) and separate ones (32f).
 #include "fft/record.h"
 
+namespace qvx::transform {
+
+using T = Qvx32f;
+template void longTransform(const ComplexPlan<T>&, Interleaved<const T, false>, Interleaved<T, false>, T*, Unscaled);
+template void longTransform(const ComplexPlan<T>&, Interleaved<const T, false>, Interleaved<T, false>, T*, ScaledBy<T>);
+template void longTransform(const ComplexPlan<T>&, Interleaved<const T, true>, Interleaved<T, true>, T*, ScaledBy<T>);
+
+}  // namespace qvx::transform
+
 using namespace qvx;
 using namespace qvx::fft;
 

@@ -1,6 +1,15 @@
 // Complex transforms in double precision: interleaved parts (64fc) and separate ones (64f).
 #include "fft/record.h"
 
+namespace qvx::transform {
+
+using T = Qvx64f;
+template void longTransform(const ComplexPlan<T>&, Interleaved<const T, false>, Interleaved<T, false>, T*, Unscaled);
+template void longTransform(const ComplexPlan<T>&, Interleaved<const T, false>, Interleaved<T, false>, T*, ScaledBy<T>);
+template void longTransform(const ComplexPlan<T>&, Interleaved<const T, true>, Interleaved<T, true>, T*, ScaledBy<T>);
+
+}  // namespace qvx::transform
+
 using namespace qvx;
 using namespace qvx::fft;
 

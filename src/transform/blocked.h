@@ -140,6 +140,13 @@ template <bool kAhead, size_t R, size_t L, class T, class Dst>
   }
 }
 
+// The first radix or the last: of the pass that looks ahead, which has kBlockPoints rows, the one there is. These kernels are large.
+inline constexpr Levels kBlockLevels = levelsFor(kBlockPoints);
+template <bool kAhead, bool kLast, class Step> QVX_INLINE void withColumnRadix(const Levels& levels, Step step) {
+  if constexpr (kAhead) step(std::integral_constant<size_t, kBlockLevels.radix[kLast ? kBlockLevels.count - 1 : 0]>());
+  else withRadix(levels.radix[kLast ? levels.count - 1 : 0], step);
+}
+
 // Transforms down the rows, each column in its place. Tiles of them go through the work array, so that the caller's memory is
 // read and written in runs of 512 bytes: rows a power of two apart leave the caches no room for more, and runs of 128 bytes are
 // written at 15 GB/s where these are at 50. What the first level has made of a tile goes through the others part by part, in the
@@ -153,10 +160,10 @@ void downColumns(Src src, Dst dst, size_t rows, size_t columns, size_t wide, con
   const size_t parts = levels.radix[0];
   const size_t part = rows / parts;
   for (size_t c = 0; c < columns; c += wide) {
-    withRadix(parts, [=](auto R) { loadColumns<kAhead, R>(src.from(c), columns, tile, twiddles.levels); });
+    withColumnRadix<kAhead, false>(levels, [=](auto R) { loadColumns<kAhead, R>(src.from(c), columns, tile, twiddles.levels); });
     for (size_t a = 0; a < parts; ++a) {
       middleLevels<L>(levels, ColumnTile<L, T>{tile.at(a * part, 0), part, wide}, twiddles.levels + part * (parts - 1) * 2, 1);
-      withRadix(levels.radix[levels.count - 1], [=, &place](auto R) {
+      withColumnRadix<kAhead, true>(levels, [=, &place](auto R) {
         storeColumns<kAhead, R>(tile, place, a, parts, twiddles.lanes, twiddles.tiles + c / C * 2 * rows, dst.from(c), columns);
       });
     }
@@ -252,8 +259,8 @@ void firstColumns(Split<const T> src, Split<T> dst, size_t rows, size_t columns,
 // n points in place.
 template <size_t L, class T, class Points, class Scale>
 QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Scale scale) {
-  if constexpr (L * L == kBlockPoints) transformInSquare<L>(row, row, plan.rowTwiddles, scale);
-  else runPasses<L>(plan, row, row, y, scale);
+  if constexpr (L * L == kBlockPoints) transformInSquare<L>(row.asSource(), row, plan.rowTwiddles, scale);
+  else runPasses<L>(plan, row.asSource(), row, y, scale);
 }
 
 // tile: the points of working memory.
@@ -267,7 +274,7 @@ void blockedTransform(const Plan<T>& rowPlan, const BlockedPlan<T>& plan, size_t
   for (size_t ka = 0; ka < n; ++ka) {
     const Dst here = dst.from(ka * block);
     if (m <= kWidestRadix) withRadix(m, [&](auto R) { downShortColumns<R, L>(here, n, plan.inner); });
-    else downColumns<false, L>(here, here, m, n, std::min(tile / m, n), plan.inner, y);
+    else downColumns<false, L>(here.asSource(), here, m, n, std::min(tile / m, n), plan.inner, y);
     for (size_t kb = 0; kb < m; ++kb) {
       const Dst row = here.from(kb * n);
       rowTransform<L>(rowPlan, row, y, scale);

@@ -110,6 +110,25 @@ template <class T> constexpr bool chooseGrid(GridPlan<T>& plan, uint32_t n) {
   return best != UINT64_MAX;
 }
 
+// The radices that are ever chosen for P columns in a vector. With AVX-512 they are three in five: only their kernels are compiled.
+template <class T, size_t P> struct GridRadices {
+  bool down[kWidestGrid + 1] = {};
+  bool across[kWidestGrid + 1] = {};
+  bool inRegisters[kWidestGrid + 1] = {};
+
+  constexpr GridRadices() {
+    for (const uint32_t a : kGridRadices) {
+      for (const uint32_t b : kGridRadices) {
+        GridPlan<T> plan{};
+        if (!chooseGrid(plan, a * b) || plan.lanes != P) continue;
+        if (isInRegisters(plan.down, plan.across, P)) inRegisters[plan.across] = true;
+        else down[plan.down] = across[plan.across] = true;
+      }
+    }
+  }
+};
+template <class T, size_t P> inline constexpr GridRadices<T, P> kGridRadicesOf;
+
 constexpr size_t gridColumn(size_t vector, size_t columns, size_t lanes) {
   return columns < lanes ? 0 : std::min(vector * lanes, columns - lanes);
 }
@@ -253,9 +272,13 @@ template <size_t C, size_t P, class T>
 }
 
 template <size_t P, class T> void runGrid(const GridPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
+  constexpr auto& kUsed = kGridRadicesOf<T, P>;
   if constexpr (P > 1) {
-    if (isInRegisters(plan.down, plan.across, P))
-      return withMixedRadix(plan.across, [&](auto C) { gridInRegisters<C, P>(src, dst, plan.twiddles, isInverse, factor); });
+    if (isInRegisters(plan.down, plan.across, P)) {
+      return withMixedRadix(plan.across, [&](auto C) {
+        if constexpr (kUsed.inRegisters[C]) gridInRegisters<C, P>(src, dst, plan.twiddles, isInverse, factor);
+      });
+    }
   }
   alignas(64) T y[(kWidestGrid + P) * kWidestGrid * 2];
   alignas(64) T signs[2 * P];
@@ -264,8 +287,12 @@ template <size_t P, class T> void runGrid(const GridPlan<T>& plan, bool isInvers
   const GridEnds<GridVector<T, P>> ends(isInverse, factor);
   store(ends.sign, d, signs);
   store(ends.factor, d, factors);
-  withGridRadix(plan.down, [&](auto R) { downGrid<R, P>(src, y, plan.across, plan.twiddles, signs); });
-  withGridRadix(plan.across, [&](auto C) { acrossGrid<C, P>(y, dst, plan.down, factors); });
+  withGridRadix(plan.down, [&](auto R) {
+    if constexpr (kUsed.down[R]) downGrid<R, P>(src, y, plan.across, plan.twiddles, signs);
+  });
+  withGridRadix(plan.across, [&](auto C) {
+    if constexpr (kUsed.across[C]) acrossGrid<C, P>(y, dst, plan.down, factors);
+  });
 }
 template <class T> void runGrid(const GridPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
   withGridColumns<T>(plan.lanes, [&](auto P) { runGrid<P>(plan, isInverse, src, dst, factor); });

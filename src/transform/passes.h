@@ -64,6 +64,7 @@ template <class T, bool kSwapped_> struct Interleaved {
   }
   template <size_t L> QVX_INLINE void prefetch(size_t at) const { prefetchLines<2 * L * sizeof(T)>(p + 2 * at); }
   Interleaved from(size_t at) const { return {p + 2 * at}; }
+  Interleaved<const Lane, kSwapped> asSource() const { return {p}; }
 };
 
 // The same by stores that bypass the caches, for aligned vectors.
@@ -101,6 +102,7 @@ template <class T> struct Split {
     prefetchLines<L * sizeof(T)>(im + at);
   }
   Split from(size_t at) const { return {re + at, im + at}; }
+  Split<const Lane> asSource() const { return {re, im}; }
 };
 
 template <class T> bool isMissing(const T* v) { return isNull(v); }
