@@ -140,7 +140,7 @@ template <bool kAhead, size_t R, size_t L, class T, class Dst>
   }
 }
 
-// The first radix or the last: of the pass that looks ahead, which has kBlockPoints rows, the one there is. These kernels are large.
+// The first radix or the last. The pass that looks ahead has kBlockPoints rows, so there is one, and one large kernel to compile.
 inline constexpr Levels kBlockLevels = levelsFor(kBlockPoints);
 template <bool kAhead, bool kLast, class Step> QVX_INLINE void withColumnRadix(const Levels& levels, Step step) {
   if constexpr (kAhead) step(std::integral_constant<size_t, kBlockLevels.radix[kLast ? kBlockLevels.count - 1 : 0]>());

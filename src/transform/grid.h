@@ -110,7 +110,7 @@ template <class T> constexpr bool chooseGrid(GridPlan<T>& plan, uint32_t n) {
   return best != UINT64_MAX;
 }
 
-// The radices that are ever chosen for P columns in a vector. With AVX-512 they are three in five: only their kernels are compiled.
+// The radices that are ever chosen for P columns in a vector: with AVX-512 three in five. Only their kernels are compiled.
 template <class T, size_t P> struct GridRadices {
   bool down[kWidestGrid + 1] = {};
   bool across[kWidestGrid + 1] = {};
