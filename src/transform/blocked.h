@@ -20,6 +20,17 @@ namespace qvx::transform {
 
 inline constexpr size_t kBlockPoints = 256;
 
+// The points of the longest tile: 128 KiB, which is what callers are told to bring for the longest transforms.
+template <class T> inline constexpr size_t kMostOfTile = (size_t{128} << 10) / (2 * sizeof(T));
+
+// step(N) for the lanes that go down the columns of a block of `rows`. From 2^27 points on a tile has room for 4 or 8 columns.
+template <size_t L, class T, class Step> QVX_INLINE void withBlockLanes(size_t rows, Step step) {
+  if constexpr (L > 4) {
+    if (rows > kMostOfTile<T> / L) return step(std::integral_constant<size_t, 4>());
+  }
+  step(std::integral_constant<size_t, L>());
+}
+
 struct Range {
   size_t from;
   size_t to;
@@ -291,11 +302,9 @@ QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Scale scale)
 
 // Working memory of `points` for each part of a divided call. The first is always the caller's, and has the caller's memory. By
 // the next, the caller is done with it, or another thread has begun: that has a stack on which a tile finds room.
-template <class T> inline constexpr size_t kTileOnStack = (size_t{128} << 10) / (2 * sizeof(T));
-
 template <class T, class Step> [[gnu::noinline]] void onOwnTile(size_t points, Step step) {
-  alignas(Carver::kLine) T own[2 * kTileOnStack<T>];
-  step(own, std::min(points, kTileOnStack<T>));
+  alignas(Carver::kLine) T own[2 * kMostOfTile<T>];
+  step(own, std::min(points, kMostOfTile<T>));
 }
 
 // step(range, y, points) for all of 0 to count, or for two halves.
@@ -322,8 +331,13 @@ template <size_t L, class Dst, class T>
   const size_t m = block / n;
   for (size_t ka = range.from; ka < range.to; ++ka) {
     const Dst here = dst.from(ka * block);
-    if (m <= kWidestRadix) withRadix(m, [&](auto R) { downShortColumns<R, L>(here, n, inner); });
-    else downColumns<false, L>(here.asSource(), here, m, n, {0, n}, std::min(tile / m, n), inner, y);
+    if (m <= kWidestRadix) {
+      withRadix(m, [&](auto R) { downShortColumns<R, L>(here, n, inner); });
+    } else {
+      withBlockLanes<L, T>(m, [&](auto N) {
+        downColumns<false, N>(here.asSource(), here, m, n, {0, n}, std::min(tile / m, n), inner, y);
+      });
+    }
     for (size_t kb = 0; kb < m; ++kb) {
       const Dst row = here.from(kb * n);
       rowTransform<L>(rowPlan, row, y, scale);
@@ -342,7 +356,6 @@ void blockedTransform(size_t threads, const Plan<T>& rowPlan, const BlockedPlan<
                       Dst dst, T* y, ScaledBy<T> scale) {
   constexpr size_t n = kBlockPoints;
   const size_t block = points / n;
-  if (block / n > kTileOnStack<T> / L) threads = 1;  // from 2^27 points on: no vector of columns finds room
   dividedWithTiles(threads, block, y, tile, [=, &plan](Range columns, T* own, size_t room) {
     firstColumns<L>(src, dst, n, block, columns, std::min({room / n, block / 2, kSquare<T>}), plan.outer, own);
   });

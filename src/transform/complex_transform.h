@@ -70,7 +70,7 @@ template <class LaneOrder, class T> T* writePlan(ComplexPlan<T>& plan, size_t n,
   const size_t m = n / kBlockPoints / kBlockPoints;
   T* end = writePasses<LaneOrder>(plan.plan, kBlockPoints, block);
   end = writeColumnTwiddles<L, LaneOrder>(plan.blocked.outer, kBlockPoints, m * kBlockPoints, end);
-  end = writeColumnTwiddles<L, LaneOrder>(plan.blocked.inner, m, kBlockPoints, end);
+  withBlockLanes<L, T>(m, [&](auto N) { end = writeColumnTwiddles<N, LaneOrder>(plan.blocked.inner, m, kBlockPoints, end); });
   if constexpr (kTurns<L, T> && kIsInterleaved<LaneOrder>) {
     if (n <= kMostTurned) end = writeTurnedTwiddles<L, LaneOrder>(m * kBlockPoints, end);
   }

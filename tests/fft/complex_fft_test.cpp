@@ -1,5 +1,6 @@
 // Complex transforms: against the definition, and what must not change them: place, alignment, layout, threads.
 #include <qvx/qvxcore.h>
+#include <unistd.h>
 
 #include <cstring>
 #include <thread>
@@ -189,6 +190,27 @@ TEST(ComplexFft, ImpulsesInVeryLongTransforms) {
   };
   for (const int order : {21, 22, 23, 24}) check(k32fc, order);
   for (const int order : {21, 22, 23}) check(k64fc, order);
+}
+
+// The longest orders, whose tiles have room for no more than 4 columns.
+TEST(ComplexFft, AnImpulseInTheLongestTransforms) {
+  if (sysconf(_SC_PHYS_PAGES) * int64_t{sysconf(_SC_PAGESIZE)} < int64_t{8} << 30) GTEST_SKIP() << "8 GiB of memory";
+  const auto check = [](const auto& type, int order) {
+    using C = typename std::decay_t<decltype(type)>::C;
+    using T = typename std::decay_t<decltype(type)>::T;
+    SCOPED_TRACE(testing::Message() << "order " << order << ", " << sizeof(T) << " bytes");
+    const size_t n = size_t{1} << order;
+    const tests::Record record(type.life, order, QVX_FFT_SCALE_NONE);
+    std::vector<C> x(n);
+    x[n / 3] = {1, 0};
+    type.run(false, x.data(), x.data(), n, record.get(), nullptr);
+    for (size_t k = 0; k < n; k += 8191) {
+      const Exact expected = std::conj(tests::rootOfUnity(n / 3 * k, n));
+      ASSERT_LE(std::abs(Exact(x[k].re, x[k].im) - expected), 12 * std::numeric_limits<T>::epsilon()) << k;
+    }
+  };
+  check(k32fc, k32fc.top);
+  check(k64fc, k64fc.top);
 }
 
 // Vectors and buffer at any address, up to the last byte before an unreadable page, buffer or none: the same bits.
