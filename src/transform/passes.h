@@ -1,8 +1,7 @@
 // The passes of a transform of N = R * rows points, R points apart by `rows`:
 //
-//   row pass     transforms R points over whole vectors of neighbours, multiplies the results by twiddles, and transposes them,
-//   so
-//                that a vector holds neighbouring results and no later pass needs a shuffle
+//   row pass     transforms R points over whole vectors of neighbours, multiplies the results by twiddles, and transposes them: a
+//                vector then holds neighbouring results, and no later pass needs a shuffle
 //   inner pass   transforms whole vectors down the rows, in place, and multiplies them by one twiddle a vector
 //   last pass    the same without twiddles, from the work array to the results' places in natural order
 //
