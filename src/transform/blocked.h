@@ -56,7 +56,7 @@ template <size_t L, class T> inline constexpr bool kTurns = sizeof(T) == 8 && L 
 inline constexpr size_t kMostTurned = size_t{1} << 18;
 
 // The levels of transforms down columns: where either way may be taken, those of the rows, whose results are the same to the bit.
-template <size_t L, class T> Levels columnLevels(size_t rows) {
+template <size_t L, class T> constexpr Levels columnLevels(size_t rows) {
   if (!kTurns<L, T> || rows != kBlockPoints) return levelsFor(rows);
   const Levels rest = levelsFor(rows / L);
   Levels levels{static_cast<uint8_t>(rest.count + 1), {L}};
@@ -177,9 +177,10 @@ template <bool kAhead, size_t R, size_t L, class T, class Dst>
 }
 
 // The first radix or the last. The pass that looks ahead has kBlockPoints rows, so there is one, and one large kernel to compile.
-inline constexpr Levels kBlockLevels = levelsFor(kBlockPoints);
-template <bool kAhead, bool kLast, class Step> QVX_INLINE void withColumnRadix(const Levels& levels, Step step) {
-  if constexpr (kAhead) step(std::integral_constant<size_t, kBlockLevels.radix[kLast ? kBlockLevels.count - 1 : 0]>());
+template <bool kAhead, bool kLast, size_t L, class T, class Step>
+QVX_INLINE void withColumnRadix(const Levels& levels, Step step) {
+  constexpr Levels kBlock = columnLevels<L, T>(kBlockPoints);
+  if constexpr (kAhead) step(std::integral_constant<size_t, kBlock.radix[kLast ? kBlock.count - 1 : 0]>());
   else withRadix(levels.radix[kLast ? levels.count - 1 : 0], step);
 }
 
@@ -197,10 +198,11 @@ template <bool kAhead, size_t L, class T, class Src, class Dst>
   const size_t parts = levels.radix[0];
   const size_t part = rows / parts;
   for (size_t c = range.from; c < range.to; c += wide) {
-    withColumnRadix<kAhead, false>(levels, [=](auto R) { loadColumns<kAhead, R>(src.from(c), columns, tile, twiddles.levels); });
+    withColumnRadix<kAhead, false, L, T>(levels,
+                                         [=](auto R) { loadColumns<kAhead, R>(src.from(c), columns, tile, twiddles.levels); });
     for (size_t a = 0; a < parts; ++a) {
       middleLevels<L>(levels, ColumnTile<L, T>{tile.at(a * part, 0), part, wide}, twiddles.levels + part * (parts - 1) * 2, 1);
-      withColumnRadix<kAhead, true>(levels, [=, &place](auto R) {
+      withColumnRadix<kAhead, true, L, T>(levels, [=, &place](auto R) {
         storeColumns<kAhead, R>(tile, place, a, parts, twiddles.lanes, twiddles.tiles + c / C * 2 * rows, dst.from(c), columns);
       });
     }
