@@ -25,7 +25,9 @@ void checkLife(const Life<Spec>& life, Expected expected, int limit, int refused
       for (const int flag : kFlags) {
         ASSERT_EQ(life.getSize(order, flag, hint, &spec, &init, &work), qvxStatOk) << order;
         const std::optional<Sizes> row = expected(order, hint);
-        if (row) ASSERT_EQ((Sizes{spec, init, work}), *row) << order << ", " << hint;
+        if (row) {
+          ASSERT_EQ((Sizes{spec, init, work}), *row) << order << ", " << hint;
+        }
       }
     }
   }
