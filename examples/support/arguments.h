@@ -27,6 +27,7 @@ class Option {
   Option& oneOf(const std::vector<std::string>& names);
   template <class Value> Option& oneOf(const std::map<std::string, Value>& named) {
     std::vector<std::string> names;
+    names.reserve(named.size());
     for (const auto& [name, value] : named) names.push_back(name);
     return oneOf(names);
   }
