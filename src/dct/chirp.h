@@ -58,12 +58,12 @@ void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool i
                                 : tables.take<T>(static_cast<int64_t>(2 * period));
   const auto square = [n](size_t j) { return j * j % (2 * n); };  // j^2 is below 2^56
   writeTwiddles(2 * n, n, square, transform::intoPairs(c));
-  const double factor = std::sqrt(2 / static_cast<double>(n));
+  const long double factor = std::sqrt(2 / static_cast<long double>(n));
   writeTwiddles(
       4 * n, half + 1, [=](size_t k) { return k + 2 * square(k); },
       [=](size_t k, double re, double im) {
         // A number that is its own mirror image counts once.
-        const double f = k == 0 ? factor * std::sqrt(0.5) : isInverse && 2 * k == n ? factor / 2 : factor;
+        const long double f = k == 0 ? factor * std::sqrt(0.5L) : isInverse && 2 * k == n ? factor / 2 : factor;
         turns[2 * k] = static_cast<T>(f * re);
         turns[2 * k + 1] = static_cast<T>(f * im);
       });
@@ -83,23 +83,13 @@ void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool i
     dft::run(*chirp.plan, false, spectrum, spectrum, work);
     return;
   }
-  auto* const wide = reinterpret_cast<Complex<Wide>*>(spectrum);
-  std::fill_n(wide, period, Complex<Wide>{});
-  fill([=](size_t at, Wide re, Wide im) { wide[at] = {re, im}; });
-  // Rounded where they are, and put in order by way of the room past them.
+  auto* const re = reinterpret_cast<Wide*>(spectrum);
+  Wide* const im = re + period;
+  std::fill_n(re, 2 * period, Wide(0));
+  fill([=](size_t at, Wide zRe, Wide zIm) { re[at] = zRe, im[at] = zIm; });
   const dft::PreciseTransform transform(period);
-  transform.run(wide);
-  for (size_t i = 0; i < period; ++i) {
-    const Complex<Wide> z = wide[i];
-    spectrum[2 * i] = static_cast<T>(z.re);
-    spectrum[2 * i + 1] = static_cast<T>(z.im);
-  }
-  T* const inOrder = spectrum + 2 * period;
-  transform.forEachResult([=](size_t k, size_t place) {
-    inOrder[2 * k] = spectrum[2 * place];
-    inOrder[2 * k + 1] = spectrum[2 * place + 1];
-  });
-  std::copy_n(inOrder, 2 * period, spectrum);
+  transform.run(re, im);
+  transform.forEachResult<T>(re, im, [=](size_t k, T zRe, T zIm) { spectrum[2 * k] = zRe, spectrum[2 * k + 1] = zIm; });
   chirp = {period, makePlan<T>(period, tables, work), c, turns, spectrum};
 }
 

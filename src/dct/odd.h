@@ -9,7 +9,7 @@ namespace qvx::dct {
 
 // sqrt(2/n) exp(-2 pi i k / (4n)) for k = 1 .. n/2: all real parts, then all imaginary ones.
 template <class T> void writeOddTurns(T* out, size_t n) {
-  const double factor = std::sqrt(2 / static_cast<double>(n));
+  const long double factor = std::sqrt(2 / static_cast<long double>(n));
   writeTwiddles(
       4 * n, n / 2, [](size_t i) { return i + 1; },
       [=](size_t i, double re, double im) {

@@ -136,7 +136,7 @@ template <class T> void writeRows(Rows<T>& rows, size_t n, Carver& tables) {
     }
     results[q * h + row] = resultOf(row, 0);
   }
-  const double factor = std::sqrt(2 / static_cast<double>(n));
+  const long double factor = std::sqrt(2 / static_cast<long double>(n));
   writeTwiddles(
       4 * n, q * width, [=](size_t i) { return i % width < h ? size_t{results[i / width * h + i % width]} : 0; },
       [=](size_t i, double re, double im) {
@@ -147,7 +147,7 @@ template <class T> void writeRows(Rows<T>& rows, size_t n, Carver& tables) {
   writeTwiddles(
       4 * n, q, [=](size_t i) { return size_t{results[q * h + i]}; },
       [=](size_t i, double re, double im) {
-        const double f = results[q * h + i] == 0 ? factor * std::sqrt(0.5) : factor;
+        const long double f = results[q * h + i] == 0 ? factor * std::sqrt(0.5L) : factor;
         meanTurns[2 * i] = static_cast<T>(f * re);
         meanTurns[2 * i + 1] = static_cast<T>(f * im);
       });

@@ -59,7 +59,8 @@ template <class T> size_t turnTableLength(size_t n) {
 
 // f t and -i f t^5 for each k from 1 to turns(n), in groups of L.
 template <class T> void writeTurns(T* out, size_t n) {
-  const double f = std::sqrt(0.5 / static_cast<double>(n));
+  // Rounded to a double it would be an error that all results share.
+  const long double f = std::sqrt(0.5L / static_cast<long double>(n));
   const size_t count = turns(n);
   withLanesWithin<T>(count, [=](auto L) {
     const size_t length = (count + L - 1) / L * L;

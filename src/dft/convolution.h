@@ -131,6 +131,23 @@ template <class T> struct ConvolutionWork {
   }
 };
 
+// The spectrum of numbers in a wider type, put(k, re, im): fill(re, im) writes those that are not 0. Real parts stand where the
+// spectrum will, imaginary ones in the work memory.
+template <class T, class Fill, class Put> void writeSpectrum(size_t length, T* spectrum, uint8_t* work, Fill fill, Put put) {
+  using Wide = Wider<T>;
+  auto* const re = reinterpret_cast<Wide*>(spectrum);
+  auto* const im = Carver(work, Carver::kLine).template take<Wide>(static_cast<int64_t>(length));
+  std::fill_n(re, length, Wide(0));
+  std::fill_n(im, length, Wide(0));
+  fill(re, im);
+  const PreciseTransform transform(length);
+  transform.run(re, im);
+  transform.forEachResult<T>(re, im, put);
+}
+template <class T> constexpr auto intoPlanes(T* out, size_t length) {
+  return [=](size_t k, T re, T im) { out[k] = re, out[length + k] = im; };
+}
+
 // ---- Of a prime number of points, in the order of the powers of a generator g:
 //
 //   X[0] = sum of all x     X[g^-q] = x[0] + sum over m of x[g^m] w^(g^(m - q)), w = exp(-2 pi i / n)
@@ -166,28 +183,13 @@ template <class T> void writePermuted(ConvolutionPlan<T>& plan, uint32_t n, uint
   for (size_t m = 0; m < length; ++m, power = power * g % n) powers[m] = static_cast<uint32_t>(power);
   plan.powers = powers;
   plan.spectrum = spectrum;
-  ConvolutionWork<T> points(plan, work);
-  const double factor = 1 / static_cast<double>(length);
-  writeTwiddles(
-      n, length, [=](size_t m) { return powers[m == 0 ? 0 : length - m]; },
-      [&](size_t m, double re, double im) {
-        points.y.re[m] = static_cast<T>(factor * re);
-        points.y.im[m] = static_cast<T>(factor * im);
-      });
-  points.transform(plan);
-  // The real part of w^(g^-m) has half the period, its imaginary part is odd by it: so each term has a mirror image, and the mean
-  // of both half the variance. All are of one magnitude but the first, which is -1.
-  const double magnitude = std::sqrt(static_cast<double>(n)) * factor;
-  spectrum[0] = static_cast<T>(-factor);
-  spectrum[length] = 0;
-  for (size_t k = 1; k < length; ++k) {
-    const T sign = k % 2 == 0 ? T(1) : T(-1);
-    const double re = points.y.re[k] + sign * points.y.re[length - k];
-    const double im = points.y.im[k] - sign * points.y.im[length - k];
-    const double scale = magnitude / std::sqrt(re * re + im * im);
-    spectrum[k] = static_cast<T>(scale * re);
-    spectrum[length + k] = static_cast<T>(scale * im);
-  }
+  const Wider<T> factor = 1 / static_cast<Wider<T>>(length);
+  const auto fill = [=](auto* re, auto* im) {
+    writeTwiddles(
+        n, length, [=](size_t m) { return powers[m == 0 ? 0 : length - m]; },
+        [=](size_t m, double cosine, double sine) { re[m] = factor * cosine, im[m] = factor * sine; });
+  };
+  writeSpectrum(length, spectrum, work, fill, intoPlanes(spectrum, length));
 }
 
 template <class T, class Get, class Put>
@@ -225,28 +227,6 @@ void convolvePermuted(const ConvolutionPlan<T>& plan, size_t n, size_t results, 
 
 // ---- With a chirp
 
-// Of a chirp so long that there is no room for its points in a wider type.
-template <class T> void writePlainSpectrum(const ConvolutionPlan<T>& plan, size_t n, T* spectrum, uint8_t* work) {
-  const size_t length = plan.length;
-  ConvolutionWork<T> points(plan, work);
-  const T factor = 1 / static_cast<T>(length);
-  std::fill_n(points.y.re, length, T(0));
-  std::fill_n(points.y.im, length, T(0));
-  for (size_t k = 0; k < n; ++k) {
-    for (const size_t at : {k, (length - k) % length}) {
-      points.y.re[at] = plan.chirp[k] * factor;
-      points.y.im[at] = -plan.chirp[n + k] * factor;
-    }
-  }
-  points.transform(plan);
-  // The spectrum is symmetric as the chirp is: the mean of both halves has an error that is a third less.
-  for (size_t k = 0; k < length; ++k) {
-    const size_t mirrored = (length - k) % length;
-    spectrum[k] = T(0.5) * (points.y.re[k] + points.y.re[mirrored]);
-    spectrum[length + k] = T(0.5) * (points.y.im[k] + points.y.im[mirrored]);
-  }
-}
-
 template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_t* block, uint8_t* work) {
   if (plan.isPermuted) return writePermuted(plan, n, block, work);
   const size_t length = plan.length;
@@ -265,23 +245,15 @@ template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_
   std::fill_n(chirp + 2 * size_t{n}, 2 * kWidest<T>, T(0));  // whole vectors read it, and raise nothing
   plan.chirp = chirp;
   plan.spectrum = spectrum;
-  const bool isPlain =
-      std::has_single_bit(plan.length) && bytesOfFft<T>(plan.length).work - fft::kWorkSlack < bytesOfPoints<T>(length);
-  if (isPlain) return writePlainSpectrum(plan, n, spectrum, work);
-  auto* const wide = Carver(work, Carver::kLine).template take<Complex<Wider<T>>>(static_cast<int64_t>(length));
   const Wider<T> factor = 1 / static_cast<Wider<T>>(length);
-  std::fill_n(wide, length, Complex<Wider<T>>{});
-  for (size_t k = 0; k < n; ++k) {
-    wide[k] =
-        wide[(length - k) % length] = {factor * static_cast<Wider<T>>(chirp[k]), -factor * static_cast<Wider<T>>(chirp[n + k])};
-  }
-  const PreciseTransform transform(length);
-  transform.run(wide);
-  transform.forEachResult([=](size_t k, size_t place) {
-    const Complex<Wider<T>> z = wide[place];
-    spectrum[k] = static_cast<T>(z.re);
-    spectrum[length + k] = static_cast<T>(z.im);
-  });
+  const auto fill = [=](auto* re, auto* im) {
+    for (size_t k = 0; k < n; ++k) {
+      const size_t mirrored = (length - k) % length;
+      re[k] = re[mirrored] = factor * chirp[k];
+      im[k] = im[mirrored] = -factor * chirp[n + k];
+    }
+  };
+  writeSpectrum(length, spectrum, work, fill, intoPlanes(spectrum, length));
 }
 
 // get(k, count), put(z, k, count): points k on, in vectors.

@@ -30,7 +30,7 @@ template <class W> Complex<W> preciseProduct(Complex<W> a, Complex<W> b) {
   return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
 }
 
-// Forward, in place, of n points with prime factors up to 7.
+// Forward, in place, of n points with prime factors up to 7, whose parts stand apart.
 class PreciseTransform {
  public:
   explicit PreciseTransform(size_t n) : n_(n) {
@@ -39,7 +39,7 @@ class PreciseTransform {
     }
   }
 
-  template <class W> void run(Complex<W>* x) const {
+  template <class W> void run(W* re, W* im) const {
     size_t m = n_;
     for (size_t i = 0; i < count_; ++i) {
       const size_t p = factors_[i];
@@ -50,21 +50,35 @@ class PreciseTransform {
       Complex<W> turn = {};
       for (size_t q = 0; q < m; ++q) {
         turn = q % 64 == 0 ? preciseRoot<W>(q, m * p) : preciseProduct(turn, step);
-        for (Complex<W>* at = x + q; at < x + n_; at += m * p) {
-          if (p == 2) pair(at[0], at[m], turn);
-          else several(at, m, p, roots, turn);
+        for (size_t at = q; at < n_; at += m * p) {
+          if (p == 2) pair(re + at, im + at, m, turn);
+          else several(re + at, im + at, m, p, roots, turn);
         }
       }
     }
   }
-  // put(k, place) for each result k, which stands at `place`: the digits of k in the opposite order.
-  template <class Put> void forEachResult(Put put) const {
+  // put(k, re, im) for each result k, rounded. All move to the imaginary parts' place first, so that put() may write to the real
+  // ones'.
+  template <class T, class W, class Put> void forEachResult(const W* re, W* im, Put put) const {
+    static_assert(2 * sizeof(T) <= sizeof(W));
+    T* const rounded = reinterpret_cast<T*>(im);
+    for (size_t i = 0; i < n_; ++i) rounded[i] = static_cast<T>(im[i]);
+    for (size_t i = 0; i < n_; ++i) rounded[n_ + i] = static_cast<T>(re[i]);
+    forEachPlace([=, n = n_](size_t k, size_t place) { put(k, rounded[n + place], rounded[place]); });
+  }
+
+ private:
+  static constexpr size_t kMost = 7;
+  static constexpr size_t kMostFactors = 32;
+
+  // step(k, place) for each result k, which stands at `place`: the digits of k in the opposite order.
+  template <class Step> void forEachPlace(Step step) const {
     size_t parts[kMostFactors];
     size_t digits[kMostFactors] = {};
     for (size_t i = 0, part = n_; i < count_; ++i) parts[i] = part /= factors_[i];
     size_t place = 0;
     for (size_t k = 0; k < n_; ++k) {
-      put(k, place);
+      step(k, place);
       for (size_t i = 0; i < count_; ++i) {
         place += parts[i];
         if (++digits[i] < factors_[i]) break;
@@ -73,19 +87,16 @@ class PreciseTransform {
       }
     }
   }
-
- private:
-  static constexpr size_t kMost = 7;
-  static constexpr size_t kMostFactors = 32;
-
-  template <class W> static void pair(Complex<W>& a, Complex<W>& b, Complex<W> turn) {
-    const Complex<W> difference = {a.re - b.re, a.im - b.im};
-    a = {a.re + b.re, a.im + b.im};
-    b = preciseProduct(difference, turn);
+  template <class W> static void pair(W* re, W* im, size_t m, Complex<W> turn) {
+    const Complex<W> off = preciseProduct(Complex<W>{re[0] - re[m], im[0] - im[m]}, turn);
+    re[0] += re[m];
+    im[0] += im[m];
+    re[m] = off.re;
+    im[m] = off.im;
   }
-  template <class W> static void several(Complex<W>* at, size_t m, size_t p, const Complex<W>* roots, Complex<W> turn) {
+  template <class W> static void several(W* re, W* im, size_t m, size_t p, const Complex<W>* roots, Complex<W> turn) {
     Complex<W> z[kMost];
-    for (size_t k = 0; k < p; ++k) z[k] = at[k * m];
+    for (size_t k = 0; k < p; ++k) z[k] = {re[k * m], im[k * m]};
     Complex<W> power = {1, 0};
     for (size_t j = 0; j < p; ++j, power = preciseProduct(power, turn)) {
       Complex<W> sum = z[0];
@@ -93,7 +104,9 @@ class PreciseTransform {
         const Complex<W> term = preciseProduct(z[k], roots[j * k % p]);
         sum = {sum.re + term.re, sum.im + term.im};
       }
-      at[j * m] = preciseProduct(sum, power);
+      const Complex<W> turned = preciseProduct(sum, power);
+      re[j * m] = turned.re;
+      im[j * m] = turned.im;
     }
   }
 
