@@ -110,9 +110,9 @@ template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T*
   T* const y = Carver(work, Carver::kLine).template take<T>(0);
   if (plan.isOutOfOrder) return (isInverse ? inverseOutOfOrder<T> : forwardOutOfOrder<T>)(plan.blocks, src, dst, y, factor);
   if (plan.way == Way::kBlocks) {
-    if (src == dst) std::copy_n(src, 2 * n, y);
-    const Conjugable<const T> points = {src == dst ? y : src, sign};
-    return runBlocks(plan.blocks, points, Conjugable<T>{dst, sign}, y, {dst, dst + n}, sign, factor);
+    const Conjugable<const T> from = {src, sign};
+    const Conjugable<T> to = {dst, sign};
+    return src == dst ? runBlocksInPlace(plan.blocks, from, to, y, factor) : runBlocks(plan.blocks, from, to, y, factor);
   }
   const Conjugable<const T> points = {src, sign};
   const Planes<T> own = planes(y, y + n);
@@ -151,9 +151,8 @@ void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* sr
   const Planes<T> theirs = planes(dstRe, dstIm);
   const bool isInPlace = srcRe == dstRe || srcIm == dstIm || srcRe == dstIm || srcIm == dstRe;
   if (plan.way == Way::kBlocks) {
-    if (!isInPlace) return runBlocks(plan.blocks, planes(srcRe, srcIm), theirs, y, {dstRe, dstIm}, T(0), factor);
-    for (size_t i = 0; i < n; ++i) y[2 * i] = srcRe[i], y[2 * i + 1] = srcIm[i];
-    return runBlocks(plan.blocks, Conjugable<const T>{y, 0}, theirs, y, {dstRe, dstIm}, T(0), factor);
+    const Planes<const T> from = planes(srcRe, srcIm);
+    return isInPlace ? runBlocksInPlace(plan.blocks, from, theirs, y, factor) : runBlocks(plan.blocks, from, theirs, y, factor);
   }
   if (!isInPlace || plan.mixed.count % 2 == 0) return runMixed(plan.mixed, planes(srcRe, srcIm), theirs, own, theirs, factor);
   runMixed(plan.mixed, planes(srcRe, srcIm), own, theirs, own, factor);

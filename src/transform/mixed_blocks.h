@@ -1,11 +1,14 @@
 // Transforms of any factors, too long for the caches: N = A * B points, in two dimensions.
 //
 // Point a * B + b takes part in a transform of A points down column b, whose result ka a twiddle turns, and then in one of B
-// points along row ka, whose result kb is that of ka + A * kb. So each point goes twice through memory, however many passes a
-// dimension has: a few columns, or rows, at a time stand side by side in a tile of working memory, and passes run over whole
-// vectors of them. Rows come into a tile by transposition.
+// points whose result kb is that of ka + A * kb. A few columns at a time go through the passes of a dimension in two tiles of
+// working memory, in whole vectors of neighbours. The columns of the first dimension leave their tile by transposition: column b
+// becomes row b of the destination, of A points; so the second one goes down columns, too, and its results stay where its points
+// were, in natural order. Each point goes twice through memory, and between the passes it is in the destination: source,
+// destination and two tiles are all that the caches have to hold.
 //
-// The results of a tile go where they belong, or back to where its rows were: out of order they stay there.
+// Out of order the first dimension stays where it is, the second goes along rows, and results remain where they are made: with
+// no memory but the destination and two tiles, even in place.
 #pragma once
 
 #include "transform/mixed_plan.h"
@@ -15,8 +18,8 @@ namespace qvx::transform {
 template <class T> struct MixedBlocks {
   MixedPlan<T> columns;  // of A points
   MixedPlan<T> rows;     // of B points
-  // exp(-2 pi i ka b / N) as a product: lane i of a vector of `lanes` has that of ka and b = i, a number of `begins` that of ka
-  // and of the b at which a vector begins.
+  // exp(-2 pi i ka b / N) as a product: lane i of vector ka of `lanes` has that of ka and b = i; `begins` has for each b at which
+  // a vector begins the A numbers of all ka.
   const T* lanes;
   const T* begins;
 };
@@ -35,10 +38,10 @@ template <class T> size_t columnsOfTile(const MixedBlocks<T>& blocks) {
 
 template <class T> size_t vectorsOfRow(size_t count) { return (count + kWidest<T> - 1) / kWidest<T>; }
 
-// False where n has no two fitting factors: two tiles have room in the memory of the points.
+// False where n has no two fitting factors: in place two tiles share the destination with the rows made of two others.
 template <class T> [[gnu::noinline]] bool planBlocks(uint32_t n, MixedPlan<T>& columns, MixedPlan<T>& rows) {
   const size_t wide = columnsOfTile<T>(n);
-  const auto least = static_cast<uint32_t>(2 * wide + Carver::kLine / sizeof(T));
+  const auto least = static_cast<uint32_t>(4 * wide + 1);
   const auto root = static_cast<uint32_t>(std::sqrt(n));
   constexpr uint32_t kApart = 4;  // neither factor is that far from the root
   uint64_t best = UINT64_MAX;
@@ -77,7 +80,7 @@ template <class T> void writeBlocks(MixedBlocks<T>& blocks, T* block) {
   out += rows * L * 2;
   blocks.begins = out;
   writeTwiddles(
-      n, rows * vectors, [vectors](size_t i) { return i / vectors * (i % vectors * L); }, intoPairs(out));
+      n, rows * vectors, [rows](size_t i) { return i / rows * L * (i % rows); }, intoPairs(out));
   out += rows * vectors * 2;
   writeMixedColumns(blocks.rows, writeMixedColumns(blocks.columns, out));
 }
@@ -106,7 +109,7 @@ template <size_t L, class Src, class T>
 
 // The twiddle of a row and the columns of a vector.
 template <size_t L, class T> QVX_INLINE auto twiddleOf(const MixedBlocks<T>& blocks, size_t row, size_t vector) {
-  const T* begin = blocks.begins + (row * vectorsOfRow<T>(blocks.rows.n) + vector) * 2;
+  const T* begin = blocks.begins + (vector * blocks.columns.n + row) * 2;
   return product(group<L>(blocks.lanes + row * 2 * L), begin[0], begin[1]);
 }
 
@@ -119,192 +122,239 @@ template <class V, size_t L> QVX_INLINE void transposeParts(Complex<V> (&z)[L]) 
   unrolled<L>([&](auto i) __attribute__((always_inline)) { z[i] = {re[i], im[i]}; });
 }
 
+// step(row, column, here) for squares of L by L numbers, in the last of which only `here` columns are.
+template <size_t L, class Step> QVX_INLINE void forEachSquare(size_t rows, size_t columns, Step step) {
+  for (size_t r = 0; r < rows; r += L) {
+    for (size_t c = 0; c < columns; c += L) step(r, c, std::min(L, columns - c));
+  }
+}
+template <size_t L, class Dst, class V> QVX_INLINE void putPart(Dst dst, Complex<V> z, size_t at, size_t count) {
+  if (count == L) dst.template putInOrder<L>(z, at);
+  else dst.template putFirst<L>(z, at, count);
+}
+
 // `count` rows from row `first` on, turned by their twiddles, into the columns of a tile.
 template <size_t L, class T>
 [[gnu::noinline]] void takeRows(const MixedBlocks<T>& blocks, Conjugable<const T> src, size_t first, size_t count, Tile<T> tile) {
-  using V = Vec<Lanes<T, L>>;
   const size_t length = blocks.rows.n;
-  for (size_t r = 0; r < count; r += L) {
-    for (size_t b = 0; b < length; b += L) {
-      const size_t here = std::min(L, length - b);
-      Complex<V> z[L];
-      unrolled<L>([&](auto i) __attribute__((always_inline)) {
-        const size_t row = first + std::min(r + i, count - 1);
-        const size_t at = row * length + b;
-        z[i] = here == L ? src.template getInOrder<L>(at) : src.template getInOrder<L>(at, here);
-        z[i] = product(z[i], twiddleOf<L>(blocks, row, b / L));
+  forEachSquare<L>(
+      count, length, [=](size_t r, size_t b, size_t here) __attribute__((always_inline)) {
+        Complex<Vec<Lanes<T, L>>> z[L];
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          const size_t row = first + std::min(r + i, count - 1);
+          const size_t at = row * length + b;
+          z[i] = here == L ? src.template getInOrder<L>(at) : src.template getInOrder<L>(at, here);
+          z[i] = product(z[i], twiddleOf<L>(blocks, row, b / L));
+        });
+        transposeParts(z);
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          if (i < here) tile.points.template put<L>(z[i], (b + i) * tile.wide + r);
+        });
       });
-      transposeParts(z);
-      unrolled<L>([&](auto i) __attribute__((always_inline)) {
-        if (i < here) tile.points.template put<L>(z[i], (b + i) * tile.wide + r);
-      });
-    }
-  }
 }
 
-// The columns of a tile, turned, into rows.
+// The columns of a tile, turned, into rows: the way back.
 template <size_t L, class T>
 [[gnu::noinline]] void putRows(const MixedBlocks<T>& blocks, Tile<T> tile, Conjugable<T> dst, size_t first, size_t count) {
-  using V = Vec<Lanes<T, L>>;
   const size_t length = blocks.rows.n;
-  for (size_t r = 0; r < count; r += L) {
-    for (size_t b = 0; b < length; b += L) {
-      const size_t here = std::min(L, length - b);
-      Complex<V> z[L];
-      unrolled<L>([&](auto i) __attribute__((always_inline)) {
-        z[i] = tile.points.template get<L>((b + std::min<size_t>(i, here - 1)) * tile.wide + r);
+  forEachSquare<L>(
+      count, length, [=](size_t r, size_t b, size_t here) __attribute__((always_inline)) {
+        Complex<Vec<Lanes<T, L>>> z[L];
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          z[i] = tile.points.template get<L>((b + std::min<size_t>(i, here - 1)) * tile.wide + r);
+        });
+        transposeParts(z);
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          if (r + i >= count) return;
+          const size_t row = first + r + i;
+          putPart<L>(dst, product(z[i], twiddleOf<L>(blocks, row, b / L)), row * length + b, here);
+        });
       });
-      transposeParts(z);
-      unrolled<L>([&](auto i) __attribute__((always_inline)) {
-        if (r + i >= count) return;
-        const size_t row = first + r + i;
-        const auto turned = product(z[i], twiddleOf<L>(blocks, row, b / L));
-        if (here == L) dst.template putInOrder<L>(turned, row * length + b);
-        else dst.template putFirst<L>(turned, row * length + b, here);
+}
+
+// The columns of a tile, `count` from column `first` on of the whole, turned, into rows of the length of a column.
+template <size_t L, class T, class Dst>
+[[gnu::noinline]] void putColumnsAsRows(const MixedBlocks<T>& blocks, Tile<T> tile, Dst dst, size_t first, size_t count) {
+  const size_t length = blocks.columns.n;
+  forEachSquare<L>(
+      count, length, [=](size_t c, size_t a, size_t here) __attribute__((always_inline)) {
+        Complex<Vec<Lanes<T, L>>> z[L];
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          const size_t row = a + std::min<size_t>(i, here - 1);
+          z[i] = product(tile.points.template get<L>(row * tile.wide + c), twiddleOf<L>(blocks, row, (first + c) / L));
+        });
+        transposeParts(z);
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          if (c + i < count) putPart<L>(dst, z[i], (first + c + i) * length + a, here);
+        });
+      });
+}
+
+// The first pass of a tile, into one of the two: a middle one of `columns` columns of rows that are `apart`.
+template <size_t R, size_t L, class T, class Src>
+[[gnu::noinline]] void firstTilePass(Src src, size_t apart, size_t columns, Tile<T> tile, size_t m, const T* twiddles) {
+  for (size_t p = 0; p < m; ++p, src = src.from(apart), twiddles += (R - 1) * 2) {
+    for (size_t at = 0; at < columns; at += L) {
+      const size_t here = std::min(L, columns - at);
+      Complex<Vec<Lanes<T, L>>> z[R];
+      if (here == L) {
+        unrolled<R>([&](auto k) __attribute__((always_inline)) { z[k] = src.template getInOrder<L>(at + apart * m * k); });
+      } else {
+        unrolled<R>([&](auto k) __attribute__((always_inline)) { z[k] = src.template getInOrder<L>(at + apart * m * k, here); });
+      }
+      anyDft(z);
+      unrolled<R>([&](auto j) __attribute__((always_inline)) {
+        if constexpr (j > 0) z[j] = product(z[j], twiddles[2 * j - 2], twiddles[2 * j - 1]);
+        tile.points.template put<L>(z[j], at + tile.wide * (R * p + j));
       });
     }
   }
 }
 
-// Transforms down the columns of tile `from`, by way of `to` and back; result k of column c goes to k * apart + c.
-template <class T, class Dst>
-void transformTile(const MixedPlan<T>& plan, Tile<T> from, Tile<T> to, size_t columns, Dst dst, size_t apart, T factor) {
+// Transforms down `columns` columns of src, whose rows are `apart`, by way of the tiles; result k of column c goes to
+// k * toRow + c. The second tile may be the source; all is read before the first result is written.
+template <class T, class Src, class Dst>
+void transformTile(const MixedPlan<T>& plan, Src src, size_t apart, size_t columns, TilePair<T> tiles, Dst dst, size_t toRow,
+                   T factor) {
+  constexpr size_t L = kWidest<T>;
+  Tile<T> to(tiles[0], plan.n, columns);
+  Tile<T> from(tiles[1], plan.n, columns);
   const T* tables = plan.tables;
-  size_t s = from.wide;
+  size_t s = to.wide;
   size_t m = plan.n;
   for (size_t pass = 0; pass + 1 < plan.count; ++pass) {
     const size_t radix = plan.radix[pass];
+    const T* const twiddles = tables + rootsOf<T>(radix);
     m /= radix;
-    runMiddlePass(radix, tables, asConst(from.points), to.points, s, m, tables + rootsOf<T>(radix));
-    tables += rootsOf<T>(radix) + m * (radix - 1) * 2;
+    if (pass == 0 && radix <= kWidestMixed) {
+      withMixedRadix(radix, [=](auto R) { firstTilePass<R, L>(src, apart, columns, to, m, twiddles); });
+    } else {
+      if (pass == 0) takeColumns<L>(src, apart, columns, from, plan.n);
+      runMiddlePass(radix, tables, asConst(from.points), to.points, s, m, twiddles);
+    }
+    tables = twiddles + m * (radix - 1) * 2;
     s *= radix;
     std::swap(from, to);
   }
   const size_t runs = s / from.wide;
   const LastSteps steps = {.columns = columns,
                            .points = s,
-                           .results = runs * apart,
+                           .results = runs * toRow,
                            .runs = runs,
                            .fromRun = from.wide,
-                           .toRun = apart,
+                           .toRun = toRow,
                            .isPadded = true};
   runLastPass(m, tables, asConst(from.points), dst, steps, factor);
 }
+// The tile that the last pass does not read.
+template <class T> Tile<T> freeTile(const MixedPlan<T>& plan, TilePair<T> tiles, size_t columns) {
+  return Tile<T>(tiles[(plan.count - 1U) % 2], plan.n, columns);
+}
 
 // Transforms down all columns; src may be dst.
-template <class T, class Src>
-void transformColumns(const MixedPlan<T>& plan, Src src, Conjugable<T> dst, size_t columns, TilePair<T> tiles, T factor) {
+template <class T, class Src, class Dst>
+void transformColumns(const MixedPlan<T>& plan, Src src, Dst dst, size_t columns, TilePair<T> tiles, T factor) {
   const size_t wide = columnsOfTile<T>(plan.n * columns);
   for (size_t c = 0; c < columns; c += wide) {
     const size_t count = std::min(wide, columns - c);
-    const Tile<T> tile(tiles[0], plan.n, count);
-    takeColumns<kWidest<T>>(src.from(c), columns, count, tile, plan.n);
-    transformTile(plan, tile, Tile<T>(tiles[1], plan.n, count), count, dst.from(c), columns, factor);
+    transformTile(plan, src.from(c), columns, count, tiles, dst.from(c), columns, factor);
   }
 }
+
+// Two tiles, for either dimension.
+template <class T> size_t lengthOfTile(const MixedBlocks<T>& blocks) {
+  return size_t{std::max(blocks.columns.n, blocks.rows.n)} * columnsOfTile(blocks) * 2;
+}
+template <class T> size_t lengthOfTiles(const MixedBlocks<T>& blocks) {
+  return 2 * (lengthOfTile(blocks) + Carver::kLine / sizeof(T));
+}
+template <class T> TilePair<T> tilesIn(const MixedBlocks<T>& blocks, T* work) {
+  T* const first = alignedUp(work, Carver::kLine);
+  return {first, alignedUp(first + lengthOfTile(blocks), Carver::kLine)};
+}
+
+// ---- In order
+
+// The first dimension, of the columns from `first` on that stand in src, in rows that are `apart`.
+template <class T, class Src, class Dst>
+void columnsToRows(const MixedBlocks<T>& blocks, Src src, size_t apart, size_t first, size_t count, TilePair<T> tiles, Dst dst) {
+  const Tile<T> results = freeTile(blocks.columns, tiles, count);
+  transformTile(blocks.columns, src, apart, count, tiles, results.points, results.wide, T(1));
+  putColumnsAsRows<kWidest<T>>(blocks, results, dst, first, count);
+}
+
+// y: working memory of N points.
+template <class T, class Src, class Dst> void runBlocks(const MixedBlocks<T>& blocks, Src src, Dst dst, T* y, T factor) {
+  const size_t columns = blocks.rows.n;
+  const size_t wide = columnsOfTile(blocks);
+  const TilePair<T> tiles = tilesIn(blocks, y);
+  for (size_t c = 0; c < columns; c += wide)
+    columnsToRows(blocks, src.from(c), columns, c, std::min(wide, columns - c), tiles, dst);
+  transformColumns(blocks.rows, asConst(dst), dst, blocks.columns.n, tiles, factor);
+}
+
+// Columns of rows that are `apart`, without what is between them.
+template <size_t L, class Src, class T> void packColumns(Src src, size_t apart, size_t columns, Conjugable<T> to, size_t rows) {
+  for (size_t row = 0; row < rows; ++row, src = src.from(apart), to = to.from(columns)) {
+    for (size_t at = 0; at < columns; at += L) {
+      const size_t here = std::min(L, columns - at);
+      putPart<L>(to, here == L ? src.template getInOrder<L>(at) : src.template getInOrder<L>(at, here), at, here);
+    }
+  }
+}
+
+// Room for two tiles at the end of N points.
+template <class T> TilePair<T> tilesAtEnd(Conjugable<T> dst, size_t n, size_t tile) {
+  T* const first = alignedUp(dst.p + 2 * (n - tile) - Carver::kLine / sizeof(T), Carver::kLine);
+  return {first, first + tile};
+}
+template <class T> TilePair<T> tilesAtEnd(Planes<T> dst, size_t n, size_t tile) {
+  const size_t begin = n - tile - Carver::kLine / sizeof(T);
+  return {alignedUp(dst.re + begin, Carver::kLine), alignedUp(dst.im + begin, Carver::kLine)};
+}
+
+// The same where src is dst. The columns go into y tile by tile; what the first two were has room for tiles. Until then these are
+// in the last rows.
+template <class T, class Src, class Dst> void runBlocksInPlace(const MixedBlocks<T>& blocks, Src src, Dst dst, T* y, T factor) {
+  const size_t rows = blocks.columns.n;
+  const size_t columns = blocks.rows.n;
+  const size_t wide = columnsOfTile(blocks);
+  const size_t tile = 2 * wide * rows;
+  const auto packed = [=](size_t c) { return y + 2 * c * rows; };
+  const auto countFrom = [=](size_t c) { return std::min(wide, columns - c); };
+  for (size_t c = 0; c < columns; c += wide)
+    packColumns<kWidest<T>>(src.from(c), columns, countFrom(c), Conjugable<T>{packed(c), 0}, rows);
+  for (size_t c = 0; c < columns; c += wide) {
+    const TilePair<T> tiles = c < 2 * wide ? tilesAtEnd(dst, rows * columns, tile) : TilePair<T>{y, y + tile};
+    columnsToRows(blocks, Conjugable<const T>{packed(c), 0}, countFrom(c), c, countFrom(c), tiles, dst);
+  }
+  transformColumns(blocks.rows, asConst(dst), dst, rows, tilesIn(blocks, y), factor);
+}
+
+// ---- Out of order: src may be dst
 
 // Transforms along the rows, in place: the results of a tile's rows stay where these were, result by result.
-template <class T> void transformRows(const MixedBlocks<T>& blocks, T* points, TilePair<T> tiles, T sign, T factor) {
+template <class T> void transformRows(const MixedBlocks<T>& blocks, T* points, TilePair<T> tiles, T factor) {
   const size_t rows = blocks.columns.n;
   const size_t length = blocks.rows.n;
   const size_t wide = columnsOfTile(blocks);
   for (size_t r = 0; r < rows; r += wide) {
     const size_t count = std::min(wide, rows - r);
-    const Tile<T> tile(tiles[0], length, count);
+    const Tile<T> tile(tiles[1], length, count);
     takeRows<kWidest<T>>(blocks, Conjugable<const T>{points, 0}, r, count, tile);
-    transformTile(blocks.rows, tile, Tile<T>(tiles[1], length, count), count, Conjugable<T>{points, sign}.from(r * length), count,
+    transformTile(blocks.rows, asConst(tile.points), tile.wide, count, tiles, Conjugable<T>{points, 0}.from(r * length), count,
                   factor);
   }
-}
-
-// A run of points.
-template <class T> QVX_INLINE void copyRun(const T* from, size_t count, Conjugable<T> to) {
-  constexpr size_t L = kWidest<T>;
-  const Lanes<T, L> d;
-  if (2 * count % L != 0) return void(std::copy_n(from, 2 * count, to.p));
-  for (size_t i = 0; i < 2 * count; i += L) store(load(d, from + i), d, to.p + i);
-}
-template <class T> QVX_INLINE void copyRun(const T* from, size_t count, Planes<T> to) {
-  for (size_t i = 0; i < count; ++i) to.re[i] = from[2 * i], to.im[i] = from[2 * i + 1];
-}
-
-// What transformRows() left, into natural order: a few rows of results at a time, so that a page is visited once for many runs.
-template <class T, class Dst> void putInOrder(const MixedBlocks<T>& blocks, const T* points, Dst dst) {
-  constexpr size_t kAtATime = 16;
-  const size_t rows = blocks.columns.n;
-  const size_t length = blocks.rows.n;
-  const size_t wide = columnsOfTile(blocks);
-  for (size_t begin = 0; begin < length; begin += kAtATime) {
-    const size_t end = std::min(length, begin + kAtATime);
-    for (size_t r = 0; r < rows; r += wide) {
-      const size_t count = std::min(wide, rows - r);
-      for (size_t k = begin; k < end; ++k) copyRun(points + 2 * (r * length + k * count), count, dst.from(k * rows + r));
-    }
-  }
-}
-
-// The same two steps at once: results go from the tiles to their places. The destination is no room for tiles any more, so they
-// lie in the first rows, once these are taken.
-template <class T, class Dst> void transformRowsInOrder(const MixedBlocks<T>& blocks, T* points, T* spare, Dst dst, T factor) {
-  constexpr size_t L = kWidest<T>;
-  const Conjugable<const T> from = {points, 0};
-  const size_t rows = blocks.columns.n;
-  const size_t length = blocks.rows.n;
-  const size_t wide = columnsOfTile(blocks);
-  for (size_t r = 0; r < rows; r += wide) {
-    const size_t count = std::min(wide, rows - r);
-    const Tile<T> one(points, length, count);
-    const Tile<T> other(points + 2 * wide * length, length, count);
-    if (r > 0) {
-      takeRows<L>(blocks, from, r, count, one);
-      transformTile(blocks.rows, one, other, count, dst.from(r), rows, factor);
-      continue;
-    }
-    // The first rows are where their own tile is, and the other one in the destination: there the last pass must not find them.
-    const Tile<T> outside(spare, length, count);
-    takeRows<L>(blocks, from, 0, count, outside);
-    if (blocks.rows.count % 2 == 0) {
-      transformTile(blocks.rows, outside, one, count, dst, rows, factor);
-    } else {
-      std::copy_n(outside.points.re, 2 * wide * length, points);
-      transformTile(blocks.rows, one, outside, count, dst, rows, factor);
-    }
-  }
-}
-
-// y: N points of working memory, which may be the source. spare: two blocks of N / 2 points in the destination, where the tiles
-// are. sign: -0 if results are conjugates. Straight into natural order 100000 doubles take 0.9 of the time, 10^6 take 1.2: a run
-// of each row of a tile's results is a page of its own, and 2000 such pages are all that the processor keeps addresses of.
-template <class T, class Src, class Dst>
-void runBlocks(const MixedBlocks<T>& blocks, Src src, Dst dst, T* y, TilePair<T> spare, T sign, T factor) {
-  constexpr size_t kMostStraight = size_t{8} << 20;
-  const size_t columns = blocks.rows.n;
-  for (T*& p : spare) p = alignedUp(p, Carver::kLine);
-  transformColumns(blocks.columns, src, Conjugable<T>{y, 0}, columns, spare, T(1));
-  if (blocks.columns.n * columns * 2 * sizeof(T) <= kMostStraight) return transformRowsInOrder(blocks, y, spare[0], dst, factor);
-  transformRows(blocks, y, spare, sign, factor);
-  putInOrder(blocks, y, dst);
-}
-
-// ---- Out of order: no memory but that of the destination and of two tiles; src may be dst
-
-template <class T> size_t lengthOfTiles(const MixedBlocks<T>& blocks) {
-  return 2 * (std::max(blocks.columns.n, blocks.rows.n) * columnsOfTile(blocks) * 2 + Carver::kLine / sizeof(T));
-}
-
-template <class T> TilePair<T> tilesIn(const MixedBlocks<T>& blocks, T* work) {
-  return {alignedUp(work, Carver::kLine), alignedUp(work + lengthOfTiles(blocks) / 2, Carver::kLine)};
 }
 
 template <class T> void forwardOutOfOrder(const MixedBlocks<T>& blocks, const T* src, T* dst, T* work, T factor) {
   const TilePair<T> tiles = tilesIn(blocks, work);
   transformColumns(blocks.columns, Conjugable<const T>{src, 0}, Conjugable<T>{dst, 0}, blocks.rows.n, tiles, T(1));
-  transformRows(blocks, dst, tiles, T(0), factor);
+  transformRows(blocks, dst, tiles, factor);
 }
 
 // The same steps from the end to the beginning.
 template <class T> void inverseOutOfOrder(const MixedBlocks<T>& blocks, const T* src, T* dst, T* work, T factor) {
-  constexpr size_t L = kWidest<T>;
   const T sign = T(-0.0);
   const size_t rows = blocks.columns.n;
   const size_t length = blocks.rows.n;
@@ -312,12 +362,10 @@ template <class T> void inverseOutOfOrder(const MixedBlocks<T>& blocks, const T*
   const TilePair<T> tiles = tilesIn(blocks, work);
   for (size_t r = 0; r < rows; r += wide) {
     const size_t count = std::min(wide, rows - r);
-    const Tile<T> one(tiles[0], length, count);
-    const Tile<T> other(tiles[1], length, count);
-    const Tile<T>& last = blocks.rows.count % 2 == 0 ? one : other;
-    takeColumns<L>(Conjugable<const T>{src, sign}.from(r * length), count, count, one, length);
-    transformTile(blocks.rows, one, other, count, last.points, last.wide, T(1));
-    putRows<L>(blocks, last, Conjugable<T>{dst, 0}, r, count);
+    const Tile<T> results = freeTile(blocks.rows, tiles, count);
+    transformTile(blocks.rows, Conjugable<const T>{src, sign}.from(r * length), count, count, tiles, results.points, results.wide,
+                  T(1));
+    putRows<kWidest<T>>(blocks, results, Conjugable<T>{dst, 0}, r, count);
   }
   transformColumns(blocks.columns, Conjugable<const T>{dst, 0}, Conjugable<T>{dst, sign}, length, tiles, factor);
 }

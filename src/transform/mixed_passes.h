@@ -88,6 +88,7 @@ template <class T> struct Conjugable {
   }
   Conjugable from(size_t at) const { return {p + 2 * at, sign}; }
 };
+template <class T> Conjugable<const T> asConst(Conjugable<T> z) { return {z.p, z.sign}; }
 
 // Rows of R numbers from R vectors, whose lane i belongs to row element(i); `rows` of them, `stride` apart. If isCut, nothing
 // past the end of a row is written. Else rows are written in their order, and of each what is nearer to its end first, since a
