@@ -6,6 +6,7 @@
 #include "dct/odd.h"
 #include "dct/rows.h"
 #include "dct/sizes.h"
+#include "frame/rounding.h"
 
 namespace qvx::dct {
 
@@ -98,8 +99,8 @@ template <class Record> QvxStatus check(Record** ppSpec, int len, Sizes sizes, c
   return sizes.init > 0 && isNull(pInit) ? qvxStatNullPtr : qvxStatOk;
 }
 
-// The tables of a record that knows its way.
-template <class Record> void writeWay(Record& spec, Sizes sizes, Carver& tables, Qvx8u* making) {
+// The tables of a record that knows its way. A function of its own, so that nothing of it leaves its caller's rounding scope.
+template <class Record> [[gnu::noinline]] void writeWay(Record& spec, Sizes sizes, Carver& tables, Qvx8u* making) {
   using T = typename Record::T;
   const auto n = static_cast<size_t>(spec.len);
   switch (spec.way) {
@@ -139,10 +140,12 @@ template <class Record> QvxStatus init(Record** ppSpec, int len, Qvx8u* pMemory,
   const Sizes sizes = sizesOf<T>(len < 1 ? 1 : len);
   const QvxStatus status = check(ppSpec, len, sizes, pMemory, pInit);
   if (status != qvxStatOk) return status;
+  const RoundingScope nearest(Rounding::kNearest);
+  const double count = RoundingScope::pinned(static_cast<double>(len));
   return initRecord(ppSpec, pMemory, [=](Record& spec, Carver& tables) {
     spec.len = len;
     spec.workSize = static_cast<int32_t>(sizes.work);
-    spec.mean = static_cast<T>(1 / std::sqrt(static_cast<double>(len)));
+    spec.mean = static_cast<T>(1 / std::sqrt(count));
     spec.magic = Record::kId;
     spec.way = wayOf<Record>(len, sizes);
     writeWay(spec, sizes, tables, pInit);

@@ -11,8 +11,9 @@ extern template void runGrid<double>(const GridPlan<double>& plan, bool isInvers
 namespace qvx::dft {
 
 template <class T> Factors<T> factorsOf(uint32_t n, int flag) {
-  const T all = static_cast<T>(n);
-  const T factor = flag == QVX_FFT_SCALE_BOTH_SQRT ? fft::reciprocalRoot(all) : 1 / all;
+  const RoundingScope nearest(Rounding::kNearest);
+  const T all = RoundingScope::pinned(static_cast<T>(n));
+  const T factor = RoundingScope::pinned(flag == QVX_FFT_SCALE_BOTH_SQRT ? fft::reciprocalRoot(all) : 1 / all);
   return {flag == QVX_FFT_SCALE_FWD || flag == QVX_FFT_SCALE_BOTH_SQRT ? factor : 1,
           flag == QVX_FFT_SCALE_INV || flag == QVX_FFT_SCALE_BOTH_SQRT ? factor : 1};
 }

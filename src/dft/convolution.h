@@ -228,6 +228,8 @@ void convolvePermuted(const ConvolutionPlan<T>& plan, size_t n, size_t results, 
 // ---- With a chirp
 
 template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_t* block, uint8_t* work) {
+  const RoundingScope nearest(Rounding::kNearest);
+  const WiderScope widerNearest;
   if (plan.isPermuted) return writePermuted(plan, n, block, work);
   const size_t length = plan.length;
   Carver carver(block, Carver::kLine);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "fft/sizes.h"
+#include "frame/rounding.h"
 #include "transform/real_transform.h"
 
 namespace qvx::fft {
@@ -63,7 +64,8 @@ inline float reciprocalRoot(float n) {
 
 template <class Record> void setFlag(Record& spec, int flag) {
   using T = typename Record::T;
-  const T n = static_cast<T>(int64_t{1} << spec.order);
+  const RoundingScope nearest(Rounding::kNearest);
+  const T n = RoundingScope::pinned(static_cast<T>(int64_t{1} << spec.order));
   spec.fwdScaled = flag == QVX_FFT_SCALE_FWD || flag == QVX_FFT_SCALE_BOTH_SQRT;
   spec.invScaled = flag == QVX_FFT_SCALE_INV || flag == QVX_FFT_SCALE_BOTH_SQRT;
   spec.normFactor = flag == QVX_FFT_SCALE_NONE ? 0 : flag == QVX_FFT_SCALE_BOTH_SQRT ? reciprocalRoot(n) : 1 / n;

@@ -23,6 +23,20 @@ template <class T> using Real = std::conditional_t<std::is_same_v<Part<T>, Qvx64
 
 template <class T> void fill(T* dst, size_t n, double magn, double rFreq, double turns) {
   using Angles = SpacedAngles<Real<T>>;
+  if constexpr (std::is_floating_point_v<Part<T>>) {
+    using R = Real<T>;
+    // The sum of two products may exceed the magnitude, and so the range: half of it, limited, and that twice.
+    if (magn > std::numeric_limits<R>::max() / 2) {
+      const R half = static_cast<R>(magn / 2);
+      fill(dst, n, magn / 2, rFreq, turns);
+      const auto doubled = [half](auto v) {
+        const auto limited = hn::Min(hn::Max(v, same<decltype(v)>(-half)), same<decltype(v)>(half));
+        return limited + limited;
+      };
+      loop(doubled, destination(dst), PartsOf<T>::kCount * n, source(dst));
+      return;
+    }
+  }
   if (n <= Angles::kFew) {
     Angles::few(turns, rFreq, magn, n,
                 [=](size_t at, auto sine, auto cosine, auto... rest) { putSamples(dst, at, cosine, sine, rest...); });

@@ -7,6 +7,7 @@
 
 #include "reference/dct.h"
 #include "support/blocks.h"
+#include "support/rounding.h"
 #include "support/ulp.h"
 #include "support/values.h"
 
@@ -206,6 +207,33 @@ template <class Type> void checkMemory(const Type& type, int len) {
   const Placed<Type> record(type, len);
   std::vector<typename Type::T> x(static_cast<size_t>(len));
   EXPECT_EQ(type.runInPlace(x.data(), record.spec(), record.work()), qvxStatOk);
+}
+
+// Records are made to nearest, whatever the caller's mode.
+template <class Type> void checkRoundings(const Type& type, const std::vector<double>& noise) {
+  std::vector<typename Type::T> expected;
+  for (const int mode : tests::kRoundings) {
+    typename Type::Spec* spec = nullptr;
+    std::vector<typename Type::T> x(noise.begin(), noise.end());
+    {
+      const tests::CallersRounding callers(mode);
+      ASSERT_EQ(type.initAlloc(&spec, static_cast<int>(x.size()), 0), qvxStatOk);
+    }
+    EXPECT_EQ(type.runInPlace(x.data(), spec, nullptr), qvxStatOk);
+    EXPECT_EQ(type.free(spec), qvxStatOk);
+    if (mode == FE_TONEAREST) expected = x;
+    EXPECT_TRUE(x == expected) << type.isInverse << ", " << sizeof(typename Type::T) << " bytes, " << x.size() << ", " << mode;
+  }
+}
+TEST(DctRecord, OfAllRoundingModesAreTheSame) {
+  Random random(tests::seed());
+  for (const size_t n : {31, 64, 211, 1000, 1009}) {
+    const std::vector<double> x = noise<double>(n, random);
+    checkRoundings(kFwd32f, x);
+    checkRoundings(kInv32f, x);
+    checkRoundings(kFwd64f, x);
+    checkRoundings(kInv64f, x);
+  }
 }
 
 // Records and working memory end at unreadable pages.

@@ -2,8 +2,10 @@
 #include <qvx/qvxcore.h>
 
 #include <numbers>
+#include <optional>
 
 #include "dft/transforms.h"
+#include "support/rounding.h"
 
 namespace {
 
@@ -120,10 +122,41 @@ template <class Transform> void checkConvolution(const Transform& transform, siz
 
 TEST(DftOutOfOrder, ProductIsAConvolution) {
   tests::Random random(tests::seed());
-  for (const size_t n :
-       {1, 2, 3, 5, 12, 17, 32, 53, 60, 101, 210, 625, 1000, 1009, 1024, 1500, 3000, 4410, 10000, 44100, 65537, 177147, 200000}) {
+  for (const size_t n : {1,    2,    3,    5,    12,   17,    32,    53,    60,    101,    210,   625,
+                         1000, 1009, 1024, 3000, 4410, 10000, 44100, 65537, 71875, 177147, 200000}) {
     checkConvolution(tests::kDftOutOfOrder32fc, n, random);
     checkConvolution(tests::kDftOutOfOrder64fc, n, random);
+  }
+}
+
+// Records are made to nearest, whatever the caller's mode: by factors, as defined, with a chirp, by the powers of a generator.
+template <class Transform, class Run> void checkRoundings(const Transform& transform, size_t n, Run run) {
+  SCOPED_TRACE(testing::Message() << transform.name << ", " << n);
+  decltype(run(std::declval<const tests::DftRecord<Transform>&>())) expected;
+  for (const int mode : tests::kRoundings) {
+    std::optional<tests::DftRecord<Transform>> record;
+    {
+      const tests::CallersRounding callers(mode);
+      record.emplace(transform, n, QVX_FFT_SCALE_BOTH_SQRT);
+    }
+    const auto found = run(*record);
+    if (mode == FE_TONEAREST) expected = found;
+    EXPECT_TRUE(found == expected) << mode;
+  }
+}
+TEST(DftRecord, OfAllRoundingModesAreTheSame) {
+  tests::Random random(tests::seed());
+  for (const size_t n : {60, 89, 97, 211, 1009}) {
+    const std::vector<tests::Exact> x = tests::noise(n, random);
+    std::vector<long double> reals(n);
+    for (size_t i = 0; i < n; ++i) reals[i] = x[i].real();
+    tests::forEachComplex([&](const auto& transform) {
+      checkRoundings(transform, n, [&](const auto& record) { return record.run(false, x, tests::Place::kApart); });
+    });
+    tests::forEachReal([&](const auto& transform) {
+      checkRoundings(transform, n,
+                     [&](const auto& record) { return record.run(tests::Layout::kPack, false, reals, tests::Place::kApart); });
+    });
   }
 }
 

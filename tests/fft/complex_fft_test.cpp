@@ -307,22 +307,28 @@ TEST(ComplexFft, NobodyCanTellTheThreads) {
   check(k64f, 17);
 }
 
-// Records are made to nearest, whatever the caller's mode.
+// Records are made to nearest, whatever the caller's mode: tables, and factors of 1/sqrt(512).
 TEST(ComplexFft, RecordsOfAllRoundingModesAreTheSame) {
   Random random(tests::seed());
-  const std::vector<Qvx64fc> x = noise<Qvx64fc>(1024, random);
-  std::vector<Qvx64fc> expected(1024), found(1024);
-  for (const int mode : tests::kRoundings) {
-    std::vector<Qvx64fc>& y = mode == FE_TONEAREST ? expected : found;
-    QvxsFFTSpec_C_64fc* record = nullptr;
-    {
-      const tests::CallersRounding callers(mode);
-      ASSERT_EQ(qvxsFFTInitAlloc_C_64fc(&record, 10, QVX_FFT_SCALE_NONE, 0), qvxStatOk);
+  const auto check = [&](const auto& transform) {
+    using C = typename std::remove_cvref_t<decltype(transform)>::C;
+    constexpr size_t n = 512;
+    const std::vector<C> x = noise<C>(n, random);
+    std::vector<C> expected(n), found(n);
+    for (const int mode : tests::kRoundings) {
+      std::vector<C>& y = mode == FE_TONEAREST ? expected : found;
+      typename std::remove_cvref_t<decltype(transform)>::Spec* record = nullptr;
+      {
+        const tests::CallersRounding callers(mode);
+        ASSERT_EQ(transform.life.initAlloc(&record, 9, QVX_FFT_SCALE_BOTH_SQRT, 0), qvxStatOk);
+      }
+      transform.run(false, x.data(), y.data(), n, record, nullptr);
+      EXPECT_EQ(transform.life.free(record), qvxStatOk);
+      EXPECT_TRUE(sameBits(expected, y.data())) << mode;
     }
-    EXPECT_EQ(qvxsFFTFwd_CToC_64fc(x.data(), y.data(), record, nullptr), qvxStatOk);
-    EXPECT_EQ(qvxsFFTFree_C_64fc(record), qvxStatOk);
-    EXPECT_TRUE(sameBits(expected, y.data())) << mode;
-  }
+  };
+  check(k32fc);
+  check(k64fc);
 }
 
 // The record is only read: calls at the same time do not meet.

@@ -73,6 +73,26 @@ TEST(Tone, IsACosine) {
   expectTone<Qvx16sc, Qvx32f>(qvxsTone_Direct_16sc, 1000, 0x1p-21 * 0.7);
 }
 
+// The peaks of the greatest magnitudes are numbers.
+template <class T, class Run> void expectFinite(Run run) {
+  constexpr auto kMost = std::numeric_limits<Part<T>>::max();
+  std::vector<T> y(20000);
+  const auto* const parts = reinterpret_cast<const Part<T>*>(y.data());
+  const size_t count = y.size() * sizeof(T) / sizeof(Part<T>);
+  for (int i = 0; i < 100; ++i) {
+    const auto f = static_cast<Part<T>>(0.00493 * i);
+    Part<T> phase = 0;
+    ASSERT_EQ(run(y.data(), static_cast<int>(y.size()), kMost, f, &phase, 0), qvxStatOk);
+    ASSERT_TRUE(std::all_of(parts, parts + count, [](Part<T> v) { return std::isfinite(v); })) << f;
+  }
+}
+TEST(Tone, OfTheGreatestMagnitudeIsFinite) {
+  expectFinite<Qvx32f>(qvxsTone_Direct_32f);
+  expectFinite<Qvx32fc>(qvxsTone_Direct_32fc);
+  expectFinite<Qvx64f>(qvxsTone_Direct_64f);
+  expectFinite<Qvx64fc>(qvxsTone_Direct_64fc);
+}
+
 // Two calls as one: the phase is all there is between them.
 TEST(Tone, ContinuesByItsPhase) {
   std::vector<Qvx64f> whole(5000), cut(5000);
@@ -96,9 +116,9 @@ template <class T, class Phase, class Run> void expectTriangle(Run run, double m
   constexpr bool kIsComplex = sizeof(T) > sizeof(Part<T>);
   double worst = 0;
   for (const double f : kFrequencies) {
-    for (const double a : {0.0, 1.0, -2.5, 3.14, -3.1415926}) {
+    for (const double a : {0.0, 1.0, -2.5, 2.587852, -2.912759, 3.14, -3.1415926}) {
       for (const int len : {1, 2, 9, 31, 64, 77, 1025, 20001}) {
-        const auto rFreq = static_cast<Phase>(f), asym = static_cast<Phase>(a), start = static_cast<Phase>(len % 5 * 1.25);
+        const auto rFreq = static_cast<Phase>(f), asym = static_cast<Phase>(a), start = static_cast<Phase>(len % 5 * 1.57);
         std::vector<T> y(static_cast<size_t>(len));
         Phase phase = start;
         ASSERT_EQ(run(y.data(), len, static_cast<Part<T>>(magn), rFreq, asym, &phase), qvxStatOk);
@@ -124,14 +144,14 @@ template <class T, class Phase, class Run> void expectTriangle(Run run, double m
 }
 
 TEST(Triangle, IsItsLines) {
-  expectTriangle<Qvx32f, Qvx32f>(qvxsTriangle_Direct_32f, 3.5, 0x1p-23, 0x1p-22);
-  expectTriangle<Qvx32f, Qvx32f>(qvxsTriangle_Direct_32f, 0x1p126, 0x1p-23, 0x1p-22);
-  expectTriangle<Qvx32f, Qvx32f>(qvxsTriangle_Direct_32f, 0x1p-100, 0x1p-23, 0x1p-22);
-  expectTriangle<Qvx32fc, Qvx32f>(qvxsTriangle_Direct_32fc, 100, 0x1p-23, 0x1p-22);
-  expectTriangle<Qvx64f, Qvx64f>(qvxsTriangle_Direct_64f, 0.75, 0x1p-50, 0x1p-50);
-  expectTriangle<Qvx64fc, Qvx64f>(qvxsTriangle_Direct_64fc, 1, 0x1p-50, 0x1p-50);
-  expectTriangle<Qvx16s, Qvx32f>(qvxsTriangle_Direct_16s, 32767, 0x1p-50, 0x1p-50);
-  expectTriangle<Qvx16sc, Qvx32f>(qvxsTriangle_Direct_16sc, 999, 0x1p-50, 0x1p-50);
+  expectTriangle<Qvx32f, Qvx32f>(qvxsTriangle_Direct_32f, 3.5, 0x1p-23, 0x1p-21);
+  expectTriangle<Qvx32f, Qvx32f>(qvxsTriangle_Direct_32f, 0x1p126, 0x1p-23, 0x1p-21);
+  expectTriangle<Qvx32f, Qvx32f>(qvxsTriangle_Direct_32f, 0x1p-100, 0x1p-23, 0x1p-21);
+  expectTriangle<Qvx32fc, Qvx32f>(qvxsTriangle_Direct_32fc, 100, 0x1p-23, 0x1p-21);
+  expectTriangle<Qvx64f, Qvx64f>(qvxsTriangle_Direct_64f, 0.75, 0x1p-50, 0x1p-49);
+  expectTriangle<Qvx64fc, Qvx64f>(qvxsTriangle_Direct_64fc, 1, 0x1p-50, 0x1p-49);
+  expectTriangle<Qvx16s, Qvx32f>(qvxsTriangle_Direct_16s, 32767, 0x1p-50, 0x1p-49);
+  expectTriangle<Qvx16sc, Qvx32f>(qvxsTriangle_Direct_16sc, 999, 0x1p-50, 0x1p-49);
 }
 
 TEST(Triangle, WithoutAFallStaysWithinItsMagnitude) {

@@ -3,11 +3,14 @@
 #include <qvx/qvxs.h>
 
 #include <climits>
+#include <cstring>
 #include <limits>
+#include <optional>
 #include <random>
 
 #include "reference/hilbert.h"
 #include "support/blocks.h"
+#include "support/rounding.h"
 #include "support/ulp.h"
 #include "support/values.h"
 
@@ -123,6 +126,24 @@ TEST(Hilbert, OfATone) {
 }
 
 // Lengths that the transforms do not take are refused before anything is allocated for them.
+TEST(HilbertRecord, OfAllRoundingModesAreTheSame) {
+  for (const size_t n : {17, 64, 97, 211}) {
+    std::vector<Qvx32f> x(n);
+    for (size_t i = 0; i < n; ++i) x[i] = static_cast<Qvx32f>(i * 7919 % 2001);
+    std::vector<Qvx32fc> expected(n), found(n);
+    for (const int mode : tests::kRoundings) {
+      std::optional<Of32f> record;
+      {
+        const tests::CallersRounding callers(mode);
+        record.emplace(n);
+      }
+      std::vector<Qvx32fc>& y = mode == FE_TONEAREST ? expected : found;
+      EXPECT_EQ(qvxsHilbert_32f32fc(x.data(), y.data(), record->spec), qvxStatOk);
+      EXPECT_EQ(std::memcmp(y.data(), expected.data(), n * sizeof(Qvx32fc)), 0) << n << ", " << mode;
+    }
+  }
+}
+
 TEST(HilbertRecord, RefusesWhatIsTooLong) {
   QvxsHilbertSpec_32f32fc* spec = nullptr;
   EXPECT_EQ(qvxsHilbertInitAlloc_32f32fc(&spec, 1 << 29, 0), qvxStatBadFFTOrder);

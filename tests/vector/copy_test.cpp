@@ -90,6 +90,21 @@ TEST(Move, AnyOverlap) {
   }
 }
 
+// Past what the caches hold, where vectors that lie apart are streamed.
+TEST(Move, LongOverlaps) {
+  constexpr int kLength = 33 << 20;
+  std::vector<uint8_t> v(kLength + 300);
+  for (const int shift : {-300, -16, 16, 300}) {
+    for (size_t i = 0; i < v.size(); ++i) v[i] = static_cast<uint8_t>(i * 2654435761U >> 11);
+    const size_t from = shift < 0 ? 300 : 0;
+    const size_t to = from + static_cast<size_t>(shift);
+    ASSERT_EQ(qvxsMove_8u(&v[from], &v[to], kLength), qvxStatOk);
+    size_t wrong = 0;
+    for (size_t i = 0; i < kLength; ++i) wrong += v[to + i] != static_cast<uint8_t>((from + i) * 2654435761U >> 11);
+    ASSERT_EQ(wrong, 0U) << shift;
+  }
+}
+
 bool bit(const std::vector<uint8_t>& v, size_t i) { return (v[i / 8] >> (7 - i % 8) & 1) != 0; }
 
 // Bit by bit: every pair of offsets, lengths through all ways of doing it.
