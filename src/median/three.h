@@ -1,0 +1,112 @@
+// Medians of three neighbours, which cost four minima and maxima, as long as nothing else is done: not a vector at a time is
+// asked for NaN and -0.0 but a block of some, and no output at an end needs a window of its own, since the first and the last
+// element are their own medians.
+#pragma once
+
+#include <array>
+
+#include "frame/unroll.h"
+#include "median/order.h"
+
+namespace qvx::median {
+
+template <class T> class Three {
+ public:
+  static void filter(const T* x, T* dst, size_t n) {
+    const T first = x[0];
+    const T last = x[n - 1];
+    const size_t inner = n - 2;
+    if (inner < kBlock * N) few<N>(x, dst + 1, inner);
+    else byBlocks(x, dst + 1, inner);
+    dst[0] = first;
+    dst[n - 1] = last;
+  }
+
+ private:
+  static constexpr size_t N = kVectorBytes / sizeof(T);
+  static constexpr size_t kBlock = kHasMasks ? 4 : 2;  // vectors
+  static constexpr bool kMayNeedKeys = std::is_floating_point_v<T>;
+
+  template <size_t L, size_t M> using Vectors = std::array<Vec<Lanes<T, L>>, M>;
+
+  // Of windows that begin at p, and as many from each of the places on that follow. The elements that more than one vector's
+  // windows have are asked for in all but the last of them.
+  template <size_t L, size_t M, class Place>
+  [[gnu::always_inline]] static inline Vectors<L, M> medians(const T* p, Place at, bool isFirst, bool& needsKeys) {
+    using V = Vec<Lanes<T, L>>;
+    constexpr Lanes<T, L> d;
+    const V one = same<V>(T(1));
+    V marks = hn::Zero(d);
+    const auto mark = [&](V v) __attribute__((always_inline)) {
+      if constexpr (kMayNeedKeys) marks = hn::IfThenElse(areNanOrMinusZero(v), one, marks);
+    };
+    Vectors<L, M> out;
+    unrolled<M>([&](auto v) __attribute__((always_inline)) {
+      const T* const window = p + at(v);
+      const V low = held(load(d, window));
+      const V mid = held(load(d, window + 1));
+      const V high = held(load(d, window + 2));
+      mark(high);
+      if (L == 1) mark(mid);
+      if (isFirst && v == 0) mark(low);
+      out[v] = middle(low, mid, high);
+    });
+    if constexpr (kMayNeedKeys) needsKeys = !hn::AllFalse(d, marks == one);
+    return out;
+  }
+  template <size_t L> [[gnu::noinline, gnu::cold]] static Vec<Lanes<T, L>> mediansByKeys(const T* window) {
+    const auto key = [=](size_t k) { return AsKey<T>::lanes(load(Lanes<T, L>(), window + k)); };
+    return AsKey<T>::elements(middle(key(0), key(1), key(2)));
+  }
+  template <size_t L, size_t M> static void store(const Vectors<L, M>& all, T* dst) {
+    unrolled<M>([&](auto v) __attribute__((always_inline)) { qvx::store(all[v], Lanes<T, L>(), dst + v * L); });
+  }
+
+  // Fewer than a block: as many vectors as it takes, the last of which overlaps the one before it.
+  template <size_t L> [[gnu::always_inline]] static inline void few(const T* x, T* dst, size_t inner) {
+    if constexpr (L > 1) {
+      if (inner < L) return few<L / 2>(x, dst, inner);
+    }
+    if (L == 1 && inner == 1) return overlapping<L, 1>(x, dst, inner);
+    if (inner <= 2 * L) return overlapping<L, 2>(x, dst, inner);
+    if constexpr (kBlock > 2 && L == N) {
+      if (inner <= 3 * L) return overlapping<L, 3>(x, dst, inner);
+      return overlapping<L, 4>(x, dst, inner);
+    }
+  }
+  template <size_t L, size_t M> [[gnu::noinline]] static void overlapping(const T* x, T* dst, size_t inner) {
+    const auto at = [=](size_t v) { return v + 1 < M ? v * L : inner - L; };
+    bool needsKeys = false;
+    auto out = medians<L, M>(x, at, true, needsKeys);
+    if (needsKeys) [[unlikely]]
+      unrolled<M>([&](auto v) __attribute__((always_inline)) { out[v] = mediansByKeys<L>(x + at(v)); });
+    unrolled<M>([&](auto v) __attribute__((always_inline)) { qvx::store(out[v], Lanes<T, L>(), dst + at(v)); });
+  }
+
+  // A block is stored when the windows of the next are loaded, so that the destination may be the source.
+  [[gnu::noinline]] static void byBlocks(const T* x, T* dst, size_t inner) {
+    constexpr auto at = [](size_t v) { return v * N; };
+    bool wereNeeded = false;  // by elements that the block before has asked for
+    const auto block = [&](size_t i, bool isFirst) __attribute__((always_inline)) {
+      bool needsKeys = false;
+      auto out = medians<N, kBlock>(x + i, at, isFirst, needsKeys);
+      if (needsKeys || (wereNeeded && !isFirst)) [[unlikely]]
+        unrolled<kBlock>([&](auto v) __attribute__((always_inline)) { out[v] = mediansByKeys<N>(x + i + at(v)); });
+      wereNeeded = needsKeys;
+      return out;
+    };
+    const size_t tail = inner - kBlock * N;
+    const auto last = block(tail, true);
+    auto late = block(0, true);
+    size_t i = kBlock * N;
+    for (; i < tail; i += kBlock * N) {
+      const auto next = block(i, false);
+      store<N, kBlock>(late, dst + i - kBlock * N);
+      late = next;
+    }
+    store<N, kBlock>(late, dst + i - kBlock * N);
+    store<N, kBlock>(last, dst + tail);
+  }
+};
+
+}  // namespace qvx::median
