@@ -41,10 +41,7 @@ template <class T> QvxStatus filterMedian(const T* src, T* dst, int len, int mas
   if (len < 1 || maskSize < 1) return qvxStatBadSize;
   const QvxStatus status = maskSize % 2 == 0 ? qvxWarnEvenMask : qvxStatOk;
   const size_t n = elements(len);
-  if (n > 2 && (maskSize == 3 || maskSize == 4)) {
-    Three<T>::filter(src, dst, n);
-    return status;
-  }
+  if (n > 2 && (maskSize == 3 || maskSize == 4)) return Three<T>::filter(src, dst, n, status);
   const size_t mask = effectiveMask(elements(maskSize), n);
   if (mask == 1 || n <= 2) {
     if (src != dst) std::copy_n(src, n, dst);

@@ -12,14 +12,10 @@ namespace qvx::median {
 
 template <class T> class Three {
  public:
-  static void filter(const T* x, T* dst, size_t n) {
-    const T first = x[0];
-    const T last = x[n - 1];
-    const size_t inner = n - 2;
-    if (inner < kBlock * N) few<N>(x, dst + 1, inner);
-    else byBlocks(x, dst + 1, inner);
-    dst[0] = first;
-    dst[n - 1] = last;
+  // n elements, 3 at least. Every step ends in a jump to the next, with the status that the last of them returns.
+  static QvxStatus filter(const T* x, T* dst, size_t n, QvxStatus status) {
+    if (n - 2 < kBlock * N) return few<N>(x, dst, n, status);
+    return byBlocks(x, dst, n, status);
   }
 
  private:
@@ -63,35 +59,50 @@ template <class T> class Three {
   }
 
   // Fewer than a block: as many vectors as it takes, the last of which overlaps the one before it.
-  template <size_t L> [[gnu::always_inline]] static inline void few(const T* x, T* dst, size_t inner) {
+  template <size_t L> [[gnu::always_inline]] static inline QvxStatus few(const T* x, T* dst, size_t n, QvxStatus status) {
+    const size_t inner = n - 2;
     if constexpr (L > 1) {
-      if (inner < L) return few<L / 2>(x, dst, inner);
+      if (inner < L) return few<L / 2>(x, dst, n, status);
     }
-    if (L == 1 && inner == 1) return overlapping<L, 1>(x, dst, inner);
+    if (L == 1 && inner == 1) return overlapping<L, 1>(x, dst, n, status);
     if constexpr (kBlock > 2 && L == N) {  // four halves of a register go before two whole ones: 16 doubles take 5 ns, not 6
-      if (inner <= 3 * L / 2) return overlapping<L / 2, 3>(x, dst, inner);
-      if (inner <= 2 * L) return overlapping<L / 2, 4>(x, dst, inner);
+      if (inner <= 3 * L / 2) return overlapping<L / 2, 3>(x, dst, n, status);
+      if (inner <= 2 * L) return overlapping<L / 2, 4>(x, dst, n, status);
     }
-    if (inner <= 2 * L) return overlapping<L, 2>(x, dst, inner);
+    if (inner <= 2 * L) return overlapping<L, 2>(x, dst, n, status);
     if constexpr (kBlock > 2 && L == N) {
-      if (inner <= 3 * L) return overlapping<L, 3>(x, dst, inner);
-      return overlapping<L, 4>(x, dst, inner);
+      if (inner <= 3 * L) return overlapping<L, 3>(x, dst, n, status);
     }
+    return overlapping<L, kBlock>(x, dst, n, status);
   }
-  template <size_t L, size_t M> [[gnu::noinline]] static void overlapping(const T* x, T* dst, size_t inner) {
-    const auto at = [=](size_t v) { return v + 1 < M ? v * L : inner - L; };
-    bool needsKeys = false;
-    auto out = medians<L, M>(x, at, true, needsKeys);
-    if (needsKeys) [[unlikely]]
+  template <size_t L, size_t M, bool kByKeys = false>
+  [[gnu::noinline]] static QvxStatus overlapping(const T* x, T* dst, size_t n, QvxStatus status) {
+    const T first = x[0];
+    const T last = x[n - 1];
+    const auto at = [=](size_t v) { return v + 1 < M ? v * L : n - 2 - L; };
+    Vectors<L, M> out;
+    if constexpr (kByKeys) {
       unrolled<M>([&](auto v) __attribute__((always_inline)) { out[v] = mediansByKeys<L>(x + at(v)); });
-    unrolled<M>([&](auto v) __attribute__((always_inline)) { qvx::store(out[v], Lanes<T, L>(), dst + at(v)); });
+    } else {
+      bool needsKeys = false;
+      out = medians<L, M>(x, at, true, needsKeys);
+      if (needsKeys) [[unlikely]]
+        return overlapping<L, M, true>(x, dst, n, status);
+    }
+    unrolled<M>([&](auto v) __attribute__((always_inline)) { qvx::store(out[v], Lanes<T, L>(), dst + 1 + at(v)); });
+    dst[0] = first;
+    dst[n - 1] = last;
+    return status;
   }
 
   // How many elements after a vector's boundary.
   static size_t misalignment(const T* p) { return reinterpret_cast<uintptr_t>(p) % kVectorBytes / sizeof(T); }
 
   // A block is stored when the windows of the next are loaded, so that the destination may be the source.
-  [[gnu::noinline]] static void byBlocks(const T* x, T* dst, size_t inner) {
+  [[gnu::noinline]] static QvxStatus byBlocks(const T* x, T* dst, size_t n, QvxStatus status) {
+    const T first = x[0];
+    const T last = x[n - 1];
+    T* const y = dst + 1;
     constexpr auto at = [](size_t v) { return v * N; };
     bool wereNeeded = false;  // by elements that the block before has asked for
     const auto block = [&](size_t i, bool isFirst) __attribute__((always_inline)) {
@@ -102,19 +113,22 @@ template <class T> class Three {
       wereNeeded = needsKeys;
       return out;
     };
-    const size_t tail = inner - kBlock * N;
-    const auto last = block(tail, true);
+    const size_t tail = n - 2 - kBlock * N;
+    const auto atTail = block(tail, true);
     auto late = block(0, true);
     // From the second block on no store is split between cache lines.
     size_t lateAt = 0;
-    for (size_t i = kBlock * N - misalignment(dst); i < tail; i += kBlock * N) {
+    for (size_t i = kBlock * N - misalignment(y); i < tail; i += kBlock * N) {
       const auto next = block(i, false);
-      store<N, kBlock>(late, dst + lateAt);
+      store<N, kBlock>(late, y + lateAt);
       late = next;
       lateAt = i;
     }
-    store<N, kBlock>(late, dst + lateAt);
-    store<N, kBlock>(last, dst + tail);
+    store<N, kBlock>(late, y + lateAt);
+    store<N, kBlock>(atTail, y + tail);
+    dst[0] = first;
+    dst[n - 1] = last;
+    return status;
   }
 };
 
