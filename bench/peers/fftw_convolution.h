@@ -1,5 +1,5 @@
-// Convolution through FFTW, by overlap-save where that is faster: its plans are measured, and the length of its blocks too,
-// before anything is timed.
+// Convolution through FFTW, by overlap-save where that is faster than one transform for all: its plans are measured, and the
+// length of its blocks too, before anything is timed.
 #pragma once
 
 #include <fftw3.h>
@@ -39,7 +39,7 @@ class Convolution {
   ~Convolution() { release(); }
 
   void run(const float* a, const float* b, float* y) {
-    const int fresh = length_ - bLen_ + 1, old = bLen_ - 1, total = aLen_ + bLen_ - 1;
+    const int total = aLen_ + bLen_ - 1, old = length_ < total ? bLen_ - 1 : 0, fresh = length_ - old;
     std::copy_n(b, bLen_, block_);
     std::fill(block_ + bLen_, block_ + length_, 0.0F);
     fftwf_execute_dft_r2c(forward_, block_, reinterpret_cast<fftwf_complex*>(taps_));

@@ -1,6 +1,6 @@
 #include "correlation/band.h"
 
-#include "correlation/spectral.h"
+#include "correlation/long_product.h"
 
 namespace qvx::correlation {
 
@@ -9,9 +9,12 @@ namespace {
 // What a product of the direct way costs in the units of a transform's cost, as the vectors are wide.
 template <class C> inline constexpr double kProductCost = 0.5 * (kHasMasks ? 1 : kFuses ? 2 : 4) * sizeof(Part<C>) / 4;
 
-template <class C> bool isFasterDirectly(const Band<C>& band, const Cut& cut) {
+// A call that costs less, 5 us, would feel the search for how to cut it otherwise.
+constexpr double kWorthLongProducts = 1 << 17;
+
+template <class C> bool isFasterDirectly(const Band<C>& band, double cost) {
   const auto products = static_cast<double>(band.outputs) * static_cast<double>(std::min(band.count, band.length));
-  return products * kProductCost<C> * PartsOf<C>::kCount <= cut.cost;
+  return products * kProductCost<C> * PartsOf<C>::kCount <= cost;
 }
 
 }  // namespace
@@ -19,7 +22,10 @@ template <class C> bool isFasterDirectly(const Band<C>& band, const Cut& cut) {
 template <class C> QvxStatus correlateBand(const Band<C>& band, C* y, Way way) {
   if (way == Way::kAny) {
     const Cut cut = cutOf(band);
-    if (!isFasterDirectly(band, cut)) return spectralBand(band, cut, y);
+    const LongCut longCut = cut.cost < kWorthLongProducts ? LongCut() : longCutOf(band);
+    if (!isFasterDirectly(band, std::min(cut.cost, longCut.cost))) {
+      return isFasterThan(longCut, band, cut) ? byLongProducts(band, longCut, y) : spectralBand(band, cut, y);
+    }
   }
   directBand(band, y);
   mendEnds(band, y);

@@ -26,15 +26,28 @@ struct Cut {
   double cost;  // in units of a transform of one point
 };
 
+// What a twiddle costs that a call has to make.
+template <class C> inline constexpr double kTwiddleCost = 400.0 / sizeof(C);
+
+// For spectra of the taps and of so many windows, and the way back of each. One spectrum is enough for taps with themselves.
+template <class C> double transformsOf(const Band<C>& band, size_t steps) {
+  return band.isOfItself() && steps == 1 ? 2 : 1 + 2 * static_cast<double>(steps);
+}
+
+// For a point of a transform whose record is not ready.
+template <class C> double recordCost(int order) {
+  return order <= fft::kHighestReady - (PartsOf<C>::kCount == 1 ? 0 : 1) ? 0 : kTwiddleCost<C>;
+}
+
 // less: what each transform holds beside what it takes anew.
-template <class C> Cut cutBy(size_t n, size_t less) {
+template <class C> Cut cutBy(const Band<C>& band, size_t n, size_t less) {
   Cut best = {0, 0, 0, 0, 0};
   for (int order = 6; order < 30; ++order) {
     const size_t length = size_t{1} << order;
     if (length < less + 1) continue;
     const size_t fresh = length - less;
     const size_t steps = dividedUp(n, fresh);
-    const double cost = (1 + 2 * static_cast<double>(steps)) * static_cast<double>(length) * (order + 8);
+    const double cost = static_cast<double>(length) * (transformsOf(band, steps) * (order + 8) + recordCost<C>(order));
     if (best.length == 0 || cost < best.cost) best = {order, length, fresh, steps, cost};
     if (steps == 1) break;
   }
@@ -159,7 +172,7 @@ template <class C> QvxStatus byPieces(const Band<C>& band, const Cut& cut, C* y)
 }
 
 template <class C> Cut cutOf(const Band<C>& band) {
-  return band.outputs <= band.count ? cutBy<C>(band.count, band.outputs - 1) : cutBy<C>(band.outputs, band.count - 1);
+  return band.outputs <= band.count ? cutBy(band, band.count, band.outputs - 1) : cutBy(band, band.outputs, band.count - 1);
 }
 template <class C> QvxStatus spectralBand(const Band<C>& band, const Cut& cut, C* y) {
   return band.outputs <= band.count ? byPieces(band, cut, y) : overlapSave(band, cut, y);

@@ -2,6 +2,7 @@
 #include "median/long_masks.h"
 #include "median/short_masks.h"
 #include "median/sorted_windows.h"
+#include "median/three.h"
 
 using namespace qvx;
 using namespace qvx::median;
@@ -24,8 +25,6 @@ template <class T> QvxStatus filterLong(const T* src, T* dst, size_t len, size_t
 
 template <class T> QvxStatus filterBy(const T* src, T* dst, size_t len, size_t mask) {
   switch (mask) {
-    case 3:
-      return filterByNetwork<Median3>(src, dst, len);
     case 5:
       return filterByNetwork<Median5>(src, dst, len);
     case 7:
@@ -42,6 +41,7 @@ template <class T> QvxStatus filterMedian(const T* src, T* dst, int len, int mas
   if (len < 1 || maskSize < 1) return qvxStatBadSize;
   const QvxStatus status = maskSize % 2 == 0 ? qvxWarnEvenMask : qvxStatOk;
   const size_t n = elements(len);
+  if (n > 2 && (maskSize == 3 || maskSize == 4)) return Three<T>::filter(src, dst, n, status);
   const size_t mask = effectiveMask(elements(maskSize), n);
   if (mask == 1 || n <= 2) {
     if (src != dst) std::copy_n(src, n, dst);

@@ -1,4 +1,4 @@
-// Medians of 3 to 9 elements, by networks of minima and maxima on the windows of neighbouring outputs, whose elements are loads
+// Medians of 5 to 9 elements, by networks of minima and maxima on the windows of neighbouring outputs, whose elements are loads
 // that overlap. For masks of 7 and 9 the runs of three that windows share are ordered once where there are many: that leaves 16
 // and 18 operations an output, of 22 and 30.
 #pragma once
@@ -10,10 +10,6 @@
 namespace qvx::median {
 
 // at(k) is a vector of the windows' elements k, run(k) of k to k + 2 in order.
-struct Median3 {
-  static constexpr size_t kMask = 3;
-  template <class At, class Run> static auto of(At at, Run) { return middle(at(0), at(1), at(2)); }
-};
 // The least of two pairs' lesser ones is below the median, the greatest of the others above it.
 struct Median5 {
   static constexpr size_t kMask = 5;

@@ -120,7 +120,9 @@ TYPED_TEST(Correlation, StaysWithinTheErrorOfATransform) {
                         {600, 20000, 15000, 2000},
                         {20000, 20000, 500, -250},
                         {20000, 15000, 700, 3000},
-                        {5000, 5000, 9999, -4999}}) {
+                        {5000, 5000, 9999, -4999},
+                        {20000, 120000, 130000, -11000},
+                        {15000, 15000, 14000, 0}}) {
     const auto a = unevenNumbers<T>(c.aLen, random), b = unevenNumbers<T>(c.bLen, random);
     TestFixture::check(a, b, c.lags, c.lowLag, transformError(a, b));
   }

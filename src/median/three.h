@@ -1,0 +1,135 @@
+// Medians of three neighbours, which cost four minima and maxima, as long as nothing else is done: not a vector at a time is
+// asked for NaN and -0.0 but a block of some, and no output at an end needs a window of its own, since the first and the last
+// element are their own medians.
+#pragma once
+
+#include <array>
+
+#include "frame/unroll.h"
+#include "median/order.h"
+
+namespace qvx::median {
+
+template <class T> class Three {
+ public:
+  // n elements, 3 at least. Every step ends in a jump to the next, with the status that the last of them returns.
+  static QvxStatus filter(const T* x, T* dst, size_t n, QvxStatus status) {
+    if (n - 2 < kBlock * N) return few<N>(x, dst, n, status);
+    return byBlocks(x, dst, n, status);
+  }
+
+ private:
+  static constexpr size_t N = kVectorBytes / sizeof(T);
+  static constexpr size_t kBlock = kHasMasks ? 4 : 2;  // vectors
+  static constexpr bool kMayNeedKeys = std::is_floating_point_v<T>;
+
+  template <size_t L, size_t M> using Vectors = std::array<Vec<Lanes<T, L>>, M>;
+
+  // Of windows that begin at p, and as many from each of the places on that follow. The elements that more than one vector's
+  // windows have are asked for in all but the last of them.
+  template <size_t L, size_t M, class Place>
+  [[gnu::always_inline]] static inline Vectors<L, M> medians(const T* p, Place at, bool isFirst, bool& needsKeys) {
+    using V = Vec<Lanes<T, L>>;
+    constexpr Lanes<T, L> d;
+    const V one = same<V>(T(1));
+    V marks = hn::Zero(d);
+    const auto mark = [&](V v) __attribute__((always_inline)) {
+      if constexpr (kMayNeedKeys) marks = hn::IfThenElse(areNanOrMinusZero(v), one, marks);
+    };
+    Vectors<L, M> out;
+    unrolled<M>([&](auto v) __attribute__((always_inline)) {
+      const T* const window = p + at(v);
+      const V low = held(load(d, window));
+      const V mid = held(load(d, window + 1));
+      const V high = held(load(d, window + 2));
+      mark(high);
+      if (L == 1) mark(mid);
+      if (isFirst && v == 0) mark(low);
+      out[v] = middle(low, mid, high);
+    });
+    if constexpr (kMayNeedKeys) needsKeys = !hn::AllFalse(d, marks == one);
+    return out;
+  }
+  template <size_t L> [[gnu::noinline, gnu::cold]] static Vec<Lanes<T, L>> mediansByKeys(const T* window) {
+    const auto key = [=](size_t k) { return AsKey<T>::lanes(load(Lanes<T, L>(), window + k)); };
+    return AsKey<T>::elements(middle(key(0), key(1), key(2)));
+  }
+  template <size_t L, size_t M> static void store(const Vectors<L, M>& all, T* dst) {
+    unrolled<M>([&](auto v) __attribute__((always_inline)) { qvx::store(all[v], Lanes<T, L>(), dst + v * L); });
+  }
+
+  // Fewer than a block: as many vectors as it takes, the last of which overlaps the one before it.
+  template <size_t L> [[gnu::always_inline]] static inline QvxStatus few(const T* x, T* dst, size_t n, QvxStatus status) {
+    const size_t inner = n - 2;
+    if constexpr (L > 1) {
+      if (inner < L) return few<L / 2>(x, dst, n, status);
+    }
+    if (L == 1 && inner == 1) return overlapping<L, 1>(x, dst, n, status);
+    if constexpr (kBlock > 2 && L == N) {  // four halves of a register go before two whole ones: 16 doubles take 5 ns, not 6
+      if (inner <= 3 * L / 2) return overlapping<L / 2, 3>(x, dst, n, status);
+      if (inner <= 2 * L) return overlapping<L / 2, 4>(x, dst, n, status);
+    }
+    if (inner <= 2 * L) return overlapping<L, 2>(x, dst, n, status);
+    if constexpr (kBlock > 2 && L == N) {
+      if (inner <= 3 * L) return overlapping<L, 3>(x, dst, n, status);
+    }
+    return overlapping<L, kBlock>(x, dst, n, status);
+  }
+  template <size_t L, size_t M, bool kByKeys = false>
+  [[gnu::noinline]] static QvxStatus overlapping(const T* x, T* dst, size_t n, QvxStatus status) {
+    const T first = x[0];
+    const T last = x[n - 1];
+    const auto at = [=](size_t v) { return v + 1 < M ? v * L : n - 2 - L; };
+    Vectors<L, M> out;
+    if constexpr (kByKeys) {
+      unrolled<M>([&](auto v) __attribute__((always_inline)) { out[v] = mediansByKeys<L>(x + at(v)); });
+    } else {
+      bool needsKeys = false;
+      out = medians<L, M>(x, at, true, needsKeys);
+      if (needsKeys) [[unlikely]]
+        return overlapping<L, M, true>(x, dst, n, status);
+    }
+    unrolled<M>([&](auto v) __attribute__((always_inline)) { qvx::store(out[v], Lanes<T, L>(), dst + 1 + at(v)); });
+    dst[0] = first;
+    dst[n - 1] = last;
+    return status;
+  }
+
+  // How many elements after a vector's boundary.
+  static size_t misalignment(const T* p) { return reinterpret_cast<uintptr_t>(p) % kVectorBytes / sizeof(T); }
+
+  // A block is stored when the windows of the next are loaded, so that the destination may be the source.
+  [[gnu::noinline]] static QvxStatus byBlocks(const T* x, T* dst, size_t n, QvxStatus status) {
+    const T first = x[0];
+    const T last = x[n - 1];
+    T* const y = dst + 1;
+    constexpr auto at = [](size_t v) { return v * N; };
+    bool wereNeeded = false;  // by elements that the block before has asked for
+    const auto block = [&](size_t i, bool isFirst) __attribute__((always_inline)) {
+      bool needsKeys = false;
+      auto out = medians<N, kBlock>(x + i, at, isFirst, needsKeys);
+      if (needsKeys || (wereNeeded && !isFirst)) [[unlikely]]
+        unrolled<kBlock>([&](auto v) __attribute__((always_inline)) { out[v] = mediansByKeys<N>(x + i + at(v)); });
+      wereNeeded = needsKeys;
+      return out;
+    };
+    const size_t tail = n - 2 - kBlock * N;
+    const auto atTail = block(tail, true);
+    auto late = block(0, true);
+    // From the second block on no store is split between cache lines.
+    size_t lateAt = 0;
+    for (size_t i = kBlock * N - misalignment(y); i < tail; i += kBlock * N) {
+      const auto next = block(i, false);
+      store<N, kBlock>(late, y + lateAt);
+      late = next;
+      lateAt = i;
+    }
+    store<N, kBlock>(late, y + lateAt);
+    store<N, kBlock>(atTail, y + tail);
+    dst[0] = first;
+    dst[n - 1] = last;
+    return status;
+  }
+};
+
+}  // namespace qvx::median
