@@ -333,12 +333,12 @@ template <size_t L, class Dst, class T>
   const size_t m = block / n;
   for (size_t ka = range.from; ka < range.to; ++ka) {
     const Dst here = dst.from(ka * block);
-    if (m <= kWidestRadix) {
-      withRadix(m, [&](auto R) { downShortColumns<R, L>(here, n, inner); });
-    } else {
+    if (m > kWidestRadix) {
       withBlockLanes<L, T>(m, [&](auto N) {
         downColumns<false, N>(here.asSource(), here, m, n, {0, n}, std::min(tile / m, n), inner, y);
       });
+    } else if (m > 1) {
+      withRadix(m, [&](auto R) { downShortColumns<R, L>(here, n, inner); });
     }
     for (size_t kb = 0; kb < m; ++kb) {
       const Dst row = here.from(kb * n);
