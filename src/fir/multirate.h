@@ -2,9 +2,12 @@
 //
 // Samples are dealt among as many rows as the reduced decimation factor has units, so that those which one tap meets, for one
 // output after another, stand side by side: a branch of the filter is a sum of ordinary convolutions of rows. Ratios of large
-// numbers with few taps to an output leave them in one row, and vectors go along the outputs (lanewise.h).
+// numbers with few taps to an output leave them in one row, and vectors go along the outputs (lanewise.h). Calls of few outputs
+// that drop most of them find the samples in their order in a line, and vectors go along the taps (dots.h): what is kept between
+// calls moves from the rows to the line when such a call comes, and back when it is a longer one's turn.
 #pragma once
 
+#include "convolution/dots.h"
 #include "convolution/lanewise.h"
 #include "convolution/transpose.h"
 #include "fir/contents.h"
@@ -31,13 +34,22 @@ template <class C> struct MultirateRecord : RecordHead {
   int groupCount;
   LaneGroup* groups;
   LanePlace<C>* order;
+  // For calls of few outputs:
+  C* line;  // null: none
+  C* lineTaps;
+  Branch first;   // branch
+  int lineRoom;   // samples that the line takes after those that came before
+  int lineDone;   // samples that it still holds, of calls before
+  bool isInLine;  // what came before is there, not in the rows
 
   size_t rowCount() const { return static_cast<size_t>(rowLen == 1 ? ratio.down : 1); }
   C* row(size_t i) const { return rows + i * static_cast<size_t>(stride); }
   // Where a row takes the next sample.
   int64_t next() const { return history + int64_t{done} * rowLen; }
+  int64_t lineHistory() const { return int64_t{history} * ratio.down; }
   // A sample by its place, counted from the first of a call.
   C* sample(int64_t place) const {
+    if (isInLine) return line + lineHistory() + lineDone + place;
     const auto count = static_cast<int64_t>(rowCount());
     const int64_t at = place + next() * count;
     return row(static_cast<size_t>(at % count)) + at / count;
@@ -199,6 +211,49 @@ template <class R> bool placeRows(R& record, Carver& carver, const Qvx8u* begin,
   return true;
 }
 
+// The most outputs of a call that are added up one by one. Rows give vectors of outputs; those of two are cheap, those of several
+// branches are not.
+template <class C> int mostDots(const Ratio& q) {
+  constexpr int kVector = std::clamp<int>(kVectorElements<C>, 8, 16);
+  if (q.down == 2) return 8;
+  return q.up > 1 && q.taps >= 16 && !std::is_integral_v<C> ? 3 * kVector : kVector;
+}
+
+// The line and its taps, where such calls drop samples and branches are few.
+template <class R> bool placeLine(R& record, Carver& carver) {
+  using C = typename R::Kernel;
+  constexpr int kMostBranches = 8;
+  constexpr int kMostSamples = 512;  // of a call
+  const Ratio& q = record.ratio;
+  if (!kHasDots<C> || q.down == 1 || q.down > kMostSamples || q.up > kMostBranches) return false;
+  record.lineRoom = std::min(mostDots<C>(q) / q.up, kMostSamples / q.down) * q.down;
+  record.line = carver.takeLines<C>(record.lineHistory() + record.lineRoom + kVectorElements<C>);
+  record.lineTaps = carver.takeLines<C>(q.up * static_cast<int64_t>(dotsLen<C>(static_cast<size_t>(q.taps))));
+  record.first = q.branch();
+  return true;
+}
+
+// The rows, and beside them a line if it leaves them most of their length; of that no more than `longest` periods are used.
+template <class R>
+bool placeSamples(R& record, Carver& carver, const Qvx8u* begin, int64_t bytes, int branches,
+                  int64_t longest = std::numeric_limits<int64_t>::max()) {
+  record.line = nullptr;
+  if (!placeRows(record, carver, begin, bytes, branches)) return false;
+  Carver lineAlone = carver;
+  if (!placeLine(record, lineAlone)) return true;
+  const int64_t lineBytes = lineAlone.rest() - carver.rest() + Carver::kLine;
+  const int64_t used = std::min<int64_t>(record.block, longest);
+  Carver withLine = carver;
+  if (!placeRows(record, withLine, begin, bytes - lineBytes, branches) || record.block < used - used / 8) {
+    record.line = nullptr;
+    return placeRows(record, carver, begin, bytes, branches);
+  }
+  withLine.take<typename R::Kernel>(static_cast<int64_t>(record.rowCount()) * record.stride);
+  placeLine(record, withLine);
+  std::fill_n(record.line, record.lineHistory() + record.lineRoom + kVectorElements<typename R::Kernel>, typename R::Kernel{});
+  return true;
+}
+
 template <class R> void layOut(R& record, Carver& carver, const Qvx8u* begin, int64_t bytes, int tapsLen, const Factors& f) {
   record.tapsLen = tapsLen;
   record.ratio = Ratio::of(tapsLen, f);
@@ -225,14 +280,14 @@ template <class R> void layOut(R& record, Carver& carver, const Qvx8u* begin, in
     record.spectra = withSpectra.take<Spectra>(1);
     Spectra made;
     made.place(record.ratio, rows, history, most, withSpectra, bytes - (withSpectra.rest() - begin));
-    if (made.isPlaced() && placeRows(record, withSpectra, begin, bytes, branches) &&
+    if (made.isPlaced() && placeSamples(record, withSpectra, begin, bytes, branches, made.block()) &&
         made.takes(std::min<int64_t>(record.block, made.block()))) {
       *record.spectra = made;
       return;
     }
     record.spectra = nullptr;
   }
-  placeRows(record, carver, begin, bytes, branches);
+  placeSamples(record, carver, begin, bytes, branches);
 }
 
 // ---- taps and delay line
@@ -284,6 +339,18 @@ template <class S, class T> void spreadTaps(MultirateInteger<S, T>& record) {
   }
 }
 
+template <class R> void setLineTaps(R& record, const typename R::Kernel* reversed) {
+  using C = typename R::Kernel;
+  if (isNull(record.line)) return;
+  const Ratio& q = record.ratio;
+  const size_t length = dotsLen<C>(static_cast<size_t>(q.taps));
+  std::fill_n(record.lineTaps, length * static_cast<size_t>(q.up), C{});
+  forEachBranch(q, [&](const Branch& branch, int number) {
+    C* const taps = record.lineTaps + static_cast<size_t>(number) * length;
+    for (int t = 0; t < q.taps; ++t) taps[t] = q.tapOf(reversed, record.tapsLen, branch.tap, t);
+  });
+}
+
 template <class C> void dealTaps(MultirateFloat<C>& record) {
   if (record.groupCount > 0) return spreadTaps(record);
   const Ratio& q = record.ratio;
@@ -294,6 +361,7 @@ template <class C> void dealTaps(MultirateFloat<C>& record) {
       for (int t = row; t < q.taps; t += apart) *to++ = q.tapOf(record.taps, record.tapsLen, branch.tap, t);
     }
   });
+  setLineTaps(record, record.taps);
 }
 template <class S, class T> void dealTaps(MultirateInteger<S, T>& record) {
   if (record.groupCount > 0) return spreadTaps(record);
@@ -306,6 +374,7 @@ template <class S, class T> void dealTaps(MultirateInteger<S, T>& record) {
       to += 2 * paired(record.group, n, to).count;
     }
   });
+  setLineTaps(record, record.shortTaps);
 }
 
 template <class C> void setSpectra(MultirateFloat<C>& record) {

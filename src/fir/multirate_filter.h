@@ -124,17 +124,142 @@ template <class R> Lanewise<typename R::Kernel> lanewise(const R& record) {
           q.down};
 }
 
+// make(y) puts `count` outputs of the kernel's type; dst takes them as they are, or as finish(y, count, dst) makes them.
+template <class C, class T, class Make, class Finish> void putOutputs(T* dst, size_t count, Make make, Finish finish) {
+  if constexpr (std::is_same_v<C, T>) {
+    make(dst);
+  } else {
+    C outputs[kSumsBytes / sizeof(C)];
+    make(outputs);
+    finish(outputs, count, dst);
+  }
+}
+
+// The outputs of all branches, each of which branches.next(sums) gives for some periods, in their order.
+template <class C, class Branches, class T, class Finish>
+[[gnu::always_inline]] inline void joinBranches(Branches& branches, size_t up, size_t periods, T* dst, Finish finish) {
+  if (up == 1)
+    return putOutputs<C>(
+        dst, periods, [&](C* y) { branches.next(y); }, finish);
+  C sums[kSumsBytes / sizeof(C)];
+  const size_t batch = up * periods <= std::size(sums) ? up : std::size(sums) / periods;
+  for (size_t n, from = 0; from < up; from += n) {
+    n = std::min(batch, up - from);
+    for (size_t i = 0; i < n; ++i) branches.next(sums + i * periods);
+    if constexpr (std::is_same_v<C, T>) {
+      transposeElements(sums, periods, n, periods, dst + from, up);
+    } else {
+      T outputs[std::size(sums)];
+      finish(sums, n * periods, outputs);
+      transposeElements(outputs, periods, n, periods, dst + from, up);
+    }
+  }
+}
+
+// ---- calls of few outputs
+
+template <class C> bool takesLine(const MultirateRecord<C>& record, size_t periods) {
+  return !isNull(record.line) && periods * static_cast<size_t>(record.ratio.down) <= static_cast<size_t>(record.lineRoom);
+}
+
+// What is kept between calls, from the rows to the line and back.
+template <class C> [[gnu::noinline]] void moveIntoLine(MultirateRecord<C>& record) {
+  const auto history = static_cast<size_t>(record.history);
+  const size_t down = record.rowCount();
+  transposeElements(record.rows + record.done, static_cast<size_t>(record.stride), down, history, record.line, down);
+  record.lineDone = 0;
+  record.isInLine = true;
+}
+template <class C> [[gnu::noinline]] void moveIntoRows(MultirateRecord<C>& record) {
+  const auto history = static_cast<size_t>(record.history);
+  const size_t down = record.rowCount();
+  transposeElements(record.line + record.lineDone, down, history, down, record.rows, static_cast<size_t>(record.stride));
+  record.done = 0;
+  record.isInLine = false;
+}
+
+// The branches of a filter one after another, over samples in their order.
+template <class R> class LineBranches {
+ public:
+  using C = typename R::Kernel;
+
+  LineBranches(const R& record, size_t periods, int64_t places)
+      : ratio_(record.ratio),
+        periods_(periods),
+        places_(places),
+        taps_(record.lineTaps),
+        branch_(record.first),
+        x_(record.sample(branch_.sample - ratio_.taps + 1)) {}
+
+  void next(C* sums) {
+    const auto taps = static_cast<size_t>(ratio_.taps);
+    const auto down = static_cast<size_t>(ratio_.down);
+    if constexpr (std::is_integral_v<C>) convolveApart(x_, down, taps_, taps, periods_, sums, places_);
+    else convolveApart(x_, down, taps_, taps, periods_, sums);
+    if (ratio_.up == 1) return;
+    taps_ += dotsLen<C>(taps);
+    const int64_t before = branch_.sample;
+    branch_.advance(ratio_.up, ratio_.down);
+    x_ += branch_.sample - before;
+  }
+
+ private:
+  const Ratio& ratio_;
+  size_t periods_;
+  int64_t places_;
+  const C* taps_;
+  Branch branch_;
+  const C* x_;
+};
+
+template <class R, class T, class Finish>
+void throughLine(R& record, const T* src, T* dst, size_t periods, int64_t places, Finish finish) {
+  using C = typename R::Kernel;
+  const size_t samples = periods * static_cast<size_t>(record.ratio.down);
+  if (!record.isInLine) moveIntoLine(record);
+  if (static_cast<size_t>(record.lineDone) + samples > static_cast<size_t>(record.lineRoom)) {
+    moveVectors(record.line + record.lineDone, static_cast<size_t>(record.lineHistory()), record.line);
+    record.lineDone = 0;
+  }
+  if constexpr (std::is_same_v<C, T>) moveVectors(src, samples, record.sample(0));
+  else toKernel(src, samples, record.sample(0));
+  LineBranches<R> branches(record, periods, places);
+  joinBranches<C>(branches, static_cast<size_t>(record.ratio.up), periods, dst, finish);
+  record.lineDone += static_cast<int>(samples);
+}
+
+// ---- longer ones
+
+// The outputs of a block whose samples are in the rows.
+template <class R, class T, class Finish>
+[[gnu::always_inline]] inline void filterRows(R& record, T* dst, size_t periods, Call call, int64_t places, Finish finish) {
+  using C = typename R::Kernel;
+  const auto up = static_cast<size_t>(record.ratio.up);
+  if constexpr (Lanewise<C>::kPays) {
+    if (record.groupCount > 0) {
+      const auto alongOutputs = [&](C* y) {
+        if constexpr (Lanewise<C>::kIsFloat) convolve(lanewise(record), record.sample(0), periods, y);
+        else convolve(lanewise(record), record.sample(0), periods, y, places);
+      };
+      return putOutputs<C>(dst, periods * up, alongOutputs, finish);
+    }
+  }
+  Branches<R> branches(record, periods, call, places);
+  joinBranches<C>(branches, up, periods, dst, finish);
+}
+
 // finish(sums, n, outputs) makes the outputs of sums; integer sums come scaled by 2^places. src may be dst, unless there are more
 // outputs than samples.
 template <class R, class T, class Finish>
 void resample(R& record, const T* src, T* dst, size_t periods, int64_t places, Finish finish) {
-  using C = typename R::Kernel;
-  constexpr bool kConverts = !std::is_same_v<C, T>;
+  if constexpr (kHasDots<typename R::Kernel>) {
+    if (takesLine(record, periods)) return throughLine(record, src, dst, periods, places, finish);
+    if (record.isInLine) moveIntoRows(record);
+  }
   const auto up = static_cast<size_t>(record.ratio.up);
   const auto down = static_cast<size_t>(record.ratio.down);
   const auto block = static_cast<size_t>(record.block);
   const Call call = callOf(std::min(periods, block));
-  C sums[kSumsBytes / sizeof(C)];
   for (size_t some; periods > 0; periods -= some, src += some * down, dst += some * up) {
     some = std::min(periods, block);
     if constexpr (kHasSpectra<R>) {
@@ -142,39 +267,7 @@ void resample(R& record, const T* src, T* dst, size_t periods, int64_t places, F
     }
     makeRoom(record, some);
     deal(record, src, some);
-    if constexpr (Lanewise<C>::kPays) {
-      if (record.groupCount > 0) {
-        C* outputs;
-        if constexpr (kConverts) outputs = sums;
-        else outputs = dst;
-        if constexpr (Lanewise<C>::kIsFloat) convolve(lanewise(record), record.sample(0), some, outputs);
-        else convolve(lanewise(record), record.sample(0), some, outputs, places);
-        if constexpr (kConverts) finish(sums, some * up, dst);
-        record.done += static_cast<int>(some);
-        continue;
-      }
-    }
-    Branches<R> branches(record, some, call, places);
-    const size_t batch = up * some <= std::size(sums) ? up : std::size(sums) / some;
-    for (size_t n, from = 0; from < up; from += n) {
-      n = std::min(batch, up - from);
-      if (up == 1 && !kConverts) {
-        if constexpr (!kConverts) branches.next(dst);
-        continue;
-      }
-      for (size_t i = 0; i < n; ++i) branches.next(sums + i * some);
-      if constexpr (kConverts) {
-        T outputs[std::size(sums)];
-        if (up == 1) {
-          finish(sums, some, dst);
-          continue;
-        }
-        finish(sums, n * some, outputs);
-        transposeElements(outputs, some, n, some, dst + from, up);
-      } else {
-        transposeElements(sums, some, n, some, dst + from, up);
-      }
-    }
+    filterRows(record, dst, some, call, places, finish);
     record.done += static_cast<int>(some);
   }
 }

@@ -67,6 +67,13 @@ template <class P> class Cascade {
  private:
   static constexpr size_t kDelay = 2;
 
+  // What the lane above gave, and in the last one the first of the vector above.
+  static V fromAbove(V above, V v) {
+    if constexpr (kVectorBytes == 16) return hn::CombineShiftRightLanes<1>(D(), above, v);
+    else return delayed<kCount - 1>(v, above);
+  }
+
+  // Sections of a vector.
   struct Group {
     V b0, e1, e2, a1, a2;
     V d0, d1;
@@ -74,13 +81,28 @@ template <class P> class Cascade {
     V begin;           // the step of a lane's first sample
     V first0, first1;  // the state that it begins with
     V last0, last1;    // and leaves
-  };
 
-  // What the lane above gave, and in the last one the first of the vector above.
-  static V fromAbove(V above, V v) {
-    if constexpr (kVectorBytes == 16) return hn::CombineShiftRightLanes<1>(D(), above, v);
-    else return delayed<kCount - 1>(v, above);
-  }
+    // A lane without a sample yet computes zeros, as long as its state is zero: its state is set right before its first sample.
+    // A lane after its last sample computes values that nobody reads: its state was saved.
+    [[gnu::always_inline]] void enter(size_t t) {
+      const auto isNow = begin == hn::Set(D(), static_cast<P>(t));
+      d0 = d0 + hn::IfThenElseZero(isNow, first0);
+      d1 = d1 + hn::IfThenElseZero(isNow, first1);
+    }
+    [[gnu::always_inline]] void leave(size_t t, size_t n) {
+      const auto isNow = begin == hn::Set(D(), static_cast<P>(t) - static_cast<P>(n));
+      last0 = hn::IfThenElse(isNow, d0, last0);
+      last1 = hn::IfThenElse(isNow, d1, last1);
+    }
+    // ago: which of the last two outputs is the older. above: that of the vector above.
+    [[gnu::always_inline]] void step(V above, V Group::*ago) {
+      const V x = fromAbove(above, this->*ago);
+      this->*ago = hn::MulAdd(b0, x, d0);
+      const V next1 = hn::MulAdd(a2, d0, e2 * x);
+      d0 = hn::MulAdd(a1, d0, hn::MulAdd(e1, x, d1));
+      d1 = next1;
+    }
+  };
 
   // The first section of a part is in the last lane, so that the output is in the first.
   P* at(size_t section, size_t row) const {
@@ -90,64 +112,17 @@ template <class P> class Cascade {
   }
   size_t lanesOf(size_t first) const { return std::min(kMost, static_cast<size_t>(padded(static_cast<int>(sections_ - first)))); }
 
-  template <size_t kGroups, class T> [[gnu::flatten]] void part(size_t first, size_t count, P* work, size_t n, T* line) const {
-    constexpr size_t kAll = kGroups * kCount;
-    constexpr size_t kLast = kDelay * (kAll - 1);  // steps until the last lane's first sample
-    const P* table = table_ + kRows * first;
-    P states[2][kAll] = {};
-    for (size_t s = 0; s < count; ++s) {
-      for (size_t k = 0; k < 2; ++k) states[k][kAll - 1 - s] = line[2 * s + k];
-    }
-    Group groups[kGroups];
-    unrolled<kGroups>([&](auto g) {
-      const auto row = [&](size_t r) { return load(D(), table + r * kAll + g * kCount); };
-      const V zero = hn::Zero(D());
-      const V lanesAbove = hn::Set(D(), static_cast<P>(kAll - 1 - g * kCount)) - hn::Iota(D(), 0);
-      groups[g] = {row(0),
-                   row(1),
-                   row(2),
-                   row(3),
-                   row(4),
-                   zero,
-                   zero,
-                   zero,
-                   zero,
-                   hn::Set(D(), P{kDelay}) * lanesAbove,
-                   load(D(), states[0] + g * kCount),
-                   load(D(), states[1] + g * kCount),
-                   zero,
-                   zero};
-    });
-    // A lane without a sample yet computes zeros, as long as its state is zero: its state is set right before its first sample. A
-    // lane after its last sample computes values that nobody reads: its state was saved.
-    const auto enter = [&](size_t t) {
-      unrolled<kGroups>([&](auto g) {
-        Group& at = groups[g];
-        const auto isNow = at.begin == hn::Set(D(), static_cast<P>(t));
-        at.d0 = at.d0 + hn::IfThenElseZero(isNow, at.first0);
-        at.d1 = at.d1 + hn::IfThenElseZero(isNow, at.first1);
-      });
-    };
-    const auto leave = [&](size_t t) {
-      unrolled<kGroups>([&](auto g) {
-        Group& at = groups[g];
-        const auto isNow = at.begin == hn::Set(D(), static_cast<P>(t) - static_cast<P>(n));
-        at.last0 = hn::IfThenElse(isNow, at.d0, at.last0);
-        at.last1 = hn::IfThenElse(isNow, at.d1, at.last1);
-      });
-    };
-    // ago: which of the last two outputs is the older.
+  // All groups, step by step: n samples, and until the last lane has had the last of them.
+  template <size_t kGroups> [[gnu::always_inline]] static void walk(Group (&groups)[kGroups], P* work, size_t n) {
+    constexpr size_t kLast = kDelay * (kGroups * kCount - 1);  // steps until the last lane's first sample
+    const auto enter = [&](size_t t) { unrolled<kGroups>([&](auto g) { groups[g].enter(t); }); };
+    const auto leave = [&](size_t t) { unrolled<kGroups>([&](auto g) { groups[g].leave(t, n); }); };
     const auto step = [&](size_t t, V Group::*ago) {
       const V in = t < n ? hn::Set(D(), work[t]) : hn::Zero(D());
       unrolled<kGroups>([&](auto g) {
-        Group& at = groups[g];
         V above = in;
         if constexpr (g + 1 < kGroups) above = groups[g + 1].*ago;
-        const V x = fromAbove(above, at.*ago);
-        at.*ago = hn::MulAdd(at.b0, x, at.d0);
-        const V next1 = hn::MulAdd(at.a2, at.d0, at.e2 * x);
-        at.d0 = hn::MulAdd(at.a1, at.d0, hn::MulAdd(at.e1, x, at.d1));
-        at.d1 = next1;
+        groups[g].step(above, ago);
       });
       if (t >= kLast) work[t - kLast] = hn::GetLane(groups[0].*ago);
     };
@@ -182,6 +157,24 @@ template <class P> class Cascade {
       }
     }
     leave(t);
+  }
+
+  template <size_t kGroups, class T> [[gnu::flatten]] void part(size_t first, size_t count, P* work, size_t n, T* line) const {
+    constexpr size_t kAll = kGroups * kCount;
+    P states[2][kAll] = {};
+    for (size_t s = 0; s < count; ++s) {
+      for (size_t k = 0; k < 2; ++k) states[k][kAll - 1 - s] = line[2 * s + k];
+    }
+    Group groups[kGroups];
+    unrolled<kGroups>([&](auto g) {
+      const auto row = [&](size_t r) { return load(D(), table_ + kRows * first + r * kAll + g * kCount); };
+      const auto state = [&](size_t k) { return load(D(), states[k] + g * kCount); };
+      const V zero = hn::Zero(D());
+      const V lanesAbove = hn::Set(D(), static_cast<P>(kAll - 1 - g * kCount)) - hn::Iota(D(), 0);
+      const V begin = hn::Set(D(), P{kDelay}) * lanesAbove;
+      groups[g] = {row(0), row(1), row(2), row(3), row(4), zero, zero, zero, zero, begin, state(0), state(1), zero, zero};
+    });
+    walk(groups, work, n);
     unrolled<kGroups>([&](auto g) {
       store(groups[g].last0, D(), states[0] + g * kCount);
       store(groups[g].last1, D(), states[1] + g * kCount);

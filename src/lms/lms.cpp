@@ -91,76 +91,107 @@ struct Products {
   }
 };
 
-// `count` steps with all taps in registers. The window of step i is x[i] to x[i + n - 1].
+// Steps with all taps in registers. The window of step i is x[i] to x[i + n - 1].
 //
 // One step waits 43 cycles for the sum of its lanes, its error and the taps that this gives. So four are taken at a time: their
 // sums with the taps before them all, and then y and e of each in turn from the products of the windows. 16 taps take 22 cycles a
 // step.
-template <size_t kVectors>
-void stepsInRegisters(Qvx32f* taps, size_t n, const Qvx32f* x, const Qvx32f* ref, Qvx32f* dst, size_t count, Qvx32f rate) {
-  const TagOf<V> d;
-  const Lanes<Qvx32f, 4> d4;
-  constexpr size_t kLast = kVectors - 1;
-  const auto inLast = hn::FirstN(d, n - kLast * N);
-  V h[kVectors];
-  unrolled<kVectors>([&](auto k) { h[k] = load(d, taps + N * k); });
-  const auto sample = [&](size_t i, auto k) __attribute__((always_inline)) {
-    const V v = load(d, x + i + N * k);
-    return k == kLast ? hn::IfThenElseZero(inLast, v) : v;
-  };
-  const auto adapt = [&](size_t i, V e) __attribute__((always_inline)) {
-    unrolled<kVectors>([&](auto k) { h[k] = hn::MulAdd(k == kLast ? hn::IfThenElseZero(inLast, e) : e, sample(i, k), h[k]); });
-  };
-  const auto one = [&](size_t i) __attribute__((always_inline)) {
-    constexpr size_t kSums = std::min<size_t>(kVectors, 4);
-    V sum[kSums];
-    unrolled<kSums>([&](auto k) { sum[k] = h[k] * sample(i, k); });
-    unrolled<kVectors - kSums>([&](auto k) {
-      const std::integral_constant<size_t, k + kSums> at;
-      sum[k % kSums] = hn::MulAdd(h[at], sample(i, at), sum[k % kSums]);
-    });
-    if constexpr (kSums > 2) sum[0] = sum[0] + sum[2];
-    if constexpr (kSums > 3) sum[1] = sum[1] + sum[3];
-    if constexpr (kSums > 1) sum[0] = sum[0] + sum[1];
-    const V y = sumInAll(sum[0]);
-    const V e = (hn::Set(d, ref[i]) - y) * hn::Set(d, rate);
-    dst[i] = hn::GetLane(y);
+template <size_t kVectors> class StepsInRegisters {
+ public:
+  StepsInRegisters(const Qvx32f* taps, size_t n, const Qvx32f* x, const Qvx32f* ref, Qvx32f* dst, Qvx32f rate)
+      : n_(n), x_(x), ref_(ref), dst_(dst), rate_(rate), inLast_(hn::FirstN(TagOf<V>(), n - kLast * N)) {
+    unrolled<kVectors>([&](auto k) { taps_[k] = load(TagOf<V>(), taps + N * k); });
+  }
+
+  [[gnu::always_inline]] void one(size_t i) {
+    const TagOf<V> d;
+    const V y = sumInAll(product(i));
+    const V e = (hn::Set(d, ref_[i]) - y) * hn::Set(d, rate_);
+    dst_[i] = hn::GetLane(y);
     adapt(i, e);
-  };
-  const auto four = [&](size_t i) __attribute__((always_inline)) {
-    V sum[4];
-    V product[3];
+  }
+
+  // false, with nothing done, where products of large samples are not finite: 0 times infinity would spoil an output.
+  [[gnu::always_inline]] bool four(size_t i) {
+    const TagOf<V> d;
+    const Lanes<Qvx32f, 4> d4;
+    V sum[4];      // of the windows and the taps
+    V product[3];  // of the first window and the others
     unrolled<kVectors>([&](auto k) {
       V v[4];
       unrolled<4>([&](auto j) { v[j] = sample(i + j, k); });
-      unrolled<4>([&](auto j) { sum[j] = k == 0 ? h[k] * v[j] : hn::MulAdd(h[k], v[j], sum[j]); });
+      unrolled<4>([&](auto j) { sum[j] = k == 0 ? taps_[k] * v[j] : hn::MulAdd(taps_[k], v[j], sum[j]); });
       unrolled<3>([&](auto j) { product[j] = k == 0 ? v[0] * v[j + 1] : hn::MulAdd(v[0], v[j + 1], product[j]); });
     });
-    const Products products(sums(hn::Zero(d), product[0], product[1], product[2]), x + i, n);
+    const Products products(sums(hn::Zero(d), product[0], product[1], product[2]), x_ + i, n_);
     if (!products.areFinite()) return false;
     V4 y = sums(sum[0], sum[1], sum[2], sum[3]);
-    const V4 wanted = load(d4, ref + i);
-    const auto errors = [&] { return (wanted - y) * hn::Set(d4, rate); };
+    const V4 wanted = load(d4, ref_ + i);
+    const auto errors = [&] { return (wanted - y) * hn::Set(d4, rate_); };
     V4 e[4];
     unrolled<3>([&](auto j) {
       e[j] = everyLaneOf<j>(errors());
       y = hn::MulAdd(e[j], products.column[j], y);
     });
     e[3] = everyLaneOf<3>(errors());
-    store(y, d4, dst + i);
+    store(y, d4, dst_ + i);
     unrolled<4>([&](auto j) { adapt(i + j, same<V>(hn::GetLane(e[j]))); });
     return true;
-  };
+  }
+
+  void storeTaps(Qvx32f* taps) const {
+    unrolled<kVectors>([&](auto k) { store(taps_[k], TagOf<V>(), taps + N * k); });
+  }
+
+ private:
+  static constexpr size_t kLast = kVectors - 1;
+
+  template <class K> [[gnu::always_inline]] V sample(size_t i, K k) const {
+    const V v = load(TagOf<V>(), x_ + i + N * k);
+    return k == kLast ? hn::IfThenElseZero(inLast_, v) : v;
+  }
+  // Of a window and the taps, lane by lane.
+  [[gnu::always_inline]] V product(size_t i) const {
+    constexpr size_t kSums = std::min<size_t>(kVectors, 4);
+    V sum[kSums];
+    unrolled<kSums>([&](auto k) { sum[k] = taps_[k] * sample(i, k); });
+    unrolled<kVectors - kSums>([&](auto k) {
+      const std::integral_constant<size_t, k + kSums> at;
+      sum[k % kSums] = hn::MulAdd(taps_[at], sample(i, at), sum[k % kSums]);
+    });
+    if constexpr (kSums > 2) sum[0] = sum[0] + sum[2];
+    if constexpr (kSums > 3) sum[1] = sum[1] + sum[3];
+    if constexpr (kSums > 1) sum[0] = sum[0] + sum[1];
+    return sum[0];
+  }
+  [[gnu::always_inline]] void adapt(size_t i, V e) {
+    unrolled<kVectors>(
+        [&](auto k) { taps_[k] = hn::MulAdd(k == kLast ? hn::IfThenElseZero(inLast_, e) : e, sample(i, k), taps_[k]); });
+  }
+
+  size_t n_;
+  const Qvx32f* x_;
+  const Qvx32f* ref_;
+  Qvx32f* dst_;
+  Qvx32f rate_;
+  hn::Mask<TagOf<V>> inLast_;
+  V taps_[kVectors];
+};
+
+template <size_t kVectors>
+[[gnu::flatten]] void stepsInRegisters(Qvx32f* taps, size_t n, const Qvx32f* x, const Qvx32f* ref, Qvx32f* dst, size_t count,
+                                       Qvx32f rate) {
+  StepsInRegisters<kVectors> steps(taps, n, x, ref, dst, rate);
   size_t i = 0;
   while (kVectors <= kMostForFour && i + 4 <= count) {
-    if (four(i)) {
+    if (steps.four(i)) {
       i += 4;
-    } else {  // products of large samples: 0 times infinity would spoil an output
-      for (const size_t end = i + 4; i < end; ++i) one(i);
+    } else {
+      for (const size_t end = i + 4; i < end; ++i) steps.one(i);
     }
   }
-  for (; i < count; ++i) one(i);
-  unrolled<kVectors>([&](auto k) { store(h[k], d, taps + N * k); });
+  for (; i < count; ++i) steps.one(i);
+  steps.storeTaps(taps);
 }
 
 // The same in memory: a pass adapts to the step before and takes the sum of the next, so that taps are loaded and stored once.

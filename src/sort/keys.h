@@ -40,6 +40,7 @@ template <class K> struct KeyMap {
 // What is a key already.
 template <class K> struct AsKeys {
   K key(K x) const { return x; }
+  K original(K k) const { return k; }
   template <class V> V keys(V x) const { return x; }
 };
 

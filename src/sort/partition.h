@@ -12,46 +12,67 @@ namespace qvx {
 template <class K> inline constexpr size_t kPartLanes = kPartedLanes<K>;
 // Vectors from one side before the side is chosen again: the choice is a branch that nobody foresees.
 template <class K> inline constexpr size_t kPartVectors = kPartLanes<K> > 8 ? 4 : 8;
-// Keys of working memory, and how many of them a partition out of place takes: whole vectors are stored.
+// Keys of working memory.
 template <class K> inline constexpr size_t kSortBuffer = (sizeof(K) == 2 ? 16384 : 8192) / sizeof(K);
 
-// Keys up to which those above the pivot are copied to the buffer and back.
-template <class K> inline constexpr size_t kApart = std::min(kSortBuffer<K>, size_t{1024});
+// Keys up to which those above the pivot are copied to the buffer and back; whole vectors are stored.
+template <class K> inline constexpr size_t kApart = std::min(kSortBuffer<K> - 2 * kPartLanes<K>, size_t{1024});
 // How far ahead keys are fetched.
 template <class K> inline constexpr size_t kAhead = 1024 / sizeof(K);
 
 namespace detail {
 
-// The keys of src below the pivot to `low`, the others to `high`; the number below. low or high may be src.
-template <class K, class Map> size_t separate(const K* src, size_t n, K pivot, Map in, K* low, K* high) {
+// By vectors: most partitions are of a few hundred keys, for which a call of memcpy takes longer.
+template <class K> void copyKeys(const K* src, size_t n, K* dst) {
+  constexpr size_t N = kVectorBytes / sizeof(K);
+  const Lanes<K, N> d;
+  if (n < N) return storeFirst(loadFirst(d, src, n), d, dst, n);
+  for (size_t i = 0; i + N < n; i += N) store(load(d, src + i), d, dst + i);
+  store(load(d, src + n - N), d, dst + n - N);
+}
+
+// Few enough that the buffer holds those that are not below the pivot; a vector at least.
+template <class K, class Map> size_t partitionFew(K* x, size_t n, K pivot, Map in, K* buffer) {
   constexpr size_t N = kPartLanes<K>;
   const Lanes<K, N> d;
   using V = Vec<Lanes<K, N>>;
-  const V pivots = same<V>(pivot);
-  size_t below = 0;
-  size_t i = 0;
-  for (; i + N <= n; i += N) {
-    const V v = in.keys(load(d, src + i));
-    below += qvx::separate(v, v < pivots, low + below, high + i - below);
+  // From the buffer's end down, one shuffle of a vector serves both parts. Where the parts are gathered by themselves they go up:
+  // down, that of the others would have to be stored by a mask, which takes a tenth longer.
+  constexpr bool kGoesUp = kGathersLanes<V>;
+  K* low = x;
+  K* high = kGoesUp ? buffer : buffer + kSortBuffer<K>;
+  const auto put = [&, pivots = same<V>(pivot) ](V v) __attribute__((always_inline)) {
+    if constexpr (kGoesUp) {
+      const size_t count = qvx::separate(v, v < pivots, low, high);
+      low += count;
+      high += N - count;
+    } else {
+      part(v, v < pivots, low, high);
+    }
+  };
+  // The rest goes first, its vector filled with the greatest key: at the buffer's end that does no harm. From then on a vector is
+  // stored as far as into the one after it, which has to be loaded by then.
+  const size_t rest = n % N;
+  V next = load(d, x);
+  if (rest != 0) {
+    put(in.keys(loadFirstOr(d, x + n - rest, rest, in.original(std::numeric_limits<K>::max()))));
+    if (kGoesUp) high -= N - rest;
   }
-  for (; i < n; ++i) {
-    const K k = in.key(src[i]);
-    low[below] = k;
-    high[i - below] = k;
-    below += k < pivot;
+  for (size_t i = N; i <= n - rest; i += N) {
+    const V v = in.keys(next);
+    next = load(d, x + std::min(i, n - N));
+    put(v);
   }
+  const auto below = static_cast<size_t>(low - x);
+  copyKeys(kGoesUp ? buffer : high, n - below, low);
   return below;
 }
 
 template <class K, class Map> size_t partition(K* x, size_t n, K pivot, Map in, K* buffer) {
   constexpr size_t N = kPartLanes<K>;
   constexpr size_t kStep = kPartVectors<K> * N;
-  static_assert(3 * kStep <= kSortBuffer<K>);
-  if (n <= kApart<K>) {
-    const size_t below = separate(x, n, pivot, in, x, buffer);
-    std::memcpy(x + below, buffer, (n - below) * sizeof(K));
-    return below;
-  }
+  static_assert(3 * kStep <= kApart<K>);
+  if (n <= kApart<K>) return partitionFew(x, n, pivot, in, buffer);
   // A step from either end waits in the buffer. So there is room for two, and one of the ends always has room for the step that
   // is read from the other.
   const Lanes<K, N> d;
@@ -62,8 +83,8 @@ template <class K, class Map> size_t partition(K* x, size_t n, K pivot, Map in, 
   std::memcpy(buffer + head, x + n - kStep, kStep * sizeof(K));
   K* low = x;
   K* high = x + n;
-  K* from = x + head;
-  K* to = x + n - kStep;
+  const K* from = x + head;
+  const K* to = x + n - kStep;
   while (from < to) {
     const K* src = from;
     if (from - low <= high - to) {
@@ -77,10 +98,20 @@ template <class K, class Map> size_t partition(K* x, size_t n, K pivot, Map in, 
     unrolled<kPartVectors<K>>([&](auto i) __attribute__((always_inline)) { v[i] = in.keys(load(d, src + i * N)); });
     unrolled<kPartVectors<K>>([&](auto i) __attribute__((always_inline)) { part(v[i], v[i] < pivots, low, high); });
   }
-  const auto left = static_cast<size_t>(high - low);
-  const size_t below = separate(buffer, left, pivot, in, low, buffer);
-  std::memcpy(low + below, buffer, (left - below) * sizeof(K));
-  return static_cast<size_t>(low - x) + below;
+  // What waited fills the gap to the last key: one by one until whole vectors are left, each of which is stored at both ends.
+  const K* waiting = buffer;
+  for (; static_cast<size_t>(high - low) % N != 0; ++waiting) {
+    const K k = in.key(*waiting);
+    const bool isLow = k < pivot;
+    *low = high[-1] = k;
+    low += isLow;
+    high -= !isLow;
+  }
+  for (; low < high; waiting += N) {
+    const V v = in.keys(load(d, waiting));
+    part(v, v < pivots, low, high);
+  }
+  return static_cast<size_t>(low - x);
 }
 
 }  // namespace detail

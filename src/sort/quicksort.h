@@ -21,22 +21,24 @@ template <class K> size_t equalNeighbours(const K* keys, size_t n) {
   return count + hn::CountTrue(d, loadFirstOr(d, keys + i, rest, K{0}) == loadFirstOr(d, keys + i + 1, rest, K{1}));
 }
 
-template <class K> inline constexpr size_t kMostSample = std::min<size_t>(63, kNetworkKeys<K> - 1);
+template <class K> inline constexpr size_t kMostSample = std::min<size_t>(64, kNetworkKeys<K>);
 
-// Keys from all over x, as `in` maps them, in order: 15, or from 4096 keys on 63. How many.
+// Keys from all over x, as `in` maps them, in order: 16, or from 4096 keys on 64. How many.
 template <class K> size_t takeSample(const K* x, size_t n, KeyMap<K> in, K (&sample)[kMostSample<K>]) {
-  const size_t count = n < 4096 ? 15 : kMostSample<K>;
+  const size_t count = n < 4096 ? 16 : kMostSample<K>;
   const size_t stretch = n / count;
-  uint32_t random = static_cast<uint32_t>(n);
-  for (size_t i = 0; i < count; ++i) {
-    random = random * 1664525 + 1013904223;  // a fixed place in each stretch would meet whatever has its period
-    sample[i] = in.key(x[i * stretch + (uint64_t{random} * stretch >> 32)]);
+  // A fixed place in each stretch would meet whatever has its period: by the golden ratio the places go on without one, and none
+  // waits for the one before.
+  constexpr uint32_t kGolden = 2654435769;
+  auto fraction = static_cast<uint32_t>(n) * kGolden;
+  for (size_t i = 0; i < count; ++i, fraction += kGolden) {
+    sample[i] = in.key(x[i * stretch + (uint64_t{fraction} * stretch >> 32)]);
   }
   sortByNetwork(sample, count, {}, {});
   return count;
 }
 
-// The median of a sample, which of 63 keys is within 6 % of the middle in two of three vectors; and what x has often.
+// The median of a sample, which of 64 keys is within 6 % of the middle in two of three vectors; and what x has often.
 template <class K> [[gnu::noinline]] K pivotOf(const K* x, size_t n, KeyMap<K> in, Often<K>& often) {
   K sample[kMostSample<K>];
   const size_t count = takeSample(x, n, in, sample);

@@ -14,8 +14,8 @@ template <Order kOrder, class T> QvxStatus sort(T* srcDst, int len) {
 
 // Equal keys are equal bits, so a stable sort has no other result. This one needs no room to move elements through: it takes half
 // the time of three passes of 11 bits.
-template <Order kOrder, class T> QvxStatus sortStably(T* srcDst, const T* tmp, int len) {
-  const QvxStatus status = check(len, srcDst, tmp);
+template <Order kOrder, class T> QvxStatus sortStably(T* srcDst, const T* workspace, int len) {
+  const QvxStatus status = check(len, srcDst, workspace);
   if (status != qvxStatOk) return status;
   if constexpr (sizeof(T) >= 4) sortKeysInTeam(asKeys(srcDst), elements(len), keyMap<T>(kOrder));
   else sortKeys(asKeys(srcDst), elements(len), keyMap<T>(kOrder));
@@ -41,18 +41,18 @@ QvxStatus qvxsSortDescend_32s_I(Qvx32s* x, int len) { return sort<kDown>(x, len)
 QvxStatus qvxsSortDescend_32f_I(Qvx32f* x, int len) { return sort<kDown>(x, len); }
 QvxStatus qvxsSortDescend_64f_I(Qvx64f* x, int len) { return sort<kDown>(x, len); }
 
-QvxStatus qvxsSortRadixAscend_8u_I(Qvx8u* x, Qvx8u* tmp, int len) { return sortStably<kUp>(x, tmp, len); }
-QvxStatus qvxsSortRadixAscend_16s_I(Qvx16s* x, Qvx16s* tmp, int len) { return sortStably<kUp>(x, tmp, len); }
-QvxStatus qvxsSortRadixAscend_16u_I(Qvx16u* x, Qvx16u* tmp, int len) { return sortStably<kUp>(x, tmp, len); }
-QvxStatus qvxsSortRadixAscend_32s_I(Qvx32s* x, Qvx32s* tmp, int len) { return sortStably<kUp>(x, tmp, len); }
-QvxStatus qvxsSortRadixAscend_32u_I(Qvx32u* x, Qvx32u* tmp, int len) { return sortStably<kUp>(x, tmp, len); }
-QvxStatus qvxsSortRadixAscend_32f_I(Qvx32f* x, Qvx32f* tmp, int len) { return sortStably<kUp>(x, tmp, len); }
-QvxStatus qvxsSortRadixAscend_64f_I(Qvx64f* x, Qvx64f* tmp, int len) { return sortStably<kUp>(x, tmp, len); }
-QvxStatus qvxsSortRadixDescend_8u_I(Qvx8u* x, Qvx8u* tmp, int len) { return sortStably<kDown>(x, tmp, len); }
-QvxStatus qvxsSortRadixDescend_16s_I(Qvx16s* x, Qvx16s* tmp, int len) { return sortStably<kDown>(x, tmp, len); }
-QvxStatus qvxsSortRadixDescend_16u_I(Qvx16u* x, Qvx16u* tmp, int len) { return sortStably<kDown>(x, tmp, len); }
-QvxStatus qvxsSortRadixDescend_32s_I(Qvx32s* x, Qvx32s* tmp, int len) { return sortStably<kDown>(x, tmp, len); }
-QvxStatus qvxsSortRadixDescend_32u_I(Qvx32u* x, Qvx32u* tmp, int len) { return sortStably<kDown>(x, tmp, len); }
-QvxStatus qvxsSortRadixDescend_32f_I(Qvx32f* x, Qvx32f* tmp, int len) { return sortStably<kDown>(x, tmp, len); }
-QvxStatus qvxsSortRadixDescend_64f_I(Qvx64f* x, Qvx64f* tmp, int len) { return sortStably<kDown>(x, tmp, len); }
+QvxStatus qvxsSortRadixAscend_8u_I(Qvx8u* x, Qvx8u* workspace, int len) { return sortStably<kUp>(x, workspace, len); }
+QvxStatus qvxsSortRadixAscend_16s_I(Qvx16s* x, Qvx16s* workspace, int len) { return sortStably<kUp>(x, workspace, len); }
+QvxStatus qvxsSortRadixAscend_16u_I(Qvx16u* x, Qvx16u* workspace, int len) { return sortStably<kUp>(x, workspace, len); }
+QvxStatus qvxsSortRadixAscend_32s_I(Qvx32s* x, Qvx32s* workspace, int len) { return sortStably<kUp>(x, workspace, len); }
+QvxStatus qvxsSortRadixAscend_32u_I(Qvx32u* x, Qvx32u* workspace, int len) { return sortStably<kUp>(x, workspace, len); }
+QvxStatus qvxsSortRadixAscend_32f_I(Qvx32f* x, Qvx32f* workspace, int len) { return sortStably<kUp>(x, workspace, len); }
+QvxStatus qvxsSortRadixAscend_64f_I(Qvx64f* x, Qvx64f* workspace, int len) { return sortStably<kUp>(x, workspace, len); }
+QvxStatus qvxsSortRadixDescend_8u_I(Qvx8u* x, Qvx8u* workspace, int len) { return sortStably<kDown>(x, workspace, len); }
+QvxStatus qvxsSortRadixDescend_16s_I(Qvx16s* x, Qvx16s* workspace, int len) { return sortStably<kDown>(x, workspace, len); }
+QvxStatus qvxsSortRadixDescend_16u_I(Qvx16u* x, Qvx16u* workspace, int len) { return sortStably<kDown>(x, workspace, len); }
+QvxStatus qvxsSortRadixDescend_32s_I(Qvx32s* x, Qvx32s* workspace, int len) { return sortStably<kDown>(x, workspace, len); }
+QvxStatus qvxsSortRadixDescend_32u_I(Qvx32u* x, Qvx32u* workspace, int len) { return sortStably<kDown>(x, workspace, len); }
+QvxStatus qvxsSortRadixDescend_32f_I(Qvx32f* x, Qvx32f* workspace, int len) { return sortStably<kDown>(x, workspace, len); }
+QvxStatus qvxsSortRadixDescend_64f_I(Qvx64f* x, Qvx64f* workspace, int len) { return sortStably<kDown>(x, workspace, len); }
 // clang-format on

@@ -35,8 +35,8 @@ void sortNumbers(Strided<Qvx8u> src, Qvx32s* numbers, size_t n, KeyMap<int8_t> m
   for (size_t i = 0; i < n; ++i) numbers[next[map.key(src[i]) + 128]++] = static_cast<Qvx32s>(i);
 }
 
-template <Order kOrder, class T> QvxStatus sortRadixIndex(const T* src, int stride, Qvx32s* dstIndx, Qvx32s* tmpIndx, int len) {
-  const QvxStatus status = check(isStride<T>(stride) ? len : 0, src, dstIndx, tmpIndx);
+template <Order kOrder, class T> QvxStatus sortRadixIndex(const T* src, int stride, Qvx32s* dstIndx, Qvx32s* keys, int len) {
+  const QvxStatus status = check(isStride<T>(stride) ? len : 0, src, dstIndx, keys);
   if (status != qvxStatOk) return status;
   const size_t n = elements(len);
   const Strided<T> elements(src, stride);
@@ -44,9 +44,9 @@ template <Order kOrder, class T> QvxStatus sortRadixIndex(const T* src, int stri
   if constexpr (sizeof(T) == 1) {
     sortNumbers(elements, dstIndx, n, map);
   } else {
-    for (size_t i = 0; i < n; ++i) tmpIndx[i] = map.key(elements[i]);
+    for (size_t i = 0; i < n; ++i) keys[i] = map.key(elements[i]);
     fillNumbers(dstIndx, n);
-    sortPairs(tmpIndx, dstIndx, n);
+    sortPairs(keys, dstIndx, n);
   }
   return qvxStatOk;
 }
@@ -57,16 +57,16 @@ constexpr Order kDown = Order::kDescending;
 }  // namespace
 
 // clang-format off
-QvxStatus qvxsSortRadixIndexAscend_8u(const Qvx8u* src, int stride, Qvx32s* indx, Qvx32s* tmp, int len) { return sortRadixIndex<kUp>(src, stride, indx, tmp, len); }
-QvxStatus qvxsSortRadixIndexAscend_16s(const Qvx16s* src, int stride, Qvx32s* indx, Qvx32s* tmp, int len) { return sortRadixIndex<kUp>(src, stride, indx, tmp, len); }
-QvxStatus qvxsSortRadixIndexAscend_16u(const Qvx16u* src, int stride, Qvx32s* indx, Qvx32s* tmp, int len) { return sortRadixIndex<kUp>(src, stride, indx, tmp, len); }
-QvxStatus qvxsSortRadixIndexAscend_32s(const Qvx32s* src, int stride, Qvx32s* indx, Qvx32s* tmp, int len) { return sortRadixIndex<kUp>(src, stride, indx, tmp, len); }
-QvxStatus qvxsSortRadixIndexAscend_32u(const Qvx32u* src, int stride, Qvx32s* indx, Qvx32s* tmp, int len) { return sortRadixIndex<kUp>(src, stride, indx, tmp, len); }
-QvxStatus qvxsSortRadixIndexAscend_32f(const Qvx32f* src, int stride, Qvx32s* indx, Qvx32s* tmp, int len) { return sortRadixIndex<kUp>(src, stride, indx, tmp, len); }
-QvxStatus qvxsSortRadixIndexDescend_8u(const Qvx8u* src, int stride, Qvx32s* indx, Qvx32s* tmp, int len) { return sortRadixIndex<kDown>(src, stride, indx, tmp, len); }
-QvxStatus qvxsSortRadixIndexDescend_16s(const Qvx16s* src, int stride, Qvx32s* indx, Qvx32s* tmp, int len) { return sortRadixIndex<kDown>(src, stride, indx, tmp, len); }
-QvxStatus qvxsSortRadixIndexDescend_16u(const Qvx16u* src, int stride, Qvx32s* indx, Qvx32s* tmp, int len) { return sortRadixIndex<kDown>(src, stride, indx, tmp, len); }
-QvxStatus qvxsSortRadixIndexDescend_32s(const Qvx32s* src, int stride, Qvx32s* indx, Qvx32s* tmp, int len) { return sortRadixIndex<kDown>(src, stride, indx, tmp, len); }
-QvxStatus qvxsSortRadixIndexDescend_32u(const Qvx32u* src, int stride, Qvx32s* indx, Qvx32s* tmp, int len) { return sortRadixIndex<kDown>(src, stride, indx, tmp, len); }
-QvxStatus qvxsSortRadixIndexDescend_32f(const Qvx32f* src, int stride, Qvx32s* indx, Qvx32s* tmp, int len) { return sortRadixIndex<kDown>(src, stride, indx, tmp, len); }
+QvxStatus qvxsSortRadixIndexAscend_8u(const Qvx8u* src, int stride, Qvx32s* indx, Qvx32s* keys, int len) { return sortRadixIndex<kUp>(src, stride, indx, keys, len); }
+QvxStatus qvxsSortRadixIndexAscend_16s(const Qvx16s* src, int stride, Qvx32s* indx, Qvx32s* keys, int len) { return sortRadixIndex<kUp>(src, stride, indx, keys, len); }
+QvxStatus qvxsSortRadixIndexAscend_16u(const Qvx16u* src, int stride, Qvx32s* indx, Qvx32s* keys, int len) { return sortRadixIndex<kUp>(src, stride, indx, keys, len); }
+QvxStatus qvxsSortRadixIndexAscend_32s(const Qvx32s* src, int stride, Qvx32s* indx, Qvx32s* keys, int len) { return sortRadixIndex<kUp>(src, stride, indx, keys, len); }
+QvxStatus qvxsSortRadixIndexAscend_32u(const Qvx32u* src, int stride, Qvx32s* indx, Qvx32s* keys, int len) { return sortRadixIndex<kUp>(src, stride, indx, keys, len); }
+QvxStatus qvxsSortRadixIndexAscend_32f(const Qvx32f* src, int stride, Qvx32s* indx, Qvx32s* keys, int len) { return sortRadixIndex<kUp>(src, stride, indx, keys, len); }
+QvxStatus qvxsSortRadixIndexDescend_8u(const Qvx8u* src, int stride, Qvx32s* indx, Qvx32s* keys, int len) { return sortRadixIndex<kDown>(src, stride, indx, keys, len); }
+QvxStatus qvxsSortRadixIndexDescend_16s(const Qvx16s* src, int stride, Qvx32s* indx, Qvx32s* keys, int len) { return sortRadixIndex<kDown>(src, stride, indx, keys, len); }
+QvxStatus qvxsSortRadixIndexDescend_16u(const Qvx16u* src, int stride, Qvx32s* indx, Qvx32s* keys, int len) { return sortRadixIndex<kDown>(src, stride, indx, keys, len); }
+QvxStatus qvxsSortRadixIndexDescend_32s(const Qvx32s* src, int stride, Qvx32s* indx, Qvx32s* keys, int len) { return sortRadixIndex<kDown>(src, stride, indx, keys, len); }
+QvxStatus qvxsSortRadixIndexDescend_32u(const Qvx32u* src, int stride, Qvx32s* indx, Qvx32s* keys, int len) { return sortRadixIndex<kDown>(src, stride, indx, keys, len); }
+QvxStatus qvxsSortRadixIndexDescend_32f(const Qvx32f* src, int stride, Qvx32s* indx, Qvx32s* keys, int len) { return sortRadixIndex<kDown>(src, stride, indx, keys, len); }
 // clang-format on

@@ -154,6 +154,49 @@ TEST(Multirate, InPlaceIsOutOfPlaceToTheBit) {
   }
 }
 
+// What a record still holds of samples long gone, or past those of a call, must not come in even by a product with zero.
+template <class T, class Init, class Filter, class Free>
+void expectFiniteElsewhere(const Case& c, Init init, Filter filter, Free free) {
+  Random random(seed());
+  const Factors& f = c.factors;
+  const std::vector<T> taps(static_cast<size_t>(c.tapsLen), T(0.5));
+  std::vector<T> x(2000, T(1));
+  const int infinite = 200 + static_cast<int>(random() % 400);
+  x[static_cast<size_t>(infinite)] = std::numeric_limits<T>::infinity();
+  auto* state = init(taps);
+  for (int done = 0; !testing::Test::HasFailure();) {
+    const int groups = 1 + static_cast<int>(random() % (random() % 8 == 0 ? 70 : 8));
+    if ((done + groups) * f.down > 2000) break;
+    std::vector<T> y(static_cast<size_t>(groups * f.up));
+    EXPECT_EQ(filter(x.data() + done * f.down, y.data(), groups, state), qvxStatOk);
+    for (size_t j = 0; j < y.size(); ++j) {
+      const int tap = f.down * (done * f.up + static_cast<int>(j)) + f.downPhase - (f.up * infinite + f.upPhase);
+      if (tap >= 0 && tap < c.tapsLen) EXPECT_FALSE(std::isfinite(y[j])) << describe("tap ", c) << tap;
+      // A phase may have a tap more than the filter, of zero.
+      if (tap < 0 || tap >= c.tapsLen + f.up) EXPECT_TRUE(std::isfinite(y[j])) << describe("tap ", c) << tap;
+    }
+    done += groups;
+  }
+  EXPECT_EQ(free(state), qvxStatOk);
+}
+
+TEST(Multirate, OfAnInfiniteSampleIsFiniteElsewhere) {
+  const Case kCases[] = {{16, {1, 0, 8, 0}}, {20, {1, 0, 4, 1}}, {33, {2, 1, 3, 0}}, {7, {1, 0, 2, 0}}, {90, {3, 2, 5, 4}}};
+  for (const Case& c : kCases) {
+    const Factors& f = c.factors;
+    const auto with = [&](auto alloc, auto filter, auto free, auto* state, auto zero) {
+      using T = decltype(zero);
+      const auto init = [&](const std::vector<T>& h) {
+        EXPECT_EQ(alloc(&state, h.data(), c.tapsLen, f.up, f.upPhase, f.down, f.downPhase, nullptr), qvxStatOk);
+        return state;
+      };
+      expectFiniteElsewhere<T>(c, init, filter, free);
+    };
+    with(qvxsFIRMRInitAlloc_32f, qvxsFIR_32f, qvxsFIRFree_32f, static_cast<QvxsFIRState_32f*>(nullptr), Qvx32f());
+    with(qvxsFIRMRInitAlloc_64f, qvxsFIR_64f, qvxsFIRFree_64f, static_cast<QvxsFIRState_64f*>(nullptr), Qvx64f());
+  }
+}
+
 // ---- sizes
 
 struct Size {
