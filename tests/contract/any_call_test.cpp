@@ -103,7 +103,7 @@ TEST_F(EveryCall, DependsOnItsArgumentsAlone) {
 
 // Alone and with all that is looked at after it, each argument that is wrong gives its own status, and leaves no trace.
 TEST_F(EveryCall, ChecksItsArgumentsInOrder) {
-  constexpr int kDraws = 5;
+  const int draws = std::min(5, calls());
   for (const Export& e : tests::exportTable()) {
     if (!e.call) continue;
     const std::vector<Wrong> wrongs = tests::Wrongs(e).all;
@@ -118,9 +118,11 @@ TEST_F(EveryCall, ChecksItsArgumentsInOrder) {
         const QvxStatus status = call.run(), wanted = count == 0 ? qvxStatOk : wrongs[from].status;
         if (count == 0) return status >= 0 || e.contains("IIRSetTaps32s");  // which report a mismatch whatever they do
         const bool isRight = wanted == qvxStatOk ? status >= 0 || count > 1 : status == wanted;
-        const std::string what = e.parameters[wrongs[from].index].name + " wrong" + (count > 1 ? ", and all after it" : "") +
-                                 ", status " + std::to_string(status) + ", not " + std::to_string(wanted);
-        expect(isRight, what.c_str(), call);
+        if (!isRight) {
+          const std::string what = e.parameters[wrongs[from].index].name + " wrong" + (count > 1 ? ", and all after it" : "") +
+                                   ", status " + std::to_string(status) + ", not " + std::to_string(wanted);
+          expect(false, what.c_str(), call);
+        }
         expect(call.isIntact() && (status >= 0 || call.wroteNothing()), "wrote in spite of an error", call);
         expect(status >= 0 || allocator.live == live, "kept memory", call);
         if (e.contains("InitAlloc")) expect(status >= 0 || call.leadsNowhere(), "leads to released memory", call);
@@ -129,7 +131,7 @@ TEST_F(EveryCall, ChecksItsArgumentsInOrder) {
       return true;
     };
     int drawn = 0;
-    for (uint64_t seed = 1; seed < 100 && drawn < kDraws && failures_.empty(); ++seed) {
+    for (uint64_t seed = 1; seed < 100 && drawn < draws && failures_.empty(); ++seed) {
       const Choices choices(seed);
       if (!expectRefused(choices, 0, 0, 0)) continue;  // refused as it was drawn
       ++drawn;
@@ -165,10 +167,10 @@ TEST_F(EveryCall, RefusesTheRecordsOfOthers) {
     const auto [type, index] = recordType(e);
     if (type.empty() || e.contains("IIRSetTaps32sc_16sc")) continue;  // which takes another's
     if (e.contains("FIRLMSFree")) continue;                           // which does not look
+    memory_.reuse();
+    AnyCall call(e, Choices(1), memory_, {-1, 0x5A, false, 3});
     for (const auto& [other, record] : records) {
       if (other == (type == "QvxsFIRState_32s" ? "QvxsFIRState64f_32s" : type)) continue;
-      memory_.reuse();
-      AnyCall call(e, Choices(1), memory_, {-1, 0x5A, false, 3});
       call.setRecord(index, record);
       EXPECT_TRUE(call.run() == qvxStatContextMismatch && call.wroteNothing()) << e.name << " takes " << other;
     }
@@ -292,7 +294,7 @@ TEST_F(EveryCall, ElementsDoNotKnowTheirPlace) {
       for (size_t at = 0; at < static_cast<size_t>(length) && failures_.empty(); ++at) {
         const QvxStatus now = one.run(at);
         if (first == qvxStatOk) first = now;
-        expect(one.agrees(), ("another result for element " + std::to_string(at)).c_str(), whole);
+        if (!one.agrees()) expect(false, ("another result for element " + std::to_string(at)).c_str(), whole);
       }
       expect(first == status, "another status", whole);
     }

@@ -151,10 +151,15 @@ template <class H, class T> struct FloatOracle {
     for (size_t k = 0; k < taps.size(); ++k) {
       const auto h = exactParts(taps[k]);
       const auto x = exactParts(newest[-static_cast<ptrdiff_t>(k)]);
-      re += h[0] * x[0] - h[1] * x[1];
-      im += h[0] * x[1] + h[1] * x[0];
-      size += std::abs(h[0]) + std::abs(h[1]);
-      most = std::max({most, std::abs(x[0]), std::abs(x[1])});
+      re += h[0] * x[0];
+      size += std::abs(h[0]);
+      most = std::max(most, std::abs(x[0]));
+      if constexpr (isComplex<T>) {
+        re -= h[1] * x[1];
+        im += h[0] * x[1] + h[1] * x[0];
+        size += std::abs(h[1]);
+        most = std::max(most, std::abs(x[1]));
+      }
     }
     const auto parts = partsOf(y);
     const long double error = 2 * kEpsilon * size * most;

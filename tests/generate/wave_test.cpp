@@ -24,9 +24,9 @@ Real triangleAt(Real turns, Real asym) {
   const Real theta = 2 * kPi * turns, fall = kPi + asym, rise = kPi - asym;
   return theta < fall ? 1 - 2 * theta / fall : (theta - fall) * 2 / rise - 1;
 }
-template <class T> void expectSample(T y, Real exact, Real error, const std::string& where) {
-  if constexpr (std::is_integral_v<T>) ASSERT_LE(std::abs(y - exact), 0.5L + error) << where;
-  else ASSERT_LE(std::abs(y - exact), error) << where;
+template <class T, class... Where> void expectSample(T y, Real exact, Real error, const Where&... where) {
+  if constexpr (std::is_integral_v<T>) error += 0.5L;
+  ASSERT_LE(std::abs(y - exact), error) << (testing::Message() << ... << where);
 }
 
 constexpr double kFrequencies[] = {0, 1e-7, 0.001, 0.01234567, 0.125, 0.25, 0.3333, 0.49999};
@@ -48,8 +48,7 @@ template <class T, class Phase, class Run> void expectTone(Run run, double magn,
           for (int k = 0; k < 1 + kIsComplex; ++k) {
             const Part<T> sample = parts[(1 + kIsComplex) * n + k];
             worst = std::max(worst, static_cast<double>(std::abs(sample - values[k]) / magn));
-            expectSample(sample, values[k], error * magn,
-                         std::to_string(f) + ", length " + std::to_string(len) + ", sample " + std::to_string(n));
+            expectSample(sample, values[k], error * magn, f, ", length ", len, ", sample ", n);
           }
         }
         const Real left = 2 * kPi * turnsAt(len, rFreq, start), apart = std::abs(phase - left);
@@ -132,9 +131,8 @@ template <class T, class Phase, class Run> void expectTriangle(Run run, double m
             ASSERT_LE(std::abs(static_cast<double>(sample)), magn);
             worst =
                 std::max(worst, static_cast<double>(std::abs(sample - exact) / magn / (flat + (steep + n * 0x1p-62) * slope)));
-            expectSample(sample, exact, magn * (flat + (steep + n * 0x1p-62) * slope),
-                         std::to_string(f) + ", asymmetry " + std::to_string(a) + ", length " + std::to_string(len) +
-                             ", sample " + std::to_string(n));
+            expectSample(sample, exact, magn * (flat + (steep + n * 0x1p-62) * slope), f, ", asymmetry ", a, ", length ", len,
+                         ", sample ", n);
           }
         }
       }

@@ -19,13 +19,18 @@ inline Exact rootOfUnity(size_t x, size_t n) {
 }
 
 namespace detail {
+// The operator asks each product of finite numbers whether it is one of infinities.
+inline Exact product(const Exact& x, const Exact& y) {
+  return {x.real() * y.real() - x.imag() * y.imag(), x.real() * y.imag() + x.imag() * y.real()};
+}
+
 // roots: those of the whole transform, `step` apart.
 inline std::vector<Exact> dft(const std::vector<Exact>& x, const std::vector<Exact>& roots, size_t step) {
   const size_t n = x.size();
   std::vector<Exact> result(n);
-  if (n <= 16 || n % 2 != 0) {
+  if (n <= 4 || n % 2 != 0) {
     for (size_t k = 0; k < n; ++k) {
-      for (size_t i = 0; i < n; ++i) result[k] += x[i] * roots[i * k % n * step];
+      for (size_t i = 0; i < n; ++i) result[k] += product(x[i], roots[i * k % n * step]);
     }
     return result;
   }
@@ -35,7 +40,7 @@ inline std::vector<Exact> dft(const std::vector<Exact>& x, const std::vector<Exa
   even = dft(even, roots, 2 * step);
   odd = dft(odd, roots, 2 * step);
   for (size_t k = 0; k < n / 2; ++k) {
-    const Exact turned = roots[k * step] * odd[k];
+    const Exact turned = product(roots[k * step], odd[k]);
     result[k] = even[k] + turned;
     result[k + n / 2] = even[k] - turned;
   }
@@ -49,12 +54,18 @@ inline size_t largestPrimeFactor(size_t n) {
   return largest;
 }
 
-// sum of x[n] exp(sign 2 pi i n k / N) for all k; even lengths above 16 by the sums over the even and the odd elements.
+// sum of x[n] exp(sign 2 pi i n k / N) for all k; even lengths above 4 by the sums over the even and the odd elements.
 inline std::vector<Exact> dft(const std::vector<Exact>& x, int sign) {
-  std::vector<Exact> roots;
-  for (size_t k = 0; k < x.size(); ++k) {
-    const Exact root = rootOfUnity(k, x.size());
-    roots.push_back(sign < 0 ? std::conj(root) : root);
+  const size_t n = x.size();
+  const Exact quarter(0, sign);
+  std::vector<Exact> roots(n);
+  for (size_t k = 0; k < n; ++k) {
+    if (n % 4 == 0 && k >= n / 4) {
+      roots[k] = detail::product(quarter, roots[k - n / 4]);
+      continue;
+    }
+    const Exact root = rootOfUnity(k, n);
+    roots[k] = sign < 0 ? std::conj(root) : root;
   }
   return detail::dft(x, roots, 1);
 }

@@ -256,10 +256,11 @@ inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, 
   const size_t part = type.bytes;
   const bool isTame = traits_.is("tame");
   const uint64_t style = choices.bits(1);
+  const double scale = std::ldexp(1, -63 + (isTame ? 0 : static_cast<int>(style & 15)));
   for (size_t i = 0; i + part <= bytes; i += part) {
     const uint64_t bits = choices.bits();
     if (type.isFloat) {
-      double x = std::ldexp(static_cast<double>(static_cast<int64_t>(bits)), -63 + (isTame ? 0 : static_cast<int>(style & 15)));
+      double x = static_cast<double>(static_cast<int64_t>(bits)) * scale;
       if (!isTame && (bits & 3) == 0) x = std::trunc(x) + 0.5;
       if (!isTame && style >= 128 && (bits & 28) == 4) {
         constexpr double kSpecial[] = {INFINITY, -INFINITY, NAN, -0.0, 0, 1e-40, 3e38, -1e-310};
