@@ -33,8 +33,11 @@ template <class T> class Three {
     constexpr Lanes<T, L> d;
     const V one = same<V>(T(1));
     V marks = hn::Zero(d);
+    // Masks that are vectors are added up as they are. Masks of their own would take the port of the minima for it.
     const auto mark = [&](V v) __attribute__((always_inline)) {
-      if constexpr (kMayNeedKeys) marks = hn::IfThenElse(areNanOrMinusZero(v), one, marks);
+      if constexpr (!kMayNeedKeys) return;
+      else if constexpr (kHasMasks) marks = hn::IfThenElse(areNanOrMinusZero(v), one, marks);
+      else marks = hn::Or(marks, hn::VecFromMask(d, areNanOrMinusZero(v)));
     };
     Vectors<L, M> out;
     unrolled<M>([&](auto v) __attribute__((always_inline)) {
@@ -47,7 +50,7 @@ template <class T> class Three {
       if (isFirst && v == 0) mark(low);
       out[v] = middle(low, mid, high);
     });
-    if constexpr (kMayNeedKeys) needsKeys = !hn::AllFalse(d, marks == one);
+    if constexpr (kMayNeedKeys) needsKeys = !hn::AllFalse(d, kHasMasks ? marks == one : hn::MaskFromVec(marks));
     return out;
   }
   template <size_t L> [[gnu::noinline, gnu::cold]] static Vec<Lanes<T, L>> mediansByKeys(const T* window) {
