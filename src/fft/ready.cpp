@@ -57,7 +57,7 @@ template <class T, size_t kPoints> constexpr size_t twiddlesOf() {
     rows = kPoints / kRowRadix<L>;
     count = rows * (kRowRadix<L> - 1);
   });
-  const Levels levels = levelsFor(rows);
+  const Levels levels = passLevels(rows);
   for (size_t level = 0; level + 1 < levels.count; ++level) {
     const size_t radix = levels.radix[level];
     count += rows / radix * (radix - 1);
@@ -93,7 +93,7 @@ template <class T, size_t kPoints> constexpr ComplexPlan<T> readyPlan(int64_t wo
   if (foldOf<T>(kPoints) == Fold::kHalves) return plan;
   withLanes<T>(kPoints, [&](auto L) {
     plan.plan.rows = static_cast<uint32_t>(kPoints / kRowRadix<L>);
-    plan.plan.levels = levelsFor(plan.plan.rows);
+    plan.plan.levels = passLevels(plan.plan.rows);
     plan.plan.levelTwiddles = plan.plan.rowTwiddles + 2 * plan.plan.rows * (kRowRadix<L> - 1);
   });
   return plan;

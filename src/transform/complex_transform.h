@@ -56,7 +56,7 @@ constexpr T* writePassesAt(Plan<T>& plan, size_t n, T* row, Write write = {}) {
   T* end = row;
   withLanes<T>(n, [&](auto L) {
     plan.rows = static_cast<uint32_t>(n / kRowRadix<L>);
-    plan.levels = levelsFor(plan.rows);
+    plan.levels = passLevels(plan.rows);
     T* const levels = writeRowTwiddles<L, LaneOrder>(plan.rows, row, write);
     plan.levelTwiddles = levels;
     end = writeLevelTwiddles(plan.levels, plan.rows, levels, write);
@@ -106,6 +106,14 @@ template <class T, class Src, class Dst, class Scale>
       break;
     case Fold::kNone:
       break;
+  }
+  if constexpr (kHasMasks && kIsInterleaved<Src>) {
+    const T* const row = plan.plan.rowTwiddles;
+    const T* const inner = plan.plan.levelTwiddles;
+    if (src.p != dst.p && reinterpret_cast<uintptr_t>(dst.p) % kVectorBytes == 0) {
+      if (plan.plan.rows == 128) return passesInDestination<8, 16, L>(src, dst, row, inner, scale);
+      if (plan.plan.rows == 256) return passesInDestination<16, 16, L>(src, dst, row, inner, scale);
+    }
   }
   withLanes<T>(plan.n, [&](auto L) { runPasses<L>(plan.plan, src, dst, y, scale); });
 }

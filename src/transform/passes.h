@@ -141,11 +141,21 @@ template <class V> QVX_INLINE void storeHalves(V v, LaneOf<V>* low, LaneOf<V>* h
   store(hn::UpperHalf(half, v), half, high);
 }
 
+// Where the row pass writes its rows: one after another, or, of A * B rows, row q + B * m as row q * A + m.
+struct InOrder {
+  constexpr size_t base(size_t j) const { return j; }
+  static constexpr size_t offset(size_t i) { return i; }
+};
+template <size_t A, size_t B> struct Exchanged {
+  constexpr size_t base(size_t j) const { return j % B * A + j / B; }
+  static constexpr size_t offset(size_t i) { return i % B * A + i / B; }
+};
+
 // twiddles: for each L rows and each k = 1..R-1 a group of exp(-2 pi i j k / N), its lanes in the order of the source's elements.
 // Results are multiplied by them, transposed and stored a few at a time, so that permutations find multiplications beside them:
 // all after one another take 1.4 times as long.
-template <size_t L, class T, class Src>
-[[gnu::noinline]] void rowPass(Src src, T* y, size_t rows, const T* twiddles, size_t from, size_t to) {
+template <size_t L, class T, class Src, class Place = InOrder>
+[[gnu::noinline]] void rowPass(Src src, T* y, size_t rows, const T* twiddles, size_t from, size_t to, Place place = {}) {
   constexpr size_t R = kRowRadix<L>;
   constexpr size_t kBlock = std::min(L, 16 / sizeof(T));
   constexpr size_t kBlocks = L / kBlock;
@@ -169,7 +179,7 @@ template <size_t L, class T, class Src>
       transposeInBlocks(im);
     };
     const auto placeOf = [&](size_t block, size_t w, size_t first) __attribute__((always_inline)) {
-      return y + ((j + element(block * kBlock + w)) * (R / L) + first / L) * 2 * L + first % L;
+      return y + ((place.base(j) + place.offset(element(block * kBlock + w))) * (R / L) + first / L) * 2 * L + first % L;
     };
     if constexpr (kBlocks == 4) {
       unrolled<R / kBlock / 2>([&](auto pair) __attribute__((always_inline)) {
@@ -245,6 +255,34 @@ template <size_t R, size_t L, class T, class Dst, class Scale>
         dst.template put<L>(scale(x[m]), ((at + step * (b + count * m)) * W + column) * L);
       });
     }
+  }
+}
+
+// The three passes of A * B rows in the destination, each in the rows where it finds its points: the row pass exchanges them, so
+// that the inner pass works on A neighbours, and the last one on B rows A apart, which are where its results belong. Without a
+// work array 2^10 and 2^11 complex doubles, 2^11 and 2^12 floats take 0.83 to 0.87 of the time, since the nearest cache holds
+// all of it or more of it.
+template <size_t A, size_t B, size_t L, class T, class Src, class Dst, class Scale>
+[[gnu::noinline]] void passesInDestination(Src src, Dst dst, const T* rowTwiddles, const T* innerTwiddles, Scale scale) {
+  using V = Vec<Lanes<T, L>>;
+  T* const y = dst.p;
+  rowPass<L>(src, y, A * B, rowTwiddles, 0, A * B, Exchanged<A, B>());
+  const T* w = innerTwiddles;
+  for (size_t row = 0; row < A * B; row += A, w += (A - 1) * 2) {
+    T* const p = y + row * 2 * L;
+    Complex<V> x[A];
+    unrolled<A>([&](auto m) __attribute__((always_inline)) { x[m] = group<L>(p + m * 2 * L); });
+    dft(x);
+    putGroup<L>(x[0], p);
+    unrolled<A - 1>([&](auto m) __attribute__((always_inline)) {
+      putGroup<L>(product(x[m + 1], w[2 * m], w[2 * m + 1]), p + (m + 1) * 2 * L);
+    });
+  }
+  for (size_t row = 0; row < A; ++row) {
+    Complex<V> x[B];
+    unrolled<B>([&](auto m) __attribute__((always_inline)) { x[m] = group<L>(y + (row + A * m) * 2 * L); });
+    dft(x);
+    unrolled<B>([&](auto m) __attribute__((always_inline)) { dst.template put<L>(scale(x[m]), (row + A * m) * L); });
   }
 }
 

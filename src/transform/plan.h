@@ -48,6 +48,9 @@ constexpr Levels levelsFor(size_t rows) {
   return levels;
 }
 
+// Of the passes in a work array: two of 16 for 256 rows take 0.92 of the time of three where they do not go by tiles.
+constexpr Levels passLevels(size_t rows) { return kHasMasks && rows == 256 ? Levels{2, {16, 16}} : levelsFor(rows); }
+
 // A transform of rows * kRowRadix<L> points.
 template <class T> struct Plan {
   const T* rowTwiddles;
