@@ -244,7 +244,7 @@ bool placeSamples(R& record, Carver& carver, const Qvx8u* begin, int64_t bytes, 
   const int64_t lineBytes = lineAlone.rest() - carver.rest() + Carver::kLine;
   const int64_t used = std::min<int64_t>(record.block, longest);
   Carver withLine = carver;
-  if (!placeRows(record, withLine, begin, bytes - lineBytes, branches) || record.block < used - used / 8) {
+  if (!placeRows(record, withLine, begin, bytes - lineBytes, branches) || record.block < used - used / 6) {
     record.line = nullptr;
     return placeRows(record, carver, begin, bytes, branches);
   }

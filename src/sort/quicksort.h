@@ -122,9 +122,10 @@ template <class K> void quicksort(K* x, size_t n, KeyMap<K> in, KeyMap<K> out) {
   alignas(64) K buffer[kSortBuffer<K>];
   Quicksort<K>(out, buffer).sort(x, n, in);
 }
-// A whole vector.
+// A whole vector, which is often in order already, or in reverse.
 template <class K> void quicksort(K* x, size_t n, KeyMap<K> map) {
-  if (n > 0 && n <= kFewElements && areInOrder(x, n, map)) return;
+  if (n == 0 || areInOrder<Order::kAscending>(x, n, map)) return;
+  if (n > kNetworkKeys<K> && areInOrder<Order::kDescending>(x, n, map)) return std::reverse(x, x + n);
   quicksort(x, n, map, map);
 }
 

@@ -39,7 +39,7 @@ void sortRowOfBytes(int8_t* x, size_t n, KeyMap<int8_t> map) {
 }
 
 void sortFewBytes(int8_t* x, size_t n, KeyMap<int8_t> map) {
-  if (n > 0 && n <= kFewElements && areInOrder(x, n, map)) return;
+  if (n == 0 || areInOrder<Order::kAscending>(x, n, map)) return;
   if (n <= kRowLanes<int16_t>) return sortRowOfBytes(x, n, map);
   constexpr size_t N = kVectorBytes / sizeof(int16_t);
   const Lanes<int16_t, N> d;

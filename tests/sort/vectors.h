@@ -11,10 +11,26 @@
 
 namespace tests {
 
-enum class Pattern { kRandom, kWide, kFew, kMostlyFew, kOne, kSorted, kReversed, kSaw, kPipe, kKiller, kExtremes, kNarrow };
-inline constexpr Pattern kPatterns[] = {Pattern::kRandom, Pattern::kWide,   Pattern::kFew,      Pattern::kMostlyFew,
-                                        Pattern::kOne,    Pattern::kSorted, Pattern::kReversed, Pattern::kSaw,
-                                        Pattern::kPipe,   Pattern::kKiller, Pattern::kExtremes, Pattern::kNarrow};
+enum class Pattern {
+  kRandom,
+  kWide,
+  kFew,
+  kMostlyFew,
+  kOne,
+  kSorted,
+  kReversed,
+  kSaw,
+  kPipe,
+  kKiller,
+  kExtremes,
+  kNarrow,
+  kLastLeast,
+  kLastMost
+};
+inline constexpr Pattern kPatterns[] = {Pattern::kRandom,    Pattern::kWide,    Pattern::kFew,      Pattern::kMostlyFew,
+                                        Pattern::kOne,       Pattern::kSorted,  Pattern::kReversed, Pattern::kSaw,
+                                        Pattern::kPipe,      Pattern::kKiller,  Pattern::kExtremes, Pattern::kNarrow,
+                                        Pattern::kLastLeast, Pattern::kLastMost};
 
 template <class T> T ofBits(uint64_t bits) {
   T x;
@@ -45,6 +61,12 @@ template <class T> std::vector<T> vectorOf(Pattern pattern, size_t n, Random& ra
         break;
       case Pattern::kReversed:
         x[i] = static_cast<T>(n - i);
+        break;
+      case Pattern::kLastLeast:
+        x[i] = static_cast<T>((i + 1) % n);
+        break;
+      case Pattern::kLastMost:
+        x[i] = static_cast<T>(i + 1 == n ? n : n - i - 1);
         break;
       case Pattern::kSaw:
         x[i] = static_cast<T>(i % 37);
