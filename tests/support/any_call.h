@@ -251,30 +251,45 @@ inline uint8_t* AnyCall::vector(size_t bytes, Role role, size_t index, const Fil
 }
 
 // Numbers that are small, large, extreme, between two others or none.
-inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, Choices& choices) {
-  const PartType type(parameter.pointee());
-  const size_t part = type.bytes;
-  const bool isTame = traits_.is("tame");
+template <class T> void drawNumbers(T* p, size_t count, bool isTame, Choices& choices) {
   const uint64_t style = choices.bits(1);
   const double scale = std::ldexp(1, -63 + (isTame ? 0 : static_cast<int>(style & 15)));
-  for (size_t i = 0; i + part <= bytes; i += part) {
+  for (size_t i = 0; i < count; ++i) {
     const uint64_t bits = choices.bits();
-    if (type.isFloat) {
+    if constexpr (std::is_floating_point_v<T>) {
       double x = static_cast<double>(static_cast<int64_t>(bits)) * scale;
       if (!isTame && (bits & 3) == 0) x = std::trunc(x) + 0.5;
       if (!isTame && style >= 128 && (bits & 28) == 4) {
         constexpr double kSpecial[] = {INFINITY, -INFINITY, NAN, -0.0, 0, 1e-40, 3e38, -1e-310};
         x = kSpecial[bits >> 5 & 7];
       }
-      type.put(p + i, x);
-      continue;
+      p[i] = static_cast<T>(x);
+    } else {
+      uint64_t v = style % 3 == 0 ? static_cast<uint64_t>(static_cast<int64_t>(bits) >> (bits & 31) >> 30) : bits;
+      if ((bits & 15) == 3) v = uint64_t{1} << (8 * sizeof(T) - 1);
+      if ((bits & 15) == 5) v = (uint64_t{1} << (8 * sizeof(T) - 1)) - 1;
+      if ((bits & 15) == 7) v = 0;
+      p[i] = static_cast<T>(v);
     }
-    uint64_t v = style % 3 == 0 ? static_cast<uint64_t>(static_cast<int64_t>(bits) >> (bits & 31) >> 30) : bits;
-    if ((bits & 15) == 3) v = uint64_t{1} << (8 * part - 1);
-    if ((bits & 15) == 5) v = (uint64_t{1} << (8 * part - 1)) - 1;
-    if ((bits & 15) == 7) v = 0;
-    std::memcpy(p + i, &v, part);
   }
+}
+
+inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, Choices& choices) {
+  const PartType type(parameter.pointee());
+  const size_t part = type.bytes;
+  // Longer vectors repeat what is drawn: a prime number, so that no slice or block is like another.
+  constexpr size_t kMost = 1021;
+  alignas(8) uint8_t drawn[8 * kMost];
+  const size_t count = std::min(bytes / part, kMost);
+  const auto draw = [&](auto number) {
+    using T = decltype(number);
+    drawNumbers(reinterpret_cast<T*>(drawn), count, traits_.is("tame"), choices);
+  };
+  if (type.isFloat) part == 4 ? draw(float()) : draw(double());
+  else if (part <= 2) part == 1 ? draw(uint8_t()) : draw(uint16_t());
+  else part == 4 ? draw(uint32_t()) : draw(uint64_t());
+  const size_t whole = bytes / part * part;
+  for (size_t at = 0; at < whole; at += count * part) std::memcpy(p + at, drawn, std::min(count * part, whole - at));
   const auto found = traits_.fills.find(parameter.name);
   const std::string how = found == traits_.fills.end() ? "" : found->second;
   if (how == "sorted") std::sort(reinterpret_cast<uint16_t*>(p), reinterpret_cast<uint16_t*>(p + bytes));
