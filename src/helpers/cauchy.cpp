@@ -49,10 +49,8 @@ struct HalfLogarithm {
 // What floats can do: the caller's C, and squares and sums of squares far from overflow. Elements beyond are taken one by one.
 bool isNear(Qvx32f c) { return kFuses && c >= 0x1p-30F && c <= 0x1p30F; }
 constexpr float kMostNear = 0x1p120F;
-constexpr auto kFarBits = std::bit_cast<uint32_t>(kMostNear);
 
-// ln(1 + u) / 2 in floats, u = (x / C)^2 = x * (b + bRest), which is rounded once. What the rounding of 1 + u takes goes into the
-// logarithm.
+// ln(1 + u) / 2 in floats, u = (x / C)^2 = x * (b + bRest): 1 + u is rounded, and what that takes goes into the logarithm.
 struct NearHalfLogarithm {
   float c;
   float square, squareRest;  // their sum is 1 / C^2
@@ -67,17 +65,15 @@ struct NearHalfLogarithm {
     const V one = same<V>(1);
     const V b = x * same<V>(square);
     const V bRest = hn::MulAdd(x, same<V>(squareRest), hn::MulSub(x, same<V>(square), b));
-    const V u = hn::MulAdd(x, b, x * bRest);
-    const V w = one + u;
-    // w - 1 is exact up to 2^24; beyond, the rest is less than the logarithm's last place.
-    const V y = halfLnOfSum(w, u - (w - one));
-    // Products that overflow may have made u negative: as an unsigned number that is far, too.
-    const auto bits = as<uint32_t>(u);
-    const auto isFar = bits > same<std::remove_const_t<decltype(bits)>>(kFarBits - 1);
-    const uint64_t far = maskBits(TagOf<decltype(bits)>(), isFar);
-    if (HWY_LIKELY(far == 0)) return y;
+    const V w = hn::MulAdd(x, b, one);
+    // 1 - w is exact up to 2^24; beyond, the rest is less than the logarithm's last place.
+    const V y = halfLnOfSum(w, hn::MulAdd(x, bRest, hn::MulAdd(x, b, one - w)));
+    const TagOf<V> d;
+    const auto isNear = w < same<V>(kMostNear);
+    if (HWY_LIKELY(hn::AllTrue(d, isNear))) return y;
     return redone(
-        far, y, [c = double{c}](float v) { return static_cast<float>(std::log1p((v / c) * (v / c)) / 2); }, x);
+        maskBits(d, hn::Not(isNear)), y,
+        [c = double{c}](float v) { return static_cast<float>(std::log1p((v / c) * (v / c)) / 2); }, x);
   }
 };
 
@@ -102,14 +98,15 @@ template <class V> V estimate(V s) {
 }
 
 // The same in floats, of two vectors. An estimate r of 1 / (C^2 + x^2) makes the quotient f = x r; it is corrected by what 1 is
-// more than r C^2 + f x. Of the rounding of f that takes part back: the error is below 1.6 ULP.
+// more than r C^2 + f x. Of the rounding of f that takes part back: the error is below 1.6 ULP. Where C^2 is a float, or off by
+// at most 1/4 of what a float's rounding may come to, one of the vectors takes the divider in the meantime: 1.75 ULP.
 template <bool kExactSquare> struct NearDerivative {
   float c;
   float square, squareRest;  // their sum is C^2
 
   template <class V> Pair<V> operator()(Pair<V> x) const {
     const Pair<V> s = each(x, [this](V v) { return hn::MulAdd(v, v, same<V>(square)); });
-    const Pair<V> y = {quotient(x.lo, s.lo), quotient(x.hi, s.hi)};
+    const Pair<V> y = {kExactSquare && kHasMasks ? x.lo / s.lo : quotient(x.lo, s.lo), quotient(x.hi, s.hi)};
     const TagOf<V> d;
     const auto isFar = [d](V sum) { return maskBits(d, hn::Not(sum < same<V>(kMostNear))); };
     const auto areNear = hn::And(s.lo < same<V>(kMostNear), s.hi < same<V>(kMostNear));
@@ -178,7 +175,8 @@ QvxStatus qvxsCauchyD_32f_I(Qvx32f* p, int len, Qvx32f c) {
     const float square = c * c;
     const auto rest = static_cast<float>(double{c} * c - double{square});
     const auto in = [&](auto kernel) { return loop(kernel, InTwos{destination(p)}, elements(len), InTwos{source(p)}); };
-    return rest == 0 ? in(NearDerivative<true>{c, square, rest}) : in(NearDerivative<false>{c, square, rest});
+    return std::abs(rest) <= 0x1p-26F * square ? in(NearDerivative<true>{c, square, rest})
+                                               : in(NearDerivative<false>{c, square, rest});
   }
   return loop<double>(Derivative{squareOf(c)}, destination(p), elements(len), source(p));
 }
