@@ -134,8 +134,8 @@ QVXS_API(QvxStatus, qvxsToneFree, (QvxsToneState* pState));
 /** A triangle wave: from magn at phase 0 straight down to -magn at phase pi + asym, straight up to magn at 2 pi. The imaginary part of
  *  complex elements is the same wave a quarter of a period later. magn above 0; rFreq in [0, 0.5); asym in [-pi, pi); *pPhase in
  *  [0, 2 pi). Each sample comes from its own phase, so that nothing accumulates, and lies within magn. The error is below
- *  magn * (2^-23 + 2^-22 s), s = pi / (pi - |asym|), by which the steeper slope exceeds that of a symmetric wave (64f, 64fc:
- *  magn * (2^-50 + 2^-50 s + n 2^-62 s), since rFreq counts to 2^-64). Integers are rounded from doubles, halves away from zero. asym = -pi leaves the rise alone, without a fall.
+ *  magn * (2^-23 + 2^-21 s), s = pi / (pi - |asym|), by which the steeper slope exceeds that of a symmetric wave (64f, 64fc:
+ *  magn * (2^-50 + 2^-49 s + n 2^-62 s), since rFreq counts to 2^-64). Integers are rounded from doubles, halves away from zero. asym = -pi leaves the rise alone, without a fall.
  *  Returns qvxStatOk; qvxStatNullPtr (pPhase); qvxStatBadTriangleMagn; qvxStatBadTriangleFreq; qvxStatBadTriangleAsym;
  *  qvxStatBadTrianglePhase; qvxStatNullPtr (pDst); qvxStatBadSize (len < 1). */
 QVXS_API(QvxStatus, qvxsTriangle_Direct_64f, (Qvx64f* pDst, int len, Qvx64f magn, Qvx64f rFreq, Qvx64f asym, Qvx64f* pPhase));

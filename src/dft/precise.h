@@ -26,7 +26,7 @@ class WiderScope {
   static constexpr uint16_t kRounding = 0x0C00;
   static constexpr uint16_t kAllDigits = 0x0300;
   static void set(uint16_t word) { __asm__ volatile("fldcw %0" : : "m"(word) : "memory"); }
-  uint16_t saved_;
+  uint16_t saved_ = 0;
 };
 
 // exp(-2 pi i k / n)
