@@ -1,6 +1,6 @@
 // A few outputs of a filter that drops most of them: each is added up by itself, vectors along its taps, and the lanes of several
 // outputs are folded together. Lanes along the outputs would stay empty, and samples would first have to be dealt among rows:
-// 8 outputs of 64 taps take a third of that time.
+// 8 outputs of 64 taps take 0.45 (16 bits) to 0.6 (floats) of that time.
 #pragma once
 
 #include "convolution/convolve.h"

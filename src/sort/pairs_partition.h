@@ -31,7 +31,7 @@ namespace detail {
 template <class M> auto forNumbers(Lanes<int32_t, kPartLanes<int32_t>>, M isLow) { return isLow; }
 template <class M> uint64_t forNumbers(Lanes<int64_t, kPartLanes<int64_t>> d, M isLow) { return maskBits(d, isLow); }
 
-// As of keys alone (partition.h).
+// The pairs of src whose keys are below the pivot to `low`, the others to `high`; how many are below. low or high may be src.
 template <class K> size_t separate(Pairs<K> src, size_t n, K pivot, Pairs<K> low, Pairs<K> high) {
   constexpr size_t N = Pairs<K>::N;
   size_t below = 0;
