@@ -23,20 +23,6 @@ template <class T> using Real = std::conditional_t<std::is_same_v<Part<T>, Qvx64
 
 template <class T> void fill(T* dst, size_t n, double magn, double rFreq, double turns) {
   using Angles = SpacedAngles<Real<T>>;
-  if constexpr (std::is_floating_point_v<Part<T>>) {
-    using R = Real<T>;
-    // The sum of two products may exceed the magnitude, and so the range: half of it, limited, and that twice.
-    if (magn > std::numeric_limits<R>::max() / 2) {
-      const R half = static_cast<R>(magn / 2);
-      fill(dst, n, magn / 2, rFreq, turns);
-      const auto doubled = [half](auto v) {
-        const auto limited = hn::Min(hn::Max(v, same<decltype(v)>(-half)), same<decltype(v)>(half));
-        return limited + limited;
-      };
-      loop(doubled, destination(dst), PartsOf<T>::kCount * n, source(dst));
-      return;
-    }
-  }
   if (n <= Angles::kFew) {
     Angles::few(turns, rFreq, magn, n,
                 [=](size_t at, auto sine, auto cosine, auto... rest) { putSamples(dst, at, cosine, sine, rest...); });
@@ -55,6 +41,21 @@ template <class T> void fill(T* dst, size_t n, double magn, double rFreq, double
   }
 }
 
+template <class T, class Magn, class Phase> QvxStatus direct(T* dst, int len, Magn magn, Phase rFreq, Phase* phase);
+
+// A sample is the sum of two products, which may exceed the magnitude, and so the range: half of it, limited, and that twice.
+template <class T, class Phase>
+[[gnu::noinline, gnu::cold]] QvxStatus directAtTheTop(T* dst, int len, Phase magn, Phase rFreq, Phase* phase) {
+  const Phase half = magn / 2;
+  direct(dst, len, half, rFreq, phase);
+  const auto doubled = [half](auto v) {
+    const auto limited = hn::Min(hn::Max(v, same<decltype(v)>(-half)), same<decltype(v)>(half));
+    return limited + limited;
+  };
+  loop(doubled, destination(dst), PartsOf<T>::kCount * elements(len), source(dst));
+  return qvxStatOk;
+}
+
 template <class T, class Magn, class Phase> QvxStatus direct(T* dst, int len, Magn magn, Phase rFreq, Phase* phase) {
   if (isNull(phase)) return qvxStatNullPtr;
   if (!(magn > 0)) return qvxStatBadToneMagn;
@@ -63,6 +64,10 @@ template <class T, class Magn, class Phase> QvxStatus direct(T* dst, int len, Ma
   if (!(start >= 0 && start < static_cast<Phase>(kTwoPi))) return qvxStatBadTonePhase;
   if (isNull(dst)) return qvxStatNullPtr;
   if (len < 1) return qvxStatBadSize;
+  if constexpr (std::is_floating_point_v<Magn>) {
+    if (magn > std::numeric_limits<Magn>::max() / 2 && magn <= std::numeric_limits<Magn>::max()) [[unlikely]]
+      return directAtTheTop(dst, len, magn, rFreq, phase);
+  }
   *phase = phaseAfter(start, rFreq, len);
   const RoundingScope mode(kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest);
   fill(dst, elements(len), static_cast<double>(magn), static_cast<double>(rFreq), static_cast<double>(start) * kTurn);
