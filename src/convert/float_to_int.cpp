@@ -8,6 +8,7 @@
 #include "frame/power.h"
 #include "frame/rounding.h"
 #include "frame/to_int.h"
+#include "frame/whole.h"
 
 using namespace qvx;
 
@@ -72,7 +73,9 @@ template <int kMode, bool kTwoFactors> struct ToInt64 {
       whole = whole + hn::IfThenElseZero(up, hn::CopySignToAbs(same<V>(1.0), v));
     }
     // Values below the range convert to the most negative integer; clamped to just that, they do in all variants.
-    const auto number = toInt64(hn::Max(whole, same<V>(-0x1p63)));
+    V limit = hn::Max(whole, same<V>(-0x1p63));
+    if constexpr (!kHasMasks) limit = hn::Min(limit, same<V>(0x1p63));
+    const auto number = wholeToInt64(limit);
     using N = std::remove_const_t<decltype(number)>;
     const hn::Rebind<int64_t, TagOf<V>> di;
     const N limited = hn::IfThenElse(hn::RebindMask(di, whole >= same<V>(0x1p63)), same<N>(INT64_MAX), number);

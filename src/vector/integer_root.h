@@ -3,6 +3,7 @@
 
 #include "frame/map.h"
 #include "frame/power.h"
+#include "frame/whole.h"
 
 namespace qvx {
 
@@ -15,7 +16,9 @@ template <class V> V integerPart(V x, double factor) {
     return toIntTruncated(root * same<decltype(root)>(static_cast<float>(factor)));
   } else {
     const auto root = hn::Sqrt(toDouble(x));
-    return toInt64(root * same<decltype(root)>(factor));
+    auto scaled = root * same<decltype(root)>(factor);
+    if constexpr (!kHasMasks) scaled = hn::Min(scaled, same<decltype(root)>(0x1p51));  // more than any result that fits
+    return shortToInt64(scaled);
   }
 }
 
@@ -27,7 +30,10 @@ template <int kBits, class V> V timesSuccessor(V k) {
 }
 
 // k + 1 in the lanes where x is beyond the tie.
-template <class V> V decided(V k, V x, V tie) { return k - hn::VecFromMask(TagOf<V>(), x - tie > hn::Zero(TagOf<V>())); }
+template <class V> V decided(V k, V x, V tie) {
+  if constexpr (sizeof(LaneOf<V>) == 8 && !QVXS_AVX2) return k + as<int64_t>(hn::ShiftRight<63>(as<uint64_t>(tie - x)));
+  else return k - hn::VecFromMask(TagOf<V>(), x - tie > hn::Zero(TagOf<V>()));
+}
 
 // sqrt(x) * 2^s for destinations of kBits bits. There is no tie: (k + 1/2)^2 is not an integer. From 2^kBits on k saturates, and
 // the squares may wrap.

@@ -1,6 +1,7 @@
 // Square roots of integers: exactly rounded at every scale factor.
 #include "frame/remainder.h"
 #include "frame/team.h"
+#include "frame/whole.h"
 #include "vector/integer_root.h"
 
 using namespace qvx;
@@ -71,11 +72,11 @@ struct RootLengthened {
     const auto rest = remainderOf(root, root, value) + (low - (value - high));
     const auto factor = same<Real>(powerOfTwo<double>(s));
     const auto scaled = root * factor;
-    const auto truncated = toInt64(hn::Min(scaled, same<Real>(0x1.fffffffffffffp62)));
-    const auto beyond = (scaled - toDouble(truncated)) + rest * halfReciprocal(value, root) * factor;
+    const auto integer = truncated(hn::Min(scaled, same<Real>(0x1.fffffffffffffp62)));
+    const auto beyond = (scaled - integer) + rest * halfReciprocal(value, root) * factor;
     const auto floor = hn::Floor(hn::Min(beyond, same<Real>(4096)));
     const auto fraction = beyond - floor;
-    const V k = truncated + toInt64(floor);
+    const V k = wholeToInt64(integer) + wholeToInt64(floor);
     const V square = hn::ShiftLeftSame(hn::ShiftLeftSame(whole, s), s);
     const auto isBeyondTie = square - k * (k + same<V>(1)) > hn::Zero(d);
     const auto isUp = hn::And(hn::Or(isBeyondTie, hn::RebindMask(d, fraction > same<Real>(0.75))),
@@ -85,10 +86,21 @@ struct RootLengthened {
   }
 
  private:
+  template <class V> static V truncated(V v) {
+    if constexpr (kRoundsByInstruction) return hn::Trunc(v);
+    else return toDouble(toInt64(v));
+  }
+
   // 1 / (2 * sqrt(value)), to 2^-13 of it.
   template <class V> static V halfReciprocal([[maybe_unused]] V value, [[maybe_unused]] V root) {
-    if constexpr (kHasMasks) return nearReciprocalRoot(value) * same<V>(0.5);
-    else return same<V>(0.5) / root;
+    if constexpr (kHasMasks) {
+      return nearReciprocalRoot(value) * same<V>(0.5);
+    } else if constexpr (kLanesOf<V> == 4) {
+      const hn::Rebind<float, TagOf<V>> single;
+      return hn::PromoteTo(TagOf<V>(), hn::Set(single, 0.5F) / hn::DemoteTo(single, root));
+    } else {
+      return same<V>(0.5) / root;
+    }
   }
 };
 
