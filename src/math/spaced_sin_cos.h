@@ -9,6 +9,7 @@
 
 #include "frame/each_vector.h"
 #include "frame/map.h"
+#include "frame/unroll.h"
 #include "math/sin_cos.h"
 
 namespace qvx {
@@ -60,16 +61,22 @@ template <class T> class SpacedAngles {
       const auto on = hn::MulAdd(sine, byC, cosine * byS);
       cosine = hn::NegMulAdd(sine, byS, cosine * byC);
       sine = on;
+      // Places that the compiler cannot tell: else it shuffles what it would load, five instructions for two.
+      const T* s = firstSines;
+      const T* c = firstCosines;
+      __asm__("" : "+r"(s), "+r"(c));
       const auto putNext = [&](size_t k, auto... rest) __attribute__((always_inline)) {
-        const auto s = hn::Set(d, firstSines[k]);
-        const auto c = hn::Set(d, firstCosines[k]);
-        put(at, hn::MulAdd(s, laneCosines, c * laneSines), hn::NegMulAdd(s, laneSines, c * laneCosines), rest...);
-        at += kLanes;
+        put(at + k * kLanes, hn::MulAdd(hn::Set(d, s[k]), laneCosines, hn::Set(d, c[k]) * laneSines),
+            hn::NegMulAdd(hn::Set(d, s[k]), laneSines, hn::Set(d, c[k]) * laneCosines), rest...);
       };
-      // Not unrolled: with constant places the compiler shuffles what it would load, five instructions for two.
-      size_t k = 0;
-      for (; k < kWide && at + kLanes <= count; ++k) putNext(k);
-      if (k < kWide && at < count) putNext(k, count - at);
+      if (count - at >= kWide * kLanes) {
+        unrolled<kWide>(putNext);
+      } else {
+        const size_t whole = (count - at) / kLanes;
+        for (size_t k = 0; k < whole; ++k) putNext(k);
+        if ((count - at) % kLanes != 0) putNext(whole, (count - at) % kLanes);
+      }
+      at += kWide * kLanes;
     }
   }
 
