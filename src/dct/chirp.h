@@ -50,7 +50,6 @@ template <class T> Needs needsOfPrecise(size_t n, size_t period) {
 // isPrecise: there is room for what needsOfPrecise() says.
 template <class T>
 void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool isPrecise, Carver& tables, Qvx8u* work) {
-  const dft::WiderScope widerNearest;
   const size_t half = n / 2;
   T* const c = tables.take<T>(static_cast<int64_t>(2 * n));
   T* const turns = tables.take<T>(static_cast<int64_t>(2 * (half + 1)));

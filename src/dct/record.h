@@ -99,7 +99,7 @@ template <class Record> QvxStatus check(Record** ppSpec, int len, Sizes sizes, c
   return sizes.init > 0 && isNull(pInit) ? qvxStatNullPtr : qvxStatOk;
 }
 
-// The tables of a record that knows its way. A function of its own, so that nothing of it leaves its caller's rounding scope.
+// The tables of a record that knows its way. A function of its own, so that nothing of it leaves its caller's rounding scopes.
 template <class Record> [[gnu::noinline]] void writeWay(Record& spec, Sizes sizes, Carver& tables, Qvx8u* making) {
   using T = typename Record::T;
   const auto n = static_cast<size_t>(spec.len);
@@ -141,6 +141,7 @@ template <class Record> QvxStatus init(Record** ppSpec, int len, Qvx8u* pMemory,
   const QvxStatus status = check(ppSpec, len, sizes, pMemory, pInit);
   if (status != qvxStatOk) return status;
   const RoundingScope nearest(Rounding::kNearest);
+  const dft::WiderScope widerNearest;
   const double count = RoundingScope::pinned(static_cast<double>(len));
   return initRecord(ppSpec, pMemory, [=](Record& spec, Carver& tables) {
     spec.len = len;
