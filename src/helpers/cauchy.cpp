@@ -98,15 +98,15 @@ template <class V> V estimate(V s) {
 }
 
 // The same in floats, of two vectors. An estimate r of 1 / (C^2 + x^2) makes the quotient f = x r; it is corrected by what 1 is
-// more than r C^2 + f x. Of the rounding of f that takes part back: the error is below 1.6 ULP. Where C^2 is a float, or off by
-// at most 1/4 of what a float's rounding may come to, one of the vectors takes the divider in the meantime: 1.75 ULP.
+// more than r C^2 + f x. Of the rounding of f that takes part back: the error is below 1.6 ULP. The divider may not take one of
+// the vectors in the meantime, though that is faster: results would depend on the place.
 template <bool kExactSquare> struct NearDerivative {
   float c;
   float square, squareRest;  // their sum is C^2
 
   template <class V> Pair<V> operator()(Pair<V> x) const {
     const Pair<V> s = each(x, [this](V v) { return hn::MulAdd(v, v, same<V>(square)); });
-    const Pair<V> y = {kExactSquare && kHasMasks ? x.lo / s.lo : quotient(x.lo, s.lo), quotient(x.hi, s.hi)};
+    const Pair<V> y = {quotient(x.lo, s.lo), quotient(x.hi, s.hi)};
     const TagOf<V> d;
     const auto isFar = [d](V sum) { return maskBits(d, hn::Not(sum < same<V>(kMostNear))); };
     const auto areNear = hn::And(s.lo < same<V>(kMostNear), s.hi < same<V>(kMostNear));
@@ -175,8 +175,7 @@ QvxStatus qvxsCauchyD_32f_I(Qvx32f* p, int len, Qvx32f c) {
     const float square = c * c;
     const auto rest = static_cast<float>(double{c} * c - double{square});
     const auto in = [&](auto kernel) { return loop(kernel, InTwos{destination(p)}, elements(len), InTwos{source(p)}); };
-    return std::abs(rest) <= 0x1p-26F * square ? in(NearDerivative<true>{c, square, rest})
-                                               : in(NearDerivative<false>{c, square, rest});
+    return rest == 0 ? in(NearDerivative<true>{c, square, rest}) : in(NearDerivative<false>{c, square, rest});
   }
   return loop<double>(Derivative{squareOf(c)}, destination(p), elements(len), source(p));
 }
