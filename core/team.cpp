@@ -3,6 +3,7 @@
 // A call is a number of parts. The caller takes the first; whoever is there takes the next one: the caller, and workers as they
 // wake. So a caller never waits for a thread that has not begun, however busy the machine is, and nothing has to be done if none
 // can be made.
+#include <link.h>
 #include <linux/futex.h>
 #include <pthread.h>
 #include <qvx/qvxcore.h>
@@ -104,6 +105,20 @@ void* work(void*) {
   return nullptr;
 }
 
+// What the C library takes from the stack of a thread for thread-local data: those of all that is loaded.
+size_t threadLocalBytes() {
+  size_t bytes = 0;
+  const auto add = [](dl_phdr_info* object, size_t, void* sum) {
+    for (int i = 0; i < object->dlpi_phnum; ++i) {
+      const auto& segment = object->dlpi_phdr[i];
+      if (segment.p_type == PT_TLS) *static_cast<size_t*>(sum) += segment.p_memsz + segment.p_align;
+    }
+    return 0;
+  };
+  dl_iterate_phdr(add, &bytes);
+  return bytes;
+}
+
 // Makes workers up to `wanted`. They take no signals of the program's. Where none can be made, the next calls do not ask again.
 void hire(int wanted) {
   if (team.workers >= wanted || (team.refused > 0 && ++team.refused < 1000)) return;
@@ -113,7 +128,7 @@ void hire(int wanted) {
   pthread_attr_t attributes;
   if (pthread_attr_init(&attributes) != 0) return;
   pthread_attr_setdetachstate(&attributes, PTHREAD_CREATE_DETACHED);
-  pthread_attr_setstacksize(&attributes, std::max<size_t>(kStack, static_cast<size_t>(sysconf(_SC_THREAD_STACK_MIN))));
+  pthread_attr_setstacksize(&attributes, kStack + threadLocalBytes());
   pthread_sigmask(SIG_SETMASK, &all, &callers);
   for (pthread_t thread; team.workers < wanted; ++team.workers) {
     if (pthread_create(&thread, &attributes, work, nullptr) == 0) continue;
