@@ -141,7 +141,7 @@ template <class Record> QvxStatus init(Record** ppSpec, int len, Qvx8u* pMemory,
   const QvxStatus status = check(ppSpec, len, sizes, pMemory, pInit);
   if (status != qvxStatOk) return status;
   const RoundingScope nearest(Rounding::kNearest);
-  const dft::WiderScope widerNearest;
+  const WiderScope widerNearest;
   const double count = RoundingScope::pinned(static_cast<double>(len));
   return initRecord(ppSpec, pMemory, [=](Record& spec, Carver& tables) {
     spec.len = len;

@@ -10,25 +10,6 @@ namespace qvx::dft {
 
 template <class T> using Wider = std::conditional_t<sizeof(T) == 4, double, long double>;
 
-// Until the end of the scope, long doubles are rounded to nearest and to all of their digits: they have a control word of their
-// own, which a caller's rounding mode is also set in.
-class WiderScope {
- public:
-  WiderScope() {
-    __asm__ volatile("fnstcw %0" : "=m"(saved_) : : "memory");
-    set(static_cast<uint16_t>((saved_ & ~kRounding) | kAllDigits));
-  }
-  ~WiderScope() { set(saved_); }
-  WiderScope(const WiderScope&) = delete;
-  WiderScope& operator=(const WiderScope&) = delete;
-
- private:
-  static constexpr uint16_t kRounding = 0x0C00;
-  static constexpr uint16_t kAllDigits = 0x0300;
-  static void set(uint16_t word) { __asm__ volatile("fldcw %0" : : "m"(word) : "memory"); }
-  uint16_t saved_ = 0;
-};
-
 // exp(-2 pi i k / n)
 template <class W> Complex<W> preciseRoot(size_t k, size_t n) {
   using transform::detail::angleOf;
