@@ -120,20 +120,18 @@ template <size_t L, class T> struct ColumnTile {
 // The first level, from the caller's rows.
 template <bool kAhead, size_t R, size_t L, class T, class Src>
 [[gnu::noinline]] void loadColumns(Src src, size_t columns, ColumnTile<L, T> tile, const T* twiddles) {
-  using V = Vec<Lanes<T, L>>;
   const size_t part = tile.rows / R;
   for (size_t q = 0; q < part; ++q, twiddles += (R - 1) * 2) {
     for (size_t at = 0; at < tile.wide; at += L) {
-      Complex<V> x[R];
-      unrolled<R>([&](auto m) __attribute__((always_inline)) {
-        x[m] = src.template get<L>((q + m * part) * columns + at);
-        if constexpr (kAhead) src.template prefetch<L>((q + 1 + m * part) * columns + at);
-      });
-      dft(x);
-      putGroup<L>(x[0], tile.at(q, at));
-      unrolled<R - 1>([&](auto m) __attribute__((always_inline)) {
-        putGroup<L>(product(x[m + 1], twiddles[2 * m], twiddles[2 * m + 1]), tile.at(q + (m + 1) * part, at));
-      });
+      transformPoints<R>(
+          [&](auto m) __attribute__((always_inline)) {
+            if constexpr (kAhead) src.template prefetch<L>((q + 1 + m * part) * columns + at);
+            return src.template get<L>((q + m * part) * columns + at);
+          },
+          [&](auto k, auto z) __attribute__((always_inline)) {
+            T* const to = tile.at(q + k * part, at);
+            putGroup<L>(turnedBy<k>(z, twiddles), to);
+          });
     }
   }
 }
@@ -156,22 +154,20 @@ template <bool kAhead, size_t R, size_t L, class T, class Dst>
 [[gnu::noinline]] void storeColumns(ColumnTile<L, T> tile, const DigitsReversed& place, size_t first, size_t step, const T* lanes,
                                     const T* tiles, Dst dst, size_t columns) {
   constexpr size_t C = kRowRadix<L>;
-  using V = Vec<Lanes<T, L>>;
   const size_t part = tile.rows / R;
   for (size_t k = first; k < part; k += step) {
     const size_t from = place(k);
     for (size_t at = 0; at < tile.wide; at += L) {
-      Complex<V> x[R];
-      unrolled<R>([&](auto m) __attribute__((always_inline)) {
-        x[m] = group<L>(tile.at(from + m, at));
-        if constexpr (kAhead) dst.template prefetch<L>((k + step + m * part) * columns + at);
-      });
-      dft(x);
-      unrolled<R>([&](auto m) __attribute__((always_inline)) {
-        const size_t row = k + m * part;
-        const auto twiddle = twiddleAt<L>(lanes, tiles + at / C * 2 * tile.rows, row * C + at % C);
-        dst.template put<L>(product(x[m], twiddle), row * columns + at);
-      });
+      transformPoints<R>(
+          [&](auto m) __attribute__((always_inline)) {
+            if constexpr (kAhead) dst.template prefetch<L>((k + step + m * part) * columns + at);
+            return group<L>(tile.at(from + m, at));
+          },
+          [&](auto m, auto z) __attribute__((always_inline)) {
+            const size_t row = k + m * part;
+            const auto twiddle = twiddleAt<L>(lanes, tiles + at / C * 2 * tile.rows, row * C + at % C);
+            dst.template put<L>(product(z, twiddle), row * columns + at);
+          });
     }
   }
 }

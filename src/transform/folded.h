@@ -123,8 +123,8 @@ QVX_INLINE void transformInSquare(Src src, Dst dst, const T* rowTwiddles, Scale 
   constexpr auto element = &Src::template element<L>;
   constexpr size_t kBlock = std::min(L, 16 / sizeof(T));
   Complex<V> x[L];
-  unrolled<L>([&](auto m) __attribute__((always_inline)) { x[m] = src.template get<L>(m * L); });
-  dft(x);
+  dft(
+      x, [&](auto m) __attribute__((always_inline)) { return src.template get<L>(m * L); });
   // The steps of the transposition find sums and products beside them, as in the row pass.
   unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) {
     V re[kBlock];
@@ -150,8 +150,9 @@ QVX_INLINE void transformInSquare(Src src, Dst dst, const T* rowTwiddles, Scale 
     transposeBlocks(im);
     unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) { x[element(q * kBlock + i)] = {re[q], im[q]}; });
   });
-  dft(x);
-  unrolled<L>([&](auto k) __attribute__((always_inline)) { dst.template put<L>(scale(x[k]), k * L); });
+  const auto get = [&](auto m) __attribute__((always_inline)) { return x[m]; };
+  transformPoints<L>(
+      get, [&](auto k, auto z) __attribute__((always_inline)) { dst.template put<L>(scale(z), k * L); });
 }
 
 // L * L / 2 points. rowTwiddles: R - 1 groups, k = 1.. of exp(-2 pi i j k / N), lanes j in order.

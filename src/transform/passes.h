@@ -164,8 +164,8 @@ template <size_t L, class T, class Src, class Place = InOrder>
   twiddles += from * (R - 1) * 2;
   for (size_t j = from; j < to; j += L, twiddles += (R - 1) * 2 * L) {
     Complex<V> x[R];
-    unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = src.template get<L>(j + m * rows); });
-    dft(x);
+    dft(
+        x, [&](auto m) __attribute__((always_inline)) { return src.template get<L>(j + m * rows); });
     // Of results in the places first..first + kBlock - 1 of a row: vector w holds them for the points in lanes w of the blocks.
     const auto turned = [&](auto first, V(&re)[kBlock], V(&im)[kBlock]) __attribute__((always_inline)) {
       unrolled<kBlock>([&](auto i) __attribute__((always_inline)) {
@@ -219,24 +219,25 @@ template <size_t L, class T, class Src, class Place = InOrder>
   }
 }
 
+// Result k times its twiddle, of those of k = 1..R-1.
+template <size_t k, class V> QVX_INLINE Complex<V> turnedBy(Complex<V> z, const LaneOf<V>* twiddles) {
+  if constexpr (k == 0) return z;
+  else return product(z, twiddles[2 * k - 2], twiddles[2 * k - 1]);
+}
+
 // twiddles: for each q = 0..stride-1, for k = 1..R-1 exp(-2 pi i q k / (R * stride)), real and imaginary part.
 // width: the vectors of a row.
 template <size_t R, size_t L, class T, class Width = std::integral_constant<size_t, kRowRadix<L> / L>>
 [[gnu::noinline]] void innerPass(T* y, size_t stride, const T* twiddles, size_t from, size_t to, Width width = {}) {
   const size_t W = width;
-  using V = Vec<Lanes<T, L>>;
   const size_t apart = stride * W * 2 * L;
   for (size_t q = from; q < to; ++q) {
     const T* w = twiddles + q * (R - 1) * 2;
     for (size_t column = 0; column < W; ++column) {
       T* p = y + (q * W + column) * 2 * L;
-      Complex<V> x[R];
-      unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = group<L>(p + m * apart); });
-      dft(x);
-      putGroup<L>(x[0], p);
-      unrolled<R - 1>([&](auto m) __attribute__((always_inline)) {
-        putGroup<L>(product(x[m + 1], w[2 * m], w[2 * m + 1]), p + (m + 1) * apart);
-      });
+      transformPoints<R>(
+          [&](auto m) __attribute__((always_inline)) { return group<L>(p + m * apart); },
+          [&](auto k, auto z) __attribute__((always_inline)) { putGroup<L>(turnedBy<k>(z, w), p + k * apart); });
     }
   }
 }
@@ -245,15 +246,13 @@ template <size_t R, size_t L, class T, class Width = std::integral_constant<size
 template <size_t R, size_t L, class T, class Dst, class Scale>
 [[gnu::noinline]] void lastPass(const T* y, size_t count, Dst dst, size_t at, size_t step, Scale scale) {
   constexpr size_t W = kRowRadix<L> / L;
-  using V = Vec<Lanes<T, L>>;
   for (size_t b = 0; b < count; ++b) {
     for (size_t column = 0; column < W; ++column) {
-      Complex<V> x[R];
-      unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = group<L>(y + ((b * R + m) * W + column) * 2 * L); });
-      dft(x);
-      unrolled<R>([&](auto m) __attribute__((always_inline)) {
-        dst.template put<L>(scale(x[m]), ((at + step * (b + count * m)) * W + column) * L);
-      });
+      transformPoints<R>(
+          [&](auto m) __attribute__((always_inline)) { return group<L>(y + ((b * R + m) * W + column) * 2 * L); },
+          [&](auto k, auto z) __attribute__((always_inline)) {
+            dst.template put<L>(scale(z), ((at + step * (b + count * k)) * W + column) * L);
+          });
     }
   }
 }
@@ -264,25 +263,19 @@ template <size_t R, size_t L, class T, class Dst, class Scale>
 // all of it or more of it.
 template <size_t A, size_t B, size_t L, class T, class Src, class Dst, class Scale>
 [[gnu::noinline]] void passesInDestination(Src src, Dst dst, const T* rowTwiddles, const T* innerTwiddles, Scale scale) {
-  using V = Vec<Lanes<T, L>>;
   T* const y = dst.p;
   rowPass<L>(src, y, A * B, rowTwiddles, 0, A * B, Exchanged<A, B>());
   const T* w = innerTwiddles;
   for (size_t row = 0; row < A * B; row += A, w += (A - 1) * 2) {
     T* const p = y + row * 2 * L;
-    Complex<V> x[A];
-    unrolled<A>([&](auto m) __attribute__((always_inline)) { x[m] = group<L>(p + m * 2 * L); });
-    dft(x);
-    putGroup<L>(x[0], p);
-    unrolled<A - 1>([&](auto m) __attribute__((always_inline)) {
-      putGroup<L>(product(x[m + 1], w[2 * m], w[2 * m + 1]), p + (m + 1) * 2 * L);
-    });
+    transformPoints<A>(
+        [&](auto m) __attribute__((always_inline)) { return group<L>(p + m * 2 * L); },
+        [&](auto k, auto z) __attribute__((always_inline)) { putGroup<L>(turnedBy<k>(z, w), p + k * 2 * L); });
   }
   for (size_t row = 0; row < A; ++row) {
-    Complex<V> x[B];
-    unrolled<B>([&](auto m) __attribute__((always_inline)) { x[m] = group<L>(y + (row + A * m) * 2 * L); });
-    dft(x);
-    unrolled<B>([&](auto m) __attribute__((always_inline)) { dst.template put<L>(scale(x[m]), (row + A * m) * L); });
+    transformPoints<B>(
+        [&](auto m) __attribute__((always_inline)) { return group<L>(y + (row + A * m) * 2 * L); },
+        [&](auto k, auto z) __attribute__((always_inline)) { dst.template put<L>(scale(z), (row + A * k) * L); });
   }
 }
 
