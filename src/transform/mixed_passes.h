@@ -115,7 +115,7 @@ QVX_INLINE void storeBlocks(const Complex<V>* x, Part part, LaneOf<V>* row, size
 
 // Rows of R numbers from R vectors, whose lane i belongs to row element(i); `rows` of them, `stride` apart. If isCut, nothing
 // past the end of a row is written. Else rows are written in their order, and of each what is nearer to its end first, since a
-// vector may run on into the next row.
+// vector may run on into the next row, or fill up what stands between them.
 template <size_t L, class Src, size_t R, class V, class Part>
 QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, size_t stride, size_t rows, bool isCut) {
   using T = LaneOf<V>;
@@ -124,7 +124,7 @@ QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, si
     constexpr size_t at = (kChunks - 1 - c) * L;
     constexpr size_t kWide = std::min(L, R - at);
     constexpr size_t kBlock = 16 / sizeof(T);
-    if (kWide <= kBlock && kBlock < L && rows == L) {
+    if (kWide <= kBlock && kBlock < L && rows == L && stride == R) {
       storeBlocks<L, Src, kWide>(x + at, part, to + at, stride);
       return;
     }
@@ -137,7 +137,7 @@ QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, si
     if (rows < L) {
       alignas(64) T kept[L][L];
       unrolled<L>([&](auto i) __attribute__((always_inline)) { store(r[i], d, kept[Src::template element<L>(i)]); });
-      for (size_t i = 0; i < rows; ++i, row += stride) putFirstLanes(load(d, kept[i]), d, row, kWide);
+      for (size_t i = 0; i < rows; ++i, row += stride) putFirstLanes(load(d, kept[i]), d, row, isCut ? kWide : L);
     } else if (kWide < L && isCut) {
       unrolled<L>([&](auto i) __attribute__((always_inline)) {
         putFirstLanes(r[laneOfElement<L, Src>(i)], d, row, kWide);

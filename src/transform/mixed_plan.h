@@ -10,9 +10,9 @@
 
 namespace qvx::transform {
 
-// Radices of first passes, and of later ones: from 20 on half of their vectors wait on the stack, which costs less than another
-// pass (5000 complex doubles take 0.85 of the time by 8, 25 and 25 that they take by five passes). Larger primes go through
-// memory.
+// Radices of first passes and of tiles, and of later passes: from 20 on half of their vectors wait on the stack, which costs less
+// than another pass over more than the nearest cache holds (5000 complex doubles take 0.85 of the time by 8, 25 and 25 that they
+// take by five passes). Larger primes go through memory.
 inline constexpr uint8_t kRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16};
 inline constexpr uint8_t kLaterRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16, 20, 21, 24, 25, 27};
 inline constexpr size_t kWidestMixed = 16;
@@ -96,7 +96,7 @@ template <class T> class MixedPlanner {
     findDivisors();
     for (size_t i = 1; i < divisors_; ++i) {
       best_[i] = UINT64_MAX;
-      if (divisor_[i] == n) consider(i, n, kRadices);
+      if (divisor_[i] == n || columns > 1) consider(i, n, kRadices);
       else consider(i, n, kLaterRadices);
       consider(i, n, std::span(large_, larges_));
     }
@@ -143,9 +143,11 @@ template <class T> class MixedPlanner {
       const uint64_t after = m == 1 ? 0 : best_[indexOf(m)];
       if (after == UINT64_MAX) continue;
       const uint64_t s = n / d * columns_;
+      const bool isAligned = s % kWidest<T> == 0 || (m == 1 && s <= kMostPadded);
+      const uint32_t memory = columns_ > 1 ? kAwayFromNearest : isAligned ? 0 : kUnaligned;
       const uint64_t here =
           s == 1 ? uint64_t{vectors(m)} * (costOfRadix(radix) + (radix + kWidest<T> / 2 - 1) / kWidest<T> * kTransposition)
-                 : uint64_t{vectors(s)} * m * (costOfRadix(radix) + (columns_ > 1 ? radix * kAwayFromNearest : 0));
+                 : uint64_t{vectors(s)} * m * (costOfRadix(radix) + radix * memory);
       // The last pass has no twiddles, but interleaves; the largest radices were measured to be slower there.
       const uint64_t last = radix < 24 ? here - vectors(s) * radix : here + here / 16;
       const uint64_t cost = (m > 1 ? here : last) + after + pass;
@@ -159,6 +161,7 @@ template <class T> class MixedPlanner {
   static constexpr uint32_t kPass = 100;
   static constexpr size_t kNearestCache = 48 << 10;  // from which each pass takes its points, and into which its results go
   static constexpr uint32_t kAwayFromNearest = 8;    // a vector of a tile that the nearest cache does not hold, there and back
+  static constexpr uint32_t kUnaligned = 3;          // a vector in two lines of the cache
   static constexpr uint32_t kTransposition = kWidest<T> * (log2Of(kWidest<T>) + 1);
 
   size_t columns_ = 1;
@@ -266,11 +269,10 @@ template <class Src, class T> void writeMixed(MixedPlan<T>& plan, T* block) {
   }
 }
 
-// Lanes for runs of up to half a vector, which leave the other half idle: 8 after a first pass of radix 8. Doubles have none
-// such.
+// Lanes for runs of up to half a vector, such as 8 floats after a first pass of radix 8.
 template <class T> inline constexpr size_t kNarrow = kVectorBytes == 64 && sizeof(T) == 4 ? kWidest<T> / 2 : kWidest<T>;
 
-// The passes of one radix, which is large or one of kRadices.
+// The passes of one radix, which is a large prime or one of kLaterRadices.
 template <class T>
 void runMiddlePass(size_t radix, const T* tables, Planes<const T> from, Planes<T> to, size_t s, size_t m, const T* twiddles) {
   if (isLargePrime(radix)) return middlePassOfMany<kManyLanes<T>>(radix, tables, from, to, s, m, twiddles);
