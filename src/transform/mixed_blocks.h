@@ -226,7 +226,7 @@ void transformTile(const MixedPlan<T>& plan, Src src, size_t apart, size_t colum
     const size_t radix = plan.radix[pass];
     const T* const twiddles = tables + rootsOf<T>(radix);
     m /= radix;
-    if (pass == 0 && radix <= kWidestMixed) {
+    if (pass == 0 && !isLargePrime(radix)) {
       withMixedRadix(radix, [=](auto R) { firstTilePass<R, L>(src, apart, columns, to, m, twiddles); });
     } else {
       if (pass == 0) takeColumns<L>(src, apart, columns, from, plan.n);

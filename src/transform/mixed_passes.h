@@ -90,33 +90,63 @@ template <class T> struct Conjugable {
 };
 template <class T> Conjugable<const T> asConst(Conjugable<T> z) { return {z.p, z.sign}; }
 
+template <size_t L, class Src> constexpr size_t laneOfElement(size_t element) {
+  size_t lane = 0;
+  while (Src::template element<L>(lane) != element) ++lane;
+  return lane;
+}
+
+// Rows of a few numbers: no more of a transposition than in blocks of 128 bits, whose places memory changes.
+template <size_t L, class Src, size_t kWide, class V, class Part>
+QVX_INLINE void storeBlocks(const Complex<V>* x, Part part, LaneOf<V>* row, size_t stride) {
+  using T = LaneOf<V>;
+  constexpr size_t kBlock = 16 / sizeof(T);
+  V r[kBlock];
+  unrolled<kBlock>([&](auto i) __attribute__((always_inline)) { r[i] = x[std::min<size_t>(i, kWide - 1)].*part; });
+  transposeInBlocks(r);
+  alignas(64) T kept[kBlock][L];
+  unrolled<kBlock>([&](auto i) __attribute__((always_inline)) { store(r[i], TagOf<V>(), kept[i]); });
+  unrolled<L>([&](auto i) __attribute__((always_inline)) {
+    constexpr size_t lane = laneOfElement<L, Src>(i);
+    std::memcpy(row, &kept[lane % kBlock][lane / kBlock * kBlock], kWide * sizeof(T));
+    row += stride;
+  });
+}
+
 // Rows of R numbers from R vectors, whose lane i belongs to row element(i); `rows` of them, `stride` apart. If isCut, nothing
 // past the end of a row is written. Else rows are written in their order, and of each what is nearer to its end first, since a
-// vector may run on into the next row.
+// vector may run on into the next row, or fill up what stands between them.
 template <size_t L, class Src, size_t R, class V, class Part>
 QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, size_t stride, size_t rows, bool isCut) {
+  using T = LaneOf<V>;
   constexpr size_t kChunks = (R + L - 1) / L;
   unrolled<kChunks>([&](auto c) __attribute__((always_inline)) {
     constexpr size_t at = (kChunks - 1 - c) * L;
     constexpr size_t kWide = std::min(L, R - at);
+    constexpr size_t kBlock = 16 / sizeof(T);
+    if (kWide <= kBlock && kBlock < L && rows == L && stride == R) {
+      storeBlocks<L, Src, kWide>(x + at, part, to + at, stride);
+      return;
+    }
     V r[L];
     unrolled<L>([&](auto i) __attribute__((always_inline)) { r[i] = x[at + std::min<size_t>(i, kWide - 1)].*part; });
     transpose(r);
     const TagOf<V> d;
-    const auto rowOf = [](size_t row) {
-      size_t lane = 0;
-      while (Src::template element<L>(lane) != row) ++lane;
-      return lane;
-    };
-    if (kWide < L && isCut) {
+    // Each place from the one before: registers for all of them would be wanting.
+    T* row = to + at;
+    if (rows < L) {
+      alignas(64) T kept[L][L];
+      unrolled<L>([&](auto i) __attribute__((always_inline)) { store(r[i], d, kept[Src::template element<L>(i)]); });
+      for (size_t i = 0; i < rows; ++i, row += stride) putFirstLanes(load(d, kept[i]), d, row, isCut ? kWide : L);
+    } else if (kWide < L && isCut) {
       unrolled<L>([&](auto i) __attribute__((always_inline)) {
-        constexpr size_t lane = rowOf(i);
-        if (i < rows) putFirstLanes(r[lane], d, to + i * stride + at, kWide);
+        putFirstLanes(r[laneOfElement<L, Src>(i)], d, row, kWide);
+        row += stride;
       });
     } else {
       unrolled<L>([&](auto i) __attribute__((always_inline)) {
-        constexpr size_t lane = rowOf(i);
-        if (i < rows) store(r[lane], d, to + i * stride + at);
+        store(r[laneOfElement<L, Src>(i)], d, row);
+        row += stride;
       });
     }
   });
@@ -125,27 +155,48 @@ QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, si
 // What stands between the rows that the first pass leaves, and how the last one finds them: nothing, or as much as fills whole
 // vectors. Then each load takes what one store has left, which a short transform needs: else it waits 20 cycles for the cache.
 template <size_t R, size_t L> constexpr size_t paddedRow() { return (R + L - 1) / L * L; }
-inline constexpr size_t kMostPadded = 16;  // rows, and numbers in each
+inline constexpr size_t kMostPadded = 16;  // numbers in a row
+inline constexpr size_t kMostPaddedRows = 27;
 
 // twiddles: for each vector of columns and each j = 1..R-1 a group, its lanes in the order of the source's elements.
+//
+// Results are transposed a turn later, after the next points are loaded and before they are transformed: the processor takes the
+// oldest instructions first, so shuffles would go on alone until the last is done (radix 8 of doubles took 20 cycles a vector of
+// points, and takes 13).
 template <size_t R, size_t L, class T, class Src>
 [[gnu::noinline]] void firstMixedPass(Src src, Planes<T> y, size_t m, const T* twiddles, bool isPadded) {
   using V = Vec<Lanes<T, L>>;
   const size_t wide = std::min(m, L);
   const size_t stride = isPadded ? paddedRow<R, L>() : R;
-  for (size_t begin = 0; begin < m; begin += L, twiddles += (R - 1) * 2 * L) {
-    const bool isEnd = begin + L >= m;
-    const size_t p = isEnd ? m - wide : begin;
+  const auto columnAt = [=](size_t begin) { return begin + L >= m ? m - wide : begin; };
+  Complex<V> made[R];  // of the columns before
+  for (size_t begin = 0; begin < m + L; begin += L, twiddles += (R - 1) * 2 * L) {
     Complex<V> x[R];
-    if (wide == L) unrolled<R>([&](auto k) __attribute__((always_inline)) { x[k] = src.template get<L>(p + k * m); });
-    else unrolled<R>([&](auto k) __attribute__((always_inline)) { x[k] = src.template getFirst<L>(p + k * m, wide); });
+    if (begin < m) {
+      const size_t p = columnAt(begin);
+      auto at = src.from(p);
+      const auto take = [&](auto get) __attribute__((always_inline)) {
+        unrolled<R>([&](auto k) __attribute__((always_inline)) {
+          x[k] = get(at);
+          at = at.from(m);
+        });
+      };
+      if (wide == L) take([](auto from) __attribute__((always_inline)) { return from.template get<L>(0); });
+      else take([=](auto from) __attribute__((always_inline)) { return from.template getFirst<L>(0, wide); });
+    }
+    if (begin > 0) {
+      const size_t p = columnAt(begin - L);
+      // Whole vectors of the last row here end within the rows that follow it.
+      constexpr size_t kRow = (R + L - 1) / L * L;
+      const bool isCut = !isPadded && (kHasMasks || begin >= m || (m - begin + 1) * R < kRow);
+      storeRows<L, Src>(made, &Complex<V>::re, y.re + p * stride, stride, wide, isCut);
+      storeRows<L, Src>(made, &Complex<V>::im, y.im + p * stride, stride, wide, isCut);
+    }
+    if (begin >= m) break;
     anyDft(x);
-    unrolled<R - 1>([&](auto j) __attribute__((always_inline)) { x[j + 1] = product(x[j + 1], group<L>(twiddles + j * 2 * L)); });
-    // Whole vectors of the last row here end within the rows that follow it.
-    constexpr size_t kRow = (R + L - 1) / L * L;
-    const bool isCut = !isPadded && (kHasMasks || isEnd || (m - begin - L + 1) * R < kRow);
-    storeRows<L, Src>(x, &Complex<V>::re, y.re + p * stride, stride, wide, isCut);
-    storeRows<L, Src>(x, &Complex<V>::im, y.im + p * stride, stride, wide, isCut);
+    made[0] = x[0];
+    unrolled<R - 1>([&](auto j)
+                        __attribute__((always_inline)) { made[j + 1] = product(x[j + 1], group<L>(twiddles + j * 2 * L)); });
   }
 }
 
@@ -158,16 +209,18 @@ template <size_t R, size_t L, class T>
     for (size_t begin = 0; begin < s; begin += L) {
       const size_t q = s >= L ? std::min(begin, s - L) : 0;
       Complex<V> z[R];
+      auto from = x.from(q + s * p);
       unrolled<R>([&](auto k) __attribute__((always_inline)) {
-        const size_t at = q + s * (p + m * k);
-        z[k] = isWhole ? x.template get<L>(at) : x.template getFirst<L>(at, s);
+        z[k] = isWhole ? from.template get<L>(0) : from.template getFirst<L>(0, s);
+        from = from.from(s * m);
       });
       anyDft(z);
+      auto to = y.from(q + s * R * p);
       unrolled<R>([&](auto j) __attribute__((always_inline)) {
-        const size_t at = q + s * (R * p + j);
         if constexpr (j > 0) z[j] = product(z[j], twiddles[2 * j - 2], twiddles[2 * j - 1]);
-        if (isWhole) y.template put<L>(z[j], at);
-        else y.template putFirst<L>(z[j], at, s);
+        if (isWhole) to.template put<L>(z[j], 0);
+        else to.template putFirst<L>(z[j], 0, s);
+        to = to.from(s);
       });
     }
   }
@@ -195,17 +248,20 @@ template <size_t R, size_t L, class T, class Dst>
       const size_t q = overlaps ? std::min(begin, columns - L) : begin;
       const size_t wide = std::min(L, columns - q);
       Complex<V> z[R];
+      auto from = x.from(q);
       unrolled<R>([&](auto k) __attribute__((always_inline)) {
-        const size_t at = q + steps.points * k;
-        z[k] = steps.isPadded || wide == L ? x.template get<L>(at) : x.template getFirst<L>(at, wide);
+        z[k] = steps.isPadded || wide == L ? from.template get<L>(0) : from.template getFirst<L>(0, wide);
+        from = from.from(steps.points);
       });
       anyDft(z);
       if (factor != 1) {
         unrolled<R>([&](auto j) __attribute__((always_inline)) { z[j] = ScaledBy<T>{factor}(z[j]); });
       }
+      auto to = dst.from(q);
       unrolled<R>([&](auto j) __attribute__((always_inline)) {
-        if (wide == L) dst.template putInOrder<L>(z[j], q + steps.results * j);
-        else dst.template putFirst<L>(z[j], q + steps.results * j, wide);
+        if (wide == L) to.template putInOrder<L>(z[j], 0);
+        else to.template putFirst<L>(z[j], 0, wide);
+        to = to.from(steps.results);
       });
     }
   }

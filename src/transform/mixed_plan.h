@@ -10,9 +10,13 @@
 
 namespace qvx::transform {
 
-// Radices that stay in registers; larger primes go through memory.
+// Radices of first passes and of tiles, and of later passes: from 20 on half of their vectors wait on the stack, which costs less
+// than another pass over more than the nearest cache holds (5000 complex doubles take 0.85 of the time by 8, 25 and 25 that they
+// take by five passes). Larger primes go through memory.
 inline constexpr uint8_t kRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16};
+inline constexpr uint8_t kLaterRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16, 20, 21, 24, 25, 27};
 inline constexpr size_t kWidestMixed = 16;
+constexpr bool isLargePrime(size_t radix) { return radix > kWidestMixed && radix % 2 != 0 && radix % 3 != 0 && radix % 5 != 0; }
 
 template <class Step> QVX_INLINE void withMixedRadix(size_t radix, Step step) {
   const auto with = [&](auto R) __attribute__((always_inline)) { step(R); };
@@ -48,6 +52,23 @@ template <class Step> QVX_INLINE void withMixedRadix(size_t radix, Step step) {
   }
 }
 
+template <class Step> QVX_INLINE void withLaterRadix(size_t radix, Step step) {
+  switch (radix) {
+    case 20:
+      return step(std::integral_constant<size_t, 20>());
+    case 21:
+      return step(std::integral_constant<size_t, 21>());
+    case 24:
+      return step(std::integral_constant<size_t, 24>());
+    case 25:
+      return step(std::integral_constant<size_t, 25>());
+    case 27:
+      return step(std::integral_constant<size_t, 27>());
+    default:
+      return withMixedRadix(radix, step);
+  }
+}
+
 template <class T> struct MixedPlan {
   static constexpr size_t kMostPasses = 17;  // 3^17 < 2^27
   uint32_t n;
@@ -58,8 +79,9 @@ template <class T> struct MixedPlan {
 
 // What a pass takes of time, in operations of a vector: seen on a processor with 32 registers of 64 bytes.
 constexpr uint32_t costOfRadix(size_t radix) {
-  constexpr uint16_t kCosts[] = {0, 0, 12, 24, 32, 52, 64, 94, 84, 142, 128, 190, 152, 250, 0, 240, 236};
-  if (radix > kWidestMixed) return static_cast<uint32_t>(radix / 2 * (radix / 2) * 6 + 20 * radix);
+  constexpr uint16_t kCosts[] = {0, 0,   12,  24, 32, 48, 64,  88,  80, 130, 120, 190, 150, 250,
+                                 0, 210, 236, 0,  0,  0,  300, 380, 0,  0,   420, 430, 0,   540};
+  if (isLargePrime(radix)) return static_cast<uint32_t>(radix / 2 * (radix / 2) * 6 + 20 * radix);
   return kHasMasks || radix < 8 ? kCosts[radix] : kCosts[radix] * 5 / 4;
 }
 
@@ -74,7 +96,8 @@ template <class T> class MixedPlanner {
     findDivisors();
     for (size_t i = 1; i < divisors_; ++i) {
       best_[i] = UINT64_MAX;
-      consider(i, n, kRadices);
+      if (divisor_[i] == n || columns > 1) consider(i, n, kRadices);
+      else consider(i, n, kLaterRadices);
       consider(i, n, std::span(large_, larges_));
     }
     if (best_[divisors_ - 1] == UINT64_MAX) return false;
@@ -112,25 +135,34 @@ template <class T> class MixedPlanner {
   // The passes from divisor i on, of which n / i are done.
   void consider(size_t i, uint32_t n, std::span<const uint8_t> radices) {
     const uint32_t d = divisor_[i];
+    const bool fitsNearest = columns_ > 1 || n * 4 * sizeof(T) <= kNearestCache;
+    const uint64_t pass = kPass + (fitsNearest ? 0 : vectors(n) * kAwayFromNearest / 2);
     for (const uint8_t radix : radices) {
       if (d % radix != 0) continue;
       const uint32_t m = d / radix;
       const uint64_t after = m == 1 ? 0 : best_[indexOf(m)];
       if (after == UINT64_MAX) continue;
       const uint64_t s = n / d * columns_;
+      const bool isAligned = s % kWidest<T> == 0 || (m == 1 && s <= kMostPadded);
+      const uint32_t memory = columns_ > 1 ? kAwayFromNearest : isAligned ? 0 : kUnaligned;
       const uint64_t here =
-          s == 1 ? uint64_t{vectors(m)} * (costOfRadix(radix) + (radix + kWidest<T> - 1) / kWidest<T> * kTransposition)
-                 : uint64_t{vectors(s)} * m * (costOfRadix(radix) + (columns_ > 1 ? radix * kAwayFromNearest : 0));
-      if (here + after + kPass < best_[i]) {
-        best_[i] = here + after + kPass;
+          s == 1 ? uint64_t{vectors(m)} * (costOfRadix(radix) + (radix + kWidest<T> / 2 - 1) / kWidest<T> * kTransposition)
+                 : uint64_t{vectors(s)} * m * (costOfRadix(radix) + radix * memory);
+      // The last pass has no twiddles, but interleaves; the largest radices were measured to be slower there.
+      const uint64_t last = radix < 24 ? here - vectors(s) * radix : here + here / 16;
+      const uint64_t cost = (m > 1 ? here : last) + after + pass;
+      if (cost < best_[i]) {
+        best_[i] = cost;
         radix_[i] = radix;
       }
     }
   }
   static uint64_t vectors(uint64_t count) { return (count + kWidest<T> - 1) / kWidest<T>; }
   static constexpr uint32_t kPass = 100;
-  static constexpr uint32_t kAwayFromNearest = 8;  // a vector of a tile that the nearest cache does not hold, there and back
-  static constexpr uint32_t kTransposition = 2 * kWidest<T> * (log2Of(kWidest<T>) + 1);
+  static constexpr size_t kNearestCache = 48 << 10;  // from which each pass takes its points, and into which its results go
+  static constexpr uint32_t kAwayFromNearest = 8;    // a vector of a tile that the nearest cache does not hold, there and back
+  static constexpr uint32_t kUnaligned = 3;          // a vector in two lines of the cache
+  static constexpr uint32_t kTransposition = kWidest<T> * (log2Of(kWidest<T>) + 1);
 
   size_t columns_ = 1;
   uint8_t primes_[10] = {};
@@ -148,8 +180,8 @@ template <class T> class MixedPlanner {
 template <class T> [[gnu::noinline]] bool planMixed(uint32_t n, MixedPlan<T>& plan) { return MixedPlanner<T>().plan(n, 1, plan); }
 
 // The numbers of a plan's tables, with what aligns the first.
-template <class T> size_t rootsOf(size_t radix) { return radix > kWidestMixed ? radix / 2 * (radix / 2) * 2 : 0; }
-template <class T> size_t lanesOfFirst(size_t radix) { return radix > kWidestMixed ? kManyLanes<T> : kWidest<T>; }
+template <class T> size_t rootsOf(size_t radix) { return isLargePrime(radix) ? radix / 2 * (radix / 2) * 2 : 0; }
+template <class T> size_t lanesOfFirst(size_t radix) { return isLargePrime(radix) ? kManyLanes<T> : kWidest<T>; }
 template <class T> size_t tableLength(const MixedPlan<T>& plan) {
   size_t length = Carver::kLine / sizeof(T);
   size_t m = plan.n;
@@ -197,7 +229,7 @@ template <class T> T* writeMixedColumns(MixedPlan<T>& plan, T* out) {
   plan.tables = out;
   for (size_t pass = 0, n = plan.n; pass < plan.count; n /= plan.radix[pass++]) {
     const size_t radix = plan.radix[pass];
-    if (radix > kWidestMixed) writeRoots(radix, out);
+    if (isLargePrime(radix)) writeRoots(radix, out);
     out += rootsOf<T>(radix);
     if (n > radix) out = writeMiddle(n, radix, out);
   }
@@ -214,7 +246,7 @@ template <class Src, class T> void writeMixed(MixedPlan<T>& plan, T* block) {
     const size_t others = radix - 1;
     const size_t n = m;
     m /= radix;
-    if (radix > kWidestMixed) writeRoots(radix, out);
+    if (isLargePrime(radix)) writeRoots(radix, out);
     out += rootsOf<T>(radix);
     if (m == 1) break;
     if (pass > 0) {
@@ -232,21 +264,27 @@ template <class Src, class T> void writeMixed(MixedPlan<T>& plan, T* block) {
           n, count, [=](size_t i) { return column(i) * (i / L % others + 1); }, intoGroups<L>(out));
       out += 2 * count;
     };
-    if (radix > kWidestMixed) write(std::integral_constant<size_t, kManyLanes<T>>());
+    if (isLargePrime(radix)) write(std::integral_constant<size_t, kManyLanes<T>>());
     else write(std::integral_constant<size_t, kWidest<T>>());
   }
 }
 
-// The passes of one radix, which is large or one of kRadices.
+// Lanes for runs of up to half a vector, such as 8 floats after a first pass of radix 8.
+template <class T> inline constexpr size_t kNarrow = kVectorBytes == 64 && sizeof(T) == 4 ? kWidest<T> / 2 : kWidest<T>;
+
+// The passes of one radix, which is a large prime or one of kLaterRadices.
 template <class T>
 void runMiddlePass(size_t radix, const T* tables, Planes<const T> from, Planes<T> to, size_t s, size_t m, const T* twiddles) {
-  if (radix > kWidestMixed) return middlePassOfMany<kManyLanes<T>>(radix, tables, from, to, s, m, twiddles);
-  withMixedRadix(radix, [=](auto R) { middleMixedPass<R, kWidest<T>>(from, to, s, m, twiddles); });
+  if (isLargePrime(radix)) return middlePassOfMany<kManyLanes<T>>(radix, tables, from, to, s, m, twiddles);
+  if constexpr (kNarrow<T> < kWidest<T>) {
+    if (s <= kNarrow<T>) return withLaterRadix(radix, [=](auto R) { middleMixedPass<R, kNarrow<T>>(from, to, s, m, twiddles); });
+  }
+  withLaterRadix(radix, [=](auto R) { middleMixedPass<R, kWidest<T>>(from, to, s, m, twiddles); });
 }
 template <class T, class Dst>
 void runLastPass(size_t radix, const T* tables, Planes<const T> from, Dst dst, LastSteps steps, T factor) {
-  if (radix > kWidestMixed) return lastPassOfMany<kManyLanes<T>>(radix, tables, from, dst, steps, factor);
-  withMixedRadix(radix, [=](auto R) { lastMixedPass<R, kWidest<T>>(from, dst, steps, factor); });
+  if (isLargePrime(radix)) return lastPassOfMany<kManyLanes<T>>(radix, tables, from, dst, steps, factor);
+  withLaterRadix(radix, [=](auto R) { lastMixedPass<R, kWidest<T>>(from, dst, steps, factor); });
 }
 
 // From src to dst, which may be the same, by way of `even` and `odd`, each with room for n points in planes: the last pass but
@@ -256,20 +294,20 @@ void runMixed(const MixedPlan<T>& plan, Src src, Dst dst, Planes<T> even, Planes
   constexpr size_t L = kWidest<T>;
   constexpr size_t M = kManyLanes<T>;
   const T* tables = plan.tables;
-  if (plan.count == 2 && plan.radix[0] <= kMostPadded && plan.radix[1] <= kMostPadded) {
-    alignas(64) T rows[2 * kMostPadded * kMostPadded];
-    const Planes<T> padded = planes(rows, rows + kMostPadded * kMostPadded);
+  if (plan.count == 2 && plan.radix[0] <= kMostPadded && plan.radix[1] <= kMostPaddedRows) {
+    alignas(64) T rows[2 * kMostPadded * kMostPaddedRows];
+    const Planes<T> padded = planes(rows, rows + kMostPadded * kMostPaddedRows);
     const size_t stride = up<static_cast<int64_t>(L)>(plan.radix[0]);
     withMixedRadix(plan.radix[0], [=](auto R) { firstMixedPass<R, L>(src, padded, plan.radix[1], tables, true); });
     const LastSteps steps = {.columns = plan.radix[0], .points = stride, .results = plan.radix[0], .isPadded = true};
-    withMixedRadix(plan.radix[1], [=](auto R) { lastMixedPass<R, L>(asConst(padded), dst, steps, factor); });
-    return;
+    tables += (plan.radix[1] + L - 1) / L * L * (plan.radix[0] - 1U) * 2;
+    return runLastPass(plan.radix[1], tables, asConst(padded), dst, steps, factor);
   }
   Planes<T> from = plan.count % 2 == 0 ? even : odd;
   Planes<T> to = plan.count % 2 == 0 ? odd : even;
   const size_t first = plan.radix[0];
   size_t m = plan.n / first;
-  if (first > kWidestMixed) {
+  if (isLargePrime(first)) {
     firstPassOfMany<M>(first, tables, src, from, m, tables + rootsOf<T>(first));
     tables += rootsOf<T>(first) + (m + M - 1) / M * M * (first - 1) * 2;
   } else {

@@ -83,18 +83,18 @@ template <size_t P, class Z> QVX_INLINE void dftOfPairs(Z (&x)[P]) {
   unrolled<H>([&](auto at) __attribute__((always_inline)) {
     constexpr size_t j = at + 1;
     Z even = sumWith(kPrimeRoots<P>.cosine[j], first, sums[0]);
-    if constexpr (P == 3) return addWithI(kPrimeRoots<P>.sine[1], even, differences[0], x[1], x[2]);
-    Z odd = scaledBy(kPrimeRoots<P>.sine[j], differences[0]);
+    // Divided by the first one's sine, which goes into the last addition: radix 5 takes 32 operations, not 36.
+    Z odd = differences[0];
     unrolled<H - 1>([&](auto i) __attribute__((always_inline)) {
       constexpr size_t k = i + 1;
       constexpr size_t turn = j * (k + 1) % P;
       constexpr size_t folded = turn <= H ? turn : P - turn;
+      constexpr double kRatio = kPrimeRoots<P>.sine[folded] / kPrimeRoots<P>.sine[j];
       even = sumWith(kPrimeRoots<P>.cosine[folded], even, sums[k]);
-      if constexpr (turn <= H) odd = sumWith(kPrimeRoots<P>.sine[folded], odd, differences[k]);
-      else odd = differenceWith(kPrimeRoots<P>.sine[folded], odd, differences[k]);
+      if constexpr (turn <= H) odd = sumWith(kRatio, odd, differences[k]);
+      else odd = differenceWith(kRatio, odd, differences[k]);
     });
-    x[j] = differenceWithI(even, odd);
-    x[P - j] = sumWithI(even, odd);
+    addWithI(kPrimeRoots<P>.sine[j], even, odd, x[j], x[P - j]);
   });
 }
 
@@ -158,6 +158,7 @@ template <size_t R, class Z> QVX_INLINE void anyDft(Z (&x)[R]) {
   else if constexpr (R == 15) dftOfCoprimes<3, 5>(x);
   else if constexpr (R == 18) dftOfCoprimes<2, 9>(x);
   else if constexpr (R == 20) dftOfCoprimes<4, 5>(x);
+  else if constexpr (R == 21) dftOfCoprimes<7, 3>(x);
   else if constexpr (R == 24) dftOfCoprimes<8, 3>(x);
   else if constexpr (R == 25) dftOfProduct<5, 5>(x);
   else if constexpr (R == 27) dftOfProduct<9, 3>(x);
