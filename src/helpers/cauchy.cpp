@@ -2,10 +2,12 @@
 //
 // In doubles, which hold every square of a float and every sum of two such squares without overflow or underflow: the sums are
 // then right to 2^-52, and one rounding to a float remains. Where multiplications fuse, the function and its first derivative
-// are computed in floats, twice as fast, for C from 2^-30 to 2^30. The second derivative would need all of its sums and the
-// reciprocal in pairs of floats, which takes as long as doubles.
+// are computed in floats, twice as fast, for C from 2^-30 to 2^30; both derivatives together too, in 0.7 of the time of doubles.
+//
+// All of it to nearest in any mode of the processor: rounded upwards, the function in floats was off by 128 ULP.
 #include "frame/complex.h"
 #include "frame/redo.h"
+#include "frame/rounding.h"
 #include "math/ln.h"
 #include "vector/both_ways.h"
 
@@ -127,6 +129,53 @@ template <bool kExactSquare> struct NearDerivative {
   }
 };
 
+// Both derivatives in floats: the errors are below 1.7 ULP (first) and 1.9 ULP (second), of which x r or C^2 - x^2 and the last
+// addition make 1.5. What rounding takes of all else is known and added.
+//
+// Of the sum s = x^2 + C^2 it is known to 2^-28 of s: up to 4 C by s less the first 20 bits of C^2, which is a float without
+// rounding; further out by s less x^2.
+template <bool kExactSquare> struct NearBothDerivatives {
+  float c;
+  float square, squareRest;  // their sum is C^2
+
+  template <class V> Pair<V> operator()(V x) const {
+    const TagOf<V> d;
+    const hn::RebindToSigned<TagOf<V>> bits;
+    const V one = same<V>(1);
+    const V whole = same<V>(square);
+    const V first20 = as<float>(as<int32_t>(whole) & hn::Set(bits, -16));
+    const V others = whole - first20 + same<V>(squareRest);
+    const V s = hn::MulAdd(x, x, first20);
+    const auto isLow = hn::Abs(x) <= same<V>(4 * c);
+    const V sRest = hn::MulAdd(x, x, hn::IfThenElseZero(isLow, first20) - s) + hn::IfThenElse(isLow, others, whole);
+    const V r = kHasMasks ? estimate(s) : one / s;
+    const V e = hn::NegMulAdd(r, sRest, hn::NegMulAdd(r, s, one));  // 1 / (s + sRest) is r (1 + e + e^2 ...)
+    const V f = x * r;
+    const V first = hn::MulAdd(f, e, f);
+    const V difference = hn::NegMulAdd(x, x, whole);
+    const V t = difference * r;
+    V tRest = hn::MulSub(difference, r, t);
+    V tWhole = t;
+    if (!kExactSquare) {
+      tRest = hn::MulAdd(same<V>(squareRest), r, tRest);
+      tWhole = t + tRest;
+    }
+    const V twiceE = as<float>(as<int32_t>(e) + hn::Set(bits, 1 << 23));  // by a unit that has no part in the products
+    V second = hn::MulAdd(t, r, r * hn::MulAdd(tWhole, twiceE, tRest));
+    // t and tRest cancel there, and the rounding of r tRest would be left.
+    if (!kExactSquare) second = hn::IfThenZeroElse(hn::Abs(x) == same<V>(c), second);
+    const auto isNear = s < same<V>(kMostNear);
+    if (HWY_LIKELY(hn::AllTrue(d, isNear))) return {first, second};
+    const uint64_t isFar = maskBits(d, hn::Not(isNear));
+    const auto firstOf = [c = double{c}](float v) { return static_cast<float>(v / (c * c + double{v} * v)); };
+    const auto secondOf = [c = double{c}](float v) {
+      const double sum = c * c + double{v} * v;
+      return static_cast<float>((c * c - double{v} * v) / sum / sum);
+    };
+    return {redone(isFar, first, firstOf, x), redone(isFar, second, secondOf, x)};
+  }
+};
+
 struct SecondDerivative {
   double square;
 
@@ -164,6 +213,7 @@ bool overlap(const Qvx32f* a, const Qvx32f* b, size_t n) {
 QvxStatus qvxsCauchy_32f_I(Qvx32f* p, int len, Qvx32f c) {
   const QvxStatus status = checked(p, p, len, c);
   if (status != qvxStatOk) return status;
+  const RoundingScope nearest(Rounding::kNearest);
   if (isNear(c)) return loop(NearHalfLogarithm::of(c), destination(p), elements(len), source(p));
   return loop<double>(HalfLogarithm{1 / double{c}}, destination(p), elements(len), source(p));
 }
@@ -171,9 +221,10 @@ QvxStatus qvxsCauchy_32f_I(Qvx32f* p, int len, Qvx32f c) {
 QvxStatus qvxsCauchyD_32f_I(Qvx32f* p, int len, Qvx32f c) {
   const QvxStatus status = checked(p, p, len, c);
   if (status != qvxStatOk) return status;
+  const RoundingScope nearest(Rounding::kNearest);
   if (isNear(c)) {
     const float square = c * c;
-    const auto rest = static_cast<float>(double{c} * c - double{square});
+    const float rest = std::fma(c, c, -square);
     const auto in = [&](auto kernel) { return loop(kernel, InTwos{destination(p)}, elements(len), InTwos{source(p)}); };
     return rest == 0 ? in(NearDerivative<true>{c, square, rest}) : in(NearDerivative<false>{c, square, rest});
   }
@@ -183,7 +234,17 @@ QvxStatus qvxsCauchyD_32f_I(Qvx32f* p, int len, Qvx32f c) {
 QvxStatus qvxsCauchyDD2_32f_I(Qvx32f* p, Qvx32f* second, int len, Qvx32f c) {
   const QvxStatus status = checked(p, second, len, c);
   if (status != qvxStatOk) return status;
+  const size_t n = elements(len);
+  const SplitDestination<Qvx32f> both{p, second};
+  const RoundingScope nearest(Rounding::kNearest);
+  if (isNear(c)) {
+    const auto with = [&](auto kernel) {
+      return overlap(p, second, n) ? inTurn(kernel, p, second, n) : loop(kernel, both, n, source(p));
+    };
+    const float square = c * c;
+    const float rest = std::fma(c, c, -square);
+    return rest == 0 ? with(NearBothDerivatives<true>{c, square, rest}) : with(NearBothDerivatives<false>{c, square, rest});
+  }
   const SecondDerivative kernel = {squareOf(c)};
-  if (overlap(p, second, elements(len))) return inTurn(kernel, p, second, elements(len));
-  return loop<double>(kernel, SplitDestination<Qvx32f>{p, second}, elements(len), source(p));
+  return overlap(p, second, n) ? inTurn(kernel, p, second, n) : loop<double>(kernel, both, n, source(p));
 }

@@ -2,10 +2,12 @@
 #include <gtest/gtest.h>
 #include <qvx/qvxs.h>
 
+#include <cfenv>
 #include <cmath>
 #include <cstring>
 
 #include "support/elementwise.h"
+#include "support/rounding.h"
 #include "support/ulp.h"
 
 namespace {
@@ -17,11 +19,12 @@ long double cauchy(long double x, long double c) { return std::log1p(x / c * (x 
 long double first(long double x, long double c) { return x / (c * c + x * x); }
 long double second(long double x, long double c) { return (c - x) * (c + x) / ((c * c + x * x) * (c * c + x * x)); }
 
-// All magnitudes of a float, and those around C, where the second derivative passes zero. And one that, with C = 0x1.000f5ap+0,
-// tells whether C^2 was rounded to a float.
+// All magnitudes of a float, those around C, and its next neighbours, where the second derivative passes zero. And one that, with
+// C = 0x1.000f5ap+0, tells whether C^2 was rounded to a float.
 std::vector<Qvx32f> arguments(Qvx32f c, Random& random) {
   std::vector<Qvx32f> x = {0.0F,   -0.0F,          c, -c, std::nextafter(c, 0.0F), std::nextafter(c, INFINITY), 3.4e38F, -3.4e38F,
                            1e-45F, 0x1.fbf0f4p-10F};
+  for (int i = 0; i < 30; ++i) x.push_back(c + static_cast<float>(i - 15) * std::max(c * 0x1p-23F, 0x1p-149F));
   for (int i = 0; i < 4000; ++i) {
     const auto any = std::bit_cast<Qvx32f>(static_cast<uint32_t>(random()));
     if (std::isfinite(any)) x.push_back(any);
@@ -42,24 +45,28 @@ template <class Call> void inParts(int n, Call call) {
   call(from, n - from);
 }
 
-TEST(Cauchy, IsWithinTwoUlp) {
+TEST(Cauchy, IsWithinTwoUlpInAnyRoundingMode) {
   Random random(tests::seed());
   double worst[4] = {};
-  for (const Qvx32f c : {1.0F, 0.37F, 2.3849F, 0x1.000f5ap+0F, 1e-3F, 1e19F, 1e20F, 3.4e38F, 1e-19F, 1e-23F, 1e-38F, 1e-45F}) {
+  for (const Qvx32f c :
+       {1.0F, 1.5F, 0.37F, 2.3849F, 0x1.000f5ap+0F, 1e-3F, 1e19F, 1e20F, 3.4e38F, 1e-19F, 1e-23F, 1e-38F, 1e-45F}) {
     const auto x = arguments(c, random);
     const auto n = static_cast<int>(x.size());
-    std::vector<Qvx32f> y = x, d = x, e = x, dd(x.size());
-    inParts(n, [&](int from, int length) {
-      ASSERT_EQ(qvxsCauchy_32f_I(y.data() + from, length, c), qvxStatOk);
-      ASSERT_EQ(qvxsCauchyD_32f_I(d.data() + from, length, c), qvxStatOk);
-      ASSERT_EQ(qvxsCauchyDD2_32f_I(e.data() + from, dd.data() + from, length, c), qvxStatOk);
-    });
-    for (size_t i = 0; i < x.size(); ++i) {
-      const double errors[] = {ulpError(y[i], cauchy(x[i], c)), ulpError(d[i], first(x[i], c)), ulpError(e[i], first(x[i], c)),
-                               ulpError(dd[i], second(x[i], c))};
-      for (int k = 0; k < 4; ++k) {
-        ASSERT_LE(errors[k], 2) << "function " << k << " at " << x[i] << ", C " << c;
-        worst[k] = std::max(worst[k], errors[k]);
+    for (const int mode : {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
+      std::vector<Qvx32f> y = x, d = x, e = x, dd(x.size());
+      inParts(n, [&](int from, int length) {
+        const tests::CallersRounding rounding(mode);
+        ASSERT_EQ(qvxsCauchy_32f_I(y.data() + from, length, c), qvxStatOk);
+        ASSERT_EQ(qvxsCauchyD_32f_I(d.data() + from, length, c), qvxStatOk);
+        ASSERT_EQ(qvxsCauchyDD2_32f_I(e.data() + from, dd.data() + from, length, c), qvxStatOk);
+      });
+      for (size_t i = 0; i < x.size(); ++i) {
+        const double errors[] = {ulpError(y[i], cauchy(x[i], c)), ulpError(d[i], first(x[i], c)), ulpError(e[i], first(x[i], c)),
+                                 ulpError(dd[i], second(x[i], c))};
+        for (int k = 0; k < 4; ++k) {
+          ASSERT_LE(errors[k], 2) << "function " << k << " at " << x[i] << ", C " << c << ", mode " << mode;
+          worst[k] = std::max(worst[k], errors[k]);
+        }
       }
     }
   }
