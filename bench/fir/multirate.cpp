@@ -15,6 +15,11 @@ template <> struct Ours<Qvx32f> {
   static constexpr auto kSetLine = qvxsFIRSetDlyLine_32f;
   static constexpr auto kBlock = qvxsFIR_32f;
 };
+template <> struct Ours<Qvx64f> {
+  static constexpr auto kInit = qvxsFIRMRInitAlloc_64f;
+  static constexpr auto kSetLine = qvxsFIRSetDlyLine_64f;
+  static constexpr auto kBlock = qvxsFIR_64f;
+};
 template <> struct Ours<Qvx32fc> {
   static constexpr auto kInit = qvxsFIRMRInitAlloc_32fc;
   static constexpr auto kSetLine = qvxsFIRSetDlyLine_32fc;
@@ -100,6 +105,7 @@ template <class T> void ratios(Suite& s, const std::string& name) {
 
 void multirate(Suite& s) {
   ratios<Qvx32f>(s, "FIRMR_32f");
+  ratios<Qvx64f>(s, "FIRMR_64f");
   ratios<Qvx32fc>(s, "FIRMR_32fc");
   ratios<Qvx16s>(s, "FIRMR_16s_Sfs");
 }

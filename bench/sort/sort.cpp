@@ -12,12 +12,10 @@ namespace bench {
 
 namespace {
 
-enum class Pattern { kRandom, kSorted, kReversed, kFew, kSaw };
-constexpr std::pair<Pattern, const char*> kPatterns[] = {{Pattern::kRandom, ""},
-                                                         {Pattern::kSorted, ", sorted"},
-                                                         {Pattern::kReversed, ", reversed"},
-                                                         {Pattern::kFew, ", 4 values"},
-                                                         {Pattern::kSaw, ", saw"}};
+enum class Pattern { kRandom, kRepeated, kSorted, kReversed, kFew, kSaw };
+constexpr std::pair<Pattern, const char*> kPatterns[] = {{Pattern::kRandom, ""},         {Pattern::kRepeated, ", each 15 times"},
+                                                         {Pattern::kSorted, ", sorted"}, {Pattern::kReversed, ", reversed"},
+                                                         {Pattern::kFew, ", 4 values"},  {Pattern::kSaw, ", saw"}};
 
 // Room for many short vectors.
 template <class T> size_t vectorsOf(const Vectors& v) {
@@ -25,15 +23,22 @@ template <class T> size_t vectorsOf(const Vectors& v) {
   return std::max<size_t>(1, std::min<size_t>(1 << 18, kSlabBytes / sizeof(T)) / n);
 }
 
+// fill() repeats itself: 10^6 elements would have each value 15 times or more.
+template <class T> void fillAnew(T* x, size_t n) {
+  constexpr size_t kPart = 8192;
+  for (size_t i = 0; i < n; i += kPart) fill<T>(x + i, static_cast<int>(std::min(kPart, n - i)), i + 1);
+}
+
 template <class T> void fillIn(Pattern pattern, const Vectors& v) {
   const auto n = static_cast<size_t>(v.n);
   auto* x = reinterpret_cast<T*>(v.slabs.source(0));
   const size_t count = vectorsOf<T>(v);
-  fill<T>(x, static_cast<int>(n * count), 1);
+  fillAnew(x, n * count);
   for (size_t k = 0; k < count; ++k, x += n) {
     if (pattern == Pattern::kSorted || pattern == Pattern::kReversed) std::sort(x, x + n);
     if (pattern == Pattern::kReversed) std::reverse(x, x + n);
     for (size_t i = 0; i < n; ++i) {
+      if (pattern == Pattern::kRepeated) x[i] = x[i % (n / 15 + 1)];
       if (pattern == Pattern::kFew) x[i] = static_cast<T>(static_cast<uint64_t>(x[i] < T(0) ? -x[i] : x[i]) % 4);
       if (pattern == Pattern::kSaw) x[i] = static_cast<T>(i % 100);
     }

@@ -18,18 +18,16 @@ template <class K> struct Often {
   uint32_t count = 0;  // of values
 };
 
-// Those that a sorted sample has more than once, if they are few and make up half of it.
+// Those that a sorted sample has more than once, if they are few.
 template <class K> [[gnu::noinline]] Often<K> oftenIn(const K* sample, size_t n) {
   Often<K> often;
-  size_t covered = 0;
   for (size_t i = 0, next; i < n; i = next) {
     for (next = i + 1; next < n && sample[next] == sample[i];) ++next;
     if (next == i + 1) continue;
     if (often.count == kMostOften) return {};
     often.value[often.count++] = sample[i];
-    covered += next - i;
   }
-  return 2 * covered >= n ? often : Often<K>();
+  return often;
 }
 
 namespace detail {
