@@ -21,19 +21,12 @@ struct ToIntInMode {
 // AVX2 rounds whatever the mode by two operations more than in the processor's mode, which takes 1 ns to set.
 constexpr int kWorthScope = 128;
 
-// Apart, for short vectors to need no frame.
-template <class With> [[gnu::noinline]] QvxStatus inNearestMode(const With& with) {
-  const RoundingScope scope(Rounding::kNearest);
-  return with(ToIntInMode());
-}
-
 // Runs `with` on the conversion of the round mode. half: the processor's mode in which the half is added. The product before it
 // is exact, or too small or too large for the mode to matter.
 template <class With> QvxStatus byMode(QvxRoundMode mode, Rounding half, int len, const With& with) {
   if (mode == qvxRoundTowardZero) return with(ToInt<qvxRoundTowardZero>());
   if (mode == qvxRoundNearestEven) {
     if (kHasMasks || (kRoundsByInstruction && len < kWorthScope)) return with(ToInt<qvxRoundNearestEven>());
-    if (kRoundsByInstruction) return inNearestMode(with);
     const RoundingScope scope(Rounding::kNearest);
     return with(ToIntInMode());
   }
