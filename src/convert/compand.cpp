@@ -1,6 +1,6 @@
 // The companding laws of G.711, by arithmetic: a code is a sign, a segment of 3 bits and 4 bits within it, and a segment is a
 // power of two. What shifts by the segment is a multiplication, by a factor that a byte shuffle looks up.
-#include "frame/map.h"
+#include "frame/packed24.h"
 #include "frame/rounding.h"
 
 using namespace qvx;
@@ -78,14 +78,25 @@ struct HalfOfMuLaw {
   }
 };
 
-template <class Law, class Half> struct To32f {
+template <class Half> struct To32f {
+  template <class V> auto operator()(V codes) const { return Half()(convertLanes<int16_t>(as<int8_t>(codes))); }
+};
+
+// Where no instruction takes halves, a register of codes at a time, for the arithmetic in 16-bit lanes to fill its own.
+template <class Law> struct To32fThrough16s {
   template <class V> auto operator()(V codes) const {
-    if constexpr (kConvertsHalves) {
-      return Half()(convertLanes<int16_t>(as<int8_t>(codes)));
-    } else {
-      const auto x = convertLanes<float>(To16s<Law>()(codes));
-      return x * same<std::remove_const_t<decltype(x)>>(0x1p-15F);
-    }
+    const auto values = each(widen<uint16_t>(codes), [](auto v) { return Law()(as<int16_t>(v)); });
+    const auto lo = inFloats(values.lo);
+    const auto hi = inFloats(values.hi);
+    return Quad<std::remove_const_t<decltype(lo.lo)>>{lo.lo, lo.hi, hi.lo, hi.hi};
+  }
+
+ private:
+  template <class V> static auto inFloats(V v) {
+    return each(widen<int32_t>(v), [](auto x) {
+      const auto f = convertLanes<float>(x);
+      return f * same<std::remove_const_t<decltype(f)>>(0x1p-15F);
+    });
   }
 };
 
@@ -197,13 +208,19 @@ template <class Kernel, class S, class D> QvxStatus apply(const S* src, D* dst, 
   return status != qvxStatOk ? status : loop(Kernel(), destination(dst), elements(len), source(src));
 }
 
+template <class Law, class Half> QvxStatus toFloat(const Qvx8u* src, Qvx32f* dst, int len) {
+  if constexpr (kConvertsHalves) return apply<To32f<Half>>(src, dst, len);
+  const QvxStatus status = check(len, src, dst);
+  return status != qvxStatOk ? status : loop(To32fThrough16s<Law>(), Quads{dst}, elements(len), source(src));
+}
+
 }  // namespace
 
 // clang-format off
 QvxStatus qvxsALawToLin_8u16s(const Qvx8u* a, Qvx16s* d, int len) { return apply<To16s<FromALaw>>(a, d, len); }
-QvxStatus qvxsALawToLin_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return apply<To32f<FromALaw, HalfOfALaw>>(a, d, len); }
+QvxStatus qvxsALawToLin_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return toFloat<FromALaw, HalfOfALaw>(a, d, len); }
 QvxStatus qvxsMuLawToLin_8u16s(const Qvx8u* a, Qvx16s* d, int len) { return apply<To16s<FromMuLaw>>(a, d, len); }
-QvxStatus qvxsMuLawToLin_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return apply<To32f<FromMuLaw, HalfOfMuLaw>>(a, d, len); }
+QvxStatus qvxsMuLawToLin_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return toFloat<FromMuLaw, HalfOfMuLaw>(a, d, len); }
 QvxStatus qvxsLinToALaw_16s8u(const Qvx16s* a, Qvx8u* d, int len) { return apply<From16s<ToALaw>>(a, d, len); }
 QvxStatus qvxsLinToALaw_32f8u(const Qvx32f* a, Qvx8u* d, int len) { return fromFloat<ToALaw>(a, d, len); }
 QvxStatus qvxsLinToMuLaw_16s8u(const Qvx16s* a, Qvx8u* d, int len) { return apply<From16s<ToMuLaw>>(a, d, len); }

@@ -27,16 +27,13 @@ struct Magnitude16ToFloat {
   template <class... V> auto operator()(V... parts) const { return hn::Sqrt(Power16ToFloat()(parts...)); }
 };
 
-// The exact root of the exact power in lanes of signed integers. These end one below the largest power, whose root lies as far
-// from a tie as its neighbour's.
-template <class V> auto belowSign(V power) {
-  constexpr auto kMost = std::numeric_limits<LaneOf<V>>::max() / 2;
-  return as<std::make_signed_t<LaneOf<V>>>(hn::Min(power, same<V>(kMost)));
-}
+// The exact root of the exact power in lanes of signed integers, by belowSign(): the root of the largest power lies as far from a
+// tie as its neighbour's.
 
 // An operation gives its kernel for a way to take and scale a root.
 struct Magnitude16Complex {
   static constexpr int kBits = 15;
+  static constexpr bool kInDoubles = false;
   static constexpr int kMaxScale = 16;  // the root of 2^31 is below half of 2^17
   template <class Root> static auto kernel(Root root) {
     return [root](auto pair) {
@@ -56,9 +53,10 @@ struct Magnitude16 : Magnitude16Complex {
 };
 struct Magnitude32Complex {
   static constexpr int kBits = 31;
+  static constexpr bool kInDoubles = true;
   static constexpr int kMaxScale = 32;
   template <class Root> static auto kernel(Root root) {
-    return [root](auto z) { return saturatedTo32(root(belowSign(PowerOf32()(z)))); };
+    return [root](auto pair) { return saturatedTo32(each(pair, [root](auto z) { return root(belowSign(PowerOf32()(z))); })); };
   }
 };
 
@@ -80,7 +78,7 @@ QvxStatus qvxsMagnitude_32fc(const Qvx32fc* a, Qvx32f* d, int len) { return mapB
 QvxStatus qvxsMagnitude_64fc(const Qvx64fc* a, Qvx64f* d, int len) { return map<Magnitude>(d, len, InTeam<kMagnitude64>{}, deinterleaved(a)); }
 QvxStatus qvxsMagnitude_16sc32f(const Qvx16sc* a, Qvx32f* d, int len) { return map<Magnitude16ToFloat>(d, len, InTeam<kMagnitude16sc32f, InOwnLanes>{}, words(a)); }
 QvxStatus qvxsMagnitude_16sc_Sfs(const Qvx16sc* a, Qvx16s* d, int len, int sf) { return map<Magnitude16Complex>(d, len, InTeam<kMagnitude16, ScaledRoot>{{sf}}, InPairs{words(a)}); }
-QvxStatus qvxsMagnitude_32sc_Sfs(const Qvx32sc* a, Qvx32s* d, int len, int sf) { return map<Magnitude32Complex>(d, len, InTeam<kMagnitude32sc, ScaledRoot>{{sf}}, words(a)); }
+QvxStatus qvxsMagnitude_32sc_Sfs(const Qvx32sc* a, Qvx32s* d, int len, int sf) { return map<Magnitude32Complex>(d, len, InTeam<kMagnitude32sc, ScaledRoot>{{sf}}, InPairs{words(a)}); }
 QvxStatus qvxsMagnitude_32f(const Qvx32f* re, const Qvx32f* im, Qvx32f* d, int len) { return mapBothWays<Magnitude, kMagnitude32f>(d, len, re, im); }
 QvxStatus qvxsMagnitude_64f(const Qvx64f* re, const Qvx64f* im, Qvx64f* d, int len) { return map<Magnitude>(d, len, InTeam<kMagnitude64>{}, re, im); }
 QvxStatus qvxsMagnitude_16s_Sfs(const Qvx16s* re, const Qvx16s* im, Qvx16s* d, int len, int sf) { return map<Magnitude16>(d, len, InTeam<kMagnitude16, ScaledRoot>{{sf}}, re, im); }

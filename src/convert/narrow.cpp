@@ -75,11 +75,7 @@ QvxStatus qvxsConvert_64s32s_Sfs(const Qvx64s* a, Qvx32s* d, int len, QvxRoundMo
   const QvxStatus status = check(len, a, d);
   if (status != qvxStatOk) return status;
   const auto with = [=](auto kernel) {
-    const auto joined = [kernel](auto pair) {
-      const auto lo = saturatedTo32(kernel(pair.lo));
-      return hn::Combine(hn::Twice<TagOf<std::remove_const_t<decltype(lo)>>>(), saturatedTo32(kernel(pair.hi)), lo);
-    };
-    return loop(joined, destination(d), elements(len), InPairs{a});
+    return loop([kernel](auto pair) { return saturatedTo32(each(pair, kernel)); }, destination(d), elements(len), InPairs{a});
   };
   if (sf <= 0) return with([places = -std::max(sf, -31)](auto v) { return saturatedShiftLeft(v, places); });
   const int places = std::min(sf, 63);

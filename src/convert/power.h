@@ -37,4 +37,10 @@ struct PowerOf32 {
   }
 };
 
+// Powers as signed lanes: these end one below the largest of them, half the range of unsigned ones.
+template <class V> auto belowSign(V power) {
+  constexpr int kSign = 8 * sizeof(LaneOf<V>) - 1;
+  return as<std::make_signed_t<LaneOf<V>>>(power - hn::ShiftRight<kSign>(power));
+}
+
 }  // namespace qvx

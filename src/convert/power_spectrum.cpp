@@ -5,26 +5,24 @@ using namespace qvx;
 
 namespace {
 
-// Lanes that hold the result times 2^-scaleFactor, not above kMost. What the lanes hold is at most half their range.
-template <class Lane, Lane kMost, class With> QvxStatus scaledPower(int scaleFactor, const With& with) {
+// Runs `with` on what scales a power, in unsigned lanes that it fills by half at most, and on what is left to do after it is
+// saturated to half as many bits.
+template <class Lane, class With> QvxStatus scaledPower(int scaleFactor, const With& with) {
   constexpr int kWidth = 8 * sizeof(Lane);
-  constexpr int kMostPlaces = kWidth / 2;  // send every value but 0 above the most
-  const auto limited = [](auto v) { return hn::Min(v, same<decltype(v)>(kMost)); };
-  if (scaleFactor >= kWidth) return with([](auto v) { return hn::Zero(TagOf<decltype(v)>()); });
-  if (scaleFactor > 0) return with([=](auto v) { return limited(roundedShiftRoomy(v, scaleFactor)); });
-  if (scaleFactor == 0) return with(limited);
-  const int places = std::min(-static_cast<int64_t>(scaleFactor), int64_t{kMostPlaces} - 1);
-  return with([=](auto v) { return limited(hn::ShiftLeftSame(limited(v), places)); });
+  const auto asItIs = [](auto v) { return v; };
+  const auto toSigned = [](auto v) { return as<std::make_signed_t<Lane>>(v); };
+  if (scaleFactor >= kWidth) return with([=](auto v) { return toSigned(hn::Zero(TagOf<decltype(v)>())); }, asItIs);
+  if (scaleFactor > 0) return with([=](auto v) { return toSigned(roundedShiftRoomy(v, scaleFactor)); }, asItIs);
+  const int places = -std::max(scaleFactor, 1 - kWidth / 2);
+  return with([](auto v) { return belowSign(v); }, [places](auto v) { return saturatedShiftLeft(v, places); });
 }
-
-constexpr uint32_t kMost16 = INT16_MAX;
 
 QvxStatus power16Complex(const Qvx16sc* src, Qvx16s* dst, int len, int scaleFactor) {
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;
-  return scaledPower<uint32_t, kMost16>(scaleFactor, [&](auto scale) {
+  return scaledPower<uint32_t>(scaleFactor, [&](auto scale, auto last) {
     const auto kernel = [=](auto pair) {
-      return narrowInOrder<int16_t>(each(pair, [=](auto z) { return as<int32_t>(scale(powerOf16(z))); }));
+      return last(narrowInOrder<int16_t>(each(pair, [=](auto z) { return scale(powerOf16(z)); })));
     };
     return loop(kernel, destination(dst), elements(len), InPairs{reinterpret_cast<const uint32_t*>(src)});
   });
@@ -33,12 +31,12 @@ QvxStatus power16Complex(const Qvx16sc* src, Qvx16s* dst, int len, int scaleFact
 QvxStatus power16(const Qvx16s* re, const Qvx16s* im, Qvx16s* dst, int len, int scaleFactor) {
   const QvxStatus status = check(len, re, im, dst);
   if (status != qvxStatOk) return status;
-  return scaledPower<uint32_t, kMost16>(scaleFactor, [&](auto scale) {
+  return scaledPower<uint32_t>(scaleFactor, [&](auto scale, auto last) {
     const auto kernel = [=](auto re, auto im) {
       const TagOf<decltype(re)> d;
-      const auto half = [=](auto z) { return as<int32_t>(scale(powerOf16(z))); };
+      const auto half = [=](auto z) { return scale(powerOf16(z)); };
       const auto lo = half(hn::InterleaveLower(d, re, im));
-      return narrow<int16_t>(Pair<std::remove_const_t<decltype(lo)>>{lo, half(hn::InterleaveUpper(d, re, im))});
+      return last(narrow<int16_t>(Pair<std::remove_const_t<decltype(lo)>>{lo, half(hn::InterleaveUpper(d, re, im))}));
     };
     return loop(kernel, destination(dst), elements(len), source(re), source(im));
   });
@@ -47,9 +45,9 @@ QvxStatus power16(const Qvx16s* re, const Qvx16s* im, Qvx16s* dst, int len, int 
 QvxStatus power32Complex(const Qvx32sc* src, Qvx32s* dst, int len, int scaleFactor) {
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;
-  return scaledPower<uint64_t, INT32_MAX>(scaleFactor, [&](auto scale) {
-    const auto kernel = [=](auto z) { return saturatedTo32(as<int64_t>(scale(PowerOf32()(z)))); };
-    return loop(kernel, destination(dst), elements(len), source(reinterpret_cast<const uint64_t*>(src)));
+  return scaledPower<uint64_t>(scaleFactor, [&](auto scale, auto last) {
+    const auto kernel = [=](auto pair) { return last(saturatedTo32(each(pair, [=](auto z) { return scale(PowerOf32()(z)); }))); };
+    return loop(kernel, destination(dst), elements(len), InPairs{reinterpret_cast<const uint64_t*>(src)});
   });
 }
 

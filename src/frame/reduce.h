@@ -72,8 +72,8 @@ template <class V, bool kOfPairs = false> struct LongSum {
   V upper;
 
   static V upperHalf(V v) {
-    if constexpr (kOfPairs) return hn::ShiftRight<kHalf>(v - same<V>(1));
-    else return hn::ShiftRight<kHalf>(v);
+    if constexpr (kOfPairs) return shiftedRight(v - same<V>(1), kHalf);
+    else return shiftedRight(v, kHalf);
   }
   static LongSum of(V v) { return {v, upperHalf(v)}; }
   LongSum plus(V v) const { return {wrapped + v, upper + upperHalf(v)}; }

@@ -77,11 +77,22 @@ template <class V> V saturatedSub(V a, V b) {
   }
 }
 
+// v / 2^s, floored, for s from 0 to the lane's width - 1. Signed lanes of 64 bits have no such instruction below AVX-512: there
+// the sign passes through a logical shift as an offset.
+template <class V> V shiftedRight(V v, int s) {
+  if constexpr (std::is_same_v<LaneOf<V>, int64_t> && !kHasMasks) {
+    const auto offset = as<uint64_t>(v + same<V>(INT64_MIN));
+    return as<int64_t>(hn::ShiftRightSame(offset, s)) - same<V>(int64_t{1} << (63 - s));
+  } else {
+    return hn::ShiftRightSame(v, s);
+  }
+}
+
 // v * 2^places, saturated. From the lane's width on every non-zero lane is beyond the range.
 template <class V> V saturatedShiftLeft(V v, int places) {
   using T = LaneOf<V>;
   const V shifted = hn::ShiftLeftSame(v, places);
-  const auto kept = hn::ShiftRightSame(shifted, places) == v;
+  const auto kept = shiftedRight(shifted, places) == v;
   V extreme = same<V>(std::numeric_limits<T>::max());
   if constexpr (std::is_signed_v<T>) extreme = extreme ^ hn::BroadcastSignBit(v);
   return hn::IfThenElse(kept, shifted, extreme);
@@ -108,7 +119,7 @@ template <class V> V halfUp(V v, V less, int s) {
     using U = std::make_unsigned_t<T>;
     const V fraction = v & same<V>(static_cast<T>((U{1} << s) - 1));
     const V carry = fraction + same<V>(static_cast<T>(U{1} << (s - 1))) - less;
-    return hn::ShiftRightSame(v, s) + as<T>(hn::ShiftRightSame(as<U>(carry), s));
+    return shiftedRight(v, s) + as<T>(hn::ShiftRightSame(as<U>(carry), s));
   }
 }
 
@@ -118,7 +129,7 @@ template <class V> V roundedShift(V v, int s) { return halfUp(v, evenQuotient(v,
 // The same for lanes in which v + 2^(s-1) does not overflow: three instructions fewer.
 template <class V> V roundedShiftRoomy(V v, int s) {
   using T = LaneOf<V>;
-  return hn::ShiftRightSame(v - evenQuotient(v, s) + same<V>(static_cast<T>(T{1} << (s - 1))), s);
+  return shiftedRight(v - evenQuotient(v, s) + same<V>(static_cast<T>(T{1} << (s - 1))), s);
 }
 
 // ---- sums and differences: one bit more than a lane
@@ -183,7 +194,7 @@ template <int kMode> struct ShiftByMode {
     } else if constexpr (kMode == qvxRoundTowardZero) {
       const V fraction = v.half & same<V>(static_cast<T>((std::make_unsigned_t<T>{1} << t) - 1));
       const V exact = hn::VecFromMask(TagOf<V>(), (fraction | odd) == same<V>(0));
-      return hn::ShiftRightSame(v.half, t) - hn::AndNot(exact, negative);
+      return shiftedRight(v.half, t) - hn::AndNot(exact, negative);
     } else {
       // A negative half stays at the floor, which is the side away from zero.
       return s == 1 ? v.half + hn::AndNot(negative, odd) : halfUp(v.half, hn::AndNot(odd, negative & one), t);
@@ -244,18 +255,7 @@ struct ShiftHigh {
   }
 };
 
-// 64-bit products of the even and of the odd 32-bit lanes.
-template <class V> struct EvenOdd {
-  V even;
-  V odd;
-};
-
-template <class V> auto wideProduct(V a, V b) {
-  const auto odd = evenProducts(hn::Shuffle2301(a), hn::Shuffle2301(b));
-  return EvenOdd<decltype(odd)>{evenProducts(a, b), odd};
-}
-
-// Back to 32-bit lanes, saturated.
+// 64-bit products back to 32-bit lanes, saturated.
 template <class V> auto narrow(EvenOdd<V> v) {
 #if QVXS_AVX512
   if constexpr (sizeof(v.even.raw) == 64) {
@@ -263,10 +263,12 @@ template <class V> auto narrow(EvenOdd<V> v) {
     const Lanes<int32_t, 16> d;
     return lanesOfTwo(hn::ZeroExtendVector(d, saturatedTo32(v.even)), hn::ZeroExtendVector(d, saturatedTo32(v.odd)), kInTurn);
   }
-#endif
   const auto clamp = [](V x) { return hn::Min(hn::Max(x, same<V>(INT32_MIN)), same<V>(INT32_MAX)); };
   const auto odd = as<int32_t>(hn::ShiftLeft<32>(clamp(v.odd)));
   return hn::OddEven(odd, as<int32_t>(clamp(v.even)));
+#else
+  return wordsInTurn(saturatedWords(v.even, v.odd));
+#endif
 }
 
 template <class V, class F> auto each(EvenOdd<V> v, F f) { return EvenOdd<decltype(f(v.even))>{f(v.even), f(v.odd)}; }

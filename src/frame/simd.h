@@ -90,6 +90,7 @@ template <int kAt> __m128d everyLane(__m128d v) { return _mm_shuffle_pd(v, v, kA
 template <int kAt> __m128d everyBlock(__m128d v) { return v; }
 inline __m128 minusPlus(__m128 a, __m128 b) { return _mm_addsub_ps(a, b); }
 inline __m128d minusPlus(__m128d a, __m128d b) { return _mm_addsub_pd(a, b); }
+inline __m128i wordsInTurn(__m128i v) { return _mm_shuffle_epi32(v, 0xD8); }
 inline __m128 evens(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0x88); }
 inline __m128 odds(__m128 x, __m128 y) { return _mm_shuffle_ps(x, y, 0xDD); }
 #if QVXS_AVX2
@@ -103,6 +104,7 @@ template <int kAt> __m256d everyLane(__m256d v) { return _mm256_permute4x64_pd(v
 template <int kAt> __m256d everyBlock(__m256d v) { return _mm256_permute2f128_pd(v, v, kAt * 0x11); }
 inline __m256 minusPlus(__m256 a, __m256 b) { return _mm256_addsub_ps(a, b); }
 inline __m256d minusPlus(__m256d a, __m256d b) { return _mm256_addsub_pd(a, b); }
+inline __m256i wordsInTurn(__m256i v) { return _mm256_shuffle_epi32(v, 0xD8); }
 inline __m256 evens(__m256 x, __m256 y) { return _mm256_shuffle_ps(x, y, 0x88); }
 inline __m256 odds(__m256 x, __m256 y) { return _mm256_shuffle_ps(x, y, 0xDD); }
 template <class V> auto twice(V v) {
@@ -390,8 +392,14 @@ template <class V> auto upperHalf(V v) {
 
 // v where it is greater (less) than held, else held: also where one of them is a NaN, and where both are zeros. That is what
 // the processor's own instruction gives for this order of operands.
-template <class V> V greater(V v, V held) { return hn::Max(v, held); }
-template <class V> V less(V v, V held) { return hn::Min(v, held); }
+template <class V> V greater(V v, V held) {
+  if constexpr (!QVXS_AVX2 && std::is_same_v<LaneOf<V>, uint16_t>) return hn::SaturatedSub(v, held) + held;  // not five
+  else return hn::Max(v, held);
+}
+template <class V> V less(V v, V held) {
+  if constexpr (!QVXS_AVX2 && std::is_same_v<LaneOf<V>, uint16_t>) return v - hn::SaturatedSub(v, held);
+  else return hn::Min(v, held);
+}
 
 // The bits of `among` that are set in neither a nor b.
 template <class V> V neither(V a, V b, V among) {
@@ -443,8 +451,26 @@ template <class V> auto pairProducts(V a, V b) {
   return Vec<hn::RepartitionToWide<TagOf<V>>>{detail::pairProducts(a.raw, b.raw)};
 }
 
-// The 64-bit products of the even lanes of 32 bits. Highway's go through memory on SSSE3, which only multiplies unsigned numbers:
-// a negative one counts as 2^32 more there, and its partner is taken off the upper half again.
+// The 64-bit products of the even and of the odd lanes of 32 bits. Highway's go through memory on SSSE3, which only multiplies
+// unsigned numbers: a negative one counts as 2^32 more there, and its partner is taken off the upper half again.
+template <class V> struct EvenOdd {
+  V even;
+  V odd;
+};
+template <class V> auto wideProduct(V a, V b) {
+  const V oddA = hn::Shuffle2301(a);
+  const V oddB = hn::Shuffle2301(b);
+  if constexpr (!QVXS_AVX2 && std::is_signed_v<LaneOf<V>>) {
+    const auto even = as<int64_t>(hn::MulEven(as<uint32_t>(a), as<uint32_t>(b)));
+    const auto odd = as<int64_t>(hn::MulEven(as<uint32_t>(oddA), as<uint32_t>(oddB)));
+    using W = std::remove_const_t<decltype(even)>;
+    const auto excess = as<int64_t>((hn::BroadcastSignBit(a) & b) + (hn::BroadcastSignBit(b) & a));
+    return EvenOdd<W>{even - hn::ShiftLeft<32>(excess), odd - hn::AndNot(same<W>(UINT32_MAX), excess)};
+  } else {
+    const auto even = hn::MulEven(a, b);
+    return EvenOdd<std::remove_const_t<decltype(even)>>{even, hn::MulEven(oddA, oddB)};
+  }
+}
 template <class V> auto evenProducts(V a, V b) {
   if constexpr (!QVXS_AVX2 && std::is_signed_v<LaneOf<V>>) {
     const auto product = as<int64_t>(hn::MulEven(as<uint32_t>(a), as<uint32_t>(b)));
@@ -503,6 +529,12 @@ template <class V> Complex<V> evenAndOdd(V x, V y) {
   if constexpr (sizeof(LaneOf<V>) == 4 && kLanesOf<V> >= 4)
     return {V{detail::evens(x.raw, y.raw)}, V{detail::odds(x.raw, y.raw)}};
   else return {hn::InterleaveLower(d, x, y), hn::InterleaveUpper(d, x, y)};
+}
+
+// The 32-bit lanes of evenAndOdd() of two vectors of 64-bit lanes in turn: x0 y0 x1 y1 of x0 x1 y0 y1.
+template <class V> V wordsInTurn(V v) {
+  if constexpr (kLanesOf<V> < 4) return v;
+  else return V{detail::wordsInTurn(v.raw)};
 }
 
 // a - b in the even lanes, a + b in the odd ones.
@@ -580,14 +612,38 @@ template <class V> auto toInt64(V v) {
 #endif
 }
 
-// 64-bit lanes saturated to 32-bit ones.
+// 64-bit lanes of two vectors saturated to 32-bit ones, in the order of evenAndOdd(). Without an instruction for it the upper
+// words tell what does not fit: limits in lanes of 64 bits take 20 instructions of SSSE3, this 9.
+#if !QVXS_AVX512
+template <class V> auto saturatedWords(V x, V y) {
+  const auto words = evenAndOdd(as<float>(x), as<float>(y));
+  const auto low = as<int32_t>(words.re);
+  const auto high = as<int32_t>(words.im);
+  const auto extreme = hn::BroadcastSignBit(high) ^ same<std::remove_const_t<decltype(high)>>(INT32_MAX);
+  return hn::IfThenElse(high == hn::BroadcastSignBit(low), low, extreme);
+}
+#endif
+
+// 64-bit lanes saturated to 32-bit ones, of two vectors or one.
+template <class V> auto saturatedTo32(Pair<V> v) {
+#if QVXS_AVX512
+  const hn::Rebind<int32_t, TagOf<V>> half;
+  const auto saturated = [&](V v) { return Vec<decltype(half)>{detail::saturatedTo32(v.raw)}; };
+  return hn::Combine(hn::Twice<decltype(half)>(), saturated(v.hi), saturated(v.lo));
+#else
+  auto words = saturatedWords(v.lo, v.hi);
+#if QVXS_AVX2
+  if constexpr (sizeof(words.raw) == 32) words.raw = _mm256_permute4x64_epi64(words.raw, 0xD8);
+#endif
+  return words;
+#endif
+}
 template <class V> auto saturatedTo32(V v) {
   const hn::Rebind<int32_t, TagOf<V>> d;
 #if QVXS_AVX512
   return Vec<decltype(d)>{detail::saturatedTo32(v.raw)};
 #else
-  const V clamped = hn::Min(hn::Max(v, same<V>(INT32_MIN)), same<V>(INT32_MAX));
-  return hn::BitCast(d, hn::TruncateTo(hn::RebindToUnsigned<decltype(d)>(), as<uint64_t>(clamped)));
+  return hn::LowerHalf(d, saturatedTo32(Pair<V>{v, v}));
 #endif
 }
 

@@ -18,19 +18,46 @@ template <class V> auto wholeToInt64(V whole) {
   }
 }
 
-// The integer part of numbers from 0 to 2^51.
+// Whole numbers between -2^51 and 2^51.
+template <class V> auto shortWholeToInt64(V whole) {
+  if constexpr (kHasMasks) {
+    return toInt64(whole);
+  } else {
+    const V middle = same<V>(0x1.8p52);
+    return as<int64_t>(whole + middle) - as<int64_t>(middle);
+  }
+}
+
+// The largest whole number not above v, which lies between -2^51 and 2^51.
+template <class V> V shortFloor(V v) {
+  if constexpr (kRoundsByInstruction) return hn::Floor(v);
+  const V middle = same<V>(0x1.8p52);
+  const V near = (v + middle) - middle;
+  return near - hn::IfThenElseZero(near > v, same<V>(1));
+}
+
+// 64-bit integers from 0 on to doubles in the processor's rounding mode, which may give 0 either sign.
+template <class V> auto unsignedToDouble(V v) {
+  if constexpr (kHasMasks) {
+    return toDouble(v);
+  } else {  // either half in the lower bits of a double
+    using W = Vec<hn::Rebind<double, TagOf<V>>>;
+    const auto halves = as<uint32_t>(v);
+    const auto units = as<uint32_t>(same<W>(0x1p52));
+    const W lower = as<double>(hn::OddEven(units, halves));
+    const W upper = as<double>(hn::ShiftRight<32>(as<uint64_t>(v)) | as<uint64_t>(same<W>(0x1p84)));
+    return (upper - same<W>(0x1p84 + 0x1p52)) + lower;
+  }
+}
+
+// The integer part of numbers from 0 to 2^51; one less is possible where there is no instruction that rounds, and the mode has to
+// be to nearest there.
 template <class V> auto shortToInt64(V v) {
   if constexpr (kHasMasks) {
     return toInt64(v);
   } else {
     const V unit = same<V>(0x1p52);
-    V whole = hn::Zero(TagOf<V>());
-    if constexpr (kRoundsByInstruction) {
-      whole = hn::Trunc(v);
-    } else {
-      const V near = (v + unit) - unit;
-      whole = near - hn::IfThenElseZero(near > v, same<V>(1));
-    }
+    const V whole = kRoundsByInstruction ? hn::Trunc(v) : hn::Max(v - same<V>(0.5), hn::Zero(TagOf<V>()));
     return as<int64_t>(whole + unit) ^ as<int64_t>(unit);
   }
 }

@@ -20,7 +20,7 @@ template <class T> class Three {
 
  private:
   static constexpr size_t N = kVectorBytes / sizeof(T);
-  static constexpr size_t kBlock = kHasMasks ? 4 : 2;  // vectors
+  static constexpr size_t kBlock = 4;  // vectors
   static constexpr bool kMayNeedKeys = std::is_floating_point_v<T>;
 
   template <size_t L, size_t M> using Vectors = std::array<Vec<Lanes<T, L>>, M>;
@@ -68,12 +68,12 @@ template <class T> class Three {
       if (inner < L) return few<L / 2>(x, dst, n, status);
     }
     if (L == 1 && inner == 1) return overlapping<L, 1>(x, dst, n, status);
-    if constexpr (kBlock > 2 && L == N) {  // four halves of a register go before two whole ones: 16 doubles take 5 ns, not 6
+    if constexpr (L == N) {  // four halves of a register go before two whole ones: 16 doubles take 5 ns, not 6
       if (inner <= 3 * L / 2) return overlapping<L / 2, 3>(x, dst, n, status);
       if (inner <= 2 * L) return overlapping<L / 2, 4>(x, dst, n, status);
     }
     if (inner <= 2 * L) return overlapping<L, 2>(x, dst, n, status);
-    if constexpr (kBlock > 2 && L == N) {
+    if constexpr (L == N) {
       if (inner <= 3 * L) return overlapping<L, 3>(x, dst, n, status);
     }
     return overlapping<L, kBlock>(x, dst, n, status);

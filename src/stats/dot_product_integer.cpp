@@ -39,8 +39,8 @@ struct Products32 {
   static constexpr bool kFetchesAhead = true;
   static constexpr size_t kSlice = kMostElements;
   template <class U, class V> static auto of(U v, V b) {
-    const V a = widened<int32_t>(v);
-    return evenProducts(a, b) + evenProducts(hn::Shuffle2301(a), hn::Shuffle2301(b));
+    const auto products = wideProduct<V>(widened<int32_t>(v), b);
+    return products.even + products.odd;
   }
 };
 struct ComplexProducts32 {
@@ -48,19 +48,24 @@ struct ComplexProducts32 {
   static constexpr size_t kSlice = kMostElements;
   static constexpr bool kImOfPairs = true;
   template <class V> static auto of(V a, V b) {
-    const V c = hn::Shuffle2301(a);
-    const V d = hn::Shuffle2301(b);
-    const auto re = evenProducts(a, b) - evenProducts(c, d);
-    return Complex<std::remove_const_t<decltype(re)>>{re, evenProducts(a, d) + evenProducts(c, b)};
+    const auto straight = wideProduct(a, b);
+    const auto crossed = wideProduct(a, swapped(b));
+    const auto re = straight.even - straight.odd;
+    return Complex<std::remove_const_t<decltype(re)>>{re, crossed.even + crossed.odd};
   }
 };
 struct MixedProducts32 {
   static constexpr size_t kSlice = kMostElements;
   static constexpr bool kImOfPairs = false;
   template <class U, class V> static auto of(U a, V b) {
-    const auto even = as<int32_t>(hn::PromoteTo(hn::RepartitionToWide<hn::RebindToUnsigned<TagOf<V>>>(), as<uint32_t>(a)));
-    const auto re = evenProducts(even, b);
-    return Complex<std::remove_const_t<decltype(re)>>{re, evenProducts(even, hn::Shuffle2301(b))};
+    if constexpr (!QVXS_AVX2) {
+      const auto products = wideProduct<V>(twice(a), b);
+      return Complex<std::remove_const_t<decltype(products.even)>>{products.even, products.odd};
+    } else {
+      const auto even = as<int32_t>(hn::PromoteTo(hn::RepartitionToWide<hn::RebindToUnsigned<TagOf<V>>>(), as<uint32_t>(a)));
+      const auto re = evenProducts(even, b);
+      return Complex<std::remove_const_t<decltype(re)>>{re, evenProducts(even, hn::Shuffle2301(b))};
+    }
   }
 };
 

@@ -3,21 +3,23 @@
 
 #include "frame/map.h"
 #include "frame/power.h"
+#include "frame/rounding.h"
 #include "frame/whole.h"
 
 namespace qvx {
 
 // Roots of 32-bit lanes through floats, of 64-bit ones through doubles. These are wrong by far less than 1/2, and so their
 // integer part k is the result or one below it. The square of k + 1/2, in integers, decides which: no tie is lost to the float's
-// rounding, and neither the processor's mode nor the variant shows.
-template <class V> V integerPart(V x, double factor) {
+// rounding, and neither the processor's mode nor the variant shows. kEnlarges: the factor is above 1.
+template <bool kEnlarges, class V> V integerPart(V x, double factor) {
   if constexpr (sizeof(LaneOf<V>) == 4) {
     const auto root = hn::Sqrt(convertLanes<float>(x));
     return toIntTruncated(root * same<decltype(root)>(static_cast<float>(factor)));
   } else {
-    const auto root = hn::Sqrt(toDouble(x));
+    const auto root = hn::Sqrt(unsignedToDouble(x));
     auto scaled = root * same<decltype(root)>(factor);
-    if constexpr (!kHasMasks) scaled = hn::Min(scaled, same<decltype(root)>(0x1p51));  // more than any result that fits
+    if constexpr (kEnlarges && !kHasMasks)
+      scaled = hn::Min(scaled, same<decltype(root)>(0x1p51));  // more than any result that fits
     return shortToInt64(scaled);
   }
 }
@@ -41,7 +43,7 @@ template <int kBits> struct RootEnlarged {
   int s;
 
   template <class V> V operator()(V x) const {
-    const V k = integerPart(x, powerOfTwo<double>(s));
+    const V k = integerPart<true>(x, powerOfTwo<double>(s));
     const V square = hn::ShiftLeftSame(hn::ShiftLeftSame(x, s), s);
     return decided(k, square, timesSuccessor<kBits>(k));
   }
@@ -53,23 +55,28 @@ struct RootReduced {
 
   template <class V> V operator()(V x) const {
     using T = LaneOf<V>;
-    const V k = integerPart(x, powerOfTwo<double>(-s));
+    const V k = integerPart<false>(x, powerOfTwo<double>(-s));
     V tie = timesSuccessor<32>(k);
     if (s > 0) tie = hn::ShiftLeftSame(hn::ShiftLeftSame(tie, s), s) + same<V>(T{1} << (2 * s - 2)) - (k & same<V>(1));
     return decided(k, x, tie);
   }
 };
 
+// The mode for shortToInt64().
+inline constexpr Rounding kRootMode = kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest;
+
 struct NoRoot {
   template <class V> V operator()(V) const { return hn::Zero(TagOf<V>()); }
 };
 
-// A fit: roots times 2^-scaleFactor. The operation brings kBits, the digits of the destination, kMaxScale, beyond which the
-// root of the largest source is below 1/2, and kernel(root), its kernel around one of the roots above.
+// A fit: roots times 2^-scaleFactor. The operation brings kBits, the digits of the destination, kInDoubles, whether it takes
+// roots of 64-bit lanes, kMaxScale, beyond which the root of the largest source is below 1/2, and kernel(root), its kernel around
+// one of the roots above.
 struct ScaledRoot {
   int scaleFactor;
 
   template <class Op, class Dst, class... Src> QvxStatus run(Op, Dst dst, size_t n, Src... src) const {
+    const RoundingScope scope(Op::kInDoubles ? kRootMode : Rounding::kCallers);
     const auto with = [&](auto root) { return loop(Op::kernel(root), dst, n, src...); };
     if (scaleFactor > Op::kMaxScale) return with(NoRoot());
     if (scaleFactor >= 0) return with(RootReduced{scaleFactor});

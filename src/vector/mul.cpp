@@ -4,6 +4,12 @@
 
 using namespace qvx;
 
+namespace {
+
+const uint16_t* bits(const Qvx16s* p) { return reinterpret_cast<const uint16_t*>(p); }
+
+}  // namespace
+
 // clang-format off
 QvxStatus qvxsMul_8u_Sfs(const Qvx8u* a, const Qvx8u* b, Qvx8u* d, int len, int sf) { return map<Product>(d, len, Scaled{sf}, a, b); }
 QvxStatus qvxsMul_8u_ISfs(const Qvx8u* a, Qvx8u* d, int len, int sf) { return map<Product>(d, len, Scaled{sf}, a, d); }
@@ -15,7 +21,7 @@ QvxStatus qvxsMul_16s_ISfs(const Qvx16s* a, Qvx16s* d, int len, int sf) { return
 QvxStatus qvxsMul_16u_Sfs(const Qvx16u* a, const Qvx16u* b, Qvx16u* d, int len, int sf) { return map<Product>(d, len, Scaled{sf}, a, b); }
 QvxStatus qvxsMul_16u_ISfs(const Qvx16u* a, Qvx16u* d, int len, int sf) { return map<Product>(d, len, Scaled{sf}, a, d); }
 QvxStatus qvxsMul_16u16s_Sfs(const Qvx16u* a, const Qvx16s* b, Qvx16s* d, int len, int sf) { return map<Product>(d, len, Scaled{sf}, a, b); }
-QvxStatus qvxsMul_16s32s_Sfs(const Qvx16s* a, const Qvx16s* b, Qvx32s* d, int len, int sf) { return map<FittingProduct>(d, len, Scaled{sf}, a, b); }
+QvxStatus qvxsMul_16s32s_Sfs(const Qvx16s* a, const Qvx16s* b, Qvx32s* d, int len, int sf) { return map<ProductOf16>(d, len, Scaled{sf}, bits(a), bits(b)); }
 QvxStatus qvxsMul_16s32f(const Qvx16s* a, const Qvx16s* b, Qvx32f* d, int len) { return map<Product>(d, len, AsIs{}, a, b); }
 QvxStatus qvxsMul_16sc_Sfs(const Qvx16sc* a, const Qvx16sc* b, Qvx16sc* d, int len, int sf) { return map<ComplexProduct>(d, len, Scaled{sf}, a, b); }
 QvxStatus qvxsMul_16sc_ISfs(const Qvx16sc* a, Qvx16sc* d, int len, int sf) { return map<ComplexProduct>(d, len, Scaled{sf}, a, d); }

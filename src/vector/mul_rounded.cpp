@@ -16,10 +16,17 @@ struct LowWord {
     const int s = scaleFactor;
     if (s > 62) {
       return with([](auto a, auto) { return hn::Zero(TagOf<decltype(a)>()); });
+    } else if (s > 32) {  // of the upper words
+      return with([s](auto a, auto b) {
+        const auto product = wideProduct(a, b);
+        const auto upper = hn::OddEven(as<int32_t>(product.odd), as<int32_t>(hn::ShiftRight<32>(as<uint64_t>(product.even))));
+        return hn::ShiftRightSame(upper, s - 32);
+      });
     } else if (s > 0) {
       return with([s](auto a, auto b) {
-        const auto shifted = each(wideProduct(a, b), [s](auto v) { return hn::ShiftRightSame(v, s); });
-        return hn::OddEven(as<int32_t>(hn::ShiftLeft<32>(shifted.odd)), as<int32_t>(shifted.even));
+        const auto product = wideProduct(a, b);
+        return hn::OddEven(as<int32_t>(hn::ShiftLeftSame(product.odd, 32 - s)),
+                           as<int32_t>(hn::ShiftRightSame(as<uint64_t>(product.even), s)));
       });
     } else if (s >= -31) {
       return with([s](auto a, auto b) { return hn::ShiftLeftSame(a * b, -s); });

@@ -17,6 +17,17 @@ struct FittingProduct {
   }
 };
 
+// Of 16-bit integers, which come as unsigned ones in lanes of 32 bits: beside upper halves of 0 the sum of a pair's products is
+// the product, by one instruction, where one of 32-bit lanes takes two in AVX2 and six in SSSE3.
+struct ProductOf16 : FittingProduct {
+  template <class V> static V of(V a, V b) { return pairProducts(as<int16_t>(a), as<int16_t>(b)); }
+  template <class V> V operator()(V a, V b) const { return of(a, b); }
+
+  template <class T, class With> static QvxStatus scaleDown(int s, const With& with) {
+    return with([s](auto a, auto b) { return roundedShiftRoomy(of(a, b), s); });
+  }
+};
+
 // A real product: exact in twice the bits of its operands, then saturated or shifted back.
 struct Product {
   // The product of 16-bit operands of both kinds reaches 2^31 - 2^15, so 31 places can still leave a 1.

@@ -11,6 +11,7 @@ namespace {
 // A root in the lanes that it needs. To is where the results go, From where they come from.
 template <class From, class To> struct IntegerRoot {
   static constexpr int kBits = std::numeric_limits<To>::digits;
+  static constexpr bool kInDoubles = sizeof(From) == 8;
   static constexpr int kMaxScale = 4 * sizeof(From);  // beyond, the root of the largest source is below 1/2
 
   template <class Root> static auto kernel(Root root) {
@@ -64,19 +65,19 @@ struct RootLengthened {
   template <class V> V operator()(V x) const {
     const TagOf<V> d;
     const auto whole = hn::Max(x, same<V>(1));
-    const auto low = toDouble(whole & same<V>(1023));  // in two parts that are exact in every rounding mode
+    const auto low = unsignedToDouble(whole & same<V>(1023));  // in two parts that are exact in every rounding mode
     using Real = std::remove_const_t<decltype(low)>;
-    const auto high = toDouble(hn::AndNot(same<V>(1023), whole));
+    const auto high = unsignedToDouble(hn::AndNot(same<V>(1023), whole));
     const auto value = high + low;
     const auto root = hn::Sqrt(value);
     const auto rest = remainderOf(root, root, value) + (low - (value - high));
     const auto factor = same<Real>(powerOfTwo<double>(s));
     const auto scaled = root * factor;
-    const auto integer = truncated(hn::Min(scaled, same<Real>(0x1.fffffffffffffp62)));
+    const auto integer = nearWhole(hn::Min(scaled, same<Real>(0x1.fffffffffffffp62)));
     const auto beyond = (scaled - integer) + rest * halfReciprocal(value, root) * factor;
-    const auto floor = hn::Floor(hn::Min(beyond, same<Real>(4096)));
+    const auto floor = shortFloor(hn::Min(beyond, same<Real>(4096)));
     const auto fraction = beyond - floor;
-    const V k = wholeToInt64(integer) + wholeToInt64(floor);
+    const V k = wholeToInt64(integer) + shortWholeToInt64(floor);
     const V square = hn::ShiftLeftSame(hn::ShiftLeftSame(whole, s), s);
     const auto isBeyondTie = square - k * (k + same<V>(1)) > hn::Zero(d);
     const auto isUp = hn::And(hn::Or(isBeyondTie, hn::RebindMask(d, fraction > same<Real>(0.75))),
@@ -86,9 +87,10 @@ struct RootLengthened {
   }
 
  private:
-  template <class V> static V truncated(V v) {
+  template <class V> static V nearWhole(V v) {
     if constexpr (kRoundsByInstruction) return hn::Trunc(v);
-    else return toDouble(toInt64(v));
+    const V unit = same<V>(0x1p52);
+    return hn::IfThenElse(v < unit, (v + unit) - unit, v);
   }
 
   // 1 / (2 * sqrt(value)), to 2^-13 of it.
@@ -110,6 +112,7 @@ QvxStatus root64(const Qvx64s* src, Qvx64s* dst, int len, int sf) {
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;
   const int s = sf < -63 ? 63 : -sf;  // 1 times 2^63 saturates already
+  const RoundingScope scope(kRootMode);
   const auto with = [&](auto root) { return loop(Root64s::kernel(root), destination(dst), elements(len), source(src)); };
   return s <= kPlacesInLanes ? with(RootEnlarged<63>{s}) : with(RootLengthened{s});
 }
