@@ -128,6 +128,49 @@ TYPED_TEST(Correlation, StaysWithinTheErrorOfATransform) {
   }
 }
 
+// Every lag, by an operand of three elements among zeros: lengths that fill the cycle of a long product to the last element, and
+// one more, which must not come round; and the ends of the parts that a long one is cut into.
+TYPED_TEST(Correlation, FillsCyclesToTheLastElement) {
+  using T = typename TypeParam::T;
+  constexpr int kCycle = 2 * 25 * 1024;
+  struct Call {
+    int aLen, bLen, lags, lowLag;
+  };
+  Random random(7);
+  const auto spikes = [&](size_t length) {
+    std::vector<T> v(length);
+    for (const size_t at : {size_t{0}, length / 3, length - 1}) v[at] = unevenNumbers<T>(1, random)[0];
+    return v;
+  };
+  const auto expectEach = [](const std::vector<T>& a, const std::vector<T>& b, const std::vector<T>& y, int64_t lowLag) {
+    const long double bound = transformError(a, b);
+    for (size_t n = 0; n < y.size(); ++n) {
+      decltype(reference::wide(T())) sum = 0;
+      for (const size_t i : {size_t{0}, a.size() / 3, a.size() - 1}) {
+        const int64_t at = static_cast<int64_t>(i + n) + lowLag;
+        if (at < 0 || at >= static_cast<int64_t>(b.size())) continue;
+        const auto x = reference::wide(a[i]), z = reference::wide(b[static_cast<size_t>(at)]);
+        if constexpr (std::is_floating_point_v<T>) sum += x * z;
+        else sum += std::conj(x) * z;
+      }
+      ASSERT_LE(distance(y[n], sum), bound) << a.size() << " with " << b.size() << ", at " << n << " of " << y.size();
+    }
+  };
+  for (const int more : {0, 1}) {
+    for (const Call& c : {Call{kCycle / 2, kCycle / 2 + 1 + more, kCycle + more, 1 - kCycle / 2},
+                          Call{20000, 120000, kCycle - 19999 + more, 1000}, Call{20000, 120000, 130000 + more, -11000}}) {
+      const auto a = spikes(static_cast<size_t>(c.aLen)), b = wholeNumbers<T>(static_cast<size_t>(c.bLen), 20, random);
+      std::vector<T> y(static_cast<size_t>(c.lags));
+      ASSERT_EQ(TypeParam::kCross(a.data(), c.aLen, b.data(), c.bLen, y.data(), c.lags, c.lowLag), qvxStatOk);
+      expectEach(a, b, y, c.lowLag);
+    }
+    const auto a = spikes(30000);
+    std::vector<T> y(static_cast<size_t>(kCycle - 29999 + more));
+    ASSERT_EQ(TypeParam::kAuto[0](a.data(), 30000, y.data(), static_cast<int>(y.size())), qvxStatOk);
+    expectEach(a, a, y, 0);
+  }
+}
+
 // The first lag is the power; norms divide by the length, or by the number of products.
 TYPED_TEST(Correlation, WithItselfIsNormed) {
   using T = typename TypeParam::T;

@@ -120,6 +120,23 @@ TYPED_TEST(Median, OfLongVectors) {
   check<TypeParam>(drawn<T>(9000, random, 0), 601);
 }
 
+// The medians of three ask a block at a time for what minima and maxima get wrong: one such element, wherever it stands.
+TYPED_TEST(Median, OfThreeWithOneSpecialElement) {
+  using T = typename TypeParam::T;
+  Random random(4);
+  for (size_t n = 3; n <= 140; ++n) {
+    check<TypeParam>(drawn<T>(n, random, 3), 3);
+    if constexpr (std::is_floating_point_v<T>) {
+      for (size_t at = 0; at < n; ++at) {
+        auto x = drawn<T>(n, random, 1);
+        x[at] =
+            (n + at) % 3 == 0 ? T(-0.0) : std::copysign(std::numeric_limits<T>::quiet_NaN(), (n + at) % 3 == 1 ? T(1) : T(-1));
+        check<TypeParam>(x, 3);
+      }
+    }
+  }
+}
+
 template <class T> void checkSums(QvxStatus (*function)(const T*, Qvx32f*, int, int), int len, int mask, T least) {
   Random random(3);
   std::vector<T> x(static_cast<size_t>(len + mask - 1), least);
