@@ -58,8 +58,8 @@ QVXS_API(QvxStatus, qvxsCauchyDD2_32f_I, (Qvx32f* pSrcDst, Qvx32f* pD2F, int len
 
 /** dst = (src - vSub) / vDiv. Floats: the rounded difference times the rounded reciprocal of vDiv; divided where vDiv is so large that its
  *  reciprocal is no normal number. Integers: the exact difference divided by vDiv, both and the quotient rounded to Qvx32f, times
- *  2^-scaleFactor, rounded to nearest with ties to even, saturated. Of scaleFactor the magnitude modulo 128 counts, and 127 gives
- *  zeros.
+ *  2^-scaleFactor, rounded to nearest with ties to even, saturated. Of scaleFactor the magnitude modulo 128 counts, under its
+ *  sign: 127 gives zeros, -127 is times 2^127.
  *  pSrc, pDst: len elements each, any alignment; pDst may be pSrc.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1); qvxStatDivByZero (|vDiv| below the smallest normal number, or a NaN;
  *  of integers 0). */

@@ -61,6 +61,33 @@ TEST_F(Process, ForksBetweenCalls) {
   }
 }
 
+// The child has none of the threads that are in the middle of another thread's call.
+TEST_F(Process, ForksDuringCalls) {
+  if (tests::isSanitized()) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
+  std::atomic<int> stage{0};
+  std::thread caller([&] {
+    ownRunParts(
+        2,
+        [](void* now, int) {
+          auto& reached = *static_cast<std::atomic<int>*>(now);
+          ++reached;
+          for (int i = 0; i < 20000 && reached < 3; ++i) usleep(1000);
+        },
+        &stage);
+  });
+  for (int i = 0; i < 10000 && stage < 2; ++i) usleep(1000);
+  const pid_t child = fork();
+  if (child == 0) {
+    alarm(5);
+    _exit(call() && call() ? 0 : 1);
+  }
+  int status = -1;
+  EXPECT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+  stage = 3;
+  caller.join();
+}
+
 TEST_F(Process, LoadsAndUnloads) {
   Dl_info info;
   ASSERT_NE(dladdr(qvxsGetLibVersion(), &info), 0);
@@ -93,19 +120,24 @@ TEST_F(Process, WorksAloneWithoutThreads) {
     refuseThreads = false;
     threadsMade = 0;
     for (int i = 0; i < 3000; ++i) isRight = isRight && call(5000);
-    _exit(isRight && threadsMade == 1 ? 0 : 1);  // it asks again, in time
+    sigset_t blocked;
+    pthread_sigmask(SIG_SETMASK, nullptr, &blocked);
+    _exit(isRight && threadsMade == 1 && sigismember(&blocked, SIGUSR1) == 0 ? 0 : 1);  // it asks again, in time
   }
   int status = -1;
   ASSERT_EQ(waitpid(child, &status, 0), child);
   EXPECT_EQ(status, 0);
 }
 
+// The C library takes it from each thread's stack.
+thread_local volatile char threadLocal[128 << 10];
+
 void* callOnSmallStack(void*) { return call() ? nullptr : &threadsMade; }
 
 TEST_F(Process, HasManyThreadsOfItsOwn) {
   pthread_attr_t small;
   ASSERT_EQ(pthread_attr_init(&small), 0);
-  ASSERT_EQ(pthread_attr_setstacksize(&small, tests::isSanitized() ? 1 << 20 : 64 << 10), 0);
+  ASSERT_EQ(pthread_attr_setstacksize(&small, tests::isSanitized() ? 1 << 20 : (64 << 10) + sizeof threadLocal), 0);
   for (int i = 0; i < rounds(20); ++i) {
     pthread_t threads[64];
     for (pthread_t& thread : threads) ASSERT_EQ(pthread_create(&thread, &small, callOnSmallStack, nullptr), 0);
@@ -150,6 +182,27 @@ TEST_F(Process, CallsFromRealTimeThreads) {
   const sched_param usual = {0};
   pthread_setschedparam(pthread_self(), SCHED_OTHER, &usual);
   EXPECT_TRUE(isRight);
+}
+
+// Workers have their room beside the program's thread-local data.
+TEST_F(Process, HasRoomForThePartsOfWorkers) {
+  if (tests::isSanitized()) GTEST_SKIP() << "sanitizers take room of their own";
+  threadLocal[0] = 1;
+  std::atomic<bool> wasOnWorker{false};
+  ownRunParts(
+      2,
+      [](void* flag, int i) {
+        auto& isDone = *static_cast<std::atomic<bool>*>(flag);
+        if (i == 0) {  // the caller's: it leaves the other to a worker
+          for (int wait = 0; wait < 10000 && !isDone; ++wait) usleep(1000);
+        } else {
+          volatile char room[160 << 10];
+          for (size_t at = sizeof room; at > 0; at -= 1024) room[at - 1] = 1;
+          isDone = true;
+        }
+      },
+      &wasOnWorker);
+  EXPECT_TRUE(wasOnWorker);
 }
 
 TEST_F(Process, CallsFromOpenMPRegions) {

@@ -7,26 +7,10 @@
 #include <cmath>
 
 #include "reference/correlation.h"
-#include "support/blocks.h"
+#include "support/bounded.h"
 #include "support/values.h"
 
 namespace tests {
-
-// A vector that ends where its block does, so that reading past it is seen.
-template <class T> class Bounded {
- public:
-  explicit Bounded(const std::vector<T>& data) : block_(data.size() * sizeof(T)), p_(place(data.size())) {
-    std::copy(data.begin(), data.end(), p_);
-  }
-  explicit Bounded(size_t n) : block_(n * sizeof(T)), p_(place(n)) {}
-  operator T*() { return p_; }
-  bool isIntact() const { return block_.isIntact(); }
-
- private:
-  T* place(size_t n) { return reinterpret_cast<T*>(block_.atEnd(n * sizeof(T))); }
-  Block block_;
-  T* p_;
-};
 
 // Whole numbers up to `most`, whose sums of products are exact as long as they fit the mantissa.
 template <class T> std::vector<T> wholeNumbers(size_t n, int most, Random& random) {

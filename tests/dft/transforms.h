@@ -8,6 +8,7 @@
 #include <random>
 
 #include "reference/dft.h"
+#include "support/bounded.h"
 #include "support/ulp.h"
 #include "support/values.h"
 
@@ -31,12 +32,13 @@ template <class T_, class C_, class Spec_> struct InterleavedDft {
   QvxStatus (*call[2])(const C*, C*, const Spec*, Qvx8u*);
 
   std::vector<Exact> run(const Spec* spec, bool isInverse, const std::vector<Exact>& x, Place place, Qvx8u* buffer) const {
-    std::vector<C> src;
-    for (const Exact& z : x) src.push_back({static_cast<T>(z.real()), static_cast<T>(z.imag())});
-    std::vector<C> dst = src;
-    EXPECT_EQ(call[isInverse](place == Place::kSame ? dst.data() : src.data(), dst.data(), spec, buffer), qvxStatOk);
+    std::vector<C> points;
+    for (const Exact& z : x) points.push_back({static_cast<T>(z.real()), static_cast<T>(z.imag())});
+    Bounded<C> src(points), dst(points);
+    EXPECT_EQ(call[isInverse](place == Place::kSame ? dst : src, dst, spec, buffer), qvxStatOk);
+    EXPECT_TRUE(src.isIntact() && dst.isIntact());
     std::vector<Exact> found;
-    for (const C& z : dst) found.push_back({z.re, z.im});
+    for (size_t i = 0; i < x.size(); ++i) found.push_back({dst[i].re, dst[i].im});
     return found;
   }
 };
@@ -49,13 +51,12 @@ template <class T_, class Spec_> struct SplitDft {
   QvxStatus (*call[2])(const T*, const T*, T*, T*, const Spec*, Qvx8u*);
 
   std::vector<Exact> run(const Spec* spec, bool isInverse, const std::vector<Exact>& x, Place place, Qvx8u* buffer) const {
-    std::vector<T> re, im;
-    for (const Exact& z : x) re.push_back(static_cast<T>(z.real())), im.push_back(static_cast<T>(z.imag()));
-    std::vector<T> dstRe = re, dstIm = im;
+    std::vector<T> all[2];
+    for (const Exact& z : x) all[0].push_back(static_cast<T>(z.real())), all[1].push_back(static_cast<T>(z.imag()));
+    Bounded<T> re(all[0]), im(all[1]), dstRe(all[0]), dstIm(all[1]);
     const bool same = place == Place::kSame;
-    EXPECT_EQ(call[isInverse](same ? dstRe.data() : re.data(), same ? dstIm.data() : im.data(), dstRe.data(), dstIm.data(), spec,
-                              buffer),
-              qvxStatOk);
+    EXPECT_EQ(call[isInverse](same ? dstRe : re, same ? dstIm : im, dstRe, dstIm, spec, buffer), qvxStatOk);
+    EXPECT_TRUE(re.isIntact() && im.isIntact() && dstRe.isIntact() && dstIm.isIntact());
     std::vector<Exact> found;
     for (size_t i = 0; i < x.size(); ++i) found.push_back({dstRe[i], dstIm[i]});
     return found;
@@ -115,12 +116,15 @@ template <class Transform> class DftRecord {
   std::vector<long double> run(Layout layout, bool isInverse, const std::vector<long double>& x, Place place,
                                Qvx8u* buffer = nullptr) const {
     const size_t packed = layout == Layout::kCcs ? 2 * (n_ / 2 + 1) : n_;
-    std::vector<T> src(x.begin(), x.end());
-    std::vector<T> dst = src;
-    dst.resize(packed);
-    const T* from = place == Place::kSame ? dst.data() : src.data();
-    EXPECT_EQ(transform_.call[isInverse][static_cast<int>(layout)](from, dst.data(), spec_, buffer), qvxStatOk);
-    return {dst.begin(), dst.begin() + static_cast<std::ptrdiff_t>(isInverse ? n_ : packed)};
+    std::vector<T> numbers(x.begin(), x.end());
+    Bounded<T> src(numbers);
+    numbers.resize(packed);
+    Bounded<T> dst(numbers);
+    EXPECT_EQ(transform_.call[isInverse][static_cast<int>(layout)](place == Place::kSame ? dst : src, dst, spec_, buffer),
+              qvxStatOk);
+    EXPECT_TRUE(src.isIntact() && dst.isIntact());
+    const T* const found = dst;
+    return {found, found + (isInverse ? n_ : packed)};
   }
 
  private:
