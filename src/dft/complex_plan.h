@@ -109,7 +109,9 @@ template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T*
   }
   const T sign = isInverse ? T(-0.0) : T(0);
   T* const y = Carver(work, Carver::kLine).template take<T>(0);
-  if (plan.isOutOfOrder) return (isInverse ? inverseOutOfOrder<T> : forwardOutOfOrder<T>)(plan.blocks, src, dst, y, factor);
+  if constexpr (kHasOwnOrder<T>) {
+    if (plan.isOutOfOrder) return (isInverse ? inverseOutOfOrder<T> : forwardOutOfOrder<T>)(plan.blocks, src, dst, y, factor);
+  }
   if (plan.way == Way::kBlocks) {
     const Conjugable<const T> from = {src, sign};
     const Conjugable<T> to = {dst, sign};

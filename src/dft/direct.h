@@ -54,14 +54,20 @@ template <class T> void writeDirect(DirectPlan<T>& plan, bool isReal, uint8_t* b
   plan.rows = rows;
   const size_t row = plan.rowLength(isReal);
   const size_t results = isReal ? row / 2 : row / 4;
+  T cosines[kMostDirect];
+  T sines[kMostDirect];
   writeTwiddles(
-      plan.n, (plan.n / 2 + 1) * results, [=](size_t i) { return i / results * (i % results); },
-      [=](size_t i, double re, double im) {
-        T* const at = rows + i / results * row + 2 * (i % results);
-        at[0] = static_cast<T>(re);
-        at[1] = static_cast<T>(isReal ? -im : re);
-        if (!isReal) at[2 * results] = at[2 * results + 1] = static_cast<T>(-im);
-      });
+      plan.n, plan.n, [](size_t i) { return i; },
+      [&](size_t i, double re, double im) { cosines[i] = static_cast<T>(re), sines[i] = static_cast<T>(-im); });
+  for (size_t k = 0; k <= plan.n / 2; ++k) {
+    T* const out = rows + k * row;
+    for (size_t j = 0; j < results; ++j) {
+      const size_t turn = k * j % plan.n;
+      out[2 * j] = cosines[turn];
+      out[2 * j + 1] = isReal ? sines[turn] : cosines[turn];
+      if (!isReal) out[2 * (results + j)] = out[2 * (results + j) + 1] = sines[turn];
+    }
+  }
 }
 
 // A pair of numbers in all lanes.

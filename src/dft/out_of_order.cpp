@@ -10,7 +10,7 @@ template <class Record> QvxStatus initOutOfOrder(Record** ppSpec, int len, int f
   using T = typename Record::T;
   return initAlloc(ppSpec, len, flag, fft::Orders<T>::kComplex, complexWorkOutOfOrder<T>, [=](auto& plan, uint32_t n) {
     Bytes bytes = choose(plan, n, false, flag);
-    plan.isOutOfOrder = plan.way == Way::kBlocks;
+    plan.isOutOfOrder = kHasOwnOrder<T> && plan.way == Way::kBlocks;
     if (plan.isOutOfOrder) bytes.work = static_cast<int64_t>(lengthOfTiles(plan.blocks) * sizeof(T));
     return bytes;
   });
