@@ -97,13 +97,28 @@ template <class R, size_t kFrom, size_t kCount, class A> A treeJoined(const A* a
   else return R::join(treeJoined<R, kFrom, kCount / 2>(a), treeJoined<R, kFrom + kCount / 2, kCount - kCount / 2>(a));
 }
 
+// n from 1 to N, in fewer lanes where they hold them: each halving saves a step of the total.
+template <size_t N, class R, class... Src> [[gnu::always_inline]] inline auto reducedShort(R r, size_t n, Src... src) {
+  constexpr size_t kNarrowest = R::kRepeats ? 16 : kVectorBytes / 2;
+  if constexpr (N * std::max({sizeof(typename R::Inner), sizeof(typename Src::Lane)...}) > kNarrowest) {
+    if (n <= N / 2) return reducedShort<N / 2>(r, n, src...);
+    if constexpr (R::kRepeats)
+      return r.total(r.add(r.start(src.template get<N / 2>(0)...), src.template get<N / 2>(n - N / 2)...));
+  }
+  if (n == N) return r.total(r.start(src.template get<N>(0)...));
+  return r.total(r.start(src.template get<N>(0, n)...));
+}
+
 // n from 1 to kSlice.
 template <size_t N, class R, class... Src> [[gnu::flatten]] auto reducedSlice(R r, size_t n, Src... src) {
   const auto started = [&](size_t i) { return r.start(src.template get<N>(i)...); };
   const auto added = [&](auto a, size_t i) { return r.add(a, src.template get<N>(i)...); };
   if (n < N) [[unlikely]] {
     constexpr size_t kNarrowest = 16 / std::max({sizeof(typename R::Inner), sizeof(typename Src::Lane)...});
-    if constexpr (R::kRepeats && N > kNarrowest) return reducedSlice<N / 2>(r, n, src...);
+    // Of elements of at most 16 bits, whose totals have the most steps: norms of up to 15 take 0.76 of the time. With wider ones
+    // the test takes as long as a step.
+    if constexpr (2 * N >= kVectorBytes) return reducedShort<N>(r, n, src...);
+    else if constexpr (R::kRepeats && N > kNarrowest) return reducedSlice<N / 2>(r, n, src...);
     else return r.total(r.start(src.template get<N>(0, n)...));
   }
   auto all = started(0);

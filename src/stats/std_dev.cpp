@@ -45,16 +45,17 @@ template <class T> QvxStatus meanAndDeviationOfFloats(const T* src, int len, T* 
   return qvxStatOk;
 }
 
-// The moments as doubles that no arithmetic before the rounding scope can have used.
+// Sums of more than 53 bits are rounded as they become doubles: that belongs in the rounding scope too.
 Moments<double> pinned(Moments<int64_t> m) {
-  return {RoundingScope::pinned(static_cast<double>(m.sum)), RoundingScope::pinned(static_cast<double>(m.squares))};
+  return {static_cast<double>(RoundingScope::pinned(m.sum)), static_cast<double>(RoundingScope::pinned(m.squares))};
 }
 
 template <class R> QvxStatus deviationOfIntegers(const Qvx16s* src, int len, R* dev, int scaleFactor) {
   const QvxStatus status = checkTwo(len, src, dev);
   if (status != qvxStatOk) return status;
+  const Moments<int64_t> exact = reduce(Moments16(), elements(len), source(src));
   const RoundingScope nearest(Rounding::kNearest);
-  const Moments<double> m = pinned(reduce(Moments16(), elements(len), source(src)));
+  const Moments<double> m = pinned(exact);
   *dev = roundedTo<R>(deviation(m, len) * scaleFactorOf(scaleFactor));
   return qvxStatOk;
 }
@@ -62,9 +63,10 @@ template <class R> QvxStatus deviationOfIntegers(const Qvx16s* src, int len, R* 
 template <class R> QvxStatus meanAndDeviationOfIntegers(const Qvx16s* src, int len, R* mean, R* dev, int scaleFactor) {
   const QvxStatus status = checkTwo(len, src, mean, dev);
   if (status != qvxStatOk) return status;
+  const Moments<int64_t> exact = reduce(Moments16(), elements(len), source(src));
   const RoundingScope nearest(Rounding::kNearest);
   const double factor = scaleFactorOf(scaleFactor);
-  const Moments<double> m = pinned(reduce(Moments16(), elements(len), source(src)));
+  const Moments<double> m = pinned(exact);
   *mean = roundedTo<R>(m.sum / len * factor);
   *dev = roundedTo<R>(deviation(m, len) * factor);
   return qvxStatOk;

@@ -46,10 +46,10 @@ template <class R> auto scaledTo(int scaleFactor) {
 }
 
 template <class Sum, class T> QvxStatus meanIntegers(const T* src, int len, T* mean, int scaleFactor) {
-  const RoundingScope nearest(Rounding::kNearest);
-  const double factor = scaleFactorOf(scaleFactor);
   return sumIntegers<Sum>(src, len, mean, [=](int64_t sum) {
-    return roundedTo<Part<T>>(RoundingScope::pinned(static_cast<double>(sum)) / len * factor);
+    const RoundingScope nearest(Rounding::kNearest);
+    const auto dividend = static_cast<double>(RoundingScope::pinned(sum));
+    return RoundingScope::pinned(roundedTo<Part<T>>(dividend / len * scaleFactorOf(scaleFactor)));
   });
 }
 
