@@ -43,7 +43,7 @@ QVXS_API(QvxStatus, qvxsZeroCrossing_16s32f, (const Qvx16s* pSrc, int len, Qvx32
 QVXS_API(QvxStatus, qvxsZeroCrossing_32f, (const Qvx32f* pSrc, int len, Qvx32f* pValZC, int zcType));
 
 /** The Cauchy function of robust estimation, in place: y = ln(1 + (x / C)^2) / 2. Within 2 ULP of the true value for every finite x and
- *  C, also where (x / C)^2 has no float.
+ *  C, also where (x / C)^2 has no float, and in any rounding mode: it is computed to nearest.
  *  pSrcDst: len elements, any alignment.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1); qvxStatBadParam (C not above 0). */
 QVXS_API(QvxStatus, qvxsCauchy_32f_I, (Qvx32f* pSrcDst, int len, Qvx32f C));
