@@ -209,9 +209,12 @@ template <class Kernel, class S, class D> QvxStatus apply(const S* src, D* dst, 
 }
 
 template <class Law, class Half> QvxStatus toFloat(const Qvx8u* src, Qvx32f* dst, int len) {
-  if constexpr (kConvertsHalves) return apply<To32f<Half>>(src, dst, len);
-  const QvxStatus status = check(len, src, dst);
-  return status != qvxStatOk ? status : loop(To32fThrough16s<Law>(), Quads{dst}, elements(len), source(src));
+  if constexpr (kConvertsHalves) {
+    return apply<To32f<Half>>(src, dst, len);
+  } else {
+    const QvxStatus status = check(len, src, dst);
+    return status != qvxStatOk ? status : loop(To32fThrough16s<Law>(), Quads{dst}, elements(len), source(src));
+  }
 }
 
 }  // namespace
