@@ -16,7 +16,7 @@ namespace qvx::transform {
 inline constexpr size_t kTileRows = 256;
 inline constexpr size_t kLastRadix = 16;
 
-// Whether n points go this way: with registers for 16 of them.
+// Whether n points go this way: with registers for 16 of them. 2^15 floats take 1.02 of the time of passes, 2^13 doubles 0.99.
 template <class T, class Points> constexpr bool isTiled(size_t n) {
   return kHasMasks && kIsInterleaved<Points> && n <= size_t{1} << 16 && n >= size_t{1} << (sizeof(T) == 4 ? 16 : 15);
 }
@@ -65,8 +65,10 @@ template <size_t L, class T, class Dst, class Scale>
   for (size_t b = 0; b < kStep; ++b) {
     transformPoints<R>(
         [&](auto m) __attribute__((always_inline)) { return group<L>(y + (b * R + m) * 2 * L); },
-        [&](auto k, auto z)
-            __attribute__((always_inline)) { (k + 1 == R ? last : dst).template put<L>(scale(z), (b + k * kStep) * columns); });
+        [&](auto k, auto z) __attribute__((always_inline)) {
+          const Dst to = k + 1 == R ? last : dst;
+          to.template put<L>(scale(z), (b + k * kStep) * columns);
+        });
   }
 }
 
