@@ -122,7 +122,8 @@ template <class Z, size_t R, class Get> QVX_INLINE void dft(Z (&x)[R], Get get) 
   }
 }
 
-// The same, with put(k, z) for each result: of 16, as soon as it is there (0.92 to 0.98 of the time of transforms of floats up to 2^12 points).
+// The same, with put(k, z) for each result: of 16, as soon as it is there (0.92 to 0.98 of the time of transforms of floats up to
+// 2^12 points).
 template <size_t R, class Get, class Put> QVX_INLINE void transformPoints(Get get, Put put) {
   decltype(get(std::integral_constant<size_t, 0>())) x[R];
   if constexpr (R == 16) {

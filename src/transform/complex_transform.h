@@ -2,16 +2,12 @@
 #pragma once
 
 #include "transform/small.h"
-#include "transform/turned.h"
+#include "transform/tiled.h"
 
 namespace qvx::transform {
 
-// The longest transform that the caches serve whole; longer ones go by blocks. 2^16 complex doubles with a work array of as many
-// and their twiddles are 4 MiB: in tiles they take 0.75 of the time, in place 0.93.
-template <class T, class Points>
-inline constexpr size_t kLongestInCache = size_t{1} << (sizeof(T) == 4                                    ? 17
-                                                        : kTurns<kWidest<T>, T> && kIsInterleaved<Points> ? 15
-                                                                                                          : 16);
+// The longest transform that the caches serve whole; longer ones go by blocks.
+template <class T> inline constexpr size_t kLongestInCache = size_t{1} << (sizeof(T) == 4 ? 17 : 16);
 // From here on two threads are faster than one: points pass from one's caches to the other's. 2^15 floats take 1.25 of the time.
 template <class T> inline constexpr size_t kWorthTeam = size_t{1} << (sizeof(T) == 4 ? 16 : 15);
 
@@ -69,8 +65,11 @@ template <class LaneOrder, class T> T* writePasses(Plan<T>& plan, size_t n, T* b
 template <class LaneOrder, class T> T* writePlan(ComplexPlan<T>& plan, size_t n, T* block) {
   plan.n = static_cast<uint32_t>(n);
   if (n <= size_t{1} << kShortOrder<LaneOrder>) return block;
-  if (n <= kLongestInCache<T, LaneOrder>) return writePasses<LaneOrder>(plan.plan, n, block);
   constexpr size_t L = kWidest<T>;
+  if constexpr (isTiled<T, LaneOrder>(size_t{1} << 16)) {
+    if (isTiled<T, LaneOrder>(n)) return writeTiledTwiddles<L, LaneOrder>(plan.blocked, n, alignedUp(block, Carver::kLine));
+  }
+  if (n <= kLongestInCache<T>) return writePasses<LaneOrder>(plan.plan, n, block);
   const size_t m = n / kBlockPoints / kBlockPoints;
   T* end = writePasses<LaneOrder>(plan.plan, kBlockPoints, block);
   end = writeColumnTwiddles<L, LaneOrder>(plan.blocked.outer, kBlockPoints, m * kBlockPoints, end);
@@ -86,7 +85,12 @@ template <class T, class Src, class Dst, class Scale>
 [[gnu::noinline]] void longTransform(const ComplexPlan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
   constexpr size_t L = kWidest<T>;
   const int threads = plan.threads();
-  if (plan.n > kLongestInCache<T, Src>) {
+  if constexpr (isTiled<T, Src>(size_t{1} << 16)) {
+    if (isTiled<T, Src>(plan.n)) {
+      return tiledTransform<L>(static_cast<size_t>(threads), plan.blocked, plan.n, src, dst, y, scale);
+    }
+  }
+  if (plan.n > kLongestInCache<T>) {
     const size_t tile = static_cast<size_t>(plan.workBytes) / (2 * sizeof(T));
     if constexpr (kTurns<L, T> && kIsInterleaved<Src>) {
       if (plan.n <= kMostTurned && src.p != dst.p) {

@@ -4,7 +4,7 @@
 // Point (a, b, c) of the source becomes, by transforms down a and b, number ka + n * kb of row c of the destination: as tiles of
 // columns are read, the first level turns them into rows, and the other levels go along these, in the nearest cache. Then
 // transforms down c leave each result where it belongs. 2^17 and 2^18 complex doubles take 0.7 of the time of blocks, with 2 MiB
-// of cache to a core; 2^16 have no b.
+// of cache to a core.
 #pragma once
 
 #include "transform/blocked.h"
@@ -56,29 +56,30 @@ template <size_t L, class LaneOrder, class T> T* writeTurnedTwiddles(size_t colu
   return to.tiles + columns / L * n * 2;
 }
 
-// The first level of transforms down n rows, for L columns; what belongs to column i goes to row i of dst, rows `apart`
+// The first level of transforms down R * part rows, for L columns; what belongs to column i goes to row i of dst, rows `apart`
 // points apart.
-template <size_t L, class T, class Src>
-[[gnu::noinline]] void turnColumns(Src src, size_t columns, T* dst, size_t apart, const T* twiddles) {
+template <size_t R, size_t L, class T, class Src>
+[[gnu::noinline]] void turnColumns(Src src, size_t columns, size_t part, T* dst, size_t apart, const T* twiddles) {
   using V = Vec<Lanes<T, L>>;
   constexpr auto element = &Src::template element<L>;
-  constexpr size_t part = kBlockPoints / L;
-  for (size_t q = 0; q < part; ++q, twiddles += (L - 1) * 2) {
-    Complex<V> x[L];
-    unrolled<L>([&](auto m) __attribute__((always_inline)) { x[m] = src.template get<L>((q + m * part) * columns); });
-    dft(x);
-    unrolled<L - 1>([&](auto m)
-                        __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], twiddles[2 * m], twiddles[2 * m + 1]); });
-    V re[L];
-    V im[L];
-    unrolled<L>([&](auto i) __attribute__((always_inline)) {
-      re[i] = x[element(i)].re;
-      im[i] = x[element(i)].im;
-    });
-    transpose(re);
-    transpose(im);
-    unrolled<L>([&](auto i) __attribute__((always_inline)) {
-      putGroup<L>(Complex<V>{re[i], im[i]}, dst + 2 * (element(i) * apart + q * L));
+  for (size_t q = 0; q < part; ++q, twiddles += (R - 1) * 2) {
+    Complex<V> x[R];
+    dft(
+        x, [&](auto m) __attribute__((always_inline)) { return src.template get<L>((q + m * part) * columns); });
+    unrolled<R / L>([&](auto w) __attribute__((always_inline)) {
+      V re[L];
+      V im[L];
+      unrolled<L>([&](auto i) __attribute__((always_inline)) {
+        constexpr size_t k = w * L + element(i);
+        const Complex<V> z = turnedBy<k>(x[k], twiddles);
+        re[i] = z.re;
+        im[i] = z.im;
+      });
+      transpose(re);
+      transpose(im);
+      unrolled<L>([&](auto i) __attribute__((always_inline)) {
+        putGroup<L>(Complex<V>{re[i], im[i]}, dst + 2 * (element(i) * apart + q * R + w * L));
+      });
     });
   }
 }
@@ -115,7 +116,7 @@ template <size_t L, class T, class Src>
   const T* const rest = plan.outer.levels + n / L * (L - 1) * 2;
   for (size_t c = range.from; c < range.to; c += L) {
     for (size_t b = 0; b < block; b += n) {
-      turnColumns<L>(src.from(b + c), block, dst + 2 * (c * block + b), block, plan.outer.levels);
+      turnColumns<L, L>(src.from(b + c), block, n / L, dst + 2 * (c * block + b), block, plan.outer.levels);
     }
     for (size_t i = c; i < c + L; ++i) {
       T* const row = dst + 2 * i * block;
@@ -127,7 +128,6 @@ template <size_t L, class T, class Src>
         });
         columns.within(y, n / L, rest, 0, 0, 1, 0, levels.radix[0]);
       }
-      if (block == n) continue;
       withRadix(block / n, [&](auto R) {
         if constexpr (R <= kMostTurned / n / n) alongRow<R, L, Src>(row, plan.inner, i);
       });
