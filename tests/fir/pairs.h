@@ -167,12 +167,13 @@ template <class H, class T> struct FloatOracle {
   }
 };
 
-// Integer arithmetic: the sum wraps at 32 bits and is rounded once.
+// Integer arithmetic: the sum, which wraps at 32 bits, times 2^places, rounded once. Places below -31 count as -31; what exceeds
+// 32 bits on the other side wraps.
 inline int16_t roundedSum(uint32_t sum, int64_t places) {
-  const auto wrapped = static_cast<int32_t>(sum);
+  const reference::Wide wrapped = static_cast<int32_t>(sum);
   if (places < 0) return reference::scaled<int16_t>(wrapped, static_cast<int>(std::min<int64_t>(-places, 31)));
-  const int32_t shifted = places > 31 ? 0 : static_cast<int32_t>(sum << places);
-  return static_cast<int16_t>(std::clamp(shifted, -32768, 32767));
+  const reference::Wide product = wrapped * (reference::Wide{1} << std::min<int64_t>(places, 32));
+  return reference::saturated<int16_t>(static_cast<int32_t>(product));
 }
 template <class H, class T> struct IntegerOracle {
   std::vector<H> taps;
