@@ -8,23 +8,46 @@ namespace {
 
 constexpr int kValues = 256;
 
-// Four tables in turn: equal neighbours would wait for each other's count in memory.
-[[gnu::noinline]] void sortBytes(uint8_t* x, size_t n, KeyMap<int8_t> map) {
-  uint32_t counts[4][kValues] = {};
-  size_t i = 0;
-  for (; i + 4 <= n; i += 4) {
-    uint32_t four;
-    std::memcpy(&four, x + i, sizeof four);
-    ++counts[0][four & 0xFF];
-    ++counts[1][four >> 8 & 0xFF];
-    ++counts[2][four >> 16 & 0xFF];
-    ++counts[3][four >> 24];
+// How often each byte occurs: eight tables in turn, since equal neighbours would wait for each other's count in memory, which
+// four do not hide: vectors in order took 1.8 times as long as random ones. No two counts of a byte lie a multiple of 4 KiB
+// apart: the processor takes one for the other until it knows all of both addresses.
+struct ByteCounts {
+  static constexpr size_t kTables = 8;
+  uint32_t of[kTables][kValues + 16] = {};
+
+  [[gnu::always_inline]] void countFour(size_t table, uint32_t four) {
+    ++of[table][four & 0xFF];
+    ++of[table + 1][four >> 8 & 0xFF];
+    ++of[table + 2][four >> 16 & 0xFF];
+    ++of[table + 3][four >> 24];
   }
-  for (; i < n; ++i) ++counts[0][x[i]];
+  // Into the first table.
+  void addUp() {
+    constexpr size_t N = kVectorBytes / sizeof(uint32_t);
+    const Lanes<uint32_t, N> d;
+    for (size_t v = 0; v < kValues; v += N) {
+      auto sum = load(d, of[0] + v);
+      for (size_t t = 1; t < kTables; ++t) sum = sum + load(d, of[t] + v);
+      store(sum, d, of[0] + v);
+    }
+  }
+};
+
+[[gnu::noinline]] void sortBytes(uint8_t* x, size_t n, KeyMap<int8_t> map) {
+  ByteCounts counts;
+  size_t i = 0;
+  for (; i + 8 <= n; i += 8) {
+    uint32_t fours[2];
+    std::memcpy(fours, x + i, sizeof fours);
+    counts.countFour(0, fours[0]);
+    counts.countFour(4, fours[1]);
+  }
+  for (; i < n; ++i) ++counts.of[0][x[i]];
+  counts.addUp();
   uint8_t* at = x;
   for (int k = INT8_MIN; k <= INT8_MAX; ++k) {
     const auto value = static_cast<uint8_t>(map.original(static_cast<int8_t>(k)));
-    at = putRun(at, x + n, value, size_t{counts[0][value]} + counts[1][value] + counts[2][value] + counts[3][value]);
+    at = putRun(at, x + n, value, counts.of[0][value]);
   }
 }
 
