@@ -51,16 +51,14 @@ template <class T> class SpacedAngles {
     alignas(64) T firstSines[kBlock / kLanes];
     alignas(64) T firstCosines[kBlock / kLanes];
     const auto firsts = hn::MulAdd(hn::Iota(wide, 0), hn::Set(wide, vectorStep_), hn::Set(wide, start));
-    auto [sine, cosine] = sinCosOfTurns<kDigits>(fractionOfTurns(firsts));
+    auto first = sinCosOfTurns<kDigits>(fractionOfTurns(firsts));
     const auto byS = hn::Set(wide, turnSine_);
     const auto byC = hn::Set(wide, turnCosine_);
     size_t made = 0;
     const auto makeFirsts = [&]() __attribute__((always_inline)) {
-      store(convertLanes<T>(sine), Lanes<T, kWide>(), firstSines + made);
-      store(convertLanes<T>(cosine), Lanes<T, kWide>(), firstCosines + made);
-      const auto on = hn::MulAdd(sine, byC, cosine * byS);
-      cosine = hn::NegMulAdd(sine, byS, cosine * byC);
-      sine = on;
+      store(convertLanes<T>(first.sine), Lanes<T, kWide>(), firstSines + made);
+      store(convertLanes<T>(first.cosine), Lanes<T, kWide>(), firstCosines + made);
+      first = {hn::MulAdd(first.sine, byC, first.cosine * byS), hn::NegMulAdd(first.sine, byS, first.cosine * byC)};
       made += kWide;
     };
     while (made < kAhead && made * kLanes < count) makeFirsts();
