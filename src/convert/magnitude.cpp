@@ -27,10 +27,8 @@ struct Magnitude16ToFloat {
   template <class... V> auto operator()(V... parts) const { return hn::Sqrt(Power16ToFloat()(parts...)); }
 };
 
-// The exact root of the exact power in lanes of signed integers, by belowSign(): the root of the largest power lies as far from a
-// tie as its neighbour's.
-
-// An operation gives its kernel for a way to take and scale a root.
+// An operation gives its kernel for a way to take and scale a root: the exact one of the exact power in lanes of signed integers.
+// Where belowSign() takes one off the largest power, the root lies as far from a tie as before.
 struct Magnitude16Complex {
   static constexpr int kBits = 15;
   static constexpr bool kInDoubles = false;
