@@ -73,11 +73,19 @@ int measureFamily(const std::string& name, const std::string& filter, bool brief
 
 bench::Face bestFace() {
   return {"Performance",
-          "The other variants beside peers of their level: [AVX2](performance-w3.md), [SSSE3](performance-u8.md)."};
+          "The other variants beside peers of their level: [AVX2](performance-w3.md), [SSSE3](performance-u8.md). The same variant on a\n"
+          "processor of another make: [performance-other.md](performance-other.md)."};
+}
+
+// The page of the best variant on a second processor.
+bench::Face otherFace() {
+  return {"Performance on another processor",
+          "Fewer lengths than [performance.md](performance.md), which has the processor that most figures of the code are from.",
+          "performance/other.tsv", false};
 }
 
 // The page of a variant that is not the processor's best.
-bench::Face briefFace() {
+bench::Face lowerFace() {
   const bool avx2 = std::string(QVXS_BENCH_VARIANT) == "w3";
   const std::string loops = avx2 ? "x86-64-v3" : "SSSE3";
   const std::string fftw = avx2 ? "FFTW is the packaged one and one built with AVX2" : "FFTW is built with SSE2 alone";
@@ -97,7 +105,8 @@ void page(const std::string& folder, bool brief, const std::string& output) {
     if (in) pieces.push_back(bench::read(in, family.name));
   }
   const bench::Piece all = bench::joined(pieces);
-  const bench::Face face = brief ? briefFace() : bestFace();
+  const bool best = std::string(QVXS_BENCH_VARIANT) == "w4";
+  const bench::Face face = !best ? lowerFace() : brief ? otherFace() : bestFace();
   const std::filesystem::path measurements = std::filesystem::path(output).replace_filename(face.measurements);
   std::filesystem::create_directories(measurements.parent_path());
   replace(output, [&](std::ostream& out) { bench::writePage(out, all, bench::kSections, face); });
