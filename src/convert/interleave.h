@@ -1,8 +1,8 @@
 // Channels side by side and channels interleaved, a tile of a few frames and channels at a time in registers.
 //
-// A row is what a tile has of one frame. Rows are stored and loaded with whole registers, also where the channels end before the
-// register: the bytes after are the next row's, which is stored later. Only rows from which a register would reach beyond the
-// last frame are cut to what they have.
+// A row is the part of a frame that a tile holds. Rows are loaded and stored as whole registers even where the channels end
+// before the register: the bytes after them belong to the next row, which is stored later. Only a row from which a register would
+// reach past the last frame is loaded and stored in part.
 #pragma once
 
 #include <bit>
@@ -11,8 +11,8 @@
 
 namespace qvx {
 
-// A perfect shuffle of K vectors as one sequence, kTimes over. Each takes the highest bit of an element's place and puts it
-// lowest, so that a transposition is as many shuffles as that many bits.
+// Perfect shuffles of K vectors taken as one sequence, kTimes in a row. Each moves the highest bit of an element's index to the
+// lowest place, so a transposition takes one shuffle for each bit of the number of rows.
 template <int kTimes, size_t K, class V> struct Shuffle {
   static void run(V (&v)[K]) {
     V to[K];
@@ -31,26 +31,40 @@ template <size_t K, class V> struct Shuffle<0, K, V> {
 };
 template <int kTimes, size_t K, class V> void shuffle(V (&v)[K]) { Shuffle<kTimes, K, V>::run(v); }
 
-// Where a tile lies among the frames and channels of an interleaved buffer, in elements of kBytes, and how many of them a row may
-// touch without harm beyond those it has.
+// Clipped to full scale, which is 1.
+template <class V> V fullScale(V x) { return hn::Max(hn::Min(x, same<V>(1)), same<V>(-1)); }
+
+// The arguments of both directions, in the order of their tests; vectors: one for each channel.
+template <class T> QvxStatus checkChannels(const void* interleaved, int channels, int frames, T* const* vectors) {
+  if (isNull(interleaved)) return qvxStatNullPtr;
+  if (channels < 1 || frames < 1) return qvxStatBadSize;
+  if (isNull(vectors)) return qvxStatNullPtr;
+  for (int c = 0; c < channels; ++c) {
+    if (isNull(vectors[c])) return qvxStatNullPtr;
+  }
+  return qvxStatOk;
+}
+
+// Where a tile lies in an interleaved buffer.
 struct Tile {
-  size_t frame;     // its first
-  size_t frames;    // how many of its frames there are
-  size_t channel;   // its first
-  size_t channels;  // how many of its channels there are
-  size_t stride;    // channels in all
-  size_t whole;     // rows, from the first, that may be whole registers
+  size_t frame;     // its first frame
+  size_t frames;    // frames that exist, of those it has room for
+  size_t channel;   // its first channel
+  size_t channels;  // channels that exist, of those it has room for
+  size_t stride;    // channels of the buffer
+  size_t whole;     // leading rows that may be whole registers
 
   size_t at(size_t row) const { return (frame + row) * stride + channel; }
 };
 
 template <class F> [[gnu::noinline]] void cutTile(F f, const Tile& t) { f(t, std::false_type()); }
 
-// Tiles of kFrames and kGroup channels over a buffer; the last ones begin early enough to be full where there is enough for that.
-// f is called with a tile and a constant: whether all rows may be whole registers. The others stand apart, for their branches
-// would keep the vectors of all tiles in memory (1.7 times the time).
-// writes: whole rows spoil what follows them. After the first group of channels that must be groups yet to come, not the next
-// frame, whose first group is there already.
+// Covers a buffer by tiles of kFrames frames and kGroup channels; the last ones overlap their neighbours, so that they are full
+// wherever the buffer is as large as a tile. Calls f with a tile and a constant that tells whether all its rows may be whole
+// registers. Tiles with rows in part are a function of their own: in line, their branches keep the vectors of all tiles in memory
+// (1.7 times the time).
+// writes: a whole row overwrites what follows it. That may be a group of channels still to come, but not the next frame, whose
+// first group is already stored.
 template <size_t kFrames, size_t kGroup, size_t kRowBytes, class F>
 void forEachTile(size_t channels, size_t frames, size_t elementBytes, bool writes, F f) {
   const size_t groups = (channels + kGroup - 1) / kGroup;

@@ -1,0 +1,219 @@
+// Channels of floats joined to interleaved 16-bit integers, and split again.
+//
+// One channel is a conversion. Two are 32-bit lanes with a sample in each half. Three and four are split by whole registers, in a
+// quarter of the time of tiles. Any other number goes through transposed tiles: 8 frames by 8 channels, by 4 up to four channels.
+#include <array>
+
+#include "convert/interleave.h"
+#include "frame/rounding.h"
+
+using namespace qvx;
+
+namespace {
+
+struct Clipped16 {
+  static constexpr Rounding kNeeds = kRoundsByInstruction ? Rounding::kCallers : Rounding::kNearest;
+  template <class V> auto operator()(V x) const { return toIntNearest(hn::Max(hn::Min(x, same<V>(32767)), same<V>(-32768))); }
+};
+
+struct Scaled16 {
+  static constexpr Rounding kNeeds = Rounding::kNearest;
+  template <class V> auto operator()(V x) const { return toIntNearest(fullScale(x) * same<V>(32767.5F) + same<V>(-0.5F)); }
+};
+
+struct FullScaleOf16 {
+  template <class V> auto operator()(V x) const {
+    const auto v = convertLanes<float>(x);
+    using F = std::remove_const_t<decltype(v)>;
+    return v * same<F>(2.0F / 65535) + same<F>(1.0F / 65535);
+  }
+};
+
+using Eight16 = Lanes<int16_t, 8>;
+
+// As many of eight floats as one register holds.
+constexpr size_t kAtOnce = std::min<size_t>(8, kVectorBytes / sizeof(Qvx32f));
+
+// `count` of eight floats from p on, zeros after them.
+template <class Sample> Vec<Eight16> load8(Sample sample, const Qvx32f* p, size_t count) {
+  const Lanes<float, kAtOnce> d;
+  if constexpr (kAtOnce == 8) {
+    return hn::DemoteTo(Eight16(), sample(count == 8 ? load(d, p) : loadFirst(d, p, count)));
+  } else {
+    if (count == 8) return narrow<int16_t>(each(Pair<Vec<decltype(d)>>{load(d, p), load(d, p + 4)}, sample));
+    const size_t low = std::min<size_t>(count, 4);
+    return narrow<int16_t>(each(Pair<Vec<decltype(d)>>{loadFirst(d, p, low), loadFirst(d, p + low, count - low)}, sample));
+  }
+}
+
+template <class V> void store8(V v, Qvx32f* p, size_t count) {
+  const Lanes<float, kAtOnce> d;
+  if constexpr (kAtOnce == 8) {
+    if (count == 8) store(FullScaleOf16()(v), d, p);
+    else storeFirst(FullScaleOf16()(v), d, p, count);
+  } else {
+    const hn::Half<TagOf<V>> half;
+    const auto lower = FullScaleOf16()(hn::LowerHalf(half, v));
+    const auto upper = FullScaleOf16()(hn::UpperHalf(half, v));
+    if (count >= 4) store(lower, d, p);
+    else storeFirst(lower, d, p, count);
+    if (count == 8) store(upper, d, p + 4);
+    else if (count > 4) storeFirst(upper, d, p + 4, count - 4);
+  }
+}
+
+// G channels of 8 frames are G vectors, each of one channel or, transposed, of 8 / G rows.
+template <size_t G> struct Tile16 {
+  static constexpr int kToRows = std::countr_zero(G);
+  using Row = Lanes<int16_t, G>;
+
+  static Vec<Row> row(const Vec<Eight16> (&v)[G], size_t i) {
+    if constexpr (G == 8) return v[i];
+    else return i % 2 == 0 ? hn::LowerHalf(Row(), v[i / 2]) : hn::UpperHalf(Row(), v[i / 2]);
+  }
+
+  template <bool kWhole, class Sample> static void join(Sample sample, const Qvx32f* const* src, const Tile& t, Qvx16s* dst) {
+    Vec<Eight16> v[G];
+#pragma GCC unroll 8
+    for (size_t c = 0; c < G; ++c) {
+      v[c] = load8(sample, src[t.channel + std::min(c, t.channels - 1)] + t.frame, kWhole ? 8 : t.frames);
+    }
+    shuffle<kToRows>(v);
+#pragma GCC unroll 8
+    for (size_t i = 0; i < 8; ++i) {
+      if (kWhole || i < t.whole) store(row(v, i), Row(), dst + t.at(i));
+      else if (i < t.frames) storeFirst(row(v, i), Row(), dst + t.at(i), t.channels);
+    }
+  }
+
+  template <bool kWhole> static void split(const Qvx16s* src, const Tile& t, Qvx32f* const* dst) {
+    Vec<Row> rows[8];
+#pragma GCC unroll 8
+    for (size_t i = 0; i < 8; ++i) {
+      if (kWhole || i < t.whole) rows[i] = load(Row(), src + t.at(i));
+      else rows[i] = loadFirst(Row(), src + t.at(std::min(i, t.frames - 1)), t.channels);
+    }
+    Vec<Eight16> v[G];
+#pragma GCC unroll 8
+    for (size_t i = 0; i < G; ++i) {
+      if constexpr (G == 8) v[i] = rows[i];
+      else v[i] = hn::Combine(Eight16(), rows[2 * i + 1], rows[2 * i]);
+    }
+    shuffle<3>(v);
+#pragma GCC unroll 8
+    for (size_t c = 0; c < G; ++c) {
+      if (c < t.channels) store8(v[c], dst[t.channel + c] + t.frame, kWhole ? 8 : t.frames);
+    }
+  }
+};
+
+// Calls f with the width of the tiles that suits a number of channels.
+template <class F> void byWidth16(size_t channels, F f) {
+  if (channels <= 4) f(std::integral_constant<size_t, 4>());
+  else f(std::integral_constant<size_t, 8>());
+}
+
+template <class Sample> void join16(Sample sample, const Qvx32f* const* src, size_t channels, size_t n, Qvx16s* dst) {
+  const RoundingScope scope(Sample::kNeeds);
+  if (channels == 1) {
+    loop([sample](auto pair) { return narrowInOrder<int16_t>(each(pair, sample)); }, destination(dst), n, InPairs{src[0]});
+  } else if (channels == 2) {
+    const auto both = [sample](auto left, auto right) {
+      const auto low = sample(left);
+      return (low & same<std::remove_const_t<decltype(low)>>(0xFFFF)) | hn::ShiftLeft<16>(sample(right));
+    };
+    loop(both, destination(reinterpret_cast<Qvx32s*>(dst)), n, source(src[0]), source(src[1]));
+  } else {
+    byWidth16(channels, [=](auto width) {
+      constexpr size_t G = decltype(width)::value;
+      forEachTile<8, G, 2 * G>(channels, n, 2, true, [=](const Tile& t, auto whole) {
+        Tile16<G>::template join<decltype(whole)::value>(sample, src, t, dst);
+      });
+    });
+  }
+}
+
+// Destinations: a channel for each vector that a kernel gives.
+template <size_t K> struct Channels {
+  using Lane = Qvx32f;
+  Qvx32f* const* p;
+
+  template <size_t N, class V> void put(const std::array<V, K>& v, size_t at) const {
+#pragma GCC unroll 4
+    for (size_t c = 0; c < K; ++c) store(v[c], TagOf<V>(), p[c] + at);
+  }
+  template <size_t N, class V> void put(const std::array<V, K>& v, size_t at, size_t n) const {
+#pragma GCC unroll 4
+    for (size_t c = 0; c < K; ++c) storeFirst(v[c], TagOf<V>(), p[c] + at, n);
+  }
+  template <size_t N> size_t misaligned() const { return destination(p[0]).template misaligned<N>(); }
+};
+
+// N frames of three or four channels.
+template <size_t K> struct Frames {
+  using Lane = Qvx16s;
+  const Qvx16s* p;
+
+  template <size_t N> auto get(size_t at) const { return channelsOf<N>(p + K * at); }
+  template <size_t N> auto get(size_t at, size_t n) const {
+    Qvx16s some[K * N] = {};
+    std::memcpy(some, p + K * at, K * n * sizeof(Qvx16s));
+    return channelsOf<N>(some);
+  }
+
+ private:
+  template <size_t N> static auto channelsOf(const Qvx16s* from) {
+    const Lanes<Qvx16s, N> d;
+    std::array<Vec<decltype(d)>, K> v;
+    if constexpr (K == 3) hn::LoadInterleaved3(d, from, v[0], v[1], v[2]);
+    else hn::LoadInterleaved4(d, from, v[0], v[1], v[2], v[3]);
+    return v;
+  }
+};
+
+void split16(const Qvx16s* src, size_t channels, size_t n, Qvx32f* const* dst) {
+  if (channels == 1) {
+    loop(FullScaleOf16(), destination(dst[0]), n, source(src));
+  } else if (channels == 2) {
+    const auto both = [](auto v) {
+      const auto left = FullScaleOf16()(hn::ShiftRight<16>(hn::ShiftLeft<16>(v)));
+      return std::array{left, FullScaleOf16()(hn::ShiftRight<16>(v))};
+    };
+    loop(both, Channels<2>{dst}, n, source(reinterpret_cast<const Qvx32s*>(src)));
+  } else if (channels == 3) {
+    const auto fullScaled = [to = FullScaleOf16()](auto v) { return std::array{to(v[0]), to(v[1]), to(v[2])}; };
+    loop(fullScaled, Channels<3>{dst}, n, Frames<3>{src});
+  } else if (channels == 4) {
+    const auto fullScaled = [to = FullScaleOf16()](auto v) { return std::array{to(v[0]), to(v[1]), to(v[2]), to(v[3])}; };
+    loop(fullScaled, Channels<4>{dst}, n, Frames<4>{src});
+  } else {
+    byWidth16(channels, [=](auto width) {
+      constexpr size_t G = decltype(width)::value;
+      forEachTile<8, G, 2 * G>(channels, n, 2, false, [=](const Tile& t, auto whole) {
+        Tile16<G>::template split<decltype(whole)::value>(src, t, dst);
+      });
+    });
+  }
+}
+
+template <class Sample> QvxStatus join(const Qvx32f* const* src, int channels, int frames, Qvx16s* dst) {
+  const QvxStatus status = checkChannels(dst, channels, frames, src);
+  if (status == qvxStatOk) join16(Sample(), src, elements(channels), elements(frames), dst);
+  return status;
+}
+
+}  // namespace
+
+QvxStatus qvxsJoin_32f16s_D2L(const Qvx32f* const* src, int channels, int frames, Qvx16s* dst) {
+  return join<Clipped16>(src, channels, frames, dst);
+}
+
+QvxStatus qvxsJoinScaled_32f16s_D2L(const Qvx32f* const* src, int channels, int frames, Qvx16s* dst) {
+  return join<Scaled16>(src, channels, frames, dst);
+}
+
+QvxStatus qvxsSplitScaled_16s32f_D2L(const Qvx16s* src, Qvx32f* const* dst, int channels, int frames) {
+  const QvxStatus status = checkChannels(src, channels, frames, dst);
+  if (status == qvxStatOk) split16(src, elements(channels), elements(frames), dst);
+  return status;
+}

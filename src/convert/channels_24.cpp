@@ -1,0 +1,177 @@
+// Channels of floats joined to interleaved 24-bit integers, and split again.
+//
+// One channel is a conversion. Two are interleaved in registers. Any other number goes through transposed tiles of 4 frames by 4
+// channels.
+#include "convert/interleave.h"
+#include "frame/packed24.h"
+#include "frame/rounding.h"
+
+using namespace qvx;
+
+namespace {
+
+// Calls f on doubles: as many as there are lanes, or half of them at a time where they need two registers.
+template <class V, class F> auto throughDoubles(V v, F f) {
+  constexpr size_t N = kLanesOf<V>;
+  if constexpr (N * sizeof(double) <= kVectorBytes) {
+    return f(hn::PromoteTo(Lanes<double, N>(), v));
+  } else {
+    const Lanes<LaneOf<V>, N / 2> half;
+    const auto upper = throughDoubles(hn::UpperHalf(half, v), f);
+    const auto lower = throughDoubles(hn::LowerHalf(half, v), f);
+    return hn::Combine(hn::Twice<TagOf<decltype(lower)>>(), upper, lower);
+  }
+}
+
+struct Scaled24 {
+  static constexpr Rounding kNeeds = Rounding::kNearest;
+  template <class V> auto operator()(V x) const {
+    return throughDoubles(fullScale(x), [](auto d) {
+      using D = decltype(d);
+      return toIntNearest(d * same<D>(8388607.5) + same<D>(-0.5));
+    });
+  }
+};
+
+struct FullScaleOf24 {
+  template <class V> auto operator()(V x) const {
+    return throughDoubles(x, [](auto d) {
+      using D = decltype(d);
+      return convertLanes<float>(d * same<D>(2.0 / 16777215) + same<D>(1.0 / 16777215));
+    });
+  }
+};
+
+using Four32 = Lanes<int32_t, 4>;
+using Row24 = Lanes<uint8_t, 16>;  // 12 bytes of four channels, and four after
+
+// Two channels, a frame an element: as a source, and as a destination, of quads in which their samples are in turn; and the
+// packed frames.
+template <class T> struct TwoChannels {
+  using Lane = uint16_t;
+  T* const* p;
+
+  template <size_t N> auto get(size_t at) const {
+    const Lanes<Qvx32f, N / 2> d;
+    return quad([=, this](size_t c, size_t from) { return load(d, p[c] + at + from * N / 2); });
+  }
+  template <size_t N> auto get(size_t at, size_t n) const {
+    const Lanes<Qvx32f, N / 2> d;
+    return quad([=, this](size_t c, size_t from) {
+      return loadFirst(d, p[c] + at + std::min(n, from * N / 2), shareOf<N / 2>(from, n));
+    });
+  }
+  template <size_t N, class V> void put(Quad<V> q, size_t at) const {
+    each(q, [=, this](V v, size_t c, size_t from) { store(v, TagOf<V>(), p[c] + at + from * N / 2); });
+  }
+  template <size_t N, class V> void put(Quad<V> q, size_t at, size_t n) const {
+    each(q, [=, this](V v, size_t c, size_t from) {
+      storeFirst(v, TagOf<V>(), p[c] + at + std::min(n, from * N / 2), shareOf<N / 2>(from, n));
+    });
+  }
+  template <size_t N> size_t misaligned() const { return destination(p[0]).template misaligned<N / 2>(); }
+
+ private:
+  // Of both channels, by their number, the first half of the frames and the second.
+  template <class F> static auto quad(F of) {
+    const auto first = interleaved(Pair<decltype(of(0, 0))>{of(0, 0), of(1, 0)});
+    const auto second = interleaved(Pair<decltype(of(0, 0))>{of(0, 1), of(1, 1)});
+    return Quad<decltype(of(0, 0))>{first.lo, first.hi, second.lo, second.hi};
+  }
+  template <class V, class F> static void each(Quad<V> q, F to) {
+    const auto first = deinterleaved(Pair<V>{q.a, q.b});
+    const auto second = deinterleaved(Pair<V>{q.c, q.d});
+    to(first.lo, 0, 0);
+    to(first.hi, 1, 0);
+    to(second.lo, 0, 1);
+    to(second.hi, 1, 1);
+  }
+};
+
+struct PackedFrom {
+  using Lane = uint16_t;
+  From24<Qvx32s> samples;
+
+  template <size_t N> auto get(size_t at) const { return samples.get<2 * N>(2 * at); }
+  template <size_t N> auto get(size_t at, size_t n) const { return samples.get<2 * N>(2 * at, 2 * n); }
+};
+
+struct PackedTo {
+  using Lane = uint16_t;
+  To24<Qvx32s> samples;
+
+  template <size_t N, class V> void put(Quad<V> q, size_t at) const { samples.put<2 * N>(q, 2 * at); }
+  template <size_t N, class V> void put(Quad<V> q, size_t at, size_t n) const { samples.put<2 * N>(q, 2 * at, 2 * n); }
+  template <size_t N> size_t misaligned() const {
+    const size_t lanes = samples.misaligned<2 * N>();
+    return lanes % 2 == 0 ? lanes / 2 : 0;
+  }
+};
+
+template <bool kWhole> void join24Tile(const Qvx32f* const* src, const Tile& t, Qvx8u* dst) {
+  const Lanes<float, 4> d;
+  Vec<Four32> v[4];
+#pragma GCC unroll 4
+  for (size_t c = 0; c < 4; ++c) {
+    const Qvx32f* from = src[t.channel + std::min(c, t.channels - 1)] + t.frame;
+    v[c] = Scaled24()(kWhole || t.frames == 4 ? load(d, from) : loadFirst(d, from, t.frames));
+  }
+  shuffle<2>(v);
+#pragma GCC unroll 4
+  for (size_t i = 0; i < 4; ++i) {
+    const auto row = packed24(v[i]);
+    if (kWhole || i < t.whole) store(row, Row24(), dst + 3 * t.at(i));
+    else if (i < t.frames) storeFirst(row, Row24(), dst + 3 * t.at(i), 3 * t.channels);
+  }
+}
+
+template <bool kWhole> void split24Tile(const Qvx8u* src, const Tile& t, Qvx32f* const* dst) {
+  Vec<Four32> v[4];
+#pragma GCC unroll 4
+  for (size_t i = 0; i < 4; ++i) {
+    const Qvx8u* row = src + 3 * t.at(std::min(i, t.frames - 1));
+    v[i] = unpacked24(kWhole || i < t.whole ? load(Row24(), row) : loadFirst(Row24(), row, 3 * t.channels));
+  }
+  shuffle<2>(v);
+#pragma GCC unroll 4
+  for (size_t c = 0; c < 4; ++c) {
+    if (c >= t.channels) break;
+    const auto x = FullScaleOf24()(v[c]);
+    Qvx32f* to = dst[t.channel + c] + t.frame;
+    if (kWhole || t.frames == 4) store(x, Lanes<float, 4>(), to);
+    else storeFirst(x, Lanes<float, 4>(), to, t.frames);
+  }
+}
+
+}  // namespace
+
+QvxStatus qvxsJoinScaled_32f24s_D2L(const Qvx32f* const* src, int channels, int frames, Qvx8u* dst) {
+  const QvxStatus status = checkChannels(dst, channels, frames, src);
+  if (status != qvxStatOk) return status;
+  const RoundingScope scope(Scaled24::kNeeds);
+  if (channels == 1) {
+    return loop([](auto quad) { return each(quad, Scaled24()); }, To24<Qvx32s>{dst}, elements(frames), Quads{src[0]});
+  }
+  if (channels == 2) {
+    return loop([](auto quad) { return each(quad, Scaled24()); }, PackedTo{{dst}}, elements(frames),
+                TwoChannels<const Qvx32f>{src});
+  }
+  forEachTile<4, 4, 16>(elements(channels), elements(frames), 3, true,
+                        [=](const Tile& t, auto whole) { join24Tile<decltype(whole)::value>(src, t, dst); });
+  return qvxStatOk;
+}
+
+QvxStatus qvxsSplitScaled_24s32f_D2L(const Qvx8u* src, Qvx32f* const* dst, int channels, int frames) {
+  const QvxStatus status = checkChannels(src, channels, frames, dst);
+  if (status != qvxStatOk) return status;
+  if (channels == 1) {
+    return loop([](auto quad) { return each(quad, FullScaleOf24()); }, Quads{dst[0]}, elements(frames), From24<Qvx32s>{src});
+  }
+  if (channels == 2) {
+    return loop([](auto quad) { return each(quad, FullScaleOf24()); }, TwoChannels<Qvx32f>{dst}, elements(frames),
+                PackedFrom{{src}});
+  }
+  forEachTile<4, 4, 16>(elements(channels), elements(frames), 3, false,
+                        [=](const Tile& t, auto whole) { split24Tile<decltype(whole)::value>(src, t, dst); });
+  return qvxStatOk;
+}
