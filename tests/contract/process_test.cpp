@@ -1,5 +1,5 @@
-// The library as a guest in other people's processes: ones that fork, load and unload it, have no thread to give, or many of
-// their own.
+// The library as a guest in other people's processes: processes that fork, that load and unload it, that can make no thread, or
+// that have many threads of their own.
 #include <gtest/gtest.h>
 #include <omp.h>
 #include <pthread.h>
@@ -24,7 +24,7 @@ using tests::threadsMade;
 
 constexpr int kLength = 1 << 15;
 
-// A divided call; whether it did what it should.
+// Makes a divided call; true if its results are right.
 bool call(int length = kLength) {
   static const std::vector<Qvx64fc> x(kLength, Qvx64fc{-3, 4});
   std::vector<Qvx64fc> y(static_cast<size_t>(length));
@@ -40,6 +40,17 @@ int rounds(int usual) {
   return asked == nullptr ? usual : std::atoi(asked);
 }
 
+// The exit status of a child that ends with 0 if act() is true, and dies if that takes more than `seconds`.
+template <class Act> int statusOfChild(unsigned seconds, Act act) {
+  const pid_t child = fork();
+  if (child == 0) {
+    alarm(seconds);
+    _exit(act() ? 0 : 1);
+  }
+  int status = -1;
+  return waitpid(child, &status, 0) == child ? status : -1;
+}
+
 class Process : public testing::Test {
  protected:
   void SetUp() override { qvxSetNumThreads(2); }
@@ -50,14 +61,7 @@ TEST_F(Process, ForksBetweenCalls) {
   if (tests::isSanitized()) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
   for (int i = 0; i < rounds(300); ++i) {
     ASSERT_TRUE(call());
-    const pid_t child = fork();
-    if (child == 0) {
-      alarm(20);
-      _exit(call() && call() ? 0 : 1);
-    }
-    int status = -1;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    ASSERT_EQ(status, 0) << "round " << i;
+    ASSERT_EQ(statusOfChild(20, [] { return call() && call(); }), 0) << "round " << i;
   }
 }
 
@@ -76,14 +80,7 @@ TEST_F(Process, ForksDuringCalls) {
         &stage);
   });
   for (int i = 0; i < 10000 && stage < 2; ++i) usleep(1000);
-  const pid_t child = fork();
-  if (child == 0) {
-    alarm(5);
-    _exit(call() && call() ? 0 : 1);
-  }
-  int status = -1;
-  EXPECT_EQ(waitpid(child, &status, 0), child);
-  EXPECT_EQ(status, 0);
+  EXPECT_EQ(statusOfChild(5, [] { return call() && call(); }), 0);
   stage = 3;
   caller.join();
 }
@@ -112,24 +109,21 @@ TEST_F(Process, LoadsAndUnloads) {
 // In a child, where no call has made a thread yet.
 TEST_F(Process, WorksAloneWithoutThreads) {
   if (tests::isSanitized()) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
-  const pid_t child = fork();
-  if (child == 0) {
+  const auto worksAlone = [] {
     refuseThreads = true;
     bool isRight = true;
     for (int i = 0; i < 3000; ++i) isRight = isRight && call(5000);
     refuseThreads = false;
     threadsMade = 0;
-    for (int i = 0; i < 3000; ++i) isRight = isRight && call(5000);
+    for (int i = 0; i < 3000; ++i) isRight = isRight && call(5000);  // asks for a thread again after 1000 calls
     sigset_t blocked;
     pthread_sigmask(SIG_SETMASK, nullptr, &blocked);
-    _exit(isRight && threadsMade == 1 && sigismember(&blocked, SIGUSR1) == 0 ? 0 : 1);  // it asks again, in time
-  }
-  int status = -1;
-  ASSERT_EQ(waitpid(child, &status, 0), child);
-  EXPECT_EQ(status, 0);
+    return isRight && threadsMade == 1 && sigismember(&blocked, SIGUSR1) == 0;
+  };
+  EXPECT_EQ(statusOfChild(120, worksAlone), 0);
 }
 
-// The C library takes it from each thread's stack.
+// The C library takes this from the stack of each thread.
 thread_local volatile char threadLocal[128 << 10];
 
 void* callOnSmallStack(void*) { return call() ? nullptr : &threadsMade; }
@@ -150,7 +144,7 @@ TEST_F(Process, HasManyThreadsOfItsOwn) {
   pthread_attr_destroy(&small);
 }
 
-// Workers take no signals: those of the process come to threads of its own.
+// Workers block all signals: the program's own threads take those of the process.
 std::atomic<int> onOtherThread{0};
 thread_local bool isOurs = false;
 
@@ -184,7 +178,7 @@ TEST_F(Process, CallsFromRealTimeThreads) {
   EXPECT_TRUE(isRight);
 }
 
-// Workers have their room beside the program's thread-local data.
+// The stack of a worker has room for its parts in addition to the program's thread-local data.
 TEST_F(Process, HasRoomForThePartsOfWorkers) {
   if (tests::isSanitized()) GTEST_SKIP() << "sanitizers take room of their own";
   threadLocal[0] = 1;
@@ -213,7 +207,7 @@ TEST_F(Process, CallsFromOpenMPRegions) {
   EXPECT_EQ(wrong, 0);
 }
 
-// Each part once, on any number of threads, within parts too.
+// Each part runs once, with any number of threads, in nested calls too.
 TEST_F(Process, RunsEachPartOnce) {
   struct Counts {
     std::atomic<int> of[100] = {};
