@@ -39,6 +39,16 @@ template <class Data> struct Finish {
   }
 };
 
+// A destination that takes outputs and stores samples.
+template <class Dst, class Data> struct Finished {
+  Dst dst;
+  Finish<Data> finish;
+
+  template <size_t N, class W, class... Rest> void put(W v, size_t at, Rest... rest) const {
+    dst.template put<N>(finish(v), at, rest...);
+  }
+};
+
 template <class Data, class P> void storeBlock(const P* work, Data* dst, size_t lanes, Finish<Data> finish) {
   loop(finish, destination(dst), lanes, source(work));
 }
@@ -61,7 +71,7 @@ void lookAhead(const Section<T>& section, const Src* src, Dst* dst, size_t n, La
   const auto* last = parts(src + (n - 2) * (kParts<T> / kParts<Src>));
   for (size_t i = 0; i < 2 * kParts<T>; ++i) parts(x)[i] = static_cast<Lane>(last[i]);
   N y[2];
-  section.run(source(src), destination(dst), n, parts(d), finish, parts(y));
+  section.run(source(src), Finished<Destination<Dst>, Data>{destination(dst), finish}, n, parts(d), parts(y));
   d[0] = sum(difference(product(t[2], x[0]), product(t[4], y[0])), difference(product(t[1], x[1]), product(t[3], y[1])));
   d[1] = difference(product(t[2], x[1]), product(t[4], y[1]));
 }
