@@ -1,8 +1,8 @@
 // The threads of divided calls: a few workers for the whole process, made when a call first asks for them.
 //
-// A call is a number of parts. The caller takes the first; whoever is there takes the next one: the caller, and workers as they
-// wake. So a caller never waits for a thread that has not begun, however busy the machine is, and nothing has to be done if none
-// can be made.
+// A call is cut into parts. The caller takes the first; then it and the workers, as they wake, each take the next one that is
+// left. So a caller never waits for a thread that has not begun, however busy the machine is, and needs no other way where no
+// thread can be made.
 #include <link.h>
 #include <linux/futex.h>
 #include <pthread.h>
@@ -25,15 +25,15 @@ using Part = void (*)(void*, int);
 
 constexpr int kMostWorkers = 63;
 constexpr size_t kStack = size_t{256} << 10;  // a part takes no more than 160 KiB
-// Cycles for which a thread looks before it sleeps: 5 us, as long as waking one takes.
+// Cycles for which a thread spins before it sleeps: 5 us, as long as it takes to wake one.
 constexpr uint64_t kPatience = 15000;
 
-// The call that is being worked at. Its number tells it from the one before: a worker that wakes late must not take the next
-// call's parts for those it was called for.
+// The call in progress. Its number tells it from the one before: a worker that wakes late must not mistake the parts of the next
+// call for those it was woken for.
 struct Team {
   std::atomic<bool> isTaken{false};
   std::atomic<uint32_t> call{0};    // odd while there is work
-  std::atomic<uint32_t> inside{0};  // workers that may look at what follows
+  std::atomic<uint32_t> inside{0};  // workers that may read what follows
   std::atomic<int> next{0};
   std::atomic<uint32_t> left{0};  // parts that are not done
   std::atomic<bool> isAwaited{false};
@@ -42,7 +42,7 @@ struct Team {
   Part part = nullptr;
   void* argument = nullptr;
   int workers = 0;
-  unsigned refused = 0;  // calls since a thread could not be made
+  unsigned refused = 0;  // calls since one in which no thread could be made
 };
 Team team;
 [[gnu::tls_model("initial-exec")]] thread_local bool isWorker = false;  // a lookup that cannot allocate
@@ -70,9 +70,9 @@ void takeParts() {
   for (int i; (i = team.next.fetch_add(1)) < team.count;) takePart(i);
 }
 
-// The caller looks for as long as it has worked, as long as a part of a worker's takes. If it slept sooner, waking it took 25 us
-// on a virtual machine, its workers were asleep by the next call, and a transform of 2^16 points took 150 us, not 98. Then it
-// sleeps: at a real-time priority it would keep those it waits for from the processor.
+// The caller spins for as long as it has worked, which is about how long a worker takes over its part. When it slept sooner,
+// waking it took 25 us on a virtual machine, its workers were asleep by the next call, and a transform of 2^16 points took 150
+// us, not 98. After that it sleeps: at a real-time priority it would keep the workers from the processor.
 void awaitParts(uint64_t worked) {
   const auto areDone = [] { return team.left.load() == 0; };
   if (!comesSoon(areDone, std::max(kPatience, worked))) {
@@ -97,7 +97,7 @@ void* work(void*) {
       }
     }
     seen = call;
-    // From here on the caller does not leave before this worker has: if it has not left already.
+    // From here on the caller waits for this worker, unless it has left already.
     team.inside.fetch_add(1);
     if (team.call.load() == call) takeParts();
     team.inside.fetch_sub(1);
@@ -105,7 +105,7 @@ void* work(void*) {
   return nullptr;
 }
 
-// What the C library takes from the stack of a thread for thread-local data: those of all that is loaded.
+// The bytes that the C library takes from the stack of a thread: the thread-local data of all loaded objects.
 size_t threadLocalBytes() {
   size_t bytes = 0;
   const auto add = [](dl_phdr_info* object, size_t, void* sum) {
@@ -119,7 +119,7 @@ size_t threadLocalBytes() {
   return bytes;
 }
 
-// Makes workers up to `wanted`. They take no signals of the program's. Where none can be made, the next calls do not ask again.
+// Makes workers, up to `wanted` in all, with all signals blocked. After a failure the next 1000 calls do not try again.
 void hire(int wanted) {
   if (team.workers >= wanted || (team.refused > 0 && ++team.refused < 1000)) return;
   team.refused = 0;
@@ -172,6 +172,6 @@ void ownRunParts(int count, void (*part)(void*, int), void* argument) {
   awaitParts(__rdtsc() - start);
   team.call.fetch_add(1);
   const timespec moment = {0, 1000};
-  while (!comesSoon([] { return team.inside.load() == 0; })) nanosleep(&moment, nullptr);  // those that came late leave at once
+  while (!comesSoon([] { return team.inside.load() == 0; })) nanosleep(&moment, nullptr);  // latecomers leave at once
   team.isTaken.store(false);
 }

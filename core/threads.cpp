@@ -12,10 +12,10 @@
 
 namespace {
 
-std::atomic<int> requestedThreads{0};  // 0: as the process would have it
-std::atomic<int> foundThreads{0};      // as it would; 0: not asked yet
+std::atomic<int> requestedThreads{0};  // 0: as many as found
+std::atomic<int> foundThreads{0};      // by the process's own settings; 0: not looked for yet
 
-// A runtime that the program has brought; null if it has none.
+// The OpenMP runtime that the program has loaded; 0 if there is none.
 int ofRuntime(const char* name) {
   const auto function = reinterpret_cast<int (*)()>(dlsym(RTLD_DEFAULT, name));
   return function == nullptr ? 0 : function();
@@ -31,7 +31,7 @@ int ofAffinity() {
   return sched_getaffinity(0, sizeof set, &set) == 0 ? CPU_COUNT(&set) : 1;
 }
 
-// The processors' time that a container may take, in whole processors and a part; 0 if that is not limited.
+// The processor time that a container may take, in processors, a fraction included; 0 if it is not limited.
 double ofQuota() {
   double quota = 0, period = 0;
   std::FILE* file = std::fopen("/sys/fs/cgroup/cpu.max", "re");

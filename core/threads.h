@@ -1,4 +1,4 @@
-// How many threads there are to be, as the process is.
+// What the process says about threads.
 #pragma once
 
 namespace qvx {

@@ -82,7 +82,7 @@ template <class Half> struct To32f {
   template <class V> auto operator()(V codes) const { return Half()(convertLanes<int16_t>(as<int8_t>(codes))); }
 };
 
-// Where no instruction takes halves, a register of codes at a time, for the arithmetic in 16-bit lanes to fill its own.
+// Where no instruction takes halves: a register of codes at a time, so that the arithmetic in 16-bit lanes fills its registers.
 template <class Law> struct To32fThrough16s {
   template <class V> auto operator()(V codes) const {
     const auto values = each(widen<uint16_t>(codes), [](auto v) { return Law()(as<int16_t>(v)); });

@@ -24,7 +24,7 @@ struct FromHalf {
       const W sign = hn::ShiftLeft<16>(wide ^ magnitude);
       const W shifted = hn::ShiftLeft<13>(magnitude);
       const W normal = shifted + same<W>(112U << 23);
-      // Subnormal numbers as integers times 2^-24: no subnormal float ever, which the caller's mode might flush.
+      // Subnormal halves as integers times 2^-24: no float is subnormal on the way, which the caller's mode might flush.
       const W subnormal = as<uint32_t>(hn::ConvertTo(df, as<int32_t>(magnitude)) * hn::Set(df, 0x1p-24F));
       const W quiet = hn::IfThenElseZero(magnitude > same<W>(0x7C00), same<W>(0x00400000));
       const W special = shifted | same<W>(0x7F800000) | quiet;
@@ -50,7 +50,7 @@ template <bool kNearest> struct ToHalf {
       // An overflow ends at infinity, or at the largest number where rounding goes toward zero.
       const W largest = kNearest ? same<W>(0x7C00) : same<W>(0x7BFF);
       const W normal = hn::Min(hn::ShiftRight<13>(rounded) - same<W>(112U << 10), largest);
-      // The ulp of 0.5 is the smallest half: the processor rounds.
+      // The unit in the last place of 0.5 is the smallest half, so the processor does the rounding.
       const W subnormal = as<uint32_t>(as<float>(magnitude) + same<V>(0.5F)) - as<uint32_t>(same<V>(0.5F));
       const W number = same<W>(0x7E00) | (hn::ShiftRight<13>(magnitude) & same<W>(0x03FF));
       W result = hn::IfThenElse(magnitude < same<W>(0x38800000), subnormal, normal);

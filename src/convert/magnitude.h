@@ -1,4 +1,4 @@
-// The magnitudes of complex floats beside a level, in 64-bit lanes, one for each element.
+// The magnitudes of complex floats, to be compared with a level: in 64-bit lanes, one for each element.
 #pragma once
 
 #include <limits>

@@ -5,7 +5,7 @@ using namespace qvx;
 
 namespace {
 
-// Runs `with` on what scales a power, in unsigned lanes that it fills by half at most, and on what is left to do after it is
+// Runs `with` on two functions: one that scales a power in its unsigned lanes, and one that finishes the result once it is
 // saturated to half as many bits.
 template <class Lane, class With> QvxStatus scaledPower(int scaleFactor, const With& with) {
   constexpr int kWidth = 8 * sizeof(Lane);

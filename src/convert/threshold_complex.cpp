@@ -28,8 +28,8 @@ template <Side kSide, class T> struct Replace {
   }
 };
 
-// 32-bit elements as they lie in memory: a whole one is as wide as the double of its square, so the comparison's mask chooses
-// among elements (0.6 of the time of parts that are put together again).
+// 32-bit elements as they lie in memory: an element is as wide as the double of its square, so the mask of the comparison selects
+// whole elements (0.6 of the time of splitting and joining the parts).
 template <Side kSide> struct ReplaceSingle {
   double level;
 
@@ -60,7 +60,8 @@ template <Side kSide> struct Clip {
   }
 
  private:
-  // One division an element. The root of a subnormal element is down to 2^-51: a large level is divided in parts.
+  // One division an element. Divided by the magnitude of a subnormal element a large level overflows, so 2^64 of it multiplies
+  // the element instead.
   template <class W> Pair<W> onLevel(Pair<W> value, W square) const {
     const double large = kSide == Side::kBelow && level > 1 ? 0x1p64 : 1;
     const W factor = same<W>(level / large) / hn::Sqrt(square);
@@ -115,7 +116,7 @@ template <Side kSide> struct ClipSingle {
     if (!isAny(beyond, m.square)) return x;
     using Half = Vec<hn::Half<TagOf<V>>>;
 #if QVXS_AVX512
-    // Factors a bit smaller and a bit larger than the right one give the same results for all but 1 element in 10^4, and NaN for
+    // Factors slightly below and slightly above the true one give the same results for all but 1 element in 10^4, and NaN for
     // zeros and infinities.
     const auto factor = nearQuotientByRoot<Quiet>(same<decltype(m.square)>(level), m.square);
     const auto times = [&](double about) {
@@ -178,9 +179,9 @@ int32_t exactPart(int32_t part, uint32_t square, int level) {
   return part < 0 ? -static_cast<int32_t>(whole) : static_cast<int32_t>(whole);
 }
 
-// Three times the same quotients, each for what the one before leaves in doubt. Floats give them within 2.5 roundings and so the
-// nearest integer for all elements but those whose quotient lies close to the middle of two; a vector with one of those, 1 in 14,
-// goes through doubles (16 elements: 20 cycles on average, 31 through doubles alone).
+// The same quotients in three precisions, each for what the one before leaves in doubt. Floats give them within 2.5 roundings,
+// and so the nearest integer unless a quotient lies close to the middle between two; a vector with such an element, 1 in 14, goes
+// through doubles (16 elements: 20 cycles on average, 31 through doubles alone).
 template <Side kSide> struct Clip16 {
   int level;
   float radius = static_cast<float>(level);
@@ -227,8 +228,8 @@ template <Side kSide> struct Clip16 {
     return hn::Combine(TagOf<V>(), halfInDoubles(hn::UpperHalf(half, x)), halfInDoubles(hn::LowerHalf(half, x)));
   }
 
-  // Off by 2^-35 at most whatever the rounding mode. A quotient nearer than 2^-30 to the middle of two integers, 1 in 10^9, sends
-  // its vector to exactPart.
+  // Quotients in doubles, off by at most 2^-35 in any rounding mode. One nearer than 2^-30 to the middle between two integers, 1
+  // in 10^9, sends its vector to exactPart.
   template <class V> V halfInDoubles(V x) const {
     const auto less1 = squareLess1(x);
     const auto beyond = passes<kSide>(less1, level);

@@ -79,7 +79,7 @@ template <class Arithmetic> struct QuietComplexReciprocal {
     perLevel = hn::GetLane(Arithmetic::quotient(hn::Set(d, 1), hn::Set(d, level)));
   }
 
-  // In zmm registers from end to end: a vector in two halves would be stored for the call of unusual() before every branch to it
+  // In single registers throughout: a vector in two halves would be stored, for the call of unusual(), before each branch to it
   // (8 elements: 20 cycles, not 10).
   template <class V> V operator()(Flag& flag, V x) const {
     const auto value = inDoubles(x);
@@ -102,8 +102,8 @@ template <class Arithmetic> struct QuietComplexReciprocal {
   template <class W> static W squareOf(Pair<W> v) { return Arithmetic::mulAdd(v.lo, v.lo, Arithmetic::product(v.hi, v.hi)); }
   template <class V> static auto conjugate(Pair<V> v) { return inTurn(Pair<V>{v.lo, v.hi ^ same<V>(-0.0F)}); }
 
-  // A vector with special elements, or some below the level. Those take factors a bit smaller and a bit larger than the right
-  // one, which give the same results for all but 1 element in 10^4.
+  // A vector with special elements, or some below the level. For those, factors slightly below and slightly above the true one
+  // give the same results for all but 1 element in 10^4.
   template <class V> [[gnu::noinline]] V unusual(Flag& flag, V x) const {
     const auto value = inDoubles(x);
     const auto square = squareOf(value);
@@ -137,7 +137,7 @@ struct InDoubles {
   }
 };
 
-// From otherWarning elements on, the warning is another: a fixed value of the interface, as those lengths are. Shorter vectors
+// From otherWarning elements on, the warning is another: warnings and lengths are fixed values of the interface. Shorter vectors
 // end in a jump to the loop: 16 elements take 2.4 ns, not 3.8.
 struct Lengths {
   size_t otherWarning;

@@ -8,8 +8,8 @@ namespace qvx::convolution {
 
 namespace {
 
-// Outputs and multiplications (of reals, of 32 bits) from which a call is divided between threads: forking costs up to 5 us, in
-// which one thread does some 600000.
+// Outputs and multiplications (of 32-bit reals) from which a call is divided between threads: forking costs up to 5 us, in which
+// one thread does some 600000 multiplications.
 template <class T> inline constexpr size_t kOutputsWorthTeam = PartsOf<T>::kCount == 1 ? 1601 : 801;
 inline constexpr size_t kProductsWorthTeam = 1 << 21;
 
@@ -53,7 +53,7 @@ template <class V> auto scaledInTurn(const SumShift& shift, Pair<V> sums) {
       Pair<V>{shift(hn::InterleaveLower(d, sums.lo, sums.hi)), shift(hn::InterleaveUpper(d, sums.lo, sums.hi))});
 }
 
-// lanes: of y, all that may be written.
+// lanes: those of y, all of which may be written.
 template <class Products> void integers(const Products& products, size_t lanes, int16_t* y, int64_t places) {
   const auto shift = SumShift::of(places);
   filter<PairSum, AnyOrder<PairSum::kChannels>>(products, (lanes + 1) / 2, [=](auto sums, size_t at, auto... some) {

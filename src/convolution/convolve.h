@@ -1,5 +1,5 @@
-// The convolution of every filter, compiled once: y[n] = p[0] * x[n] + ... + p[taps - 1] * x[n + taps - 1] for n below count. The
-// taps are those of the filter in reverse.
+// The convolution that all filters share, compiled once: y[n] = p[0] * x[n] + ... + p[taps - 1] * x[n + taps - 1] for n below
+// count. p holds the filter's taps in reverse.
 //
 // x has count + taps - 1 elements, and no less than taps - 1 and a vector's. y must not overlap x.
 #pragma once
@@ -11,8 +11,8 @@ namespace qvx::convolution {
 // A vector's elements, for x.
 template <class T> inline constexpr size_t kVectorElements = kVectorBytes / sizeof(T);
 
-// The order in which floats are added up is that of the call they belong to. Within it an output is the same to the bit wherever
-// it stands and whatever count is: a stream may be cut anywhere, into calls of the same kind.
+// A call has one of two orders in which floats are added up. Within an order an output is the same to the bit, whatever its place
+// and count: a stream may be cut anywhere into calls of the same kind.
 enum class Call { kShort, kLong };
 inline constexpr size_t kLongestShortCall = 64;
 constexpr Call callOf(size_t outputs) { return outputs <= kLongestShortCall ? Call::kShort : Call::kLong; }

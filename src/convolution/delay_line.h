@@ -6,7 +6,7 @@
 namespace qvx::convolution {
 
 // The last tapsLen samples, oldest first, from `index` on. A single sample is stored twice, at the index and tapsLen after it,
-// before the index moves on; whatever filters more brings the window to the beginning.
+// and the index moves on; longer calls leave the window at the beginning.
 template <class K> struct DelayLine {
   K* window;
   int index;

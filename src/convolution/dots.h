@@ -1,13 +1,13 @@
-// A few outputs of a filter that drops most of them: each is added up by itself, vectors along its taps, and the lanes of several
-// outputs are folded together. Lanes along the outputs would stay empty, and samples would first have to be dealt among rows:
-// 8 outputs of 64 taps take 0.45 (16 bits) to 0.6 (floats) of that time.
+// A few outputs of a filter that drops most of them: each is a sum of products with vectors along the taps, and the lanes of
+// several outputs are folded together. With lanes along the outputs most would stay empty, and samples would first have to be
+// dealt among rows: 8 outputs of 64 taps take 0.45 (16 bits) to 0.6 (floats) of that time.
 #pragma once
 
 #include "convolution/convolve.h"
 
 namespace qvx::convolution {
 
-// Complex outputs would take as long.
+// Complex outputs gain nothing.
 template <class C> inline constexpr bool kHasDots = PartsOf<C>::kCount == 1;
 
 // The elements that the taps take: whole vectors, with zeros after the last.

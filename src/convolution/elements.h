@@ -1,4 +1,4 @@
-// Samples to the type that a filter computes in, and back.
+// Conversion of samples to the type that a filter computes in, and back.
 #pragma once
 
 #include "convolution/convolve.h"

@@ -1,4 +1,4 @@
-// The sum of products that every filter comes down to: y[n] = p[0] * x[n] + p[1] * x[n + 1] + ... for many n at a time.
+// The sum of products of every filter: y[n] = p[0] * x[n] + p[1] * x[n + 1] + ... for many n at a time.
 //
 // A tile of some vectors of outputs stays in registers while the loop runs over the taps. A vector of the source serves all taps
 // that lie a whole vector apart, each for another vector of outputs, so a load, which nearly always crosses a cache line, feeds
@@ -79,7 +79,7 @@ template <size_t kVectors_, size_t kRows_, size_t kSums_> struct Tile {
 inline constexpr size_t kRegisters = kHasMasks ? 32 : 16;
 template <size_t kChannels> inline constexpr size_t kWidestTile = (kHasMasks ? 16 : 12) / kChannels;
 
-// Integer sums wrap and have no order: every tile is what suits it.
+// Integer sums wrap, and their order does not matter: each width of tile has the shape that suits it.
 template <size_t kChannels> struct AnyOrder {
   static constexpr size_t kWidest = kWidestTile<kChannels>;
 
@@ -134,10 +134,10 @@ template <class K, class T, size_t kRows>
 }
 
 #if QVXS_AVX512
-// One row of taps gives no more products than loads. Half of the shifted vectors come from two registers then, by a permutation,
-// which another unit does: 75 % of the products that are possible, where loads alone leave 47 %. Of four vectors all do: short
-// blocks have just been copied, and a load across two of the copy's stores waits until both are in the cache. 64 outputs of 16
-// taps take 35 ns, 39 with half.
+// One row of taps has as many loads as products. So half of the shifted vectors are permuted from two registers, by another port:
+// 75 % of the possible products, where loads alone leave 47 %. Of four vectors all are permuted: short blocks have just been
+// copied, and a load across two of the copy's stores waits until both are in the cache. 64 outputs of 16 taps take 35 ns, 39 with
+// half of the vectors permuted.
 template <class K, class T>
 [[gnu::always_inline]] inline void addPermuted(typename K::Sum* sum, const auto* x, const auto* p, size_t k, size_t end) {
   constexpr size_t N = kElements<K>;
@@ -187,8 +187,8 @@ template <class K, class T>
   }
 }
 
-// Adds the taps from k on, a multiple of the vector, where at most kRows rows are left, of which the last is short; row(from,
-// end) those that no other row is taken with.
+// Adds the taps from k on, a multiple of the vector, where at most kRows rows are left and the last one is short; row(from, end)
+// adds the taps of a single row.
 template <class K, class T, size_t kRows>
 [[gnu::always_inline]] inline void addRest(typename K::Sum* sum, const auto* x, const auto* p, size_t k, size_t taps, auto row) {
   if constexpr (kRows == 1) {
@@ -204,8 +204,8 @@ template <class K, class T, size_t kRows>
   }
 }
 
-// All taps of one convolution. Wide tiles have the code for what is left of a row once, which saves the compiler a tenth of its
-// time; others wherever it is needed, or short calls take up to 8 % longer.
+// All taps of one convolution. Wide tiles have the code for the rest of a row once, which saves a tenth of the compile time;
+// others have it wherever it is needed, without which short calls take up to 8 % longer.
 template <class K, class T>
 [[gnu::always_inline]] inline void addAll(typename K::Sum* sum, const auto* x, const auto* p, size_t taps) {
   constexpr size_t N = kElements<K>;
@@ -224,7 +224,7 @@ template <class K, class T>
   if constexpr (kOnce) addRow<K, T>(sum, x, p, left, end);
 }
 
-// Outputs from n on of what `products` adds up.
+// A tile of outputs from n on, added up by `products`.
 template <class K, class T, class Products, class Put>
 [[gnu::always_inline]] inline void tile(const Products& products, size_t n, Put put) {
   constexpr size_t N = kElements<K>;
@@ -255,8 +255,8 @@ template <class K> struct OneRow {
   }
 };
 
-// The sum of those of several rows, among which the samples are dealt in turn: tap t meets the sample that is t places after that
-// at `at` of row `row`. The taps stand row by row.
+// The sum of the convolutions of several rows, among which the samples are dealt in turn: tap t meets the sample t places after
+// the one at `at` of row `row`. The taps are stored row by row.
 template <class K, class S> struct DealtRows {
   const S* rows;
   size_t stride;
@@ -275,7 +275,7 @@ template <class K, class S> struct DealtRows {
     for (size_t s = 0; s < std::min(count, taps); ++s) {
       const size_t of = pairedTaps(whole + (s < longer ? 1 : 0));
       const auto* first = reinterpret_cast<const typename K::Element*>(x) + n;
-      // Of few taps, the comparisons for more would take as long as the products.
+      // With few taps, the comparisons for more would take as long as the products.
       if (of <= detail::kElements<K>) detail::addRow<K, T>(sum, first, tap, 0, of);
       else detail::addAll<K, T>(sum, first, tap, of);
       tap += of * K::kChannels;
@@ -291,7 +291,7 @@ template <class K, class S> struct DealtRows {
   }
 };
 
-// The same with so few taps a row that they are better taken in the order of the samples.
+// The same with so few taps a row that it is faster to take them in the order of the samples.
 template <class K> struct DealtTaps {
   using S = typename K::Element;
   const S* rows;
@@ -321,9 +321,8 @@ template <class K> struct DealtTaps {
   }
 };
 
-// put(outputs, n) takes the vector of outputs from n on, for all n to count; put(outputs, n, some) the first some of them. The
-// samples that `products` takes for an output are there for all outputs, and those of a whole vector's if count is less than
-// that.
+// put(outputs, n) takes the vector of outputs from n on, for all n to count; put(outputs, n, some) the first `some` of them. The
+// samples that `products` reads must exist for all outputs, and for a whole vector of them if count is less.
 template <class K, class Order, class Products, class Put>
 [[gnu::flatten]] void filter(const Products& products, size_t count, Put put) {
   constexpr size_t N = detail::kElements<K>;
@@ -339,7 +338,7 @@ template <class K, class Order, class Products, class Put>
   if constexpr (kWidest > 8) tiles(std::integral_constant<size_t, 8>());
   if constexpr (kWidest > 4) tiles(std::integral_constant<size_t, 4>());
   if constexpr (kWidest > 2) tiles(std::integral_constant<size_t, 2>());
-  // Single vectors, of which the last may have outputs that stand already.
+  // Single vectors; the last may overlap outputs that are stored already.
   for (; n < count; n += N) {
     const size_t at = count < N ? 0 : std::min(n, count - N);
     detail::tile<K, decltype(Order::template tile<1>())>(products, at, [&](auto v, size_t) {

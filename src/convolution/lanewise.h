@@ -1,13 +1,13 @@
-// Outputs side by side that need samples and taps of their own each, as those of a ratio like 160 to 147: a vector of samples is
-// loaded for all of them, and each lane picks its own. So nothing is dealt among rows and nothing joined; on the other hand there
-// is a permutation to each multiplication.
+// Neighbouring outputs of which each needs its own samples and taps, as with a ratio like 160 to 147: a vector of samples is
+// loaded for all of them, and each lane picks its own. Nothing has to be dealt among rows or joined again, at the price of a
+// permutation for each multiplication.
 #pragma once
 
 #include "convolution/convolve.h"
 
 namespace qvx::convolution {
 
-// The outputs that begin at `output` of a period: as many as a register has lanes, or as find their samples in one.
+// The outputs from `output` of a period on: as many as a register has lanes, or as find their samples in one register.
 struct LaneGroup {
   int output;
   int count;

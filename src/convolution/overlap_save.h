@@ -1,5 +1,5 @@
-// Long filters on long vectors: products of spectra, block by block. A block holds the samples before its own that its outputs
-// need, and as many of its own as fit after them; what the transform gives for the former is wrapped around and dropped.
+// Long filters on long vectors: products of spectra, block by block (overlap-save). A block holds the old samples that its
+// outputs need, then as many new ones as fit; the results at the old samples are wrapped around, and dropped.
 #pragma once
 
 #include "convolution/elements.h"
@@ -8,8 +8,8 @@
 
 namespace qvx::convolution {
 
-// Samples from which the blocks of a call are divided between threads, each with buffers of its own. A block is done at 1 to 2 ns
-// a sample, and forking costs up to 5 us.
+// Samples from which the blocks of a call are divided between threads, each with buffers of its own. A block takes 1 to 2 ns a
+// sample, forking up to 5 us.
 inline constexpr size_t kBlocksWorthTeam = 32768;
 
 // A filter as the spectrum of its taps, and the buffers of `threads` threads.

@@ -4,9 +4,9 @@ namespace qvx::convolution {
 
 namespace {
 
-// Spectra of one kind stand in slices of a few bins, so that those that are added up for a slice follow one another in memory: of
-// each slice, all spectra; of each spectrum, a vector of real parts and one of imaginary ones in turn. Bin 0 has in its place two
-// real numbers, the first and the last of the spectrum.
+// Spectra are stored by slices of a few bins, so that those that are added up for a slice follow one another in memory: for each
+// slice all spectra, for each spectrum vectors of real and of imaginary parts in turn. In the place of bin 0 are the two real
+// numbers of a spectrum, the first and the last.
 inline constexpr size_t kVectors = kHasMasks ? 4 : kFuses ? 2 : 1;  // of each part in a slice
 
 template <class T> inline constexpr size_t kSlice = 2 * kVectors* kVectorElements<T>;  // numbers

@@ -14,10 +14,9 @@ namespace qvx::convolution {
 // The fewest taps that are partitioned. Of 512 taps, 64 outputs of 32f take 0.5 of the direct way's time, of 384 0.7, of 256 all
 // of it; 512 of 64f take 0.2.
 inline constexpr int kLeastPartitioned = 512;
-// New spectra of all partitions take the time in which 30 to 70 samples are filtered directly: they are made when calls have
-// brought as many since taps or samples changed in another way. Those of another length save less: of calls that partitions of
-// another length, or blocks that begin where the calls do, would serve better, there have to be as many samples as four times the
-// taps.
+// New spectra of all partitions take as long as filtering 30 to 70 samples directly: they are made once calls have brought as
+// many samples since the taps changed or samples took another way. Partitions of another length, or blocks that begin where calls
+// begin, save less: they are made once they would have served four times as many samples as there are taps.
 inline constexpr size_t kWorthSpectra = 64;
 inline constexpr size_t kTapsWorthChange = 4;
 
@@ -52,8 +51,8 @@ template <class T> struct Partitions {
   // After samples that took another way.
   void forgetSamples() { isLive = false, pending = 0; }
 
-  // Whether there are spectra for a call of so many samples that are, or have become, worth the time to make them. window: of the
-  // last tapsLen samples, in the order of the reversed taps.
+  // Whether there are spectra for a call of n samples; makes them where that pays. window: the last tapsLen samples, in the order
+  // of the reversed taps.
   bool serve(size_t n, const T* reversed, const T* window, size_t tapsLen) {
     const size_t best = lengthFor(n, tapsLen);
     const bool fits = isLive && best == length && (filled == 0 || n < length);
@@ -62,10 +61,10 @@ template <class T> struct Partitions {
     enliven(best, reversed, window, tapsLen);
     return true;
   }
-  // Takes the block that is full: the last two end at `end`.
+  // Takes a full block. The last two blocks end at `end`.
   void take(const T* end);
-  // Outputs of the present block into the second half of `block`, of the partitions from `first` on: all of them once the block
-  // is taken, or, before that, its tail.
+  // Adds up the outputs of the present block, by the partitions from `first` on, in the second half of `block`: all of them once
+  // the block is taken, before that its tail.
   void addUp(size_t first);
 
  private:

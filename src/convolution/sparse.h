@@ -1,11 +1,11 @@
-// Filters of few taps, each at a delay of its own: what those with and without feedback share.
+// Filters of few taps, each at a delay of its own: what FIR and recursive ones share.
 #pragma once
 
 #include "frame/map.h"
 
 namespace qvx::convolution {
 
-// The positions in turn, from `least` on.
+// Whether the positions increase from `least` on.
 inline bool increases(const Qvx32s* positions, int count, int least) {
   for (int i = 0; i < count; least = positions[i++] + 1) {
     if (positions[i] < least) return false;
@@ -29,8 +29,8 @@ inline void sumTaps(const Qvx32f* taps, const Qvx32s* positions, int count, cons
   }
 }
 
-// A window of the last `order` samples, oldest first, after n more, of which the last are at `end`; short vectors are in it
-// already.
+// Moves a window of the last `order` samples, oldest first, on by n samples that end at `end`; those of short vectors are already
+// in it.
 inline void moveOn(Qvx32f* window, size_t order, const Qvx32f* end, size_t n) {
   if (n >= order) std::copy_n(end - order, order, window);
   else std::copy_n(window + n, order, window);

@@ -1,4 +1,4 @@
-// Sums of 32 bits, which wrap, on their way to 16-bit results.
+// Sums of 32 bits, which wrap, scaled to 16-bit results.
 #pragma once
 
 #include "frame/map.h"

@@ -30,8 +30,8 @@ template <size_t N, class F> bool forEachWhole(size_t n, F f) {
   return true;
 }
 
-// ---- 2, 4 and 8 columns that make up the rows, and as many rows that make up the columns: whole vectors alone. What takes the
-// lowest bit of an element's place to the highest, for each of the column's bits, leaves a vector for each column.
+// ---- 2, 4 and 8 columns that are whole rows, and as many rows that are whole columns: whole vectors only. Moving the lowest bit
+// of each element's index to the highest place, once for each bit of the number of columns, leaves a vector for each column.
 template <size_t K, class T, size_t N> using Group = Vec<Lanes<T, N>>[K];
 
 // f(N) for the widest vectors that n elements fill; false if they fill none.

@@ -7,12 +7,12 @@ using namespace qvx::correlation;
 
 namespace {
 
-// Lags from which whole numbers need not give exact sums.
+// The number of lags from which whole numbers need not give exact sums.
 template <class C> inline constexpr size_t kAnyWayFrom = 856;
 template <> inline constexpr size_t kAnyWayFrom<Qvx32fc> = 152;
 template <> inline constexpr size_t kAnyWayFrom<Qvx64fc> = 368;
 
-// What becomes of the sums of the first lags of a vector of `length` elements.
+// How the sums of the first lags of a vector of `length` elements are normalised.
 struct Unnormed {
   template <class C> void operator()(C*, size_t, size_t) const {}
 };

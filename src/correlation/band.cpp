@@ -6,10 +6,10 @@ namespace qvx::correlation {
 
 namespace {
 
-// What a product of the direct way costs in the units of a transform's cost, as the vectors are wide.
+// The cost of a product of the direct way in units of a transform's cost, by the width of vectors.
 template <class C> inline constexpr double kProductCost = 0.5 * (kHasMasks ? 1 : kFuses ? 2 : 4) * sizeof(Part<C>) / 4;
 
-// A call that costs less, 5 us, would feel the search for how to cut it otherwise.
+// Below this cost, 5 us, the search for another way to cut a call would be noticeable.
 constexpr double kWorthLongProducts = 1 << 17;
 
 template <class C> bool isFasterDirectly(const Band<C>& band, double cost) {

@@ -25,7 +25,7 @@ template <class C> struct Band {
   bool isOfItself() const { return x == taps && length == count && from == 0 && !isReversed; }
 };
 
-// correlate(band, y) on the outputs whose windows meet x. The others become zeros, but not if there was no memory for these.
+// Calls correlate(band, y) for the outputs whose windows meet x, and sets the others to zero unless memory was out.
 template <class C, class Correlate> QvxStatus whereMeeting(Band<C> band, C* y, Correlate correlate) {
   const auto outputs = static_cast<int64_t>(band.outputs);
   const int64_t first = std::clamp<int64_t>(1 - static_cast<int64_t>(band.count) - band.from, 0, outputs);

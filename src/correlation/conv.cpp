@@ -7,7 +7,7 @@ using namespace qvx::correlation;
 
 namespace {
 
-// Below either of these, whole numbers have to give exact sums.
+// Below either of these lengths, whole numbers have to give exact sums.
 constexpr size_t kLongFrom = 512;
 constexpr size_t kShorterFrom = 64;
 
@@ -42,7 +42,7 @@ template <class C> QvxStatus checkedConvolve(const C* a, int aLen, const C* b, i
   return status == qvxStatOk ? convolve(a, elements(aLen), b, elements(bLen), y) : status;
 }
 
-// The shapes whose second operand goes on before its pointer.
+// The shapes whose second operand begins before its pointer.
 struct Shape {
   int aLen, bLen, outputs, bias;
   bool operator==(const Shape&) const = default;

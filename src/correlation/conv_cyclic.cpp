@@ -1,5 +1,5 @@
-// Cyclic convolution of fixed lengths. The second operand stands in memory twice, one after the other, so that each of its
-// rotations is a load; the first one's elements are what these are multiplied by.
+// Cyclic convolution of fixed lengths. The second operand is stored twice in a row, so that each of its rotations is a load; each
+// is multiplied by an element of the first operand.
 #include "frame/map.h"
 
 using namespace qvx;

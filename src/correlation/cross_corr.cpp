@@ -7,7 +7,7 @@ using namespace qvx::correlation;
 
 namespace {
 
-// The most that less * lags / more may be where whole numbers have to give exact sums.
+// Whole numbers have to give exact sums up to this value of shorter length * lags / longer length.
 template <class C> inline constexpr int kDirectTo = 511;
 template <> inline constexpr int kDirectTo<Qvx32f> = 383;
 template <> inline constexpr int kDirectTo<Qvx32fc> = 255;

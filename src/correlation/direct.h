@@ -13,7 +13,7 @@ using convolution::kVectorElements;
 using convolution::moveVectors;
 
 template <class C> inline constexpr size_t kPadded = 8192 / sizeof(C);
-// Taps that are reversed on the stack.
+// The most taps that are reversed on the stack.
 template <class C> inline constexpr size_t kMostReversed = 4096 / sizeof(C);
 // Outputs at an end that share a copy.
 template <class C> inline constexpr size_t kAtEnd = 4 * kVectorElements<C>;
@@ -24,7 +24,7 @@ template <class C> void zeroVectors(C* out, size_t n) {
   for (size_t i = 0; i < n; i += kVectorElements<C>) store(hn::Zero(d), d, parts(out + i));
 }
 
-// n elements of x from `at` on, with zeros for what lies outside; a vector more of them after it.
+// n elements of x from `at` on, with zeros for those outside x; then up to a vector of zeros.
 template <class C> void copyPadded(const C* x, size_t length, int64_t at, size_t n, C* out) {
   const auto end = static_cast<int64_t>(n);
   const auto first = static_cast<size_t>(std::clamp<int64_t>(-at, 0, end));
@@ -34,7 +34,7 @@ template <class C> void copyPadded(const C* x, size_t length, int64_t at, size_t
   zeroVectors(out + last, n - last + kVectorElements<C>);
 }
 
-// Taps from which a short band leaves out what meets zeros alone. 250 x 250 elements have as many products there as elsewhere.
+// The number of taps from which a short band leaves out the products with zeros: of 250 by 250 elements they are half of all.
 inline constexpr size_t kWorthTrimming = 64;
 
 #if QVXS_AVX512
@@ -46,8 +46,8 @@ template <class C> bool fitsRegisters(const Band<C>& band) {
          band.from + static_cast<int64_t>(band.outputs) <= static_cast<int64_t>(band.length);
 }
 
-// Each tap multiplies x, moved on by as many lanes: two registers have all results. A convolution of 8 x 8 floats takes 6 ns, 47
-// through memory. Returns whether a result may be no number: asking that of the sums takes 1 ns, asking it of the taps 5.
+// Each tap multiplies x shifted by as many lanes; two registers hold all results. A convolution of 8 by 8 floats takes 6 ns, 47
+// through memory. Returns whether a result may be NaN: testing the sums takes 1 ns, testing the taps 5.
 template <class T> bool correlateInRegisters(const Band<T>& band, T* y) {
   constexpr size_t N = kVectorElements<T>;
   constexpr Lanes<T, N> d;
@@ -92,7 +92,7 @@ inline void add(const Qvx64f* more, size_t n, Qvx64f* y) { qvxsAdd_64f_I(more, y
 inline void add(const Qvx32fc* more, size_t n, Qvx32fc* y) { qvxsAdd_32fc_I(more, y, static_cast<int>(n)); }
 inline void add(const Qvx64fc* more, size_t n, Qvx64fc* y) { qvxsAdd_64fc_I(more, y, static_cast<int>(n)); }
 
-// Some outputs, no more than kAtEnd, by pieces of the taps: of those that meet x, as many at a time as the copies have room for.
+// Up to kAtEnd outputs, by pieces of the taps that meet x, as many taps at a time as the copies have room for.
 template <class C> void sumsByPieces(const Band<C>& band, int64_t from, size_t outputs, C* y, Workspace<C>& work) {
   const auto reach = static_cast<int64_t>(outputs) - 1;
   const auto count = static_cast<int64_t>(band.count);
@@ -179,7 +179,7 @@ template <class C, class TapAt> C sumOverX(const Band<C>& band, TapAt tapAt, int
   return sum;
 }
 
-// The zeros around x are no part of the sums: outputs at which one of them has met a tap that is not finite are added up again.
+// The zeros around x are no part of the sums: where one of them has met a tap that is not finite, the output is added up again.
 template <class C> void mendEnds(const Band<C>& band, C* y) {
   const auto outputs = static_cast<int64_t>(band.outputs);
   const auto count = static_cast<int64_t>(band.count);

@@ -7,8 +7,8 @@
 
 namespace qvx::correlation {
 
-// run(a, aLen, b, bLen, sums) gives `outputs` whole numbers, which are rounded to such if they come from a transform; then
-// finish(sums), which may make them others. b may be a.
+// run(a, aLen, b, bLen, sums) gives `outputs` sums, which are rounded to whole numbers if they come from a transform; then
+// finish(sums) may change them. b may be a.
 template <class Run, class Finish>
 QvxStatus inDoubles(const Qvx16s* a, size_t aLen, const Qvx16s* b, size_t bLen, size_t outputs, Qvx16s* y, int scaleFactor,
                     Run run, Finish finish) {

@@ -1,11 +1,11 @@
-// Long products by the FFT, through spectra that stay in the order they come in. The points of a cycle stand in rows of a power
-// of two of them: transforms go down the columns, each result is turned by a twiddle, and transforms along the rows, which the
-// nearest caches hold, end the way. The rows of the product go back in the same steps. Nothing is transposed, the number of rows
-// need not be a power of two, and rows up to 4096 points have records that are ready: a convolution of two vectors of 100000
-// floats takes 0.47 ms, where transforms of 2^18 take 2.2.
+// Long products by the FFT, through spectra that stay in the order in which they are made. The points of a cycle lie in rows
+// whose length is a power of two: transforms down the columns, a twiddle for each result, then transforms along the rows, which
+// fit the near caches. The product goes back by the same steps in reverse. Nothing is transposed, the number of rows need not be
+// a power of two, and rows of up to 4096 points have ready records: a convolution of two vectors of 100000 floats takes 0.47 ms,
+// where transforms of 2^18 take 2.2.
 //
-// Of real numbers, 2P make P points: number p less i times number p + P, turned by exp(-2 pi i p / 4P). What passes the end of 2P
-// comes back with its sign changed.
+// 2P real numbers make P points: number p less i times number p + P, times exp(-2 pi i p / 4P). What passes the end of 2P wraps
+// around with its sign changed.
 #pragma once
 
 #include <limits>
@@ -25,7 +25,8 @@ inline constexpr int kLongestRow = 16;
 inline constexpr int kReadyRow = fft::kHighestReady - 1;
 // Points from which the steps of a product are divided between threads: each of them takes 20 us then.
 inline constexpr size_t kPointsWorthTeam = 32768;
-// Columns whose twiddles are products of one factor for each row and of one for each row and column: so many of either.
+// Columns whose twiddles are the product of two factors: one for the row and the group of kColumns, one for the row and the place
+// in it.
 inline constexpr size_t kColumns = 32;
 
 struct Grid {
@@ -67,7 +68,7 @@ template <class C> class LongProduct {
 
   QvxStatus status() const { return !block_ ? qvxStatNoMem : rows_.status(); }
 
-  // The other operand of the products to come, or, if they are correlations, the conjugate of its spectrum.
+  // Sets the second operand of the following products; isConjugate: they are correlations.
   QvxStatus setTaps(const C* taps, size_t count, bool isConjugate) {
     return transformRows(taps, count, taps_, [=, this](Point* row, size_t) {
       if (isConjugate) fft::conjugate(row, rows_.length());
@@ -75,7 +76,7 @@ template <class C> class LongProduct {
     });
   }
 
-  // y[n] = element first + n of the product of x with the taps. Those before element 0 are the last ones of the cycle.
+  // y[n] = element first + n of the product of x with the taps. Elements before 0 are the last of the cycle.
   QvxStatus multiply(const C* x, size_t n, int64_t first, C* y, size_t outputs) {
     const QvxStatus status = transformRows(x, n, points_, [this](Point* row, size_t thread) { return multiplyRow(row, thread); });
     if (status == qvxStatOk) store(first, y, outputs);
@@ -100,9 +101,9 @@ template <class C> class LongProduct {
   static constexpr size_t L = kVectorBytes / sizeof(T);
   static constexpr Lanes<T, L> d{};
   using V = Vec<Lanes<T, L>>;
-  static constexpr size_t kEnds = 4;  // rows that are in part an operand or result
+  static constexpr size_t kEnds = 4;  // rows of which only a part belongs to an operand or a result
 
-  // A row of the caller's, or one vector for all of it.
+  // A row of the caller's, or a single vector that stands for a whole row.
   template <class E> struct Run {
     E* p;
     size_t places;  // of an index
@@ -118,7 +119,7 @@ template <class C> class LongProduct {
            7 * Carver::kLine;
   }
 
-  // Column j of row k is turned by j (4k + 1) of 4P, or by j k of P.
+  // Column j of row k is multiplied by exp(-2 pi i j (4k + 1) / 4P), or by exp(-2 pi i j k / P).
   void writeTwiddles() const {
     const size_t R = grid_.rows;
     const size_t turns = 4 * grid_.points();
@@ -216,7 +217,7 @@ template <class C> class LongProduct {
     C* end = ends_ + L;
     const T factor = T(1) / static_cast<T>(grid_.rows);
     for (size_t r = 0; r < kHalves * grid_.rows; ++r) {
-      runs[r] = {ends_, 0};  // for what nobody asks for
+      runs[r] = {ends_, 0};  // for outputs that nobody asks for
       factors[r] = factor;
       bool hasEnd = false;
       for (const bool isWrapped : {false, true}) {
@@ -284,7 +285,7 @@ template <class C> class LongProduct {
   T* rowTwiddles_;
 };
 
-// Where the elements of x stand that a band meets, and where its outputs in their product with the taps, reversed or not.
+// Which elements of x a band meets, and where in their product with the taps, reversed or not, its outputs lie.
 template <class C> struct Section {
   size_t from;
   size_t count;
@@ -311,7 +312,7 @@ struct LongCut {
   double cost = std::numeric_limits<double>::infinity();  // in the units of Cut
 };
 
-// What a row of a transform takes beside its points, and a call of the other way beside its transforms.
+// The fixed cost of a row of a transform, and of a call of the other way.
 template <class C> inline constexpr double kRowCost = 2400.0 / sizeof(C);
 template <class C> inline constexpr double kCallCost = 80000.0 / sizeof(C);
 
@@ -337,7 +338,7 @@ template <class C> LongCut longCutOf(const Band<C>& band) {
   return best;
 }
 
-// Cut::cost is what decides on the direct way, of which shorter calls have the choice; this is what longer ones take.
+// Cut::cost decides for or against the direct way, a choice of shorter calls; this compares the time of longer ones.
 template <class C> bool isFasterThan(const LongCut& a, const Band<C>& band, const Cut& b) {
   const double transforms = transformsOf(band, b.steps) * (b.order + 1);
   return a.cost < static_cast<double>(b.length) * (transforms + recordCost<C>(b.order)) + kCallCost<C>;

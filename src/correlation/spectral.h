@@ -26,20 +26,20 @@ struct Cut {
   double cost;  // in units of a transform of one point
 };
 
-// What a twiddle costs that a call has to make.
+// The cost of a twiddle that a call has to compute.
 template <class C> inline constexpr double kTwiddleCost = 400.0 / sizeof(C);
 
-// For spectra of the taps and of so many windows, and the way back of each. One spectrum is enough for taps with themselves.
+// One for the taps, and two for each window: there and back. Taps with themselves need one spectrum only.
 template <class C> double transformsOf(const Band<C>& band, size_t steps) {
   return band.isOfItself() && steps == 1 ? 2 : 1 + 2 * static_cast<double>(steps);
 }
 
-// For a point of a transform whose record is not ready.
+// The cost of a point's share of the record, where none is ready.
 template <class C> double recordCost(int order) {
   return order <= fft::kHighestReady - (PartsOf<C>::kCount == 1 ? 0 : 1) ? 0 : kTwiddleCost<C>;
 }
 
-// less: what each transform holds beside what it takes anew.
+// less: elements of each transform that it shares with its neighbour.
 template <class C> Cut cutBy(const Band<C>& band, size_t n, size_t less) {
   Cut best = {0, 0, 0, 0, 0};
   for (int order = 6; order < 30; ++order) {
@@ -138,7 +138,7 @@ template <class C> QvxStatus overlapSave(const Band<C>& band, const Cut& cut, C*
     for (size_t at = from * cut.fresh; at < end; at += cut.fresh) {
       worst = std::min(worst, windowSpectrum(spectra, band, band.from + static_cast<int64_t>(at), block, thread));
       fft::multiply(taps, block, spectra.length());
-      // The wrapped end of a block lies where the next one comes to be.
+      // The wrapped end of a block is overwritten by the next block.
       const bool hasRoom = end - at >= cut.length;
       worst = std::min(worst, spectra.inverse(block, hasRoom ? y + at : block, thread));
       if (!hasRoom) std::copy_n(block, std::min(cut.fresh, end - at), y + at);

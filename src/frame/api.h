@@ -1,5 +1,5 @@
-// The public headers as the library itself sees them: every export is called by its public name and defined under the
-// variant's own symbol (u8_qvxsAdd_32f), so that calls between families never pass an entry stub.
+// The public headers as the library itself sees them: an export is called by its public name, but its symbol has the variant's
+// prefix (u8_qvxsAdd_32f), so calls between families bypass the entry stubs.
 #pragma once
 
 #define QVXS_QUOTE_(x) #x

@@ -7,8 +7,8 @@
 
 namespace qvx {
 
-// How a function tests its length. Most take a plain int: pointers are tested first, then lengths below 1 are refused.
-// Tested before the pointers.
+// How a function tests its length. Most take a plain int: pointers are tested first, then lengths below 1 are refused. The length
+// is tested before the pointers.
 struct LengthFirst {
   int count;
 };

@@ -5,7 +5,7 @@
 
 namespace qvx {
 
-// Interleaved parts, as a Pair of the real and the imaginary ones. kPastEnd: the real part of what stands past the end.
+// Interleaved parts, loaded as a Pair of real and imaginary parts. kPastEnd: the real part of the elements past the end.
 template <class T, int kPastEnd = 0> struct Deinterleaved {
   using Lane = T;
   const T* p;
@@ -27,9 +27,9 @@ template <class T, int kPastEnd = 0> struct Deinterleaved {
 template <class T> Deinterleaved<Part<T>> deinterleaved(const T* p) { return {parts(p)}; }
 template <class T> Deinterleaved<Part<T>, 1> deinterleavedOnesPastEnd(const T* p) { return {parts(p)}; }
 
-// The same as a Complex, N of each part, whose elements stand in another order: that costs a shuffle within blocks of 128 bits,
-// a third of one across them. For reductions, and for ComplexDestination, which puts them back. kPastEnd: the real part of what
-// stands past the end.
+// The same as a Complex, N of each part, with the elements in another order: a shuffle within blocks of 128 bits costs a third of
+// one across them. For reductions, and for ComplexDestination, which restores the order. kPastEnd: the real part of the elements
+// past the end.
 template <class T, int kPastEnd = 0> struct ByParts {
   using Lane = Part<T>;
   const T* p;
@@ -43,7 +43,7 @@ template <class T, int kPastEnd = 0> struct ByParts {
     const size_t low = std::min(2 * n, N);
     const auto first = loadFirst(d, parts(p + at), low);
     auto z = evenAndOdd(first, 2 * n == low ? hn::Zero(d) : loadFirst(d, parts(p + at) + low, 2 * n - low));
-    // Within one block, which a partial vector is, the order is that of the elements.
+    // A partial vector is one block, within which the elements stay in order.
     if constexpr (kPastEnd != 0) z.re = hn::IfThenElse(hn::FirstN(d, n), z.re, hn::Set(d, Lane{kPastEnd}));
     return z;
   }
@@ -72,7 +72,7 @@ template <class T> struct ComplexDestination {
   ComplexDestination from(size_t at) const { return {p + at}; }
 };
 
-// A Pair of real and imaginary parts to two vectors.
+// Stores a Pair of real and imaginary parts to two vectors.
 template <class T> struct SplitDestination {
   using Lane = T;
   static constexpr size_t kParts = 1;
@@ -91,7 +91,7 @@ template <class T> struct SplitDestination {
   SplitDestination from(size_t at) const { return {re + at, im + at}; }
 };
 
-// A Pair of real and imaginary parts, interleaved.
+// Stores a Pair of real and imaginary parts interleaved.
 template <class T> struct InterleavedDestination {
   using Lane = T;
   static constexpr size_t kParts = 1;

@@ -1,11 +1,12 @@
-// Steps over what has no sources, or several ends, and so no place in the loop engine.
+// A plain loop over vectors, for functions that the loop engine does not fit: those without sources, and those that work from
+// both ends.
 #pragma once
 
 #include <cstddef>
 
 namespace qvx {
 
-// step(at) for every N of n elements, then step(at, rest) for what is left of them.
+// step(at) for every N of n elements, then step(at, rest) for the rest.
 template <size_t N, class Step> [[gnu::always_inline]] inline void eachVector(size_t n, Step step) {
   size_t at = 0;
   for (; at + N <= n; at += N) step(at);

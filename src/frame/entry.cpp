@@ -3,13 +3,13 @@
 #define QUOTE(x) QUOTE_(x)
 #define VARIANT QUOTE(QVXS_VARIANT)
 
-// The identity opens the section of the slots. It is laid down in assembler, as they are, because only the order of assembler
-// statements is kept by every compiler.
+// The identity is the first thing in the section of the slots. Both are written in assembler, since every compiler keeps the
+// order of assembler statements.
 __asm__(
     ".pushsection .data.rel.local.slots,\"aw\"\n.p2align 3\n"
     ".hidden qvxsVersionRecord\n.globl qvxsVersionRecord\n.type qvxsVersionRecord,@object\n"
     "qvxsVersionRecord:\n"
-    "  .long 7, 0, 205, 1058\n"  // the text's 58 and this 1058 are both as they should be
+    "  .long 7, 0, 205, 1058\n"  // 1058 here and 58 in the text are both right: fixed values of the interface
     "  .ascii \"" VARIANT
     "\\0\\0\"\n  .zero 4\n"
     "  .quad qvxsVersionFile, qvxsVersionText, qvxsVersionDate\n"

@@ -5,7 +5,7 @@
 
 namespace qvx {
 
-// Lanes as wide as the element, but the widest element has a lane for each part.
+// A lane as wide as the element, or as its parts where the element is wider than any lane.
 template <class T>
 using Word = std::conditional_t<(sizeof(T) > 8), Part<T>, hwy::UnsignedFromSize<std::min<size_t>(sizeof(T), 8)>>;
 template <class T> inline constexpr size_t kWords = sizeof(T) / sizeof(Word<T>);
@@ -18,7 +18,7 @@ template <size_t kWordsOfElement, class V> V flipped(V v) {
   else return hn::Reverse2(TagOf<V>(), reversed(v));
 }
 
-// The first n elements, which fill no vector of 16 bytes, flipped to the front of it.
+// The first n elements of a vector that they do not fill, flipped, at its front.
 template <size_t kElementBytes, class V> V flippedFirst(V v, size_t n) {
   const Lanes<uint8_t, 16> d;
   const auto last = hn::Set(d, static_cast<uint8_t>((n - 1) * kElementBytes));

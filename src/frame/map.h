@@ -52,7 +52,7 @@ template <class T> struct Destination {
 
   template <size_t N, class V> void put(V v, size_t at) const { store(v, Lanes<Lane, N>(), p + at); }
   template <size_t N, class V> void put(V v, size_t at, size_t n) const { storeFirst(v, Lanes<Lane, N>(), p + at, n); }
-  // Fetches the lines of N lanes. They may lie past the vector's end: that never faults.
+  // Prefetches the cache lines of N lanes. They may lie past the vector's end: a prefetch never faults.
   template <size_t N> void fetch(size_t at) const {
     for (size_t lane = 0; lane < N; lane += 64 / sizeof(Lane)) __builtin_prefetch(p + at + lane);
   }
@@ -95,8 +95,8 @@ template <class T> struct OnesPastEnd {
 template <class T> OnesPastEnd(const T*) -> OnesPastEnd<T>;
 template <class T> OnesPastEnd(T*) -> OnesPastEnd<T>;
 
-// For reductions: lanes past the end hold a neutral element. It is passed by address, since a float beside a pointer would travel
-// through the stack.
+// For reductions: lanes past the end hold a neutral element. It is passed by address, since a struct of a pointer and a float
+// would travel through the stack.
 template <class T> struct PaddedWith {
   using Lane = T;
   const T* padding;
@@ -196,8 +196,8 @@ class Flag {
   uint64_t lanes_ = 0;
 };
 
-// For kernels with two kinds of warning, of which the first element decides; they declare it as their type `Watch`. Both ends of
-// a vector are computed before the middle, so elements are compared by index.
+// For kernels with two kinds of warning: the first element that has one decides. They declare this class as their type `Watch`.
+// Both ends of a vector are computed before its middle, so elements are compared by index.
 class FirstFlag {
  public:
   // kind(lane) is the warning for a raised lane.
@@ -265,8 +265,8 @@ template <class Src> constexpr size_t bytesRead() {
 // 16-bit sums of 4096 elements take half the time that way; below 8 vectors there is nothing to gain.
 inline constexpr size_t kWorthAligning = 8;
 
-// Of vectors larger than the first-level cache together, the destination is fetched ahead: the processor asks the next cache for
-// one line after the other as it stores them. Sums of 8192 floats take 0.92 of the time; within the cache 1.2 times as long.
+// Where all vectors together exceed the first-level cache, the destination is prefetched: stores alone ask the next cache for one
+// line after another. Sums of 8192 floats take 0.92 of the time; within the cache they would take 1.2 times as long.
 inline constexpr size_t kFirstLevel = size_t{48} << 10;
 
 // The first and the last vector may overlap their neighbours. They are computed before anything is stored, and stored after
@@ -352,7 +352,7 @@ QvxStatus loop(Kernel kernel, Dst dst, size_t n, Src... src) {
   return loopOf<kVectorBytes / kWidest, kWidest>(kernel, dst, n, src...);
 }
 
-// Lanes of one type to lanes of another, by value; floats that do not fit round in the processor's mode.
+// Converts lanes to another type by value; what a float cannot hold is rounded in the processor's mode.
 template <class To, class V> auto convertLanes(V v) {
   using From = LaneOf<V>;
   const hn::Rebind<To, TagOf<V>> d;

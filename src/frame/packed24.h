@@ -16,8 +16,8 @@ template <class V> struct Quad { V a, b, c, d; };
 
 template <class V, class F> auto each(Quad<V> q, F f) { return Quad<decltype(f(q.a))>{f(q.a), f(q.b), f(q.c), f(q.d)}; }
 
-// f of 0 to 3, for the registers of a quad from memory; and f with each register and its number, for those to memory. Written
-// out, since a loop over them would leave them in memory.
+// quadOf makes a quad of f(0) to f(3); forEach calls f with each register of a quad and its number. Written out, since a loop
+// would keep the registers in memory.
 template <class F> auto quadOf(F f) { return Quad<decltype(f(0))>{f(0), f(1), f(2), f(3)}; }
 template <class V, class F> void forEach(Quad<V> q, F f) {
   f(q.a, size_t{0});
@@ -26,7 +26,7 @@ template <class V, class F> void forEach(Quad<V> q, F f) {
   f(q.d, size_t{3});
 }
 
-// How many of n elements, of which a register holds N, fall to register k.
+// How many of n elements register k holds, if a register has N.
 template <size_t N> size_t shareOf(size_t k, size_t n) { return std::min(n - std::min(n, k * N), N); }
 
 // The other side of a conversion: elements of 32 bits.
@@ -64,8 +64,8 @@ inline constexpr int8_t kSigned24[16] = {-1, 0, 1, 2, -1, 3, 4, 5, -1, 6, 7, 8, 
 inline constexpr int8_t kReversed24[16] = {2, 1, 0, 5, 4, 3, 8, 7, 6, 11, 10, 9, -1, -1, -1, -1};
 inline constexpr int8_t kPacked24[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, -1, -1, -1, -1};
 
-// For a register of four blocks: every block gets three dwords, and one to spare, of packed bytes from dword 0 or dword 4 on; and
-// back, where packed register k of three is made of two neighbours of four.
+// For a register of four blocks. kSpread24: each block gets three dwords of packed bytes, from dword 0 or dword 4 on, and one to
+// spare. The way back: packed register k of three is made of two neighbours among four.
 alignas(64) inline constexpr int32_t kSpread24[2][16] = {{0, 1, 2, 3, 3, 4, 5, 6, 6, 7, 8, 9, 9, 10, 11, 12},
                                                          {4, 5, 6, 7, 7, 8, 9, 10, 10, 11, 12, 13, 13, 14, 15, 15}};
 alignas(64) inline constexpr int32_t kDense24[3][16] = {{0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 16, 17, 18, 20},
@@ -74,7 +74,7 @@ alignas(64) inline constexpr int32_t kDense24[3][16] = {{0, 1, 2, 4, 5, 6, 8, 9,
 
 }  // namespace detail
 
-// Four 32-bit lanes of every block to 12 bytes and four of 0, and twelve bytes to signed lanes.
+// packed24: the four 32-bit lanes of each block to 12 bytes and 4 zeros. unpacked24: 12 bytes to four signed lanes.
 template <class V> auto packed24(V v) {
   const auto bytes = as<int8_t>(v);
   return as<uint8_t>(hn::TableLookupBytesOr0(bytes, hn::LoadDup128(TagOf<decltype(bytes)>(), detail::kPacked24)));
@@ -84,7 +84,7 @@ template <class V> auto unpacked24(V bytes) {
   return hn::ShiftRight<8>(as<int32_t>(hn::TableLookupBytesOr0(bytes, as<uint8_t>(order))));
 }
 
-// What stands in a block of 16 bytes: four 32-bit lanes, or twelve packed bytes with those of every element in reverse.
+// What a block of 16 bytes holds: four 32-bit lanes, or twelve packed bytes, those of each element in reverse.
 enum class Block24 { kLanes, kReversed };
 
 template <class T, Block24 kBlock = Block24::kLanes> struct From24 {
@@ -95,7 +95,7 @@ template <class T, Block24 kBlock = Block24::kLanes> struct From24 {
     const uint8_t* bytes = p + 3 * at;
 #if QVXS_AVX512
     if constexpr (N == 64) {
-      // Whole registers, 48 bytes apart, of which the last begins early enough not to end past the elements.
+      // Loads whole registers 48 bytes apart; the last begins early enough not to end past the elements.
       const Lanes<int32_t, N / 4> d;
       return quadOf([bytes, d](size_t k) {
         const auto packed = as<int32_t>(load(Lanes<uint8_t, N>(), bytes + (k < 3 ? 48 * k : 128)));
@@ -183,7 +183,7 @@ template <class T, Block24 kBlock = Block24::kLanes> struct To24 {
   template <class V> static void one(V blocks, uint8_t* bytes) {
     const Lanes<uint8_t, 16> half;
     if constexpr (sizeof(blocks.raw) == 32) {
-      store(hn::LowerHalf(half, blocks), half, bytes);  // four bytes too many, which the next store overwrites
+      store(hn::LowerHalf(half, blocks), half, bytes);  // four bytes more than the block has; the next store overwrites them
       storeFirst(hn::UpperHalf(half, blocks), half, bytes + 12, 12);
     } else {
       storeFirst(blocks, half, bytes, 12);

@@ -20,9 +20,9 @@ template <class T> struct Streamed : Destination<T> {
   template <size_t N> void fetch(size_t at) const = delete;  // what is streamed is not read
 };
 
-// A fit whose results are streamed where there are more than the last cache holds (isStreamed), and go elsewhere than the
-// sources: an ordinary store reads the destination first. Sums of 64 MiB of floats each take 0.75 of the time, products with a
-// constant 0.65.
+// A fit whose results are streamed where they exceed the last-level cache (isStreamed) and the destination is none of the
+// sources: an ordinary store reads its line first. Sums of vectors of 64 MiB take 0.75 of the time, products with a constant
+// 0.65.
 struct PastCaches {
   template <class Op, class T, class... Src> QvxStatus run(Op op, Destination<T> dst, size_t n, Src... src) const {
     constexpr size_t kFar = (size_t{1} << 20) / sizeof(Part<T>);  // from where on isStreamed asks the system

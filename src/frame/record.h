@@ -25,12 +25,12 @@ template <class T> T* alignedUp(T* p, int64_t alignment) {
   return reinterpret_cast<T*>((reinterpret_cast<intptr_t>(p) + alignment - 1) & -alignment);
 }
 
-// Places regions one after another in a block. The first begins at a multiple of kRecordAlignment: the sizes that are told count
-// on no more.
+// Places regions one after another in a block. The first begins at a multiple of kRecordAlignment: the reported sizes have room
+// for no more.
 class Carver {
  public:
   static constexpr int64_t kRecordAlignment = 32;
-  static constexpr int64_t kLine = 64;  // of the caches, and the widest vector
+  static constexpr int64_t kLine = 64;  // a cache line, and the widest vector
 
   explicit Carver(void* block, int64_t alignment = kRecordAlignment) : at_(alignedUp(static_cast<uint8_t*>(block), alignment)) {}
 
@@ -40,26 +40,26 @@ class Carver {
     return region;
   }
   template <class T> T* takeLines(int64_t count) { return take<T, kLine>(count); }
-  // The next region, whose length its user will know.
+  // The next region, whose length is left to its user.
   uint8_t* rest() const { return at_; }
 
  private:
   uint8_t* at_;
 };
 
-// A record that may be used: there, and of one of these identities.
+// Tests that a record may be used: that there is one, and that it has one of these identities.
 template <class Record, class... Id> QvxStatus checkRecord(const Record* record, Id... ids) {
   if (isNull(record)) return qvxStatNullPtr;
   return ((record->magic == static_cast<uint32_t>(ids)) || ...) ? qvxStatOk : qvxStatContextMismatch;
 }
 
-// Tells a size. One that no int holds is told modulo 2^32.
+// Reports a size; one that no int holds is reported modulo 2^32.
 inline QvxStatus reportBytes(int64_t bytes, int* pSize) {
   *pSize = static_cast<int>(static_cast<uint32_t>(bytes));
   return qvxStatOk;
 }
 
-// A block that goes back unless somebody keeps it.
+// A block of memory that is released unless it is kept.
 class Block {
  public:
   explicit Block(int64_t bytes) : p_(bytes > 0 ? qvxMalloc(bytes) : nullptr) {}
@@ -77,7 +77,7 @@ class Block {
   void* p_;
 };
 
-// Working memory of one call: the caller's, or where it brings none, a block for the time of the call.
+// Working memory of one call: the caller's, or a block for the time of the call where the caller brings none.
 class Scratch {
  public:
   Scratch(Qvx8u* callers, int64_t bytes) : own_(isNull(callers) ? bytes : 0), at_(isNull(callers) ? own_.get() : callers) {}
@@ -102,8 +102,8 @@ template <class Record, class Build> QvxStatus initRecord(Record** ppRecord, voi
   return status;
 }
 
-// In a block of its own. init(ppRecord, block) is what serves callers with a block; one that refuses after it has stored the
-// pointer leaves null, for the block is released.
+// In a block of its own. init(ppRecord, block) is the function for callers who bring a block; if it refuses after it has stored
+// the pointer, the pointer becomes null, since the block is released.
 template <class Record, class Init> QvxStatus allocateRecord(Record** ppRecord, int64_t bytes, Init init) {
   Block block(bytes > std::numeric_limits<int>::max() ? 0 : bytes);
   if (!block) return qvxStatNoMem;

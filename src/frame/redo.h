@@ -7,7 +7,7 @@
 
 namespace qvx {
 
-// `result` with f(in...) in the lanes whose bit is set.
+// `result`, with f(in...) in the lanes whose bit is set.
 template <class F, class V, class... In> [[gnu::noinline]] V redone(uint64_t lanes, V result, F f, In... in) {
   const TagOf<V> d;
   using T = LaneOf<V>;

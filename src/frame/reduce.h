@@ -97,7 +97,7 @@ template <class R, size_t kFrom, size_t kCount, class A> A treeJoined(const A* a
   else return R::join(treeJoined<R, kFrom, kCount / 2>(a), treeJoined<R, kFrom + kCount / 2, kCount - kCount / 2>(a));
 }
 
-// n from 1 to N, in fewer lanes where they hold them: each halving saves a step of the total.
+// n from 1 to N, in as few lanes as hold them: each halving saves a step of the total.
 template <size_t N, class R, class... Src> [[gnu::always_inline]] inline auto reducedShort(R r, size_t n, Src... src) {
   constexpr size_t kNarrowest = R::kRepeats ? 16 : kVectorBytes / 2;
   if constexpr (N * std::max({sizeof(typename R::Inner), sizeof(typename Src::Lane)...}) > kNarrowest) {
@@ -115,8 +115,8 @@ template <size_t N, class R, class... Src> [[gnu::flatten]] auto reducedSlice(R 
   const auto added = [&](auto a, size_t i) { return r.add(a, src.template get<N>(i)...); };
   if (n < N) [[unlikely]] {
     constexpr size_t kNarrowest = 16 / std::max({sizeof(typename R::Inner), sizeof(typename Src::Lane)...});
-    // Of elements of at most 16 bits, whose totals have the most steps: norms of up to 15 take 0.76 of the time. With wider ones
-    // the test takes as long as a step.
+    // For elements of at most 16 bits, whose totals take the most steps: norms of up to 15 elements take 0.76 of the time. For
+    // wider elements the test takes as long as a step.
     if constexpr (2 * N >= kVectorBytes) return reducedShort<N>(r, n, src...);
     else if constexpr (R::kRepeats && N > kNarrowest) return reducedSlice<N / 2>(r, n, src...);
     else return r.total(r.start(src.template get<N>(0, n)...));
@@ -194,7 +194,7 @@ template <class R, class D, class Finish, class... Src>
   return detail::reducedSliceTo<N, R>(result, finish, n, src...);
 }
 
-// The lanes that stand for one element.
+// The lanes of one element.
 template <class Src> inline constexpr size_t kLanesEach = 1;
 template <class T> inline constexpr size_t kLanesEach<const T*> = PartsOf<T>::kCount;
 

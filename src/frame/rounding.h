@@ -84,8 +84,8 @@ class SilentScope {
   uint32_t saved_;
 };
 
-// Until the end of the scope, long doubles are rounded to nearest and to all of their digits: they have a control word of their
-// own, which a caller's rounding mode is also set in.
+// Until the end of the scope, long doubles are rounded to nearest and to all of their digits: their arithmetic has a control word
+// of its own, and a caller that sets a rounding mode sets it there too.
 class WiderScope {
  public:
   WiderScope() {

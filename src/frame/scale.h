@@ -255,7 +255,7 @@ struct ShiftHigh {
   }
 };
 
-// 64-bit products back to 32-bit lanes, saturated.
+// Saturates 64-bit products to 32-bit lanes.
 template <class V> auto narrow(EvenOdd<V> v) {
 #if QVXS_AVX512
   if constexpr (sizeof(v.even.raw) == 64) {

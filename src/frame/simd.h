@@ -13,7 +13,7 @@
 #include <cstring>
 #include <type_traits>
 
-// What a variant's instructions are, for the preprocessor.
+// The variant's instructions, for the preprocessor.
 #define QVXS_AVX512 (HWY_TARGET == HWY_AVX3)
 #define QVXS_AVX2 (HWY_TARGET <= HWY_AVX2)  // or more
 
@@ -181,8 +181,8 @@ inline __m128i saturatedTo32(__m128i v) { return _mm_cvtsepi64_epi32(v); }
 inline __m128i saturatedTo32(__m256i v) { return _mm256_cvtsepi64_epi32(v); }
 inline __m256i saturatedTo32(__m512i v) { return _mm512_cvtsepi64_epi32(v); }
 
-// Instructions that take a rounding mode or two registers of table exist, or are as fast, for the widest register. Narrower ones
-// go through it, which costs nothing: what their upper lanes give is dropped.
+// Instructions that take a rounding mode or a table of two registers exist for the widest register, or are as fast there.
+// Narrower vectors go through it, which costs nothing: the results of the upper lanes are dropped.
 inline __m512 whole(__m128 v) { return _mm512_castps128_ps512(v); }
 inline __m512 whole(__m256 v) { return _mm512_castps256_ps512(v); }
 inline __m512 whole(__m512 v) { return v; }
@@ -192,8 +192,8 @@ inline __m512d whole(__m512d v) { return v; }
 inline __m512i whole(__m128i v) { return _mm512_castsi128_si512(v); }
 inline __m512i whole(__m256i v) { return _mm512_castsi256_si512(v); }
 inline __m512i whole(__m512i v) { return v; }
-// Between a narrow part and its masked store GCC must not see that it is one: the two become one instruction then, a masked
-// extract to memory, which faults on lanes that are not stored.
+// Hides from GCC that a vector is part of a wider one: it would merge the extraction with a masked store into one instruction,
+// which faults on lanes that are not stored.
 template <class R> void separate(R& part) { __asm__("" : "+v"(part)); }
 inline void partOf(__m512 v, __m128& part) {
   part = _mm512_castps512_ps128(v);
@@ -268,7 +268,7 @@ template <class D> void store(Vec<D> v, D d, hn::TFromD<D>* p) { hn::StoreU(v, d
 
 namespace detail {
 
-// Bytes of a register without a mask: halves, down to 16 bytes, and those in words.
+// Loads part of a register without a mask: by halves down to 16 bytes, and these by words.
 template <size_t kBytes> auto loadPieces(const uint8_t* p, size_t bytes) {
   const Lanes<uint8_t, kBytes> d;
   if constexpr (kBytes <= 16) {
@@ -294,8 +294,9 @@ template <size_t kBytes> void storePieces(Vec<Lanes<uint8_t, kBytes>> v, uint8_t
 // Whether masks select what is loaded or stored.
 template <class T, size_t kBytes> inline constexpr bool kMasked = kHasMasks || (kBytes == 32 && sizeof(T) >= 4);
 
-// Lanes that a mask leaves out do not fault, but where their page is not mapped, or was never touched, finding that out takes the
-// processor 150 ns; where it is, 8 ns. Pieces take 2 to 4 ns; they stand in line, because a call would give each kernel a frame.
+// Lanes that a mask leaves out do not fault, but the processor takes 150 ns to find that out where their page is not mapped or
+// was never touched, 8 ns where it is. Pieces take 2 to 4 ns; they are inlined, because a call would give each kernel a stack
+// frame.
 template <size_t kBytes> bool reachesNextPage(const void* p) {
   constexpr uintptr_t kPage = 4096;
   return reinterpret_cast<uintptr_t>(p) % kPage > kPage - kBytes;
@@ -342,7 +343,7 @@ template <class D, class M> uint64_t maskBits([[maybe_unused]] D d, M mask) {
 #endif
 }
 
-// A mask of lanes as that of as many lanes of another width.
+// A mask for lanes of one width as a mask for as many lanes of another.
 template <class To, class From, class M> auto maskAs([[maybe_unused]] To d, [[maybe_unused]] From from, M mask) {
 #if QVXS_AVX512
   return hn::Mask<To>{static_cast<decltype(hn::Mask<To>::raw)>(mask.raw)};
@@ -390,8 +391,8 @@ template <class V> auto upperHalf(V v) {
   else return Vec<hn::Half<TagOf<V>>>{_mm_srli_si128(v.raw, kLanesOf<V> * sizeof(LaneOf<V>) / 2)};
 }
 
-// v where it is greater (less) than held, else held: also where one of them is a NaN, and where both are zeros. That is what
-// the processor's own instruction gives for this order of operands.
+// v where it is greater (less) than held; else held, also where one of them is a NaN and where both are zeros. The processor's
+// own instruction gives that for this order of operands.
 template <class V> V greater(V v, V held) {
   if constexpr (!QVXS_AVX2 && std::is_same_v<LaneOf<V>, uint16_t>) return hn::SaturatedSub(v, held) + held;  // not five
   else return hn::Max(v, held);
@@ -412,8 +413,8 @@ template <class V> V neither(V a, V b, V among) {
 #endif
 }
 
-// Keeps v in a register. Compilers load an operand anew for every use; where there are two uses of two sources, those loads
-// bound the loop (16-bit scaled sums take 0.8 of the time with it).
+// Keeps v in a register. Compilers load an operand again for each use; with two uses of two sources, those loads bound the loop
+// (16-bit scaled sums take 0.8 of the time with it).
 template <class V> V held(V v) {
   __asm__("" : "+v"(v.raw));
   return v;
@@ -452,7 +453,7 @@ template <class V> auto pairProducts(V a, V b) {
 }
 
 // The 64-bit products of the even and of the odd lanes of 32 bits. Highway's go through memory on SSSE3, which only multiplies
-// unsigned numbers: a negative one counts as 2^32 more there, and its partner is taken off the upper half again.
+// unsigned numbers: a negative factor counts as 2^32 more there, so the other factor is taken off the upper half of the product.
 template <class V> struct EvenOdd {
   V even;
   V odd;
@@ -481,8 +482,8 @@ template <class V> auto evenProducts(V a, V b) {
   }
 }
 
-// The lanes of a whole vector at twice their width: low and high half of every 128-bit block, which costs one instruction each
-// where the order of elements would cost a shuffle across blocks.
+// The lanes of a whole vector at twice their width: the low and the high half of every 128-bit block. That costs one instruction
+// each; the order of elements would cost a shuffle across blocks.
 template <class To, class V> auto widen(V v) {
   static_assert(sizeof(To) == 2 * sizeof(LaneOf<V>));
   const TagOf<V> d;
@@ -511,7 +512,7 @@ template <class V> auto twice(V v) {
   }
 }
 
-// Doubles as they were kBy lanes ago: the last kBy of the vector before, then the first of v. Up to a whole vector.
+// Doubles delayed by kBy lanes, up to a whole vector: the last kBy of the vector before, then the first of v.
 template <size_t kBy, class V> V delayed(V before, V v) {
   static_assert(std::is_same_v<LaneOf<V>, double> && kBy <= kLanesOf<V>);
   if constexpr (kBy == 0) return v;
@@ -519,7 +520,7 @@ template <size_t kBy, class V> V delayed(V before, V v) {
   else return V{detail::delayed<kBy>(before.raw, v.raw)};
 }
 
-// Doubles: one lane, or one block of two, in every place.
+// Doubles: broadcasts one lane, or one block of two.
 template <size_t kAt, class V> V everyLane(V v) { return V{detail::everyLane<kAt>(v.raw)}; }
 template <size_t kAt, class V> V everyBlock(V v) { return V{detail::everyBlock<kAt>(v.raw)}; }
 
@@ -568,15 +569,15 @@ template <class V> V ifNegative(V lane, V yes, V no) {
   else return hn::IfNegativeThenElse(lane, yes, no);
 }
 
-// 64-bit integers to doubles in the processor's rounding mode. Where there is no instruction, Highway's sum of two halves gives
-// -0 for 0 when rounding down.
+// 64-bit integers to doubles in the processor's rounding mode. Without an instruction for it, Highway adds two halves, which
+// gives -0 for 0 when rounding down.
 template <class V> auto toDouble(V v) {
   const auto converted = hn::ConvertTo(hn::Rebind<double, TagOf<V>>(), v);
   if constexpr (kHasMasks) return converted;
   else return hn::BitCast(TagOf<decltype(converted)>(), hn::IfThenZeroElse(v == same<V>(0), hn::BitCast(TagOf<V>(), converted)));
 }
 
-// Whether lanes can be loaded each from a place of its own: the 32 bits at p + 2 * at[i] bytes.
+// Whether each lane can be loaded from its own address: the 32 bits at p + 2 * at[i] bytes.
 inline constexpr bool kGathers = QVXS_AVX2;
 template <class V> V loadEach(const uint16_t* p, V at) {
   return hn::GatherOffset(TagOf<V>(), reinterpret_cast<const int32_t*>(p), at + at);
@@ -613,7 +614,7 @@ template <class V> auto toInt64(V v) {
 }
 
 // 64-bit lanes of two vectors saturated to 32-bit ones, in the order of evenAndOdd(). Without an instruction for it the upper
-// words tell what does not fit: limits in lanes of 64 bits take 20 instructions of SSSE3, this 9.
+// words tell what does not fit: 9 instructions of SSSE3, where limits in lanes of 64 bits take 20.
 #if !QVXS_AVX512
 template <class V> auto saturatedWords(V x, V y) {
   const auto words = evenAndOdd(as<float>(x), as<float>(y));
@@ -789,8 +790,8 @@ template <class V> V exponentOf(V v) {
 #endif
 
 // Arithmetic that raises no floating-point exception, neither as a trap nor as a flag, and rounds to nearest whatever the control
-// word says: an instruction of AVX-512 has both with it. Elsewhere it is the plain one, and a SilentScope around the call sees to
-// that.
+// word says. In AVX-512 the instruction itself carries both; elsewhere it is plain arithmetic within a SilentScope around the
+// call.
 inline constexpr bool kQuietByInstruction = kHasMasks;
 struct Quiet {
   template <class V> static V quotient(V a, V b) {
@@ -946,7 +947,7 @@ template <size_t kBit, class V> V lanesByBit(V lower, V upper) {
 
 namespace detail {
 
-// For each mask of kLanes lanes the numbers of those in it, then of the others; in units of kUnit bytes, each counted anew.
+// For each mask of kLanes lanes: the numbers of the lanes in it, then of the others; each lane as kUnits units.
 template <class Index, size_t kLanes, size_t kUnits> struct PartedOrder {
   Index of[size_t{1} << kLanes][kLanes * kUnits];
   constexpr PartedOrder() : of{} {
@@ -979,8 +980,8 @@ template <size_t kBytes> __m512i partedBy(__m512i v, uint64_t mask) {
   const auto* order = kPartedOrder<uint8_t, 8, 1>.of[mask];
   return _mm512_permutexvar_epi64(_mm512_cvtepu8_epi64(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(order))), v);
 }
-// 16 lanes by an instruction; in registers, because one make takes 100 times as long to store what it gathers. 8 lanes by a
-// table, whose one shuffle serves both parts: a partition takes 0.9 of the time.
+// 16 lanes are gathered by the instruction, between registers: one make of processor takes 100 times as long where it stores to
+// memory. 8 lanes are gathered by a table, whose one shuffle serves both parts: a partition takes 0.9 of the time.
 template <class V> inline constexpr bool kGathersLanes = sizeof(V) == 64 && sizeof(LaneOf<V>) == 4;
 template <class V, class M> auto gathered(V v, M mask) { return _mm512_maskz_compress_epi32(mask.raw, as<uint8_t>(v).raw); }
 #else
@@ -989,8 +990,8 @@ template <class V> inline constexpr bool kGathersLanes = false;
 
 }  // namespace detail
 
-// Lanes parted by the bits of a mask: those in it go on at `low`, which becomes their end, the others end at `high`, which
-// becomes their start. There is room for a whole vector at either.
+// Partitions lanes by the bits of a mask: those in it are stored from `low` on, which moves to their end; the others so that they
+// end at `high`, which moves to their start. There is room for a whole vector at either.
 template <class V> void part(V v, uint64_t bits, LaneOf<V>*& low, LaneOf<V>*& high) {
   const TagOf<V> d;
   constexpr size_t N = kLanesOf<V>;
@@ -1016,7 +1017,7 @@ template <class V, class M> void part(V v, M mask, LaneOf<V>*& low, LaneOf<V>*& 
 #endif
   }
 }
-// The same with the others going on at `high` too. Returns how many lanes are in the mask.
+// The same, but the others are stored from `high` on. Returns how many lanes are in the mask.
 template <class V> size_t separate(V v, uint64_t bits, LaneOf<V>* low, LaneOf<V>* high) {
   const TagOf<V> d;
   constexpr uint64_t kAll = (uint64_t{1} << kLanesOf<V>)-1;
@@ -1036,14 +1037,14 @@ template <class V, class M> size_t separate(V v, M mask, LaneOf<V>* low, LaneOf<
 #endif
   }
 }
-// The lanes of vectors that are parted: what the instruction takes, or what a table of a few KiB serves.
+// The lanes of vectors that are partitioned: as many as the instruction takes, or as a table of a few KiB serves.
 #if QVXS_AVX512
 template <class T> inline constexpr size_t kPartedLanes = kVectorBytes / sizeof(T) / (sizeof(T) == 2 ? 4 : 1);
 #else
 template <class T> inline constexpr size_t kPartedLanes = std::min(kVectorBytes / sizeof(T), size_t{8});
 #endif
 
-// Whether n elements are finite. What times 0 is not 0 is not: one instruction a vector, and one test for all of them.
+// Whether n elements are finite: x * 0 is 0 only then. The products are added up, one instruction a vector, and tested once.
 template <class T> bool areFinite(const T* p, size_t n) {
   constexpr size_t N = kVectorBytes / sizeof(T);
   const Lanes<T, N> d;
@@ -1054,7 +1055,7 @@ template <class T> bool areFinite(const T* p, size_t n) {
   return hn::AllTrue(d, sum == zero);
 }
 
-// The even or the odd lanes of floats twice. From memory that is done as they are loaded, by no unit that shuffles.
+// The even or the odd lanes of floats, each twice. From memory the load unit does it, and no shuffle port.
 namespace detail {
 inline __m128 evensTwice(__m128 v) { return _mm_moveldup_ps(v); }
 inline __m128 oddsTwice(__m128 v) { return _mm_movehdup_ps(v); }

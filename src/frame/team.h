@@ -1,4 +1,4 @@
-// A long vector divided between threads. What a caller sees is that of one thread, to the bit.
+// Long vectors divided between threads. The results are those of one thread, to the bit.
 #pragma once
 
 #include <qvx/qvxcore.h>
@@ -14,7 +14,7 @@ namespace qvx {
 // When a family divides its work. Forking costs 1 to 5 us.
 struct TeamRule {
   size_t worthIt;            // elements from which two threads were measured to be faster
-  bool everyThread = false;  // not just two
+  bool everyThread = false;  // takes all threads, not just two
 
   int threads() const {
     const int available = ownGetNumThreads();
@@ -22,10 +22,10 @@ struct TeamRule {
   }
 };
 
-// Threads have control words of their own. They work under the caller's, and what their arithmetic raised is raised in it.
+// Each thread has a control word of its own. Workers take over the caller's, and the exceptions that they raise are raised in it.
 inline constexpr uint32_t kExceptionFlags = 0x3F;
 
-// part(i) for i below count, by as many threads as there are; the gravest of their statuses: an error, else a warning.
+// part(i) for i below count, on all threads; returns the gravest of their statuses: an error, else a warning.
 template <class Part> QvxStatus inParts(int count, Part part) {
   struct Call {
     Part& part;
@@ -54,7 +54,7 @@ template <class Part> QvxStatus inParts(int count, Part part) {
   return static_cast<QvxStatus>(error < 0 ? error : call.warning.load());
 }
 
-// Runs slice(from, count, part) on all of 0 to n.
+// Runs slice(from, count, part) on slices that together are 0 to n.
 template <class Slice> [[gnu::noinline]] QvxStatus dividedBetween(int threads, size_t n, Slice slice) {
   if (threads < 2 || n < static_cast<size_t>(threads)) return slice(0, n, 0);
   const auto parts = static_cast<size_t>(threads);

@@ -1,4 +1,4 @@
-// Converts float lanes to 32-bit integer lanes in a round mode, with the limits that must be applied first.
+// Converts float lanes to 32-bit integer lanes in a round mode; and the limits that must be applied first.
 #pragma once
 
 #include <limits>

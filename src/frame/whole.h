@@ -1,5 +1,5 @@
 // Doubles to 64-bit integers. Only AVX-512 has an instruction; elsewhere sums leave the integer in the lower bits of a double,
-// whatever the rounding mode. Shifts of each lane by its exponent take twice the time (256 numbers with AVX2: 309 ns, not 156).
+// whatever the rounding mode. Shifting each lane by its exponent takes twice the time (256 numbers with AVX2: 309 ns, not 156).
 #pragma once
 
 #include "frame/simd.h"
@@ -50,8 +50,8 @@ template <class V> auto unsignedToDouble(V v) {
   }
 }
 
-// The integer part of numbers from 0 to 2^51; one less is possible where there is no instruction that rounds, and the mode has to
-// be to nearest there.
+// The integer part of numbers from 0 to 2^51. Without an instruction that rounds, it may be one too small, and the mode has to be
+// to nearest.
 template <class V> auto shortToInt64(V v) {
   if constexpr (kHasMasks) {
     return toInt64(v);

@@ -1,11 +1,11 @@
 // The arctangent of whole vectors of float or double.
 //
-// Error below 1.0 ULP (float), 1.25 ULP (double). Infinities give the halves of pi nearest to them, zeros and what is not a
-// number themselves.
+// Error below 1.0 ULP (float), 1.25 ULP (double). Infinities give pi/2 and -pi/2 rounded to nearest; zeros and NaN give
+// themselves.
 //
-// Below 2/3 it is t + t z q(z) with t = x and z = t^2. To 1.6 t is the tangent of what x's angle is above pi/4, (x - 1) / (x +
-// 1), and from there on of what it is above pi/2, -1 / x. Two ranges, below and above 1, would need 21 coefficients in double
-// instead of 14, and lose 0.3 ULP to their cancellation.
+// Below 2/3 it is t + t z q(z) with t = x and z = t^2. From there to 1.6, t = (x - 1) / (x + 1), the tangent of the angle less
+// pi/4; above, t = -1 / x, that of the angle less pi/2. Two ranges, below and above 1, would need 21 coefficients in double
+// instead of 14, and lose 0.3 ULP to cancellation.
 #pragma once
 
 #include "math/polynomial.h"
@@ -53,7 +53,7 @@ template <class V> V arctan(V x) {
   const V low = ofRange(zero, same<V>(C::kHalfPiLow / 2), same<V>(C::kHalfPiLow));
   const V high = ofRange(zero, same<V>(C::kHalfPi / 2), same<V>(C::kHalfPi));
   const V more = hn::MulAdd(t, z * polynomial(z, C::kQ), low);
-  // The sum of the two large parts and what its rounding takes.
+  // The sum of the two large parts, and its rounding error.
   const V sum = high + t;
   const V rest = t - (sum - high);
   return (sum + (rest + more)) ^ (x & signBit);

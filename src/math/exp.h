@@ -1,8 +1,7 @@
 // The exponential function of whole vectors of float or double.
 //
 // Error below 0.81 ULP where a register holds a table (w4), below 1.0 ULP elsewhere, subnormal results included. -infinity gives
-// 0, what is too large gives infinity, NaN itself. The rounding mode must be to nearest where
-// kRoundsByInstruction is not set.
+// 0, an overflow infinity, NaN itself. The rounding mode must be to nearest where kRoundsByInstruction is not set.
 //
 // e^x = 2^k * 2^(i/steps) * e^r, k and i from the nearest multiple of 1/steps to x / ln 2. A register holds a table of 16 steps
 // in w4, so that r stays within 0.022; elsewhere there is one step and r stays within 0.347.
@@ -53,7 +52,7 @@ template <> struct ExpNumbers<double> {
 #endif
 };
 
-// 2^(i/16), and what it lacks, relative to it.
+// 2^(i/16), and its relative rounding error.
 template <class T> struct SixteenthPowers;
 template <> struct SixteenthPowers<float> {
   alignas(64) static constexpr float kHigh[16] = {0x1p+0F,        0x1.0b5586p+0F, 0x1.172b84p+0F, 0x1.2387a6p+0F,
@@ -145,7 +144,7 @@ template <class V> V exp(V x) {
   using U = hwy::UnsignedFromSize<sizeof(T)>;
   using C = detail::ExpNumbers<T>;
   constexpr int kBits = detail::kFractionBits<T>;
-  // Where 2^k or the result may be no normal number, k goes in two factors.
+  // Where 2^k or the result may not be normal, k is split into two factors.
   const TagOf<V> d;
   const bool isFar = maskBits(d, hn::Not(hn::Abs(x) < same<V>(C::kNear))) != 0;
   if (isFar) x = clamp(x, C::kLeast, C::kMost);
@@ -157,7 +156,7 @@ template <class V> V exp(V x) {
   const V high = hn::NegMulAdd(k, same<V>(C::kLn2High), x);
   const V low = k * same<V>(-C::kLn2Low);
   const V r = high + low;
-  // The exact part of r comes last but one: 0.25 ULP less than with r itself.
+  // The exact part of r is added last but one: 0.25 ULP less error than with r itself.
   const V power = same<V>(1) + (high + hn::MulAdd(r * r, polynomial(r, C::kQ), low));
   const auto exponent = as<U>(sum);
   if (!isFar) return as<T>(as<U>(power) + hn::ShiftLeft<kBits>(exponent));

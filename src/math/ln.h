@@ -135,7 +135,7 @@ template <> struct LnNumbers<double> {
 
 #endif
 
-// y where x is above 0, what zero and negative numbers give elsewhere.
+// y where x is above 0; elsewhere the results of zero and negative numbers.
 template <class V, class M> V lnOfBad(V x, V y, M isBad) {
   using T = LaneOf<V>;
   return hn::IfThenElse(isBad, ifNegative(x, same<V>(kNan<T>), same<V>(kMinusInfinity<T>)), y);

@@ -1,8 +1,8 @@
 // The angle of a complex number, from -pi to pi: arctan(y / x) with the quadrant of the signs.
 //
-// Error below 1.0 ULP, for a float or a double. Zeros, infinities and NaN give what the C library's atan2 gives.
-// The quotient has a rounding of its own, too much beside the arctangent's: its remainder is taken along. kRemainder false:
-// without it, for doubles that become floats.
+// Error below 1.0 ULP, for a float or a double. Zeros, infinities and NaN give what the C library's atan2 gives. The rounding of
+// the quotient would add too much to the arctangent's own error, so its remainder is carried along. kRemainder false: without it,
+// for doubles that become floats.
 #pragma once
 
 #include <cmath>
@@ -15,12 +15,12 @@ namespace qvx {
 
 namespace detail {
 
-// Between these neither a sum nor a remainder leaves the range of normal numbers; what lies beyond is left to the C library, but
-// for zeros.
+// Between these neither a sum nor a remainder leaves the range of normal numbers. The C library takes what lies beyond, except
+// zeros.
 template <class T> inline constexpr T kLeastSize = sizeof(T) == 4 ? T(0x1p-100) : T(0x1p-900);
 template <class T> inline constexpr T kMostSize = sizeof(T) == 4 ? T(0x1p120) : T(0x1p960);
 
-// num / den, and what that is wrong by. den is exact but for denLow.
+// num / den, and its error. den + denLow is the exact divisor.
 template <class V> Pair<V> quotient(V num, V den, V denLow) {
   if constexpr (sizeof(LaneOf<V>) == 4) {
     const V t = num / den;
@@ -60,14 +60,14 @@ template <bool kRemainder = true, class V> V phase(V y, V x) {
   const V denLow = hn::IfThenElseZero(hn::AndNot(isLarge, isMiddle), hn::Min(up, along) - (sum - size));
   const auto [t, wrong] = kRemainder ? detail::quotient(num, den, denLow) : Pair<V>{num / den, zero};
   const V z = t * t;
-  // The arctangent's slope 1 / (1 + z) turns what the quotient is wrong by into what the angle is, near enough.
+  // The error of the quotient times the arctangent's slope 1 / (1 + z) is the error of the angle, near enough.
   const V low =
       hn::NegMulAdd(wrong * same<V>(T(0.72)), z, wrong) + ofRange(zero, same<V>(C::kHalfPiLow / 2), same<V>(C::kHalfPiLow));
   const V high = ofRange(zero, same<V>(C::kHalfPi / 2), same<V>(C::kHalfPi));
   const V more = hn::MulAdd(t, z * polynomial(z, C::kQ), low);
   const V angle = high + t;
   const V rest = t - (angle - high) + more;
-  // To the left of the axis it is pi less that.
+  // Left of the imaginary axis the angle is pi less this one.
   const V pi = same<V>(2 * C::kHalfPi);
   const V left = pi - angle;
   const V leftRest = ((pi - left) - angle) + (same<V>(2 * C::kHalfPiLow) - rest);

@@ -11,7 +11,7 @@ template <size_t kFrom, size_t kStep, class V, size_t kCount> V horner(V x, cons
   else return hn::MulAdd(horner<kFrom + kStep, kStep>(x, c), x, same<V>(c[kFrom]));
 }
 
-// Its even and its odd powers apart: one product more, and half as long until the result is there.
+// Even and odd powers apart: one more product, and half the latency.
 template <class V, size_t kCount> V polynomial(V x, const LaneOf<V> (&c)[kCount]) {
   if constexpr (kCount <= 3) return horner<0, 1>(x, c);
   const V square = x * x;

@@ -39,7 +39,7 @@ template <class V> struct SinCos {
   V cosine;
 };
 
-// Of k quarter turns and r, which is at most an eighth of a turn, with `rest` the digits after it.
+// For k quarter turns and r, at most an eighth of a turn; `rest` has the digits after r's.
 template <int kDigits, class V> SinCos<V> sinCosOfQuarters(V k, V r, V rest) {
   using C = detail::SinCosNumbers<kDigits>;
   const V z = r * r;
@@ -63,7 +63,7 @@ template <int kDigits, class V> SinCos<V> sinCosOfQuarters(V k, V r, V rest) {
   return {ifNegative(odd, c, s) ^ turned, ifNegative(odd, s, c) ^ turned ^ (odd & signBit)};
 }
 
-// Of an angle in whole turns, a fraction whose quarters and their remainder are exact. Error below 1 ULP, or as above.
+// For an angle in turns, of which quarters and their remainder are exact. Error below 1 ULP, or as above.
 template <int kDigits = 53, class V> SinCos<V> sinCosOfTurns(V turns) {
   const V k = hn::Round(turns * same<V>(4));
   const V r = hn::NegMulAdd(k, same<V>(0.25), turns) * same<V>(0x1.921fb54442d18p+2);
@@ -80,7 +80,7 @@ template <int kDigits, class V> SinCos<V> sinCos(V x) {
   const V kC = same<V>(0x1.3198a2e037073p-69);
   V r = hn::NegMulAdd(k, kB, first);
   V rest = hn::Zero(d);
-  if constexpr (kDigits > 24) {  // what the roundings of r take
+  if constexpr (kDigits > 24) {  // the rounding error of r
     const V low = hn::NegMulAdd(k, kC, hn::NegMulAdd(k, kB, first - r));
     const V sum = r + low;
     rest = (r - sum) + low;

@@ -1,10 +1,11 @@
-// Sines and cosines of equally spaced angles, without a table and without a sine each: two multiplications for a vector of them.
+// Sines and cosines of equally spaced angles, without a table and without computing each: two multiplications for a vector of
+// them.
 //
-// The angle of a lane is that of its vector's first one and a constant of the lane, so both sums of angles cost two products. The
-// first angles' sines are turned on in doubles, by a constant step, and taken anew every 4096 floats or 512 doubles.
+// The angle of a lane is the first angle of its vector plus a constant of the lane, so sine and cosine cost two products each.
+// Those of first angles are rotated by a constant step, in doubles, and computed again every 4096 floats or 512 doubles.
 //
-// Error below 2^-22 of the scale in float; below 2^-48 in double (2^-46 on SSSE3, whose vectors are turned more often). Where
-// sine and cosine are both positive, nothing cancels, and the sine is good to as many units of its own.
+// Error below 2^-22 of the scale in float; below 2^-48 in double (2^-46 on SSSE3, where more vectors mean more rotations). Where
+// sine and cosine are both positive, nothing cancels, and the relative error of the sine is as small.
 #pragma once
 
 #include "frame/each_vector.h"
@@ -21,9 +22,9 @@ template <class T> class SpacedAngles {
  public:
   static constexpr size_t kLanes = kVectorBytes / sizeof(T);
   static constexpr size_t kWide = kVectorBytes / sizeof(double);
-  // Samples from one pair of true sines to the next. In doubles the error of every turn counts.
+  // Samples between one computed pair and the next. In doubles the error of every rotation counts.
   static constexpr size_t kBlock = sizeof(T) == sizeof(float) ? 4096 : 512;
-  static constexpr size_t kFew = 4 * kWide;  // up to here a sine each is cheaper
+  static constexpr size_t kFew = 4 * kWide;  // up to here it is cheaper to compute each
 
   // step: turns from one sample to the next. scale: what the results are multiplied by.
   SpacedAngles(double step, double scale) {
@@ -46,8 +47,8 @@ template <class T> class SpacedAngles {
   template <class Put> [[gnu::always_inline]] void each(double start, size_t count, Put put) const {
     const Lanes<double, kWide> wide;
     const Lanes<T, kLanes> d;
-    // First angles are made 16 turns before they are used: a vector of one that was only just stored waits for the store, and in
-    // AVX-512 4096 samples take 1.2 times as long.
+    // First angles are computed 16 rotations before they are used: broadcasting one that has only just been stored waits for the
+    // store, and 4096 samples take 1.2 times as long in AVX-512.
     alignas(64) T firstSines[kBlock / kLanes];
     alignas(64) T firstCosines[kBlock / kLanes];
     const auto firsts = hn::MulAdd(hn::Iota(wide, 0), hn::Set(wide, vectorStep_), hn::Set(wide, start));
@@ -79,7 +80,7 @@ template <class T> class SpacedAngles {
     if (count % kLanes != 0) putNext(whole, count % kLanes);
   }
 
-  // The same for a few samples, a sine each.
+  // The same for a few samples, each computed.
   template <class Put> [[gnu::always_inline]] static void few(double start, double step, double scale, size_t count, Put put) {
     const Lanes<double, kWide> wide;
     const auto putNext = [&](size_t at, auto... rest) __attribute__((always_inline)) {
@@ -91,7 +92,7 @@ template <class T> class SpacedAngles {
   }
 
  private:
-  // Doubles, of which a block has eight turns, gain nothing by more than one.
+  // Doubles, of which a block takes eight rotations, gain nothing by more than one ahead.
   static constexpr size_t kAhead = (sizeof(T) == sizeof(float) ? 16 : 1) * kWide;
   static constexpr int kDigits = sizeof(T) == sizeof(float) ? 24 : 53;
   alignas(64) T sines_[kLanes];

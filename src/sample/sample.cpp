@@ -36,7 +36,7 @@ template <class W> size_t spreadByTwo(const W* src, size_t n, W* dst, bool isAft
   return i;
 }
 
-// Every second sample; of n, those that fill vectors. Not in line: to align a stack for vectors takes 1 ns of each call.
+// Every second sample; of n, those that fill vectors. Not inlined: aligning a stack for vectors takes 1 ns of each call.
 template <class W> [[gnu::noinline]] size_t everySecond(const W* src, size_t n, W* dst) {
   constexpr size_t N = kVectorBytes / sizeof(W);
   constexpr Lanes<W, N> d;
@@ -54,7 +54,7 @@ template <class W> [[gnu::noinline]] size_t everyFourth(const W* src, size_t n, 
   return i;
 }
 
-// Results that are zeroed at a time, to be in the nearest cache when the samples come.
+// Results that are zeroed at a time, so that they are still in the first-level cache when the samples are stored.
 constexpr size_t kSlice = 16384;
 
 template <class T> QvxStatus sampleUp(const T* src, int srcLen, T* dst, int* dstLen, int factor, const int* phase) {
@@ -79,7 +79,7 @@ template <class T> QvxStatus sampleUp(const T* src, int srcLen, T* dst, int* dst
   return qvxStatOk;
 }
 
-// Adds the distance up: products of it would bound the loop.
+// Adds up the distance: multiplying it would bound the loop.
 template <class T> void copyApart(const T* src, size_t apart, T* dst, size_t count) {
   size_t i = 0;
   size_t at = 0;

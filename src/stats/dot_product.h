@@ -10,7 +10,7 @@ struct Products {
   template <class V> static V onto(V sum, V a, V b) { return hn::MulAdd(a, b, sum); }
 };
 
-// Of two complex vectors: the products of like parts, whose difference is real, and those of unlike parts, one shuffle in all.
+// Of two complex vectors: the products of like parts, which make the real part, and those of unlike parts; one shuffle in all.
 template <class Lane> struct ComplexProducts : Reduction {
   using Like = FloatSum<Lane, Products, 2>;
   using Inner = Lane;

@@ -5,7 +5,7 @@ using namespace qvx;
 
 namespace {
 
-// Lanes lose which of two zeros came first.
+// The first zero: lanes do not tell which of two zeros came first.
 template <class T> [[gnu::noinline, gnu::cold]] T firstZero(const T* src, int len) {
   return src[firstEqual<Element>(T{0}, src, elements(len))];
 }

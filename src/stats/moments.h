@@ -8,7 +8,7 @@ namespace qvx {
 
 inline constexpr int kFast = 1;  // the hint that asks for speed; any other asks for accuracy
 
-// 2^-scaleFactor, finite: that is far enough up for any integer but 0, which stays 0.
+// 2^-scaleFactor, kept finite: large enough to saturate any integer but 0, which stays 0.
 inline double scaleFactorOf(int scaleFactor) { return powerOfTwo<double>(std::min(-int64_t{scaleFactor}, int64_t{1023})); }
 
 // The total of interleaved complex lanes.
@@ -27,7 +27,7 @@ template <size_t kParts, class V> auto laneTotals(V v) {
   }
 }
 
-// Part by part: a compiler that sees both converts them by way of the stack, where loading the two waits 4 ns for their stores.
+// Part by part: a compiler that sees both converts them together through the stack, where the load waits 4 ns for the two stores.
 template <class D> D complexOf(double re, double im) {
   const auto part = [](double v) {
     __asm__("" : "+x"(v));
@@ -81,7 +81,7 @@ struct Sum32Widened : Reduction {
   template <class A, class V> A add(A a, V v) const { return a + widened<int64_t>(v); }
   template <class A> int64_t total(A a) const { return sumOfLanes(a); }
 };
-// In their own lanes: where widening is more than the load, 256 integers take 24 ns, not 77.
+// In lanes of their own width, where widening costs more than the load: 256 integers take 24 ns, not 77.
 struct Sum32InLanes : Reduction {
   static constexpr size_t kSlice = 1 << 16;
   template <class V> auto start(V v) const { return LongSum<V>::of(v); }

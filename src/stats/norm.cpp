@@ -61,8 +61,8 @@ constexpr auto toFloat = [](double norm) { return static_cast<Qvx32f>(norm); };
 constexpr auto root = [](double sum) { return std::sqrt(sum); };
 constexpr auto rootToFloat = [](double sum) { return static_cast<Qvx32f>(std::sqrt(sum)); };
 
-// The root is taken of the largest square alone: it keeps their order. Floats hold nearly all squares there are; for the others
-// the vector is read again in doubles, which hold them all. That is twice as fast as doubles alone.
+// The root of the largest square is the largest root. Floats hold nearly all squares; if one does not fit, the vector is read
+// again in doubles, which hold all of them. That is twice as fast as doubles alone.
 template <class... Src> QvxStatus largestRadius(Qvx32f* norm, int len, Src... src) {
   const QvxStatus status = check(len, pointerOf(src)..., norm);
   if (status != qvxStatOk) return status;

@@ -9,8 +9,8 @@ namespace {
 
 // ---- counts
 
-// Elements from `least` on, `width` values: a subtraction brings them to the least integers there are, one comparison tells
-// them. No length fills a lane.
+// Counts the elements within the `width` values from `least` on: a subtraction moves those to the least integers of the type, and
+// one comparison finds them. No length fills a lane.
 struct CountOf : Reduction {
   int32_t shift;
   int32_t limit;
@@ -42,7 +42,7 @@ struct Table {
   const Qvx16u* entries;
   uint32_t last;
 
-  // The longest way through the bisection. A span of 1 moves the base no more, so all may take as many steps.
+  // The most steps that the bisection takes. With a span of 1 the base no longer moves, so all elements may take as many.
   int steps() const { return std::bit_width(last - 1); }
 
   uint32_t nearest(Qvx16u v) const {
@@ -59,7 +59,7 @@ struct Table {
   }
 };
 
-// The same in lanes. An entry is loaded together with its neighbour above, which every one that is looked at has.
+// The same in lanes. An entry is loaded together with the one above it: the bisection looks at no entry that has none.
 template <class V> class Bisection {
  public:
   Bisection(const Table& table, V v) : entries_(table.entries), v_(v), base_(same<V>(0)), span_(all(table.last)) {}

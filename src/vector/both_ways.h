@@ -1,10 +1,10 @@
-// Roots and quotients of floats by both of the processor's ways: of two vectors one goes through the divider, which takes up to
-// 18 cycles for it, the other through multiplications in the meantime. Both are rounded correctly, in the caller's mode: 256
-// roots take 27 ns, by the divider alone 55, by multiplications alone 33.
+// Roots and quotients of floats in two ways at once: of two vectors one goes through the divider, which takes up to 18 cycles,
+// and the other meanwhile through multiplications. Both are rounded correctly, in the caller's mode: 256 roots take 27 ns, by the
+// divider alone 55, by multiplications alone 33.
 //
-// The steps. An estimate with an error of 2^-14 is improved once to the result r, by what is left over, x - r * r or b - a * r,
-// and the estimate's own factor: r is then off by 2^-27, rounded to nearest. What is left over now is a float and known exactly;
-// one fused addition of it, times a factor of full precision, gives the result.
+// The multiplications. An estimate with an error of 2^-14 is improved once to the result r, by the remainder, x - r * r or b - a
+// * r, times the estimate: r is then off by 2^-27 and rounded to nearest. Its own remainder is a float, and so exact; one fused
+// addition of it, times a factor of full precision, gives the result.
 //   - Directed modes: a result that comes nearer than 2^-40 to a float has that float for r; what is left over tells its side, or
 //     is 0. Others are not near enough for the last addition, which is off by 2^-46, to matter.
 //   - To nearest: what counts is how near a result comes to the middle m of two floats. Of roots, all mantissas were tried with
@@ -19,7 +19,7 @@
 
 namespace qvx {
 
-// Two vectors at a time of what a source or a destination has one of.
+// Two vectors at a time of a source or a destination that has one.
 template <class One> struct InTwos {
   using Lane = hwy::UnsignedFromSize<sizeof(typename One::Lane) / 2>;
   static constexpr size_t kParts = 1;
@@ -48,7 +48,7 @@ template <class One> struct InTwos {
 };
 template <class One> InTwos(One) -> InTwos<One>;
 
-// Ways to take a root or a quotient, and what they serve.
+// The ways to take a root or a quotient, and which operands they serve.
 struct Divider {
   template <class V> static constexpr bool kServes = false;  // needs no test
 };
@@ -60,7 +60,7 @@ struct Steps {
   using V = nearest::V;
   using Bits = Vec<Lanes<uint32_t, 16>>;
 
-  // Where nothing of the steps underflows or overflows, and the number is none of those for which a factor may be off.
+  // Whether no step underflows or overflows, and x is none of the numbers for which a factor may be off.
   static bool takes(V x) {
     const Lanes<int32_t, 16> d;
     const auto aroundPower = hn::Abs(as<int32_t>(hn::ShiftLeft<9>(as<uint32_t>(x))));  // 512: one place from a power of two
@@ -100,7 +100,8 @@ struct Steps {
 #endif
 };
 
-// The first of two vectors by the divider, the second by steps if they take it. An operation has the way after its vectors.
+// The first of two vectors by the divider, the second by multiplications if they serve it. An operation takes the way as its last
+// argument.
 template <class Op> struct BothWays : Op {
   template <class... V> auto operator()(Flag& flag, Pair<V>... v) const {
     return pair(Op::operator()(flag, v.lo..., Divider()), Op::operator()(flag, v.hi..., Steps()));
@@ -113,7 +114,7 @@ template <class Op> struct BothWays : Op {
   template <class V> static Pair<V> pair(V lo, V hi) { return {lo, hi}; }
 };
 
-// dst = Op(sources...) over len elements, as map() has it.
+// dst = Op(sources...) over len elements, as map().
 template <class Op, TeamRule kRule, class T, class... Src> QvxStatus mapBothWays(T* dst, int len, Src... src) {
   if constexpr (!kHasMasks) {
     return map<Op>(dst, len, InTeam<kRule>{}, src...);

@@ -13,15 +13,16 @@ struct Same {
   template <class V> V operator()(V v) const { return v; }
 };
 
-// Lengths from which the C library is called. Its copies are as fast from 32 KiB on (1.8 times as slow at 4 KiB), those by string
-// instructions faster than AVX2 from 8 KiB on (16 KiB: 0.85 of the time), than SSE from 2 KiB on (4 KiB: 0.45). Its fills from
-// 1 MiB (0.8 of the loop's time at 4 MiB, 1.5 times at 256 KiB), of bytes with SSE from 2 KiB on.
+// Lengths from which the C library is called. Its copies are as fast as AVX-512 from 32 KiB on (1.8 times as slow at 4 KiB); by
+// string instructions they are faster than AVX2 from 8 KiB on (16 KiB: 0.85 of the time) and than SSE from 2 KiB on (4 KiB:
+// 0.45). Its fills are faster from 1 MiB on (0.8 of the loop's time at 4 MiB, 1.5 times at 256 KiB); of bytes, with SSE, from 2
+// KiB on.
 constexpr size_t kLibraryCopies = size_t{kHasMasks ? 32 : QVXS_AVX2 ? 8 : 2} << 10;
 template <class T> constexpr size_t kLibraryFills = sizeof(T) == 1 && !QVXS_AVX2 ? size_t{2} << 10 : size_t{1} << 20;
 
 // Up to two registers of N bytes, or of fewer where those do not fit: both are loaded before either is stored, the second counted
-// from the end. In the exported functions themselves, each test to the next code: every jump that is taken costs 0.3 ns, of which
-// 16 bytes took five more.
+// from the end. Inlined into the exported functions, in the order of the tests: a taken jump costs 0.3 ns, and 16 bytes took five
+// more of them.
 template <size_t N> [[gnu::always_inline]] inline QvxStatus copyUpTo(const uint8_t* src, uint8_t* dst, size_t bytes) {
   if constexpr (N > 1) {
     if (__builtin_expect_with_probability(bytes < N, N < kVectorBytes, 0.6)) return copyUpTo<N / 2>(src, dst, bytes);
@@ -66,8 +67,8 @@ struct Four {
   Vec<Lanes<uint8_t, kVectorBytes>> a, b, c, d;
 };
 
-// From nine registers on. Both ends are loaded before anything is stored, and what lies between is stored at addresses that do
-// not cross cache lines. Four at a time: 1 KiB takes 0.8 of the time of two.
+// From nine registers on. Both ends are loaded before anything is stored, and the stores between them are aligned. Four at a
+// time: 1 KiB takes 0.8 of the time of two at a time.
 QvxStatus copyInFours(const uint8_t* src, uint8_t* dst, size_t bytes) {
   constexpr size_t N = kVectorBytes;
   const Lanes<uint8_t, N> d;
@@ -94,7 +95,7 @@ QvxStatus copyInFours(const uint8_t* src, uint8_t* dst, size_t bytes) {
     std::memmove(dst, src, bytes);
     return qvxStatOk;
   }
-  // 1 KiB ahead hides the memory's latency, which the processor's own prefetch does not with streamed stores.
+  // Prefetching 1 KiB ahead hides the memory's latency; the processor's own prefetch does not, beside streamed stores.
   stream(dst, bytes, [src](size_t i) {
     __builtin_prefetch(src + i + 1024);
     return load(Lanes<uint8_t, kVectorBytes>(), src + i);
@@ -142,8 +143,8 @@ template <class T> QvxStatus move(const T* src, T* dst, int len) {
   return copyUpTo<kVectorBytes>(from, to, bytes);
 }
 
-// The fill value as an element's bits, so that types of one size share their code. 16 bytes travel in a vector register: a struct
-// of two words goes through the stack at every call (16 elements: 9.7 ns, not 2.1).
+// The fill value as the bits of an element, so that types of one size share their code. 16 bytes are passed in a vector register:
+// a struct of two words would go through the stack at every call (16 elements: 9.7 ns, not 2.1).
 template <class T> struct Filling {
   using Element = hwy::UnsignedFromSize<sizeof(T)>;
   static auto of(T value) { return Constant{std::bit_cast<Element>(value)}; }
@@ -167,7 +168,7 @@ requires(sizeof(T) == 16) struct Filling<T> {
   }
 };
 
-// From kLibraryFills on. T is an Element of the above.
+// From kLibraryFills on. T: an Element of Filling.
 template <class T, class Value> [[gnu::noinline]] QvxStatus fillFar(Value value, T* dst, size_t len) {
   constexpr size_t kLanes = kVectorBytes / sizeof(Part<T>);
   const size_t bytes = len * sizeof(T);
@@ -197,7 +198,7 @@ template <size_t kHalf, size_t N, class T, class Value>
   return qvxStatOk;
 }
 
-// From nine registers on, within the first-level cache: beyond it stores one at a time are faster.
+// From nine registers on, within the first-level cache; beyond it, one store at a time is faster.
 constexpr size_t kFillsInFours = size_t{32} << 10;
 template <size_t N, class T, class Value> QvxStatus fillInFours(Value value, Destination<T> dst, size_t lanes) {
   const auto v = value.template get<N>(0);

@@ -18,7 +18,7 @@ template <class V> V reciprocalRoot(V a) {
 // For a from 2^-120 to 2^120.
 template <class V> V rootOfPlain(V a) {
   const V y = reciprocalRoot(a);
-  // Rounded to 8 bits, the root has a cube of 24: how far the cube is from a is exact, and what remains to be added is small.
+  // The root rounded to 8 bits has a cube of 24 bits: its distance from a is exact, and the correction is small.
   const auto bits = as<uint32_t>(a * y * y);
   const V root = as<float>((bits + same<decltype(bits)>(0x8000)) & same<decltype(bits)>(0xFFFF0000));
   const V cube = root * root * root;

@@ -6,7 +6,8 @@ using namespace qvx;
 
 namespace {
 
-// A float cube root within 2^-20: a third of the exponent, then two of Halley's steps, each of which cubes the error.
+// A float cube root with an error of 2^-20: a third of the exponent, then two steps of Halley's method, each of which cubes the
+// error.
 template <class V> V cubeRoot(V x) {
   constexpr float kThird = 1 / 3.0F;
   constexpr int32_t kThirdsOfBias = 709921077;

@@ -34,7 +34,7 @@ struct ComplexQuotient {
       return toIntNearest(
           clippedBelow(clippedAbove(rounded * same<F>(powerOfTwo<double>(-kFractionBits)), INT16_MAX), INT16_MIN));
     };
-    // The one product of 2^31 is taken as 2^31 - 1, which makes no difference: its quotient is 1 * 2^-scaleFactor.
+    // The one product that is 2^31 is taken as 2^31 - 1, which changes nothing: its quotient is 1 * 2^-scaleFactor.
     const I product = dot(b, divisor);
     const I re = toInts(product + hn::VecFromMask(d32, product == same<I>(INT32_MIN)));
     const I im = toInts(cross(b, divisor));

@@ -1,7 +1,7 @@
 // Exponentials of integers: e^x * 2^-scaleFactor, half a unit rounded up, saturated.
 //
-// Between a result of 0 and one beyond the range there are no more than 11 (22, 44) integers x. So for one scale factor there is
-// a row of 16 (32, 48) results, of which the first is 0 and the last saturates, and the vector is a look-up in it.
+// Between results of 0 and saturated results there are no more than 11 (22, 44) integers x. So each scale factor has a row of 16
+// (32, 48) results, of which the first is 0 and the last saturated, and an element is looked up in it.
 #include <array>
 
 #include "frame/map.h"
@@ -10,7 +10,7 @@ using namespace qvx;
 
 namespace {
 
-// ---- e^x as the nearest double: mantissa * 2^exponent. Integers, so that no rounding mode shows.
+// ---- e^x as the nearest double: mantissa * 2^exponent, in integers, so that no rounding mode matters.
 
 struct Power {
   uint64_t mantissa;  // 53 bits
@@ -125,7 +125,7 @@ QvxStatus exp16s(const Qvx16s* src, Qvx16s* dst, int len, int sf) {
   return by(rowAt(sf));
 }
 
-// ---- 32 and 64 bits: gathered from a row that is made where the vector is longer than that takes
+// ---- 32 and 64 bits: gathered from a row, which is made for vectors long enough to pay for it
 
 template <class T> struct Gathered {
   const T* row;

@@ -24,7 +24,7 @@ template <bool kEnlarges, class V> V integerPart(V x, double factor) {
   }
 }
 
-// k * (k + 1), of which a lane's bits suffice; k has kBits bits.
+// k * (k + 1), which fits a lane; k has kBits bits.
 template <int kBits, class V> V timesSuccessor(V k) {
   const V next = k + same<V>(1);
   if constexpr (sizeof(LaneOf<V>) == 8 && kBits <= 32) return as<int64_t>(hn::MulEven(as<uint32_t>(k), as<uint32_t>(next)));

@@ -18,9 +18,9 @@ struct TenDecimal {
   static long double of(long double x) { return 10 * std::log10(x); }
 };
 
-// A double's logarithm decides, unless it is so near to a half that its error might: variants differ there. That is one element
-// in 2^16 at most, where the result has 31 bits. The long double's error is 2^-63; nearer than 2^-60 are only the exact ties of
-// powers of ten.
+// A double's logarithm decides, unless it lies so near to a half that its error, in which variants differ, might decide. That is
+// one element in 2^16 at most, where the result has 31 bits: a long double decides there. Its error is 2^-63, and nothing but the
+// exact ties of powers of ten lies nearer than 2^-60.
 template <class Base> struct NearestLogarithm {
   int scaleFactor;
   double factor;

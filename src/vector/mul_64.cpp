@@ -7,7 +7,7 @@ using namespace qvx;
 
 namespace {
 
-// This one constant, of either sign, sends every element to an extreme.
+// This one constant, of either sign, saturates every element.
 constexpr Qvx64s kOverflowingBits = 0x90000012CD94;
 
 // Through memcpy, since p may have any alignment.

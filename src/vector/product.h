@@ -17,8 +17,8 @@ struct FittingProduct {
   }
 };
 
-// Of 16-bit integers, which come as unsigned ones in lanes of 32 bits: beside upper halves of 0 the sum of a pair's products is
-// the product, by one instruction, where one of 32-bit lanes takes two in AVX2 and six in SSSE3.
+// Of 16-bit integers in lanes of 32 bits with upper halves of 0: the sum of a pair's products is then the product, by one
+// instruction, where a product of 32-bit lanes takes two in AVX2 and six in SSSE3.
 struct ProductOf16 : FittingProduct {
   template <class V> static V of(V a, V b) { return pairProducts(as<int16_t>(a), as<int16_t>(b)); }
   template <class V> V operator()(V a, V b) const { return of(a, b); }

@@ -1,13 +1,13 @@
 // Quotients of 8, 16 and 32-bit integers by way of floats: (b * 2^-s) / a, rounded to an integer once more, saturated.
 //
-// Is that the exact quotient Q rounded? Only if no float quotient lies on a limit t, an integer or the middle of two, that Q is
-// off. The limit is a float itself, so that rounding Q to a float does not pass it, and what counts is how near Q comes to it:
+// The result is the exact quotient Q rounded unless a float quotient lies on a limit t, an integer or the middle between two, and
+// Q does not. The limit is a float itself, so rounding Q to a float never passes it; what counts is how near Q comes to it:
 //   s >= 0: Q = b / (a * 2^s), and for t = m / 2 the difference is a multiple of 1 / (2 * a * 2^s), or 1 / 2b of Q.
 //           16-bit dividends stay away by 2^-17 of Q, those of 32 bits by 2^-32.
 //   s < 0:  the difference is a multiple of 1 / 2a, which is 1 / (2 * a * t) of Q: 2^-17 for 8-bit divisors and results, 2^-33
 //           for those of 16 bits.
-// A 32-bit float is right to 2^-23 in any rounding mode, a 64-bit one to 2^-52. So 32 bits do for all but 16-bit elements at
-// negative scale factors, which need a quotient that says on which side of itself the exact one is.
+// A 32-bit float is right to 2^-23 in any rounding mode, a 64-bit one to 2^-52. So 32-bit floats do for all but 16-bit elements
+// at negative scale factors, which need a quotient that tells on which side of it the exact one lies.
 #pragma once
 
 #include "frame/power.h"
@@ -23,8 +23,8 @@ struct Window {
   int most;
 };
 
-// Powers of two that bring any quotient but 0 out of every range, below any half, or, as a divisor, do the former for any scale
-// factor. They stay within the float's exponents together.
+// Powers of two that take any quotient but 0 out of every range, below any half, or, as a divisor, out of every range at any
+// scale factor. Their products stay within the float's exponents.
 template <class F> struct Far;
 template <> struct Far<float> {
   static constexpr int kUp = 48;

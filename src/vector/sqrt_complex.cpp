@@ -1,7 +1,7 @@
 // Principal square roots of complex numbers: the real part is not negative, the imaginary part has the source's sign.
 //
-// With the magnitude |z|, the larger part of the root is t = sqrt((|z| + |re|) / 2), and the smaller one |im| / (2t): no
-// difference cancels. Where re is negative, they change places.
+// With the magnitude |z|, the larger part of the root is t = sqrt((|z| + |re|) / 2) and the smaller one |im| / (2t), so nothing
+// cancels. Where re is negative, they change places.
 #include "frame/complex.h"
 #include "frame/power.h"
 #include "frame/rounding.h"
@@ -12,7 +12,7 @@ using namespace qvx;
 
 namespace {
 
-// The root with the parts t and `smaller` where they belong.
+// The root made of t and `smaller`.
 template <class V> Complex<V> placed(V t, V smaller, V re, V im) {
   const auto isLeft = re < hn::Zero(TagOf<V>());
   return {hn::IfThenElse(isLeft, smaller, t), hn::CopySign(hn::IfThenElse(isLeft, t, smaller), im)};

@@ -8,7 +8,7 @@ using namespace qvx;
 
 namespace {
 
-// A root in the lanes that it needs. To is where the results go, From where they come from.
+// A root in lanes as wide as it needs, from elements From to elements To.
 template <class From, class To> struct IntegerRoot {
   static constexpr int kBits = std::numeric_limits<To>::digits;
   static constexpr bool kInDoubles = sizeof(From) == 8;
@@ -23,7 +23,7 @@ template <class From, class To> struct IntegerRoot {
   }
 
  private:
-  // What is negative has the root 0.
+  // The root of a negative number is 0.
   template <class V> static V each(Flag& flag, V v) {
     const TagOf<V> d;
     flag.raise(d, v < hn::Zero(d));

@@ -1,4 +1,4 @@
-// Sums of natural logarithms: of floats and 16-bit integers one logarithm for four elements, that of their product.
+// Sums of natural logarithms. Four floats or 16-bit integers take one logarithm, that of their product.
 #include "frame/reduce.h"
 #include "math/ln.h"
 
