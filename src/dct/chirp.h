@@ -1,4 +1,4 @@
-// Lengths that no plan serves: a convolution with a chirp, as long as the spectrum of n real numbers needs.
+// Lengths that no plan serves: a convolution with a chirp, with the period that the spectrum of n real numbers needs.
 //
 // With c[m] = exp(-pi i m^2 / n), exp(-2 pi i j k / n) = c[j] c[k] conj c[k - j]. The spectrum V of the numbers in halves
 // (turn.h) is needed up to k = n/2, so a period of n + n/2 serves both directions:
@@ -24,7 +24,7 @@ template <class T> struct Chirp {
   const T* spectrum;  // of conj c over the period, divided by its length; in pairs
 };
 
-// The least period with small factors that suits n numbers.
+// The least sufficient period for n numbers that has small factors.
 inline size_t shortPeriodOf(size_t n) {
   const size_t least = n + n / 2;
   size_t best = std::bit_ceil(least);
@@ -39,7 +39,7 @@ template <class T> Needs needsOfChirp(size_t n, size_t period) {
           static_cast<int64_t>(period) * kPair + plan.work, plan.work};
 }
 
-// The same where the spectrum is made in a wider type: in its place and that of the plan, which is made afterwards.
+// The same where the spectrum is computed in a wider type: in its own place and in that of the plan, which is made later.
 template <class T> Needs needsOfPrecise(size_t n, size_t period) {
   Needs needs = needsOfChirp<T>(n, period);
   const auto beyond = static_cast<int64_t>(2 * period * sizeof(T)) - needsOfPlan<T>(period).tables;

@@ -1,4 +1,4 @@
-// Cosine transforms of 16-bit integers: through those of floats, but for one number, which stays what it is.
+// Cosine transforms of 16-bit integers: through those of floats, except for a single number, which is its own transform.
 #include "dct/record.h"
 
 using namespace qvx;
@@ -6,15 +6,15 @@ using namespace qvx::dct;
 
 namespace {
 
-// kInit, kTransform: of the floats, the latter in place.
+// kInit, kTransform: the functions for floats; kTransform works in place.
 template <uint32_t kIdentity, class Floats_, auto kInit_, auto kTransform_> struct Spec16 : RecordHead {
   using Floats = Floats_;
   static constexpr uint32_t kId = kIdentity;
   static constexpr auto kInit = kInit_;
   static constexpr auto kTransform = kTransform_;
   int32_t len;
-  int32_t workSize;      // as callers are told
-  const Floats* floats;  // none of one number
+  int32_t workSize;      // as reported
+  const Floats* floats;  // null for a single number
 };
 
 }  // namespace

@@ -1,5 +1,5 @@
-// The shortest transforms as products with their matrix, whose columns stay constants of the code: up to 16 numbers, and 25, that
-// is faster than any way by sums that share terms, since the sums of all results go on at once.
+// The shortest transforms as products with a matrix whose columns are constants of the code. For up to 16 numbers, and for 25,
+// that is faster than algorithms that share sums, since the sums of all results are independent.
 #pragma once
 
 #include "transform/matrix.h"
@@ -14,12 +14,12 @@ inline constexpr int kLongestByHalves = 32;
 constexpr bool isByMatrix(int n) { return n <= kLongestByMatrix || n == 25; }
 constexpr bool hasKernel(int n) { return isByMatrix(n) || (n <= kLongestByHalves && n % 2 == 0); }
 
-// What number n of the sequence and number k of its transform have to do with each other.
+// The matrix entry for number n of the sequence and number k of its transform.
 constexpr long double entry(int n, int k, int N) {
   return transform::squareRoot((k == 0 ? 1.0L : 2.0L) / N) * transform::cosine((2 * n + 1) * k, N);
 }
 
-// Row i is what number i of the source adds to the results, in vectors of L.
+// Row i: what number i of the source contributes to the results, in vectors of L.
 template <class T, int N, bool kInverse> struct Matrix {
   static constexpr size_t L = transform::RowShape<T, N>::kLanes;
   static constexpr size_t kVectors = transform::RowShape<T, N>::kVectors;
@@ -38,8 +38,8 @@ template <class T, int N, bool kInverse> void byMatrix(const T* src, T* dst) {
   unrolled<M::kVectors>([&](auto w) __attribute__((always_inline)) { storeConstant<N - w * M::L>(sums[w], dst + w * M::L); });
 }
 
-// ---- Twice as many, by the sums and the differences of numbers at the same distance from the ends: of the first, results of
-// even k are made, of the others, those of odd k
+// ---- Twice as many, from the sums and the differences of numbers at the same distance from the ends: the sums make the results
+// of even k, the differences those of odd k
 
 template <class T, int N, bool kInverse> struct HalfMatrix {
   static constexpr int H = N / 2;
@@ -64,7 +64,7 @@ template <class T, int N, bool kInverse> void byHalves(const T* src, T* dst) {
   if constexpr (kInverse) {
     const auto even = combined<H, 2, L>(src, rows);
     const auto odd = combined<H, 2, L>(src + 1, rows + 1);
-    // What is past the half is overwritten by the other one.
+    // What is stored past this half is overwritten by the other half.
     unrolled<M::kVectors>([&](auto w)
                               __attribute__((always_inline)) { store(reversed(even[w] - odd[w]), d, dst + N - (w + 1) * L); });
     unrolled<M::kVectors>([&](auto w)
@@ -95,7 +95,7 @@ template <class T, int N, bool kInverse> constexpr Kernel<T> kernelOf() {
   else if constexpr (hasKernel(N)) return byHalves<T, N, kInverse>;
   else return nullptr;
 }
-// By length; null for those that have none.
+// The kernels by length; null where there is none.
 template <class T, bool kInverse> inline constexpr auto kKernels = []<int... N>(std::integer_sequence<int, N...>) {
   return std::array<Kernel<T>, sizeof...(N)>{kernelOf<T, N + 1, kInverse>()...};
 }

@@ -1,4 +1,4 @@
-// The complex transforms that cosine transforms stand on, as tightly as their records need them.
+// The complex transforms that cosine transforms use, packed as tightly as their records require.
 #pragma once
 
 #include "dft/adapter.h"
@@ -7,7 +7,7 @@ namespace qvx::dct {
 
 template <class T> using ComplexOf = std::conditional_t<sizeof(T) == 4, Qvx32fc, Qvx64fc>;
 
-// What a way takes of a record after its head, of each call and of the record's making.
+// The bytes that an algorithm needs: of the record after its head, of working memory for each call, and for making the record.
 struct Needs {
   int64_t tables;
   int64_t work;

@@ -24,7 +24,7 @@ template <class T_, bool kInverse_, uint32_t kIdentity> struct Spec : RecordHead
   static constexpr uint32_t kId = kIdentity;
   Way way;
   int32_t len;
-  int32_t workSize;  // as callers are told
+  int32_t workSize;  // as reported
   T mean;            // 1 / sqrt(len)
   union {
     const dft::ComplexPlan<T>* plan;  // of kHalf, kOdd
@@ -36,9 +36,9 @@ template <class T_, bool kInverse_, uint32_t kIdentity> struct Spec : RecordHead
 
 template <class Record> QvxStatus check(const Record* spec) { return checkRecord(spec, Record::kId); }
 
-// ---- Which way a length goes: the first that the told sizes have room for
+// ---- The way a length takes: the first that the reported sizes have room for
 
-// What is on the stack is not asked of callers.
+// Up to this much working memory is on the stack, and not asked of callers.
 inline constexpr int64_t kWorkOnStack = 4096;
 
 template <class T> Needs needsOfHalf(size_t n) {
@@ -69,7 +69,7 @@ template <class Record> Way wayOf(int len, Sizes sizes) {
   return Way::kChirp;
 }
 
-// The sizes have room for the last one, whose transform's own they are.
+// The last one always fits: the reported sizes are those of its transform.
 template <class Record> size_t periodFor(size_t n, Sizes sizes) {
   for (const size_t period : {shortPeriodOf(n), std::bit_ceil(n + n / 2)}) {
     if (fits<Record>(needsOfChirp<typename Record::T>(n, period), sizes)) return period;
@@ -99,7 +99,7 @@ template <class Record> QvxStatus check(Record** ppSpec, int len, Sizes sizes, c
   return sizes.init > 0 && isNull(pInit) ? qvxStatNullPtr : qvxStatOk;
 }
 
-// The tables of a record that knows its way. A function of its own, so that nothing of it leaves its caller's rounding scopes.
+// Writes the tables for the chosen way. Not inlined, so that no arithmetic moves out of the caller's rounding scopes.
 template <class Record> [[gnu::noinline]] void writeWay(Record& spec, Sizes sizes, Carver& tables, Qvx8u* making) {
   using T = typename Record::T;
   const auto n = static_cast<size_t>(spec.len);

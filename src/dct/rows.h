@@ -1,10 +1,11 @@
-// Up to 100 numbers in q rows of r, r odd, with tables so small that they fit the record that such lengths have: all steps are
-// sums of products, of vectors that run along the spectrum of a row.
+// Up to 100 numbers in q rows of r, r odd, with tables small enough for the records of such lengths: all steps are sums of
+// products, in vectors along the spectrum of a row.
 //
-// The spectrum of a row of real numbers at k and -k is conjugate, so h = r/2 columns and the mean are enough. The sum and the
-// difference of the numbers at j and -j meet cosines and sines of 2 pi j k / r. Where r is a prime, columns and numbers
-// stand in the order of the powers of a primitive root: that of the product j k is that of j plus that of k, and each row of the
-// table is the one before moved on by one. Then come transforms down the columns, whose results, k, give cosines k and n - k.
+// The spectrum of a row of real numbers is conjugate at k and -k, so h = r/2 columns and the mean are enough. Sums and
+// differences of the numbers at j and -j are multiplied by cosines and sines of 2 pi j k / r. Where r is prime, columns and
+// numbers are in the order of the powers of a primitive root: the exponent of the product j k is the sum of those of j and k, so
+// each row of the table is the one before shifted by one. Then come transforms down the columns, whose result k gives cosines k
+// and n - k.
 #pragma once
 
 #include <numeric>
@@ -29,7 +30,7 @@ template <class T> struct Rows {
   const uint8_t* results;  // k: row by row, h each, then those made of means
 };
 
-// A large prime factor, or the one below that leaves the fewest rows for the room there is.
+// A large prime factor, or else the odd factor that leaves the fewest rows within the room there is.
 constexpr int rowLength(int n) {
   int rest = n;
   for (const int p : {2, 3, 5, 7, 11, 13}) {
@@ -57,7 +58,7 @@ template <class T> Rows<T> shapeOf(size_t n) {
   return rows;
 }
 
-// Numbers of a table of cosines; those past the end of the last one are the next table's.
+// The length of a table of cosines; the last vector may reach into the next table.
 template <class T> size_t columnTableLength(const Rows<T>& rows) {
   return isPrimeRow(rows.r) ? 2 * rows.h - size_t{1} : size_t{rows.h} * rows.width;
 }
@@ -88,7 +89,7 @@ template <class T> void writeRows(Rows<T>& rows, size_t n, Carver& tables) {
   rows.source = source;
   rows.results = results;
 
-  // The order of numbers and columns: residues of r, one of each pair.
+  // The order of numbers and columns: one residue of r from each pair j, -j.
   uint8_t residue[2 * kLongestByRows];
   size_t root = 1;
   if (isPrimeRow(rows.r)) {
@@ -182,7 +183,7 @@ template <class V> QVX_INLINE V columnSum(const LaneOf<V>* x, const LaneOf<V>* t
   return sum[0] + sum[1];
 }
 
-// The sum of z[j] * roots[j k] down q rows, of their conjugates where it is inverse.
+// The sum of z[j] * roots[j k] down q rows; inverse, with the conjugates of the roots.
 template <bool kInverse, class V>
 QVX_INLINE Complex<V> columnTransform(const Complex<V>* z, size_t q, size_t k, const LaneOf<V>* roots) {
   Complex<V> sum = z[0];

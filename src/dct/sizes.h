@@ -1,4 +1,4 @@
-// The bytes that callers are told to bring: fixed values of the interface, whatever this library's tables take of them.
+// The sizes reported to callers: fixed values of the interface. The tables need no more.
 #pragma once
 
 #include <bit>
@@ -15,10 +15,10 @@ inline constexpr Sizes kSmallSizes = {152, 0, 0};
 inline constexpr int kLongestDirect = 100;
 
 constexpr bool isPowerOf2(int n) { return std::has_single_bit(static_cast<unsigned>(n)); }
-// As a caller of the transform is told them.
+// As the transform's own functions report them.
 constexpr Sizes reported(Sizes sizes) { return {sizes.spec, sizes.init, sizes.work > 0 ? sizes.work + kWorkSlack : 0}; }
 
-// n from 1 on. A length that a transform of the family takes no longer has an endless record.
+// n from 1 on. A length beyond the family's transforms has an endless record.
 template <class T> constexpr Sizes sizesOf(int n) {
   constexpr int64_t kElement = sizeof(T);
   constexpr Sizes kTooLarge = {std::numeric_limits<int64_t>::max(), 0, 0};
@@ -44,7 +44,7 @@ template <class T> constexpr Sizes sizesOf(int n) {
   return {sizes.spec + 160, sizes.init > 0 ? sizes.init + 32 : 0, sizes.work > 0 ? sizes.work + 32 : 0};
 }
 
-// Of 16-bit numbers, which go through floats but for one alone.
+// For 16-bit numbers, which go through floats except where there is a single one.
 constexpr Sizes sizesOf16(int n) {
   if (n == 1) return {64, 0, 0};
   const Sizes floats = sizesOf<float>(n);

@@ -6,7 +6,7 @@
 //   p = f t (a + conj b)     q = f t^5 (-i) (a - conj b)     s = p + q     d = p - q
 //   y[k] = re s     y[n - k] = -im s     y[H - k] = sqrt(1/2) (re d - im d)     y[H + k] = sqrt(1/2) (re d + im d)
 //
-// The way back is the same read backwards, by the conjugates of the same two factors.
+// The inverse is the same read backwards, with the conjugates of the two factors.
 #pragma once
 
 #include "transform/mirror.h"
@@ -48,9 +48,9 @@ template <class T> void fromHalves(const T* v, T* x, size_t n) {
 
 // ---- The factors
 
-// How many numbers k there are.
+// The number of the k.
 constexpr size_t turns(size_t n) { return n / 4; }
-// The vectors of `count` numbers overlap where they do not fill the last; so the tables of two numbers for each hold this much.
+// The length of a table with two numbers for each k; its vectors overlap where they do not fill the last one.
 template <class T> size_t turnTableLength(size_t n) {
   size_t length = 0;
   withLanesWithin<T>(turns(n), [&](auto L) { length = (turns(n) + L - 1) / L * 4 * L; });
@@ -59,7 +59,7 @@ template <class T> size_t turnTableLength(size_t n) {
 
 // f t and -i f t^5 for each k from 1 to turns(n), in groups of L.
 template <class T> void writeTurns(T* out, size_t n) {
-  // Rounded to a double it would be an error that all results share.
+  // In long double: rounded to a double, its error would be common to all results.
   const long double f = std::sqrt(0.5L / static_cast<long double>(n));
   const size_t count = turns(n);
   withLanesWithin<T>(count, [=](auto L) {

@@ -17,7 +17,7 @@ Qvx32u square(int distance) { return static_cast<Qvx32u>(distance * distance) >>
 
 Qvx32u point(Qvx32u error, Qvx32u number) { return error | number << 16; }
 
-// Of as near ones the second.
+// Of points at the same distance the second.
 Qvx32u nearer(Qvx32u first, Qvx32u second, Qvx32u number) {
   return first < second ? point(first, number) : point(second, number + 4);
 }
@@ -33,7 +33,7 @@ Sum joined(const Qvx32u* first, const Qvx32u* second) {
   return {(*first & 0xFFFF) + (*second & 0xFFFF), (*first >> 16) | (*second >> 16) << 8};
 }
 
-// The first of the least.
+// The least sum, of equal ones the first.
 template <size_t kCount> Sum least(const std::array<Sum, kCount>& sums) {
   return *std::min_element(sums.begin(), sums.end(), [](Sum a, Sum b) { return a.error < b.error; });
 }
@@ -82,7 +82,7 @@ struct Step {
   size_t states;
 };
 
-// By the definition, one branch after the other.
+// By the definition, one branch after another.
 template <size_t kBranches> void selectInTurn(const Step& s) {
   for (size_t i = 0; i < s.states; ++i) {
     for (size_t j = 0; j < kBranches; ++j) {
@@ -96,11 +96,11 @@ template <size_t kBranches> void selectInTurn(const Step& s) {
   }
 }
 
-// A branch as a number of 32 bits that sorts as branches win: the error, saturated as no such error wins, then the branch's
-// place in the order, counted from 1 because what was there before stands against as small an error.
+// A branch as a number of 32 bits, such that the least number wins: the error, saturated where it cannot win, then the branch's
+// place in the order. Places count from 1, because the old value wins against an equal error.
 constexpr size_t kMostInOrder = 4094;  // states
 
-// As numbers, the branches into a state have a least one without a comparison that the processor would guess wrong.
+// As numbers, so that the best branch into a state is a minimum, without mispredicted jumps.
 template <size_t kBranches> void selectLeast(const Step& s) {
   constexpr size_t kWords = 2 * kBranches <= kVectorBytes / 2 ? 2 * kBranches : kVectorBytes / 2;
   const Lanes<Qvx16u, kWords> d;

@@ -24,7 +24,7 @@ QvxStatus initInteger(QvxsDFTSpec_R_16s** ppSpec, int len, int flag) {
                    [=](auto& plan, uint32_t n) { return choose(plan, n, flag); });
 }
 
-// transform(y, work): y is room for 2 * n floats. Odd numbers of reals take more than what is told, which is then allocated.
+// transform(y, work): y has room for 2 * n floats. Odd numbers of reals need more than the reported size; it is then allocated.
 template <class Record, class Transform> QvxStatus throughFloats(const Record& spec, Qvx8u* pBuffer, Transform transform) {
   const int64_t all = kPoint<Qvx32f> * spec.plan.n + 32 + spec.needed;
   const Scratch scratch(all <= spec.workSize ? pBuffer : nullptr, all);

@@ -88,10 +88,10 @@ template <class T> inline constexpr bool kHasOwnOrder = sizeof(T) == 4;
 // How a transform of n points goes. isApart: real and imaginary parts stand in vectors of their own. flag: one of QVX_FFT_SCALE_.
 // Powers of two up to what the fast transform takes; other lengths below 2^27.
 template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, int flag);
-// Completes a chosen plan. block, work: of the bytes that were told, any alignment.
+// Completes a chosen plan. block, work: of the reported sizes, any alignment.
 template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* block, uint8_t* work);
 
-// work: of the bytes that were told, any alignment. src may be dst. Interleaved points:
+// work: of the reported size, any alignment. src may be dst. Interleaved points:
 template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T* src, T* dst, uint8_t* work);
 // Fewer than kMostSmall of them, no power of two, by a jump to their code: a stack frame and a return would be a third of the
 // time.

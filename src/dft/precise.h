@@ -1,5 +1,5 @@
-// The transform of a table in more than the table's own precision, once for a record: rounded, it has an error of 0.2 eps, where
-// that of the table's type would have 1 eps and be a third of the error of a convolution.
+// The transform of a table in more than the table's own precision, once for a record: rounded, it has an error of 0.2 eps. In the
+// table's own type the error would be 1 eps, a third of the error of a convolution.
 #pragma once
 
 #include <type_traits>

@@ -1,4 +1,4 @@
-// Real transforms of any length: what real_32f.cpp and real_64f.cpp compile.
+// Real transforms of any length: what real_plan_32f.cpp and real_plan_64f.cpp compile.
 #pragma once
 
 #include <cstring>

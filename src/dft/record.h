@@ -12,7 +12,7 @@ namespace qvx::dft {
 template <class T_, template <class> class Plan_> struct Spec : RecordHead {
   using T = T_;
   using Plan = Plan_<T>;
-  int32_t workSize;  // what is told
+  int32_t workSize;  // as reported
   int64_t needed;
   Plan plan;
 };
@@ -31,7 +31,7 @@ template <class Record> QvxStatus bufferSize(const Record* spec, int* pSize) {
 
 template <class Record> QvxStatus release(Record* spec) { return fft::release(spec); }
 
-// highest: the order of the longest power of two. work(n): the bytes that are told, none beyond the limits.
+// highest: the order of the longest power of two. work(n): the bytes to report, none beyond the limits.
 template <class Record, class Work, class Choose>
 QvxStatus initAlloc(Record** ppSpec, int len, int flag, int highest, Work work, Choose choose) {
   if (isNull(ppSpec)) return qvxStatNullPtr;
@@ -58,7 +58,7 @@ QvxStatus initAlloc(Record** ppSpec, int len, int flag, int highest, Work work, 
                         });
 }
 
-// run(work), work being the memory that the transform needs. Where that is more than what is told, it is on the stack or
+// run(work), work being the memory that the transform needs. Where that exceeds the reported size, it is on the stack or
 // allocated.
 inline constexpr int64_t kMostOnStack = 4096;
 template <class Run> [[gnu::noinline]] QvxStatus withWorkOnStack(Run run) {

@@ -1,4 +1,4 @@
-// Records of transforms that need not be made: for calls that transform once, to which sines and cosines would cost more than the
+// Ready records of transforms: for calls that transform once, where computing sines and cosines would take longer than the
 // transform.
 #pragma once
 

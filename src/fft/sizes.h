@@ -1,4 +1,4 @@
-// The bytes that callers are told to bring: fixed values of the interface, whatever this library's tables take of them.
+// The sizes reported to callers: fixed values of the interface. The tables need no more.
 #pragma once
 
 #include <algorithm>

@@ -5,7 +5,7 @@
 
 namespace qvx::fir {
 
-// access(record), of one rate or several, after the vectors are tested and the identity is.
+// Calls access(record), of one rate or of several, after testing the vectors and the identity.
 template <class S, class Access, class... T> QvxStatus onRecord(S* state, Access access, const T*... vectors) {
   if ((isNull(vectors) || ...)) return qvxStatNullPtr;
   const QvxStatus status = checkRecord(state, S::kId, S::kMultirateId);
@@ -44,7 +44,7 @@ template <class S, class H, class... Factor> QvxStatus replaceTaps(const H* taps
       state, [=](auto& record) { return setTaps(record, taps, tapsFactor...); }, taps);
 }
 
-// Of records of one rate alone.
+// For records of one rate only.
 template <class S, class H> QvxStatus getSingleRateTaps(const S* state, H* taps) {
   const QvxStatus status = isNull(taps) ? qvxStatNullPtr : checkRecord(state, S::kId);
   return status == qvxStatOk ? copyTaps(*state, taps) : status;

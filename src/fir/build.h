@@ -21,8 +21,8 @@ template <class C> void place(FloatRecord<C>& record, Carver& carver, const Filt
   fft::Transform<C>::kInit(&spectral.spec, transform.order, fft::kInverseDivides, 0, specMemory, initMemory);
   if constexpr (kHasPartitions<C>) {
     if (record.tapsLen < kLeastPartitioned) return;
-    // The spectra of the samples, which are as many as a long transform's numbers at most, lie where that has its block: a call
-    // that takes it forgets them. The told size of a record for doubles has no room for both.
+    // The spectra of the samples lie in the block of a long transform, whose length they do not exceed: a call that takes the
+    // transform forgets them. The reported size of a record for doubles has no room for both.
     record.partitions = carver.take<Partitions<C>>(1);
     Partitions<C>& partitions = *record.partitions = {};
     const auto most = static_cast<int64_t>(partitions.mostPoints(static_cast<size_t>(record.tapsLen)));
@@ -40,7 +40,7 @@ template <class S, class T> void place(IntegerRecord<S, T>& record, Carver& carv
   else record.shortTaps = carver.takeLines<S>(record.tapsLen);
 }
 
-// Vectors begin with a cache line, so that transforms and filters meet their buffers at its beginning.
+// Vectors begin at a cache line, so that the buffers of transforms and filters are aligned.
 template <class S> void layOut(S& state, Carver& carver, int tapsLen, const FilterTransform& transform) {
   state.magic = S::kId;
   state.tapsLen = tapsLen;

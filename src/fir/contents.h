@@ -30,7 +30,7 @@ inline int placesFor(const Qvx32s* taps, size_t n) {
   while (most >> places > kMost) ++places;
   return places;
 }
-// The power of two by which the largest of float taps has to be divided to come to 16384 to 32767.
+// The exponent of the power of two that divides the largest of float taps to 16384 to 32767.
 inline int factorFor(const Qvx32f* taps, size_t n) {
   constexpr float kMost = 32767;
   float most = 0;
@@ -49,7 +49,7 @@ template <class To, class From, class F> To eachPart(From v, F f) {
   else return f(v);
 }
 
-// The taps as reduce() makes integers of their parts, to be taken times 2^tapsFactor.
+// Stores the taps as the integers that reduce() makes of their parts; they count times 2^tapsFactor.
 template <class R, class H, class F> void setReduced(R& record, const H* taps, int64_t tapsFactor, F reduce) {
   using S = typename R::Kernel;
   using T = typename R::Taps;
@@ -89,7 +89,7 @@ requires std::is_floating_point_v<Part<H>> QvxStatus setTaps(R& record, const H*
   return qvxStatOk;
 }
 
-// The caller's delay line is newest first; none stands for zeros.
+// The caller's delay line is newest first; a null pointer means zeros.
 template <class S> void setDelay(S& state, const typename S::Sample* newestFirst) {
   state.delay.index = 0;
   if constexpr (!std::is_integral_v<Part<typename S::Kernel>>) state.forgetSamples();

@@ -18,15 +18,15 @@ enum WindowType { kBartlett = 0, kBlackmanOpt = 1, kHamming = 2, kHann = 3 };
 constexpr size_t kLanes = kVectorBytes / sizeof(double);
 using V = Vec<Lanes<double, kLanes>>;
 
-// In turns for a sample.
+// A frequency in turns a sample.
 class Frequency {
  public:
   explicit Frequency(Real f)
       : first_(std::bit_cast<double>(std::bit_cast<uint64_t>(static_cast<double>(f)) >> 31 << 31)),
         rest_(static_cast<double>(f - first_)) {}
 
-  // Of the angles m samples from the middle, a whole number of halves: its products with the first 22 bits are exact, and those
-  // with the rest are small.
+  // Sines and cosines at m samples from the middle. m is a multiple of 1/2: its products with the first 22 bits of the frequency
+  // are exact, and those with the rest are small.
   SinCos<V> at(V m) const {
     const V turns = fractionOfTurns(m * same<V>(first_)) + fractionOfTurns(m * same<V>(rest_));
     return sinCosOfTurns(fractionOfTurns(turns));
@@ -42,7 +42,7 @@ V overPiM(V value, V m, double middle) {
   return hn::IfThenElse(isMiddle, same<V>(middle), value / hn::IfThenElse(isMiddle, same<V>(1), m * same<V>(kPi)));
 }
 
-// f(i, m, count) for the taps up to the middle, a vector at a time: m of the one from i on is how far it is from the middle.
+// Calls f(i, m, count) for the taps up to the middle, a vector from i on at a time; m: their distances from the middle.
 template <class F> void forEachVector(int n, F f) {
   const size_t first = (elements(n) + 1) / 2;
   const V number = hn::Iota(TagOf<V>(), 0);
@@ -75,7 +75,7 @@ double gainAt(const Qvx64f* taps, int n, Real frequency, bool isAntisymmetric) {
 
 bool isInside(Qvx64f frequency) { return frequency > 0 && frequency < 0.5; }
 
-// tapsOf(m) for the taps up to the middle, which is m = 0.
+// tapsOf(m) computes the taps at distances m from the middle.
 template <class Taps>
 QvxStatus design(Qvx64f* taps, int n, int window, int normalise, Real passes, bool isAntisymmetric, Taps tapsOf) {
   const int first = (n + 1) / 2;

@@ -1,4 +1,4 @@
-// The filters without a record: what the caller keeps, and how it is tested.
+// Filters without a record: what the caller keeps for them, and its tests.
 #pragma once
 
 #include "fir/filter.h"
@@ -67,7 +67,7 @@ template <class T, class F> T rounded(F v) {
   }
 }
 
-// The largest finite power is far enough up for any sum but 0, which stays 0.
+// Kept finite: the largest power saturates any sum but 0, which stays 0.
 template <class F> F unitOf(int scaleFactor) {
   constexpr int kMost = std::numeric_limits<F>::max_exponent - 1;
   return powerOfTwo<F>(std::min(-int64_t{scaleFactor}, int64_t{kMost}));

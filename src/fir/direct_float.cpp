@@ -32,11 +32,11 @@ template <int kLimit, class T> void filterShort(const Stateless<T, T>& caller, c
   T p[kLimit];
   copyReversed(caller.taps, taps, p);
   DelayLine<T> line = {caller.delay, *caller.index};
-  // Outputs that need old samples, and all if the others would be less than a vector.
+  // The outputs that need old samples; all outputs if the others would be less than a vector.
   const size_t head = n < old + V ? n : old;
   if (head > 0) {
     T x[2 * kLimit + V];
-    // After the last index the samples begin at 0: there alone this form has renewed them.
+    // At the last index the samples begin at 0: this form has stored the newest ones only there.
     std::copy_n(line.window + (line.index + 1) % caller.tapsLen, old, x);
     std::copy_n(src, head, x + old);
     if (head < V) std::fill_n(x + old + head, V - head, T{});

@@ -13,8 +13,8 @@ namespace qvx::fir {
 
 template <class C> bool isLive(const FloatRecord<C>& state) { return !isNull(state.partitions) && state.partitions->isLive; }
 
-// Filters samples that are copied to the end of the window first, so src may be dst. The window moves on in its memory, and back
-// to the beginning when it comes to the end.
+// Copies the samples to the end of the window before it filters them, so src may be dst. The window moves on in its memory, and
+// back to the beginning when it reaches the end.
 template <class C, class T>
 [[gnu::noinline]] void throughPartitions(FloatRecord<C>& state, const T* src, T* dst, size_t n, int scaleFactor) {
   Partitions<C>& partitions = *state.partitions;
@@ -54,12 +54,12 @@ template <class C, class T>
   }
 }
 
-// The samples of a call from which the long transform is faster: most of those that fill one.
+// The samples of a call from which the long transform is faster: three quarters of what fills one.
 template <class C> size_t mostPartitioned(const FloatRecord<C>& state) {
   return static_cast<size_t>(state.spectral.length - state.tapsLen) / 4 * 3;
 }
 
-// Whether a call of n samples goes that way, for which the spectra are made where they are missing.
+// Whether a call of n samples takes the partitions; makes their spectra where they are missing and pay.
 template <class C> [[gnu::noinline]] bool takesPartitions(FloatRecord<C>& state, size_t n) {
   if (n >= mostPartitioned(state)) return false;
   if (!isLive(state)) state.delay.settled(state.tapsLen);
@@ -86,13 +86,13 @@ template <class S, class H> void oneSample(IntegerRecord<S, H>& state, S x, S* y
 
 // ---- blocks
 
-// Moves the window on by n samples, which follow it in memory.
+// Moves the window on by the n samples that follow it in memory.
 template <class R> void advance(R& state, size_t n) {
   auto* window = state.delay.window;
   moveVectors(window + n, static_cast<size_t>(state.tapsLen), window);
 }
 
-// Filters samples that are copied to the end of the window first, so src may be dst.
+// Copies the samples to the end of the window before it filters them, so src may be dst.
 template <class C, class T> void throughWindow(FloatRecord<C>& state, const T* src, T* dst, size_t n, int scaleFactor) {
   constexpr bool kConverts = !std::is_same_v<C, T>;
   constexpr size_t kMost = kConverts ? FloatRecord<C>::kChunk / 2 : FloatRecord<C>::kChunk;
@@ -115,9 +115,9 @@ template <class C, class T> void throughWindow(FloatRecord<C>& state, const T* s
   }
 }
 
-// The first outputs, whose windows reach back before src, by way of the window's memory; the others straight from src, unless a
-// copy of them costs less than going in two steps: 256 outputs of 16 taps take 65 ns with the copy, 88 in two steps. Of 4 taps,
-// two steps take less even for 64 outputs, 20 ns to 23; between 6 and 8 taps that turns.
+// Filters the first outputs, whose windows begin before src, in the window's memory, and the others straight from src, unless
+// copying them costs less than two steps: 256 outputs of 16 taps take 65 ns with the copy, 88 in two steps. With 4 taps two steps
+// are faster even for 64 outputs, 20 ns to 23; the balance turns between 6 and 8 taps.
 template <class C> void straight(FloatRecord<C>& state, const C* src, C* dst, size_t n) {
   const auto taps = static_cast<size_t>(state.tapsLen);
   const size_t head = (taps - 1 + kVectorElements<C> - 1) / kVectorElements<C> * kVectorElements<C>;
@@ -134,10 +134,10 @@ template <class C> void straight(FloatRecord<C>& state, const C* src, C* dst, si
 }
 
 #if QVXS_AVX512
-// Few taps on short blocks: each vector is permuted with the one before it, so that nothing is loaded which was just stored in
-// parts, and the number of taps is the compiler's, which keeps them and the permutations in registers. 64 outputs of 4 taps take
-// 13 ns, 25 with a loop over the taps, 20 outputs 12 ns, 24 through the window; of 16 taps 1024 outputs are the last to gain. The
-// sums are those of convolve(), to the bit. src may be dst.
+// Few taps on short blocks: each vector is permuted with the one before it, so that nothing is loaded that has just been stored
+// in parts. The number of taps is a constant of the code, so the compiler keeps taps and permutations in registers. 64 outputs of
+// 4 taps take 13 ns, 25 with a loop over the taps; 20 outputs 12 ns, 24 through the window; with 16 taps up to 1024 outputs gain.
+// The sums are those of convolve(), to the bit. src may be dst.
 template <class C> bool fitsRegisters(size_t taps, size_t n) {
   constexpr size_t N = kVectorElements<C>;
   return taps <= N && n <= 64 * N;
@@ -235,17 +235,17 @@ template <class S, class T> QvxStatus direct(IntegerRecord<S, T>& state, const S
 
 // ---- which way a call goes
 
-// The fewest taps that a transform filters faster than the sum of products. Wide vectors do those sooner: of 16 taps and 32fc,
-// AVX-512 takes 0.4 of the transform's time, SSSE3 0.9.
+// The fewest taps for which a transform is faster than the sum of products. Wide vectors gain more in the sums: for 16 taps of
+// 32fc they take 0.4 of the transform's time in AVX-512, 0.9 in SSSE3.
 constexpr int byRegisters(int avx512, int avx2, int ssse3) { return kHasMasks ? avx512 : kFuses ? avx2 : ssse3; }
 template <class C> inline constexpr int kTransformPaysFrom = byRegisters(128, 80, 64);
 template <> inline constexpr int kTransformPaysFrom<Qvx64f> = byRegisters(100, 64, 64);
 template <> inline constexpr int kTransformPaysFrom<Qvx32fc> = byRegisters(38, 32, 18);
 template <> inline constexpr int kTransformPaysFrom<Qvx64fc> = 32;
 
-// Whether the n samples of a call are worth the transform. Of samples that are converted, only the transform's
-// blocks are divided between threads, so long calls always take it: 64 to 127 taps of 32f take 0.6 to 0.8 of its time with one
-// thread, 1.2 to 1.6 with two.
+// Whether a call of n samples takes the transform. Where samples are converted, only the transform's blocks are divided between
+// threads, so long calls always take it: the sums of 64 to 127 taps of 32f take 0.6 to 0.8 of its time with one thread, 1.2 to
+// 1.6 with two.
 template <class S> bool isWorthTransform(int tapsLen, size_t n) {
   using C = typename S::Kernel;
   constexpr size_t kAbove = PartsOf<C>::kCount == 1 ? 511 : 255;
@@ -277,7 +277,7 @@ QvxStatus filterBlock(S& state, const typename S::Sample* src, typename S::Sampl
 
 // ---- the checked functions
 
-// The arguments that are looked at before the record's identity.
+// Tests the arguments that come before the record's identity.
 template <class S, class... T> QvxStatus checkFilter(const S* state, int numIters, const T*... vectors) {
   if ((isNull(vectors) || ...) || isNull(state)) return qvxStatNullPtr;
   return numIters < 1 ? qvxStatBadSize : qvxStatOk;

@@ -6,7 +6,7 @@ using namespace qvx::fir;
 
 namespace {
 
-// Those that take records of one rate alone. In place, never by the transform, not even with a record that has it.
+// The functions for records of one rate only. In place they never take the transform, even where the record has one.
 QvxStatus filterSingleRate(const Qvx32s* src, Qvx32s* dst, int numIters, QvxsFIRState_32s* state, int scaleFactor) {
   const QvxStatus status = checkFilter(state, numIters, src, dst);
   if (status != qvxStatOk) return status;

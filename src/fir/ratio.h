@@ -27,7 +27,7 @@ struct Factors {
   int delayLen(int tapsLen) const { return static_cast<int>((int64_t{tapsLen} + up - 1) / up); }
 };
 
-// Of one output: the sample that its first tap meets, and that tap. The taps after it, `up` places apart, meet the samples
+// For one output: the sample that its first tap meets, and that tap. The following taps, `up` places apart, meet the samples
 // before.
 struct Branch {
   int64_t sample;
@@ -37,7 +37,7 @@ struct Branch {
     const int64_t sample = (place >= 0 ? place : place - up + 1) / up;
     return {sample, place - up * sample};
   }
-  // That of the output after it; by what place `down` stands for.
+  // Moves on to the next output: by `down`, or by the Branch of `down`.
   void advance(int64_t up, int64_t down) { advance(of(down, up), up); }
   void advance(const Branch& by, int64_t up) {
     sample += by.sample;
@@ -46,8 +46,8 @@ struct Branch {
   }
 };
 
-// A filter reduced to factors without a common divisor. If they have one, most of the taps meet nothing but zeros, or make what
-// is dropped: the others are the taps of the reduced filter.
+// A filter reduced to factors without a common divisor. If the factors have one, some taps meet only zeros or make only dropped
+// outputs; the others are the taps of the reduced filter.
 struct Ratio {
   int up;
   int down;

@@ -14,8 +14,8 @@ template <class C> class RowSpectra {
  public:
   static constexpr int kLeastTaps = 128;  // of a branch
 
-  // For blocks of up to `most` periods, in rows whose next sample is at `history`, in a number of bytes that has to do for the
-  // rows as well. Places nothing if they don't pay or do not fit.
+  // Places the spectra for blocks of up to `most` periods, in rows whose next sample is at `history`. The rows share the given
+  // bytes with them. Places nothing if spectra do not pay or do not fit.
   void place(const Ratio& q, int64_t rows, int64_t history, int64_t most, Carver& carver, int64_t bytes) {
     if (q.taps < kLeastTaps) return;
     Branch last = q.branch();
@@ -63,7 +63,7 @@ template <class C> class RowSpectra {
     }
   }
 
-  // Whether a block of some periods takes less time so. The unit is a product of the direct way, 0.018 ns with AVX-512; a call
+  // Whether spectra are faster for a block of `periods`. The unit is a product of the direct way, 0.018 ns with AVX-512; a call
   // for a transform or a product of spectra takes as long as kCall of them.
   bool areWorth(int64_t periods) const {
     constexpr int64_t kCall = 1000;
@@ -92,7 +92,7 @@ template <class C> class RowSpectra {
   }
 
  private:
-  // Spectra of rows that wait for the branches: none does for a single one.
+  // The spectra of rows that are kept for further branches: with a single branch, one at a time.
   int64_t kept() const { return up_ == 1 ? 1 : rows_; }
   void addProduct(int64_t branch, int64_t row) {
     const C* const spectrum = spectra_ + (branch * rows_ + row) * points();

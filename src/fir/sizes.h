@@ -1,4 +1,4 @@
-// The sizes of the records, as users allocate by them: fixed values of the interface. The layout (build.h) needs less at every
+// The sizes of the records that users allocate: fixed values of the interface. The layout (build.h) needs less, whatever the
 // number of taps and threads.
 #pragma once
 
@@ -47,8 +47,8 @@ template <class C> inline constexpr int kLeastTransformed = 64;
 template <> inline constexpr int kLeastTransformed<Qvx32fc> = 16;
 template <> inline constexpr int kLeastTransformed<Qvx64fc> = 32;
 
-// The transform of a filter, and the threads that find memory of their own in the record. They are counted once, since another
-// thread may set their number between the size of a record and its layout.
+// The transform of a filter, and the number of threads that the record has memory for. It is read once, since another thread may
+// change it between the record's size and its layout.
 struct FilterTransform : fft::TransformSizes {
   int threads = 1;
 };

@@ -7,7 +7,7 @@ using namespace qvx;
 using namespace qvx::convolution;
 
 // Taps and positions from the last to the first. The window has room for as many new samples as it has old ones, so that the head
-// of a vector finds its past and itself in one place.
+// of a vector lies right after its past.
 struct QvxsFIRSparseState_32f {
   Qvx32f* taps;
   Qvx32s* positions;

@@ -11,7 +11,7 @@ namespace qvx::fir {
 
 using namespace convolution;
 
-// What the kernels for floats work on.
+// The record of float kernels.
 template <class C> struct FloatRecord : RecordHead {
   using Kernel = C;
   using Taps = C;
@@ -24,7 +24,7 @@ template <class C> struct FloatRecord : RecordHead {
   SpectralFilter<C> spectral;
   Partitions<C>* partitions;  // null: none
 
-  // Before whatever filters by other ways: the partitions' spectra are no longer those of the samples.
+  // To be called before samples are filtered in another way: the partitions' spectra are then no longer those of the samples.
   void settle() {
     delay.settled(tapsLen);
     forgetSamples();
@@ -36,7 +36,7 @@ template <class C> struct FloatRecord : RecordHead {
   }
 };
 
-// Of those for integers: taps as they were reduced, in 16 bits, and in pairs.
+// The record of integer kernels: taps reduced to 16 bits, alone and in pairs.
 template <class S, class T> struct IntegerRecord : RecordHead {
   using Kernel = S;
   using Taps = T;
@@ -47,7 +47,7 @@ template <class S, class T> struct IntegerRecord : RecordHead {
   DelayLine<S> delay;
   T* taps;  // reversed
   int tapsFactor;
-  bool isPaired;  // not if -im of a tap has no 16 bits
+  bool isPaired;  // false if -im of a tap does not fit 16 bits
   S* shortTaps;   // reversed
   Qvx16sc* pairs;
 };

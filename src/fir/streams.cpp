@@ -1,4 +1,4 @@
-// Filters of streams that bring the samples before their own.
+// Filters that keep no samples: the caller's vector has the earlier ones before its start.
 #include "fir/streams.h"
 
 #include <numeric>
@@ -11,7 +11,7 @@ using namespace qvx::fir;
 
 namespace {
 
-// fill(record) for what a record holds beside its taps' place.
+// fill(record) stores everything but the place of the taps.
 template <class S, class Fill> QvxStatus make(S** ppState, Qvx8u* block, uint32_t id, int tapsLen, const Factors& f, Fill fill) {
   using T = typename S::Sample;
   StreamRecord<T>* made = nullptr;
@@ -88,7 +88,7 @@ template <class T, class Sum> QvxStatus filterEach(const StreamRecord<T>& record
   return qvxStatOk;
 }
 
-// Of one rate and a vector of outputs or more. In place, they go by way of memory of their own.
+// One rate, and at least a vector of outputs. In place they go through memory of their own.
 void filterRow(const StreamRecord<Qvx32f>& record, const Qvx32f* src, Qvx32f* dst, size_t n) {
   constexpr size_t kSome = 1024;
   const size_t taps = elements(record.tapsLen);

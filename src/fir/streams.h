@@ -29,8 +29,7 @@ template <class H> struct TapLists {
   }
 };
 
-// x: the first sample of the call, with `before` samples before it; what would be before those is not there. put(j, y) takes the
-// outputs in turn.
+// x: the first sample of the call, preceded by `before` samples; earlier ones are not read. put(j, y) takes the outputs in turn.
 template <class H, class T, class Sum, class Put>
 void forEachOutput(const TapLists<H>& lists, const Factors& f, const T* x, int64_t before, int64_t outputs, Sum sum, Put put) {
   Branch branch = Branch::of(int64_t{f.downPhase} - f.upPhase, f.up);

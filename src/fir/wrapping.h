@@ -1,4 +1,4 @@
-// Filters without a record, in integers: the sums, and how their factors count.
+// Integer filters without a record: their sums and scale factors.
 #pragma once
 
 #include "fir/state.h"
@@ -28,7 +28,7 @@ struct ComplexWrapping : Reduction {
   }
 };
 
-// Scale factors here count up to 31 places only.
+// Scale factors count up to 31 places only here.
 inline int64_t placesOf(int tapsFactor, int scaleFactor) {
   return std::clamp<int64_t>(int64_t{tapsFactor} - scaleFactor, -31, 31);
 }

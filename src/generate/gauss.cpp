@@ -27,7 +27,7 @@ template <class T, uint32_t kNumber> struct Gauss {
   int32_t needPair;  // 0: one is waiting
   bool ownsBlock;
   Waiting waiting;
-  double unused;  // 0: the size told has room for it
+  double unused;  // 0: the reported size has room for it
 };
 
 }  // namespace qvx::generate

@@ -8,7 +8,7 @@ using namespace qvx::generate;
 
 namespace qvx::generate {
 
-// The owner stands where the identity's word and the seed leave room for none: at the end, in what the size told has left.
+// The flag of ownership is at the end, where the reported size has room left: identity and seed fill the beginning.
 template <class T, uint32_t kNumber> struct Uniform {
   using Sample = T;
   static constexpr uint32_t kId = kNumber;

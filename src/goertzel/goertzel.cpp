@@ -1,9 +1,9 @@
 // One or two frequencies of a vector: R = sum of x[n] z^(len - n), z = e^(jw).
 //
-// The recursion s[n] = x[n] + 2 cos w s[n-1] - s[n-2] is one chain, and at low frequencies its states grow with 1 / sin w, and
-// their roundings with them. So the sum is taken by powers of z: S lanes keep sums of their own, A = A z^S + x, in doubles, and
-// are joined by powers of z in the end. A rounding is turned and stays as small as it was: 10^6 samples are off by 2^-36 of the
-// sum of their magnitudes.
+// The recursion s[n] = x[n] + 2 cos w s[n-1] - s[n-2] is one dependent chain, and at low frequencies its states grow with 1 / sin
+// w, and their rounding errors with them. So the sum is taken by powers of z: each of S lanes keeps a sum A = A z^S + x in
+// doubles, and powers of z join them in the end. Rounding errors are rotated and do not grow: 10^6 samples are off by 2^-36 of
+// the sum of their magnitudes.
 #include <algorithm>
 #include <utility>
 
@@ -20,11 +20,11 @@ namespace {
 
 constexpr size_t N = kVectorBytes / sizeof(double);
 using V = Vec<Lanes<double, N>>;
-// Two vectors for one frequency wait for their multiplications; for two frequencies they fill each other's time.
+// Independent vectors of sums for each frequency: one frequency still waits for its multiplications, two fill each other's waits.
 constexpr size_t kChains = 2;
 constexpr size_t S = N * kChains;
 
-// A frequency in turns a sample, and what is found there.
+// A frequency in turns a sample, and the result at it.
 struct Component {
   double frequency;
   double re = 0;
@@ -100,7 +100,7 @@ template <class T, class F> QvxStatus goertz(const T* src, int len, const void* 
   return std::all_of(frequency, frequency + count, isFrequency<F>) ? qvxStatOk : qvxStatBadRelFreq;
 }
 
-// result(component) is what is told of it.
+// result(component) makes the caller's result.
 template <size_t kCount, class T, class R, class F, class Result>
 QvxStatus goertz(const T* src, int len, R* val, const F* frequency, Result result) {
   const QvxStatus status = goertz(src, len, val, frequency, int{kCount});
@@ -122,7 +122,7 @@ template <size_t kCount, class T, class R, class F> QvxStatus goertz(const T* sr
 template <size_t kCount, class T>
 QvxStatus goertz(const T* src, int len, Qvx16sc* val, const Qvx32f* frequency, int scaleFactor) {
   const RoundingScope nearest(Rounding::kNearest);
-  // Beyond 1000 places nothing but zeros or the ends of the range is left.
+  // Beyond 900 places every result is 0 or an end of the range.
   const auto factor = powerOfTwo<double>(-std::clamp(scaleFactor, -900, 900));
   return goertz<kCount>(src, len, val, frequency, [factor](const Component& c) {
     return Qvx16sc{roundedTo<Qvx16s>(c.re * factor), roundedTo<Qvx16s>(c.im * factor)};

@@ -42,8 +42,8 @@ float multiplier(int scaleFactor) {
   return std::bit_cast<float>(scaleFactor < 0 ? 0x3F800000 + places : 0x3F800000 - places);
 }
 
-// Where a remainder can be had, the reciprocal's product is made the quotient by it, in a third of a division's time. The
-// dividend has 17 bits, so that the rounded quotient is the nearest float.
+// With fused multiplications the product with the reciprocal is corrected by its remainder, in a third of a division's time. The
+// dividend has 17 bits, so the corrected quotient is the nearest float.
 struct Quotient {
   float divisor;
   float reciprocal;

@@ -1,11 +1,11 @@
 // The Hilbert transform h of n real numbers.
 //
-// Its spectrum is -i X[k] below n/2, i X[k] above, and 0 at 0 and n/2. For even n neither X nor that has to be made: with Z the
-// transform of the numbers as H = n/2 complex ones, a = Z[k], b = Z[H - k], W = exp(-2 pi i k / n),
+// Its spectrum is -i X[k] below n/2, i X[k] above, and 0 at 0 and n/2. For even n neither spectrum has to be computed: with Z the
+// transform of the numbers taken as H = n/2 complex ones, a = Z[k], b = Z[H - k], W = exp(-2 pi i k / n),
 //
 //   p = conj(W) (a + conj b) / 2     q = W (a - conj b) / 2     Z'[k] = p - q     Z'[H - k] = -conj(p + q)
 //
-// is that of h. So there are two transforms of half the length and one pass between them.
+// is the transform of h, taken likewise. So two transforms of half the length and one pass between them do it.
 #pragma once
 
 #include "transform/matrix.h"
@@ -18,7 +18,7 @@ using transform::inVectors;
 using transform::kWidest;
 using transform::withLanesWithin;
 
-// ---- Up to so many numbers: the product with a matrix of constants
+// ---- Few numbers: the product with a matrix of constants
 
 inline constexpr int kLongestByMatrix = 16;
 
@@ -58,7 +58,7 @@ inline size_t turnTableLength(size_t n) {
   withLanesWithin<Qvx32f>(turns(n), [&](auto L) { length = (turns(n) + L - 1) / L * 2 * L; });
   return length;
 }
-// W / n for each k from 1 to turns(n), in groups of L, so that the way back through H points needs no factor.
+// W / n for each k from 1 to turns(n), in groups of L, so that the inverse transform of H points needs no factor.
 inline void writeTurns(Qvx32f* out, size_t n) {
   const double f = 1 / static_cast<double>(n);
   const size_t count = turns(n);
@@ -101,7 +101,7 @@ inline void turn(Qvx32f* z, size_t n, const Qvx32f* table) {
   z[1] = 0;
 }
 
-// The spectrum of an odd number n of real numbers, packed with the first one alone, times -i; in place.
+// Multiplies by -i, in place, the spectrum of an odd number n of real numbers, packed with the first number alone.
 inline void turnPairs(Qvx32f* spectrum, size_t n) {
   spectrum[0] = 0;
   for (size_t k = 1; k < n; k += 2) {

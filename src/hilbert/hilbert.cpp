@@ -30,7 +30,7 @@ struct QvxsHilbertSpec_16s16sc : Spec<0x434D4147> {};
 
 namespace {
 
-// What the transforms of this length say to it.
+// The status of the transforms of this length.
 QvxStatus checkLength(int len) {
   if (len < 1) return qvxStatBadSize;
   const auto n = static_cast<uint32_t>(len);
@@ -75,7 +75,7 @@ template <class Record> QvxStatus release(Record* spec) {
   return releaseRecord(spec, checkRecord(spec, Record::kId), InCallersBlock::kForgotten);
 }
 
-// h of x, which may be one vector.
+// The Hilbert transform h of x; both may be one vector.
 template <class Record> void hilbertOf(const Record& spec, const Qvx32f* x, Qvx32f* h, Qvx8u* work) {
   const auto n = static_cast<size_t>(spec.len);
   if (spec.len <= kLongestByMatrix) {
@@ -91,8 +91,8 @@ template <class Record> void hilbertOf(const Record& spec, const Qvx32f* x, Qvx3
   }
 }
 
-// run(y, work) with room for `count` numbers y and the work of a transform. What fits the stack needs no block; the large room
-// there costs 12 ns, for its pages are touched one by one.
+// run(y, work): y has room for `count` numbers, work is the transform's. What fits the stack is not allocated; the larger room
+// there costs 12 ns, since its pages are touched one by one.
 template <int64_t kBytes, class Run> [[gnu::noinline]] QvxStatus onStack(Run run) {
   alignas(64) Qvx8u room[kBytes];
   return run(Scratch(room, 0));

@@ -1,9 +1,9 @@
 // Many sections at once, one in each lane: while the first takes a sample, the second takes the first's output of two steps
-// before, and so on. The recursion is the plain one, so filters for which look-ahead would lose accuracy come here too. In SSE,
-// 32-bit filters have 32-bit lanes, which are twice as many.
+// before, and so on. The recursion is the plain one, so this also serves filters for which look-ahead would lose accuracy. In
+// SSE, 32-bit filters have 32-bit lanes, twice as many.
 //
-// A step takes 6 cycles, of a multiplication for d1, an addition to it and a multiplication for d0, for 8 sections as for 16
-// (AVX-512). Two steps of delay from lane to lane keep what goes from one to the next off that path.
+// A step has a latency of 6 cycles (AVX-512) for 8 sections as for 16: a multiplication for d1, an addition to it and a
+// multiplication for d0. Two steps of delay from lane to lane keep the transfer between lanes off that path.
 #pragma once
 
 #include "frame/unroll.h"
@@ -20,10 +20,10 @@ template <class P> class Cascade {
   using V = Vec<D>;
 
  public:
-  // From this many sections on it is faster than to take them one by one with look-ahead, whose time for a sample depends on the
-  // lanes: 1.2 cycles in 8 of them, 2.7 in 2.
+  // From this many sections on lanes are faster than look-ahead section by section, whose time a sample depends on the lanes: 1.2
+  // cycles with 8 of them, 2.7 with 2.
   static constexpr size_t kFew = kLanes == 2 ? 3 : kLanes == 4 ? 4 : 5;
-  // Sections that go together, in up to 4 vectors: with 8 of two lanes, 16 take 1.2 times as long as twice 8.
+  // The most sections in one group, in up to 4 vectors: in 8 vectors of two lanes, 16 take 1.2 times as long as twice 8.
   static constexpr size_t kMost = std::min<size_t>(16, 4 * kCount);
 
   static constexpr int64_t padded(int sections) { return up<int64_t{kCount}>(sections); }
@@ -34,12 +34,12 @@ template <class P> class Cascade {
 
   bool isThere() const { return table_ != nullptr; }
 
-  // The sections from one on that is a multiple of kMost, up to kMost of them.
+  // How many sections go together from `first` on, a multiple of kMost.
   size_t count(size_t first) const { return std::min(kMost, sections_ - first); }
   Cascade from(size_t first) const { return {count(first), table_ + kRows * first}; }
 
-  // Taps b0, b1, b2, a1, a2. The state is kept as what the next output takes of it, so that it waits for one multiplication less:
-  // d0' = e1 * x + d1 - a1 * d0, d1' = e2 * x - a2 * d0, e = b - a * b0.
+  // Taps b0, b1, b2, a1, a2. The state is kept as the next output needs it, which takes a multiplication off the latency: d0' =
+  // e1 * x + d1 - a1 * d0, d1' = e2 * x - a2 * d0, e = b - a * b0.
   template <class T> void set(size_t section, const T* t) {
     using Exact = std::conditional_t<sizeof(T) == 4, double, long double>;  // products of floats need no more
     const Exact b0 = t[0];
@@ -67,7 +67,7 @@ template <class P> class Cascade {
  private:
   static constexpr size_t kDelay = 2;
 
-  // What the lane above gave, and in the last one the first of the vector above.
+  // Each lane gets the value of the lane above, the last lane that of the first lane of the vector above.
   static V fromAbove(V above, V v) {
     if constexpr (kVectorBytes == 16) return hn::CombineShiftRightLanes<1>(D(), above, v);
     else return delayed<kCount - 1>(v, above);
@@ -94,7 +94,7 @@ template <class P> class Cascade {
       last0 = hn::IfThenElse(isNow, d0, last0);
       last1 = hn::IfThenElse(isNow, d1, last1);
     }
-    // ago: which of the last two outputs is the older. above: that of the vector above.
+    // ago: the older of the last two outputs. above: its value in the vector above.
     [[gnu::always_inline]] void step(V above, V Group::*ago) {
       const V x = fromAbove(above, this->*ago);
       this->*ago = hn::MulAdd(b0, x, d0);
@@ -112,7 +112,7 @@ template <class P> class Cascade {
   }
   size_t lanesOf(size_t first) const { return std::min(kMost, static_cast<size_t>(padded(static_cast<int>(sections_ - first)))); }
 
-  // All groups, step by step: n samples, and until the last lane has had the last of them.
+  // Runs all groups step by step for n samples, and on until the last lane has taken the last sample.
   template <size_t kGroups> [[gnu::always_inline]] static void walk(Group (&groups)[kGroups], P* work, size_t n) {
     constexpr size_t kLast = kDelay * (kGroups * kCount - 1);  // steps until the last lane's first sample
     const auto enter = [&](size_t t) { unrolled<kGroups>([&](auto g) { groups[g].enter(t); }); };

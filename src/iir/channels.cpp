@@ -18,7 +18,7 @@ QvxStatus eachChannel(Src* const* src, Dst* const* dst, int len, int channels, S
   return qvxStatOk;
 }
 
-// Contract: the number of channels is tested before the first record, and a direct form is none of this function's.
+// Contract: the number of channels is tested before the first record, and the direct form is refused.
 template <class Src, class Dst>
 QvxStatus floats(Src* const* src, Dst* const* dst, int len, int channels, QvxsIIRState_32f* const* states) {
   if (isNull(states) || isNull(src) || isNull(dst)) return qvxStatNullPtr;
@@ -30,7 +30,7 @@ QvxStatus floats(Src* const* src, Dst* const* dst, int len, int channels, QvxsII
   return eachChannel(src, dst, len, channels, states, [](int) { return 0; });
 }
 
-// Contract: after it, and with the status of a wrong record.
+// Contract: the number of channels is tested after the first record, and refused with the status of a wrong record.
 template <class Src, class Dst>
 QvxStatus integers(Src* const* src, Dst* const* dst, int len, int channels, QvxsIIRState64f_32s* const* states,
                    const int* scaleFactors) {

@@ -1,17 +1,17 @@
 // Direct-form filters, a vector of outputs at a time.
 //
-// Over a vector the filter is one matrix: from the vector's inputs, and from what the delay line brings to its outputs, to those
-// outputs and the next delay line. Its columns are found by filtering an impulse at each of these places. All places are lanes,
-// so that a complex filter is no other than a real one. What waits for the vector before is only the way from the delay line's
-// first vector to the next one: a shuffle and 2 to 8 multiplications for all lanes, where the plain loop waits 8 cycles for each.
+// Over a vector the filter is one matrix, from the inputs and the delay line to the outputs and the next delay line. Its columns
+// are found by filtering an impulse at each input and each place of the line. Real and imaginary parts are lanes, so a complex
+// filter is no different from a real one. Only the path from the delay line's first vector to the next one depends on the vector
+// before: a shuffle and 2 to 8 multiplications for all lanes, where the plain loop waits 8 cycles for each.
 //
-// Columns hold zeros for outputs before their input, which infinities and NaN would turn into NaN: blocks that are not finite are
-// not for this kernel.
+// Columns hold zeros for outputs before their input, which infinities and NaN would turn into NaN, so this kernel takes finite
+// blocks only.
 //
-// The matrix is a rewriting of the taps, in 64-bit floats: that loses nothing in filters of 32 bits. Those of 64 bits have the
-// way of the delay line in twice their digits: rounded, it would move the poles. They also ask how far the impulse response of
-// 1 / A rises: a delay line of great values that cancel out is rounded where they are great. Over 6000 filters with radii to
-// 0.9999, the error was at most 2.9 times the plain loop's where the response never comes above 1, 4 at 1.4, 120 at 32.
+// The matrix is in 64-bit floats, in which 32-bit filters lose nothing. 64-bit filters have the columns of the delay line in
+// twice their digits: rounded, these would move the poles. They are also refused where the impulse response of 1 / A rises far:
+// large values of the delay line that cancel out are rounded while they are large. Over 6000 filters with radii to 0.9999, the
+// error was at most 2.9 times the plain loop's where the response never exceeds 1, 4 times at 1.4, 120 times at 32.
 #pragma once
 
 #include <algorithm>
@@ -27,8 +27,8 @@ template <class T> class Direct {
   static constexpr size_t kParts = qvx::iir::kParts<T>;
   static constexpr size_t kElements = kLanes / kParts;
   static constexpr bool kIsExact = sizeof(Part<T>) == 8;
-  // Vectors of the delay line: real ones in AVX-512 as many as the blocks that callers allocate have room for. Above, sample by
-  // sample is as fast in SSE, where a vector has all 32-bit lanes then, and takes 1.3 times as long in AVX-512.
+  // The most vectors of a delay line; for real filters in AVX-512 as many as fit the blocks that callers allocate. Beyond these,
+  // sample by sample is as fast in SSE, whose vectors then have 32-bit lanes, and takes 1.3 times as long in AVX-512.
   static constexpr size_t kMostVectors = kLanes == 2   ? 8
                                          : kLanes == 4 ? (kParts == 2 ? 8 : 6)
                                          : kParts == 2 ? 6
@@ -62,7 +62,8 @@ template <class T> class Direct {
     }
   }
 
-  // n numbers in place. d, the transposed direct form's delay line, has zeros after it up to a whole vector, and one more.
+  // Filters n numbers in place. d: the delay line of the transposed direct form, followed by zeros up to a whole vector, and one
+  // vector more.
   void run(Lane* work, size_t n, Lane* d) const {
     const auto with = [&](auto size) {
       if (vectors_ == size()) part<size()>(work, n, d);
@@ -75,7 +76,7 @@ template <class T> class Direct {
   static constexpr size_t kSteps = 8;
   static constexpr long double kMostRise = !kIsExact ? 0x1p100L : kFuses ? 1.2L : 0.75L;
 
-  // The impulse response of 1 / A after its 1 at the beginning: the greatest value of the first few.
+  // The greatest of the first few values of the impulse response of 1 / A, after the 1 that it begins with.
   long double rise(const T* a) const {
     Exact<T> h[kSteps + 1] = {1};
     long double most = 0;
@@ -117,8 +118,8 @@ template <class T> class Direct {
 
   template <size_t kVectors> [[gnu::flatten]] void part(Lane* work, size_t n, Lane* d) const {
     constexpr size_t kColumn = (kVectors + 1) * kLanes;
-    // What inputs bring is computed one vector ahead, where there are registers for it: nothing waits for it. Order 16 takes 1.3
-    // ns a sample in AVX-512 then, otherwise 1.9; in SSE 4.7, otherwise 3.0.
+    // The share of the inputs is computed one vector ahead where there are registers for it, so that nothing waits for it. With
+    // order 16 a sample then takes 1.3 ns in AVX-512, else 1.9; in SSE 4.7, else 3.0.
     constexpr bool kIsAhead = kLanes > 2;
     constexpr size_t kSums = !kIsAhead ? 1 : kVectors == 1 ? 4 : 2;
     const Lane* const table = table_;

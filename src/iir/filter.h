@@ -9,10 +9,10 @@
 
 namespace qvx::iir {
 
-// Lanes of a block: 4 KB, which leaves most of the first cache to the caller.
+// Lanes of a block: 4 KiB, which leaves most of the first-level cache to the caller.
 inline constexpr size_t kBlockLanes = 512;
 
-// From this many numbers on, kernels that take a vector at a time pay: below, their start takes longer than the samples.
+// The numbers from which kernels that take a vector at a time pay: for fewer, their start takes longer than the samples.
 inline constexpr size_t kWorthLookingAhead = 8;
 
 // ---- in and out
@@ -61,7 +61,7 @@ inline Lane outputFactor(int scaleFactor) { return powerOfTwo<Lane>(-std::clamp<
 template <class T> using LaneNumber = std::conditional_t<kParts<T> == 1, Qvx64f, Qvx64fc>;
 template <class To, class From> To numberOf(From v) { return number<To>(realPart(v), imaginaryPart(v)); }
 
-// n numbers, 2 or more, through a section with look-ahead after the delay line d, which is carried on.
+// Filters n numbers, at least 2, through a section with look-ahead. d: the delay line before them, which becomes that after them.
 template <class T, class Src, class Dst, class Data>
 void lookAhead(const Section<T>& section, const Src* src, Dst* dst, size_t n, LaneNumber<T>* d, Finish<Data> finish) {
   using N = LaneNumber<T>;
@@ -85,7 +85,7 @@ void runSection(const Section<T>& section, const Src* src, Dst* dst, size_t n, T
   line[1] = numberOf<T>(d[1]);
 }
 
-// The delay line of the direct form I, as the transposed form has it.
+// Converts a delay line of the direct form I to the transposed form.
 template <class T, class P> void transposedLine(const T* t, const T* line, P* d) {
   d[0] = P{t[2]} * line[0] + P{t[1]} * line[1] - P{t[4]} * line[2] - P{t[3]} * line[3];
   d[1] = P{t[2]} * line[1] - P{t[4]} * line[3];
@@ -116,8 +116,8 @@ template <class T> void runDf1(const Section<T>& section, Lane* work, size_t n, 
   }
 }
 
-// Sections in the direct form I, up to kMost, all in lanes. The last two samples go through them plainly: they make the delay
-// lines, of values between sections that are nowhere else.
+// Up to kMost sections in the direct form I, all in lanes. The last two samples go through them one by one, to make the delay
+// lines: these hold values between sections, which lanes do not store.
 template <class T, class P> void df1InLanes(const Cascade<P>& cascade, const T* taps, T* line, P* work, size_t n) {
   const size_t sections = cascade.count(0);
   const size_t most = n >= kWorthLookingAhead ? n - 2 : 0;
@@ -130,8 +130,8 @@ template <class T, class P> void df1InLanes(const Cascade<P>& cascade, const T* 
   }
 }
 
-// with(line): the delay line of sections, which a direct form up to order 2 is one of. Of order 1, its second value is the zero
-// after it, and stays so.
+// with(line): the delay lines of the sections; a direct form up to order 2 counts as one section. The second value of order 1 is
+// the zero after its line, and stays 0.
 template <class T, class With> void withSectionLine(const Record<T>& s, With with) {
   if (!s.isDirect()) return with(s.line);
   T line[2] = {s.line[0], s.order == 1 ? T{} : s.line[1]};
@@ -139,7 +139,7 @@ template <class T, class With> void withSectionLine(const Record<T>& s, With wit
   std::copy_n(line, lineValues(s), s.line);
 }
 
-// False if the samples or the delay line are not finite: then nothing is done.
+// Does nothing and returns false if samples or delay line are not finite.
 template <class T> bool runDirect(const Record<T>& s, Lane* work, size_t n) {
   constexpr size_t kRoom = (Direct<T>::kMostVectors + 2) * kLanes;
   const size_t lanes = lineValues(s) * kParts<T>;
@@ -169,7 +169,7 @@ template <class T> void runPlain(const Record<T>& s, Lane* work, size_t n) {
   for (int k = 0; k < s.numBq; ++k) each([t = s.taps + 5 * k, d = s.line + 2 * k](T v) { return sectionOne(t, d, v); });
 }
 
-// Filters with every form but sections that look ahead or lie in lanes.
+// Filters a block by any way but sections with look-ahead or in lanes.
 template <class T> void runBlock(const Record<T>& s, bool isDf1, Lane* work, size_t n) {
   if constexpr (std::is_same_v<T, Qvx64f>) {
     if (isDf1) {
@@ -222,7 +222,8 @@ template <class T, class Data> void bySections(const Record<T>& s, const Data* s
   });
 }
 
-// This form has no room for tables: they are made for the time of a call, and applied to all samples.
+// The records of this form have no room for tables: each call makes them, one group of sections after another, for all its
+// samples.
 inline void filterDf1(const Record<Qvx32f>& s, const Qvx32f* src, Qvx32f* dst, size_t n) {
   using P = CascadeLane<Qvx32f>;
   using Many = Cascade<P>;

@@ -9,7 +9,7 @@ namespace qvx::iir {
 
 template <class T> size_t lineValues(const Record<T>& s) { return static_cast<size_t>(s.order); }
 
-// Null for zeros. Integers (64f_32s in the direct form I) are converted.
+// A null line means zeros. Integers (64f_32s in the direct form I) are converted.
 template <class T, class Line> void setDelay(Record<T>& s, const Line* line) {
   for (size_t i = 0; i < lineValues(s); ++i) s.line[i] = isNull(line) ? T{} : T(line[i]);
 }

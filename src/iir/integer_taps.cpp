@@ -1,4 +1,4 @@
-// Filters of 16-bit integers with integer taps, in units of 2^-s, and no record.
+// Filters of 16-bit integers without a record, with integer taps in units of 2^-s.
 //
 // A sample on its own goes through 32-bit arithmetic that wraps. A vector goes through the filter of 32-bit floats, in a record
 // for the time of the call.

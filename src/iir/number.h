@@ -1,4 +1,4 @@
-// Real and complex numbers alike, one at a time and in vectors: what lets every filter be written once.
+// The same operations on real and on complex numbers, one at a time and in vectors, so that every filter is written once.
 //
 // A vector of complex numbers holds their parts interleaved. The product with a constant takes two multiplications by vectors of
 // that constant's parts, one of them on the exchanged parts.
@@ -74,7 +74,7 @@ inline Coefficient<2> remainder(std::complex<long double> v, Coefficient<2> roun
 
 // ---- vectors
 
-// A factor of every number in a vector: itself, or (re, re) and (-im, im).
+// A factor for each number of a vector: the factor itself, or (re, re) and (-im, im).
 template <size_t kParts> struct Factor {
   V re;
   V im;
@@ -86,7 +86,7 @@ inline Factor<2> factor(Coefficient<2> c) {
   return {hn::Set(Wide(), c.re), hn::OddEven(hn::Set(Wide(), c.im), hn::Set(Wide(), -c.im))};
 }
 
-// A vector that will be multiplied: complex ones have their parts exchanged once for all products.
+// A vector to be multiplied: the parts of complex numbers are exchanged once for all its products.
 template <size_t kParts> struct Multiplied {
   V v;
   V exchanged;
@@ -109,13 +109,13 @@ template <size_t kParts> Factor<kParts> factors(const Coefficient<kParts>* p) {
   else return {hn::DupEven(v), hn::OddEven(hn::DupOdd(v), hn::Neg(hn::DupOdd(v)))};
 }
 
-// One number of a vector in every place.
+// Broadcasts one number of a vector.
 template <size_t kParts, size_t kAt> V everyNumber(V v) {
   if constexpr (kParts == 1) return everyLane<kAt>(v);
   else return everyBlock<kAt>(v);
 }
 
-// The one number at p in every place.
+// Broadcasts the number at p.
 template <size_t kParts> V everywhere(const Lane* p) {
   if constexpr (kParts == 1) return hn::Set(Wide(), *p);
   else return hn::LoadDup128(Wide(), p);

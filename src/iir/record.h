@@ -18,7 +18,7 @@ struct Magics {
   uint32_t of(Form form) const { return form == Form::kDirect ? direct : form == Form::kBiQuad ? biQuad : df1; }
 };
 
-// What filters sections: the rest goes sample by sample, or through Direct.
+// How sections are filtered; kPlain: sample by sample, or the direct form by Direct.
 enum class How : uint8_t { kPlain, kLookingAhead, kInLanes };
 
 template <class T> struct Record : RecordHead {
@@ -36,7 +36,7 @@ template <class T> struct Record : RecordHead {
   bool isDirect() const { return numBq == 0; }
 };
 
-// What a stem has of its own: the samples' type and its identities.
+// What differs between stems: the samples' type and the identities.
 template <class T, class DataType, uint32_t kDirect, uint32_t kBiQuad, uint32_t kDf1 = 0> struct Stem : Record<T> {
   using Data = DataType;
   static constexpr Magics kMagics{kDirect, kBiQuad, kDf1};
@@ -46,7 +46,7 @@ template <class State> using InternalOf = typename State::Internal;
 
 // ---- sizes
 
-// The bytes of a block for n sections, or for order n: fixed values of the interface, whatever this layout takes of them.
+// The bytes of a block for n sections, or for order n: fixed values of the interface; the layout below needs no more.
 template <class State> constexpr int64_t stateSize(Form form, int64_t n) {
   using T = InternalOf<State>;
   constexpr bool kIsComplex = kParts<T> == 2;

@@ -19,11 +19,11 @@ template <class T> T directOne(const T* taps, T* line, size_t order, T x) {
   return y;
 }
 
-// The same for n samples in place. The line does not move: outputs add their shares to those that follow, in vectors at fixed
-// places. A line that moved would be loaded across two of its own stores, and wait for both: 12 ns a sample of order 64. Four
-// outputs together load and store a share once: of order 100 in SSE, a sample takes half the time of one by one. The first vector
-// has places before the next output, which nobody looks at again, the last some after the line: there are zeros on both sides of
-// the taps. The order is bounded for the sake of the stack, of which this takes up to 15 KiB.
+// The same for n samples in place. The line does not move: each output adds its shares to those that follow, in vectors at fixed
+// addresses. A line that moved would be loaded across two of its own stores, and wait for both: 12 ns a sample of order 64. Four
+// outputs together load and store the shares once: with order 100 in SSE, a sample takes half the time of one by one. The first
+// vector begins before the next output and the last one ends after the line, so the taps have zeros on both sides. The order is
+// bounded because this takes up to 15 KiB of the stack.
 template <class T> inline constexpr size_t kMostStill = 512 / kParts<T>;
 template <class T> [[gnu::flatten]] void directStill(const T* taps, T* line, size_t order, Lane* work, size_t n) {
   using P = Part<T>;
@@ -85,8 +85,8 @@ template <class T> [[gnu::flatten]] void directStill(const T* taps, T* line, siz
   }
 }
 
-// The same of a low order, whose line stays in registers: a sample waits for two fused operations, 3.6 ns of order 4 where the
-// vectors above take 5.0.
+// The same for low orders, whose line stays in registers: a sample waits for two fused operations. With order 4 it takes 3.6 ns,
+// by the vectors above 5.0.
 inline constexpr size_t kMostInRegisters = 8;
 template <size_t kOrder> void directInRegisters(const Qvx64f* taps, Qvx64f* line, Lane* work, size_t n) {
   Lane b[kOrder + 1], a[kOrder + 1], d[kOrder + 1];
@@ -103,7 +103,7 @@ template <size_t kOrder> void directInRegisters(const Qvx64f* taps, Qvx64f* line
   }
   std::copy_n(d, kOrder, line);
 }
-// False where the order is another.
+// Returns false, with nothing done, for other orders.
 inline bool directInRegisters(const Qvx64f* taps, Qvx64f* line, size_t order, Lane* work, size_t n) {
   return [&]<size_t... I>(std::index_sequence<I...>) {
     return ((order == I + 1 && (directInRegisters<I + 1>(taps, line, work, n), true)) || ...);

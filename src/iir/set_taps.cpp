@@ -1,10 +1,10 @@
-// Taps replaced in a living filter.
+// Replaces the taps of a running filter.
 #include "iir/init.h"
 
 using namespace qvx;
 using namespace qvx::iir;
 
-// Contract: these three test for the identities of others, or report a mismatch whatever they did.
+// Contract: these three accept the identities of other records, or report a mismatch even where they did their work.
 QvxStatus qvxsIIRSetTaps32s_16s(const Qvx32s* taps, QvxsIIRState32s_16s* state, int tapsFactor) {
   if (isNull(taps)) return qvxStatNullPtr;
   const QvxStatus status = checkState(state);

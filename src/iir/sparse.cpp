@@ -8,7 +8,7 @@ using namespace qvx::convolution;
 namespace qvx::iir {
 
 // One side of the filter: its taps in the caller's order, and a window of the last samples, oldest first, with room after it for
-// as many new ones, so that the head of a vector finds its past and itself in one place.
+// as many new ones, so that the head of a vector lies right after its past.
 struct SparseSide {
   Qvx32f* taps;
   Qvx32s* positions;
@@ -40,7 +40,7 @@ void fill(SparseSide& side, const Qvx32f* taps, const Qvx32s* positions, const Q
 
 void feed(const SparseSide& b, const Qvx32f* src, Qvx32f* dst, size_t n) { sumTaps(b.taps, b.positions, b.count, src, dst, n); }
 
-// y holds the feed-forward sums. As many outputs at a time as the nearest tap leaves between it and them.
+// y holds the feed-forward sums. Takes as many outputs at a time as do not depend on each other: the position of the nearest tap.
 void feedBack(const SparseSide& a, Qvx32f* y, size_t n) {
   const auto reach = static_cast<size_t>(a.positions[0]);
   constexpr size_t kWorthVectors = 16;

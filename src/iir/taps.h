@@ -1,11 +1,11 @@
-// Taps as callers give them, normalised: all are multiplied by 1 / a0, which is taken once.
+// Normalises the caller's taps: all are multiplied by 1 / a0, which is computed once.
 #pragma once
 
 #include "iir/record.h"
 
 namespace qvx::iir {
 
-// Multiplication by 1 / a0. A complex reciprocal is taken in P, and rounded to it.
+// Multiplication by 1 / a0; a complex reciprocal is computed in, and rounded to, P.
 template <class P, class T> auto normaliser(T a0) {
   if constexpr (kParts<T> == 1) {
     return [reciprocal = T(1) / a0](T tap) { return tap * reciprocal; };
@@ -50,8 +50,8 @@ template <class T> QvxStatus setDirectTaps(Record<T>& s, const T* taps) {
   return qvxStatOk;
 }
 
-// Sections refuse an a0 of 0, and a b0 of 0 except in the direct form I of 32-bit memory, which also takes the taps as they are
-// where a0 is 1.
+// Sections with a0 = 0 are refused, also those with b0 = 0, except in the direct form I of 32-bit memory, which takes the taps as
+// they are where a0 is 1.
 template <class T> QvxStatus setSectionTaps(Record<T>& s, const T* taps) {
   const bool hasTables = s.sections != nullptr || s.cascade.isThere();
   const bool asTheyAre = !hasTables;
@@ -72,7 +72,7 @@ template <class T> QvxStatus setTaps(Record<T>& s, const T* taps) {
   return s.isDirect() ? setDirectTaps(s, taps) : setSectionTaps(s, taps);
 }
 
-// Integer taps, converted for the time of a call. with(taps) is the rest of it.
+// Converts integer taps for the time of a call; with(taps) does the rest of it.
 template <class Taps, class With> QvxStatus withFloatTaps(const Taps* taps, int64_t count, int tapsFactor, With with) {
   using T = std::conditional_t<kParts<Taps> == 1, Qvx32f, Qvx32fc>;
   const Block block(count * int64_t{sizeof(T)});

@@ -11,8 +11,8 @@ using namespace qvx::convolution;
 
 namespace qvx::lms {
 
-// Taps stand with that of the oldest sample first and zeros after the last, in whole vectors. The line is a circle of tapsLen
-// samples, the oldest at the index; a call brings it into order and has room for a chunk of new samples after it.
+// Taps are stored with that of the oldest sample first, in whole vectors filled with zeros. The line is a ring of tapsLen
+// samples, the oldest at the index; a call puts it in order and has room for a chunk of new samples after it.
 struct LmsRecord : RecordHead {
   int tapsLen;
   int index;
@@ -35,12 +35,12 @@ namespace {
 using V = Vec<Lanes<Qvx32f, kVectorBytes / sizeof(Qvx32f)>>;
 constexpr size_t N = kLanesOf<V>;
 constexpr size_t kChunk = 1024;
-// Vectors of taps that registers hold beside what else a step needs.
+// The most vectors of taps that stay in registers together with the other operands of a step.
 constexpr size_t kMostInRegisters = kHasMasks ? 16 : 8;
-// And beside the sums and samples of four steps.
+// The same together with the sums and samples of four steps.
 constexpr size_t kMostForFour = kHasMasks ? 8 : 4;
 
-// The sum of all lanes in every lane: a sum in one would take 3 cycles more to get back into all.
+// The sum of all lanes, in every lane: broadcasting it from one would take 3 cycles more.
 V sumInAll(V v) {
   const TagOf<V> d;
   if constexpr (N == 16) v = v + hn::ConcatLowerUpper(d, v, v);
@@ -63,14 +63,14 @@ V4 sums(V a, V b, V c, V d) {
 
 template <int kLane> V4 everyLaneOf(V4 v) { return V4{_mm_shuffle_ps(v.raw, v.raw, kLane * 0x55)}; }
 
-// What the outputs of four steps owe to the steps before them among the four. y[j] = h x[j] holds for the taps before all four;
-// each step i before j has added e[i] times the product of its window with that of j, which samples alone decide:
+// The influence of four steps on each other. With the taps before all four, y[j] = h x[j]; each earlier step i then adds e[i]
+// times the product of the windows i and j, which depends on samples only:
 //   column i, lane j: the product of the windows i and j, of which the first are summed, and the others follow by what comes in
 //   and what goes out.
 struct Products {
   V4 column[3];
 
-  // first: 0 and the products of window 0 with the windows 1, 2 and 3. x: the window 0 of n samples.
+  // first: 0, then the products of window 0 with the windows 1, 2 and 3. x: window 0, of n samples.
   Products(V4 first, const Qvx32f* x, size_t n) {
     const Lanes<Qvx32f, 4> d;
     const V4 in = load(d, x + n - 1);
@@ -93,8 +93,8 @@ struct Products {
 
 // Steps with all taps in registers. The window of step i is x[i] to x[i + n - 1].
 //
-// One step waits 43 cycles for the sum of its lanes, its error and the taps that this gives. So four are taken at a time: their
-// sums with the taps before them all, and then y and e of each in turn from the products of the windows. 16 taps take 22 cycles a
+// One step has a latency of 43 cycles: the sum of its lanes, its error, the new taps. So four are taken at a time: first their
+// sums with the taps before all four, then y and e of each in turn from the products of the windows. 16 taps take 22 cycles a
 // step.
 template <size_t kVectors> class StepsInRegisters {
  public:
@@ -111,7 +111,7 @@ template <size_t kVectors> class StepsInRegisters {
     adapt(i, e);
   }
 
-  // false, with nothing done, where products of large samples are not finite: 0 times infinity would spoil an output.
+  // Returns false, with nothing done, where products of large samples are not finite: 0 times infinity would make an output NaN.
   [[gnu::always_inline]] bool four(size_t i) {
     const TagOf<V> d;
     const Lanes<Qvx32f, 4> d4;
@@ -150,7 +150,7 @@ template <size_t kVectors> class StepsInRegisters {
     const V v = load(TagOf<V>(), x_ + i + N * k);
     return k == kLast ? hn::IfThenElseZero(inLast_, v) : v;
   }
-  // Of a window and the taps, lane by lane.
+  // The products of a window and the taps, lane by lane.
   [[gnu::always_inline]] V product(size_t i) const {
     constexpr size_t kSums = std::min<size_t>(kVectors, 4);
     V sum[kSums];
@@ -194,7 +194,8 @@ template <size_t kVectors>
   steps.storeTaps(taps);
 }
 
-// The same in memory: a pass adapts to the step before and takes the sum of the next, so that taps are loaded and stored once.
+// The same with taps in memory: one pass adapts them to the step before and adds up the next output, so that they are loaded and
+// stored once.
 void stepsInMemory(Qvx32f* taps, size_t n, const Qvx32f* x, const Qvx32f* ref, Qvx32f* dst, size_t count, Qvx32f rate) {
   const TagOf<V> d;
   constexpr size_t kSums = 4;

@@ -9,8 +9,8 @@ using namespace qvx::convolution;
 
 namespace qvx::lms {
 
-// H: a tap, S: a sample. Taps stand with that of the oldest sample first; samples stand as wide as taps, the last tapsLen of them
-// from `oldest` on, which moves on with every sample and goes back to the beginning when there is no more room.
+// H: a tap, S: a sample. Taps are stored with that of the oldest sample first; samples are stored as wide as taps, the last
+// tapsLen of them from `oldest` on, which moves on with every sample, and back to the beginning when there is no more room.
 template <class H_, class S_, uint32_t kNumber> struct MultirateRecord : RecordHead {
   using H = H_;
   using S = S_;
@@ -82,10 +82,10 @@ template <class R> auto output(const R& record, int scaleFactor) {
   }
 }
 
-// h + rint(factor * v), saturated, in doubles; v is exact. What is not a number is the least: the instruction's second operand.
+// h + rint(factor * v), saturated, in doubles; v is exact. NaN gives the least tap, the second operand of the instruction.
 template <class V, class W> V adapted(V h, W v, double factor) {
-  constexpr double kFar = 0x1p33;      // no tap comes back from there
-  constexpr double kWhole = 0x1.8p52;  // plus it there are no fractions, to nearest in the scope's mode
+  constexpr double kFar = 0x1p33;      // added to any tap, it saturates
+  constexpr double kWhole = 0x1.8p52;  // adding it rounds to an integer, in the scope's mode
   const W change = (hn::Min(hn::Max(same<W>(factor) * v, same<W>(-kFar)), same<W>(kFar)) + same<W>(kWhole)) - same<W>(kWhole);
   const W sum = convertLanes<double>(h) + change;
   return convertLanes<int32_t>(hn::Min(hn::Max(sum, same<W>(INT32_MIN)), same<W>(INT32_MAX)));
@@ -183,7 +183,7 @@ template <class R> QvxStatus release(R* state) {
   return releaseRecord(state, checkRecord(state, R::kId), InCallersBlock::kUntouched);
 }
 
-// f() on a record that may be used, beside vectors that are there.
+// Calls f() if the vectors are not null and the record may be used.
 template <class R, class F, class... T> QvxStatus with(R* state, F f, const T*... vectors) {
   if ((isNull(vectors) || ...)) return qvxStatNullPtr;
   const QvxStatus status = checkRecord(state, R::kId);

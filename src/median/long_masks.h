@@ -1,5 +1,5 @@
-// Medians of long masks, at a cost that the mask hardly changes: of bytes from a histogram of the window, of others from the
-// ranks of all elements in a stretch of the source. A window is a set of ranks then, a bit each, and its median moves from one
+// Medians of long masks, at a cost that hardly depends on the mask: of bytes by a histogram of the window, of other types by the
+// ranks of all elements in a stretch of the source. A window is then a set of ranks, a bit each, and its median moves from one
 // set bit to another.
 #pragma once
 
@@ -10,7 +10,8 @@
 
 namespace qvx::median {
 
-// The source as keys, going on by its first and its last element: what the windows hold, in place or not.
+// Copies the source as keys, extended by its first and its last element, so that windows do not depend on what is stored in
+// place.
 template <class As, class T> void continued(const T* src, size_t len, size_t reach, typename As::Lane* out) {
   std::fill_n(out, reach, As::lane(src[0]));
   for (size_t i = 0; i < len; ++i) out[reach + i] = As::lane(src[i]);
@@ -47,7 +48,7 @@ class RankSet {
 
   void insert(size_t rank) { words_[rank / 64] |= uint64_t{1} << rank % 64; }
   void erase(size_t rank) { words_[rank / 64] &= ~(uint64_t{1} << rank % 64); }
-  // The first member from `rank` on, and the last one before it; there is one.
+  // from(): the first member from `rank` on. before(): the last one before it. There must be one.
   size_t from(size_t rank) const {
     size_t at = rank / 64;
     uint64_t word = words_[at] & (~uint64_t{0} << rank % 64);
@@ -65,14 +66,14 @@ class RankSet {
   uint64_t* words_;
 };
 
-// ranks[i] = the place of x[i] in order, no two alike; sorted: the elements in order. room: n elements.
+// ranks[i] = the place of x[i] in sorted order, no two alike; sorted: the elements in order.
 inline void rank(const int32_t* x, size_t n, int32_t* sorted, int32_t* numbers, int32_t* ranks) {
   std::copy_n(x, n, sorted);
   fillNumbers(numbers, n);
   sortPairs(sorted, numbers, n);
   for (size_t i = 0; i < n; ++i) ranks[numbers[i]] = static_cast<int32_t>(i);
 }
-// Of 64 bits by a search for each; equal elements take places in turn.
+// 64 bits: by a search for each element; equal elements get successive places.
 inline void rank(const int64_t* x, size_t n, int64_t* sorted, int32_t* numbers, int32_t* ranks) {
   std::copy_n(x, n, sorted);
   sortKeys(sorted, n, {});

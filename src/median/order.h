@@ -1,6 +1,6 @@
-// The order that medians are taken in, and the lanes that have it. Integers are compared as they are, and so are floats as long
-// as none of them is a NaN or -0.0, which comparisons of floats know no place for: vectors that have such are compared by their
-// keys, as in a sort.
+// The order in which medians are taken, and the lanes that have it. Integers are compared as they are, and so are floats as long
+// as none of them is a NaN or -0.0, which float comparisons do not order: vectors that contain one are compared by keys, as in a
+// sort.
 #pragma once
 
 #include "frame/reduce.h"
@@ -27,7 +27,7 @@ template <class T> struct AsKey {
   static KeyMap<Lane> map() { return keyMap<T>(Order::kAscending); }
 };
 
-// Whether there is a float that does not compare as its key does.
+// Whether some float does not compare as its key does.
 template <class V> bool needsKeys(V v) { return !hn::AllFalse(TagOf<V>(), areNanOrMinusZero(v)); }
 template <class T> bool compareAsTheyAre(const T* x, size_t n) {
   if constexpr (std::is_integral_v<T>) return true;
@@ -60,8 +60,8 @@ template <class V> Run<V> ordered(V a, V b, V c) {
 }
 template <class V> V middle(V a, V b, V c) { return most(least(a, b), least(most(a, b), c)); }
 
-// A mask as it counts: odd, and no longer than reaches from every element to both ends. A longer one has more of the first and of
-// the last element in its window, as many of the one as of the other, and its median lies between the two.
+// The effective mask: odd, and at most long enough to reach from every element to both ends. A longer one only adds as many
+// copies of the first element to each window as of the last, which does not move its median.
 inline size_t effectiveMask(size_t maskSize, size_t len) { return std::min((maskSize - 1) / 2, len - 1) * 2 + 1; }
 
 }  // namespace qvx::median

@@ -1,6 +1,6 @@
-// Medians of 5 to 9 elements, by networks of minima and maxima on the windows of neighbouring outputs, whose elements are loads
-// that overlap. For masks of 7 and 9 the runs of three that windows share are ordered once where there are many: that leaves 16
-// and 18 operations an output, of 22 and 30.
+// Medians of 5 to 9 elements, by networks of minima and maxima on the windows of neighbouring outputs, whose elements are
+// overlapping loads. For masks of 7 and 9 the runs of three elements that windows share are ordered once where there are many
+// outputs: 16 and 18 operations an output instead of 22 and 30.
 #pragma once
 
 #include <array>
@@ -9,8 +9,8 @@
 
 namespace qvx::median {
 
-// at(k) is a vector of the windows' elements k, run(k) of k to k + 2 in order.
-// The least of two pairs' lesser ones is below the median, the greatest of the others above it.
+// at(k): a vector of the elements k of all windows; run(k): the elements k to k + 2 in order. Of two pairs, the lesser of the
+// minima is not above the median and the greater of the maxima not below it.
 struct Median5 {
   static constexpr size_t kMask = 5;
   template <class At, class Run> static auto of(At at, Run) {
@@ -20,7 +20,7 @@ struct Median5 {
     return middle(at(4), most(a, c), least(b, d));
   }
 };
-// Without the least and the greatest of two runs, five are left, two pairs of which are in order.
+// Without the least and the greatest of two runs, five elements are left, two pairs of which are in order.
 struct Median7 {
   static constexpr size_t kMask = 7;
   template <class At, class Run> static auto of(At at, Run run) {
@@ -29,7 +29,7 @@ struct Median7 {
     return middle(at(6), most(most(a.low, b.low), a.mid), least(least(a.high, b.high), b.mid));
   }
 };
-// The median of the greatest of the least, the median of the medians, and the least of the greatest.
+// The median of three: the greatest minimum, the median of the medians, the least maximum of the three runs.
 struct Median9 {
   static constexpr size_t kMask = 9;
   template <class At, class Run> static auto of(At, Run run) {
@@ -49,7 +49,7 @@ template <class Network, class At> auto mediansByKeys(At at) {
 
 enum class ByKeys { kNo, kYes };
 
-// A vector as the windows of its outputs see it: it goes on with its first and its last element.
+// A vector as the windows of its outputs see it: extended by its first and its last element.
 template <class Network, class T> struct Windows {
   static constexpr size_t N = kVectorBytes / sizeof(T);
   static constexpr size_t kReach = Network::kMask / 2;
@@ -83,8 +83,8 @@ template <class Network, class T> struct Windows {
     return [p = x + i - kReach](size_t k) { return load(Lanes<T, N>(), p + k); };
   }
 
-  // kEnd outputs from i on; of a vector that is no longer than that, all. A shuffle repeats the first and the last element, since
-  // a copy with room at its ends would be loaded across what was just stored, which takes 20 ns.
+  // kEnd outputs from i on, or all outputs of a vector no longer than that. A shuffle repeats the first and the last element; a
+  // copy extended at its ends would be loaded across what was just stored, which takes 20 ns.
   template <bool kIsAll, ByKeys byKeys = ByKeys::kNo> [[gnu::noinline]] Vec<Lanes<T, kEnd>> atEnd(size_t i) const {
     const Lanes<T, kEnd> narrow;
     const Lanes<Lane, kEnd> d;
@@ -129,7 +129,7 @@ template <class Network, class T> struct Windows {
   }
 };
 
-// Vectors of outputs that are stored when the windows of the next kLate are loaded, so that the destination may be the source.
+// Stores vectors of outputs only when the windows of the next kLate are loaded, so that the destination may be the source.
 template <class T, size_t N, size_t kReach> class Late {
  public:
   using V = Vec<Lanes<T, N>>;
@@ -160,7 +160,7 @@ template <class Network, class T> class Inside {
  public:
   explicit Inside(Windows<Network, T> windows) : windows_(windows) {}
 
-  // N outputs from i on. A step checks the elements that its windows are the first to have.
+  // N outputs from i on. Each step checks the elements that earlier windows did not have.
   auto outputs(size_t i) {
     const auto at = windows_.inside(i);
     if constexpr (std::is_floating_point_v<T>) {
@@ -173,7 +173,7 @@ template <class Network, class T> class Inside {
     }
     return medians<Network>(at);
   }
-  // Before outputs that do not follow those before them: checks what their windows share with others.
+  // To be called before outputs that do not follow the last ones: checks the elements that their windows share with earlier ones.
   void goTo(size_t i) {
     byKeys_ = 0;
     if constexpr (std::is_floating_point_v<T>) {
@@ -183,7 +183,7 @@ template <class Network, class T> class Inside {
       }
     }
   }
-  // Of as many vectors as kChunk has.
+  // The outputs of kChunk vectors.
   template <class Put> void chunk(size_t i, Put put) {
     typename Windows<Network, T>::Runs runs;
     const bool asTheyAre = windows_.order(i, runs);

@@ -1,6 +1,6 @@
 // Medians of any mask, by sorted windows: as many stretches of the source as a register has lanes are filtered at a time, each
-// lane with a window of its own that stays in order. From one output to the next every place of the window takes what is left
-// there without the oldest element and with the new one: a comparison, a choice, a minimum and a maximum, whatever the data.
+// lane with a sorted window of its own. From one output to the next, each place of the window is updated for the loss of the
+// oldest element and the arrival of the new one: a comparison, a selection, a minimum and a maximum, whatever the data.
 #pragma once
 
 #include "frame/record.h"
@@ -41,10 +41,10 @@ template <class Lane> class SortedWindows {
   size_t mask_;
 };
 
-// Steps that are brought from the source to lanes, and back, at a time: a few KiB.
+// Steps that are transposed from the source to lanes, and back, at a time: a few KiB.
 inline constexpr size_t kTile = 16;
 
-// The outputs of one round: stretches long enough that filling the windows costs an eighth of it at most.
+// The outputs of a lane in one round: enough that filling the window costs an eighth of it at most.
 inline size_t stretchFor(size_t len, size_t mask, size_t lanes) {
   const size_t longest = std::max<size_t>(512, 8 * mask);
   return std::min((len + lanes - 1) / lanes, longest);
@@ -64,12 +64,12 @@ template <class As, class T> QvxStatus filterBySortedWindows(const T* src, T* ds
   auto* const in = carver.takeLines<Lane>(static_cast<int64_t>(steps * N));
   auto* const out = carver.takeLines<Lane>(static_cast<int64_t>(kTile * N));
   const Windows windows(carver.takeLines<Lane>(static_cast<int64_t>(mask * N)), mask);
-  auto* const before = carver.take<Lane>(static_cast<int64_t>(reach));  // what stood before this round's outputs
+  auto* const before = carver.take<Lane>(static_cast<int64_t>(reach));  // the elements before this round's outputs
   const Lane last = As::lane(src[len - 1]);
   std::fill_n(before, reach, As::lane(src[0]));
 
   for (size_t at = 0; at < len; at += stretch * N) {
-    // Row t has the elements that are t - reach from the beginnings of the stretches.
+    // Row t has the elements at t - reach from the beginnings of the stretches.
     for (size_t tile = 0; tile < steps; tile += kTile) {
       const size_t end = std::min(tile + kTile, steps);
       for (size_t s = 0; s < N; ++s) {

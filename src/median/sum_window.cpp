@@ -1,4 +1,4 @@
-// Sums of sliding windows, exact in integers: each new window has one element more and one less.
+// Sums of sliding windows, exact in integers: each window gains one element and loses one.
 #include "frame/map.h"
 
 using namespace qvx;

@@ -1,6 +1,5 @@
-// Medians of three neighbours, which cost four minima and maxima, as long as nothing else is done: not a vector at a time is
-// asked for NaN and -0.0 but a block of some, and no output at an end needs a window of its own, since the first and the last
-// element are their own medians.
+// Medians of three neighbours: four minima and maxima, so that nothing else may cost much. NaN and -0.0 are looked for in a block
+// of vectors at a time, and the ends need no windows of their own, since the first and the last element are their own medians.
 #pragma once
 
 #include <array>
@@ -12,7 +11,7 @@ namespace qvx::median {
 
 template <class T> class Three {
  public:
-  // n elements, 3 at least. Every step ends in a jump to the next, with the status that the last of them returns.
+  // n elements, at least 3. Every step ends in a jump to the next, and passes on the status that the last one returns.
   static QvxStatus filter(const T* x, T* dst, size_t n, QvxStatus status) {
     if (n - 2 < kBlock * N) return few<N>(x, dst, n, status);
     return byBlocks(x, dst, n, status);
@@ -25,15 +24,15 @@ template <class T> class Three {
 
   template <size_t L, size_t M> using Vectors = std::array<Vec<Lanes<T, L>>, M>;
 
-  // Of windows that begin at p, and as many from each of the places on that follow. The elements that more than one vector's
-  // windows have are asked for in all but the last of them.
+  // The medians of M vectors of windows, which begin at p + at(0), p + at(1) and so on. Each vector tests only the elements that
+  // the windows before it do not have.
   template <size_t L, size_t M, class Place>
   [[gnu::always_inline]] static inline Vectors<L, M> medians(const T* p, Place at, bool isFirst, bool& needsKeys) {
     using V = Vec<Lanes<T, L>>;
     constexpr Lanes<T, L> d;
     const V one = same<V>(T(1));
     V marks = hn::Zero(d);
-    // Masks that are vectors are added up as they are. Masks of their own would take the port of the minima for it.
+    // Masks are collected in a vector: combining mask registers would take the port of the minima.
     const auto mark = [&](V v) __attribute__((always_inline)) {
       if constexpr (!kMayNeedKeys) return;
       else if constexpr (kHasMasks) marks = hn::IfThenElse(areNanOrMinusZero(v), one, marks);
@@ -61,7 +60,7 @@ template <class T> class Three {
     unrolled<M>([&](auto v) __attribute__((always_inline)) { qvx::store(all[v], Lanes<T, L>(), dst + v * L); });
   }
 
-  // Fewer than a block: as many vectors as it takes, the last of which overlaps the one before it.
+  // Less than a block: as many vectors as it takes; the last one overlaps the one before it.
   template <size_t L> [[gnu::always_inline]] static inline QvxStatus few(const T* x, T* dst, size_t n, QvxStatus status) {
     const size_t inner = n - 2;
     if constexpr (L > 1) {
@@ -98,10 +97,10 @@ template <class T> class Three {
     return status;
   }
 
-  // How many elements after a vector's boundary.
+  // How many elements p lies after a vector's boundary.
   static size_t misalignment(const T* p) { return reinterpret_cast<uintptr_t>(p) % kVectorBytes / sizeof(T); }
 
-  // A block is stored when the windows of the next are loaded, so that the destination may be the source.
+  // A block is stored after the windows of the next one are loaded, so that the destination may be the source.
   [[gnu::noinline]] static QvxStatus byBlocks(const T* x, T* dst, size_t n, QvxStatus status) {
     const T first = x[0];
     const T last = x[n - 1];

@@ -5,8 +5,8 @@
 
 namespace qvx {
 
-// `count` times the same element from `out` on, by whole vectors where `end` leaves room: one in any case, since whether there is
-// an element at all is a branch that nobody foresees.
+// Stores `value` `count` times from `out` on, by whole vectors where `end` leaves room; always at least one vector, since whether
+// there is an element at all is an unpredictable branch.
 template <class T> T* putRun(T* out, const T* end, T value, size_t count) {
   constexpr size_t N = 32 / sizeof(T);
   const Lanes<T, kVectorBytes / sizeof(T)> d;

@@ -79,7 +79,8 @@ template <size_t kValues, class K> size_t countedOut(K* x, size_t n, K* others, 
 
 }  // namespace detail
 
-// Counts the keys of x, as `in` maps it, that have one of the values; the others come to its front, as keys. How many these are.
+// Counts the keys of x, as `in` maps it, that have one of the values; moves the others to its front, as keys, and returns their
+// number.
 template <class K> size_t countOut(K* x, size_t n, KeyMap<K> in, Often<K>& often) {
   constexpr size_t N = kVectorBytes / sizeof(K);
   constexpr size_t kSlice = N << 14;

@@ -1,4 +1,4 @@
-// Keys that take their numbers along.
+// Sorts keys together with their numbers.
 #pragma once
 
 #include "sort/keys.h"

@@ -10,7 +10,7 @@
 namespace qvx {
 
 template <class K> inline constexpr size_t kPartLanes = kPartedLanes<K>;
-// Vectors from one side before the side is chosen again: the choice is a branch that nobody foresees.
+// Vectors read from one side before the side is chosen again: the choice is an unpredictable branch.
 template <class K> inline constexpr size_t kPartVectors = kPartLanes<K> > 8 ? 4 : 8;
 // Keys of working memory.
 template <class K> inline constexpr size_t kSortBuffer = (sizeof(K) == 2 ? 16384 : 8192) / sizeof(K);

@@ -1,4 +1,4 @@
-// Sorts of values that take their places along.
+// Sorts of values together with their indices.
 //
 // Different elements have one order, which is found the fast way. Equal ones are only seen when that is done: then the elements
 // go back to where they were, and the steps that tell their order are taken one by one.
@@ -12,7 +12,7 @@ using namespace qvx;
 
 namespace {
 
-// Elements of known places back to these. A place that has been served is its own complement.
+// Moves elements back to their known places. A place that is done is marked by its complement.
 template <class T> [[gnu::noinline]] void restore(T* x, int32_t* places, size_t n) {
   for (size_t start = 0; start < n; ++start) {
     T carried = x[start];

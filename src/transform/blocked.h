@@ -1,9 +1,9 @@
 // Transforms too long for the caches, in place, with a tile of working memory.
 //
-// N = n * m * n with n = 256. Point (a, b, c) stands at (a * m + b) * n + c. Transforms down a, then down b, then along c leave
-// result ka + n * (kb + m * kc) at (ka, kb, kc); the swap of ka and kc puts it where it belongs. So each point goes through
-// memory three times: down a by tiles of neighbouring columns, then a block of m * n points after the other, then the swap, which
-// follows as soon as the blocks it needs are done.
+// N = n * m * n with n = 256. Point (a, b, c) is at (a * m + b) * n + c. Transforms down a, then down b, then along c leave
+// result ka + n * (kb + m * kc) at (ka, kb, kc); swapping ka and kc puts it in order. So each point goes through memory three
+// times: down a by tiles of neighbouring columns, then block by block of m * n points, then in the swap, which follows as soon as
+// the blocks it needs are done.
 //
 // Two threads take half of the columns each; then half of the blocks, and of the swap what these need; then half of what is left
 // of the swap.
@@ -20,7 +20,7 @@ namespace qvx::transform {
 
 inline constexpr size_t kBlockPoints = 256;
 
-// The points of the longest tile: 128 KiB, which is what callers are told to bring for the longest transforms.
+// The points of the longest tile: 128 KiB, the working memory reported for the longest transforms.
 template <class T> inline constexpr size_t kMostOfTile = (size_t{128} << 10) / (2 * sizeof(T));
 
 // step(N) for the lanes that go down the columns of a block of `rows`. From 2^27 points on a tile has room for 4 or 8 columns.
@@ -298,8 +298,8 @@ QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Scale scale)
   else runPasses<L>(plan, row.asSource(), row, y, scale);
 }
 
-// Working memory of `points` for each part of a divided call. The first is always the caller's, and has the caller's memory. By
-// the next, the caller is done with it, or another thread has begun: that has a stack on which a tile finds room.
+// Working memory of `points` for each part of a divided call. The first part is always the caller's and uses the caller's memory.
+// Another part comes after it, or on another thread, whose stack has room for a tile.
 template <class T, class Step> [[gnu::noinline]] void onOwnTile(size_t points, Step step) {
   alignas(Carver::kLine) T own[2 * kMostOfTile<T>];
   step(own, std::min(points, kMostOfTile<T>));

@@ -9,7 +9,7 @@
 
 namespace qvx::transform {
 
-// Without it GCC calls some of these, with their operands in memory.
+// Without this, GCC calls some of these functions with their operands in memory.
 #define QVX_INLINE [[gnu::always_inline]] inline
 
 template <class V> QVX_INLINE Complex<V> sum(Complex<V> a, Complex<V> b) { return {a.re + b.re, a.im + b.im}; }

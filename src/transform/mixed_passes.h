@@ -132,7 +132,7 @@ QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, si
     unrolled<L>([&](auto i) __attribute__((always_inline)) { r[i] = x[at + std::min<size_t>(i, kWide - 1)].*part; });
     transpose(r);
     const TagOf<V> d;
-    // Each place from the one before: registers for all of them would be wanting.
+    // Each address from the one before: there are not registers enough for all of them.
     T* row = to + at;
     if (rows < L) {
       alignas(64) T kept[L][L];

@@ -1,4 +1,4 @@
-// The wavelet filter bank: one stage that splits a stream into two of half its rate, and one that joins them.
+// The wavelet filter bank: a stage that splits a stream into two of half its rate, and one that joins them again.
 #include <bit>
 #include <cstring>
 
@@ -21,21 +21,22 @@ void copy(const Qvx32f* from, int64_t n, Qvx32f* to) {
   if (at < count) storeFirst(loadFirst(d, from + at, count - at), d, to + at, count - at);
 }
 
-// The history moves on by n values, which stand after it in the window or end at `end`.
+// Moves the history on by n values, which follow it in the window or end at `end`.
 void keep(Band& band, const Qvx32f* end, int64_t n) {
   copy(n >= band.history ? end - band.history : band.window + n, band.history, band.window);
 }
 
-// Results of a call that goes through the window as a whole, where 32 results of 20 taps take half as long as in two parts.
+// Calls of up to this many results go through the window as a whole: 32 results of 20 taps then take half as long as in two
+// parts.
 constexpr int64_t kShort = 64;
 
-// How many of `count` results go through the window: those that reach back to the history, or all of a short call, or if the rest
+// How many of `count` results go through the window: those that reach back to the history; all, in a short call or if the others
 // would be less than a vector.
 int64_t throughWindow(int64_t count, int64_t reachBack) {
   return count <= kShort || count - reachBack < static_cast<int64_t>(N) ? count : reachBack;
 }
 
-// What is copied to the window is read last, so that it has arrived: a load of what was stored in parts waits for 5 ns.
+// The copy in the window is read last, when it is in the cache: loading what was just stored in parts costs 5 ns.
 template <size_t kBands>
 void splitStream(SplittingBand& band, const Qvx32f* const (&taps)[kBands], const Qvx32f* x, Qvx32f* const (&dst)[kBands],
                  int64_t count) {
@@ -67,8 +68,8 @@ void join(Bank<JoiningBand>& bank, const Qvx32f* low, const Qvx32f* high, Qvx32f
 
 // ---- filters as they are stored
 
-// New values that a window may have to hold: those of a short call, or of as many results as reach back, and of less than a
-// vector more.
+// New values that a window may have to hold: those of a short call, or of the results that reach back and of less than a vector
+// more.
 int64_t room(const SplittingBand& band, int64_t) { return std::max<int64_t>(2 * kShort, band.history + 1 + 2 * N); }
 int64_t room(const JoiningBand&, int64_t mostHistory) { return std::max<int64_t>(kShort, mostHistory + N); }
 
@@ -82,7 +83,7 @@ void setTaps(SplittingBand& band, const Qvx32f* h) {
   std::reverse_copy(h, h + band.length, band.taps + (band.isOdd ? 1 : 0));
 }
 
-// An offset of -1 begins as 1 does.
+// An offset of -1 begins like 1.
 void shape(JoiningBand& band) {
   band.newestInSecondOnly = band.offset % 2 != 0;
   band.oldestInFirstOnly = (band.length % 2 != 0) != band.newestInSecondOnly;
@@ -242,7 +243,7 @@ QvxStatus toIntegers(const Qvx32f* x, Qvx8s* d, int n) { return qvxsConvert_32f8
 QvxStatus toIntegers(const Qvx32f* x, Qvx16u* d, int n) { return qvxsConvert_32f16u_Sfs(x, d, n, kToEven, 0); }
 QvxStatus toIntegers(const Qvx32f* x, Qvx16s* d, int n) { return qvxsConvert_32f16s_Sfs(x, d, n, kToEven, 0); }
 
-// Integers pass through the buffer, in pieces of it.
+// Integers pass through the buffer, piece by piece.
 template <class S, class T> QvxStatus forward(const T* src, Qvx32f* low, Qvx32f* high, int len, S* state) {
   QvxStatus status = checkStage(state);
   if (status != qvxStatOk) return status;

@@ -7,8 +7,8 @@
 
 namespace qvx::wavelet {
 
-// What a band of either stage has. Sums are taken over windows, oldest value first, each of which begins `history` values before
-// the first new one that its result goes with.
+// A band of either stage. Sums are taken over windows, oldest value first; each begins `history` values before the first new
+// value of its result.
 struct Band {
   int length;  // of the filter as it was given
   int offset;
@@ -23,8 +23,8 @@ struct SplittingBand : Band {
   bool isOdd;
 };
 
-// Inverse: a pair of taps is for one value's part in two neighbouring results. At either end of a window it may be half a pair:
-// an odd offset exchanges the taps of even and of odd index, and then the newest value has no part in the first result.
+// Inverse: a pair of taps takes one value to two neighbouring results. At either end of a window it may be half a pair: an odd
+// offset exchanges the taps of even and of odd index, and then the newest value has no part in the first result.
 struct JoiningBand : Band {
   bool oldestInFirstOnly;
   bool newestInSecondOnly;

@@ -32,7 +32,7 @@ struct NoSums {
   template <class V> Pair<V> operator()(Pair<V>) const { return {hn::Zero(TagOf<V>()), hn::Zero(TagOf<V>())}; }
 };
 
-// ---- inverse: low - high and low + high, which are the difference and the sum of the pair (high, low)
+// ---- inverse: low - high and low + high, the difference and the sum of the pair (high, low)
 
 template <class Sums> struct Inverse {
   Sums sums;

@@ -1,4 +1,4 @@
-// The sums of the wavelet filter bank over windows: of one stream for two of half its rate, and of two for one.
+// The sums of the wavelet filter bank over windows: from one stream to two of half its rate, and from two to one.
 #pragma once
 
 #include "frame/complex.h"
@@ -11,7 +11,7 @@ using V = Vec<Lanes<Qvx32f, kVectorBytes / sizeof(Qvx32f)>>;
 inline constexpr size_t N = kLanesOf<V>;
 inline constexpr size_t kTile = 4;  // vectors of results that stay in registers while the taps pass
 
-// Vectors past the last result read as far, in the window only.
+// How far vectors that reach past the last result read, in the window only.
 inline constexpr int64_t kPast = 2 * N;
 
 // ---- forward
@@ -30,7 +30,7 @@ inline V inOrder(V v) {
 #endif
 }
 
-// Where the vectors of a tile begin. The last ones of a call overlap, so that a vector is whole where there is one.
+// Where the vectors of a tile begin. The last ones of a call overlap, so that all are whole where at least one is.
 template <size_t kVectors> struct Tile {
   size_t at[kVectors];
   Tile(size_t from, size_t count) {
@@ -73,7 +73,7 @@ template <size_t kVectors, size_t kBands>
   unrolled<kBands * kVectors>([&](auto i) { sum[i / kVectors][i % kVectors] = inOrder(sum[i / kVectors][i % kVectors]); });
 }
 
-// `count` results. Fewer than a vector read past their windows.
+// `count` results. Less than a vector reads past its windows.
 template <size_t kBands>
 [[gnu::flatten]] void splitMany(const SplittingBand& shape, const Qvx32f* const (&taps)[kBands], const Qvx32f* x, size_t count,
                                 Qvx32f* const (&dst)[kBands]) {
@@ -115,7 +115,7 @@ template <size_t kVectors>
   if (band.newestInSecondOnly) add(end, kNo, kYes);
 }
 
-// `count` pairs of results. Fewer than a vector read past their windows.
+// `count` pairs of results. Less than a vector reads past its windows.
 [[gnu::flatten]] inline void joinMany(const Bank<JoiningBand>& bank, const Qvx32f* low, const Qvx32f* high, size_t count,
                                       Qvx32f* dst) {
   const TagOf<V> d;

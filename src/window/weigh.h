@@ -18,7 +18,7 @@ template <class T> QvxStatus checkWindow(const T* src, const T* dst, int len) {
   return len < 3 ? qvxStatBadSize : qvxStatOk;
 }
 
-// In what the weights of an element are made.
+// The type in which the weights of an element are computed.
 template <class T> using Weight = std::conditional_t<std::is_same_v<Part<T>, Qvx64f>, Qvx64f, Qvx32f>;
 
 // Floats as they come. Integers times 2^-scaleFactor, to nearest, saturated: `factor` is that power of two.
