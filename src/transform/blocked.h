@@ -298,8 +298,8 @@ QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Scale scale)
   else runPasses<L>(plan, row.asSource(), row, y, scale);
 }
 
-// Working memory of `points` for each part of a divided call. The first part is always the caller's and uses the caller's memory.
-// Another part comes after it, or on another thread, whose stack has room for a tile.
+// Working memory of `points` for each part of a divided call. The first part always runs on the caller's thread, in the caller's
+// memory. A later part finds that free again, or runs on another thread, whose stack has room for a tile.
 template <class T, class Step> [[gnu::noinline]] void onOwnTile(size_t points, Step step) {
   alignas(Carver::kLine) T own[2 * kMostOfTile<T>];
   step(own, std::min(points, kMostOfTile<T>));
