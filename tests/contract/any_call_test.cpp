@@ -1,5 +1,5 @@
-// What holds for every function and every valid call: it reads and writes its vectors alone, its outcome depends on nothing but
-// its arguments, and what it refuses leaves no trace.
+// What holds for every function and every valid call: it reads and writes only its vectors, its outcome depends on its arguments
+// alone, and a refused call leaves no trace.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <ucontext.h>
@@ -11,7 +11,7 @@
 #include "support/any_call.h"
 #include "support/sanitizer.h"
 
-// The library's allocator, here in its place: it counts, gives blocks of garbage, and fails when it is told to.
+// Replaces the library's allocator: counts requests, returns blocks of garbage, and fails on demand.
 namespace {
 struct Allocator {
   int live = 0;
@@ -49,7 +49,7 @@ using tests::Export;
 using tests::Surroundings;
 using tests::Wrong;
 
-// Of each function.
+// Calls of each function.
 int calls() {
   const char* asked = std::getenv("QVXS_CALLS");
   return asked == nullptr ? 40 : std::atoi(asked);
@@ -57,7 +57,7 @@ int calls() {
 
 class EveryCall : public testing::Test {
  protected:
-  // f(export, choices) for some calls of each function, until one fails.
+  // Calls f(export, choices) for some calls of each function, until one fails.
   template <class F> void forEach(F f) {
     uint64_t seed = 0;
     for (const Export& e : tests::exportTable()) {
@@ -101,7 +101,8 @@ TEST_F(EveryCall, DependsOnItsArgumentsAlone) {
   });
 }
 
-// Alone and with all that is looked at after it, each argument that is wrong gives its own status, and leaves no trace.
+// Each wrong argument gives its own status and leaves no trace: alone, and together with wrong arguments that are tested after
+// it.
 TEST_F(EveryCall, ChecksItsArgumentsInOrder) {
   const int draws = std::min(5, calls());
   for (const Export& e : tests::exportTable()) {
@@ -177,7 +178,7 @@ TEST_F(EveryCall, RefusesTheRecordsOfOthers) {
   }
 }
 
-// A function and its form in place, at every length up to some vectors and at longer ones.
+// A function against its form in place, at every length up to some vectors and at longer ones.
 TEST_F(EveryCall, InPlaceIsAsOutOfPlace) {
   size_t pairs = 0;
   for (const Export& e : tests::exportTable()) {
@@ -205,7 +206,7 @@ TEST_F(EveryCall, InPlaceIsAsOutOfPlace) {
   EXPECT_GT(pairs, 250U);
 }
 
-// The record of a filter has memory for each thread: for as many as its block was asked for.
+// The record of a filter has memory for each thread, as many as there were when its size was reported.
 TEST(Records, CountTheThreadsOnce) {
   const std::vector<Qvx32f> taps(2000, 1);
   QvxsFIRState_32f* records[2] = {};
@@ -265,7 +266,7 @@ class OneElement : public tests::Arguments {
   uint8_t element_[8][64];
 };
 
-// Whether all vectors have an element for each other's, from which alone it comes.
+// Whether each element of a result comes from the elements at its own index alone.
 bool isElementwise(const Export& e) {
   if (!e.call || !e.has("len") || e.has("tblLen")) return false;
   if (tests::traitsOf(e).is("whole")) return false;
@@ -273,7 +274,7 @@ bool isElementwise(const Export& e) {
                       [](const tests::Parameter& p) { return p.isArrayOfPointers() || p.isRecord(); });
 }
 
-// The same alone as among others, wherever it stands. The first that has something to report decides.
+// An element gives the same alone as among others, at any index; the first with a warning decides the status.
 TEST_F(EveryCall, ElementsDoNotKnowTheirPlace) {
   size_t functions = 0;
   for (const Export& e : tests::exportTable()) {
@@ -304,8 +305,8 @@ TEST_F(EveryCall, ElementsDoNotKnowTheirPlace) {
   EXPECT_GT(functions, 400U);
 }
 
-// NaN, infinities, and numbers at the ends of the types anywhere: no call fails for them, hangs or goes astray, and what it makes
-// of them does not depend on the place. Filters and transforms are drawn numbers without such above.
+// NaN, infinities and numbers at the ends of the types, anywhere: no call fails, hangs or leaves its vectors because of them, and
+// the results do not depend on addresses. The tests above draw none of them for filters and transforms.
 TEST_F(EveryCall, TakesAnyFloat) {
   constexpr double kAny[] = {NAN, INFINITY, -INFINITY, -0.0, 1e-310, 1e-40, -3.4e38, 1.7e308, 0.5, -3.25, 70000, -0x1p62};
   size_t none = 0;
@@ -366,8 +367,8 @@ TEST_F(EveryCall, AllocatesOnlyWhereItMayAndSurvivesWithout) {
   EXPECT_GT(failed, 20U * static_cast<unsigned>(calls()));
 }
 
-// Lags at which the vectors do not meet are zeros, of which nothing may stand there when the memory for the others is out. Calls
-// drawn as above come to it once in some thousand.
+// Lags at which the vectors do not meet are zeros, but none may be stored when there is no memory for the others. Random calls as
+// above reach this once in some thousand.
 template <class T> bool writesWithoutMemory(QvxStatus (*correlate)(const T*, int, const T*, int, T*, int, int)) {
   const std::vector<T> x(1000);
   std::vector<T> y(3000);
@@ -413,7 +414,8 @@ TEST_F(EveryCall, LeavesTheControlWordAlone) {
   });
 }
 
-// Each call on a stack of its own, painted before: what it painted over, it used. Threads of audio programs have small stacks.
+// Each call on a stack of its own, filled with a pattern: what it overwrites, it uses. Threads of audio programs have small
+// stacks.
 TEST_F(EveryCall, NeedsLittleStack) {
   if (tests::isSanitized()) GTEST_SKIP() << "sanitizers widen every frame, and lose track of such a stack";
   constexpr size_t kMost = 24 << 10;
@@ -441,7 +443,8 @@ TEST_F(EveryCall, NeedsLittleStack) {
   EXPECT_GT(most, 1U << 10);
 }
 
-// What the library takes from others: no way to allocate but the core's, none to print, to stop the program, or to read files.
+// What the library imports: nothing to allocate with but the core's functions, nothing to print, to stop the program or to read
+// files.
 TEST(Imports, AreFew) {
   if (tests::isSanitized()) GTEST_SKIP() << "sanitizers import much";
   const std::set<std::string> known = {

@@ -1,5 +1,5 @@
-// Functions that may divide a vector between threads: nobody can tell. Results, statuses, the rounding mode and the
-// floating-point exceptions raised are those of one thread, however many there are and wherever the call comes from.
+// Functions that may divide a vector between threads do not show it: results, statuses, the rounding mode and the floating-point
+// exceptions raised are those of one thread, whatever the number of threads and the caller.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@
 #include "support/any_call.h"
 #include "support/no_threads.h"
 
-// The library's way to its team, counted.
+// Counts the library's calls of its team.
 namespace {
 std::atomic<int> teamCalls{0};
 }
@@ -162,7 +162,7 @@ TEST_P(Threads, CallersFloatingPointEnvironment) {
   for (const int mode : {FE_UPWARD, FE_DOWNWARD}) expectSame(function(), {2}, kLong, nullptr, 1, mode);
 }
 
-// Any function, filters with records made for as many threads among them; but the sizes of these records count the threads.
+// Any function, also filters with records for several threads; only the sizes of these records depend on the number of threads.
 TEST(AnyFunction, GivesTheSame) {
   for (const Export& e : tests::exportTable()) {
     if (!e.call || tests::traitsOf(e).is("threads")) continue;
@@ -205,7 +205,7 @@ TEST(AnyFunction, WorksWithoutThreads) {
   qvxSetNumThreads(0);
 }
 
-// Transforms, whose orders are beyond those that are drawn.
+// Transforms of orders above those of random calls.
 template <class T, class Spec>
 void expectWithoutThreads(int order, QvxStatus (*make)(Spec**, int, int, int),
                           QvxStatus (*run)(const T*, T*, const Spec*, Qvx8u*), QvxStatus (*release)(Spec*)) {

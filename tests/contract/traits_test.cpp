@@ -1,4 +1,4 @@
-// The rows of traits/ and the functions they are for: each has the other.
+// Every row of traits/ has a function, and every function a row.
 #include <fnmatch.h>
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ TEST(Traits, EveryFunctionHasARow) {
   }
 }
 
-// A pattern that names nothing is a slip of the pen, and so is a parameter that no function of the row has.
+// A pattern that matches no function is a mistake, and so is a parameter that no function of the row has.
 TEST(Traits, EveryRowHasAFunction) {
   for (const Traits& row : allTraits()) {
     if (row.names[0] == "*") continue;

@@ -49,7 +49,7 @@ TYPED_TEST(Convolution, OfWholeNumbersIsExactWhereItIsShort) {
   }
 }
 
-// What lies outside the other operand is no factor: not of an infinite element either.
+// What lies outside an operand multiplies nothing, not even an infinite element of the other.
 TYPED_TEST(Convolution, OfAnInfiniteElementIsFiniteElsewhere) {
   using T = typename TypeParam::T;
   Random random(9);

@@ -1,4 +1,4 @@
-// Cosine transforms: the definition at all lengths, the sizes that callers are told, the life of a record, integers.
+// Cosine transforms: the definition at all lengths, the reported sizes, the life of a record, integers.
 #include <gtest/gtest.h>
 #include <qvx/qvxs.h>
 
@@ -55,7 +55,7 @@ template <class Type> Sizes sizesOf(const Type& type, int len) {
   return s;
 }
 
-// A record in a block of exactly the size that is told, at an address that nobody aligned, and working memory likewise.
+// A record in a block of exactly the reported size, at an odd address, and working memory likewise.
 template <class Type> class Placed {
  public:
   Placed(const Type& type, int len)
@@ -154,7 +154,7 @@ TEST(Dct, IsTheDefinition) {
   }
 }
 
-// Some results, and the way back to all of them.
+// Some results of the forward transform, and the inverse.
 template <class Forward, class Inverse> void checkLong(const Forward& forward, const Inverse& inverse, size_t n, Random& random) {
   using T = typename Forward::T;
   SCOPED_TRACE(testing::Message() << sizeof(T) << " bytes, length " << n);

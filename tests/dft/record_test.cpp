@@ -1,4 +1,4 @@
-// Records of transforms of any length: which lengths there are, what callers are told, how memory runs out.
+// Records of transforms of any length: the lengths that exist, the reported sizes, memory that runs out.
 #include <qvx/qvxcore.h>
 
 #include <numbers>

@@ -1,4 +1,4 @@
-// The tests that docs/contracts.md names are there: a promise whose test was renamed or removed has nothing behind it.
+// The tests that docs/contracts.md names exist: else a promise whose test was renamed or removed would go untested.
 #include <gtest/gtest.h>
 
 #include <filesystem>

@@ -47,7 +47,7 @@ TEST_F(Echo, cancelsWhatItMade) {
   EXPECT_NEAR(10 * std::log10(energy / 4000), lines.back().after, 1);
 }
 
-// A room's first reflection comes when it is told to, as strong as that.
+// The first reflection of a room has the delay and the level that were asked for.
 TEST_F(Echo, makesReflections) {
   std::vector<float> click(1000);
   click[0] = 0.5F;

@@ -128,7 +128,7 @@ TEST(ComplexFft, IsTheDefinition) {
   });
 }
 
-// The C library takes it from each thread's stack, where the library's own threads need room for their tiles all the same.
+// The C library takes this from the stack of each thread; the library's own threads still need room for their tiles.
 thread_local volatile char threadLocal[128 << 10];
 
 // Longer ones, which take other ways: the same accuracy, and back.

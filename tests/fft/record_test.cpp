@@ -8,7 +8,7 @@ namespace {
 
 using tests::Sizes;
 
-// What callers are told, by order: record, memory for its making, working memory.
+// The reported sizes by order: record, memory for making it, working memory.
 using Rows = std::map<int, Sizes>;
 const Rows kComplex32 = {{0, {168, 0, 0}},
                          {4, {168, 0, 0}},

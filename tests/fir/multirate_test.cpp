@@ -61,8 +61,8 @@ template <class T> struct Vectors {
   }
 };
 
-// Calls of any length, out of place and in place, with the record in a block of just the told size at any alignment; new taps,
-// new samples and old ones read between.
+// Calls of any length, out of place and in place, with the record in a block of exactly the reported size at any alignment;
+// between calls taps and delay line are read and replaced.
 TEST(Multirate, StreamsAreOneSignalHoweverTheyAreCut) {
   forEachMultirate([](const auto& pair, const auto& multirate) {
     using P = std::remove_cvref_t<decltype(pair)>;

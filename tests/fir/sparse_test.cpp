@@ -1,4 +1,4 @@
-// Sparse FIR filters against their definition, in records of just the told size.
+// Sparse FIR filters against their definition, in records of exactly the reported size.
 #include <gtest/gtest.h>
 #include <qvx/qvxs.h>
 

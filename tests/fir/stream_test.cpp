@@ -73,7 +73,7 @@ template <class P> class Stream {
   Block output_{kMost * sizeof(T)};
 };
 
-// The record lies in a block of just the reported size, at any alignment, its end at an unreadable page or among canaries.
+// The record lies in a block of exactly the reported size, at any alignment, before an unreadable page or among canaries.
 TEST(FirStream, IsOneSignalHoweverItIsCut) {
   forEachPair([](const auto& pair) {
     using P = std::remove_cvref_t<decltype(pair)>;
@@ -109,8 +109,9 @@ TEST(FirStream, IsOneSignalHoweverItIsCut) {
   });
 }
 
-// Long filters keep spectra that go with the length of the calls: new ones are made for calls of another length, for such as
-// begin within a block, after new taps, and after samples that went another way; and the window moves through its memory.
+// Long filters keep spectra that fit the length of the calls. They are made again for calls of another length, for calls that
+// begin within a block, after new taps, and after samples that were filtered in another way; and the window moves through its
+// memory.
 TEST(FirStream, IsOneSignalWhateverLengthTheCallsComeToHave) {
   forEachPair([](const auto& pair) {
     using P = std::remove_cvref_t<decltype(pair)>;

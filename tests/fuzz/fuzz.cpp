@@ -1,5 +1,5 @@
-// Bytes to a call: which function, its lengths, scale factors, places in memory and data. The variants must agree, no call may
-// touch what is not its own, and integer arithmetic must be what its definition says.
+// Makes a call from bytes: the function, its lengths, scale factors, addresses and data. The variants must agree, no call may
+// touch memory that is not its own, and integer arithmetic must follow its definition.
 #include <cstdio>
 
 #include "reference/scaled.h"
@@ -14,7 +14,7 @@ using namespace tests;
   std::abort();
 }
 
-// The function of the next hash from this one on, so that a new function takes over a few inputs and leaves the others theirs.
+// The function with the next hash from this one on, so that a new function takes over only a few inputs.
 const Export& functionOf(uint32_t hash) {
   static const auto all = [] {
     std::map<uint32_t, const Export*> byHash;

@@ -38,7 +38,7 @@ struct Of16s16sc : Record<QvxsHilbertSpec_16s16sc> {
   explicit Of16s16sc(size_t len) : Record(qvxsHilbertInitAlloc_16s16sc, qvxsHilbertFree_16s16sc, len) {}
 };
 
-// Of two transforms.
+// The error allowed for two transforms.
 long double allowedError(size_t n) {
   const long double factor = (tests::largestPrimeFactor(n) > 13 ? 1.2L : 0.6L) * tests::unfused();
   return std::numeric_limits<float>::epsilon() * std::max(0.5L, factor * std::sqrt(std::log2(static_cast<long double>(n))));

@@ -92,7 +92,8 @@ template <class D> long double distance(D got, Exact<D> expected, int sf) {
   else return one(got, expected);
 }
 
-// x through the members' functions, cut at random, against the truth: `allowed` epsilons of the greatest magnitude on the way.
+// Filters x in random pieces, in all forms, and compares with the truth: off by at most `allowed` epsilons of the greatest
+// magnitude.
 template <class M, class T>
 void expectStream(const M& m, int form, int n, const std::vector<T>& taps, size_t len, int sf, long double allowed,
                   Random& random) {
@@ -258,8 +259,8 @@ TEST(IirFilter, IsAsAccurateAsThePlainLoopNearTheUnitCircle) {
             if (form == 0 && isLong) taps = inOneForm<T>(taps, section<T>(random, radius, uniform(random, 0.1, 3)));
             const auto x = samples<T>(3000, random);
             const auto truth = through(tests::recursions<Exact<T>>(taps, n, form == 0 ? 0 : n), x);
-            // Nobody is closer than the rounding of the output itself. At a quarter of the sampling rate, products that are
-            // rounded apart cancel their errors by luck, and those of a fused loop are 3 times as large.
+            // No filter is closer than the rounding of its output. At a quarter of the sampling rate the errors of separately
+            // rounded products happen to cancel; those of a fused loop are 3 times as large.
             long double plain = rounding<T>(truth);
             for (const bool fuses : {false, true}) {
               auto loop = tests::recursions<Plain>(taps, n, form == 0 ? 0 : n);
@@ -388,7 +389,7 @@ TEST(IirChannels, FilterEach) {
   EXPECT_EQ(whole[2][0], 800);
 }
 
-// A channel's record of another form, or none: those before it are done.
+// A channel whose record is of another form, or null: the channels before it are filtered.
 TEST(IirChannels, RefusesOneAfterTheOther) {
   Channels c;
   const Qvx32f t[] = {2, 0, 0, 1, 0, 0};

@@ -11,7 +11,7 @@ namespace {
 
 using tests::Random;
 
-// 32 bits that wrap, told in 64.
+// Wraps to 32 bits.
 int64_t wrapped(int64_t v) { return static_cast<int32_t>(static_cast<uint32_t>(v)); }
 int64_t shifted(int64_t acc, int s) {
   return wrapped(acc + wrapped((acc >> (s % 32)) & 1) + wrapped(int64_t{1} << ((s + 31) % 32)) - 1) >> (s % 32);

@@ -60,7 +60,7 @@ template <class T> void expectOutput(T got, long double y, long double error, co
   }
 }
 
-// A step from any taps and any line, on memory whose end bites: output, taps, line and index.
+// A step from any taps and any line, before unreadable pages: output, taps, line and index.
 template <class S, class T> void expectSteps(const Family<S, T>& family) {
   Random random(tests::seed());
   Block tapsBlock(2048), lineBlock(8192);

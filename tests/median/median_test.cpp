@@ -120,7 +120,7 @@ TYPED_TEST(Median, OfLongVectors) {
   check<TypeParam>(drawn<T>(9000, random, 0), 601);
 }
 
-// The medians of three ask a block at a time for what minima and maxima get wrong: one such element, wherever it stands.
+// Medians of three test a block at a time for elements that minima and maxima get wrong: one of them, at any index.
 TYPED_TEST(Median, OfThreeWithOneSpecialElement) {
   using T = typename TypeParam::T;
   Random random(4);

@@ -1,8 +1,8 @@
-// Random calls in one process for as many minutes as are told, by threads that come and go, while requests for memory fail: what
-// a call leaves behind adds up here. Ends with 1 at a call that went wrong, and if memory grew or a thread stayed.
+// Random calls in one process for a given number of minutes, from threads that come and go, while requests for memory fail: leaks
+// add up here. Exits with 1 if a call went wrong, memory grew or a thread stayed.
 //
 // Under the memory sanitizer destinations, working memory and blocks of the allocator are uninitialised, and results must not be.
-// What is here is not instrumented then, since the standard library is not.
+// This program is not instrumented then, since the standard library is not.
 #include <dlfcn.h>
 #include <malloc.h>
 
@@ -16,7 +16,7 @@
 
 #include "support/any_call.h"
 
-// In the place of the core's: counts its blocks, and fails when a thread is told to.
+// Replaces the core's allocator: counts blocks, and fails on a thread's demand.
 namespace {
 std::atomic<int> liveBlocks{0};
 thread_local int requests = 0, failing = 0;  // the number of the request that fails
@@ -36,10 +36,10 @@ extern "C" void qvxFree(void* block) {
   liveBlocks -= block != nullptr;
   release(block);
 }
-// Memory of this program counts as written: nobody would tell the sanitizer.
+// Memory of this program counts as written, since its own code does not tell the sanitizer.
 extern "C" const char* __msan_default_options() { return "poison_in_malloc=0:poison_in_free=0:intercept_memcmp=0"; }
 
-// How instrumented code hands on what it knows of arguments, in place of which this program says that they are written.
+// Where instrumented code passes on which arguments are written; this program marks all of them as written.
 extern "C" __attribute__((weak)) thread_local uint64_t __msan_param_tls[100];
 #pragma GCC visibility pop
 

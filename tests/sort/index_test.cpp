@@ -1,4 +1,4 @@
-// Sorts that tell where elements were.
+// Sorts that return the old indices of the elements.
 #include <gtest/gtest.h>
 #include <qvx/qvxs.h>
 
@@ -101,7 +101,7 @@ TEST(SortIndex, KeepsElementsBesideTheirPlacesWhateverNaNDoes) {
   expect(qvxsSortIndexAscend_64f_I, qvxsSortIndexDescend_64f_I, Qvx64f());
 }
 
-// Seconds, the least of some.
+// The least time of several runs, in seconds.
 template <class T> double secondsOf(SortIndex<T> function, const std::vector<T>& x) {
   double least = 1e9;
   for (int i = 0; i < 3; ++i) {
@@ -114,7 +114,7 @@ template <class T> double secondsOf(SortIndex<T> function, const std::vector<T>&
   return least;
 }
 
-// The told steps would take 150 times as long as on random elements.
+// The steps that the header documents would take 150 times as long as on random elements.
 TEST(SortIndex, IsQuickOnDifferentElementsInAnyOrder) {
   constexpr int kLength = 30000;
   const std::vector<int> killer = reference::killerOfQuicksort(kLength);

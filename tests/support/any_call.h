@@ -21,7 +21,7 @@
 
 namespace tests {
 
-// What must not make a difference.
+// Conditions that must not change the results.
 struct Surroundings {
   int offset = -1;           // of vectors from the start of their blocks; -1: they end where their blocks end
   uint8_t garbage = 0;       // in destinations and working memory
@@ -38,7 +38,7 @@ inline std::string replaced(std::string text, const char* what, const char* with
   return at == text.npos ? text : text.replace(at, std::strlen(what), with);
 }
 
-// Which function stands for a name: that of the library the program is linked to, unless a test says otherwise.
+// Finds the function of an export: in the library the program is linked to, unless a test says otherwise.
 using Library = std::function<void*(const Export&)>;
 inline void* linked(const Export& e) { return e.address; }
 
@@ -57,13 +57,13 @@ class AnyCall : public Arguments {
     return status_;
   }
 
-  // One argument made wrong, by one of the values that are.
+  // Makes one argument wrong: the value number `which` of those that are refused.
   void spoil(const Wrong& wrong, size_t which = 0);
   // A record of another type, or of none, where the call expects its own.
   void setRecord(size_t index, void* record) { pointers_[index] = record; }
   void* record() const { return records_.empty() ? nullptr : records_[0].address; }
 
-  // Other numbers in the vectors of a parameter: value(element) in all parts.
+  // Writes value(element) to all parts of a parameter's vectors.
   void write(const std::string& parameter, const std::function<double(size_t)>& value) {
     for (Vector& v : vectors_) {
       if (v.parameter != parameter) continue;
@@ -82,7 +82,7 @@ class AnyCall : public Arguments {
   }
   size_t extentOf(size_t index) const { return extent(export_.parameters[index]); }
 
-  // What the call may write, as bytes, but for records and working memory. All NaN are alike: the product of two is either.
+  // What the call may write, as bytes, without records and working memory. All NaN count as equal: the product of two is either.
   std::vector<uint8_t> results(const char* parameter = "") const {
     std::vector<uint8_t> all;
     for (const Vector& v : vectors_) {
@@ -132,7 +132,7 @@ class AnyCall : public Arguments {
     }
     return nullptr;
   }
-  // Where a record's address goes: as it was, or null.
+  // Whether the place for a record's address is as it was, or null.
   bool leadsNowhere() const {
     return std::all_of(vectors_.begin(), vectors_.end(), [](const Vector& v) {
       const auto isZero = [](uint8_t byte) { return byte == 0; };
@@ -176,7 +176,7 @@ class AnyCall : public Arguments {
   int64_t drawInteger(const Parameter& p, Choices& choices);
   double drawReal(const Parameter& p, Choices& choices);
   size_t extent(const Parameter& p) const;
-  // Garbage, unless it is filled.
+  // Contains garbage unless it is filled.
   using Fill = std::function<void(uint8_t*)>;
   uint8_t* vector(size_t bytes, Role role, size_t index, const Fill& fill = nullptr);
   void fill(uint8_t* p, size_t bytes, const Parameter& parameter, Choices& choices);
@@ -277,7 +277,7 @@ template <class T> void drawNumbers(T* p, size_t count, bool isTame, Choices& ch
 inline void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, Choices& choices) {
   const PartType type(parameter.pointee());
   const size_t part = type.bytes;
-  // Longer vectors repeat what is drawn: a prime number, so that no slice or block is like another.
+  // Longer vectors repeat this many numbers: a prime, so that no two slices or blocks are alike.
   constexpr size_t kMost = 1021;
   alignas(8) uint8_t drawn[8 * kMost];
   const size_t count = std::min(bytes / part, kMost);
@@ -354,7 +354,7 @@ inline void AnyCall::fillTaps(uint8_t* p, const Parameter& parameter, Choices& c
 
 // ---- records
 
-// What the size function that belongs to a maker says.
+// The size reported by the function that belongs to a maker.
 inline int AnyCall::sizeFor(const std::string& maker, const std::string& which) {
   const char* init = maker.find("InitAlloc") != maker.npos ? "InitAlloc" : "Init";
   const Export* e = findExport(replaced(maker, init, "GetStateSize"));

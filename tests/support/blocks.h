@@ -1,4 +1,4 @@
-// Memory whose ends bite: a block between unreadable pages, with canaries in the slack.
+// Memory that guards its ends: a block between unreadable pages, with canaries in the slack.
 #pragma once
 
 #include <sys/mman.h>
@@ -59,7 +59,7 @@ class Block {
   size_t bytes_ = 0;
 };
 
-// Blocks of one size, taken one by one and then all at once given back.
+// Blocks of one size, taken one by one and returned all at once.
 class Memory {
  public:
   Block& take() {

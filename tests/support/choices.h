@@ -7,8 +7,8 @@
 
 namespace tests {
 
-// Bytes first, as a fuzzer brings them, then a random sequence that follows from them: SplitMix64, whose state is one number. To
-// begin and copy that of a Mersenne twister, of 2.5 KB, took as long as most calls that are drawn.
+// First the bytes that a fuzzer provides, then a random sequence that follows from them: SplitMix64, whose state is one number.
+// Seeding and copying the 2.5 KB of a Mersenne twister took as long as most of the calls.
 class Choices {
  public:
   explicit Choices(std::span<const uint8_t> bytes) : bytes_(bytes), state_(seedOf(bytes)) {}

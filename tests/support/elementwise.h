@@ -14,7 +14,7 @@ namespace tests {
 
 inline constexpr int kOutOfPlace = -1;
 
-// Any number that is not one equals another.
+// All NaN count as equal.
 template <class T> bool sameBits(const T* a, const T* b, size_t n) {
   if constexpr (isComplex<T>) {
     return sameBits(reinterpret_cast<const decltype(T::re)*>(a), reinterpret_cast<const decltype(T::re)*>(b), 2 * n);

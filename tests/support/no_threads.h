@@ -1,4 +1,5 @@
-// The C library's way to a new thread, counted, and refused when a test says so. For one file of a program that exports it.
+// Counts the threads that are made, and refuses them when a test says so, in place of the C library's function. For one file of a
+// program, which exports it.
 #pragma once
 
 #include <dlfcn.h>

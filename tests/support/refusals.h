@@ -1,4 +1,4 @@
-// What each function refuses, in the order in which it looks: its row's refusals, one argument each.
+// What each function refuses, in the order of its tests: the refusals of its row, one argument each.
 #pragma once
 
 #include <climits>

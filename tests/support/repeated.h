@@ -1,4 +1,4 @@
-// Vectors as long as a length can say, in the memory of short ones: the same pages mapped again and again.
+// Vectors of the greatest lengths in the memory of short ones: the same pages are mapped again and again.
 #pragma once
 
 #include <sys/mman.h>
@@ -13,8 +13,8 @@ namespace tests {
 
 template <class T> class Repeated {
  public:
-  // n elements and whatever fills their last page; the data must fill whole pages. What is written to one stretch is written to
-  // all, but for the last page.
+  // n elements, and more up to the end of their last page; the data must fill whole pages. A write to one stretch is a write to
+  // all of them, except in the last page.
   Repeated(const std::vector<T>& data, size_t n) : n_(n), bytes_((n * sizeof(T) + kPage - 1) / kPage * kPage) {
     const size_t stretch = data.size() * sizeof(T);
     const int file = memfd_create("repeated", 0);

@@ -1,4 +1,4 @@
-// What is known of each function beside its type: the rows of traits/, whose README tells how they read.
+// What is known of each function besides its type: the rows of traits/, whose README describes their form.
 #pragma once
 
 #include <map>

@@ -77,7 +77,7 @@ TEST(AddC, FloatZeroKeepsTheBits) {
   zeroKeepsBits<Qvx64f>(uint64_t{0x7FF0000000000001}, {qvxsAddC_64f, qvxsSubC_64f});
 }
 
-// Vectors that no cache holds are stored in another way, unless the destination is a source: all as their pieces are.
+// Vectors beyond the caches are stored in another way, unless the destination is a source: with the results of their pieces.
 template <class T, class F> void isAsItsPieces(F f) {
   constexpr int n = (33 << 20) / static_cast<int>(sizeof(T)) + 77;
   Random random(seed());

@@ -90,7 +90,7 @@ TEST(Move, AnyOverlap) {
   }
 }
 
-// Past what the caches hold, where vectors that lie apart are streamed.
+// Beyond the caches, where vectors that do not overlap are streamed.
 TEST(Move, LongOverlaps) {
   constexpr int kLength = 33 << 20;
   std::vector<uint8_t> v(kLength + 300);

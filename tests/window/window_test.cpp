@@ -16,7 +16,7 @@ using tests::Part;
 
 template <class T> using Call = std::function<QvxStatus(const T*, T*, int)>;
 
-// A window of one type beside its formula, for the first half.
+// A window of one type and its formula, for the first half.
 template <class T> struct Window {
   const char* name;
   Call<T> call;
