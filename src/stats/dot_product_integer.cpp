@@ -1,5 +1,6 @@
 // Dot products of vectors of integers: the exact sum, rounded once at most.
 #include "stats/moments.h"
+#include "vector/product.h"
 
 using namespace qvx;
 
@@ -17,10 +18,7 @@ struct ComplexProducts16 {
   static constexpr size_t kSlice = 1 << 16;
   static constexpr bool kImOfPairs = true;
   template <class V> static auto of(V a, V b) {
-    const V zero = same<V>(0);
-    // -im may not fit, ~im = -im - 1 does: the product with it lacks one im of the other.
-    const V conjugate = b ^ hn::OddEven(same<V>(-1), zero);
-    const auto re = pairProducts(a, conjugate) + hn::ShiftRight<16>(as<int32_t>(a));
+    const auto re = differencesOfProducts(a, b);
     return Complex<std::remove_const_t<decltype(re)>>{re, pairProducts(a, swapped(b))};
   }
 };

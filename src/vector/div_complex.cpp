@@ -24,8 +24,8 @@ struct ComplexQuotient {
     using I = Vec<decltype(d32)>;
     using F = Vec<decltype(df)>;
     const V divisor = oneForZero(a);
-    // 2^31 fits but for its sign.
-    const F magnitude = hn::Abs(hn::PromoteTo(df, dot(a, a)));
+    // 2^31 wraps to a negative number.
+    const F magnitude = hn::Abs(hn::PromoteTo(df, pairProducts(a, a)));
     const auto zero = magnitude == hn::Zero(df);
     flag.raise(df, zero);
     const F reciprocal = same<F>(scale) / hn::IfThenElse(zero, same<F>(Far<double>::kTiny), magnitude);
@@ -35,9 +35,9 @@ struct ComplexQuotient {
           clippedBelow(clippedAbove(rounded * same<F>(powerOfTwo<double>(-kFractionBits)), INT16_MAX), INT16_MIN));
     };
     // The one product that is 2^31 is taken as 2^31 - 1, which changes nothing: its quotient is 1 * 2^-scaleFactor.
-    const I product = dot(b, divisor);
+    const I product = pairProducts(b, divisor);
     const I re = toInts(product + hn::VecFromMask(d32, product == same<I>(INT32_MIN)));
-    const I im = toInts(cross(b, divisor));
+    const I im = toInts(differencesOfProducts(swapped(b), divisor));
     return hn::OddEven(as<int16_t>(hn::ShiftLeft<16>(im)), as<int16_t>(re));
   }
 
@@ -47,20 +47,6 @@ struct ComplexQuotient {
     const auto pair = as<int32_t>(v);
     using I = std::remove_const_t<decltype(pair)>;
     return as<int16_t>(hn::IfThenElse(pair == same<I>(0), same<I>(1), pair));
-  }
-
-  // v.re * w.re + v.im * w.im, and v.im * w.re - v.re * w.im
-  template <class V, class I> static I dot(V v, V w, I more) {
-    I unused = same<I>(0);
-    return hn::ReorderWidenMulAccumulate(TagOf<I>(), v, w, more, unused);
-  }
-  template <class V> static auto dot(V v, V w) { return dot(v, w, hn::Zero(hn::RepartitionToWide<TagOf<V>>())); }
-  template <class V> static auto cross(V v, V w) {
-    const TagOf<V> d;
-    const V turned = swapped(v);
-    // -im may not fit, ~im = -im - 1 does: the product with it lacks one v.re.
-    const V conjugate = w ^ hn::OddEven(same<V>(-1), hn::Zero(d));
-    return dot(turned, conjugate, hn::ShiftRight<16>(as<int32_t>(turned)));
   }
 };
 

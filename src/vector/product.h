@@ -76,6 +76,13 @@ struct Product {
   }
 };
 
+// a[0] * b[0] - a[1] * b[1] and so on, of 16-bit integers in lanes of 32 bits: the real parts of complex products. -b[1] may not
+// fit 16 bits, ~b[1] = -b[1] - 1 does: the product with it lacks one a[1].
+template <class V> auto differencesOfProducts(V a, V b) {
+  const V negated = b ^ hn::OddEven(same<V>(-1), same<V>(0));
+  return pairProducts(a, negated) + hn::ShiftRight<16>(as<int32_t>(a));
+}
+
 // Both parts of products of complex integers through one function.
 template <class V, class F> auto each(Complex<V> v, F f) { return Complex<decltype(f(v.re))>{f(v.re), f(v.im)}; }
 
@@ -100,19 +107,12 @@ struct ComplexProduct {
 
  private:
   template <class V> static auto wide(V a, V b) {
-    const TagOf<V> d;
     using T = LaneOf<V>;
     using Wide = std::conditional_t<sizeof(T) == 2, int32_t, int64_t>;
     using W = Vec<hn::Repartition<Wide, TagOf<V>>>;
     const auto noOverflow = [](W v) { return v + hn::VecFromMask(TagOf<W>(), v == same<W>(std::numeric_limits<Wide>::min())); };
     if constexpr (sizeof(T) == 2) {
-      const TagOf<W> dw;
-      W unused = hn::Zero(dw);
-      // -im2 may not fit, ~im2 = -im2 - 1 does: the product with it lacks one im1.
-      const V conjugate = b ^ hn::OddEven(same<V>(-1), hn::Zero(d));
-      const W re = hn::ReorderWidenMulAccumulate(dw, a, conjugate, hn::ShiftRight<16>(as<int32_t>(a)), unused);
-      const W im = hn::ReorderWidenMulAccumulate(dw, a, swapped(b), hn::Zero(dw), unused);
-      return Complex<W>{re, noOverflow(im)};
+      return Complex<W>{differencesOfProducts(a, b), noOverflow(pairProducts(a, swapped(b)))};
     } else {
       const auto straight = wideProduct(a, b);
       const auto crossed = wideProduct(a, swapped(b));
