@@ -119,16 +119,16 @@ template <size_t L, class T> struct ColumnTile {
 
 // The first level, from the caller's rows.
 template <bool kAhead, size_t R, size_t L, class T, class Src>
-[[gnu::noinline]] void loadColumns(Src src, size_t columns, ColumnTile<L, T> tile, const T* twiddles) {
+[[gnu::noinline, gnu::flatten]] void loadColumns(Src src, size_t columns, ColumnTile<L, T> tile, const T* twiddles) {
   const size_t part = tile.rows / R;
   for (size_t q = 0; q < part; ++q, twiddles += (R - 1) * 2) {
     for (size_t at = 0; at < tile.wide; at += L) {
       transformPoints<R>(
-          [&](auto m) __attribute__((always_inline)) {
+          [&](auto m) {
             if constexpr (kAhead) src.template prefetch<L>((q + 1 + m * part) * columns + at);
             return src.template get<L>((q + m * part) * columns + at);
           },
-          [&](auto k, auto z) __attribute__((always_inline)) {
+          [&](auto k, auto z) {
             T* const to = tile.at(q + k * part, at);
             putGroup<L>(turnedBy<k>(z, twiddles), to);
           });
@@ -151,19 +151,19 @@ template <size_t L, class T> void middleLevels(const Levels& levels, ColumnTile<
 // The last level, for rows k = first, first + step .. and the rows that share a butterfly with them; multiplies the results by
 // their twiddles and stores them in natural order.
 template <bool kAhead, size_t R, size_t L, class T, class Dst>
-[[gnu::noinline]] void storeColumns(ColumnTile<L, T> tile, const DigitsReversed& place, size_t first, size_t step, const T* lanes,
-                                    const T* tiles, Dst dst, size_t columns) {
+[[gnu::noinline, gnu::flatten]] void storeColumns(ColumnTile<L, T> tile, const DigitsReversed& place, size_t first, size_t step,
+                                                  const T* lanes, const T* tiles, Dst dst, size_t columns) {
   constexpr size_t C = kRowRadix<L>;
   const size_t part = tile.rows / R;
   for (size_t k = first; k < part; k += step) {
     const size_t from = place(k);
     for (size_t at = 0; at < tile.wide; at += L) {
       transformPoints<R>(
-          [&](auto m) __attribute__((always_inline)) {
+          [&](auto m) {
             if constexpr (kAhead) dst.template prefetch<L>((k + step + m * part) * columns + at);
             return group<L>(tile.at(from + m, at));
           },
-          [&](auto m, auto z) __attribute__((always_inline)) {
+          [&](auto m, auto z) {
             const size_t row = k + m * part;
             const auto twiddle = twiddleAt<L>(lanes, tiles + at / C * 2 * tile.rows, row * C + at % C);
             dst.template put<L>(product(z, twiddle), row * columns + at);
@@ -207,17 +207,16 @@ template <bool kAhead, size_t L, class T, class Src, class Dst>
 
 // The same for as many rows as go through registers at once.
 template <size_t R, size_t L, class T, class Dst>
-[[gnu::noinline]] void downShortColumns(Dst dst, size_t columns, const ColumnTwiddles<T>& twiddles) {
+[[gnu::noinline, gnu::flatten]] void downShortColumns(Dst dst, size_t columns, const ColumnTwiddles<T>& twiddles) {
   constexpr size_t C = kRowRadix<L>;
   using V = Vec<Lanes<T, L>>;
   for (size_t c = 0; c < columns; c += L) {
     const T* tile = twiddles.tiles + c / C * 2 * R;
     Complex<V> x[R];
-    unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = dst.template get<L>(m * columns + c); });
+    unrolled<R>([&](auto m) { x[m] = dst.template get<L>(m * columns + c); });
     dft(x);
-    unrolled<R>([&](auto m) __attribute__((always_inline)) {
-      dst.template put<L>(product(x[m], twiddleAt<L>(twiddles.lanes, tile, m * C + c % C)), m * columns + c);
-    });
+    unrolled<R>(
+        [&](auto m) { dst.template put<L>(product(x[m], twiddleAt<L>(twiddles.lanes, tile, m * C + c % C)), m * columns + c); });
   }
 }
 
@@ -227,20 +226,20 @@ template <size_t L, class T, class Points> QVX_INLINE void takeTransposed(Points
   constexpr auto element = &Points::template element<L>;
   V re[L];
   V im[L];
-  unrolled<L>([&](auto i) __attribute__((always_inline)) {
+  unrolled<L>([&](auto i) {
     const Complex<V> z = from.template get<L>(element(i) * stride);
     re[i] = z.re;
     im[i] = z.im;
   });
   transpose(re);
   transpose(im);
-  unrolled<L>([&](auto i) __attribute__((always_inline)) { putGroup<L>(Complex<V>{re[i], im[i]}, y + element(i) * apart * 2); });
+  unrolled<L>([&](auto i) { putGroup<L>(Complex<V>{re[i], im[i]}, y + element(i) * apart * 2); });
 }
 
 // Exchanges squares of 512-byte runs on both sides of the diagonal.
 template <class T> inline constexpr size_t kSquare = 512 / (2 * sizeof(T));
 
-template <size_t L, class T, class Points> [[gnu::noinline]] void takeSquare(Points from, size_t stride, T* y) {
+template <size_t L, class T, class Points> [[gnu::noinline, gnu::flatten]] void takeSquare(Points from, size_t stride, T* y) {
   constexpr size_t kSide = kSquare<T>;
   for (size_t row = 0; row < kSide; row += L) {
     for (size_t column = 0; column < kSide; column += L) {
@@ -248,7 +247,7 @@ template <size_t L, class T, class Points> [[gnu::noinline]] void takeSquare(Poi
     }
   }
 }
-template <size_t L, class T, class Points> [[gnu::noinline]] void putSquare(const T* y, Points to, size_t stride) {
+template <size_t L, class T, class Points> [[gnu::noinline, gnu::flatten]] void putSquare(const T* y, Points to, size_t stride) {
   constexpr size_t kSide = kSquare<T>;
   for (size_t row = 0; row < kSide; ++row) {
     for (size_t column = 0; column < kSide; column += L) {
@@ -294,7 +293,7 @@ void firstColumns(Split<const T> src, Split<T> dst, size_t rows, size_t columns,
 // n points in place.
 template <size_t L, class T, class Points, class Scale>
 QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Scale scale) {
-  if constexpr (L * L == kBlockPoints) transformInSquare<L>(row.asSource(), row, plan.rowTwiddles, scale);
+  if constexpr (L * L == kBlockPoints) foldedTransform<kBlockPoints, L>(row.asSource(), row, plan.rowTwiddles, scale);
   else runPasses<L>(plan, row.asSource(), row, y, scale);
 }
 

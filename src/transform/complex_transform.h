@@ -103,10 +103,10 @@ template <class T, class Src, class Dst, class Scale>
   if (threads > 1) return runPassesInTeam<L>(threads, plan.plan, src, dst, y, scale);
   switch (foldOf<T>(plan.n)) {
     case Fold::kSquare:
-      if constexpr (L >= 8) return transformInSquare<L>(src, dst, plan.plan.rowTwiddles, scale);
+      if constexpr (L >= 8) return foldedTransform<L * L, L>(src, dst, plan.plan.rowTwiddles, scale);
       break;
     case Fold::kHalves:
-      if constexpr (L >= 16) return transformInHalves<L>(src, dst, plan.plan.rowTwiddles, scale);
+      if constexpr (L >= 16) return foldedTransform<L * L / 2, L>(src, dst, plan.plan.rowTwiddles, scale);
       break;
     case Fold::kNone:
       break;

@@ -90,27 +90,27 @@ template <class V, size_t R> QVX_INLINE void foldInHalves(V (&r)[R]) {
   if constexpr (R < kBlock) {
     transposeInBlocks(r[0], r[1]);
   } else {
-    unrolled<R / kBlock>([&](auto q) __attribute__((always_inline)) {
+    unrolled<R / kBlock>([&](auto q) {
       if constexpr (kBlock == 2) transposeInBlocks(r[2 * q], r[2 * q + 1]);
       else transposeInBlocks(r[4 * q], r[4 * q + 1], r[4 * q + 2], r[4 * q + 3]);
     });
     V folded[R];
-    unrolled<kBlock / 2>([&](auto u) __attribute__((always_inline)) {
+    unrolled<kBlock / 2>([&](auto u) {
       V blocks[2 * R / kBlock];
-      unrolled<2 * R / kBlock>([&](auto i) __attribute__((always_inline)) { blocks[i] = r[i / 2 * kBlock + 2 * u + i % 2]; });
+      unrolled<2 * R / kBlock>([&](auto i) { blocks[i] = r[i / 2 * kBlock + 2 * u + i % 2]; });
       transposeBlocks(blocks);
-      unrolled<2 * R / kBlock>([&](auto b) __attribute__((always_inline)) { folded[b * kBlock / 2 + u] = blocks[b]; });
+      unrolled<2 * R / kBlock>([&](auto b) { folded[b * kBlock / 2 + u] = blocks[b]; });
     });
-    unrolled<R>([&](auto i) __attribute__((always_inline)) { r[i] = folded[i]; });
+    unrolled<R>([&](auto i) { r[i] = folded[i]; });
   }
 }
 
 template <class V, size_t R> QVX_INLINE void eachPart(Complex<V> (&x)[R], auto step) {
-  const auto of = [&](auto part) __attribute__((always_inline)) {
+  const auto of = [&](auto part) {
     V r[R];
-    unrolled<R>([&](auto i) __attribute__((always_inline)) { r[i] = x[i].*part; });
+    unrolled<R>([&](auto i) { r[i] = x[i].*part; });
     step(r);
-    unrolled<R>([&](auto i) __attribute__((always_inline)) { x[i].*part = r[i]; });
+    unrolled<R>([&](auto i) { x[i].*part = r[i]; });
   };
   of(&Complex<V>::re);
   of(&Complex<V>::im);
@@ -123,13 +123,12 @@ QVX_INLINE void transformInSquare(Src src, Dst dst, const T* rowTwiddles, Scale 
   constexpr auto element = &Src::template element<L>;
   constexpr size_t kBlock = std::min(L, 16 / sizeof(T));
   Complex<V> x[L];
-  dft(
-      x, [&](auto m) __attribute__((always_inline)) { return src.template get<L>(m * L); });
+  dft(x, [&](auto m) { return src.template get<L>(m * L); });
   // The steps of the transposition find sums and products beside them, as in the row pass.
-  unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) {
+  unrolled<L / kBlock>([&](auto q) {
     V re[kBlock];
     V im[kBlock];
-    unrolled<kBlock>([&](auto i) __attribute__((always_inline)) {
+    unrolled<kBlock>([&](auto i) {
       constexpr size_t k = element(q * kBlock + i);
       if constexpr (k > 0) x[k] = product(x[k], group<L>(rowTwiddles + (k - 1) * 2 * L));
       re[i] = x[k].re;
@@ -137,22 +136,21 @@ QVX_INLINE void transformInSquare(Src src, Dst dst, const T* rowTwiddles, Scale 
     });
     transposeInBlocks(re);
     transposeInBlocks(im);
-    unrolled<kBlock>([&](auto i) __attribute__((always_inline)) { x[element(q * kBlock + i)] = {re[i], im[i]}; });
+    unrolled<kBlock>([&](auto i) { x[element(q * kBlock + i)] = {re[i], im[i]}; });
   });
-  unrolled<kBlock>([&](auto i) __attribute__((always_inline)) {
+  unrolled<kBlock>([&](auto i) {
     V re[L / kBlock];
     V im[L / kBlock];
-    unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) {
+    unrolled<L / kBlock>([&](auto q) {
       re[q] = x[element(q * kBlock + i)].re;
       im[q] = x[element(q * kBlock + i)].im;
     });
     transposeBlocks(re);
     transposeBlocks(im);
-    unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) { x[element(q * kBlock + i)] = {re[q], im[q]}; });
+    unrolled<L / kBlock>([&](auto q) { x[element(q * kBlock + i)] = {re[q], im[q]}; });
   });
-  const auto get = [&](auto m) __attribute__((always_inline)) { return x[m]; };
-  transformPoints<L>(
-      get, [&](auto k, auto z) __attribute__((always_inline)) { dst.template put<L>(scale(z), k * L); });
+  const auto get = [&](auto m) { return x[m]; };
+  transformPoints<L>(get, [&](auto k, auto z) { dst.template put<L>(scale(z), k * L); });
 }
 
 // L * L / 2 points. rowTwiddles: R - 1 groups, k = 1.. of exp(-2 pi i j k / N), lanes j in order.
@@ -162,15 +160,13 @@ QVX_INLINE void transformInHalves(Src src, Dst dst, const T* rowTwiddles, Scale 
   using V = Vec<Lanes<T, L>>;
   alignas(64) static constexpr ConstantTwiddles<T, L, R - 1, L, OddHalf<T, L>> kOdd;
   Complex<V> x[R];
-  unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = src.template getInOrder<L>(m * L); });
+  unrolled<R>([&](auto m) { x[m] = src.template getInOrder<L>(m * L); });
   dft(x);
-  unrolled<R - 1>([&](auto m)
-                      __attribute__((always_inline)) { x[m + 1] = product(x[m + 1], group<L>(rowTwiddles + m * 2 * L)); });
-  eachPart(
-      x, [](auto& r) __attribute__((always_inline)) { foldInHalves(r); });
+  unrolled<R - 1>([&](auto m) { x[m + 1] = product(x[m + 1], group<L>(rowTwiddles + m * 2 * L)); });
+  eachPart(x, [](auto& r) { foldInHalves(r); });
   dft(x);
-  unrolled<R - 1>([&](auto k) __attribute__((always_inline)) { x[k + 1] = product(x[k + 1], group<L>(kOdd.group[k])); });
-  unrolled<R / 2>([&](auto p) __attribute__((always_inline)) {
+  unrolled<R - 1>([&](auto k) { x[k + 1] = product(x[k + 1], group<L>(kOdd.group[k])); });
+  unrolled<R / 2>([&](auto p) {
     const Complex<V> a = x[2 * p];
     const Complex<V> b = x[2 * p + 1];
     const Complex<V> even = {evenHalves(a.re, b.re), evenHalves(a.im, b.im)};
@@ -178,6 +174,13 @@ QVX_INLINE void transformInHalves(Src src, Dst dst, const T* rowTwiddles, Scale 
     dst.template putInOrder<L>(scale(sum(even, odd)), p * L);
     dst.template putInOrder<L>(scale(difference(even, odd)), (p + R / 2) * L);
   });
+}
+
+// Either of them, as a function of its own.
+template <size_t kPoints, size_t L, class T, class Src, class Dst, class Scale>
+[[gnu::noinline, gnu::flatten]] void foldedTransform(Src src, Dst dst, const T* rowTwiddles, Scale scale) {
+  if constexpr (kPoints == L * L) transformInSquare<L>(src, dst, rowTwiddles, scale);
+  else transformInHalves<L>(src, dst, rowTwiddles, scale);
 }
 
 }  // namespace qvx::transform

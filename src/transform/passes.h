@@ -155,7 +155,8 @@ template <size_t A, size_t B> struct Exchanged {
 // Results are multiplied by them, transposed and stored a few at a time, so that permutations find multiplications beside them:
 // all after one another take 1.4 times as long.
 template <size_t L, class T, class Src, class Place = InOrder>
-[[gnu::noinline]] void rowPass(Src src, T* y, size_t rows, const T* twiddles, size_t from, size_t to, Place place = {}) {
+[[gnu::noinline, gnu::flatten]] void rowPass(Src src, T* y, size_t rows, const T* twiddles, size_t from, size_t to,
+                                             Place place = {}) {
   constexpr size_t R = kRowRadix<L>;
   constexpr size_t kBlock = std::min(L, 16 / sizeof(T));
   constexpr size_t kBlocks = L / kBlock;
@@ -164,11 +165,10 @@ template <size_t L, class T, class Src, class Place = InOrder>
   twiddles += from * (R - 1) * 2;
   for (size_t j = from; j < to; j += L, twiddles += (R - 1) * 2 * L) {
     Complex<V> x[R];
-    dft(
-        x, [&](auto m) __attribute__((always_inline)) { return src.template get<L>(j + m * rows); });
+    dft(x, [&](auto m) { return src.template get<L>(j + m * rows); });
     // Of results in the places first..first + kBlock - 1 of a row: vector w holds them for the points in lanes w of the blocks.
-    const auto turned = [&](auto first, V(&re)[kBlock], V(&im)[kBlock]) __attribute__((always_inline)) {
-      unrolled<kBlock>([&](auto i) __attribute__((always_inline)) {
+    const auto turned = [&](auto first, V(&re)[kBlock], V(&im)[kBlock]) {
+      unrolled<kBlock>([&](auto i) {
         constexpr size_t k = (first + i) / L * L + element((first + i) % L);
         Complex<V> z = x[k];
         if constexpr (k > 0) z = product(z, group<L>(twiddles + (k - 1) * 2 * L));
@@ -178,18 +178,18 @@ template <size_t L, class T, class Src, class Place = InOrder>
       transposeInBlocks(re);
       transposeInBlocks(im);
     };
-    const auto placeOf = [&](size_t block, size_t w, size_t first) __attribute__((always_inline)) {
+    const auto placeOf = [&](size_t block, size_t w, size_t first) {
       return y + ((place.base(j) + place.offset(element(block * kBlock + w))) * (R / L) + first / L) * 2 * L + first % L;
     };
     if constexpr (kBlocks == 4) {
-      unrolled<R / kBlock / 2>([&](auto pair) __attribute__((always_inline)) {
+      unrolled<R / kBlock / 2>([&](auto pair) {
         constexpr std::integral_constant<size_t, 2 * pair * kBlock> first;
         V re[2][kBlock];
         V im[2][kBlock];
         turned(first, re[0], im[0]);
         turned(std::integral_constant<size_t, first + kBlock>(), re[1], im[1]);
-        unrolled<kBlock>([&](auto w) __attribute__((always_inline)) {
-          const auto out = [&](V a, V b, size_t part) __attribute__((always_inline)) {
+        unrolled<kBlock>([&](auto w) {
+          const auto out = [&](V a, V b, size_t part) {
             storeHalves(hn::OddEvenBlocks(hn::SwapAdjacentBlocks(b), a), placeOf(0, w, first) + part,
                         placeOf(2, w, first) + part);
             storeHalves(hn::OddEvenBlocks(b, hn::SwapAdjacentBlocks(a)), placeOf(1, w, first) + part,
@@ -200,12 +200,12 @@ template <size_t L, class T, class Src, class Place = InOrder>
         });
       });
     } else {
-      unrolled<R / kBlock>([&](auto q) __attribute__((always_inline)) {
+      unrolled<R / kBlock>([&](auto q) {
         constexpr std::integral_constant<size_t, q * kBlock> first;
         V re[kBlock];
         V im[kBlock];
         turned(first, re, im);
-        unrolled<kBlock>([&](auto w) __attribute__((always_inline)) {
+        unrolled<kBlock>([&](auto w) {
           if constexpr (kBlocks == 2) {
             storeHalves(re[w], placeOf(0, w, first), placeOf(1, w, first));
             storeHalves(im[w], placeOf(0, w, first) + L, placeOf(1, w, first) + L);
@@ -228,31 +228,28 @@ template <size_t k, class V> QVX_INLINE Complex<V> turnedBy(Complex<V> z, const 
 // twiddles: for each q = 0..stride-1, for k = 1..R-1 exp(-2 pi i q k / (R * stride)), real and imaginary part.
 // width: the vectors of a row.
 template <size_t R, size_t L, class T, class Width = std::integral_constant<size_t, kRowRadix<L> / L>>
-[[gnu::noinline]] void innerPass(T* y, size_t stride, const T* twiddles, size_t from, size_t to, Width width = {}) {
+[[gnu::noinline, gnu::flatten]] void innerPass(T* y, size_t stride, const T* twiddles, size_t from, size_t to, Width width = {}) {
   const size_t W = width;
   const size_t apart = stride * W * 2 * L;
   for (size_t q = from; q < to; ++q) {
     const T* w = twiddles + q * (R - 1) * 2;
     for (size_t column = 0; column < W; ++column) {
       T* p = y + (q * W + column) * 2 * L;
-      transformPoints<R>(
-          [&](auto m) __attribute__((always_inline)) { return group<L>(p + m * apart); },
-          [&](auto k, auto z) __attribute__((always_inline)) { putGroup<L>(turnedBy<k>(z, w), p + k * apart); });
+      transformPoints<R>([&](auto m) { return group<L>(p + m * apart); },
+                         [&](auto k, auto z) { putGroup<L>(turnedBy<k>(z, w), p + k * apart); });
     }
   }
 }
 
 // `count` transforms of neighbouring rows; result m of the b-th goes to row at + step * (b + count * m).
 template <size_t R, size_t L, class T, class Dst, class Scale>
-[[gnu::noinline]] void lastPass(const T* y, size_t count, Dst dst, size_t at, size_t step, Scale scale) {
+[[gnu::noinline, gnu::flatten]] void lastPass(const T* y, size_t count, Dst dst, size_t at, size_t step, Scale scale) {
   constexpr size_t W = kRowRadix<L> / L;
   for (size_t b = 0; b < count; ++b) {
     for (size_t column = 0; column < W; ++column) {
       transformPoints<R>(
-          [&](auto m) __attribute__((always_inline)) { return group<L>(y + ((b * R + m) * W + column) * 2 * L); },
-          [&](auto k, auto z) __attribute__((always_inline)) {
-            dst.template put<L>(scale(z), ((at + step * (b + count * k)) * W + column) * L);
-          });
+          [&](auto m) { return group<L>(y + ((b * R + m) * W + column) * 2 * L); },
+          [&](auto k, auto z) { dst.template put<L>(scale(z), ((at + step * (b + count * k)) * W + column) * L); });
     }
   }
 }
@@ -262,20 +259,19 @@ template <size_t R, size_t L, class T, class Dst, class Scale>
 // work array 2^10 and 2^11 complex doubles, 2^11 and 2^12 floats take 0.83 to 0.87 of the time, since the nearest cache holds
 // all of it or more of it.
 template <size_t A, size_t B, size_t L, class T, class Src, class Dst, class Scale>
-[[gnu::noinline]] void passesInDestination(Src src, Dst dst, const T* rowTwiddles, const T* innerTwiddles, Scale scale) {
+[[gnu::noinline, gnu::flatten]] void passesInDestination(Src src, Dst dst, const T* rowTwiddles, const T* innerTwiddles,
+                                                         Scale scale) {
   T* const y = dst.p;
   rowPass<L>(src, y, A * B, rowTwiddles, 0, A * B, Exchanged<A, B>());
   const T* w = innerTwiddles;
   for (size_t row = 0; row < A * B; row += A, w += (A - 1) * 2) {
     T* const p = y + row * 2 * L;
-    transformPoints<A>(
-        [&](auto m) __attribute__((always_inline)) { return group<L>(p + m * 2 * L); },
-        [&](auto k, auto z) __attribute__((always_inline)) { putGroup<L>(turnedBy<k>(z, w), p + k * 2 * L); });
+    transformPoints<A>([&](auto m) { return group<L>(p + m * 2 * L); },
+                       [&](auto k, auto z) { putGroup<L>(turnedBy<k>(z, w), p + k * 2 * L); });
   }
   for (size_t row = 0; row < A; ++row) {
-    transformPoints<B>(
-        [&](auto m) __attribute__((always_inline)) { return group<L>(y + (row + A * m) * 2 * L); },
-        [&](auto k, auto z) __attribute__((always_inline)) { dst.template put<L>(scale(z), (row + A * k) * L); });
+    transformPoints<B>([&](auto m) { return group<L>(y + (row + A * m) * 2 * L); },
+                       [&](auto k, auto z) { dst.template put<L>(scale(z), (row + A * k) * L); });
   }
 }
 

@@ -28,9 +28,9 @@ alignas(64) inline constexpr ConstantTwiddles<T, L, L / 2 - 1, L * L / 2, Halves
 template <size_t kPoints, class Src, class Dst, class Scale> QVX_INLINE void inLanes(Src src, Dst dst, Scale scale) {
   using V = Vec<Lanes<typename Dst::Lane, 1>>;
   Complex<V> x[kPoints];
-  unrolled<kPoints>([&](auto i) __attribute__((always_inline)) { x[i] = src.template get<1>(i); });
+  unrolled<kPoints>([&](auto i) { x[i] = src.template get<1>(i); });
   if constexpr (kPoints > 1) dft(x);
-  unrolled<kPoints>([&](auto i) __attribute__((always_inline)) { dst.template put<1>(scale(x[i]), i); });
+  unrolled<kPoints>([&](auto i) { dst.template put<1>(scale(x[i]), i); });
 }
 
 template <size_t kPoints, class Src, class Dst, class Scale> QVX_INLINE void inTwoPasses(Src src, Dst dst, Scale scale) {
@@ -60,8 +60,8 @@ template <int kOrder, bool kSwapped, class T, class Src, class Dst, class Scale>
 QVX_INLINE void transformInterleaved(Src src, Dst dst, Scale scale) {
   constexpr size_t N = size_t{1} << kOrder;
   using V = typename Shape<T, N>::V;
-  const auto get = [=](size_t at) __attribute__((always_inline)) { return src.get(TagOf<V>(), 2 * at); };
-  const auto put = [=](size_t at, V v) __attribute__((always_inline)) { dst.put(scale(v), 2 * at); };
+  const auto get = [=](size_t at) { return src.get(TagOf<V>(), 2 * at); };
+  const auto put = [=](size_t at, V v) { dst.put(scale(v), 2 * at); };
   transformInterleavedPoints<N, kSwapped, T>(get, put);
 }
 
@@ -69,7 +69,7 @@ template <class Points> inline constexpr bool kIsInterleaved = requires(Points p
 
 // Each a function of its own: a call of 8 points takes 4 ns, of which a stack frame for 32 would be one.
 template <int kOrder, class Src, class Dst, class Scale>
-[[gnu::noinline]] QvxStatus smallTransformOf(Src src, Dst dst, Scale scale) {
+[[gnu::noinline, gnu::flatten]] QvxStatus smallTransformOf(Src src, Dst dst, Scale scale) {
   if constexpr (kIsInterleaved<Src>) {
     transformInterleaved<kOrder, Src::kSwapped, typename Src::Lane>(src.raw(), dst.raw(), scale);
   } else {

@@ -42,33 +42,32 @@ template <size_t L, class LaneOrder, class T> T* writeTiledTwiddles(BlockedPlan<
 }
 
 // The last level of a row of A * kLastRadix points, in place, and the twiddles of row c.
-template <size_t A, size_t L, class T> [[gnu::noinline]] void lastAlongRow(T* row, const ColumnTwiddles<T>& twiddles, size_t c) {
+template <size_t A, size_t L, class T>
+[[gnu::noinline, gnu::flatten]] void lastAlongRow(T* row, const ColumnTwiddles<T>& twiddles, size_t c) {
   constexpr size_t kWide = A / L;
   constexpr size_t kVectors = A * kLastRadix / L;
   const auto lanes = group<L>(twiddles.lanes + 2 * c * L);
   const T* const tile = twiddles.tiles + 2 * c * kVectors;
   for (size_t w = 0; w < kWide; ++w) {
-    transformPoints<kLastRadix>(
-        [&](auto m) __attribute__((always_inline)) { return group<L>(row + (m * kWide + w) * 2 * L); },
-        [&](auto k, auto z) __attribute__((always_inline)) {
-          const size_t v = k * kWide + w;
-          putGroup<L>(product(z, product(lanes, tile[2 * v], tile[2 * v + 1])), row + v * 2 * L);
-        });
+    transformPoints<kLastRadix>([&](auto m) { return group<L>(row + (m * kWide + w) * 2 * L); },
+                                [&](auto k, auto z) {
+                                  const size_t v = k * kWide + w;
+                                  putGroup<L>(product(z, product(lanes, tile[2 * v], tile[2 * v + 1])), row + v * 2 * L);
+                                });
   }
 }
 
 // The last level of a tile. Its last results, those of the last rows, go to `last`.
 template <size_t L, class T, class Dst, class Scale>
-[[gnu::noinline]] void lastOfTile(const T* y, Dst dst, Dst last, size_t columns, Scale scale) {
+[[gnu::noinline, gnu::flatten]] void lastOfTile(const T* y, Dst dst, Dst last, size_t columns, Scale scale) {
   constexpr size_t R = kLastRadix;
   constexpr size_t kStep = kTileRows / R;
   for (size_t b = 0; b < kStep; ++b) {
-    transformPoints<R>(
-        [&](auto m) __attribute__((always_inline)) { return group<L>(y + (b * R + m) * 2 * L); },
-        [&](auto k, auto z) __attribute__((always_inline)) {
-          const Dst to = k + 1 == R ? last : dst;
-          to.template put<L>(scale(z), (b + k * kStep) * columns);
-        });
+    transformPoints<R>([&](auto m) { return group<L>(y + (b * R + m) * 2 * L); },
+                       [&](auto k, auto z) {
+                         const Dst to = k + 1 == R ? last : dst;
+                         to.template put<L>(scale(z), (b + k * kStep) * columns);
+                       });
   }
 }
 

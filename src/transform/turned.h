@@ -59,17 +59,16 @@ template <size_t L, class LaneOrder, class T> T* writeTurnedTwiddles(size_t colu
 // The first level of transforms down R * part rows, for L columns; what belongs to column i goes to row i of dst, rows `apart`
 // points apart.
 template <size_t R, size_t L, class T, class Src>
-[[gnu::noinline]] void turnColumns(Src src, size_t columns, size_t part, T* dst, size_t apart, const T* twiddles) {
+[[gnu::noinline, gnu::flatten]] void turnColumns(Src src, size_t columns, size_t part, T* dst, size_t apart, const T* twiddles) {
   using V = Vec<Lanes<T, L>>;
   constexpr auto element = &Src::template element<L>;
   for (size_t q = 0; q < part; ++q, twiddles += (R - 1) * 2) {
     Complex<V> x[R];
-    dft(
-        x, [&](auto m) __attribute__((always_inline)) { return src.template get<L>((q + m * part) * columns); });
-    unrolled<R / L>([&](auto w) __attribute__((always_inline)) {
+    dft(x, [&](auto m) { return src.template get<L>((q + m * part) * columns); });
+    unrolled<R / L>([&](auto w) {
       V re[L];
       V im[L];
-      unrolled<L>([&](auto i) __attribute__((always_inline)) {
+      unrolled<L>([&](auto i) {
         constexpr size_t k = w * L + element(i);
         const Complex<V> z = turnedBy<k>(x[k], twiddles);
         re[i] = z.re;
@@ -77,16 +76,14 @@ template <size_t R, size_t L, class T, class Src>
       });
       transpose(re);
       transpose(im);
-      unrolled<L>([&](auto i) __attribute__((always_inline)) {
-        putGroup<L>(Complex<V>{re[i], im[i]}, dst + 2 * (element(i) * apart + q * R + w * L));
-      });
+      unrolled<L>([&](auto i) { putGroup<L>(Complex<V>{re[i], im[i]}, dst + 2 * (element(i) * apart + q * R + w * L)); });
     });
   }
 }
 
 // Transforms of R points n apart along a row, and the twiddles of column c, all as downShortColumns has them.
 template <size_t R, size_t L, class LaneOrder, class T>
-[[gnu::noinline]] void alongRow(T* row, const ColumnTwiddles<T>& twiddles, size_t c) {
+[[gnu::noinline, gnu::flatten]] void alongRow(T* row, const ColumnTwiddles<T>& twiddles, size_t c) {
   using V = Vec<Lanes<T, L>>;
   constexpr size_t n = kBlockPoints;
   size_t lane = 0;
@@ -99,9 +96,9 @@ template <size_t R, size_t L, class LaneOrder, class T>
   }
   for (size_t at = 0; at < n; at += L) {
     Complex<V> x[R];
-    unrolled<R>([&](auto m) __attribute__((always_inline)) { x[m] = group<L>(row + 2 * (m * n + at)); });
+    unrolled<R>([&](auto m) { x[m] = group<L>(row + 2 * (m * n + at)); });
     dft(x);
-    unrolled<R>([&](auto m) __attribute__((always_inline)) { putGroup<L>(product(x[m], twiddle[m]), row + 2 * (m * n + at)); });
+    unrolled<R>([&](auto m) { putGroup<L>(product(x[m], twiddle[m]), row + 2 * (m * n + at)); });
   }
 }
 
