@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """The numbers of src/vector/*.h: minimax polynomials, and the logarithm's tables of reciprocals. Needs mpmath.
 
-usage: minimax.py exp | ln | tables | arctan | sin
+usage: minimax.py exp | ln | tables | arctan | sin | sine
 
 A polynomial p of degree n is fitted by Remez exchange so that the largest |weight(x) * (p(x) - f(x))| on the interval is least;
 its coefficients are then rounded to the lane's type, lowest power first. "error" is what remains of that largest value after
@@ -167,5 +167,12 @@ def fit_sin():
         rest -= part
 
 
+def fit_sine():
+    def p(z):  # sin 2 pi u = u p(z), z = u^2, up to a quarter turn
+        return series(z, lambda z: sin(2 * pi * sqrt(z)) / sqrt(z), lambda k: (-1)**k * (2 * pi)**(2 * k + 1) / mp.factorial(2 * k + 1))
+    for lane, degree in (('float', 4), ('double', 4), ('double', 8)):
+        fit('sine', lane, p, lambda z: 1 / p(z), degree, 0, mpf('1.0001') / 16)
+
+
 if __name__ == '__main__':
-    {'exp': fit_exp, 'ln': fit_ln, 'tables': tables, 'arctan': fit_arctan, 'sin': fit_sin}[sys.argv[1]]()
+    {'exp': fit_exp, 'ln': fit_ln, 'tables': tables, 'arctan': fit_arctan, 'sin': fit_sin, 'sine': fit_sine}[sys.argv[1]]()

@@ -1,7 +1,7 @@
 // Ramps, and chirps that begin at 0 and end at half the sampling rate.
 #include "frame/map.h"
 #include "frame/rounding.h"
-#include "math/sin_cos.h"
+#include "math/sine.h"
 
 using namespace qvx;
 
@@ -49,7 +49,7 @@ template <class T, class Real> QvxStatus ramp(T* dst, int len, Real offset, Real
 }
 
 // magn * sin(pi/2 n^2 / len). n^2 less its whole turns of 4 len is exact as long as n^2 is.
-struct Chirp {
+template <int kDigits> struct Chirp {
   double magn;
   double period;
 
@@ -57,8 +57,8 @@ struct Chirp {
   template <class V> V operator()(V n) const {
     const V square = n * n;
     const V turns = hn::Round(square * same<V>(1 / period));
-    const V rest = square - turns * same<V>(period);
-    return same<V>(magn) * sinCosOfTurns(rest * same<V>(1 / period)).sine;
+    const V rest = hn::NegMulAdd(turns, same<V>(period), square);
+    return same<V>(magn) * sineOfHalfTurn<kDigits>(rest * same<V>(1 / period));
   }
 };
 
@@ -68,10 +68,10 @@ template <class T> QvxStatus chirp(T* dst, int len, T magn) {
   if (std::is_signed_v<T> && !(magn >= 0)) return qvxStatBadJaehneMagn;
   const RoundingScope mode(std::is_integral_v<T> || !kRoundsByInstruction ? Rounding::kNearest : Rounding::kCallers);
   if constexpr (std::is_signed_v<T>) {
-    const Chirp wave(static_cast<double>(magn), len);
+    const Chirp<std::is_same_v<T, Qvx32f> ? 24 : 53> wave(static_cast<double>(magn), len);
     return loop<double>([wave](auto n) { return toElements<T>(wave(n)); }, destination(dst), elements(len), Numbers());
   } else {
-    const Chirp wave(magn * 0.5, len);
+    const Chirp<53> wave(magn * 0.5, len);
     constexpr size_t N = kVectorBytes / sizeof(double);
     const Lanes<double, N> d;
     const auto wholes = [&](auto n) {

@@ -1,6 +1,7 @@
 // Sampled cosines.
 #include "generate/record.h"
 #include "generate/wave.h"
+#include "math/sine.h"
 #include "math/spaced_sin_cos.h"
 
 using namespace qvx;
@@ -87,7 +88,7 @@ void fillQ15(Qvx16s* dst, size_t n, QvxsToneState& tone) {
   auto turns = load(d, first);
   const auto step = hn::Set(d, turnsOf(N * tone.step));
   eachVector<N>(n, [&](size_t at, auto... rest) {
-    const auto v = hn::Set(d, tone.magn) * sinCosOfTurns(turns).cosine;
+    const auto v = hn::Set(d, tone.magn) * cosineOfHalfTurn<53>(turns);
     putSamples(dst, at, v, v, rest...);
     turns = fractionOfTurns(turns + step);
   });
