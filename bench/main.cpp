@@ -28,7 +28,7 @@ void initialize(char* program) {
   benchmark::Initialize(&count, flags);
 }
 
-// A file that is begun is not one that is there.
+// Writes to another file first, so that an interrupted run leaves no partial one.
 template <class Write> void replace(const std::filesystem::path& path, Write write) {
   const std::filesystem::path begun = path.string() + ".new";
   std::ofstream out(begun);

@@ -1,5 +1,5 @@
-// Divided calls in company: the time of a call that two threads may share, over that of the same call by one, while other
-// programs and the program's own threads want the processors too. Prints a table: medians, and the 99th percentiles of both.
+// Divided calls on a busy machine: the time of a call that two threads may share over that of the same call by one, while other
+// programs or the program's own threads compete for the processors. Prints a table of medians, and the 99th percentiles of both.
 #include <qvx/qvxcore.h>
 #include <qvx/qvxs.h>
 #include <sys/wait.h>
@@ -22,7 +22,7 @@ using Call = std::function<void()>;
 // A call of a function with vectors of its own.
 struct Function {
   const char* name;
-  int threshold;  // from which on it is divided
+  int threshold;  // the length from which it is divided
   std::function<Call(int length)> prepare;
 };
 
@@ -68,7 +68,7 @@ std::vector<Function> functions() {
           unary<Qvx32f>("Sqrt_32f", 32768, qvxsSqrt_32f, 2.0F), transform(), filter()};
 }
 
-// Programs that do nothing but turn.
+// Programs that do nothing but spin.
 class BusyLoops {
  public:
   explicit BusyLoops(int count) {
@@ -98,7 +98,7 @@ struct Times {
   }
 };
 
-// Calls by so many application threads at once, for a while.
+// Makes the calls, each on an application thread of its own, for a given time.
 void callFor(std::chrono::milliseconds time, std::vector<Call>& calls, Times& times) {
   std::vector<Times> own(calls.size());
   std::vector<std::thread> threads;
@@ -122,7 +122,7 @@ void measure(const Function& function, int length, int busy, int callers) {
   std::vector<Call> calls;
   for (int i = 0; i < callers; ++i) calls.push_back(function.prepare(length));
   Times alone, divided;
-  constexpr int kRounds = 6;  // of each in turn, so that what drifts meets both
+  constexpr int kRounds = 6;  // of each in turn, so that drift affects both alike
   for (int round = 0; round < kRounds; ++round) {
     qvxSetNumThreads(1);
     callFor(std::chrono::milliseconds(40), calls, alone);

@@ -1,5 +1,5 @@
-// Channels joined and split, and bits packed. The benchmark's functions have one source, of which the channels are parts: n
-// frames of all channels in one vector.
+// Channels joined and split, and bits packed. The functions of a benchmark have one source, so the channels are parts of one
+// vector.
 #include "frame/families.h"
 #include "peers/plain_channels.h"
 

@@ -29,7 +29,7 @@ template <class T> Contender contender(std::string name, std::function<void(cons
   return {std::move(name), once, timed, Agreement::kSummed};
 }
 
-// Results agree if what they are apart is a hundred thousandth of them.
+// Results agree if their difference is at most 10^-5 of them.
 template <class T> Case caseOf(std::string name, Operands o) {
   Case c;
   c.name = std::move(name) + ", " + std::to_string(o.aLen) + " x " + std::to_string(o.bLen);

@@ -41,7 +41,7 @@ template <class T, class Record> class Own {
   Qvx8u* buffer_ = nullptr;
 };
 
-// make: (n, src, dst) to something to run(). Planning overwrites the source.
+// make(n, src, dst) returns an object to run(). Planning overwrites the source.
 template <class T, class Make> Contender contender(std::string name, Make make) {
   const auto once = [=](const Vectors& v) {
     T* src = const_cast<T*>(source<T>(v));

@@ -1,5 +1,5 @@
-// The steps of a trellis decoder, a step a call: errors vary from step to step as noise makes them, so that the processor can't
-// learn by heart which branches win.
+// The steps of a trellis decoder, one in each call: errors vary from step to step like noise, so that the processor cannot
+// predict which branches win.
 #include <array>
 
 #include "frame/families.h"

@@ -1,4 +1,4 @@
-// Forward transforms of integers beside the way anybody would go: to floats, through FFTW, and back, rounded and saturated.
+// Forward transforms of integers beside the usual way: to floats, through FFTW, and back, rounded and saturated.
 #include <limits>
 #include <memory>
 
@@ -9,7 +9,7 @@ namespace bench {
 
 namespace {
 
-// Results of noise at full scale with a place off for every second order fill a half of the range.
+// With one place for every second order, results of full-scale noise fill half of the range.
 int scaleFactorOf(int n) { return std::countr_zero(static_cast<unsigned>(n)) / 2 + 2; }
 
 template <class Record> struct Life {
@@ -56,7 +56,7 @@ void row(Suite& suite, const std::string& name, QvxStatus (*transform)(const CIn
   c.fillSources = [=](const Vectors& v) { fillBits(v.slabs.source(0), results(v.n) * sizeof(In), 1); };
   c.fillDestination = [=](const Vectors& v) { fillBits(v.slabs.destination(), results(v.n) * sizeof(Out), 2); };
   c.saveDestination = [=](const Vectors& v) { std::memcpy(v.slabs.saved(), v.slabs.destination(), results(v.n) * sizeof(Out)); };
-  // Two roundings may end on either side; in single precision a result of 32 bits has an error of its own.
+  // Two roundings may go either way; in single precision a 32-bit result has an error of its own.
   c.agrees = [=](const Vectors& v, Agreement) {
     const auto* a = reinterpret_cast<const Out*>(v.slabs.saved());
     const auto* b = reinterpret_cast<const Out*>(v.slabs.destination());

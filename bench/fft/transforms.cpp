@@ -59,7 +59,8 @@ template <template <class, bool> class Plan, class T, bool kReal> auto maker() {
 }
 // clang-format on
 
-// make: (n, src, dst) to something to run() on these two. In place, the timed data are zeros, which stay what they are.
+// make(n, src, dst) returns an object to run() on these two. In place, the timed data are zeros, which transforms leave as they
+// are.
 template <class T, class Make> Contender contender(std::string name, Make make, bool inPlace, int threads = 1) {
   const auto once = [=](const Vectors& v) {
     std::vector<T> kept(source<T>(v, inPlace), source<T>(v, inPlace) + 2 * static_cast<size_t>(v.n));
@@ -80,7 +81,7 @@ template <class T, class Make> Contender contender(std::string name, Make make, 
   return {std::move(name), once, timed, Agreement::kDiffers, threads};
 }
 
-// Two transforms agree up to the roundings of either.
+// Two transforms agree up to rounding.
 template <class T> bool agreeing(const T* ours, const T* peers, size_t count) {
   double error = 0;
   double size = 0;

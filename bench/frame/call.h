@@ -1,5 +1,5 @@
-// From a function's signature to a call of it: pointers to const are sources in order, the pointer to non-const is the
-// destination, the first scalar after it the length, and all other scalars are given, in their order.
+// Derives a call from a function's signature: pointers to const are sources in order, the pointer to non-const is the
+// destination, the first scalar after it the length; all other scalars are given, in order.
 #pragma once
 
 #include <tuple>
@@ -9,7 +9,7 @@
 
 namespace bench {
 
-// The place of the length: after the destination, or before it in reductions, whose destination is one element.
+// Where the length is: after the destination, or before it in reductions, whose destination is one element.
 enum class Shape { kMap, kReduction };
 
 template <class F, Shape kShape = Shape::kMap> struct Signature;
@@ -50,7 +50,7 @@ template <class R, class... P, Shape kShape> struct Signature<R (*)(P...), kShap
   template <size_t I> static auto pointer(const Vectors& v) {
     using T = Parameter<I>;
     if constexpr (!kSource[I]) {
-      // A second vector takes the slab of the third source; further results of a reduction lie a cache line after the first.
+      // A second destination uses the slab of the third source; further results of a reduction lie a cache line after the first.
       constexpr size_t kFollowing = I - destinationAt();
       if (kShape == Shape::kMap && kFollowing > 0) return reinterpret_cast<T>(v.slabs.source(2)) + v.misaligned;
       return reinterpret_cast<T>(v.slabs.destination() + 64 * kFollowing) + v.misaligned;

@@ -29,7 +29,7 @@ std::string cpuinfo(const std::string& key) {
   return "unknown";
 }
 
-// Numbers tell more than a brand does.
+// Numbers say more than a brand name.
 std::string processor() {
   const bool virtualMachine = cpuinfo("flags").find(" hypervisor") != std::string::npos;
   return std::string("family ") + cpuinfo("cpu family") + ", model " + cpuinfo("model") + ", stepping " + cpuinfo("stepping") +
@@ -62,7 +62,7 @@ std::string system() {
   return std::string(names.sysname) + " " + names.release + ", glibc " + gnu_get_libc_version();
 }
 
-// Of libraries that do not tell it themselves.
+// For libraries that do not report their version themselves.
 std::string packageVersion(const std::string& package) {
   const std::unique_ptr<FILE, int (*)(FILE*)> output(popen(("pkg-config --modversion " + package).c_str(), "r"), pclose);
   std::array<char, 64> text{};
@@ -71,7 +71,7 @@ std::string packageVersion(const std::string& package) {
   return line.substr(0, line.find('\n'));
 }
 
-// The packaged one, and where there is another, built by the bench.
+// The packaged one and, where there is one, the one built by the bench.
 std::string builtFftw() {
   if (std::getenv("QVXS_BUILT_FFTW") == nullptr) return "";
   const bool highest = std::string(QVXS_BENCH_VARIANT) == "w4";

@@ -58,7 +58,7 @@ void sort(Suite& suite);
 void generators(Suite& suite);
 void windows(Suite& suite);
 
-// What is measured in one go, a minute or so. Its name is that of the file it leaves in a report.
+// What is measured in one run, of a minute or so. Its name is that of its file in a report.
 struct Family {
   const char* name;
   void (*rows)(Suite&);

@@ -1,4 +1,4 @@
-// What a run writes: a line of a table for every export, length and peer, under the machine it was measured on.
+// The output of a run: the machine, then a line of a table for every export, length and peer.
 #pragma once
 
 #include <iosfwd>
@@ -8,7 +8,7 @@
 
 namespace bench {
 
-// The least of the repetitions, and how far their median lies above it, as a part of it.
+// The least of the repetitions, and the distance of their median from it, relative to it.
 struct Timing {
   double ns = 0;
   double noise = 0;

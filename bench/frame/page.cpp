@@ -47,7 +47,7 @@ faster**. Cells below 1 are bold. The sections show some functions; all that wer
 below 1 is listed at the end of its section.
 )";
 
-// Two decimals are printed: below 1 is what is printed so.
+// Two decimals are printed: a ratio counts as below 1 if it is printed so.
 bool isBelow(double ratio) { return std::lround(100 * ratio) < 100; }
 bool isFarBelow(double ratio) { return ratio < 0.95; }
 
@@ -96,7 +96,7 @@ Measurements ofFamilies(const Measurements& all, const std::vector<std::string>&
   return some;
 }
 
-// What only bounds our time from below ("a fill") is shown beside it, but counts as no peer.
+// A mere lower bound of our time ("a fill") is shown beside it, but does not count as a peer.
 bool isBound(const Measurement& m) { return m.peer.starts_with("a "); }
 Measurements besidePeers(const Measurements& all) {
   Measurements some;
@@ -104,7 +104,7 @@ Measurements besidePeers(const Measurements& all) {
   return some;
 }
 
-// In each cell the fastest of its peers.
+// The fastest peer of each cell.
 Measurements fastest(const Measurements& all) {
   Measurements best;
   std::map<std::pair<std::string, int>, size_t> at;
@@ -172,7 +172,7 @@ void summary(std::ostream& out, const Measurements& all, const std::vector<Secti
 
 // ---- a section
 
-// The lines of one export: our time and what it comes to, then each peer's ratio.
+// The lines of one export: our time and what it amounts to, then each peer's ratio.
 void lines(std::ostream& out, const Measurements& cells, const std::string& name, const std::vector<int>& lengths) {
   const auto row = [&](const std::string& first, const std::string& second, const std::string& peer, auto text) {
     out << "| " << first << " | " << second << " |";

@@ -1,4 +1,4 @@
-// The page that a run of all families becomes.
+// Makes the page from the runs of all families.
 #pragma once
 
 #include <iosfwd>
@@ -9,7 +9,7 @@
 
 namespace bench {
 
-// A chapter: what is measured in some families, of which a few exports are shown and all are counted.
+// A chapter: some families, of which a few exports are shown and all are counted.
 struct Section {
   std::string title;
   std::string text;
@@ -25,7 +25,7 @@ extern const std::vector<Section> kSections;
 // All pieces as one. They have to be of one machine and one variant.
 Piece joined(const std::vector<Piece>& pieces);
 
-// What tells the pages of variants apart.
+// What differs between the pages of the variants.
 struct Face {
   std::string title = "Performance";
   std::string introduction;                                   // a paragraph

@@ -46,7 +46,7 @@ void Report::open(Table table) {
   std::printf("\n## %s\n\n%s\n", title, columns(sizes).c_str());
 }
 
-// A line for every length, for there are many.
+// A line for every length, since there are many.
 void Report::transforms(const Case& c, const std::vector<Times>& bySize) {
   for (size_t i = 0; i < bySize.size(); ++i) {
     const double ours = bySize[i][0].ns;

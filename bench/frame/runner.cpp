@@ -9,7 +9,7 @@ namespace bench {
 
 namespace {
 
-// A cell that looks slower is measured again, all contenders of it alike.
+// Below this ratio a cell is measured again, with all its contenders.
 constexpr double kWorthAnotherLook = 1.0;
 
 // All repetitions of each contender.
@@ -54,8 +54,8 @@ void measure(const Case& c, const Vectors& v, const Effort& effort, std::vector<
 Times measured(const Case& c, const Vectors& v, const Effort& effort) {
   std::vector<std::vector<double>> repetitions(c.contenders.size());
   Times times(c.contenders.size());
-  const auto behind = [&](const Timing& t) { return t.ns / times[0].ns < kWorthAnotherLook; };
-  for (int look = 0; look == 0 || (look < effort.looks && std::any_of(times.begin() + 1, times.end(), behind)); ++look) {
+  const auto isFaster = [&](const Timing& t) { return t.ns / times[0].ns < kWorthAnotherLook; };
+  for (int look = 0; look == 0 || (look < effort.looks && std::any_of(times.begin() + 1, times.end(), isFaster)); ++look) {
     measure(c, v, effort, repetitions);
     std::transform(repetitions.begin(), repetitions.end(), times.begin(), timing);
   }

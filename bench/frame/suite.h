@@ -29,7 +29,7 @@ struct Contender {
   std::function<void(benchmark::State&, const Vectors&)> timed;
   Agreement agreement;
   int threads = 1;
-  bool isPeer = true;  // not another way of ours
+  bool isPeer = true;  // false: another way of our own
 };
 
 enum class Table { kAligned, kMisaligned, kLarge, kStream, kTeam, kTransforms };
@@ -59,7 +59,7 @@ struct Case {
 };
 
 template <class T> bool near(T ours, T peers) {
-  // Products of elements up to 1000 cancel: the error is one of the largest product.
+  // Products of elements up to 1000 cancel: the error is that of the largest product.
   return ours == peers || std::abs(ours - peers) <= std::numeric_limits<T>::epsilon() * T(4e6);
 }
 
@@ -69,7 +69,7 @@ template <class T> bool nearSum(T ours, T peers, int n) {
   return ours == peers || std::abs(ours - peers) <= std::numeric_limits<T>::epsilon() * T(2e6) * T(n) + T(1e-5) * std::abs(ours);
 }
 
-// n: how many elements went into a result.
+// n: the number of elements that a result depends on.
 template <class T> bool agree(const std::byte* ours, const std::byte* peers, size_t bytes, Agreement agreement, int n) {
   if (agreement == Agreement::kDiffers || std::memcmp(ours, peers, bytes) == 0) return true;
   if constexpr (std::is_floating_point_v<T>) {
@@ -98,7 +98,7 @@ Contender contender(std::string name, Peer peer, Scalars scalars, Agreement agre
   return {std::move(name), once, timed, agreement};
 }
 
-// The line's handle, to add peers and conditions to it.
+// A handle of the line, to add peers and conditions.
 template <class F, Shape kShape, class Scalars> class Row {
  public:
   Row(Case& row, Scalars scalars) : case_(row), scalars_(scalars) {}
@@ -107,13 +107,13 @@ template <class F, Shape kShape, class Scalars> class Row {
     case_.contenders.push_back(contender<F, kShape>(std::move(name), peer, scalars_, agreement));
     return *this;
   }
-  // Ours called in another way.
+  // Adds our own function called in another way.
   template <class Other> Row& besides(std::string name, Other other, Agreement agreement) {
     against(std::move(name), other, agreement);
     case_.contenders.back().isPeer = false;
     return *this;
   }
-  // The plain loop of an operation for this very signature.
+  // Adds the plain loop of an operation for this signature.
   template <class Op> Row& plain(Op, Agreement agreement = Agreement::kBitwise) {
     return against("plain", plain::loopFor<Op, F>(), agreement);
   }
@@ -132,7 +132,7 @@ template <class F, Shape kShape, class Scalars> class Row {
     case_.fillSources = [=](const Vectors& v) { Signature<F, kShape>::fillSourcesWithin(v, least, most); };
     return *this;
   }
-  // The same call with two threads beside it with one, in real time: where does a team begin to pay?
+  // The call with two threads beside the same with one, in real time: from where on do two pay?
   Row& inTeam() {
     case_.table = Table::kTeam;
     case_.inRealTime = true;
@@ -180,7 +180,7 @@ class Suite {
 
   const std::vector<Case>& cases() const { return cases_; }
 
-  // What can be shown beside peers. Longer transforms than 2^20 are left out: planning them takes FFTW minutes.
+  // Keeps what can be shown beside peers. Transforms above 2^20 are left out: FFTW takes minutes to plan them.
   void keepPeers() {
     for (Case& c : cases_) {
       std::erase_if(c.contenders, [](const Contender& other) { return !other.isPeer; });
@@ -188,12 +188,13 @@ class Suite {
     }
     std::erase_if(cases_, [](const Case& c) { return c.contenders.size() < 2; });
   }
-  // What tells variants apart: no vectors that only wait for memory, and no plans that take longer than what they are for.
+  // Keeps what differs between variants: no vectors that only wait for memory, and no plans that take longer than their
+  // transforms.
   void keepBrief() {
     for (Case& c : cases_) {
       std::erase_if(c.contenders, [](const Contender& other) { return other.peer == "FFTW, patient"; });
       std::erase_if(c.sizes, [](int n) { return n > kLongestBrief; });
-      // Of transforms of any length one in four, among them those with large primes.
+      // One in four of the transforms of any length, some with large primes among them.
       if (c.sizes.size() > kMostBrief) std::erase_if(c.sizes, [i = 0](int) mutable { return i++ % 4 != 0; });
     }
     std::erase_if(cases_, [](const Case& c) { return c.sizes.empty(); });

@@ -10,7 +10,7 @@ namespace bench {
 
 namespace {
 
-// No branch predictor learns this many elements; longer vectors repeat them, so that filling them takes no longer than a copy.
+// More elements than a branch predictor learns; longer vectors repeat them, so that filling takes no longer than copying.
 constexpr size_t kPeriod = 65536;
 
 template <class T, class Next> void fillPeriodic(T* p, size_t count, Next next) {

@@ -11,7 +11,7 @@
 
 namespace bench {
 
-// Grows whenever the vectors are filled anew: filters begin anew then, too.
+// Counts how often the vectors were filled: filters restart with new data.
 inline int freshData = 0;
 
 inline constexpr size_t kSlabBytes = (size_t{64} << 20) + 4096;
@@ -66,7 +66,7 @@ template <class T> void fill(void* p, int n, uint64_t seed) {
   else fillBits(p, bytesOf<T>(n), seed);
 }
 
-// What fill() gave, brought into a range.
+// Maps the output of fill() to a range.
 template <class T> void fit(T* p, size_t count, double least, double most) {
   for (size_t i = 0; i < count; ++i) {
     if constexpr (std::is_floating_point_v<T>) {

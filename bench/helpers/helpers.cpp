@@ -12,7 +12,7 @@ constexpr auto kNormalize = [](const auto* a, auto* d, int n, auto vSub, auto vD
   ofast::normalize(a, d, n, vSub, vDiv, scale...);
 };
 
-// In place a vector would not stay what it was: both contenders copy it first.
+// These work in place, which changes the vector: both contenders copy it first.
 template <auto kCall> QvxStatus cauchy(const Qvx32f* a, Qvx32f* d, int n) {
   std::memcpy(d, a, sizeof(*a) * static_cast<size_t>(n));
   return kCall(d, n, 1.5F);

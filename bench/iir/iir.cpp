@@ -33,7 +33,7 @@ template <class T> std::vector<T> feedBack(size_t order) {
   return a;
 }
 
-// The library's numbers as the plain loops have them.
+// The library's number types as the plain loops have them.
 template <class Q> struct PlainOf { using Type = Q; };
 template <> struct PlainOf<Qvx32fc> { using Type = std::complex<float>; };
 template <> struct PlainOf<Qvx64fc> { using Type = std::complex<double>; };

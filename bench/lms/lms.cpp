@@ -7,7 +7,7 @@ namespace bench {
 
 namespace {
 
-// Small enough for samples up to 1000, whose outputs stay what they are for as long as a benchmark runs.
+// Small enough for samples up to 1000 that the outputs hardly change while a benchmark runs.
 constexpr float kStep = 1e-10F;
 
 template <int kTaps> QvxStatus ours(const float* src, const float* ref, float* dst, int n) {

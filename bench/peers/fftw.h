@@ -30,8 +30,8 @@ template <> struct Api<double> {
 };
 // clang-format on
 
-// The same of libraries that were built for this very processor, where QVXS_BUILT_FFTW tells their folder. Their names are those
-// of the packaged ones, so they are opened by themselves; what is not there is null.
+// The same for libraries built for this processor, in the folder QVXS_BUILT_FFTW. Their symbols are those of the packaged ones,
+// so they are opened with dlopen; what is missing is null.
 inline void* built(const char* library, const char* name) {
   const char* folder = std::getenv("QVXS_BUILT_FFTW");
   if (folder == nullptr) return nullptr;
@@ -56,7 +56,7 @@ template <> struct BuiltApi<double> {
   static inline const auto execute = built(fftw_execute, "libfftw3.so.3", "fftw_execute");
   static inline const auto destroy = built(fftw_destroy_plan, "libfftw3.so.3", "fftw_destroy_plan");
 };
-// Asked of when suites are made, after all static objects.
+// Called when suites are made, after all static objects.
 template <class T> bool isBuilt() { return BuiltApi<T>::execute != nullptr; }
 
 // A forward transform. Planning writes both vectors.
@@ -79,7 +79,7 @@ template <class T, bool kReal, class F = Api<T>, unsigned kEffort = FFTW_MEASURE
 
 template <class T, bool kReal> using MeasuredPlan = Plan<T, kReal>;
 template <class T, bool kReal> using BuiltPlan = Plan<T, kReal, BuiltApi<T>>;
-// Planning 2^17 points so would take a minute and more.
+// Planning 2^17 points with this effort would take more than a minute.
 template <class T, bool kReal> using PatientPlan = Plan<T, kReal, BuiltApi<T>, FFTW_PATIENT>;
 inline constexpr int kMostPatient = 1 << 16;
 

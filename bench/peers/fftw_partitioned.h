@@ -1,5 +1,5 @@
-// A long filter through FFTW for streams that come in short blocks: partitions as long as a block, products of spectra, plans by
-// measurement. It takes pieces of a block, too, each of which costs what a whole one does.
+// A long filter through FFTW for streams in short blocks: partitions as long as a block, products of spectra, plans by
+// measurement. It also takes pieces of a block, each at the cost of a whole one.
 #pragma once
 
 #include <fftw3.h>

@@ -24,7 +24,7 @@ inline void run(firfilt_cccf filter, const Qvx32fc* src, Qvx32fc* dst, int n) {
                              reinterpret_cast<liquid_float_complex*>(dst));
 }
 
-// ---- several rates: by the factors' kind one of three filters
+// ---- several rates: one of three filters, depending on the factors
 
 template <class T> struct Rates;
 template <> struct Rates<float> {

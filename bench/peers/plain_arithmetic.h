@@ -8,7 +8,7 @@
 
 namespace plain {
 
-// What an operation says of itself: Exact<D, E...> holds its integer result. kFull: only just, so that nothing can be added.
+// The traits of an operation. Exact<D, E...> holds its integer result; kFull: it has no bit to spare, so nothing can be added.
 struct Sum {
   static constexpr bool kAccumulates = false;
   template <class D, class... E> using Exact = Int<kTwice<D>>;
@@ -162,7 +162,7 @@ struct LowProduct : Elementwise<Product> {
   }
 };
 
-// The rule in the words of its definition, for any scale factor: what a user writes who does not know the shift form.
+// The rule as it is defined, for any scale factor: what a user writes who does not know the form with shifts.
 template <class Op>
 [[gnu::noipa]] void byDefinition(const int16_t* __restrict a, const int16_t* __restrict b, int16_t* __restrict d, int n, int s) {
   for (int i = 0; i < n; ++i) {

@@ -58,7 +58,7 @@ inline Qvx16s toLinear(float x) {
 inline constexpr auto floatToA = [](float x) { return linearToA(toLinear(x)); };
 inline constexpr auto floatToMu = [](float x) { return muOf(toLinear(x), x < 0); };
 
-// The same loop, a sample at a time: the empty statement keeps the compiler from doing many at once.
+// The same loop, one sample at a time: the empty statement keeps the compiler from vectorising it.
 template <auto kFunction, class S> [[gnu::noipa]] void encode(const S* __restrict a, Qvx8u* __restrict d, int n) {
   for (int i = 0; i < n; ++i) {
     unsigned code = kFunction(a[i]);

@@ -1,4 +1,4 @@
-// Convolution and correlation as they are written where there is no library.
+// Convolution and correlation as one writes them without a library.
 #pragma once
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// A filter as it is written where there is no library: old samples and new ones in a buffer, one sum for each output.
+// A filter as one writes it without a library: old samples and new ones in a buffer, one sum for each output.
 #pragma once
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 
 namespace plain {
 
-// Before the first of n new samples, the last taps - 1; all zero where the data is new.
+// The last taps - 1 samples, followed by n new ones; zeros where the data is new.
 template <class T> class History {
  public:
   explicit History(size_t taps) : old_(taps - 1) {}
@@ -54,7 +54,7 @@ inline void filter(const int16_t* x, const int16_t* p, int taps, int16_t* y, int
   }
 }
 
-// A polyphase filter as it is written: for each output of a period its list of taps, and where its samples begin.
+// A polyphase filter as one writes it: for each output of a period its list of taps, and where its samples begin.
 struct Ratio {
   int up;
   int down;

@@ -1,4 +1,4 @@
-// What a program without the library makes its signals with.
+// How a program without the library makes its signals.
 #pragma once
 
 #include <cmath>

@@ -1,8 +1,8 @@
 // The loops that a user would write instead, one for every signature.
 //
-// An operation brings Op::dispatch<D, E...>(loop, scalars...): it decides everything that does not change within the loop, the
-// sign of a scale factor or the round mode, and runs loop(kernel), where kernel(E...) gives one element of type D. The loops are
-// closed to analysis across the call, as if in another library: nothing is known of their arguments.
+// An operation provides Op::dispatch<D, E...>(loop, scalars...), which decides everything that does not change within the loop,
+// such as the sign of a scale factor or the round mode, and runs loop(kernel), where kernel(E...) gives one element of type D.
+// The loops are compiled without knowledge of their callers' arguments, as if in another library.
 #pragma once
 
 #include "peers/plain_exact.h"

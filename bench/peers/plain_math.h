@@ -64,7 +64,7 @@ inline constexpr auto rootOrZero = [](auto x) {
   else return std::sqrt(x);
 };
 
-// By trial of one bit of the result after the other.
+// Tries one bit of the result after another.
 inline constexpr auto bitTrials = [](const int64_t* src, int64_t* dst, int n, int s) {
   for (int i = 0; i < n; ++i) {
     const auto x = static_cast<unsigned __int128>(src[i] > 0 ? src[i] : 0);

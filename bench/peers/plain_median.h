@@ -1,5 +1,5 @@
-// Median filters as they are written where there is no library: networks of minima and maxima, which compilers turn into vectors,
-// and a window that stays sorted.
+// Median filters as one writes them without a library: networks of minima and maxima, which compilers vectorise, and a window
+// that stays sorted.
 #pragma once
 
 #include <algorithm>

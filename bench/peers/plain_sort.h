@@ -1,4 +1,4 @@
-// Sorts as a text book has them.
+// Sorts by the textbook.
 #pragma once
 
 #include <algorithm>

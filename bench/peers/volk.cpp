@@ -11,14 +11,14 @@
 
 namespace {
 
-// In names of implementations: what the instructions that this file is compiled for do not include. "orc" asks the processor.
+// Parts of the names of implementations that need more instructions than this file is compiled for. "orc" detects the processor.
 #if defined __AVX2__
 constexpr const char* kAbove[] = {"avx512", "orc"};
 #else
 constexpr const char* kAbove[] = {"avx", "sse4", "orc"};
 #endif
 
-// Of those left, what VOLK itself prefers: the most demanding one.
+// Of the others, the one that VOLK prefers: the most demanding one.
 std::string best(const volk_func_desc_t& kernel, bool aligned) {
   std::string name = "generic";
   int most = -1;

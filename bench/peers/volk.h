@@ -11,7 +11,7 @@
 
 namespace volk {
 
-// VOLK chooses by the processor. Called before all else, this keeps it within the instructions that the peers are compiled for.
+// VOLK chooses by the processor. To be called first: keeps it within the instructions that the peers are compiled for.
 void hold();
 
 inline const lv_32fc_t* complex(const Qvx32fc* p) { return reinterpret_cast<const lv_32fc_t*>(p); }

@@ -1,4 +1,4 @@
-// Highway's sort as it is packaged, which chooses its instructions itself: no better ones than the variant's that is measured.
+// Highway's sort as packaged. It chooses its instructions itself; here none above the level of the variant that is measured.
 #pragma once
 
 #include <hwy/contrib/sort/vqsort.h>

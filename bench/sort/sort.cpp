@@ -1,5 +1,5 @@
-// Sorts of vectors in several orders. A call sorts what has just been copied: the copy is part of every contender's time, and
-// successive calls get different elements, or the processor would learn the comparisons by heart.
+// Sorts of vectors in several orders. Each call sorts a fresh copy: copying is part of every contender's time, and successive
+// calls get different elements, since the processor would learn to predict the comparisons.
 #include <algorithm>
 #include <numeric>
 #include <string>
@@ -23,7 +23,7 @@ template <class T> size_t vectorsOf(const Vectors& v) {
   return std::max<size_t>(1, std::min<size_t>(1 << 18, kSlabBytes / sizeof(T)) / n);
 }
 
-// fill() repeats itself: 10^6 elements would have each value 15 times or more.
+// Fills without repetition: with fill(), 10^6 elements would have each value 15 times or more.
 template <class T> void fillAnew(T* x, size_t n) {
   constexpr size_t kPart = 8192;
   for (size_t i = 0; i < n; i += kPart) fill<T>(x + i, static_cast<int>(std::min(kPart, n - i)), i + 1);
@@ -92,7 +92,7 @@ template <class T> void valueRows(Suite& s, const std::string& name, QvxStatus (
   }
 }
 
-// Indices sorted by what they lead to, then the elements put where they say.
+// Sorts indices by their elements, then moves the elements.
 template <class T> void sortIndices(T* x, int n, Qvx32s* indices) {
   static std::vector<std::pair<T, Qvx32s>> pairs;
   pairs.resize(static_cast<size_t>(n));

@@ -42,7 +42,7 @@ constexpr auto kOrder = [](const auto* a, int n, int* order) { orderOf(a, n, ord
   *counts = count;
 }
 
-// A table of kEntries, all different, and the values that are found, which the harness has no room for.
+// A table of kEntries different entries, and room for the values found, which the harness has no vector for.
 template <int kEntries> const Qvx16u* table() {
   static const auto entries = [] {
     std::array<Qvx16u, kEntries> t;

@@ -38,7 +38,7 @@ template <class Wide> constexpr auto radius = [](auto... x) { return std::sqrt(r
 
 template <class Acc, auto kAdd> using G = plain::Gathered<Acc, kAdd>;
 
-// The root of what Peer leaves where the result goes, which is after the length.
+// Takes the root of Peer's result, which is the argument after the length.
 template <class Peer> struct Root {
   template <class... A> void operator()(A... arguments) const {
     Peer()(arguments...);

@@ -7,7 +7,7 @@ namespace bench {
 
 namespace {
 
-// The offsets stand where the harness expects none: bound here, for both alike.
+// The harness knows no offsets there: they are bound here, the same for both.
 void copyBits(const Qvx8u* a, Qvx8u* d, int n) { qvxsCopy_1u(a, 3, d, 5, n); }
 void plainCopyBits(const Qvx8u* a, Qvx8u* d, int n) { plain::copyBits(a, 3, d, 5, n); }
 

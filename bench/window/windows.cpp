@@ -9,7 +9,7 @@ namespace {
 
 constexpr auto kOther = Agreement::kDiffers;
 
-// In place again and again, numbers become subnormal, which take 100 times as long to multiply. Infinities stay.
+// Windowed in place again and again, numbers become subnormal, which take 100 times as long to multiply; infinities do not.
 template <class T> void makeLasting(T* x, int n) {
   if constexpr (std::is_floating_point_v<T>) {
     if (!std::isinf(x[n / 2])) std::fill_n(x, n, std::numeric_limits<T>::infinity());

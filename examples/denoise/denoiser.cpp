@@ -50,7 +50,7 @@ std::vector<float> joined(const std::vector<float>& low, const std::vector<float
   return x;
 }
 
-// The deviation of normal noise, of which half is below 0.6745 times that.
+// The standard deviation of normal noise, half of whose magnitudes are below 0.6745 times that.
 double deviationOf(std::vector<float> coefficients) {
   for (float& c : coefficients) c = std::abs(c);
   const auto middle = coefficients.begin() + static_cast<std::ptrdiff_t>(coefficients.size() / 2);
@@ -71,8 +71,8 @@ double shrink(std::vector<float>& coefficients, float threshold) {
 }  // namespace
 
 Denoised denoised(const std::vector<float>& noisy, int levels, double strength, double sampleRate) {
-  // A stage delays by kTaps - 1 samples of its rate, and what comes back from a level below is as late there: the levels above
-  // wait.
+  // A stage delays by kTaps - 1 samples of its own rate, so results of lower levels come later: the higher levels are delayed to
+  // match.
   const size_t unit = size_t{1} << levels;
   const size_t delay = (unit - 1) * (kTaps - 1);
   std::vector<float> low = noisy;

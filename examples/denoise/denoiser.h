@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-// What a level of the decomposition, of half the rate of the one before, was left with.
+// What the threshold left of a level of the decomposition; each level has half the rate of the one before.
 struct Level {
   double hertz;  // from here on up to twice as much
   double threshold;
@@ -21,5 +21,5 @@ Denoised denoised(const std::vector<float>& noisy, int levels, double strength, 
 // White noise of this root mean square.
 std::vector<float> noise(size_t n, double deviation, unsigned seed);
 
-// 20 log10 of the wanted over what differs from it.
+// The level of the wanted signal over that of the difference, in dB.
 double signalToNoise(const std::vector<float>& wanted, const std::vector<float>& got);

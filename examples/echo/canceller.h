@@ -1,4 +1,5 @@
-// An echo canceller: a filter learns the way from the loudspeaker to the microphone and takes what comes by it off the recording.
+// An echo canceller: a filter learns the path from the loudspeaker to the microphone, and what it predicts is subtracted from the
+// recording.
 #pragma once
 
 #include <string>
@@ -10,7 +11,7 @@ struct Room {
   double noise = -60;    // dB below full scale, at the microphone
 };
 
-// What a microphone hears of `played` by a few reflections, and noise.
+// What a microphone records of `played` through a few reflections, with noise.
 std::vector<float> recorded(const std::vector<float>& played, const Room& room, double sampleRate);
 
 struct Learning {

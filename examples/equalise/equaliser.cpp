@@ -17,7 +17,7 @@ std::vector<Qvx32f> readTaps(const std::string& path) {
   return taps;
 }
 
-// In 64-bit arithmetic: long blocks go by way of the FFT, and what that rounds otherwise no 16 bits show.
+// In 64-bit arithmetic: long blocks go through the FFT, whose different rounding then does not show in 16 bits.
 Equaliser::Equaliser(const std::vector<Qvx32f>& taps, int channels, int block) : block_(block) {
   const std::vector<Qvx64f> wide(taps.begin(), taps.end());
   for (int c = 0; c < channels; ++c) {

@@ -13,7 +13,7 @@ class Equaliser {
   // block: the samples that a channel is given at a time, at most kBlockFrames.
   Equaliser(const std::vector<Qvx32f>& taps, int channels, int block);
 
-  // The next frames of the signal, at most kBlockFrames, and what they become, delayed as the taps say.
+  // Filters the next frames of the signal, at most kBlockFrames; the taps determine the delay.
   void filter(const Qvx16s* src, int frames);
   void result(Qvx16s* dst, int frames) const;
   // The largest difference between two results before they became 16 bits, whose full scale is 1.

@@ -29,7 +29,7 @@ void declare(Arguments app, Options& options) {
       .showDefault();
 }
 
-// A filter that is given other blocks, and how far its results have been from the first one's.
+// A filter that gets blocks of another size, and the largest difference of its results from the first one's.
 struct Other {
   Equaliser equaliser;
   double most = 0;

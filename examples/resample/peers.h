@@ -1,4 +1,4 @@
-// The resamplers that a program would take otherwise.
+// The resamplers that a program would use instead.
 #pragma once
 
 #include <string>

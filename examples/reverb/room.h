@@ -10,10 +10,10 @@ std::vector<Qvx32f> readResponse(const std::string& path, int sampleRate);
 // Noise that falls by 60 dB in so many seconds.
 std::vector<Qvx32f> decayingNoise(double seconds, int sampleRate);
 
-// The levels in dB of what is left of a response from each of so many evenly spaced times on, beside all of it.
+// The decay: levels in dB of the rest of a response after evenly spaced times, relative to all of it.
 std::vector<double> decayOf(const std::vector<Qvx32f>& response, int times);
 
-// A recording in blocks, each of which rings on into the next ones.
+// Plays a recording block by block; each rings on into the next ones.
 class Room {
  public:
   Room(std::vector<Qvx32f> response, int channels);

@@ -8,7 +8,7 @@ namespace {
 // Silence has a level too.
 double decibels(double power) { return 10 * std::log10(std::max(power, 1e-15)); }
 
-// Of the window's mean square over the square of its mean: by so much more power than a sine's has its middle bin.
+// The window's mean square over the square of its mean: a sine has so much more power than its middle bin shows.
 constexpr double kNoiseBins = 1.5;
 
 }  // namespace

@@ -18,5 +18,5 @@ struct Peak {
 // Mean over all channels and over blocks of 2^order frames, half of each shared with the next.
 Spectrum spectrumOf(const std::string& path, int order);
 
-// The strongest local maxima, the strongest first; between bins by what the window makes of a single sine.
+// The strongest local maxima, the strongest first; frequencies between bins follow from the window's spectrum.
 std::vector<Peak> peaksOf(const Spectrum& spectrum, size_t count);

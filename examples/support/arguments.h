@@ -31,12 +31,12 @@ class Option {
     for (const auto& [name, value] : named) names.push_back(name);
     return oneOf(names);
   }
-  // Given once for each of its values, where other options of many values take all that follow.
+  // Takes one value each time it is given; other options with several values take all that follow.
   Option& repeated();
   // Only with the other one, or only without.
   Option& needs(const Option& other);
   Option& excludes(const Option& other);
-  // The help tells the value that the variable has now.
+  // The help shows the variable's present value as the default.
   Option& showDefault();
   bool isGiven() const;
 
@@ -48,7 +48,7 @@ class Arguments {
  public:
   explicit Arguments(const std::string& description);
 
-  // The first argument, by which a program that has commands is told what to do.
+  // The first argument of a program that has commands: which of them to run.
   Arguments command(const std::string& name, const std::string& description);
   // Options of which exactly one is given.
   Arguments either(const std::string& name);
