@@ -66,11 +66,11 @@ class Export:
 
     @property
     def key(self):
-        """The name without what C needs to tell types and forms apart."""
+        """The name without the types and forms that C needs in it."""
         first, *rest = self.name[4:].split('_')
         forms = {'I', 'Sfs', 'ISfs', 'D2L', 'P', 'IP', 'PSfs', 'IPSfs'}
         if any(p.is_record for p in self.parameters):
-            forms |= {'C', 'R'}  # which the record's type tells
+            forms |= {'C', 'R'}  # which the record's type determines
         tokens = [first] + [t for t in rest if t not in forms]
         key = '_'.join(t for t in (re.sub(f'(?:{ELEMENT})+$', '', t) for t in tokens) if t)
         return 'Ten' + key[2:] if key.startswith('10') else key
@@ -354,7 +354,7 @@ def functions(all_exports):
 
 
 def typed(export, known):
-    """The argument that tells the types where nothing else does."""
+    """The argument that determines the types where nothing else does."""
     # QvxsFIRState_32s is another name of a type.
     signature = (export.key, *(p.type.replace('FIRState_32s', 'FIRState64f_32s') for p in export.parameters))
     unclear = signature in known or not any(p.is_record for p in export.parameters)
@@ -363,7 +363,7 @@ def typed(export, known):
 
 
 def handles(all_exports):
-    """Functions with records: as in C, but overloaded. What tells no type by its arguments is given it."""
+    """Functions with records: as in C, but overloaded. Where no argument determines the type, there is one that does."""
     text = TOP.format(what='All functions with a record, and those that return no status, with the arguments they have in C, as overloads.',
                       guard='QVXS_HANDLES_HPP')
     text += '\n#include <qvx/qvxs_vectors.hpp>\n\nnamespace qvx::handles {\n'

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The numbers of src/vector/*.h: minimax polynomials, and the logarithm's tables of reciprocals. Needs mpmath.
+"""The numbers of src/math/*.h: minimax polynomials, and the logarithm's tables of reciprocals. Needs mpmath.
 
 usage: minimax.py exp | ln | tables | arctan | sin | sine
 
@@ -121,7 +121,7 @@ def near_multiple(middle, reach, places, lane, tries):
 
 
 def tables():
-    """For each interval of the mantissa, 1 for those beside 1, a reciprocal whose logarithm is next to a multiple of 2^-places."""
+    """For each interval of the mantissa, 1 for those next to 1, a reciprocal whose logarithm is next to a multiple of 2^-places."""
     random.seed(1)
     for lane, entries, at_one, places, tries in (('float', 32, 2, 16, 150000), ('double', 16, 1, 41, 200000)):
         reciprocals, logarithms, worst = [], [], 0

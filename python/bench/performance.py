@@ -22,7 +22,7 @@ ROUNDS = 7
 
 
 def seconds(call, least=0.004):
-    """The least time of a call, of rounds of at least so many seconds."""
+    """The least time of a call, over rounds of at least so many seconds."""
     call()
     count, spent = 1, 0.0
     while True:
@@ -36,7 +36,7 @@ def seconds(call, least=0.004):
 
 
 def measure(calls):
-    """The least seconds of each call; the rounds go round all of them, so that noise meets all alike."""
+    """The least time of each call in seconds; the calls take turns, so that noise affects all alike."""
     best = [math.inf] * len(calls)
     for _ in range(ROUNDS):
         for i, call in enumerate(calls):
@@ -51,7 +51,7 @@ def noise(shape, dtype):
 
 
 def plan(x, real):
-    """A planned transform of pyFFTW: it brings its own arrays, so that nothing is allocated in a call."""
+    """A planned transform of pyFFTW, with its own arrays, so that calls allocate nothing."""
     source = pyfftw.empty_aligned(x.shape, x.dtype)
     last = x.shape[-1] // 2 + 1 if real else x.shape[-1]
     target = pyfftw.empty_aligned(x.shape[:-1] + (last,), np.result_type(x.dtype, np.complex64))
@@ -61,7 +61,7 @@ def plan(x, real):
 
 
 def recorded(x, real):
-    """The same with a record of ours."""
+    """The same with a record of this library."""
     tag = qvxs.forms.TAGS[x.dtype]
     n = x.shape[-1]
     kind, call = ("R_" + tag, "RToCCS_" + tag) if real else ("C_" + tag, "CToC_" + tag)

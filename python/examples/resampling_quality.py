@@ -24,7 +24,7 @@ def resampled(x, taps):
 
 
 def noise_of(y, frequency):
-    """What is left of a tone when the sine that fits best is taken away, in dB below it."""
+    """What is left of a tone without the sine that fits it best, in dB below it."""
     y = y[len(y) // 4:3 * len(y) // 4]
     angle = 2 * np.pi * frequency * np.arange(len(y))
     basis = np.stack((np.cos(angle), np.sin(angle)), axis=1)

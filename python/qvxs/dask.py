@@ -79,7 +79,7 @@ def sosfilt(sos, x, axis=-1):
     return _carried("sosfilt", (sos.astype(dtype),), x, axis, lambda lengths: (len(sos), *lengths, 2), dtype)
 
 
-# ---- what looks back by a number of samples
+# ---- functions that look back by a number of samples
 
 
 def _along(ndim, axis, part):
@@ -115,7 +115,7 @@ def upfirdn(h, x, up=1, down=1, axis=-1):
     parts, works, lengths = [], [], []
     edges = _edges(x.chunks[-1])
     for first, past in edges:
-        start = builtin_max(first - back, 0) // down * down  # where an output stands at a sample
+        start = builtin_max(first - back, 0) // down * down  # where an output coincides with a sample
         offset = start * up // down
         low = -(-first * up // down) - offset
         high = (((past - 1) * up + len(h) - 1) // down + 1 if past == x.shape[-1] else -(-past * up // down)) - offset
@@ -207,7 +207,7 @@ def _moments(block):
     n = block.size
     mean = float(vectors.mean(block.astype(np.float64, copy=False)))
     centred = vectors.subtract(contiguous(block, np.float64), mean)
-    off = float(vectors.mean(centred))  # what the first mean was wrong by
+    off = float(vectors.mean(centred))  # the error of the first mean
     return n, mean + off, float(vectors.dot(centred.reshape(-1), centred.reshape(-1))) - n * off * off
 
 

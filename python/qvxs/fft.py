@@ -39,12 +39,12 @@ _ndarray, _empty_like = np.ndarray, np.empty_like
 
 
 class _NotHere(Exception):
-    """Asks for a transform that SciPy has and this module has not."""
+    """Raised for transforms that SciPy has and this module has not."""
 
 
 @lru_cache(maxsize=32)
 def _record(kind, tag, n, *flag):
-    """The record of a transform and the bytes that a call with it works in."""
+    """The record of a transform, and the bytes of working memory that a call needs."""
     record = getattr(raw, f"qvxs{kind}InitAlloc_{tag}")(n, *flag, 0)
     size = np.zeros(1, np.int32)
     getattr(raw, f"qvxs{kind}GetBufSize_{tag}")(record, size)
@@ -107,7 +107,7 @@ def _apply(call, record, size, source, target, workers):
 def _complex(x, n, axis, norm, forward, overwrite, workers):
     """Complex numbers to complex numbers; the real ones by way of half a spectrum."""
     if x.__class__ is _ndarray and n is None and x.ndim == 1 and x.dtype in _COMPLEX and x.size and x.flags.carray and workers is None:
-        # The usual call, without the questions below.
+        # The usual call, without the checks below.
         tag = _COMPLEX[x.dtype]
         record, size = _record("DFT", "C_" + tag, check_axis(axis, 1) or x.size, _flag(norm))
         target = x if overwrite else _empty_like(x)
@@ -150,7 +150,7 @@ def _complex_of_real(x, n, axis, flag, forward, workers):
     return back(target, axis)
 
 
-_SWAPPED = {1: 2, 2: 1, 4: 4}  # the flag by which a forward transform has the inverse one's factor
+_SWAPPED = {1: 2, 2: 1, 4: 4}  # the flag that gives a forward transform the factor of the inverse
 _TO_COMPLEX = {(forward, tag): getattr(raw, f"qvxsDFT{'Fwd' if forward else 'Inv'}_CToC_{tag}")
                for forward in (True, False) for tag in ("32fc", "64fc")}
 _TO_CCS = {tag: getattr(raw, "qvxsDFTFwd_RToCCS_" + tag) for tag in ("32f", "64f")}
@@ -196,7 +196,7 @@ def _from_half_spectrum(x, n, axis, flag, workers):
 
 
 def _or_scipy(transform):
-    """Leaves to SciPy what is not here; lets no plan be passed, as SciPy does."""
+    """Leaves to SciPy what is not here; refuses plans, as SciPy does."""
 
     @wraps(transform)
     def public(*args, plan=None, **kwargs):

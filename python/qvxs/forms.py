@@ -30,8 +30,8 @@ class Form(NamedTuple):
     source: np.dtype
     second: np.dtype
     target: np.dtype
-    types: dict  # of every parameter, a pointer's being that of its elements
-    sources: tuple  # the parameters that are read, then those that are written alone
+    types: dict  # the type of each parameter, for pointers that of the elements
+    sources: tuple  # the parameters that are read, then those that are only written
     results: tuple
 
     @property

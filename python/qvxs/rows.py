@@ -1,4 +1,4 @@
-"""Rows of arrays: what every function that works along one axis begins and ends with."""
+"""Rows of arrays: the first and the last steps of functions along one axis."""
 
 import os
 import threading
@@ -68,7 +68,7 @@ def for_rows(work, rows, workers=None):
 
 
 def count_workers(workers):
-    """The number of threads that `workers` stands for, by SciPy's rule: negative numbers count from the processors down."""
+    """The number of threads that `workers` stands for, by SciPy's rule: negative numbers count down from the number of processors."""
     if workers is None:
         return 1
     processors = os.cpu_count()

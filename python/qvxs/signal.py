@@ -38,11 +38,11 @@ _TAGS = {"f": "32f", "d": "64f", "F": "32fc", "D": "64fc"}
 
 
 class _NotHere(Exception):
-    """Asks for what SciPy has and this module has not."""
+    """Raised for what SciPy has and this module has not."""
 
 
 def _or_scipy(function):
-    """Leaves to SciPy what is not here; SciPy's function is looked up now, before anybody puts ours into its place."""
+    """Leaves to SciPy what is not here; SciPy's function is looked up now, before ours may replace it."""
     other = getattr(scipy.signal, function.__name__)
 
     @wraps(function)
@@ -78,7 +78,7 @@ def lfilter(b, a, x, axis=-1, zi=None):
     """
     if zi is None and x.__class__ is a.__class__ is b.__class__ is _ndarray and x.ndim == a.ndim == b.ndim == 1 and (
             x.dtype is a.dtype is b.dtype and x.dtype.char in _TAGS and a.size > 1 and b.size and x.size and a[0] and (axis == -1 or axis == 0)):
-        # The usual call without the questions below, which take as long as 2000 samples.
+        # The usual call, without the checks below, which take as long as 2000 samples.
         result = np.empty(x.size, x.dtype)
         calls, spares = _record(filter_record, x.dtype, b, a)
         record, run, _, write = calls
@@ -106,12 +106,12 @@ def lfilter(b, a, x, axis=-1, zi=None):
     return _each_row(rows, axis, zi, (order,), dtype, filter_record, b, a)
 
 
-# Records that wait for the next call with the same taps, their state zero: making one takes as long as 3000 samples.
+# Records kept for the next call with the same taps, with a state of zeros: making one takes as long as 3000 samples.
 _spares = {}
 
 
 def _record(make, dtype, *taps):
-    """A record of the taps with its exports, and where to put them when they have been used."""
+    """A record of the taps with its exports, and where to return them after use."""
     key = make, dtype.char, *[part for x in taps for part in (x.tobytes(), x.dtype.char)]
     spares = _spares.get(key)
     if spares is None:
@@ -125,7 +125,7 @@ def _record(make, dtype, *taps):
 
 
 def _each_row(rows, axis, zi, shape, dtype, make, *taps):
-    """Every row through the record of the taps, from the state it has in zi."""
+    """Filters every row by the record of the taps, from its state in zi."""
     calls, spares = _record(make, dtype, *taps)
     record, run, read, write = calls
     result = np.empty_like(rows)
@@ -151,7 +151,7 @@ def _each_row(rows, axis, zi, shape, dtype, make, *taps):
 
 
 def _states(zi, outer, shape, axis, ndim):
-    """States with a row each in front, from SciPy's order: (order) at the axis, or sections first and (2) at the axis."""
+    """The states of SciPy with one row each: (order) along the axis, or sections first and (2) along the axis."""
     zi = np.asarray(zi)
     if len(shape) == 2:
         expected = (shape[0], *outer[:axis], shape[1], *outer[axis:])
@@ -207,7 +207,7 @@ def sosfilt(sos, x, axis=-1, zi=None):
 
 
 def _edge(x, padtype, padlen, axis, taps):
-    """By how many samples the ends are continued."""
+    """The number of samples by which each end is extended."""
     if padtype not in ("even", "odd", "constant", None):
         raise ValueError(f"Unknown value '{padtype}' given to padtype.  padtype must be 'even', 'odd', 'constant', or None.")
     edge = 0 if padtype is None else taps * 3 if padlen is None else padlen
@@ -217,7 +217,7 @@ def _edge(x, padtype, padlen, axis, taps):
 
 
 def _continued(rows, edge, padtype, dtype):
-    """The rows with their ends continued: through the end points (odd), mirrored (even), or by them."""
+    """The rows with extended ends: reflected through the end points (odd), mirrored (even), or constant."""
     n = rows.shape[1]
     buffer = np.empty((len(rows), n + 2 * edge), dtype)
     buffer[:, edge:edge + n] = rows
@@ -258,7 +258,7 @@ def _there_and_back(make, taps, start, x, edge, padtype, axis):
 
 @lru_cache(maxsize=32)
 def _steady(function, *taps):
-    """What lfilter_zi or sosfilt_zi says of taps, which are told as bytes, type and shape: solving for it takes as long as 5000 samples."""
+    """What lfilter_zi or sosfilt_zi says of taps, which are given as bytes, type and shape: solving for it takes as long as 5000 samples."""
     return function(*(np.frombuffer(data, dtype).reshape(shape) for data, dtype, shape in taps))
 
 
@@ -441,7 +441,7 @@ def correlate(in1, in2, mode="full", method="auto"):
         raise _NotHere
     result = convolve(in1, in2[::-1].conj(), "full", method)
     if mode == "same" and in2.size > in1.size:
-        raise _NotHere  # SciPy cuts another part out of it here
+        raise _NotHere  # SciPy takes another part of it here
     if mode == "valid" and in2.size > in1.size:
         return result[in1.size - 1:in2.size].copy()
     return _cut(result, in1.size, in2.size, mode)
@@ -617,7 +617,7 @@ def firwin(numtaps, cutoff, width=None, window="hamming", pass_zero=True, scale=
     return taps
 
 
-# The library's windows are good to 2^-45, SciPy's to the last bit, and nobody waits for a window.
+# The library's windows have an error of 2^-45; SciPy's are exact to the last bit, and their speed does not matter here.
 get_window = scipy.signal.get_window
 
 
@@ -658,7 +658,7 @@ def cheby1(N, rp, Wn, btype="low", analog=False, output="ba", fs=None):
 
 # ---- spectra
 
-_PIECE = 1 << 16  # samples transformed at a time, so that they stay in the second cache
+_PIECE = 1 << 16  # samples transformed at a time, so that they stay in the second-level cache
 
 
 @lru_cache(maxsize=16)
@@ -688,7 +688,7 @@ def _segments(x, fs, window, nperseg, noverlap, nfft, detrend, return_onesided, 
             nperseg = n
         try:
             weights = _weights(window, nperseg, x.dtype)
-        except TypeError:  # a tuple with what cannot be kept
+        except TypeError:  # a tuple that cannot be a key
             weights = get_window(window, nperseg).astype(x.dtype)
     else:
         weights = np.asarray(window)

@@ -51,7 +51,7 @@ def _real(x, name):
 
 
 def _export(stem, tag, scale):
-    """The export, and the scale where it takes one."""
+    """The export, and the scale if it takes one."""
     call = getattr(raw, f"qvxs{stem}_{tag}", None)
     if call is None:
         return getattr(raw, f"qvxs{stem}_{tag}_Sfs"), (scale,)

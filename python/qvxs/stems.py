@@ -27,7 +27,7 @@ def _broadcast(arrays, types):
 
 
 def _choose(name, found, arrays, scale, dtype):
-    """The form whose sources have the arrays' types, or all of them the type that NumPy promotes to."""
+    """The form for the arrays' types, or for the one type that NumPy promotes them to."""
     fitting = [form for form in found if len(form.sources) == len(arrays) and (form.scaled or not scale)]
     if dtype is not None:
         fitting = [form for form in fitting if form.types[(form.results or form.sources)[-1]] == np.dtype(dtype)]
@@ -42,7 +42,7 @@ def _choose(name, found, arrays, scale, dtype):
 
 
 def _into(out, made):
-    """The results where the caller wants them."""
+    """The results, where the caller wants them."""
     if out is None:
         return made[0] if len(made) == 1 else tuple(made)
     for value, place in zip(made, (out,) if len(made) == 1 else out):
@@ -168,7 +168,7 @@ for _row in (
     _stem(*_row)
 
 
-# ---- of other shapes
+# ---- functions of other shapes
 
 _INVERSE_HAAR, _GOERTZEL_TWO = forms("WTHaarInv"), forms("GoertzTwo")
 

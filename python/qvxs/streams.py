@@ -69,7 +69,7 @@ def section_record(sos, dtype, wide=True):
 
 
 class _Stream:
-    """What all have: a lock, the dtype, blocks made into vectors of it."""
+    """What all filters have: a lock, the dtype, and blocks converted to vectors of it."""
 
     def __init__(self, dtype):
         self.dtype = np.dtype(dtype)
@@ -438,7 +438,7 @@ class Lms(_Stream):
         self._record = raw.qvxsFIRLMSInitAlloc_32f(first, len(first), None, 0)
 
     def process(self, block, reference):
-        """The outputs for the next samples, each of the taps that the one before has left."""
+        """The outputs for the next samples, each with the taps as the step before left them."""
         block, reference = self._vector(block), self._vector(reference)
         if block.shape != reference.shape:
             raise ValueError(f"the block has {block.size} samples, the reference {reference.size}")

@@ -36,7 +36,7 @@ def _public(function, name, plain, turned, doc):
 
 
 def _choose(name, candidates, source, scale, dtype):
-    """The form for a source's type: that of the wanted result's type, else of the source's own, else the first there is."""
+    """The form for a source's type: with the wanted type of result, else with the source's own, else the first one."""
     fitting = [form for form in candidates if form.source == source and (form.scaled or not scale)]
     if dtype is not None:
         fitting = [form for form in fitting if form.target == np.dtype(dtype)]
@@ -48,7 +48,7 @@ def _choose(name, candidates, source, scale, dtype):
 
 
 def _chooser(name, found):
-    """_choose for the forms of one function; what it has found once it keeps: looking through all takes 5 us."""
+    """_choose for the forms of one function, with a cache: searching all takes 5 us."""
     @lru_cache(maxsize=64)
     def choose(source, scaled, dtype):
         return _choose(name, found, source, scaled, dtype)
@@ -57,7 +57,7 @@ def _chooser(name, found):
 
 
 def _plain(name, found, parameters):
-    """The exports of calls without scale, dtype and numbers, where there is one with just these parameters."""
+    """The exports for calls without scale, dtype and numbers, as far as there are any."""
     chosen = [_choose(name, found, source, 0, None) for source in dict.fromkeys(form.source for form in found) if source.names is None]
     return tuple(form.call for form in chosen if form.parameters == parameters and form.target.names is None)
 

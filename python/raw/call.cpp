@@ -1,5 +1,5 @@
-// The way of a call: numbers first, because converting them may run Python; then records and their locks; then vectors, whose
-// lengths are held against the table. From there on nothing of Python runs until the library has returned.
+// The steps of a call: numbers first, because converting them may run Python; then records and their locks; then vectors, whose
+// lengths are checked by the table. From then on no Python code runs until the library has returned.
 #include <qvx/qvxcore.h>
 #include <qvx/qvxdefs.h>
 
@@ -172,7 +172,7 @@ bool Call::takeRecords() {
       if (!takeRecord(i, item, addresses[k])) return false;
       wanted.push_back(reinterpret_cast<Record*>(item));
     }
-    // In one order, whoever asks.
+    // Locks are taken in one order, whatever the order of the arguments.
     std::sort(wanted.begin(), wanted.end());
     if (std::adjacent_find(wanted.begin(), wanted.end()) != wanted.end()) {
       PyErr_Format(PyExc_ValueError, "%s: %s has one record twice", e_.name, p.name);
@@ -255,7 +255,7 @@ bool Call::takeBlock(int index) {
     tooShort(p, block.count, size);
     return false;
   }
-  // A record points into itself, and anyone may write to an array: it lies in memory of its own, as long as the block must be.
+  // A record points into itself, and any code may write to an array, so it gets memory of its own, of the block's size.
   made_->memory = qvxMalloc(std::max<int64_t>(size, 1));
   if (made_->memory == nullptr) {
     raiseStatus(e_, qvxStatNoMem);
@@ -267,7 +267,7 @@ bool Call::takeBlock(int index) {
   return true;
 }
 
-// Those with contents first, which tell the extents of others.
+// Vectors with contents first: the extents of others depend on these.
 bool Call::takeVectors(bool withContents) {
   for (int i = 0; i < e_.count; ++i) {
     const Parameter& p = e_.parameters[i];
@@ -390,11 +390,11 @@ PyObject* Call::run(PyObject* const* arguments, npy_intp rows, const npy_intp* s
   return result(invoke(rows, steps));
 }
 
-// ---- the few that return no status
+// ---- the few functions that return no status
 
 void freeVector(PyObject* capsule) { qvxFree(PyCapsule_GetPointer(capsule, nullptr)); }
 
-// An array over memory of the library, which goes with the last view of it.
+// An array over memory of the library, which is released with the last view of it.
 PyObject* allocateVector(const Export& e, PyObject* argument) {
   Slot slot;
   int64_t count = 0;

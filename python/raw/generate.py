@@ -13,7 +13,7 @@ import sys
 Parameter = collections.namedtuple("Parameter", "type name")
 Export = collections.namedtuple("Export", "result name parameters declaration")
 
-# What no extent can say, by name: a condition on the arguments, and what is told where it does not hold.
+# Conditions that no extent expresses, by name of the export: on the arguments, and the message where they do not hold.
 GUARDS = {
     "ConvBiased_*": (
         "!((src1Len == 4 && src2Len == 45 && dstLen == 41 && bias == 4) ||"
@@ -29,7 +29,7 @@ GUARDS = {
 APART = ["Sort*"]
 UNLIKE = ["FilterMedian_*", "CalcStatesDV_*", "UpdatePathMetricsDV_*"]
 CONTENTS = {"index": "kIndex", "phase": "kPhase", "bitLengths": "kBitLengths", "positions": "kPositions"}
-# The names by which extents know what contents tell.
+# The names that extents use for numbers read from contents.
 CONTENT_NAMES = {"phase": 0, "totalBits": 0}
 
 
@@ -190,7 +190,7 @@ class Table:
     def extent_function(self, expression):
         return self.extents.setdefault(expression, f"extent{len(self.extents)}")
 
-    # A call of the function that tells how much memory a maker's block takes.
+    # A call of the function that reports the size of a maker's block.
     def block_size(self, export, wanted):
         for size in ("GetStateSize", "GetSize"):
             teller = self.by_name.get(export.name.replace("Init", size, 1))
@@ -214,7 +214,7 @@ class Table:
             arguments.append(f"static_cast<int>({number})")
             sum_of.append(number)
         name = f"size{len(self.sizes)}"
-        # Sizes are told modulo 2^32: far below that they can be believed.
+        # Sizes are reported modulo 2^32: far below that they can be trusted.
         limit = f"  if ({' || '.join(f'{n} > 1 << 20' for n in sum_of)}) return INT64_MIN;\n" if sum_of else ""
         self.sizes.append(f"int64_t {name}([[maybe_unused]] const int64_t* n) {{\n  [[maybe_unused]] int size = 0, other = 0;\n{limit}"
                           f"  const QvxStatus status = {teller.name}({', '.join(arguments)});\n"

@@ -1,4 +1,4 @@
-// The extension's own parts: statuses as exceptions, records, and the way of a call.
+// The extension's own parts: statuses as exceptions, records, and calls.
 #pragma once
 
 #define PY_SSIZE_T_CLEAN
@@ -40,7 +40,7 @@ struct Record {
   unsigned long owner;  // the thread that holds the lock
   int users;            // calls under way
   bool isFreed;
-  int64_t brought[kMostBrought];  // what extents are told of it
+  int64_t brought[kMostBrought];  // the numbers that extents take from it
 };
 
 extern PyTypeObject recordType;
@@ -72,7 +72,7 @@ bool convertVector(PyObject* object, const Export& e, const Parameter& p, Vector
 
 // ---- calls
 
-// Elements above which other threads of Python may run meanwhile: letting them costs 25 ns where none waits.
+// Elements above which other threads of Python may run during the call: releasing the lock costs 25 ns where none waits.
 constexpr int64_t kLong = 10000, kLongOfFilters = 1000;
 
 PyObject* callExport(const Export& e, PyObject* const* arguments, Py_ssize_t count);

@@ -44,7 +44,7 @@ class Extent {
     if (__builtin_mul_overflow(a.value_, b.value_, &product)) product = (a.value_ < 0) == (b.value_ < 0) ? kMost : -kMost;
     return Extent(product);
   }
-  // Rounds towards zero; whoever divides by less than 1 is refused by the library.
+  // Rounds towards zero; the library refuses calls that would divide by less than 1.
   friend constexpr Extent operator/(Extent a, Extent b) { return Extent(a.value_ / std::max<int64_t>(b.value_, 1)); }
   friend constexpr Extent power(Extent a, Extent b) {
     Extent result(1);
@@ -57,7 +57,7 @@ class Extent {
   int64_t value_;
 };
 
-// Integer arguments by their places, then what the contents of a vector tell.
+// Integer arguments by position, then the numbers read from the contents of a vector.
 constexpr int kMostParameters = 16;
 constexpr int kContents = kMostParameters;
 using Integers = int64_t[kMostParameters + 2];
@@ -94,7 +94,7 @@ enum class Kind : uint8_t {
   kBlock,   // the memory that a maker makes its record in
 };
 
-// Vectors whose contents tell extents or places. The library gets copies, which nobody changes meanwhile.
+// Vectors whose contents determine extents or places. The library gets copies, which no other thread can change.
 enum class Content : uint8_t { kNone, kIndex, kPhase, kBitLengths, kPositions };
 
 struct Parameter {
@@ -112,7 +112,7 @@ struct Refusal {
   int status;
 };
 
-// What must hold beside the extents; null if it does.
+// A condition besides the extents; null if it holds.
 using Guard = const char* (*)(const int64_t* integers);
 
 enum class Result : uint8_t { kStatus, kVector, kNothing, kVersion };

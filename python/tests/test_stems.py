@@ -33,7 +33,7 @@ LEFT = {
 
 
 def stem(export):
-    """Without the types: that of the taps stands in the midst of FIR32f_Direct."""
+    """The stem without types: in FIR32f_Direct that of the taps is in the middle."""
     name = re.split(r"_(?=\d+[suf])", export.removeprefix("qvxs"))[0]
     return re.sub(r"(?<=[a-z A-Z])(32|64)[sf]c?(?=_|$)", "", name)
 

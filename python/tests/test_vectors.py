@@ -231,7 +231,7 @@ def test_rows_of_a_batch():
 
 
 def test_usual_calls_and_their_exceptions():
-    """What goes by the extension alone, beside what must not."""
+    """Calls that the extension serves alone, and calls that it must not."""
     a, b = noise((5, 60), "d", 1), noise((5, 60), "d", 2)
     out = np.empty_like(a)
     assert qvxs.subtract(a, b, out=out) is out and (out == a - b).all()

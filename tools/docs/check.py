@@ -32,7 +32,7 @@ class Page(HTMLParser):
 
 
 def exports(library):
-    """As the dynamic loader sees them, not as the headers tell."""
+    """The exports as the dynamic loader sees them, not by the headers."""
     symbols = subprocess.run(["nm", "--dynamic", "--defined-only", library], check=True, capture_output=True, text=True).stdout
     return set(re.findall(r" T (\w+)", symbols))
 
@@ -81,7 +81,7 @@ def manual_faults(manual, names):
 
 
 def warnings(manual):
-    """What groff says of the pages, all in one run."""
+    """The warnings of groff for all pages, in one run."""
     pages = [path for path in sorted(manual.glob("man?/*.gz")) if not path.is_symlink()]
     text = b"".join(gzip.decompress(path.read_bytes()) for path in pages)
     said = subprocess.run(["groff", "-man", "-Tutf8", "-ww", "-z", "-rLL=78n"], input=text, capture_output=True)

@@ -175,7 +175,7 @@ class Parser:
 
 
 def bracketed(left, inner, right):
-    """Brackets as high as the line, unless a fraction stands between them."""
+    """Brackets as high as the line, unless there is a fraction between them."""
     fixed = "" if "<mfrac>" in inner else ' stretchy="false"'
     return f"<mrow><mo{fixed}>{left}</mo>{inner}<mo{fixed}>{right}</mo></mrow>"
 

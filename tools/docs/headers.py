@@ -50,7 +50,7 @@ class Block:
 
     @property
     def leans(self):
-        """Whether it is told in words of the block before it."""
+        """Whether it refers to the block before it."""
         return re.match(r"(The same|Their?|Its|Both derivatives|That|As|One sample)\b", self.text) is not None
 
 
@@ -176,7 +176,7 @@ def read_statuses(include):
 
 
 def summary(stem, blocks):
-    """What a stem does in a line."""
+    """What a stem does, in one line."""
     text = next((block for block in blocks if not block.leans), blocks[0]).text
     sentence = re.split(r"(?<!\.)[.;](?: |$)", re.sub(r"\s+", " ", text))[0].strip().rstrip(".:").lstrip("*")
     for cut in (r": ", r", (?:times|as|where|with|which|who|so that) "):
@@ -186,7 +186,7 @@ def summary(stem, blocks):
     return textwrap.shorten(sentence, 110, placeholder=" ...") or stem
 
 
-# What refuses a call, from traits: only there is it told of each function by its name.
+# What refuses a call, from traits: only they list it for each function by name.
 
 def read_traits(folder):
     """name without qvxs -> the statuses of its refusals."""

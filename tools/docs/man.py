@@ -28,7 +28,7 @@ def words(text):
 
 
 def wrapped(prototype):
-    """The prototype on lines that need no breaking."""
+    """The prototype on lines short enough not to be broken."""
     head, _, rest = prototype.partition("(")
     lines, line = [], head + "("
     for argument in re.findall(r"[^,]*\([^)]*\)\([^)]*\)[^,]*,?|[^,]+,?", rest):

@@ -1,4 +1,4 @@
-"""Pictures of what the pages tell: drawn here where boxes and numbers do, by the examples where it takes the library's own samples."""
+"""Pictures for the pages: boxes and numbers are drawn here, the library's samples by the examples."""
 
 from dataclasses import dataclass
 
@@ -29,7 +29,7 @@ def cell(x, y, width, kind, words):
 
 
 def layouts():
-    """What stands where in the packed spectrum of 8 reals and of 7."""
+    """The places in the packed spectra of 8 reals and of 7."""
     def entry(k, part, n):
         if part == "0":
             return "zero", "0"

@@ -91,7 +91,7 @@ class Site:
         return re.sub(r"^((?:[\w*\[\]]+)(?:(?:, | and )[\w*\[\]]+)*)(?= ?(?:\([^)]*\))?: )", r'<span class="parameter">\1</span>', result)
 
     def block(self, block):
-        """The block's text: a formula that it begins with stands by itself."""
+        """The block's text: a formula that it begins with is displayed on its own."""
         out = []
         for i, (kind, part) in enumerate(block.parts):
             if kind == "figure":
@@ -207,7 +207,7 @@ class Site:
                    used=[(name, self.where[name]) for name in used])
 
     def index(self, headings):
-        """What search looks through: for a stem its page, its line and what its functions' names add to it."""
+        """The index of the search: for a stem its page, its line, and the types and forms of its functions."""
         stems = []
         for family in self.families:
             for stem in family.stems:
