@@ -1,4 +1,4 @@
-/* libqvxcore: the allocator and the thread count that the signal library stands on. It knows nothing of signals. */
+/* libqvxcore: the allocator and the thread count that the signal library uses. It knows nothing of signals. */
 #ifndef QVX_QVXCORE_H
 #define QVX_QVXCORE_H
 

@@ -1,4 +1,4 @@
-/* Everything libqvxs offers. The headers stand in the order of the library's entry table. */
+/* Everything libqvxs offers. The headers are in the order of the library's entry table. */
 #ifndef QVX_QVXS_H
 #define QVX_QVXS_H
 

@@ -9,7 +9,7 @@ extern "C" {
 #endif
 
 /* Short vectors are added up directly: where the values are whole numbers whose partial sums a float of the type holds, results are
- * exact. Long ones go by way of the FFT, with an error of at most 4 eps log2(N) times the product of the operands' norms, N being the
+ * exact. Long ones go through the FFT, with an error of at most 4 eps log2(N) times the product of the operands' norms, N being the
  * length of the transform and eps 2^-24 or 2^-53. A convolution is long from 512 results with at least 64 elements in the shorter vector
  * on, a correlation where (less * lags / more) exceeds 383 (64f, 64fc: 511, 32fc: 255), less and more being the shorter and the longer
  * length, and an autocorrelation from 856 lags on (32fc: 152, 64fc: 368); not all of those that are long gain by it. An infinite element
@@ -45,7 +45,7 @@ QVXS_API(QvxStatus, qvxsConvCyclic4x4_32f32fc, (const Qvx32f* pSrc1, const Qvx32
 
 /** Cross-correlation: dst[n] = the sum over i of conj(src1[i]) * src2[i + n + lowLag], for n from 0 to dstLen - 1, where what lies outside
  *  the vectors counts as zero. Any lowLag; lags at which the vectors do not meet give zeros.
- *  pSrc1: src1Len elements; pSrc2: src2Len; pDst: dstLen. 16s64s: exact, never by way of the FFT, without any memory.
+ *  pSrc1: src1Len elements; pSrc2: src2Len; pDst: dstLen. 16s64s: exact, never through the FFT, without any memory.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (src1Len, src2Len or dstLen < 1); qvxStatNoMem. */
 QVXS_API(QvxStatus, qvxsCrossCorr_32f, (const Qvx32f* pSrc1, int src1Len, const Qvx32f* pSrc2, int src2Len, Qvx32f* pDst, int dstLen, int lowLag));
 QVXS_API(QvxStatus, qvxsCrossCorr_64f, (const Qvx64f* pSrc1, int src1Len, const Qvx64f* pSrc2, int src2Len, Qvx64f* pDst, int dstLen, int lowLag));

@@ -76,7 +76,7 @@ QVXS_API(QvxStatus, qvxsDCTInvGetBufSize_16s, (const QvxsDCTInvSpec_16s* pSpec, 
 
 /** The way back, a transform of type III:
  *    dst[n] = 1/sqrt(N) * src[0] + sqrt(2/N) * sum over k from 1 on of src[k] * cos(pi (2n + 1) k / (2N))
- *  All else as the way there. */
+ *  All else as for the forward transform. */
 QVXS_API(QvxStatus, qvxsDCTInv_32f, (const Qvx32f* pSrc, Qvx32f* pDst, const QvxsDCTInvSpec_32f* pSpec, Qvx8u* pBuffer));
 QVXS_API(QvxStatus, qvxsDCTInv_32f_I, (Qvx32f* pSrcDst, const QvxsDCTInvSpec_32f* pSpec, Qvx8u* pBuffer));
 QVXS_API(QvxStatus, qvxsDCTInv_64f, (const Qvx64f* pSrc, Qvx64f* pDst, const QvxsDCTInvSpec_64f* pSpec, Qvx8u* pBuffer));

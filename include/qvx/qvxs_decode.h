@@ -28,7 +28,7 @@ QVXS_API(QvxStatus, qvxsGetVarPointDV_16sc, (const Qvx16sc* pSrc, Qvx32u* pRefPo
  *  pVariantPoint: 16 entries as of qvxsGetVarPointDV_16sc, from 0 on those of the first symbol, from 8 on those of the second.
  *  pCurrentSubsetPoint: for each of states / 2 subsets a pair, the point (number of the first symbol's, and 256 times that of the
  *  second's), then its error: the least sum of the errors of two entries, modulo 2^16, over the 2 (for 32 states 4) pairs of
- *  two-dimensional subsets that make it up. The first of equal sums stands.
+ *  two-dimensional subsets that make it up. The first of equal sums is kept.
  *  bitInversion: is exclusive-ored with the number of a subset; its lowest 3, 4 or 5 bits count for 16, 32 or 64 states.
  *  states: 16, 32 or 64; any other counts as 64.
  *  Returns qvxStatOk; qvxStatNullPtr. */
@@ -37,7 +37,7 @@ QVXS_API(QvxStatus, qvxsBuildSymblTableDV4D_16sc, (const Qvx32u* pVariantPoint, 
 /** Add, compare, select: for the states i from 0 on and their branches j from 0 on, with n = pNextState[i * B + j] and the pair
  *  k = 2 * j + (i & 1) of pCurrentSubsetPoint, if
  *      pPathError[i] + error[k] < pBranchError[n]
- *  then pBranchError[n] takes that sum and pPathTable[offset + n] = point[k] | i << 16. Of equal sums the first stands.
+ *  then pBranchError[n] takes that sum and pPathTable[offset + n] = point[k] | i << 16. Of equal sums the first is kept.
  *  B: 4 branches for 16 states, 8 for 32, 16 for any other number.
  *  pPathError: states elements. pNextState: B * states. pBranchError, and pPathTable from offset on: as many as the numbers in
  *  pNextState demand, states of them in a trellis. pCurrentSubsetPoint: 2 * B pairs, errors as signed 16-bit numbers. Sums are

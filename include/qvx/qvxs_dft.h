@@ -126,7 +126,7 @@ QVXS_API(QvxStatus, qvxsDFTOutOrdInitAlloc_C_64fc, (QvxsDFTOutOrdSpec_C_64fc** p
 QVXS_API(QvxStatus, qvxsDFTOutOrdFree_C_64fc, (QvxsDFTOutOrdSpec_C_64fc* pSpec));
 QVXS_API(QvxStatus, qvxsDFTOutOrdGetBufSize_C_64fc, (const QvxsDFTOutOrdSpec_C_64fc* pSpec, int* pSize));
 
-/** The complex transform with the spectrum in an order of its own: Fwd writes it so, Inv takes it so. It is a fixed permutation of
+/** The complex transform with the spectrum in an order of its own, which Fwd writes and Inv takes. It is a fixed permutation of
  *  the natural order for a length and a type, the same for every record, and may be another in another variant of the library.
  *  The product of two spectra of a length, element by element, brought back by Inv, is a circular convolution. All else is as
  *  that of the transform in natural order, but for qvxsDFTOutOrdGetBufSize, which asks for less. */

@@ -18,7 +18,7 @@ extern "C" {
  * by whatever form, is filtered as if it were one, without a delay. It lies in one block, must not be copied to another address,
  * and serves one call at a time. Integers are filtered in the first of these ways, floats in all three:
  *
- * - Directly, as sums of products: whatever does not go by way of the FFT.
+ * - Directly, as sums of products: whatever does not go through the FFT.
  * - By long transforms, of two to four times the taps: from 64 to 128 taps (real) or 18 to 38 taps (complex) on, as the
  *   processor's vectors are wide, in calls of more than 511 (real) or 255 (complex) samples. A filter that has partitions goes
  *   this way in calls that bring three quarters of the samples that a transform takes beside the taps, or more.
@@ -199,7 +199,7 @@ QVXS_API(QvxStatus, qvxsFIRSetDlyLine32s_16s, (QvxsFIRState32s_16s* pState, cons
 QVXS_API(QvxStatus, qvxsFIRSetDlyLine32sc_16sc, (QvxsFIRState32sc_16sc* pState, const Qvx16sc* pDlyLine));
 QVXS_API(QvxStatus, qvxsFIRSetDlyLine_16s, (QvxsFIRState_16s* pState, const Qvx16s* pDlyLine));
 
-/** The record of 64f_32s with integer taps, which never takes the way by the FFT. */
+/** The record of 64f_32s with integer taps, which never goes through the FFT. */
 QVXS_API(QvxStatus, qvxsFIRInit_32s, (QvxsFIRState_32s** ppState, const Qvx32s* pTaps, int tapsLen, const Qvx32s* pDlyLine, Qvx8u* pBuffer));
 QVXS_API(QvxStatus, qvxsFIRInitAlloc_32s, (QvxsFIRState_32s** ppState, const Qvx32s* pTaps, int tapsLen, const Qvx32s* pDlyLine));
 QVXS_API(QvxStatus, qvxsFIRGetStateSize_32s, (int tapsLen, int* pSize));
@@ -231,7 +231,7 @@ QVXS_API(QvxStatus, qvxsFIRStreamGetStateSize_32f, (int tapsLen, int* pSize));
  *  Of integer arithmetic, the sum is multiplied by 2^s with s = tapsFactor - scaleFactor: s below 0 rounds to nearest even, and
  *  counts as -31 if it is less; s above 0 wraps at 32 bits, and from 32 on gives 0.
  *  Accuracy: float sums are added in an order that depends on the call. With noise, a result is off by 2.5 eps of the sum of
- *  |h[k] * x[n - k]| at most, for any number of taps, eps 2^-23 (32f, 32fc arithmetic) or 2^-52 (64f, 64fc); by way of the FFT by
+ *  |h[k] * x[n - k]| at most, for any number of taps, eps 2^-23 (32f, 32fc arithmetic) or 2^-52 (64f, 64fc); through the FFT by
  *  eps times the root mean square of x times the sum of |h[k]|, which is more where x is quiet beside what is near. An infinity or
  *  a NaN spoils all results of the transforms it enters, earlier ones of the same call too; once it has left them, the results are
  *  those of the samples again.
@@ -290,7 +290,7 @@ QVXS_API(QvxStatus, qvxsFIR_32s_ISfs, (Qvx32s* pSrcDst, int numIters, QvxsFIRSta
 QVXS_API(QvxStatus, qvxsFIROne_32s_Sfs, (Qvx32s src, Qvx32s* pDstVal, QvxsFIRState_32s* pState, int scaleFactor));
 
 /** The same without a record: the caller keeps the taps and 2 * tapsLen samples at pDlyLine, zeros to begin with, and an index,
- *  0 to begin with. Every new sample stands twice, at the index and tapsLen after it, and then the index moves on; so the last
+ *  0 to begin with. Every new sample is stored twice, at the index and tapsLen after it, and then the index moves on; so the last
  *  tapsLen samples are those from the index on, oldest first.
  *  pDlyLine, *pDlyLineIndex: read and updated. The forms of one type with 64 taps or more (32fc, 64f: 32; 64fc: 16), and those
  *  in place, leave the index as it is and renew only the tapsLen samples from it on; those with fewer taps leave the newest at the

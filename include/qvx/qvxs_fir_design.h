@@ -10,7 +10,7 @@ extern "C" {
 
 /** A filter with few taps, each at a delay of its own: y[n] = sum of h[i] * x[n - pos[i]], in 32-bit floats. Products and sums
  *  are rounded apart, tap by tap from the last to the first, so that a stream may be cut anywhere and gives the same to the bit.
- *  GetStateSize: *pSize = the bytes of a record for nzTapsLen taps, the last of which stands at order (1 for 0), modulo 2^32:
+ *  GetStateSize: *pSize = the bytes of a record for nzTapsLen taps, the last of which is at order (1 for 0), modulo 2^32:
  *  so order has to be below 2^28.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadTapsLen (nzTapsLen or order < 1). */
 typedef struct QvxsFIRSparseState_32f QvxsFIRSparseState_32f;

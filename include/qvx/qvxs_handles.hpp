@@ -703,19 +703,19 @@ inline QvxStatus DFTOutOrdFree(QvxsDFTOutOrdSpec_C_64fc* pSpec) { return qvxsDFT
 inline QvxStatus DFTOutOrdGetBufSize(const QvxsDFTOutOrdSpec_C_64fc* pSpec, int* pSize) { return
     qvxsDFTOutOrdGetBufSize_C_64fc(pSpec, pSize); }
 
-// qvxs_dft.h: The complex transform with the spectrum in an order of its own: Fwd writes it so, Inv takes it ...
+// qvxs_dft.h: The complex transform with the spectrum in an order of its own, which Fwd writes and Inv takes. ...
 inline QvxStatus DFTOutOrdFwd_CToC(const Qvx32fc* pSrc, Qvx32fc* pDst, const QvxsDFTOutOrdSpec_C_32fc* pSpec, Qvx8u* pBuffer) {
     return qvxsDFTOutOrdFwd_CToC_32fc(pSrc, pDst, pSpec, pBuffer); }
 
-// qvxs_dft.h: The complex transform with the spectrum in an order of its own: Fwd writes it so, Inv takes it ...
+// qvxs_dft.h: The complex transform with the spectrum in an order of its own, which Fwd writes and Inv takes. ...
 inline QvxStatus DFTOutOrdInv_CToC(const Qvx32fc* pSrc, Qvx32fc* pDst, const QvxsDFTOutOrdSpec_C_32fc* pSpec, Qvx8u* pBuffer) {
     return qvxsDFTOutOrdInv_CToC_32fc(pSrc, pDst, pSpec, pBuffer); }
 
-// qvxs_dft.h: The complex transform with the spectrum in an order of its own: Fwd writes it so, Inv takes it ...
+// qvxs_dft.h: The complex transform with the spectrum in an order of its own, which Fwd writes and Inv takes. ...
 inline QvxStatus DFTOutOrdFwd_CToC(const Qvx64fc* pSrc, Qvx64fc* pDst, const QvxsDFTOutOrdSpec_C_64fc* pSpec, Qvx8u* pBuffer) {
     return qvxsDFTOutOrdFwd_CToC_64fc(pSrc, pDst, pSpec, pBuffer); }
 
-// qvxs_dft.h: The complex transform with the spectrum in an order of its own: Fwd writes it so, Inv takes it ...
+// qvxs_dft.h: The complex transform with the spectrum in an order of its own, which Fwd writes and Inv takes. ...
 inline QvxStatus DFTOutOrdInv_CToC(const Qvx64fc* pSrc, Qvx64fc* pDst, const QvxsDFTOutOrdSpec_C_64fc* pSpec, Qvx8u* pBuffer) {
     return qvxsDFTOutOrdInv_CToC_64fc(pSrc, pDst, pSpec, pBuffer); }
 
@@ -1104,24 +1104,24 @@ inline QvxStatus FIRSetDlyLine(QvxsFIRState32sc_16sc* pState, const Qvx16sc* pDl
 inline QvxStatus FIRSetDlyLine(QvxsFIRState_16s* pState, const Qvx16s* pDlyLine) { return qvxsFIRSetDlyLine_16s(pState, pDlyLine);
     }
 
-// qvxs_fir.h: The record of 64f_32s with integer taps, which never takes the way by the FFT.
+// qvxs_fir.h: The record of 64f_32s with integer taps, which never goes through the FFT.
 inline QvxStatus FIRInit(QvxsFIRState_32s** ppState, const Qvx32s* pTaps, int tapsLen, const Qvx32s* pDlyLine, Qvx8u* pBuffer) {
     return qvxsFIRInit_32s(ppState, pTaps, tapsLen, pDlyLine, pBuffer); }
 
-// qvxs_fir.h: The record of 64f_32s with integer taps, which never takes the way by the FFT.
+// qvxs_fir.h: The record of 64f_32s with integer taps, which never goes through the FFT.
 inline QvxStatus FIRInitAlloc(QvxsFIRState_32s** ppState, const Qvx32s* pTaps, int tapsLen, const Qvx32s* pDlyLine) { return
     qvxsFIRInitAlloc_32s(ppState, pTaps, tapsLen, pDlyLine); }
 
-// qvxs_fir.h: The record of 64f_32s with integer taps, which never takes the way by the FFT.
+// qvxs_fir.h: The record of 64f_32s with integer taps, which never goes through the FFT.
 inline QvxStatus FIRGetStateSize(Types<Qvx32s>, int tapsLen, int* pSize) { return qvxsFIRGetStateSize_32s(tapsLen, pSize); }
 
-// qvxs_fir.h: The record of 64f_32s with integer taps, which never takes the way by the FFT.
+// qvxs_fir.h: The record of 64f_32s with integer taps, which never goes through the FFT.
 inline QvxStatus FIRGetTaps(const QvxsFIRState_32s* pState, Qvx32s* pTaps) { return qvxsFIRGetTaps_32s(pState, pTaps); }
 
-// qvxs_fir.h: The record of 64f_32s with integer taps, which never takes the way by the FFT.
+// qvxs_fir.h: The record of 64f_32s with integer taps, which never goes through the FFT.
 inline QvxStatus FIRSetTaps(const Qvx32s* pTaps, QvxsFIRState_32s* pState) { return qvxsFIRSetTaps_32s(pTaps, pState); }
 
-// qvxs_fir.h: The record of 64f_32s with integer taps, which never takes the way by the FFT.
+// qvxs_fir.h: The record of 64f_32s with integer taps, which never goes through the FFT.
 inline QvxStatus FIRFree(Types<Qvx32s>, QvxsFIRState_32s* pState) { return qvxsFIRFree_32s(pState); }
 
 // qvxs_fir.h: The records of 32s_16s and 32sc_16sc with taps given as floats: scaled by the power of two that ...

@@ -17,7 +17,7 @@ extern "C" {
  * 32f, samples are 16s; an output is y rounded to nearest with ties to even, saturated, and the error is that of y before it is
  * rounded.
  *
- * The delay line holds the last tapsLen samples around an index: the oldest stands at the index, the newest before it, tapsLen
+ * The delay line holds the last tapsLen samples around an index: the oldest is at the index, the newest before it, tapsLen
  * counting as 0. A record serves one call at a time and must not be copied. */
 typedef struct QvxsFIRLMSState_32f QvxsFIRLMSState_32f;
 typedef struct QvxsFIRLMSState32f_16s QvxsFIRLMSState32f_16s;
@@ -53,7 +53,7 @@ QVXS_API(QvxStatus, qvxsFIRLMSSetDlyLine32f_16s, (QvxsFIRLMSState32f_16s* pState
 QVXS_API(QvxStatus, qvxsFIRLMSFree32f_16s, (QvxsFIRLMSState32f_16s* pState));
 
 /** One step without a record. pTaps: in stored order, h[tapsLen - 1], the tap of the oldest sample, first. pDlyLine: 2 * tapsLen
- *  samples, of which every one stands at its place and tapsLen after it; zeros to begin with. *pDlyLineIndex: that of the oldest;
+ *  samples, each of which is stored twice, tapsLen apart; zeros to begin with. *pDlyLineIndex: that of the oldest;
  *  the step writes the new sample there and moves it on.
  *  DirectQ15_16s: taps in units of 2^-15, muQ15 too. y = the exact sum times 2^-15, rounded to nearest with ties to even,
  *  saturated to 16 bits; e = r - y, saturated to 16 bits; a tap becomes tap + 2 * muQ15 * e * x * 2^-30, exact, rounded once to

@@ -8,7 +8,7 @@
 extern "C" {
 #endif
 
-/* A multi-rate filter puts upFactor - 1 zeros beside each sample, which stands at place upPhase among them, filters with tapsLen
+/* A multi-rate filter puts upFactor - 1 zeros beside each sample, whose place among them is upPhase, filters with tapsLen
  * taps, and keeps one result in downFactor, that at place downPhase:
  *
  *   y[j] = sum of h[k] * x[i] over all i and k with k = downFactor * j + downPhase - (upFactor * i + upPhase), 0 <= k < tapsLen.
@@ -19,7 +19,7 @@ extern "C" {
  *
  * The records are those of qvxs_fir.h, and so are their functions: qvxsFIR_32f and its kin filter with them, in place too,
  * qvxsFIRGetTaps, qvxsFIRSetTaps, qvxsFIRGetDlyLine, qvxsFIRSetDlyLine and qvxsFIRFree take them; qvxsFIROne and the functions of
- * QvxsFIRState_32s do not. Arithmetic and types are told there as well.
+ * QvxsFIRState_32s do not. Arithmetic and types are described there as well.
  *
  * All results have as many products: phases with a tap fewer than others are padded with a zero. So an infinite sample or a NaN,
  * whose product with zero is a NaN, spoils a result more of such a phase than the formula says.

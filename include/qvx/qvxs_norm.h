@@ -10,7 +10,7 @@ extern "C" {
 
 /** *pNorm = the norm of src: qvxsNorm_Inf the largest magnitude, qvxsNorm_L1 the sum of the magnitudes, qvxsNorm_L2 the root of
  *  the sum of their squares, qvxsNorm_L2Sqr that sum itself. Of a complex element, sqrt(re * re + im * im) is the magnitude.
- *  Floats: the sums are those of 32-bit floats for 32f, which come to 64-bit ones after some hundred elements, and of 64-bit
+ *  Floats: the sums are those of 32-bit floats for 32f, which are added to 64-bit ones after some hundred elements, and of 64-bit
  *  floats for all others; the order of the additions is not that of the elements. The relative error is at most 3.5e-5 for 32f
  *  and 1e-11 otherwise, for qvxsNorm_Inf_32fc32f 2e-7 at any magnitude. The squares of other elements must be finite and
  *  normal: from 1.8e19 on for 32f and 1.3e154 for 64f and 64fc the norm is infinite, and below 1e-19 and 1e-154 it loses

@@ -38,7 +38,7 @@ QVXS_API(QvxStatus, qvxsSortDescend_64f_I, (Qvx64f* pSrcDst, int len));
  *    lower i past x[i] >= p, raise j past x[j] <= p, no further than lo and hi; go on with lo..i and j..hi;
  *  shorter ranges by taking the first of the largest elements to the end. If there are equal elements, vectors made to defeat the median of
  *  three take O(len^2) steps. Where stability matters use qvxsSortRadixIndex.
- *  With a NaN among the elements their order is not defined; each still stands beside its place.
+ *  With a NaN among the elements their order is not defined; each still has its index.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
 QVXS_API(QvxStatus, qvxsSortIndexAscend_8u_I, (Qvx8u* pSrcDst, Qvx32s* pDstIndx, int len));
 QVXS_API(QvxStatus, qvxsSortIndexAscend_16s_I, (Qvx16s* pSrcDst, Qvx32s* pDstIndx, int len));

@@ -62,7 +62,7 @@ QVXS_API(QvxStatus, qvxsConjPerm_64fc_I, (Qvx64fc* pSrcDst, int len));
 QVXS_API(QvxStatus, qvxsConjPerm_16sc, (const Qvx16s* pSrc, Qvx16sc* pDst, int len));
 QVXS_API(QvxStatus, qvxsConjPerm_16sc_I, (Qvx16sc* pSrcDst, int len));
 
-/** The same from the layout CCS: pSrc has 2 * (len/2 + 1) values. dst[0] and dst[N/2] are copied as they stand, imaginary parts
+/** The same from the layout CCS: pSrc has 2 * (len/2 + 1) values. dst[0] and dst[N/2] are copied as they are, imaginary parts
  *  and all. */
 QVXS_API(QvxStatus, qvxsConjCcs_32fc, (const Qvx32f* pSrc, Qvx32fc* pDst, int len));
 QVXS_API(QvxStatus, qvxsConjCcs_32fc_I, (Qvx32fc* pSrcDst, int len));

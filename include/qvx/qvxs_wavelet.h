@@ -17,7 +17,7 @@ extern "C" {
  * the length of its delay line. Offsets only delay: an orthogonal pair of L taps (L even), their reverse in the inverse stage,
  * and the same offset for both bands of a stage give x back d = L - 1 + forward offset + inverse offset samples later.
  *
- * Before the first call all samples are zero. The record keeps those that later calls need, so that a stream may be cut between
+ * Before the first call all samples are zero. The record keeps the samples that later calls need, so that a stream may be cut between
  * any two pairs of samples: results are the same to the bit. Sums are in 32-bit floats, whatever the samples' type; integers of
  * the inverse stage are rounded to nearest with ties to even and saturated. A record serves one call at a time. */
 typedef struct QvxsWTFwdState_32f QvxsWTFwdState_32f;

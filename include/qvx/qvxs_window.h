@@ -9,7 +9,7 @@ extern "C" {
 #endif
 
 /* dst[n] = src[n] * w[n] for n = 0..N-1, N = len, in all of them. Both parts of a complex element take the same weight. The middle
- * element of an odd length is copied as it is, in every window; w[n] below is told for the first half. pDst may be pSrc; the _I
+ * element of an odd length is copied as it is, in every window; w[n] below is that of the first half. pDst may be pSrc; the _I
  * forms are that.
  *
  * Weights are made for each call, without a table: a pair of products for a vector of them. Floats are multiplied by them and
@@ -17,7 +17,7 @@ extern "C" {
  * Accuracy of a weight, relative to it also where the window goes to 0:
  *     32f, 32fc, 16s, 16sc   2^-21 (Bartlett 2^-22, Blackman 2^-20)
  *     64f, 64fc              2^-45 (Bartlett 2^-51, Blackman 2^-44)
- * The Kaiser window and a Blackman window whose alpha makes its terms cancel are told apart. */
+ * The Kaiser window and a Blackman window whose alpha makes its terms cancel are described separately. */
 
 /** Bartlett: w[n] = 2 n / (N-1). With N = 3 the ends become 0 whatever they were.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 3). */
@@ -66,7 +66,7 @@ QVXS_API(QvxStatus, qvxsWinHamming_64fc_I, (Qvx64fc* pSrcDst, int len));
 
 /** Blackman: w[n] = (alpha + 1)/2 - 0.5 cos(2 pi n / (N-1)) - alpha/2 cos(4 pi n / (N-1)), for any alpha. A negative one
  *  is usual. Below -0.25, or where it comes near, the two terms s (1 + 4 alpha) and -4 alpha s^2, s = sin^2(pi n / (N-1)), cancel:
- *  the weight is as accurate as told relative to them. With N = 3 the ends become 0 whatever they were.
+ *  the weight is as accurate as stated, relative to them. With N = 3 the ends become 0 whatever they were.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 3). */
 QVXS_API(QvxStatus, qvxsWinBlackman_16s, (const Qvx16s* pSrc, Qvx16s* pDst, int len, Qvx32f alpha));
 QVXS_API(QvxStatus, qvxsWinBlackman_16s_I, (Qvx16s* pSrcDst, int len, Qvx32f alpha));
@@ -112,7 +112,7 @@ QVXS_API(QvxStatus, qvxsWinBlackmanOpt_64fc, (const Qvx64fc* pSrc, Qvx64fc* pDst
 QVXS_API(QvxStatus, qvxsWinBlackmanOpt_64fc_I, (Qvx64fc* pSrcDst, int len));
 
 /** Kaiser: w[n] = I0(|alpha| sqrt(n (N-1-n))) / I0(|alpha| (N-1) / 2), I0 the modified Bessel function of the first kind.
- *  |alpha| (N-1) / 2 is what is elsewhere called beta. I0 comes from the polynomials of Abramowitz and Stegun, 9.8.1 and 9.8.2, and
+ *  |alpha| (N-1) / 2 is called beta elsewhere. I0 comes from the polynomials of Abramowitz and Stegun, 9.8.1 and 9.8.2, and
  *  for 64f and 64fc from two of higher degree that meet at an argument of 4, where the upper one is off by 5.53e-6. Computed in
  *  doubles they make w differ from the true ratio, relative to it, by less than
  *     32f, 32fc    4.0e-7
