@@ -192,7 +192,8 @@ template <class R> bool placeRows(R& record, Carver& carver, const Qvx8u* begin,
   const int64_t left = (bytes - (reinterpret_cast<const Qvx8u*>(record.rows) - begin)) / int64_t{sizeof(C)};
   const int64_t fits = (left / count - history - R::kPadding) / record.rowLen;
   int64_t block = std::min(kSums / branches, fits);
-  // All rows that a branch meets stay in the nearest cache for the next one: 134 taps in as many rows take a third of the time.
+  // All rows that a branch meets stay in the first-level cache for the next one: 134 taps in as many rows take a third of the
+  // time.
   constexpr int64_t kNear = 24576 / sizeof(C);
   if (record.rowLen == 1 && !areTapsByRow(static_cast<size_t>(q.taps), static_cast<size_t>(count))) {
     block = std::min(block, std::max(kNear / std::min<int64_t>(q.taps, count), 2 * kVector));

@@ -50,8 +50,8 @@ template <class T> struct BlockedPlan {
   ColumnTwiddles<T> inner;
 };
 
-// Where a vector of points is two cache lines, transforms out of place that the far cache still holds take two passes, and no
-// swap (turned.h).
+// Where a vector of points is two cache lines, transforms out of place that the last-level cache still holds take two passes, and
+// no swap (turned.h).
 template <size_t L, class T> inline constexpr bool kTurns = sizeof(T) == 8 && L == 8;
 inline constexpr size_t kMostTurned = size_t{1} << 18;
 
@@ -182,8 +182,8 @@ QVX_INLINE void withColumnRadix(const Levels& levels, Step step) {
 
 // Transforms down the rows, each column in its place. Tiles of them go through the work array, so that the caller's memory is
 // read and written in runs of 512 bytes: rows a power of two apart leave the caches no room for more, and runs of 128 bytes are
-// written at 15 GB/s where these are at 50. What the first level has made of a tile goes through the others part by part, in the
-// nearest cache.
+// written at 15 GB/s where these are at 50. The results of the first level for a tile go through the other levels part by part,
+// in the first-level cache.
 template <bool kAhead, size_t L, class T, class Src, class Dst>
 [[gnu::noinline]] void downColumns(Src src, Dst dst, size_t rows, size_t columns, Range range, size_t wide,
                                    const ColumnTwiddles<T>& twiddles, T* y) {

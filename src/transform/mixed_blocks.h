@@ -25,8 +25,8 @@ template <class T> struct MixedBlocks {
 };
 
 // The columns of a tile, and so the points of the runs that memory is read and written in: 128 bytes, so that a tile stays in the
-// nearer caches (100000 doubles take 0.87 of the time that runs of 256 bytes take); in vectors of many pages 256, for half as
-// many visits to each page (10^6 doubles 0.9).
+// near caches (100000 doubles take 0.87 of the time that runs of 256 bytes take); in vectors of many pages 256, for half as many
+// visits to each page (10^6 doubles 0.9).
 template <class T> size_t columnsOfTile(size_t n) {
   constexpr size_t kManyPages = size_t{4} << 20;
   const size_t points = n * 2 * sizeof(T) <= kManyPages ? 64 / sizeof(T) : 128 / sizeof(T);

@@ -11,8 +11,8 @@
 namespace qvx::transform {
 
 // Radices of first passes and of tiles, and of later passes: from 20 on half of their vectors wait on the stack, which costs less
-// than another pass over more than the nearest cache holds (5000 complex doubles take 0.85 of the time by 8, 25 and 25 that they
-// take by five passes). Larger primes go through memory.
+// than another pass over more than the first-level cache holds (5000 complex doubles take 0.85 of the time by 8, 25 and 25 that
+// they take by five passes). Larger primes go through memory.
 inline constexpr uint8_t kRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16};
 inline constexpr uint8_t kLaterRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16, 20, 21, 24, 25, 27};
 inline constexpr size_t kWidestMixed = 16;
@@ -160,7 +160,7 @@ template <class T> class MixedPlanner {
   static uint64_t vectors(uint64_t count) { return (count + kWidest<T> - 1) / kWidest<T>; }
   static constexpr uint32_t kPass = 100;
   static constexpr size_t kNearestCache = 48 << 10;  // from which each pass takes its points, and into which its results go
-  static constexpr uint32_t kAwayFromNearest = 8;    // a vector of a tile that the nearest cache does not hold, there and back
+  static constexpr uint32_t kAwayFromNearest = 8;    // a vector of a tile that the first-level cache does not hold, there and back
   static constexpr uint32_t kUnaligned = 3;          // a vector in two lines of the cache
   static constexpr uint32_t kTransposition = kWidest<T> * (log2Of(kWidest<T>) + 1);
 

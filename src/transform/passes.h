@@ -256,8 +256,8 @@ template <size_t R, size_t L, class T, class Dst, class Scale>
 
 // The three passes of A * B rows in the destination, each in the rows where it finds its points: the row pass exchanges them, so
 // that the inner pass works on A neighbours, and the last one on B rows A apart, which are where its results belong. Without a
-// work array 2^10 and 2^11 complex doubles, 2^11 and 2^12 floats take 0.83 to 0.87 of the time, since the nearest cache holds
-// all of it or more of it.
+// work array 2^10 and 2^11 complex doubles, 2^11 and 2^12 floats take 0.83 to 0.87 of the time, since the first-level cache holds
+// all or more of it.
 template <size_t A, size_t B, size_t L, class T, class Src, class Dst, class Scale>
 [[gnu::noinline, gnu::flatten]] void passesInDestination(Src src, Dst dst, const T* rowTwiddles, const T* innerTwiddles,
                                                          Scale scale) {

@@ -75,7 +75,7 @@ template <class Step> QVX_INLINE void withRadix(size_t radix, Step step) {
   }
 }
 
-// All passes after the row pass, block by block so that each is in the nearest cache that holds it.
+// All passes after the row pass, block by block, each in the nearest cache that holds it.
 template <size_t L, class T, class Dst, class Scale> struct Columns {
   static constexpr size_t kRow = kRowRadix<L> * 2;  // of y, in T
 

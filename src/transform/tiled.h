@@ -1,10 +1,10 @@
-// Transforms of 2^15 and 2^16 points in two passes over the far cache, which then holds source, destination and little else: work
-// array and twiddles of passes one after another would overflow it.
+// Transforms of 2^15 and 2^16 points in two passes over the second-level cache, which then holds source, destination and little
+// else: work array and twiddles of passes one after another would overflow it.
 //
 // Point (a, c) of n / 256 rows of 256 points becomes, by transforms down a, number ka of row c, as tiles of columns are turned
-// into rows in the nearest cache (turned.h). Transforms down c then leave result ka + n / 256 * kc at (kc, ka). Either transform
-// is of two levels, the last of which has radix 16. Of the time of passes, 2^15 complex doubles take 0.88 out of place and 1.00
-// in place, 2^16 floats 0.89 and 0.95; of that of blocks and three levels, 2^16 doubles 0.96 and 0.90.
+// into rows in the first-level cache (turned.h). Transforms down c then leave result ka + n / 256 * kc at (kc, ka). Either
+// transform is of two levels, the last of which has radix 16. Of the time of passes, 2^15 complex doubles take 0.88 out of place
+// and 1.00 in place, 2^16 floats 0.89 and 0.95; of that of blocks and three levels, 2^16 doubles 0.96 and 0.90.
 #pragma once
 
 #include <cstring>

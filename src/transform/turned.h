@@ -2,7 +2,7 @@
 // the bit.
 //
 // Point (a, b, c) of the source becomes, by transforms down a and b, number ka + n * kb of row c of the destination: as tiles of
-// columns are read, the first level turns them into rows, and the other levels go along these, in the nearest cache. Then
+// columns are read, the first level turns them into rows, and the other levels go along these, in the first-level cache. Then
 // transforms down c leave each result where it belongs. 2^17 and 2^18 complex doubles take 0.7 of the time of blocks, with 2 MiB
 // of cache to a core.
 #pragma once
