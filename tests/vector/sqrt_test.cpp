@@ -87,6 +87,8 @@ template <class T> std::vector<T> steps(int scaleFactor) {
     add(std::pow(std::ldexp(result + 0.5L, s), 2.0L));
     add(std::pow(std::floor(root), 2.0L));
   }
+  // Products k * (k + 1) that 4^-s divides: their roots lie 1 / 8k below the middle of two integers.
+  for (int i = 1; i <= 300 && s < 0; ++i) add(i * (std::ldexp(static_cast<long double>(i), -2 * s) + (i % 2 == 0 ? 1 : -1)));
   for (int k = 0; k < 62; ++k) add(std::ldexp(1.0L, 126 + 2 * s) - std::ldexp(1.0L, k));  // up to where 64 bits saturate
   for (const T x : values<T>(2000, random)) v.push_back(x);
   return v;
