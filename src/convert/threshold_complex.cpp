@@ -108,8 +108,8 @@ template <Side kSide> struct Clip {
   }
 };
 
-// By the divider, or by multiplications where that is slow: 8 elements take 12 cycles and 22 on a processor with a fast one, 48
-// and 29 on another.
+// By the divider, or by multiplications where that is slow: 4096 elements take 1719 ns and 2908 on a processor with a fast
+// divider, 5493 and 3450 on another.
 template <Side kSide, bool kDivides> struct ClipSingle {
   double level;
 

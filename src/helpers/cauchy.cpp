@@ -6,6 +6,7 @@
 //
 // All of it to nearest in any mode of the processor: rounded upwards, the function in floats was off by 128 ULP.
 #include "frame/complex.h"
+#include "frame/processor.h"
 #include "frame/redo.h"
 #include "frame/rounding.h"
 #include "math/ln.h"
@@ -129,6 +130,24 @@ template <bool kExactSquare> struct NearDerivative {
   }
 };
 
+// The same by a fast divider: 256 elements take 15 ns, not 21. The sum is off by a rounding, and where C^2 is no float by
+// another of the lesser of its terms, which is half of it: with the quotient's own 2 ULP at most.
+template <bool kExactSquare> struct QuotientDerivative {
+  float c;
+  float square, squareRest;  // their sum is C^2
+
+  template <class V> V operator()(V x) const {
+    const TagOf<V> d;
+    V s = hn::MulAdd(x, x, same<V>(square));
+    if (!kExactSquare) s = hn::IfThenElse(hn::Abs(x) < same<V>(c), hn::MulAdd(x, x, same<V>(squareRest)) + same<V>(square), s);
+    const auto isNear = s < same<V>(kMostNear);
+    const V y = x / s;
+    if (HWY_LIKELY(hn::AllTrue(d, isNear))) return y;
+    return redone(
+        maskBits(d, hn::Not(isNear)), y, [c = double{c}](float v) { return static_cast<float>(v / (c * c + double{v} * v)); }, x);
+  }
+};
+
 // Both derivatives in floats: the errors are below 1.7 ULP (first) and 1.9 ULP (second), of which x r or C^2 - x^2 and the last
 // addition make 1.5. What rounding takes of all else is known and added.
 //
@@ -225,6 +244,10 @@ QvxStatus qvxsCauchyD_32f_I(Qvx32f* p, int len, Qvx32f c) {
   if (isNear(c)) {
     const float square = c * c;
     const float rest = std::fma(c, c, -square);
+    if (kHasMasks && kDividesFast) {
+      const auto in = [&](auto kernel) { return loop(kernel, destination(p), elements(len), source(p)); };
+      return rest == 0 ? in(QuotientDerivative<true>{c, square, rest}) : in(QuotientDerivative<false>{c, square, rest});
+    }
     const auto in = [&](auto kernel) { return loop(kernel, InTwos{destination(p)}, elements(len), InTwos{source(p)}); };
     return rest == 0 ? in(NearDerivative<true>{c, square, rest}) : in(NearDerivative<false>{c, square, rest});
   }
