@@ -3,6 +3,7 @@
 #include <array>
 
 #include "frame/reduce.h"
+#include "frame/unroll.h"
 
 using namespace qvx;
 
@@ -118,10 +119,8 @@ template <size_t kBranches> void selectLeast(const Step& s) {
     for (size_t k = 0; k < 2 * kBranches; k += kWords) {
       store(hn::SaturatedAdd(load(d, costs[i & 1] + k), path), d, reinterpret_cast<Qvx16u*>(branches) + k);
     }
-    for (size_t j = 0; j < kBranches; ++j) {
-      Qvx32u& held = best[s.nextState[i * kBranches + j]];
-      held = std::min(held, branches[j]);
-    }
+    const Qvx8u* const next = s.nextState + i * kBranches;
+    unrolled<kBranches>([&](auto j) { best[next[j]] = std::min(best[next[j]], branches[j]); });
   }
   for (size_t n = 0; n <= last; ++n) {
     const Qvx32u order = best[n] & 0xFFFF;
