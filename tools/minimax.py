@@ -170,8 +170,11 @@ def fit_sin():
 def fit_sine():
     def p(z):  # sin 2 pi u = u p(z), z = u^2, up to a quarter turn
         return series(z, lambda z: sin(2 * pi * sqrt(z)) / sqrt(z), lambda k: (-1)**k * (2 * pi)**(2 * k + 1) / mp.factorial(2 * k + 1))
-    for lane, degree in (('float', 4), ('double', 4), ('double', 8)):
-        fit('sine', lane, p, lambda z: 1 / p(z), degree, 0, mpf('1.0001') / 16)
+    for degree in (4, 8):
+        fit('sine', 'double', p, lambda z: 1 / p(z), degree, 0, mpf('1.0001') / 16)
+    def q(z):  # sin x = x + x z q(z), z = x^2
+        return series(z, lambda z: (sin(sqrt(z)) / sqrt(z) - 1) / z, lambda k: mpf((-1)**(k + 1)) / mp.factorial(2 * k + 3))
+    fit('sine', 'float', q, lambda z: (z + mpf(10)**-30) / (1 + z * q(z)), 3, 0, (pi / 2)**2 * mpf('1.0001'))
 
 
 if __name__ == '__main__':

@@ -47,7 +47,7 @@ template <class T> class SpacedAngles {
   template <class Put> [[gnu::always_inline]] void each(double start, size_t count, Put put) const {
     const Lanes<double, kWide> wide;
     const Lanes<T, kLanes> d;
-    // First angles are computed 16 rotations before they are used: broadcasting one that has only just been stored waits for the
+    // First angles are computed 8 rotations before they are used: broadcasting one that has only just been stored waits for the
     // store, and 4096 samples take 1.2 times as long in AVX-512.
     alignas(64) T firstSines[kBlock / kLanes];
     alignas(64) T firstCosines[kBlock / kLanes];
@@ -93,7 +93,7 @@ template <class T> class SpacedAngles {
 
  private:
   // Doubles, of which a block takes eight rotations, gain nothing by more than one ahead.
-  static constexpr size_t kAhead = (sizeof(T) == sizeof(float) ? 16 : 1) * kWide;
+  static constexpr size_t kAhead = (sizeof(T) == sizeof(float) ? 8 : 1) * kWide;
   static constexpr int kDigits = sizeof(T) == sizeof(float) ? 24 : 53;
   alignas(64) T sines_[kLanes];
   alignas(64) T cosines_[kLanes];

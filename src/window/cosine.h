@@ -3,7 +3,12 @@
 // From s nothing cancels where a window goes to zero: its smallest weights are as good as its largest.
 #pragma once
 
+#include <bit>
+
+#include "frame/each_vector.h"
+#include "frame/places.h"
 #include "frame/power.h"
+#include "math/sine.h"
 #include "math/spaced_sin_cos.h"
 #include "window/weigh.h"
 
@@ -33,21 +38,88 @@ struct Blackman {
 
 namespace detail {
 
-// Real: what the sines and the sums of their squares are computed in.
-template <class Real, class T, class Form> void weighByCosine(const T* src, T* dst, size_t len, Form form, Qvx32f factor) {
+// As many weights at most are made by a polynomial each, which is faster than turning vectors on by angles that have to be made
+// first.
+template <class Real>
+inline constexpr size_t kSinesEach = (sizeof(Real) == sizeof(float) ? 32 : 16) * kVectorBytes / sizeof(Real);
+
+// sin(pi n / (N-1)) for n = 0, 1, ..., a vector at a time.
+template <class Real> class Sines {
+ public:
+  static constexpr size_t N = kVectorBytes / sizeof(Real);
+
+  explicit Sines(size_t len) : turns_(0.5 / static_cast<double>(len - 1)) {}
+  auto next() {
+    const auto n = number_;
+    number_ = n + hn::Set(d_, static_cast<double>(N));
+    return sineOfQuarterTurn<53>(n * hn::Set(d_, turns_));
+  }
+
+ private:
+  static constexpr Lanes<double, N> d_ = {};
+  double turns_;
+  Vec<Lanes<double, N>> number_ = placesOf(d_);
+};
+
+// Angles in floats are sums of two multiples of steps of which the first are exact, so that an angle is rounded once.
+template <> class Sines<float> {
+ public:
+  static constexpr size_t N = kVectorBytes / sizeof(float);
+
+  explicit Sines(size_t len) {
+    const double step = 3.141592653589793 / static_cast<double>(len - 1);
+    constexpr uint32_t kLower = (uint32_t{1} << std::bit_width(kSinesEach<float> - 1)) - 1;  // as many digits as places have
+    const auto upper = std::bit_cast<float>(std::bit_cast<uint32_t>(static_cast<float>(step)) & ~kLower);
+    const auto lower = static_cast<float>(step - static_cast<double>(upper));
+    high_ = placesOf(d_) * hn::Set(d_, upper);
+    low_ = placesOf(d_) * hn::Set(d_, lower);
+    highStep_ = hn::Set(d_, N * upper);
+    lowStep_ = hn::Set(d_, N * lower);
+  }
+  auto next() {
+    const auto angle = high_ + low_;
+    high_ = high_ + highStep_;
+    low_ = low_ + lowStep_;
+    return sineOfRightAngle(angle);
+  }
+
+ private:
+  using V = Vec<Lanes<float, N>>;
+  static constexpr Lanes<float, N> d_ = {};
+  V high_;
+  V low_;
+  V highStep_;
+  V lowStep_;
+};
+
+// Real: what the sines and the sums of their squares are computed in. Two functions: what a short window needs stays in
+// registers.
+template <class Real, class T, class Form>
+[[gnu::noinline, gnu::flatten]] void weighBySines(const T* src, T* dst, size_t len, Form form, Qvx32f factor) {
+  weigh(src, dst, len, factor, [=](size_t count, const auto& put) {
+    Sines<Real> sines(len);
+    eachVector<Sines<Real>::N>(count, [&](size_t at, auto... rest) {
+      const auto sine = sines.next();
+      put(at, convertLanes<Weight<T>>(form(sine * sine)), rest...);
+    });
+  });
+}
+template <class Real, class T, class Form>
+[[gnu::noinline, gnu::flatten]] void weighByTurning(const T* src, T* dst, size_t len, Form form, Qvx32f factor) {
   using Angles = SpacedAngles<Real>;
   const double step = 0.5 / static_cast<double>(len - 1);
-  weigh(src, dst, len, factor, [=](size_t count, auto put) {
-    const auto weighFrom = [&](size_t from) {
-      return
-          [=](size_t at, auto sine, auto, auto... rest) { put(from + at, convertLanes<Weight<T>>(form(sine * sine)), rest...); };
-    };
-    if (count <= Angles::kFew) return Angles::few(0, step, 1, count, weighFrom(0));
+  weigh(src, dst, len, factor, [=](size_t count, const auto& put) {
     const Angles angles(step, 1);
     for (size_t from = 0; from < count; from += Angles::kBlock) {
-      angles.each(static_cast<double>(from) * step, std::min(count - from, Angles::kBlock), weighFrom(from));
+      angles.each(
+          static_cast<double>(from) * step, std::min(count - from, Angles::kBlock),
+          [&](size_t at, auto sine, auto, auto... rest) { put(from + at, convertLanes<Weight<T>>(form(sine * sine)), rest...); });
     }
   });
+}
+template <class Real, class T, class Form> void weighByCosine(const T* src, T* dst, size_t len, Form form, Qvx32f factor) {
+  if (len / 2 <= kSinesEach<Real>) weighBySines<Real>(src, dst, len, form, factor);
+  else weighByTurning<Real>(src, dst, len, form, factor);
 }
 
 // Where a Blackman window comes down to 1 from weights far above, it is the difference of terms of that size, and sines in floats

@@ -72,10 +72,14 @@ template <> std::vector<Window<Qvx16sc>> windowsOf() {
                           qvxsWinBlackmanStd_16sc, qvxsWinBlackmanOpt_16sc, qvxsWinKaiser_16sc);
 }
 
+// All short ones, and those about the lengths from which on angles are turned, in each variant.
 std::vector<int> lengths(int least) {
   std::vector<int> all;
   for (int n = least; n <= 300; ++n) all.push_back(n);
-  all.insert(all.end(), {1023, 2048, 2049, 4100, 8191, 50001});
+  for (const int from : {500, 1010}) {
+    for (int n = from; n < from + 60; ++n) all.push_back(n);
+  }
+  all.insert(all.end(), {2048, 2049, 4100, 8191, 50001});
   return all;
 }
 
