@@ -17,7 +17,6 @@ template <class T> struct Streamed : Destination<T> {
     else store(v, d, to);
   }
   template <size_t N, class V> void put(V v, size_t at, size_t n) const { Destination<T>::template put<N>(v, at, n); }
-  template <size_t N> void fetch(size_t at) const = delete;  // what is streamed is not read
 };
 
 // A fit whose results are streamed where they exceed the last-level cache (isStreamed) and the destination is none of the
