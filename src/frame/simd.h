@@ -912,17 +912,24 @@ template <size_t kBy, class V> V exchanged(V v) {
   }
 }
 
-// `upper` in the lanes whose number has the bit kBit, `lower` in the others.
-template <size_t kBit, class V> V lanesByBit(V lower, V upper) {
-  const TagOf<V> d;
+// The lanes whose number has the bit kBit.
+template <size_t kBit, class D> hn::Mask<D> lanesWithBit([[maybe_unused]] D d) {
 #if QVXS_AVX512
   constexpr uint64_t kMask = [] {
     uint64_t mask = 0;
-    for (size_t i = 0; i < kLanesOf<V>; ++i) mask |= uint64_t{(i & kBit) != 0} << i;
+    for (size_t i = 0; i < hn::MaxLanes(D()); ++i) mask |= uint64_t{(i & kBit) != 0} << i;
     return mask;
   }();
-  return hn::IfThenElse(hn::Mask<decltype(d)>{static_cast<decltype(hn::Mask<decltype(d)>::raw)>(kMask)}, upper, lower);
-#elif QVXS_AVX2
+  return {static_cast<decltype(hn::Mask<D>::raw)>(kMask)};
+#else
+  const hn::RebindToUnsigned<D> lanes;
+  return hn::RebindMask(d, hn::And(hn::Iota(lanes, 0), hn::Set(lanes, kBit)) == hn::Set(lanes, kBit));
+#endif
+}
+
+// `upper` in the lanes whose number has the bit kBit, `lower` in the others.
+template <size_t kBit, class V> V lanesByBit(V lower, V upper) {
+#if QVXS_AVX2 && !QVXS_AVX512
   if constexpr (sizeof(V) == 32 && kBit * sizeof(LaneOf<V>) >= 4) {
     constexpr int kMask = [] {
       int mask = 0;
@@ -934,13 +941,13 @@ template <size_t kBit, class V> V lanesByBit(V lower, V upper) {
     return hn::OddEven(upper, lower);
   } else
 #endif
-#if !QVXS_AVX512
   {
-    const hn::RebindToUnsigned<decltype(d)> lanes;
-    const auto number = hn::And(hn::Iota(lanes, 0), hn::Set(lanes, kBit));
-    return hn::IfThenElse(hn::RebindMask(d, number == hn::Set(lanes, kBit)), upper, lower);
+    if constexpr (sizeof(V) == 16 && kBit * sizeof(LaneOf<V>) == 8) {
+      return as<LaneOf<V>>(hn::OddEven(as<double>(upper), as<double>(lower)));
+    } else {
+      return hn::IfThenElse(lanesWithBit<kBit>(TagOf<V>()), upper, lower);
+    }
   }
-#endif
 }
 
 // ---- lanes parted by a mask
@@ -990,26 +997,39 @@ template <class V> inline constexpr bool kGathersLanes = false;
 
 }  // namespace detail
 
+// How many of kLanes lanes have their bit. Without an instruction for it the compiler would call a function, for which every
+// vector register is saved: 10^4 32-bit integers took 1.4 times as long to sort.
+template <size_t kLanes> size_t countLanes(uint64_t bits) {
+#ifdef __POPCNT__
+  return static_cast<size_t>(__builtin_popcountll(bits));
+#else
+  static_assert(kLanes <= 8);
+  constexpr uint64_t kOfFour = 0x4332322132212110;  // a digit for each number of four bits
+  const uint64_t count = kOfFour >> 4 * (bits & 15) & 15;
+  return kLanes <= 4 ? count : count + (kOfFour >> 4 * (bits >> 4) & 15);
+#endif
+}
+
 // Partitions lanes by the bits of a mask: those in it are stored from `low` on, which moves to their end; the others so that they
 // end at `high`, which moves to their start. There is room for a whole vector at either.
-template <class V> void part(V v, uint64_t bits, LaneOf<V>*& low, LaneOf<V>*& high) {
+template <class V> [[gnu::always_inline]] inline void part(V v, uint64_t bits, LaneOf<V>*& low, LaneOf<V>*& high) {
   const TagOf<V> d;
   constexpr size_t N = kLanesOf<V>;
-  const auto count = static_cast<size_t>(__builtin_popcountll(bits));
+  const size_t count = countLanes<N>(bits);
   const V both{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits)};
   hn::StoreU(both, d, low);
   hn::StoreU(both, d, high - N);
   low += count;
   high -= N - count;
 }
-template <class V, class M> void part(V v, M mask, LaneOf<V>*& low, LaneOf<V>*& high) {
+template <class V, class M> [[gnu::always_inline]] inline void part(V v, M mask, LaneOf<V>*& low, LaneOf<V>*& high) {
   const TagOf<V> d;
   if constexpr (!detail::kGathersLanes<V>) {
     part(v, maskBits(d, mask), low, high);
   } else {
 #if QVXS_AVX512
-    const auto count = static_cast<size_t>(__builtin_popcountll(maskBits(d, mask)));
     constexpr size_t N = kLanesOf<V>;
+    const size_t count = countLanes<N>(maskBits(d, mask));
     hn::StoreU(V{detail::gathered(v, mask)}, d, low);
     low += count;
     high -= N - count;
@@ -1023,7 +1043,7 @@ template <class V> size_t separate(V v, uint64_t bits, LaneOf<V>* low, LaneOf<V>
   constexpr uint64_t kAll = (uint64_t{1} << kLanesOf<V>)-1;
   hn::StoreU(V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits)}, d, low);
   hn::StoreU(V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits ^ kAll)}, d, high);
-  return static_cast<size_t>(__builtin_popcountll(bits));
+  return countLanes<kLanesOf<V>>(bits);
 }
 template <class V, class M> size_t separate(V v, M mask, LaneOf<V>* low, LaneOf<V>* high) {
   const TagOf<V> d;
@@ -1033,7 +1053,7 @@ template <class V, class M> size_t separate(V v, M mask, LaneOf<V>* low, LaneOf<
 #if QVXS_AVX512
     hn::StoreU(V{detail::gathered(v, mask)}, d, low);
     hn::StoreU(V{detail::gathered(v, hn::Not(mask))}, d, high);
-    return static_cast<size_t>(__builtin_popcountll(maskBits(d, mask)));
+    return countLanes<kLanesOf<V>>(maskBits(d, mask));
 #endif
   }
 }

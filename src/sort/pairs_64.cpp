@@ -33,6 +33,9 @@ struct ByKeysOfBoth {
     const auto isAbove = a.keys > b.keys;
     return {chosen(isAbove, b, a), chosen(isAbove, a, b)};
   }
+  template <size_t kBit, class V> [[gnu::always_inline]] static Ordered<Both<V>> orderedByBit(Both<V> a, Both<V> b) {
+    return exchangedByBit<kBit>(ordered(a, b));
+  }
 };
 // Either lane compares the lower one with the upper: equal keys stay where they are, and none of their numbers is lost.
 template <class By, size_t kBit, class V> [[gnu::always_inline]] inline void orderLanes(Both<V>& v) {

@@ -16,9 +16,9 @@ template <class K> size_t equalNeighbours(const K* keys, size_t n) {
   constexpr size_t N = kVectorBytes / sizeof(K);
   const Lanes<K, N> d;
   size_t count = 0, i = 0;
-  for (; i + N < n; i += N) count += hn::CountTrue(d, load(d, keys + i) == load(d, keys + i + 1));
+  for (; i + N < n; i += N) count += countLanes<N>(maskBits(d, load(d, keys + i) == load(d, keys + i + 1)));
   const size_t rest = n - 1 - i;
-  return count + hn::CountTrue(d, loadFirstOr(d, keys + i, rest, K{0}) == loadFirstOr(d, keys + i + 1, rest, K{1}));
+  return count + countLanes<N>(maskBits(d, loadFirstOr(d, keys + i, rest, K{0}) == loadFirstOr(d, keys + i + 1, rest, K{1})));
 }
 
 template <class K> inline constexpr size_t kMostSample = std::min<size_t>(64, kNetworkKeys<K>);

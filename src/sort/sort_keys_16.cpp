@@ -57,7 +57,7 @@ void sortRowOfBytes(int8_t* x, size_t n, KeyMap<int8_t> map) {
   const Lanes<int8_t, N> bytes;
   Vec<Lanes<int16_t, N>> v[] = {
       hn::PromoteTo(Lanes<int16_t, N>(), map.keys(loadFirstOr(bytes, x, n, map.original(std::numeric_limits<int8_t>::max()))))};
-  detail::sortRows<detail::ByKeys>(v);
+  detail::sortRows<detail::ByMinima>(v);
   storeFirst(map.originals(hn::DemoteTo(bytes, v[0])), bytes, x, n);
 }
 

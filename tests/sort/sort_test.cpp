@@ -3,6 +3,8 @@
 #include <immintrin.h>
 #include <qvx/qvxs.h>
 
+#include <numeric>
+
 #include "sort/vectors.h"
 #include "support/blocks.h"
 
@@ -68,6 +70,26 @@ TEST(Sort, Of32BitIntegers) { expectSorts(qvxsSortAscend_32s_I, qvxsSortDescend_
 TEST(Sort, OfFloats) {
   expectSorts(qvxsSortAscend_32f_I, qvxsSortDescend_32f_I);
   expectSorts(qvxsSortAscend_64f_I, qvxsSortDescend_64f_I);
+}
+
+// In order but for two neighbours, wherever they are.
+template <class T> void expectOneExchangeSeen(Sort<T> sort) {
+  for (size_t n = 2; n <= 70; ++n) {
+    std::vector<T> ordered(n);
+    std::iota(ordered.begin(), ordered.end(), T(1));
+    for (size_t i = 1; i < n; ++i) {
+      auto x = ordered;
+      std::swap(x[i - 1], x[i]);
+      sort(x.data(), static_cast<int>(n));
+      ASSERT_EQ(x, ordered) << n << " elements, exchanged before " << i;
+    }
+  }
+}
+TEST(Sort, SeesOneExchange) {
+  expectOneExchangeSeen<Qvx8u>(qvxsSortAscend_8u_I);
+  expectOneExchangeSeen<Qvx16s>(qvxsSortAscend_16s_I);
+  expectOneExchangeSeen<Qvx32f>(qvxsSortAscend_32f_I);
+  expectOneExchangeSeen<Qvx64f>(qvxsSortAscend_64f_I);
 }
 
 // Ordinary numbers with few among them that a minimum of floats does not tell apart or loses, with subnormal numbers and without.
