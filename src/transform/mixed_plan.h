@@ -160,8 +160,8 @@ template <class T> class MixedPlanner {
   static uint64_t vectors(uint64_t count) { return (count + kWidest<T> - 1) / kWidest<T>; }
   static constexpr uint32_t kPass = 100;
   static constexpr size_t kNearestCache = 48 << 10;  // from which each pass takes its points, and into which its results go
-  static constexpr uint32_t kAwayFromNearest = 8;    // a vector of a tile that the first-level cache does not hold, there and back
-  static constexpr uint32_t kUnaligned = 3;          // a vector in two lines of the cache
+  static constexpr uint32_t kAwayFromNearest = 8;  // a vector of a tile that the first-level cache does not hold, there and back
+  static constexpr uint32_t kUnaligned = 3;        // a vector in two lines of the cache
   static constexpr uint32_t kTransposition = kWidest<T> * (log2Of(kWidest<T>) + 1);
 
   size_t columns_ = 1;
