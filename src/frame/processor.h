@@ -3,8 +3,8 @@
 
 namespace qvx {
 
-// Whether dividing is faster than any way around it: 16 quotients of floats in 2.5 cycles, 8 roots of doubles in 7.5, where
-// others take 16 and 32. Set as the library is loaded.
+// Whether dividing is faster than any way around it: 16 quotients of floats take 0.6 ns, 8 roots of doubles 1.9, on another
+// processor 2.6 and 6.3. Set as the library is loaded.
 [[gnu::visibility("hidden")]] extern const bool kDividesFast;
 
 }  // namespace qvx

@@ -126,8 +126,8 @@ template <class Op, TeamRule kRule, class T, class... Src> QvxStatus mapBothWays
   }
 }
 
-// The same, but by the divider alone where that is faster: quotients, 165 ns for 4096 and not 317, and roots of parts that are
-// interleaved, 300 ns and not 359. Other roots take 1.3 times as long by a fast divider as both ways.
+// The same, but by the divider alone where that is faster: quotients, 160 ns for 4096 and not 320, and magnitudes of interleaved
+// parts, 292 ns and not 352. Other roots take 1.1 to 1.3 times as long by a fast divider as both ways.
 template <class Op, TeamRule kRule, class T, class... Src> QvxStatus mapFastWay(T* dst, int len, Src... src) {
   if constexpr (kHasMasks) {
     if (!kDividesFast) return mapBothWays<Op, kRule>(dst, len, src...);
