@@ -112,7 +112,7 @@ template <size_t L, class T> QVX_INLINE void direct(const DirectPlan<T>& plan, b
     V odd = hn::Zero(d);
     V even2 = odd;
     V odd2 = odd;
-    const auto take = [&](size_t k, V& c, V& s) {
+    const auto take = [&](size_t k, V & c, V & s) __attribute__((always_inline)) {
       cosines += row;
       sines += row;
       const V x = everyPair<V>(src + 2 * k);
@@ -138,8 +138,7 @@ template <size_t L, class T> QVX_INLINE void direct(const DirectPlan<T>& plan, b
   }
 }
 
-template <class T>
-[[gnu::noinline, gnu::flatten]] void direct(const DirectPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
+template <class T> [[gnu::noinline]] void direct(const DirectPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
   if constexpr (kWidest < T >> 4) {
     if (plan.isNarrow) return direct<kWidest<T> / 2>(plan, isInverse, src, dst, factor);
   }
@@ -160,7 +159,7 @@ template <size_t L, class T> QVX_INLINE void directForward(const DirectPlan<T>& 
     V sums = load(d, roots) * same<V>(src[0]);
     V sums2 = hn::Zero(d);
     // x + y where there is a cosine, y - x where a sine: the lanes of x times 1 and -1 in turn.
-    const auto take = [&](size_t k, V& to) {
+    const auto take = [&](size_t k, V & to) __attribute__((always_inline)) {
       roots += row;
       to = hn::MulAdd(load(d, roots), hn::NegMulAdd(same<V>(src[k]), minusI, same<V>(src[n - k])), to);
     };
@@ -178,8 +177,7 @@ template <size_t L, class T> QVX_INLINE void directForward(const DirectPlan<T>& 
 }
 
 template <class T>
-[[gnu::noinline, gnu::flatten]] void directForward(const DirectPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst,
-                                                   T factor) {
+[[gnu::noinline]] void directForward(const DirectPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst, T factor) {
   const size_t n = plan.n;
   T spectrum[kMostDirect + 2];
   const bool isDirect = layout == SpectrumLayout::kCcs && (n < kWidest<T> || src != dst);
@@ -215,7 +213,7 @@ QVX_INLINE void directInverse(const DirectPlan<T>& plan, SpectrumLayout layout, 
   }
   const V f = same<V>(2 * factor);
   // Sums with cosines and with sines, side by side.
-  const auto sumsAt = [&](size_t at) {
+  const auto sumsAt = [&](size_t at) __attribute__((always_inline)) {
     const T* roots = plan.rows + at;
     V sums = load(d, roots) * first;
     V sums2 = hn::Zero(d);
@@ -244,25 +242,25 @@ QVX_INLINE void directInverse(const DirectPlan<T>& plan, SpectrumLayout layout, 
 }
 
 template <class T>
-[[gnu::noinline, gnu::flatten]] void directInverse(const DirectPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst,
-                                                   T factor) {
+[[gnu::noinline]] void directInverse(const DirectPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst, T factor) {
   if (plan.isNarrow) directInverse<std::max<size_t>(kWidest<T> / 2, 2)>(plan, layout, src, dst, factor);
   else directInverse<kWidest<T>>(plan, layout, src, dst, factor);
 }
 
 // Up to 15 points, a vector each. An inverse transform is a forward one with its results in the opposite order.
-template <size_t N, class T>
-[[gnu::noinline, gnu::flatten]] QvxStatus inRegisters(bool isInverse, const T* src, T* dst, T factor) {
+template <size_t N, class T> [[gnu::noinline]] QvxStatus inRegisters(bool isInverse, const T* src, T* dst, T factor) {
   const Lanes<T, 2> d;
   using V = Vec<Lanes<T, 2>>;
   ComplexVector<V, false> x[N];
-  unrolled<N>([&](auto k) { x[k].v = load(d, src + 2 * k); });
+  unrolled<N>([&](auto k) __attribute__((always_inline)) { x[k].v = load(d, src + 2 * k); });
   anyDft(x);
   const V f = same<V>(factor);
   store(x[0].v * f, d, dst);
   T* const to = isInverse ? dst + 2 * N : dst;
   const std::ptrdiff_t step = isInverse ? -2 : 2;
-  unrolled<N - 1>([&](auto k) { store(x[k + 1].v * f, d, to + static_cast<std::ptrdiff_t>(k + 1) * step); });
+  unrolled<N - 1>([&](auto k) __attribute__((always_inline)) {
+    store(x[k + 1].v * f, d, to + static_cast<std::ptrdiff_t>(k + 1) * step);
+  });
   return qvxStatOk;
 }
 

@@ -24,17 +24,16 @@ template <class T, size_t H, bool kInverse> struct RealRoots {
 };
 template <class T, size_t H, bool kInverse> alignas(64) inline constexpr RealRoots<T, H, kInverse> kRealRoots;
 
-template <size_t H, class T>
-[[gnu::noinline, gnu::flatten]] void forwardInRegisters(SpectrumLayout layout, const T* src, T* dst, T factor) {
+template <size_t H, class T> [[gnu::noinline]] void forwardInRegisters(SpectrumLayout layout, const T* src, T* dst, T factor) {
   constexpr size_t N = 2 * H;
   const Lanes<T, 2> d;
   using V = Vec<Lanes<T, 2>>;
   ComplexVector<V, false> z[H];
-  unrolled<H>([&](auto k) { z[k].v = load(d, src + 2 * k); });
+  unrolled<H>([&](auto k) __attribute__((always_inline)) { z[k].v = load(d, src + 2 * k); });
   anyDft(z);
   const V f = same<V>(factor);
   T* const pairs = dst + placeOfPair(layout, N, 1) - 2;
-  unrolled<(H - 1) / 2>([&](auto i) {
+  unrolled<(H - 1) / 2>([&](auto i) __attribute__((always_inline)) {
     constexpr size_t k = i + 1;
     recombinePairs<false>(z[k].v, z[H - k].v, kRealRoots<T, H, false>.root[k]);
     store(z[k].v * f, d, pairs + 2 * k);
@@ -52,16 +51,15 @@ template <size_t H, class T>
   }
 }
 
-template <size_t H, class T>
-[[gnu::noinline, gnu::flatten]] void inverseInRegisters(SpectrumLayout layout, const T* src, T* dst, T factor) {
+template <size_t H, class T> [[gnu::noinline]] void inverseInRegisters(SpectrumLayout layout, const T* src, T* dst, T factor) {
   constexpr size_t N = 2 * H;
   const Lanes<T, 2> d;
   using V = Vec<Lanes<T, 2>>;
   ComplexVector<V, false> z[H];
   const T* const pairs = src + placeOfPair(layout, N, 1) - 2;
   z[0].v = swapped(minusPlus(same<V>(src[0]), same<V>(src[placeOfMiddle(layout, N)])));
-  unrolled<H - 1>([&](auto k) { z[k + 1].v = load(d, pairs + 2 * (k + 1)); });
-  unrolled<(H - 1) / 2>([&](auto i) {
+  unrolled<H - 1>([&](auto k) __attribute__((always_inline)) { z[k + 1].v = load(d, pairs + 2 * (k + 1)); });
+  unrolled<(H - 1) / 2>([&](auto i) __attribute__((always_inline)) {
     constexpr size_t k = i + 1;
     recombinePairs<true>(z[k].v, z[H - k].v, kRealRoots<T, H, true>.root[k]);
   });
@@ -69,11 +67,10 @@ template <size_t H, class T>
   anyDft(z);
   const V f = same<V>(factor);
   store(z[0].v * f, d, dst);
-  unrolled<H - 1>([&](auto k) { store(z[k + 1].v * f, d, dst + 2 * (H - 1 - k)); });
+  unrolled<H - 1>([&](auto k) __attribute__((always_inline)) { store(z[k + 1].v * f, d, dst + 2 * (H - 1 - k)); });
 }
 
-template <size_t P, class T>
-[[gnu::noinline, gnu::flatten]] void forwardOfPrime(SpectrumLayout layout, const T* src, T* dst, T factor) {
+template <size_t P, class T> [[gnu::noinline]] void forwardOfPrime(SpectrumLayout layout, const T* src, T* dst, T factor) {
   constexpr size_t H = P / 2;
   const Lanes<T, 1> d;
   using V = Vec<Lanes<T, 1>>;
@@ -81,7 +78,7 @@ template <size_t P, class T>
   V differences[H];
   const V first = load(d, src);
   V total = first;
-  unrolled<H>([&](auto k) {
+  unrolled<H>([&](auto k) __attribute__((always_inline)) {
     const V a = load(d, src + k + 1);
     const V b = load(d, src + P - 1 - k);
     sums[k] = a + b;
@@ -90,10 +87,10 @@ template <size_t P, class T>
   });
   V re[H];
   V im[H];
-  unrolled<H>([&](auto at) {
+  unrolled<H>([&](auto at) __attribute__((always_inline)) {
     constexpr size_t j = at + 1;
     re[at] = first;
-    unrolled<H>([&](auto k) {
+    unrolled<H>([&](auto k) __attribute__((always_inline)) {
       constexpr size_t turn = j * (k + 1) % P;
       const V cosine = same<V>(static_cast<T>(cosineOfTurn(turn, P)));
       const V sine = same<V>(static_cast<T>(sineOfTurn(turn, P)));
@@ -103,7 +100,7 @@ template <size_t P, class T>
   });
   const V f = same<V>(factor);
   T* const pairs = dst + placeOfPair(layout, P, 1);
-  unrolled<H>([&](auto k) {
+  unrolled<H>([&](auto k) __attribute__((always_inline)) {
     store(re[k] * f, d, pairs + 2 * k);
     store(im[k] * f, d, pairs + 2 * k + 1);
   });
@@ -111,8 +108,7 @@ template <size_t P, class T>
   if (layout == SpectrumLayout::kCcs) dst[1] = 0;
 }
 
-template <size_t P, class T>
-[[gnu::noinline, gnu::flatten]] void inverseOfPrime(SpectrumLayout layout, const T* src, T* dst, T factor) {
+template <size_t P, class T> [[gnu::noinline]] void inverseOfPrime(SpectrumLayout layout, const T* src, T* dst, T factor) {
   constexpr size_t H = P / 2;
   const Lanes<T, 1> d;
   using V = Vec<Lanes<T, 1>>;
@@ -122,18 +118,18 @@ template <size_t P, class T>
   V re[H];
   V im[H];
   V total = first;
-  unrolled<H>([&](auto k) {
+  unrolled<H>([&](auto k) __attribute__((always_inline)) {
     re[k] = two * load(d, pairs + 2 * k);
     im[k] = two * load(d, pairs + 2 * k + 1);
     total = total + re[k];
   });
   const V f = same<V>(factor);
   store(total * f, d, dst);
-  unrolled<H>([&](auto at) {
+  unrolled<H>([&](auto at) __attribute__((always_inline)) {
     constexpr size_t n = at + 1;
     V even = first;
     V odd = hn::Zero(d);
-    unrolled<H>([&](auto k) {
+    unrolled<H>([&](auto k) __attribute__((always_inline)) {
       constexpr size_t turn = n * (k + 1) % P;
       even = hn::MulAdd(same<V>(static_cast<T>(cosineOfTurn(turn, P))), re[k], even);
       odd = hn::MulAdd(same<V>(static_cast<T>(sineOfTurn(turn, P))), im[k], odd);

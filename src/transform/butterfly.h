@@ -74,8 +74,8 @@ template <class Z, class Get> QVX_INLINE void dft16Columns(Z (&x)[16], Get get) 
   constexpr double kCos = 0.92387953251128675613;
   constexpr double kSin = 0.38268343236508977173;
   constexpr double kHalf = 0.70710678118654752440;
-  unrolled<4>([&](auto i) {
-    unrolled<4>([&](auto m) { x[i + 4 * m] = get(std::integral_constant<size_t, i + 4 * m>()); });
+  unrolled<4>([&](auto i) __attribute__((always_inline)) {
+    unrolled<4>([&](auto m) __attribute__((always_inline)) { x[i + 4 * m] = get(std::integral_constant<size_t, i + 4 * m>()); });
     dft4(x[i], x[i + 4], x[i + 8], x[i + 12]);
   });
   x[5] = product(x[5], kCos, -kSin);
@@ -90,8 +90,10 @@ template <class Z, class Get> QVX_INLINE void dft16Columns(Z (&x)[16], Get get) 
 }
 template <class Z, class Get> QVX_INLINE void dft16(Z (&x)[16], Get get) {
   dft16Columns(x, get);
-  unrolled<4>([&](auto i) { dft4(x[4 * i], x[4 * i + 1], x[4 * i + 2], x[4 * i + 3]); });
-  unrolled<4>([&](auto i) { unrolled<i>([&](auto m) { std::swap(x[4 * i + m], x[4 * m + i]); }); });
+  unrolled<4>([&](auto i) __attribute__((always_inline)) { dft4(x[4 * i], x[4 * i + 1], x[4 * i + 2], x[4 * i + 3]); });
+  unrolled<4>([&](auto i) __attribute__((always_inline)) {
+    unrolled<i>([&](auto m) __attribute__((always_inline)) { std::swap(x[4 * i + m], x[4 * m + i]); });
+  });
 }
 
 // x[k] = sum of x[n] exp(-2 pi i n k / R)
@@ -106,7 +108,8 @@ template <class Z, size_t R> QVX_INLINE void dft(Z (&x)[R]) {
   } else if constexpr (R == 8) {
     dft8(x);
   } else if constexpr (R == 16) {
-    dft16(x, [&](auto n) { return x[n]; });
+    dft16(
+        x, [&](auto n) __attribute__((always_inline)) { return x[n]; });
   }
 }
 // The same of points from get(n).
@@ -182,15 +185,15 @@ template <class V> QVX_INLINE void transpose(V (&)[1]) {}
 template <class V, size_t L> QVX_INLINE void transpose(V (&r)[L]) {
   static_assert(L == kLanesOf<V>);
   constexpr size_t kBlock = 16 / sizeof(LaneOf<V>);
-  unrolled<L / kBlock>([&](auto q) {
+  unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) {
     if constexpr (kBlock == 2) transposeInBlocks(r[2 * q], r[2 * q + 1]);
     else transposeInBlocks(r[4 * q], r[4 * q + 1], r[4 * q + 2], r[4 * q + 3]);
   });
-  unrolled<kBlock>([&](auto i) {
+  unrolled<kBlock>([&](auto i) __attribute__((always_inline)) {
     V blocks[L / kBlock];
-    unrolled<L / kBlock>([&](auto q) { blocks[q] = r[kBlock * q + i]; });
+    unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) { blocks[q] = r[kBlock * q + i]; });
     transposeBlocks(blocks);
-    unrolled<L / kBlock>([&](auto q) { r[kBlock * q + i] = blocks[q]; });
+    unrolled<L / kBlock>([&](auto q) __attribute__((always_inline)) { r[kBlock * q + i] = blocks[q]; });
   });
 }
 

@@ -213,61 +213,62 @@ QVX_INLINE void transformColumns(ComplexVector<GridVector<T, P>, false> (&x)[R],
                                  const T* twiddles, GridVector<T, P> sign) {
   const Lanes<T, 2 * P> d;
   if (across >= P) {
-    unrolled<R>([&](auto j) { x[j].v = hn::Xor(load(d, column + j * 2 * across), sign); });
+    unrolled<R>([&](auto j) __attribute__((always_inline)) { x[j].v = hn::Xor(load(d, column + j * 2 * across), sign); });
   } else {
-    unrolled<R>([&](auto j) { x[j].v = hn::Xor(firstLanes(d, column + j * 2 * across, 2 * across), sign); });
+    unrolled<R>([&](auto j) __attribute__((always_inline)) {
+      x[j].v = hn::Xor(firstLanes(d, column + j * 2 * across, 2 * across), sign);
+    });
   }
   anyDft(x);
-  unrolled<R - 1>([&](auto j) { x[j + 1].v = twiddled<false>(x[j + 1].v, twiddles + j * 4 * P); });
+  unrolled<R - 1>([&](auto j) __attribute__((always_inline)) { x[j + 1].v = twiddled<false>(x[j + 1].v, twiddles + j * 4 * P); });
 }
 
 template <size_t R, size_t P, class T>
-[[gnu::noinline, gnu::flatten]] void downGrid(const T* src, T* y, size_t across, const T* twiddles, const T* signs) {
+[[gnu::noinline]] void downGrid(const T* src, T* y, size_t across, const T* twiddles, const T* signs) {
   const Lanes<T, 2 * P> d;
   for (size_t h = 0; h < vectorsOf(across, P); ++h, y += R * 2 * P, twiddles += (R - 1) * 4 * P) {
     ComplexVector<GridVector<T, P>, false> x[R];
     transformColumns<R, P>(x, src + 2 * gridColumn(h, across, P), across, twiddles, load(d, signs));
-    unrolled<R>([&](auto j) { store(x[j].v, d, y + j * 2 * P); });
+    unrolled<R>([&](auto j) __attribute__((always_inline)) { store(x[j].v, d, y + j * 2 * P); });
   }
 }
 
-template <size_t C, size_t P, class T>
-[[gnu::noinline, gnu::flatten]] void acrossGrid(const T* y, T* dst, size_t down, const T* factors) {
+template <size_t C, size_t P, class T> [[gnu::noinline]] void acrossGrid(const T* y, T* dst, size_t down, const T* factors) {
   const Lanes<T, 2 * P> d;
   using V = GridVector<T, P>;
   const V factor = load(d, factors);
   for (size_t q = 0; q < down; q += P) {
     const size_t row = std::min(q, down - P);
     ComplexVector<V, false> x[C];
-    unrolled<vectorsOf(C, P)>([&](auto h) {
+    unrolled<vectorsOf(C, P)>([&](auto h) __attribute__((always_inline)) {
       V r[P];
-      unrolled<P>([&](auto l) { r[l] = load(d, y + (h * down + row + l) * 2 * P); });
+      unrolled<P>([&](auto l) __attribute__((always_inline)) { r[l] = load(d, y + (h * down + row + l) * 2 * P); });
       transposePoints(r);
       constexpr size_t kFirst = gridColumn(h, C, P);
-      unrolled<std::min(P, C)>([&](auto l) { x[kFirst + l].v = r[l]; });
+      unrolled<std::min(P, C)>([&](auto l) __attribute__((always_inline)) { x[kFirst + l].v = r[l]; });
     });
     anyDft(x);
-    unrolled<C>([&](auto k) { store(x[k].v * factor, d, dst + 2 * (row + k * down)); });
+    unrolled<C>([&](auto k) __attribute__((always_inline)) { store(x[k].v * factor, d, dst + 2 * (row + k * down)); });
   }
 }
 
 // P * C points without leaving registers.
 template <size_t C, size_t P, class T>
-[[gnu::noinline, gnu::flatten]] void gridInRegisters(const T* src, T* dst, const T* twiddles, bool isInverse, T factor) {
+[[gnu::noinline]] void gridInRegisters(const T* src, T* dst, const T* twiddles, bool isInverse, T factor) {
   using V = GridVector<T, P>;
   const GridEnds<V> ends(isInverse, factor);
   ComplexVector<V, false> x[C];
-  unrolled<vectorsOf(C, P)>([&](auto h) {
+  unrolled<vectorsOf(C, P)>([&](auto h) __attribute__((always_inline)) {
     constexpr size_t kFirst = gridColumn(h, C, P);
     ComplexVector<V, false> column[P];
     transformColumns<P, P>(column, src + 2 * kFirst, C, twiddles + h * (P - 1) * 4 * P, ends.sign);
     V r[P];
-    unrolled<P>([&](auto l) { r[l] = column[l].v; });
+    unrolled<P>([&](auto l) __attribute__((always_inline)) { r[l] = column[l].v; });
     transposePoints(r);
-    unrolled<std::min(P, C)>([&](auto l) { x[kFirst + l].v = r[l]; });
+    unrolled<std::min(P, C)>([&](auto l) __attribute__((always_inline)) { x[kFirst + l].v = r[l]; });
   });
   anyDft(x);
-  unrolled<C>([&](auto k) { store(x[k].v * ends.factor, Lanes<T, 2 * P>(), dst + 2 * k * P); });
+  unrolled<C>([&](auto k) __attribute__((always_inline)) { store(x[k].v * ends.factor, Lanes<T, 2 * P>(), dst + 2 * k * P); });
 }
 
 template <size_t P, class T> void runGrid(const GridPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {

@@ -41,18 +41,18 @@ QVX_INLINE auto combined(const T* src, const T (*rows)[kRow]) {
   constexpr size_t kChains = std::min<size_t>(kCount, W == 1 ? 4 : W == 2 ? 2 : 1);  // sums that do not wait for one another
   const Lanes<T, L> d;
   std::array<Vec<Lanes<T, L>>, W> sum[kChains];
-  unrolled<kCount>([&](auto i) {
+  unrolled<kCount>([&](auto i) __attribute__((always_inline)) {
     const auto x = hn::Set(d, src[i * kStep]);
-    unrolled<W>([&](auto w) {
+    unrolled<W>([&](auto w) __attribute__((always_inline)) {
       const auto column = load(d, rows[i * kStep] + w * L);
       auto& s = sum[i % kChains][w];
       if constexpr (i < kChains) s = x * column;
       else s = hn::MulAdd(x, column, s);
     });
   });
-  unrolled<W>([&](auto w) {
+  unrolled<W>([&](auto w) __attribute__((always_inline)) {
     if constexpr (kChains == 4) sum[0][w] = (sum[0][w] + sum[1][w]) + (sum[2][w] + sum[3][w]);
-    else unrolled<kChains - 1>([&](auto i) { sum[0][w] = sum[0][w] + sum[i + 1][w]; });
+    else unrolled<kChains - 1>([&](auto i) __attribute__((always_inline)) { sum[0][w] = sum[0][w] + sum[i + 1][w]; });
   });
   return sum[0];
 }

@@ -98,7 +98,7 @@ template <class T> using TilePair = std::array<T*, 2>;
 
 // Columns of rows that are `apart` into a tile.
 template <size_t L, class Src, class T>
-[[gnu::noinline, gnu::flatten]] void takeColumns(Src src, size_t apart, size_t columns, Tile<T> tile, size_t rows) {
+[[gnu::noinline]] void takeColumns(Src src, size_t apart, size_t columns, Tile<T> tile, size_t rows) {
   for (size_t row = 0; row < rows; ++row, src = src.from(apart), tile.points = tile.points.from(tile.wide)) {
     for (size_t at = 0; at < columns; at += L) {
       tile.points.template put<L>(
@@ -116,10 +116,10 @@ template <size_t L, class T> QVX_INLINE auto twiddleOf(const MixedBlocks<T>& blo
 template <class V, size_t L> QVX_INLINE void transposeParts(Complex<V> (&z)[L]) {
   V re[L];
   V im[L];
-  unrolled<L>([&](auto i) { re[i] = z[i].re, im[i] = z[i].im; });
+  unrolled<L>([&](auto i) __attribute__((always_inline)) { re[i] = z[i].re, im[i] = z[i].im; });
   transpose(re);
   transpose(im);
-  unrolled<L>([&](auto i) { z[i] = {re[i], im[i]}; });
+  unrolled<L>([&](auto i) __attribute__((always_inline)) { z[i] = {re[i], im[i]}; });
 }
 
 // step(row, column, here) for squares of L by L numbers, in the last of which only `here` columns are.
@@ -135,74 +135,75 @@ template <size_t L, class Dst, class V> QVX_INLINE void putPart(Dst dst, Complex
 
 // `count` rows from row `first` on, turned by their twiddles, into the columns of a tile.
 template <size_t L, class T>
-[[gnu::noinline, gnu::flatten]] void takeRows(const MixedBlocks<T>& blocks, Conjugable<const T> src, size_t first, size_t count,
-                                              Tile<T> tile) {
+[[gnu::noinline]] void takeRows(const MixedBlocks<T>& blocks, Conjugable<const T> src, size_t first, size_t count, Tile<T> tile) {
   const size_t length = blocks.rows.n;
-  forEachSquare<L>(count, length, [=](size_t r, size_t b, size_t here) {
-    Complex<Vec<Lanes<T, L>>> z[L];
-    unrolled<L>([&](auto i) {
-      const size_t row = first + std::min(r + i, count - 1);
-      const size_t at = row * length + b;
-      z[i] = here == L ? src.template getInOrder<L>(at) : src.template getInOrder<L>(at, here);
-      z[i] = product(z[i], twiddleOf<L>(blocks, row, b / L));
-    });
-    transposeParts(z);
-    unrolled<L>([&](auto i) {
-      if (i < here) tile.points.template put<L>(z[i], (b + i) * tile.wide + r);
-    });
-  });
+  forEachSquare<L>(
+      count, length, [=](size_t r, size_t b, size_t here) __attribute__((always_inline)) {
+        Complex<Vec<Lanes<T, L>>> z[L];
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          const size_t row = first + std::min(r + i, count - 1);
+          const size_t at = row * length + b;
+          z[i] = here == L ? src.template getInOrder<L>(at) : src.template getInOrder<L>(at, here);
+          z[i] = product(z[i], twiddleOf<L>(blocks, row, b / L));
+        });
+        transposeParts(z);
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          if (i < here) tile.points.template put<L>(z[i], (b + i) * tile.wide + r);
+        });
+      });
 }
 
 // The columns of a tile, turned, into rows: the way back.
 template <size_t L, class T>
-[[gnu::noinline, gnu::flatten]] void putRows(const MixedBlocks<T>& blocks, Tile<T> tile, Conjugable<T> dst, size_t first,
-                                             size_t count) {
+[[gnu::noinline]] void putRows(const MixedBlocks<T>& blocks, Tile<T> tile, Conjugable<T> dst, size_t first, size_t count) {
   const size_t length = blocks.rows.n;
-  forEachSquare<L>(count, length, [=](size_t r, size_t b, size_t here) {
-    Complex<Vec<Lanes<T, L>>> z[L];
-    unrolled<L>([&](auto i) { z[i] = tile.points.template get<L>((b + std::min<size_t>(i, here - 1)) * tile.wide + r); });
-    transposeParts(z);
-    unrolled<L>([&](auto i) {
-      if (r + i >= count) return;
-      const size_t row = first + r + i;
-      putPart<L>(dst, product(z[i], twiddleOf<L>(blocks, row, b / L)), row * length + b, here);
-    });
-  });
+  forEachSquare<L>(
+      count, length, [=](size_t r, size_t b, size_t here) __attribute__((always_inline)) {
+        Complex<Vec<Lanes<T, L>>> z[L];
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          z[i] = tile.points.template get<L>((b + std::min<size_t>(i, here - 1)) * tile.wide + r);
+        });
+        transposeParts(z);
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          if (r + i >= count) return;
+          const size_t row = first + r + i;
+          putPart<L>(dst, product(z[i], twiddleOf<L>(blocks, row, b / L)), row * length + b, here);
+        });
+      });
 }
 
 // The columns of a tile, `count` from column `first` on of the whole, turned, into rows of the length of a column.
 template <size_t L, class T, class Dst>
-[[gnu::noinline, gnu::flatten]] void putColumnsAsRows(const MixedBlocks<T>& blocks, Tile<T> tile, Dst dst, size_t first,
-                                                      size_t count) {
+[[gnu::noinline]] void putColumnsAsRows(const MixedBlocks<T>& blocks, Tile<T> tile, Dst dst, size_t first, size_t count) {
   const size_t length = blocks.columns.n;
-  forEachSquare<L>(count, length, [=](size_t c, size_t a, size_t here) {
-    Complex<Vec<Lanes<T, L>>> z[L];
-    unrolled<L>([&](auto i) {
-      const size_t row = a + std::min<size_t>(i, here - 1);
-      z[i] = product(tile.points.template get<L>(row * tile.wide + c), twiddleOf<L>(blocks, row, (first + c) / L));
-    });
-    transposeParts(z);
-    unrolled<L>([&](auto i) {
-      if (c + i < count) putPart<L>(dst, z[i], (first + c + i) * length + a, here);
-    });
-  });
+  forEachSquare<L>(
+      count, length, [=](size_t c, size_t a, size_t here) __attribute__((always_inline)) {
+        Complex<Vec<Lanes<T, L>>> z[L];
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          const size_t row = a + std::min<size_t>(i, here - 1);
+          z[i] = product(tile.points.template get<L>(row * tile.wide + c), twiddleOf<L>(blocks, row, (first + c) / L));
+        });
+        transposeParts(z);
+        unrolled<L>([&](auto i) __attribute__((always_inline)) {
+          if (c + i < count) putPart<L>(dst, z[i], (first + c + i) * length + a, here);
+        });
+      });
 }
 
 // The first pass of a tile, into one of the two: a middle one of `columns` columns of rows that are `apart`.
 template <size_t R, size_t L, class T, class Src>
-[[gnu::noinline, gnu::flatten]] void firstTilePass(Src src, size_t apart, size_t columns, Tile<T> tile, size_t m,
-                                                   const T* twiddles) {
+[[gnu::noinline]] void firstTilePass(Src src, size_t apart, size_t columns, Tile<T> tile, size_t m, const T* twiddles) {
   for (size_t p = 0; p < m; ++p, src = src.from(apart), twiddles += (R - 1) * 2) {
     for (size_t at = 0; at < columns; at += L) {
       const size_t here = std::min(L, columns - at);
       Complex<Vec<Lanes<T, L>>> z[R];
       if (here == L) {
-        unrolled<R>([&](auto k) { z[k] = src.template getInOrder<L>(at + apart * m * k); });
+        unrolled<R>([&](auto k) __attribute__((always_inline)) { z[k] = src.template getInOrder<L>(at + apart * m * k); });
       } else {
-        unrolled<R>([&](auto k) { z[k] = src.template getInOrder<L>(at + apart * m * k, here); });
+        unrolled<R>([&](auto k) __attribute__((always_inline)) { z[k] = src.template getInOrder<L>(at + apart * m * k, here); });
       }
       anyDft(z);
-      unrolled<R>([&](auto j) {
+      unrolled<R>([&](auto j) __attribute__((always_inline)) {
         if constexpr (j > 0) z[j] = product(z[j], twiddles[2 * j - 2], twiddles[2 * j - 1]);
         tile.points.template put<L>(z[j], at + tile.wide * (R * p + j));
       });

@@ -102,11 +102,11 @@ QVX_INLINE void storeBlocks(const Complex<V>* x, Part part, LaneOf<V>* row, size
   using T = LaneOf<V>;
   constexpr size_t kBlock = 16 / sizeof(T);
   V r[kBlock];
-  unrolled<kBlock>([&](auto i) { r[i] = x[std::min<size_t>(i, kWide - 1)].*part; });
+  unrolled<kBlock>([&](auto i) __attribute__((always_inline)) { r[i] = x[std::min<size_t>(i, kWide - 1)].*part; });
   transposeInBlocks(r);
   alignas(64) T kept[kBlock][L];
-  unrolled<kBlock>([&](auto i) { store(r[i], TagOf<V>(), kept[i]); });
-  unrolled<L>([&](auto i) {
+  unrolled<kBlock>([&](auto i) __attribute__((always_inline)) { store(r[i], TagOf<V>(), kept[i]); });
+  unrolled<L>([&](auto i) __attribute__((always_inline)) {
     constexpr size_t lane = laneOfElement<L, Src>(i);
     std::memcpy(row, &kept[lane % kBlock][lane / kBlock * kBlock], kWide * sizeof(T));
     row += stride;
@@ -120,7 +120,7 @@ template <size_t L, class Src, size_t R, class V, class Part>
 QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, size_t stride, size_t rows, bool isCut) {
   using T = LaneOf<V>;
   constexpr size_t kChunks = (R + L - 1) / L;
-  unrolled<kChunks>([&](auto c) {
+  unrolled<kChunks>([&](auto c) __attribute__((always_inline)) {
     constexpr size_t at = (kChunks - 1 - c) * L;
     constexpr size_t kWide = std::min(L, R - at);
     constexpr size_t kBlock = 16 / sizeof(T);
@@ -129,22 +129,22 @@ QVX_INLINE void storeRows(const Complex<V> (&x)[R], Part part, LaneOf<V>* to, si
       return;
     }
     V r[L];
-    unrolled<L>([&](auto i) { r[i] = x[at + std::min<size_t>(i, kWide - 1)].*part; });
+    unrolled<L>([&](auto i) __attribute__((always_inline)) { r[i] = x[at + std::min<size_t>(i, kWide - 1)].*part; });
     transpose(r);
     const TagOf<V> d;
     // Each address from the one before: there are not registers enough for all of them.
     T* row = to + at;
     if (rows < L) {
       alignas(64) T kept[L][L];
-      unrolled<L>([&](auto i) { store(r[i], d, kept[Src::template element<L>(i)]); });
+      unrolled<L>([&](auto i) __attribute__((always_inline)) { store(r[i], d, kept[Src::template element<L>(i)]); });
       for (size_t i = 0; i < rows; ++i, row += stride) putFirstLanes(load(d, kept[i]), d, row, isCut ? kWide : L);
     } else if (kWide < L && isCut) {
-      unrolled<L>([&](auto i) {
+      unrolled<L>([&](auto i) __attribute__((always_inline)) {
         putFirstLanes(r[laneOfElement<L, Src>(i)], d, row, kWide);
         row += stride;
       });
     } else {
-      unrolled<L>([&](auto i) {
+      unrolled<L>([&](auto i) __attribute__((always_inline)) {
         store(r[laneOfElement<L, Src>(i)], d, row);
         row += stride;
       });
@@ -164,7 +164,7 @@ inline constexpr size_t kMostPaddedRows = 27;
 // oldest instructions first, so shuffles would go on alone until the last is done (radix 8 of doubles took 20 cycles a vector of
 // points, and takes 13).
 template <size_t R, size_t L, class T, class Src>
-[[gnu::noinline, gnu::flatten]] void firstMixedPass(Src src, Planes<T> y, size_t m, const T* twiddles, bool isPadded) {
+[[gnu::noinline]] void firstMixedPass(Src src, Planes<T> y, size_t m, const T* twiddles, bool isPadded) {
   using V = Vec<Lanes<T, L>>;
   const size_t wide = std::min(m, L);
   const size_t stride = isPadded ? paddedRow<R, L>() : R;
@@ -175,14 +175,14 @@ template <size_t R, size_t L, class T, class Src>
     if (begin < m) {
       const size_t p = columnAt(begin);
       auto at = src.from(p);
-      const auto take = [&](auto get) {
-        unrolled<R>([&](auto k) {
+      const auto take = [&](auto get) __attribute__((always_inline)) {
+        unrolled<R>([&](auto k) __attribute__((always_inline)) {
           x[k] = get(at);
           at = at.from(m);
         });
       };
-      if (wide == L) take([](auto from) { return from.template get<L>(0); });
-      else take([=](auto from) { return from.template getFirst<L>(0, wide); });
+      if (wide == L) take([](auto from) __attribute__((always_inline)) { return from.template get<L>(0); });
+      else take([=](auto from) __attribute__((always_inline)) { return from.template getFirst<L>(0, wide); });
     }
     if (begin > 0) {
       const size_t p = columnAt(begin - L);
@@ -195,13 +195,14 @@ template <size_t R, size_t L, class T, class Src>
     if (begin >= m) break;
     anyDft(x);
     made[0] = x[0];
-    unrolled<R - 1>([&](auto j) { made[j + 1] = product(x[j + 1], group<L>(twiddles + j * 2 * L)); });
+    unrolled<R - 1>([&](auto j)
+                        __attribute__((always_inline)) { made[j + 1] = product(x[j + 1], group<L>(twiddles + j * 2 * L)); });
   }
 }
 
 // twiddles: for each p, for j = 1..R-1 exp(-2 pi i p j / (R * m)).
 template <size_t R, size_t L, class T>
-[[gnu::noinline, gnu::flatten]] void middleMixedPass(Planes<const T> x, Planes<T> y, size_t s, size_t m, const T* twiddles) {
+[[gnu::noinline]] void middleMixedPass(Planes<const T> x, Planes<T> y, size_t s, size_t m, const T* twiddles) {
   using V = Vec<Lanes<T, L>>;
   for (size_t p = 0; p < m; ++p, twiddles += (R - 1) * 2) {
     const bool isWhole = s * (m - p) >= L;
@@ -209,13 +210,13 @@ template <size_t R, size_t L, class T>
       const size_t q = s >= L ? std::min(begin, s - L) : 0;
       Complex<V> z[R];
       auto from = x.from(q + s * p);
-      unrolled<R>([&](auto k) {
+      unrolled<R>([&](auto k) __attribute__((always_inline)) {
         z[k] = isWhole ? from.template get<L>(0) : from.template getFirst<L>(0, s);
         from = from.from(s * m);
       });
       anyDft(z);
       auto to = y.from(q + s * R * p);
-      unrolled<R>([&](auto j) {
+      unrolled<R>([&](auto j) __attribute__((always_inline)) {
         if constexpr (j > 0) z[j] = product(z[j], twiddles[2 * j - 2], twiddles[2 * j - 1]);
         if (isWhole) to.template put<L>(z[j], 0);
         else to.template putFirst<L>(z[j], 0, s);
@@ -238,7 +239,7 @@ struct LastSteps {
 };
 
 template <size_t R, size_t L, class T, class Dst>
-[[gnu::noinline, gnu::flatten]] void lastMixedPass(Planes<const T> x, Dst dst, LastSteps steps, T factor) {
+[[gnu::noinline]] void lastMixedPass(Planes<const T> x, Dst dst, LastSteps steps, T factor) {
   using V = Vec<Lanes<T, L>>;
   const size_t columns = steps.columns;
   const bool overlaps = !steps.isPadded && columns >= L;
@@ -248,16 +249,16 @@ template <size_t R, size_t L, class T, class Dst>
       const size_t wide = std::min(L, columns - q);
       Complex<V> z[R];
       auto from = x.from(q);
-      unrolled<R>([&](auto k) {
+      unrolled<R>([&](auto k) __attribute__((always_inline)) {
         z[k] = steps.isPadded || wide == L ? from.template get<L>(0) : from.template getFirst<L>(0, wide);
         from = from.from(steps.points);
       });
       anyDft(z);
       if (factor != 1) {
-        unrolled<R>([&](auto j) { z[j] = ScaledBy<T>{factor}(z[j]); });
+        unrolled<R>([&](auto j) __attribute__((always_inline)) { z[j] = ScaledBy<T>{factor}(z[j]); });
       }
       auto to = dst.from(q);
-      unrolled<R>([&](auto j) {
+      unrolled<R>([&](auto j) __attribute__((always_inline)) {
         if (wide == L) to.template putInOrder<L>(z[j], 0);
         else to.template putFirst<L>(z[j], 0, wide);
         to = to.from(steps.results);
@@ -290,7 +291,7 @@ template <class V, class T, class Get, class Put> QVX_INLINE void dftOfMany(size
     // Two sums of each have half the latency, and less error.
     Complex<V> even[] = {first, zero};
     Complex<V> odd[] = {zero, zero};
-    const auto take = [&](size_t k, size_t to) {
+    const auto take = [&](size_t k, size_t to) __attribute__((always_inline)) {
       const V cosine = same<V>(roots[0]);
       const V sine = same<V>(roots[1]);
       even[to] = {hn::MulAdd(cosine, sums[k].re, even[to].re), hn::MulAdd(cosine, sums[k].im, even[to].im)};
@@ -315,8 +316,7 @@ template <class T>
 inline constexpr size_t kManyLanes = kVectorBytes >= 64 ? kVectorBytes / 2 / sizeof(T) : kVectorBytes / sizeof(T);
 
 template <size_t L, class T, class Src>
-[[gnu::noinline, gnu::flatten]] void firstPassOfMany(size_t R, const T* roots, Src src, Planes<T> y, size_t m,
-                                                     const T* twiddles) {
+[[gnu::noinline]] void firstPassOfMany(size_t R, const T* roots, Src src, Planes<T> y, size_t m, const T* twiddles) {
   using V = Vec<Lanes<T, L>>;
   for (size_t p = 0; p < m; p += L, twiddles += (R - 1) * 2 * L) {
     const size_t wide = std::min(m - p, L);
@@ -339,8 +339,8 @@ template <size_t L, class T, class Src>
 }
 
 template <size_t L, class T>
-[[gnu::noinline, gnu::flatten]] void middlePassOfMany(size_t R, const T* roots, Planes<const T> x, Planes<T> y, size_t s,
-                                                      size_t m, const T* twiddles) {
+[[gnu::noinline]] void middlePassOfMany(size_t R, const T* roots, Planes<const T> x, Planes<T> y, size_t s, size_t m,
+                                        const T* twiddles) {
   using V = Vec<Lanes<T, L>>;
   for (size_t p = 0; p < m; ++p, twiddles += (R - 1) * 2) {
     for (size_t begin = 0; begin < s; begin += L) {
@@ -357,8 +357,7 @@ template <size_t L, class T>
 }
 
 template <size_t L, class T, class Dst>
-[[gnu::noinline, gnu::flatten]] void lastPassOfMany(size_t R, const T* roots, Planes<const T> x, Dst dst, LastSteps steps,
-                                                    T factor) {
+[[gnu::noinline]] void lastPassOfMany(size_t R, const T* roots, Planes<const T> x, Dst dst, LastSteps steps, T factor) {
   using V = Vec<Lanes<T, L>>;
   const size_t columns = steps.columns;
   for (size_t run = 0; run < steps.runs; ++run, x = x.from(steps.fromRun), dst = dst.from(steps.toRun)) {

@@ -74,18 +74,18 @@ template <size_t P, class Z> QVX_INLINE void dftOfPairs(Z (&x)[P]) {
   constexpr size_t H = P / 2;
   Z sums[H];
   Z differences[H];
-  unrolled<H>([&](auto k) {
+  unrolled<H>([&](auto k) __attribute__((always_inline)) {
     sums[k] = sum(x[k + 1], x[P - 1 - k]);
     differences[k] = difference(x[k + 1], x[P - 1 - k]);
   });
   const Z first = x[0];
-  unrolled<H>([&](auto k) { x[0] = sum(x[0], sums[k]); });
-  unrolled<H>([&](auto at) {
+  unrolled<H>([&](auto k) __attribute__((always_inline)) { x[0] = sum(x[0], sums[k]); });
+  unrolled<H>([&](auto at) __attribute__((always_inline)) {
     constexpr size_t j = at + 1;
     Z even = sumWith(kPrimeRoots<P>.cosine[j], first, sums[0]);
     // Divided by the first one's sine, which goes into the last addition: radix 5 takes 32 operations, not 36.
     Z odd = differences[0];
-    unrolled<H - 1>([&](auto i) {
+    unrolled<H - 1>([&](auto i) __attribute__((always_inline)) {
       constexpr size_t k = i + 1;
       constexpr size_t turn = j * (k + 1) % P;
       constexpr size_t folded = turn <= H ? turn : P - turn;
@@ -111,15 +111,15 @@ template <size_t A, size_t B, class Z> QVX_INLINE void dftOfCoprimes(Z (&x)[A * 
   constexpr size_t kStepA = B * inverseOf(B % A, A);
   constexpr size_t kStepB = A * inverseOf(A % B, B);
   Z y[B][A];
-  unrolled<B>([&](auto b) {
-    unrolled<A>([&](auto a) { y[b][a] = x[(B * a + A * b) % N]; });
+  unrolled<B>([&](auto b) __attribute__((always_inline)) {
+    unrolled<A>([&](auto a) __attribute__((always_inline)) { y[b][a] = x[(B * a + A * b) % N]; });
     anyDft(y[b]);
   });
-  unrolled<A>([&](auto a) {
+  unrolled<A>([&](auto a) __attribute__((always_inline)) {
     Z z[B];
-    unrolled<B>([&](auto b) { z[b] = y[b][a]; });
+    unrolled<B>([&](auto b) __attribute__((always_inline)) { z[b] = y[b][a]; });
     anyDft(z);
-    unrolled<B>([&](auto b) { x[(kStepA * a + kStepB * b) % N] = z[b]; });
+    unrolled<B>([&](auto b) __attribute__((always_inline)) { x[(kStepA * a + kStepB * b) % N] = z[b]; });
   });
 }
 
@@ -133,18 +133,18 @@ template <size_t kTurn, size_t N, class Z> QVX_INLINE Z turned(Z z) {
 // A * B points of any factors: B transforms of A points, twiddles, A transforms of B points.
 template <size_t A, size_t B, class Z> QVX_INLINE void dftOfProduct(Z (&x)[A * B]) {
   Z y[B][A];
-  unrolled<B>([&](auto b) {
-    unrolled<A>([&](auto a) { y[b][a] = x[B * a + b]; });
+  unrolled<B>([&](auto b) __attribute__((always_inline)) {
+    unrolled<A>([&](auto a) __attribute__((always_inline)) { y[b][a] = x[B * a + b]; });
     anyDft(y[b]);
     if constexpr (b > 0) {
-      unrolled<A - 1>([&](auto k) { y[b][k + 1] = turned<b*(k + 1), A * B>(y[b][k + 1]); });
+      unrolled<A - 1>([&](auto k) __attribute__((always_inline)) { y[b][k + 1] = turned<b*(k + 1), A * B>(y[b][k + 1]); });
     }
   });
-  unrolled<A>([&](auto k) {
+  unrolled<A>([&](auto k) __attribute__((always_inline)) {
     Z z[B];
-    unrolled<B>([&](auto b) { z[b] = y[b][k]; });
+    unrolled<B>([&](auto b) __attribute__((always_inline)) { z[b] = y[b][k]; });
     anyDft(z);
-    unrolled<B>([&](auto b) { x[k + A * b] = z[b]; });
+    unrolled<B>([&](auto b) __attribute__((always_inline)) { x[k + A * b] = z[b]; });
   });
 }
 

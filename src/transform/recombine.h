@@ -38,7 +38,7 @@ template <class V, bool kInverse> QVX_INLINE void recombine(Complex<V>& a, Compl
 // A vector from either end of the lower and the upper half at a time, of those whose first k are in a range of 0 to h / 2; h from
 // 32 on.
 template <bool kInverse, class T>
-[[gnu::noinline, gnu::flatten]] void recombine(const T* src, T* dst, size_t h, Range range, RealTwiddles<T> twiddles) {
+[[gnu::noinline]] void recombine(const T* src, T* dst, size_t h, Range range, RealTwiddles<T> twiddles) {
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   const Interleaved<const T, false> from{src};

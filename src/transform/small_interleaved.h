@@ -83,9 +83,9 @@ template <class V, size_t P> QVX_INLINE void transposePoints(V (&r)[P]) {
     transposeBlocks(r);
   } else {
     Vec<hn::Repartition<double, TagOf<V>>> numbers[P];
-    unrolled<P>([&](auto i) { numbers[i] = as<double>(r[i]); });
+    unrolled<P>([&](auto i) __attribute__((always_inline)) { numbers[i] = as<double>(r[i]); });
     transpose(numbers);
-    unrolled<P>([&](auto i) { r[i] = as<float>(numbers[i]); });
+    unrolled<P>([&](auto i) __attribute__((always_inline)) { r[i] = as<float>(numbers[i]); });
   }
 }
 
@@ -109,25 +109,25 @@ template <size_t N, bool kSwapped, class T, class Get, class Put> QVX_INLINE voi
   constexpr size_t P = S::P;
   using Z = ComplexVector<typename S::V, kSwapped>;
   Z x[S::C / P][S::R];
-  unrolled<S::C / P>([&](auto h) {
-    unrolled<S::R>([&](auto m) { x[h][m].v = get(m * S::C + h * P); });
+  unrolled<S::C / P>([&](auto h) __attribute__((always_inline)) {
+    unrolled<S::R>([&](auto m) __attribute__((always_inline)) { x[h][m].v = get(m * S::C + h * P); });
     dft(x[h]);
     if constexpr (S::C > 1) {
-      unrolled<S::R - 1>([&](auto m) {
+      unrolled<S::R - 1>([&](auto m) __attribute__((always_inline)) {
         x[h][m + 1].v = twiddled<kSwapped>(x[h][m + 1].v, kInterleavedTwiddles<S, N / P>.twiddle[(m + 1) * (S::C / P) + h]);
       });
     }
   });
-  unrolled<S::R / P>([&](auto q) {
+  unrolled<S::R / P>([&](auto q) __attribute__((always_inline)) {
     Z y[S::C];
-    unrolled<S::C / P>([&](auto h) {
+    unrolled<S::C / P>([&](auto h) __attribute__((always_inline)) {
       typename S::V r[P];
-      unrolled<P>([&](auto l) { r[l] = x[h][q * P + l].v; });
+      unrolled<P>([&](auto l) __attribute__((always_inline)) { r[l] = x[h][q * P + l].v; });
       transposePoints(r);
-      unrolled<P>([&](auto l) { y[h * P + l].v = r[l]; });
+      unrolled<P>([&](auto l) __attribute__((always_inline)) { y[h * P + l].v = r[l]; });
     });
     dft(y);
-    unrolled<S::C>([&](auto k) { put(q * P + k * S::R, y[k].v); });
+    unrolled<S::C>([&](auto k) __attribute__((always_inline)) { put(q * P + k * S::R, y[k].v); });
   });
 }
 
