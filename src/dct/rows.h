@@ -64,35 +64,11 @@ template <class T> size_t columnTableLength(const Rows<T>& rows) {
 }
 template <class T> bool hasTwiddles(const Rows<T>& rows) { return std::gcd(rows.q, rows.r) > 1; }
 
-template <class T> void writeRows(Rows<T>& rows, size_t n, Carver& tables) {
-  rows = shapeOf<T>(n);
-  const size_t q = rows.q;
-  const size_t r = rows.r;
-  const size_t h = rows.h;
-  const size_t width = rows.width;
-  const auto carve = [&](size_t count) { return tables.take<T>(static_cast<int64_t>(count)); };
-  const size_t length = columnTableLength(rows);
-  T* const cosines = carve(length);
-  T* const sines = carve(length);
-  T* const turns = carve(2 * q * width);
-  T* const meanTurns = carve(2 * q);
-  T* const roots = carve(2 * q);
-  T* const twiddles = hasTwiddles(rows) ? carve(2 * (q - 1) * width) : nullptr;
-  auto* const source = tables.take<uint8_t>(static_cast<int64_t>(n));
-  auto* const results = tables.take<uint8_t>(static_cast<int64_t>(q * (h + 1)));
-  rows.cosines = cosines;
-  rows.sines = sines;
-  rows.turns = turns;
-  rows.meanTurns = meanTurns;
-  rows.roots = roots;
-  rows.twiddles = twiddles;
-  rows.source = source;
-  rows.results = results;
-
-  // The order of numbers and columns: one residue of r from each pair j, -j.
-  uint8_t residue[2 * kLongestByRows];
+// The order of numbers and columns: one residue of r from each pair j, -j, then the others.
+inline void writeResidues(size_t r, uint8_t* residue) {
+  const bool isPrime = isPrimeRow(static_cast<int>(r));
   size_t root = 1;
-  if (isPrimeRow(rows.r)) {
+  if (isPrime) {
     const auto isPrimitive = [=](size_t g) {
       size_t power = g;
       size_t order = 1;
@@ -102,21 +78,29 @@ template <class T> void writeRows(Rows<T>& rows, size_t n, Carver& tables) {
     for (root = 2; !isPrimitive(root);) ++root;
   }
   residue[0] = 1;
-  for (size_t i = 1; i < 2 * h; ++i)
-    residue[i] = static_cast<uint8_t>(isPrimeRow(rows.r) ? residue[i - 1] * root % r : (i + 1) % r);
+  for (size_t i = 1; i < r / 2 * 2; ++i) residue[i] = static_cast<uint8_t>(isPrime ? residue[i - 1] * root % r : (i + 1) % r);
+}
 
+template <class T> void writeColumnTables(const Rows<T>& rows, const uint8_t* residue, T* cosines, T* sines) {
+  const size_t h = rows.h;
+  const size_t width = rows.width;
+  const bool isPrime = isPrimeRow(rows.r);
   writeTwiddles(
-      r, length,
-      [&](size_t i) { return isPrimeRow(rows.r) ? size_t{residue[i]}
-                             : i % width < h    ? (i / width + 1) * (i % width + 1)
-                                                : 0; },
+      rows.r, columnTableLength(rows),
+      [=](size_t i) { return isPrime         ? size_t{residue[i]}
+                             : i % width < h ? (i / width + 1) * (i % width + 1)
+                                             : 0; },
       [=](size_t i, double re, double im) {
         cosines[i] = static_cast<T>(re);
         sines[i] = static_cast<T>(-im);
       });
-  writeTwiddles(
-      q, q, [](size_t j) { return j; }, transform::intoPairs(roots));
+}
 
+// Where each row finds its numbers, and where its results go.
+template <class T> void writePlaces(const Rows<T>& rows, size_t n, const uint8_t* residue, uint8_t* source, uint8_t* results) {
+  const size_t q = rows.q;
+  const size_t r = rows.r;
+  const size_t h = rows.h;
   const bool isCoprime = !hasTwiddles(rows);
   const auto placeOf = [=](size_t row, size_t j) {
     const size_t at = isCoprime ? (row * r + j * q) % n : row + j * q;
@@ -137,29 +121,67 @@ template <class T> void writeRows(Rows<T>& rows, size_t n, Carver& tables) {
     }
     results[q * h + row] = resultOf(row, 0);
   }
+}
+
+template <class T> void writeRowTurns(const Rows<T>& rows, size_t n, T* turns, T* meanTurns) {
+  const size_t h = rows.h;
+  const size_t width = rows.width;
+  const uint8_t* const results = rows.results;
+  const uint8_t* const ofMeans = results + size_t{rows.q} * h;
   const long double factor = std::sqrt(2 / static_cast<long double>(n));
   writeTwiddles(
-      4 * n, q * width, [=](size_t i) { return i % width < h ? size_t{results[i / width * h + i % width]} : 0; },
+      4 * n, rows.q * width, [=](size_t i) { return i % width < h ? size_t{results[i / width * h + i % width]} : 0; },
       [=](size_t i, double re, double im) {
         T* const at = turns + i / width * 2 * width + i % width;
         at[0] = static_cast<T>(i % width < h ? factor * re : 0);
         at[width] = static_cast<T>(i % width < h ? factor * im : 0);
       });
   writeTwiddles(
-      4 * n, q, [=](size_t i) { return size_t{results[q * h + i]}; },
+      4 * n, rows.q, [=](size_t i) { return size_t{ofMeans[i]}; },
       [=](size_t i, double re, double im) {
-        const long double f = results[q * h + i] == 0 ? factor * std::sqrt(0.5L) : factor;
+        const long double f = ofMeans[i] == 0 ? factor * std::sqrt(0.5L) : factor;
         meanTurns[2 * i] = static_cast<T>(f * re);
         meanTurns[2 * i + 1] = static_cast<T>(f * im);
       });
-  if (isCoprime) return;
+}
+
+template <class T> void writeRowTwiddles(const Rows<T>& rows, size_t n, const uint8_t* residue, T* twiddles) {
+  const size_t h = rows.h;
+  const size_t width = rows.width;
   writeTwiddles(
-      n, (q - 1) * width, [&](size_t i) { return i % width < h ? (i / width + 1) * residue[i % width] : 0; },
+      n, (rows.q - size_t{1}) * width, [=](size_t i) { return i % width < h ? (i / width + 1) * residue[i % width] : 0; },
       [=](size_t i, double re, double im) {
         T* const at = twiddles + i / width * 2 * width + i % width;
         at[0] = static_cast<T>(re);
         at[width] = static_cast<T>(im);
       });
+}
+
+template <class T> void writeRows(Rows<T>& rows, size_t n, Carver& tables) {
+  rows = shapeOf<T>(n);
+  const size_t q = rows.q;
+  const auto carve = [&]<class E>(size_t count, const E*& table) {
+    E* const at = tables.take<E>(static_cast<int64_t>(count));
+    table = at;
+    return at;
+  };
+  T* const cosines = carve(columnTableLength(rows), rows.cosines);
+  T* const sines = carve(columnTableLength(rows), rows.sines);
+  T* const turns = carve(2 * q * rows.width, rows.turns);
+  T* const meanTurns = carve(2 * q, rows.meanTurns);
+  T* const roots = carve(2 * q, rows.roots);
+  T* const twiddles = hasTwiddles(rows) ? carve(2 * (q - 1) * rows.width, rows.twiddles) : nullptr;
+  uint8_t* const source = carve(n, rows.source);
+  uint8_t* const results = carve(q * (rows.h + size_t{1}), rows.results);
+
+  uint8_t residue[2 * kLongestByRows];
+  writeResidues(rows.r, residue);
+  writeColumnTables(rows, residue, cosines, sines);
+  writeTwiddles(
+      q, q, [](size_t j) { return j; }, transform::intoPairs(roots));
+  writePlaces(rows, n, residue, source, results);
+  writeRowTurns(rows, n, turns, meanTurns);
+  if (twiddles != nullptr) writeRowTwiddles(rows, n, residue, twiddles);
 }
 
 template <class T> int64_t bytesOfRows(size_t n) {
