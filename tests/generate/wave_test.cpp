@@ -237,8 +237,9 @@ template <class T> T elementOf(double v) {
 template <class T, class Ramp> void expectRamp(Ramp ramp, Ramp slopeOf) {
   using Line = std::conditional_t<sizeof(T) == 8, Qvx64f, Qvx32f>;
   std::vector<T> y(3000), z(3000);
-  for (const double offset : {0.0, 2.5, -2.5, 100.25, 32000.0, -3e9, 4.2e9}) {
-    for (const double slope : {0.0, 0.5, -0.5, 1000.0, -1e-3, 0.1, 3e6, -1e9}) {
+  // At 683 the last slope brings 1 to a hair above the middle of two floats, which is the middle in doubles.
+  for (const double offset : {0.0, 1.0, 2.5, -2.5, 100.25, 32000.0, -3e9, 4.2e9}) {
+    for (const double slope : {0.0, 0.5, -0.5, 0.0078125, 1000.0, -1e-3, 0.1, 3e6, -1e9, 12576771 * 0x1p-57}) {
       const auto from = static_cast<Line>(offset), by = static_cast<Line>(slope);
       for (const int len : {1, 5, 31, 130, 3000}) {
         ASSERT_EQ(ramp(y.data(), len, from, by), qvxStatOk);
