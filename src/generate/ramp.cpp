@@ -59,7 +59,7 @@ template <class Lane, class T, class Kernel> [[gnu::flatten]] size_t inBlocks(T*
   return at;
 }
 
-// Shorter vectors go to the loop engine at once: tests take longer than they do.
+// Up to here the loop engine is faster than the test of exactness: 64 floats take 5.5 ns, not 9.5.
 constexpr size_t kFew = 4 * kVectorBytes / sizeof(float);
 
 // A line through elements 0 to n - 1.
@@ -89,7 +89,7 @@ template <class T> size_t exactBlocks(T* dst, size_t n, Line line) {
       });
     }
   } else if constexpr (std::is_integral_v<T> && !std::is_same_v<T, Qvx32u>) {
-    // What narrows to bytes is given 16.
+    // The way to bytes saturates 16-bit numbers only.
     constexpr double kMost = sizeof(T) == 1 ? 0x1p14 : 0x1p30;
     if (line.isExact(n) && line.size(n) <= kMost) {
       return inBlocks<double>(dst, n, [line](auto number) {
