@@ -43,7 +43,7 @@ struct Numbers {
 };
 
 // kernel(numbers) for blocks of elements, numbers in lanes of Lane; returns how many elements they are, less than n. Numbers that
-// are counted on in a register cost one addition; those of the loop engine come from an integer: 4096 floats take 1.3 times as
+// are counted on in a register cost one addition; those of the loop engine come from an integer: 4096 doubles take 1.2 times as
 // long.
 template <class Lane, class T, class Kernel> [[gnu::flatten]] size_t inBlocks(T* dst, size_t n, Kernel kernel) {
   constexpr size_t N = kVectorBytes / sizeof(Lane);
@@ -59,7 +59,7 @@ template <class Lane, class T, class Kernel> [[gnu::flatten]] size_t inBlocks(T*
   return at;
 }
 
-// Up to here the loop engine is faster than the test of exactness: 64 floats take 5.5 ns, not 9.5.
+// Up to here the loop engine is faster than the test of exactness: 64 floats take 0.8 of the time.
 constexpr size_t kFew = 4 * kVectorBytes / sizeof(float);
 
 // A line through elements 0 to n - 1.
