@@ -11,8 +11,7 @@
 namespace qvx::transform {
 
 // Radices of first passes and of tiles, and of later passes: from 20 on half of their vectors wait on the stack, which costs less
-// than another pass over more than the first-level cache holds (5000 complex doubles take 0.85 of the time by 8, 25 and 25 that
-// they take by five passes). Larger primes go through memory.
+// than two passes over more than the first-level cache holds. Larger primes go through memory.
 inline constexpr uint8_t kRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16};
 inline constexpr uint8_t kLaterRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16, 20, 21, 24, 25, 27};
 inline constexpr size_t kWidestMixed = 16;
@@ -77,10 +76,12 @@ template <class T> struct MixedPlan {
   const T* tables;  // a pass's after another's: roots of a large radix, then twiddles
 };
 
-// What a pass takes of time, in operations of a vector: seen on a processor with 32 registers of 64 bytes.
+// What a pass takes of time, in operations of a vector, on processors with 32 registers of 64 bytes: between those that spill at
+// the price of the count and those where radices from 20 on take a third more (5000 complex doubles take 0.9 by 8, 5, 25 and 5 of
+// what they take by 8, 25 and 25).
 constexpr uint32_t costOfRadix(size_t radix) {
   constexpr uint16_t kCosts[] = {0, 0,   12,  24, 32, 48, 64,  88,  80, 130, 120, 190, 150, 250,
-                                 0, 210, 236, 0,  0,  0,  300, 380, 0,  0,   420, 430, 0,   540};
+                                 0, 225, 236, 0,  0,  0,  345, 430, 0,  0,   470, 520, 0,   640};
   if (isLargePrime(radix)) return static_cast<uint32_t>(radix / 2 * (radix / 2) * 6 + 20 * radix);
   return kHasMasks || radix < 8 ? kCosts[radix] : kCosts[radix] * 5 / 4;
 }
@@ -136,7 +137,7 @@ template <class T> class MixedPlanner {
   void consider(size_t i, uint32_t n, std::span<const uint8_t> radices) {
     const uint32_t d = divisor_[i];
     const bool fitsNearest = columns_ > 1 || n * 4 * sizeof(T) <= kNearestCache;
-    const uint64_t pass = kPass + (fitsNearest ? 0 : vectors(n) * kAwayFromNearest / 2);
+    const uint64_t pass = kPass + (fitsNearest ? 0 : vectors(n) * kAwayFromNearest * 3 / 8);
     for (const uint8_t radix : radices) {
       if (d % radix != 0) continue;
       const uint32_t m = d / radix;
