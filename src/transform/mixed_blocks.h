@@ -11,6 +11,7 @@
 // no memory but the destination and two tiles, even in place.
 #pragma once
 
+#include "frame/team.h"
 #include "transform/mixed_plan.h"
 
 namespace qvx::transform {
@@ -268,9 +269,20 @@ template <class T> size_t lengthOfTile(const MixedBlocks<T>& blocks) {
 template <class T> size_t lengthOfTiles(const MixedBlocks<T>& blocks) {
   return 2 * (lengthOfTile(blocks) + Carver::kLine / sizeof(T));
 }
-template <class T> TilePair<T> tilesIn(const MixedBlocks<T>& blocks, T* work) {
-  T* const first = alignedUp(work, Carver::kLine);
+// part: of a divided call, whose working memory of N points has room for the tiles of two.
+template <class T> TilePair<T> tilesIn(const MixedBlocks<T>& blocks, T* work, size_t part = 0) {
+  T* const first = alignedUp(work + part * lengthOfTiles(blocks), Carver::kLine);
   return {first, alignedUp(first + lengthOfTile(blocks), Carver::kLine)};
+}
+
+// step(column, count, part) for the columns of each tile; two threads take half of the tiles each.
+template <class T, class Step> void forEachTile(const MixedBlocks<T>& blocks, size_t columns, Step step) {
+  const size_t wide = columnsOfTile(blocks);
+  dividedBetween(std::min(ownGetNumThreads(), 2), (columns + wide - 1) / wide, [=](size_t first, size_t count, size_t part) {
+    for (size_t c = first * wide; c < std::min((first + count) * wide, columns); c += wide)
+      step(c, std::min(wide, columns - c), part);
+    return qvxStatOk;
+  });
 }
 
 // ---- In order
@@ -283,14 +295,21 @@ void columnsToRows(const MixedBlocks<T>& blocks, Src src, size_t apart, size_t f
   putColumnsAsRows<kWidest<T>>(blocks, results, dst, first, count);
 }
 
+// The second dimension, in place.
+template <class T, class Dst> void downRows(const MixedBlocks<T>& blocks, Dst dst, T* y, T factor) {
+  const size_t columns = blocks.columns.n;
+  forEachTile(blocks, columns, [=, &blocks](size_t c, size_t count, size_t part) {
+    transformTile(blocks.rows, asConst(dst.from(c)), columns, count, tilesIn(blocks, y, part), dst.from(c), columns, factor);
+  });
+}
+
 // y: working memory of N points.
 template <class T, class Src, class Dst> void runBlocks(const MixedBlocks<T>& blocks, Src src, Dst dst, T* y, T factor) {
   const size_t columns = blocks.rows.n;
-  const size_t wide = columnsOfTile(blocks);
-  const TilePair<T> tiles = tilesIn(blocks, y);
-  for (size_t c = 0; c < columns; c += wide)
-    columnsToRows(blocks, src.from(c), columns, c, std::min(wide, columns - c), tiles, dst);
-  transformColumns(blocks.rows, asConst(dst), dst, blocks.columns.n, tiles, factor);
+  forEachTile(blocks, columns, [=, &blocks](size_t c, size_t count, size_t part) {
+    columnsToRows(blocks, src.from(c), columns, c, count, tilesIn(blocks, y, part), dst);
+  });
+  downRows(blocks, dst, y, factor);
 }
 
 // Columns of rows that are `apart`, without what is between them.
@@ -322,13 +341,14 @@ template <class T, class Src, class Dst> void runBlocksInPlace(const MixedBlocks
   const size_t tile = 2 * wide * rows;
   const auto packed = [=](size_t c) { return y + 2 * c * rows; };
   const auto countFrom = [=](size_t c) { return std::min(wide, columns - c); };
-  for (size_t c = 0; c < columns; c += wide)
-    packColumns<kWidest<T>>(src.from(c), columns, countFrom(c), Conjugable<T>{packed(c), 0}, rows);
+  forEachTile(blocks, columns, [=](size_t c, size_t count, size_t) {
+    packColumns<kWidest<T>>(src.from(c), columns, count, Conjugable<T>{packed(c), 0}, rows);
+  });
   for (size_t c = 0; c < columns; c += wide) {
     const TilePair<T> tiles = c < 2 * wide ? tilesAtEnd(dst, rows * columns, tile) : TilePair<T>{y, y + tile};
     columnsToRows(blocks, Conjugable<const T>{packed(c), 0}, countFrom(c), c, countFrom(c), tiles, dst);
   }
-  transformColumns(blocks.rows, asConst(dst), dst, rows, tilesIn(blocks, y), factor);
+  downRows(blocks, dst, y, factor);
 }
 
 // ---- Out of order: src may be dst

@@ -175,6 +175,28 @@ template <class Real, class Complex> void checkLongReal(const Real& real, const 
   }
 }
 
+// Long ones are divided between two threads: by tiles, of which each thread has its own; in place all steps but one.
+TEST(Dft, AnyNumberOfThreadsGivesTheSame) {
+  Random random(tests::seed());
+  const auto check = [&](const auto& transform, size_t n) {
+    using T = typename std::decay_t<decltype(transform)>::T;
+    const std::vector<Exact> x = tests::rounded<T>(tests::noise(n, random));
+    const tests::DftRecord record(transform, n, QVX_FFT_SCALE_NONE);
+    for (const bool isInverse : {false, true}) {
+      for (const auto place : {tests::Place::kApart, tests::Place::kSame}) {
+        qvxSetNumThreads(1);
+        const auto alone = record.run(isInverse, x, place);
+        qvxSetNumThreads(2);
+        for (int i = 0; i < 3; ++i) EXPECT_EQ(record.run(isInverse, x, place), alone) << transform.name << ", " << n << " points";
+      }
+    }
+    qvxSetNumThreads(0);
+  };
+  for (const size_t n : {100000, 177147}) {
+    tests::forEachComplex([&](const auto& transform) { check(transform, n); });
+  }
+}
+
 TEST(Dft, OfLongReals) {
   for (const size_t n : {59049, 96000, 177147, 2 * 177147}) {
     checkLongReal(tests::kRealDft32f, tests::kDft32fc, n);
