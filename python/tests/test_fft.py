@@ -102,6 +102,15 @@ def test_what_is_left_to_scipy():
     with scipy.fft.set_backend(qvxs.fft):
         agree(scipy.fft.dst(x), scipy.fft.dst(x))
         assert scipy.fft.fft(x.astype(np.longdouble)).dtype == np.clongdouble
+    with scipy.fft.set_backend(qvxs.fft, only=True):
+        agree(qvxs.fft.dct(x, 1), qvxs.fft.dct(x, 1, workers=1))
+
+
+def test_what_is_left_to_scipy_changes_no_backend(monkeypatch):
+    # From four threads, set_backend of SciPy 1.10 ended three of four processes.
+    monkeypatch.setattr(scipy.fft, "set_backend", None)
+    x = noise(12, "d")
+    agree(qvxs.fft.dct(x, 1), scipy.fft.dct(x, 1))
 
 
 def test_as_a_backend():
