@@ -11,14 +11,16 @@ struct Case {
   Factors factors;
 };
 
-// Common ratios with few taps and many; factors with a common divisor, after which taps are left, or none; more zeros than taps.
+// Common ratios with few taps and many; factors with a common divisor, after which taps are left, or none; more zeros than taps;
+// a period that is longer than what samples are converted in.
 std::vector<Case> cases(Random& random, size_t drawn) {
   std::vector<Case> all = {
-      {1, {1, 0, 2, 1}},      {1, {5, 4, 3, 0}},         {3, {1, 0, 2, 0}},    {7, {1, 0, 2, 1}},    {3, {2, 1, 2, 0}},
-      {6, {2, 0, 5, 4}},      {64, {2, 1, 1, 0}},        {65, {1, 0, 4, 3}},   {33, {1, 0, 8, 2}},   {48, {3, 2, 2, 0}},
-      {50, {2, 0, 3, 2}},     {40, {6, 5, 4, 1}},        {2, {8, 7, 12, 2}},   {2, {4, 0, 4, 3}},    {30, {4, 3, 4, 0}},
-      {300, {1, 0, 3, 1}},    {257, {2, 1, 1, 0}},       {20, {37, 36, 1, 0}}, {90, {1, 0, 41, 40}}, {320, {16, 3, 15, 14}},
-      {20, {160, 7, 147, 3}}, {700, {147, 0, 160, 159}}, {900, {2, 1, 1, 0}},  {700, {1, 0, 2, 1}},  {1100, {2, 1, 3, 2}},
+      {1, {1, 0, 2, 1}},        {1, {5, 4, 3, 0}},         {3, {1, 0, 2, 0}},    {7, {1, 0, 2, 1}},    {3, {2, 1, 2, 0}},
+      {6, {2, 0, 5, 4}},        {64, {2, 1, 1, 0}},        {65, {1, 0, 4, 3}},   {33, {1, 0, 8, 2}},   {48, {3, 2, 2, 0}},
+      {50, {2, 0, 3, 2}},       {40, {6, 5, 4, 1}},        {2, {8, 7, 12, 2}},   {2, {4, 0, 4, 3}},    {30, {4, 3, 4, 0}},
+      {300, {1, 0, 3, 1}},      {257, {2, 1, 1, 0}},       {20, {37, 36, 1, 0}}, {90, {1, 0, 41, 40}}, {320, {16, 3, 15, 14}},
+      {20, {160, 7, 147, 3}},   {700, {147, 0, 160, 159}}, {900, {2, 1, 1, 0}},  {700, {1, 0, 2, 1}},  {1100, {2, 1, 3, 2}},
+      {90, {1, 0, 1100, 1099}},
   };
   const auto below = [&](int most) { return static_cast<int>(random() % static_cast<uint64_t>(most)); };
   for (size_t i = 0; i < drawn; ++i) {
@@ -130,6 +132,32 @@ TEST(Multirate, StreamsAreOneSignalHoweverTheyAreCut) {
       EXPECT_EQ(P::run(pair.one, 0, one, &one, state), qvxStatContextMismatch);
       EXPECT_TRUE(memory.isIntact()) << "bytes outside the record";
       EXPECT_EQ(pair.free(state), qvxStatOk);
+    }
+  });
+}
+
+// Outputs one by one, for longer than the memory of such calls holds their samples.
+TEST(Multirate, SingleGroupsInARow) {
+  forEachMultirate([](const auto& pair, const auto& multirate) {
+    using P = std::remove_cvref_t<decltype(pair)>;
+    using T = typename P::Sample;
+    Random random(seed());
+    for (const Case& c : {Case{63, {1, 0, 16, 3}}, Case{90, {2, 1, 41, 0}}, Case{20, {3, 0, 64, 63}}}) {
+      const Factors& f = c.factors;
+      SCOPED_TRACE(describe(pair.name, c));
+      const auto h = samples<typename P::Taps>(static_cast<size_t>(c.tapsLen), random);
+      std::vector<uint8_t> memory(static_cast<size_t>(multirate.size(c.tapsLen, f)));
+      auto* state = multirate.template build<typename P::State>(h, 0, f, static_cast<const T*>(nullptr), memory.data());
+      auto oracle = oracleOf(pair, state, h);
+      const auto up = static_cast<size_t>(f.up);
+      Upsampled<T> signal(f, std::vector<T>(static_cast<size_t>(f.delayLen(c.tapsLen))), h.size());
+      for (size_t call = 0; call < 100 && !testing::Test::HasFailure(); ++call) {
+        const auto x = samples<T>(static_cast<size_t>(f.down), random);
+        for (const T sample : x) signal.append(sample);
+        std::vector<T> y(up);
+        EXPECT_EQ(P::run(pair.block, 2, x.data(), y.data(), 1, state), qvxStatOk);
+        for (size_t j = 0; j < up; ++j) EXPECT_TRUE(oracle.agrees(y[j], signal.at(call * up + j), 2)) << "call " << call;
+      }
     }
   });
 }

@@ -113,6 +113,17 @@ TEST(IirIntegerTaps, DelayLinesRoundByTheirForm) {
   ASSERT_EQ(qvxsIIR_Direct_16s(&x, &y, 1, passing, 1, &line), qvxStatOk);
   EXPECT_EQ(y, 7);
   EXPECT_EQ(line, 0);
+  // What has grown beyond floats, until infinities cancel out, is the least integer.
+  const Qvx16s growing[] = {1, 0, 0, 0, -32767, 32767};
+  std::vector<Qvx16s> v(200, 1);
+  for (const bool inSections : {false, true}) {
+    Qvx32s lost[2] = {};
+    ASSERT_EQ(inSections ? qvxsIIR_BiQuadDirect_16s_I(v.data(), 200, growing, 1, lost)
+                         : qvxsIIR_Direct_16s_I(v.data(), 200, growing, 2, lost),
+              qvxStatOk);
+    EXPECT_EQ(lost[0], INT32_MIN);
+    EXPECT_EQ(lost[1], INT32_MIN);
+  }
   // With s = 1 and a1 of -1/2, a line of d0 leaves half of it, which may end in a half.
   const Qvx16s feedback[] = {0, 0, 1, -1};
   const Qvx16s feedbackSection[] = {0, 0, 0, 1, -1, 0};
