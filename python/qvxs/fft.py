@@ -210,7 +210,7 @@ def _or_scipy(transform):
             try:
                 return theirs(*args, **kwargs)
             except NotImplementedError:  # under this backend alone
-                # Not for every call: in SciPy 1.10 it corrupts the heap when threads call it, of four within 20000 calls each.
+                # Not for every call: in SciPy 1.10, four threads that make it 20000 times each corrupt the heap of most processes.
                 with scipy.fft.set_backend("scipy"):
                     return theirs(*args, **kwargs)
 

@@ -107,7 +107,7 @@ def test_what_is_left_to_scipy():
 
 
 def test_what_is_left_to_scipy_changes_no_backend(monkeypatch):
-    # From four threads, set_backend of SciPy 1.10 ended three of four processes.
+    # Called from four threads, 20000 times by each, that of SciPy 1.10 ended 8 processes of 12.
     monkeypatch.setattr(scipy.fft, "set_backend", None)
     x = noise(12, "d")
     agree(qvxs.fft.dct(x, 1), scipy.fft.dct(x, 1))
