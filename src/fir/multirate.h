@@ -143,10 +143,13 @@ template <int kLanes, class F> void forEachLaneGroup(const Ratio& q, F f) {
 }
 // How many there are; 0 where rows are faster: few branches, which is fewer than 16 for two lanes (3:2 by rows takes 0.7 of the
 // time); rows with taps enough to share the vectors of samples; lanes of which most stay empty, unless a branch has so few taps
-// that calling for it costs more, about as much as 100 products of vectors.
+// that calling for it costs more, about as much as 100 products of vectors. Two reals in a vector have two vectors of samples to
+// load for three by rows: 160:147 takes 0.4 of the time at 1 tap of a branch, 1.2 to 1.4 at 13.
 template <class C> int laneGroups(const Ratio& q) {
   constexpr int kLanes = Lanewise<C>::kLanes;
   if (!Lanewise<C>::kPays || q.up < (kLanes == 2 ? 16 : kLanes)) return 0;
+  constexpr bool kIsPairOfReals = kLanes == 2 && PartsOf<C>::kCount == 1;
+  if (kIsPairOfReals && q.taps > 6) return 0;
   int count = 0;
   forEachLaneGroup<kLanes>(q, [&](const LaneGroup&) { ++count; });
   const int64_t lanes = q.up / count;
@@ -214,10 +217,14 @@ template <class R> bool placeRows(R& record, Carver& carver, const Qvx8u* begin,
 
 // The most outputs of a call that are added up one by one. Rows give vectors of outputs; those of two are cheap, unless their
 // taps are few and few outputs make a vector; those of several branches are not: in AVX2 42 outputs of 32 taps each take 0.75 of
-// the time one by one, but doubles of 128 taps 1.1.
+// the time one by one, doubles of 128 taps 1.1, and 63 doubles of 6 to 22 taps 0.75. In SSSE3 as many 16-bit outputs of several
+// branches take 0.5 to 0.65 of it, 16 of one branch 0.6.
 template <class C> int mostDots(const Ratio& q) {
   constexpr int N = kVectorElements<C>;
   constexpr bool kIsLong = kVectorBytes > 16;
+  if (std::is_integral_v<C> && kVectorBytes <= 32 && q.up > 1) return 64;
+  if (std::is_integral_v<C> && !kIsLong && q.down > 2) return 16;
+  if (N <= 4 && kIsLong && q.up > 1 && q.taps <= 32) return 64;
   if (q.down == 2) return kIsLong && N <= 8 && q.taps <= 16 ? 32 : 8;
   constexpr int kMost = std::clamp(N, 8, 16);
   if (q.up == 1) return kVectorBytes == 32 && q.taps < 64 ? 16 : kMost;
