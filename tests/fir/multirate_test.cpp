@@ -332,6 +332,16 @@ TEST(Multirate, OfOneRateIsARecordOfOneRate) {
   });
 }
 
+TEST(Multirate, RefusesAPhaseThatIsItsFactor) {
+  const Qvx32f h[] = {1, 2, 3};
+  QvxsFIRState_32f* state = nullptr;
+  EXPECT_EQ(qvxsFIRMRInitAlloc_32f(&state, h, 3, 2, 2, 3, 0, nullptr), qvxStatBadMRPhase);
+  EXPECT_EQ(qvxsFIRMRInitAlloc_32f(&state, h, 3, 2, 0, 3, 3, nullptr), qvxStatBadMRPhase);
+  Qvx32f x[3] = {}, y[2] = {}, line[2] = {};
+  EXPECT_EQ(qvxsFIRMR_Direct_32f(x, y, 1, h, 3, 2, 2, 3, 0, line), qvxStatBadMRPhase);
+  EXPECT_EQ(qvxsFIRMR_Direct_32f(x, y, 1, h, 3, 2, 0, 3, 3, line), qvxStatBadMRPhase);
+}
+
 // Integer taps are held in records whose functions know one rate.
 TEST(Multirate, IsNotForIntegerTaps) {
   const Qvx64f h[] = {1, 2, 3};
