@@ -73,9 +73,8 @@ int measureFamily(const std::string& name, const std::string& filter, bool brief
 
 bench::Face bestFace() {
   return {"Performance",
-          "The other variants beside peers of their level: [AVX2](performance-w3.md), [SSSE3](performance-u8.md). The same "
-          "variant on a\n"
-          "processor of another make: [performance-other.md](performance-other.md)."};
+          "The other variants beside peers of their level: [AVX2](performance-w3.md), [SSSE3](performance-u8.md).\n"
+          "The same variant on a processor of another make: [performance-other.md](performance-other.md)."};
 }
 
 // The page of the best variant on a second processor.
