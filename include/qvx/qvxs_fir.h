@@ -228,6 +228,8 @@ QVXS_API(QvxStatus, qvxsFIRStreamGetStateSize_32f, (int tapsLen, int* pSize));
 /** Filters numIters samples from pSrc to pDst, or in place; qvxsFIROne filters a single one. Any alignment; pSrc and pDst may not
  *  overlap.
  *  Results of 16s, 16sc, 32s, 32sc are scaled by 2^-scaleFactor and saturated, of float arithmetic rounded to nearest even first.
+ *  Where that factor overflows to infinity, at -128 and less in 32-bit float arithmetic and at -1024 and less from 64f to 32s, 0
+ *  becomes NaN and then the upper limit.
  *  Of integer arithmetic, the sum is multiplied by 2^s with s = tapsFactor - scaleFactor: s below 0 rounds to nearest even, and
  *  counts as -31 if it is less; s above 0 wraps at 32 bits, and from 32 on gives 0.
  *  Accuracy: float sums are added in an order that depends on the call. With noise, a result is off by 2.5 eps of the sum of
