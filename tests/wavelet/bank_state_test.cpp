@@ -4,23 +4,8 @@
 
 namespace {
 
+using namespace tests;
 using reference::Filter;
-using tests::describe;
-using tests::forEachForward;
-using tests::forEachInverse;
-using tests::Guarded;
-using tests::InverseStage;
-using tests::join;
-using tests::kForward;
-using tests::kInverse;
-using tests::kShapes;
-using tests::make;
-using tests::Random;
-using tests::samples;
-using tests::Shape;
-using tests::split;
-using tests::Stage;
-using tests::taps;
 
 // ---- delay lines
 

@@ -3,24 +3,9 @@
 
 namespace {
 
+using namespace tests;
 using reference::Filter;
 using reference::Sum;
-using tests::cutOf;
-using tests::describe;
-using tests::forEachForward;
-using tests::forEachInverse;
-using tests::InverseStage;
-using tests::join;
-using tests::kForward;
-using tests::kInverse;
-using tests::kShapes;
-using tests::make;
-using tests::Random;
-using tests::samples;
-using tests::Shape;
-using tests::split;
-using tests::Stage;
-using tests::taps;
 
 constexpr double kEps = 0x1p-24;
 
