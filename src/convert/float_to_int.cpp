@@ -8,7 +8,7 @@
 #include "frame/power.h"
 #include "frame/rounding.h"
 #include "frame/to_int.h"
-#include "frame/whole.h"
+#include "frame/to_int64.h"
 
 using namespace qvx;
 

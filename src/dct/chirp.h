@@ -1,7 +1,7 @@
 // Lengths that no plan serves: a convolution with a chirp, with the period that the spectrum of n real numbers needs.
 //
 // With c[m] = exp(-pi i m^2 / n), exp(-2 pi i j k / n) = c[j] c[k] conj c[k - j]. The spectrum V of the numbers in halves
-// (turn.h) is needed up to k = n/2, so a period of n + n/2 serves both directions:
+// (even.h) is needed up to k = n/2, so a period of n + n/2 serves both directions:
 //
 //   V[k] = c[k] * sum over j of (v[j] c[j]) conj c[k - j]
 //   y[k] = re t[k] V[k]     y[n - k] = -im t[k] V[k]     t[k] = sqrt(2/n) exp(-2 pi i k / (4n)), sqrt(1/n) at 0
@@ -9,8 +9,8 @@
 // and, read backwards, v[j] = re c[j] * sum over k of (t[k] c[k] (y[k] + i y[n - k])) conj c[j - k].
 #pragma once
 
+#include "dct/even.h"
 #include "dct/plan.h"
-#include "dct/turn.h"
 #include "dft/precise.h"
 #include "fft/adapter.h"
 
@@ -20,7 +20,7 @@ template <class T> struct Chirp {
   size_t period;
   const dft::ComplexPlan<T>* plan;
   const T* chirp;     // c[j], j < n, in pairs
-  const T* turns;     // t[k] c[k], k <= n/2, in pairs
+  const T* twiddles;  // t[k] c[k], k <= n/2, in pairs
   const T* spectrum;  // of conj c over the period, divided by its length; in pairs
 };
 
@@ -52,7 +52,7 @@ template <class T>
 void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool isPrecise, Carver& tables, Qvx8u* work) {
   const size_t half = n / 2;
   T* const c = tables.take<T>(static_cast<int64_t>(2 * n));
-  T* const turns = tables.take<T>(static_cast<int64_t>(2 * (half + 1)));
+  T* const twiddles = tables.take<T>(static_cast<int64_t>(2 * (half + 1)));
   using Wide = dft::Wider<T>;
   T* const spectrum = isPrecise ? tables.take<T, Carver::kRecordAlignment>(static_cast<int64_t>(2 * period))
                                 : tables.take<T>(static_cast<int64_t>(2 * period));
@@ -64,8 +64,8 @@ void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool i
       [=](size_t k, double re, double im) {
         // A number that is its own mirror image counts once.
         const long double f = k == 0 ? factor * std::sqrt(0.5L) : isInverse && 2 * k == n ? factor / 2 : factor;
-        turns[2 * k] = static_cast<T>(f * re);
-        turns[2 * k + 1] = static_cast<T>(f * im);
+        twiddles[2 * k] = static_cast<T>(f * re);
+        twiddles[2 * k + 1] = static_cast<T>(f * im);
       });
   const size_t before = isInverse ? half : n - 1;
   const size_t after = isInverse ? n - 1 : half;
@@ -79,7 +79,7 @@ void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool i
   if (!isPrecise) {
     std::fill_n(spectrum, 2 * period, T(0));
     fill([=](size_t at, Wide re, Wide im) { spectrum[2 * at] = static_cast<T>(re), spectrum[2 * at + 1] = static_cast<T>(im); });
-    chirp = {period, makePlan<T>(period, tables, work), c, turns, spectrum};
+    chirp = {period, makePlan<T>(period, tables, work), c, twiddles, spectrum};
     dft::run(*chirp.plan, false, spectrum, spectrum, work);
     return;
   }
@@ -90,7 +90,7 @@ void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool i
   const dft::PreciseTransform transform(period);
   transform.run(re, im);
   transform.forEachResult<T>(re, im, [=](size_t k, T zRe, T zIm) { spectrum[2 * k] = zRe, spectrum[2 * k + 1] = zIm; });
-  chirp = {period, makePlan<T>(period, tables, work), c, turns, spectrum};
+  chirp = {period, makePlan<T>(period, tables, work), c, twiddles, spectrum};
 }
 
 // Pairs of numbers, in place: by those of another vector.
@@ -112,7 +112,7 @@ template <class T> void forwardByChirp(const Chirp<T>& chirp, size_t n, const T*
   }
   std::fill(z + 2 * n, z + 2 * period, T(0));
   convolve(chirp, z, work.rest());
-  const T* const t = chirp.turns;
+  const T* const t = chirp.twiddles;
   for (size_t k = 0; k <= n / 2; ++k) {
     const T re = t[2 * k] * z[2 * k] - t[2 * k + 1] * z[2 * k + 1];
     const T im = t[2 * k] * z[2 * k + 1] + t[2 * k + 1] * z[2 * k];
@@ -124,7 +124,7 @@ template <class T> void forwardByChirp(const Chirp<T>& chirp, size_t n, const T*
 template <class T> void inverseByChirp(const Chirp<T>& chirp, size_t n, const T* y, T* x, Carver work) {
   const size_t period = chirp.period;
   T* const z = work.take<T>(static_cast<int64_t>(2 * period));
-  const T* const t = chirp.turns;
+  const T* const t = chirp.twiddles;
   for (size_t k = 0; k <= n / 2; ++k) {
     const T re = y[k];
     const T im = k == 0 ? T(0) : y[n - k];

@@ -31,7 +31,7 @@ template <class T_, bool kInverse_, uint32_t kIdentity> struct Spec : RecordHead
     const Rows<T>* rows;
     const Chirp<T>* chirp;
   };
-  const T* turns;  // of kHalf, kOdd
+  const T* twiddles;  // of kHalf, kOdd
 };
 
 template <class Record> QvxStatus check(const Record* spec) { return checkRecord(spec, Record::kId); }
@@ -44,7 +44,7 @@ inline constexpr int64_t kWorkOnStack = 4096;
 template <class T> Needs needsOfHalf(size_t n) {
   const auto plan = needsOfPlan<T>(n / 2);
   const int64_t numbers = sizeof(T);
-  return {plan.tables + static_cast<int64_t>(turnTableLength<T>(n)) * numbers, plan.work + static_cast<int64_t>(n) * numbers,
+  return {plan.tables + static_cast<int64_t>(evenTableLength<T>(n)) * numbers, plan.work + static_cast<int64_t>(n) * numbers,
           plan.way == dft::Way::kConvolution ? plan.work : 0};
 }
 
@@ -107,9 +107,9 @@ template <class Record> [[gnu::noinline]] void writeWay(Record& spec, Sizes size
     case Way::kKernel:
       break;
     case Way::kHalf: {
-      T* const turns = tables.take<T>(static_cast<int64_t>(turnTableLength<T>(n)));
-      writeTurns(turns, n);
-      spec.turns = turns;
+      T* const twiddles = tables.take<T>(static_cast<int64_t>(evenTableLength<T>(n)));
+      writeEvenTwiddles(twiddles, n);
+      spec.twiddles = twiddles;
       spec.plan = makePlan<T>(n / 2, tables, making);
       break;
     }
@@ -120,9 +120,9 @@ template <class Record> [[gnu::noinline]] void writeWay(Record& spec, Sizes size
       break;
     }
     case Way::kOdd: {
-      T* const turns = tables.take<T>(spec.len);
-      writeOddTurns(turns, n);
-      spec.turns = turns;
+      T* const twiddles = tables.take<T>(spec.len);
+      writeOddTwiddles(twiddles, n);
+      spec.twiddles = twiddles;
       spec.plan = makePlan<T>(n, tables, making);
       break;
     }
@@ -181,26 +181,26 @@ template <class Record, class T> void halfTransform(const Record& spec, const T*
   const auto n = static_cast<size_t>(spec.len);
   T* const v = work.take<T>(spec.len);
   if constexpr (Record::kInverse) {
-    cosinesToSpectrum(src, v, n, spec.turns, spec.mean);
+    cosinesToSpectrum(src, v, n, spec.twiddles, spec.mean);
     run(*spec.plan, true, v, v, work.rest());
     fromHalves(v, dst, n);
   } else {
     toHalves(src, v, n);
     run(*spec.plan, false, v, v, work.rest());
-    spectrumToCosines(v, dst, n, spec.turns, spec.mean);
+    spectrumToCosines(v, dst, n, spec.twiddles, spec.mean);
   }
 }
 template <class Record, class T> void oddTransform(const Record& spec, const T* src, T* dst, Carver work) {
   const auto n = static_cast<size_t>(spec.len);
   T* const z = work.take<T>(2 * int64_t{spec.len});
   if constexpr (Record::kInverse) {
-    cosinesToSpectrumOdd(src, z, n, spec.turns, spec.mean);
+    cosinesToSpectrumOdd(src, z, n, spec.twiddles, spec.mean);
     run(*spec.plan, true, z, z, work.rest());
     fromPoints(z, dst, n);
   } else {
     toPoints(src, z, n);
     run(*spec.plan, false, z, z, work.rest());
-    spectrumToCosinesOdd(z, dst, n, spec.turns, spec.mean);
+    spectrumToCosinesOdd(z, dst, n, spec.twiddles, spec.mean);
   }
 }
 

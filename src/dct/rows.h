@@ -10,7 +10,7 @@
 
 #include <numeric>
 
-#include "dct/turn.h"
+#include "dct/even.h"
 
 namespace qvx::dct {
 
@@ -22,12 +22,12 @@ template <class T> struct Rows {
   uint8_t step;   // from a number's cosines to the next one's
   const T* cosines;
   const T* sines;
-  const T* turns;          // sqrt(2/n) exp(-2 pi i k / (4n)) of each result: a row of real parts, a row of imaginary ones
-  const T* meanTurns;      // of the results made of means, in pairs; the first one's is sqrt(1/n)
-  const T* twiddles;       // as turns, from row 1 on; null where q and r have no common factor
-  const T* roots;          // exp(-2 pi i j / q) in pairs
-  const uint8_t* source;   // of each row: where its number 0 is in the sequence, its numbers j, its numbers -j
-  const uint8_t* results;  // k: row by row, h each, then those made of means
+  const T* resultTwiddles;  // sqrt(2/n) exp(-2 pi i k / (4n)) of each result: a row of real parts, a row of imaginary ones
+  const T* meanTwiddles;    // of the results made of means, in pairs; the first one's is sqrt(1/n)
+  const T* twiddles;        // as resultTwiddles, from row 1 on; null where q and r have no common factor
+  const T* columnTwiddles;  // exp(-2 pi i j / q) in pairs
+  const uint8_t* source;    // of each row: where its number 0 is in the sequence, its numbers j, its numbers -j
+  const uint8_t* results;   // k: row by row, h each, then those made of means
 };
 
 // A large prime factor, or else the odd factor that leaves the fewest rows within the room there is.
@@ -123,7 +123,7 @@ template <class T> void writePlaces(const Rows<T>& rows, size_t n, const uint8_t
   }
 }
 
-template <class T> void writeRowTurns(const Rows<T>& rows, size_t n, T* turns, T* meanTurns) {
+template <class T> void writeResultTwiddles(const Rows<T>& rows, size_t n, T* resultTwiddles, T* meanTwiddles) {
   const size_t h = rows.h;
   const size_t width = rows.width;
   const uint8_t* const results = rows.results;
@@ -132,7 +132,7 @@ template <class T> void writeRowTurns(const Rows<T>& rows, size_t n, T* turns, T
   writeTwiddles(
       4 * n, rows.q * width, [=](size_t i) { return i % width < h ? size_t{results[i / width * h + i % width]} : 0; },
       [=](size_t i, double re, double im) {
-        T* const at = turns + i / width * 2 * width + i % width;
+        T* const at = resultTwiddles + i / width * 2 * width + i % width;
         at[0] = static_cast<T>(i % width < h ? factor * re : 0);
         at[width] = static_cast<T>(i % width < h ? factor * im : 0);
       });
@@ -140,8 +140,8 @@ template <class T> void writeRowTurns(const Rows<T>& rows, size_t n, T* turns, T
       4 * n, rows.q, [=](size_t i) { return size_t{ofMeans[i]}; },
       [=](size_t i, double re, double im) {
         const long double f = ofMeans[i] == 0 ? factor * std::sqrt(0.5L) : factor;
-        meanTurns[2 * i] = static_cast<T>(f * re);
-        meanTurns[2 * i + 1] = static_cast<T>(f * im);
+        meanTwiddles[2 * i] = static_cast<T>(f * re);
+        meanTwiddles[2 * i + 1] = static_cast<T>(f * im);
       });
 }
 
@@ -167,9 +167,9 @@ template <class T> void writeRows(Rows<T>& rows, size_t n, Carver& tables) {
   };
   T* const cosines = carve(columnTableLength(rows), rows.cosines);
   T* const sines = carve(columnTableLength(rows), rows.sines);
-  T* const turns = carve(2 * q * rows.width, rows.turns);
-  T* const meanTurns = carve(2 * q, rows.meanTurns);
-  T* const roots = carve(2 * q, rows.roots);
+  T* const resultTwiddles = carve(2 * q * rows.width, rows.resultTwiddles);
+  T* const meanTwiddles = carve(2 * q, rows.meanTwiddles);
+  T* const columnTwiddles = carve(2 * q, rows.columnTwiddles);
   T* const twiddles = hasTwiddles(rows) ? carve(2 * (q - 1) * rows.width, rows.twiddles) : nullptr;
   uint8_t* const source = carve(n, rows.source);
   uint8_t* const results = carve(q * (rows.h + size_t{1}), rows.results);
@@ -178,9 +178,9 @@ template <class T> void writeRows(Rows<T>& rows, size_t n, Carver& tables) {
   writeResidues(rows.r, residue);
   writeColumnTables(rows, residue, cosines, sines);
   writeTwiddles(
-      q, q, [](size_t j) { return j; }, transform::intoPairs(roots));
+      q, q, [](size_t j) { return j; }, transform::intoPairs(columnTwiddles));
   writePlaces(rows, n, residue, source, results);
-  writeRowTurns(rows, n, turns, meanTurns);
+  writeResultTwiddles(rows, n, resultTwiddles, meanTwiddles);
   if (twiddles != nullptr) writeRowTwiddles(rows, n, residue, twiddles);
 }
 
@@ -205,14 +205,15 @@ template <class V> QVX_INLINE V columnSum(const LaneOf<V>* x, const LaneOf<V>* t
   return sum[0] + sum[1];
 }
 
-// The sum of z[j] * roots[j k] down q rows; inverse, with the conjugates of the roots.
+// The sum of z[j] * columnTwiddles[j k] down q rows; inverse, with their conjugates.
 template <bool kInverse, class V>
-QVX_INLINE Complex<V> columnTransform(const Complex<V>* z, size_t q, size_t k, const LaneOf<V>* roots) {
+QVX_INLINE Complex<V> columnTransform(const Complex<V>* z, size_t q, size_t k, const LaneOf<V>* columnTwiddles) {
   Complex<V> sum = z[0];
   for (size_t j = 1, at = k; j < q; ++j, at = at + k < q ? at + k : at + k - q) {
-    const Complex<V> root{same<V>(roots[2 * at]), same<V>(kInverse ? -roots[2 * at + 1] : roots[2 * at + 1])};
-    sum.re = hn::NegMulAdd(z[j].im, root.im, hn::MulAdd(z[j].re, root.re, sum.re));
-    sum.im = hn::MulAdd(z[j].re, root.im, hn::MulAdd(z[j].im, root.re, sum.im));
+    const Complex<V> twiddle{same<V>(columnTwiddles[2 * at]),
+                             same<V>(kInverse ? -columnTwiddles[2 * at + 1] : columnTwiddles[2 * at + 1])};
+    sum.re = hn::NegMulAdd(z[j].im, twiddle.im, hn::MulAdd(z[j].re, twiddle.re, sum.re));
+    sum.im = hn::MulAdd(z[j].re, twiddle.im, hn::MulAdd(z[j].im, twiddle.re, sum.im));
   }
   return sum;
 }
@@ -245,10 +246,10 @@ template <class T> void forwardByRows(const Rows<T>& rows, size_t n, const T* x,
     y[k] = re;
   };
   for (size_t row = 0; row < q; ++row) {
-    const auto z = columnTransform<false>(means, q, row, rows.roots);
-    const auto turned = transform::product(
-        z, Complex<Vec<Lanes<T, 1>>>{load(one, rows.meanTurns + 2 * row), load(one, rows.meanTurns + 2 * row + 1)});
-    put(rows.results[q * h + row], hn::GetLane(turned.re), hn::GetLane(turned.im));
+    const auto z = columnTransform<false>(means, q, row, rows.columnTwiddles);
+    const auto result = transform::product(
+        z, Complex<Vec<Lanes<T, 1>>>{load(one, rows.meanTwiddles + 2 * row), load(one, rows.meanTwiddles + 2 * row + 1)});
+    put(rows.results[q * h + row], hn::GetLane(result.re), hn::GetLane(result.im));
   }
   withColumnLanes<T>(h, [&](auto L) {
     using V = Vec<Lanes<T, L>>;
@@ -265,12 +266,12 @@ template <class T> void forwardByRows(const Rows<T>& rows, size_t n, const T* x,
           z[row] = transform::product(z[row], column(rows.twiddles + (row - 1) * 2 * rows.width + i));
       }
       for (size_t row = 0; row < q; ++row) {
-        const auto turned =
-            transform::product(columnTransform<false>(z, q, row, rows.roots), column(rows.turns + row * 2 * rows.width + i));
+        const auto result = transform::product(columnTransform<false>(z, q, row, rows.columnTwiddles),
+                                               column(rows.resultTwiddles + row * 2 * rows.width + i));
         T re[L];
         T im[L];
-        store(turned.re, d, re);
-        store(turned.im, d, im);
+        store(result.re, d, re);
+        store(result.im, d, im);
         const uint8_t* k = rows.results + row * h + i;
         for (size_t lane = 0; lane < std::min<size_t>(L, h - i); ++lane) put(k[lane], re[lane], im[lane]);
       }
@@ -293,9 +294,10 @@ template <class T> void inverseByRows(const Rows<T>& rows, size_t n, const T* y,
     const T f = k == 0 ? T(1) : T(0.5);
     const Complex<Vec<Lanes<T, 1>>> z{hn::Set(one, f * y[k]), hn::Set(one, k == 0 ? T(0) : -f * y[n - k])};
     ends[row] = productWithConjugate(
-        z, Complex<Vec<Lanes<T, 1>>>{load(one, rows.meanTurns + 2 * row), load(one, rows.meanTurns + 2 * row + 1)});
+        z, Complex<Vec<Lanes<T, 1>>>{load(one, rows.meanTwiddles + 2 * row), load(one, rows.meanTwiddles + 2 * row + 1)});
   }
-  for (size_t row = 0; row < q; ++row) firsts[row] = means[row] = hn::GetLane(columnTransform<true>(ends, q, row, rows.roots).re);
+  for (size_t row = 0; row < q; ++row)
+    firsts[row] = means[row] = hn::GetLane(columnTransform<true>(ends, q, row, rows.columnTwiddles).re);
   T sequence[kLongestByRows];
   withColumnLanes<T>(h, [&](auto L) {
     using V = Vec<Lanes<T, L>>;
@@ -314,10 +316,10 @@ template <class T> void inverseByRows(const Rows<T>& rows, size_t n, const T* y,
           a[lane] = y[k[lane]];
           b[lane] = -y[n - k[lane]];
         }
-        z[row] = productWithConjugate(Complex<V>{load(d, a), load(d, b)}, column(rows.turns + row * 2 * width + i));
+        z[row] = productWithConjugate(Complex<V>{load(d, a), load(d, b)}, column(rows.resultTwiddles + row * 2 * width + i));
       }
       for (size_t row = 0; row < q; ++row) {
-        auto w = columnTransform<true>(z, q, row, rows.roots);
+        auto w = columnTransform<true>(z, q, row, rows.columnTwiddles);
         if (row > 0 && !isNull(rows.twiddles)) w = productWithConjugate(w, column(rows.twiddles + (row - 1) * 2 * width + i));
         store(w.re, d, re + row * width + i);
         store(w.im, d, im + row * width + i);

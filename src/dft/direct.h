@@ -155,13 +155,13 @@ template <size_t L, class T> QVX_INLINE void directForward(const DirectPlan<T>& 
   const size_t row = plan.rowLength(true);
   const V minusI = alternating<V>() * same<V>(T(-1));
   for (size_t at = 0; at < 2 * (half + 1); at += L) {
-    const T* roots = plan.rows + at;
-    V sums = load(d, roots) * same<V>(src[0]);
+    const T* coefficients = plan.rows + at;
+    V sums = load(d, coefficients) * same<V>(src[0]);
     V sums2 = hn::Zero(d);
     // x + y where there is a cosine, y - x where a sine: the lanes of x times 1 and -1 in turn.
     const auto take = [&](size_t k, V & to) __attribute__((always_inline)) {
-      roots += row;
-      to = hn::MulAdd(load(d, roots), hn::NegMulAdd(same<V>(src[k]), minusI, same<V>(src[n - k])), to);
+      coefficients += row;
+      to = hn::MulAdd(load(d, coefficients), hn::NegMulAdd(same<V>(src[k]), minusI, same<V>(src[n - k])), to);
     };
     size_t k = 1;
     for (; k + 1 <= pairs; k += 2) {
@@ -169,7 +169,7 @@ template <size_t L, class T> QVX_INLINE void directForward(const DirectPlan<T>& 
       take(k + 1, sums2);
     }
     if (k <= pairs) take(k, sums);
-    if (half > pairs) sums2 = hn::MulAdd(load(d, roots + row), same<V>(src[half]), sums2);
+    if (half > pairs) sums2 = hn::MulAdd(load(d, coefficients + row), same<V>(src[half]), sums2);
     putFirstLanes((sums + sums2) * same<V>(factor), d, dst + at, std::min(L, 2 * (half + 1) - at));
   }
   dst[1] = 0;
@@ -214,16 +214,16 @@ QVX_INLINE void directInverse(const DirectPlan<T>& plan, SpectrumLayout layout, 
   const V f = same<V>(2 * factor);
   // Sums with cosines and with sines, side by side.
   const auto sumsAt = [&](size_t at) __attribute__((always_inline)) {
-    const T* roots = plan.rows + at;
-    V sums = load(d, roots) * first;
+    const T* coefficients = plan.rows + at;
+    V sums = load(d, coefficients) * first;
     V sums2 = hn::Zero(d);
     size_t k = 0;
     for (; k + 2 <= pairs; k += 2) {
-      sums = hn::MulAdd(load(d, roots + (k + 1) * row), everyPair<V>(src + 2 * k), sums);
-      sums2 = hn::MulAdd(load(d, roots + (k + 2) * row), everyPair<V>(src + 2 * k + 2), sums2);
+      sums = hn::MulAdd(load(d, coefficients + (k + 1) * row), everyPair<V>(src + 2 * k), sums);
+      sums2 = hn::MulAdd(load(d, coefficients + (k + 2) * row), everyPair<V>(src + 2 * k + 2), sums2);
     }
-    if (k < pairs) sums = hn::MulAdd(load(d, roots + (k + 1) * row), everyPair<V>(src + 2 * k), sums);
-    if (half > pairs) sums2 = hn::MulAdd(load(d, roots + half * row), middle, sums2);
+    if (k < pairs) sums = hn::MulAdd(load(d, coefficients + (k + 1) * row), everyPair<V>(src + 2 * k), sums);
+    if (half > pairs) sums2 = hn::MulAdd(load(d, coefficients + half * row), middle, sums2);
     return sums + sums2;
   };
   constexpr size_t P = L / 2;

@@ -11,7 +11,7 @@ namespace qvx::dft {
 template <class T> using Wider = std::conditional_t<sizeof(T) == 4, double, long double>;
 
 // exp(-2 pi i k / n)
-template <class W> Complex<W> preciseRoot(size_t k, size_t n) {
+template <class W> Complex<W> preciseTwiddle(size_t k, size_t n) {
   using transform::detail::angleOf;
   using transform::detail::sineOrCosine;
   // By quarters of a turn, and from the nearer end of one.
@@ -44,15 +44,15 @@ class PreciseTransform {
     for (size_t i = 0; i < count_; ++i) {
       const size_t p = factors_[i];
       m /= p;
-      Complex<W> roots[kMost];
-      for (size_t j = 0; j < p; ++j) roots[j] = preciseRoot<W>(j, p);
-      const Complex<W> step = preciseRoot<W>(1, m * p);
-      Complex<W> turn = {};
+      Complex<W> radixTwiddles[kMost];
+      for (size_t j = 0; j < p; ++j) radixTwiddles[j] = preciseTwiddle<W>(j, p);
+      const Complex<W> step = preciseTwiddle<W>(1, m * p);
+      Complex<W> twiddle = {};
       for (size_t q = 0; q < m; ++q) {
-        turn = q % 64 == 0 ? preciseRoot<W>(q, m * p) : preciseProduct(turn, step);
+        twiddle = q % 64 == 0 ? preciseTwiddle<W>(q, m * p) : preciseProduct(twiddle, step);
         for (size_t at = q; at < n_; at += m * p) {
-          if (p == 2) pair(re + at, im + at, m, turn);
-          else several(re + at, im + at, m, p, roots, turn);
+          if (p == 2) pair(re + at, im + at, m, twiddle);
+          else several(re + at, im + at, m, p, radixTwiddles, twiddle);
         }
       }
     }
@@ -87,26 +87,26 @@ class PreciseTransform {
       }
     }
   }
-  template <class W> static void pair(W* re, W* im, size_t m, Complex<W> turn) {
-    const Complex<W> off = preciseProduct(Complex<W>{re[0] - re[m], im[0] - im[m]}, turn);
+  template <class W> static void pair(W* re, W* im, size_t m, Complex<W> twiddle) {
+    const Complex<W> off = preciseProduct(Complex<W>{re[0] - re[m], im[0] - im[m]}, twiddle);
     re[0] += re[m];
     im[0] += im[m];
     re[m] = off.re;
     im[m] = off.im;
   }
-  template <class W> static void several(W* re, W* im, size_t m, size_t p, const Complex<W>* roots, Complex<W> turn) {
+  template <class W> static void several(W* re, W* im, size_t m, size_t p, const Complex<W>* radixTwiddles, Complex<W> twiddle) {
     Complex<W> z[kMost];
     for (size_t k = 0; k < p; ++k) z[k] = {re[k * m], im[k * m]};
     Complex<W> power = {1, 0};
-    for (size_t j = 0; j < p; ++j, power = preciseProduct(power, turn)) {
+    for (size_t j = 0; j < p; ++j, power = preciseProduct(power, twiddle)) {
       Complex<W> sum = z[0];
       for (size_t k = 1; k < p; ++k) {
-        const Complex<W> term = preciseProduct(z[k], roots[j * k % p]);
+        const Complex<W> term = preciseProduct(z[k], radixTwiddles[j * k % p]);
         sum = {sum.re + term.re, sum.im + term.im};
       }
-      const Complex<W> turned = preciseProduct(sum, power);
-      re[j * m] = turned.re;
-      im[j * m] = turned.im;
+      const Complex<W> result = preciseProduct(sum, power);
+      re[j * m] = result.re;
+      im[j * m] = result.im;
     }
   }
 

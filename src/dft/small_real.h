@@ -11,20 +11,20 @@ namespace qvx::dft {
 constexpr bool isInRegisters(size_t n) { return n <= (n % 2 == 0 ? 30 : 15) || n == 36 || n == 40 || n == 48; }
 
 // f W^k of small_real.h, for any N = 2H.
-template <class T, size_t H, bool kInverse> struct RealRoots {
-  T root[H][4] = {};
-  constexpr RealRoots() {
+template <class T, size_t H, bool kInverse> struct SmallRealTwiddles {
+  T of[H][4] = {};
+  constexpr SmallRealTwiddles() {
     for (size_t k = 0; k < H; ++k) {
       const size_t turn = kInverse ? 6 * H - 4 * k : 2 * H + 4 * k;  // of 8H
       const double re = (kInverse ? 1 : 0.5) * cosineOfTurn(turn, 8 * H);
       const double im = (kInverse ? -1 : -0.5) * sineOfTurn(turn, 8 * H);
-      root[k][0] = root[k][1] = static_cast<T>(re);
-      root[k][2] = static_cast<T>(-im);
-      root[k][3] = static_cast<T>(im);
+      of[k][0] = of[k][1] = static_cast<T>(re);
+      of[k][2] = static_cast<T>(-im);
+      of[k][3] = static_cast<T>(im);
     }
   }
 };
-template <class T, size_t H, bool kInverse> alignas(64) inline constexpr RealRoots<T, H, kInverse> kRealRoots;
+template <class T, size_t H, bool kInverse> alignas(64) inline constexpr SmallRealTwiddles<T, H, kInverse> kSmallRealTwiddles;
 
 template <size_t H, class T> [[gnu::noinline]] void forwardInRegisters(SpectrumLayout layout, const T* src, T* dst, T factor) {
   constexpr size_t N = 2 * H;
@@ -37,7 +37,7 @@ template <size_t H, class T> [[gnu::noinline]] void forwardInRegisters(SpectrumL
   T* const pairs = dst + placeOfPair(layout, N, 1) - 2;
   unrolled<(H - 1) / 2>([&](auto i) __attribute__((always_inline)) {
     constexpr size_t k = i + 1;
-    recombinePairs<false>(z[k].v, z[H - k].v, kRealRoots<T, H, false>.root[k]);
+    recombinePairs<false>(z[k].v, z[H - k].v, kSmallRealTwiddles<T, H, false>.of[k]);
     store(z[k].v * f, d, pairs + 2 * k);
     store(z[H - k].v * f, d, pairs + 2 * (H - k));
   });
@@ -63,7 +63,7 @@ template <size_t H, class T> [[gnu::noinline]] void inverseInRegisters(SpectrumL
   unrolled<H - 1>([&](auto k) __attribute__((always_inline)) { z[k + 1].v = load(d, pairs + 2 * (k + 1)); });
   unrolled<(H - 1) / 2>([&](auto i) __attribute__((always_inline)) {
     constexpr size_t k = i + 1;
-    recombinePairs<true>(z[k].v, z[H - k].v, kRealRoots<T, H, true>.root[k]);
+    recombinePairs<true>(z[k].v, z[H - k].v, kSmallRealTwiddles<T, H, true>.of[k]);
   });
   if constexpr (H % 2 == 0) z[H / 2].v = z[H / 2].v * alternating<V, 4>();
   anyDft(z);

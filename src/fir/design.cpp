@@ -64,10 +64,10 @@ double gainAt(const Qvx64f* taps, int n, Real frequency, bool isAntisymmetric) {
   const Frequency passes(frequency);
   Real sum = 0;
   forEachVector(n, [&](size_t i, V m, size_t count) {
-    const SinCos<V> turned = passes.at(m);
+    const SinCos<V> wave = passes.at(m);
     const V twice = hn::IfThenElse(m == hn::Zero(d), same<V>(1), same<V>(2));
     double parts[kLanes];
-    store(loadFirst(d, taps + i, count) * (isAntisymmetric ? turned.sine : turned.cosine) * twice, d, parts);
+    store(loadFirst(d, taps + i, count) * (isAntisymmetric ? wave.sine : wave.cosine) * twice, d, parts);
     for (size_t k = 0; k < count; ++k) sum += parts[k];
   });
   return static_cast<double>(std::abs(sum));

@@ -1,4 +1,4 @@
-// The residual of a quotient or a root, in its own precision.
+// The remainder of a quotient or a root, in its own precision.
 #pragma once
 
 #include "frame/simd.h"

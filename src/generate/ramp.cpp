@@ -2,7 +2,7 @@
 #include <cmath>
 
 #include "frame/map.h"
-#include "frame/places.h"
+#include "frame/lane_numbers.h"
 #include "frame/rounding.h"
 #include "frame/unroll.h"
 #include "math/sine.h"
@@ -49,7 +49,7 @@ template <class Lane, class T, class Kernel> [[gnu::flatten]] size_t inBlocks(T*
   constexpr size_t N = kVectorBytes / sizeof(Lane);
   constexpr size_t kTogether = 4;
   const Lanes<Lane, N> d;
-  auto numbers = placesOf(d);
+  auto numbers = laneNumbersOf(d);
   size_t at = 0;
   for (; at + kTogether * N < n; at += kTogether * N) {
     unrolled<kTogether>(

@@ -35,8 +35,8 @@ template <class T> void fill(T* dst, size_t n, double magn, double rFreq, double
   for (size_t from = 0; from < n; from += Angles::kBlock) {
     const size_t count = std::min(Angles::kBlock, n - from);
     T* const to = dst + from;
-    angles.each(turns, count,
-                [=](size_t at, auto sine, auto cosine, auto... rest) { putSamples(to, at, cosine, sine, rest...); });
+    angles.forEachVector(turns, count,
+                         [=](size_t at, auto sine, auto cosine, auto... rest) { putSamples(to, at, cosine, sine, rest...); });
     turns += blockStep;
     turns -= static_cast<double>(static_cast<int64_t>(turns));
   }

@@ -45,7 +45,7 @@ template <class T> Complex<V> loadWide(const T* p, size_t n) {
   }
 }
 
-SinCos<V> turned(double turns) { return sinCosOfTurns(same<V>(turns)); }
+SinCos<V> rotation(double turns) { return sinCosOfTurns(same<V>(turns)); }
 
 // a z + x
 template <class T> Complex<V> advanced(Complex<V> a, SinCos<V> z, Complex<V> x) {
@@ -58,7 +58,7 @@ template <size_t kCount, class T> [[gnu::noinline]] void transform(const T* src,
   SinCos<V> step[kCount];
   Complex<V> sums[kCount][kChains];
   unrolled<kCount>([&](auto k) {
-    step[k] = turned(components[k].frequency * static_cast<double>(S));
+    step[k] = rotation(components[k].frequency * static_cast<double>(S));
     unrolled<kChains>([&](auto c) { sums[k][c] = {hn::Zero(Lanes<double, N>()), hn::Zero(Lanes<double, N>())}; });
   });
   size_t at = 0;

@@ -52,16 +52,16 @@ inline constexpr auto kKernels = []<int... N>(std::integer_sequence<int, N...>) 
 
 // ---- The pass between the transforms of even lengths
 
-constexpr size_t turns(size_t n) { return n / 4; }
-inline size_t turnTableLength(size_t n) {
+constexpr size_t twiddleCount(size_t n) { return n / 4; }
+inline size_t twiddleTableLength(size_t n) {
   size_t length = 0;
-  withLanesWithin<Qvx32f>(turns(n), [&](auto L) { length = (turns(n) + L - 1) / L * 2 * L; });
+  withLanesWithin<Qvx32f>(twiddleCount(n), [&](auto L) { length = (twiddleCount(n) + L - 1) / L * 2 * L; });
   return length;
 }
-// W / n for each k from 1 to turns(n), in groups of L, so that the inverse transform of H points needs no factor.
-inline void writeTurns(Qvx32f* out, size_t n) {
+// W / n for each k from 1 to twiddleCount(n), in groups of L, so that the inverse transform of H points needs no factor.
+inline void writeHilbertTwiddles(Qvx32f* out, size_t n) {
   const double f = 1 / static_cast<double>(n);
-  const size_t count = turns(n);
+  const size_t count = twiddleCount(n);
   withLanesWithin<Qvx32f>(count, [=](auto L) {
     transform::writeTwiddles(
         n, (count + L - 1) / L * L, [=](size_t i) { return std::min(i / L * L, count - L) + i % L + 1; },
@@ -70,11 +70,11 @@ inline void writeTurns(Qvx32f* out, size_t n) {
 }
 
 // In place.
-inline void turn(Qvx32f* z, size_t n, const Qvx32f* table) {
+inline void multiplyByMinusI(Qvx32f* z, size_t n, const Qvx32f* table) {
   using transform::conjugate;
   using transform::mirrored;
   const size_t h = n / 2;
-  withLanesWithin<Qvx32f>(turns(n), [=](auto L) {
+  withLanesWithin<Qvx32f>(twiddleCount(n), [=](auto L) {
     const transform::Interleaved<Qvx32f, false> points{z};
     const Qvx32f* at = table;
     const auto get = [&](size_t i) __attribute__((always_inline)) {
@@ -91,7 +91,7 @@ inline void turn(Qvx32f* z, size_t n, const Qvx32f* table) {
       points.template putInOrder<L>(mirrored(decltype(s){hn::Neg(s.re), s.im}), h - i - L);
     };
     // The last vectors overlap those before, so they are loaded first.
-    const size_t count = turns(n);
+    const size_t count = twiddleCount(n);
     const size_t whole = count / L * L;
     const auto last = get(count - L);
     for (size_t i = 0; i < whole; i += L) put(get(i), i);
@@ -102,7 +102,7 @@ inline void turn(Qvx32f* z, size_t n, const Qvx32f* table) {
 }
 
 // Multiplies by -i, in place, the spectrum of an odd number n of real numbers, packed with the first number alone.
-inline void turnPairs(Qvx32f* spectrum, size_t n) {
+inline void multiplyPairsByMinusI(Qvx32f* spectrum, size_t n) {
   spectrum[0] = 0;
   for (size_t k = 1; k < n; k += 2) {
     const Qvx32f re = spectrum[k];

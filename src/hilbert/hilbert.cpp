@@ -16,9 +16,9 @@ template <uint32_t kIdentity> struct Spec : RecordHead {
   int32_t len;
   int64_t workSize;  // of a transform
   // Above the lengths of matrices:
-  const HalfPlan* half;  // of len / 2 points, for even lengths
-  const OddPlan* odd;    // of len numbers
-  const Qvx32f* turns;   // see analytic.h; for even lengths
+  const HalfPlan* half;    // of len / 2 points, for even lengths
+  const OddPlan* odd;      // of len numbers
+  const Qvx32f* twiddles;  // see analytic.h; for even lengths
 };
 
 }  // namespace
@@ -45,7 +45,7 @@ template <class Record> QvxStatus initAlloc(Record** ppSpec, int len) {
   const auto n = static_cast<size_t>(len);
   const bool isShort = len <= kLongestByMatrix;
   const bool isEven = len % 2 == 0;
-  const int64_t table = isShort || !isEven ? 0 : static_cast<int64_t>(turnTableLength(n) * sizeof(Qvx32f)) + Carver::kLine;
+  const int64_t table = isShort || !isEven ? 0 : static_cast<int64_t>(twiddleTableLength(n) * sizeof(Qvx32f)) + Carver::kLine;
   const dft::TransformBytes bytes = isShort  ? dft::TransformBytes()
                                     : isEven ? dft::transformBytes<HalfPlan>(len / 2)
                                              : dft::transformBytes<OddPlan>(len);
@@ -62,9 +62,9 @@ template <class Record> QvxStatus initAlloc(Record** ppSpec, int len) {
         spec.odd = dft::makeTransform<OddPlan>(len, QVX_FFT_SCALE_INV, tables.rest(), making.get());
         return qvxStatOk;
       }
-      auto* const turns = tables.takeLines<Qvx32f>(static_cast<int64_t>(turnTableLength(n)));
-      writeTurns(turns, n);
-      spec.turns = turns;
+      auto* const twiddles = tables.takeLines<Qvx32f>(static_cast<int64_t>(twiddleTableLength(n)));
+      writeHilbertTwiddles(twiddles, n);
+      spec.twiddles = twiddles;
       spec.half = dft::makeTransform<HalfPlan>(len / 2, QVX_FFT_SCALE_NONE, tables.rest(), making.get());
       return qvxStatOk;
     });
@@ -82,11 +82,11 @@ template <class Record> void hilbertOf(const Record& spec, const Qvx32f* x, Qvx3
     kKernels[n - 1](x, h);
   } else if (!isNull(spec.half)) {
     run(*spec.half, false, x, h, work);
-    turn(h, n, spec.turns);
+    multiplyByMinusI(h, n, spec.twiddles);
     run(*spec.half, true, h, h, work);
   } else {
     forward(*spec.odd, transform::SpectrumLayout::kPerm, x, h, work);
-    turnPairs(h, n);
+    multiplyPairsByMinusI(h, n);
     inverse(*spec.odd, transform::SpectrumLayout::kPerm, h, h, work);
   }
 }

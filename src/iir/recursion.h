@@ -64,7 +64,7 @@ template <class T> [[gnu::flatten]] void directStill(const T* taps, T* line, siz
       const size_t end = (t + kNow + order) * kParts;
       for (size_t place = (t + kNow) * kParts / kCount * kCount; place < end; place += kCount) {
         auto share = load(d, shares + place);
-        [[maybe_unused]] auto turned = hn::Zero(d);  // products with imaginary parts, all of which are exchanged at once
+        [[maybe_unused]] auto crossed = hn::Zero(d);  // products with imaginary parts, all of which are exchanged at once
         unrolled<kNow>([&](auto j) {
           const size_t from = place - (t + j) * kParts;
           const auto ofX = load(d, b + from);
@@ -72,11 +72,11 @@ template <class T> [[gnu::flatten]] void directStill(const T* taps, T* line, siz
           share = hn::MulAdd(ofX, hn::Set(d, realPart(x[j])), share);
           share = hn::NegMulAdd(ofY, hn::Set(d, realPart(y[j])), share);
           if constexpr (kParts == 2) {
-            turned = hn::MulAdd(ofX, hn::Set(d, x[j].im), turned);
-            turned = hn::NegMulAdd(ofY, hn::Set(d, y[j].im), turned);
+            crossed = hn::MulAdd(ofX, hn::Set(d, x[j].im), crossed);
+            crossed = hn::NegMulAdd(ofY, hn::Set(d, y[j].im), crossed);
           }
         });
-        if constexpr (kParts == 2) share = minusPlus(share, swapped(turned));
+        if constexpr (kParts == 2) share = minusPlus(share, swapped(crossed));
         store(share, d, shares + place);
       }
       t += kNow;

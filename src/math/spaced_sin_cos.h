@@ -37,14 +37,14 @@ template <class T> class SpacedAngles {
       store(convertLanes<T>(lanes.cosine * hn::Set(wide, scale)), Lanes<T, kWide>(), cosines_ + k);
     }
     vectorStep_ = kLanes * step;
-    const auto turned = sinCosOfTurns(fractionOfTurns(hn::Set(wide, kWide * vectorStep_)));
-    turnSine_ = hn::GetLane(turned.sine);
-    turnCosine_ = hn::GetLane(turned.cosine);
+    const auto rotation = sinCosOfTurns(fractionOfTurns(hn::Set(wide, kWide * vectorStep_)));
+    stepSine_ = hn::GetLane(rotation.sine);
+    stepCosine_ = hn::GetLane(rotation.cosine);
   }
 
   // put(at, sines, cosines) for whole vectors of `count` samples, kBlock at most, from the angle `start` on, and
   // put(at, sines, cosines, rest) for the last one, of which only `rest` lanes count.
-  template <class Put> [[gnu::always_inline]] void each(double start, size_t count, Put put) const {
+  template <class Put> [[gnu::always_inline]] void forEachVector(double start, size_t count, Put put) const {
     const Lanes<double, kWide> wide;
     const Lanes<T, kLanes> d;
     // First angles are computed 8 rotations before they are used: broadcasting one that has only just been stored waits for the
@@ -53,8 +53,8 @@ template <class T> class SpacedAngles {
     alignas(64) T firstCosines[kBlock / kLanes];
     const auto firsts = hn::MulAdd(hn::Iota(wide, 0), hn::Set(wide, vectorStep_), hn::Set(wide, start));
     auto first = sinCosOfTurns<kDigits>(fractionOfTurns(firsts));
-    const auto byS = hn::Set(wide, turnSine_);
-    const auto byC = hn::Set(wide, turnCosine_);
+    const auto byS = hn::Set(wide, stepSine_);
+    const auto byC = hn::Set(wide, stepCosine_);
     size_t made = 0;
     const auto makeFirsts = [&]() __attribute__((always_inline)) {
       store(convertLanes<T>(first.sine), Lanes<T, kWide>(), firstSines + made);
@@ -98,8 +98,8 @@ template <class T> class SpacedAngles {
   alignas(64) T sines_[kLanes];
   alignas(64) T cosines_[kLanes];
   double vectorStep_;
-  double turnSine_;
-  double turnCosine_;
+  double stepSine_;
+  double stepCosine_;
 };
 
 }  // namespace qvx

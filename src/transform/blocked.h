@@ -36,7 +36,7 @@ struct Range {
   size_t to;
 };
 
-// The twiddles of transforms down `rows` rows of `columns` points: of their passes, and those that turn row k of column c by
+// The twiddles of transforms down `rows` rows of `columns` points: of their passes, and those of row k of column c,
 // exp(-2 pi i k c / (rows * columns)), as products of one that depends on k and the column within its tile, and one on k and the
 // tile.
 template <class T> struct ColumnTwiddles {
@@ -51,13 +51,13 @@ template <class T> struct BlockedPlan {
 };
 
 // Where a vector of points is two cache lines, transforms out of place that the last-level cache still holds take two passes, and
-// no swap (turned.h).
-template <size_t L, class T> inline constexpr bool kTurns = sizeof(T) == 8 && L == 8;
-inline constexpr size_t kMostTurned = size_t{1} << 18;
+// no swap (transposed.h).
+template <size_t L, class T> inline constexpr bool kTransposes = sizeof(T) == 8 && L == 8;
+inline constexpr size_t kMostTransposed = size_t{1} << 18;
 
 // The levels of transforms down columns: where either way may be taken, those of the rows, whose results are the same to the bit.
 template <size_t L, class T> constexpr Levels columnLevels(size_t rows) {
-  if (!kTurns<L, T> || rows != kBlockPoints) return levelsFor(rows);
+  if (!kTransposes<L, T> || rows != kBlockPoints) return levelsFor(rows);
   const Levels rest = levelsFor(rows / L);
   Levels levels{static_cast<uint8_t>(rest.count + 1), {L}};
   std::copy_n(rest.radix, rest.count, levels.radix + 1);
@@ -81,7 +81,7 @@ T* writeColumnTwiddles(ColumnTwiddles<T>& twiddles, size_t rows, size_t columns,
   return alignedUp(tiles + n / C * 2, Carver::kLine);
 }
 
-// The twiddle that turns result `at` of a tile, its row and its column within the tile.
+// The twiddle of result `at` of a tile, its row and its column within the tile.
 template <size_t L, class T> QVX_INLINE auto twiddleAt(const T* lanes, const T* tile, size_t at) {
   const size_t row = at / kRowRadix<L>;
   return product(group<L>(lanes + 2 * at), tile[2 * row], tile[2 * row + 1]);
@@ -130,7 +130,7 @@ template <bool kAhead, size_t R, size_t L, class T, class Src>
           },
           [&](auto k, auto z) {
             T* const to = tile.at(q + k * part, at);
-            putGroup<L>(turnedBy<k>(z, twiddles), to);
+            putGroup<L>(timesTwiddle<k>(z, twiddles), to);
           });
     }
   }

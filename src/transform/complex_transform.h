@@ -74,8 +74,8 @@ template <class LaneOrder, class T> T* writePlan(ComplexPlan<T>& plan, size_t n,
   T* end = writePasses<LaneOrder>(plan.plan, kBlockPoints, block);
   end = writeColumnTwiddles<L, LaneOrder>(plan.blocked.outer, kBlockPoints, m * kBlockPoints, end);
   withBlockLanes<L, T>(m, [&](auto N) { end = writeColumnTwiddles<N, LaneOrder>(plan.blocked.inner, m, kBlockPoints, end); });
-  if constexpr (kTurns<L, T> && kIsInterleaved<LaneOrder>) {
-    if (n <= kMostTurned) end = writeTurnedTwiddles<L, LaneOrder>(m * kBlockPoints, end);
+  if constexpr (kTransposes<L, T> && kIsInterleaved<LaneOrder>) {
+    if (n <= kMostTransposed) end = writeTransposedTwiddles<L, LaneOrder>(m * kBlockPoints, end);
   }
   return end;
 }
@@ -92,9 +92,9 @@ template <class T, class Src, class Dst, class Scale>
   }
   if (plan.n > kLongestInCache<T>) {
     const size_t tile = static_cast<size_t>(plan.workBytes) / (2 * sizeof(T));
-    if constexpr (kTurns<L, T> && kIsInterleaved<Src>) {
-      if (plan.n <= kMostTurned && src.p != dst.p) {
-        return turnedTransform<L>(static_cast<size_t>(threads), plan.blocked, plan.n, tile, src, dst, y, factorOf<T>(scale));
+    if constexpr (kTransposes<L, T> && kIsInterleaved<Src>) {
+      if (plan.n <= kMostTransposed && src.p != dst.p) {
+        return transposedTransform<L>(static_cast<size_t>(threads), plan.blocked, plan.n, tile, src, dst, y, factorOf<T>(scale));
       }
     }
     return blockedTransform<L>(static_cast<size_t>(threads), plan.plan, plan.blocked, plan.n, tile, src, dst, y,

@@ -19,7 +19,7 @@ template <class T, size_t kTurn, size_t N> struct SignedSine {
   }
 };
 template <class T, size_t kTurn, size_t N> alignas(64) inline constexpr SignedSine<T, kTurn, N> kSignedSine;
-template <size_t kTurn, size_t N, class V> QVX_INLINE ComplexVector<V, false> turned(ComplexVector<V, false> z) {
+template <size_t kTurn, size_t N, class V> QVX_INLINE ComplexVector<V, false> rotated(ComplexVector<V, false> z) {
   constexpr double kCosine = cosineOfTurn(kTurn, N);
   const V cosine = same<V>(static_cast<LaneOf<V>>(kCosine));
   return {hn::MulAdd(swapped(z.v), load(TagOf<V>(), kSignedSine<LaneOf<V>, kTurn, N>.v), z.v * cosine)};
@@ -211,7 +211,7 @@ template <class V> struct GridEnds {
 };
 template <class T, size_t P> using GridVector = Vec<Lanes<T, 2 * P>>;
 
-// P columns from `column` on, transformed and turned.
+// P columns from `column` on, transformed and rotated.
 template <size_t R, size_t P, class T>
 QVX_INLINE void transformColumns(ComplexVector<GridVector<T, P>, false> (&x)[R], const T* column, size_t across,
                                  const T* twiddles, GridVector<T, P> sign) {

@@ -1,11 +1,11 @@
 // Transforms of any factors, too long for the caches: N = A * B points, in two dimensions.
 //
-// Point a * B + b takes part in a transform of A points down column b, whose result ka a twiddle turns, and then in one of B
-// points whose result kb is that of ka + A * kb. A few columns at a time go through the passes of a dimension in two tiles of
-// working memory, in whole vectors of neighbours. The columns of the first dimension leave their tile by transposition: column b
-// becomes row b of the destination, of A points; so the second one goes down columns, too, and its results stay where its points
-// were, in natural order. Each point goes twice through memory, and between the passes it is in the destination: source,
-// destination and two tiles are all that the caches have to hold.
+// Point a * B + b takes part in a transform of A points down column b, whose result ka is multiplied by a twiddle, and then in
+// one of B points whose result kb is that of ka + A * kb. A few columns at a time go through the passes of a dimension in two
+// tiles of working memory, in whole vectors of neighbours. The columns of the first dimension leave their tile by transposition:
+// column b becomes row b of the destination, of A points; so the second one goes down columns, too, and its results stay where
+// its points were, in natural order. Each point goes twice through memory, and between the passes it is in the destination:
+// source, destination and two tiles are all that the caches have to hold.
 //
 // Out of order the first dimension stays where it is, the second goes along rows, and results remain where they are made: with
 // no memory but the destination and two tiles, even in place.
@@ -134,7 +134,7 @@ template <size_t L, class Dst, class V> QVX_INLINE void putPart(Dst dst, Complex
   else dst.template putFirst<L>(z, at, count);
 }
 
-// `count` rows from row `first` on, turned by their twiddles, into the columns of a tile.
+// `count` rows from row `first` on, times their twiddles, into the columns of a tile.
 template <size_t L, class T>
 [[gnu::noinline]] void takeRows(const MixedBlocks<T>& blocks, Conjugable<const T> src, size_t first, size_t count, Tile<T> tile) {
   const size_t length = blocks.rows.n;
@@ -154,7 +154,7 @@ template <size_t L, class T>
       });
 }
 
-// The columns of a tile, turned, into rows: the way back.
+// The columns of a tile, transposed, into rows: the way back.
 template <size_t L, class T>
 [[gnu::noinline]] void putRows(const MixedBlocks<T>& blocks, Tile<T> tile, Conjugable<T> dst, size_t first, size_t count) {
   const size_t length = blocks.rows.n;
@@ -173,7 +173,7 @@ template <size_t L, class T>
       });
 }
 
-// The columns of a tile, `count` from column `first` on of the whole, turned, into rows of the length of a column.
+// The columns of a tile, `count` from column `first` on of the whole, transposed, into rows of the length of a column.
 template <size_t L, class T, class Dst>
 [[gnu::noinline]] void putColumnsAsRows(const MixedBlocks<T>& blocks, Tile<T> tile, Dst dst, size_t first, size_t count) {
   const size_t length = blocks.columns.n;
@@ -225,7 +225,7 @@ void transformTile(const MixedPlan<T>& plan, Src src, size_t apart, size_t colum
   size_t m = plan.n;
   for (size_t pass = 0; pass + 1 < plan.count; ++pass) {
     const size_t radix = plan.radix[pass];
-    const T* const twiddles = tables + rootsOf<T>(radix);
+    const T* const twiddles = tables + matrixLength<T>(radix);
     m /= radix;
     if (pass == 0 && !isLargePrime(radix)) {
       withMixedRadix(radix, [=](auto R) { firstTilePass<R, L>(src, apart, columns, to, m, twiddles); });

@@ -1,8 +1,8 @@
 // The passes of a transform of N = R * m * s points by factors of any kind, each out of place, which leave no order to restore:
 //
-//   first pass    s = 1: transforms R points, m apart, over whole vectors of neighbours, turns the results by twiddles, and
+//   first pass    s = 1: transforms R points, m apart, over whole vectors of neighbours, multiplies the results by twiddles, and
 //                 transposes them: result j of column p goes to R * p + j
-//   middle pass   the points p + m * k, each a run of s neighbours, to the runs R * p + j, turned by one twiddle a run
+//   middle pass   the points p + m * k, each a run of s neighbours, to the runs R * p + j, multiplied by one twiddle a run
 //   last pass     m = 1: the same without twiddles, in natural order, to where results belong
 //
 // s grows by each pass's radix. A vector that a run does not fill goes over its last elements again, or, where the run is shorter
@@ -52,22 +52,22 @@ template <class T> struct Conjugable {
   Lane sign;
 
   template <size_t L> static constexpr size_t element(size_t lane) { return Interleaved<T, false>::template element<L>(lane); }
-  template <class V> QVX_INLINE V turned(V im) const { return hn::Xor(im, same<V>(sign)); }
+  template <class V> QVX_INLINE V signedAs(V im) const { return hn::Xor(im, same<V>(sign)); }
   template <size_t L> QVX_INLINE auto get(size_t at) const {
     auto z = Interleaved<T, false>{p}.template get<L>(at);
-    z.im = turned(z.im);
+    z.im = signedAs(z.im);
     return z;
   }
   template <size_t L> QVX_INLINE auto getFirst(size_t at, size_t n) const {
     const Lanes<Lane, L> d;
     const size_t low = std::min(2 * n, L);
     auto z = evenAndOdd(firstLanes(d, p + 2 * at, low), firstLanes(d, p + 2 * at + low, 2 * n - low));
-    z.im = turned(z.im);
+    z.im = signedAs(z.im);
     return z;
   }
   template <size_t L> QVX_INLINE auto getInOrder(size_t at) const {
     auto z = Interleaved<T, false>{p}.template getInOrder<L>(at);
-    z.im = turned(z.im);
+    z.im = signedAs(z.im);
     return z;
   }
   template <size_t L> QVX_INLINE auto getInOrder(size_t at, size_t n) const {
@@ -75,13 +75,13 @@ template <class T> struct Conjugable {
     using V = Vec<Lanes<Lane, L>>;
     const size_t low = std::min(2 * n, L);
     const auto parts = deinterleaved(Pair<V>{firstLanes(d, p + 2 * at, low), firstLanes(d, p + 2 * at + low, 2 * n - low)});
-    return Complex<V>{parts.lo, turned(parts.hi)};
+    return Complex<V>{parts.lo, signedAs(parts.hi)};
   }
   template <size_t L, class V> QVX_INLINE void putInOrder(Complex<V> z, size_t at) const {
-    Interleaved<T, false>{p}.template putInOrder<L>(Complex<V>{z.re, turned(z.im)}, at);
+    Interleaved<T, false>{p}.template putInOrder<L>(Complex<V>{z.re, signedAs(z.im)}, at);
   }
   template <size_t L, class V> QVX_INLINE void putFirst(Complex<V> z, size_t at, size_t n) const {
-    const auto both = interleaved(Pair<V>{z.re, turned(z.im)});
+    const auto both = interleaved(Pair<V>{z.re, signedAs(z.im)});
     const size_t low = std::min(2 * n, L);
     putFirstLanes(both.lo, TagOf<V>(), p + 2 * at, low);
     putFirstLanes(both.hi, TagOf<V>(), p + 2 * at + low, 2 * n - low);
@@ -271,8 +271,8 @@ template <size_t R, size_t L, class T, class Dst>
 
 inline constexpr size_t kLargestFactor = 149;
 
-// put(j, z): the results of the points get(k). roots: for j = 1..H, for k = 1..H cos and sin of 2 pi j k / R.
-template <class V, class T, class Get, class Put> QVX_INLINE void dftOfMany(size_t R, const T* roots, Get get, Put put) {
+// put(j, z): the results of the points get(k). matrix: for j = 1..H, for k = 1..H cos and sin of 2 pi j k / R.
+template <class V, class T, class Get, class Put> QVX_INLINE void dftOfMany(size_t R, const T* matrix, Get get, Put put) {
   const size_t H = R / 2;
   const Complex<V> first = get(0);
   Complex<V> sums[kLargestFactor / 2];
@@ -292,11 +292,11 @@ template <class V, class T, class Get, class Put> QVX_INLINE void dftOfMany(size
     Complex<V> even[] = {first, zero};
     Complex<V> odd[] = {zero, zero};
     const auto take = [&](size_t k, size_t to) __attribute__((always_inline)) {
-      const V cosine = same<V>(roots[0]);
-      const V sine = same<V>(roots[1]);
+      const V cosine = same<V>(matrix[0]);
+      const V sine = same<V>(matrix[1]);
       even[to] = {hn::MulAdd(cosine, sums[k].re, even[to].re), hn::MulAdd(cosine, sums[k].im, even[to].im)};
       odd[to] = {hn::MulAdd(sine, differences[k].re, odd[to].re), hn::MulAdd(sine, differences[k].im, odd[to].im)};
-      roots += 2;
+      matrix += 2;
     };
     size_t k = 0;
     for (; k + 2 <= H; k += 2) {
@@ -316,7 +316,7 @@ template <class T>
 inline constexpr size_t kManyLanes = kVectorBytes >= 64 ? kVectorBytes / 2 / sizeof(T) : kVectorBytes / sizeof(T);
 
 template <size_t L, class T, class Src>
-[[gnu::noinline]] void firstPassOfMany(size_t R, const T* roots, Src src, Planes<T> y, size_t m, const T* twiddles) {
+[[gnu::noinline]] void firstPassOfMany(size_t R, const T* matrix, Src src, Planes<T> y, size_t m, const T* twiddles) {
   using V = Vec<Lanes<T, L>>;
   for (size_t p = 0; p < m; p += L, twiddles += (R - 1) * 2 * L) {
     const size_t wide = std::min(m - p, L);
@@ -334,12 +334,12 @@ template <size_t L, class T, class Src>
         y.im[(p + row) * R + j] = im[lane];
       }
     };
-    dftOfMany<V>(R, roots, get, put);
+    dftOfMany<V>(R, matrix, get, put);
   }
 }
 
 template <size_t L, class T>
-[[gnu::noinline]] void middlePassOfMany(size_t R, const T* roots, Planes<const T> x, Planes<T> y, size_t s, size_t m,
+[[gnu::noinline]] void middlePassOfMany(size_t R, const T* matrix, Planes<const T> x, Planes<T> y, size_t s, size_t m,
                                         const T* twiddles) {
   using V = Vec<Lanes<T, L>>;
   for (size_t p = 0; p < m; ++p, twiddles += (R - 1) * 2) {
@@ -351,13 +351,13 @@ template <size_t L, class T>
         if (j > 0) z = product(z, twiddles[2 * j - 2], twiddles[2 * j - 1]);
         y.template putFirst<L>(z, q + s * (R * p + j), wide);
       };
-      dftOfMany<V>(R, roots, get, put);
+      dftOfMany<V>(R, matrix, get, put);
     }
   }
 }
 
 template <size_t L, class T, class Dst>
-[[gnu::noinline]] void lastPassOfMany(size_t R, const T* roots, Planes<const T> x, Dst dst, LastSteps steps, T factor) {
+[[gnu::noinline]] void lastPassOfMany(size_t R, const T* matrix, Planes<const T> x, Dst dst, LastSteps steps, T factor) {
   using V = Vec<Lanes<T, L>>;
   const size_t columns = steps.columns;
   for (size_t run = 0; run < steps.runs; ++run, x = x.from(steps.fromRun), dst = dst.from(steps.toRun)) {
@@ -368,7 +368,7 @@ template <size_t L, class T, class Dst>
       const auto put = [&](size_t j, Complex<V> z) {
         dst.template putFirst<L>(ScaledBy<T>{factor}(z), q + steps.results * j, wide);
       };
-      dftOfMany<V>(R, roots, get, put);
+      dftOfMany<V>(R, matrix, get, put);
     }
   }
 }

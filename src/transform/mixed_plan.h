@@ -73,7 +73,7 @@ template <class T> struct MixedPlan {
   uint32_t n;
   uint8_t count;
   uint8_t radix[kMostPasses];
-  const T* tables;  // a pass's after another's: roots of a large radix, then twiddles
+  const T* tables;  // a pass's after another's: the matrix of a large radix, then twiddles
 };
 
 // What a pass takes of time, in operations of a vector, on processors with 32 registers of 64 bytes: between those that spill at
@@ -181,7 +181,7 @@ template <class T> class MixedPlanner {
 template <class T> [[gnu::noinline]] bool planMixed(uint32_t n, MixedPlan<T>& plan) { return MixedPlanner<T>().plan(n, 1, plan); }
 
 // The numbers of a plan's tables, with what aligns the first.
-template <class T> size_t rootsOf(size_t radix) { return isLargePrime(radix) ? radix / 2 * (radix / 2) * 2 : 0; }
+template <class T> size_t matrixLength(size_t radix) { return isLargePrime(radix) ? radix / 2 * (radix / 2) * 2 : 0; }
 template <class T> size_t lanesOfFirst(size_t radix) { return isLargePrime(radix) ? kManyLanes<T> : kWidest<T>; }
 template <class T> size_t tableLength(const MixedPlan<T>& plan) {
   size_t length = Carver::kLine / sizeof(T);
@@ -189,7 +189,7 @@ template <class T> size_t tableLength(const MixedPlan<T>& plan) {
   for (size_t pass = 0; pass < plan.count; ++pass) {
     const size_t radix = plan.radix[pass];
     m /= radix;
-    length += rootsOf<T>(radix);
+    length += matrixLength<T>(radix);
     const size_t lanes = pass == 0 ? lanesOfFirst<T>(radix) : 1;
     if (m > 1) length += (m + lanes - 1) / lanes * lanes * (radix - 1) * 2;
   }
@@ -202,12 +202,12 @@ template <class T> size_t tableLengthOfColumns(const MixedPlan<T>& plan) {
   size_t m = plan.n;
   for (size_t pass = 0; pass < plan.count; ++pass) {
     m /= plan.radix[pass];
-    length += rootsOf<T>(plan.radix[pass]) + (m > 1 ? m * (plan.radix[pass] - 1U) * 2 : 0);
+    length += matrixLength<T>(plan.radix[pass]) + (m > 1 ? m * (plan.radix[pass] - 1U) * 2 : 0);
   }
   return length;
 }
 
-template <class T> void writeRoots(size_t radix, T* out) {
+template <class T> void writeMatrix(size_t radix, T* out) {
   const size_t half = radix / 2;
   writeTwiddles(
       radix, half * half, [half](size_t i) { return (i / half + 1) * (i % half + 1); },
@@ -230,8 +230,8 @@ template <class T> T* writeMixedColumns(MixedPlan<T>& plan, T* out) {
   plan.tables = out;
   for (size_t pass = 0, n = plan.n; pass < plan.count; n /= plan.radix[pass++]) {
     const size_t radix = plan.radix[pass];
-    if (isLargePrime(radix)) writeRoots(radix, out);
-    out += rootsOf<T>(radix);
+    if (isLargePrime(radix)) writeMatrix(radix, out);
+    out += matrixLength<T>(radix);
     if (n > radix) out = writeMiddle(n, radix, out);
   }
   return out;
@@ -247,8 +247,8 @@ template <class Src, class T> void writeMixed(MixedPlan<T>& plan, T* block) {
     const size_t others = radix - 1;
     const size_t n = m;
     m /= radix;
-    if (isLargePrime(radix)) writeRoots(radix, out);
-    out += rootsOf<T>(radix);
+    if (isLargePrime(radix)) writeMatrix(radix, out);
+    out += matrixLength<T>(radix);
     if (m == 1) break;
     if (pass > 0) {
       out = writeMiddle(n, radix, out);
@@ -309,8 +309,8 @@ void runMixed(const MixedPlan<T>& plan, Src src, Dst dst, Planes<T> even, Planes
   const size_t first = plan.radix[0];
   size_t m = plan.n / first;
   if (isLargePrime(first)) {
-    firstPassOfMany<M>(first, tables, src, from, m, tables + rootsOf<T>(first));
-    tables += rootsOf<T>(first) + (m + M - 1) / M * M * (first - 1) * 2;
+    firstPassOfMany<M>(first, tables, src, from, m, tables + matrixLength<T>(first));
+    tables += matrixLength<T>(first) + (m + M - 1) / M * M * (first - 1) * 2;
   } else {
     withMixedRadix(first, [=](auto R) { firstMixedPass<R, L>(src, from, m, tables, false); });
     tables += (m + L - 1) / L * L * (first - 1) * 2;
@@ -319,8 +319,8 @@ void runMixed(const MixedPlan<T>& plan, Src src, Dst dst, Planes<T> even, Planes
   for (size_t pass = 1; pass + 1 < plan.count; ++pass) {
     const size_t radix = plan.radix[pass];
     m /= radix;
-    runMiddlePass(radix, tables, asConst(from), to, s, m, tables + rootsOf<T>(radix));
-    tables += rootsOf<T>(radix) + m * (radix - 1) * 2;
+    runMiddlePass(radix, tables, asConst(from), to, s, m, tables + matrixLength<T>(radix));
+    tables += matrixLength<T>(radix) + m * (radix - 1) * 2;
     s *= radix;
     std::swap(from, to);
   }

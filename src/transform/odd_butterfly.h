@@ -38,18 +38,18 @@ constexpr double sineOfTurn(size_t k, size_t n) {
   return static_cast<double>(detail::sineOrCosine(detail::angleOf(k, n), 1));
 }
 
-template <size_t P> struct PrimeRoots {
+template <size_t P> struct OddTwiddles {
   static constexpr size_t kHalf = P / 2;
   double cosine[kHalf + 1] = {};
   double sine[kHalf + 1] = {};
-  constexpr PrimeRoots() {
+  constexpr OddTwiddles() {
     for (size_t k = 0; k <= kHalf; ++k) {
       cosine[k] = cosineOfTurn(k, P);
       sine[k] = sineOfTurn(k, P);
     }
   }
 };
-template <size_t P> inline constexpr PrimeRoots<P> kPrimeRoots;
+template <size_t P> inline constexpr OddTwiddles<P> kOddTwiddles;
 
 // Z: a vector of real and one of imaginary parts, or of both side by side.
 template <class V> QVX_INLINE Complex<V> scaledBy(double factor, Complex<V> z) {
@@ -82,19 +82,19 @@ template <size_t P, class Z> QVX_INLINE void dftOfPairs(Z (&x)[P]) {
   unrolled<H>([&](auto k) __attribute__((always_inline)) { x[0] = sum(x[0], sums[k]); });
   unrolled<H>([&](auto at) __attribute__((always_inline)) {
     constexpr size_t j = at + 1;
-    Z even = sumWith(kPrimeRoots<P>.cosine[j], first, sums[0]);
+    Z even = sumWith(kOddTwiddles<P>.cosine[j], first, sums[0]);
     // Divided by the first one's sine, which goes into the last addition: radix 5 takes 32 operations, not 36.
     Z odd = differences[0];
     unrolled<H - 1>([&](auto i) __attribute__((always_inline)) {
       constexpr size_t k = i + 1;
       constexpr size_t turn = j * (k + 1) % P;
       constexpr size_t folded = turn <= H ? turn : P - turn;
-      constexpr double kRatio = kPrimeRoots<P>.sine[folded] / kPrimeRoots<P>.sine[j];
-      even = sumWith(kPrimeRoots<P>.cosine[folded], even, sums[k]);
+      constexpr double kRatio = kOddTwiddles<P>.sine[folded] / kOddTwiddles<P>.sine[j];
+      even = sumWith(kOddTwiddles<P>.cosine[folded], even, sums[k]);
       if constexpr (turn <= H) odd = sumWith(kRatio, odd, differences[k]);
       else odd = differenceWith(kRatio, odd, differences[k]);
     });
-    addWithI(kPrimeRoots<P>.sine[j], even, odd, x[j], x[P - j]);
+    addWithI(kOddTwiddles<P>.sine[j], even, odd, x[j], x[P - j]);
   });
 }
 
@@ -124,7 +124,7 @@ template <size_t A, size_t B, class Z> QVX_INLINE void dftOfCoprimes(Z (&x)[A * 
 }
 
 // z exp(-2 pi i kTurn / N)
-template <size_t kTurn, size_t N, class Z> QVX_INLINE Z turned(Z z) {
+template <size_t kTurn, size_t N, class Z> QVX_INLINE Z rotated(Z z) {
   constexpr double kCosine = cosineOfTurn(kTurn, N);
   constexpr double kSine = sineOfTurn(kTurn, N);
   return product(z, kCosine, -kSine);
@@ -137,7 +137,7 @@ template <size_t A, size_t B, class Z> QVX_INLINE void dftOfProduct(Z (&x)[A * B
     unrolled<A>([&](auto a) __attribute__((always_inline)) { y[b][a] = x[B * a + b]; });
     anyDft(y[b]);
     if constexpr (b > 0) {
-      unrolled<A - 1>([&](auto k) __attribute__((always_inline)) { y[b][k + 1] = turned<b*(k + 1), A * B>(y[b][k + 1]); });
+      unrolled<A - 1>([&](auto k) __attribute__((always_inline)) { y[b][k + 1] = rotated<b*(k + 1), A * B>(y[b][k + 1]); });
     }
   });
   unrolled<A>([&](auto k) __attribute__((always_inline)) {

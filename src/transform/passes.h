@@ -167,7 +167,7 @@ template <size_t L, class T, class Src, class Place = InOrder>
     Complex<V> x[R];
     dft(x, [&](auto m) { return src.template get<L>(j + m * rows); });
     // Of results in the places first..first + kBlock - 1 of a row: vector w holds them for the points in lanes w of the blocks.
-    const auto turned = [&](auto first, V(&re)[kBlock], V(&im)[kBlock]) {
+    const auto transposed = [&](auto first, V(&re)[kBlock], V(&im)[kBlock]) {
       unrolled<kBlock>([&](auto i) {
         constexpr size_t k = (first + i) / L * L + element((first + i) % L);
         Complex<V> z = x[k];
@@ -186,8 +186,8 @@ template <size_t L, class T, class Src, class Place = InOrder>
         constexpr std::integral_constant<size_t, 2 * pair * kBlock> first;
         V re[2][kBlock];
         V im[2][kBlock];
-        turned(first, re[0], im[0]);
-        turned(std::integral_constant<size_t, first + kBlock>(), re[1], im[1]);
+        transposed(first, re[0], im[0]);
+        transposed(std::integral_constant<size_t, first + kBlock>(), re[1], im[1]);
         unrolled<kBlock>([&](auto w) {
           const auto out = [&](V a, V b, size_t part) {
             storeHalves(hn::OddEvenBlocks(hn::SwapAdjacentBlocks(b), a), placeOf(0, w, first) + part,
@@ -204,7 +204,7 @@ template <size_t L, class T, class Src, class Place = InOrder>
         constexpr std::integral_constant<size_t, q * kBlock> first;
         V re[kBlock];
         V im[kBlock];
-        turned(first, re, im);
+        transposed(first, re, im);
         unrolled<kBlock>([&](auto w) {
           if constexpr (kBlocks == 2) {
             storeHalves(re[w], placeOf(0, w, first), placeOf(1, w, first));
@@ -220,7 +220,7 @@ template <size_t L, class T, class Src, class Place = InOrder>
 }
 
 // Result k times its twiddle, of those of k = 1..R-1.
-template <size_t k, class V> QVX_INLINE Complex<V> turnedBy(Complex<V> z, const LaneOf<V>* twiddles) {
+template <size_t k, class V> QVX_INLINE Complex<V> timesTwiddle(Complex<V> z, const LaneOf<V>* twiddles) {
   if constexpr (k == 0) return z;
   else return product(z, twiddles[2 * k - 2], twiddles[2 * k - 1]);
 }
@@ -236,7 +236,7 @@ template <size_t R, size_t L, class T, class Width = std::integral_constant<size
     for (size_t column = 0; column < W; ++column) {
       T* p = y + (q * W + column) * 2 * L;
       transformPoints<R>([&](auto m) { return group<L>(p + m * apart); },
-                         [&](auto k, auto z) { putGroup<L>(turnedBy<k>(z, w), p + k * apart); });
+                         [&](auto k, auto z) { putGroup<L>(timesTwiddle<k>(z, w), p + k * apart); });
     }
   }
 }
@@ -267,7 +267,7 @@ template <size_t A, size_t B, size_t L, class T, class Src, class Dst, class Sca
   for (size_t row = 0; row < A * B; row += A, w += (A - 1) * 2) {
     T* const p = y + row * 2 * L;
     transformPoints<A>([&](auto m) { return group<L>(p + m * 2 * L); },
-                       [&](auto k, auto z) { putGroup<L>(turnedBy<k>(z, w), p + k * 2 * L); });
+                       [&](auto k, auto z) { putGroup<L>(timesTwiddle<k>(z, w), p + k * 2 * L); });
   }
   for (size_t row = 0; row < A; ++row) {
     transformPoints<B>([&](auto m) { return group<L>(y + (row + A * m) * 2 * L); },

@@ -43,7 +43,7 @@ template <bool kInverse, class T>
   using V = Vec<Lanes<T, L>>;
   const Interleaved<const T, false> from{src};
   const Interleaved<T, false> to{dst};
-  const auto turned = [](Complex<V> z) { return Complex<V>{reversed(z.re), reversed(z.im)}; };
+  const auto mirrored = [](Complex<V> z) { return Complex<V>{reversed(z.re), reversed(z.im)}; };
   const V half = same<V>(T(0.5));
   for (size_t k = range.from; k < range.to; k += L) {
     Complex<V> cd = group<L>(twiddles.fine + 2 * (isNull(twiddles.coarse) ? k : k % kFine<T>));
@@ -53,10 +53,10 @@ template <bool kInverse, class T>
       cd = {half * twiddle.re, hn::MulAdd(half, twiddle.im, half)};
     }
     Complex<V> a = from.template get<L>(k + 1);
-    Complex<V> b = turned(from.template get<L>(h - k - L));
+    Complex<V> b = mirrored(from.template get<L>(h - k - L));
     recombine<V, kInverse>(a, b, cd);
     to.template put<L>(a, k + 1);
-    to.template put<L>(turned(b), h - k - L);
+    to.template put<L>(mirrored(b), h - k - L);
   }
 }
 template <bool kInverse, class T> void recombineInTeam(int threads, const T* src, T* dst, size_t h, RealTwiddles<T> twiddles) {

@@ -1,15 +1,15 @@
 // Transforms of 2^15 and 2^16 points in two passes over the second-level cache, which then holds source, destination and little
 // else: work array and twiddles of passes one after another would overflow it.
 //
-// Point (a, c) of n / 256 rows of 256 points becomes, by transforms down a, number ka of row c, as tiles of columns are turned
-// into rows in the first-level cache (turned.h). Transforms down c then leave result ka + n / 256 * kc at (kc, ka). Either
-// transform is of two levels, the last of which has radix 16. Of the time of passes, 2^15 complex doubles take 0.88 out of place
-// and 1.00 in place, 2^16 floats 0.89 and 0.95; of that of blocks and three levels, 2^16 doubles 0.96 and 0.90.
+// Point (a, c) of n / 256 rows of 256 points becomes, by transforms down a, number ka of row c, as tiles of columns are
+// transposed into rows in the first-level cache (transposed.h). Transforms down c then leave result ka + n / 256 * kc at (kc,
+// ka). Either transform is of two levels, the last of which has radix 16. Of the time of passes, 2^15 complex doubles take 0.88
+// out of place and 1.00 in place, 2^16 floats 0.89 and 0.95; of that of blocks and three levels, 2^16 doubles 0.96 and 0.90.
 #pragma once
 
 #include <cstring>
 
-#include "transform/turned.h"
+#include "transform/transposed.h"
 
 namespace qvx::transform {
 
@@ -21,8 +21,8 @@ template <class T, class Points> constexpr bool isTiled(size_t n) {
   return kHasMasks && kIsInterleaved<Points> && n <= size_t{1} << 16 && n >= size_t{1} << (sizeof(T) == 4 ? 16 : 15);
 }
 
-// What turns number ka = L * v + l of row c: exp(-2 pi i c l / n) in groups, one for each c, and exp(-2 pi i c L v / n) for each
-// c and each v. Of outer twiddles they are lanes and tiles.
+// The twiddles of number ka = L * v + l of row c: exp(-2 pi i c l / n) in groups, one for each c, and exp(-2 pi i c L v / n) for
+// each c and each v. Of outer twiddles they are lanes and tiles.
 template <size_t L, class LaneOrder, class T> T* writeTiledTwiddles(BlockedPlan<T>& plan, size_t n, T* out) {
   constexpr size_t R = kLastRadix;
   const size_t rows = n / kTileRows;
@@ -86,7 +86,7 @@ void tiledTransform(size_t threads, const BlockedPlan<T>& plan, Src src, Dst dst
   dividedWithTiles(threads, kTileRows, y, kTile, [=, &plan](Range range, T*, size_t) {
     for (size_t c = range.from; c < range.to; c += L) {
       T* const tile = points + 2 * c * rows;
-      turnColumns<A, L>(src.from(c), kTileRows, kLastRadix, tile, rows, plan.outer.levels);
+      transposeColumns<A, L>(src.from(c), kTileRows, kLastRadix, tile, rows, plan.outer.levels);
       for (size_t i = 0; i < L; ++i) lastAlongRow<A, L>(tile + 2 * i * rows, plan.outer, c + i);
     }
   });

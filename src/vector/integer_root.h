@@ -4,7 +4,7 @@
 #include "frame/map.h"
 #include "frame/power.h"
 #include "frame/rounding.h"
-#include "frame/whole.h"
+#include "frame/to_int64.h"
 
 namespace qvx {
 

@@ -1,7 +1,7 @@
 // Square roots of integers: exactly rounded at every scale factor.
 #include "frame/remainder.h"
 #include "frame/team.h"
-#include "frame/whole.h"
+#include "frame/to_int64.h"
 #include "vector/integer_root.h"
 
 using namespace qvx;

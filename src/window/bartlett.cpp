@@ -1,6 +1,6 @@
 // The Bartlett window.
 #include "frame/each_vector.h"
-#include "frame/places.h"
+#include "frame/lane_numbers.h"
 #include "window/weigh.h"
 
 using namespace qvx;
@@ -15,7 +15,7 @@ template <class W> struct Rising {
   template <class Put> void operator()(size_t count, Put put) const {
     constexpr size_t N = kVectorBytes / sizeof(W);
     const Lanes<W, N> d;
-    const auto lanes = placesOf(d) * hn::Set(d, static_cast<W>(step));
+    const auto lanes = laneNumbersOf(d) * hn::Set(d, static_cast<W>(step));
     eachVector<N>(count, [&](size_t at, auto... rest) {
       put(at, lanes + hn::Set(d, static_cast<W>(static_cast<double>(at) * step)), rest...);
     });

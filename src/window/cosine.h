@@ -6,7 +6,7 @@
 #include <bit>
 
 #include "frame/each_vector.h"
-#include "frame/places.h"
+#include "frame/lane_numbers.h"
 #include "frame/power.h"
 #include "math/sine.h"
 #include "math/spaced_sin_cos.h"
@@ -38,7 +38,7 @@ struct Blackman {
 
 namespace detail {
 
-// As many weights at most are made by a polynomial each, which is faster than turning vectors on by angles that have to be made
+// As many weights at most are made by a polynomial each, which is faster than rotating vectors by angles that have to be made
 // first.
 template <class Real>
 inline constexpr size_t kSinesEach = (sizeof(Real) == sizeof(float) ? 32 : 16) * kVectorBytes / sizeof(Real);
@@ -58,7 +58,7 @@ template <class Real> class Sines {
  private:
   static constexpr Lanes<double, N> d_ = {};
   double turns_;
-  Vec<Lanes<double, N>> number_ = placesOf(d_);
+  Vec<Lanes<double, N>> number_ = laneNumbersOf(d_);
 };
 
 // Angles in floats are sums of two multiples of steps of which the first are exact, so that an angle is rounded once.
@@ -71,8 +71,8 @@ template <> class Sines<float> {
     constexpr uint32_t kLower = (uint32_t{1} << std::bit_width(kSinesEach<float> - 1)) - 1;  // as many digits as places have
     const auto upper = std::bit_cast<float>(std::bit_cast<uint32_t>(static_cast<float>(step)) & ~kLower);
     const auto lower = static_cast<float>(step - static_cast<double>(upper));
-    high_ = placesOf(d_) * hn::Set(d_, upper);
-    low_ = placesOf(d_) * hn::Set(d_, lower);
+    high_ = laneNumbersOf(d_) * hn::Set(d_, upper);
+    low_ = laneNumbersOf(d_) * hn::Set(d_, lower);
     highStep_ = hn::Set(d_, N * upper);
     lowStep_ = hn::Set(d_, N * lower);
   }
@@ -105,13 +105,13 @@ template <class Real, class T, class Form>
   });
 }
 template <class Real, class T, class Form>
-[[gnu::noinline, gnu::flatten]] void weighByTurning(const T* src, T* dst, size_t len, Form form, Qvx32f factor) {
+[[gnu::noinline, gnu::flatten]] void weighByRotation(const T* src, T* dst, size_t len, Form form, Qvx32f factor) {
   using Angles = SpacedAngles<Real>;
   const double step = 0.5 / static_cast<double>(len - 1);
   weigh(src, dst, len, factor, [=](size_t count, const auto& put) {
     const Angles angles(step, 1);
     for (size_t from = 0; from < count; from += Angles::kBlock) {
-      angles.each(
+      angles.forEachVector(
           static_cast<double>(from) * step, std::min(count - from, Angles::kBlock),
           [&](size_t at, auto sine, auto, auto... rest) { put(from + at, convertLanes<Weight<T>>(form(sine * sine)), rest...); });
     }
@@ -119,7 +119,7 @@ template <class Real, class T, class Form>
 }
 template <class Real, class T, class Form> void weighByCosine(const T* src, T* dst, size_t len, Form form, Qvx32f factor) {
   if (len / 2 <= kSinesEach<Real>) weighBySines<Real>(src, dst, len, form, factor);
-  else weighByTurning<Real>(src, dst, len, form, factor);
+  else weighByRotation<Real>(src, dst, len, form, factor);
 }
 
 // Where a Blackman window comes down to 1 from weights far above, it is the difference of terms of that size, and sines in floats

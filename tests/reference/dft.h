@@ -24,25 +24,25 @@ inline Exact product(const Exact& x, const Exact& y) {
   return {x.real() * y.real() - x.imag() * y.imag(), x.real() * y.imag() + x.imag() * y.real()};
 }
 
-// roots: those of the whole transform, `step` apart.
-inline std::vector<Exact> dft(const std::vector<Exact>& x, const std::vector<Exact>& roots, size_t step) {
+// twiddles: those of the whole transform, `step` apart.
+inline std::vector<Exact> dft(const std::vector<Exact>& x, const std::vector<Exact>& twiddles, size_t step) {
   const size_t n = x.size();
   std::vector<Exact> result(n);
   if (n <= 4 || n % 2 != 0) {
     for (size_t k = 0; k < n; ++k) {
-      for (size_t i = 0; i < n; ++i) result[k] += product(x[i], roots[i * k % n * step]);
+      for (size_t i = 0; i < n; ++i) result[k] += product(x[i], twiddles[i * k % n * step]);
     }
     return result;
   }
   std::vector<Exact> even(n / 2);
   std::vector<Exact> odd(n / 2);
   for (size_t i = 0; i < n / 2; ++i) even[i] = x[2 * i], odd[i] = x[2 * i + 1];
-  even = dft(even, roots, 2 * step);
-  odd = dft(odd, roots, 2 * step);
+  even = dft(even, twiddles, 2 * step);
+  odd = dft(odd, twiddles, 2 * step);
   for (size_t k = 0; k < n / 2; ++k) {
-    const Exact turned = product(roots[k * step], odd[k]);
-    result[k] = even[k] + turned;
-    result[k + n / 2] = even[k] - turned;
+    const Exact term = product(twiddles[k * step], odd[k]);
+    result[k] = even[k] + term;
+    result[k + n / 2] = even[k] - term;
   }
   return result;
 }
@@ -58,16 +58,16 @@ inline size_t largestPrimeFactor(size_t n) {
 inline std::vector<Exact> dft(const std::vector<Exact>& x, int sign) {
   const size_t n = x.size();
   const Exact quarter(0, sign);
-  std::vector<Exact> roots(n);
+  std::vector<Exact> twiddles(n);
   for (size_t k = 0; k < n; ++k) {
     if (n % 4 == 0 && k >= n / 4) {
-      roots[k] = detail::product(quarter, roots[k - n / 4]);
+      twiddles[k] = detail::product(quarter, twiddles[k - n / 4]);
       continue;
     }
     const Exact root = rootOfUnity(k, n);
-    roots[k] = sign < 0 ? std::conj(root) : root;
+    twiddles[k] = sign < 0 ? std::conj(root) : root;
   }
-  return detail::dft(x, roots, 1);
+  return detail::dft(x, twiddles, 1);
 }
 
 }  // namespace tests

@@ -72,7 +72,7 @@ template <> std::vector<Window<Qvx16sc>> windowsOf() {
                           qvxsWinBlackmanStd_16sc, qvxsWinBlackmanOpt_16sc, qvxsWinKaiser_16sc);
 }
 
-// All short ones, and those about the lengths from which on angles are turned, in each variant.
+// All short ones, and those about the lengths from which on angles are rotated, in each variant.
 std::vector<int> lengths(int least) {
   std::vector<int> all;
   for (int n = least; n <= 300; ++n) all.push_back(n);

@@ -49,19 +49,19 @@ template <class T> void fromHalves(const T* v, T* x, size_t n) {
 // ---- The factors
 
 // The number of the k.
-constexpr size_t turns(size_t n) { return n / 4; }
+constexpr size_t twiddlePairs(size_t n) { return n / 4; }
 // The length of a table with two numbers for each k; its vectors overlap where they do not fill the last one.
-template <class T> size_t turnTableLength(size_t n) {
+template <class T> size_t evenTableLength(size_t n) {
   size_t length = 0;
-  withLanesWithin<T>(turns(n), [&](auto L) { length = (turns(n) + L - 1) / L * 4 * L; });
+  withLanesWithin<T>(twiddlePairs(n), [&](auto L) { length = (twiddlePairs(n) + L - 1) / L * 4 * L; });
   return length;
 }
 
-// f t and -i f t^5 for each k from 1 to turns(n), in groups of L.
-template <class T> void writeTurns(T* out, size_t n) {
+// f t and -i f t^5 for each k from 1 to twiddlePairs(n), in groups of L.
+template <class T> void writeEvenTwiddles(T* out, size_t n) {
   // In long double: rounded to a double, its error would be common to all results.
   const long double f = std::sqrt(0.5L / static_cast<long double>(n));
-  const size_t count = turns(n);
+  const size_t count = twiddlePairs(n);
   withLanesWithin<T>(count, [=](auto L) {
     const size_t length = (count + L - 1) / L * L;
     const auto number = [=](size_t i) { return std::min(i / L * L, count - L) + i % L + 1; };
@@ -85,13 +85,13 @@ template <class T> void spectrumToCosines(const T* z, T* y, size_t n, const T* t
   const size_t h = n / 2;
   y[0] = mean * (z[0] + z[1]);
   y[h] = mean * (z[0] - z[1]);
-  withLanesWithin<T>(turns(n), [=](auto L) {
+  withLanesWithin<T>(twiddlePairs(n), [=](auto L) {
     using V = Vec<Lanes<T, L>>;
     const Lanes<T, L> d;
     const transform::Interleaved<const T, false> from{z};
     const T* at = table;
     inVectors<L>(
-        turns(n), [&](size_t i) __attribute__((always_inline)) {
+        twiddlePairs(n), [&](size_t i) __attribute__((always_inline)) {
           const size_t k = i + 1;
           const Complex<V> a = from.template getInOrder<L>(k);
           const Complex<V> b = conjugate(mirrored(from.template getInOrder<L>(h - k - L + 1)));
@@ -115,13 +115,13 @@ template <class T> void cosinesToSpectrum(const T* y, T* z, size_t n, const T* t
   const size_t h = n / 2;
   z[0] = mean * (y[0] + y[h]);
   z[1] = mean * (y[0] - y[h]);
-  withLanesWithin<T>(turns(n), [=](auto L) {
+  withLanesWithin<T>(twiddlePairs(n), [=](auto L) {
     using V = Vec<Lanes<T, L>>;
     const Lanes<T, L> d;
     const transform::Interleaved<T, false> to{z};
     const T* at = table;
     inVectors<L>(
-        turns(n), [&](size_t i) __attribute__((always_inline)) {
+        twiddlePairs(n), [&](size_t i) __attribute__((always_inline)) {
           const size_t k = i + 1;
           const Complex<V> s{load(d, y + k), hn::Neg(reversed(load(d, y + n - k - L + 1)))};
           const V before = reversed(load(d, y + h - k - L + 1)) * same<V>(kHalf);

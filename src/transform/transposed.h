@@ -2,9 +2,9 @@
 // the bit.
 //
 // Point (a, b, c) of the source becomes, by transforms down a and b, number ka + n * kb of row c of the destination: as tiles of
-// columns are read, the first level turns them into rows, and the other levels go along these, in the first-level cache. Then
-// transforms down c leave each result where it belongs. 2^17 and 2^18 complex doubles take 0.7 of the time of blocks, with 2 MiB
-// of cache to a core.
+// columns are read, the first level transposes them into rows, and the other levels go along these, in the first-level cache.
+// Then transforms down c leave each result where it belongs. 2^17 and 2^18 complex doubles take 0.7 of the time of blocks, with 2
+// MiB of cache to a core.
 #pragma once
 
 #include "transform/blocked.h"
@@ -35,20 +35,20 @@ template <class Dst> struct Column {
   template <size_t L, class V> QVX_INLINE void put(Complex<V> z, size_t at) const { dst.template put<L>(z, at / L * columns); }
 };
 
-// What turns number ka of column b * n + c, as blocks have it, for vectors of neighbouring ka: both factors in groups. The tables
-// follow all others; a record has no room for where.
-template <class T> struct TurnedTwiddles {
+// The twiddles of number ka of column b * n + c, as blocks have it, for vectors of neighbouring ka: both factors in groups. The
+// tables follow all others; a record has no room for where.
+template <class T> struct TransposedTwiddles {
   T* lanes;
   T* tiles;
 };
-template <size_t L, class T> TurnedTwiddles<T> turnedTwiddles(T* lanes) { return {lanes, lanes + 2 * L * kBlockPoints}; }
+template <size_t L, class T> TransposedTwiddles<T> transposedTwiddles(T* lanes) { return {lanes, lanes + 2 * L * kBlockPoints}; }
 template <size_t L, class T> const T* endOfTwiddles(const BlockedPlan<T>& plan, size_t block) {
   return alignedUp(plan.inner.tiles + block / kRowRadix<L> * 2, Carver::kLine);
 }
-template <size_t L, class LaneOrder, class T> T* writeTurnedTwiddles(size_t columns, T* out) {
+template <size_t L, class LaneOrder, class T> T* writeTransposedTwiddles(size_t columns, T* out) {
   constexpr size_t n = kBlockPoints;
   const auto row = [](size_t i) { return i % n / L * L + LaneOrder::template element<L>(i % L); };
-  const TurnedTwiddles<T> to = turnedTwiddles<L>(out);
+  const TransposedTwiddles<T> to = transposedTwiddles<L>(out);
   writeTwiddles(
       n * columns, L * n, [=](size_t i) { return i / n * row(i); }, intoGroups<L>(to.lanes));
   writeTwiddles(
@@ -59,7 +59,8 @@ template <size_t L, class LaneOrder, class T> T* writeTurnedTwiddles(size_t colu
 // The first level of transforms down R * part rows, for L columns; what belongs to column i goes to row i of dst, rows `apart`
 // points apart.
 template <size_t R, size_t L, class T, class Src>
-[[gnu::noinline, gnu::flatten]] void turnColumns(Src src, size_t columns, size_t part, T* dst, size_t apart, const T* twiddles) {
+[[gnu::noinline, gnu::flatten]] void transposeColumns(Src src, size_t columns, size_t part, T* dst, size_t apart,
+                                                      const T* twiddles) {
   using V = Vec<Lanes<T, L>>;
   constexpr auto element = &Src::template element<L>;
   for (size_t q = 0; q < part; ++q, twiddles += (R - 1) * 2) {
@@ -70,7 +71,7 @@ template <size_t R, size_t L, class T, class Src>
       V im[L];
       unrolled<L>([&](auto i) {
         constexpr size_t k = w * L + element(i);
-        const Complex<V> z = turnedBy<k>(x[k], twiddles);
+        const Complex<V> z = timesTwiddle<k>(x[k], twiddles);
         re[i] = z.re;
         im[i] = z.im;
       });
@@ -109,16 +110,16 @@ template <size_t L, class T, class Src>
   constexpr size_t n = kBlockPoints;
   alignas(Carver::kLine) T own[2 * n];
   T* const y = own;
-  const auto turned = turnedTwiddles<L>(endOfTwiddles<L>(plan, block));
+  const auto twiddles = transposedTwiddles<L>(endOfTwiddles<L>(plan, block));
   const T* const rest = plan.outer.levels + n / L * (L - 1) * 2;
   for (size_t c = range.from; c < range.to; c += L) {
     for (size_t b = 0; b < block; b += n) {
-      turnColumns<L, L>(src.from(b + c), block, n / L, dst + 2 * (c * block + b), block, plan.outer.levels);
+      transposeColumns<L, L>(src.from(b + c), block, n / L, dst + 2 * (c * block + b), block, plan.outer.levels);
     }
     for (size_t i = c; i < c + L; ++i) {
       T* const row = dst + 2 * i * block;
       for (size_t b = 0; b < block; b += n) {
-        const TwistedRow<T> to{row + 2 * b, turned.lanes + 2 * n * (i % L), turned.tiles + 2 * n * ((b + i) / L)};
+        const TwistedRow<T> to{row + 2 * b, twiddles.lanes + 2 * n * (i % L), twiddles.tiles + 2 * n * ((b + i) / L)};
         const Columns<L, T, TwistedRow<T>, Unscaled> columns{levels, to, {}};
         withRadix(levels.radix[0], [=](auto R) {
           loadColumns<false, R>(Groups<T>{row + 2 * b}, L, ColumnTile<L, T>{y, n / L, L}, rest);
@@ -126,7 +127,7 @@ template <size_t L, class T, class Src>
         columns.within(y, n / L, rest, 0, 0, 1, 0, levels.radix[0]);
       }
       withRadix(block / n, [&](auto R) {
-        if constexpr (R <= kMostTurned / n / n) alongRow<R, L, Src>(row, plan.inner, i);
+        if constexpr (R <= kMostTransposed / n / n) alongRow<R, L, Src>(row, plan.inner, i);
       });
     }
   }
@@ -147,8 +148,8 @@ template <size_t L, class T, class Dst>
 }
 
 template <size_t L, class Src, class Dst, class T>
-void turnedTransform(size_t threads, const BlockedPlan<T>& plan, size_t points, size_t tile, Src src, Dst dst, T* y,
-                     ScaledBy<T> scale) {
+void transposedTransform(size_t threads, const BlockedPlan<T>& plan, size_t points, size_t tile, Src src, Dst dst, T* y,
+                         ScaledBy<T> scale) {
   constexpr size_t n = kBlockPoints;
   const size_t block = points / n;
   const Levels levels = levelsFor(n / L);
