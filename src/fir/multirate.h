@@ -423,13 +423,22 @@ template <class R, class S> void getMultirateDelay(const R& record, S* newestFir
 
 // ---- building
 
+// The most bytes from the beginning of a block to the first line after its record, over all addresses of the block. The regions
+// share what is left in that case, wherever the block lies: with a row or a transform longer, outputs would be rounded otherwise.
+template <class R> constexpr int64_t mostToFirstLine() {
+  constexpr int64_t kAlign = Carver::kRecordAlignment;
+  constexpr int64_t kSize = sizeof(R);
+  return std::max(up<Carver::kLine>(kSize), up<Carver::kLine>(kSize + kAlign) - kAlign) + kAlign - 1;
+}
+
 template <class S, class SetTaps>
 QvxStatus buildMultirate(MultirateState<S>** ppState, Qvx8u* block, int tapsLen, const Factors& f,
                          const typename S::Sample* delay, SetTaps setTaps) {
   const int64_t bytes = multirateBytes<typename S::Kernel>(tapsLen, f);
   return initRecord(ppState, block, [&](MultirateState<S>& record, Carver& carver) {
     record.magic = S::kMultirateId;
-    layOut(record, carver, block, bytes, tapsLen, f);
+    const Qvx8u* const begin = carver.takeLines<Qvx8u>(0);
+    layOut(record, carver, begin, bytes - mostToFirstLine<MultirateState<S>>(), tapsLen, f);
     setTaps(record);
     setMultirateDelay(record, delay);
     return qvxStatOk;
