@@ -6,7 +6,7 @@
 // before: a shuffle and 2 to 8 multiplications for all lanes, where the plain loop waits 8 cycles for each.
 //
 // Columns hold zeros for outputs before their input, which infinities and NaN would turn into NaN, so this kernel takes finite
-// blocks only.
+// taps and blocks only.
 //
 // The matrix is in 64-bit floats, in which 32-bit filters lose nothing. 64-bit filters have the columns of the delay line in
 // twice their digits: rounded, these would move the poles. They are also refused where the impulse response of 1 / A rises far:
@@ -51,7 +51,7 @@ template <class T> class Direct {
   // taps: b0, b1..bN, a1..aN.
   void set(const T* taps) {
     const size_t n = order_;
-    looksAhead_ = rise(taps + 1 + n) <= kMostRise;
+    looksAhead_ = areFinite(parts(taps), (2 * n + 1) * kParts) && rise(taps + 1 + n) <= kMostRise;
     std::fill_n(b_, n + 1 + kElements, Number{});
     std::fill_n(a_, n + 1 + kElements, Number{});
     for (size_t i = 0; i <= n; ++i) b_[i] = coefficient(exact(taps[i]));
@@ -82,7 +82,7 @@ template <class T> class Direct {
     long double most = 0;
     for (size_t i = 1; i <= kSteps; ++i) {
       for (size_t k = 1; k <= std::min(i, order_); ++k) h[i] -= exact(a[k - 1]) * h[i - k];
-      if (!(std::abs(h[i]) <= most)) most = std::abs(h[i]);
+      most = std::max(most, std::abs(h[i]));
     }
     return most;
   }
