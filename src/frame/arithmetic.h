@@ -25,6 +25,9 @@ inline __m512d nearReciprocalRoot(__m512d v) { return _mm512_rsqrt14_pd(v); }
 inline __m128d nearReciprocal(__m128d v) { return _mm_rcp14_pd(v); }
 inline __m256d nearReciprocal(__m256d v) { return _mm256_rcp14_pd(v); }
 inline __m512d nearReciprocal(__m512d v) { return _mm512_rcp14_pd(v); }
+template <uint32_t kTable> __m512 replacedByClass(__m512 v) {
+  return _mm512_fixupimm_ps(v, v, _mm512_set1_epi32(static_cast<int>(kTable)), 0);
+}
 inline __m512 scaled(__m512 v, __m512 exponent) { return _mm512_scalef_ps(v, exponent); }
 inline __m512d scaled(__m512d v, __m512d exponent) { return _mm512_scalef_pd(v, exponent); }
 inline __m512 exponent(__m512 v) { return _mm512_getexp_ps(v); }
@@ -107,6 +110,25 @@ template <class V> V nearReciprocal(V v) { return V{detail::nearReciprocal(v.raw
 // v * 2^floor(exponent), rounded once, for any exponent.
 template <class V> V scaledBy(V v, V exponent) {
   detail::partOf(detail::scaled(detail::whole(v.raw), detail::whole(exponent.raw)), v.raw);
+  return v;
+}
+
+// What each class of floats becomes.
+enum class Becomes : uint32_t { kItself = 1, kZero = 8, kMinusOne = 9, kOne = 10 };
+struct ByClass {
+  Becomes nan, zero, one, minusInfinity, infinity, negative, positive;
+
+  constexpr uint32_t table() const {
+    uint32_t all = 0, place = 0;
+    for (const Becomes each : {nan, nan, zero, one, minusInfinity, infinity, negative, positive}) {
+      all |= static_cast<uint32_t>(each) << place;
+      place += 4;
+    }
+    return all;
+  }
+};
+template <ByClass kBy, class V> V replacedByClass(V v) {
+  detail::partOf(detail::replacedByClass<kBy.table()>(detail::whole(v.raw)), v.raw);
   return v;
 }
 

@@ -1,91 +1,116 @@
-// How often the sign changes. 64 signs are a word of bits, and their neighbours the word shifted by one.
-#include <bit>
-
-#include "frame/check.h"
-#include "frame/map.h"
-#include "frame/unroll.h"
+// How often the sign changes: counted over pairs of neighbours, the vector and itself one element on, in lanes as wide as an
+// element.
+#include "frame/reduce.h"
 
 using namespace qvx;
 
 namespace {
 
-constexpr size_t kWord = 64;
+// A pair adds 2 at most to its lane: 2^15 in a slice, with the 8 lanes of the narrowest registers.
+template <class Changes> struct Count : Reduction {
+  static constexpr size_t kSlice = 1 << 17;
 
-// On which side of zero 64 elements lie.
-struct Sides {
-  uint64_t below = 0;
-  uint64_t above = 0;
+  template <class V> auto start(V x, V y) const {
+    const auto first = Changes::of(x, y);
+    if constexpr (Changes::kIsMask) return hn::Neg(first);
+    else return first;
+  }
+  template <class A, class V> A add(A a, V x, V y) const {
+    if constexpr (Changes::kIsMask) return a - Changes::of(x, y);
+    else return a + Changes::of(x, y);
+  }
+  template <class A> int64_t total(A a) const {
+    if constexpr (sizeof(LaneOf<A>) == 2) return sumOfLanes(halvesAdded<int32_t>(as<uint16_t>(a)));
+    else return static_cast<int64_t>(sumOfLanes(a));
+  }
 };
 
-// A bit in each for every element, in the order of the elements.
-template <class V> Sides sidesOf(V v) {
-  const TagOf<V> d;
-  const V zero = hn::Zero(d);
-  return {maskBits(d, v < zero), maskBits(d, v > zero)};
-}
-// By sign bits, but for zeros: a negative float has more than the sign bit.
-template <class V> Sides signsOf(V v) {
+// -1, 0 or 1; 0 of a NaN. By the one instruction that replaces classes of floats, 4096 of them take 105 ns, by two comparisons
+// each 205.
+template <class V> auto sideOf(V v) {
   if constexpr (std::is_integral_v<LaneOf<V>>) {
-    return {maskBits(TagOf<V>(), v < hn::Zero(TagOf<V>())), 0};
+    return hn::Max(hn::Min(v, same<V>(1)), same<V>(-1));
   } else {
-    const auto bits = as<uint32_t>(v);
-    using U = std::remove_const_t<decltype(bits)>;
-    return {maskBits(TagOf<U>(), bits > same<U>(0x80000000)), 0};
+#if QVXS_AVX512
+    using enum Becomes;
+    return replacedByClass<ByClass{kZero, kZero, kOne, kMinusOne, kOne, kMinusOne, kOne}>(v);
+#else
+    const TagOf<V> d;
+    const auto lanes = [d](auto mask) { return as<int32_t>(hn::VecFromMask(d, mask)); };
+    return lanes(v < hn::Zero(d)) - lanes(v > hn::Zero(d));
+#endif
   }
 }
 
-template <bool kSigns, class T> Sides sidesOfWord(const T* p, size_t n) {
-  constexpr size_t N = kVectorBytes / sizeof(T);
-  const Lanes<T, N> d;
-  Sides all;
-  const auto add = [&](auto v, size_t at) __attribute__((always_inline)) {
-    const Sides s = kSigns ? signsOf(v) : sidesOf(v);
-    all.below |= s.below << at;
-    all.above |= s.above << at;
-  };
-  if (n >= kWord) {
-    unrolled<kWord / N>([&](auto k) __attribute__((always_inline)) { add(load(d, p + k * N), k * N); });
-  } else {
-    for (size_t at = 0; at < n; at += N) add(n - at >= N ? load(d, p + at) : loadFirst(d, p + at, n - at), at);
-  }
-  return all;
-}
+// Through zero in two steps, or across it in one.
+struct Steps {
+  static constexpr bool kIsMask = false;
+  template <class V> static auto of(V x, V y) { return hn::Abs(sideOf(x) - sideOf(y)); }
+};
 
-// changes(now, before) counts over pairs of neighbours, none of them with what stands before the vector or past its end.
-template <bool kSigns, class T, class Changes> int64_t countChanges(const T* p, size_t n, Changes changes) {
-  int64_t count = 0;
-  Sides last;  // the bit of the last element, as the lowest
-  for (size_t at = 0; at < n; at += kWord) {
-    const Sides now = sidesOfWord<kSigns>(p + at, n - at);
-    const Sides before = {now.below << 1 | last.below, now.above << 1 | last.above};
-    uint64_t pairs = n - at < kWord ? (uint64_t{1} << (n - at)) - 1 : ~uint64_t{0};
-    if (at == 0) pairs &= ~uint64_t{1};
-    count += changes(now, before, pairs);
-    last = {now.below >> (kWord - 1), now.above >> (kWord - 1)};
+struct Opposites {
+  static constexpr bool kIsMask = false;
+  template <class V> static auto of(V x, V y) {
+    const auto steps = Steps::of(x, y);
+    using S = std::remove_const_t<decltype(steps)>;
+    if constexpr (std::is_integral_v<LaneOf<S>>) return hn::ShiftRight<1>(steps);
+    else return hn::Max(steps, same<S>(1)) - same<S>(1);
   }
-  return count;
+};
+
+// The sign bit decides, but zeros have none.
+struct Signs {
+  static constexpr bool kIsMask = true;
+  template <class V> static auto of(V x, V y) {
+    if constexpr (std::is_integral_v<LaneOf<V>>) {
+      return hn::BroadcastSignBit(x ^ y);
+    } else {
+#if QVXS_AVX512
+      return hn::BroadcastSignBit(withoutNegativeZeros(x) ^ withoutNegativeZeros(y));
+#else
+      return isNegative(x) ^ isNegative(y);
+#endif
+    }
+  }
+
+ private:
+#if QVXS_AVX512
+  template <class V> static auto withoutNegativeZeros(V v) {
+    using enum Becomes;
+    return as<int32_t>(replacedByClass<ByClass{kItself, kZero, kItself, kItself, kItself, kItself, kItself}>(v));
+  }
+#else
+  template <class V> static auto isNegative(V v) {
+    const auto bits = as<int32_t>(v);
+    using B = std::remove_const_t<decltype(bits)>;
+    return hn::VecFromMask(TagOf<B>(), (bits ^ same<B>(INT32_MIN)) > same<B>(0));
+  }
+#endif
+};
+
+template <class Changes, class T> QvxStatus count(const T* src, int len, Qvx32f* result, double each = 1) {
+  const size_t pairs = elements(len) - 1;
+  if (pairs == 0) {
+    *result = 0;
+    return qvxStatOk;
+  }
+  const auto finish = [each](int64_t n) { return static_cast<Qvx32f>(static_cast<Qvx64f>(n) * each); };
+  return reducedTo<Count<Changes>>(result, pairs, finish, source(src), source(src + 1));
 }
 
 template <class T> QvxStatus zeroCrossing(const T* src, int len, Qvx32f* result, int type) {
   const QvxStatus status = check(len, src, result);
   if (status != qvxStatOk) return status;
-  const size_t n = elements(len);
-  if (type == 0) {
-    *result = static_cast<Qvx32f>(countChanges<false>(src, n, [](Sides now, Sides before, uint64_t pairs) {
-      return std::popcount(((now.below & before.above) | (now.above & before.below)) & pairs);
-    }));
-  } else if (type == 1) {
-    *result = static_cast<Qvx32f>(countChanges<true>(
-        src, n, [](Sides now, Sides before, uint64_t pairs) { return std::popcount((now.below ^ before.below) & pairs); }));
-  } else if (type == 2) {  // from one side to the other both words change
-    const int64_t twice = countChanges<false>(src, n, [](Sides now, Sides before, uint64_t pairs) {
-      return std::popcount((now.below ^ before.below) & pairs) + std::popcount((now.above ^ before.above) & pairs);
-    });
-    *result = static_cast<Qvx32f>(static_cast<Qvx64f>(twice) / 2);
-  } else {
-    return qvxStatBadRange;
+  switch (type) {
+    case 0:
+      return count<Opposites>(src, len, result);
+    case 1:
+      return count<Signs>(src, len, result);
+    case 2:
+      return count<Steps>(src, len, result, 0.5);
+    default:
+      return qvxStatBadRange;
   }
-  return qvxStatOk;
 }
 
 }  // namespace
