@@ -219,12 +219,13 @@ template <class R> bool placeRows(R& record, Carver& carver, const Qvx8u* begin,
 // taps are few and few outputs make a vector; those of several branches are not: in AVX2 42 outputs of 32 taps each take 0.75 of
 // the time one by one, doubles of 128 taps 1.1, and 63 doubles of 6 to 22 taps 0.75. In SSSE3 as many 16-bit outputs of several
 // branches take 0.5 to 0.65 of it, 16 of one branch 0.6.
+inline constexpr int kMostDots = 64;
 template <class C> int mostDots(const Ratio& q) {
   constexpr int N = kVectorElements<C>;
   constexpr bool kIsLong = kVectorBytes > 16;
-  if (std::is_integral_v<C> && kVectorBytes <= 32 && q.up > 1) return 64;
+  if (std::is_integral_v<C> && kVectorBytes <= 32 && q.up > 1) return kMostDots;
   if (std::is_integral_v<C> && !kIsLong && q.down > 2) return 16;
-  if (N <= 4 && kIsLong && q.up > 1 && q.taps <= 32) return 64;
+  if (N <= 4 && kIsLong && q.up > 1 && q.taps <= 32) return kMostDots;
   if (q.down == 2) return kIsLong && N <= 8 && q.taps <= 16 ? 32 : 8;
   constexpr int kMost = std::clamp(N, 8, 16);
   if (q.up == 1) return kVectorBytes == 32 && q.taps < 64 ? 16 : kMost;

@@ -124,24 +124,25 @@ template <class R> Lanewise<typename R::Kernel> lanewise(const R& record) {
           q.down};
 }
 
-// make(y) puts `count` outputs of the kernel's type; dst takes them as they are, or as finish(y, count, dst) makes them.
-template <class C, class T, class Make, class Finish> void putOutputs(T* dst, size_t count, Make make, Finish finish) {
+// make(y) puts `count` outputs of the kernel's type, kMost at most; dst takes them as they are, or as finish(y, count, dst) makes
+// them.
+template <class C, size_t kMost, class T, class Make, class Finish> void putOutputs(T* dst, size_t count, Make make, Finish finish) {
   if constexpr (std::is_same_v<C, T>) {
     make(dst);
   } else {
-    C outputs[kSumsBytes / sizeof(C)];
+    C outputs[kMost];
     make(outputs);
     finish(outputs, count, dst);
   }
 }
 
 // The outputs of all branches, each of which branches.next(sums) gives for some periods, in their order.
-template <class C, class Branches, class T, class Finish>
+template <class C, size_t kMost, class Branches, class T, class Finish>
 [[gnu::always_inline]] inline void joinBranches(Branches& branches, size_t up, size_t periods, T* dst, Finish finish) {
   if (up == 1)
-    return putOutputs<C>(
+    return putOutputs<C, kMost>(
         dst, periods, [&](C* y) { branches.next(y); }, finish);
-  C sums[kSumsBytes / sizeof(C)];
+  C sums[kMost];
   const size_t batch = up * periods <= std::size(sums) ? up : std::size(sums) / periods;
   for (size_t n, from = 0; from < up; from += n) {
     n = std::min(batch, up - from);
@@ -224,11 +225,13 @@ void throughLine(R& record, const T* src, T* dst, size_t periods, int64_t places
   if constexpr (std::is_same_v<C, T>) moveVectors(src, samples, record.sample(0));
   else toKernel(src, samples, record.sample(0));
   LineBranches<R> branches(record, periods, places);
-  joinBranches<C>(branches, static_cast<size_t>(record.ratio.up), periods, dst, finish);
+  joinBranches<C, kMostDots>(branches, static_cast<size_t>(record.ratio.up), periods, dst, finish);
   record.lineDone += static_cast<int>(samples);
 }
 
 // ---- longer ones
+
+template <class C> inline constexpr size_t kSums = kSumsBytes / sizeof(C);
 
 // The outputs of a block whose samples are in the rows.
 template <class R, class T, class Finish>
@@ -241,21 +244,16 @@ template <class R, class T, class Finish>
         if constexpr (Lanewise<C>::kIsFloat) convolve(lanewise(record), record.sample(0), periods, y);
         else convolve(lanewise(record), record.sample(0), periods, y, places);
       };
-      return putOutputs<C>(dst, periods * up, alongOutputs, finish);
+      return putOutputs<C, kSums<C>>(dst, periods * up, alongOutputs, finish);
     }
   }
   Branches<R> branches(record, periods, call, places);
-  joinBranches<C>(branches, up, periods, dst, finish);
+  joinBranches<C, kSums<C>>(branches, up, periods, dst, finish);
 }
 
-// finish(sums, n, outputs) makes the outputs of sums; integer sums come scaled by 2^places. src may be dst, unless there are more
-// outputs than samples.
+// With the sums of branches on its stack, two pages of which a call of few outputs would touch for nothing.
 template <class R, class T, class Finish>
-void resample(R& record, const T* src, T* dst, size_t periods, int64_t places, Finish finish) {
-  if constexpr (kHasDots<typename R::Kernel>) {
-    if (takesLine(record, periods)) return throughLine(record, src, dst, periods, places, finish);
-    if (record.isInLine) moveIntoRows(record);
-  }
+[[gnu::noinline]] void throughRows(R& record, const T* src, T* dst, size_t periods, int64_t places, Finish finish) {
   const auto up = static_cast<size_t>(record.ratio.up);
   const auto down = static_cast<size_t>(record.ratio.down);
   const auto block = static_cast<size_t>(record.block);
@@ -270,6 +268,17 @@ void resample(R& record, const T* src, T* dst, size_t periods, int64_t places, F
     filterRows(record, dst, some, call, places, finish);
     record.done += static_cast<int>(some);
   }
+}
+
+// finish(sums, n, outputs) makes the outputs of sums; integer sums come scaled by 2^places. src may be dst, unless there are more
+// outputs than samples.
+template <class R, class T, class Finish>
+void resample(R& record, const T* src, T* dst, size_t periods, int64_t places, Finish finish) {
+  if constexpr (kHasDots<typename R::Kernel>) {
+    if (takesLine(record, periods)) return throughLine(record, src, dst, periods, places, finish);
+    if (record.isInLine) moveIntoRows(record);
+  }
+  throughRows(record, src, dst, periods, places, finish);
 }
 
 template <class R> int64_t multiratePlaces(const R& record, int scaleFactor) {

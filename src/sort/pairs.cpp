@@ -1,8 +1,7 @@
 // Quicksort of 32-bit keys and their numbers: a network sorts few of them as the two halves of 64-bit keys.
 #include "sort/pairs.h"
 
-#include "sort/pairs_partition.h"
-#include "sort/quicksort.h"
+#include "sort/pairs_packed.h"
 
 using namespace qvx;
 
@@ -40,6 +39,7 @@ using V = Vec<D>;
 // As Quicksort (quicksort.h). Equal keys end up side by side, and their numbers are sorted.
 void sortRange(Pairs<int32_t> x, size_t n, Pairs<int32_t> buffer, int32_t least) {
   for (int levels = 4 * static_cast<int>(std::bit_width(n)); n > kNetworkPairs;) {
+    if (n <= kPackedPairs<int32_t> && sortPacked(x, n, buffer.keys)) return;
     if (levels-- == 0) return sortHeap(x, n);
     const int32_t pivot = pivotOf<int32_t>(x.keys, n, {});
     if (pivot == least) {
