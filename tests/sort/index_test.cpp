@@ -3,6 +3,7 @@
 #include <qvx/qvxs.h>
 
 #include <chrono>
+#include <cmath>
 
 #include "sort/vectors.h"
 #include "support/blocks.h"
@@ -99,6 +100,28 @@ TEST(SortIndex, KeepsElementsBesideTheirPlacesWhateverNaNDoes) {
   };
   expect(qvxsSortIndexAscend_32f_I, qvxsSortIndexDescend_32f_I, Qvx32f());
   expect(qvxsSortIndexAscend_64f_I, qvxsSortIndexDescend_64f_I, Qvx64f());
+}
+
+// One element far off, so that the others share all bits but their last.
+TEST(SortIndex, TellsElementsThatDifferInTheirLastBits) {
+  Random random(tests::seed());
+  const auto expect = [&](auto function, auto least) {
+    using T = decltype(least);
+    for (size_t n = 2; n < 1100; n += n / 16 + 1) {
+      std::vector<T> x(n, least);
+      for (size_t i = 1; i < n; ++i) {
+        if constexpr (std::is_integral_v<T>) x[i] = static_cast<T>(i);
+        else x[i] = std::nextafter(i == 1 ? T(1) : x[i - 1], T(2));
+      }
+      std::shuffle(x.begin(), x.end(), random);
+      const Sorted<T> s = sorted<T>(function, x);
+      expectPlaces(s, x);
+      ASSERT_TRUE(std::is_sorted(s.x.begin(), s.x.end())) << "length " << n;
+    }
+  };
+  expect(qvxsSortIndexAscend_32s_I, std::numeric_limits<Qvx32s>::min());
+  expect(qvxsSortIndexAscend_32f_I, std::numeric_limits<Qvx32f>::lowest());
+  expect(qvxsSortIndexAscend_64f_I, std::numeric_limits<Qvx64f>::lowest());
 }
 
 // The least time of several runs, in seconds.
