@@ -10,6 +10,7 @@
 
 #include "frame/each_vector.h"
 #include "frame/map.h"
+#include "frame/places.h"
 #include "frame/unroll.h"
 #include "math/sin_cos.h"
 
@@ -18,28 +19,49 @@ namespace qvx {
 // Angles are counted in turns, which are reduced without loss.
 template <class V> V fractionOfTurns(V turns) { return turns - hn::Round(turns); }
 
-template <class T> class SpacedAngles {
+// For turns up to an eighth: nothing to reduce or to swap, half the latency.
+template <int kDigits, class V> SinCos<V> sinCosOfEighth(V turns) {
+  using C = detail::SinCosNumbers<kDigits>;
+  const V r = turns * same<V>(0x1.921fb54442d18p+2);
+  const V z = r * r;
+  const V c = hn::MulAdd(z, polynomial(z, C::kC), same<V>(-0.5));
+  return {hn::MulAdd(r * z, polynomial(z, C::kS), r), hn::MulAdd(z, c, same<V>(1))};
+}
+
+// Which angles a caller asks for. kFromZero: those from 0 up to a quarter turn, in steps of which kEighth are an eighth at most:
+// a call begins after 60 ns, not 85.
+enum class Span { kAny, kFromZero };
+
+template <class T, Span kSpan = Span::kAny> class SpacedAngles {
  public:
   static constexpr size_t kLanes = kVectorBytes / sizeof(T);
   static constexpr size_t kWide = kVectorBytes / sizeof(double);
   // Samples between one computed pair and the next. In doubles the error of every rotation counts.
   static constexpr size_t kBlock = sizeof(T) == sizeof(float) ? 4096 : 512;
   static constexpr size_t kFew = 4 * kWide;  // up to here it is cheaper to compute each
+  static constexpr size_t kEighth = kWide * kLanes;
 
   // step: turns from one sample to the next. scale: what the results are multiplied by.
-  SpacedAngles(double step, double scale) {
+  SpacedAngles(double step, double scale) : vectorStep_(kLanes * step) {
     const Lanes<double, kWide> wide;
-    const auto count = hn::Iota(wide, 0);
-    for (size_t k = 0; k < kLanes; k += kWide) {
-      const auto angle = (count + hn::Set(wide, static_cast<double>(k))) * hn::Set(wide, step);
-      const auto lanes = sinCosOfTurns<kDigits>(fractionOfTurns(angle));
-      store(convertLanes<T>(lanes.sine * hn::Set(wide, scale)), Lanes<T, kWide>(), sines_ + k);
-      store(convertLanes<T>(lanes.cosine * hn::Set(wide, scale)), Lanes<T, kWide>(), cosines_ + k);
+    const auto lanesFrom = [=](size_t k) __attribute__((always_inline)) {
+      const auto angle = (placesOf(wide) + hn::Set(wide, static_cast<double>(k))) * hn::Set(wide, step);
+      const auto v = ofSteps<kDigits>(angle);
+      const auto sine = convertLanes<T>(v.sine * hn::Set(wide, scale));
+      return SinCos<std::remove_const_t<decltype(sine)>>{sine, convertLanes<T>(v.cosine * hn::Set(wide, scale))};
+    };
+    // Halves are joined in a register: read from memory as a whole, they wait until both are written, which takes 20 ns of a call.
+    const auto lower = lanesFrom(0);
+    if constexpr (kLanes == kWide) {
+      lanes_ = lower;
+    } else {
+      const auto upper = lanesFrom(kWide);
+      const Lanes<T, kLanes> d;
+      lanes_ = {hn::Combine(d, upper.sine, lower.sine), hn::Combine(d, upper.cosine, lower.cosine)};
     }
-    vectorStep_ = kLanes * step;
-    const auto rotation = sinCosOfTurns(fractionOfTurns(hn::Set(wide, kWide * vectorStep_)));
-    stepSine_ = hn::GetLane(rotation.sine);
-    stepCosine_ = hn::GetLane(rotation.cosine);
+    const auto turned = ofSteps<53>(hn::Set(wide, kWide * vectorStep_));
+    turnSine_ = hn::GetLane(turned.sine);
+    turnCosine_ = hn::GetLane(turned.cosine);
   }
 
   // put(at, sines, cosines) for whole vectors of `count` samples, kBlock at most, from the angle `start` on, and
@@ -51,10 +73,10 @@ template <class T> class SpacedAngles {
     // store, and 4096 samples take 1.2 times as long in AVX-512.
     alignas(64) T firstSines[kBlock / kLanes];
     alignas(64) T firstCosines[kBlock / kLanes];
-    const auto firsts = hn::MulAdd(hn::Iota(wide, 0), hn::Set(wide, vectorStep_), hn::Set(wide, start));
-    auto first = sinCosOfTurns<kDigits>(fractionOfTurns(firsts));
-    const auto byS = hn::Set(wide, stepSine_);
-    const auto byC = hn::Set(wide, stepCosine_);
+    const auto firsts = hn::MulAdd(placesOf(wide), hn::Set(wide, vectorStep_), hn::Set(wide, start));
+    auto first = kSpan == Span::kFromZero && start == 0 ? ofSteps<kDigits>(firsts) : sinCosOfTurns<kDigits>(firsts);
+    const auto byS = hn::Set(wide, turnSine_);
+    const auto byC = hn::Set(wide, turnCosine_);
     size_t made = 0;
     const auto makeFirsts = [&]() __attribute__((always_inline)) {
       store(convertLanes<T>(first.sine), Lanes<T, kWide>(), firstSines + made);
@@ -63,12 +85,11 @@ template <class T> class SpacedAngles {
       made += kWide;
     };
     while (made < kAhead && made * kLanes < count) makeFirsts();
-    const auto laneSines = load(d, sines_);
-    const auto laneCosines = load(d, cosines_);
+    const auto lanes = lanes_;
     const auto putNext = [&](size_t k, auto... rest) __attribute__((always_inline)) {
       const auto s = hn::Set(d, firstSines[k]);
       const auto c = hn::Set(d, firstCosines[k]);
-      put(k * kLanes, hn::MulAdd(s, laneCosines, c * laneSines), hn::NegMulAdd(s, laneSines, c * laneCosines), rest...);
+      put(k * kLanes, hn::MulAdd(s, lanes.cosine, c * lanes.sine), hn::NegMulAdd(s, lanes.sine, c * lanes.cosine), rest...);
     };
     const size_t whole = count / kLanes;
     size_t k = 0;
@@ -85,18 +106,23 @@ template <class T> class SpacedAngles {
     const Lanes<double, kWide> wide;
     const auto putNext = [&](size_t at, auto... rest) __attribute__((always_inline)) {
       const auto number = hn::Iota(wide, 0) + hn::Set(wide, static_cast<double>(at));
-      const auto v = sinCosOfTurns<kDigits>(fractionOfTurns(hn::MulAdd(number, hn::Set(wide, step), hn::Set(wide, start))));
+      const auto v = sinCosOfTurns<kDigits>(hn::MulAdd(number, hn::Set(wide, step), hn::Set(wide, start)));
       put(at, convertLanes<T>(v.sine * hn::Set(wide, scale)), convertLanes<T>(v.cosine * hn::Set(wide, scale)), rest...);
     };
     eachVector<kWide>(count, putNext);
   }
 
  private:
+  // Of a few steps.
+  template <int kGood, class V> static SinCos<V> ofSteps(V turns) {
+    if constexpr (kSpan == Span::kFromZero) return sinCosOfEighth<kGood>(turns);
+    else return sinCosOfTurns<kGood>(turns);
+  }
+
   // Doubles, of which a block takes eight rotations, gain nothing by more than one ahead.
   static constexpr size_t kAhead = (sizeof(T) == sizeof(float) ? 8 : 1) * kWide;
   static constexpr int kDigits = sizeof(T) == sizeof(float) ? 24 : 53;
-  alignas(64) T sines_[kLanes];
-  alignas(64) T cosines_[kLanes];
+  SinCos<Vec<Lanes<T, kLanes>>> lanes_;
   double vectorStep_;
   double stepSine_;
   double stepCosine_;
