@@ -29,7 +29,10 @@ inline uint64_t shortTurns(double turns) { return fixedTurns(turns) & ~uint64_t{
 template <class T, class V> auto toSamples(V v) {
   if constexpr (std::is_floating_point_v<T>) {
     return convertLanes<T>(v);
-  } else {  // halves away from zero
+  } else if constexpr (kHasMasks) {
+    // Halves away from zero: an ULP or two farther they are none any more.
+    return convertLanes<T>(toIntNearest(hn::MulAdd(v, same<V>(std::numeric_limits<LaneOf<V>>::epsilon()), v)));
+  } else {
     return convertLanes<T>(toIntTruncated(v + hn::CopySignToAbs(same<V>(LaneOf<V>(0.5)), v)));
   }
 }

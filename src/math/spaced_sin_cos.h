@@ -50,7 +50,8 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
       const auto sine = convertLanes<T>(v.sine * hn::Set(wide, scale));
       return SinCos<std::remove_const_t<decltype(sine)>>{sine, convertLanes<T>(v.cosine * hn::Set(wide, scale))};
     };
-    // Halves are joined in a register: read from memory as a whole, they wait until both are written, which takes 20 ns of a call.
+    // Halves are joined in a register: read from memory as a whole, they wait until both are written, which takes 20 ns of a
+    // call.
     const auto lower = lanesFrom(0);
     if constexpr (kLanes == kWide) {
       lanes_ = lower;

@@ -30,7 +30,7 @@ template <class T> QvxStatus bartlett(const T* src, T* dst, int len) {
     return qvxStatOk;
   }
   const RoundingScope mode(std::is_integral_v<Part<T>> ? Rounding::kNearest : Rounding::kCallers);
-  weigh(src, dst, elements(len), 1, Rising<Weight<T>>{2.0 / (len - 1)});
+  weigh(src, dst, elements(len), Weighed<T>(), Rising<Weight<T>>{2.0 / (len - 1)});
   return qvxStatOk;
 }
 

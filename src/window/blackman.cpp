@@ -1,4 +1,5 @@
 // The Blackman windows.
+#include "frame/power.h"
 #include "frame/rounding.h"
 #include "math/sin_cos.h"
 #include "window/cosine.h"
@@ -25,6 +26,18 @@ template <class T> QvxStatus optimal(const T* src, T* dst, int len) {
 }
 
 Blackman blackman(double alpha) { return {1 + 4 * alpha, -4 * alpha}; }
+
+// The middle of an odd length too.
+QvxStatus scaled(Qvx16s* d, int len, Blackman form, int scaleFactor) {
+  const auto factor = powerOfTwo<Qvx32f>(std::min(-int64_t{scaleFactor}, int64_t{127}));
+  const QvxStatus status = cosineWindow(d, d, len, form, WeighedTimes{factor});
+  if (status != qvxStatOk || len % 2 == 0) return status;
+  const RoundingScope nearest(Rounding::kNearest);
+  Qvx16s& middle = d[len / 2];
+  middle = roundedTo<Qvx16s>(static_cast<double>(middle * factor));
+  return qvxStatOk;
+}
+
 double ofQ15(int alpha) { return static_cast<Qvx32f>(alpha) * 0x1p-15F; }
 
 }  // namespace
@@ -70,5 +83,5 @@ QvxStatus qvxsWinBlackmanQ15_16s(const Qvx16s* a, Qvx16s* d, int len, int alphaQ
 QvxStatus qvxsWinBlackmanQ15_16s_I(Qvx16s* d, int len, int alphaQ15) { return cosineWindow(d, d, len, blackman(ofQ15(alphaQ15))); }
 QvxStatus qvxsWinBlackmanQ15_16sc(const Qvx16sc* a, Qvx16sc* d, int len, int alphaQ15) { return cosineWindow(a, d, len, blackman(ofQ15(alphaQ15))); }
 QvxStatus qvxsWinBlackmanQ15_16sc_I(Qvx16sc* d, int len, int alphaQ15) { return cosineWindow(d, d, len, blackman(ofQ15(alphaQ15))); }
-QvxStatus qvxsWinBlackmanQ15_16s_ISfs(Qvx16s* d, int len, int alphaQ15, int sf) { return cosineWindow(d, d, len, blackman(ofQ15(alphaQ15)), sf); }
+QvxStatus qvxsWinBlackmanQ15_16s_ISfs(Qvx16s* d, int len, int alphaQ15, int sf) { return scaled(d, len, blackman(ofQ15(alphaQ15)), sf); }
 // clang-format on

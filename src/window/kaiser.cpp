@@ -67,7 +67,7 @@ template <class Series, class T> QvxStatus kaiser(const T* src, T* dst, int len,
   if (!(middle <= limit)) return qvxStatBadKaiserAlpha;
   const RoundingScope mode(kMode<T>);
   const double largest = hn::GetLane(bessel0<Series>(same<Vec<Lanes<double, 2>>>(middle)));
-  weigh(src, dst, elements(len), 1, BesselWeights<Series, Weight<T>>{size, last, 1 / largest});
+  weigh(src, dst, elements(len), Weighed<T>(), BesselWeights<Series, Weight<T>>{size, last, 1 / largest});
   return qvxStatOk;
 }
 

@@ -21,27 +21,31 @@ template <class T> QvxStatus checkWindow(const T* src, const T* dst, int len) {
 // The type in which the weights of an element are computed.
 template <class T> using Weight = std::conditional_t<std::is_same_v<Part<T>, Qvx64f>, Qvx64f, Qvx32f>;
 
-// Floats as they come. Integers times 2^-scaleFactor, to nearest, saturated: `factor` is that power of two.
+// Floats as they come. Integers to nearest, saturated, with weights below 2^15, so that 32 bits hold the product.
 template <class T> struct Weighed {
+  template <class V, class W> auto operator()(V x, W w) const {
+    if constexpr (std::is_floating_point_v<Part<T>>) return x * w;
+    else return convertLanes<Part<T>>(toIntNearest(convertLanes<float>(x) * w));
+  }
+};
+
+// Integers times any weight and a power of two.
+struct WeighedTimes {
   Qvx32f factor;
 
   template <class V, class W> auto operator()(V x, W w) const {
-    if constexpr (std::is_floating_point_v<Part<T>>) {
-      return x * w;
-    } else {
-      const W product = convertLanes<float>(x) * w * same<W>(factor);
-      // What is below the range becomes the least integer by itself.
-      return convertLanes<Part<T>>(toIntNearest(hn::Min(product, same<W>(std::numeric_limits<Part<T>>::max()))));
-    }
+    const W product = convertLanes<float>(x) * w * same<W>(factor);
+    // What is below the range becomes the least integer by itself.
+    return convertLanes<Qvx16s>(toIntNearest(hn::Min(product, same<W>(std::numeric_limits<Qvx16s>::max()))));
   }
 };
 
 // dst[n] = src[n] * w[n], w[len-1-n] = w[n], as far as vectors of the first half's weights come: `at` is the place of the first.
-template <class T> struct BothEnds {
+template <class T, class Kernel> struct BothEnds {
   const T* src;
   T* dst;
   size_t len;
-  Weighed<T> kernel;
+  Kernel kernel;
 
   template <class V> void operator()(size_t at, V weights) const {
     weighBoth(at, weights, len - at - kLanesOf<V>, reversed(weights));
@@ -102,8 +106,8 @@ template <class T> struct BothEnds {
 };
 
 // The middle of odd lengths stays as it is. make(count, put) makes weights for put, a BothEnds.
-template <class T, class Make> void weigh(const T* src, T* dst, size_t len, Qvx32f factor, Make make) {
-  make(len / 2, BothEnds<T>{src, dst, len, {factor}});
+template <class T, class Kernel, class Make> void weigh(const T* src, T* dst, size_t len, Kernel kernel, Make make) {
+  make(len / 2, BothEnds<T, Kernel>{src, dst, len, kernel});
   if (len % 2 != 0) dst[len / 2] = src[len / 2];
 }
 
