@@ -1,4 +1,6 @@
 // Normal deviates by the polar method.
+#include <bit>
+
 #include "frame/rounding.h"
 #include "generate/random.h"
 #include "generate/record.h"
@@ -68,38 +70,77 @@ struct Accepted {
   alignas(64) double value[2 * kPairs];
 };
 
-// As many of the next `tries` pairs as the method takes.
-size_t tryPairs(Generator& source, size_t tries, Accepted& pairs) {
-  constexpr size_t kWide = kVectorBytes / sizeof(double);
-  alignas(64) double scaled[2 * kPairs];
-  alignas(64) double q[kPairs + kWide];
-  const Lanes<double, kWide> d;
-  const auto scale = [&](size_t at, const int32_t* r) {
-    unrolled<kBlock / kWide>([&](auto v) {
-      constexpr size_t i = v * kWide;
-      store(convertLanes<double>(load(Lanes<int32_t, kWide>(), r + i)) * hn::Set(d, 4.656612873077e-10), d, scaled + at + i);
-    });
-  };
-  advance(source, 2 * tries, scale, [&](size_t at, size_t, const int32_t* r) { scale(at, r); });
+// Pairs that the method takes, up to as many as are wanted.
+struct Chosen {
+  static constexpr size_t kWide = kVectorBytes / sizeof(double);
+  static constexpr Lanes<double, kWide> d = {};
+  alignas(64) double first[kPairs + kWide];
+  alignas(64) double second[kPairs + kWide];
+  alignas(64) double square[kPairs + kWide];
+  size_t wanted;
   size_t count = 0;
-  for (size_t k = 0; k < tries; ++k) {
-    const double u = scaled[2 * k];
-    const double v = scaled[2 * k + 1];
-    const double square = u * u + v * v;
-    q[count] = square;
-    pairs.value[2 * count] = v;
-    pairs.value[2 * count + 1] = u;
-    count += static_cast<size_t>(square < 1) & static_cast<size_t>(square > 0);
+
+  explicit Chosen(size_t wanted) : wanted(wanted) {}
+
+  // Those of a block; returns the numbers up to the last one wanted, or all.
+  size_t choose(const int32_t* r) {
+    for (size_t k = 0; k < kBlock; k += 2 * kWide) {
+      const auto scaled = [=](size_t i) {
+        return convertLanes<double>(load(Lanes<int32_t, kWide>(), r + i)) * hn::Set(d, 4.656612873077e-10);
+      };
+      const auto lower = scaled(k);
+      const auto upper = scaled(k + kWide);
+      const auto u = hn::ConcatEven(d, upper, lower);
+      const auto v = hn::ConcatOdd(d, upper, lower);
+      const auto q = u * u + v * v;
+      const auto isInside = q < hn::Set(d, 1.0);
+      const uint64_t bits = maskBits(d, hn::AndNot(q == hn::Zero(d), isInside));
+      const auto add = [&](auto lanes, double* to) { store(takenFirst(lanes, bits), d, to + count); };
+      add(v, first);
+      add(u, second);
+      add(q, square);
+      const size_t more = countLanes<kWide>(bits);
+      if (count + more >= wanted) return k + 2 * atLast(bits, wanted - count);
+      count += more;
+    }
+    return kBlock;
   }
-  for (size_t k = count; k < count + kWide; ++k) q[k] = 0.5;
-  for (size_t k = 0; k < count; k += kWide) {
-    const auto square = load(d, q + k);
+
+ private:
+  template <class V> static V takenFirst(V v, uint64_t bits) {
+    const auto lanes = as<uint64_t>(v);
+    return as<double>(std::remove_const_t<decltype(lanes)>{qvx::detail::partedBy<sizeof(double)>(lanes.raw, bits)});
+  }
+  // Pairs up to the n-th that is taken.
+  size_t atLast(uint64_t bits, size_t n) {
+    count = wanted;
+    while (--n > 0) bits &= bits - 1;
+    return static_cast<size_t>(std::countr_zero(bits)) + 1;
+  }
+};
+
+// Of the next pairs as many as the method takes, up to `wanted`, which leaves the source right after the last one. Whole blocks
+// are tried, but so few that all before the last one are needed: 16 deviates mostly take one.
+size_t tryPairs(Generator& source, size_t wanted, Accepted& pairs) {
+  constexpr size_t kWide = Chosen::kWide;
+  const Lanes<double, kWide> d;
+  Chosen chosen(wanted);
+  const size_t blocks = (2 * wanted + kBlock - 1) / kBlock;
+  advance(
+      source, blocks * kBlock, [&](size_t, const int32_t* r) { chosen.choose(r); },
+      [&](size_t, size_t, const int32_t* r) { return chosen.choose(r); });
+  store(hn::Set(d, 0.5), d, chosen.square + chosen.count);
+  for (size_t k = 0; k < chosen.count; k += kWide) {
+    const auto square = load(d, chosen.square + k);
     const auto factor = hn::Sqrt(hn::Set(d, -2.0) * ln(square) / square);
-    const auto twice = interleaved(Pair<Vec<decltype(d)>>{factor, factor});
-    store(twice.lo, d, pairs.factor + 2 * k);
-    store(twice.hi, d, pairs.factor + 2 * k + kWide);
+    const auto factors = interleaved(Pair<Vec<decltype(d)>>{factor, factor});
+    const auto values = interleaved(Pair<Vec<decltype(d)>>{load(d, chosen.first + k), load(d, chosen.second + k)});
+    store(factors.lo, d, pairs.factor + 2 * k);
+    store(factors.hi, d, pairs.factor + 2 * k + kWide);
+    store(values.lo, d, pairs.value + 2 * k);
+    store(values.hi, d, pairs.value + 2 * k + kWide);
   }
-  return count;
+  return chosen.count;
 }
 
 // No pair is tried that would not be given out, so that the source stands right after the last one.

@@ -32,14 +32,11 @@ template <class T> void fill(T* dst, size_t n, double magn, double rFreq, double
   const Angles angles(rFreq, magn);
   double blockStep = rFreq * Angles::kBlock;  // exact, and so is its fraction
   blockStep -= static_cast<double>(static_cast<int64_t>(blockStep));
-  for (size_t from = 0; from < n; from += Angles::kBlock) {
-    const size_t count = std::min(Angles::kBlock, n - from);
-    T* const to = dst + from;
-    angles.forEachVector(turns, count,
-                         [=](size_t at, auto sine, auto cosine, auto... rest) { putSamples(to, at, cosine, sine, rest...); });
-    turns += blockStep;
-    turns -= static_cast<double>(static_cast<int64_t>(turns));
-  }
+  const auto startAt = [=](size_t at) mutable {
+    if (at > 0) turns += blockStep;
+    return turns -= static_cast<double>(static_cast<int64_t>(turns));
+  };
+  angles.each(n, startAt, [=](size_t at, auto sine, auto cosine, auto... rest) { putSamples(dst, at, cosine, sine, rest...); });
 }
 
 template <class T, class Magn, class Phase> QvxStatus direct(T* dst, int len, Magn magn, Phase rFreq, Phase* phase);

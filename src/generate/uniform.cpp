@@ -57,6 +57,7 @@ template <class T> void fill(T* dst, size_t n, Mapping map, Generator& source) {
   };
   advance(source, n, whole, [=](size_t at, size_t count, const int32_t* r) {
     loop<double>(mapped, destination(dst + at), count, Source<int32_t>{r});
+    return count;
   });
 }
 

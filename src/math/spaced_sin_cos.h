@@ -50,8 +50,6 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
       const auto sine = convertLanes<T>(v.sine * hn::Set(wide, scale));
       return SinCos<std::remove_const_t<decltype(sine)>>{sine, convertLanes<T>(v.cosine * hn::Set(wide, scale))};
     };
-    // Halves are joined in a register: read from memory as a whole, they wait until both are written, which takes 20 ns of a
-    // call.
     const auto lower = lanesFrom(0);
     if constexpr (kLanes == kWide) {
       lanes_ = lower;
@@ -65,17 +63,54 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
     turnCosine_ = hn::GetLane(turned.cosine);
   }
 
-  // put(at, sines, cosines) for whole vectors of `count` samples, kBlock at most, from the angle `start` on, and
-  // put(at, sines, cosines, rest) for the last one, of which only `rest` lanes count.
-  template <class Put> [[gnu::always_inline]] void forEachVector(double start, size_t count, Put put) const {
+  // put(at, sines, cosines) for whole vectors of `count` samples and put(at, sines, cosines, rest) for the last one, of which
+  // only `rest` lanes count. startAt(at) is the angle of a block's first sample, asked for in order. Those of the next block are
+  // computed beside a block: 4096 doubles take 0.84 of the time.
+  template <class StartAt, class Put> [[gnu::always_inline]] void each(size_t count, StartAt startAt, Put put) const {
+    Firsts next = kSpan == Span::kFromZero ? firstsFrom<true>(0) : firstsFrom<false>(startAt(0));
+    for (size_t from = 0; from < count; from += kBlock) {
+      const Firsts firsts = next;
+      if (from + kBlock < count) next = firstsFrom<false>(startAt(from + kBlock));
+      block(
+          firsts,
+          std::min(count - from, kBlock), [&](size_t at, auto... v) __attribute__((always_inline)) { put(from + at, v...); });
+    }
+  }
+
+  // The same for a few samples, each computed.
+  template <class Put> [[gnu::always_inline]] static void few(double start, double step, double scale, size_t count, Put put) {
+    const Lanes<double, kWide> wide;
+    const auto putNext = [&](size_t at, auto... rest) __attribute__((always_inline)) {
+      const auto number = hn::Iota(wide, 0) + hn::Set(wide, static_cast<double>(at));
+      const auto v = sinCosOfTurns<kDigits>(hn::MulAdd(number, hn::Set(wide, step), hn::Set(wide, start)));
+      put(at, convertLanes<T>(v.sine * hn::Set(wide, scale)), convertLanes<T>(v.cosine * hn::Set(wide, scale)), rest...);
+    };
+    eachVector<kWide>(count, putNext);
+  }
+
+ private:
+  // Of a few steps.
+  template <int kGood, class V> static SinCos<V> ofSteps(V turns) {
+    if constexpr (kSpan == Span::kFromZero) return sinCosOfEighth<kGood>(turns);
+    else return sinCosOfTurns<kGood>(turns);
+  }
+
+  // The angles of first samples, of as many vectors as a register has doubles.
+  using Firsts = SinCos<Vec<Lanes<double, kWide>>>;
+  template <bool kAtZero> Firsts firstsFrom(double start) const {
+    const Lanes<double, kWide> wide;
+    const auto turns = hn::MulAdd(placesOf(wide), hn::Set(wide, vectorStep_), hn::Set(wide, start));
+    if constexpr (kAtZero) return ofSteps<kDigits>(turns);
+    else return sinCosOfTurns<kDigits>(turns);
+  }
+
+  template <class Put> [[gnu::always_inline]] void block(Firsts first, size_t count, Put put) const {
     const Lanes<double, kWide> wide;
     const Lanes<T, kLanes> d;
     // First angles are computed 8 rotations before they are used: broadcasting one that has only just been stored waits for the
     // store, and 4096 samples take 1.2 times as long in AVX-512.
     alignas(64) T firstSines[kBlock / kLanes];
     alignas(64) T firstCosines[kBlock / kLanes];
-    const auto firsts = hn::MulAdd(placesOf(wide), hn::Set(wide, vectorStep_), hn::Set(wide, start));
-    auto first = kSpan == Span::kFromZero && start == 0 ? ofSteps<kDigits>(firsts) : sinCosOfTurns<kDigits>(firsts);
     const auto byS = hn::Set(wide, turnSine_);
     const auto byC = hn::Set(wide, turnCosine_);
     size_t made = 0;
@@ -100,24 +135,6 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
     }
     for (; k < whole; ++k) putNext(k);
     if (count % kLanes != 0) putNext(whole, count % kLanes);
-  }
-
-  // The same for a few samples, each computed.
-  template <class Put> [[gnu::always_inline]] static void few(double start, double step, double scale, size_t count, Put put) {
-    const Lanes<double, kWide> wide;
-    const auto putNext = [&](size_t at, auto... rest) __attribute__((always_inline)) {
-      const auto number = hn::Iota(wide, 0) + hn::Set(wide, static_cast<double>(at));
-      const auto v = sinCosOfTurns<kDigits>(hn::MulAdd(number, hn::Set(wide, step), hn::Set(wide, start)));
-      put(at, convertLanes<T>(v.sine * hn::Set(wide, scale)), convertLanes<T>(v.cosine * hn::Set(wide, scale)), rest...);
-    };
-    eachVector<kWide>(count, putNext);
-  }
-
- private:
-  // Of a few steps.
-  template <int kGood, class V> static SinCos<V> ofSteps(V turns) {
-    if constexpr (kSpan == Span::kFromZero) return sinCosOfEighth<kGood>(turns);
-    else return sinCosOfTurns<kGood>(turns);
   }
 
   // Doubles, of which a block takes eight rotations, gain nothing by more than one ahead.

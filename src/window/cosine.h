@@ -130,14 +130,12 @@ template <class Real, class T, class Form, class Kernel>
   const double step = 0.5 / static_cast<double>(len - 1);
   weigh(src, dst, len, kernel, [=](size_t count, const auto& put) {
     const Angles<Real> angles(step, form.scale());
-    constexpr size_t kBlock = Angles<Real>::kBlock;
-    for (size_t from = 0; from < count; from += kBlock) {
-      angles.each(
-          static_cast<double>(from) * step, std::min(count - from, kBlock),
-          [&](size_t at, auto sine, auto, auto... rest) { put(from + at, convertLanes<Weight<T>>(form(sine)), rest...); });
-    }
+    angles.each(
+        count, [=](size_t at) { return static_cast<double>(at) * step; },
+        [&](size_t at, auto sine, auto, auto... rest) { put(at, convertLanes<Weight<T>>(form(sine)), rest...); });
   });
 }
+
 // A function of its own: short windows, which do not need it, take 2 ns less.
 template <class Real, class T, class Kernel>
 [[gnu::noinline]] void weighByTurningAsItRises(const T* src, T* dst, size_t len, Blackman form, Kernel kernel) {
