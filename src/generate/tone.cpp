@@ -22,7 +22,8 @@ static_assert(sizeof(QvxsToneState) <= kBytes);
 // Integers are made in floats as well.
 template <class T> using Real = std::conditional_t<std::is_same_v<Part<T>, Qvx64f>, Qvx64f, Qvx32f>;
 
-template <class T> void fill(T* dst, size_t n, double magn, double rFreq, double turns) {
+// Flattened: a pair of sines and cosines that a function returns goes through memory.
+template <class T> [[gnu::flatten]] void fill(T* dst, size_t n, double magn, double rFreq, double turns) {
   using Angles = SpacedAngles<Real<T>>;
   if (n <= Angles::kFew) {
     Angles::few(turns, rFreq, magn, n,
