@@ -2,11 +2,13 @@
 // them.
 //
 // The angle of a lane is the first angle of its vector plus a constant of the lane, so sine and cosine cost two products each.
-// Those of first angles are rotated by a constant step, in doubles, and computed again every 4096 floats or 512 doubles.
+// Those of first angles are rotated by a constant step, in doubles, and computed again every 4096 floats or 512 to 1024 doubles.
 //
 // Error below 2^-22 of the scale in float; below 2^-48 in double (2^-46 on SSSE3, where more vectors mean more rotations). Where
 // sine and cosine are both positive, nothing cancels, and the relative error of the sine is as small.
 #pragma once
+
+#include <array>
 
 #include "frame/each_vector.h"
 #include "frame/map.h"
@@ -36,40 +38,50 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
  public:
   static constexpr size_t kLanes = kVectorBytes / sizeof(T);
   static constexpr size_t kWide = kVectorBytes / sizeof(double);
+  // Vectors to a first angle. Two halve the work that firsts are, 0.75 instructions a vector of floats; but then fewer of them
+  // fit an eighth of a turn.
+  static constexpr size_t kVectors = kSpan == Span::kAny ? 2 : 1;
+  static constexpr size_t kGroup = kVectors * kLanes;
   // Samples between one computed pair and the next. In doubles the error of every rotation counts.
-  static constexpr size_t kBlock = sizeof(T) == sizeof(float) ? 4096 : 512;
+  static constexpr size_t kBlock = sizeof(T) == sizeof(float) ? 4096 : 512 * kVectors;
   static constexpr size_t kFew = 4 * kWide;  // up to here it is cheaper to compute each
-  static constexpr size_t kEighth = kWide * kLanes;
+  static constexpr size_t kEighth = kWide * kGroup;
 
   // step: turns from one sample to the next. scale: what the results are multiplied by.
-  SpacedAngles(double step, double scale) : vectorStep_(kLanes * step) {
+  SpacedAngles(double step, double scale) : groupStep_(hn::Set(Lanes<double, kWide>(), kGroup * step)) {
     const Lanes<double, kWide> wide;
-    const auto lanesFrom = [=](size_t k) __attribute__((always_inline)) {
-      const auto angle = (placesOf(wide) + hn::Set(wide, static_cast<double>(k))) * hn::Set(wide, step);
-      const auto v = ofSteps<kDigits>(angle);
-      const auto sine = convertLanes<T>(v.sine * hn::Set(wide, scale));
-      return SinCos<std::remove_const_t<decltype(sine)>>{sine, convertLanes<T>(v.cosine * hn::Set(wide, scale))};
+    // Without its whole turns, so that the angles of firsts have fewer digits before the point and more after it.
+    if constexpr (kSpan == Span::kAny && kDigits > 24) groupStep_ = fractionOfTurns(groupStep_);
+    const auto turns = hn::OddEven(hn::Set(wide, kWide * 1.0) * groupStep_, hn::Set(wide, kWide * step));
+    const Wide turned = ofSteps<53>(turns);
+    const Wide next = {everyLane<0>(turned.sine), everyLane<0>(turned.cosine)};
+    turn_ = {everyLane<1>(turned.sine), everyLane<1>(turned.cosine)};
+    Wide part = ofSteps<kDigits>(placesOf(wide) * hn::Set(wide, step));
+    part = {part.sine * hn::Set(wide, scale), part.cosine * hn::Set(wide, scale)};
+    const auto nextPart = [&]() __attribute__((always_inline)) {
+      const auto made = SinCos{convertLanes<T>(part.sine), convertLanes<T>(part.cosine)};
+      part = rotated(part, next);
+      return made;
     };
-    const auto lower = lanesFrom(0);
-    if constexpr (kLanes == kWide) {
-      lanes_ = lower;
-    } else {
-      const auto upper = lanesFrom(kWide);
-      const Lanes<T, kLanes> d;
-      lanes_ = {hn::Combine(d, upper.sine, lower.sine), hn::Combine(d, upper.cosine, lower.cosine)};
-    }
-    const auto turned = ofSteps<53>(hn::Set(wide, kWide * vectorStep_));
-    turnSine_ = hn::GetLane(turned.sine);
-    turnCosine_ = hn::GetLane(turned.cosine);
+    unrolled<kVectors>([&](auto i) __attribute__((always_inline)) {
+      const auto lower = nextPart();
+      if constexpr (kLanes == kWide) {
+        lanes_[i] = lower;
+      } else {
+        const auto upper = nextPart();
+        const Lanes<T, kLanes> d;
+        lanes_[i] = {hn::Combine(d, upper.sine, lower.sine), hn::Combine(d, upper.cosine, lower.cosine)};
+      }
+    });
   }
 
   // put(at, sines, cosines) for whole vectors of `count` samples and put(at, sines, cosines, rest) for the last one, of which
   // only `rest` lanes count. startAt(at) is the angle of a block's first sample, asked for in order. Those of the next block are
   // computed beside a block: 4096 doubles take 0.84 of the time.
   template <class StartAt, class Put> [[gnu::always_inline]] void each(size_t count, StartAt startAt, Put put) const {
-    Firsts next = kSpan == Span::kFromZero ? firstsFrom<true>(0) : firstsFrom<false>(startAt(0));
+    Wide next = kSpan == Span::kFromZero ? firstsFrom<true>(0) : firstsFrom<false>(startAt(0));
     for (size_t from = 0; from < count; from += kBlock) {
-      const Firsts firsts = next;
+      const Wide firsts = next;
       if (from + kBlock < count) next = firstsFrom<false>(startAt(from + kBlock));
       block(
           firsts,
@@ -95,55 +107,62 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
     else return sinCosOfTurns<kGood>(turns);
   }
 
-  // The angles of first samples, of as many vectors as a register has doubles.
-  using Firsts = SinCos<Vec<Lanes<double, kWide>>>;
-  template <bool kAtZero> Firsts firstsFrom(double start) const {
+  using Wide = SinCos<Vec<Lanes<double, kWide>>>;
+  static Wide rotated(Wide v, Wide by) {
+    return {hn::MulAdd(v.sine, by.cosine, v.cosine * by.sine), hn::NegMulAdd(v.sine, by.sine, v.cosine * by.cosine)};
+  }
+  // The angles of as many groups' first samples as a register has doubles.
+  template <bool kAtZero> Wide firstsFrom(double start) const {
     const Lanes<double, kWide> wide;
-    const auto turns = hn::MulAdd(placesOf(wide), hn::Set(wide, vectorStep_), hn::Set(wide, start));
+    const auto turns = hn::MulAdd(placesOf(wide), groupStep_, hn::Set(wide, start));
     if constexpr (kAtZero) return ofSteps<kDigits>(turns);
     else return sinCosOfTurns<kDigits>(turns);
   }
 
-  template <class Put> [[gnu::always_inline]] void block(Firsts first, size_t count, Put put) const {
-    const Lanes<double, kWide> wide;
+  template <class Put> [[gnu::always_inline]] void block(Wide first, size_t count, Put put) const {
     const Lanes<T, kLanes> d;
-    // First angles are computed 8 rotations before they are used: broadcasting one that has only just been stored waits for the
-    // store, and 4096 samples take 1.2 times as long in AVX-512.
-    alignas(64) T firstSines[kBlock / kLanes];
-    alignas(64) T firstCosines[kBlock / kLanes];
-    const auto byS = hn::Set(wide, turnSine_);
-    const auto byC = hn::Set(wide, turnCosine_);
+    // First angles are computed some rotations before they are used: broadcasting one that has only just been stored waits for
+    // the store, and 4096 samples take 1.2 times as long in AVX-512.
+    alignas(64) T firstSines[kBlock / kGroup];
+    alignas(64) T firstCosines[kBlock / kGroup];
+    const Wide turn = turn_;
     size_t made = 0;
     const auto makeFirsts = [&]() __attribute__((always_inline)) {
       store(convertLanes<T>(first.sine), Lanes<T, kWide>(), firstSines + made);
       store(convertLanes<T>(first.cosine), Lanes<T, kWide>(), firstCosines + made);
-      first = {hn::MulAdd(first.sine, byC, first.cosine * byS), hn::NegMulAdd(first.sine, byS, first.cosine * byC)};
+      first = rotated(first, turn);
       made += kWide;
     };
-    while (made < kAhead && made * kLanes < count) makeFirsts();
-    const auto lanes = lanes_;
-    const auto putNext = [&](size_t k, auto... rest) __attribute__((always_inline)) {
+    while (made < kAhead && made * kGroup < count) makeFirsts();
+    const auto putNext = [&, lanes = lanes_ ](size_t k, auto i, auto... rest) __attribute__((always_inline)) {
       const auto s = hn::Set(d, firstSines[k]);
       const auto c = hn::Set(d, firstCosines[k]);
-      put(k * kLanes, hn::MulAdd(s, lanes.cosine, c * lanes.sine), hn::NegMulAdd(s, lanes.sine, c * lanes.cosine), rest...);
+      put(k * kGroup + i * kLanes, hn::MulAdd(s, lanes[i].cosine, c * lanes[i].sine),
+          hn::NegMulAdd(s, lanes[i].sine, c * lanes[i].cosine), rest...);
     };
-    const size_t whole = count / kLanes;
+    const auto putGroup = [&](size_t k) __attribute__((always_inline)) {
+      unrolled<kVectors>([&](auto i) __attribute__((always_inline)) { putNext(k, i); });
+    };
+    const size_t whole = count / kGroup;
     size_t k = 0;
     for (; k + kWide <= whole; k += kWide) {
-      if (made * kLanes < count) makeFirsts();
-      unrolled<kWide>([&](auto i) __attribute__((always_inline)) { putNext(k + i); });
+      if (made * kGroup < count) makeFirsts();
+      unrolled<kWide>([&](auto i) __attribute__((always_inline)) { putGroup(k + i); });
     }
-    for (; k < whole; ++k) putNext(k);
-    if (count % kLanes != 0) putNext(whole, count % kLanes);
+    for (; k < whole; ++k) putGroup(k);
+    unrolled<kVectors>([&](auto i) __attribute__((always_inline)) {
+      const size_t before = whole * kGroup + i * kLanes;
+      if (before + kLanes <= count) putNext(whole, i);
+      else if (before < count) putNext(whole, i, count - before);
+    });
   }
 
   // Doubles, of which a block takes eight rotations, gain nothing by more than one ahead.
-  static constexpr size_t kAhead = (sizeof(T) == sizeof(float) ? 8 : 1) * kWide;
+  static constexpr size_t kAhead = (sizeof(T) == sizeof(float) ? 8 / kVectors : 1) * kWide;
   static constexpr int kDigits = sizeof(T) == sizeof(float) ? 24 : 53;
-  SinCos<Vec<Lanes<T, kLanes>>> lanes_;
-  double vectorStep_;
-  double stepSine_;
-  double stepCosine_;
+  std::array<SinCos<Vec<Lanes<T, kLanes>>>, kVectors> lanes_;
+  Vec<Lanes<double, kWide>> groupStep_;
+  Wide turn_;
 };
 
 }  // namespace qvx
