@@ -75,22 +75,38 @@ template <class T, class Magn, class Phase> QvxStatus direct(T* dst, int len, Ma
 
 // ---- Q15: each sample by itself, so that a cut makes no difference
 
-// Turns are multiples of 2^-48 below 1, to which a step adds another: doubles hold them exactly.
 void fillQ15(Qvx16s* dst, size_t n, QvxsToneState& tone) {
-  constexpr size_t N = kVectorBytes / sizeof(double);
-  const Lanes<double, N> d;
+  constexpr size_t kBeside = kHasMasks ? 8 : 4;  // as many as registers hold
+  using Angles = Phases<double, kBeside>;
+  constexpr size_t N = Angles::N;
+  using V = Vec<Lanes<double, N>>;
   const RoundingScope nearest(Rounding::kNearest);
-  const auto turnsOf = [](uint64_t fixed) { return static_cast<double>(static_cast<int64_t>(fixed)) * 0x1p-64; };
-  alignas(64) double first[N];
-  for (size_t k = 0; k < N; ++k) first[k] = turnsOf(tone.phase + k * tone.step);
-  auto turns = load(d, first);
-  const auto step = hn::Set(d, turnsOf(N * tone.step));
-  eachVector<N>(n, [&](size_t at, auto... rest) {
-    const auto v = hn::Set(d, tone.magn) * cosineOfHalfTurn<53>(turns);
-    putSamples(dst, at, v, v, rest...);
-    turns = fractionOfTurns(turns + step);
-  });
+  const Angles phases(n, tone.step);
+  uint64_t phase = tone.phase;
+  const uint64_t step = tone.step;
+  const V magn = same<V>(tone.magn);
   tone.phase += n * tone.step;
+  // The cosine is the sine of what is left to a quarter.
+  const auto left = [&](size_t i) __attribute__((always_inline)) {
+    const V size = hn::Abs(phases(phase, i));
+    if constexpr (Angles::kUnit == 1) return same<V>(0.25) - size;
+    else return hn::NegMulAdd(size, same<V>(Angles::kUnit), same<V>(0.25));
+  };
+  const auto put = [&](size_t at, V sine, auto... rest) __attribute__((always_inline)) {
+    const V v = magn * sine;
+    putSamples(dst, at, v, v, rest...);
+  };
+  size_t from = 0;
+  for (; from + kBeside * N <= n; from += kBeside * N, phase += kBeside * N * step) {
+    std::array<V, kBeside> angles;
+    unrolled<kBeside>([&](auto i) __attribute__((always_inline)) { angles[i] = left(i); });
+    const auto sines = sinesOfQuarterTurns<53>(angles);
+    unrolled<kBeside>([&](auto i) __attribute__((always_inline)) { put(from + i * N, sines[i]); });
+  }
+  eachVector<N>(
+      n - from, [&](size_t at, auto... rest) __attribute__((always_inline)) {
+        put(from + at, sinesOfQuarterTurns<53>(std::array<V, 1>{left(at / N)})[0], rest...);
+      });
 }
 
 QvxStatus checkQ15(int magn, int rFreqQ15, int phaseQ15) {

@@ -2,8 +2,6 @@
 // nothing accumulates.
 #include <bit>
 
-#include "frame/each_vector.h"
-#include "frame/unroll.h"
 #include "generate/record.h"
 #include "generate/wave.h"
 
@@ -49,112 +47,41 @@ static_assert(sizeof(QvxsTriangleState) <= kBytes);
 template <class T> constexpr double kLeast = std::is_integral_v<T> ? 0x1p-30 : std::is_same_v<T, Qvx32f> ? 0x1p-24 : 0x1p-52;
 
 constexpr uint64_t kHalfTurn = uint64_t{1} << 63;
-constexpr uint64_t kQuarterTurn = uint64_t{1} << 62;
 
-template <class V> [[gnu::always_inline]] inline V line(V v, V slope, V at0) { return hn::MulAdd(v, slope, at0); }
-
-// The lines over phases that count to 2^32 or 2^64.
-template <class Real> struct Counted {
-  using Phase = std::conditional_t<sizeof(Real) == 4, int32_t, int64_t>;
+// The upper one of the lines, over phases as they are counted.
+template <class Real> struct Upper {
   Real fall;
   Real rise;
   Real fallAt0;
   Real riseAt0;
-  Phase valley;  // where they meet
+  Real valley;
 
   // With masks the line is chosen before it is computed: one multiplication and no maximum, which on some processors share one
-  // port, at 3.5 cycles a vector of floats, not 5.
-  template <class P> [[gnu::always_inline]] auto operator()(P phase) const {
-    const hn::RebindToFloat<TagOf<P>> d;
-    const auto v = hn::ConvertTo(d, phase);
-    const auto each = [=](Real x) { return hn::Set(d, x); };
+  // port, at 3.7 cycles a vector of floats, not 5.
+  template <class V> [[gnu::always_inline]] V operator()(V v) const {
+    const auto each = [](Real x) { return same<V>(x); };
     if constexpr (kHasMasks) {
-      const auto falls = hn::RebindMask(d, phase < hn::Set(TagOf<P>(), valley));
-      return line(v, hn::IfThenElse(falls, each(fall), each(rise)), hn::IfThenElse(falls, each(fallAt0), each(riseAt0)));
+      const auto falls = v < each(valley);
+      return hn::MulAdd(v, hn::IfThenElse(falls, each(fall), each(rise)), hn::IfThenElse(falls, each(fallAt0), each(riseAt0)));
     } else {
-      return hn::Max(line(v, each(fall), each(fallAt0)), line(v, each(rise), each(riseAt0)));
+      return hn::Max(hn::MulAdd(v, each(fall), each(fallAt0)), hn::MulAdd(v, each(rise), each(riseAt0)));
     }
   }
 };
 
-// Of a phase that counts to 2^64, the digits that Phase has.
-template <class Phase> Phase upperDigits(uint64_t phase) {
-  return static_cast<Phase>(static_cast<std::make_unsigned_t<Phase>>(phase >> (64 - 8 * sizeof(Phase))));
-}
-
-// Vectors whose phases are the sums of one and the same with what is theirs: it comes from a 64-bit number, at the price of two
-// additions.
-inline constexpr size_t kTogether = 4;
-
-// N samples at a time of wave(phase, i), where i vectors have been made of that phase; an imaginary part is a quarter of a turn
-// late.
-template <size_t N, class T, class Wave>
-[[gnu::always_inline]] inline void putWave(T* dst, size_t n, Wave wave, uint64_t step, uint64_t phase) {
-  const auto put = [&](size_t i, size_t at, auto... rest) __attribute__((always_inline)) {
-    const auto v = wave(phase, i);
-    if constexpr (PartsOf<T>::kCount == 1) putSamples(dst, at, v, v, rest...);
-    else putSamples(dst, at, v, wave(phase - kQuarterTurn, i), rest...);
-  };
-  size_t from = 0;
-  for (; from + kTogether * N <= n; from += kTogether * N, phase += kTogether * N * step) {
-    unrolled<kTogether>([&](auto i) __attribute__((always_inline)) { put(i, from + i * N); });
-  }
-  eachVector<N>(
-      n - from, [&](size_t at, auto... rest) __attribute__((always_inline)) { put(at / N, from + at, rest...); });
-}
-
-// Turns up to a half, as Phase counts them.
-template <class Phase> Phase counted(double turns) {
-  const double at = turns * -2 * static_cast<double>(std::numeric_limits<Phase>::min());
-  return turns < 0.5 ? static_cast<Phase>(at) : std::numeric_limits<Phase>::max();
-}
-
-// The phases of a vector, from the first one and the number of vectors made of that.
-template <class Phase, size_t N> struct Phases {
-  static constexpr Lanes<Phase, N> d = {};
-  alignas(64) Phase steps[kTogether * N];
-
-  Phases(size_t n, uint64_t step) {
-    for (size_t k = 0; k < N; ++k) steps[k] = upperDigits<Phase>(k * step);
-    for (size_t i = 1; i < kTogether && i * N < n; ++i) {
-      store(load(d, steps) + hn::Set(d, upperDigits<Phase>(i * N * step)), d, steps + i * N);
-    }
-  }
-  [[gnu::always_inline]] auto operator()(uint64_t first, size_t i) const {
-    return hn::Set(d, upperDigits<Phase>(first)) + load(d, steps + i * N);
-  }
-};
-
-// In doubles. Where no instruction converts 64-bit integers the first phase is exact and the others two products more.
 template <class T> void fill(T* dst, size_t n, double magn, Lines unit, uint64_t step, uint64_t phase) {
-  constexpr size_t N = kVectorBytes / sizeof(double);
   constexpr bool kRounds = std::is_integral_v<Part<T>>;
-  const Lanes<double, N> d;
+  constexpr double kUnit = Phases<double>::kUnit;
+  const Phases<double> phases(n, step);
   const Lines lines = kRounds ? unit.times(magn) : unit;
-  const auto within = [=](auto v) __attribute__((always_inline)) {
+  const Upper<double> upper{lines.fall * kUnit, lines.rise * kUnit, lines.fallAt0, lines.riseAt0, lines.valley / kUnit};
+  const auto wave = [&](uint64_t at, size_t i) __attribute__((always_inline)) {
+    const auto v = upper(phases(at, i));
+    using V = std::remove_const_t<decltype(v)>;
     if constexpr (kRounds) return v;
-    else return hn::Max(hn::Min(v, hn::Set(d, 1.0)), hn::Set(d, -1.0)) * hn::Set(d, magn);
+    else return hn::Max(hn::Min(v, same<V>(1)), same<V>(-1)) * same<V>(magn);
   };
-  if constexpr (kHasMasks) {
-    const Phases<int64_t, N> phases(n, step);
-    const Counted<double> upper{lines.fall * 0x1p-64, lines.rise * 0x1p-64, lines.fallAt0, lines.riseAt0,
-                                counted<int64_t>(lines.valley)};
-    const auto wave = [&](uint64_t at, size_t i) __attribute__((always_inline)) { return within(upper(phases(at, i))); };
-    putWave<N>(dst, n, wave, step, phase);
-  } else {
-    alignas(64) double steps[kTogether * N];
-    for (size_t k = 0; k < N; ++k) steps[k] = static_cast<double>(k * step) * 0x1p-64;
-    for (size_t i = 1; i < kTogether && i * N < n; ++i) {
-      store(load(d, steps) + hn::Set(d, static_cast<double>(i * N * step) * 0x1p-64), d, steps + i * N);
-    }
-    const auto wave = [&](uint64_t at, size_t i) __attribute__((always_inline)) {
-      const auto turns = hn::Set(d, static_cast<double>(static_cast<int64_t>(at)) * 0x1p-64) + load(d, steps + i * N);
-      const auto v = turns - hn::Round(turns);
-      return within(hn::Max(line(v, hn::Set(d, lines.fall), hn::Set(d, lines.fallAt0)),
-                            line(v, hn::Set(d, lines.rise), hn::Set(d, lines.riseAt0))));
-    };
-    putWave<N>(dst, n, wave, step, phase);
-  }
+  putWave<Phases<double>::N>(dst, n, wave, step, phase);
 }
 
 // The greatest float up to v.
@@ -170,22 +97,23 @@ float floatUpTo(double v) {
 template <class T>
 requires std::is_same_v<Part<T>, Qvx32f>
 void fill(T* dst, size_t n, double magn, Lines lines, uint64_t step, uint64_t phase) {
-  constexpr size_t N = kVectorBytes / sizeof(float);
-  const Lanes<float, N> real;
   if (!(magn >= 0x1p-64 && magn <= 0x1p64)) {  // the lines would leave the range of floats
     fill(dst, n, 1, lines, step, phase);
     const auto scaled = [=](auto v) { return v * same<decltype(v)>(static_cast<float>(magn)); };
     loop(scaled, destination(dst), PartsOf<T>::kCount * n, source(dst));
     return;
   }
-  const Phases<int32_t, N> phases(n, step);
-  const auto fall = static_cast<float>(lines.fall * magn * 0x1p-32);
-  const auto rise = static_cast<float>(lines.rise * magn * 0x1p-32);
-  const Counted<float> both{fall, rise, floatUpTo(magn + static_cast<double>(fall) * 0x1p31),
-                            floatUpTo(magn - static_cast<double>(rise) * 0x1p31), counted<int32_t>(lines.valley)};
-  const auto least = hn::Set(real, static_cast<float>(-magn));
-  const auto wave = [&](uint64_t at, size_t i) __attribute__((always_inline)) { return hn::Max(both(phases(at, i)), least); };
-  putWave<N>(dst, n, wave, step, phase);
+  constexpr double kUnit = Phases<float>::kUnit;
+  const Phases<float> phases(n, step);
+  const auto fall = static_cast<float>(lines.fall * magn * kUnit);
+  const auto rise = static_cast<float>(lines.rise * magn * kUnit);
+  const Upper<float> upper{fall, rise, floatUpTo(magn + static_cast<double>(fall) * (0.5 / kUnit)),
+                           floatUpTo(magn - static_cast<double>(rise) * (0.5 / kUnit)), static_cast<float>(lines.valley / kUnit)};
+  const auto wave = [&](uint64_t at, size_t i) __attribute__((always_inline)) {
+    const auto v = upper(phases(at, i));
+    return hn::Max(v, hn::Set(TagOf<decltype(v)>(), static_cast<float>(-magn)));
+  };
+  putWave<Phases<float>::N>(dst, n, wave, step, phase);
 }
 
 template <class T, class Magn, class Phase> QvxStatus direct(T* dst, int len, Magn magn, Phase rFreq, Phase asym, Phase* phase) {

