@@ -31,15 +31,15 @@ template <int kDigits, class V> SinCos<V> sinCosOfEighth(V turns) {
 }
 
 // Which angles a caller asks for. kFromZero: those from 0 up to a quarter turn, in steps of which kEighth are an eighth at most:
-// a call begins after 60 ns, not 85.
+// a window of 1088 floats takes 0.75 of the time.
 enum class Span { kAny, kFromZero };
 
 template <class T, Span kSpan = Span::kAny> class SpacedAngles {
  public:
   static constexpr size_t kLanes = kVectorBytes / sizeof(T);
   static constexpr size_t kWide = kVectorBytes / sizeof(double);
-  // Vectors to a first angle. Two halve the work that firsts are, 0.75 instructions a vector of floats; but then fewer of them
-  // fit an eighth of a turn.
+  // Vectors to a first angle. Two halve the work that firsts are, 0.75 instructions a vector of floats: a tone of 4096 takes 0.82
+  // of the time, of doubles 0.6. But then fewer of them fit an eighth of a turn.
   static constexpr size_t kVectors = kSpan == Span::kAny ? 2 : 1;
   static constexpr size_t kGroup = kVectors * kLanes;
   // Samples between one computed pair and the next. In doubles the error of every rotation counts.
@@ -52,14 +52,14 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
     const Lanes<double, kWide> wide;
     // Without its whole turns, so that the angles of firsts have fewer digits before the point and more after it.
     if constexpr (kSpan == Span::kAny && kDigits > 24) groupStep_ = fractionOfTurns(groupStep_);
-    const auto turns = hn::OddEven(hn::Set(wide, kWide * 1.0) * groupStep_, hn::Set(wide, kWide * step));
+    const auto turns = hn::OddEven(hn::Set(wide, static_cast<double>(kWide)) * groupStep_, hn::Set(wide, kWide * step));
     const Wide turned = ofSteps<53>(turns);
     const Wide next = {everyLane<0>(turned.sine), everyLane<0>(turned.cosine)};
     turn_ = {everyLane<1>(turned.sine), everyLane<1>(turned.cosine)};
     Wide part = ofSteps<kDigits>(placesOf(wide) * hn::Set(wide, step));
     part = {part.sine * hn::Set(wide, scale), part.cosine * hn::Set(wide, scale)};
     const auto nextPart = [&]() __attribute__((always_inline)) {
-      const auto made = SinCos{convertLanes<T>(part.sine), convertLanes<T>(part.cosine)};
+      const SinCos<Vec<Lanes<T, kWide>>> made = {convertLanes<T>(part.sine), convertLanes<T>(part.cosine)};
       part = rotated(part, next);
       return made;
     };
