@@ -54,14 +54,16 @@ template <class Real> struct Upper {
   Real rise;
   Real fallAt0;
   Real riseAt0;
-  Real valley;
+  typename Phases<Real>::Lane valley;
 
   // With masks the line is chosen before it is computed: one multiplication and no maximum, which on some processors share one
   // port, at 3.7 cycles a vector of floats, not 5.
-  template <class V> [[gnu::always_inline]] V operator()(V v) const {
-    const auto each = [](Real x) { return same<V>(x); };
+  template <class P> [[gnu::always_inline]] auto operator()(P phases) const {
+    const auto v = Phases<Real>::reals(phases);
+    const TagOf<std::remove_const_t<decltype(v)>> d;
+    const auto each = [=](Real x) { return hn::Set(d, x); };
     if constexpr (kHasMasks) {
-      const auto falls = v < each(valley);
+      const auto falls = hn::RebindMask(d, phases < hn::Set(TagOf<P>(), valley));
       return hn::MulAdd(v, hn::IfThenElse(falls, each(fall), each(rise)), hn::IfThenElse(falls, each(fallAt0), each(riseAt0)));
     } else {
       return hn::Max(hn::MulAdd(v, each(fall), each(fallAt0)), hn::MulAdd(v, each(rise), each(riseAt0)));
@@ -74,7 +76,8 @@ template <class T> void fill(T* dst, size_t n, double magn, Lines unit, uint64_t
   constexpr double kUnit = Phases<double>::kUnit;
   const Phases<double> phases(n, step);
   const Lines lines = kRounds ? unit.times(magn) : unit;
-  const Upper<double> upper{lines.fall * kUnit, lines.rise * kUnit, lines.fallAt0, lines.riseAt0, lines.valley / kUnit};
+  const Upper<double> upper{lines.fall * kUnit, lines.rise * kUnit, lines.fallAt0, lines.riseAt0,
+                            Phases<double>::counted(lines.valley)};
   const auto wave = [&](uint64_t at, size_t i) __attribute__((always_inline)) {
     const auto v = upper(phases(at, i));
     using V = std::remove_const_t<decltype(v)>;
@@ -108,7 +111,7 @@ void fill(T* dst, size_t n, double magn, Lines lines, uint64_t step, uint64_t ph
   const auto fall = static_cast<float>(lines.fall * magn * kUnit);
   const auto rise = static_cast<float>(lines.rise * magn * kUnit);
   const Upper<float> upper{fall, rise, floatUpTo(magn + static_cast<double>(fall) * (0.5 / kUnit)),
-                           floatUpTo(magn - static_cast<double>(rise) * (0.5 / kUnit)), static_cast<float>(lines.valley / kUnit)};
+                           floatUpTo(magn - static_cast<double>(rise) * (0.5 / kUnit)), Phases<float>::counted(lines.valley)};
   const auto wave = [&](uint64_t at, size_t i) __attribute__((always_inline)) {
     const auto v = upper(phases(at, i));
     return hn::Max(v, hn::Set(TagOf<decltype(v)>(), static_cast<float>(-magn)));
