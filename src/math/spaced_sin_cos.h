@@ -4,7 +4,7 @@
 // The angle of a lane is the first angle of its vector plus a constant of the lane, so sine and cosine cost two products each.
 // Those of first angles are rotated by a constant step, in doubles, and computed again every 4096 floats or 512 to 1024 doubles.
 //
-// Error below 2^-22 of the scale in float; below 2^-48 in double (2^-46 on SSSE3, where more vectors mean more rotations). Where
+// Error below 2^-22 of the scale in float; below 2^-47 in double (2^-45 on SSSE3, where more vectors mean more rotations). Where
 // sine and cosine are both positive, nothing cancels, and the relative error of the sine is as small.
 #pragma once
 
