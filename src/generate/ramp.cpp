@@ -1,8 +1,8 @@
 // Ramps, and chirps that begin at 0 and end at half the sampling rate.
 #include <cmath>
 
-#include "frame/map.h"
 #include "frame/lane_numbers.h"
+#include "frame/map.h"
 #include "frame/rounding.h"
 #include "frame/unroll.h"
 #include "math/sine.h"

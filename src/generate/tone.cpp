@@ -37,7 +37,8 @@ template <class T> [[gnu::flatten]] void fill(T* dst, size_t n, double magn, dou
     if (at > 0) turns += blockStep;
     return turns -= static_cast<double>(static_cast<int64_t>(turns));
   };
-  angles.each(n, startAt, [=](size_t at, auto sine, auto cosine, auto... rest) { putSamples(dst, at, cosine, sine, rest...); });
+  angles.forEachVector(n, startAt,
+                       [=](size_t at, auto sine, auto cosine, auto... rest) { putSamples(dst, at, cosine, sine, rest...); });
 }
 
 template <class T, class Magn, class Phase> QvxStatus direct(T* dst, int len, Magn magn, Phase rFreq, Phase* phase);

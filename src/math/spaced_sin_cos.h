@@ -11,8 +11,8 @@
 #include <array>
 
 #include "frame/each_vector.h"
+#include "frame/lane_numbers.h"
 #include "frame/map.h"
-#include "frame/places.h"
 #include "frame/unroll.h"
 #include "math/sin_cos.h"
 
@@ -53,10 +53,10 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
     // Without its whole turns, so that the angles of firsts have fewer digits before the point and more after it.
     if constexpr (kSpan == Span::kAny && kDigits > 24) groupStep_ = fractionOfTurns(groupStep_);
     const auto turns = hn::OddEven(hn::Set(wide, static_cast<double>(kWide)) * groupStep_, hn::Set(wide, kWide * step));
-    const Wide turned = ofSteps<53>(turns);
-    const Wide next = {everyLane<0>(turned.sine), everyLane<0>(turned.cosine)};
-    turn_ = {everyLane<1>(turned.sine), everyLane<1>(turned.cosine)};
-    Wide part = ofSteps<kDigits>(placesOf(wide) * hn::Set(wide, step));
+    const Wide steps = ofSteps<53>(turns);
+    const Wide next = {everyLane<0>(steps.sine), everyLane<0>(steps.cosine)};
+    rotation_ = {everyLane<1>(steps.sine), everyLane<1>(steps.cosine)};
+    Wide part = ofSteps<kDigits>(laneNumbersOf(wide) * hn::Set(wide, step));
     part = {part.sine * hn::Set(wide, scale), part.cosine * hn::Set(wide, scale)};
     const auto nextPart = [&]() __attribute__((always_inline)) {
       const SinCos<Vec<Lanes<T, kWide>>> made = {convertLanes<T>(part.sine), convertLanes<T>(part.cosine)};
@@ -78,7 +78,7 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
   // put(at, sines, cosines) for whole vectors of `count` samples and put(at, sines, cosines, rest) for the last one, of which
   // only `rest` lanes count. startAt(at) is the angle of a block's first sample, asked for in order. Those of the next block are
   // computed beside a block: 4096 doubles take 0.84 of the time.
-  template <class StartAt, class Put> [[gnu::always_inline]] void each(size_t count, StartAt startAt, Put put) const {
+  template <class StartAt, class Put> [[gnu::always_inline]] void forEachVector(size_t count, StartAt startAt, Put put) const {
     Wide next = kSpan == Span::kFromZero ? firstsFrom<true>(0) : firstsFrom<false>(startAt(0));
     for (size_t from = 0; from < count; from += kBlock) {
       const Wide firsts = next;
@@ -114,7 +114,7 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
   // The angles of as many groups' first samples as a register has doubles.
   template <bool kAtZero> Wide firstsFrom(double start) const {
     const Lanes<double, kWide> wide;
-    const auto turns = hn::MulAdd(placesOf(wide), groupStep_, hn::Set(wide, start));
+    const auto turns = hn::MulAdd(laneNumbersOf(wide), groupStep_, hn::Set(wide, start));
     if constexpr (kAtZero) return ofSteps<kDigits>(turns);
     else return sinCosOfTurns<kDigits>(turns);
   }
@@ -125,12 +125,12 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
     // the store, and 4096 samples take 1.2 times as long in AVX-512.
     alignas(64) T firstSines[kBlock / kGroup];
     alignas(64) T firstCosines[kBlock / kGroup];
-    const Wide turn = turn_;
+    const Wide rotation = rotation_;
     size_t made = 0;
     const auto makeFirsts = [&]() __attribute__((always_inline)) {
       store(convertLanes<T>(first.sine), Lanes<T, kWide>(), firstSines + made);
       store(convertLanes<T>(first.cosine), Lanes<T, kWide>(), firstCosines + made);
-      first = rotated(first, turn);
+      first = rotated(first, rotation);
       made += kWide;
     };
     while (made < kAhead && made * kGroup < count) makeFirsts();
@@ -162,7 +162,7 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
   static constexpr int kDigits = sizeof(T) == sizeof(float) ? 24 : 53;
   std::array<SinCos<Vec<Lanes<T, kLanes>>>, kVectors> lanes_;
   Vec<Lanes<double, kWide>> groupStep_;
-  Wide turn_;
+  Wide rotation_;
 };
 
 }  // namespace qvx

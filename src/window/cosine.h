@@ -6,7 +6,7 @@
 #include <bit>
 
 #include "frame/each_vector.h"
-#include "frame/places.h"
+#include "frame/lane_numbers.h"
 #include "math/sine.h"
 #include "math/spaced_sin_cos.h"
 #include "window/weigh.h"
@@ -54,10 +54,10 @@ struct RisingBlackman {
 
 namespace detail {
 
-// From as many weights on vectors are turned on by angles that have to be made first; fewer are made by a polynomial each.
-template <class Real> inline constexpr size_t kTurned = (sizeof(Real) == sizeof(float) ? 18 : 16) * kVectorBytes / sizeof(Real);
+// From as many weights on, vectors are rotated by angles that have to be made first; fewer are made by a polynomial each.
+template <class Real> inline constexpr size_t kRotated = (sizeof(Real) == sizeof(float) ? 18 : 16) * kVectorBytes / sizeof(Real);
 template <class Real> using Angles = SpacedAngles<Real, Span::kFromZero>;
-static_assert(kTurned<float> >= 2 * Angles<float>::kEighth && kTurned<double> >= 2 * Angles<double>::kEighth);
+static_assert(kRotated<float> >= 2 * Angles<float>::kEighth && kRotated<double> >= 2 * Angles<double>::kEighth);
 
 // sin(pi n / (N-1)) for n = 0, 1, ..., a vector at a time.
 template <class Real> class Sines {
@@ -85,13 +85,13 @@ template <> class Sines<float> {
   explicit Sines(size_t len) {
     const double step = 3.141592653589793 / static_cast<double>(len - 1);
     // All but 24 digits and as many as places have, without a way through integer registers: 5 ns of a call.
-    constexpr int kLower = 53 - 24 + std::bit_width(kTurned<float> - 1);
+    constexpr int kLower = 53 - 24 + std::bit_width(kRotated<float> - 1);
     const auto mask = hn::Set(pair_, std::bit_cast<double>(~uint64_t{0} << kLower));
     const auto upperStep = hn::GetLane(hn::Set(pair_, step) & mask);
     const auto upper = static_cast<float>(upperStep);
     const auto lower = static_cast<float>(step - upperStep);
-    high_ = placesOf(d_) * hn::Set(d_, upper);
-    low_ = placesOf(d_) * hn::Set(d_, lower);
+    high_ = laneNumbersOf(d_) * hn::Set(d_, upper);
+    low_ = laneNumbersOf(d_) * hn::Set(d_, lower);
     highStep_ = hn::Set(d_, N * upper);
     lowStep_ = hn::Set(d_, N * lower);
   }
@@ -126,11 +126,11 @@ template <class Real, class T, class Form, class Kernel>
   });
 }
 template <class Real, class T, class Form, class Kernel>
-[[gnu::noinline, gnu::flatten]] void weighByTurning(const T* src, T* dst, size_t len, Form form, Kernel kernel) {
+[[gnu::noinline, gnu::flatten]] void weighByRotation(const T* src, T* dst, size_t len, Form form, Kernel kernel) {
   const double step = 0.5 / static_cast<double>(len - 1);
   weigh(src, dst, len, kernel, [=](size_t count, const auto& put) {
     const Angles<Real> angles(step, form.scale());
-    angles.each(
+    angles.forEachVector(
         count, [=](size_t at) { return static_cast<double>(at) * step; },
         [&](size_t at, auto sine, auto, auto... rest) { put(at, convertLanes<Weight<T>>(form(sine)), rest...); });
   });
@@ -138,16 +138,16 @@ template <class Real, class T, class Form, class Kernel>
 
 // A function of its own: short windows, which do not need it, take 2 ns less.
 template <class Real, class T, class Kernel>
-[[gnu::noinline]] void weighByTurningAsItRises(const T* src, T* dst, size_t len, Blackman form, Kernel kernel) {
-  if (form.c2 > 0x1p-40) weighByTurning<Real>(src, dst, len, RisingBlackman(form), kernel);
-  else weighByTurning<Real>(src, dst, len, form, kernel);
+[[gnu::noinline]] void weighByRotationAsItRises(const T* src, T* dst, size_t len, Blackman form, Kernel kernel) {
+  if (form.c2 > 0x1p-40) weighByRotation<Real>(src, dst, len, RisingBlackman(form), kernel);
+  else weighByRotation<Real>(src, dst, len, form, kernel);
 }
 
 template <class Real, class T, class Form, class Kernel>
 void weighByCosine(const T* src, T* dst, size_t len, Form form, Kernel kernel) {
-  if (len / 2 < kTurned<Real>) weighBySines<Real>(src, dst, len, form, kernel);
-  else if constexpr (std::is_same_v<Form, Blackman>) weighByTurningAsItRises<Real>(src, dst, len, form, kernel);
-  else weighByTurning<Real>(src, dst, len, form, kernel);
+  if (len / 2 < kRotated<Real>) weighBySines<Real>(src, dst, len, form, kernel);
+  else if constexpr (std::is_same_v<Form, Blackman>) weighByRotationAsItRises<Real>(src, dst, len, form, kernel);
+  else weighByRotation<Real>(src, dst, len, form, kernel);
 }
 
 // Where a Blackman window comes down to 1 from weights far above, it is the difference of terms of that size, and sines in floats
