@@ -1,5 +1,5 @@
-// Odd lengths with small factors: by a complex transform of the numbers in halves (even.h), whose spectrum is that of a real
-// sequence.
+// Odd lengths with small factors, and primes whose points go through a convolution in another order: by a complex transform of
+// the numbers in halves (even.h), whose spectrum is that of a real sequence.
 #pragma once
 
 #include "dct/even.h"

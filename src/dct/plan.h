@@ -14,15 +14,18 @@ struct Needs {
   int64_t making;
 };
 struct PlanNeeds {
-  dft::Way way;
+  bool isByChirp;
   int64_t tables;
   int64_t work;
+  int64_t making;
 };
 template <class T> PlanNeeds needsOfPlan(size_t n) {
   dft::ComplexPlan<T> plan = {};
   const dft::Bytes bytes = dft::choosePlan(plan, static_cast<int>(n), QVX_FFT_SCALE_NONE);
   constexpr int64_t kSlack = alignof(dft::ComplexPlan<T>) - 1;
-  return {plan.way, static_cast<int64_t>(sizeof(plan)) + kSlack + bytes.tables, bytes.work};
+  const bool isConvolution = plan.way == dft::Way::kConvolution;
+  return {isConvolution && !plan.convolution.isPermuted, static_cast<int64_t>(sizeof(plan)) + kSlack + bytes.tables, bytes.work,
+          isConvolution ? bytes.work : 0};
 }
 template <class T> const dft::ComplexPlan<T>* makePlan(size_t n, Carver& tables, Qvx8u* work) {
   auto* const plan = tables.take<dft::ComplexPlan<T>>(1);

@@ -45,7 +45,7 @@ template <class T> Needs needsOfHalf(size_t n) {
   const auto plan = needsOfPlan<T>(n / 2);
   const int64_t numbers = sizeof(T);
   return {plan.tables + static_cast<int64_t>(evenTableLength<T>(n)) * numbers, plan.work + static_cast<int64_t>(n) * numbers,
-          plan.way == dft::Way::kConvolution ? plan.work : 0};
+          plan.making};
 }
 
 template <class Record> bool fits(Needs needs, Sizes sizes) {
@@ -63,8 +63,8 @@ template <class Record> Way wayOf(int len, Sizes sizes) {
   if (len % 2 != 0) {
     const auto plan = needsOfPlan<T>(n);
     constexpr int64_t kNumber = sizeof(T);
-    const Needs needs = {plan.tables + len * kNumber, plan.work + 2 * len * kNumber, 0};
-    if (plan.way != dft::Way::kConvolution && fits<Record>(needs, sizes)) return Way::kOdd;
+    const Needs needs = {plan.tables + len * kNumber, plan.work + 2 * len * kNumber, plan.making};
+    if (!plan.isByChirp && fits<Record>(needs, sizes)) return Way::kOdd;
   }
   return Way::kChirp;
 }

@@ -1,7 +1,7 @@
 // Transforms of any number of points: by which way a length goes, its tables, and its run.
 #pragma once
 
-#include "dft/direct.h"
+#include "dft/small_complex.h"
 #include "transform/grid.h"
 #include "transform/mixed_blocks.h"
 

@@ -13,6 +13,7 @@
 
 #include "frame/team.h"
 #include "transform/mixed_plan.h"
+#include "transform/small_interleaved.h"
 
 namespace qvx::transform {
 
@@ -173,6 +174,48 @@ template <size_t L, class T>
       });
 }
 
+// A square of L rows into rows of its columns, `apart`: of `columns` of these the first `here` numbers.
+template <size_t L, class T, class V>
+QVX_INLINE void putTransposed(Planes<T> dst, Complex<V> (&z)[L], size_t apart, size_t columns, size_t here) {
+  transposeParts(z);
+  unrolled<L>([&](auto i) __attribute__((always_inline)) {
+    if (i < columns) putPart<L>(dst, z[i], i * apart, here);
+  });
+}
+// Whole numbers need three quarters of the shuffles that two parts and their interleaving do.
+template <size_t L, class T, class V>
+QVX_INLINE void putTransposed(Conjugable<T> dst, Complex<V> (&z)[L], size_t apart, size_t columns, size_t here) {
+  const TagOf<V> d;
+  constexpr size_t P = L / 2;          // numbers in a vector
+  constexpr size_t B = 8 / sizeof(T);  // in 128 bits
+  unrolled<2>([&](auto lower) __attribute__((always_inline)) {
+    V low[P];
+    V high[P];
+    unrolled<P>([&](auto i) __attribute__((always_inline)) {
+      const Complex<V> row = z[lower * P + i];
+      const V im = dst.signedAs(row.im);
+      low[i] = hn::InterleaveLower(d, row.re, im);
+      high[i] = hn::InterleaveUpper(d, row.re, im);
+    });
+    transposePoints(low);
+    transposePoints(high);
+    const size_t begin = lower * P;
+    if (begin >= here) return;
+    const size_t count = std::min(P, here - begin);
+    const auto put = [&](V v, size_t column) __attribute__((always_inline)) {
+      if (column >= columns) return;
+      T* const to = dst.p + 2 * (column * apart + begin);
+      if (count == P) store(v, d, to);
+      else putFirstLanes(v, d, to, 2 * count);
+    };
+    unrolled<P>([&](auto j) __attribute__((always_inline)) {
+      constexpr size_t kColumn = j / B * 2 * B + j % B;
+      put(low[j], kColumn);
+      put(high[j], kColumn + B);
+    });
+  });
+}
+
 // The columns of a tile, `count` from column `first` on of the whole, transposed, into rows of the length of a column.
 template <size_t L, class T, class Dst>
 [[gnu::noinline]] void putColumnsAsRows(const MixedBlocks<T>& blocks, Tile<T> tile, Dst dst, size_t first, size_t count) {
@@ -184,10 +227,7 @@ template <size_t L, class T, class Dst>
           const size_t row = a + std::min<size_t>(i, here - 1);
           z[i] = product(tile.points.template get<L>(row * tile.wide + c), twiddleOf<L>(blocks, row, (first + c) / L));
         });
-        transposeParts(z);
-        unrolled<L>([&](auto i) __attribute__((always_inline)) {
-          if (c + i < count) putPart<L>(dst, z[i], (first + c + i) * length + a, here);
-        });
+        putTransposed(dst.from((first + c) * length + a), z, length, count - c, here);
       });
 }
 
