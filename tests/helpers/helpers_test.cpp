@@ -193,6 +193,14 @@ TEST(ZeroCrossing, CountsByItsType) {
   const float special[] = {0.0F, -0.0F, 1e-45F, -1e-45F, INFINITY, -INFINITY, NAN, -NAN};
   for (Qvx32f& x : floats) x = random() % 3 == 0 ? special[random() % 8] : x;
   expectCrossings(floats, qvxsZeroCrossing_32f);
+  // More of them than lanes of 16 bits count in one go.
+  std::vector<Qvx16s> alternating(300000);
+  for (size_t i = 0; i < alternating.size(); ++i) alternating[i] = i % 2 == 0 ? 1 : -1;
+  for (const int type : {0, 1, 2}) {
+    Qvx32f count;
+    ASSERT_EQ(qvxsZeroCrossing_16s32f(alternating.data(), 300000, &count, type), qvxStatOk);
+    EXPECT_EQ(count, 299999) << type;
+  }
   const Qvx16s step[] = {1, 0, -1};
   const float expected[] = {0, 1, 1};
   for (const int type : {0, 1, 2}) {
