@@ -126,7 +126,8 @@ template <class R> Lanewise<typename R::Kernel> lanewise(const R& record) {
 
 // make(y) puts `count` outputs of the kernel's type, kMost at most; dst takes them as they are, or as finish(y, count, dst) makes
 // them.
-template <class C, size_t kMost, class T, class Make, class Finish> void putOutputs(T* dst, size_t count, Make make, Finish finish) {
+template <class C, size_t kMost, class T, class Make, class Finish>
+void putOutputs(T* dst, size_t count, Make make, Finish finish) {
   if constexpr (std::is_same_v<C, T>) {
     make(dst);
   } else {

@@ -65,24 +65,26 @@ template <class K> class Packing {
   void pack(Pairs<K> x, size_t n, uint64_t* rest) const {
     const auto least = hn::Set(kUnsigned, least_), lowMask = hn::Set(kUnsigned, mask(lowBits_)), sign = hn::Set(kUnsigned, kSign);
     const auto first = hn::Iota(kUnsigned, 0);
-    change(x.keys, n, [=, this](auto keys, size_t at) __attribute__((always_inline)) {
-      const auto above = as<U>(keys) - least;
-      storePairs<K>(above & lowMask, n - at >= N ? x.numbersAt(at) : loadFirst(kNumbers, x.numbers + at, n - at), rest + at);
-      const auto upper = hn::ShiftLeftSame(hn::ShiftRightSame(above, lowBits_), placeBits_);
-      return as<K>((upper | (first + hn::Set(kUnsigned, static_cast<U>(at)))) ^ sign);
-    });
+    change(
+        x.keys, n, [ =, this ](auto keys, size_t at) __attribute__((always_inline)) {
+          const auto above = as<U>(keys) - least;
+          storePairs<K>(above & lowMask, n - at >= N ? x.numbersAt(at) : loadFirst(kNumbers, x.numbers + at, n - at), rest + at);
+          const auto upper = hn::ShiftLeftSame(hn::ShiftRightSame(above, lowBits_), placeBits_);
+          return as<K>((upper | (first + hn::Set(kUnsigned, static_cast<U>(at)))) ^ sign);
+        });
   }
   // inOrder: room for `rest` in the order of the packed keys.
   void unpack(Pairs<K> x, size_t n, const uint64_t* rest, uint64_t* inOrder) const {
     for (size_t i = 0; i < n; ++i) inOrder[i] = rest[static_cast<U>(x.keys[i]) & mask(placeBits_)];
     const auto least = hn::Set(kUnsigned, least_), sign = hn::Set(kUnsigned, kSign);
-    change(x.keys, n, [=, this](auto keys, size_t at) __attribute__((always_inline)) {
-      const LowAndNumbers<K> both = loadPairs<K>(inOrder + at);
-      if (n - at >= N) store(both.numbers, kNumbers, x.numbers + at);
-      else storeFirst(both.numbers, kNumbers, x.numbers + at, n - at);
-      const auto upper = hn::ShiftLeftSame(hn::ShiftRightSame(as<U>(keys) ^ sign, placeBits_), lowBits_);
-      return as<K>((upper | both.low) + least);
-    });
+    change(
+        x.keys, n, [ =, this ](auto keys, size_t at) __attribute__((always_inline)) {
+          const LowAndNumbers<K> both = loadPairs<K>(inOrder + at);
+          if (n - at >= N) store(both.numbers, kNumbers, x.numbers + at);
+          else storeFirst(both.numbers, kNumbers, x.numbers + at, n - at);
+          const auto upper = hn::ShiftLeftSame(hn::ShiftRightSame(as<U>(keys) ^ sign, placeBits_), lowBits_);
+          return as<K>((upper | both.low) + least);
+        });
   }
 
  private:
