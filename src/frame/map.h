@@ -5,6 +5,8 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
+#include <utility>
 
 #include "frame/check.h"
 #include "frame/scale.h"
