@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 
 namespace {
 
@@ -21,9 +22,11 @@ int ofRuntime(const char* name) {
   return function == nullptr ? 0 : function();
 }
 
+// 0 where it is not set, or beyond an int: 99999999999 would wrap to 1215752191, and records of filters have memory for each.
 int ofEnvironment() {
   const char* text = std::getenv("OMP_NUM_THREADS");
-  return text == nullptr ? 0 : std::atoi(text);
+  const long n = text == nullptr ? 0 : std::strtol(text, nullptr, 10);
+  return n > std::numeric_limits<int>::max() ? 0 : static_cast<int>(std::max(n, 0L));
 }
 
 int ofAffinity() {

@@ -242,4 +242,32 @@ std::vector<Divided> thatWarn() {
 INSTANTIATE_TEST_SUITE_P(All, Threads, testing::ValuesIn(kDivided), nameOf);
 INSTANTIATE_TEST_SUITE_P(All, ThreadsThatWarn, testing::ValuesIn(thatWarn()), nameOf);
 
+// The number that a process with this setting starts with. The core library looks once, so each answer takes a copy of it.
+int threadsOf(const char* setting) {
+  if (setting == nullptr) unsetenv("OMP_NUM_THREADS");
+  else setenv("OMP_NUM_THREADS", setting, 1);
+  Dl_info info;
+  char copy[] = "/tmp/qvxcore-copy-XXXXXX";
+  const int file = mkstemp(copy);
+  if (file < 0 || dladdr(reinterpret_cast<void*>(qvxSetNumThreads), &info) == 0) return -1;
+  close(file);
+  if (std::system((std::string("cp ") + info.dli_fname + " " + copy).c_str()) != 0) return -1;
+  void* library = dlopen(copy, RTLD_NOW | RTLD_LOCAL);
+  unlink(copy);
+  return library == nullptr ? -1 : reinterpret_cast<decltype(&ownGetNumThreads)>(dlsym(library, "ownGetNumThreads"))();
+}
+
+TEST(NumberOfThreads, IsThatOfTheEnvironment) {
+  const char* variable = std::getenv("OMP_NUM_THREADS");
+  const std::string before = variable == nullptr ? "" : variable;
+  EXPECT_EQ(threadsOf("3"), 3);
+  EXPECT_EQ(threadsOf(" 5,2"), 5);
+  const int usual = threadsOf(nullptr);
+  EXPECT_GE(usual, 1);
+  for (const char* setting : {"", "0", "-4", "many", "99999999999", "-4294967293"})
+    EXPECT_EQ(threadsOf(setting), usual) << setting;
+  if (variable == nullptr) unsetenv("OMP_NUM_THREADS");
+  else setenv("OMP_NUM_THREADS", before.c_str(), 1);
+}
+
 }  // namespace
