@@ -11,8 +11,9 @@ extern "C" {
 /** dst[n] = src1[n] + src2[n]; the _I forms: srcDst[n] = srcDst[n] + src[n].
  *  Integer results are exact, times 2^-scaleFactor where there is one, rounded to nearest with ties to even, saturated. The
  *  joined types widen: 8u16u is exact, 16s32f converts first, 16s32s_I adds 16-bit elements to 32-bit ones.
- *  64s_Sfs departs in one case: where the signs of the operands differ or one is zero, the sum is not negative and
- *  scaleFactor is 2 to 63, an exact tie gives 0 (6 + 0 at scale factor 2 gives 0; 3 + 3 gives 2).
+ *  64s_Sfs departs in two cases. Where the signs of the operands differ or one is zero, the sum is not negative and
+ *  scaleFactor is 2 to 63, an exact tie gives 0 (6 + 0 at scale factor 2 gives 0; 3 + 3 gives 2). Above scale factor 63 the
+ *  result is 0, also where the sum exceeds 2^63, half a unit at 64.
  *  Float results are one IEEE addition in the element's type and the caller's rounding mode.
  *  pSrc1, pSrc2, pDst: len elements each, any alignment. Any scaleFactor is allowed. pDst may be a source of its own type; other
  *  overlaps have no defined result.

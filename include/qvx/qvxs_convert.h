@@ -42,7 +42,8 @@ QVXS_API(QvxStatus, qvxsConvert_32s64f_Sfs, (const Qvx32s* pSrc, Qvx64f* pDst, i
 /** dst[n] = src[n] * 2^-scaleFactor, rounded as rndMode says and saturated. rndMode: qvxRoundTowardZero, qvxRoundNearestEven;
  *  anything else is qvxRoundHalfAway.
  *  The factor and the product are of the source's type: far scale factors underflow to 0 or overflow to infinity, which makes a
- *  NaN of 0. But 64f16s limits scaleFactor to -1008 to 1022, and 64f64s multiplies by any power of two.
+ *  NaN of 0. But 64f16s limits scaleFactor to -1008 to 1022, and 64f64s multiplies by any power of two down to 2^-1074;
+ *  above scale factor 1074 it gives zeros, of infinities too.
  *  Half away adds 0.5 to the magnitude in the source's type and truncates, so that the float just below 0.5 gives 1 from 32f
  *  sources; from 64f sources to 16s and 64s it gives 0, and to 32s what the caller's rounding mode makes of that sum.
  *  A NaN gives the upper limit; 0 for the destinations 8u, 16u and 64s.
