@@ -151,22 +151,21 @@ template <bool kExactSquare> struct QuotientDerivative {
 // Both derivatives in floats: the errors are below 1.7 ULP (first) and 1.9 ULP (second), of which x r or C^2 - x^2 and the last
 // addition make 1.5. What rounding takes of all else is known and added.
 //
-// Of the sum s = x^2 + C^2 it is known to 2^-28 of s: up to 4 C by s less the first 20 bits of C^2, which is a float without
-// rounding; further out by s less x^2.
+// The sum s = x^2 + C^2 is split into what x^2 and what C^2 contributed, and each is compared with its term: that tells the error
+// of s whichever term is larger.
 template <bool kExactSquare> struct NearBothDerivatives {
   float c;
   float square, squareRest;  // their sum is C^2
 
   template <class V> Pair<V> operator()(V x) const {
     const TagOf<V> d;
-    const hn::RebindToSigned<TagOf<V>> bits;
     const V one = same<V>(1);
     const V whole = same<V>(square);
-    const V first20 = as<float>(as<int32_t>(whole) & hn::Set(bits, -16));
-    const V others = whole - first20 + same<V>(squareRest);
-    const V s = hn::MulAdd(x, x, first20);
-    const auto isLow = hn::Abs(x) <= same<V>(4 * c);
-    const V sRest = hn::MulAdd(x, x, hn::IfThenElseZero(isLow, first20) - s) + hn::IfThenElse(isLow, others, whole);
+    const V s = hn::MulAdd(x, x, whole);
+    const V xPart = s - whole;
+    V wholeRest = whole - (s - xPart);
+    if (!kExactSquare) wholeRest = wholeRest + same<V>(squareRest);
+    const V sRest = hn::MulSub(x, x, xPart) + wholeRest;
     const V r = kHasMasks ? estimate(s) : one / s;
     const V e = hn::NegMulAdd(r, sRest, hn::NegMulAdd(r, s, one));  // 1 / (s + sRest) is r (1 + e + e^2 ...)
     const V f = x * r;
@@ -179,8 +178,7 @@ template <bool kExactSquare> struct NearBothDerivatives {
       tRest = hn::MulAdd(same<V>(squareRest), r, tRest);
       tWhole = t + tRest;
     }
-    const V twiceE = as<float>(as<int32_t>(e) + hn::Set(bits, 1 << 23));  // by a unit that has no part in the products
-    V second = hn::MulAdd(t, r, r * hn::MulAdd(tWhole, twiceE, tRest));
+    V second = hn::MulAdd(t, r, r * hn::MulAdd(tWhole, e + e, tRest));
     // t and tRest cancel there, and the rounding of r tRest would be left.
     if (!kExactSquare) second = hn::IfThenZeroElse(hn::Abs(x) == same<V>(c), second);
     const auto isNear = s < same<V>(kMostNear);
