@@ -252,7 +252,7 @@ template <class R, class T, class Finish>
   joinBranches<C, kSums<C>>(branches, up, periods, dst, finish);
 }
 
-// With the sums of branches on its stack, two pages of which a call of few outputs would touch for nothing.
+// Apart from the calls of few outputs, which would touch two pages of stack for nothing: 8 of them take 0.87 to 0.95 of the time.
 template <class R, class T, class Finish>
 [[gnu::noinline]] void throughRows(R& record, const T* src, T* dst, size_t periods, int64_t places, Finish finish) {
   const auto up = static_cast<size_t>(record.ratio.up);

@@ -52,13 +52,18 @@ template <class V> inline constexpr bool kGathersLanes = false;
 
 }  // namespace detail
 
+// The lanes in a mask of bits, then the others.
+template <class V> [[gnu::always_inline]] inline V parted(V v, uint64_t bits) {
+  return V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits)};
+}
+
 // Partitions lanes by the bits of a mask: those in it are stored from `low` on, which moves to their end; the others so that they
 // end at `high`, which moves to their start. There is room for a whole vector at either.
 template <class V> [[gnu::always_inline]] inline void part(V v, uint64_t bits, LaneOf<V>*& low, LaneOf<V>*& high) {
   const TagOf<V> d;
   constexpr size_t N = kLanesOf<V>;
   const size_t count = countLanes<N>(bits);
-  const V both{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits)};
+  const V both = parted(v, bits);
   hn::StoreU(both, d, low);
   hn::StoreU(both, d, high - N);
   low += count;
@@ -84,8 +89,8 @@ template <class V, class M> [[gnu::always_inline]] inline void part(V v, M mask,
 template <class V> size_t separate(V v, uint64_t bits, LaneOf<V>* low, LaneOf<V>* high) {
   const TagOf<V> d;
   constexpr uint64_t kAll = (uint64_t{1} << kLanesOf<V>)-1;
-  hn::StoreU(V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits)}, d, low);
-  hn::StoreU(V{detail::partedBy<sizeof(LaneOf<V>)>(v.raw, bits ^ kAll)}, d, high);
+  hn::StoreU(parted(v, bits), d, low);
+  hn::StoreU(parted(v, bits ^ kAll), d, high);
   return countLanes<kLanesOf<V>>(bits);
 }
 template <class V, class M> size_t separate(V v, M mask, LaneOf<V>* low, LaneOf<V>* high) {

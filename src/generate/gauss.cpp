@@ -95,7 +95,7 @@ struct Chosen {
       const auto q = u * u + v * v;
       const auto isInside = q < hn::Set(d, 1.0);
       const uint64_t bits = maskBits(d, hn::AndNot(q == hn::Zero(d), isInside));
-      const auto add = [&](auto lanes, double* to) { store(takenFirst(lanes, bits), d, to + count); };
+      const auto add = [&](auto lanes, double* to) { store(as<double>(parted(as<uint64_t>(lanes), bits)), d, to + count); };
       add(v, first);
       add(u, second);
       add(q, square);
@@ -107,10 +107,6 @@ struct Chosen {
   }
 
  private:
-  template <class V> static V takenFirst(V v, uint64_t bits) {
-    const auto lanes = as<uint64_t>(v);
-    return as<double>(std::remove_const_t<decltype(lanes)>{qvx::detail::partedBy<sizeof(double)>(lanes.raw, bits)});
-  }
   // Pairs up to the n-th that is taken.
   size_t atLast(uint64_t bits, size_t n) {
     count = wanted;

@@ -38,8 +38,8 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
  public:
   static constexpr size_t kLanes = kVectorBytes / sizeof(T);
   static constexpr size_t kWide = kVectorBytes / sizeof(double);
-  // Vectors to a first angle. Two halve the work that firsts are, 0.75 instructions a vector of floats: a tone of 4096 takes 0.82
-  // of the time, of doubles 0.6. But then fewer of them fit an eighth of a turn.
+  // Vectors to a first angle. Two halve the work of making firsts: a tone of 4096 floats takes 0.82 of the time, of doubles 0.6.
+  // But then fewer of them fit an eighth of a turn.
   static constexpr size_t kVectors = kSpan == Span::kAny ? 2 : 1;
   static constexpr size_t kGroup = kVectors * kLanes;
   // Samples between one computed pair and the next. In doubles the error of every rotation counts.

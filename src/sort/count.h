@@ -41,8 +41,8 @@ inline void sortByCounting(int16_t* x, size_t n, KeyMap<int16_t> in, KeyMap<int1
   auto* const counts = static_cast<uint32_t*>(memory);
   const int values = most - least + 1;
   std::fill_n(counts, values, 0U);
-  // Four stretches at a time: a count that has just been stored is not loaded again before it is in the cache, as it would be for
-  // neighbours of vectors nearly in order. An odd distance meets few periods.
+  // From four stretches in turn: equal neighbours, of vectors nearly in order, would wait for each other's count in memory; 10^5
+  // such keys took twice as long as random ones. An odd distance meets few periods.
   const size_t stretch = (n / 4 - 1) | 1;
   const auto count = [&](size_t i) { ++counts[in.key(x[i]) - least]; };
   for (size_t i = 0; i < stretch; ++i) {

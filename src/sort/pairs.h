@@ -8,8 +8,8 @@ namespace qvx {
 // keys[0..n-1] in ascending order, numbers[] of equal keys too: the order of their pairs. No pair may occur twice.
 void sortPairs(int32_t* keys, int32_t* numbers, size_t n);
 
-// The same where all keys are different and none is the greatest there can be; false, with the pairs in no order, if it came upon
-// equal keys.
+// The same where all keys are different; false, with the pairs in no order, if it came upon equal keys, which it need not see.
+bool sortDifferentPairs(int32_t* keys, int32_t* numbers, size_t n);
 bool sortDifferentPairs(int64_t* keys, int32_t* numbers, size_t n);
 
 // 0, 1, 2 ...

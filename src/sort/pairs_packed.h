@@ -1,5 +1,6 @@
 // Few pairs sorted as keys alone: the lowest bits of a key make room for its place, and after the sort a place tells which low
-// bits and which number belong to it. 1000 doubles take 0.78 of the time of a network that moves keys and numbers.
+// bits and which number belong to it. 10^3 to 10^6 doubles take 0.75 to 0.85 of the time of networks that move keys and numbers,
+// in AVX2 as well, and 100 32-bit keys in AVX2 0.55 of that of a network of 64-bit keys.
 #pragma once
 
 #include "sort/pairs_partition.h"

@@ -98,16 +98,13 @@ template <class K, class Each> void change(K* x, size_t n, Each each) {
   if (i < n) storeFirst(each(loadFirst(d, x + i, n - i)), d, x + i, n - i);
 }
 
-bool sortPairsIfDifferent(int32_t* keys, int32_t* places, size_t n) { return sortPairs(keys, places, n), true; }
-bool sortPairsIfDifferent(int64_t* keys, int32_t* places, size_t n) { return sortDifferentPairs(keys, places, n); }
-
 template <Order kOrder, class T> bool sortDifferent(T* x, int32_t* places, size_t n) requires(sizeof(T) >= 4) {
   const auto map = keyMap<T>(kOrder);
   Key<T>* const keys = asKeys(x);
   if (hasNan(x, n) || hasEqualSample(keys, n, map)) return false;
   if (!map.isIdentity()) change(keys, n, [=](auto v) { return map.keys(v); });
   fillNumbers(places, n);
-  const bool isDone = sortPairsIfDifferent(keys, places, n) && areDifferent<T>(keys, n);
+  const bool isDone = sortDifferentPairs(keys, places, n) && areDifferent<T>(keys, n);
   if (!map.isIdentity()) change(keys, n, [=](auto v) { return map.originals(v); });
   if (!isDone) restore(keys, places, n);
   return isDone;
