@@ -113,8 +113,8 @@ QVXS_API(QvxStatus, qvxsMagSquared_32fc64f, (const Qvx32fc* pSrc, Qvx64f* pDst, 
 QVXS_API(QvxStatus, qvxsMagSquared_32sc32s_Sfs, (const Qvx32sc* pSrc, Qvx32s* pDst, int len, int scaleFactor));
 
 /** dstMagn[n] and dstPhase[n] = magnitude and phase of src[n], or of srcRe[n] + i srcIm[n], as qvxsMagnitude and qvxsPhase give
- *  them, in this order. The float forms compute the phase even if the magnitude is refused, and return the magnitude's status
- *  first; 16sc_Sfs stops after a refused magnitude. */
+ *  them. pDstMagn and pDstPhase may be pSrcRe and pSrcIm, either way. The float forms compute the phase even if the magnitude is
+ *  refused, and return the magnitude's status first; 16sc_Sfs stops after a refused magnitude. */
 QVXS_API(QvxStatus, qvxsCartToPolar_32fc, (const Qvx32fc* pSrc, Qvx32f* pDstMagn, Qvx32f* pDstPhase, int len));
 QVXS_API(QvxStatus, qvxsCartToPolar_64fc, (const Qvx64fc* pSrc, Qvx64f* pDstMagn, Qvx64f* pDstPhase, int len));
 QVXS_API(QvxStatus, qvxsCartToPolar_32f,
@@ -129,7 +129,8 @@ QVXS_API(QvxStatus, qvxsCartToPolar_16sc_Sfs,
  *  phase gives NaN.
  *  16sc_Sfs: magnitudes times 2^-magnScaleFactor, phases times 2^-phaseScaleFactor, both scale factors limited to -31 to 31.
  *  16sc, 32sc: phases with phaseFixedPoint places after the point, 0 to 15 (32sc: 0 to 31).
- *  Integer results are rounded to nearest with ties to even and saturated.
+ *  Integer results are rounded to nearest with ties to even and saturated. pDstRe and pDstIm may be pSrcMagn and pSrcPhase, either
+ *  way.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1, or phaseFixedPoint out of range). */
 QVXS_API(QvxStatus, qvxsPolarToCart_32fc, (const Qvx32f* pSrcMagn, const Qvx32f* pSrcPhase, Qvx32fc* pDst, int len));
 QVXS_API(QvxStatus, qvxsPolarToCart_64fc, (const Qvx64f* pSrcMagn, const Qvx64f* pSrcPhase, Qvx64fc* pDst, int len));

@@ -55,6 +55,26 @@ template <class T, class... Src> QvxStatus scaledPhase(T* dst, int len, int scal
 // The magnitude's status comes first; the phase is computed all the same.
 QvxStatus both(QvxStatus magnitude, QvxStatus phase) { return magnitude != qvxStatOk ? magnitude : phase; }
 
+// Of parts in two vectors. Magnitudes that take the place of a source wait until the phase has read it.
+template <class T, class Magnitude, class Phase>
+QvxStatus cartToPolar(const T* re, const T* im, T* magn, T* phase, int len, Magnitude magnitudeOf, Phase phaseOf) {
+  if (isNull(magn) || isNull(phase) || (magn != re && magn != im)) {
+    const QvxStatus first = magnitudeOf(re, im, magn, len);
+    return both(first, phaseOf(re, im, phase, len));
+  }
+  const QvxStatus status = check(len, re, im);
+  if (status != qvxStatOk) return status;
+  constexpr size_t kBlock = 4096 / sizeof(T);
+  T waiting[kBlock];
+  for (size_t at = 0, some; at < elements(len); at += some) {
+    some = std::min(elements(len) - at, kBlock);
+    magnitudeOf(re + at, im + at, waiting, static_cast<int>(some));
+    phaseOf(re + at, im + at, phase + at, static_cast<int>(some));
+    std::copy_n(waiting, some, magn + at);
+  }
+  return qvxStatOk;
+}
+
 }  // namespace
 
 // clang-format off
@@ -78,12 +98,10 @@ QvxStatus qvxsCartToPolar_64fc(const Qvx64fc* a, Qvx64f* magn, Qvx64f* phase, in
   return both(first, qvxsPhase_64fc(a, phase, len));
 }
 QvxStatus qvxsCartToPolar_32f(const Qvx32f* re, const Qvx32f* im, Qvx32f* magn, Qvx32f* phase, int len) {
-  const QvxStatus first = qvxsMagnitude_32f(re, im, magn, len);
-  return both(first, qvxsPhase_32f(re, im, phase, len));
+  return cartToPolar(re, im, magn, phase, len, qvxsMagnitude_32f, qvxsPhase_32f);
 }
 QvxStatus qvxsCartToPolar_64f(const Qvx64f* re, const Qvx64f* im, Qvx64f* magn, Qvx64f* phase, int len) {
-  const QvxStatus first = qvxsMagnitude_64f(re, im, magn, len);
-  return both(first, qvxsPhase_64f(re, im, phase, len));
+  return cartToPolar(re, im, magn, phase, len, qvxsMagnitude_64f, qvxsPhase_64f);
 }
 QvxStatus qvxsCartToPolar_16sc_Sfs(const Qvx16sc* a, Qvx16s* magn, Qvx16s* phase, int len, int magnSf, int phaseSf) {
   const QvxStatus first = qvxsMagnitude_16sc_Sfs(a, magn, len, magnSf);

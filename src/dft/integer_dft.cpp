@@ -63,8 +63,9 @@ QvxStatus splitIntegers(const Qvx16s* srcRe, const Qvx16s* srcIm, Qvx16s* dstRe,
   if (status != qvxStatOk) return status;
   const int n = static_cast<int>(spec->plan.n);
   if (n == 1) {
+    const Qvx16s im = *srcIm;  // which may be dstRe
     scaledCopy(srcRe, dstRe, 1, scaleFactor);
-    return scaledCopy(srcIm, dstIm, 1, scaleFactor);
+    return scaledCopy(&im, dstIm, 1, scaleFactor);
   }
   return throughFloats(*spec, pBuffer, [=](Qvx32f* y, Qvx8u* work) {
     qvxsConvert_16s32f(srcRe, y, n);

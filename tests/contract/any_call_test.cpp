@@ -81,8 +81,10 @@ class EveryCall : public testing::Test {
 
 TEST_F(EveryCall, DependsOnItsArgumentsAlone) {
   // Garbage alone raises no floating-point exception; another place may, where lanes past the end hold other numbers.
-  const Surroundings others[] = {{-1, 0x7F}, {0, 0xFF}, {1, 0x5A}, {64, 0x7F}, {4, 0, true}};
+  using enum tests::Destinations;
+  Surroundings others[] = {{-1, 0x7F}, {0, 0xFF}, {1, 0x5A}, {64, 0x7F}, {4, 0, kOnFirst}};
   forEach([&](const Export& e, const Choices& choices) {
+    others[4].destinations = others[4].destinations == kOnFirst ? kOnLast : kOnFirst;
     AnyCall first(e, choices, memory_);
     std::feclearexcept(FE_ALL_EXCEPT);
     const QvxStatus status = first.run();
@@ -113,7 +115,7 @@ TEST_F(EveryCall, ChecksItsArgumentsInOrder) {
       memory_.reuse();
       const int before = allocator.live;
       {
-        AnyCall call(e, choices, memory_, {-1, 0x5A, false, 3});
+        AnyCall call(e, choices, memory_, {-1, 0x5A, {}, 3});
         const int live = allocator.live;
         for (size_t k = from + count; k-- > from;) call.spoil(wrongs[k], k == from ? which : 0);
         const QvxStatus status = call.run(), wanted = count == 0 ? qvxStatOk : wrongs[from].status;
@@ -169,7 +171,7 @@ TEST_F(EveryCall, RefusesTheRecordsOfOthers) {
     if (type.empty() || e.contains("IIRSetTaps32sc_16sc")) continue;  // which takes another's
     if (e.contains("FIRLMSFree")) continue;                           // which does not look
     memory_.reuse();
-    AnyCall call(e, Choices(1), memory_, {-1, 0x5A, false, 3});
+    AnyCall call(e, Choices(1), memory_, {-1, 0x5A, {}, 3});
     for (const auto& [other, record] : records) {
       if (other == (type == "QvxsFIRState_32s" ? "QvxsFIRState64f_32s" : type)) continue;
       call.setRecord(index, record);
@@ -193,8 +195,8 @@ TEST_F(EveryCall, InPlaceIsAsOutOfPlace) {
       memory_.reuse();
       const Choices choices(static_cast<uint64_t>(i));
       const int length = i <= 140 ? i : 17 * i;
-      AnyCall here(e, choices, memory_, {i % 4 == 0 ? i : -1, 0x7F, false, length});
-      AnyCall there(*other, choices, memory_, {-1, 0, false, length});
+      AnyCall here(e, choices, memory_, {i % 4 == 0 ? i : -1, 0x7F, {}, length});
+      AnyCall there(*other, choices, memory_, {-1, 0, {}, length});
       const QvxStatus status = there.run();
       expect(here.run() == status, "another status", here);
       if (status < 0) continue;
@@ -284,7 +286,7 @@ TEST_F(EveryCall, ElementsDoNotKnowTheirPlace) {
     for (int i = 1; i <= calls() && failures_.empty() && isOne; ++i) {
       memory_.reuse();
       const int length = i % 8 == 0 ? 150 + 11 * i : 2 + i * 37 % 149;
-      AnyCall whole(e, Choices(static_cast<uint64_t>(i)), memory_, {-1, 0, false, length});
+      AnyCall whole(e, Choices(static_cast<uint64_t>(i)), memory_, {-1, 0, {}, length});
       for (size_t k = 0; k < e.parameters.size(); ++k) {
         if (e.parameters[k].isPointer() && whole.extentOf(k) % static_cast<size_t>(length) != 0) isOne = false;
       }

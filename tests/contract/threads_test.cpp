@@ -91,7 +91,7 @@ using Change = std::function<void(AnyCall&)>;
 Outcome outcome(const Export& e, int len, const Change& change = nullptr, uint64_t seed = 1, int mode = FE_TONEAREST) {
   static thread_local tests::Memory memory;
   memory.reuse();
-  AnyCall call(e, tests::Choices(seed), memory, {-1, 0, false, len});
+  AnyCall call(e, tests::Choices(seed), memory, {-1, 0, {}, len});
   if (change) change(call);
   std::fesetround(mode);
   std::feclearexcept(FE_ALL_EXCEPT);

@@ -60,8 +60,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   Choices choices(std::span(data, size));
   const Export& e = functionOf(static_cast<uint32_t>(choices.bits(4)));
   const uint64_t manner = choices.bits(1);
-  const Surroundings usual = {-1, 0, false};
-  const Surroundings other = {static_cast<int>(manner & 31), 0xFF, (manner & 32) != 0};
+  using enum Destinations;
+  const Surroundings usual = {-1, 0};
+  const Surroundings other = {static_cast<int>(manner & 31), 0xFF,
+                              (manner & 32) == 0   ? kApart
+                              : (manner & 64) == 0 ? kOnFirst
+                                                   : kOnLast};
 
   const AnyCall before(e, choices, memory, usual, all[0]);
   AnyCall first(e, choices, memory, usual, all[0]);

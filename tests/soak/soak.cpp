@@ -67,7 +67,7 @@ void report(const AnyCall& call, const std::string& what) {
 void makeCall(const Export& e, uint64_t seed, tests::Memory& memory) {
   tests::Choices choices(seed);
   tests::Surroundings around = {static_cast<int>(choices.between(-1, 64)), static_cast<uint8_t>(choices.bits(1))};
-  around.inOneVector = choices.oneIn(4);
+  around.destinations = tests::Destinations(choices.oneIn(4) ? choices.between(1, 2) : 0);
   if (choices.oneIn(20)) around.length = static_cast<int>(choices.between(4000, 20000));  // which is divided
   memory.reuse();
   AnyCall call(e, choices, memory, around, called);

@@ -21,12 +21,16 @@
 
 namespace tests {
 
+// Where destinations lie: each in a vector of its own, or on a source of its type and length, the first or the last that there
+// is.
+enum class Destinations { kApart, kOnFirst, kOnLast };
+
 // Conditions that must not change the results.
 struct Surroundings {
-  int offset = -1;           // of vectors from the start of their blocks; -1: they end where their blocks end
-  uint8_t garbage = 0;       // in destinations and working memory
-  bool inOneVector = false;  // the destination is the source, where that is allowed
-  int length = 0;            // of the vectors; 0: as it is drawn
+  int offset = -1;      // of vectors from the start of their blocks; -1: they end where their blocks end
+  uint8_t garbage = 0;  // in destinations and working memory
+  Destinations destinations = Destinations::kApart;  // elsewhere only where that is allowed
+  int length = 0;                                    // of the vectors; 0: as it is drawn
 };
 
 inline bool contains(const std::string& text, std::initializer_list<const char*> parts) {
@@ -147,7 +151,8 @@ class AnyCall : public Arguments {
   std::string describe() const {
     std::string text = export_.name + " (";
     for (const auto& [name, value] : shape_) text += name + " " + std::to_string(value) + ", ";
-    return text + "offset " + std::to_string(around_.offset) + (around_.inOneVector ? ", in one vector)" : ")");
+    return text + "offset " + std::to_string(around_.offset) +
+           (around_.destinations != Destinations::kApart ? ", in place)" : ")");
   }
 
   void* pointer(size_t index, size_t, bool, char) override { return pointers_[index]; }
@@ -444,21 +449,21 @@ inline void AnyCall::release() {
 
 // ---- the arguments of one call
 
-// The source that a destination may lie on: all its elements are of the same type.
+// The source that a destination may lie on: all its elements are of the same type, and no other destination lies there.
 inline void* AnyCall::sourceInPlace(const Parameter& destination) {
-  if (!around_.inOneVector || traits_.is("apart")) return nullptr;
-  for (size_t i = 0; i < export_.parameters.size(); ++i) {
-    const Parameter& p = export_.parameters[i];
-    const bool isPartner =
-        p.name == replaced(destination.name, "Dst", "Src") || p.name == replaced(destination.name, "Dst", "Src2");
-    if (destination.name.rfind("pDst", 0) != 0 || !isPartner || p.pointee() != destination.pointee()) continue;
-    if (extent(p) != extent(destination)) continue;
-    for (Vector& v : vectors_) {
-      if (v.at == pointers_[i]) v.role = Role::kDestination;
-    }
-    return pointers_[i];
+  if (around_.destinations == Destinations::kApart || traits_.is("apart") || destination.name.rfind("pDst", 0) != 0)
+    return nullptr;
+  auto source = vectors_.end();
+  for (const Parameter& p : export_.parameters) {
+    if (p.name.rfind("pSrc", 0) != 0 || p.pointee() != destination.pointee() || extent(p) != extent(destination)) continue;
+    const auto isFree = [&](const Vector& v) { return v.parameter == p.name && v.role == Role::kSource; };
+    const auto found = std::find_if(vectors_.begin(), vectors_.end(), isFree);
+    if (source == vectors_.end() || (found != vectors_.end() && around_.destinations == Destinations::kOnLast)) source = found;
   }
-  return nullptr;
+  if (source == vectors_.end()) return nullptr;
+  source->role = Role::kDestination;
+  std::rotate(source, source + 1, vectors_.end());  // results come in the order of the destinations
+  return vectors_.back().at;
 }
 
 inline void AnyCall::spoil(const Wrong& wrong, size_t which) {
