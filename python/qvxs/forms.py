@@ -21,6 +21,16 @@ DTYPES = {
 TAGS = {dtype: name[3:] for name, dtype in DTYPES.items() if name != "int"}
 
 
+_ROUNDING = {"zero": 0, "even": 1, "away": 2}
+
+
+def round_mode(rounding):
+    """The library's number for a rounding."""
+    if rounding not in _ROUNDING:
+        raise ValueError(f'a rounding is "even", "zero" or "away", not {rounding!r}')
+    return _ROUNDING[rounding]
+
+
 class Form(NamedTuple):
     """One export: its function, the names of its parameters, the types of its first source and of what it writes."""
 

@@ -30,6 +30,12 @@ def check_axis(axis, ndim):
     return axis % ndim
 
 
+def native(x):
+    """As an array of the machine's byte order: one from a file may have the other, for which there is no export."""
+    x = np.asarray(x)
+    return x if x.dtype.isnative else x.astype(x.dtype.newbyteorder("="))
+
+
 def contiguous(x, dtype=None):
     """The array in C order and aligned: one that came over a network may be neither. A number stays one, without an axis."""
     x = np.asarray(x, dtype, order="C")

@@ -25,7 +25,7 @@ import scipy.signal
 
 from . import raw
 from .fft import fftn, ifft, ifftn, irfftn, next_fast_len, rfft, rfftn
-from .rows import back, check_axis, contiguous, last
+from .rows import back, check_axis, contiguous, last, native
 from .streams import (Fir, Iir, Lms, Resampler, Sos, SparseFir, SparseIir, WaveletJoin, WaveletSplit, filter_record,
                       section_record)
 
@@ -543,7 +543,7 @@ def medfilt(volume, kernel_size=None):
         >>> medfilt(np.float32([1, 9, 2, 3]), 3)
         array([1., 2., 3., 2.], dtype=float32)
     """
-    x = np.asarray(volume)
+    x = native(volume)
     size = 3 if kernel_size is None else np.asarray(kernel_size).reshape(-1)
     size = int(size) if np.ndim(size) == 0 else int(size[0]) if size.size == 1 else None
     if x.ndim != 1 or not x.size or size is None or size % 2 == 0 or size < 1 or size > x.size or x.dtype.char not in _MEDIANS:
@@ -742,7 +742,7 @@ def spectrogram(x, fs=1.0, window=("tukey", 0.25), nperseg=None, noverlap=None, 
         >>> s.shape
         (129, 4)
     """
-    x = np.asarray(x)
+    x = native(x)
     axis = check_axis(axis, x.ndim)
     if mode != "psd":
         raise _NotHere
@@ -766,7 +766,7 @@ def welch(x, fs=1.0, window="hann", nperseg=None, noverlap=None, nfft=None, detr
         >>> p[:3].round(6)
         array([1. , 0.5, 0. ])
     """
-    x = np.asarray(x)
+    x = native(x)
     axis = check_axis(axis, x.ndim)
     if average != "mean":
         raise _NotHere

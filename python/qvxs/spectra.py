@@ -16,7 +16,7 @@ import numpy as np
 
 from . import raw
 from .forms import TAGS, complex_int16
-from .rows import contiguous, scratch
+from .rows import contiguous, native, scratch
 
 __all__ = ["forward", "inverse", "multiply", "expand", "fft_integer"]
 _LAYOUTS = {"perm": "Perm", "pack": "Pack", "ccs": "CCS"}
@@ -41,7 +41,7 @@ def _layout(layout):
 
 
 def _real(x, name):
-    x = contiguous(np.asarray(x))
+    x = contiguous(native(x))
     tag = TAGS.get(x.dtype)
     if tag not in _COMPLEX:
         raise TypeError(f"{name} has no form for {x.dtype}")
@@ -149,7 +149,7 @@ def fft_integer(x, inverse=False, scale=0):
         >>> fft_integer(x, scale=2)["re"]
         array([1000,    0,    0,    0], dtype=int16)
     """
-    x = contiguous(np.asarray(x))
+    x = contiguous(native(x))
     if x.dtype != complex_int16 or not x.ndim or not x.shape[-1]:
         raise TypeError(f"fft_integer has no form for {x.dtype} of shape {x.shape}")
     record, size = _record("C_16sc", x.shape[-1])

@@ -11,11 +11,10 @@ array for the result, or a tuple of arrays where there are several. What works o
 import numpy as np
 
 from . import raw, vectors
-from .forms import TAGS, forms
-from .rows import contiguous
+from .forms import TAGS, forms, round_mode
+from .rows import contiguous, native
 
 __all__ = []
-_ROUNDING = {"zero": 0, "even": 1, "away": 2}
 
 
 def _broadcast(arrays, types):
@@ -70,7 +69,7 @@ def _stem(name, stem, summary, example, numbers=(), tail="", keep=lambda form: T
         values = dict(zip((parameter for _, parameter, _ in numbers), vectors._numbers(name, numbers, arguments[count:], named)))
         if count not in counts or len(arguments) < count:
             raise TypeError(f"{name} takes {' or '.join(map(str, counts))} arrays, not {len(arguments)}")
-        arrays = [np.asarray(x) for x in arguments[:count]][::-1 if turned else 1]
+        arrays = [native(x) for x in arguments[:count]][::-1 if turned else 1]
         key = (*[x.dtype for x in arrays], all(x.ndim for x in arrays), bool(scale), dtype)
         form = chosen.get(key)
         if form is None:
@@ -82,8 +81,8 @@ def _stem(name, stem, summary, example, numbers=(), tail="", keep=lambda form: T
         changed = [p for p in form.sources if p.startswith("pSrcDst")]
         given = {p: x.copy() if p in changed else x for p, x in zip(form.sources, arrays)}
         if arrays[0].size:
-            lines = {p: x.reshape(-1, x.shape[-1] if x.ndim else 1) for p, x in (given | made).items()}
-            settings = {"len": n, "scaleFactor": scale, "magnScaleFactor": scale, "rndMode": _ROUNDING.get(values.get("rndMode"))}
+            lines = {p: x.reshape(arrays[0].size // n, -1) for p, x in (given | made).items()}
+            settings = {"len": n, "scaleFactor": scale, "magnScaleFactor": scale, "rndMode": round_mode(values.get("rndMode", "even"))}
             values = {**lines, **settings, **{p: value for p, value in values.items() if p != "rndMode"}}
             raw.rows(form.call, *[values[p] for p in form.parameters])
         results = [given[p] for p in changed] + list(made.values())
@@ -174,7 +173,7 @@ _INVERSE_HAAR, _GOERTZEL_TWO = forms("WTHaarInv"), forms("GoertzTwo")
 
 
 def _rows(x, dtype=None):
-    x = contiguous(np.asarray(x), dtype)
+    x = contiguous(native(x), dtype)
     if not x.ndim or not x.shape[-1]:
         raise ValueError("the last axis is empty")
     return x, x.reshape(-1, x.shape[-1])
@@ -202,14 +201,15 @@ def inverse_haar(low, high, scale=0, out=None):
     >>> qvxs.inverse_haar(np.float32([2, 5]), np.float32([1]))
     array([1., 3., 5.], dtype=float32)
     """
-    low, high = contiguous(np.asarray(low)), contiguous(np.asarray(high), np.asarray(low).dtype)
+    low = contiguous(native(low))
+    high = contiguous(high, low.dtype)
     n = low.shape[-1] + high.shape[-1]
     if low.shape[:-1] != high.shape[:-1] or low.shape[-1] != (n + 1) // 2:
         raise ValueError(f"low and high of the shapes {low.shape} and {high.shape} are no halves of rows")
     form = _choose("inverse_haar", _INVERSE_HAAR, [low, high], scale, None)
     result = np.empty(low.shape[:-1] + (n,), low.dtype)
     if result.size:
-        values = {"pSrcLow": low.reshape(-1, low.shape[-1]), "pSrcHigh": high.reshape(-1, high.shape[-1]), "pDst": result.reshape(-1, n),
+        values = {"pSrcLow": low.reshape(result.size // n, -1), "pSrcHigh": high.reshape(result.size // n, -1), "pDst": result.reshape(-1, n),
                   "len": n, "scaleFactor": scale}
         raw.rows(form.call, *[values[parameter] for parameter in form.parameters])
     return _into(out, [result])
@@ -238,7 +238,8 @@ def _sample(name, stem, x, factor, phase, lengths, out):
     if factor < 1 or not 0 <= phase < factor:
         raise ValueError(f"{name}: a factor of {factor} and a phase of {phase}")
     result = np.empty(x.shape[:-1] + (lengths(n),), x.dtype)
-    raw.rows(call, rows, n, result.reshape(len(rows), -1), counts, factor, phases)
+    if rows.size:
+        raw.rows(call, rows, n, result.reshape(len(rows), -1), counts, factor, phases)
     return _into(out, [result])
 
 
@@ -328,7 +329,7 @@ def split_channels(x):
     array([[ 0.,  1.],
            [-1.,  0.]], dtype=float32)
     """
-    x = contiguous(np.asarray(x))
+    x = contiguous(native(x))
     call = {("h", 2): raw.qvxsSplitScaled_16s32f_D2L, ("B", 3): raw.qvxsSplitScaled_24s32f_D2L}.get((x.dtype.char, x.ndim))
     if call is None or x.ndim == 3 and x.shape[2] != 3:
         raise TypeError(f"split_channels has no form for {x.dtype} of shape {x.shape}")
@@ -345,7 +346,7 @@ def find_nearest(x, table):
     >>> qvxs.find_nearest(np.uint16([4, 90]), np.uint16([0, 5, 50]))
     (array([ 5, 50], dtype=uint16), array([1, 2], dtype=int32))
     """
-    x, table = np.asarray(x), contiguous(np.asarray(table))
+    x, table = native(x), contiguous(native(table))
     if x.dtype != np.uint16 or table.dtype != np.uint16:
         raise TypeError(f"find_nearest has no form for {x.dtype} and {table.dtype}")
     values, indices = np.empty(x.shape, np.uint16), np.empty(x.shape, np.int32)
@@ -363,7 +364,7 @@ def convolve_cyclic(a, b, scale=0):
     >>> qvxs.convolve_cyclic(np.float32([1, 1, 0, 0, 0, 0, 0, 0]), np.float32([0, 0, 0, 0, 0, 0, 0, 1]))
     array([1., 0., 0., 0., 0., 0., 0., 1.], dtype=float32)
     """
-    a, b = np.broadcast_arrays(a, b)
+    a, b = np.broadcast_arrays(native(a), native(b))
     n = a.shape[-1] if a.ndim else 0
     call = {("f", "f", 8): raw.qvxsConvCyclic8x8_32f, ("h", "h", 8): raw.qvxsConvCyclic8x8_16s_Sfs,
             ("f", "F", 4): raw.qvxsConvCyclic4x4_32f32fc}.get((a.dtype.char, b.dtype.char, n))
@@ -432,7 +433,7 @@ def demodulate_fm(re, im, previous=(0, 0)):
     >>> qvxs.demodulate_fm(np.int16([100, 0]), np.int16([0, 100]), (100, 0))
     (array([    0, 16384], dtype=int16), (0, 100))
     """
-    re, im = (contiguous(np.asarray(x)) for x in (re, im))
+    re, im = (contiguous(native(x)) for x in (re, im))
     if re.dtype != np.int16 or im.dtype != np.int16 or re.shape != im.shape or not re.size:
         raise TypeError("demodulate_fm takes two arrays of int16 of one shape")
     point, result = np.array([previous], np.int16), np.empty_like(re)

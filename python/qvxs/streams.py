@@ -17,7 +17,7 @@ import numpy as np
 
 from . import raw
 from .forms import TAGS
-from .rows import contiguous
+from .rows import contiguous, native
 
 # The tail of an export's name by that of the samples' type: filters with taps of that type, and those whose taps and memory are doubles.
 _SAME = {"32f": "_32f", "64f": "_64f", "32fc": "_32fc", "64fc": "_64fc"}
@@ -76,8 +76,9 @@ class _Stream:
         self._lock = threading.Lock()
 
     def _vector(self, block):
-        if self.dtype.kind not in "fc" and np.asarray(block).dtype != self.dtype:
-            raise TypeError(f"this stream is of {self.dtype}, the block is of {np.asarray(block).dtype}")
+        block = native(block)
+        if self.dtype.kind not in "fc" and block.dtype != self.dtype:
+            raise TypeError(f"this stream is of {self.dtype}, the block is of {block.dtype}")
         if self.dtype.kind == "f" and np.iscomplexobj(block):
             raise TypeError(f"this stream is of {self.dtype}, the block is complex")
         block = contiguous(block, self.dtype)

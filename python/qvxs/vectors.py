@@ -19,11 +19,10 @@ from functools import lru_cache
 import numpy as np
 
 from . import raw
-from .forms import TAGS, forms
-from .rows import back, check_axis, contiguous, last
+from .forms import TAGS, forms, round_mode
+from .rows import back, check_axis, contiguous, last, native
 
 __all__ = []
-_ROUNDING = {"zero": 0, "even": 1, "away": 2}
 
 
 def _public(function, name, plain, turned, doc):
@@ -170,19 +169,17 @@ def _unary(name, stem, summary, example, extra=()):
         x = contiguous(x)
         result = _destination(out, x.shape, form.target, x)
         if result.size:
-            values = {parameter: x.dtype.type(number) if x.dtype.names is None and "level" not in parameter else number
-                      for parameter, number in zip(extra, numbers)}
-            form(pSrc=x.reshape(-1), pDst=result.reshape(-1), len=x.size, scaleFactor=scale, **values)
+            form(pSrc=x.reshape(-1), pDst=result.reshape(-1), len=x.size, scaleFactor=scale, **dict(zip(extra, numbers)))
         return _deliver(result, out)
 
     if extra:
         def function(x, *numbers, out=None):
             if len(numbers) != len(extra):
                 raise TypeError(f"{name} takes {', '.join(extra)} after the array")
-            return general(np.asarray(x), numbers, 0, out, None)
+            return general(native(x), numbers, 0, out, None)
     else:
         def function(x, scale=0, out=None, dtype=None):
-            return general(np.asarray(x), (), scale, out, dtype)
+            return general(native(x), (), scale, out, dtype)
 
     scaled = any(form.scaled for form in found)
     _public(function, name, _plain(name, found, ("pSrc", "pDst", "len")), False, f"""{summary}
@@ -302,17 +299,17 @@ def _reduction(name, stem, results, summary, example, overflow=False, widest=Fal
     brief = sources == len(results) == 1 and not numbers
 
     def one(x, *values, axis=None, out=None, scale=0):
-        return general((np.asarray(x),), values, axis, out, scale)
+        return general((native(x),), values, axis, out, scale)
 
     if sources == 2:
         def function(a, b, axis=None, out=None, scale=0):
-            return general((np.asarray(a), np.asarray(b)), (), axis, out, scale)
+            return general((native(a), native(b)), (), axis, out, scale)
     elif numbers:
         def function(x, *arguments, axis=None, out=None, scale=0, **named):
             return one(x, *_numbers(name, numbers, arguments, named), axis=axis, out=out, scale=scale)
     else:
         def function(x, axis=None, out=None, scale=0):
-            x = np.asarray(x)
+            x = native(x)
             made = usual(x) if brief and axis is None and out is None and not scale else None
             return one(x, axis=axis, out=out, scale=scale) if made is None else made
 
@@ -392,7 +389,7 @@ def std(x, axis=None, ddof=0, out=None):
     >>> qvxs.std(np.float64([1, 2, 3, 4])).round(6)
     1.118034
     """
-    x = np.asarray(x)
+    x = native(x)
     if x.dtype.kind != "f":
         raise TypeError(f"std has no form for {x.dtype}")
     n = x.size if axis is None else x.shape[axis]
@@ -446,7 +443,7 @@ def convert(x, dtype, scale=0, rounding="even", out=None):
     >>> qvxs.convert(np.float32([0.5, -2, 0.25]), np.int16, scale=-15)
     array([ 16384, -32768,   8192], dtype=int16)
     """
-    x = np.asarray(x)
+    x = native(x)
     source = TAGS.get(x.dtype, str(x.dtype))
     if isinstance(dtype, tuple):
         source, dtype = dtype
@@ -461,7 +458,7 @@ def convert(x, dtype, scale=0, rounding="even", out=None):
     result = _destination(out, shape + ((3,) if target.startswith("24") else ()), form.target, x)
     count = int(np.prod(shape))
     if count:
-        form(pSrc=x.reshape(-1), pDst=result.reshape(-1), len=count, scaleFactor=scale, rndMode=_ROUNDING[rounding])
+        form(pSrc=x.reshape(-1), pDst=result.reshape(-1), len=count, scaleFactor=scale, rndMode=round_mode(rounding))
     return _deliver(result, out)
 
 
@@ -489,7 +486,7 @@ def sort(x, axis=-1, descending=False, out=None):
     >>> qvxs.sort(np.float32([3, 1, 2]), descending=True)
     array([3., 2., 1.], dtype=float32)
     """
-    x = np.asarray(x)
+    x = native(x)
     call = _SORTS[bool(descending)].get(x.dtype)
     if call is None:
         raise TypeError(f"sort has no form for {x.dtype}")
@@ -515,7 +512,7 @@ def argsort(x, axis=-1, descending=False, out=None):
     >>> qvxs.argsort(np.int16([3, 1, 2]))
     array([1, 2, 0])
     """
-    x = np.asarray(x)
+    x = native(x)
     form = _INDEX_SORTS[bool(descending)].get(x.dtype)
     if form is None:
         raise TypeError(f"argsort has no form for {x.dtype}")

@@ -123,6 +123,15 @@ def test_stems_of_integers():
     assert (values == table[places]).all() and (distances[np.arange(200), places] == distances.min(1)).all()
 
 
+def test_rows_of_one_element_and_no_rows():
+    x = np.float32([[3], [5]])
+    low, high = qvxs.haar(x)
+    assert (low == x).all() and high.shape == (2, 0)
+    assert (qvxs.inverse_haar(low, high) == x).all()
+    assert qvxs.sample_up(np.empty((0, 3), np.float32), 2).shape == (0, 6)
+    assert qvxs.sample_down(np.empty((0, 3), np.float32), 2).shape == (0, 2)
+
+
 def test_bits_and_channels():
     values, lengths = noise(100, np.uint32), np.random.default_rng(2).integers(0, 33, 100)
     packed, written = qvxs.pack_bits(values, lengths, 3)

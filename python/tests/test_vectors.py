@@ -76,6 +76,38 @@ def test_arrays_out_of_alignment():
     assert np.allclose(qvxs.fft.rfft(x), np.fft.rfft(x)) and np.allclose(qvxs.signal.lfilter([1.0], [1, -0.5], x)[1], x[1] + x[0] / 2)
 
 
+def test_arrays_of_the_other_byte_order():
+    for dtype in (np.int16, np.float32, np.complex64):
+        x = noise(48, dtype, 1)
+        turned = x.astype(x.dtype.newbyteorder(">"))
+        names = {"i": "absolute max sort argsort haar sample_down", "f": "log std max_index win_hann haar sum", "c": "magnitude flip goertzel_two"}
+        for name in names[x.dtype.kind].split():
+            numbers = {"sample_down": (2,), "goertzel_two": (0.25, 0.5)}.get(name, ())
+            with warnings.catch_warnings():
+                warnings.simplefilter("ignore", qvxs.Warning)  # of logarithms
+                results = getattr(qvxs, name)(turned, *numbers), getattr(qvxs, name)(x, *numbers)
+            for ours, native in zip(*(np.atleast_1d(result) if not isinstance(result, tuple) else result for result in results)):
+                assert np.array_equal(ours, native, equal_nan=True) and ours.dtype == native.dtype, name
+    x = noise(48, np.float32, 1)
+    assert (qvxs.convert(x.astype(">f4"), np.int16, 3) == qvxs.convert(x, np.int16, 3)).all()
+    assert (qvxs.signal.medfilt(x.astype(">f4"), 5) == qvxs.signal.medfilt(x, 5)).all()
+    assert (qvxs.signal.welch(x.astype(">f4"), nperseg=16)[1] == qvxs.signal.welch(x, nperseg=16)[1]).all()
+
+
+def test_numbers_that_fit_no_element():
+    for level in (40000, -40000):
+        with pytest.raises(OverflowError):
+            qvxs.clip(np.int16([1]), min(level, 0), max(level, 0))
+        with pytest.raises(OverflowError):
+            qvxs.threshold_gt_value(np.int16([1]), 0, level)
+    with pytest.raises(TypeError):
+        qvxs.threshold_lt_value(np.int16([1]), 2, 9.5)
+    with pytest.raises(ValueError, match="not 'up'"):
+        qvxs.convert(np.float32([1]), np.int16, rounding="up")
+    with pytest.raises(ValueError, match="not 'up'"):
+        qvxs.divide_round(np.int16([1]), np.int16([1]), rounding="up")
+
+
 def test_out():
     a, b = noise(100, "f", 1), noise(100, "f", 2)
     out = np.empty(100, "f")
