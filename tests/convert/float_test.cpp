@@ -188,6 +188,13 @@ TEST(Half, FromFloats) {
     const auto call = [=](const Qvx32f* a, Qvx16f* d, int n) { return qvxsConvert_32f16f(a, d, n, mode); };
     trial.run(call);
     trial.runInEveryRounding(call);
+    // A NaN stays one even if nothing of its payload is left.
+    for (const uint32_t bits : {0x7F800001U, 0xFF801FFFU, 0x7FC00000U, 0xFFFFFFFFU}) {
+      const auto nan = std::bit_cast<Qvx32f>(bits);
+      Qvx16f h = 0;
+      ASSERT_EQ(qvxsConvert_32f16f(&nan, &h, 1, mode), qvxStatOk);
+      EXPECT_TRUE((h & 0x7FFF) > 0x7C00 && h >> 15 == bits >> 31) << std::hex << bits << " gives " << h;
+    }
   }
 }
 

@@ -150,7 +150,7 @@ void selectByDefinition(const std::vector<Qvx16u>& pathError, const std::vector<
 // last whose branches have a number of 16 bits; 65537 the first whose number is cut.
 TEST(States, TakeTheLeastBranch) {
   Random random(tests::seed());
-  for (const int states : {1, 2, 15, 16, 17, 32, 33, 64, 100, 4094, 4095, 65537}) {
+  for (const int states : {1, 2, 15, 16, 17, 32, 33, 64, 100, 4094, 4095, 20000, 65537}) {
     for (int trial = 0; trial < (states > 1000 ? 12 : 300); ++trial) {
       const auto count = static_cast<size_t>(branches(states));
       const Qvx16u spread = trial % 4 == 0 ? 3 : trial % 4 == 1 ? 1000 : 0xFFFF;
@@ -159,6 +159,7 @@ TEST(States, TakeTheLeastBranch) {
       std::vector<Qvx8u> next(pathError.size() * count);
       for (Qvx16u& v : pathError) v = static_cast<Qvx16u>(random() % (spread + 1U) + (trial % 5 == 0 ? 0xFFFF - spread : 0));
       for (Qvx16u& v : points) v = static_cast<Qvx16u>(random() % (spread + 1U)) & signs;
+      if (trial % 8 == 1) points[1] |= 0x8000;  // a single negative error
       const Qvx8u last = trial % 3 == 0 ? 0 : trial % 3 == 1 ? 255 : static_cast<Qvx8u>(std::min(states, 256) - 1);
       for (Qvx8u& n : next) n = static_cast<Qvx8u>(random() % (last + 1U));
       // As many elements as the table demands, at unreadable pages.

@@ -152,6 +152,17 @@ TEST(Triangle, IsItsLines) {
   expectTriangle<Qvx16sc, Qvx32f>(qvxsTriangle_Direct_16sc, 999, 0x1p-50, 0x1p-49);
 }
 
+// Of -pi the wave falls in no time, of pi it would rise in none.
+TEST(Triangle, TakesAsymmetriesFromMinusPiToBelowPi) {
+  Qvx32f y, phase = 0;
+  Qvx64f z, widePhase = 0;
+  EXPECT_EQ(qvxsTriangle_Direct_32f(&y, 1, 1, 0.01F, -3.1415927F, &phase), qvxStatOk);
+  EXPECT_EQ(qvxsTriangle_Direct_32f(&y, 1, 1, 0.01F, 3.1415925F, &phase), qvxStatOk);
+  EXPECT_EQ(qvxsTriangle_Direct_32f(&y, 1, 1, 0.01F, 3.1415927F, &phase), qvxStatBadTriangleAsym);
+  EXPECT_EQ(qvxsTriangle_Direct_64f(&z, 1, 1, 0.01, 3.141592653589793, &widePhase), qvxStatBadTriangleAsym);
+  EXPECT_EQ(qvxsTriangle_Direct_64f(&z, 1, 1, 0.01, 3.1415926535897927, &widePhase), qvxStatOk);
+}
+
 TEST(Triangle, WithoutAFallStaysWithinItsMagnitude) {
   std::vector<Qvx32f> y(1000);
   std::vector<Qvx64f> z(1000);

@@ -109,6 +109,17 @@ TEST(IirIntegerTaps, DelayLinesRoundByTheirForm) {
     EXPECT_EQ(line[0], v == INT32_MAX ? INT32_MIN : v) << "2^31 is not above 2^31";
     EXPECT_EQ(line[1], 0);
   }
+  // d0 = 32767 x + 32768 y saturates on both sides.
+  const Qvx16s large[] = {1, 32767, 0, -32768};
+  const Qvx16s largeSection[] = {1, 32767, 0, 0, -32768, 0};
+  for (const Qvx16s sign : {-1, 1}) {
+    const auto most = static_cast<Qvx16s>(32767 * sign);
+    Qvx32s direct = 100000 * sign, sections[2] = {direct, 0};
+    ASSERT_EQ(qvxsIIR_Direct_16s(&most, &y, 1, large, 1, &direct), qvxStatOk);
+    EXPECT_EQ(direct, sign < 0 ? INT32_MIN : INT32_MAX);
+    ASSERT_EQ(qvxsIIR_BiQuadDirect_16s(&most, &y, 1, largeSection, 1, sections), qvxStatOk);
+    EXPECT_EQ(sections[0], direct);
+  }
   Qvx32s line = 7;
   ASSERT_EQ(qvxsIIR_Direct_16s(&x, &y, 1, passing, 1, &line), qvxStatOk);
   EXPECT_EQ(y, 7);

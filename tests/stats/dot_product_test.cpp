@@ -102,6 +102,15 @@ TEST(DotProductOfIntegers, Of16BitsIsExact) {
     check(qvxsDotProd_16s16sc_Sfs, v..., kAnyLeast, kAnyMost);
     check(qvxsDotProd_16s16sc32sc_Sfs, v..., kAnyLeast, kAnyMost);
   });
+  const Qvx16s one = 1, numbers[] = {1, -1, 2, -3};
+  const Qvx16s below[] = {0x4000, -0x4000, INT16_MAX, INT16_MIN};
+  for (const int scaleFactor : {-14, -15, -100, INT32_MIN}) {
+    for (size_t i = 0; i < std::size(numbers); ++i) {
+      Qvx16s dot = 0;
+      ASSERT_EQ(qvxsDotProd_16s_Sfs(&one, &numbers[i], 1, &dot, scaleFactor), qvxStatOk);
+      EXPECT_EQ(dot, below[i]) << "scale factor " << scaleFactor;
+    }
+  }
 }
 
 TEST(DotProductOfIntegers, Of32BitsIsExact) {
