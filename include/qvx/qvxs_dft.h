@@ -22,7 +22,7 @@ typedef struct QvxsDFTOutOrdSpec_C_64fc QvxsDFTOutOrdSpec_C_64fc;
 
 /** A record for transforms of len points (len real numbers where its name has an R): length, factor, tables. len: from 1 on.
  *  qvxsDFTInitAlloc allocates it, qvxsDFTFree releases it. qvxsDFTGetBufSize: the bytes of working memory that a transform with
- *  this record takes, 0 for none: so for up to 16 points and for real sequences of 32.
+ *  this record takes, 0 for none: so in floats for up to 16 points, and for even numbers of reals up to 32.
  *  flag: one of QVX_FFT_SCALE_ (qvxs_fft.h); hint: has no effect, any value.
  *  The longest: 2^27 - 1 points, 2^26 - 1 where the length has a large prime factor: above 47, or above 149 where the rest is a
  *  multiple of 4. Half of that for doubles, where 47 is 89. Powers of two go as far as the fast transform does, and are refused

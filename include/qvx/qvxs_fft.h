@@ -78,7 +78,8 @@ QVXS_API(QvxStatus, qvxsFFTFwd_CToC_64f_I, (Qvx64f* pSrcDstRe, Qvx64f* pSrcDstIm
 QVXS_API(QvxStatus, qvxsFFTInv_CToC_64f, (const Qvx64f* pSrcRe, const Qvx64f* pSrcIm, Qvx64f* pDstRe, Qvx64f* pDstIm, const QvxsFFTSpec_C_64f* pSpec, Qvx8u* pBuffer));
 QVXS_API(QvxStatus, qvxsFFTInv_CToC_64f_I, (Qvx64f* pSrcDstRe, Qvx64f* pSrcDstIm, const QvxsFFTSpec_C_64f* pSpec, Qvx8u* pBuffer));
 
-/** Records for transforms of 2^order real numbers, as those for complex ones; order: 0 to 29 for 32f, 28 for 64f. */
+/** Records for transforms of 2^order real numbers, as those for complex ones; order: 0 to 29 for 32f, 28 for 64f;
+ *  *pWorkSize is 0 up to order 6. */
 QVXS_API(QvxStatus, qvxsFFTGetSize_R_32f, (int order, int flag, int hint, int* pSpecSize, int* pInitSize, int* pWorkSize));
 QVXS_API(QvxStatus, qvxsFFTInit_R_32f, (QvxsFFTSpec_R_32f** ppSpec, int order, int flag, int hint, Qvx8u* pSpec, Qvx8u* pInit));
 QVXS_API(QvxStatus, qvxsFFTInitAlloc_R_32f, (QvxsFFTSpec_R_32f** ppSpec, int order, int flag, int hint));

@@ -295,9 +295,10 @@ QVXS_API(QvxStatus, qvxsFIROne_32s_Sfs, (Qvx32s src, Qvx32s* pDstVal, QvxsFIRSta
  *  0 to begin with. Every new sample is stored twice, at the index and tapsLen after it, and then the index moves on; so the last
  *  tapsLen samples are those from the index on, oldest first.
  *  pDlyLine, *pDlyLineIndex: read and updated. The forms of one type with 64 taps or more (32fc, 64f: 32; 64fc: 16), and those
- *  in place, leave the index as it is and renew only the tapsLen samples from it on; those with fewer taps leave the newest at the
- *  beginning alone, with the last index. So a stream keeps to one form, or to qvxsFIROne_Direct and short filters, both of one
- *  type. qvxsFIR_Direct_16s reads the samples newest first and stores them newest first at the beginning, with an index of 0.
+ *  in place, leave the index as it is and renew only the tapsLen samples from it on. Those with fewer taps leave the newest
+ *  tapsLen - 1 samples at the beginning of pDlyLine, oldest first, and nowhere else, with the index tapsLen - 1, where a call
+ *  brings tapsLen samples or more. So a stream keeps to one form, or to qvxsFIROne_Direct and short filters, both of one type.
+ *  qvxsFIR_Direct_16s reads the samples newest first and stores them newest first at the beginning, with an index of 0.
  *  Integer taps: of 16s, h[k] = pTaps[k] * 2^-15; of 32s and 32sc, pTaps[k] * 2^tapsFactor, taken as they are, in sums of 32 bits
  *  that wrap. Here, s above 31 counts as 31, but in qvxsFIR_Direct_16s.
  *  Results in integers of float arithmetic are scaled, saturated and rounded half away from zero, by adding a half.

@@ -381,9 +381,10 @@ QVXS_API(QvxStatus, qvxsIIR64fc_16sc_ISfs, (Qvx16sc* pSrcDst, int len, QvxsIIRSt
 QVXS_API(QvxStatus, qvxsIIROne64fc_16sc_Sfs, (Qvx16sc src, Qvx16sc* pDstVal, QvxsIIRState64fc_16sc* pState, int scaleFactor));
 
 /** A direct form without a record: integer taps b[0..order], s, a[1..order], all in units of 2^-s, and order values of delay
- *  line. The block functions compute as 32f_16s with scale factor 0, and round the delay line half away from zero, saturated. The
- *  One functions compute in 32 bits, wrapping: y = (acc + (acc >> s & 1) + 2^(s-1) - 1) >> s, acc = b[0] * x + d[0], where
- *  an s of 0 adds 2^31 - 1; only the result is saturated. So the two are not equal bit for bit.
+ *  line. The block functions compute as 32f_16s with scale factor 0, and round the delay line half away from zero, saturated above
+ *  2^31; 2^31 itself becomes -2^31. The One functions compute in 32 bits, wrapping:
+ *  y = (acc + (acc >> s & 1) + 2^(s-1) - 1) >> s, acc = b[0] * x + d[0], where an s of 0 adds 2^31 - 1; only the
+ *  result is saturated. So the two are not equal bit for bit.
  *  Returns qvxStatOk; qvxStatBadIIROrder (order < 1); qvxStatNullPtr; qvxStatBadOrderIndex (s < 0); qvxStatBadSize (len < 1);
  *  qvxStatNoMem (a block function found no room for its filter). */
 QVXS_API(QvxStatus, qvxsIIR_Direct_16s,

@@ -30,7 +30,7 @@ extern "C" {
 /** *pSize = the bytes of a record, for a block of any alignment. With N = tapsLen, u = upFactor, d = downFactor, S the smallest
  *  multiple of u from N + 3d on, D as above, r = ceil(D / d), E the bytes of a tap's arithmetic (32f: 4; 32fc, 64f: 8; 64fc: 16;
  *  of integers as 64f, of complex ones as 64fc), b = 4d(S / u / (4d) + 1) + 1 + d(-r mod 4), and up(x) the next multiple of 16:
- *    176 + up(EN) + up(4u + 4) + 4ES + E max(4S, 4096) + up(E(D + b) + 4)   where N / (N + 3d) is above 0.3 (u = 1: 0.5), else
+ *    176 + up(EN) + up(4u + 4) + 4ES + E max(4S, 4096) + up(E(D + b) + 4)   where N / (N + 3d) >= 0.3 (u = 1: > 0.5), else
  *    160 + up(EN) + up(16u + 4) + 4ES + E max(8S, 4096) + up(E(D + b) + 4).
  *  With u = d = 1 as qvxsFIRGetStateSize, and modulo 2^32 as there.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadTapsLen (tapsLen < 1); qvxStatBadMRFactor (upFactor or downFactor < 1). */
