@@ -104,6 +104,7 @@ TEST(FirDesign, TapsAreThoseOfTheDefinition) {
 TEST(FirDesign, BandsAreInOrder) {
   double taps[9] = {7};
   EXPECT_EQ(qvxsFIRGenBandpass_64f(0.3, 0.2, taps, 9, 2, 1), qvxStatBadSize);
+  EXPECT_EQ(qvxsFIRGenBandpass_64f(0.2, 0.2, taps, 9, 2, 1), qvxStatBadSize);
   EXPECT_EQ(qvxsFIRGenBandstop_64f(0.2, 0.2, taps, 9, 2, 1), qvxStatBadSize);
   EXPECT_EQ(taps[0], 7);
 }
