@@ -117,6 +117,18 @@ TEST(SortIndex, TellsElementsThatDifferInTheirLastBits) {
       const Sorted<T> s = sorted<T>(function, x);
       expectPlaces(s, x);
       ASSERT_TRUE(std::is_sorted(s.x.begin(), s.x.end())) << "length " << n;
+      // Only two that do, the greater one first, a few places from the end of the order.
+      for (size_t i = 1; i < n; ++i) x[i] = static_cast<T>(i * 4096);
+      x[0] = least;
+      const size_t lesser = n - std::min<size_t>(n, 2 + random() % 20);
+      if (lesser == 0) continue;
+      if constexpr (std::is_integral_v<T>) x[lesser + 1] = x[lesser] + 1;
+      else x[lesser + 1] = std::nextafter(x[lesser], std::numeric_limits<T>::max());
+      std::shuffle(x.begin(), x.begin() + static_cast<ptrdiff_t>(lesser), random);
+      std::reverse(x.begin(), x.end());
+      const Sorted<T> t = sorted<T>(function, x);
+      expectPlaces(t, x);
+      ASSERT_TRUE(std::is_sorted(t.x.begin(), t.x.end())) << "length " << n << ", " << n - lesser << " from the end";
     }
   };
   expect(qvxsSortIndexAscend_32s_I, std::numeric_limits<Qvx32s>::min());
