@@ -62,7 +62,8 @@ QVXS_API(QvxStatus, qvxsDFTGetBufSize_R_16s, (const QvxsDFTSpec_R_16s* pSpec, in
 /** The complex transform of N points, of 32fc and 64fc with interleaved parts, of 32f and 64f with separate ones:
  *    Fwd   dst[k] = f * sum over n of src[n] * exp(-2 pi i n k / N)
  *    Inv   dst[n] = f * sum over k of src[k] * exp(+2 pi i n k / N)
- *  with the factor f of the record. _Sfs: of integers, times 2^-scaleFactor, rounded to nearest and saturated.
+ *  with the factor f of the record. _Sfs: of integers, times 2^-scaleFactor, rounded to nearest and saturated;
+ *  below a scaleFactor of -127, whose power of two no float holds, a 0 may become 32767.
  *  pSrc, pDst: N elements each, any alignment; they may be the same vector, but not overlap otherwise. The result is the same to
  *  the bit in place and out of place, and at any alignment.
  *  The relative error (root of the mean square) is at most 0.4 eps sqrt(log2 N), eps 2^-23 or 2^-52, at least 0.5 eps; of lengths

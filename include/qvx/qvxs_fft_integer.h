@@ -62,8 +62,9 @@ QVXS_API(QvxStatus, qvxsFFTGetBufSize_R_16s32s, (const QvxsFFTSpec_R_16s32s* pSp
 /** The complex transform of N = 2^order points times 2^-scaleFactor, rounded to nearest and saturated:
  *    Fwd   dst[k] = 2^-scaleFactor * f * sum over n of src[n] * exp(-2 pi i n k / N)
  *    Inv   dst[n] = 2^-scaleFactor * f * sum over k of src[k] * exp(+2 pi i n k / N)
- *  with the factor f of the record; of 16sc and 32sc with interleaved parts, of 16s and 32s with separate ones. pSrc, pDst: N
- *  elements each, any alignment; they may be the same vector, but not overlap otherwise.
+ *  with the factor f of the record; of 16sc and 32sc with interleaved parts, of 16s and 32s with separate ones. Below a
+ *  scaleFactor of -127 (32sc, 32s: -1023), whose power of two no float (double) holds, a 0 may become the largest number.
+ *  pSrc, pDst: N elements each, any alignment; they may be the same vector, but not overlap otherwise.
  *  Accuracy before the rounding: in floats (16 bits) and doubles (32 bits) as those transforms, that is an error of 0.35 eps
  *  sqrt(order) times the root of the mean square of the results, eps 2^-23 or 2^-52, and of no more than that times the largest or
  *  five times the mean in any one; in integers at most 2.1e-5 of the sum of the

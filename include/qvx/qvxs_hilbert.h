@@ -28,7 +28,8 @@ QVXS_API(QvxStatus, qvxsHilbertFree_16s16sc, (QvxsHilbertSpec_16s16sc* pSpec));
  *  discrete Fourier transform of src and N the record's length, h is that of -i X[k] for 0 < k < N/2, i X[k] for k > N/2 and 0 at
  *  k = 0 and N/2: the spectrum of dst is 2 X[k] below N/2, X[k] at 0 and N/2, and 0 above. Lengths 1 and 2 have no h but 0.
  *  Real parts are the source, to the bit in floats. _Sfs: times 2^-scaleFactor, rounded to nearest, ties to even, saturated;
- *  imaginary parts are computed in floats, so they are within one unit of the exact ones. The relative error (root of the mean
+ *  imaginary parts are computed in floats, so they are within one unit of the exact ones; below a scaleFactor of -127, whose
+ *  power of two no float holds, a 0 becomes 32767. The relative error (root of the mean
  *  square) of h is at most 0.6 eps sqrt(log2 N), eps 2^-23, at least 0.5 eps; twice that where N has a prime factor above 13; a
  *  tenth more on SSSE3.
  *  pSrc, pDst: N elements each, any alignment, which may begin at one address, but not overlap otherwise. Long calls allocate
