@@ -236,18 +236,14 @@ template <size_t R, size_t L, class T, class Src>
 [[gnu::noinline]] void firstTilePass(Src src, size_t apart, size_t columns, Tile<T> tile, size_t m, const T* twiddles) {
   for (size_t p = 0; p < m; ++p, src = src.from(apart), twiddles += (R - 1) * 2) {
     for (size_t at = 0; at < columns; at += L) {
-      const size_t here = std::min(L, columns - at);
       Complex<Vec<Lanes<T, L>>> z[R];
-      if (here == L) {
-        unrolled<R>([&](auto k) __attribute__((always_inline)) { z[k] = src.template getInOrder<L>(at + apart * m * k); });
-      } else {
-        unrolled<R>([&](auto k) __attribute__((always_inline)) { z[k] = src.template getInOrder<L>(at + apart * m * k, here); });
-      }
+      takeAll<L>(src.from(at), apart * m, columns - at, z);
       anyDft(z);
-      unrolled<R>([&](auto j) __attribute__((always_inline)) {
-        if constexpr (j > 0) z[j] = product(z[j], twiddles[2 * j - 2], twiddles[2 * j - 1]);
-        tile.points.template put<L>(z[j], at + tile.wide * (R * p + j));
-      });
+      putAll<L, R>(
+          tile.points.from(at + tile.wide * R * p), tile.wide, L, [&](auto j) __attribute__((always_inline)) {
+            if constexpr (j == 0) return z[0];
+            else return product(z[j], twiddles[2 * j - 2], twiddles[2 * j - 1]);
+          });
     }
   }
 }
