@@ -205,48 +205,57 @@ template <class T> void writeGrid(GridPlan<T>& plan, T* block) {
 }
 
 // What a transform does beside: conjugates its points and its results where it is inverse, and multiplies results by a factor.
-template <class V> struct GridEnds {
+// Plain ones, forward and not scaled, do neither: 20 to 768 complex doubles take 0.80 to 0.97 of the time.
+template <class V, bool kPlain> struct GridEnds {
   V sign;
   V factor;
 
-  GridEnds(bool isInverse, LaneOf<V> by) {
+  QVX_INLINE GridEnds(bool isInverse, LaneOf<V> by) {
     const V turn = isInverse ? alternating<V>() : same<V>(LaneOf<V>(1));
     sign = hn::And(turn, same<V>(LaneOf<V>(-0.0)));
     factor = turn * same<V>(by);
   }
+  QVX_INLINE V point(V v) const { return hn::Xor(v, sign); }
+  QVX_INLINE V result(V v) const { return v * factor; }
+};
+template <class V> struct GridEnds<V, true> {
+  QVX_INLINE GridEnds(bool, LaneOf<V>) {}
+  QVX_INLINE V point(V v) const { return v; }
+  QVX_INLINE V result(V v) const { return v; }
 };
 template <class T, size_t P> using GridVector = Vec<Lanes<T, 2 * P>>;
 
 // P columns from `column` on, transformed and rotated.
-template <size_t R, size_t P, class T>
+template <size_t R, size_t P, class T, class Ends>
 QVX_INLINE void transformColumns(ComplexVector<GridVector<T, P>, false> (&x)[R], const T* column, size_t across,
-                                 const T* twiddles, GridVector<T, P> sign) {
+                                 const T* twiddles, const Ends& ends) {
   const Lanes<T, 2 * P> d;
   if (across >= P) {
-    unrolled<R>([&](auto j) __attribute__((always_inline)) { x[j].v = hn::Xor(load(d, column + j * 2 * across), sign); });
+    unrolled<R>([&](auto j) __attribute__((always_inline)) { x[j].v = ends.point(load(d, column + j * 2 * across)); });
   } else {
-    unrolled<R>([&](auto j) __attribute__((always_inline)) {
-      x[j].v = hn::Xor(firstLanes(d, column + j * 2 * across, 2 * across), sign);
-    });
+    unrolled<R>([&](auto j)
+                    __attribute__((always_inline)) { x[j].v = ends.point(firstLanes(d, column + j * 2 * across, 2 * across)); });
   }
   anyDft(x);
   unrolled<R - 1>([&](auto j) __attribute__((always_inline)) { x[j + 1].v = twiddled<false>(x[j + 1].v, twiddles + j * 4 * P); });
 }
 
-template <size_t R, size_t P, class T>
-[[gnu::noinline]] void downGrid(const T* src, T* y, size_t across, const T* twiddles, const T* signs) {
+template <size_t R, size_t P, class T, class Ends>
+[[gnu::noinline]] void downGrid(const T* src, T* y, size_t across, const T* twiddles, const Ends& given) {
   const Lanes<T, 2 * P> d;
+  const Ends ends = given;
   for (size_t h = 0; h < vectorsOf(across, P); ++h, y += R * 2 * P, twiddles += (R - 1) * 4 * P) {
     ComplexVector<GridVector<T, P>, false> x[R];
-    transformColumns<R, P>(x, src + 2 * gridColumn(h, across, P), across, twiddles, load(d, signs));
+    transformColumns<R, P>(x, src + 2 * gridColumn(h, across, P), across, twiddles, ends);
     unrolled<R>([&](auto j) __attribute__((always_inline)) { store(x[j].v, d, y + j * 2 * P); });
   }
 }
 
-template <size_t C, size_t P, class T> [[gnu::noinline]] void acrossGrid(const T* y, T* dst, size_t down, const T* factors) {
+template <size_t C, size_t P, class T, class Ends>
+[[gnu::noinline]] void acrossGrid(const T* y, T* dst, size_t down, const Ends& given) {
   const Lanes<T, 2 * P> d;
   using V = GridVector<T, P>;
-  const V factor = load(d, factors);
+  const Ends ends = given;
   for (size_t q = 0; q < down; q += P) {
     const size_t row = std::min(q, down - P);
     ComplexVector<V, false> x[C];
@@ -258,54 +267,52 @@ template <size_t C, size_t P, class T> [[gnu::noinline]] void acrossGrid(const T
       unrolled<std::min(P, C)>([&](auto l) __attribute__((always_inline)) { x[kFirst + l].v = r[l]; });
     });
     anyDft(x);
-    unrolled<C>([&](auto k) __attribute__((always_inline)) { store(x[k].v * factor, d, dst + 2 * (row + k * down)); });
+    unrolled<C>([&](auto k) __attribute__((always_inline)) { store(ends.result(x[k].v), d, dst + 2 * (row + k * down)); });
   }
 }
 
 // P * C points without leaving registers.
-template <size_t C, size_t P, class T>
+template <size_t C, size_t P, bool kPlain, class T>
 [[gnu::noinline]] void gridInRegisters(const T* src, T* dst, const T* twiddles, bool isInverse, T factor) {
   using V = GridVector<T, P>;
-  const GridEnds<V> ends(isInverse, factor);
+  const GridEnds<V, kPlain> ends(isInverse, factor);
   ComplexVector<V, false> x[C];
   unrolled<vectorsOf(C, P)>([&](auto h) __attribute__((always_inline)) {
     constexpr size_t kFirst = gridColumn(h, C, P);
     ComplexVector<V, false> column[P];
-    transformColumns<P, P>(column, src + 2 * kFirst, C, twiddles + h * (P - 1) * 4 * P, ends.sign);
+    transformColumns<P, P>(column, src + 2 * kFirst, C, twiddles + h * (P - 1) * 4 * P, ends);
     V r[P];
     unrolled<P>([&](auto l) __attribute__((always_inline)) { r[l] = column[l].v; });
     transposePoints(r);
     unrolled<std::min(P, C)>([&](auto l) __attribute__((always_inline)) { x[kFirst + l].v = r[l]; });
   });
   anyDft(x);
-  unrolled<C>([&](auto k) __attribute__((always_inline)) { store(x[k].v * ends.factor, Lanes<T, 2 * P>(), dst + 2 * k * P); });
+  unrolled<C>([&](auto k) __attribute__((always_inline)) { store(ends.result(x[k].v), Lanes<T, 2 * P>(), dst + 2 * k * P); });
 }
 
-template <size_t P, class T> void runGrid(const GridPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
+template <size_t P, bool kPlain, class T> void runGrid(const GridPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
   constexpr auto& kUsed = kGridRadicesOf<T, P>;
   if constexpr (P > 1) {
     if (isInRegisters<T>(plan.down, plan.across, P)) {
       return withGridRadix(plan.across, [&](auto C) {
-        if constexpr (kUsed.inRegisters[C]) gridInRegisters<C, P>(src, dst, plan.twiddles, isInverse, factor);
+        if constexpr (kUsed.inRegisters[C]) gridInRegisters<C, P, kPlain>(src, dst, plan.twiddles, isInverse, factor);
       });
     }
   }
   alignas(64) T y[(kWidestGrid + P) * kWidestGrid * 2];
-  alignas(64) T signs[2 * P];
-  alignas(64) T factors[2 * P];
-  const Lanes<T, 2 * P> d;
-  const GridEnds<GridVector<T, P>> ends(isInverse, factor);
-  store(ends.sign, d, signs);
-  store(ends.factor, d, factors);
+  const GridEnds<GridVector<T, P>, kPlain> ends(isInverse, factor);
   withGridRadix(plan.down, [&](auto R) {
-    if constexpr (kUsed.down[R]) downGrid<R, P>(src, y, plan.across, plan.twiddles, signs);
+    if constexpr (kUsed.down[R]) downGrid<R, P>(src, y, plan.across, plan.twiddles, ends);
   });
   withGridRadix(plan.across, [&](auto C) {
-    if constexpr (kUsed.across[C]) acrossGrid<C, P>(y, dst, plan.down, factors);
+    if constexpr (kUsed.across[C]) acrossGrid<C, P>(y, dst, plan.down, ends);
   });
 }
 template <class T> void runGrid(const GridPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
-  withGridColumns<T>(plan.lanes, [&](auto P) { runGrid<P>(plan, isInverse, src, dst, factor); });
+  withGridColumns<T>(plan.lanes, [&](auto P) {
+    if (!isInverse && factor == 1) runGrid<P, true>(plan, isInverse, src, dst, factor);
+    else runGrid<P, false>(plan, isInverse, src, dst, factor);
+  });
 }
 
 }  // namespace qvx::transform
