@@ -40,7 +40,7 @@ using V = Vec<D>;
 // different: with equal ones it fails, and 1000 pairs took 1.2 to 1.5 times as long.
 template <bool kAreDifferent> void sortRange(Pairs<int32_t> x, size_t n, Pairs<int32_t> buffer, int32_t least) {
   for (int levels = 4 * static_cast<int>(std::bit_width(n)); n > kNetworkPairs;) {
-    if (kAreDifferent && n <= kPackedPairs<int32_t> && sortPacked(x, n, buffer.keys)) return;
+    if (kAreDifferent && n <= kPackedPairs && sortPacked(x, n, buffer.keys)) return;
     if (levels-- == 0) return sortHeap(x, n);
     const int32_t pivot = pivotOf<int32_t>(x.keys, n, {});
     if (pivot == least) {

@@ -11,7 +11,7 @@ constexpr size_t N = Pairs<K>::N;
 
 // Each pair goes to where as many others belong before it; 10 doubles take 0.6 of the time that packing takes. False, with the
 // pairs as they were, if keys are equal: then the ranks do not add up to those of n places.
-constexpr size_t kFewPairs = kVectorBytes > 16 ? 32 : 16;
+constexpr size_t kFewPairs = kHasMasks ? 32 : kVectorBytes > 16 ? 24 : 16;
 bool sortByRanks(Pairs<K> x, size_t n) {
   constexpr Lanes<K, N> d;
   K keys[kFewPairs];
@@ -37,7 +37,7 @@ bool sortByRanks(Pairs<K> x, size_t n) {
 // As Quicksort (quicksort.h), until equal keys are seen.
 bool sortRange(Pairs<K> x, size_t n, Pairs<K> buffer, K least) {
   for (int levels = 4 * static_cast<int>(std::bit_width(n)); n > kFewPairs;) {
-    if (n <= kPackedPairs<K> && sortPacked(x, n, buffer.keys)) return true;
+    if (n <= kPackedPairs && sortPacked(x, n, reinterpret_cast<int32_t*>(buffer.keys))) return true;
     if (levels-- == 0) return sortHeap(x, n), true;
     const K pivot = pivotOf<K>(x.keys, n, {});
     if (pivot == least) return false;

@@ -160,11 +160,16 @@ template <class K> void quicksort(K* x, size_t n, KeyMap<K> in, KeyMap<K> out) {
   alignas(64) K buffer[kSortBuffer<K>];
   Quicksort<K>(out, buffer).sort(x, n, in);
 }
-// A whole vector, which is often in order already, or in reverse.
+
+// Whether a whole vector, which often is in order or in reverse, is sorted now.
+template <class K> bool isSortedByReversal(K* x, size_t n, KeyMap<K> map) {
+  if (n == 0 || areInOrder<Order::kAscending>(x, n, map)) return true;
+  if (n <= kNetworkKeys<K> || !areInOrder<Order::kDescending>(x, n, map)) return false;
+  std::reverse(x, x + n);
+  return true;
+}
 template <class K> void quicksort(K* x, size_t n, KeyMap<K> map) {
-  if (n == 0 || areInOrder<Order::kAscending>(x, n, map)) return;
-  if (n > kNetworkKeys<K> && areInOrder<Order::kDescending>(x, n, map)) return std::reverse(x, x + n);
-  quicksort(x, n, map, map);
+  if (!isSortedByReversal(x, n, map)) quicksort(x, n, map, map);
 }
 
 }  // namespace qvx

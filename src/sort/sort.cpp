@@ -12,13 +12,12 @@ template <Order kOrder, class T> QvxStatus sort(T* srcDst, int len) {
   return status;
 }
 
-// Equal keys are equal bits, so a stable sort has no other result. This one needs no room to move elements through: it takes half
-// the time of three passes of 11 bits.
-template <Order kOrder, class T> QvxStatus sortStably(T* srcDst, const T* workspace, int len) {
+// Equal keys are equal bits, so a stable sort has no other result.
+template <Order kOrder, class T> QvxStatus sortStably(T* srcDst, T* workspace, int len) {
   const QvxStatus status = check(len, srcDst, workspace);
   if (status != qvxStatOk) return status;
-  if constexpr (sizeof(T) >= 4) sortKeysInTeam(asKeys(srcDst), elements(len), keyMap<T>(kOrder));
-  else sortKeys(asKeys(srcDst), elements(len), keyMap<T>(kOrder));
+  if constexpr (sizeof(T) == 1) sortKeys(asKeys(srcDst), elements(len), keyMap<T>(kOrder));
+  else sortKeys(asKeys(srcDst), asKeys(workspace), elements(len), keyMap<T>(kOrder));
   return qvxStatOk;
 }
 

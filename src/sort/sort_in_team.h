@@ -2,7 +2,7 @@
 #pragma once
 
 #include "frame/team.h"
-#include "sort/quicksort.h"
+#include "sort/radix.h"
 
 namespace qvx {
 
@@ -25,12 +25,14 @@ template <class K> [[gnu::noinline]] size_t halve(K* x, size_t n, KeyMap<K> in) 
   return partition(x, n, pivot, in, buffer);
 }
 
-template <class K> void sortInTeam(K* x, size_t n, KeyMap<K> map) {
-  if (n < kSortTeam.worthIt || kSortTeam.threads() < 2) return quicksort(x, n, map);
+// room: for n keys.
+template <class K> void sortInTeam(K* x, K* room, size_t n, KeyMap<K> map) {
+  if (isSortedByReversal(x, n, map)) return;
+  if (n < kSortTeam.worthIt || kSortTeam.threads() < 2) return sortThrough(x, room, n, map, map);
   const size_t below = halve(x, n, map);
   inParts(2, [=](size_t part) {
-    if (part == 0) quicksort<K>(x, below, {}, map);
-    else quicksort<K>(x + below, n - below, {}, map);
+    if (part == 0) sortThrough<K>(x, room, below, {}, map);
+    else sortThrough<K>(x + below, room + below, n - below, {}, map);
     return qvxStatOk;
   });
 }

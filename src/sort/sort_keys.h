@@ -12,9 +12,10 @@ void sortKeys(int16_t* x, size_t n, KeyMap<int16_t> map);
 void sortKeys(int32_t* x, size_t n, KeyMap<int32_t> map);
 void sortKeys(int64_t* x, size_t n, KeyMap<int64_t> map);
 
-// The same by two threads, where there are two.
-void sortKeysInTeam(int32_t* x, size_t n, KeyMap<int32_t> map);
-void sortKeysInTeam(int64_t* x, size_t n, KeyMap<int64_t> map);
+// The same with n elements of working memory; 32 and 64 bits by two threads, where there are two.
+void sortKeys(int16_t* x, int16_t* room, size_t n, KeyMap<int16_t> map);
+void sortKeys(int32_t* x, int32_t* room, size_t n, KeyMap<int32_t> map);
+void sortKeys(int64_t* x, int64_t* room, size_t n, KeyMap<int64_t> map);
 
 template <class T> Key<T>* asKeys(T* x) { return reinterpret_cast<Key<T>*>(x); }
 

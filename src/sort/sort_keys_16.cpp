@@ -1,5 +1,5 @@
 // 16-bit keys, and 8-bit ones, which are counted, or widened where they are few.
-#include "sort/quicksort.h"
+#include "sort/radix.h"
 #include "sort/sort_keys.h"
 
 using namespace qvx;
@@ -84,3 +84,6 @@ void qvx::sortKeys(int8_t* x, size_t n, KeyMap<int8_t> map) {
 }
 
 void qvx::sortKeys(int16_t* x, size_t n, KeyMap<int16_t> map) { quicksort(x, n, map); }
+void qvx::sortKeys(int16_t* x, int16_t* room, size_t n, KeyMap<int16_t> map) {
+  if (!isSortedByReversal(x, n, map)) sortThrough(x, room, n, map, map);
+}
