@@ -17,7 +17,7 @@ template <class K, class Order, class Products> void plain(const Products& produ
   filter<K, Order>(products, count, [y](auto v, size_t at, auto... some) {
     constexpr TagOf<decltype(v)> d;
     if constexpr (sizeof...(some) == 0) store(v, d, parts(y + at));
-    else storeFirst(v, d, parts(y), some * PartsOf<typename K::Element>::kCount...);
+    else storeFirst(v, d, parts(y + at), some * PartsOf<typename K::Element>::kCount...);
   });
 }
 
@@ -60,7 +60,7 @@ template <class Products> void integers(const Products& products, size_t lanes, 
     const auto v = scaledInTurn(shift, sums);
     constexpr TagOf<decltype(v)> d;
     constexpr size_t kWhole = hn::MaxLanes(d);
-    if constexpr (sizeof...(some) != 0) storeFirst(v, d, y, lanes);
+    if constexpr (sizeof...(some) != 0) storeFirst(v, d, y + 2 * at, lanes - 2 * at);
     else if (lanes - 2 * at >= kWhole) store(v, d, y + 2 * at);
     else storeFirst(v, d, y + 2 * at, kWhole - 1);
   });

@@ -102,7 +102,7 @@ template <size_t kChannels> struct LongOrder {
 };
 template <size_t kChannels> struct ShortOrder {
   static constexpr size_t kSums = kHasMasks ? 4 : 4 / kChannels;
-  static constexpr size_t kWidest = (kHasMasks ? 4 : 2) / kChannels;
+  static constexpr size_t kWidest = kHasMasks ? 4 / kChannels : 2;
   static_assert(kWidest * kChannels * kSums + kSums * kChannels < kRegisters);
 
   template <size_t kVectors> static constexpr auto tile() { return Tile<kVectors, kSums, kSums>(); }
@@ -246,6 +246,7 @@ template <class K, class T, class Products, class Put>
 
 // One convolution: p[0] * x[n] + p[1] * x[n + 1] + ...
 template <class K> struct OneRow {
+  static constexpr bool kIsPadded = false;
   const typename K::Element* x;
   const typename K::Tap* p;
   size_t taps;
@@ -258,6 +259,7 @@ template <class K> struct OneRow {
 // The sum of the convolutions of several rows, among which the samples are dealt in turn: tap t meets the sample t places after
 // the one at `at` of row `row`. The taps are stored row by row.
 template <class K, class S> struct DealtRows {
+  static constexpr bool kIsPadded = true;
   const S* rows;
   size_t stride;
   size_t count;
@@ -294,6 +296,7 @@ template <class K, class S> struct DealtRows {
 // The same with so few taps a row that it is faster to take them in the order of the samples.
 template <class K> struct DealtTaps {
   using S = typename K::Element;
+  static constexpr bool kIsPadded = true;
   const S* rows;
   size_t stride;
   size_t count;
@@ -322,29 +325,40 @@ template <class K> struct DealtTaps {
 };
 
 // put(outputs, n) takes the vector of outputs from n on, for all n to count; put(outputs, n, some) the first `some` of them. The
-// samples that `products` reads must exist for all outputs, and for a whole vector of them if count is less.
+// samples that `products` reads must exist for all outputs, and for a whole vector of them if count is less; where they exist for
+// one vector more, `products` has kIsPadded.
 template <class K, class Order, class Products, class Put>
 [[gnu::flatten]] void filter(const Products& products, size_t count, Put put) {
   constexpr size_t N = detail::kElements<K>;
   constexpr size_t kWidest = Order::kWidest;
   size_t n = 0;
-  const auto tiles = [&]<size_t kVectors>(std::integral_constant<size_t, kVectors>) {
-    using Tile = decltype(Order::template tile<kVectors>());
-    for (; n + kVectors * N <= count; n += kVectors * N) {
-      detail::tile<K, Tile>(products, n, [&](auto v, size_t m) { put(v, n + m); });
-    }
+  const auto tileAt = [&]<size_t kVectors>(std::integral_constant<size_t, kVectors>, size_t at, auto putAt) {
+    detail::tile<K, decltype(Order::template tile<kVectors>())>(products, at, [&](auto v, size_t m) { putAt(v, at + m); });
   };
-  if constexpr (kWidest > 1) tiles(std::integral_constant<size_t, kWidest>());
+  const auto tiles = [&](auto vectors) {
+    for (; n + vectors * N <= count; n += vectors * N) tileAt(vectors, n, put);
+  };
+  if constexpr (kWidest > 2) tiles(std::integral_constant<size_t, kWidest>());
   if constexpr (kWidest > 8) tiles(std::integral_constant<size_t, 8>());
   if constexpr (kWidest > 4) tiles(std::integral_constant<size_t, 4>());
-  if constexpr (kWidest > 2) tiles(std::integral_constant<size_t, 2>());
-  // Single vectors; the last may overlap outputs that are stored already.
+  // The last may overlap outputs that are stored already.
+  if constexpr (kWidest > 1) {
+    const auto putSome = [&](auto v, size_t at) {
+      if (at + N <= count) put(v, at);
+      else put(v, at, count - at);
+    };
+    if (Products::kIsPadded || count >= 2 * N) {
+      for (; n + N < count; n += 2 * N) {
+        tileAt(std::integral_constant<size_t, 2>(), count < 2 * N ? 0 : std::min(n, count - 2 * N), putSome);
+      }
+    }
+  }
   for (; n < count; n += N) {
-    const size_t at = count < N ? 0 : std::min(n, count - N);
-    detail::tile<K, decltype(Order::template tile<1>())>(products, at, [&](auto v, size_t) {
-      if (count < N) put(v, 0, count);
+    const auto putSome = [&](auto v, size_t at) {
+      if (count < N) put(v, at, count);
       else put(v, at);
-    });
+    };
+    tileAt(std::integral_constant<size_t, 1>(), count < N ? 0 : std::min(n, count - N), putSome);
   }
 }
 
