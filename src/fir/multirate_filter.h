@@ -1,6 +1,7 @@
 // Filtering with a multi-rate record.
 #pragma once
 
+#include "convolution/transpose.h"
 #include "fir/multirate.h"
 
 namespace qvx::fir {
