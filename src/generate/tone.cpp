@@ -89,7 +89,7 @@ void fillQ15(Qvx16s* dst, size_t n, QvxsToneState& tone) {
   tone.phase += n * tone.step;
   // The cosine is the sine of what is left to a quarter.
   const auto left = [&](size_t i) __attribute__((always_inline)) {
-    const V size = hn::Abs(Angles::reals(phases(phase, i)));
+    const V size = hn::Abs(phases(phase, i));
     if constexpr (Angles::kUnit == 1) return same<V>(0.25) - size;
     else return hn::NegMulAdd(size, same<V>(Angles::kUnit), same<V>(0.25));
   };

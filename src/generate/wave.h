@@ -64,29 +64,21 @@ template <class Real, size_t kVectors = kTogether> class Phases {
   // Integers that wrap by themselves, where an instruction converts them; else turns, which are reduced.
   static constexpr bool kCounts = sizeof(Real) == 4 || kHasMasks;
   static constexpr double kUnit = !kCounts ? 1 : sizeof(Real) == 4 ? 0x1p-32 : 0x1p-64;  // turns
-  using Lane = std::conditional_t<!kCounts, Real, std::conditional_t<sizeof(Real) == 4, int32_t, int64_t>>;
 
   Phases(size_t n, uint64_t step) {
     for (size_t k = 0; k < N; ++k) steps_[k] = lane(k * step);
     for (size_t i = 1; i < kVectors && i * N < n; ++i)
       store(load(d_, steps_) + hn::Set(d_, lane(i * N * step)), d_, steps_ + i * N);
   }
-  // Those of a vector as they are counted, i vectors after `first`.
+  // Those of a vector, i vectors after `first`.
   [[gnu::always_inline]] auto operator()(uint64_t first, size_t i) const {
     const auto sum = hn::Set(d_, lane(first)) + load(d_, steps_ + i * N);
-    if constexpr (kCounts) return sum;
+    if constexpr (kCounts) return hn::ConvertTo(Lanes<Real, N>(), sum);
     else return sum - hn::Round(sum);
-  }
-  template <class V> [[gnu::always_inline]] static auto reals(V phases) {
-    if constexpr (kCounts) return hn::ConvertTo(Lanes<Real, N>(), phases);
-    else return phases;
-  }
-  // Turns up to a half as they are counted.
-  static Lane counted(double turns) {
-    return kCounts && turns >= 0.5 ? std::numeric_limits<Lane>::max() : static_cast<Lane>(turns / kUnit);
   }
 
  private:
+  using Lane = std::conditional_t<!kCounts, Real, std::conditional_t<sizeof(Real) == 4, int32_t, int64_t>>;
   static Lane lane(uint64_t phase) {
     const auto count = static_cast<int64_t>(phase);
     if constexpr (kCounts) return static_cast<Lane>(count >> (64 - 8 * sizeof(Lane)));

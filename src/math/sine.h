@@ -51,10 +51,18 @@ template <int kDigits, size_t kCount, class V>
   return sum;
 }
 
-// Of floats in radians, from -pi/2 to pi/2.
-template <class V> [[gnu::always_inline]] inline V sineOfRightAngle(V x) {
-  const V z = x * x;
-  return hn::MulAdd(x * z, horner<0, 1>(z, detail::kSineOfFloats), x);
+// sin^2 of an angle up to a right one, from the square of the angle: of floats in radians, of doubles in turns.
+template <class T> inline constexpr double kSquaredHalfTurn = sizeof(T) == sizeof(float) ? 9.869604401089358 : 0.25;
+template <class V> [[gnu::always_inline]] inline V squaredSine(V z) {
+  V quotient;  // of sine and angle
+  if constexpr (std::is_same_v<LaneOf<V>, float>) {
+    const auto c = [](size_t k) { return same<V>(detail::kSineOfFloats[k]); };
+    const V square = z * z;
+    quotient = hn::MulAdd(square, hn::MulAdd(square, c(3), hn::MulAdd(z, c(2), c(1))), hn::MulAdd(z, c(0), same<V>(1)));
+  } else {
+    quotient = polynomial(z, detail::kSine<53>);
+  }
+  return quotient * quotient * z;
 }
 
 // From -1/2 to 1/2 turn.

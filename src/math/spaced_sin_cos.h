@@ -77,13 +77,15 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
 
   // put(at, sines, cosines) for whole vectors of `count` samples and put(at, sines, cosines, rest) for the last one, of which
   // only `rest` lanes count. startAt(at) is the angle of a block's first sample, asked for in order. Those of the next block are
-  // computed beside a block: 4096 doubles take 0.84 of the time.
-  template <class StartAt, class Put> [[gnu::always_inline]] void forEachVector(size_t count, StartAt startAt, Put put) const {
+  // computed beside a block: 4096 doubles take 0.84 of the time. kInPairs: put(at, sines, cosines) gets Pairs of vectors
+  // that follow each other, as far as they go.
+  template <bool kInPairs = false, class StartAt, class Put>
+  [[gnu::always_inline]] void forEachVector(size_t count, StartAt startAt, Put put) const {
     Wide next = kSpan == Span::kFromZero ? firstsFrom<true>(0) : firstsFrom<false>(startAt(0));
     for (size_t from = 0; from < count; from += kBlock) {
       const Wide firsts = next;
       if (from + kBlock < count) next = firstsFrom<false>(startAt(from + kBlock));
-      block(
+      block<kInPairs>(
           firsts,
           std::min(count - from, kBlock), [&](size_t at, auto... v) __attribute__((always_inline)) { put(from + at, v...); });
     }
@@ -119,7 +121,7 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
     else return sinCosOfTurns<kDigits>(turns);
   }
 
-  template <class Put> [[gnu::always_inline]] void block(Wide first, size_t count, Put put) const {
+  template <bool kInPairs, class Put> [[gnu::always_inline]] void block(Wide first, size_t count, Put put) const {
     const Lanes<T, kLanes> d;
     // First angles are computed some rotations before they are used: broadcasting one that has only just been stored waits for
     // the store, and 4096 samples take 1.2 times as long in AVX-512.
@@ -134,11 +136,15 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
       made += kWide;
     };
     while (made < kAhead && made * kGroup < count) makeFirsts();
-    const auto putNext = [&, lanes = lanes_ ](size_t k, auto i, auto... rest) __attribute__((always_inline)) {
+    const auto sinCosAt = [&, lanes = lanes_ ](size_t k, auto i) __attribute__((always_inline)) {
       const auto s = hn::Set(d, firstSines[k]);
       const auto c = hn::Set(d, firstCosines[k]);
-      put(k * kGroup + i * kLanes, hn::MulAdd(s, lanes[i].cosine, c * lanes[i].sine),
-          hn::NegMulAdd(s, lanes[i].sine, c * lanes[i].cosine), rest...);
+      return SinCos<Vec<decltype(d)>>{hn::MulAdd(s, lanes[i].cosine, c * lanes[i].sine),
+                                      hn::NegMulAdd(s, lanes[i].sine, c * lanes[i].cosine)};
+    };
+    const auto putNext = [&](size_t k, auto i, auto... rest) __attribute__((always_inline)) {
+      const auto v = sinCosAt(k, i);
+      put(k * kGroup + i * kLanes, v.sine, v.cosine, rest...);
     };
     const auto putGroup = [&](size_t k) __attribute__((always_inline)) {
       unrolled<kVectors>([&](auto i) __attribute__((always_inline)) { putNext(k, i); });
@@ -147,7 +153,17 @@ template <class T, Span kSpan = Span::kAny> class SpacedAngles {
     size_t k = 0;
     for (; k + kWide <= whole; k += kWide) {
       if (made * kGroup < count) makeFirsts();
-      unrolled<kWide>([&](auto i) __attribute__((always_inline)) { putGroup(k + i); });
+      if constexpr (kInPairs) {
+        static_assert(kVectors == 1);
+        constexpr std::integral_constant<size_t, 0> kOnly;
+        unrolled<kWide / 2>([&](auto i) __attribute__((always_inline)) {
+          const auto first = sinCosAt(k + 2 * i, kOnly), second = sinCosAt(k + 2 * i + 1, kOnly);
+          using Two = Pair<Vec<decltype(d)>>;
+          put((k + 2 * i) * kGroup, Two{first.sine, second.sine}, Two{first.cosine, second.cosine});
+        });
+      } else {
+        unrolled<kWide>([&](auto i) __attribute__((always_inline)) { putGroup(k + i); });
+      }
     }
     for (; k < whole; ++k) putGroup(k);
     unrolled<kVectors>([&](auto i) __attribute__((always_inline)) {

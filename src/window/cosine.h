@@ -3,7 +3,7 @@
 // From s nothing cancels where a window goes to zero: its smallest weights are as good as its largest.
 #pragma once
 
-#include <bit>
+#include <array>
 
 #include "frame/each_vector.h"
 #include "frame/lane_numbers.h"
@@ -13,17 +13,17 @@
 
 namespace qvx::window {
 
-// Each takes a sine times its scale.
+// Each takes s times the square of its scale.
 struct Hann {
   static constexpr bool kIsZeroAtEnds = true;
   static constexpr double scale() { return 1; }
-  template <class V> V operator()(V sine) const { return sine * sine; }
+  template <class V> V operator()(V s) const { return s; }
 };
 // 0.08 + 0.92 s
 struct Hamming {
   static constexpr bool kIsZeroAtEnds = false;
   static constexpr double scale() { return 0.9591663046625439; }  // the root of 0.92
-  template <class V> V operator()(V sine) const { return hn::MulAdd(sine, sine, same<V>(static_cast<LaneOf<V>>(0.54 - 0.46))); }
+  template <class V> V operator()(V s) const { return s + same<V>(static_cast<LaneOf<V>>(0.54 - 0.46)); }
 };
 // s (c1 + c2 s)
 struct Blackman {
@@ -32,9 +32,8 @@ struct Blackman {
   double c2;
 
   static constexpr double scale() { return 1; }
-  template <class V> V operator()(V sine) const {
+  template <class V> V operator()(V s) const {
     using W = LaneOf<V>;
-    const V s = sine * sine;
     return s * hn::MulAdd(s, same<V>(static_cast<W>(c2)), same<V>(static_cast<W>(c1)));
   }
 };
@@ -46,10 +45,7 @@ struct RisingBlackman {
 
   explicit RisingBlackman(Blackman form) : root(std::sqrt(form.c2)), addend(form.c1 / root) {}
   double scale() const { return std::sqrt(root); }
-  template <class V> V operator()(V sine) const {
-    const V t = sine * sine;
-    return t * (t + same<V>(static_cast<LaneOf<V>>(addend)));
-  }
+  template <class V> V operator()(V t) const { return t * (t + same<V>(static_cast<LaneOf<V>>(addend))); }
 };
 
 namespace detail {
@@ -59,57 +55,31 @@ template <class Real> inline constexpr size_t kRotated = (sizeof(Real) == sizeof
 template <class Real> using Angles = SpacedAngles<Real, Span::kFromZero>;
 static_assert(kRotated<float> >= 2 * Angles<float>::kEighth && kRotated<double> >= 2 * Angles<double>::kEighth);
 
-// sin(pi n / (N-1)) for n = 0, 1, ..., a vector at a time.
-template <class Real> class Sines {
+// (pi / (N-1))^2 by N, as squaredSine takes it: a conversion and a division less before the first weight.
+template <class Real>
+inline constexpr auto kSquaredSteps = [] {
+  std::array<Real, 2 * kRotated<Real>> squares = {};
+  for (size_t len = 2; len < squares.size(); ++len)
+    squares[len] = static_cast<Real>(kSquaredHalfTurn<Real> / static_cast<double>((len - 1) * (len - 1)));
+  return squares;
+}();
+
+// sin^2(pi n / (N-1)) for n = 0, 1, ..., a vector at a time.
+template <class Real> class Squares {
  public:
   static constexpr size_t N = kVectorBytes / sizeof(Real);
 
-  explicit Sines(size_t len) : turns_(0.5 / static_cast<double>(len - 1)) {}
+  explicit Squares(size_t len) : step_(hn::Set(d_, kSquaredSteps<Real>[len])) {}
   auto next() {
     const auto n = number_;
-    number_ = n + hn::Set(d_, static_cast<double>(N));
-    return sineOfQuarterTurn<53>(n * hn::Set(d_, turns_));
+    number_ = n + hn::Set(d_, static_cast<Real>(N));
+    return squaredSine(n * n * step_);
   }
 
  private:
-  static constexpr Lanes<double, N> d_ = {};
-  double turns_;
-  Vec<Lanes<double, N>> number_ = laneNumbersOf(d_);
-};
-
-// Angles in floats are sums of two multiples of steps of which the first are exact, so that an angle is rounded once.
-template <> class Sines<float> {
- public:
-  static constexpr size_t N = kVectorBytes / sizeof(float);
-
-  explicit Sines(size_t len) {
-    const double step = 3.141592653589793 / static_cast<double>(len - 1);
-    // All but 24 digits and as many as places have, without a way through integer registers: 5 ns of a call.
-    constexpr int kLower = 53 - 24 + std::bit_width(kRotated<float> - 1);
-    const auto mask = hn::Set(pair_, std::bit_cast<double>(~uint64_t{0} << kLower));
-    const auto upperStep = hn::GetLane(hn::Set(pair_, step) & mask);
-    const auto upper = static_cast<float>(upperStep);
-    const auto lower = static_cast<float>(step - upperStep);
-    high_ = laneNumbersOf(d_) * hn::Set(d_, upper);
-    low_ = laneNumbersOf(d_) * hn::Set(d_, lower);
-    highStep_ = hn::Set(d_, N * upper);
-    lowStep_ = hn::Set(d_, N * lower);
-  }
-  auto next() {
-    const auto angle = high_ + low_;
-    high_ = high_ + highStep_;
-    low_ = low_ + lowStep_;
-    return sineOfRightAngle(angle);
-  }
-
- private:
-  using V = Vec<Lanes<float, N>>;
-  static constexpr Lanes<float, N> d_ = {};
-  static constexpr Lanes<double, 2> pair_ = {};
-  V high_;
-  V low_;
-  V highStep_;
-  V lowStep_;
+  static constexpr Lanes<Real, N> d_ = {};
+  Vec<Lanes<Real, N>> step_;
+  Vec<Lanes<Real, N>> number_ = laneNumbersOf(d_);
 };
 
 // Real: what the sines and the sums of their squares are computed in. Two functions: what a short window needs stays in
@@ -117,12 +87,21 @@ template <> class Sines<float> {
 template <class Real, class T, class Form, class Kernel>
 [[gnu::noinline, gnu::flatten]] void weighBySines(const T* src, T* dst, size_t len, Form form, Kernel kernel) {
   weigh(src, dst, len, kernel, [=](size_t count, const auto& put) {
-    Sines<Real> sines(len);
-    eachVector<Sines<Real>::N>(count, [&](size_t at, auto... rest) {
-      const auto sine = sines.next();
-      const auto scale = hn::Set(TagOf<decltype(sine)>(), static_cast<Real>(form.scale()));
-      put(at, convertLanes<Weight<T>>(form(sine * scale)), rest...);
-    });
+    constexpr size_t N = Squares<Real>::N;
+    Squares<Real> squares(len);
+    const auto next = [&] {
+      const auto square = squares.next();
+      const auto scale = hn::Set(TagOf<decltype(square)>(), static_cast<Real>(form.scale() * form.scale()));
+      return convertLanes<Weight<T>>(form(square * scale));
+    };
+    size_t from = 0;
+    if constexpr (kInPairs<T>) {
+      for (; from + 2 * N <= count; from += 2 * N) {
+        const auto first = next();
+        put(from, Pair<decltype(next())>{first, next()});
+      }
+    }
+    eachVector<N>(count - from, [&](size_t at, auto... rest) { put(from + at, next(), rest...); });
   });
 }
 template <class Real, class T, class Form, class Kernel>
@@ -130,9 +109,13 @@ template <class Real, class T, class Form, class Kernel>
   const double step = 0.5 / static_cast<double>(len - 1);
   weigh(src, dst, len, kernel, [=](size_t count, const auto& put) {
     const Angles<Real> angles(step, form.scale());
-    angles.forEachVector(
+    const auto weights = [=](auto sine) { return convertLanes<Weight<T>>(form(sine * sine)); };
+    angles.template forEachVector<kInPairs<T>>(
         count, [=](size_t at) { return static_cast<double>(at) * step; },
-        [&](size_t at, auto sine, auto, auto... rest) { put(at, convertLanes<Weight<T>>(form(sine)), rest...); });
+        [&](size_t at, auto sine, auto, auto... rest) {
+          if constexpr (requires { sine.lo; }) put(at, Pair<decltype(weights(sine.lo))>{weights(sine.lo), weights(sine.hi)});
+          else put(at, weights(sine), rest...);
+        });
   });
 }
 
