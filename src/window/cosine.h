@@ -13,17 +13,17 @@
 
 namespace qvx::window {
 
-// Each takes s times the square of its scale.
+// Each takes two factors, whose product is s times the square of its scale.
 struct Hann {
   static constexpr bool kIsZeroAtEnds = true;
   static constexpr double scale() { return 1; }
-  template <class V> V operator()(V s) const { return s; }
+  template <class V> V operator()(V a, V b) const { return a * b; }
 };
 // 0.08 + 0.92 s
 struct Hamming {
   static constexpr bool kIsZeroAtEnds = false;
   static constexpr double scale() { return 0.9591663046625439; }  // the root of 0.92
-  template <class V> V operator()(V s) const { return s + same<V>(static_cast<LaneOf<V>>(0.54 - 0.46)); }
+  template <class V> V operator()(V a, V b) const { return hn::MulAdd(a, b, same<V>(static_cast<LaneOf<V>>(0.54 - 0.46))); }
 };
 // s (c1 + c2 s)
 struct Blackman {
@@ -32,8 +32,9 @@ struct Blackman {
   double c2;
 
   static constexpr double scale() { return 1; }
-  template <class V> V operator()(V s) const {
+  template <class V> V operator()(V a, V b) const {
     using W = LaneOf<V>;
+    const V s = a * b;
     return s * hn::MulAdd(s, same<V>(static_cast<W>(c2)), same<V>(static_cast<W>(c1)));
   }
 };
@@ -45,7 +46,10 @@ struct RisingBlackman {
 
   explicit RisingBlackman(Blackman form) : root(std::sqrt(form.c2)), addend(form.c1 / root) {}
   double scale() const { return std::sqrt(root); }
-  template <class V> V operator()(V t) const { return t * (t + same<V>(static_cast<LaneOf<V>>(addend))); }
+  template <class V> V operator()(V a, V b) const {
+    const V t = a * b;
+    return t * (t + same<V>(static_cast<LaneOf<V>>(addend)));
+  }
 };
 
 namespace detail {
@@ -55,7 +59,7 @@ template <class Real> inline constexpr size_t kRotated = (sizeof(Real) == sizeof
 template <class Real> using Angles = SpacedAngles<Real, Span::kFromZero>;
 static_assert(kRotated<float> >= 2 * Angles<float>::kEighth && kRotated<double> >= 2 * Angles<double>::kEighth);
 
-// (pi / (N-1))^2 by N, as squaredSine takes it: a conversion and a division less before the first weight.
+// (pi / (N-1))^2 by N, as sineByAngle takes it: a conversion and a division less before the first weight.
 template <class Real>
 inline constexpr auto kSquaredSteps = [] {
   std::array<Real, 2 * kRotated<Real>> squares = {};
@@ -64,16 +68,16 @@ inline constexpr auto kSquaredSteps = [] {
   return squares;
 }();
 
-// sin^2(pi n / (N-1)) for n = 0, 1, ..., a vector at a time.
-template <class Real> class Squares {
+// (pi n / (N-1))^2 for n = 0, 1, ..., a vector at a time.
+template <class Real> class SquaredAngles {
  public:
   static constexpr size_t N = kVectorBytes / sizeof(Real);
 
-  explicit Squares(size_t len) : step_(hn::Set(d_, kSquaredSteps<Real>[len])) {}
+  explicit SquaredAngles(size_t len) : step_(hn::Set(d_, kSquaredSteps<Real>[len])) {}
   auto next() {
     const auto n = number_;
     number_ = n + hn::Set(d_, static_cast<Real>(N));
-    return squaredSine(n * n * step_);
+    return n * n * step_;
   }
 
  private:
@@ -87,15 +91,16 @@ template <class Real> class Squares {
 template <class Real, class T, class Form, class Kernel>
 [[gnu::noinline, gnu::flatten]] void weighBySines(const T* src, T* dst, size_t len, Form form, Kernel kernel) {
   weigh(src, dst, len, kernel, [=](size_t count, const auto& put) {
-    constexpr size_t N = Squares<Real>::N;
-    Squares<Real> squares(len);
+    constexpr size_t N = SquaredAngles<Real>::N;
+    SquaredAngles<Real> angles(len);
     const auto next = [&] {
-      const auto square = squares.next();
+      const auto square = angles.next();
+      const auto quotient = sineByAngle(square);
       const auto scale = hn::Set(TagOf<decltype(square)>(), static_cast<Real>(form.scale() * form.scale()));
-      return convertLanes<Weight<T>>(form(square * scale));
+      return convertLanes<Weight<T>>(form(quotient * quotient, square * scale));
     };
     size_t from = 0;
-    if constexpr (kInPairs<T>) {
+    if constexpr (kInPairs<T, Real>) {
       for (; from + 2 * N <= count; from += 2 * N) {
         const auto first = next();
         put(from, Pair<decltype(next())>{first, next()});
@@ -109,8 +114,8 @@ template <class Real, class T, class Form, class Kernel>
   const double step = 0.5 / static_cast<double>(len - 1);
   weigh(src, dst, len, kernel, [=](size_t count, const auto& put) {
     const Angles<Real> angles(step, form.scale());
-    const auto weights = [=](auto sine) { return convertLanes<Weight<T>>(form(sine * sine)); };
-    angles.template forEachVector<kInPairs<T>>(
+    const auto weights = [=](auto sine) { return convertLanes<Weight<T>>(form(sine, sine)); };
+    angles.template forEachVector<kInPairs<T, Real>>(
         count, [=](size_t at) { return static_cast<double>(at) * step; },
         [&](size_t at, auto sine, auto, auto... rest) {
           if constexpr (requires { sine.lo; }) put(at, Pair<decltype(weights(sine.lo))>{weights(sine.lo), weights(sine.hi)});
@@ -149,7 +154,10 @@ template <class T, class Form, class Kernel> void weighAsNeeded(const T* src, T*
 
 }  // namespace detail
 
-template <class T, class Form, class Kernel = Weighed<T>>
+template <class T, class Form>
+using KernelOf = std::conditional_t<std::is_same_v<T, Qvx16s> && !std::is_same_v<Form, Blackman>, WeighedDown, Weighed<T>>;
+
+template <class T, class Form, class Kernel = KernelOf<T, Form>>
 QvxStatus cosineWindow(const T* src, T* dst, int len, Form form, Kernel kernel = {}) {
   const QvxStatus status = checkWindow(src, dst, len);
   if (status != qvxStatOk) return status;

@@ -23,10 +23,27 @@ template <class T> using Weight = std::conditional_t<std::is_same_v<Part<T>, Qvx
 
 // Floats as they come. Integers to nearest, saturated, with weights below 2^15, so that 32 bits hold the product.
 template <class T> struct Weighed {
-  template <class V, class W> static auto rounded(V x, W w) { return toIntNearest(convertLanes<float>(x) * w); }
+  template <class V> static auto rounded(V x, V w) { return toIntNearest(x * w); }
   template <class V, class W> auto operator()(V x, W w) const {
     if constexpr (std::is_floating_point_v<Part<T>>) return x * w;
-    else return convertLanes<Part<T>>(rounded(x, w));
+    else return convertLanes<Part<T>>(rounded(convertLanes<float>(x), w));
+  }
+  template <class V> auto joined(Pair<V> x, Pair<V> w) const {
+    using Integers = decltype(rounded(x.lo, w.lo));
+    return narrowInOrder<Part<T>>(Pair<Integers>{rounded(x.lo, w.lo), rounded(x.hi, w.hi)});
+  }
+};
+
+// Integers with weights up to 1, which saturate nothing: the lowest bits of a sum are the product, and AVX-512 has an instruction
+// for those of two vectors. 4096 numbers take 0.8 of the time.
+struct WeighedDown : Weighed<Qvx16s> {
+  template <class V> auto joined(Pair<V> x, Pair<V> w) const {
+    if constexpr (kHasMasks) {
+      const auto rounded = [](V value, V weight) { return as<Qvx16s>(hn::MulAdd(value, weight, same<V>(0x1.8p23F))); };
+      return hn::ConcatEven(TagOf<decltype(rounded(x.lo, w.lo))>(), rounded(x.hi, w.hi), rounded(x.lo, w.lo));
+    } else {
+      return Weighed<Qvx16s>::joined(x, w);
+    }
   }
 };
 
@@ -34,16 +51,20 @@ template <class T> struct Weighed {
 struct WeighedTimes {
   Qvx32f factor;
 
-  template <class V, class W> auto rounded(V x, W w) const {
-    const W product = convertLanes<float>(x) * w * same<W>(factor);
+  template <class V> auto rounded(V x, V w) const {
+    const V product = x * w * same<V>(factor);
     // What is below the range becomes the least integer by itself.
-    return toIntNearest(hn::Min(product, same<W>(std::numeric_limits<Qvx16s>::max())));
+    return toIntNearest(hn::Min(product, same<V>(std::numeric_limits<Qvx16s>::max())));
   }
-  template <class V, class W> auto operator()(V x, W w) const { return convertLanes<Qvx16s>(rounded(x, w)); }
+  template <class V, class W> auto operator()(V x, W w) const { return convertLanes<Qvx16s>(rounded(convertLanes<float>(x), w)); }
+  template <class V> auto joined(Pair<V> x, Pair<V> w) const {
+    using Integers = decltype(rounded(x.lo, w.lo));
+    return narrowInOrder<Qvx16s>(Pair<Integers>{rounded(x.lo, w.lo), rounded(x.hi, w.hi)});
+  }
 };
 
 // Narrowed a vector at a time, 16-bit numbers take eight instructions more for two.
-template <class T> inline constexpr bool kInPairs = std::is_same_v<T, Qvx16s>;
+template <class T, class Real> inline constexpr bool kInPairs = std::is_same_v<T, Qvx16s>&& std::is_same_v<Real, float>;
 
 // dst[n] = src[n] * w[n], w[len-1-n] = w[n], as far as vectors of the first half's weights come: `at` is the place of the first.
 template <class T, class Kernel> struct BothEnds {
@@ -56,19 +77,18 @@ template <class T, class Kernel> struct BothEnds {
     weighBoth(at, weights, len - at - kLanesOf<V>, reversed(weights));
   }
   // Two vectors that follow each other.
-  template <class V> void operator()(size_t at, Pair<V> weights) const requires kInPairs<T> {
+  template <class V> void operator()(size_t at, Pair<V> weights) const requires kInPairs<T, LaneOf<V>> {
     constexpr size_t N = kLanesOf<V>;
     const auto weighed = [&](size_t i, V lower, V upper) {
       const Source<T> x{src + i};
-      const auto first = kernel.rounded(x.template get<N>(0), lower);
-      const auto second = kernel.rounded(x.template get<N>(N), upper);
-      return narrowInOrder<T>(Pair<std::remove_const_t<decltype(first)>>{first, second});
+      const Pair<V> values{convertLanes<float>(x.template get<N>(0)), convertLanes<float>(x.template get<N>(N))};
+      return kernel.joined(values, Pair<V>{lower, upper});
     };
     const size_t back = len - at - 2 * N;
-    const auto atFront = weighed(at, weights.lo, weights.hi);
-    const auto atBack = weighed(back, reversed(weights.hi), reversed(weights.lo));
-    Destination<T>{dst}.template put<2 * N>(atFront, at);
-    Destination<T>{dst}.template put<2 * N>(atBack, back);
+    const auto first = weighed(at, weights.lo, weights.hi);
+    const auto last = weighed(back, reversed(weights.hi), reversed(weights.lo));
+    Destination<T>{dst}.template put<2 * N>(first, at);
+    Destination<T>{dst}.template put<2 * N>(last, back);
   }
   // Of which the first `rest` count: whole halves as far as they go. 16-bit numbers under a mask go at once: 20 of them take 15
   // ns, by halves 41, since the last few wait for what was stored before them.
