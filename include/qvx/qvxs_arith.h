@@ -292,7 +292,7 @@ QVXS_API(QvxStatus, qvxsDiv_32s_ISfs, (const Qvx32s* pSrc, Qvx32s* pSrcDst, int 
  *  -30 to 15.
  *  64s_ISfs multiplies too: by floor(2^(63 + k) / |val|), k being the largest with 2^k below |val|, at the scale factor
  *  scaleFactor + k + 63 of qvxsMulC_64s_ISfs; a val of 1 or -1 goes there as it is. So an exact tie rounds toward 0, and large
- *  quotients can be off by one. Its len is unsigned (only 0 is refused), and a val of 0 is a warning: every element but 0 becomes
+ *  quotients can be off by two. Its len is unsigned (only 0 is refused), and a val of 0 is a warning: every element but 0 becomes
  *  the largest or smallest number by its sign.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize; qvxStatDivByZero if val is 0 (a complex one in both parts), when nothing is
  *  written; qvxWarnDivByZero (64s_ISfs only). */
