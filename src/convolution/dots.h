@@ -10,16 +10,27 @@ namespace qvx::convolution {
 // Complex outputs gain nothing.
 template <class C> inline constexpr bool kHasDots = PartsOf<C>::kCount == 1;
 
-// The elements that the taps take: whole vectors, with zeros after the last.
+// The elements that the taps take: whole vectors, with zeros before the first, so that the last one ends where the samples end
+// that it meets.
 template <class C> constexpr size_t dotsLen(size_t taps) {
   return (taps + kVectorElements<C> - 1) / kVectorElements<C> * kVectorElements<C>;
 }
 
-// y[n] = p[0] * x[n * apart] + ... + p[taps - 1] * x[n * apart + taps - 1] for n below count. A vector of x may be read past the
-// last that is needed. y must not overlap x.
-void convolveApart(const Qvx32f* x, size_t apart, const Qvx32f* p, size_t taps, size_t count, Qvx32f* y);
-void convolveApart(const Qvx64f* x, size_t apart, const Qvx64f* p, size_t taps, size_t count, Qvx64f* y);
+// Samples of a call, x[0] and on, and those of calls before, which end at `before`.
+template <class C> struct Samples {
+  const C* before;
+  const C* x;
+};
+// Where the two are apart, x has a vector at least, and both are loaded by whole vectors: what has just been stored as one need
+// not wait for the cache.
+inline constexpr bool kMayBeApart = kHasMasks;
+
+// y[n] = p[0] * x[first + n * apart] + ... + p[length - 1] * x[first + n * apart + length - 1] for n below count, with the taps
+// at the end of p. length: dotsLen(taps). y must not overlap x.
+void convolveApart(Samples<Qvx32f> x, ptrdiff_t first, size_t apart, const Qvx32f* p, size_t taps, size_t count, Qvx32f* y);
+void convolveApart(Samples<Qvx64f> x, ptrdiff_t first, size_t apart, const Qvx64f* p, size_t taps, size_t count, Qvx64f* y);
 // Integers as those of convolve.h.
-void convolveApart(const Qvx16s* x, size_t apart, const Qvx16s* p, size_t taps, size_t count, Qvx16s* y, int64_t places);
+void convolveApart(Samples<Qvx16s> x, ptrdiff_t first, size_t apart, const Qvx16s* p, size_t taps, size_t count, Qvx16s* y,
+                   int64_t places);
 
 }  // namespace qvx::convolution

@@ -58,10 +58,11 @@ template <class R> void setLineTaps(R& record, const typename R::Kernel* reverse
   using C = typename R::Kernel;
   if (isNull(record.line)) return;
   const Ratio& q = record.ratio;
-  const size_t length = dotsLen<C>(static_cast<size_t>(q.taps));
+  const auto count = static_cast<size_t>(q.taps);
+  const size_t length = dotsLen<C>(count);
   std::fill_n(record.lineTaps, length * static_cast<size_t>(q.up), C{});
   forEachBranch(q, [&](const Branch& branch, int number) {
-    C* const taps = record.lineTaps + static_cast<size_t>(number) * length;
+    C* const taps = record.lineTaps + static_cast<size_t>(number + 1) * length - count;
     for (int t = 0; t < q.taps; ++t) taps[t] = q.tapOf(reversed, record.tapsLen, branch.tap, t);
   });
 }

@@ -38,6 +38,7 @@ template <class C> struct MultirateRecord : RecordHead {
   Branch first;   // branch
   int lineRoom;   // samples that the line takes after those that came before
   int lineDone;   // samples that it still holds, of calls before
+  bool mayStay;   // the samples of a call may stay where they are
   bool isInLine;  // what came before is there, not in the rows
 
   size_t rowCount() const { return static_cast<size_t>(rowLen == 1 ? ratio.down : 1); }

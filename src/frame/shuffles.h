@@ -248,7 +248,8 @@ template <class V> auto laneNumbers(size_t from) {
   return hn::Iota(d, static_cast<hn::TFromD<decltype(d)>>(from));
 }
 template <class V> V lanesOfTwo(V a, V b, Vec<hn::RebindToUnsigned<TagOf<V>>> order) {
-  if constexpr (sizeof(LaneOf<V>) == 4) return V{_mm512_permutex2var_ps(a.raw, order.raw, b.raw)};
+  if constexpr (sizeof(LaneOf<V>) == 2) return V{_mm512_permutex2var_epi16(a.raw, order.raw, b.raw)};
+  else if constexpr (sizeof(LaneOf<V>) == 4) return V{_mm512_permutex2var_ps(a.raw, order.raw, b.raw)};
   else return V{_mm512_permutex2var_pd(a.raw, order.raw, b.raw)};
 }
 
