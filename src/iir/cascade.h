@@ -33,6 +33,7 @@ template <class P> class Cascade {
   Cascade(size_t sections, P* table) : sections_(sections), table_(table) {}
 
   bool isThere() const { return table_ != nullptr; }
+  bool isFinite() const { return areFinite(table_, static_cast<size_t>(tableLanes(static_cast<int>(sections_)))); }
 
   // How many sections go together from `first` on, a multiple of kMost.
   size_t count(size_t first) const { return std::min(kMost, sections_ - first); }

@@ -120,7 +120,7 @@ template <class T> void runDf1(const Section<T>& section, Lane* work, size_t n, 
 // lines: these hold values between sections, which lanes do not store.
 template <class T, class P> void df1InLanes(const Cascade<P>& cascade, const T* taps, T* line, P* work, size_t n) {
   const size_t sections = cascade.count(0);
-  const size_t most = n >= kWorthLookingAhead ? n - 2 : 0;
+  const size_t most = n >= kWorthLookingAhead && cascade.isFinite() ? n - 2 : 0;
   P d[2 * Cascade<P>::kMost];
   for (size_t k = 0; k < sections; ++k) transposedLine(taps + 5 * k, line + 4 * k, d + 2 * k);
   if (most > 0) cascade.run(work, most, d);

@@ -86,7 +86,7 @@ QvxStatus directBlock(const Qvx16s* src, Qvx16s* dst, int len, const Qvx16s* tap
       auto* floats = carver.take<Qvx32f>(count);
       for (int i = 0; i < count; ++i) floats[i] = i == order + 1 ? 1.0F : scaledDown(taps[i], s);
       for (int i = 0; i < order; ++i) state.line[i] = scaledDown(line[i], s);
-      return setDirectTaps(state, floats);
+      return setTaps(state, floats);
     });
   };
   const int64_t bytes = stateSize<State>(Form::kDirect, order) + count * int64_t{sizeof(Qvx32f)};
@@ -113,6 +113,7 @@ QvxStatus sectionsBlock(const Qvx16s* src, Qvx16s* dst, int len, const Qvx16s* t
         setSection(state, static_cast<size_t>(k), scaled);
         for (int i = 2 * k; i < 2 * k + 2; ++i) state.line[i] = scaledDown(line[i], s);
       }
+      state.how = howOf(state);
       return qvxStatOk;
     });
   };

@@ -89,9 +89,16 @@ template <class State> void layOut(State& state, Carver& carver, Form form, int 
   const auto placeSections = [&](int count) {
     constexpr bool kHasCascade = kParts<T> == 1;
     using Many = decltype(state.cascade);
-    if (kHasCascade) state.cascade = {static_cast<size_t>(count), carver.take<CascadeLane<T>>(Many::tableLanes(count))};
+    if (kHasCascade) {
+      auto* table = carver.take<CascadeLane<T>>(Many::tableLanes(count));
+      std::fill_n(table, Many::tableLanes(count), 0);
+      state.cascade = {static_cast<size_t>(count), table};
+    }
     const bool isFew = static_cast<size_t>(count) < Many::kFew;
-    if (!kHasCascade || isFew) state.sections = carver.take<Section<T>>(count);
+    if (!kHasCascade || isFew) {
+      state.sections = carver.take<Section<T>>(count);
+      for (int i = 0; i < count; ++i) state.sections[i].looksAhead = false;
+    }
   };
   if (form == Form::kDirect) {
     state.order = n;

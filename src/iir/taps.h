@@ -20,18 +20,19 @@ template <class P, class T> auto normaliser(T a0) {
   }
 }
 
-// Sets a section's tables. A section that would lose accuracy by look-ahead makes the whole filter go in lanes, or sample by
-// sample.
+// Sets a section's tables.
 template <class T> void setSection(Record<T>& s, size_t i, const T* t) {
   if (s.sections != nullptr) s.sections[i].set(t);
-  const bool looksAhead = s.sections != nullptr && s.sections[i].looksAhead;
-  const bool isFirst = i == 0;
-  if (s.cascade.isThere()) {
-    if constexpr (kParts<T> == 1) s.cascade.set(i, t);
-    s.how = looksAhead && (isFirst || s.how == How::kLookingAhead) ? How::kLookingAhead : How::kInLanes;
-  } else {
-    s.how = looksAhead && (isFirst || s.how == How::kLookingAhead) ? How::kLookingAhead : How::kPlain;
+  if constexpr (kParts<T> == 1) {
+    if (s.cascade.isThere()) s.cascade.set(i, t);
   }
+}
+// A section that would lose accuracy by look-ahead makes the whole filter go in lanes. In a lane zeros come before the first
+// sample, and sample by sample goes what they would turn into NaN.
+template <class T> How howOf(const Record<T>& s) {
+  const auto looksAhead = [](const Section<T>& section) { return section.looksAhead; };
+  if (s.sections != nullptr && std::all_of(s.sections, s.sections + std::max(s.numBq, 1), looksAhead)) return How::kLookingAhead;
+  return s.cascade.isThere() && s.cascade.isFinite() ? How::kInLanes : How::kPlain;
 }
 
 template <class T> QvxStatus setDirectTaps(Record<T>& s, const T* taps) {
@@ -69,7 +70,9 @@ template <class T> QvxStatus setSectionTaps(Record<T>& s, const T* taps) {
 }
 
 template <class T> QvxStatus setTaps(Record<T>& s, const T* taps) {
-  return s.isDirect() ? setDirectTaps(s, taps) : setSectionTaps(s, taps);
+  const QvxStatus status = s.isDirect() ? setDirectTaps(s, taps) : setSectionTaps(s, taps);
+  s.how = howOf(s);
+  return status;
 }
 
 // Converts integer taps for the time of a call; with(taps) does the rest of it.
