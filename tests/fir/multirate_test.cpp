@@ -190,6 +190,25 @@ TEST(Multirate, SingleGroupsInARow) {
   });
 }
 
+// More samples in a call than the lanes of integers take at a time, with as many taps as go by lanes.
+TEST(Multirate, IntegersByLanesAreTheSameHoweverTheyAreCut) {
+  constexpr int kTaps = 39000;
+  constexpr int kGroups = 21;
+  Random random(seed());
+  const auto h = samples<Qvx16s>(kTaps, random);
+  const auto x = samples<Qvx16s>(size_t{kGroups} * 101, random);
+  std::vector<Qvx16s> whole(size_t{kGroups} * 100), pieces(whole.size());
+  const auto filter = [&](int groups, std::vector<Qvx16s>& y) {
+    QvxsFIRState_16s* state = nullptr;
+    ASSERT_EQ(qvxsFIRMRInitAlloc_16s(&state, h.data(), kTaps, 0, 100, 0, 101, 0, nullptr), qvxStatOk);
+    for (int i = 0; i < kGroups; i += groups) EXPECT_EQ(qvxsFIR_16s_Sfs(&x[i * 101], &y[i * 100], groups, state, 20), qvxStatOk);
+    qvxsFIRFree_16s(state);
+  };
+  filter(kGroups, whole);
+  filter(1, pieces);
+  EXPECT_EQ(whole, pieces);
+}
+
 // What a cut changes in sums of floats is their order, at most; results of integers stay.
 TEST(Multirate, InPlaceIsOutOfPlaceToTheBit) {
   Random random(seed());
