@@ -22,10 +22,30 @@ static_assert(sizeof(QvxsToneState) <= kBytes);
 // Integers are made in floats as well.
 template <class T> using Real = std::conditional_t<std::is_same_v<Part<T>, Qvx64f>, Qvx64f, Qvx32f>;
 
+// Up to here it is cheaper to compute each.
+template <class T> inline constexpr size_t kFewCosines = 8 * kVectorBytes / sizeof(double);
+
+// A few cosines, each by itself: the sine of what is left to a quarter, half the work of sine and cosine. 16 floats take 8 ns,
+// not 11.
+template <class T> [[gnu::flatten]] void fillFew(T* dst, size_t n, double magn, double rFreq, double turns) {
+  constexpr size_t N = kVectorBytes / sizeof(double);
+  constexpr int kDigits = sizeof(Real<T>) == sizeof(float) ? 24 : 53;
+  const Lanes<double, N> d;
+  const auto number = laneNumbersOf(d);
+  eachVector<N>(n, [&](size_t at, auto... rest) {
+    const auto angle = hn::MulAdd(number + hn::Set(d, static_cast<double>(at)), hn::Set(d, rFreq), hn::Set(d, turns));
+    const auto left = hn::Set(d, 0.25) - hn::Abs(fractionOfTurns(angle));
+    const auto cosine = convertLanes<Real<T>>(hn::Set(d, magn) * sineOfQuarterTurn<kDigits>(left));
+    putSamples(dst, at, cosine, cosine, rest...);
+  });
+}
+
 // Flattened: a pair of sines and cosines that a function returns goes through memory.
 template <class T> [[gnu::flatten]] void fill(T* dst, size_t n, double magn, double rFreq, double turns) {
   using Angles = SpacedAngles<Real<T>>;
-  if (n <= Angles::kFew) {
+  if constexpr (PartsOf<T>::kCount == 1) {
+    if (n <= kFewCosines<T>) return fillFew(dst, n, magn, rFreq, turns);
+  } else if (n <= Angles::kFew) {
     Angles::few(turns, rFreq, magn, n,
                 [=](size_t at, auto sine, auto cosine, auto... rest) { putSamples(dst, at, cosine, sine, rest...); });
     return;

@@ -28,24 +28,9 @@ template <class T> struct Weighed {
     if constexpr (std::is_floating_point_v<Part<T>>) return x * w;
     else return convertLanes<Part<T>>(rounded(convertLanes<float>(x), w));
   }
-  template <class V> auto joined(Pair<V> x, Pair<V> w) const {
-    using Integers = decltype(rounded(x.lo, w.lo));
-    return narrowInOrder<Part<T>>(Pair<Integers>{rounded(x.lo, w.lo), rounded(x.hi, w.hi)});
-  }
 };
-
-// Integers with weights up to 1, which saturate nothing: the lowest bits of a sum are the product, and AVX-512 has an instruction
-// for those of two vectors. 4096 numbers take 0.8 of the time.
-struct WeighedDown : Weighed<Qvx16s> {
-  template <class V> auto joined(Pair<V> x, Pair<V> w) const {
-    if constexpr (kHasMasks) {
-      const auto rounded = [](V value, V weight) { return as<Qvx16s>(hn::MulAdd(value, weight, same<V>(0x1.8p23F))); };
-      return hn::ConcatEven(TagOf<decltype(rounded(x.lo, w.lo))>(), rounded(x.hi, w.hi), rounded(x.lo, w.lo));
-    } else {
-      return Weighed<Qvx16s>::joined(x, w);
-    }
-  }
-};
+// With weights up to 1, which saturate nothing.
+struct WeighedDown : Weighed<Qvx16s> {};
 
 // Integers times any weight and a power of two.
 struct WeighedTimes {
@@ -57,13 +42,22 @@ struct WeighedTimes {
     return toIntNearest(hn::Min(product, same<V>(std::numeric_limits<Qvx16s>::max())));
   }
   template <class V, class W> auto operator()(V x, W w) const { return convertLanes<Qvx16s>(rounded(convertLanes<float>(x), w)); }
-  template <class V> auto joined(Pair<V> x, Pair<V> w) const {
-    using Integers = decltype(rounded(x.lo, w.lo));
-    return narrowInOrder<Qvx16s>(Pair<Integers>{rounded(x.lo, w.lo), rounded(x.hi, w.hi)});
-  }
 };
 
-// Narrowed a vector at a time, 16-bit numbers take eight instructions more for two.
+// Two vectors of 16-bit numbers as one.
+template <class Kernel, class V> auto weighedTogether(Kernel kernel, Pair<V> x, Pair<V> w) {
+  if constexpr (kHasMasks && std::is_same_v<Kernel, WeighedDown>) {
+    // The lowest bits of a sum, which one instruction gathers: 4096 numbers take 0.84 of the time.
+    const auto lower = as<Qvx16s>(hn::MulAdd(x.lo, w.lo, same<V>(0x1.8p23F)));
+    const auto upper = as<Qvx16s>(hn::MulAdd(x.hi, w.hi, same<V>(0x1.8p23F)));
+    return hn::ConcatEven(TagOf<std::remove_const_t<decltype(lower)>>(), upper, lower);
+  } else {
+    using Integers = decltype(kernel.rounded(x.lo, w.lo));
+    return narrowInOrder<Qvx16s>(Pair<Integers>{kernel.rounded(x.lo, w.lo), kernel.rounded(x.hi, w.hi)});
+  }
+}
+
+// One after the other they take eight instructions more.
 template <class T, class Real> inline constexpr bool kInPairs = std::is_same_v<T, Qvx16s>&& std::is_same_v<Real, float>;
 
 // dst[n] = src[n] * w[n], w[len-1-n] = w[n], as far as vectors of the first half's weights come: `at` is the place of the first.
@@ -82,7 +76,7 @@ template <class T, class Kernel> struct BothEnds {
     const auto weighed = [&](size_t i, V lower, V upper) {
       const Source<T> x{src + i};
       const Pair<V> values{convertLanes<float>(x.template get<N>(0)), convertLanes<float>(x.template get<N>(N))};
-      return kernel.joined(values, Pair<V>{lower, upper});
+      return weighedTogether(kernel, values, Pair<V>{lower, upper});
     };
     const size_t back = len - at - 2 * N;
     const auto first = weighed(at, weights.lo, weights.hi);
