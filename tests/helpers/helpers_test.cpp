@@ -193,6 +193,10 @@ TEST(ZeroCrossing, CountsByItsType) {
   const float special[] = {0.0F, -0.0F, 1e-45F, -1e-45F, INFINITY, -INFINITY, NAN, -NAN};
   for (Qvx32f& x : floats) x = random() % 3 == 0 ? special[random() % 8] : x;
   expectCrossings(floats, qvxsZeroCrossing_32f);
+  // Every pair of kinds where the narrowest registers serve.
+  for (const float a : special) {
+    for (const float b : special) expectCrossings(std::vector<Qvx32f>{a, b, a}, qvxsZeroCrossing_32f);
+  }
   // More of them than lanes of 16 bits count in one go.
   std::vector<Qvx16s> alternating(300000);
   for (size_t i = 0; i < alternating.size(); ++i) alternating[i] = i % 2 == 0 ? 1 : -1;
