@@ -84,6 +84,10 @@ TEST(PackedProduct, Of16BitsShiftsRealValuesAndRoundsPairs) {
   ASSERT_EQ(qvxsMulPack_16s_Sfs(least, least, d, 3, 1), qvxStatOk);
   EXPECT_EQ(d[0], 4);      // 9 / 2, floored
   EXPECT_EQ(d[2], 32767);  // 2^31 / 2
+  for (const int s : {30, 31, 32, INT32_MAX}) {
+    ASSERT_EQ(qvxsMulPack_16s_Sfs(least + 1, least + 1, d, 1, s), qvxStatOk);
+    EXPECT_EQ(d[0], s == 30 ? 1 : 0) << "2^30 * 2^-" << s;
+  }
 }
 
 // ---- whole spectra
@@ -93,7 +97,7 @@ template <class T> T negative(T v) {
   else return -v;
 }
 
-template <class C, class T> void checkUnfold(Layout layout, QvxStatus (*f)(const T*, C*, int)) {
+template <class C, class T> void checkUnfold(Layout layout, QvxStatus (*f)(const T*, C*, int), QvxStatus (*inPlace)(C*, int)) {
   Random random(tests::seed());
   for (size_t n = 1; n <= kMost; n += n < 140 ? 1 : n / 3) {
     const auto src = tests::values<T>(reference::sizeOf(layout, n), random);
@@ -108,19 +112,22 @@ template <class C, class T> void checkUnfold(Layout layout, QvxStatus (*f)(const
       ASSERT_EQ(std::memcmp(&dst[k], &expected[k], sizeof(C)), 0)
           << "value " << k << " of " << n << ": " << tests::show(dst[k]) << ", not " << tests::show(expected[k]);
     }
+    std::memcpy(static_cast<void*>(dst.data()), src.data(), src.size() * sizeof(T));
+    ASSERT_EQ(inPlace(dst.data(), static_cast<int>(n)), qvxStatOk);
+    ASSERT_EQ(std::memcmp(dst.data(), expected.data(), n * sizeof(C)), 0) << n << " in place";
   }
 }
 
 TEST(WholeSpectrum, OfEveryLayout) {
-  checkUnfold(Layout::kPack, qvxsConjPack_32fc);
-  checkUnfold(Layout::kPack, qvxsConjPack_64fc);
-  checkUnfold(Layout::kPack, qvxsConjPack_16sc);
-  checkUnfold(Layout::kPerm, qvxsConjPerm_32fc);
-  checkUnfold(Layout::kPerm, qvxsConjPerm_64fc);
-  checkUnfold(Layout::kPerm, qvxsConjPerm_16sc);
-  checkUnfold(Layout::kCcs, qvxsConjCcs_32fc);
-  checkUnfold(Layout::kCcs, qvxsConjCcs_64fc);
-  checkUnfold(Layout::kCcs, qvxsConjCcs_16sc);
+  checkUnfold(Layout::kPack, qvxsConjPack_32fc, qvxsConjPack_32fc_I);
+  checkUnfold(Layout::kPack, qvxsConjPack_64fc, qvxsConjPack_64fc_I);
+  checkUnfold(Layout::kPack, qvxsConjPack_16sc, qvxsConjPack_16sc_I);
+  checkUnfold(Layout::kPerm, qvxsConjPerm_32fc, qvxsConjPerm_32fc_I);
+  checkUnfold(Layout::kPerm, qvxsConjPerm_64fc, qvxsConjPerm_64fc_I);
+  checkUnfold(Layout::kPerm, qvxsConjPerm_16sc, qvxsConjPerm_16sc_I);
+  checkUnfold(Layout::kCcs, qvxsConjCcs_32fc, qvxsConjCcs_32fc_I);
+  checkUnfold(Layout::kCcs, qvxsConjCcs_64fc, qvxsConjCcs_64fc_I);
+  checkUnfold(Layout::kCcs, qvxsConjCcs_16sc, qvxsConjCcs_16sc_I);
 }
 
 // ---- what they are for: the transforms that write the same layouts

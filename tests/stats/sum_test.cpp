@@ -245,6 +245,34 @@ TEST(DeviationOfFloats, OfEqualElementsIsZero) {
   }
 }
 
+TEST(Deviation, TakesTwoElements) {
+  const Qvx32f x[] = {5, 7};
+  const Qvx64f w[] = {5, 7};
+  const Qvx16s v[] = {5, 7};
+  Qvx32f m = 9, d = 9;
+  Qvx64f wideM = 9, wideD = 9;
+  Qvx16s m16 = 9, d16 = 9;
+  Qvx32s m32 = 9, d32 = 9;
+  for (const int n : {1, 2}) {
+    const QvxStatus status = n == 1 ? qvxStatBadSize : qvxStatOk;
+    EXPECT_EQ(qvxsStdDev_32f(x, n, &d, 1), status);
+    EXPECT_EQ(qvxsMeanStdDev_32f(x, n, &m, &d, 2), status);
+    EXPECT_EQ(qvxsStdDev_64f(w, n, &wideD), status);
+    EXPECT_EQ(qvxsMeanStdDev_64f(w, n, &wideM, &wideD), status);
+    EXPECT_EQ(qvxsStdDev_16s_Sfs(v, n, &d16, -4), status);
+    EXPECT_EQ(qvxsMeanStdDev_16s_Sfs(v, n, &m16, &d16, -4), status);
+    EXPECT_EQ(qvxsStdDev_16s32s_Sfs(v, n, &d32, -4), status);
+    EXPECT_EQ(qvxsMeanStdDev_16s32s_Sfs(v, n, &m32, &d32, -4), status);
+    const bool isRefused = n == 1;
+    EXPECT_EQ(m, isRefused ? 9 : 6);
+    EXPECT_EQ(wideM, isRefused ? 9 : 6);
+    EXPECT_EQ(m16, isRefused ? 9 : 96);
+    EXPECT_EQ(m32, isRefused ? 9 : 96);
+    EXPECT_EQ(d16, isRefused ? 9 : 23);  // 16 * sqrt(2)
+    EXPECT_EQ(d32, isRefused ? 9 : 23);
+  }
+}
+
 TEST(DeviationOfIntegers, IsScaledAndRounded) {
   const auto deviations = [](const std::vector<Qvx16s>& data) {
     for (const int s : {-40, -3, 0, 1, 5, 20}) {
