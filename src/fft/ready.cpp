@@ -47,19 +47,31 @@ struct FromEighth {
   }
 };
 
-// The tables of n complex points.
+// The passes of n complex points, without their tables.
+template <class T> constexpr Plan<T> passesOf(size_t n) {
+  Plan<T> plan{};
+  if constexpr (kServesInterleaved<Interleaved<T, false>>) {
+    if (isInterleavedLength<T>(n)) {
+      setInterleavedPasses(plan, n);
+      return plan;
+    }
+  }
+  withLanes<T>(n, [&](auto L) {
+    plan.rows = static_cast<uint32_t>(n / kRowRadix<L>);
+    plan.levels = passLevels(plan.rows);
+  });
+  return plan;
+}
+
+// Their number of twiddles.
 template <class T, size_t kPoints> constexpr size_t twiddlesOf() {
   if (kPoints <= size_t{1} << kShortOrder<Interleaved<T, false>>) return 0;
   if (foldOf<T>(kPoints) == Fold::kHalves) return kPoints - kWidest<T>;
-  size_t rows = 0;
-  size_t count = 0;
-  withLanes<T>(kPoints, [&](auto L) {
-    rows = kPoints / kRowRadix<L>;
-    count = rows * (kRowRadix<L> - 1);
-  });
-  const Levels levels = passLevels(rows);
-  for (size_t level = 0; level + 1 < levels.count; ++level) {
-    const size_t radix = levels.radix[level];
+  const Plan<T> plan = passesOf<T>(kPoints);
+  size_t rows = plan.rows;
+  size_t count = kPoints - rows;
+  for (size_t level = 0; level + 1 < plan.levels.count; ++level) {
+    const size_t radix = plan.levels.radix[level];
     count += rows / radix * (radix - 1);
     rows /= radix;
   }
@@ -89,13 +101,10 @@ template <class T, size_t kPoints> constexpr ComplexPlan<T> readyPlan(int64_t wo
   plan.n = kPoints;
   plan.workBytes = static_cast<int32_t>(workBytes);
   if (twiddlesOf<T, kPoints>() == 0) return plan;
+  if (foldOf<T>(kPoints) != Fold::kHalves) plan.plan = passesOf<T>(kPoints);
   plan.plan.rowTwiddles = kComplexTables<T, kPoints>.twiddles;
   if (foldOf<T>(kPoints) == Fold::kHalves) return plan;
-  withLanes<T>(kPoints, [&](auto L) {
-    plan.plan.rows = static_cast<uint32_t>(kPoints / kRowRadix<L>);
-    plan.plan.levels = passLevels(plan.plan.rows);
-    plan.plan.levelTwiddles = plan.plan.rowTwiddles + 2 * plan.plan.rows * (kRowRadix<L> - 1);
-  });
+  plan.plan.levelTwiddles = plan.plan.rowTwiddles + 2 * (kPoints - plan.plan.rows);
   return plan;
 }
 

@@ -13,7 +13,7 @@
 
 #include "frame/stream.h"
 #include "frame/team.h"
-#include "transform/folded.h"
+#include "transform/interleaved_passes.h"
 #include "transform/plan.h"
 
 namespace qvx::transform {
@@ -294,6 +294,7 @@ void firstColumns(Split<const T> src, Split<T> dst, size_t rows, size_t columns,
 template <size_t L, class T, class Points, class Scale>
 QVX_INLINE void rowTransform(const Plan<T>& plan, Points row, T* y, Scale scale) {
   if constexpr (L * L == kBlockPoints) foldedTransform<kBlockPoints, L>(row.asSource(), row, plan.rowTwiddles, scale);
+  else if constexpr (kServesInterleaved<Points>) interleavedPasses(kBlockPoints, plan, row.asSource(), row, y, scale);
   else runPasses<L>(plan, row.asSource(), row, y, scale);
 }
 

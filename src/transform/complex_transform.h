@@ -50,6 +50,9 @@ constexpr T* writePassesAt(Plan<T>& plan, size_t n, T* row, Write write = {}) {
     return row + 2 * (n - L);
   }
   T* end = row;
+  if constexpr (kServesInterleaved<LaneOrder>) {
+    if (isInterleavedLength<T>(n)) return writeInterleavedPasses(plan, n, row, write);
+  }
   withLanes<T>(n, [&](auto L) {
     plan.rows = static_cast<uint32_t>(n / kRowRadix<L>);
     plan.levels = passLevels(plan.rows);
@@ -103,7 +106,7 @@ template <class T, class Src, class Dst, class Scale>
   if (threads > 1) return runPassesInTeam<L>(threads, plan.plan, src, dst, y, scale);
   switch (foldOf<T>(plan.n)) {
     case Fold::kSquare:
-      if constexpr (L >= 8) return foldedTransform<L * L, L>(src, dst, plan.plan.rowTwiddles, scale);
+      if constexpr (L >= 8 && !kServesInterleaved<Src>) return foldedTransform<L * L, L>(src, dst, plan.plan.rowTwiddles, scale);
       break;
     case Fold::kHalves:
       if constexpr (L >= 16) return foldedTransform<L * L / 2, L>(src, dst, plan.plan.rowTwiddles, scale);
@@ -118,6 +121,9 @@ template <class T, class Src, class Dst, class Scale>
       if (plan.plan.rows == 128) return passesInDestination<8, 16, L>(src, dst, row, inner, scale);
       if (plan.plan.rows == 256) return passesInDestination<16, 16, L>(src, dst, row, inner, scale);
     }
+  }
+  if constexpr (kServesInterleaved<Src>) {
+    if (isInterleavedLength<T>(plan.n)) return interleavedPasses(plan.n, plan.plan, src, dst, y, scale);
   }
   withLanes<T>(plan.n, [&](auto L) { runPasses<L>(plan.plan, src, dst, y, scale); });
 }

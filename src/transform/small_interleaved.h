@@ -5,6 +5,7 @@
 // where one works on the other's result (2 more in registers of 64 bytes, and 7 where a load joins two stores).
 #pragma once
 
+#include "frame/interleaved.h"
 #include "transform/folded.h"
 
 namespace qvx::transform {
@@ -48,8 +49,14 @@ QVX_INLINE auto differenceWith(double factor, ComplexVector<V, kSwapped> a, Comp
 template <class V, bool kSwapped> QVX_INLINE auto scaledBy(double factor, ComplexVector<V, kSwapped> z) {
   return ComplexVector<V, kSwapped>{z.v * same<V>(static_cast<LaneOf<V>>(factor))};
 }
+// re, im: the parts of a factor, each in both lanes of a number.
+template <class V, bool kSwapped> QVX_INLINE auto product(ComplexVector<V, kSwapped> z, V re, V im) {
+  const V crossed = swapped(z.v) * im;
+  return ComplexVector<V, kSwapped>{kSwapped ? plusMinus(z.v, re, crossed) : minusPlus(z.v, re, crossed)};
+}
 template <class V, bool kSwapped> QVX_INLINE auto product(ComplexVector<V, kSwapped> z, LaneOf<V> re, LaneOf<V> im) {
-  return ComplexVector<V, kSwapped>{minusPlus(z.v * same<V>(re), swapped(z.v) * same<V>(kSwapped ? -im : im))};
+  if constexpr (kFuses && !kHasMasks) return product(z, same<V>(re), same<V>(im));
+  else return ComplexVector<V, kSwapped>{minusPlus(z.v * same<V>(re), swapped(z.v) * same<V>(kSwapped ? -im : im))};
 }
 template <class V, bool kSwapped> QVX_INLINE auto timesMinusI(ComplexVector<V, kSwapped> z) {
   return ComplexVector<V, kSwapped>{swapped(z.v) * alternating < V, kSwapped ? -2 : 2 > ()};

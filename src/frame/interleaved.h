@@ -1,0 +1,27 @@
+// Fused products of complex numbers with their parts side by side.
+#pragma once
+
+#include "frame/map.h"
+
+namespace qvx {
+
+#if QVXS_AVX2
+namespace detail {
+
+inline __m128 minusPlus(__m128 a, __m128 b, __m128 c) { return _mm_fmaddsub_ps(a, b, c); }
+inline __m128d minusPlus(__m128d a, __m128d b, __m128d c) { return _mm_fmaddsub_pd(a, b, c); }
+inline __m256 minusPlus(__m256 a, __m256 b, __m256 c) { return _mm256_fmaddsub_ps(a, b, c); }
+inline __m256d minusPlus(__m256d a, __m256d b, __m256d c) { return _mm256_fmaddsub_pd(a, b, c); }
+inline __m128 plusMinus(__m128 a, __m128 b, __m128 c) { return _mm_fmsubadd_ps(a, b, c); }
+inline __m128d plusMinus(__m128d a, __m128d b, __m128d c) { return _mm_fmsubadd_pd(a, b, c); }
+inline __m256 plusMinus(__m256 a, __m256 b, __m256 c) { return _mm256_fmsubadd_ps(a, b, c); }
+inline __m256d plusMinus(__m256d a, __m256d b, __m256d c) { return _mm256_fmsubadd_pd(a, b, c); }
+
+}  // namespace detail
+
+// a * b - c in the even lanes and a * b + c in the odd ones, rounded once; and the other way round.
+template <class V> V minusPlus(V a, V b, V c) { return V{detail::minusPlus(a.raw, b.raw, c.raw)}; }
+template <class V> V plusMinus(V a, V b, V c) { return V{detail::plusMinus(a.raw, b.raw, c.raw)}; }
+#endif
+
+}  // namespace qvx
