@@ -18,6 +18,8 @@ template <> struct KeyOfBytes<8> { using Type = int64_t; };
 template <class T> using Key = typename KeyOfBytes<sizeof(T)>::Type;
 
 enum class Order { kAscending, kDescending };
+inline constexpr Order kUp = Order::kAscending;  // where lines of exports have no room
+inline constexpr Order kDown = Order::kDescending;
 
 // key = x ^ (fold where x is negative) ^ flip. Neither step moves anything but bits of one key, and each is its own inverse.
 template <class K> struct KeyMap {

@@ -21,9 +21,6 @@ template <Order kOrder, class T> QvxStatus sortStably(T* srcDst, T* workspace, i
   return qvxStatOk;
 }
 
-constexpr Order kUp = Order::kAscending;
-constexpr Order kDown = Order::kDescending;
-
 }  // namespace
 
 // clang-format off

@@ -118,9 +118,6 @@ template <Order kOrder, class T> QvxStatus sortIndex(T* srcDst, Qvx32s* dstIndx,
   return qvxStatOk;
 }
 
-constexpr Order kUp = Order::kAscending;
-constexpr Order kDown = Order::kDescending;
-
 }  // namespace
 
 // clang-format off

@@ -51,9 +51,6 @@ template <Order kOrder, class T> QvxStatus sortRadixIndex(const T* src, int stri
   return qvxStatOk;
 }
 
-constexpr Order kUp = Order::kAscending;
-constexpr Order kDown = Order::kDescending;
-
 }  // namespace
 
 // clang-format off
