@@ -27,8 +27,8 @@ template <class T> void setSection(Record<T>& s, size_t i, const T* t) {
     if (s.cascade.isThere()) s.cascade.set(i, t);
   }
 }
-// A section that would lose accuracy by look-ahead makes the whole filter go in lanes. In a lane zeros come before the first
-// sample, and sample by sample goes what they would turn into NaN.
+// A section that would lose accuracy by look-ahead makes the whole filter go in lanes. There zeros come before the first sample:
+// a filter with a table that would turn them into NaN goes sample by sample.
 template <class T> How howOf(const Record<T>& s) {
   const auto looksAhead = [](const Section<T>& section) { return section.looksAhead; };
   if (s.sections != nullptr && std::all_of(s.sections, s.sections + std::max(s.numBq, 1), looksAhead)) return How::kLookingAhead;
