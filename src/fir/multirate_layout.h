@@ -128,9 +128,10 @@ template <class R> bool placeRows(R& record, Carver& carver, const Qvx8u* begin,
 }
 
 // The most outputs of a call that are added up one by one. Rows give vectors of outputs; those of two are cheap, unless their
-// taps are few and few outputs make a vector; those of several branches are not: in AVX2 42 outputs of 32 taps each take 0.75 of
-// the time one by one, doubles of 128 taps 1.1, and 63 doubles of 6 to 22 taps 0.75. In SSSE3 as many 16-bit outputs of several
-// branches take 0.5 to 0.65 of it, 16 of one branch 0.6.
+// taps are few and few outputs make a vector; those of several branches are not: 42 outputs of 8 or 32 taps each take 0.6 to 0.75
+// of the time one by one, doubles of 128 taps 1.1, and in AVX2 63 doubles of 6 to 22 taps 0.75. In SSSE3 as many 16-bit outputs
+// of several branches take 0.5 to 0.65 of it, 16 of one branch 0.6. 16 doubles of 16 taps each take 0.5 in SSSE3, 0.74 in
+// AVX-512, and 32 outputs of two rows in SSSE3 0.7.
 inline constexpr int kMostDots = 64;
 template <class C> int mostDots(const Ratio& q) {
   constexpr int N = kVectorElements<C>;
@@ -138,10 +139,10 @@ template <class C> int mostDots(const Ratio& q) {
   if (std::is_integral_v<C> && kVectorBytes <= 32 && q.up > 1) return kMostDots;
   if (std::is_integral_v<C> && !kIsLong && q.down > 2) return 16;
   if (N <= 4 && kIsLong && q.up > 1 && q.taps <= 32) return kMostDots;
-  if (q.down == 2) return kIsLong && N <= 8 && q.taps <= 16 ? 32 : 8;
+  if (q.down == 2) return N <= 8 && q.taps <= 16 ? 32 : 8;
   constexpr int kMost = std::clamp(N, 8, 16);
-  if (q.up == 1) return kVectorBytes == 32 && q.taps < 64 ? 16 : kMost;
-  if (sizeof(C) == 8 ? kIsLong && q.taps <= 64 : kVectorBytes == 32) return 48;
+  if (q.up == 1) return N <= 8 && q.taps < 64 ? 16 : kMost;
+  if (sizeof(C) == 8 ? q.taps <= 64 : !kHasMasks) return 48;
   return q.taps >= 16 && !std::is_integral_v<C> ? 3 * kMost : kMost;
 }
 
