@@ -1,5 +1,4 @@
 // The Bartlett window.
-#include "frame/each_vector.h"
 #include "frame/lane_numbers.h"
 #include "window/weigh.h"
 
@@ -8,18 +7,23 @@ using namespace qvx::window;
 
 namespace {
 
-// 2n / (N-1): a vector's first weight, and what the others have more.
-template <class W> struct Rising {
-  double step;
-
-  template <class Put> void operator()(size_t count, Put put) const {
-    constexpr size_t N = kVectorBytes / sizeof(W);
-    const Lanes<W, N> d;
-    const auto lanes = laneNumbersOf(d) * hn::Set(d, static_cast<W>(step));
-    eachVector<N>(count, [&](size_t at, auto... rest) {
-      put(at, lanes + hn::Set(d, static_cast<W>(static_cast<double>(at) * step)), rest...);
-    });
+// 2n / (N-1) for n = 0, 1, ..., a vector at a time. Beside floats n is counted in integers, which leave them no limit.
+template <class W> class Rising {
+ public:
+  explicit Rising(size_t len) : step_(hn::Set(d_, static_cast<W>(2.0 / static_cast<double>(len - 1)))) {}
+  auto next() {
+    const auto n = number_;
+    number_ = n + hn::Set(places_, Number{N});
+    return convertLanes<W>(n) * step_;
   }
+
+ private:
+  using Number = std::conditional_t<std::is_same_v<W, Qvx32f>, int32_t, W>;
+  static constexpr size_t N = kVectorBytes / sizeof(W);
+  static constexpr Lanes<W, N> d_ = {};
+  static constexpr Lanes<Number, N> places_ = {};
+  Vec<Lanes<W, N>> step_;
+  Vec<Lanes<Number, N>> number_ = laneNumbersOf(places_);
 };
 
 template <class T> QvxStatus bartlett(const T* src, T* dst, int len) {
@@ -30,7 +34,11 @@ template <class T> QvxStatus bartlett(const T* src, T* dst, int len) {
     return qvxStatOk;
   }
   const RoundingScope mode(std::is_integral_v<Part<T>> ? Rounding::kNearest : Rounding::kCallers);
-  weigh(src, dst, elements(len), Weighed<T>(), Rising<Weight<T>>{2.0 / (len - 1)});
+  weigh(src, dst, elements(len), WeighedUpToOne<T>(), [=](size_t count, const auto& put) {
+    Rising<Weight<T>> weights(elements(len));
+    const auto next = [&] { return weights.next(); };
+    putInOrder<T, Weight<T>>(count, next, put);
+  });
   return qvxStatOk;
 }
 

@@ -5,7 +5,6 @@
 
 #include <array>
 
-#include "frame/each_vector.h"
 #include "frame/lane_numbers.h"
 #include "math/sine.h"
 #include "math/spaced_sin_cos.h"
@@ -68,22 +67,24 @@ inline constexpr auto kSquaredSteps = [] {
   return squares;
 }();
 
-// (pi n / (N-1))^2 for n = 0, 1, ..., a vector at a time.
+// (pi n / (N-1))^2 for n = 0, 1, ..., a vector at a time. Each n^2 is a sum, exact, which goes beside the products.
 template <class Real> class SquaredAngles {
  public:
-  static constexpr size_t N = kVectorBytes / sizeof(Real);
-
   explicit SquaredAngles(size_t len) : step_(hn::Set(d_, kSquaredSteps<Real>[len])) {}
   auto next() {
-    const auto n = number_;
-    number_ = n + hn::Set(d_, static_cast<Real>(N));
-    return n * n * step_;
+    const auto square = square_;
+    square_ = square_ + rise_;
+    rise_ = rise_ + hn::Set(d_, Real{2 * N * N});
+    return square * step_;
   }
 
  private:
+  static constexpr size_t N = kVectorBytes / sizeof(Real);
   static constexpr Lanes<Real, N> d_ = {};
-  Vec<Lanes<Real, N>> step_;
-  Vec<Lanes<Real, N>> number_ = laneNumbersOf(d_);
+  using V = Vec<Lanes<Real, N>>;
+  V step_;
+  V square_ = laneNumbersOf(d_) * laneNumbersOf(d_);
+  V rise_ = laneNumbersOf(d_) * hn::Set(d_, Real{2 * N}) + hn::Set(d_, Real{N * N});  // from n^2 to (n + N)^2
 };
 
 // Real: what the sines and the sums of their squares are computed in. Two functions: what a short window needs stays in
@@ -91,7 +92,6 @@ template <class Real> class SquaredAngles {
 template <class Real, class T, class Form, class Kernel>
 [[gnu::noinline, gnu::flatten]] void weighBySines(const T* src, T* dst, size_t len, Form form, Kernel kernel) {
   weigh(src, dst, len, kernel, [=](size_t count, const auto& put) {
-    constexpr size_t N = SquaredAngles<Real>::N;
     SquaredAngles<Real> angles(len);
     const auto next = [&] {
       const auto square = angles.next();
@@ -99,14 +99,7 @@ template <class Real, class T, class Form, class Kernel>
       const auto scale = hn::Set(TagOf<decltype(square)>(), static_cast<Real>(form.scale() * form.scale()));
       return convertLanes<Weight<T>>(form(quotient * quotient, square * scale));
     };
-    size_t from = 0;
-    if constexpr (kInPairs<T, Real>) {
-      for (; from + 2 * N <= count; from += 2 * N) {
-        const auto first = next();
-        put(from, Pair<decltype(next())>{first, next()});
-      }
-    }
-    eachVector<N>(count - from, [&](size_t at, auto... rest) { put(from + at, next(), rest...); });
+    putInOrder<T, Real>(count, next, put);
   });
 }
 template <class Real, class T, class Form, class Kernel>
@@ -118,7 +111,7 @@ template <class Real, class T, class Form, class Kernel>
     angles.template forEachVector<kInPairs<T, Real>>(
         count, [=](size_t at) { return static_cast<double>(at) * step; },
         [&](size_t at, auto sine, auto, auto... rest) {
-          if constexpr (requires { sine.lo; }) put(at, Pair<decltype(weights(sine.lo))>{weights(sine.lo), weights(sine.hi)});
+          if constexpr (requires { sine.lo; }) put(at, each(sine, weights));
           else put(at, weights(sine), rest...);
         });
   });
@@ -154,8 +147,7 @@ template <class T, class Form, class Kernel> void weighAsNeeded(const T* src, T*
 
 }  // namespace detail
 
-template <class T, class Form>
-using KernelOf = std::conditional_t<std::is_same_v<T, Qvx16s> && !std::is_same_v<Form, Blackman>, WeighedDown, Weighed<T>>;
+template <class T, class Form> using KernelOf = std::conditional_t<std::is_same_v<Form, Blackman>, Weighed<T>, WeighedUpToOne<T>>;
 
 template <class T, class Form, class Kernel = KernelOf<T, Form>>
 QvxStatus cosineWindow(const T* src, T* dst, int len, Form form, Kernel kernel = {}) {

@@ -1,6 +1,7 @@
 // A vector times a symmetric window: every weight is made once, and serves both ends from its register.
 #pragma once
 
+#include "frame/each_vector.h"
 #include "frame/map.h"
 #include "frame/rounding.h"
 
@@ -31,6 +32,7 @@ template <class T> struct Weighed {
 };
 // With weights up to 1, which saturate nothing.
 struct WeighedDown : Weighed<Qvx16s> {};
+template <class T> using WeighedUpToOne = std::conditional_t<std::is_same_v<T, Qvx16s>, WeighedDown, Weighed<T>>;
 
 // Integers times any weight and a power of two.
 struct WeighedTimes {
@@ -57,8 +59,23 @@ template <class Kernel, class V> auto weighedTogether(Kernel kernel, Pair<V> x, 
   }
 }
 
-// One after the other they take eight instructions more.
-template <class T, class Real> inline constexpr bool kInPairs = std::is_same_v<T, Qvx16s>&& std::is_same_v<Real, float>;
+// One after the other they take eight instructions more. Real: what weights are computed in; of doubles two vectors may be one.
+template <class T, class Real> inline constexpr bool kInPairs = sizeof(Real) == sizeof(float) && std::is_same_v<T, Qvx16s>;
+
+// put() for `count` weights, of which next() makes a vector at a time.
+template <class T, class Real, class Next, class Put>
+[[gnu::always_inline]] inline void putInOrder(size_t count, Next next, const Put& put) {
+  using V = decltype(next());
+  constexpr size_t N = kLanesOf<V>;
+  size_t from = 0;
+  if constexpr (kInPairs<T, Real>) {
+    for (; from + 2 * N <= count; from += 2 * N) {
+      const V first = next();
+      put(from, Pair<V>{first, next()});
+    }
+  }
+  eachVector<N>(count - from, [&](size_t at, auto... rest) { put(from + at, next(), rest...); });
+}
 
 // dst[n] = src[n] * w[n], w[len-1-n] = w[n], as far as vectors of the first half's weights come: `at` is the place of the first.
 template <class T, class Kernel> struct BothEnds {

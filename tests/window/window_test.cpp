@@ -76,7 +76,7 @@ template <> std::vector<Window<Qvx16sc>> windowsOf() {
 std::vector<int> lengths(int least) {
   std::vector<int> all;
   for (int n = least; n <= 300; ++n) all.push_back(n);
-  for (const int from : {500, 1010}) {
+  for (const int from : {550, 1010}) {
     for (int n = from; n < from + 60; ++n) all.push_back(n);
   }
   all.insert(all.end(), {2048, 2049, 4100, 8191, 50001});
