@@ -16,30 +16,37 @@ template <class K> inline constexpr size_t kRadixFrom = sizeof(K) == 2 ? 400 : s
 
 namespace detail {
 
-// Digits of 11 bits: three make 32, and their counts fit the first-level cache. Longer keys count their lower half first.
+// Digits of 11, 11 and 10 bits make 32, and their counts fit the first-level cache and the stack of a call. Longer keys count
+// their lower half first.
 template <class K> inline constexpr int kDigitBits = sizeof(K) == 2 ? 8 : 11;
 template <class K> inline constexpr size_t kDigits = sizeof(K) == 2 ? 2 : 3;
 template <class K> inline constexpr size_t kPartsOfKey = sizeof(K) == 8 ? 2 : 1;
-template <class K> using DigitCounts = uint32_t[kDigits<K>][size_t{1} << kDigitBits<K>];
+template <class K> inline constexpr size_t kBitsOfPart = 8 * sizeof(K) / kPartsOfKey<K>;
+// Values of a digit, and the place of its counts after those of the digits below.
+template <class K> constexpr size_t valuesOf(size_t digit) {
+  return size_t{1} << std::min<size_t>(kDigitBits<K>, kBitsOfPart<K> - digit * kDigitBits<K>);
+}
+template <class K> constexpr size_t countsBelow(size_t digit) { return digit << kDigitBits<K>; }
 
 template <size_t kPart, size_t kDigit, class K> [[gnu::always_inline]] inline size_t digitOf(K key) {
-  constexpr size_t kBitsOfPart = std::min<size_t>(8 * sizeof(K), 32);
-  const auto part = static_cast<uint32_t>(static_cast<std::make_unsigned_t<K>>(key) >> kPart * kBitsOfPart);
-  return (part >> kDigit * kDigitBits<K>) % (1U << kDigitBits<K>);
+  const auto part = static_cast<uint32_t>(static_cast<std::make_unsigned_t<K>>(key) >> kPart * kBitsOfPart<K>);
+  return (part >> kDigit * kDigitBits<K>) % valuesOf<K>(kDigit);
 }
 
 // Three passes at most, between x and room; true if they end in room. A digit that all keys share is left out.
 template <size_t kPart, class K> [[gnu::noinline]] bool sortByPart(K* x, K* room, size_t n) {
-  alignas(64) DigitCounts<K> next = {};
+  constexpr size_t kHighest = kDigits<K> - 1;
+  alignas(64) uint32_t counts[countsBelow<K>(kHighest) + valuesOf<K>(kHighest)] = {};
   for (size_t i = 0; i < n; ++i) {
-    unrolled<kDigits<K>>([&](auto digit) __attribute__((always_inline)) { ++next[digit][digitOf<kPart, digit>(x[i])]; });
+    unrolled<kDigits<K>>([&](auto digit)
+                             __attribute__((always_inline)) { ++counts[countsBelow<K>(digit) + digitOf<kPart, digit>(x[i])]; });
   }
   K *from = x, *to = room;
   unrolled<kDigits<K>>([&](auto digit) __attribute__((always_inline)) {
-    uint32_t* const at = next[digit];
+    uint32_t* const at = counts + countsBelow<K>(digit);
     if (at[digitOf<kPart, digit>(x[0])] == n) return;
     uint32_t before = 0;
-    for (uint32_t& count : next[digit]) before += std::exchange(count, before);
+    for (size_t value = 0; value < valuesOf<K>(digit); ++value) before += std::exchange(at[value], before);
     for (size_t i = 0; i < n; ++i) to[at[digitOf<kPart, digit>(from[i])]++] = from[i];
     std::swap(from, to);
   });
