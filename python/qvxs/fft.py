@@ -468,10 +468,10 @@ def _sine(x, type, n, axis, norm, orthogonalize, inverse, workers):
         if orthogonalize:
             result[..., 0] *= sqrt(0.5)
         return back(result, axis)
-    turned = x[..., ::-1].copy()
+    flipped = x[..., ::-1].copy()
     if orthogonalize:
-        turned[..., -1] *= sqrt(2)
-    return back(_cosine(turned, type, None, -1, norm, False, inverse, workers) * signs, axis)
+        flipped[..., -1] *= sqrt(2)
+    return back(_cosine(flipped, type, None, -1, norm, False, inverse, workers) * signs, axis)
 
 
 @_or_scipy

@@ -231,7 +231,7 @@ def _continued(rows, edge, padtype, dtype):
 
 
 def _there_and_back(make, taps, start, x, edge, padtype, axis):
-    """Every row through the record of the taps, turned round, through it again, and back; each time from the state `start` times its
+    """Every row through the record of the taps, reversed, through it again, and back; each time from the state `start` times its
     first element. All in one buffer: a new one of a megabyte costs as much as half a filter."""
     dtype = _common(*taps, x, start)
     axis = check_axis(axis, x.ndim)
@@ -240,17 +240,17 @@ def _there_and_back(make, taps, start, x, edge, padtype, axis):
     buffer = _continued(x.reshape(-1, n), edge, padtype, dtype)
     result = np.empty(x.shape, dtype)
     tag, length = _TAGS[dtype.char], n + 2 * edge
-    run, turn, turned = (getattr(raw, f"qvxs{stem}_{tag}{end}") for stem, end in (("IIR", "_I"), ("Flip", "_I"), ("Flip", "")))
+    run, flip, flipped = (getattr(raw, f"qvxs{stem}_{tag}{end}") for stem, end in (("IIR", "_I"), ("Flip", "_I"), ("Flip", "")))
     start = start.astype(dtype, copy=False).reshape(-1)
     calls, spares = _record(make, dtype, *taps)
     record, write = calls[0], calls[3]
     for row, target in zip(buffer, result.reshape(-1, n)):
         write(record, start * row[0])
         run(row, length, record)
-        turn(row, length)
+        flip(row, length)
         write(record, start * row[0])
         run(row, length, record)
-        turned(row[edge:edge + n], target, n)
+        flipped(row[edge:edge + n], target, n)
     write(record, None)
     spares.append(calls)
     return back(result, axis)
@@ -317,11 +317,11 @@ def _convolve_rows(rows, taps):
     tag = _TAGS[rows.dtype.char]
     taps = contiguous(taps)
     if rows.dtype.kind == "c":
-        # A correlation with the taps turned round: it conjugates its first source.
-        turned = contiguous(taps[::-1].conj())
+        # A correlation with the taps reversed: it conjugates its first source.
+        flipped = contiguous(taps[::-1].conj())
         correlate_lags = getattr(raw, "qvxsCrossCorr_" + tag)
         for source, target in zip(rows.reshape(-1, n), result.reshape(-1, n + m - 1)):
-            correlate_lags(turned, m, source, n, target, n + m - 1, 1 - m)
+            correlate_lags(flipped, m, source, n, target, n + m - 1, 1 - m)
         return result
     call = getattr(raw, "qvxsConv_" + tag)
     for source, target in zip(rows.reshape(-1, n), result.reshape(-1, n + m - 1)):

@@ -57,9 +57,9 @@ def _public(function, name, doc):
     __all__.append(name)
 
 
-def _stem(name, stem, summary, example, numbers=(), tail="", keep=lambda form: True, sizes=None, turned=False):
+def _stem(name, stem, summary, example, numbers=(), tail="", keep=lambda form: True, sizes=None, swapped=False):
     """A function of arrays and of numbers after them. sizes: the lengths of the results along the last axis, of that of the arrays.
-    turned: the library takes the first array last."""
+    swapped: the library takes the first array last."""
     found = [form for form in forms(stem, tail) if keep(form)]
     counts = sorted({len(form.sources) for form in found})
     chosen = {}  # by types: looking through all forms takes 20 us
@@ -69,7 +69,7 @@ def _stem(name, stem, summary, example, numbers=(), tail="", keep=lambda form: T
         values = dict(zip((parameter for _, parameter, _ in numbers), vectors._numbers(name, numbers, arguments[count:], named)))
         if count not in counts or len(arguments) < count:
             raise TypeError(f"{name} takes {' or '.join(map(str, counts))} arrays, not {len(arguments)}")
-        arrays = [native(x) for x in arguments[:count]][::-1 if turned else 1]
+        arrays = [native(x) for x in arguments[:count]][::-1 if swapped else 1]
         key = (*[x.dtype for x in arrays], all(x.ndim for x in arrays), bool(scale), dtype)
         form = chosen.get(key)
         if form is None:
@@ -88,7 +88,7 @@ def _stem(name, stem, summary, example, numbers=(), tail="", keep=lambda form: T
         results = [given[p] for p in changed] + list(made.values())
         return _into(out, results if shape else [x.reshape(()) for x in results])
 
-    arrays = ", ".join({"pSrc": "x", "pSrcDst": "x", "pSrc1": "a", "pSrc2": "b"}.get(p, p[4:].lower()) for p in found[0].sources[::-1 if turned else 1])
+    arrays = ", ".join({"pSrc": "x", "pSrcDst": "x", "pSrc1": "a", "pSrc2": "b"}.get(p, p[4:].lower()) for p in found[0].sources[::-1 if swapped else 1])
     _public(function, name, f"""{summary}
 
     {arrays}: arrays, broadcast together: {vectors._types(found)}.{vectors._told(numbers)}

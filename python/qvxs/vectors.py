@@ -25,12 +25,12 @@ from .rows import back, check_axis, contiguous, last, native
 __all__ = []
 
 
-def _public(function, name, plain, turned, doc):
+def _public(function, name, plain, swapped, doc):
     """The function under its name; calls of `plain` exports with whole arrays do not reach it."""
     function.__name__ = function.__qualname__ = name
     function.__module__ = __name__
     function.__doc__ = doc
-    globals()[name] = raw.elementwise(plain, function, turned) if plain else function
+    globals()[name] = raw.elementwise(plain, function, swapped) if plain else function
     __all__.append(name)
 
 
@@ -203,7 +203,7 @@ for _row in (
     ("decibels", "10Log10", "10 times the decimal logarithm.", ">>> qvxs.decibels(np.int32([1, 1000]))\n        array([ 0, 30], dtype=int32)"),
     ("arctan", "Arctan", "The arctangent, within 1.25 units in the last place.", ">>> qvxs.arctan(np.float32([0, 1]))\n        array([0.       , 0.7853982], dtype=float32)"),
     ("absolute", "Abs", "The magnitude of real numbers; that of the least integer is the greatest.", ">>> qvxs.absolute(np.int16([-5, -32768]))\n        array([    5, 32767], dtype=int16)"),
-    ("invert", "Not", "All bits turned over.", ">>> qvxs.invert(np.uint8([0, 254]))\n        array([255,   1], dtype=uint8)"),
+    ("invert", "Not", "All bits inverted.", ">>> qvxs.invert(np.uint8([0, 254]))\n        array([255,   1], dtype=uint8)"),
     ("real", "Real", "The real parts.", ">>> qvxs.real(np.complex64([1 + 2j]))\n        array([1.], dtype=float32)"),
     ("imag", "Imag", "The imaginary parts.", ">>> qvxs.imag(np.complex64([1 + 2j]))\n        array([2.], dtype=float32)"),
     ("conjugate", "Conj", "The conjugate.", ">>> qvxs.conjugate(np.complex64([1 + 2j]))\n        array([1.-2.j], dtype=complex64)"),

@@ -198,8 +198,8 @@ PyObject* make(PyObject*, PyObject* arguments) {
 
 PyMethodDef maker = {
     "elementwise", make, METH_VARARGS,
-    "elementwise(exports, general, turned=False): a function that calls the export for the type of its arrays where they are "
-    "of one type and shape and contiguous, and `general` for all else. turned: the export takes its two sources the other way "
+    "elementwise(exports, general, swapped=False): a function that calls the export for the type of its arrays where they are "
+    "of one type and shape and contiguous, and `general` for all else. swapped: the export takes its two sources the other way "
     "round."};
 
 }  // namespace

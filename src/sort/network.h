@@ -143,16 +143,17 @@ template <class By, size_t kColumns, size_t kRows, class V> [[gnu::always_inline
   down(std::integral_constant<size_t, 1>());
 }
 
-// Rows of lanes to columns: each round of interleaving the upper half of the rows with the lower turns the index by one bit.
+// Rows of lanes to columns: each round of interleaving the upper half of the rows with the lower rotates the bits of the index by
+// one.
 template <size_t kRows, class V> [[gnu::always_inline]] inline void transpose(V (&v)[kRows]) {
   const auto round = [&]() __attribute__((always_inline)) {
-    V turned[kRows];
+    V rotated[kRows];
     unrolled<kRows / 2>([&](auto i) __attribute__((always_inline)) {
       const Pair<V> pair = interleaved(Pair<V>{v[i], v[i + kRows / 2]});
-      turned[2 * i] = pair.lo;
-      turned[2 * i + 1] = pair.hi;
+      rotated[2 * i] = pair.lo;
+      rotated[2 * i + 1] = pair.hi;
     });
-    unrolled<kRows>([&](auto r) __attribute__((always_inline)) { v[r] = turned[r]; });
+    unrolled<kRows>([&](auto r) __attribute__((always_inline)) { v[r] = rotated[r]; });
   };
   if constexpr (kRows >= 2) round();
   if constexpr (kRows >= 4) round();

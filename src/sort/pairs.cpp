@@ -18,9 +18,9 @@ using V = Vec<D>;
   auto* const halves = reinterpret_cast<int32_t*>(both);
   size_t i = 0;
   for (; i + N <= n; i += N) {
-    const Pair<V> turned = interleaved(Pair<V>{x.numbersAt(i), x.keysAt(i)});
-    store(turned.lo, D(), halves + 2 * i);
-    store(turned.hi, D(), halves + 2 * i + N);
+    const Pair<V> pairs = interleaved(Pair<V>{x.numbersAt(i), x.keysAt(i)});
+    store(pairs.lo, D(), halves + 2 * i);
+    store(pairs.hi, D(), halves + 2 * i + N);
   }
   for (; i < n; ++i)
     both[i] = static_cast<int64_t>(uint64_t{static_cast<uint32_t>(x.keys[i])} << 32 | static_cast<uint32_t>(x.numbers[i]));

@@ -1,6 +1,6 @@
 // Few pairs sorted as 32-bit keys alone: upper bits of a key, then its place. After the sort a place tells which pair belongs
-// there, and the few pairs that differ in lower bits only are inserted where they belong. 600 doubles take half the time of a
-// sort of 64-bit keys, which left out no bits.
+// there, and the few pairs that differ in lower bits only are inserted where they belong. 100 to 500 doubles take 0.5 to
+// 0.6 of the time of 64-bit packed keys.
 #pragma once
 
 #include "sort/pairs_partition.h"
