@@ -66,9 +66,10 @@ template <class K> size_t partitionPairs(Pairs<K> x, size_t n, K pivot, Pairs<K>
   const size_t head = kStep + n % kStep;
   x.copyTo(buffer, head);
   x.from(n - kStep).copyTo(buffer.from(head), kStep);
-  Pairs<K> low = x, high = x.from(n);
+  Pairs<K> low = x;
+  size_t gap = n;  // as in partition()
   size_t from = head, to = n - kStep;
-  const auto isLowNearer = [&] { return x.keys + from - low.keys <= high.keys - (x.keys + to); };
+  const auto isLowNearer = [&] { return x.keys + from - low.keys <= low.keys + gap - (x.keys + to); };
   while (from < to) {
     size_t at = from;
     if (isLowNearer()) {
@@ -84,13 +85,14 @@ template <class K> size_t partitionPairs(Pairs<K> x, size_t n, K pivot, Pairs<K>
     });
     unrolled<kStep / N>([&](auto i) __attribute__((always_inline)) {
       const auto isLow = keys[i] < same<KeysOf<K>>(pivot);
+      Pairs<K> high = low.from(gap - i * N);
       part(numbers[i], detail::forNumbers(Lanes<K, N>(), isLow), low.numbers, high.numbers);
       part(keys[i], isLow, low.keys, high.keys);
     });
+    gap -= kStep;
   }
-  const auto left = static_cast<size_t>(high.keys - low.keys);
-  const size_t below = detail::separate(buffer, left, pivot, low, buffer);
-  buffer.copyTo(low.from(below), left - below);
+  const size_t below = detail::separate(buffer, gap, pivot, low, buffer);
+  buffer.copyTo(low.from(below), gap - below);
   return static_cast<size_t>(low.keys - x.keys) + below;
 }
 
