@@ -79,14 +79,15 @@ template <size_t kVectors_, size_t kRows_, size_t kSums_> struct Tile {
 inline constexpr size_t kRegisters = kHasMasks ? 32 : 16;
 template <size_t kChannels> inline constexpr size_t kWidestTile = (kHasMasks ? 16 : 12) / kChannels;
 
-// Integer sums wrap, and their order does not matter: each width of tile has the shape that suits it.
+// Integer sums wrap, and their order does not matter: each width of tile has the shape that suits it. They take a cycle for an
+// addition, so of 16 registers none goes to a second sum: one of those was spilled, and took ten.
 template <size_t kChannels> struct AnyOrder {
   static constexpr size_t kWidest = kWidestTile<kChannels>;
 
   template <size_t kVectors> static constexpr auto tile() {
     constexpr size_t kOutputs = kVectors * kChannels;
     constexpr size_t kRows = kHasMasks ? 4 : kOutputs >= 12 ? 2 / kChannels : kOutputs >= 8 ? 2 : 4 / kChannels;
-    using Type = Tile<kVectors, kRows, std::clamp<size_t>(8 / kOutputs, 1, kRows)>;
+    using Type = Tile<kVectors, kRows, kHasMasks ? std::clamp<size_t>(8 / kOutputs, 1, kRows) : 1>;
     static_assert(kOutputs * Type::kSums + kRows * kChannels < kRegisters);
     return Type();
   }
