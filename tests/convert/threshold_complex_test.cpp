@@ -1,6 +1,8 @@
 // Thresholds of complex elements by magnitude.
 #include <qvx/qvxs.h>
 
+#include <cfenv>
+
 #include "convert/conversion.h"
 #include "reference/level.h"
 
@@ -151,6 +153,46 @@ TEST(ComplexThreshold, OfFloats) {
                   qvxsThreshold_GTVal_32fc);
   floats<Qvx64fc>(2, qvxsThreshold_64fc, qvxsThreshold_LT_64fc, qvxsThreshold_GT_64fc, qvxsThreshold_LTVal_64fc,
                   qvxsThreshold_GTVal_64fc);
+}
+
+// Rounded once from the doubles, in every mode: a kernel that gets there by floats gives the same bits.
+TEST(ComplexThreshold, FloatsAreRoundedFromDoubles) {
+  Random random(seed());
+  const auto draw = [&random](double from, double to) {
+    return from + (to - from) * 0x1p-32 * static_cast<double>(random() >> 32);
+  };
+  for (const float level : {1.0F, 750.0F, 0x1.234566p-29F, 1e12F}) {
+    std::vector<Qvx32fc> source(5000), d(source.size());
+    for (Qvx32fc& v : source) {
+      const double size = level * std::exp2(draw(-3, 3));
+      const double angle = draw(0, 6.3);
+      v = {static_cast<float>(size * std::cos(angle)), static_cast<float>(size * std::sin(angle))};
+      if (random() % 64 == 0) v.im = random() % 2 == 0 ? -0.0F : std::ldexp(v.im, -static_cast<int>(random() % 120));
+      if (random() % 64 == 0) v = {3 * level, -4 * level};
+    }
+    for (const int mode : {FE_TONEAREST, FE_DOWNWARD, FE_UPWARD, FE_TOWARDZERO}) {
+      for (const int relOp : {0, 4}) {
+        std::fesetround(mode);
+        qvxsThreshold_32fc(source.data(), d.data(), 5000, level, relOp);
+        size_t wrong = 0;
+        for (size_t i = 0; i < source.size(); ++i) {
+          const Qvx32fc v = source[i];
+          volatile double square = double{v.re} * v.re + double{v.im} * v.im;
+          const double limit = double{level} * level;
+          const bool isClipped = relOp == 0 ? square < limit : square > limit;
+          volatile double factor = level / std::sqrt(square);
+          const auto isRight = [&](float got, float part) {
+            volatile auto low = static_cast<float>(part * (factor * (1 - 0x1p-49)));
+            volatile auto high = static_cast<float>(part * (factor * (1 + 0x1p-49)));
+            return isClipped ? (got == low || got == high) && std::signbit(got) == std::signbit(part) : got == part;
+          };
+          wrong += !isRight(d[i].re, v.re) || !isRight(d[i].im, v.im);
+        }
+        std::fesetround(FE_TONEAREST);
+        EXPECT_EQ(wrong, 0U) << "level " << level << ", relation " << relOp << ", mode " << mode;
+      }
+    }
+  }
 }
 
 // An element of just the level is on neither side, and a level of 0 copies or clears without looking at what is no number.
