@@ -74,7 +74,7 @@ template <size_t kBit, class V> V lanesByBit(V lower, V upper) {
       return mask;
     }();
     return V{_mm256_blend_epi32(lower.raw, upper.raw, kMask)};
-  } else if constexpr (sizeof(LaneOf<V>) == 2) {
+  } else if constexpr (sizeof(LaneOf<V>) == 2 && kBit == 1) {
     return hn::OddEven(upper, lower);
   } else
 #endif
