@@ -1,6 +1,7 @@
 #include "core/threads.h"
 
 #include <dlfcn.h>
+#include <pthread.h>
 #include <qvx/qvxcore.h>
 #include <sched.h>
 
@@ -49,7 +50,10 @@ int findThreads() {
   if (n < 1) n = ofEnvironment();
   if (n > 0) return n;
   n = ofAffinity();
+  int callers = 0;  // a thread cancelled while it reads the file would leave it open, and the team taken
+  pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &callers);
   if (const double quota = ofQuota(); quota > 0) n = std::min(n, static_cast<int>(std::ceil(quota)));
+  pthread_setcancelstate(callers, nullptr);
   return std::max(n, 1);
 }
 

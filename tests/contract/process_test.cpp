@@ -5,10 +5,12 @@
 #include <pthread.h>
 #include <qvx/qvxcore.h>
 #include <qvx/qvxs.h>
+#include <sched.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <atomic>
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <thread>
@@ -197,6 +199,35 @@ TEST_F(Process, HasRoomForThePartsOfWorkers) {
       },
       &wasOnWorker);
   EXPECT_TRUE(wasOnWorker);
+}
+
+// A thread that is to be cancelled ends its calls first: nothing in them is a cancellation point. On one processor the worker
+// that ends a call wakes the caller, which takes its place before it has left.
+TEST_F(Process, CallsFromThreadsToBeCancelled) {
+  if (tests::isSanitized()) GTEST_SKIP() << "sanitizers have threads of their own, which do not fork";
+  const auto part = [](void* flag, int i) {
+    auto& hasBegun = *static_cast<std::atomic<bool>*>(flag);
+    const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(i == 0 ? 100 : 2);
+    if (i == 1) hasBegun = true;
+    while ((i == 1 || !hasBegun) && std::chrono::steady_clock::now() < until) sched_yield();
+  };
+  const auto endsCalls = [&] {
+    cpu_set_t one;
+    CPU_ZERO(&one);
+    CPU_SET(sched_getcpu(), &one);
+    sched_setaffinity(0, sizeof one, &one);
+    bool hasEnded = false;
+    std::thread([&] {
+      pthread_cancel(pthread_self());
+      for (int i = 0; i < 20; ++i) {
+        std::atomic<bool> hasBegun{false};
+        ownRunParts(2, part, &hasBegun);
+      }
+      hasEnded = true;
+    }).join();
+    return hasEnded;
+  };
+  EXPECT_EQ(statusOfChild(60, endsCalls), 0);
 }
 
 TEST_F(Process, CallsFromOpenMPRegions) {
