@@ -10,11 +10,11 @@ namespace {
 // 2n / (N-1) for n = 0, 1, ..., a vector at a time. Beside floats n is counted in integers, which leave them no limit.
 template <class W> class Rising {
  public:
-  explicit Rising(size_t len) : step_(hn::Set(d_, static_cast<W>(2.0 / static_cast<double>(len - 1)))) {}
+  explicit Rising(int len) : step_(hn::Set(d_, static_cast<W>(2.0 / (len - 1)))) {}
   auto next() {
-    const auto n = number_;
-    number_ = n + hn::Set(places_, Number{N});
-    return convertLanes<W>(n) * step_;
+    const auto weights = convertLanes<W>(number_) * step_;
+    number_ = number_ + hn::Set(places_, Number{N});
+    return weights;
   }
 
  private:
@@ -26,7 +26,7 @@ template <class W> class Rising {
   Vec<Lanes<Number, N>> number_ = laneNumbersOf(places_);
 };
 
-template <class T> QvxStatus bartlett(const T* src, T* dst, int len) {
+template <class T> [[gnu::flatten]] QvxStatus bartlett(const T* src, T* dst, int len) {
   const QvxStatus status = checkWindow(src, dst, len);
   if (status != qvxStatOk) return status;
   if (len == 3) {
@@ -35,8 +35,7 @@ template <class T> QvxStatus bartlett(const T* src, T* dst, int len) {
   }
   const RoundingScope mode(std::is_integral_v<Part<T>> ? Rounding::kNearest : Rounding::kCallers);
   weigh(src, dst, elements(len), WeighedUpToOne<T>(), [=](size_t count, const auto& put) {
-    Rising<Weight<T>> weights(elements(len));
-    const auto next = [&] { return weights.next(); };
+    const auto next = [weights = Rising<Weight<T>>(len)]() mutable { return weights.next(); };
     putInOrder<T, Weight<T>>(count, next, put);
   });
   return qvxStatOk;

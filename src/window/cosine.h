@@ -72,10 +72,10 @@ template <class Real> class SquaredAngles {
  public:
   explicit SquaredAngles(size_t len) : step_(hn::Set(d_, kSquaredSteps<Real>[len])) {}
   auto next() {
-    const auto square = square_;
+    const auto square = square_ * step_;
     square_ = square_ + rise_;
     rise_ = rise_ + hn::Set(d_, Real{2 * N * N});
-    return square * step_;
+    return square;
   }
 
  private:
@@ -92,8 +92,7 @@ template <class Real> class SquaredAngles {
 template <class Real, class T, class Form, class Kernel>
 [[gnu::noinline, gnu::flatten]] void weighBySines(const T* src, T* dst, size_t len, Form form, Kernel kernel) {
   weigh(src, dst, len, kernel, [=](size_t count, const auto& put) {
-    SquaredAngles<Real> angles(len);
-    const auto next = [&] {
+    const auto next = [=, angles = SquaredAngles<Real>(len)]() mutable {
       const auto square = angles.next();
       const auto quotient = sineByAngle(square);
       const auto scale = hn::Set(TagOf<decltype(square)>(), static_cast<Real>(form.scale() * form.scale()));

@@ -1,7 +1,6 @@
 // A vector times a symmetric window: every weight is made once, and serves both ends from its register.
 #pragma once
 
-#include "frame/each_vector.h"
 #include "frame/map.h"
 #include "frame/rounding.h"
 
@@ -74,7 +73,8 @@ template <class T, class Real, class Next, class Put>
       put(from, Pair<V>{first, next()});
     }
   }
-  eachVector<N>(count - from, [&](size_t at, auto... rest) { put(from + at, next(), rest...); });
+  for (; from + N <= count; from += N) put(from, next());
+  if (from < count) put(from, next(), count - from);
 }
 
 // dst[n] = src[n] * w[n], w[len-1-n] = w[n], as far as vectors of the first half's weights come: `at` is the place of the first.
