@@ -388,17 +388,17 @@ TEST(IirFilter, SilenceThroughHugeFeedbackIsSilence) {
       EXPECT_NE(std::memcmp(&x[0], &y[32], sizeof(D)), 0) << m.name << form << n;
       m.free(s);
     };
-    for (const int n : {1, 6}) {
-      std::vector<T> taps(static_cast<size_t>(6 * n), T{});
-      for (size_t i = 0; i < taps.size(); ++i) {
-        const bool isGain = i % 6 == 0;
-        if (isGain || i % 6 >= 3)
-          reinterpret_cast<Part<T>&>(taps[i]) = i % 6 > 3 ? std::numeric_limits<Part<T>>::max() / 4 : isGain ? 8 : 1;
-      }
-      if (n == 1) expectSilence(m.initAlloc[0], 2, taps, ", direct form, ");
-      expectSilence(m.initAlloc[1], n, taps, ", sections, ");
-      if constexpr (std::is_same_v<typename M::State, QvxsIIRState_32f>) {
-        expectSilence(qvxsIIRInitAlloc_BiQuad_DF1_32f, n, taps, ", direct form I, ");
+    constexpr auto kMost = std::numeric_limits<Part<T>>::max();
+    for (const Part<T> feedback : {kMost / 4, std::sqrt(std::sqrt(kMost))}) {
+      for (const int n : {1, 6}) {
+        const Part<T> section[6] = {8, 0, 0, 1, feedback, feedback};
+        std::vector<T> taps(static_cast<size_t>(6 * n), T{});
+        for (size_t i = 0; i < taps.size(); ++i) reinterpret_cast<Part<T>&>(taps[i]) = section[i % 6];
+        if (n == 1) expectSilence(m.initAlloc[0], 2, taps, ", direct form, ");
+        expectSilence(m.initAlloc[1], n, taps, ", sections, ");
+        if constexpr (std::is_same_v<typename M::State, QvxsIIRState_32f>) {
+          expectSilence(qvxsIIRInitAlloc_BiQuad_DF1_32f, n, taps, ", direct form I, ");
+        }
       }
     }
   });

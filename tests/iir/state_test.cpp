@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstring>
 #include <set>
+#include <vector>
 
 #include "iir/members.h"
 
@@ -208,6 +209,14 @@ TEST(IirSetTaps, OfSectionsStopsAtTheRefusedOne) {
   Qvx64f y = 0;
   qvxsIIROne_64f(1, &y, s);
   EXPECT_EQ(y, 3) << "the first is new, the second as it was";
+  // Its powers are infinite; the first would go by vectors alone.
+  Qvx64f huge[12] = {1, 0, 0, 1, 0, 0, 1, 0, 0, 1, 1e300, 1e300};
+  EXPECT_EQ(qvxsIIRSetTaps_64f(huge, s), qvxStatOk);
+  EXPECT_EQ(qvxsIIRSetTaps_64f(t, s), qvxStatDivByZero);
+  EXPECT_EQ(qvxsIIRSetDlyLine_64f(s, nullptr), qvxStatOk);
+  std::vector<Qvx64f> silence(40);
+  EXPECT_EQ(qvxsIIR_64f_I(silence.data(), 40, s), qvxStatOk);
+  EXPECT_EQ(silence, std::vector<Qvx64f>(40));
   qvxsIIRFree_64f(s);
 }
 
