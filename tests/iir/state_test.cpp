@@ -209,14 +209,17 @@ TEST(IirSetTaps, OfSectionsStopsAtTheRefusedOne) {
   Qvx64f y = 0;
   qvxsIIROne_64f(1, &y, s);
   EXPECT_EQ(y, 3) << "the first is new, the second as it was";
-  // Its powers are infinite; the first would go by vectors alone.
-  Qvx64f huge[12] = {1, 0, 0, 1, 0, 0, 1, 0, 0, 1, 1e300, 1e300};
-  EXPECT_EQ(qvxsIIRSetTaps_64f(huge, s), qvxStatOk);
-  EXPECT_EQ(qvxsIIRSetTaps_64f(t, s), qvxStatDivByZero);
-  EXPECT_EQ(qvxsIIRSetDlyLine_64f(s, nullptr), qvxStatOk);
-  std::vector<Qvx64f> silence(40);
-  EXPECT_EQ(qvxsIIR_64f_I(silence.data(), 40, s), qvxStatOk);
-  EXPECT_EQ(silence, std::vector<Qvx64f>(40));
+  // Powers of such feedback are infinite: it must not go by vectors, whether it stayed or is new.
+  const std::vector<Qvx64f> good = {1, 0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 0}, kept = {1, 0, 0, 1, 0, 0, 1, 0, 0, 1, 1e300, 1e300};
+  const std::vector<Qvx64f> refused = {1, 0, 0, 1, 0, 0, 0, 0, 0, 1, 0, 0}, fresh = {1, 0, 0, 1, 1e300, 1e300, 0, 0, 0, 1, 0, 0};
+  for (const auto& [before, after] : {std::pair(&kept, &refused), std::pair(&good, &fresh)}) {
+    EXPECT_EQ(qvxsIIRSetTaps_64f(before->data(), s), qvxStatOk);
+    EXPECT_EQ(qvxsIIRSetTaps_64f(after->data(), s), qvxStatDivByZero);
+    EXPECT_EQ(qvxsIIRSetDlyLine_64f(s, nullptr), qvxStatOk);
+    std::vector<Qvx64f> silence(40);
+    EXPECT_EQ(qvxsIIR_64f_I(silence.data(), 40, s), qvxStatOk);
+    EXPECT_EQ(silence, std::vector<Qvx64f>(40));
+  }
   qvxsIIRFree_64f(s);
 }
 
