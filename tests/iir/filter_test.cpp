@@ -398,6 +398,8 @@ TEST(IirFilter, SilenceThroughHugeFeedbackIsSilence) {
         expectSilence(m.initAlloc[1], n, taps, ", sections, ");
         if constexpr (std::is_same_v<typename M::State, QvxsIIRState_32f>) {
           expectSilence(qvxsIIRInitAlloc_BiQuad_DF1_32f, n, taps, ", direct form I, ");
+        } else if constexpr (std::is_same_v<typename M::State, QvxsIIRState64f_32s>) {
+          expectSilence(qvxsIIRInitAlloc64f_BiQuad_DF1_32s, n, taps, ", direct form I, ");
         }
       }
     }
