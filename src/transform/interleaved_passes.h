@@ -1,6 +1,6 @@
 // The passes of passes.h over complex numbers as they stand in memory, P = L / 2 to a vector: for 16 registers, of which 8 points
 // take 8 here, and all 16 where their parts stand in a vector each. A product with a twiddle costs an exchange of parts, and
-// nothing is deinterleaved: 2^8 to 2^12 floats take 0.80 to 0.91 of the time of those passes, 2^8 to 2^11 doubles 0.81 to 0.95.
+// nothing is deinterleaved: 2^8 to 2^12 floats take 0.79 to 0.91 of the time of those passes, 2^8 to 2^11 doubles 0.83 to 0.99.
 // Row j of the work array holds R neighbouring results.
 #pragma once
 
