@@ -155,7 +155,7 @@ TEST(ComplexThreshold, OfFloats) {
                   qvxsThreshold_GTVal_64fc);
 }
 
-// Rounded once from the doubles, in every mode: a kernel that gets there by floats gives the same bits.
+// Rounded once from the doubles, in every mode, whichever way the factor is computed.
 TEST(ComplexThreshold, FloatsAreRoundedFromDoubles) {
   Random random(seed());
   const auto draw = [&random](double from, double to) {
