@@ -40,7 +40,7 @@ using V = Vec<D>;
 // different: with equal ones it fails, and 1000 pairs took 1.2 to 1.5 times as long.
 template <bool kAreDifferent> void sortRange(Pairs<int32_t> x, size_t n, Pairs<int32_t> buffer, int32_t least) {
   for (int levels = 4 * static_cast<int>(std::bit_width(n)); n > kNetworkPairs;) {
-    if (kAreDifferent && n <= kPackedPairs && sortPacked(x, n, buffer.keys)) return;
+    if (kAreDifferent && n <= kPackedPairs && sortPacked(x, n, buffer.keys, buffer.numbers + kPairBuffer)) return;
     if (levels-- == 0) return sortHeap(x, n);
     const int32_t pivot = pivotOf<int32_t>(x.keys, n, {});
     if (pivot == least) {
@@ -70,7 +70,7 @@ template <bool kAreDifferent> void sortRange(Pairs<int32_t> x, size_t n, Pairs<i
 template <bool kAreDifferent> void sort(int32_t* keys, int32_t* numbers, size_t n) {
   if (n <= kNetworkPairs) return sortFewPairs({keys, numbers}, n);
   static_assert(2 * kPairBuffer == kSortBuffer<int32_t>);
-  alignas(64) int32_t buffer[2 * kPairBuffer];
+  alignas(64) int32_t buffer[2 * kPairBuffer + kPackedPairs];
   sortRange<kAreDifferent>({keys, numbers}, n, {buffer, buffer + kPairBuffer}, INT32_MIN);
 }
 

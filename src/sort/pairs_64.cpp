@@ -37,7 +37,7 @@ bool sortByRanks(Pairs<K> x, size_t n) {
 // As Quicksort (quicksort.h), until equal keys are seen.
 bool sortRange(Pairs<K> x, size_t n, Pairs<K> buffer, K least) {
   for (int levels = 4 * static_cast<int>(std::bit_width(n)); n > kFewPairs;) {
-    if (n <= kPackedPairs && sortPacked(x, n, reinterpret_cast<int32_t*>(buffer.keys))) return true;
+    if (n <= kPackedPairs && sortPacked(x, n, reinterpret_cast<int32_t*>(buffer.keys), buffer.numbers)) return true;
     if (levels-- == 0) return sortHeap(x, n), true;
     const K pivot = pivotOf<K>(x.keys, n, {});
     if (pivot == least) return false;
@@ -59,6 +59,7 @@ bool sortRange(Pairs<K> x, size_t n, Pairs<K> buffer, K least) {
 
 bool qvx::sortDifferentPairs(int64_t* keys, int32_t* numbers, size_t n) {
   if (n <= kFewPairs) return sortByRanks({keys, numbers}, n);
+  static_assert(kPackedPairs <= kPairBuffer);
   alignas(64) int64_t keyBuffer[kPairBuffer];
   alignas(64) int32_t numberBuffer[kPairBuffer];
   return sortRange({keys, numbers}, n, {keyBuffer, numberBuffer}, std::numeric_limits<K>::min());

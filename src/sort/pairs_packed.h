@@ -31,20 +31,22 @@ template <class K> class Packing {
     leftOut_ = std::max(static_cast<int>(std::bit_width(span)) + placeBits_ - 32, 0);
   }
 
-  // And copies the pairs.
-  void pack(Pairs<K> x, size_t n, int32_t* packed, Pairs<K> copy) const {
+  // Copies the pairs and puts packed keys in the place of their numbers.
+  void pack(Pairs<K> x, size_t n, Pairs<K> copy) const {
     const Lanes<uint32_t, N> d;
     const auto sign = hn::Set(d, uint32_t{1} << 31);
-    const auto packOne = [&](auto v, auto numbers, size_t i) __attribute__((always_inline)) {
+    const auto packed = [&](auto v, auto numbers, size_t i) __attribute__((always_inline)) {
       store(v, kKeys, copy.keys + i);
       store(numbers, kNumbers, copy.numbers + i);
       const auto upper = hn::ShiftRightSame(as<U>(v - same<KeysOf<K>>(least_)), leftOut_);
       const auto place = hn::Iota(d, static_cast<uint32_t>(i));
-      store(as<int32_t>((hn::ShiftLeftSame(narrowed(upper), placeBits_) | place) ^ sign), kNumbers, packed + i);
+      return as<int32_t>((hn::ShiftLeftSame(narrowed(upper), placeBits_) | place) ^ sign);
     };
     size_t i = 0;
-    for (; i + N <= n; i += N) packOne(x.keysAt(i), x.numbersAt(i), i);
-    if (i < n) packOne(loadFirst(kKeys, x.keys + i, n - i), loadFirst(kNumbers, x.numbers + i, n - i), i);
+    for (; i + N <= n; i += N) store(packed(x.keysAt(i), x.numbersAt(i), i), kNumbers, x.numbers + i);
+    if (i == n) return;
+    const auto last = packed(loadFirst(kKeys, x.keys + i, n - i), loadFirst(kNumbers, x.numbers + i, n - i), i);
+    storeFirst(last, kNumbers, x.numbers + i, n - i);
   }
   uint32_t placeMask() const { return (1U << placeBits_) - 1; }
 
@@ -96,17 +98,15 @@ template <class K> [[gnu::noinline]] bool insertSome(Pairs<K> x, size_t n) {
 }  // namespace detail
 
 // One pair at least. False, with the pairs in another order, if keys are equal or differ in lower bits only.
-// buffer: kSortBuffer<int32_t> keys.
-template <class K> [[gnu::noinline]] bool sortPacked(Pairs<K> x, size_t n, int32_t* buffer) {
+// buffer: kSortBuffer<int32_t> keys; numbers: room for kPackedPairs.
+template <class K> [[gnu::noinline]] bool sortPacked(Pairs<K> x, size_t n, int32_t* buffer, int32_t* numbers) {
   const detail::Packing<K> packing(x.keys, n);
-  alignas(64) int32_t packed[kPackedPairs];
   alignas(64) K keys[kPackedPairs];
-  alignas(64) int32_t numbers[kPackedPairs];
-  packing.pack(x, n, packed, {keys, numbers});
-  Quicksort<int32_t>({}, buffer).sort(packed, n, {});
+  packing.pack(x, n, {keys, numbers});
+  Quicksort<int32_t>({}, buffer).sort(x.numbers, n, {});
   const uint32_t placeMask = packing.placeMask();
   for (size_t i = 0; i < n; ++i) {
-    const size_t place = static_cast<uint32_t>(packed[i]) & placeMask;
+    const size_t place = static_cast<uint32_t>(x.numbers[i]) & placeMask;
     x.keys[i] = keys[place];
     x.numbers[i] = numbers[place];
   }

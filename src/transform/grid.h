@@ -120,19 +120,25 @@ template <class T> constexpr bool chooseGrid(GridPlan<T>& plan, uint32_t n) {
 }
 
 // The radices that are ever chosen for P columns in a vector, powers of two having a transform of their own: with AVX-512 three
-// in five. Only their kernels are compiled.
+// in five. Only their kernels are compiled. And the most vectors that go through memory: 24 KiB of stack are all that a call
+// takes.
 template <class T, size_t P> struct GridRadices {
   bool down[kWidestGrid + 1] = {};
   bool across[kWidestGrid + 1] = {};
   bool inRegisters[kWidestGrid + 1] = {};
+  size_t vectors = 1;
 
   constexpr GridRadices() {
     for (const uint32_t a : kGridRadices) {
       for (const uint32_t b : kGridRadices) {
         GridPlan<T> plan{};
         if (std::has_single_bit(a * b) || !chooseGrid(plan, a * b) || plan.lanes != P) continue;
-        if (isInRegisters<T>(plan.down, plan.across, P)) inRegisters[plan.across] = true;
-        else down[plan.down] = across[plan.across] = true;
+        if (isInRegisters<T>(plan.down, plan.across, P)) {
+          inRegisters[plan.across] = true;
+        } else {
+          down[plan.down] = across[plan.across] = true;
+          vectors = std::max(vectors, vectorsOf(plan.across, P) * plan.down);
+        }
       }
     }
   }
@@ -299,7 +305,7 @@ template <size_t P, bool kPlain, class T> void runGrid(const GridPlan<T>& plan, 
       });
     }
   }
-  alignas(64) T y[(kWidestGrid + P) * kWidestGrid * 2];
+  alignas(64) T y[kUsed.vectors * 2 * P];
   const GridEnds<GridVector<T, P>, kPlain> ends(isInverse, factor);
   withGridRadix(plan.down, [&](auto R) {
     if constexpr (kUsed.down[R]) downGrid<R, P>(src, y, plan.across, plan.twiddles, ends);

@@ -443,7 +443,7 @@ TEST_F(EveryCall, NeedsLittleStack) {
     const auto lowest = std::find_if(stack.begin(), stack.end(), [](uint8_t byte) { return byte != kPaint; });
     const auto used = static_cast<size_t>(stack.end() - lowest);
     most = std::max(most, used);
-    expect(used <= kMost, "needed too much stack", call);
+    expect(used <= kMost, ("needed " + std::to_string(used) + " bytes of stack").c_str(), call);
   });
   EXPECT_GT(most, 1U << 10);
 }
