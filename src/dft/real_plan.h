@@ -31,7 +31,7 @@ template <> struct RealFft<double> {
 template <size_t L, bool kInverse, class T>
 QVX_INLINE void recombineAt(const T* src, T* dst, size_t h, size_t k, const T* c, const T* d) {
   using V = Vec<Lanes<T, L>>;
-  const auto turned = [](Complex<V> z) __attribute__((always_inline)) {
+  const auto inReverse = [](Complex<V> z) __attribute__((always_inline)) {
     if constexpr (L == 1) return z;
     else return Complex<V>{reversed(z.re), reversed(z.im)};
   };
@@ -47,10 +47,10 @@ QVX_INLINE void recombineAt(const T* src, T* dst, size_t h, size_t k, const T* c
   };
   const Lanes<T, L> tag;
   Complex<V> a = get(k);
-  Complex<V> b = turned(get(h - k - L + 1));
+  Complex<V> b = inReverse(get(h - k - L + 1));
   transform::recombine<V, kInverse>(a, b, Complex<V>{load(tag, c + k - 1), load(tag, d + k - 1)});
   put(a, k);
-  put(turned(b), h - k - L + 1);
+  put(inReverse(b), h - k - L + 1);
 }
 
 template <bool kInverse, class T> void recombinePairs(const T* src, T* dst, size_t h, const T* c, const T* d) {
