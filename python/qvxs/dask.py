@@ -20,6 +20,7 @@ import dask.array as da
 import numpy as np
 
 from . import signal, vectors
+from .design import resampling_taps
 from .rows import contiguous
 
 __all__ = ["lfilter", "sosfilt", "upfirdn", "resample_poly", "spectrogram", "welch", "sum", "mean", "std", "min", "max", "norm_l2"]
@@ -145,7 +146,7 @@ def resample_poly(x, up, down, axis=0, window=("kaiser", 5.0)):
     if up == down:
         return x
     rate = builtin_max(up, down)
-    taps = signal.resampling_taps(rate, window) * up
+    taps = resampling_taps(rate, window) * up
     half = 10 * rate
     before = down - half % down
     drop = (half + before) // down

@@ -353,7 +353,7 @@ class Resampler(_Stream):
 
     def __init__(self, up, down, taps=None, dtype=None):
         if taps is None:
-            from .signal import resampling_taps
+            from .design import resampling_taps  # with SciPy, which streams do without else
             common = math.gcd(up, down)
             up, down = up // common, down // common
             rate = max(up, down)
