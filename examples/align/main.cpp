@@ -17,16 +17,9 @@ struct Recording {
 
 Recording readRecording(const std::string& path) {
   AudioReader reader(path);
-  const auto channels = static_cast<size_t>(reader.channels());
-  Recording recording = {{}, reader.sampleRate()};
-  std::vector<Qvx32f> block(kBlockFrames * channels);
-  for (int frames; (frames = reader.read(block.data())) > 0;) {
-    for (size_t i = 0; i < static_cast<size_t>(frames); ++i) recording.samples.push_back(block[i * channels]);
-  }
+  Recording recording = {readFirstChannel(reader), reader.sampleRate()};
   Qvx32f norm = 0;
-  if (!recording.samples.empty()) {
-    check(qvxsNorm_L2_32f(recording.samples.data(), static_cast<int>(recording.samples.size()), &norm));
-  }
+  check(qvxsNorm_L2_32f(recording.samples.data(), static_cast<int>(recording.samples.size()), &norm));
   if (!(norm > 0)) throw std::runtime_error(path + ": silent");
   check(qvxsMulC_32f_I(1 / norm, recording.samples.data(), static_cast<int>(recording.samples.size())));
   return recording;

@@ -60,13 +60,14 @@ char keyOf(const std::vector<float>& block, const std::array<double, 8>& levels)
 }  // namespace
 
 void dial(const std::string& keys, int sampleRate, double noiseDb, const std::string& output) {
+  const size_t other = keys.find_first_not_of(kKeys);
+  if (other != std::string::npos) throw std::runtime_error(std::string("there is no key ") + keys[other]);
   AudioWriter out(output, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1, sampleRate, {});
   std::mt19937 random(1);
   std::normal_distribution<double> noise(0, std::pow(10, noiseDb / 20) / std::numbers::sqrt2);
   const int half = sampleRate * 80 / 1000;
   for (const char key : keys) {
     const size_t at = kKeys.find(key);
-    if (at == std::string::npos) throw std::runtime_error(std::string("there is no key ") + key);
     std::vector<Qvx16s> samples;
     for (int i = 0; i < 2 * half; ++i) {
       const double t = 2 * std::numbers::pi * i / sampleRate;

@@ -12,10 +12,10 @@ struct Press {
   char key;
   double start;                    // s
   double length;                   // s
-  std::array<double, 8> levelsDb;  // of each tone in its loudest block, in dB below a sine of full scale
+  std::array<double, 8> levelsDb;  // of each tone in its loudest block, in dB; a sine of full scale has 0
 };
 
-// Writes the tones of keys, 80 ms each with as long a pause after it, and noise of so many dB below full scale.
+// Writes the tones of keys, 80 ms each with as long a pause after it, and noise of a level in dB; a sine of full scale has 0.
 void dial(const std::string& keys, int sampleRate, double noiseDb, const std::string& output);
 
 // What is heard in the first channel of a recording.

@@ -32,7 +32,7 @@ int run(int argc, char** argv) {
   make.option("keys", keys, "Of 0 to 9, A to D, * and #").required();
   make.option("-o,--output", output, "The 16-bit WAV file to write").required();
   make.option("--rate", sampleRate, "Sample rate").range(4000, 192000).showDefault();
-  make.option("--noise", noise, "Level of white noise, dB below a sine of full scale").showDefault();
+  make.option("--noise", noise, "Level of white noise in dB; a sine of full scale has 0").range(-200.0, 0.0).showDefault();
   app.parse(argc, argv);
   if (make.isGiven()) dial(keys, sampleRate, noise, output);
   else printTable(listen(input));

@@ -8,7 +8,7 @@
 struct Room {
   double delay = 0.012;  // seconds to the first reflection
   double level = -6;     // dB of it
-  double noise = -60;    // dB below full scale, at the microphone
+  double noise = -60;    // dBFS, at the microphone
 };
 
 // What a microphone records of `played` through a few reflections, with noise.
@@ -22,7 +22,7 @@ struct Learning {
 // The recording without the echo of what was played; both of one length.
 std::vector<float> cancelled(const std::vector<float>& played, const std::vector<float>& recording, const Learning& learning);
 
-// Levels of a stretch of time, dB below full scale.
+// Levels of a stretch of time in dBFS.
 struct Stretch {
   double start;
   double before;

@@ -9,29 +9,6 @@
 
 namespace {
 
-constexpr size_t kMostFrames = size_t{1} << 27;  // 45 minutes at 48 kHz: all of them are in memory
-
-std::vector<float> firstChannel(AudioReader& in) {
-  const auto channels = static_cast<size_t>(in.channels());
-  std::vector<float> frames(kBlockFrames * channels), x;
-  for (int n; (n = in.read(frames.data())) > 0;) {
-    for (size_t i = 0; i < static_cast<size_t>(n); ++i) x.push_back(frames[i * channels]);
-    if (x.size() > kMostFrames) throw std::runtime_error(in.path() + ": is too long");
-  }
-  if (x.empty()) throw std::runtime_error(in.path() + ": has no samples");
-  return x;
-}
-
-void write(const std::vector<float>& x, const std::string& path, int sampleRate, const std::vector<std::string>& inputs) {
-  AudioWriter out(path, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1, sampleRate, inputs);
-  std::vector<Qvx16s> samples(kBlockFrames);
-  for (size_t at = 0; at < x.size(); at += kBlockFrames) {
-    const int n = static_cast<int>(std::min<size_t>(kBlockFrames, x.size() - at));
-    check(qvxsConvert_32f16s_Sfs(x.data() + at, samples.data(), n, qvxRoundNearestEven, -15));
-    out.write(samples.data(), n);
-  }
-}
-
 struct Options {
   std::string played, recording, output, picture;
   double stretch = 0.25;
@@ -41,18 +18,19 @@ struct Options {
 
 void make(const Options& options) {
   AudioReader in(options.played);
-  write(recorded(firstChannel(in), options.room, in.sampleRate()), options.output, in.sampleRate(), {options.played});
+  writeRecording(recorded(readFirstChannel(in), options.room, in.sampleRate()), options.output, in.sampleRate(),
+                 {options.played});
 }
 
 void cancel(const Options& options) {
   AudioReader played(options.played);
   AudioReader recording(options.recording);
   if (played.sampleRate() != recording.sampleRate()) throw std::runtime_error(options.recording + ": has another sample rate");
-  const std::vector<float> heard = firstChannel(recording);
-  std::vector<float> source = firstChannel(played);
+  const std::vector<float> heard = readFirstChannel(recording);
+  std::vector<float> source = readFirstChannel(played);
   source.resize(heard.size());
   const std::vector<float> left = cancelled(source, heard, options.learning);
-  write(left, options.output, recording.sampleRate(), {options.played, options.recording});
+  writeRecording(left, options.output, recording.sampleRate(), {options.played, options.recording});
   const std::vector<Stretch> stretches = levels(heard, left, options.stretch, recording.sampleRate());
   std::printf("%8s %12s %10s %14s\n", "start s", "recorded dB", "left dB", "attenuation dB");
   for (const Stretch& s : stretches) std::printf("%8.2f %12.1f %10.1f %14.1f\n", s.start, s.before, s.after, s.before - s.after);

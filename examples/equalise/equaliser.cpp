@@ -10,8 +10,9 @@ std::vector<Qvx32f> readTaps(const std::string& path) {
   std::vector<Qvx32f> taps;
   for (std::string line; std::getline(file, line);) {
     std::istringstream numbers(line.substr(0, line.find('#')));
-    for (Qvx32f tap; numbers >> tap;) taps.push_back(tap);
-    if (!numbers.eof()) throw std::runtime_error(std::string(path).append(": not a number in line: ").append(line));
+    while (!(numbers >> std::ws).eof()) {
+      if (!(numbers >> taps.emplace_back())) throw std::runtime_error(path + ": not a number in line: " + line);
+    }
   }
   if (taps.empty()) throw std::runtime_error(path + ": no taps");
   return taps;

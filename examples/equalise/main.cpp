@@ -61,7 +61,7 @@ int run(int argc, char** argv) {
   const Vector<Qvx16s> in = vector(qvxsMalloc_16s(most));
   const Vector<Qvx16s> out = vector(qvxsMalloc_16s(most));
   const Vector<Qvx16s> otherOut = vector(qvxsMalloc_16s(most));
-  for (int frames; (frames = reader.read(in.get())) > 0;) {
+  for (int frames; (frames = reader.readRounded(in.get())) > 0;) {
     equaliser.filter(in.get(), frames);
     equaliser.result(out.get(), frames);
     writer.write(out.get(), frames);

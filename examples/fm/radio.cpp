@@ -58,18 +58,10 @@ Iir deemphasis(const Channel& channel) {
   return Iir(state);
 }
 
-std::vector<float> readFirstChannel(const std::string& path) {
+std::vector<float> readAudio(const std::string& path) {
   AudioReader in(path);
   if (in.sampleRate() != kAudioRate) throw std::runtime_error(path + ": audio has to have 48000 Hz");
-  const auto channels = static_cast<size_t>(in.channels());
-  std::vector<float> frames(kBlockFrames * channels), all;
-  for (int n; (n = in.read(frames.data())) > 0;) {
-    for (size_t i = 0; i < static_cast<size_t>(n); ++i) all.push_back(frames[i * channels]);
-  }
-  if (all.empty()) throw std::runtime_error(path + ": holds no samples");
-  if (!std::all_of(all.begin(), all.end(), [](float x) { return std::isfinite(x); }))
-    throw std::runtime_error(path + ": holds samples that are no finite numbers");
-  return all;
+  return readFirstChannel(in);
 }
 
 void pick(const float* src, int n, int every, float* dst) {
@@ -133,7 +125,7 @@ double signalToNoise(const std::vector<float>& original, const std::vector<float
 }  // namespace
 
 void transmit(const Channel& channel, const std::string& audio, const Recording& recording) {
-  std::vector<float> x = readFirstChannel(audio);
+  std::vector<float> x = readAudio(audio);
   AudioWriter out(recording.path, format(recording), 2, kIqRate, {audio});
   constexpr int kUp = kIqRate / kAudioRate;
   x.resize(x.size() + kDelay);  // what the filters still hold at the end
@@ -170,7 +162,7 @@ double receive(const Channel& channel, const Recording& recording, const std::st
   AudioReader in = recording.isRaw ? AudioReader(recording.path, format(recording), 2, kIqRate) : AudioReader(recording.path);
   if (in.channels() != 2) throw std::runtime_error(recording.path + ": a complex recording has two channels");
   if (in.sampleRate() != kIqRate) throw std::runtime_error(recording.path + ": a recording has to have 480000 Hz");
-  const std::vector<float> reference = original.empty() ? std::vector<float>() : readFirstChannel(original);
+  const std::vector<float> reference = original.empty() ? std::vector<float>() : readAudio(original);
   AudioWriter out(output, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1, kAudioRate, {recording.path, original});
   Receiver receiver(channel);
   std::vector<Qvx32fc> iq(kBlock);

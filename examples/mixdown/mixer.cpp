@@ -33,7 +33,7 @@ void Level::add(const Qvx32f* signal, int len) {
     const double x = signal[i];
     peak = std::max(peak, std::abs(x));
     squares += x * x;
-    clipped += !(x >= -1 && x <= 32767.0 / 32768);
+    clipped += x < -1 || x > 32767.0 / 32768;
   }
   samples += len;
 }

@@ -14,16 +14,10 @@ namespace {
 std::vector<double> design(const Specification& s) {
   std::vector<double> taps(2 * static_cast<size_t>(s.order) + 2);
   const auto generate = s.isHighPass ? qvxsIIRGenHighpass_64f : qvxsIIRGenLowpass_64f;
-  switch (generate(s.frequency / s.sampleRate, s.ripple, s.order, taps.data(), s.ripple > 0 ? 1 : 0)) {
-    case qvxStatOk:
-      return taps;
-    case qvxStatBadCutoff:
-      throw std::runtime_error("the edge has to be above 0 and below half the sampling rate");
-    case qvxStatBadGenParam:
-      throw std::runtime_error("the ripple has to be 29 dB at most");
-    default:
-      throw std::runtime_error("the order has to be from 1 to 12");
-  }
+  const QvxStatus status = generate(s.frequency / s.sampleRate, s.ripple, s.order, taps.data(), s.ripple > 0 ? 1 : 0);
+  if (status == qvxStatBadCutoff) throw std::runtime_error("the edge has to be above 0 and below half the sampling rate");
+  check(status);
+  return taps;
 }
 
 struct FreeState {

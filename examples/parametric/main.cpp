@@ -17,9 +17,9 @@ struct Options {
 void declare(Arguments app, const char* name, bool isHighPass, Options& options) {
   Arguments command = app.command(name, isHighPass ? "A high-pass filter" : "A low-pass filter");
   command.option("-f,--frequency", options.filter.frequency, "The edge in Hz: 3 dB down, or the ripple").required();
-  command.option("-n,--order", options.filter.order, "1 to 12").showDefault();
+  command.option("-n,--order", options.filter.order, "1 to 12").range(1, 12).showDefault();
   command.option("-r,--ripple", options.filter.ripple, "Ripple of the pass band in dB: Chebyshev; 0 is Butterworth")
-      .notNegative()
+      .range(0.0, 29.0)
       .showDefault();
   command.option("-s,--rate", options.filter.sampleRate, "Sampling rate in Hz").positive().showDefault();
   command.option("-p,--plot", options.plot, "Draw the response into this .png or .svg file, or with letters for -");

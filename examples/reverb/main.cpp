@@ -25,7 +25,7 @@ void declare(Arguments app, Options& options) {
       .range(0.01, 20.0)
       .excludes(response)
       .showDefault();
-  app.option("-w,--wet", options.wet, "The level of the room beside the recording, in dB").showDefault();
+  app.option("-w,--wet", options.wet, "The level of the room beside the recording, in dB").range(-200.0, 100.0).showDefault();
 }
 
 void printDecay(const std::vector<Qvx32f>& response, int sampleRate) {
@@ -55,7 +55,7 @@ int run(int argc, char** argv) {
   Room room(response, reader.channels());
   const double wet = std::pow(10, options.wet / 20);
   std::vector<Qvx16s> block(static_cast<size_t>(kBlockFrames * reader.channels()));
-  for (int frames; (frames = reader.read(block.data())) > 0;) {
+  for (int frames; (frames = reader.readRounded(block.data())) > 0;) {
     room.play(block.data(), frames, wet);
     writer.write(block.data(), frames);
   }

@@ -7,10 +7,10 @@
 namespace {
 
 // So that white noise is as loud in the room as outside.
-void normalise(std::vector<Qvx32f>& response) {
+void normalise(std::vector<Qvx32f>& response, const std::string& name) {
   Qvx32f norm = 0;
   check(qvxsNorm_L2_32f(response.data(), static_cast<int>(response.size()), &norm));
-  if (!(norm > 0)) throw std::runtime_error("the response is silent");
+  if (!(norm > 0)) throw std::runtime_error(name + ": silent");
   check(qvxsMulC_32f_I(1 / norm, response.data(), static_cast<int>(response.size())));
 }
 
@@ -19,14 +19,8 @@ void normalise(std::vector<Qvx32f>& response) {
 std::vector<Qvx32f> readResponse(const std::string& path, int sampleRate) {
   AudioReader reader(path);
   if (reader.sampleRate() != sampleRate) throw std::runtime_error(path + ": another sampling rate than the recording's");
-  const auto channels = static_cast<size_t>(reader.channels());
-  std::vector<Qvx32f> response;
-  std::vector<Qvx32f> block(kBlockFrames * channels);
-  for (int frames; (frames = reader.read(block.data())) > 0;) {
-    for (size_t i = 0; i < static_cast<size_t>(frames); ++i) response.push_back(block[i * channels]);
-  }
-  if (response.empty()) throw std::runtime_error(path + ": no samples");
-  normalise(response);
+  std::vector<Qvx32f> response = readFirstChannel(reader);
+  normalise(response, path);
   return response;
 }
 
@@ -39,7 +33,7 @@ std::vector<Qvx32f> decayingNoise(double seconds, int sampleRate) {
   check(qvxsVectorRamp_32f(level.data(), length, 0, static_cast<Qvx32f>(-3 * std::log(10.0) / length)));
   check(qvxsExp_32f_I(level.data(), length));
   check(qvxsMul_32f_I(level.data(), response.data(), length));
-  normalise(response);
+  normalise(response, "the noise");
   return response;
 }
 

@@ -44,7 +44,7 @@ int run(int argc, char** argv) {
   make.option("-o,--output", output, "The 16-bit WAV file to write").required();
   make.option("-f,--frequency", signal.frequency, "Hz; where a sweep begins").positive().showDefault();
   make.option("-t,--to", signal.last, "Hz, where a sweep ends").positive().showDefault();
-  make.option("-l,--level", signal.level, "Of the peak, dB below full scale; of gauss, of the standard deviation")
+  make.option("-l,--level", signal.level, "Of the peak in dBFS; of gauss, of the standard deviation")
       .range(-80.0, 0.0)
       .showDefault();
   make.option("-a,--asymmetry", signal.asymmetry, "Of a triangle: from -1, a sawtooth that rises, to 1, one that falls")

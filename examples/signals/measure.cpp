@@ -27,7 +27,7 @@ std::vector<double> firstChannel(AudioReader& input) {
   for (int frames; samples.size() < size_t{1} << kMostOrder && (frames = input.read(block.data())) > 0;) {
     for (int i = 0; i < frames; ++i) samples.push_back(block[static_cast<size_t>(i) * static_cast<size_t>(input.channels())]);
   }
-  if (samples.size() < size_t{1} << kLeastOrder) throw std::runtime_error(input.path() + ": has less than 512 samples");
+  if (samples.size() < size_t{1} << kLeastOrder) throw std::runtime_error(input.path() + ": has fewer than 512 samples");
   samples.resize(std::min(std::bit_floor(samples.size()), size_t{1} << kMostOrder));
   return samples;
 }

@@ -7,8 +7,8 @@
 #include "windows.h"
 
 struct Measured {
-  double rms;                     // dB below full scale
-  double peak;                    // dB below full scale
+  double rms;                     // dBFS
+  double peak;                    // dBFS
   bool isTonal;                   // one component has at least half of the power
   double frequency;               // of that component, Hz
   double distortion;              // its harmonics beside it, dB

@@ -1,10 +1,17 @@
 #include "arguments.h"
 
 #include <CLI/CLI.hpp>
+#include <cmath>
 #include <cstddef>
 #include <cstdlib>
+#include <type_traits>
 
 namespace {
+
+// Ranges let NaN through.
+std::string checkFinite(const std::string& number) {
+  return std::isfinite(std::strtod(number.c_str(), nullptr)) ? "" : number + " is not a finite number";
+}
 
 Option& with(Option& self, CLI::Option* option, CLI::Validator validator) {
   option->check(std::move(validator));
@@ -18,7 +25,6 @@ Option& Option::existingFile() { return with(*this, option_, CLI::ExistingFile);
 Option& Option::range(int least, int most) { return with(*this, option_, CLI::Range(least, most)); }
 Option& Option::range(double least, double most) { return with(*this, option_, CLI::Range(least, most)); }
 Option& Option::positive() { return with(*this, option_, CLI::PositiveNumber); }
-Option& Option::notNegative() { return with(*this, option_, CLI::NonNegativeNumber); }
 Option& Option::oneOf(const std::vector<int>& values) { return with(*this, option_, CLI::IsMember(values)); }
 Option& Option::oneOf(const std::vector<std::string>& names) { return with(*this, option_, CLI::IsMember(names)); }
 Option& Option::needs(const Option& other) { return option_->needs(other.option_), *this; }
@@ -45,7 +51,9 @@ Arguments Arguments::either(const std::string& name) {
 }
 
 template <class T> Option Arguments::option(const std::string& names, T& value, const std::string& description) {
-  return Option(app_->add_option(names, value, description));
+  CLI::Option* const option = app_->add_option(names, value, description);
+  if constexpr (std::is_same_v<T, double> || std::is_same_v<T, std::vector<double>>) option->check(checkFinite);
+  return Option(option);
 }
 template Option Arguments::option(const std::string&, int&, const std::string&);
 template Option Arguments::option(const std::string&, unsigned&, const std::string&);

@@ -22,7 +22,6 @@ class Option {
   Option& range(int least, int most);
   Option& range(double least, double most);
   Option& positive();
-  Option& notNegative();
   Option& oneOf(const std::vector<int>& values);
   Option& oneOf(const std::vector<std::string>& names);
   template <class Value> Option& oneOf(const std::map<std::string, Value>& named) {

@@ -1,12 +1,12 @@
 #include "audio.h"
 
 #include <filesystem>
-#include <stdexcept>
 
 namespace {
 
 // The sizes in a WAV file have 32 bits, and the headers are far below 1 KiB.
 constexpr int64_t kWavBytes = UINT32_MAX - 1024;
+constexpr size_t kMostFrames = size_t{1} << 27;
 
 const std::string& other(const std::string& path, const std::vector<std::string>& inputs) {
   for (const std::string& input : inputs) {
@@ -30,6 +30,24 @@ AudioReader::AudioReader(const std::string& path, int format, int channels, int 
 int AudioReader::got(sf_count_t frames) const {
   if (file_.error() != SF_ERR_NO_ERROR) throw std::runtime_error(path_ + ": " + file_.strError());
   return static_cast<int>(frames);
+}
+
+int AudioReader::readRounded(Qvx16s* dst) {
+  floats_.resize(static_cast<size_t>(kBlockFrames * channels()));
+  const int frames = read(floats_.data());
+  if (frames > 0) check(qvxsConvert_32f16s_Sfs(floats_.data(), dst, frames * channels(), qvxRoundNearestEven, -15));
+  return frames;
+}
+
+std::vector<Qvx32f> readFirstChannel(AudioReader& in) {
+  const auto channels = static_cast<size_t>(in.channels());
+  std::vector<Qvx32f> frames(kBlockFrames * channels), all;
+  for (int n; (n = in.read(frames.data())) > 0;) {
+    for (size_t i = 0; i < static_cast<size_t>(n); ++i) all.push_back(frames[i * channels]);
+    if (all.size() > kMostFrames) throw std::runtime_error(in.path() + ": is too long");
+  }
+  if (all.empty()) throw std::runtime_error(in.path() + ": holds no samples");
+  return all;
 }
 
 AudioWriter::AudioWriter(const std::string& path, int format, int channels, int sampleRate,
@@ -63,4 +81,15 @@ void AudioWriter::count(int frames, int sampleBytes) {
 
 void AudioWriter::verify(bool written) const {
   if (!written) throw std::runtime_error(path_ + ": " + file_.strError());
+}
+
+void writeRecording(const std::vector<Qvx32f>& samples, const std::string& path, int sampleRate,
+                    const std::vector<std::string>& inputs) {
+  AudioWriter out(path, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1, sampleRate, inputs);
+  std::vector<Qvx16s> block(kBlockFrames);
+  for (size_t at = 0; at < samples.size(); at += kBlockFrames) {
+    const int n = static_cast<int>(std::min<size_t>(kBlockFrames, samples.size() - at));
+    check(qvxsConvert_32f16s_Sfs(samples.data() + at, block.data(), n, qvxRoundNearestEven, -15));
+    out.write(block.data(), n);
+  }
 }

@@ -3,11 +3,15 @@
 
 #include <qvx/qvxs.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <memory>
 #include <new>
 #include <sndfile.hh>
+#include <stdexcept>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 // Vectors of the library that release themselves: vector(qvxsMalloc_32f(len)).
@@ -38,8 +42,18 @@ class AudioReader {
   int64_t frames() const { return file_.frames(); }  // SF_COUNT_MAX if the file does not tell
   int subtype() const { return file_.format() & SF_FORMAT_SUBMASK; }
 
-  // The next block, at most kBlockFrames: the number of frames, 0 at the end.
-  template <class T> int read(T* dst, int frames = kBlockFrames) { return got(file_.readf(dst, frames)); }
+  // The next block, at most kBlockFrames: the number of frames, 0 at the end. Floats are finite numbers, or it throws. Integers
+  // are only for files that hold such, of no more bits: libsndfile drops the rest, and takes floats for whole numbers.
+  template <class T> int read(T* dst, int frames = kBlockFrames) {
+    const int read = got(file_.readf(dst, frames));
+    if constexpr (std::is_floating_point_v<T>) {
+      if (!std::all_of(dst, dst + int64_t{read} * channels(), [](T x) { return std::isfinite(x); }))
+        throw std::runtime_error(path_ + ": holds samples that are not finite numbers");
+    }
+    return read;
+  }
+  // The same of any file, rounded to 16 bits.
+  int readRounded(Qvx16s* dst);
   // The same of the bytes that the file holds, for formats of one byte a sample.
   int readBytes(Qvx8u* dst) { return got(file_.readRaw(dst, int64_t{kBlockFrames} * channels()) / channels()); }
 
@@ -48,7 +62,11 @@ class AudioReader {
 
   std::string path_;
   SndfileHandle file_;
+  std::vector<Qvx32f> floats_;
 };
+
+// All of a file's first channel. Throws if there are no samples, or more than 2^27: 45 minutes at 48 kHz.
+std::vector<Qvx32f> readFirstChannel(AudioReader& in);
 
 class AudioWriter {
  public:
@@ -67,3 +85,7 @@ class AudioWriter {
   SndfileHandle file_;
   int64_t bytes_ = 0;
 };
+
+// A WAV file of one channel and 16 bits, of samples whose full scale is 1.
+void writeRecording(const std::vector<Qvx32f>& samples, const std::string& path, int sampleRate,
+                    const std::vector<std::string>& inputs);

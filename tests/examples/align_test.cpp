@@ -1,4 +1,4 @@
-// The align program on noise that is later, earlier, turned over, or not there.
+// The align program on noise that is later, earlier, inverted, or not there.
 #include <random>
 
 #include "program.h"
@@ -31,11 +31,11 @@ class Align : public ProgramTest {
 TEST_F(Align, findsTheDelay) {
   writeNoise("early.wav", 2000, 20000);
   writeNoise("late.wav", 1500, 15000);  // begins 500 samples earlier in the noise, so that all of it comes 500 later
-  writeNoise("turned.wav", 2003, 9000, -1);
+  writeNoise("inverted.wav", 2003, 9000, -1);
   expectDelay("early.wav late.wav", 500);
   expectDelay("late.wav early.wav", -500);
   expectDelay("early.wav early.wav", 0);
-  expectDelay("early.wav turned.wav -m 10", -3, true);
+  expectDelay("early.wav inverted.wav -m 10", -3, true);
 }
 
 TEST_F(Align, refusesWhatItCannotUse) {
@@ -45,7 +45,8 @@ TEST_F(Align, refusesWhatItCannotUse) {
   expectRefused({{"noise.wav silent.wav", "silent.wav: silent"},
                  {"noise.wav other.wav", "other.wav: another sampling rate"},
                  {"noise.wav missing.wav", "missing.wav"},
-                 {"noise.wav noise.wav -m 0", "0 not in range"}});
+                 {"noise.wav noise.wav -m 0", "0 not in range"},
+                 {"noise.wav noise.wav -m nan", "--most: nan is not a finite number"}});
 }
 
 }  // namespace

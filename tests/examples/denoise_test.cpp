@@ -63,10 +63,11 @@ TEST_F(Denoise, givesBackWhatItDoesNotThreshold) {
 TEST_F(Denoise, refusesWhatItCannotDo) {
   write("x.wav", std::vector<short>(1000, 100), SF_FORMAT_WAV | SF_FORMAT_PCM_16);
   write("none.wav", std::vector<short>(), SF_FORMAT_WAV | SF_FORMAT_PCM_16);
-  expectRefused({{"none.wav -o out.wav", "has no samples"},
+  expectRefused({{"none.wav -o out.wav", "holds no samples"},
                  {"missing.wav -o out.wav", "missing.wav"},
                  {"x.wav", "output"},
                  {"x.wav -o out.wav --levels 0", "levels"},
+                 {"x.wav -o out.wav --add-noise 1", "add-noise"},
                  {"x.wav -o out.wav --noisy n.wav", "add-noise"}});
   expectOutputsGuarded("", "x.wav");
 }

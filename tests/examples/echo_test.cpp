@@ -72,7 +72,7 @@ TEST_F(Echo, refusesWhatItCannotDo) {
   write("x.wav", std::vector<short>(100, 1000), SF_FORMAT_WAV | SF_FORMAT_PCM_16);
   write("fast.wav", std::vector<short>(100, 1000), SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1, 16000);
   write("none.wav", std::vector<short>(), SF_FORMAT_WAV | SF_FORMAT_PCM_16);
-  expectRefused({{"make none.wav -o out.wav", "has no samples"},
+  expectRefused({{"make none.wav -o out.wav", "holds no samples"},
                  {"cancel x.wav fast.wav -o out.wav", "another sample rate"},
                  {"cancel x.wav x.wav -o out.wav --taps 0", "taps"},
                  {"make x.wav", "output"},

@@ -56,14 +56,20 @@ TEST_F(Equalise, equalsTheFilterComputedSampleBySample) {
     EXPECT_EQ(differing, 0);
   }
   EXPECT_EQ(compared, 2);
+  // The same samples in a file of floats.
+  write("float.wav", asFloats(x), SF_FORMAT_WAV | SF_FORMAT_FLOAT, 2);
+  ASSERT_EQ(run("float.wav -t taps.txt -o again.wav -b 700").exitCode, 0);
+  EXPECT_EQ(read16s("again.wav", SF_FORMAT_PCM_16, 2), y);
 }
 
 TEST_F(Equalise, refusesWhatItCannotUse) {
   writeNoise("in.wav", 1, 10);
   std::ofstream(at("words.txt")) << "0.5 half\n";
+  std::ofstream(at("huge.txt")) << "1 1e60\n";
   std::ofstream(at("none.txt")) << "# nothing\n";
   std::ofstream(at("one.txt")) << "1\n";
-  expectRefused({{"in.wav -t words.txt -o out.wav", "words.txt"},
+  expectRefused({{"in.wav -t words.txt -o out.wav", "words.txt: not a number in line: 0.5 half"},
+                 {"in.wav -t huge.txt -o out.wav", "huge.txt: not a number"},
                  {"in.wav -t none.txt -o out.wav", "none.txt"},
                  {"in.wav -t missing.txt -o out.wav", "missing.txt"},
                  {"in.wav -t one.txt -o out.wav -b 0", "0 not in range"}});

@@ -69,7 +69,7 @@ TEST_F(Fm, refusesWhatItCannotDo) {
                  {"transmit absent.wav -o out.wav", "File does not exist"},
                  {"transmit slow.wav -o out.wav", "48000 Hz"},
                  {"transmit none.wav -o out.wav", "holds no samples"},
-                 {"transmit nan.wav -o out.wav", "no finite numbers"},
+                 {"transmit nan.wav -o out.wav", "not finite numbers"},
                  {"receive slow.wav -o out.wav", "two channels"},
                  {"receive mono.wav -o out.wav", "two channels"},
                  {"receive iq.wav -o out.wav --bits 12", "12 not in"},

@@ -1,6 +1,5 @@
 // The loudness program on recordings whose levels are known.
 #include <cmath>
-#include <limits>
 
 #include "program.h"
 
@@ -64,11 +63,9 @@ TEST_F(LoudnessTest, CountsAShorterBlockAtTheEnd) {
 
 TEST_F(LoudnessTest, RefusesWhatItCannotDo) {
   write("none.wav", std::vector<float>(), SF_FORMAT_WAV | SF_FORMAT_FLOAT);
-  write("nan.wav", std::vector<float>(100, std::numeric_limits<float>::quiet_NaN()), SF_FORMAT_WAV | SF_FORMAT_FLOAT);
   expectRefused({{"", "file is required"},
                  {"absent.wav", "File does not exist: absent.wav"},
                  {"none.wav", "none.wav: holds no samples"},
-                 {"nan.wav", "nan.wav: holds samples that are no finite numbers"},
                  {"none.wav -b 0", "0 not in range"}});
 }
 

@@ -127,6 +127,7 @@ TEST_F(Mixdown, refusesWhatItCannotMix) {
                  {"mono.wav stereo.wav three.wav -o out.wav", "stereo.wav has 2 channels, but three.wav has 3 channels"},
                  {"mono.wav -g 1 -g 2 -o out.wav", "more gains than files"},
                  {"mono.wav -g loud -o out.wav", "loud"},
+                 {"mono.wav -g 0 -g nan -o out.wav", "--gain: nan is not a finite number"},
                  {"mono.wav -r up -o out.wav", "up not in"},
                  {"mono.wav", "--output is required"}});
   expectOutputsGuarded("", "mono.wav");

@@ -55,8 +55,9 @@ TEST_F(Parametric, PrintsAndDraws) {
 TEST_F(Parametric, SaysWhatItCannotDo) {
   writeSines("in.wav", {100}, 10);
   expectRefused({{"low -f 24000", "half the sampling rate"},
-                 {"low -f 100 -n 13", "1 to 12"},
-                 {"low -f 100 -r 30", "29 dB"},
+                 {"low -f 100 -n 13", "13 not in range"},
+                 {"low -f 100 -n -5", "-5 not in range"},
+                 {"low -f 100 -r 30", "30 not in range"},
                  {"low -f 100 --plot x.gif", ".png or .svg"},
                  {"low -f 100 -s 8000 in.wav -o out.wav", "48000 Hz"},
                  {"low -f 100 in.wav -o in.wav", "is a file to read"}},

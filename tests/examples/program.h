@@ -76,6 +76,12 @@ class ProgramTest : public ::testing::Test {
     return samples;
   }
 
+  static std::vector<float> asFloats(const std::vector<short>& samples) {
+    std::vector<float> floats;
+    for (const short x : samples) floats.push_back(static_cast<float>(x) / 32768);
+    return floats;
+  }
+
   std::string text(const std::string& name) const {
     std::stringstream all;
     all << std::ifstream(at(name)).rdbuf();

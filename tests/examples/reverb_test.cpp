@@ -32,6 +32,10 @@ TEST_F(Reverb, addsTheConvolutionAndItsTail) {
     for (size_t k = 0; k < h.size() && 2 * k <= i; ++k) sum += i - 2 * k < x.size() ? wet * h[k] * x[i - 2 * k] : 0;
     ASSERT_NEAR(y[i], std::clamp(sum, -32768.0, 32767.0), 0.6) << i;
   }
+  // The same samples in a file of floats.
+  write("float.wav", asFloats(x), SF_FORMAT_WAV | SF_FORMAT_FLOAT, 2);
+  ASSERT_EQ(run("float.wav -r room.wav -w -6 -o again.wav").exitCode, 0);
+  EXPECT_EQ(read16s("again.wav", SF_FORMAT_PCM_16, 2), y);
 }
 
 // What is left of a room of 60 dB in half a second falls by 6 dB a step of ten.
@@ -56,7 +60,8 @@ TEST_F(Reverb, refusesWhatItCannotUse) {
   write("in.wav", std::vector<short>(10, 1), SF_FORMAT_WAV | SF_FORMAT_PCM_16);
   write("silent.wav", std::vector<short>(10, 0), SF_FORMAT_WAV | SF_FORMAT_PCM_16);
   write("other.wav", std::vector<short>(10, 1), SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1, 44100);
-  expectRefused({{"in.wav -r silent.wav -o out.wav", "silent"},
+  expectRefused({{"in.wav -r silent.wav -o out.wav", "silent.wav: silent"},
+                 {"in.wav -w 1e9 -o out.wav", "not in range"},
                  {"in.wav -r other.wav -o out.wav", "other.wav: another sampling rate"},
                  {"in.wav -s 0 -o out.wav", "0 not in range"},
                  {"missing.wav -o out.wav", "missing.wav"}});

@@ -105,7 +105,7 @@ TEST_F(Signals, DrawsAndRefuses) {
   expectRefused({{"make noise -o out.wav", "noise not in"},
                  {"make tone -f 24000 -o out.wav", "below half the sampling rate"},
                  {"make tone -s 0 -o out.wav", "below one sample"},
-                 {"measure short.wav", "less than 512 samples"}});
+                 {"measure short.wav", "fewer than 512 samples"}});
 }
 
 }  // namespace

@@ -83,13 +83,11 @@ TEST_F(SpectrogramTest, DrawsPictures) {
 }
 
 TEST_F(SpectrogramTest, RefusesWhatItCannotDo) {
-  write("nan.wav", std::vector<float>(100, NAN), kFloats, 1, kRate);
   write("none.wav", std::vector<float>(), kFloats, 1, kRate);
   write("tone.wav", std::vector<float>(100, 0.5F), kFloats, 1, kRate);
   expectRefused({{"", "A subcommand is required"},
                  {"tone", "file is required"},
                  {"bands absent.wav", "File does not exist: absent.wav"},
-                 {"bands nan.wav", "nan.wav: holds samples that are no finite numbers"},
                  {"tone none.wav", "none.wav: holds no samples"},
                  {"tone tone.wav --window 0", "0 not in range"},
                  {"draw tone.wav -o tone.gif", "tone.gif: a picture is a .png or .svg file, or -"},

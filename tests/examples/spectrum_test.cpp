@@ -94,7 +94,7 @@ TEST_F(SpectrumTest, RefusesWhatItCannotDo) {
   expectRefused({{"", "file is required"},
                  {"absent.wav", "File does not exist: absent.wav"},
                  {"text.wav", "text.wav: Format not recognised"},
-                 {"nan.wav", "nan.wav: holds samples that are no finite numbers"},
+                 {"nan.wav", "nan.wav: holds samples that are not finite numbers"},
                  {"none.wav", "none.wav: holds no samples"},
                  {"tone.wav -n 3", "3 not in range"},
                  {"tone.wav -o tone.gif", "tone.gif: a picture is a .png or .svg file, or -"},
