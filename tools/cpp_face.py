@@ -81,7 +81,6 @@ class Export:
         return [f'Qvx{t}' for token in self.name[4:].split('_') for t in re.findall(ELEMENT, (re.search(f'(?:{ELEMENT})+$', token) or [''])[0])]
 
 
-
 @dataclass
 class Row:
     names: list

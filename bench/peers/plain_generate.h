@@ -25,7 +25,7 @@ template <class T> struct NormalTwister {
   }
 };
 
-// The recurrence behind our own noise alone, one number after the other: what no way around it can beat.
+// The recurrence of our own noise alone, one number after the other: what no way around it can beat.
 struct BorrowChain {
   template <class T> void operator()(T* dst, int n, auto...) const {
     uint32_t a = 1, b = 2, c = 3, borrow = 0;

@@ -189,7 +189,7 @@ def summary(stem, blocks):
 # What refuses a call, from traits: only they list it for each function by name.
 
 def read_traits(folder):
-    """name without qvxs -> the statuses of its refusals."""
+    """A table for each file: its rows, each the patterns of names that it is for and its indented lines, in words."""
     tables = []
     for path in sorted(Path(folder).glob("*.traits")):
         if path.stem == "parameters":

@@ -93,7 +93,6 @@ def page(stem, families, statuses, tables, version):
         for status in statuses:
             if status.name in names | {"qvxStatOk"}:
                 out += [".TP", rf"\fB{status.name}\fP ({roff(str(status.value))})", words(status.meaning)]
-    near = [other for other in family.stems if other != stem]
     at = family.stems.index(stem)
     near = [s for s in family.stems[max(0, at - 6):at + 7] if s != stem]
     out += [".SH SEE ALSO", ", ".join([rf"\fB{other}\fP(3)" for other in sorted(near)] + [r"\fBqvxs\fP(7)"])]

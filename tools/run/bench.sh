@@ -41,7 +41,7 @@ bench() {
   best=$(variants | tail -n 1) variant=$best
   if [[ ${1:-} == --variant ]]; then
     variant=${2:-}
-    [[ " $(variants | tr '\n' ' ')" == *" $variant "* ]] || die "this processor has no variant \"$variant\""
+    [[ $variant && " $(variants | tr '\n' ' ')" == *" $variant "* ]] || die "this processor has no variant \"$variant\""
     shift 2
   fi
   local program=build/bench/bench/qvxs_bench_$variant fftw=$PWD/build/fftw/$variant/lib targets="qvxs_$variant qvxs_bench_$variant"
