@@ -257,7 +257,11 @@ class SparseIir(_Sparse):
 
 
 class _Bank(_Stream):
-    def __init__(self, stem, tail, dtype, low, high, offsets):
+    def __init__(self, stem, pair, dtype, low, high, offsets):
+        tail = TAGS.get(np.dtype(dtype))
+        if tail not in ("32f", "8u", "8s", "16u", "16s"):
+            raise TypeError(f"a filter bank takes no {np.dtype(dtype)}")
+        tail = tail if tail == "32f" else pair.format(tail)
         super().__init__(dtype)
         self._taps = [contiguous(np.atleast_1d(taps), np.float32) for taps in (low, high)]
         self._offsets = offsets
@@ -293,10 +297,7 @@ class WaveletSplit(_Bank):
     """
 
     def __init__(self, low, high, offsets=(0, 0), dtype=np.float32):
-        tail = TAGS.get(np.dtype(dtype))
-        if tail not in ("32f", "8u", "8s", "16u", "16s"):
-            raise TypeError(f"a filter bank takes no {np.dtype(dtype)}")
-        super().__init__("WTFwd", tail if tail == "32f" else tail + "32f", dtype, low, high, offsets)
+        super().__init__("WTFwd", "{}32f", dtype, low, high, offsets)
 
     def _kept(self, count):
         return count
@@ -321,10 +322,7 @@ class WaveletJoin(_Bank):
     """
 
     def __init__(self, low, high, offsets=(0, 0), dtype=np.float32):
-        tail = TAGS.get(np.dtype(dtype))
-        if tail not in ("32f", "8u", "8s", "16u", "16s"):
-            raise TypeError(f"a filter bank takes no {np.dtype(dtype)}")
-        super().__init__("WTInv", tail if tail == "32f" else "32f" + tail, dtype, low, high, offsets)
+        super().__init__("WTInv", "32f{}", dtype, low, high, offsets)
 
     def _kept(self, count):
         return count // 2
