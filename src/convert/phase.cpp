@@ -35,8 +35,7 @@ template <class T> struct AngleScaled {
     using F = std::remove_const_t<decltype(angle)>;
     const F scaled = angle * same<F>(factor);
     const F away = scaled + hn::CopySignToAbs(same<F>(0.5F), scaled);
-    constexpr auto kMost =
-        static_cast<float>(std::numeric_limits<T>::max());  // of 32 bits it is 2^31, which turns over to 2^31 - 1
+    constexpr auto kMost = static_cast<float>(std::numeric_limits<T>::max());  // of 32 bits it is 2^31, which wraps to 2^31 - 1
     const auto whole = toIntTruncated(hn::Min(away, same<F>(kMost)));
     if constexpr (sizeof(T) == 2) return convertLanes<T>(whole);
     else return whole ^ as<int32_t>(hn::VecFromMask(TagOf<F>(), away >= same<F>(kMost)));

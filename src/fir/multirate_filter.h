@@ -106,7 +106,7 @@ template <class R> class Branches {
   int64_t places_;
   Dealt<C> x_;
   const typename R::Branches* p_;
-  Branch step_ = {};  // from a branch to the next, and so many taps, told where there is a second one
+  Branch step_ = {};  // from a branch to the next, and so many taps; set where there is a second one
   int64_t branchLen_ = 0;
   Branch branch_;
   bool bySpectra_ = false;

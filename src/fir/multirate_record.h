@@ -26,7 +26,7 @@ template <class C> struct MultirateRecord : RecordHead {
   int stride;    // from one row to the next
   int done;      // periods that the rows still hold, of calls before: they are moved out only when their room is needed
   int firstRow;  // of the sample that the first output's first tap meets, and its place there without those of calls before:
-  int firstAt;   // told ahead, since the four divisions for them would take a call of 64 samples 12 ns
+  int firstAt;   // computed ahead, since the four divisions for them would take a call of 64 samples 12 ns
   C* rows;
   // In one row:
   int groupCount;

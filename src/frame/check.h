@@ -7,8 +7,9 @@
 
 namespace qvx {
 
-// How a function tests its length. Most take a plain int: pointers are tested first, then lengths below 1 are refused. The length
-// is tested before the pointers.
+// How a function tests its length. Most take a plain int: pointers are tested first, then lengths below 1 are refused.
+
+// Lengths below 1 are refused before the pointers are tested.
 struct LengthFirst {
   int count;
 };

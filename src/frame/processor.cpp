@@ -5,7 +5,7 @@
 namespace qvx {
 namespace {
 
-// 0 where nothing tells it.
+// 0 where the processor does not report it.
 unsigned family() {
   unsigned version = 0, unused = 0;
   if (__get_cpuid(1, &version, &unused, &unused, &unused) == 0) return 0;

@@ -11,7 +11,7 @@
 
 namespace qvx {
 
-// When a family divides its work. Forking costs 1 to 5 us.
+// When a family divides its work: that costs 0.3 us while the workers spin, 8 us where one has to be woken.
 struct TeamRule {
   size_t worthIt;            // elements from which two threads were measured to be faster
   bool everyThread = false;  // takes all threads, not just two
