@@ -36,18 +36,25 @@ template <class V> V shortFloor(V v) {
   return near - hn::IfThenElseZero(near > v, same<V>(1));
 }
 
+#if !QVXS_AVX512
+// Two whole numbers, either half of a 64-bit integer from 0 on in the lower bits of one; their sum is that integer.
+template <class V> auto halvesAsDoubles(V v) {
+  using W = Vec<hn::Rebind<double, TagOf<V>>>;
+  const auto units = as<uint32_t>(same<W>(0x1p52));
+  const W lower = as<double>(hn::OddEven(units, as<uint32_t>(v)));
+  const W upper = as<double>(hn::ShiftRight<32>(as<uint64_t>(v)) | as<uint64_t>(same<W>(0x1p84)));
+  return Pair<W>{lower, upper - same<W>(0x1p84 + 0x1p52)};
+}
+#endif
+
 // 64-bit integers from 0 on to doubles in the processor's rounding mode, which may give 0 either sign.
 template <class V> auto unsignedToDouble(V v) {
-  if constexpr (kHasMasks) {
-    return toDouble(v);
-  } else {  // either half in the lower bits of a double
-    using W = Vec<hn::Rebind<double, TagOf<V>>>;
-    const auto halves = as<uint32_t>(v);
-    const auto units = as<uint32_t>(same<W>(0x1p52));
-    const W lower = as<double>(hn::OddEven(units, halves));
-    const W upper = as<double>(hn::ShiftRight<32>(as<uint64_t>(v)) | as<uint64_t>(same<W>(0x1p84)));
-    return (upper - same<W>(0x1p84 + 0x1p52)) + lower;
-  }
+#if QVXS_AVX512
+  return toDouble(v);
+#else
+  const auto halves = halvesAsDoubles(v);
+  return halves.hi + halves.lo;
+#endif
 }
 
 // The integer part of numbers from 0 to 2^51. Without an instruction that rounds, it may be one too small, and the mode has to be

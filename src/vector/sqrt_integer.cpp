@@ -106,39 +106,70 @@ struct RootLengthened {
   }
 };
 
-#if QVXS_AVX512
-// The same with a factor of full precision for the step, which leaves 1 vector in 1000 to the squares: 8 elements take 15 cycles,
-// not 25.
+// The same up to 31 places, where nothing saturates, with a step of full precision: it leaves 1 vector in 1000 to the squares.
 struct NearRootLengthened {
+  static constexpr int kMaxPlaces = 31;
   int s;
 
   template <class V> V operator()(V x) const {
-    const V whole = hn::Max(x, same<V>(1));
-    const auto value = toDouble(whole);
+    const auto [value, low] = inTwoParts(x);
     using Real = std::remove_const_t<decltype(value)>;
-    const V low = whole - toInt64(value);  // exact: 2^63 becomes -2^63, which is as good
     const Real root = hn::Sqrt(value);
-    const Real rest = hn::NegMulAdd(root, root, value) + toDouble(low);
-    const Real near = nearReciprocalRoot(value);
-    const Real reciprocal = hn::MulAdd(near, hn::NegMulAdd(root, near, same<Real>(1)), near);
     const Real scaled = root * same<Real>(powerOfTwo<double>(s));
-    const Real integer = hn::Trunc(hn::Min(scaled, same<Real>(0x1p63)));
-    const Real factor = reciprocal * same<Real>(powerOfTwo<double>(s - 1));
-    const Real beyond = hn::Min(hn::MulAdd(rest, factor, scaled - integer), same<Real>(4096));
-    const Real step = hn::Round(beyond);
-    if (!hn::AllTrue(TagOf<Real>(), hn::Abs(beyond - step) < same<Real>(0.5 - 0x1p-14))) [[unlikely]]
+    const auto [coarse, fine] = split(scaled);
+    const Real beyond = fine + step(remainderOf(root, root, value) + low, value, root);
+    const Real whole = kRoundsByInstruction ? hn::Round(beyond) : (beyond + same<Real>(0x1.8p52)) - same<Real>(0x1.8p52);
+    if (!hn::AllTrue(TagOf<Real>(), hn::Abs(beyond - whole) < same<Real>(0.5 - 0x1p-14))) [[unlikely]]
       return bySquares(x);
-    const auto nearest = as<uint64_t>(toInt64(integer) + toInt64(step));
-    const auto most = same<std::remove_const_t<decltype(nearest)>>(INT64_MAX);
-    return hn::IfThenElseZero(x > same<V>(0), as<int64_t>(hn::Min(nearest, most)));
+    return coarse + shortWholeToInt64(whole);
   }
 
  private:
+  template <class Whole, class Real> struct Split {
+    Whole coarse;
+    Real fine;
+  };
+
+  // x as a double and what that lacks.
+  template <class V> static auto inTwoParts(V x) {
+#if QVXS_AVX512
+    const auto value = toDouble(x);
+    return Pair<std::remove_const_t<decltype(value)>>{value, toDouble(x - toInt64(value))};  // 2^63 becomes -2^63: as good
+#else
+    const auto halves = halvesAsDoubles(x);
+    const auto value = halves.hi + halves.lo;
+    return Pair<std::remove_const_t<decltype(value)>>{value, halves.lo - (value - halves.hi)};
+#endif
+  }
+
+  // A whole number that leaves less than 2^32 of v.
+  template <class V> static auto split(V v) {
+    if constexpr (kHasMasks) {
+      const V whole = hn::Round(v);
+      const auto coarse = toInt64(whole);
+      return Split<std::remove_const_t<decltype(coarse)>, V>{coarse, v - whole};
+    } else {
+      const V middle = same<V>(0x1.8p52);
+      const V upper = v * same<V>(0x1p-32) + middle;
+      const auto coarse = hn::ShiftLeft<32>(as<int64_t>(upper));
+      return Split<std::remove_const_t<decltype(coarse)>, V>{coarse, v - (upper - middle) * same<V>(0x1p32)};
+    }
+  }
+
+  // Of Newton's method: what the square lacks, over twice the root.
+  template <class V> V step(V rest, [[maybe_unused]] V value, [[maybe_unused]] V root) const {
+    const V half = same<V>(powerOfTwo<double>(s - 1));
+    const V one = same<V>(1);  // instead of zeros
+#if QVXS_AVX512
+    const V near = nearReciprocalRoot(hn::Max(value, one));
+    return rest * (hn::MulAdd(near, hn::NegMulAdd(root, near, one), near) * half);
+#else
+    return rest * half / hn::Max(root, one);
+#endif
+  }
+
   template <class V> [[gnu::noinline]] V bySquares(V x) const { return RootLengthened{s}(x); }
 };
-#else
-using NearRootLengthened = RootLengthened;
-#endif
 
 QvxStatus root64(const Qvx64s* src, Qvx64s* dst, int len, int sf) {
   using Root64s = IntegerRoot<Qvx64s, Qvx64s>;
@@ -148,7 +179,8 @@ QvxStatus root64(const Qvx64s* src, Qvx64s* dst, int len, int sf) {
   const int s = sf < -63 ? 63 : -sf;  // 1 times 2^63 saturates already
   const RoundingScope scope(kRootMode);
   const auto with = [&](auto root) { return loop(Root64s::kernel(root), destination(dst), elements(len), source(src)); };
-  return s <= kPlacesInLanes ? with(RootEnlarged<63>{s}) : with(NearRootLengthened{s});
+  if (s <= kPlacesInLanes) return with(RootEnlarged<63>{s});
+  return s <= NearRootLengthened::kMaxPlaces ? with(NearRootLengthened{s}) : with(RootLengthened{s});
 }
 
 using Root8u = IntegerRoot<Qvx8u, Qvx8u>;
