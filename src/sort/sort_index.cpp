@@ -3,6 +3,7 @@
 // Different elements have one order, which is found the fast way. Equal ones are only seen when that is done: then the elements
 // go back to where they were, and the steps that tell their order are taken one by one.
 #include "frame/check.h"
+#include "frame/rounding.h"
 #include "sort/documented_order.h"
 #include "sort/pairs.h"
 #include "sort/quicksort.h"
@@ -25,7 +26,29 @@ template <class T> [[gnu::noinline]] void restore(T* x, int32_t* places, size_t 
   }
 }
 
+// In any mode of the caller, subnormal numbers are in the order of their keys, as they are among different elements. For the rest
+// of the scope they are no zeros to the processor, if T has any.
+template <class T> class SubnormalScope {
+ public:
+  SubnormalScope() {
+    if constexpr (std::is_floating_point_v<T>) {
+      saved_ = controlWord();
+      if ((saved_ & kTakesForZeros) != 0) setControlWord(saved_ & ~kTakesForZeros);
+    }
+  }
+  ~SubnormalScope() {
+    if ((saved_ & kTakesForZeros) != 0) setControlWord(saved_);
+  }
+  SubnormalScope(const SubnormalScope&) = delete;
+  SubnormalScope& operator=(const SubnormalScope&) = delete;
+
+ private:
+  static constexpr uint32_t kTakesForZeros = 0x0040;
+  uint32_t saved_ = 0;
+};
+
 template <Order kOrder, class T> void sortAsTold(T* x, int32_t* places, size_t n) {
+  const SubnormalScope<T> scope;
   fillNumbers(places, n);
   DocumentedOrder<kOrder, T>(x, places).sort(static_cast<ptrdiff_t>(n));
 }

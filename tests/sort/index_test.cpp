@@ -1,5 +1,6 @@
 // Sorts that return the old indices of the elements.
 #include <gtest/gtest.h>
+#include <immintrin.h>
 #include <qvx/qvxs.h>
 
 #include <chrono>
@@ -134,6 +135,30 @@ TEST(SortIndex, TellsElementsThatDifferInTheirLastBits) {
   expect(qvxsSortIndexAscend_32s_I, std::numeric_limits<Qvx32s>::min());
   expect(qvxsSortIndexAscend_32f_I, std::numeric_limits<Qvx32f>::lowest());
   expect(qvxsSortIndexAscend_64f_I, std::numeric_limits<Qvx64f>::lowest());
+}
+
+// Among equal elements, which make the difference between two ways of sorting.
+TEST(SortIndex, TellsSubnormalNumbersFromZerosWhereTheCallerFlushesThem) {
+  Random random(tests::seed());
+  const auto expect = [&](auto function, auto least) {
+    using T = decltype(least);
+    for (size_t n = 2; n < 600; n += n / 8 + 1) {
+      std::vector<T> x(n);
+      for (T& v : x) v = static_cast<T>(static_cast<int64_t>(random() % 9) - 4) * (random() % 8 == 0 ? T(1) : least);
+      const Sorted<T> usual = sorted<T>(function, x);
+      const unsigned control = _mm_getcsr();
+      _mm_setcsr(control | 0x8040);
+      const Sorted<T> flushed = sorted<T>(function, x);
+      const unsigned after = _mm_getcsr();
+      _mm_setcsr(control);
+      EXPECT_EQ(after | _MM_EXCEPT_MASK, control | 0x8040 | _MM_EXCEPT_MASK);
+      ASSERT_EQ(flushed.places, usual.places) << "length " << n;
+      ASSERT_EQ(std::memcmp(flushed.x.data(), usual.x.data(), n * sizeof(T)), 0) << "length " << n;
+    }
+  };
+  expect(qvxsSortIndexAscend_32f_I, std::numeric_limits<Qvx32f>::denorm_min());
+  expect(qvxsSortIndexDescend_32f_I, std::numeric_limits<Qvx32f>::denorm_min());
+  expect(qvxsSortIndexAscend_64f_I, std::numeric_limits<Qvx64f>::denorm_min());
 }
 
 // The least time of several runs, in seconds.
