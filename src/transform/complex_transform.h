@@ -104,12 +104,14 @@ template <class T, class Src, class Dst, class Scale>
                                factorOf<T>(scale));
   }
   if (threads > 1) return runPassesInTeam<L>(threads, plan.plan, src, dst, y, scale);
+  constexpr size_t kShort = size_t{1} << kShortOrder<Src>;
   switch (foldOf<T>(plan.n)) {
     case Fold::kSquare:
-      if constexpr (L >= 8 && !kServesInterleaved<Src>) return foldedTransform<L * L, L>(src, dst, plan.plan.rowTwiddles, scale);
+      if constexpr (L * L > kShort && !kServesInterleaved<Src>)
+        return foldedTransform<L * L, L>(src, dst, plan.plan.rowTwiddles, scale);
       break;
     case Fold::kHalves:
-      if constexpr (L >= 16) return foldedTransform<L * L / 2, L>(src, dst, plan.plan.rowTwiddles, scale);
+      if constexpr (L * L / 2 > kShort) return foldedTransform<L * L / 2, L>(src, dst, plan.plan.rowTwiddles, scale);
       break;
     case Fold::kNone:
       break;

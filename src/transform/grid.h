@@ -31,20 +31,12 @@ template <class Step> QVX_INLINE void withGridRadix(size_t radix, Step step) {
   switch (radix) {
     case 18:
       return step(std::integral_constant<size_t, 18>());
-    case 20:
-      return step(std::integral_constant<size_t, 20>());
-    case 24:
-      return step(std::integral_constant<size_t, 24>());
-    case 25:
-      return step(std::integral_constant<size_t, 25>());
-    case 27:
-      return step(std::integral_constant<size_t, 27>());
     case 30:
       return step(std::integral_constant<size_t, 30>());
     case 32:
       return step(std::integral_constant<size_t, 32>());
     default:
-      return withMixedRadix(radix, step);
+      return withLaterRadix(radix, step);
   }
 }
 constexpr uint32_t costInGrid(size_t radix) {

@@ -5,7 +5,7 @@
 #include <bit>
 #include <span>
 
-#include "transform/mixed_passes.h"
+#include "transform/large_prime_passes.h"
 #include "transform/plan.h"
 
 namespace qvx::transform {
@@ -81,7 +81,7 @@ template <class T> struct MixedPlan {
 // what they take by 8, 25 and 25).
 constexpr uint32_t costOfRadix(size_t radix) {
   constexpr uint16_t kCosts[] = {0, 0,   12,  24, 32, 48, 64,  88,  80, 130, 120, 190, 150, 250,
-                                 0, 225, 236, 0,  0,  0,  345, 430, 0,  0,   470, 520, 0,   640};
+                                 0, 225, 236, 0,  0,  0,  345, 470, 0,  0,   470, 520, 0,   640};
   if (isLargePrime(radix)) return static_cast<uint32_t>(radix / 2 * (radix / 2) * 6 + 20 * radix);
   return kHasMasks || radix < 8 ? kCosts[radix] : kCosts[radix] * 5 / 4;
 }
@@ -149,8 +149,10 @@ template <class T> class MixedPlanner {
       const uint64_t here =
           s == 1 ? uint64_t{vectors(m)} * costOfFirst(radix) : uint64_t{vectors(s)} * m * (costOfRadix(radix) + radix * memory);
       // The last pass has no twiddles, but interleaves, for which large radices lack registers: 1536 complex doubles take 0.87 by
-      // 8, 16 and 12 of what they take by 8, 12 and 16. A tile's first pass lacks them sooner.
-      const bool isLarge = radix >= (kHasMasks && columns_ == 1 ? 15 : 24);
+      // 8, 16 and 12 of what they take by 8, 12 and 16. A tile's first pass lacks them sooner. Past the nearest cache results go
+      // to that many places, twice the lines: 10000 complex doubles take 0.94 by 8, 10, 25 and 5 of what they take by 8, 5, 25
+      // and 10.
+      const bool isLarge = radix >= (!kHasMasks || columns_ > 1 ? 24 : fitsNearest ? 15 : 6);
       const uint64_t last = !isLarge ? here - vectors(s) * radix : radix < 24 ? here : here + here / 16;
       const uint64_t cost = (m > 1 ? here : last) + after + pass;
       if (cost < best_[i]) {
@@ -163,7 +165,8 @@ template <class T> class MixedPlanner {
   // they take by 16, 15 and 20.
   static uint32_t costOfFirst(size_t radix) {
     const auto transpositions = static_cast<uint32_t>((radix + kWidest<T> / 2 - 1) / kWidest<T>);
-    const uint32_t cost = costOfRadix(radix) + transpositions * kTransposition;
+    const uint32_t cut = kHasMasks && radix % kWidest<T> != 0 ? kCutRows : 0;
+    const uint32_t cost = costOfRadix(radix) + transpositions * kTransposition + cut;
     return kHasMasks && transpositions > 1 ? cost + cost / 16 : cost;
   }
   static uint64_t vectors(uint64_t count) { return (count + kWidest<T> - 1) / kWidest<T>; }
@@ -172,6 +175,8 @@ template <class T> class MixedPlanner {
   static constexpr uint32_t kAwayFromNearest = 8;  // a vector of a tile that the first-level cache does not hold, there and back
   static constexpr uint32_t kUnaligned = 3;        // a vector in two lines of the cache
   static constexpr uint32_t kTransposition = kWidest<T> * (log2Of(kWidest<T>) + 1);
+  // Rows stored under masks: 1001 complex doubles take 0.93 by 13, 7 and 11 of what they take by 7, 11 and 13.
+  static constexpr uint32_t kCutRows = 64;
 
   size_t columns_ = 1;
   uint8_t primes_[10] = {};
