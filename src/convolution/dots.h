@@ -1,6 +1,6 @@
-// A few outputs of a filter that drops most of them: each is a sum of products with vectors along the taps, and the lanes of
-// several outputs are folded together. With lanes along the outputs most would stay empty, and samples would first have to be
-// dealt among rows: 8 outputs of 64 taps take 0.45 (16 bits) to 0.6 (floats) of that time.
+// Outputs of a filter that drops most of them: each is a sum of products with vectors along the taps, and the lanes of several
+// outputs are folded together. With lanes along few outputs most would stay empty, and samples would first have to be dealt among
+// rows: 8 outputs of 64 taps take 0.45 (16 bits) to 0.6 (floats) of that time, any number at 8:1 with 16 taps 0.4.
 #pragma once
 
 #include "convolution/convolve.h"
@@ -21,9 +21,9 @@ template <class C> struct Samples {
   const C* before;
   const C* x;
 };
-// Where the two are apart, x has a vector at least, and both are loaded by whole vectors: what has just been stored as one need
-// not wait for the cache.
-inline constexpr bool kMayBeApart = kHasMasks;
+// Where the two are apart, x has a vector at least. With masks both are loaded by whole vectors: what has just been stored as one
+// need not wait for the cache. Else the first dotsLen(taps) samples of x stand at `before` too, for outputs that begin before it.
+inline constexpr bool kJoinsSamples = kHasMasks;
 
 // y[n] = p[0] * x[first + n * apart] + ... + p[length - 1] * x[first + n * apart + length - 1] for n below count, with the taps
 // at the end of p. length: dotsLen(taps). y must not overlap x.

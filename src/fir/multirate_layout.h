@@ -127,23 +127,20 @@ template <class R> bool placeRows(R& record, Carver& carver, const Qvx8u* begin,
   return true;
 }
 
-// The most outputs of a call that are added up one by one. Rows give vectors of outputs; those of two are cheap, unless their
-// taps are few and few outputs make a vector; those of several branches are not: 42 outputs of 8 or 32 taps each take 0.6 to 0.75
-// of the time one by one, doubles of 128 taps 1.1, and in AVX2 63 doubles of 6 to 22 taps 0.75. In SSSE3 as many 16-bit outputs
-// of several branches take 0.5 to 0.65 of it, 16 of one branch 0.6. 16 doubles of 16 taps each take 0.5 in SSSE3, 0.74 in
-// AVX-512, and 32 outputs of two rows in SSSE3 0.7.
+// The most outputs of a call that are added up one by one. Rows give vectors of outputs, once the samples are dealt: where an
+// output drops many samples and has few taps that is most of the time, so calls of any length go one by one: 8:1 takes 0.4 of it
+// with 16 taps, 0.75 with 64, and 4:1 0.65 with 16. Up to 64 outputs it is the call for each branch: 42 to 63 outputs of two or
+// three branches take 0.65 to 0.9, of 4:1 with 64 taps 0.6.
 inline constexpr int kMostDots = 64;
 template <class C> int mostDots(const Ratio& q) {
-  constexpr int N = kVectorElements<C>;
+  constexpr int kAny = std::numeric_limits<int>::max();
+  constexpr bool kIsInteger = std::is_integral_v<C>;
   constexpr bool kIsLong = kVectorBytes > 16;
-  if (std::is_integral_v<C> && kVectorBytes <= 32 && q.up > 1) return kMostDots;
-  if (std::is_integral_v<C> && !kIsLong && q.down > 2) return 16;
-  if (N <= 4 && kIsLong && q.up > 1 && q.taps <= 32) return kMostDots;
-  if (q.down == 2) return N <= 8 && q.taps <= 16 ? 32 : 8;
-  constexpr int kMost = std::clamp(N, 8, 16);
-  if (q.up == 1) return N <= 8 && q.taps < 64 ? 16 : kMost;
-  if (sizeof(C) == 8 ? q.taps <= 64 : !kHasMasks) return 48;
-  return q.taps >= 16 && !std::is_integral_v<C> ? 3 * kMost : kMost;
+  if (q.up > 1) return q.taps <= 128 || kIsInteger ? kMostDots : 16;
+  if (q.down == 2) return kVectorElements<C> <= 8 && q.taps <= (kHasMasks ? 16 : 64) ? 32 : 8;
+  if (q.down >= 8 && q.taps <= 64) return kIsInteger && kHasMasks ? kMostDots : kAny;
+  if (q.down < 4 || q.taps > 64 || (kIsInteger && kHasMasks)) return 16;
+  return q.taps <= 16 && kIsLong != kIsInteger ? kAny : kMostDots;
 }
 
 template <class R> int64_t lineLen(const R& record) { return record.lineHistory() + record.lineRoom; }
@@ -155,14 +152,16 @@ template <class R> bool placeLine(R& record, Carver& carver) {
   constexpr int kMostApart = 4;      // outputs that meet samples of calls before, if those of the call stay where they are
   const Ratio& q = record.ratio;
   if (!kHasDots<C> || q.down == 1 || q.down > kMostSamples || q.up > kMostBranches) return false;
-  record.lineRoom = std::min(mostDots<C>(q) / q.up, kMostSamples / q.down) * q.down;
+  record.linePeriods = mostDots<C>(q) / q.up;
+  record.lineRoom = std::min({record.linePeriods, kMostDots / q.up, kMostSamples / q.down}) * q.down;
   record.first = q.branch();
   // Of many taps the samples of the first output begin a vector, and often those of others: 8 outputs of 256 taps take 0.85 of
   // the time. Of few, those of a call do.
   constexpr int64_t N = kVectorElements<C>;
   const auto length = static_cast<int64_t>(dotsLen<C>(static_cast<size_t>(q.taps)));
   const int64_t first = record.first.sample + 1 - length;
-  record.mayStay = kMayBeApart && q.up == 1 && -first <= kMostApart * q.down;
+  record.mayStay = q.up == 1 && length <= record.lineRoom;
+  record.staysIfFew = -first <= kMostApart * q.down;
   const int64_t whole = record.lineHistory() + (q.taps > 4 * N ? first : 0);
   record.line = carver.takeLines<C>(2 * N + lineLen(record)) + N + (N - whole % N) % N;
   record.lineTaps = carver.takeLines<C>(q.up * length);

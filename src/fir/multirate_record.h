@@ -3,8 +3,9 @@
 // Samples are dealt among as many rows as the reduced decimation factor has units, so that those which one tap meets, for one
 // output after another, stand side by side: a branch of the filter is a sum of ordinary convolutions of rows. Ratios of large
 // numbers with few taps to an output leave them in one row, and vectors go along the outputs (lanewise.h). Calls of few outputs
-// that drop most of them find the samples in their order in a line, and vectors go along the taps (dots.h): what is kept between
-// calls moves from the rows to the line when such a call comes, and back when it is a longer one's turn.
+// that drop most of them, and any of short filters that do, find the samples in their order in a line, and vectors go along the
+// taps (dots.h): what is kept between calls moves from the rows to the line when such a call comes, and back when it is another's
+// turn.
 #pragma once
 
 #include "convolution/dots.h"
@@ -32,14 +33,16 @@ template <class C> struct MultirateRecord : RecordHead {
   int groupCount;
   LaneGroup* groups;
   LanePlace<C>* order;
-  // For calls of few outputs:
+  // For outputs one by one:
   C* line;  // null: none
   C* lineTaps;
-  Branch first;   // branch
-  int lineRoom;   // samples that the line takes after those that came before
-  int lineDone;   // samples that it still holds, of calls before
-  bool mayStay;   // the samples of a call may stay where they are
-  bool isInLine;  // what came before is there, not in the rows
+  Branch first;     // branch
+  int linePeriods;  // of the longest such call
+  int lineRoom;     // samples that the line takes after those that came before
+  int lineDone;     // samples that it still holds, of calls before
+  bool mayStay;     // the samples of a call longer than the line may stay where they are,
+  bool staysIfFew;  // and those of any call
+  bool isInLine;    // what came before is there, not in the rows
 
   size_t rowCount() const { return static_cast<size_t>(rowLen == 1 ? ratio.down : 1); }
   C* row(size_t i) const { return rows + i * static_cast<size_t>(stride); }
