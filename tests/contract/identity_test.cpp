@@ -1,5 +1,4 @@
 // What the library says of itself, its symbols, and its memory.
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <link.h>
 #include <qvx/qvxcore.h>
@@ -11,17 +10,12 @@
 #include <set>
 
 #include "support/exports.h"
+#include "support/library.h"
 #include "support/sanitizer.h"
 
 namespace {
 
-std::string libraryPath() {
-  Dl_info info;
-  EXPECT_NE(dladdr(reinterpret_cast<void*>(&qvxsGetLibVersion), &info), 0);
-  // The address of a function may be that of the program's own entry to it; the record is in the library for certain.
-  EXPECT_NE(dladdr(qvxsGetLibVersion(), &info), 0);
-  return info.dli_fname;
-}
+std::string libraryPath() { return tests::fileOf(qvxsGetLibVersion()); }
 
 TEST(Identity, VersionRecord) {
   const QvxLibraryVersion* v = qvxsGetLibVersion();
@@ -52,6 +46,59 @@ TEST(Identity, DynamicSymbolsAreTheDeclaredExports) {
   EXPECT_EQ(pclose(nm), 0);
   EXPECT_EQ(declared.size(), 2083U);
   EXPECT_EQ(exported, declared);
+}
+
+// What the library imports: nothing to allocate with but the core's functions, nothing to print, to stop the program or to read
+// files.
+TEST(Imports, AreFew) {
+  if (tests::isSanitized()) GTEST_SKIP() << "sanitizers import much";
+  const std::set<std::string> known = {"qvxMalloc",
+                                       "qvxFree",
+                                       "ownGetNumThreads",
+                                       "ownRunParts",
+                                       "memcpy",
+                                       "memmove",
+                                       "memset",
+                                       "sysconf",
+                                       "__gmon_start__",
+                                       "__gxx_personality_v0",
+                                       "__cxa_finalize",
+                                       "_Unwind_Resume",
+                                       "__memcpy_chk",
+                                       "__memmove_chk",
+                                       "__memset_chk",
+                                       "__stack_chk_fail",
+                                       "sin",
+                                       "cos",
+                                       "atan2",
+                                       "ldexp",
+                                       "log1p",
+                                       "sinl",
+                                       "cosl",
+                                       "tanl",
+                                       "sincosl",
+                                       "sinhl",
+                                       "coshl",
+                                       "asinhl",
+                                       "logl",
+                                       "log10l",
+                                       "expm1l",
+                                       "powl",
+                                       "sqrtl",
+                                       "cabsl",
+                                       "ldexpl"};
+  FILE* nm = popen(("nm -D --undefined-only " + libraryPath()).c_str(), "r");
+  ASSERT_NE(nm, nullptr);
+  char line[256];
+  size_t imports = 0;
+  while (std::fscanf(nm, " %*s %255s", line) == 1) {
+    const std::string name(line, std::strcspn(line, "@"));
+    const bool isCompilers = std::strstr(line, "@GCC_") != nullptr || name.rfind("_ITM_", 0) == 0;
+    EXPECT_TRUE(isCompilers || known.count(name) != 0) << line;
+    ++imports;
+  }
+  pclose(nm);
+  EXPECT_GT(imports, 5U);
 }
 
 // Relocations are done and locked when the library is loaded, and its stack does not execute.

@@ -16,6 +16,7 @@
 #include <thread>
 #include <vector>
 
+#include "support/library.h"
 #include "support/no_threads.h"
 #include "support/sanitizer.h"
 
@@ -88,16 +89,9 @@ TEST_F(Process, ForksDuringCalls) {
 }
 
 TEST_F(Process, LoadsAndUnloads) {
-  Dl_info info;
-  ASSERT_NE(dladdr(qvxsGetLibVersion(), &info), 0);
-  // A copy of the library under another name is another library, which this program does not hold.
-  char copy[] = "/tmp/qvxs-copy-XXXXXX";
-  const int file = mkstemp(copy);
-  ASSERT_GE(file, 0);
-  close(file);
-  ASSERT_EQ(std::system((std::string("cp ") + info.dli_fname + " " + copy).c_str()), 0);
+  const std::string copy = tests::copyOf(tests::fileOf(qvxsGetLibVersion()));  // which this program does not hold
   for (int i = 0; i < rounds(200); ++i) {
-    void* library = dlopen(copy, RTLD_NOW | RTLD_LOCAL);
+    void* library = dlopen(copy.c_str(), RTLD_NOW | RTLD_LOCAL);
     ASSERT_NE(library, nullptr) << dlerror();
     const auto root = reinterpret_cast<decltype(&qvxsSqrt_64fc)>(dlsym(library, "qvxsSqrt_64fc"));
     std::vector<Qvx64fc> x(kLength, Qvx64fc{-3, 4});
@@ -105,7 +99,7 @@ TEST_F(Process, LoadsAndUnloads) {
     ASSERT_EQ(x.back().im, 2);
     ASSERT_EQ(dlclose(library), 0);
   }
-  unlink(copy);
+  unlink(copy.c_str());
 }
 
 // In a child, where no call has made a thread yet.

@@ -11,6 +11,7 @@
 #include <thread>
 
 #include "support/any_call.h"
+#include "support/library.h"
 #include "support/no_threads.h"
 
 // Counts the library's calls of its team.
@@ -246,14 +247,9 @@ INSTANTIATE_TEST_SUITE_P(All, ThreadsThatWarn, testing::ValuesIn(thatWarn()), na
 int threadsOf(const char* setting) {
   if (setting == nullptr) unsetenv("OMP_NUM_THREADS");
   else setenv("OMP_NUM_THREADS", setting, 1);
-  Dl_info info;
-  char copy[] = "/tmp/qvxcore-copy-XXXXXX";
-  const int file = mkstemp(copy);
-  if (file < 0 || dladdr(reinterpret_cast<void*>(qvxSetNumThreads), &info) == 0) return -1;
-  close(file);
-  if (std::system((std::string("cp ") + info.dli_fname + " " + copy).c_str()) != 0) return -1;
-  void* library = dlopen(copy, RTLD_NOW | RTLD_LOCAL);
-  unlink(copy);
+  const std::string copy = tests::copyOf(tests::fileOf(dlsym(RTLD_DEFAULT, "qvxSetNumThreads")));
+  void* library = dlopen(copy.c_str(), RTLD_NOW | RTLD_LOCAL);
+  unlink(copy.c_str());
   return library == nullptr ? -1 : reinterpret_cast<decltype(&ownGetNumThreads)>(dlsym(library, "ownGetNumThreads"))();
 }
 
