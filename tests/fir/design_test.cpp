@@ -76,8 +76,8 @@ TEST(FirDesign, TapsAreThoseOfTheDefinition) {
         std::vector<Real> exact;
         for (int i = 0; i < n; ++i) {
           const Real m = (n - 1) / Real{2} - i;
-          const bool isTurned = filter.kind == kHigh && n % 2 == 0 && m < 0;
-          exact.push_back((isTurned ? -1 : 1) * filter.tap(std::abs(m)) * weight(window, i, n));
+          const bool isNegated = filter.kind == kHigh && n % 2 == 0 && m < 0;
+          exact.push_back((isNegated ? -1 : 1) * filter.tap(std::abs(m)) * weight(window, i, n));
           largest = std::max(largest, std::abs(exact.back()));
         }
         const auto widest = static_cast<size_t>(

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "fir/pairs.h"
+#include "support/blocks.h"
 
 namespace tests {
 
@@ -89,6 +90,63 @@ template <class T> class Upsampled {
   Factors f_;
   std::vector<T> all_;
   size_t start_;
+};
+
+struct Case {
+  int tapsLen;
+  Factors factors;
+};
+
+// Common ratios with few taps and many; factors with a common divisor, after which taps are left, or none; more zeros than taps;
+// a period that is longer than what samples are converted in.
+inline std::vector<Case> cases(Random& random, size_t drawn) {
+  std::vector<Case> all = {
+      {1, {1, 0, 2, 1}},        {1, {5, 4, 3, 0}},         {3, {1, 0, 2, 0}},    {7, {1, 0, 2, 1}},    {3, {2, 1, 2, 0}},
+      {6, {2, 0, 5, 4}},        {64, {2, 1, 1, 0}},        {65, {1, 0, 4, 3}},   {33, {1, 0, 8, 2}},   {48, {3, 2, 2, 0}},
+      {50, {2, 0, 3, 2}},       {40, {6, 5, 4, 1}},        {2, {8, 7, 12, 2}},   {2, {4, 0, 4, 3}},    {30, {4, 3, 4, 0}},
+      {300, {1, 0, 3, 1}},      {257, {2, 1, 1, 0}},       {20, {37, 36, 1, 0}}, {90, {1, 0, 41, 40}}, {320, {16, 3, 15, 14}},
+      {20, {160, 7, 147, 3}},   {700, {147, 0, 160, 159}}, {900, {2, 1, 1, 0}},  {700, {1, 0, 2, 1}},  {1100, {2, 1, 3, 2}},
+      {90, {1, 0, 1100, 1099}},
+  };
+  const auto below = [&](int most) { return static_cast<int>(random() % static_cast<uint64_t>(most)); };
+  for (size_t i = 0; i < drawn; ++i) {
+    const int up = 1 + below(9);
+    const int down = 1 + below(9);
+    all.push_back({1 + below(i % 4 == 0 ? 300 : 40), {up, below(up), down, below(down)}});
+  }
+  return all;
+}
+
+inline std::string describe(const char* name, const Case& c) {
+  const Factors& f = c.factors;
+  const auto text = [](int i) { return std::to_string(i); };
+  return std::string(name) + ", taps " + text(c.tapsLen) + ", up " + text(f.up) + " (" + text(f.upPhase) + "), down " +
+         text(f.down) + " (" + text(f.downPhase) + "), seed " + std::to_string(seed());
+}
+
+template <class T> long double rootMeanSquare(const std::vector<T>& x) {
+  long double sum = 0;
+  for (const T v : x) sum += std::norm(exact(v));
+  return std::sqrt(sum / static_cast<long double>(x.size()));
+}
+
+// Samples and outputs between unreadable pages.
+template <class T> struct Vectors {
+  Block input{1 << 20};
+  Block output{1 << 20};
+  T* src = nullptr;
+  T* dst = nullptr;
+
+  void place(const std::vector<T>& x, size_t outputs, bool inPlace) {
+    const size_t bytes = x.size() * sizeof(T);
+    src = reinterpret_cast<T*>(input.atEnd(bytes));
+    std::memcpy(static_cast<void*>(src), x.data(), bytes);
+    dst = reinterpret_cast<T*>(output.atEnd((inPlace ? std::max(x.size(), outputs) : outputs) * sizeof(T)));
+    if (inPlace) std::memcpy(static_cast<void*>(dst), x.data(), bytes);
+  }
+  bool areIntact(const std::vector<T>& x) const {
+    return input.isIntact() && output.isIntact() && std::memcmp(src, x.data(), x.size() * sizeof(T)) == 0;
+  }
 };
 
 }  // namespace tests

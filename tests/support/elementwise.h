@@ -75,6 +75,10 @@ template <class D, class... S> class Elementwise {
   template <class Call> void runOnce(Call call, int inPlaceOf = kOutOfPlace) {
     once(call, inPlaceOf, expected_.size(), kAtEnd, kAtEnd);
   }
+  // The one or the other.
+  template <class Call> void runAt(bool everyLength, Call call, int inPlaceOf = kOutOfPlace) {
+    everyLength ? run(call, inPlaceOf) : runOnce(call, inPlaceOf);
+  }
   // In each of the caller's rounding modes.
   template <class Call> void runInEveryRounding(Call call) {
     for (const int mode : kRoundings) {
@@ -129,5 +133,12 @@ template <class D, class... S> class Elementwise {
   Block dstBlock_{(sizeof(D) + 1) * kMost};
   static constexpr size_t kMost = 70000;
 };
+
+// A function of random elements beside its oracle.
+inline constexpr size_t kChecked = 3000;
+template <class D, class... S, class Call, class Oracle> void check(Call call, Oracle oracle) {
+  Random random(seed());
+  Elementwise<D, S...>(kChecked, random, oracle).run(call);
+}
 
 }  // namespace tests

@@ -243,7 +243,7 @@ const std::vector<Traits>& allTraits() {
       std::ifstream lines(file.path());
       for (std::string line; std::getline(lines, line);) {
         if (line.empty() || line[0] == '#') continue;
-        if (line[0] != ' ') rows.push_back({split(line, ' '), {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}});
+        if (line[0] != ' ') rows.emplace_back().names = split(line, ' ');
         else read(line, rows.back());
       }
     }

@@ -89,6 +89,12 @@ template <class T> std::vector<T> values(size_t n, Random& random) {
   return v;
 }
 
+// The numbers from one to another, after some more.
+inline std::vector<int> range(int from, int to, std::vector<int> more = {}) {
+  for (int s = from; s <= to; ++s) more.push_back(s);
+  return more;
+}
+
 // The same data in every run; the seed is in the trace of a failure.
 inline uint64_t seed() { return 20240229; }
 
