@@ -244,9 +244,6 @@ TEST(NoiseStatistics, OfUniformNumbers) {
   const double each = n / 2 / 4096;
   for (const double c : pairs) pairSquare += (c - each) * (c - each) / each;
   EXPECT_NEAR(pairSquare, 4095, 5 * std::sqrt(2.0 * 4095));
-  if (std::getenv("QVXS_PRINT") != nullptr)
-    std::printf("uniform: mean %.6f, variance %.6f, chi square %.1f of 255, of pairs %.1f of 4095, serial %.5f %.5f %.5f\n", mean,
-                square, chiSquare, pairSquare, serials[1], serials[2], serials[3]);
 }
 
 TEST(NoiseStatistics, OfNormalDeviates) {
@@ -268,9 +265,6 @@ TEST(NoiseStatistics, OfNormalDeviates) {
   double chiSquare = 0;
   for (const double c : cells) chiSquare += (c - n / 64) * (c - n / 64) / (n / 64);
   EXPECT_NEAR(chiSquare, 63, 5 * std::sqrt(2.0 * 63));
-  if (std::getenv("QVXS_PRINT") != nullptr)
-    std::printf("normal: moments %.5f %.5f %.5f %.5f, chi square %.1f of 63, serial %.5f\n", moments[1], moments[2], moments[3],
-                moments[4], chiSquare, serial);
 }
 
 }  // namespace

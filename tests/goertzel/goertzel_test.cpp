@@ -109,7 +109,6 @@ TEST(Goertzel, LongVectorsOfLowFrequencies) {
     }
   }
   EXPECT_LE(worst, 4 * 0x1p-23);
-  std::printf("worst: %.3f eps of the sum of magnitudes\n", worst / 0x1p-23);
 }
 
 template <class T> void expectScaled(int scale, QvxStatus (*one)(const T*, int, Qvx16sc*, Qvx32f, int)) {

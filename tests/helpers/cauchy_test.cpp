@@ -47,7 +47,6 @@ template <class Call> void inParts(int n, Call call) {
 
 TEST(Cauchy, IsWithinTwoUlpInAnyRoundingMode) {
   Random random(tests::seed());
-  double worst[4] = {};
   for (const Qvx32f c :
        {1.0F, 1.5F, 0.37F, 2.3849F, 0x1.000f5ap+0F, 1e-3F, 1e19F, 1e20F, 3.4e38F, 1e-19F, 1e-23F, 1e-38F, 1e-45F}) {
     const auto x = arguments(c, random);
@@ -65,12 +64,10 @@ TEST(Cauchy, IsWithinTwoUlpInAnyRoundingMode) {
                                  ulpError(dd[i], second(x[i], c))};
         for (int k = 0; k < 4; ++k) {
           ASSERT_LE(errors[k], 2) << "function " << k << " at " << x[i] << ", C " << c << ", mode " << mode;
-          worst[k] = std::max(worst[k], errors[k]);
         }
       }
     }
   }
-  std::printf("worst: Cauchy %.2f, D %.2f, DD2 %.2f and %.2f ULP\n", worst[0], worst[1], worst[2], worst[3]);
 }
 
 TEST(Cauchy, TakesWhatIsNotFinite) {

@@ -128,7 +128,6 @@ TYPED_TEST(Windows, AreTheirFormulas) {
       }
     }
     if (!std::is_integral_v<P>) this->RecordProperty(w.name, std::to_string(worst));
-    if (std::getenv("QVXS_PRINT") != nullptr) std::printf("%-12s %zu bytes: %.2f\n", w.name, sizeof(T), worst);
   }
 }
 
@@ -215,7 +214,6 @@ TEST(Kaiser, IsTheBesselRatioForEveryAlpha) {
       }
     }
   }
-  if (std::getenv("QVXS_PRINT") != nullptr) std::printf("Kaiser: %.3g, in doubles %.3g\n", worst32, worst64);
   EXPECT_LT(worst32, 4e-7);
   EXPECT_LT(worst64, 5.6e-6);
 }
@@ -238,7 +236,7 @@ TEST(WindowSteepBlackman, IsWithinAUnit) {
   }
 }
 
-// Where one of the terms all but vanishes, or does, in windows long enough for their sines to be turned on.
+// Where one of the terms all but vanishes, or does, in windows so long that their angles are rotated.
 TEST(WindowBlackman, IsNearlyHannForAlphasNearZero) {
   for (const int len : {900, 4100}) {
     for (const double alpha : {0.0, -1e-13, 1e-13, -1e-7, 1e-7}) {
