@@ -8,16 +8,10 @@
 namespace {
 
 using reference::Wide;
-using tests::Elementwise;
+using tests::check;
+using tests::kChecked;
 using tests::Part;
 using tests::Random;
-
-constexpr size_t kMost = 3000;
-
-template <class D, class... S, class Call, class Oracle> void check(Call call, Oracle oracle) {
-  Random random(tests::seed());
-  Elementwise<D, S...>(kMost, random, oracle).run(call);
-}
 
 // ---- parts
 
@@ -27,7 +21,7 @@ void checkParts(QvxStatus (*real)(const C*, Part<C>*, int), QvxStatus (*imaginar
   using T = Part<C>;
   check<T, C>(real, [](C z) { return z.re; });
   check<T, C>(imaginary, [](C z) { return z.im; });
-  std::vector<T> other(kMost + 1);
+  std::vector<T> other(kChecked + 1);
   check<T, C>([&](const C* src, T* dst, int n) { return both(src, dst, other.data(), n); }, [](C z) { return z.re; });
   check<T, C>([&](const C* src, T* dst, int n) { return both(src, other.data() + 1, dst, n); }, [](C z) { return z.im; });
 }
@@ -74,8 +68,8 @@ template <class T>
 void checkFlip(
     QvxStatus (*flip)(const T*, T*, int), T (*of)(T) = [](T v) { return v; }) {
   Random random(tests::seed());
-  const std::vector<T> data = tests::values<T>(kMost, random);
-  tests::Placements<T>(kMost).run(data, [&](size_t n, const T* src) {
+  const std::vector<T> data = tests::values<T>(kChecked, random);
+  tests::Placements<T>(kChecked).run(data, [&](size_t n, const T* src) {
     std::vector<T> expected(src, src + n), dst(n);
     std::reverse(expected.begin(), expected.end());
     std::transform(expected.begin(), expected.end(), expected.begin(), of);
@@ -121,9 +115,7 @@ TEST(Power, OfIntegersToFloatsIsRoundedOnce) {
 }
 
 TEST(Power, OfIntegersIsScaled) {
-  std::vector<int> scales = {INT32_MIN, -1000, 1000, INT32_MAX};
-  for (int s = -35; s <= 67; ++s) scales.push_back(s);
-  for (const int s : scales) {
+  for (const int s : tests::range(-35, 67, {INT32_MIN, -1000, 1000, INT32_MAX})) {
     check<Qvx16s, Qvx16sc>([=](auto... a) { return qvxsPowerSpectr_16sc_Sfs(a..., s); },
                            [=](Qvx16sc z) { return reference::scaled<Qvx16s>(exactPower(z.re, z.im), s); });
     check<Qvx16s, Qvx16s, Qvx16s>([=](auto... a) { return qvxsPowerSpectr_16s_Sfs(a..., s); },

@@ -9,11 +9,7 @@
 namespace tests {
 
 // Those that 32 and 64 bits can tell apart, and far ones.
-inline std::vector<int> scaleFactorsOf32Bits() {
-  std::vector<int> all = {INT32_MIN, -1000, 1000, INT32_MAX};
-  for (int s = -66; s <= 66; ++s) all.push_back(s);
-  return all;
-}
+inline std::vector<int> scaleFactorsOf32Bits() { return range(-66, 66, {INT32_MIN, -1000, 1000, INT32_MAX}); }
 
 inline constexpr double kLimits[] = {0,
                                      0.5,
@@ -45,7 +41,7 @@ inline constexpr double kLimits[] = {0,
                                      9223372036854775808.0,
                                      1e30};
 
-// Random floats and all that is hard: ties, the neighbours of ties and of limits, what is beyond any range, no numbers.
+// Random floats and all that is hard: ties, the neighbours of ties and of limits, what is beyond any range, NaN.
 template <class T> std::vector<T> hardFloats() {
   Random random(seed());
   std::vector<T> v = values<T>(400, random);

@@ -36,7 +36,7 @@ template <class A, class D, class Oracle> void toInteger(QvxStatus (*f)(const A*
   }
 }
 
-// To 8 and 16 bits: not a number is the upper limit, or 0 where nothing lies below.
+// To 8 and 16 bits: NaN becomes the upper limit, or 0 where nothing lies below.
 template <class D> D narrowed(Qvx32f v, QvxRoundMode mode, int s) {
   const Qvx32f product = v * factorOf<Qvx32f>(s);
   if (product != product) return std::is_signed_v<D> ? std::numeric_limits<D>::max() : 0;

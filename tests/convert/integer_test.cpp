@@ -40,8 +40,7 @@ template <class T> void to24(QvxStatus (*f)(const T*, Qvx8u*, int, int)) {
       return Packed24<T>::of(static_cast<T>(std::clamp<Wide>(scaled<Qvx64s>(v, limited), kLeast, kMost)));
     });
     const auto call = [=](const T* a, Packed24<T>* d, int n) { return f(a, d->byte, n, s); };
-    if (std::abs(s) < 2) trial.run(call);
-    else trial.runOnce(call);
+    trial.runAt(std::abs(s) < 2, call);
   }
 }
 
@@ -63,8 +62,7 @@ TEST(Convert, NarrowingWithScale) {
     Random random(seed() + static_cast<unsigned>(s));
     Elementwise<Qvx16s, Qvx32s> trial(400, random, [=](Qvx32s v) { return scaled<Qvx16s>(v, std::clamp(s, -15, 31)); });
     const auto call = [=](const Qvx32s* a, Qvx16s* d, int n) { return qvxsConvert_32s16s_Sfs(a, d, n, s); };
-    if (std::abs(s) < 2) trial.run(call);
-    else trial.runOnce(call);
+    trial.runAt(std::abs(s) < 2, call);
   }
 }
 
@@ -83,8 +81,7 @@ TEST(Convert, All16BitElementsTo8Bits) {
       const auto call = [=, m = mode](const Qvx16s* a, Qvx8s* d, int n) {
         return qvxsConvert_16s8s_Sfs(a, d, static_cast<Qvx32u>(n), m, s);
       };
-      if (s == 3) trial.run(call);
-      else trial.runOnce(call);
+      trial.runAt(s == 3, call);
     }
   }
 }
@@ -99,8 +96,7 @@ TEST(Convert, 64To32Bits) {
       Elementwise<Qvx32s, Qvx64s> trial(std::make_tuple(source),
                                         [=, r = rounding](Qvx64s v) { return scaled<Qvx32s>(v, std::clamp(s, -31, 63), r); });
       const auto call = [=, m = mode](const Qvx64s* a, Qvx32s* d, int n) { return qvxsConvert_64s32s_Sfs(a, d, n, m, s); };
-      if (std::abs(s) < 2) trial.run(call);
-      else trial.runOnce(call);
+      trial.runAt(std::abs(s) < 2, call);
     }
   }
 }

@@ -13,15 +13,10 @@
 namespace {
 
 using reference::Wide;
+using tests::check;
 using tests::Elementwise;
+using tests::kChecked;
 using tests::Random;
-
-constexpr size_t kMost = 3000;
-
-template <class D, class... S, class Call, class Oracle> void check(Call call, Oracle oracle) {
-  Random random(tests::seed());
-  Elementwise<D, S...>(kMost, random, oracle).run(call);
-}
 
 template <class T> T anyFloat(Random& random) {
   if constexpr (sizeof(T) == 4) return std::bit_cast<T>(static_cast<uint32_t>(random()));
@@ -149,11 +144,9 @@ template <class C> std::vector<C> corners(size_t n, Random& random) {
 }
 
 template <class T, class C> void checkScaledMagnitude(QvxStatus (*complex)(const C*, T*, int, int)) {
-  std::vector<int> scales = {INT32_MIN, -1000, 1000, INT32_MAX};
-  for (int s = -35; s <= 35; ++s) scales.push_back(s);
-  for (const int s : scales) {
+  for (const int s : tests::range(-35, 35, {INT32_MIN, -1000, 1000, INT32_MAX})) {
     Random random(tests::seed());
-    Elementwise<T, C>(std::tuple(corners<C>(kMost, random)), [=](C z) {
+    Elementwise<T, C>(std::tuple(corners<C>(kChecked, random)), [=](C z) {
       return reference::scaledRoot<T>(power(z.re, z.im), s);
     }).run([=](auto... a) { return complex(a..., s); });
   }

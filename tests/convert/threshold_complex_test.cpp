@@ -61,7 +61,7 @@ TEST(ComplexThreshold, Of16BitsIsExact) {
 
 // ---- floats
 
-// Elements of every size, so that no square overflows unnoticed, near the level, on the axes, zeros, infinities, no numbers.
+// Elements of every size, so that no square overflows unnoticed, near the level, on the axes, zeros, infinities, NaN.
 template <class C> std::vector<C> hardFloats(double level) {
   using T = decltype(C::re);
   Random random(seed());
@@ -84,7 +84,7 @@ template <class C> std::vector<C> hardFloats(double level) {
   return v;
 }
 
-template <class C> bool hasNoNumber(C v) { return v.re != v.re || v.im != v.im; }
+template <class C> bool hasNaN(C v) { return v.re != v.re || v.im != v.im; }
 
 // The larger part within `roundings` of the element's type, the smaller one likewise as part of the magnitude.
 template <class C>::testing::AssertionResult near(C got, Point want, double roundings) {
@@ -128,7 +128,7 @@ template <class C, class... F> void floats(double roundings, F... functions) {
       };
       const auto isKept = [](C v, C d) { return std::memcmp(&v, &d, sizeof(C)) == 0; };
       const auto expectClip = [=](C v, C d) {
-        if (hasNoNumber(v) || side(v) < 0) {
+        if (hasNaN(v) || side(v) < 0) {
           EXPECT_TRUE(isKept(v, d)) << show(v) << " became " << show(d);
         } else if (side(v) > 0) {
           EXPECT_TRUE(near(d, reference::onCircle(v, l), roundings)) << " from " << show(v);
@@ -139,8 +139,8 @@ template <class C, class... F> void floats(double roundings, F... functions) {
       alone<C>([=, f = isBelow ? lt : gt](const C* a, C* d, int n) { return f(a, d, n, l); }, source, expectClip);
       const C value = {T(0.25), T(-7)};
       const auto expectValue = [=](C v, C d) {
-        if (!hasNoNumber(v) && side(v) == 0) return;
-        const C want = hasNoNumber(v) || side(v) < 0 ? v : value;
+        if (!hasNaN(v) && side(v) == 0) return;
+        const C want = hasNaN(v) || side(v) < 0 ? v : value;
         EXPECT_TRUE(isKept(want, d)) << show(v) << " became " << show(d);
       };
       alone<C>([=, f = isBelow ? ltVal : gtVal](const C* a, C* d, int n) { return f(a, d, n, l, value); }, source, expectValue);
@@ -195,7 +195,7 @@ TEST(ComplexThreshold, FloatsAreRoundedFromDoubles) {
   }
 }
 
-// An element of just the level is on neither side, and a level of 0 copies or clears without looking at what is no number.
+// An element of just the level is on neither side, and a level of 0 copies or clears without looking for NaN.
 TEST(ComplexThreshold, AtTheLevelAndLevelZero) {
   const Qvx32fc v[3] = {{3, 4}, {-5, 0}, {0, -5}};
   Qvx32fc d[3];

@@ -11,7 +11,7 @@ namespace {
 using namespace tests;
 using reference::withSign;
 
-// Random elements, the levels and their neighbours, zeros of both signs, and what is not a number.
+// Random elements, the levels and their neighbours, zeros of both signs, and NaN.
 template <class T> std::vector<T> around(std::vector<T> levels) {
   Random random(seed());
   std::vector<T> v = values<T>(500, random);
@@ -130,8 +130,8 @@ TEST(Threshold, Magnitudes) {
   magnitudes(qvxsThreshold_LTAbs_64f, qvxsThreshold_GTAbs_64f);
 }
 
-// What is not a number keeps even its payload, wherever it stands.
-TEST(Threshold, NoNumberStaysBitByBit) {
+// Even the payload, wherever it stands.
+TEST(Threshold, NaNStaysBitForBit) {
   const auto payload = std::bit_cast<Qvx32f>(0xFFC12345U);
   for (const int n : {1, 3, 16, 37}) {
     const std::vector<Qvx32f> source(static_cast<size_t>(n), payload);

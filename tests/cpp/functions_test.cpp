@@ -3,7 +3,6 @@
 
 #include <array>
 #include <complex>
-#include <cstring>
 #include <vector>
 
 #include <qvx/qvxs.hpp>
@@ -16,10 +15,6 @@ template <class T> std::vector<T> ramp(int first, int count) {
   return numbers;
 }
 
-template <class T> bool same(const std::vector<T>& a, const std::vector<T>& b) {
-  return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
-}
-
 TEST(Functions, VectorsAndConstantsOfOneType) {
   const std::vector<Qvx32f> a = ramp<Qvx32f>(-20, 37);
   const std::vector<Qvx32f> b = ramp<Qvx32f>(3, 37);
@@ -27,16 +22,16 @@ TEST(Functions, VectorsAndConstantsOfOneType) {
   std::vector<Qvx32f> c(37);
   EXPECT_EQ(qvx::Sub(a, b, face), qvxStatOk);
   EXPECT_EQ(qvxsSub_32f(a.data(), b.data(), c.data(), 37), qvxStatOk);
-  EXPECT_TRUE(same(face, c));
+  EXPECT_EQ(face, c);
   EXPECT_EQ(qvx::SubCRev(a, 100, face), qvxStatOk);  // a number becomes one of the elements' type
   EXPECT_EQ(qvxsSubCRev_32f(a.data(), 100, c.data(), 37), qvxStatOk);
-  EXPECT_TRUE(same(face, c));
+  EXPECT_EQ(face, c);
   EXPECT_EQ(qvx::MulC(0.3, face), qvxStatOk);  // one vector: in place
   EXPECT_EQ(qvxsMulC_32f_I(0.3F, c.data(), 37), qvxStatOk);
-  EXPECT_TRUE(same(face, c));
+  EXPECT_EQ(face, c);
   EXPECT_EQ(qvx::Div(b, face), qvxStatOk);
   EXPECT_EQ(qvxsDiv_32f_I(b.data(), c.data(), 37), qvxStatOk);
-  EXPECT_TRUE(same(face, c));
+  EXPECT_EQ(face, c);
 }
 
 TEST(Functions, ScaleFactorsComeLast) {
@@ -46,15 +41,15 @@ TEST(Functions, ScaleFactorsComeLast) {
   std::vector<Qvx16s> c(61);
   EXPECT_EQ(qvx::Mul(a, b, face, 3), qvxStatOk);
   EXPECT_EQ(qvxsMul_16s_Sfs(a.data(), b.data(), c.data(), 61, 3), qvxStatOk);
-  EXPECT_TRUE(same(face, c));
+  EXPECT_EQ(face, c);
   EXPECT_EQ(qvx::Mul(a, b, face), qvxStatOk);  // saturates
   EXPECT_EQ(qvxsMul_16s(a.data(), b.data(), c.data(), 61), qvxStatOk);
-  EXPECT_TRUE(same(face, c));
+  EXPECT_EQ(face, c);
   std::vector<Qvx32s> wideFace(61);
   std::vector<Qvx32s> wide(61);
   EXPECT_EQ(qvx::Mul(a, b, wideFace, 1), qvxStatOk);  // the destination's type counts too
   EXPECT_EQ(qvxsMul_16s32s_Sfs(a.data(), b.data(), wide.data(), 61, 1), qvxStatOk);
-  EXPECT_TRUE(same(wideFace, wide));
+  EXPECT_EQ(wideFace, wide);
 
   // Where C has another order, and a rounding mode.
   const std::vector<Qvx64s> longs = ramp<Qvx64s>(-9, 19);
@@ -62,13 +57,13 @@ TEST(Functions, ScaleFactorsComeLast) {
   std::vector<Qvx64s> longC(19);
   EXPECT_EQ(qvx::AddC(longs, 4, longFace, qvx::Rounding::kHalfAway, 1), qvxStatOk);
   EXPECT_EQ(qvxsAddC_64s_Sfs(longs.data(), 4, longC.data(), 19, 1, qvxRoundHalfAway), qvxStatOk);
-  EXPECT_TRUE(same(longFace, longC));
+  EXPECT_EQ(longFace, longC);
   EXPECT_EQ(qvx::MulC(0.25, longFace, 0), qvxStatOk);  // by a fraction, not by an integer
   EXPECT_EQ(qvxsMulC_64f64s_ISfs(0.25, longC.data(), 19, 0), qvxStatOk);
-  EXPECT_TRUE(same(longFace, longC));
+  EXPECT_EQ(longFace, longC);
   EXPECT_EQ(qvx::MulC(3, longFace, 1), qvxStatOk);
   EXPECT_EQ(qvxsMulC_64s_ISfs(3, longC.data(), 19, 1), qvxStatOk);
-  EXPECT_TRUE(same(longFace, longC));
+  EXPECT_EQ(longFace, longC);
 }
 
 // Elements that C tells by the name of the function alone.

@@ -21,10 +21,6 @@ template <class T> std::vector<T> noise(size_t count, int most = 1000) {
   return numbers;
 }
 
-template <class T> bool same(const std::vector<T>& a, const std::vector<T>& b) {
-  return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
-}
-
 TEST(Transforms, GiveWhatCGives) {
   const std::vector<Qvx32f> x = noise<Qvx32f>(64);
   QvxsFFTSpec_R_32f* record = nullptr;
@@ -35,7 +31,7 @@ TEST(Transforms, GiveWhatCGives) {
   std::vector<Qvx32f> c(66);
   EXPECT_EQ(fft.toCcs(x, face), qvxStatOk);
   EXPECT_EQ(qvxsFFTFwd_RToCCS_32f(x.data(), c.data(), record, nullptr), qvxStatOk);
-  EXPECT_TRUE(same(face, c));
+  EXPECT_EQ(face, c);
   std::vector<std::complex<Qvx32f>> spectrum(fft.spectrumSize());
   EXPECT_EQ(fft.forward(x, spectrum), qvxStatOk);
   EXPECT_EQ(std::memcmp(spectrum.data(), c.data(), sizeof(Qvx32f) * 66), 0);
@@ -43,7 +39,7 @@ TEST(Transforms, GiveWhatCGives) {
   EXPECT_EQ(fft.inverse(spectrum, face), qvxStatOk);
   EXPECT_EQ(qvxsFFTInv_CCSToR_32f(c.data(), c.data(), record, nullptr), qvxStatOk);
   c.resize(64);
-  EXPECT_TRUE(same(face, c));
+  EXPECT_EQ(face, c);
   std::vector<Qvx32f> back(64);
   EXPECT_EQ(fft.toPerm(x, face), qvxStatOk);
   EXPECT_EQ(fft.fromPerm(face, back), qvxStatOk);
@@ -108,7 +104,7 @@ TEST(Transforms, MoveAndAreShared) {
   fft = std::move(first);
   std::vector<Qvx32f> y(1026);
   EXPECT_EQ(fft.toCcs(x, y), qvxStatOk);
-  EXPECT_TRUE(same(y, expected));
+  EXPECT_EQ(y, expected);
 
   const auto& record = fft;  // only read: threads bring working memory, or none
   std::array<std::vector<Qvx32f>, 2> results;
@@ -123,8 +119,8 @@ TEST(Transforms, MoveAndAreShared) {
     });
   }
   for (std::thread& thread : threads) thread.join();
-  EXPECT_TRUE(same(results[0], expected));
-  EXPECT_TRUE(same(results[1], expected));
+  EXPECT_EQ(results[0], expected);
+  EXPECT_EQ(results[1], expected);
 }
 
 TEST(Records, RefuseWhatTheyCannotDo) {
@@ -193,14 +189,11 @@ TEST(Records, AreEmptyOnceMovedFrom) {
 // A stream in pieces through an object is the stream in one through C.
 template <class T, class Tap, class... S> void expectFir(const std::vector<Tap>& taps, S... scaleFactor) {
   const std::vector<T> x = noise<T>(300);
-  auto filter = [&] {
+  const auto make = [&] {
     if constexpr (qvx::records::kTapsHaveFactor<T, Tap>) return qvx::Fir<T, Tap>::make(taps, 0).value();
-    if constexpr (!qvx::records::kTapsHaveFactor<T, Tap>) return qvx::Fir<T, Tap>::make(taps).value();
-  }();
-  auto reference = [&] {
-    if constexpr (qvx::records::kTapsHaveFactor<T, Tap>) return qvx::Fir<T, Tap>::make(taps, 0).value();
-    if constexpr (!qvx::records::kTapsHaveFactor<T, Tap>) return qvx::Fir<T, Tap>::make(taps).value();
-  }();
+    else return qvx::Fir<T, Tap>::make(taps).value();
+  };
+  auto filter = make(), reference = make();
   std::vector<T> pieces = x;
   std::vector<T> whole(300);
   EXPECT_EQ(filter.filter(std::span(pieces).first(7), scaleFactor...), qvxStatOk);

@@ -237,7 +237,7 @@ TEST(DctRecord, OfAllRoundingModesAreTheSame) {
 }
 
 // Records and working memory end at unreadable pages.
-TEST(DctRecord, TablesFitTheSizesThatAreTold) {
+TEST(DctRecord, TablesFitTheReportedSizes) {
   std::vector<int> lengths = {1080, 1200, 1536, 1920, 2187, 3000, 4099, 4410, 5000, 8191, 9600, 17000, 30030, 44102, 131074};
   for (int len = 1; len <= 1030; ++len) lengths.push_back(len);
   for (const int len : lengths) {
@@ -249,7 +249,7 @@ TEST(DctRecord, TablesFitTheSizesThatAreTold) {
 }
 
 // Of a record, its making and its work, to the byte.
-TEST(DctRecord, SizesThatAreTold) {
+TEST(DctRecord, ReportedSizes) {
   const auto expect = [](const auto& type, const auto& twin, int len, Sizes sizes) {
     EXPECT_EQ(sizesOf(type, len), sizes) << len;
     EXPECT_EQ(sizesOf(twin, len), sizes) << len;

@@ -62,16 +62,8 @@ TEST(Dft, IsTheDefinition) {
   }
 }
 
-// A spectrum in a layout, as numbers, from the whole one; and back, with what the layout leaves out.
 std::vector<long double> packed(const std::vector<Exact>& spectrum, tests::Layout layout) {
-  const size_t n = spectrum.size();
-  std::vector<long double> v = {spectrum[0].real()};
-  if (layout == tests::Layout::kCcs) v.push_back(0);
-  if (layout == tests::Layout::kPerm && n % 2 == 0) v.push_back(spectrum[n / 2].real());
-  for (size_t k = 1; k <= (n - 1) / 2; ++k) v.insert(v.end(), {spectrum[k].real(), spectrum[k].imag()});
-  if (layout != tests::Layout::kPerm && n % 2 == 0) v.push_back(spectrum[n / 2].real());
-  if (layout == tests::Layout::kCcs && n % 2 == 0) v.push_back(0);
-  return v;
+  return reference::packed<long double>(layout, spectrum);
 }
 
 template <class Transform> void checkReal(const Transform& transform, size_t n, Random& random) {

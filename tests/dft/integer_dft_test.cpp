@@ -7,20 +7,9 @@ namespace {
 using tests::Exact;
 using tests::Random;
 
-template <class Spec> class Record {
- public:
-  Record(const tests::DftLife<Spec>& life, size_t n, int flag) : free_(life.free) {
-    EXPECT_EQ(life.initAlloc(&spec_, static_cast<int>(n), flag, 0), qvxStatOk);
-  }
-  ~Record() { free_(spec_); }
-  Record(const Record&) = delete;
-  Record& operator=(const Record&) = delete;
-  const Spec* get() const { return spec_; }
-
- private:
-  QvxStatus (*free_)(Spec*);
-  Spec* spec_ = nullptr;
-};
+template <class Spec> tests::Owned<Spec> recordOf(const tests::DftLife<Spec>& life, size_t n) {
+  return {life.free, life.initAlloc, static_cast<int>(n), QVX_FFT_SCALE_FWD, 0};
+}
 
 Qvx16s saturated(long double v) { return static_cast<Qvx16s>(std::min(std::max(std::rint(v), -32768.0L), 32767.0L)); }
 void expectNear(Qvx16s found, long double exact) {
@@ -39,8 +28,8 @@ TEST(DftOfIntegers, IsTheDefinitionToAUnit) {
   for (const size_t n : {1, 2, 3, 7, 16, 17, 20, 45, 53, 60, 101, 300, 323}) {
     for (const int scaleFactor : {0, 3}) {
       SCOPED_TRACE(testing::Message() << n << " points, scale factor " << scaleFactor);
-      const Record complex(tests::kDft16sc, n, QVX_FFT_SCALE_FWD);
-      const Record split(tests::kDft16s, n, QVX_FFT_SCALE_FWD);
+      const auto complex = recordOf(tests::kDft16sc, n);
+      const auto split = recordOf(tests::kDft16s, n);
       const auto re = numbers(n, random);
       const auto im = numbers(n, random);
       std::vector<Exact> x;
@@ -74,7 +63,7 @@ TEST(DftOfIntegers, OfRealsThereAndBack) {
   Random random(tests::seed());
   for (const size_t n : {1, 2, 3, 16, 17, 30, 45, 101, 210}) {
     SCOPED_TRACE(n);
-    const Record record(tests::kRealDft16s, n, QVX_FFT_SCALE_FWD);
+    const auto record = recordOf(tests::kRealDft16s, n);
     const auto src = numbers(n, random);
     std::vector<Exact> x;
     for (const Qvx16s v : src) x.push_back(static_cast<long double>(v));

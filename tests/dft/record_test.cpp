@@ -9,7 +9,7 @@
 
 namespace {
 
-template <class Spec> int toldBytes(const tests::DftLife<Spec>& life, int len) {
+template <class Spec> int reportedBytes(const tests::DftLife<Spec>& life, int len) {
   Spec* spec = nullptr;
   EXPECT_EQ(life.initAlloc(&spec, len, QVX_FFT_SCALE_NONE, 0), qvxStatOk) << len;
   int bytes = -1;
@@ -51,25 +51,25 @@ constexpr Row kRows[] = {
      6400 * 16 + 6400 * 16 + 64 + 32},
 };
 
-TEST(DftRecord, TellsTheBytesOfWorkingMemory) {
+TEST(DftRecord, ReportsTheBytesOfWorkingMemory) {
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.len);
-    EXPECT_EQ(toldBytes(tests::kDft32fc.life, row.len), row.complex32);
-    EXPECT_EQ(toldBytes(tests::kDft32f.life, row.len), row.complex32);
-    EXPECT_EQ(toldBytes(tests::kDft64fc.life, row.len), row.complex64);
-    EXPECT_EQ(toldBytes(tests::kDft64f.life, row.len), row.complex64);
-    EXPECT_EQ(toldBytes(tests::kRealDft32f.life, row.len), row.real32);
-    EXPECT_EQ(toldBytes(tests::kRealDft64f.life, row.len), row.real64);
+    EXPECT_EQ(reportedBytes(tests::kDft32fc.life, row.len), row.complex32);
+    EXPECT_EQ(reportedBytes(tests::kDft32f.life, row.len), row.complex32);
+    EXPECT_EQ(reportedBytes(tests::kDft64fc.life, row.len), row.complex64);
+    EXPECT_EQ(reportedBytes(tests::kDft64f.life, row.len), row.complex64);
+    EXPECT_EQ(reportedBytes(tests::kRealDft32f.life, row.len), row.real32);
+    EXPECT_EQ(reportedBytes(tests::kRealDft64f.life, row.len), row.real64);
     const int integers = row.len == 1 ? 0 : 8 * row.len + 32;
-    EXPECT_EQ(toldBytes(tests::kDft16sc, row.len), row.complex32 + integers);
-    EXPECT_EQ(toldBytes(tests::kDft16s, row.len), row.complex32 + integers);
-    EXPECT_EQ(toldBytes(tests::kRealDft16s, row.len), row.real32 + integers);
+    EXPECT_EQ(reportedBytes(tests::kDft16sc, row.len), row.complex32 + integers);
+    EXPECT_EQ(reportedBytes(tests::kDft16s, row.len), row.complex32 + integers);
+    EXPECT_EQ(reportedBytes(tests::kRealDft16s, row.len), row.real32 + integers);
   }
   // Out of order there is no vector to reorder, but for factors that have no kernel of their own.
-  EXPECT_EQ(toldBytes(tests::kDftOutOfOrder32fc.life, 1000), 0);
-  EXPECT_EQ(toldBytes(tests::kDftOutOfOrder64fc.life, 34), 17 * 16 + 64);
-  EXPECT_EQ(toldBytes(tests::kDftOutOfOrder32fc.life, 17), 168);
-  EXPECT_EQ(toldBytes(tests::kDftOutOfOrder32fc.life, 64), 544);
+  EXPECT_EQ(reportedBytes(tests::kDftOutOfOrder32fc.life, 1000), 0);
+  EXPECT_EQ(reportedBytes(tests::kDftOutOfOrder64fc.life, 34), 17 * 16 + 64);
+  EXPECT_EQ(reportedBytes(tests::kDftOutOfOrder32fc.life, 17), 168);
+  EXPECT_EQ(reportedBytes(tests::kDftOutOfOrder32fc.life, 64), 544);
 }
 
 // highest: the longest power of two; others: the first of other lengths that is refused.

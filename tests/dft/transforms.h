@@ -8,14 +8,17 @@
 #include <random>
 
 #include "reference/dft.h"
+#include "reference/packed.h"
 #include "support/bounded.h"
+#include "support/owned.h"
 #include "support/ulp.h"
 #include "support/values.h"
 
 namespace tests {
 
+using reference::Layout;
+
 enum class Place { kApart, kSame };
-enum class Layout { kPerm, kPack, kCcs };
 
 template <class Spec> struct DftLife {
   QvxStatus (*initAlloc)(Spec**, int, int, int);
@@ -102,25 +105,20 @@ template <class Transform> class DftRecord {
  public:
   using T = typename Transform::T;
   using Spec = typename Transform::Spec;
-  DftRecord(const Transform& transform, size_t n, int flag) : transform_(transform), n_(n) {
-    EXPECT_EQ(transform.life.initAlloc(&spec_, static_cast<int>(n), flag, 0), qvxStatOk);
-  }
-  ~DftRecord() { transform_.life.free(spec_); }
-  DftRecord(const DftRecord&) = delete;
-  DftRecord& operator=(const DftRecord&) = delete;
+  DftRecord(const Transform& transform, size_t n, int flag)
+      : transform_(transform), n_(n), spec_(transform.life.free, transform.life.initAlloc, static_cast<int>(n), flag, 0) {}
 
-  const Spec* get() const { return spec_; }
   std::vector<Exact> run(bool isInverse, const std::vector<Exact>& x, Place place, Qvx8u* buffer = nullptr) const {
-    return transform_.run(spec_, isInverse, x, place, buffer);
+    return transform_.run(spec_.get(), isInverse, x, place, buffer);
   }
   std::vector<long double> run(Layout layout, bool isInverse, const std::vector<long double>& x, Place place,
                                Qvx8u* buffer = nullptr) const {
-    const size_t packed = layout == Layout::kCcs ? 2 * (n_ / 2 + 1) : n_;
+    const size_t packed = reference::sizeOf(layout, n_);
     std::vector<T> numbers(x.begin(), x.end());
     Bounded<T> src(numbers);
     numbers.resize(packed);
     Bounded<T> dst(numbers);
-    EXPECT_EQ(transform_.call[isInverse][static_cast<int>(layout)](place == Place::kSame ? dst : src, dst, spec_, buffer),
+    EXPECT_EQ(transform_.call[isInverse][static_cast<int>(layout)](place == Place::kSame ? dst : src, dst, spec_.get(), buffer),
               qvxStatOk);
     EXPECT_TRUE(src.isIntact() && dst.isIntact());
     const T* const found = dst;
@@ -130,7 +128,7 @@ template <class Transform> class DftRecord {
  private:
   const Transform& transform_;
   size_t n_;
-  Spec* spec_ = nullptr;
+  Owned<Spec> spec_;
 };
 
 inline std::vector<Exact> noise(size_t n, Random& random) {

@@ -27,7 +27,6 @@ template <class T_, class C_, class Spec_> struct Interleaved {
   QvxStatus (*invI)(C*, const Spec*, Qvx8u*);
   int top;
 
-  // bytes and offset: of the vectors within theirs
   void run(bool inverse, const C* src, C* dst, size_t, const Spec* spec, Qvx8u* buffer) const {
     if (src == dst) EXPECT_EQ((inverse ? invI : fwdI)(dst, spec, buffer), qvxStatOk);
     else EXPECT_EQ((inverse ? inv : fwd)(src, dst, spec, buffer), qvxStatOk);

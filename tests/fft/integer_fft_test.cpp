@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "fft/life.h"
+#include "reference/packed.h"
 #include "support/rounding.h"
 
 namespace {
@@ -20,10 +21,9 @@ using Reals = std::vector<long double>;
 
 enum Layout { kComplex, kPerm, kPack, kCcs };
 
+reference::Layout ofReals(Layout layout) { return static_cast<reference::Layout>(layout - kPerm); }
 size_t sequenceLength(Layout layout, size_t n) { return layout == kComplex ? 2 * n : n; }
-size_t spectrumLength(Layout layout, size_t n) {
-  return layout == kCcs ? std::max<size_t>(n + 2, 4) - 2 * (n == 1) : sequenceLength(layout, n);
-}
+size_t spectrumLength(Layout layout, size_t n) { return layout == kComplex ? 2 * n : reference::sizeOf(ofReals(layout), n); }
 
 template <class T> class Vectors {  // parts apart, each at the end of its own block
  public:
@@ -99,16 +99,9 @@ Numbers called(const Call& call, const Numbers& src, size_t length, const Spec* 
 
 // The spectrum in a layout, and the spectrum that a layout stands for.
 Reals packed(Layout layout, const std::vector<Exact>& spectrum) {
-  const size_t n = spectrum.size();
+  if (layout != kComplex) return reference::packed<long double>(ofReals(layout), spectrum);
   Reals v;
-  for (size_t k = 0; k < (layout == kComplex ? n : n / 2 + 1); ++k)
-    v.push_back(spectrum[k].real()), v.push_back(spectrum[k].imag());
-  if (layout == kComplex || layout == kCcs) return v;
-  const long double nyquist = n == 1 ? 0 : spectrum[n / 2].real();
-  v.resize(n == 1 ? 2 : n);
-  if (layout == kPack) v.erase(v.begin() + 1), v.push_back(nyquist);
-  else v[1] = nyquist;
-  v.resize(n);
+  for (const Exact& z : spectrum) v.push_back(z.real()), v.push_back(z.imag());
   return v;
 }
 std::vector<Exact> unpacked(Layout layout, const Numbers& v, size_t n) {
@@ -116,10 +109,9 @@ std::vector<Exact> unpacked(Layout layout, const Numbers& v, size_t n) {
   std::vector<Exact> spectrum(n);
   for (size_t k = 0; k < n; ++k) {
     if (layout == kComplex) spectrum[k] = {at(2 * k), at(2 * k + 1)};
-    else if (k == 0) spectrum[k] = at(0);
-    else if (2 * k == n) spectrum[k] = at(layout == kPerm ? 1 : layout == kPack ? n - 1 : n);
     else if (2 * k > n) spectrum[k] = std::conj(spectrum[n - k]);
-    else spectrum[k] = {at(2 * k - (layout == kPack)), at(2 * k + 1 - (layout == kPack))};
+    else if (const reference::Place p = reference::placeOf(ofReals(layout), n, k); k == 0 || 2 * k == n) spectrum[k] = at(p.re);
+    else spectrum[k] = {at(p.re), at(p.im)};
   }
   return spectrum;
 }

@@ -4,13 +4,16 @@
 #include <cstring>
 
 #include "fft/transforms.h"
+#include "reference/packed.h"
 
 namespace {
 
 using tests::Exact;
 using tests::Random;
 
-enum Layout { kPerm, kPack, kCcs, kLayouts };
+using reference::Layout;
+
+constexpr Layout kLayouts[] = {Layout::kPerm, Layout::kPack, Layout::kCcs};  // in the order of each type's functions
 
 template <class T_, class Spec_> struct Real {
   using T = T_;
@@ -18,10 +21,10 @@ template <class T_, class Spec_> struct Real {
   using Run = QvxStatus (*)(const T*, T*, const Spec*, Qvx8u*);
   using RunI = QvxStatus (*)(T*, const Spec*, Qvx8u*);
   tests::Life<Spec> life;
-  Run fwd[kLayouts];
-  RunI fwdI[kLayouts];
-  Run inv[kLayouts];
-  RunI invI[kLayouts];
+  Run fwd[3];
+  RunI fwdI[3];
+  Run inv[3];
+  RunI invI[3];
 };
 
 const Real<Qvx32f, QvxsFFTSpec_R_32f> k32f = {
@@ -36,30 +39,6 @@ const Real<Qvx64f, QvxsFFTSpec_R_64f> k64f = {
     {qvxsFFTFwd_RToPerm_64f_I, qvxsFFTFwd_RToPack_64f_I, qvxsFFTFwd_RToCCS_64f_I},
     {qvxsFFTInv_PermToR_64f, qvxsFFTInv_PackToR_64f, qvxsFFTInv_CCSToR_64f},
     {qvxsFFTInv_PermToR_64f_I, qvxsFFTInv_PackToR_64f_I, qvxsFFTInv_CCSToR_64f_I}};
-
-size_t lengthOf(int layout, size_t n) { return layout != kCcs ? n : n == 1 ? 2 : n + 2; }
-
-// Where the number `part` (0 real, 1 imaginary) of X[k] stands, or -1 for one that is known to be 0.
-std::ptrdiff_t placeOf(int layout, size_t n, size_t k, size_t part) {
-  const bool isReal = k == 0 || 2 * k == n;
-  if (layout == kCcs) return static_cast<std::ptrdiff_t>(2 * k + part);
-  if (isReal && part == 1) return -1;
-  if (k == 0) return 0;
-  if (isReal) return layout == kPerm ? 1 : static_cast<std::ptrdiff_t>(n) - 1;
-  return static_cast<std::ptrdiff_t>(2 * k + part - (layout == kPack));
-}
-
-template <class T> std::vector<T> packed(int layout, const std::vector<Exact>& spectrum) {
-  const size_t n = spectrum.size();
-  std::vector<T> v(lengthOf(layout, n));
-  for (size_t k = 0; k <= n / 2; ++k) {
-    for (const size_t part : {0, 1}) {
-      const auto at = placeOf(layout, n, k, part);
-      if (at >= 0) v[static_cast<size_t>(at)] = static_cast<T>(part == 0 ? spectrum[k].real() : spectrum[k].imag());
-    }
-  }
-  return v;
-}
 
 template <class T> long double relative(const std::vector<T>& found, const std::vector<T>& expected) {
   long double error = 0;
@@ -86,37 +65,38 @@ template <class Type> void checkOrder(const Type& type, int order, std::initiali
     const long double slack = flag == QVX_FFT_SCALE_BOTH_SQRT ? 3 * std::numeric_limits<T>::epsilon() : 0;
     std::vector<Qvx8u> work(static_cast<size_t>(record.bufferSize()));
     Qvx8u* buffer = work.empty() ? nullptr : work.data();
-    for (int layout = 0; layout < kLayouts; ++layout) {
-      SCOPED_TRACE(testing::Message() << sizeof(T) << " bytes, order " << order << ", flag " << flag << ", layout " << layout);
+    for (const Layout layout : kLayouts) {
+      const auto at = static_cast<size_t>(layout);
+      SCOPED_TRACE(testing::Message() << sizeof(T) << " bytes, order " << order << ", flag " << flag << ", layout " << at);
       std::vector<Exact> scaled = spectrum;
       for (Exact& z : scaled) z *= tests::factorOf(flag, false, order);
-      const std::vector<T> expected = packed<T>(layout, scaled);
+      const std::vector<T> expected = reference::packed<T>(layout, scaled);
       tests::Block block(expected.size() * sizeof(T));
       T* dst = reinterpret_cast<T*>(block.atEnd(expected.size() * sizeof(T)));
-      EXPECT_EQ(type.fwd[layout](x.data(), dst, record.get(), buffer), qvxStatOk);
+      EXPECT_EQ(type.fwd[at](x.data(), dst, record.get(), buffer), qvxStatOk);
       const std::vector<T> found(dst, dst + expected.size());
       EXPECT_TRUE(block.isIntact());
       EXPECT_LE(relative(found, expected), allowed + slack);
-      EXPECT_TRUE(layout != kCcs || (found[1] == 0 && (n == 1 || found[n + 1] == 0)));
+      EXPECT_TRUE(layout != Layout::kCcs || (found[1] == 0 && (n == 1 || found[n + 1] == 0)));
       std::vector<T> inPlace = x;
       inPlace.resize(expected.size());
-      EXPECT_EQ(type.fwdI[layout](inPlace.data(), record.get(), nullptr), qvxStatOk);
+      EXPECT_EQ(type.fwdI[at](inPlace.data(), record.get(), nullptr), qvxStatOk);
       EXPECT_EQ(inPlace, found) << "in place";
 
       std::vector<T> source = expected;
-      if (layout == kCcs) source[1] = std::numeric_limits<T>::quiet_NaN();
-      if (layout == kCcs && n > 1) source[n + 1] = std::numeric_limits<T>::quiet_NaN();
+      if (layout == Layout::kCcs) source[1] = std::numeric_limits<T>::quiet_NaN();
+      if (layout == Layout::kCcs && n > 1) source[n + 1] = std::numeric_limits<T>::quiet_NaN();
       std::vector<T> wanted = x;
       const long double factor =
           tests::factorOf(flag, false, order) * tests::factorOf(flag, true, order) * static_cast<long double>(n);
       for (T& v : wanted) v = static_cast<T>(v * factor);
       tests::Block out(n * sizeof(T));
       T* back = reinterpret_cast<T*>(out.atEnd(n * sizeof(T)));
-      EXPECT_EQ(type.inv[layout](source.data(), back, record.get(), buffer), qvxStatOk);
+      EXPECT_EQ(type.inv[at](source.data(), back, record.get(), buffer), qvxStatOk);
       EXPECT_TRUE(out.isIntact());
       const std::vector<T> returned(back, back + n);
       EXPECT_LE(relative(returned, wanted), allowed + 2 * slack);
-      EXPECT_EQ(type.invI[layout](source.data(), record.get(), nullptr), qvxStatOk);
+      EXPECT_EQ(type.invI[at](source.data(), record.get(), nullptr), qvxStatOk);
       EXPECT_TRUE(std::equal(returned.begin(), returned.end(), source.begin())) << "inverse in place";
     }
   }
@@ -141,19 +121,20 @@ TEST(RealFft, NobodyCanTellTheThreads) {
     std::uniform_real_distribution<T> uniform(-1, 1);
     std::vector<T> x(n);
     for (T& v : x) v = uniform(random);
-    for (int layout = 0; layout < kLayouts; ++layout) {
+    for (const Layout layout : kLayouts) {
+      const auto at = static_cast<size_t>(layout);
       std::vector<T> spectrum[2], back[2];
       for (const int threads : {1, 2}) {
         qvxSetNumThreads(threads);
         const tests::Record record(type.life, order, QVX_FFT_SCALE_INV);
         std::vector<T>& found = spectrum[threads - 1];
-        found.resize(lengthOf(layout, n));
-        EXPECT_EQ(type.fwd[layout](x.data(), found.data(), record.get(), nullptr), qvxStatOk);
+        found.resize(reference::sizeOf(layout, n));
+        EXPECT_EQ(type.fwd[at](x.data(), found.data(), record.get(), nullptr), qvxStatOk);
         back[threads - 1] = found;
-        EXPECT_EQ(type.invI[layout](back[threads - 1].data(), record.get(), nullptr), qvxStatOk);
+        EXPECT_EQ(type.invI[at](back[threads - 1].data(), record.get(), nullptr), qvxStatOk);
       }
       qvxSetNumThreads(0);
-      EXPECT_TRUE(spectrum[0] == spectrum[1] && back[0] == back[1]) << sizeof(T) << " bytes, " << order << ", layout " << layout;
+      EXPECT_TRUE(spectrum[0] == spectrum[1] && back[0] == back[1]) << sizeof(T) << " bytes, " << order << ", layout " << at;
     }
   };
   for (const int order : {17, 19}) check(k32f, order);

@@ -1,15 +1,12 @@
-// All the floating-point transforms under one interface: sequences and spectra as exact complex numbers, records and buffers
-// owned.
+// Records of transforms of a power of two, their factors, and the errors they may have.
 #pragma once
 
 #include <gtest/gtest.h>
 #include <qvx/qvxs.h>
 
-#include <memory>
-#include <string>
-
 #include "reference/dft.h"
 #include "support/blocks.h"
+#include "support/owned.h"
 #include "support/values.h"
 
 namespace tests {
@@ -23,24 +20,18 @@ template <class Spec> struct Life {
   QvxStatus (*getBufSize)(const Spec*, int*);
 };
 
-template <class Spec> class Record {
+template <class Spec> class Record : public Owned<Spec> {
  public:
-  Record(const Life<Spec>& life, int order, int flag, int hint = 0) : life_(life) {
-    EXPECT_EQ(life.initAlloc(&spec_, order, flag, hint), qvxStatOk) << "order " << order;
-  }
-  ~Record() { EXPECT_EQ(life_.free(spec_), qvxStatOk); }
-  Record(const Record&) = delete;
-  Record& operator=(const Record&) = delete;
-  const Spec* get() const { return spec_; }
+  Record(const Life<Spec>& life, int order, int flag, int hint = 0)
+      : Owned<Spec>(life.free, life.initAlloc, order, flag, hint), getBufSize_(life.getBufSize) {}
   int bufferSize() const {
     int size = -1;
-    EXPECT_EQ(life_.getBufSize(spec_, &size), qvxStatOk);
+    EXPECT_EQ(getBufSize_(this->get(), &size), qvxStatOk);
     return size;
   }
 
  private:
-  Life<Spec> life_;
-  Spec* spec_ = nullptr;
+  QvxStatus (*getBufSize_)(const Spec*, int*);
 };
 
 // Root of the mean square of the error, relative to that of the values.

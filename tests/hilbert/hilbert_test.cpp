@@ -10,32 +10,24 @@
 
 #include "reference/hilbert.h"
 #include "support/blocks.h"
+#include "support/owned.h"
 #include "support/rounding.h"
 #include "support/ulp.h"
 #include "support/values.h"
 
 namespace {
 
+using tests::Owned;
 using tests::Random;
 
-template <class Spec> struct Record {
-  Record(QvxStatus (*initAlloc)(Spec**, int, int), QvxStatus (*free)(Spec*), size_t len) : free(free) {
-    EXPECT_EQ(initAlloc(&spec, static_cast<int>(len), 0), qvxStatOk) << len;
-  }
-  ~Record() { EXPECT_EQ(free(spec), qvxStatOk); }
-  Record(const Record&) = delete;
-  Record& operator=(const Record&) = delete;
-  QvxStatus (*free)(Spec*);
-  Spec* spec = nullptr;
+struct Of32f : Owned<QvxsHilbertSpec_32f32fc> {
+  explicit Of32f(size_t len) : Owned(qvxsHilbertFree_32f32fc, qvxsHilbertInitAlloc_32f32fc, static_cast<int>(len), 0) {}
 };
-struct Of32f : Record<QvxsHilbertSpec_32f32fc> {
-  explicit Of32f(size_t len) : Record(qvxsHilbertInitAlloc_32f32fc, qvxsHilbertFree_32f32fc, len) {}
+struct Of16s32fc : Owned<QvxsHilbertSpec_16s32fc> {
+  explicit Of16s32fc(size_t len) : Owned(qvxsHilbertFree_16s32fc, qvxsHilbertInitAlloc_16s32fc, static_cast<int>(len), 0) {}
 };
-struct Of16s32fc : Record<QvxsHilbertSpec_16s32fc> {
-  explicit Of16s32fc(size_t len) : Record(qvxsHilbertInitAlloc_16s32fc, qvxsHilbertFree_16s32fc, len) {}
-};
-struct Of16s16sc : Record<QvxsHilbertSpec_16s16sc> {
-  explicit Of16s16sc(size_t len) : Record(qvxsHilbertInitAlloc_16s16sc, qvxsHilbertFree_16s16sc, len) {}
+struct Of16s16sc : Owned<QvxsHilbertSpec_16s16sc> {
+  explicit Of16s16sc(size_t len) : Owned(qvxsHilbertFree_16s16sc, qvxsHilbertInitAlloc_16s16sc, static_cast<int>(len), 0) {}
 };
 
 // The error allowed for two transforms.
@@ -72,7 +64,7 @@ TEST(Hilbert, IsTheDefinition) {
     auto* from = reinterpret_cast<Qvx32f*>(src.atEnd(n * 4));
     auto* to = reinterpret_cast<Qvx32fc*>(dst.atEnd(n * 8));
     std::copy(x.begin(), x.end(), from);
-    EXPECT_EQ(qvxsHilbert_32f32fc(from, to, record.spec), qvxStatOk);
+    EXPECT_EQ(qvxsHilbert_32f32fc(from, to, record.get()), qvxStatOk);
     EXPECT_TRUE(src.isIntact() && dst.isIntact()) << n;
     const std::vector<Qvx32fc> found(to, to + n);
     for (size_t i = 0; i < n; ++i) EXPECT_EQ(found[i].re, x[i]) << n;
@@ -80,7 +72,7 @@ TEST(Hilbert, IsTheDefinition) {
     // Beginning where the source does.
     auto* same = reinterpret_cast<Qvx32f*>(to);
     std::copy(x.begin(), x.end(), same);
-    EXPECT_EQ(qvxsHilbert_32f32fc(same, to, record.spec), qvxStatOk);
+    EXPECT_EQ(qvxsHilbert_32f32fc(same, to, record.get()), qvxStatOk);
     EXPECT_EQ(std::memcmp(to, found.data(), n * 8), 0) << n;
   }
 }
@@ -93,13 +85,13 @@ TEST(Hilbert, OfIntegers) {
     const std::vector<long double> h = tests::hilbertTransform(x);
     const Of16s32fc floats(n);
     std::vector<Qvx32fc> z(n);
-    EXPECT_EQ(qvxsHilbert_16s32fc(x.data(), z.data(), floats.spec), qvxStatOk);
+    EXPECT_EQ(qvxsHilbert_16s32fc(x.data(), z.data(), floats.get()), qvxStatOk);
     for (size_t i = 0; i < n; ++i) EXPECT_EQ(z[i].re, x[i]) << n;
     expectNear(z, h);
     const Of16s16sc integers(n);
     for (const int scaleFactor : {0, 1, 5, -2, 40}) {
       std::vector<Qvx16sc> y(n);
-      EXPECT_EQ(qvxsHilbert_16s16sc_Sfs(x.data(), y.data(), integers.spec, scaleFactor), qvxStatOk);
+      EXPECT_EQ(qvxsHilbert_16s16sc_Sfs(x.data(), y.data(), integers.get(), scaleFactor), qvxStatOk);
       for (size_t i = 0; i < n; ++i) {
         const auto scaled = [=](long double v) { return std::clamp(std::ldexp(v, -scaleFactor), -32768.0L, 32767.0L); };
         EXPECT_LE(std::fabs(scaled(x[i]) - static_cast<long double>(y[i].re)), 0.5L) << n;
@@ -117,7 +109,7 @@ TEST(Hilbert, OfATone) {
     std::vector<Qvx32f> x(n);
     for (size_t i = 0; i < n; ++i) x[i] = static_cast<Qvx32f>(0.75 * std::cos(step * static_cast<double>(i)));
     std::vector<Qvx32fc> z(n);
-    EXPECT_EQ(qvxsHilbert_32f32fc(x.data(), z.data(), record.spec), qvxStatOk);
+    EXPECT_EQ(qvxsHilbert_32f32fc(x.data(), z.data(), record.get()), qvxStatOk);
     for (size_t i = 0; i < n; ++i) {
       EXPECT_NEAR(z[i].re, 0.75 * std::cos(step * static_cast<double>(i)), 2e-6) << n;
       EXPECT_NEAR(z[i].im, 0.75 * std::sin(step * static_cast<double>(i)), 2e-6) << n;
@@ -125,7 +117,6 @@ TEST(Hilbert, OfATone) {
   }
 }
 
-// Lengths that the transforms do not take are refused before anything is allocated for them.
 TEST(HilbertRecord, OfAllRoundingModesAreTheSame) {
   for (const size_t n : {17, 64, 97, 211}) {
     std::vector<Qvx32f> x(n);
@@ -138,12 +129,13 @@ TEST(HilbertRecord, OfAllRoundingModesAreTheSame) {
         record.emplace(n);
       }
       std::vector<Qvx32fc>& y = mode == FE_TONEAREST ? expected : found;
-      EXPECT_EQ(qvxsHilbert_32f32fc(x.data(), y.data(), record->spec), qvxStatOk);
+      EXPECT_EQ(qvxsHilbert_32f32fc(x.data(), y.data(), record->get()), qvxStatOk);
       EXPECT_EQ(std::memcmp(y.data(), expected.data(), n * sizeof(Qvx32fc)), 0) << n << ", " << mode;
     }
   }
 }
 
+// Before anything is allocated for it.
 TEST(HilbertRecord, RefusesWhatIsTooLong) {
   QvxsHilbertSpec_32f32fc* spec = nullptr;
   EXPECT_EQ(qvxsHilbertInitAlloc_32f32fc(&spec, 1 << 29, 0), qvxStatBadFFTOrder);

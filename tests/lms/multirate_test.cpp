@@ -111,7 +111,7 @@ template <class P> struct Exact {
 template <class P> void expectStreams() {
   Random random(tests::seed());
   for (const int n : {1, 2, 3, 5, 8, 15, 16, 17, 31, 40, 64, 100}) {
-    // Steps of all sizes: halves of a unit, sums that saturate, taps that leave the range, none, and what is no number.
+    // Steps of all sizes: halves of a unit, sums that saturate, taps that leave the range, infinity, NaN.
     const float steps[] = {0, 0x1p-16F, -0x1p-17F, 3e-5F, 1e-3F, 0.5F, 1e4F, -1e20F, INFINITY, NAN};
     for (size_t round = 0; round < std::size(steps); ++round) {
       const int down = 1 + static_cast<int>(random() % 5), scale = static_cast<int>(random() % 40);

@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "reference/sort.h"
 #include "support/blocks.h"
 #include "support/values.h"
 
@@ -23,20 +24,6 @@ using Types = testing::Types<
     Filter<Qvx32s, qvxsFilterMedian_32s, qvxsFilterMedian_32s_I>>;
 TYPED_TEST_SUITE(Median, Types);
 
-// Before in the order of medians: by value, -0.0 before 0.0, each NaN beyond the infinity of its sign.
-template <class T> bool isBefore(T a, T b) {
-  if constexpr (std::is_integral_v<T>) {
-    return a < b;
-  } else {
-    using Bits = std::conditional_t<sizeof(T) == 4, int32_t, int64_t>;
-    const auto rank = [](T x) {
-      const auto bits = std::bit_cast<Bits>(x);
-      return bits < 0 ? static_cast<Bits>(bits ^ std::numeric_limits<Bits>::max()) : bits;
-    };
-    return rank(a) < rank(b);
-  }
-}
-
 template <class T> std::vector<T> filtered(const std::vector<T>& x, size_t mask) {
   std::vector<T> y(x.size()), window(mask);
   const auto last = static_cast<int64_t>(x.size()) - 1;
@@ -46,7 +33,7 @@ template <class T> std::vector<T> filtered(const std::vector<T>& x, size_t mask)
       window[k] = x[static_cast<size_t>(std::clamp<int64_t>(at, 0, last))];
     }
     const auto middle = window.begin() + static_cast<int64_t>(mask / 2);
-    std::nth_element(window.begin(), middle, window.end(), isBefore<T>);
+    std::nth_element(window.begin(), middle, window.end(), reference::isBefore<T>);
     y[static_cast<size_t>(n)] = *middle;
   }
   return y;
@@ -63,7 +50,6 @@ template <class F> void check(const std::vector<typename F::T>& x, int mask) {
   std::memcpy(src, x.data(), bytes);
   const QvxStatus status = mask % 2 == 0 ? qvxWarnEvenMask : qvxStatOk;
   ASSERT_EQ(F::kApart(src, dst, static_cast<int>(n), mask), status);
-  const auto first = std::vector<T>(n);
   const auto expectWanted = [&](const T* got, const char* what) {
     for (size_t i = 0; i < n; ++i) {
       ASSERT_EQ(std::memcmp(got + i, &wanted[i], sizeof(T)), 0)
@@ -145,9 +131,8 @@ template <class T> void checkSums(QvxStatus (*function)(const T*, Qvx32f*, int, 
   }
   const size_t bytes = x.size() * sizeof(T), resultBytes = static_cast<size_t>(len) * sizeof(Qvx32f);
   Block source(bytes), destination(resultBytes);
-  std::memcpy(source.atEnd(bytes), x.data(), bytes);
-  auto* src = reinterpret_cast<const T*>(source.atEnd(bytes));
-  std::memcpy(const_cast<T*>(src), x.data(), bytes);
+  auto* src = reinterpret_cast<T*>(source.atEnd(bytes));
+  std::memcpy(src, x.data(), bytes);
   auto* dst = reinterpret_cast<Qvx32f*>(destination.atEnd(resultBytes));
   ASSERT_EQ(function(src, dst, len, mask), qvxStatOk);
   int64_t sum = 0;

@@ -14,8 +14,8 @@ using Exact = std::complex<long double>;
 inline Exact rootOfUnity(size_t x, size_t n) {
   const size_t quarter = 4 * (x % n) / n;
   const auto angle = 2 * M_PIl * static_cast<long double>(4 * (x % n) - quarter * n) / static_cast<long double>(4 * n);
-  const Exact turned[] = {{1, 0}, {0, 1}, {-1, 0}, {0, -1}};
-  return turned[quarter] * Exact(std::cos(angle), std::sin(angle));
+  const Exact powersOfI[] = {{1, 0}, {0, 1}, {-1, 0}, {0, -1}};
+  return powersOfI[quarter] * Exact(std::cos(angle), std::sin(angle));
 }
 
 namespace detail {

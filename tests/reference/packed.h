@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <vector>
 
 namespace reference {
 
@@ -22,5 +23,17 @@ inline Place placeOf(Layout layout, size_t n, size_t k) {
 }
 
 inline size_t sizeOf(Layout layout, size_t n) { return layout == Layout::kCcs ? 2 * (n / 2 + 1) : n; }
+
+// The whole spectrum of a real sequence in a layout.
+template <class T, class Complex> std::vector<T> packed(Layout layout, const std::vector<Complex>& spectrum) {
+  const size_t n = spectrum.size();
+  std::vector<T> v(sizeOf(layout, n));
+  for (size_t k = 0; k <= n / 2; ++k) {
+    const Place at = placeOf(layout, n, k);
+    v[at.re] = static_cast<T>(spectrum[k].real());
+    if (k > 0 && 2 * k < n) v[at.im] = static_cast<T>(spectrum[k].imag());
+  }
+  return v;
+}
 
 }  // namespace reference

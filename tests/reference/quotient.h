@@ -7,19 +7,6 @@
 
 namespace reference {
 
-// numerator / denominator, for a denominator above 0.
-inline Wide dividedAndRounded(Wide numerator, Wide denominator, Mode mode) {
-  Wide quotient = numerator / denominator;  // toward zero
-  Wide remainder = numerator % denominator;
-  const int sign = numerator < 0 ? -1 : 1;
-  if (remainder < 0) remainder = -remainder;
-  const bool above = 2 * remainder > denominator;
-  const bool tie = 2 * remainder == denominator;
-  if (mode == Mode::kNearestEven && (above || (tie && quotient % 2 != 0))) quotient += sign;
-  if (mode == Mode::kHalfAway && (above || tie)) quotient += sign;
-  return quotient;
-}
-
 // The scale factors that are worked out; below and above there are only extremes and zeros.
 struct ScaleWindow {
   int least;

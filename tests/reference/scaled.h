@@ -16,19 +16,23 @@ template <class T> T saturated(Wide v) {
 
 enum class Mode { kTowardZero, kNearestEven, kHalfAway };
 
-// v / 2^s as a whole number.
-inline Wide rounded(Wide v, int s, Mode mode) {
-  if (s > 126) return 0;  // no value exceeds 2^126, which is half of the next unit: a tie, and 0 is even
-  const Wide unit = Wide{1} << s;
-  Wide quotient = v / unit;  // toward zero
-  Wide remainder = v % unit;
-  const int sign = v < 0 ? -1 : 1;
+// numerator / denominator as a whole number, for a denominator above 0.
+inline Wide dividedAndRounded(Wide numerator, Wide denominator, Mode mode) {
+  Wide quotient = numerator / denominator;  // toward zero
+  Wide remainder = numerator % denominator;
+  const int sign = numerator < 0 ? -1 : 1;
   if (remainder < 0) remainder = -remainder;
-  const bool above = 2 * remainder > unit;
-  const bool tie = 2 * remainder == unit;
+  const bool above = 2 * remainder > denominator;
+  const bool tie = 2 * remainder == denominator;
   if (mode == Mode::kNearestEven && (above || (tie && quotient % 2 != 0))) quotient += sign;
   if (mode == Mode::kHalfAway && (above || tie)) quotient += sign;
   return quotient;
+}
+
+// v / 2^s as a whole number.
+inline Wide rounded(Wide v, int s, Mode mode) {
+  if (s > 126) return 0;  // no value exceeds 2^126, which is half of the next unit: a tie, and 0 is even
+  return dividedAndRounded(v, Wide{1} << s, mode);
 }
 
 // v * 2^-s, rounded and saturated.

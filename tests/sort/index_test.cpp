@@ -44,7 +44,7 @@ template <class T> void expectPlaces(const Sorted<T>& s, const std::vector<T>& x
   }
 }
 
-template <class T> void expectAsTold(SortIndex<T> function, bool isDescending) {
+template <class T> void expectDocumentedOrder(SortIndex<T> function, bool isDescending) {
   Random random(tests::seed());
   std::vector<size_t> lengths;
   for (size_t n = 1; n < 150; ++n) lengths.push_back(n);
@@ -66,18 +66,18 @@ template <class T> void expectAsTold(SortIndex<T> function, bool isDescending) {
   }
 }
 
-template <class T> void expectAsTold(SortIndex<T> ascend, SortIndex<T> descend) {
-  expectAsTold(ascend, false);
-  expectAsTold(descend, true);
+template <class T> void expectDocumentedOrder(SortIndex<T> ascend, SortIndex<T> descend) {
+  expectDocumentedOrder(ascend, false);
+  expectDocumentedOrder(descend, true);
 }
 
-TEST(SortIndex, LeavesEqualElementsAsTheToldStepsDo) {
-  expectAsTold(qvxsSortIndexAscend_8u_I, qvxsSortIndexDescend_8u_I);
-  expectAsTold(qvxsSortIndexAscend_16s_I, qvxsSortIndexDescend_16s_I);
-  expectAsTold(qvxsSortIndexAscend_16u_I, qvxsSortIndexDescend_16u_I);
-  expectAsTold(qvxsSortIndexAscend_32s_I, qvxsSortIndexDescend_32s_I);
-  expectAsTold(qvxsSortIndexAscend_32f_I, qvxsSortIndexDescend_32f_I);
-  expectAsTold(qvxsSortIndexAscend_64f_I, qvxsSortIndexDescend_64f_I);
+TEST(SortIndex, LeavesEqualElementsAsTheDocumentedStepsDo) {
+  expectDocumentedOrder(qvxsSortIndexAscend_8u_I, qvxsSortIndexDescend_8u_I);
+  expectDocumentedOrder(qvxsSortIndexAscend_16s_I, qvxsSortIndexDescend_16s_I);
+  expectDocumentedOrder(qvxsSortIndexAscend_16u_I, qvxsSortIndexDescend_16u_I);
+  expectDocumentedOrder(qvxsSortIndexAscend_32s_I, qvxsSortIndexDescend_32s_I);
+  expectDocumentedOrder(qvxsSortIndexAscend_32f_I, qvxsSortIndexDescend_32f_I);
+  expectDocumentedOrder(qvxsSortIndexAscend_64f_I, qvxsSortIndexDescend_64f_I);
 }
 
 TEST(SortIndex, KeepsElementsBesideTheirPlacesWhateverNaNDoes) {

@@ -22,7 +22,7 @@ constexpr ScaleWindow kLong = {-62, 32};
 const auto kShortQuotient = []<class T>(T a, T b, int s) { return quotient<T>(a, b, s, kShort); };
 
 // b * conj(a) / |a|^2, or b's own signs for a divisor of zero.
-const auto complexQuotient(ScaleWindow window) {
+auto complexQuotient(ScaleWindow window) {
   return [=](Qvx16sc a, Qvx16sc b, int s) {
     const Wide squares = Wide{a.re} * a.re + Wide{a.im} * a.im;
     const Wide re = squares == 0 ? b.re : Wide{b.re} * a.re + Wide{b.im} * a.im;
@@ -46,8 +46,7 @@ template <class D, class A, class Oracle> void divides(Oracle oracle, QvxStatus 
     SCOPED_TRACE("scale factor " + std::to_string(s));
     Elementwise<D, A, A> trial(data, [=](A a, A b) { return oracle(a, b, s); });
     const auto call = [=](const A* a, const A* b, D* d, int n) { return f(a, b, d, n, s); };
-    if (everyLength) trial.warns(kWarnsOfZero).run(call);
-    else trial.warns(kWarnsOfZero).runOnce(call);
+    trial.warns(kWarnsOfZero).runAt(everyLength, call);
   };
   for (const int s : scaleFactors()) at(s, operands<A>(600, s % 2 == 0 ? 600 : 599, static_cast<unsigned>(s)), false);
   for (const int s : {-40, -15, -1, 0, 3, 20, 40}) at(s, operands<A>(700, 137), true);

@@ -7,11 +7,6 @@
 
 namespace tests {
 
-inline std::vector<int> range(int from, int to, std::vector<int> more = {}) {
-  for (int s = from; s <= to; ++s) more.push_back(s);
-  return more;
-}
-
 // All scale factors that any type can tell apart, and far ones.
 inline std::vector<int> scaleFactors() { return range(-70, 70, {INT32_MIN, INT32_MIN + 1, -1000, 1000, INT32_MAX}); }
 
@@ -85,8 +80,7 @@ void each(Oracle oracle, QvxStatus (*f)(const A*, const B*, D*, int, int), const
     Random random(seed() + static_cast<unsigned>(s));
     Elementwise<D, A, B> trial(n, random, [=](A a, B b) { return oracle(a, b, s); });
     const auto call = [=](const A* a, const B* b, D* d, int n) { return f(a, b, d, n, s); };
-    if (everyLength) trial.run(call);
-    else trial.runOnce(call);
+    trial.runAt(everyLength, call);
   };
   for (const int s : scales) at(s, 600, false);
   for (const int s : kPathScales) at(s, 700, true);
@@ -118,8 +112,7 @@ void byConstants(Oracle oracle, QvxStatus (*f)(const T*, T, T*, int, int), const
     Random random(seed() + static_cast<unsigned>(s));
     Elementwise<T, T> trial(n, random, [=](T a) { return oracle(a, c, s); });
     const auto call = [=](const T* a, T* d, int n) { return f(a, c, d, n, s); };
-    if (everyLength) trial.run(call);
-    else trial.runOnce(call);
+    trial.runAt(everyLength, call);
   };
   for (const T c : some) {
     for (const int s : scaleFactors()) at(c, s, 300, false);
@@ -155,8 +148,7 @@ void scaledUnary(QvxStatus (*f)(const S*, D*, int, int), const std::vector<S>& s
     SCOPED_TRACE("scale factor " + std::to_string(s));
     Elementwise<D, S> trial(std::make_tuple(everyLength ? few : sources), [=](S x) { return oracle(x, s); });
     const auto call = [=](const S* a, D* d, int n) { return f(a, d, n, s); };
-    if (everyLength) trial.warns(warning).run(call);
-    else trial.warns(warning).runOnce(call);
+    trial.warns(warning).runAt(everyLength, call);
   };
   for (const int s : scales) at(s, false);
   for (const int s : pathScales) at(s, true);

@@ -108,8 +108,7 @@ TEST(AddProduct, Members) {
       Random random(seed());
       Elementwise<D, A, A, D> trial(300, random, [=](A a, A b, D d) { return oracle(a, b, d, s); });
       const auto call = [=](const A* a, const A* b, const D*, D* d, int n) { return f(a, b, d, n, s); };
-      if (std::abs(s) < 20) trial.run(call, 2);
-      else trial.runOnce(call, 2);
+      trial.runAt(std::abs(s) < 20, call, 2);
     }
   };
   with(

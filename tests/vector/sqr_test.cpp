@@ -64,7 +64,7 @@ TEST(Abs, Members) {
   unary(qvxsAbs_64f, withSpecials<Qvx64f>(), kMagnitude);
 }
 
-// Of what is not a number too, only the sign bit goes.
+// Of a NaN too, only the sign bit goes.
 TEST(Abs, KeepsPayloads) {
   const uint64_t bits[] = {0xFFF8000000000123, 0x7FF8000000000456, 0xFFF0000000000001};
   Qvx64f v[3];

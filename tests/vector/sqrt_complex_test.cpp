@@ -64,7 +64,7 @@ TEST(ComplexSqrt, Accuracy) {
   accurate(qvxsSqrt_64fc, 2.0);
 }
 
-// Zeros, infinities and what is not a number: the C library's csqrt is the rule.
+// Zeros, infinities and NaN: the C library's csqrt is the rule.
 template <class C> void special(QvxStatus (*f)(const C*, C*, int)) {
   using T = Part<C>;
   const T inf = std::numeric_limits<T>::infinity();

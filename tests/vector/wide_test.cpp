@@ -50,8 +50,7 @@ template <class T> void sumsByMode(QvxStatus (*f)(const T*, T, T*, Qvx32u, int, 
         Elementwise<T, T> trial(std::make_tuple(source),
                                 [=](T a) { return s > 64 && !isOnlyTie ? T{0} : scaled<T>(Wide{a} + c, s, rounding); });
         const auto call = [=](const T* a, T* d, int n) { return f(a, c, d, static_cast<Qvx32u>(n), s, mode); };
-        if (c == 1 && std::abs(s) < 4) trial.run(call);
-        else trial.runOnce(call);
+        trial.runAt(c == 1 && std::abs(s) < 4, call);
         if (testing::Test::HasFailure()) return;
       }
     }
