@@ -36,6 +36,14 @@ template <class V> V shortFloor(V v) {
   return near - hn::IfThenElseZero(near > v, same<V>(1));
 }
 
+// The whole number nearest to v, which lies between -2^51 and 2^51. Without an instruction that rounds, the mode has to be to
+// nearest.
+template <class V> V shortNearest(V v) {
+  if constexpr (kRoundsByInstruction) return hn::Round(v);
+  const V middle = same<V>(0x1.8p52);
+  return (v + middle) - middle;
+}
+
 #if !QVXS_AVX512
 // Two whole numbers, either half of a 64-bit integer from 0 on in the lower bits of one; their sum is that integer.
 template <class V> auto halvesAsDoubles(V v) {

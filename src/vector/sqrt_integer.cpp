@@ -118,7 +118,7 @@ struct NearRootLengthened {
     const Real scaled = root * same<Real>(powerOfTwo<double>(s));
     const auto [coarse, fine] = split(scaled);
     const Real beyond = fine + step(remainderOf(root, root, value) + low, value, root);
-    const Real whole = kRoundsByInstruction ? hn::Round(beyond) : (beyond + same<Real>(0x1.8p52)) - same<Real>(0x1.8p52);
+    const Real whole = shortNearest(beyond);
     if (!hn::AllTrue(TagOf<Real>(), hn::Abs(beyond - whole) < same<Real>(0.5 - 0x1p-14))) [[unlikely]]
       return bySquares(x);
     return coarse + shortWholeToInt64(whole);
@@ -173,13 +173,12 @@ struct NearRootLengthened {
 
 QvxStatus root64(const Qvx64s* src, Qvx64s* dst, int len, int sf) {
   using Root64s = IntegerRoot<Qvx64s, Qvx64s>;
-  if (sf >= 0) return map<Root64s>(dst, len, ScaledRoot{sf}, src);
+  if (sf >= -kPlacesInLanes) return map<Root64s>(dst, len, ScaledRoot{sf}, src);
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;
   const int s = sf < -63 ? 63 : -sf;  // 1 times 2^63 saturates already
   const RoundingScope scope(kRootMode);
   const auto with = [&](auto root) { return loop(Root64s::kernel(root), destination(dst), elements(len), source(src)); };
-  if (s <= kPlacesInLanes) return with(RootEnlarged<63>{s});
   return s <= NearRootLengthened::kMaxPlaces ? with(NearRootLengthened{s}) : with(RootLengthened{s});
 }
 
