@@ -47,9 +47,10 @@ template <class V> auto measured(Pair<V> x, double whole = 0) {
   const auto value = inDoubles(x);
   using W = std::remove_const_t<decltype(value.lo)>;
   if constexpr (std::is_same_v<LaneOf<V>, float>) {
-    // The squares of single parts are exact: fused or not, the sum is rounded once. A Pair copied as a whole passes through memory
-    // in AVX2 (4096 reciprocals: 8.2 us, not 2.4).
-    return Measured<W>{{value.lo, value.hi}, same<W>(1), kFuses ? hn::MulAdd(value.lo, value.lo, value.hi * value.hi) : squareOf(value)};
+    // The squares of single parts are exact: fused or not, the sum is rounded once. A Pair copied as a whole passes through
+    // memory in AVX2 (4096 reciprocals: 8.2 us, not 2.4).
+    return Measured<W>{
+        {value.lo, value.hi}, same<W>(1), kFuses ? hn::MulAdd(value.lo, value.lo, value.hi * value.hi) : squareOf(value)};
   } else {
     // The limit keeps the unit of infinity a positive number.
     const W larger = hn::Min(hn::Max(hn::Abs(value.lo), hn::Abs(value.hi)), same<W>(0x1p1022));
