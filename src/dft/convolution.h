@@ -28,13 +28,15 @@ void makeFft(Spec*& spec, QvxStatus (*init)(Spec**, int, int, int, Qvx8u*, Qvx8u
 
 template <class T> constexpr int64_t bytesOfPoints(int64_t n) { return n * 2 * static_cast<int64_t>(sizeof(T)); }
 
-// The length of least cost from 2n - 1 on: a power of two, or, since its transform takes 0.7 of the time of other lengths for a
-// point, one that is much shorter. `told` bytes have room for it: twice the points of a transform by factors.
+// The length of least cost from 2n - 1 on: a power of two, or one that is shorter, past the nearest cache by however little.
+// Within it a transform of a power of two takes 0.7 of the time of other lengths for a point, past it 1.1 to 1.7: 5507 complex
+// doubles take 0.46 by 11520 points of what they take by 16384. `told` bytes have room for it: twice the points of a transform by
+// factors.
 template <class T> uint32_t lengthOfConvolution(uint32_t n, int64_t told) {
   const uint32_t least = 2 * n - 1;
   uint32_t best = std::bit_ceil(least);
   if (bytesOfPoints<T>(best) + bytesOfFft<T>(best).work + Carver::kLine - fft::kWorkSlack > told) best = 2 * best;
-  double cost = 0.7 * best;
+  double cost = isInNearestCache<T>(best) ? 0.7 * best : best;
   for (const uint32_t odd : {3, 5, 7, 9, 15, 21, 25, 27, 45, 63, 75, 81, 125, 135, 225}) {
     uint32_t length = odd * 16;
     while (length < least) length *= 2;
@@ -46,41 +48,27 @@ template <class T> uint32_t lengthOfConvolution(uint32_t n, int64_t told) {
 }
 
 // The points of a prime number but the first, in the order of the powers of a generator g, go through a circular convolution that
-// is one point shorter than they are: half of what a chirp takes. Where that length is a power of two, or thrice one, it takes
-// 0.3 to 0.8 of the time (65537 doubles 1.0 ms instead of 3.5); with other factors 0.6 to 1.6, and half of the lengths lose.
-inline bool isPermuted(uint32_t n) {
-  const uint32_t length = n - 1;
-  return (std::has_single_bit(length) || (length % 3 == 0 && std::has_single_bit(length / 3))) && isPrime(n);
-}
-// For one point more, and a vector that ends past it.
-template <class T> int64_t roomOfPermuted(uint32_t length) {
-  return up<16>(int64_t{length} + 1 + static_cast<int64_t>(kWidest<T>));
-}
-
-template <class T> Bytes choosePermuted(ConvolutionPlan<T>& plan, uint32_t n) {
-  const uint32_t length = n - 1;
-  plan.length = length;
-  const int64_t room = 2 * roomOfPermuted<T>(length) * static_cast<int64_t>(sizeof(T));
-  Bytes bytes = {bytesOfPoints<T>(length) + int64_t{length} * 4 + 3 * Carver::kLine, room + Carver::kLine};
-  if (std::has_single_bit(length)) {
-    const Bytes fft = bytesOfFft<T>(length);
-    return {bytes.tables + fft.tables, bytes.work + std::max(room, fft.work)};
+// is one point shorter than they are: half of what a chirp takes. With factors up to 13 it takes 0.2 to 0.8 of the time: 8191
+// complex doubles 0.51, in registers of 32 bytes 0.41, of 16 bytes 0.44. Points go to the other order and back one by one, so
+// wide vectors lose by it where transforms are short: 379 complex floats would take 1.5 in registers of 64 bytes, 127 1.3 in
+// those of 32.
+template <class T> inline constexpr uint32_t kLeastPermuted = kWidest<T> <= 4 ? 0 : kWidest<T> == 8 ? 180 : 2300;
+template <class T> bool isPermuted(uint32_t n) {
+  uint32_t rest = n - 1;
+  for (const uint8_t p : kPreciseFactors) {
+    while (rest % p == 0) rest /= p;
   }
-  planMixed(plan.length, plan.mixed);
-  return {bytes.tables + static_cast<int64_t>(tableLength(plan.mixed) * sizeof(T)), bytes.work + room};
+  const uint32_t odd = (n - 1) >> std::countr_zero(n - 1);
+  return rest == 1 && (n > kLeastPermuted<T> || odd <= 3) && isPrime(n);
 }
 
 template <class T> Bytes choose(ConvolutionPlan<T>& plan, uint32_t n) {
-  plan.isPermuted = isPermuted(n);
-  if (plan.isPermuted) {
-    const Bytes bytes = choosePermuted(plan, n);
-    if (bytes.work <= *complexWork<T>(n)) return bytes;
-    plan.isPermuted = false;
-  }
-  const uint32_t length = lengthOfConvolution<T>(n, *complexWork<T>(n));
+  plan.isPermuted = isPermuted<T>(n);
+  const uint32_t length = plan.isPermuted ? n - 1 : lengthOfConvolution<T>(n, *complexWork<T>(n));
   plan.length = length;
   const int64_t spare = kVectorBytes * 3;  // past the chirp, for whole vectors
-  Bytes bytes = {bytesOfPoints<T>(int64_t{n} + length) + spare + 3 * Carver::kLine, bytesOfPoints<T>(length) + Carver::kLine};
+  const int64_t ofPoints = plan.isPermuted ? int64_t{length} * 4 : bytesOfPoints<T>(n) + spare;
+  Bytes bytes = {bytesOfPoints<T>(length) + ofPoints + 3 * Carver::kLine, bytesOfPoints<T>(length) + Carver::kLine};
   if (std::has_single_bit(length)) {
     const Bytes fft = bytesOfFft<T>(length);
     return {bytes.tables + fft.tables, bytes.work + fft.work - fft::kWorkSlack};
@@ -96,13 +84,13 @@ template <class T> struct ConvolutionWork {
   uint8_t* rest;
 
   ConvolutionWork(const ConvolutionPlan<T>& plan, uint8_t* work) {
-    const auto room = plan.isPermuted ? roomOfPermuted<T>(plan.length) : static_cast<int64_t>(plan.length);
+    const size_t length = plan.length;
     Carver carver(work, Carver::kLine);
-    T* const re = carver.take<T>(room);
-    y = planes(re, carver.take<T>(room));
+    T* const re = carver.take<T>(2 * static_cast<int64_t>(length));
+    y = planes(re, re + length);
     rest = carver.rest();
     auto* const next = reinterpret_cast<T*>(rest);
-    other = planes(next, next + room);
+    other = planes(next, next + length);
   }
   void transform(const ConvolutionPlan<T>& plan) {
     if (!isNull(plan.fft)) {
@@ -162,7 +150,7 @@ inline uint32_t generatorOf(uint32_t n) {
   };
   uint32_t g = 2;
   const auto generates = [&] {
-    for (const uint32_t p : {2, 3}) {
+    for (const uint8_t p : kPreciseFactors) {
       if ((n - 1) % p == 0 && power(g, (n - 1) / p) == 1) return false;
     }
     return true;
@@ -192,37 +180,38 @@ template <class T> void writePermuted(ConvolutionPlan<T>& plan, uint32_t n, uint
   writeSpectrum(length, spectrum, work, fill, intoPlanes(spectrum, length));
 }
 
+// get(k), put(k, z): points and results from the second on. Takes the first point, returns the first result.
 template <class T, class Get, class Put>
-void convolvePermuted(const ConvolutionPlan<T>& plan, size_t n, size_t results, Get get, Put put, uint8_t* work) {
-  constexpr size_t L = kWidest<T>;
+Complex<T> convolveByPowers(const ConvolutionPlan<T>& plan, Complex<T> first, Get get, Put put, uint8_t* work) {
   const size_t length = plan.length;
   ConvolutionWork<T> points(plan, work);
-  const Planes<T> x = points.other;
-  for (size_t k = 0; k < n; k += L) x.template put<L>(get(k, std::min(L, n - k)), k);
   for (size_t m = 0; m < length; ++m) {
-    points.y.re[m] = x.re[plan.powers[m]];
-    points.y.im[m] = x.im[plan.powers[m]];
+    const Complex<T> z = get(plan.powers[m]);
+    points.y.re[m] = z.re;
+    points.y.im[m] = z.im;
   }
-  const T firstRe = x.re[0];
-  const T firstIm = x.im[0];
   points.transform(plan);
-  const T sumRe = firstRe + points.y.re[0];
-  const T sumIm = firstIm + points.y.im[0];
+  const Complex<T> sum = {first.re + points.y.re[0], first.im + points.y.im[0]};
   points.multiply(plan);
-  points.y.re[0] += firstRe;  // and so each result is greater by it
-  points.y.im[0] += firstIm;
+  points.y.re[0] += first.re;  // and so each result is greater by it
+  points.y.im[0] += first.im;
   points.exchangeParts();
   points.transform(plan);
   points.exchangeParts();
-  const Planes<T> all = points.other;
-  all.re[0] = sumRe;
-  all.im[0] = sumIm;
-  for (size_t m = 0; m < length; ++m) {
-    const size_t q = m == 0 ? 0 : length - m;
-    all.re[plan.powers[m]] = points.y.re[q];
-    all.im[plan.powers[m]] = points.y.im[q];
-  }
-  for (size_t k = 0; k < results; k += L) put(all.template get<L>(k), k, std::min(L, results - k));
+  put(plan.powers[0], Complex<T>{points.y.re[0], points.y.im[0]});
+  for (size_t m = 1; m < length; ++m) put(plan.powers[m], Complex<T>{points.y.re[length - m], points.y.im[length - m]});
+  return sum;
+}
+
+// kStep: from a number to the next. src may be dst: all is read before the first result is written.
+template <size_t kStep, class T>
+void convolvePermuted(const ConvolutionPlan<T>& plan, Planes<const T> src, Planes<T> dst, T factor, uint8_t* work) {
+  const auto put = [=](size_t k, Complex<T> z) {
+    dst.re[kStep * k] = factor * z.re;
+    dst.im[kStep * k] = factor * z.im;
+  };
+  const auto get = [=](size_t k) { return Complex<T>{src.re[kStep * k], src.im[kStep * k]}; };
+  put(0, convolveByPowers(plan, get(0), get, put, work));
 }
 
 // ---- With a chirp
@@ -263,7 +252,6 @@ template <class T, class Get, class Put>
 void convolve(const ConvolutionPlan<T>& plan, size_t n, size_t results, Get get, Put put, uint8_t* work) {
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
-  if (plan.isPermuted) return convolvePermuted(plan, n, results, get, put, work);
   const size_t length = plan.length;
   ConvolutionWork<T> points(plan, work);
   const Planes<const T> chirp = planes(plan.chirp, plan.chirp + n);
@@ -285,6 +273,10 @@ void convolve(const ConvolutionPlan<T>& plan, size_t n, size_t results, Get get,
 
 template <class T>
 void convolve(const ConvolutionPlan<T>& plan, size_t n, bool isInverse, const T* src, T* dst, T factor, uint8_t* work) {
+  if (plan.isPermuted) {  // inverse: with the parts exchanged
+    const Planes<const T> from = planes(src + isInverse, src + !isInverse);
+    return convolvePermuted<2>(plan, from, planes(dst + isInverse, dst + !isInverse), factor, work);
+  }
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   const T sign = isInverse ? T(-0.0) : T(0);
@@ -304,6 +296,7 @@ void convolve(const ConvolutionPlan<T>& plan, size_t n, bool isInverse, const T*
 template <class T>
 void convolve(const ConvolutionPlan<T>& plan, size_t n, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, T factor,
               uint8_t* work) {
+  if (plan.isPermuted) return convolvePermuted<1>(plan, planes(srcRe, srcIm), planes(dstRe, dstIm), factor, work);
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   convolve(
@@ -316,6 +309,15 @@ void convolve(const ConvolutionPlan<T>& plan, size_t n, const T* srcRe, const T*
 
 // Of real numbers, forward: the half of the spectrum that is not conjugate to the other, as pairs.
 template <class T> void convolveReals(const ConvolutionPlan<T>& plan, size_t n, const T* src, T* dst, T factor, uint8_t* work) {
+  if (plan.isPermuted) {
+    const auto put = [=](size_t k, Complex<T> z) {
+      if (k > n / 2) return;
+      dst[2 * k] = factor * z.re;
+      dst[2 * k + 1] = factor * z.im;
+    };
+    const auto get = [=](size_t k) { return Complex<T>{src[k], 0}; };
+    return put(0, convolveByPowers(plan, get(0), get, put, work));
+  }
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   const Lanes<T, L> d;

@@ -26,35 +26,30 @@ template <class W> Complex<W> preciseTwiddle(size_t k, size_t n) {
   return {cosine, -sine};
 }
 
+template <class W> Complex<W> preciseSum(Complex<W> a, Complex<W> b) { return {a.re + b.re, a.im + b.im}; }
+template <class W> Complex<W> preciseDifference(Complex<W> a, Complex<W> b) { return {a.re - b.re, a.im - b.im}; }
 template <class W> Complex<W> preciseProduct(Complex<W> a, Complex<W> b) {
   return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
 }
 
-// Forward, in place, of n points with prime factors up to 7, whose parts stand apart.
+// The prime factors that the lengths of precise transforms may have.
+inline constexpr uint8_t kPreciseFactors[] = {13, 11, 7, 5, 3, 2};
+
+// Forward, in place, of n points, whose parts stand apart.
 class PreciseTransform {
  public:
   explicit PreciseTransform(size_t n) : n_(n) {
-    for (const uint8_t p : {7, 5, 3, 2}) {
+    for (const uint8_t p : kPreciseFactors) {
       for (; n % p == 0; n /= p) factors_[count_++] = p;
     }
   }
 
   template <class W> void run(W* re, W* im) const {
-    size_t m = n_;
-    for (size_t i = 0; i < count_; ++i) {
+    for (size_t i = 0, m = n_; i < count_; ++i) {
       const size_t p = factors_[i];
       m /= p;
-      Complex<W> radixTwiddles[kMost];
-      for (size_t j = 0; j < p; ++j) radixTwiddles[j] = preciseTwiddle<W>(j, p);
-      const Complex<W> step = preciseTwiddle<W>(1, m * p);
-      Complex<W> twiddle = {};
-      for (size_t q = 0; q < m; ++q) {
-        twiddle = q % 64 == 0 ? preciseTwiddle<W>(q, m * p) : preciseProduct(twiddle, step);
-        for (size_t at = q; at < n_; at += m * p) {
-          if (p == 2) pair(re + at, im + at, m, twiddle);
-          else several(re + at, im + at, m, p, radixTwiddles, twiddle);
-        }
-      }
+      if (p == 2) pass<2>(re, im, m, twos<W>);
+      else odd(p, re, im, m);
     }
   }
   // put(k, re, im) for each result k, rounded. All move to the imaginary parts' place first, so that put() may write to the real
@@ -68,7 +63,6 @@ class PreciseTransform {
   }
 
  private:
-  static constexpr size_t kMost = 7;
   static constexpr size_t kMostFactors = 32;
 
   // step(k, place) for each result k, which stands at `place`: the digits of k in the opposite order.
@@ -87,26 +81,70 @@ class PreciseTransform {
       }
     }
   }
-  template <class W> static void pair(W* re, W* im, size_t m, Complex<W> twiddle) {
-    const Complex<W> off = preciseProduct(Complex<W>{re[0] - re[m], im[0] - im[m]}, twiddle);
-    re[0] += re[m];
-    im[0] += im[m];
-    re[m] = off.re;
-    im[m] = off.im;
-  }
-  template <class W> static void several(W* re, W* im, size_t m, size_t p, const Complex<W>* radixTwiddles, Complex<W> twiddle) {
-    Complex<W> z[kMost];
-    for (size_t k = 0; k < p; ++k) z[k] = {re[k * m], im[k * m]};
-    Complex<W> power = {1, 0};
-    for (size_t j = 0; j < p; ++j, power = preciseProduct(power, twiddle)) {
-      Complex<W> sum = z[0];
-      for (size_t k = 1; k < p; ++k) {
-        const Complex<W> term = preciseProduct(z[k], radixTwiddles[j * k % p]);
-        sum = {sum.re + term.re, sum.im + term.im};
+
+  // P points, m apart, become their transform, result j times the j-th power of a twiddle.
+  template <size_t P, class W, class Butterfly> void pass(W* re, W* im, size_t m, Butterfly butterfly) const {
+    const Complex<W> step = preciseTwiddle<W>(1, m * P);
+    Complex<W> twiddle = {};
+    for (size_t q = 0; q < m; ++q) {
+      twiddle = q % 64 == 0 ? preciseTwiddle<W>(q, m * P) : preciseProduct(twiddle, step);
+      Complex<W> powers[P];
+      powers[0] = twiddle;
+      for (size_t j = 1; j + 1 < P; ++j) powers[j] = preciseProduct(powers[j - 1], twiddle);
+      for (size_t at = q; at < n_; at += m * P) {
+        Complex<W> z[P];
+        for (size_t k = 0; k < P; ++k) z[k] = {re[at + k * m], im[at + k * m]};
+        butterfly(z);
+        for (size_t j = 1; j < P; ++j) z[j] = preciseProduct(z[j], powers[j - 1]);
+        for (size_t k = 0; k < P; ++k) re[at + k * m] = z[k].re, im[at + k * m] = z[k].im;
       }
-      const Complex<W> result = preciseProduct(sum, power);
-      re[j * m] = result.re;
-      im[j * m] = result.im;
+    }
+  }
+  template <class W> static void twos(Complex<W> (&z)[2]) {
+    const Complex<W> a = z[0];
+    z[0] = preciseSum(a, z[1]);
+    z[1] = preciseDifference(a, z[1]);
+  }
+
+  // An odd prime P: result j and result P - j are a sum and a difference of what points at equal distances from the first make.
+  template <size_t P, class W> void oddPass(W* re, W* im, size_t m) const {
+    constexpr size_t H = P / 2;
+    Complex<W> turns[P];
+    for (size_t j = 0; j < P; ++j) turns[j] = preciseTwiddle<W>(j, P);
+    pass<P>(re, im, m, [&](Complex<W>(&z)[P]) {
+      Complex<W> sums[H];
+      Complex<W> differences[H];
+      const Complex<W> first = z[0];
+      for (size_t k = 0; k < H; ++k) {
+        sums[k] = preciseSum(z[k + 1], z[P - 1 - k]);
+        differences[k] = preciseDifference(z[k + 1], z[P - 1 - k]);
+        z[0] = preciseSum(z[0], sums[k]);
+      }
+      for (size_t j = 1; j <= H; ++j) {
+        Complex<W> even = first;
+        Complex<W> odd = {};
+        for (size_t k = 0; k < H; ++k) {
+          const Complex<W> turn = turns[j * (k + 1) % P];
+          even = {even.re + turn.re * sums[k].re, even.im + turn.re * sums[k].im};
+          odd = {odd.re - turn.im * differences[k].im, odd.im + turn.im * differences[k].re};
+        }
+        z[j] = preciseSum(even, odd);
+        z[P - j] = preciseDifference(even, odd);
+      }
+    });
+  }
+  template <class W> void odd(size_t p, W* re, W* im, size_t m) const {
+    switch (p) {
+      case 3:
+        return oddPass<3>(re, im, m);
+      case 5:
+        return oddPass<5>(re, im, m);
+      case 7:
+        return oddPass<7>(re, im, m);
+      case 11:
+        return oddPass<11>(re, im, m);
+      default:
+        return oddPass<13>(re, im, m);
     }
   }
 

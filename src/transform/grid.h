@@ -145,17 +145,15 @@ template <class T> constexpr size_t gridTwiddles(const GridPlan<T>& plan) {
 }
 template <class T, class Write> constexpr void writeGridTwiddles(const GridPlan<T>& plan, T* out, Write write) {
   const size_t P = plan.lanes;
-  const size_t others = plan.down - 1U;
   const size_t across = plan.across;
-  write(
-      plan.down * across, gridTwiddles(plan),
-      [=](size_t i) { return (i / P % others + 1) * (gridColumn(i / (P * others), across, P) + i % P); },
-      [=](size_t i, double re, double im) {
-        T* const at = out + i / P * 4 * P + 2 * (i % P);
-        at[0] = at[1] = static_cast<T>(re);
-        at[2 * P] = static_cast<T>(-im);
-        at[2 * P + 1] = static_cast<T>(im);
-      });
+  const auto column = [=](size_t vector, size_t lane) { return gridColumn(vector, across, P) + lane; };
+  write(plan.down * across, gridTwiddles(plan), inTurn(P, plan.down - 1U, column), [=](size_t i, double re, double im) {
+    const size_t lane = i & (P - 1);
+    T* const at = out + 4 * (i - lane) + 2 * lane;
+    at[0] = at[1] = static_cast<T>(re);
+    at[2 * P] = static_cast<T>(-im);
+    at[2 * P + 1] = static_cast<T>(im);
+  });
 }
 
 // Up to here tables are constants of the code: records of cosine transforms have no room for them.
@@ -163,7 +161,10 @@ inline constexpr uint32_t kLongestReadyGrid = 50;
 
 struct BySeries {
   template <class Index, class Put> constexpr void operator()(size_t n, size_t count, Index x, Put put) const {
-    for (size_t i = 0; i < count; ++i) put(i, cosineOfTurn(x(i), n), -sineOfTurn(x(i), n));
+    for (size_t i = 0; i < count; ++i) {
+      const size_t at = x(i);
+      put(i, cosineOfTurn(at, n), -sineOfTurn(at, n));
+    }
   }
 };
 template <class T, uint32_t n>

@@ -69,8 +69,7 @@ template <class T> void writeBlocks(MixedBlocks<T>& blocks, T* block) {
       n, rows * L, [](size_t i) { return i / L * (i % L); }, intoGroups<L>(out));
   out += rows * L * 2;
   blocks.begins = out;
-  writeTwiddles(
-      n, rows * vectors, [rows](size_t i) { return i / rows * L * (i % rows); }, intoPairs(out));
+  writeTwiddles(n, rows * vectors, inTurn(rows, 1, [](size_t vector, size_t row) { return vector * L * row; }), intoPairs(out));
   out += rows * vectors * 2;
   writeMixedColumns(blocks.rows, writeMixedColumns(blocks.columns, out));
 }

@@ -86,6 +86,9 @@ constexpr uint32_t costOfRadix(size_t radix) {
   return kHasMasks || radix < 8 ? kCosts[radix] : kCosts[radix] * 5 / 4;
 }
 
+// Whether the first-level cache holds what each pass takes its n points from, and what its results go into.
+template <class T> constexpr bool isInNearestCache(size_t n) { return n * 4 * sizeof(T) <= 48 << 10; }
+
 template <class T> class MixedPlanner {
  public:
   static constexpr size_t kMostDivisors = 720;
@@ -136,7 +139,7 @@ template <class T> class MixedPlanner {
   // The passes from divisor i on, of which n / i are done.
   void consider(size_t i, uint32_t n, std::span<const uint8_t> radices) {
     const uint32_t d = divisor_[i];
-    const bool fitsNearest = columns_ > 1 || n * 4 * sizeof(T) <= kNearestCache;
+    const bool fitsNearest = columns_ > 1 || isInNearestCache<T>(n);
     const uint64_t pass = kPass + (fitsNearest ? 0 : vectors(n) * kAwayFromNearest * 3 / 8);
     for (const uint8_t radix : radices) {
       if (d % radix != 0) continue;
@@ -171,7 +174,6 @@ template <class T> class MixedPlanner {
   }
   static uint64_t vectors(uint64_t count) { return (count + kWidest<T> - 1) / kWidest<T>; }
   static constexpr uint32_t kPass = 100;
-  static constexpr size_t kNearestCache = 48 << 10;  // from which each pass takes its points, and into which its results go
   static constexpr uint32_t kAwayFromNearest = 8;  // a vector of a tile that the first-level cache does not hold, there and back
   static constexpr uint32_t kUnaligned = 3;        // a vector in two lines of the cache
   static constexpr uint32_t kTransposition = kWidest<T> * (log2Of(kWidest<T>) + 1);
@@ -234,8 +236,7 @@ template <class T> void writeMatrix(size_t radix, T* out) {
 template <class T> T* writeMiddle(size_t n, size_t radix, T* out) {
   const size_t m = n / radix;
   const size_t others = radix - 1;
-  writeTwiddles(
-      n, m * others, [others](size_t i) { return i / others * (i % others + 1); }, intoPairs(out));
+  writeTwiddles(n, m * others, inTurn(1, others, [](size_t group, size_t) { return group; }), intoPairs(out));
   return out + m * others * 2;
 }
 
@@ -269,13 +270,11 @@ template <class Src, class T> void writeMixed(MixedPlan<T>& plan, T* block) {
     }
     const auto write = [&](auto L) {
       const bool overlaps = radix <= kWidestMixed && m >= L;  // the last vector ends where the columns do
-      const auto column = [=](size_t i) {
-        const size_t begin = i / (L * others) * L;
-        return (overlaps ? std::min<size_t>(begin, m - L) : begin) + Src::template element<L>(i % L);
+      const auto column = [=](size_t group, size_t lane) {
+        return (overlaps ? std::min<size_t>(group * L, m - L) : group * L) + Src::template element<L>(lane);
       };
       const size_t count = (m + L - 1) / L * L * others;
-      writeTwiddles(
-          n, count, [=](size_t i) { return column(i) * (i / L % others + 1); }, intoGroups<L>(out));
+      writeTwiddles(n, count, inTurn(L, others, column), intoGroups<L>(out));
       out += 2 * count;
     };
     if (isLargePrime(radix)) write(std::integral_constant<size_t, kManyLanes<T>>());

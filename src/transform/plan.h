@@ -191,6 +191,19 @@ template <class T> constexpr auto intoPairs(T* out) {
   };
 }
 
+// x(i) for i = 0, 1, 2 ... in turn: of(group, lane) * j of the twiddles of a pass, in groups of so many lanes, for each of their
+// columns j = 1..others. It counts, since divisions were three quarters of the time to make a record of 360 complex floats.
+template <class Of> constexpr auto inTurn(size_t lanes, size_t others, Of of) {
+  return [=, group = size_t{0}, j = size_t{1}, lane = size_t{0}](size_t) mutable {
+    const size_t x = of(group, lane) * j;
+    if (++lane == lanes) {
+      lane = 0;
+      if (++j > others) j = 1, ++group;
+    }
+    return x;
+  };
+}
+
 // How a plan gets its twiddles: constant tables have a way of their own.
 struct BySines {
   template <class Index, class Put> void operator()(size_t n, size_t count, Index x, Put put) const {
@@ -213,8 +226,7 @@ template <class T, class Write = BySines>
 constexpr T* writeLevelTwiddles(const Levels& levels, size_t rows, T* out, Write write = {}) {
   for (size_t level = 0; level + 1 < levels.count; ++level) {
     const size_t k = levels.radix[level] - 1U;
-    write(
-        rows, rows / (k + 1) * k, [k](size_t i) { return i / k * (i % k + 1); }, intoPairs(out));
+    write(rows, rows / (k + 1) * k, inTurn(1, k, [](size_t group, size_t) { return group; }), intoPairs(out));
     rows /= k + 1;
     out += rows * k * 2;
   }
