@@ -4,6 +4,7 @@
 #include "convert/level.h"
 #include "convert/magnitude.h"
 #include "frame/team.h"
+#include "vector/both_ways.h"
 
 using namespace qvx;
 
@@ -75,20 +76,17 @@ template <class Arithmetic> struct QuietComplexReciprocal {
 
   explicit QuietComplexReciprocal(double least) : level(least > 0 ? least : 0) {}
 
-  // In single registers throughout: a vector in two halves would be stored, for the call of unusual(), before each branch to it
-  // (8 elements: 20 cycles, not 10).
-  template <class V> V operator()(Flag& flag, V x) const {
-    const auto value = inDoubles(x);
-    const auto square = squareOf(value);
-    // Comparisons of floats raise exceptions; the bits of squares compare as they do, with NaN the greatest. Unsigned,
-    // one comparison tells those from the level to infinity, but for zero.
-    const auto bits = as<uint64_t>(square);
-    using Bits = std::remove_const_t<decltype(bits)>;
-    const uint64_t least = std::max(std::bit_cast<uint64_t>(level * level), uint64_t{1});
-    const auto isUsual = bits - same<Bits>(least) < same<Bits>(std::bit_cast<uint64_t>(kInfinity) - least);
-    if (!hn::AllTrue(TagOf<Bits>(), isUsual)) return unusual(flag, x);
-    const auto perSquare = Arithmetic::quotient(same<std::remove_const_t<decltype(square)>>(1), square);
-    return conjugate(each(value, [&](auto part) { return Arithmetic::toFloat(Arithmetic::product(part, perSquare)); }));
+  // Two vectors at a time, with one test: 4096 elements take 1160 ns, one by one 1230. In single registers throughout: a vector
+  // in two halves would be stored, for the call of unusual(), before each branch to it (8 elements: 20 cycles, not 10).
+  template <class V> Pair<V> operator()(Flag& flag, Pair<V> x) const {
+    const auto lo = inDoubles(x.lo);
+    const auto hi = inDoubles(x.hi);
+    const auto loSquare = squareOf(lo);
+    const auto hiSquare = squareOf(hi);
+    if (!isUsual(hn::Max(beyondLeast(loSquare), beyondLeast(hiSquare)))) return {unusual(flag, x.lo), unusual(flag, x.hi)};
+    const auto perLo = reciprocal(loSquare);
+    const auto perHi = reciprocal(hiSquare);
+    return {times(lo, perLo), times(hi, perHi)};
   }
 
  private:
@@ -96,6 +94,21 @@ template <class Arithmetic> struct QuietComplexReciprocal {
     return each(partsOf(x), [](auto part) { return Arithmetic::toDouble(part); });
   }
   template <class W> static W squareOf(Pair<W> v) { return Arithmetic::mulAdd(v.lo, v.lo, Arithmetic::product(v.hi, v.hi)); }
+  // Comparisons of floats raise exceptions; the bits of squares compare as they do, with NaN the greatest. Unsigned, one
+  // comparison tells those from the level to infinity, but for zero.
+  template <class W> auto beyondLeast(W square) const {
+    const auto bits = as<uint64_t>(square);
+    return bits - same<std::remove_const_t<decltype(bits)>>(least());
+  }
+  template <class Bits> bool isUsual(Bits beyond) const {
+    return hn::AllTrue(TagOf<Bits>(), beyond < same<Bits>(std::bit_cast<uint64_t>(kInfinity) - least()));
+  }
+  uint64_t least() const { return std::max(std::bit_cast<uint64_t>(level * level), uint64_t{1}); }
+
+  template <class W> static W reciprocal(W square) { return Arithmetic::quotient(same<W>(1), square); }
+  template <class W> static auto times(Pair<W> value, W factor) {
+    return conjugate(each(value, [&](W part) { return Arithmetic::toFloat(Arithmetic::product(part, factor)); }));
+  }
   template <class V> static auto conjugate(Pair<V> v) { return inTurn(Pair<V>{v.lo, v.hi ^ same<V>(-0.0F)}); }
 
   // A vector with special elements, or some below the level. For those, factors slightly below and slightly above the true one
@@ -135,6 +148,12 @@ struct InDoubles {
   }
 };
 
+struct TwoVectors {
+  template <class Op, class Dst, class... Src> QvxStatus run(Op op, Dst dst, size_t n, Src... src) const {
+    return loop(op, InTwos{dst}, n, InTwos{src}...);
+  }
+};
+
 // From otherWarning elements on, the warning is another: warnings and lengths are fixed values of the interface. Shorter vectors
 // end in a jump to the loop: 16 elements take 2.4 ns, not 3.8.
 struct Lengths {
@@ -166,7 +185,8 @@ template <Lengths kLengths, class T> QvxStatus complexInverse(const T* src, T* d
   const QvxStatus status = checkLevel<T>(len, src, dst, level);
   if (status != qvxStatOk) return status;
   if constexpr (kQuietByInstruction && std::is_same_v<T, Qvx32fc>) {
-    return inverted<kLengths, AsIs>(QuietComplexReciprocal<Quiet>{level}, destination(dst), 2 * elements(len), OnesPastEnd{src});
+    return inverted<kLengths, TwoVectors>(QuietComplexReciprocal<Quiet>{level}, destination(dst), 2 * elements(len),
+                                          OnesPastEnd{src});
   } else {
     const SilentScope silent;
     return inverted<kLengths, InDoubles>(ComplexReciprocal{level}, InterleavedDestination<Part<T>>{parts(dst)}, elements(len),
