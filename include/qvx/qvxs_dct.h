@@ -46,9 +46,10 @@ QVXS_API(QvxStatus, qvxsDCTFwdGetBufSize_16s, (const QvxsDCTFwdSpec_16s* pSpec, 
  *  _Sfs, _ISfs: times 2^-scaleFactor, rounded to nearest, ties to even, saturated; computed in floats, so results are within one
  *  unit of the exact ones, and below a scaleFactor of -127, whose power of two no float holds, a 0 may become 32767.
  *  pSrc, pDst: N elements each, any alignment; they may be the same vector, but not overlap otherwise.
- *  The result is the same to the bit in place and out of place and at any alignment. The relative error (root of the mean square)
- *  is at most 0.5 eps sqrt(log2 N), eps 2^-23 or 2^-52, at least 0.5 eps; where N above 100 has a prime factor above 47, 0.6, on
- *  SSSE3 0.66, and 0.75 above 2^15 numbers.
+ *  The result is the same to the bit in place and out of place and at any alignment. The relative error of noise (root of the
+ *  mean square) is at most 0.5 eps sqrt(log2 N), eps 2^-23 or 2^-52, at least 0.5 eps; where N above 100 has a prime factor above
+ *  47, 0.6, on SSSE3 0.66, and 0.75 above 2^15 numbers; that of a single vector, such as a tone or one of a few numbers, up to 2.5
+ *  times as large.
  *  pBuffer: the bytes of GetBufSize, any alignment, best at a multiple of 64; or null, then the call allocates them.
  *  Returns qvxStatOk; qvxStatNullPtr (record first); qvxStatContextMismatch; qvxStatNoMem. */
 QVXS_API(QvxStatus, qvxsDCTFwd_32f, (const Qvx32f* pSrc, Qvx32f* pDst, const QvxsDCTFwdSpec_32f* pSpec, Qvx8u* pBuffer));

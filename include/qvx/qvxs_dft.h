@@ -66,10 +66,10 @@ QVXS_API(QvxStatus, qvxsDFTGetBufSize_R_16s, (const QvxsDFTSpec_R_16s* pSpec, in
  *  below a scaleFactor of -127, whose power of two no float holds, a 0 may become 32767.
  *  pSrc, pDst: N elements each, any alignment; they may be the same vector, but not overlap otherwise. The result is the same to
  *  the bit in place and out of place, and at any alignment.
- *  The relative error (root of the mean square) is at most 0.4 eps sqrt(log2 N), eps 2^-23 or 2^-52, at least 0.5 eps; of lengths
- *  with a large prime factor 0.6 eps sqrt(log2 N), above 2^15 points 0.7; of powers of 3 above 2^16 doubles 0.45; a tenth more on
- *  SSSE3, where products are rounded before they are added. That of integers before they are rounded is the same, with the eps of
- *  floats.
+ *  The relative error of noise (root of the mean square) is at most 0.4 eps sqrt(log2 N), eps 2^-23 or 2^-52, at least 0.5 eps;
+ *  of lengths with a large prime factor 0.6 eps sqrt(log2 N), above 2^15 points 0.7; of powers of 3 above 2^16 doubles 0.45; a
+ *  tenth more on SSSE3, where products are rounded before they are added; that of a single vector, such as a tone or one of a few
+ *  points, up to 2.5 times as large. That of integers before they are rounded is the same, with the eps of floats.
  *  pBuffer: the bytes of qvxsDFTGetBufSize, any alignment, best at a multiple of 64; or null, then the call allocates them.
  *  Returns qvxStatOk; qvxStatNullPtr (record first); qvxStatContextMismatch; qvxStatNoMem. */
 QVXS_API(QvxStatus, qvxsDFTFwd_CToC_32fc, (const Qvx32fc* pSrc, Qvx32fc* pDst, const QvxsDFTSpec_C_32fc* pSpec, Qvx8u* pBuffer));

@@ -58,7 +58,8 @@ QVXS_API(QvxStatus, qvxsFFTGetBufSize_C_64f, (const QvxsFFTSpec_C_64f* pSpec, in
  *    Inv   dst[n] = f * sum over k of src[k] * exp(+2 pi i n k / N)
  *  with the factor f of the record. pSrc, pDst: N elements each, any alignment; they may be the same vector, but not overlap
  *  otherwise. The result is the same to the bit in place and out of place, at any alignment, with one thread and with two.
- *  The relative error (root of the mean square) is at most 0.35 eps sqrt(order), eps 2^-23 or 2^-52, at least 0.2 eps.
+ *  The relative error of noise (root of the mean square) is at most 0.35 eps sqrt(order), eps 2^-23 or 2^-52, at least 0.2 eps;
+ *  that of a single vector, such as a tone or one of a few points, up to twice as large.
  *  pBuffer: the bytes of qvxsFFTGetBufSize, any alignment, best at a multiple of 64; or null, then the call allocates them.
  *  Returns qvxStatOk; qvxStatNullPtr (record first); qvxStatContextMismatch; qvxStatNoMem. */
 QVXS_API(QvxStatus, qvxsFFTFwd_CToC_32fc, (const Qvx32fc* pSrc, Qvx32fc* pDst, const QvxsFFTSpec_C_32fc* pSpec, Qvx8u* pBuffer));

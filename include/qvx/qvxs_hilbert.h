@@ -29,9 +29,9 @@ QVXS_API(QvxStatus, qvxsHilbertFree_16s16sc, (QvxsHilbertSpec_16s16sc* pSpec));
  *  k = 0 and N/2: the spectrum of dst is 2 X[k] below N/2, X[k] at 0 and N/2, and 0 above. Lengths 1 and 2 have no h but 0.
  *  Real parts are the source, to the bit in floats. _Sfs: times 2^-scaleFactor, rounded to nearest, ties to even, saturated;
  *  imaginary parts are computed in floats, so they are within one unit of the exact ones; below a scaleFactor of -127, whose
- *  power of two no float holds, a 0 becomes 32767. The relative error (root of the mean
- *  square) of h is at most 0.6 eps sqrt(log2 N), eps 2^-23, at least 0.5 eps; twice that where N has a prime factor above 13; a
- *  tenth more on SSSE3.
+ *  power of two no float holds, a 0 becomes 32767. The relative error of h for noise (root of the mean square) is at most
+ *  0.6 eps sqrt(log2 N), eps 2^-23, at least 0.5 eps; twice that where N has a prime factor above 13; a tenth more on SSSE3. That
+ *  of a single vector is up to twice as large, relative to the source, since h may be much smaller.
  *  pSrc, pDst: N elements each, any alignment, which may begin at one address, but not overlap otherwise. Long calls allocate
  *  working memory for their time.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch; qvxStatNoMem. */

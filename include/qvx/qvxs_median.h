@@ -11,7 +11,8 @@ extern "C" {
 /** Median filter: each element becomes the median of the maskSize elements around it, itself in the middle. The ends behave as if the first
  *  and the last element went on for ever; vectors of one or two elements stay as they are. An even mask is reduced by one.
  *  A result is always an element of the window, bit for bit. Floats are ordered as the sorts have them: the NaN of negative sign,
- *  -infinity, numbers with -0.0 before 0.0, infinity, the other NaN; NaN of one sign by their bits.
+ *  -infinity, numbers with -0.0 before 0.0, infinity, the other NaN; NaN of one sign by their bits. Where the processor is set to
+ *  take subnormal numbers for zeros, they may come out as such.
  *  pSrc, pDst: len elements each, any alignment; pDst may be pSrc. Masks above 9 take memory of the core library for the time of the call.
  *  Returns qvxStatOk; qvxWarnEvenMask (even maskSize); qvxStatNullPtr; qvxStatBadSize (len < 1 or maskSize < 1); qvxStatNoMem (nothing is
  *  written). */
