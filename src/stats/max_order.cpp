@@ -27,20 +27,21 @@ template <class T> QvxStatus orderOfIntegers(const T* src, int len, int* order) 
   return qvxStatOk;
 }
 
-// The order of a float stands in its upper 32 bits, and so does whether it is finite: lanes of 32 bits serve both types.
+// The order of a float stands in its upper 16 bits, and so does whether it is finite: lanes of 16 bits serve both types, and
+// SSSE3 has a maximum of those alone.
 template <class T> struct Upper {
   using Bits = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
-  static constexpr int kBelow = 8 * sizeof(T) - 32;
+  static constexpr int kBelow = 8 * sizeof(T) - 16;
   static constexpr int kFraction = std::numeric_limits<T>::digits - 1 - kBelow;
   static constexpr int kBias = std::numeric_limits<T>::max_exponent - 2;  // 1 has order 1
-  static constexpr Bits kMagnitude = Bits{INT32_MAX} << kBelow;
-  static constexpr int32_t kGreatest = static_cast<int32_t>((uint32_t{2 * kBias + 3} << kFraction) - 1);  // finite
+  static constexpr Bits kMagnitude = Bits{INT16_MAX} << kBelow;
+  static constexpr int16_t kGreatest = static_cast<int16_t>(((2 * kBias + 3) << kFraction) - 1);  // finite
 
   template <class V> static auto of(V v) {
-    return as<int32_t>(as<Bits>(v) & hn::Set(hn::RebindToUnsigned<TagOf<V>>(), kMagnitude));
+    return as<int16_t>(as<Bits>(v) & hn::Set(hn::RebindToUnsigned<TagOf<V>>(), kMagnitude));
   }
 };
-static_assert(Upper<float>::kGreatest == 0x7F7FFFFF && Upper<double>::kGreatest == 0x7FEFFFFF);
+static_assert(Upper<float>::kGreatest == 0x7F7F && Upper<double>::kGreatest == 0x7FEF);
 
 template <class T> struct GreatestUpper : Reduction {
   static constexpr bool kRepeats = true;
@@ -48,7 +49,7 @@ template <class T> struct GreatestUpper : Reduction {
   template <class V> static auto start(V v) { return Upper<T>::of(v); }
   template <class A, class V> static A add(A a, V v) { return hn::Max(a, Upper<T>::of(v)); }
   template <class A> static A join(A a, A b) { return hn::Max(a, b); }
-  template <class A> static int32_t total(A a) {
+  template <class A> static int16_t total(A a) {
     return hn::GetLane(folded<1>(a, [](auto x, auto y) { return hn::Max(x, y); }));
   }
 };
@@ -62,9 +63,8 @@ template <class T> struct GreatestFiniteUpper : GreatestUpper<T> {
   template <class A, class V> static A add(A a, V v) { return hn::Max(a, start(v)); }
 };
 
-// Whether there is a number so small that its upper 32 bits are zeros. Asked only where no finite element has others.
+// Whether there is a number so small that its upper 16 bits are zeros. Asked only where no finite element has others.
 template <class T> bool hasTiny(const T* src, size_t n) {
-  if constexpr (sizeof(T) == 4) return false;
   const auto isTiny = [](auto v) {
     using V = decltype(v);
     return hn::And(v != same<V>(0), hn::Abs(v) < same<V>(std::numeric_limits<T>::min()));
@@ -76,7 +76,7 @@ template <class T> QvxStatus orderOfFloats(const T* src, int len, int* order) {
   const QvxStatus status = check(LengthFirst{len}, src, order);
   if (status != qvxStatOk) return status;
   const size_t n = elements(len);
-  int32_t greatest = reduce(GreatestUpper<T>(), n, source(src));
+  int16_t greatest = reduce(GreatestUpper<T>(), n, source(src));
   const bool isFinite = greatest <= Upper<T>::kGreatest;
   if (!isFinite) greatest = reduce(GreatestFiniteUpper<T>(), n, source(src));
   const bool isZero = greatest == 0 && !hasTiny(src, n);
