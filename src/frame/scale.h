@@ -53,6 +53,12 @@ template <class V> V saturatedAdd(V a, V b) {
     return a + b;
   } else if constexpr (sizeof(T) <= 2) {
     return hn::SaturatedAdd(a, b);
+  } else if constexpr (std::is_same_v<T, uint32_t> && !QVXS_AVX2) {
+    // SSSE3 compares signed lanes alone: a sum that wrapped is below its operands, with the offset of its sign bit too.
+    const auto offset = as<int32_t>(a ^ same<V>(T{1} << 31));
+    using Signed = std::remove_const_t<decltype(offset)>;
+    const Signed sum = offset + as<int32_t>(b);
+    return as<T>((sum ^ same<Signed>(INT32_MIN)) | hn::VecFromMask(TagOf<Signed>(), offset > sum));
   } else if constexpr (std::is_unsigned_v<T>) {
     return hn::Min(a, hn::Not(b)) + b;
   } else {
