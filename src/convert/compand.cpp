@@ -82,21 +82,59 @@ template <class Half> struct To32f {
   template <class V> auto operator()(V codes) const { return Half()(convertLanes<int16_t>(as<int8_t>(codes))); }
 };
 
-// Where no instruction takes halves: a register of codes at a time, so that the arithmetic in 16-bit lanes fills its registers.
-template <class Law> struct To32fThrough16s {
+// Where no instruction takes halves, they are the upper halves of floats, a bias of the exponent before them. `high`: a code in
+// the upper byte of each lane, its sign in the highest bit. What is subtracted has the sign of the code, and leaves a rounding to
+// nobody.
+template <class V> struct Minus {
+  V from;
+  V subtrahend;
+};
+
+// Segment 0 is segment 1 less the leading bit: the subtrahend of other segments is 0.
+struct FloatOfALaw {
+  static constexpr uint8_t kInverted = 0xD5;
+  template <class V> auto operator()(V high) const {
+    const V sign = high & same<V>(INT16_MIN);
+    const V bits = hn::ShiftRight<5>(high & same<V>(0x7F00));
+    const V isFirst = hn::VecFromMask(TagOf<V>(), same<V>(0x80) > bits);
+    return Minus<V>{sign | (bits + same<V>(119 << 7 | 4) + (isFirst & same<V>(0x80))), sign | (isFirst & same<V>(120 << 7))};
+  }
+  template <class V> static V difference(V from, V subtrahend) { return from - subtrahend; }
+};
+struct FloatOfMuLaw {
+  static constexpr uint8_t kInverted = 0xFF;
+  template <class V> auto operator()(V high) const {
+    const V sign = high & same<V>(INT16_MIN);
+    const V bits = hn::ShiftRight<5>(high & same<V>(0x7F00));
+    return Minus<V>{sign | (bits + same<V>(119 << 7 | 4)), sign | same<V>(119 << 7 | 4)};
+  }
+  // Zero is positive, whatever the code's sign and the mode.
+  template <class V> static V difference(V from, V subtrahend) {
+    return hn::IfThenElseZero(from != subtrahend, from - subtrahend);
+  }
+};
+
+// A register of codes at a time.
+template <class Float> struct To32fByUpperHalves {
   template <class V> auto operator()(V codes) const {
-    const auto values = each(widen<uint16_t>(codes), [](auto v) { return Law()(as<int16_t>(v)); });
-    const auto lo = inFloats(values.lo);
-    const auto hi = inFloats(values.hi);
+    const TagOf<V> d;
+    const V zero = hn::Zero(d);
+    const V bits = codes ^ same<V>(Float::kInverted);
+    const auto lo = floats(as<int16_t>(hn::InterleaveLower(d, zero, bits)));
+    const auto hi = floats(as<int16_t>(hn::InterleaveUpper(d, zero, bits)));
     return Quad<std::remove_const_t<decltype(lo.lo)>>{lo.lo, lo.hi, hi.lo, hi.hi};
   }
 
  private:
-  template <class V> static auto inFloats(V v) {
-    return each(widen<int32_t>(v), [](auto x) {
-      const auto f = convertLanes<float>(x);
-      return f * same<std::remove_const_t<decltype(f)>>(0x1p-15F);
-    });
+  template <class V> static auto floats(V high) {
+    const TagOf<V> d;
+    const V zero = hn::Zero(d);
+    const Minus<V> halves = Float()(high);
+    const auto lower = [&](V v) { return as<float>(hn::InterleaveLower(d, zero, v)); };
+    const auto upper = [&](V v) { return as<float>(hn::InterleaveUpper(d, zero, v)); };
+    using F = decltype(lower(high));
+    return Pair<F>{Float::difference(lower(halves.from), lower(halves.subtrahend)),
+                   Float::difference(upper(halves.from), upper(halves.subtrahend))};
   }
 };
 
@@ -208,12 +246,12 @@ template <class Kernel, class S, class D> QvxStatus apply(const S* src, D* dst, 
   return status != qvxStatOk ? status : loop(Kernel(), destination(dst), elements(len), source(src));
 }
 
-template <class Law, class Half> QvxStatus toFloat(const Qvx8u* src, Qvx32f* dst, int len) {
+template <class Half, class Float> QvxStatus toFloat(const Qvx8u* src, Qvx32f* dst, int len) {
   if constexpr (kConvertsHalves) {
     return apply<To32f<Half>>(src, dst, len);
   } else {
     const QvxStatus status = check(len, src, dst);
-    return status != qvxStatOk ? status : loop(To32fThrough16s<Law>(), Quads{dst}, elements(len), source(src));
+    return status != qvxStatOk ? status : loop(To32fByUpperHalves<Float>(), Quads{dst}, elements(len), source(src));
   }
 }
 
@@ -221,9 +259,9 @@ template <class Law, class Half> QvxStatus toFloat(const Qvx8u* src, Qvx32f* dst
 
 // clang-format off
 QvxStatus qvxsALawToLin_8u16s(const Qvx8u* a, Qvx16s* d, int len) { return apply<To16s<FromALaw>>(a, d, len); }
-QvxStatus qvxsALawToLin_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return toFloat<FromALaw, HalfOfALaw>(a, d, len); }
+QvxStatus qvxsALawToLin_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return toFloat<HalfOfALaw, FloatOfALaw>(a, d, len); }
 QvxStatus qvxsMuLawToLin_8u16s(const Qvx8u* a, Qvx16s* d, int len) { return apply<To16s<FromMuLaw>>(a, d, len); }
-QvxStatus qvxsMuLawToLin_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return toFloat<FromMuLaw, HalfOfMuLaw>(a, d, len); }
+QvxStatus qvxsMuLawToLin_8u32f(const Qvx8u* a, Qvx32f* d, int len) { return toFloat<HalfOfMuLaw, FloatOfMuLaw>(a, d, len); }
 QvxStatus qvxsLinToALaw_16s8u(const Qvx16s* a, Qvx8u* d, int len) { return apply<From16s<ToALaw>>(a, d, len); }
 QvxStatus qvxsLinToALaw_32f8u(const Qvx32f* a, Qvx8u* d, int len) { return fromFloat<ToALaw>(a, d, len); }
 QvxStatus qvxsLinToMuLaw_16s8u(const Qvx16s* a, Qvx8u* d, int len) { return apply<From16s<ToMuLaw>>(a, d, len); }
