@@ -8,18 +8,46 @@ using namespace qvx;
 
 namespace {
 
+// value in these lanes, x in the others. SSSE3 selects by three instructions either way: these spare it the copies of mask and
+// element, and take 0.8 of the time.
+template <class M, class V> V replaced(M lanes, V value, V x) {
+  if constexpr (QVXS_AVX2) return hn::IfThenElse(lanes, value, x);
+  else return value ^ hn::AndNot(hn::VecFromMask(TagOf<V>(), lanes), value ^ x);
+}
+// Loaded once, where it would be loaded for each use.
+template <class V> V loadedOnce(V x) {
+  if constexpr (QVXS_AVX2) return x;
+  else return held(x);
+}
+
+template <class V> inline constexpr bool kSelects = !QVXS_AVX2 && std::is_same_v<LaneOf<V>, int32_t>;  // has no maximum
+
 struct RaiseTo {
-  template <class V> V operator()(V x, V level) const { return hn::Max(level, x); }
+  template <class V> V operator()(V given, V level) const {
+    const V x = loadedOnce(given);
+    if constexpr (kSelects<V>) return replaced(x < level, level, x);
+    else return hn::Max(level, x);
+  }
 };
 struct LowerTo {
-  template <class V> V operator()(V x, V level) const { return hn::Min(level, x); }
+  template <class V> V operator()(V given, V level) const {
+    const V x = loadedOnce(given);
+    if constexpr (kSelects<V>) return replaced(x > level, level, x);
+    else return hn::Min(level, x);
+  }
 };
 
 struct ReplaceBelow {
-  template <class V> V operator()(V x, V level, V value) const { return hn::IfThenElse(x < level, value, x); }
+  template <class V> V operator()(V given, V level, V value) const {
+    const V x = loadedOnce(given);
+    return replaced(x < level, value, x);
+  }
 };
 struct ReplaceAbove {
-  template <class V> V operator()(V x, V level, V value) const { return hn::IfThenElse(x > level, value, x); }
+  template <class V> V operator()(V given, V level, V value) const {
+    const V x = loadedOnce(given);
+    return replaced(x > level, value, x);
+  }
 };
 struct ReplaceOutside {
   template <class V> V operator()(V x, V levelLT, V valueLT, V levelGT, V valueGT) const {
