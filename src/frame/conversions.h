@@ -35,6 +35,10 @@ constexpr int kToward0 = _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC;
 template <int kMode> __m128i toHalf(__m128 v) { return _mm_cvtps_ph(v, kMode); }
 template <int kMode> __m128i toHalf(__m256 v) { return _mm256_cvtps_ph(v, kMode); }
 #else
+inline __m128d toDouble(__m128i v) {
+  const auto part = [](__m128i lane) { return _mm_cvtsi64_sd(_mm_setzero_pd(), _mm_cvtsi128_si64(lane)); };
+  return _mm_unpacklo_pd(part(v), part(_mm_unpackhi_epi64(v, v)));
+}
 inline __m128i packU16(__m128i lo, __m128i hi) {  // for lanes from -2^31 + 2^15 on, which is all that callers have
   const __m128i bias = _mm_set1_epi32(0x8000);
   const __m128i packed = _mm_packs_epi32(_mm_sub_epi32(lo, bias), _mm_sub_epi32(hi, bias));
@@ -104,12 +108,17 @@ template <class To, class V> auto widen(V v) {
                                                   as<To>(hn::InterleaveUpper(d, v, above))};
 }
 
-// 64-bit integers to doubles in the processor's rounding mode. Without an instruction for it, Highway adds two halves, which
-// gives -0 for 0 when rounding down.
+// 64-bit integers to doubles in the processor's rounding mode. Without an instruction for vectors, Highway adds two halves, which
+// gives -0 for 0 when rounding down; of two lanes each takes the instruction for one number (0.8 of the time).
 template <class V> auto toDouble(V v) {
-  const auto converted = hn::ConvertTo(hn::Rebind<double, TagOf<V>>(), v);
+  const hn::Rebind<double, TagOf<V>> d;
+#if QVXS_AVX2
+  const auto converted = hn::ConvertTo(d, v);
   if constexpr (kHasMasks) return converted;
-  else return hn::BitCast(TagOf<decltype(converted)>(), hn::IfThenZeroElse(v == same<V>(0), hn::BitCast(TagOf<V>(), converted)));
+  else return hn::BitCast(d, hn::IfThenZeroElse(v == same<V>(0), hn::BitCast(TagOf<V>(), converted)));
+#else
+  return Vec<decltype(d)>{detail::toDouble(v.raw)};
+#endif
 }
 
 // Floats to 32-bit integers: in the processor's rounding mode, truncated, or to nearest whatever the mode (SSSE3 has no such
