@@ -41,6 +41,22 @@ struct Products32 {
     return products.even + products.odd;
   }
 };
+// Of 16 bits by 32, a * b = 2^16 a * h + a * l + 2^15 a, where h is the upper half of b and l the lower one less 2^15: each in
+// the 16-bit lanes that SSSE3 multiplies, where a signed product of 32 bits takes nine instructions.
+template <class V> struct Split {
+  V high;
+  V low;
+  V factor;
+};
+struct SplitProducts {
+  static constexpr size_t kSlice = 1 << 16;
+  template <class U, class V> static auto of(U a, Pair<V> b) {
+    const Pair<U> halves = deinterleaved(each(b, [](V v) { return as<int16_t>(v); }));
+    const U low = halves.lo ^ same<U>(INT16_MIN);
+    return Split<V>{pairProducts(a, halves.hi), pairProducts(a, low), pairProducts(a, same<U>(1))};
+  }
+};
+
 struct ComplexProducts32 {
   static constexpr bool kFetchesAhead = true;
   static constexpr size_t kSlice = kMostElements;
@@ -75,6 +91,18 @@ template <class Re, class Im> struct ComplexSum {
   auto total() const { return ComplexTotal<decltype(re.total())>{re.total(), im.total()}; }
 };
 
+template <class V> struct SplitSum {
+  LongSum<V, true> high;
+  LongSum<V, true> low;
+  V factors;
+  SplitSum plus(Split<V> v) const { return {high.plus(v.high), low.plus(v.low), factors + v.factor}; }
+  SplitSum operator+(SplitSum other) const { return {high + other.high, low + other.low, factors + other.factors}; }
+  __int128 total() const {
+    const int64_t offset = int64_t{sumOfLanes(factors)} * (1 << 15);
+    return __int128{high.total()} * (1 << 16) + (low.total() + offset);
+  }
+};
+
 template <class Product> struct ExactSum : Reduction {
   static constexpr size_t kSlice = Product::kSlice;
 
@@ -88,6 +116,10 @@ template <class Product> struct ExactSum : Reduction {
   template <class V> static auto first(Complex<V> v) {
     using Im = LongSum<V, Product::kImOfPairs>;
     return ComplexSum<LongSum<V>, Im>{LongSum<V>::of(v.re), Im::of(v.im)};
+  }
+  template <class V> static SplitSum<V> first(Split<V> v) {
+    using Part = LongSum<V, true>;
+    return {Part::of(v.high), Part::of(v.low), v.factor};
   }
 };
 
@@ -121,6 +153,11 @@ template <class Product, class D, class... Src> QvxStatus scaledDotProduct(D* re
   return reduceTo<ExactSum<Product>>(result, len, finish, src...);
 }
 
+QvxStatus scaledDotProduct16By32(const Qvx16s* a, const Qvx32s* b, int len, Qvx32s* dp, int scaleFactor) {
+  if constexpr (QVXS_AVX2) return scaledDotProduct<Products32>(dp, len, scaleFactor, a, b);
+  else return scaledDotProduct<SplitProducts>(dp, len, scaleFactor, a, InPairs{b});
+}
+
 // More than 14 places up count as 14: a sum of 1 stays apart from larger ones.
 int atLeastMinus14(int scaleFactor) { return std::max(scaleFactor, -14); }
 // From 93 places down on, only the sum of the longest vector of the most negative numbers leaves anything: a 1 for any more.
@@ -144,5 +181,5 @@ QvxStatus qvxsDotProd_16s16sc32sc_Sfs(const Qvx16s* a, const Qvx16sc* b, int len
 QvxStatus qvxsDotProd_32s_Sfs(const Qvx32s* a, const Qvx32s* b, int len, Qvx32s* dp, int sf) { return scaledDotProduct<Products32>(dp, len, atMost93(sf), a, b); }
 QvxStatus qvxsDotProd_32sc_Sfs(const Qvx32sc* a, const Qvx32sc* b, int len, Qvx32sc* dp, int sf) { return scaledDotProduct<ComplexProducts32>(dp, len, atMost93(sf), a, b); }
 QvxStatus qvxsDotProd_32s32sc_Sfs(const Qvx32s* a, const Qvx32sc* b, int len, Qvx32sc* dp, int sf) { return scaledDotProduct<MixedProducts32>(dp, len, atMost93(sf), Beside{a}, b); }
-QvxStatus qvxsDotProd_16s32s32s_Sfs(const Qvx16s* a, const Qvx32s* b, int len, Qvx32s* dp, int sf) { return scaledDotProduct<Products32>(dp, len, atMost93(sf), a, b); }
+QvxStatus qvxsDotProd_16s32s32s_Sfs(const Qvx16s* a, const Qvx32s* b, int len, Qvx32s* dp, int sf) { return scaledDotProduct16By32(a, b, len, dp, atMost93(sf)); }
 // clang-format on

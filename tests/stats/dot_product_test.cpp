@@ -153,6 +153,8 @@ TEST(DotProductOfIntegers, OfTheLongestVectors) {
   const tests::Repeated<Qvx32s> v32(data32, kLength);
   const Wide squares32 = sumOf(product, data32, data32);
   check(qvxsDotProd_32s_Sfs, v32.as(), v32.as(), kLength, squares32, Wide{0}, kAnyLeast, 93, {61, 62, 63, 92, 93, 94});
+  const Wide mixed = sumOf(product, data16, data32);
+  check(qvxsDotProd_16s32s32s_Sfs, a16, v32.as(), kLength, mixed, Wide{0}, kAnyLeast, 93, {45, 46, 47, 76, 77, 78});
 }
 
 // ---- floats
