@@ -54,7 +54,11 @@ struct RisingBlackman {
 namespace detail {
 
 // From as many weights on, vectors are rotated by angles that have to be made first; fewer are made by a polynomial each.
-template <class Real> inline constexpr size_t kRotated = (sizeof(Real) == sizeof(float) ? 18 : 16) * kVectorBytes / sizeof(Real);
+template <class Real>
+inline constexpr size_t kRotated = (sizeof(Real) == sizeof(double) ? 16
+                                    : QVXS_AVX2                    ? 18
+                                                                   : 48) *
+                                   kVectorBytes / sizeof(Real);
 template <class Real> using Angles = SpacedAngles<Real, Span::kFromZero>;
 static_assert(kRotated<float> >= 2 * Angles<float>::kEighth && kRotated<double> >= 2 * Angles<double>::kEighth);
 

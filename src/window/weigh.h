@@ -73,6 +73,12 @@ template <class T, class Real, class Next, class Put>
       put(from, Pair<V>{first, next()});
     }
   }
+  if constexpr (!kHasMasks) {
+    for (; from + 2 * N <= count; from += 2 * N) {
+      put(from, next());
+      put(from + N, next());
+    }
+  }
   for (; from + N <= count; from += N) put(from, next());
   if (from < count) put(from, next(), count - from);
 }
