@@ -5,15 +5,27 @@ using namespace qvx;
 
 namespace {
 
-// A source that is read from its end.
-template <class T> struct Flipped {
-  using Lane = Word<T>;
-  const Lane* p;
+// The end of a vector, by two words or by one. By one the compiler finds each address by one subtraction, not two: 256 doubles
+// take 12 ns, not 17, in AVX2; in AVX-512 256 16-bit integers take 3.5 ns, not 2.8.
+template <class T> struct ByLength {
+  const T* p;
   size_t lanes;
+  const T* end() const { return p + lanes; }
+};
+template <class T> struct ByEnd {
+  const T* last;
+  ByEnd(const T* p, size_t lanes) : last(p + lanes) {}
+  const T* end() const { return last; }
+};
 
-  template <size_t N> auto get(size_t at) const { return flipped<kWords<T>>(load(Lanes<Lane, N>(), p + lanes - at - N)); }
+// A source that is read from its end.
+template <class T> struct Flipped : std::conditional_t<kHasMasks, ByLength<Word<T>>, ByEnd<Word<T>>> {
+  using Lane = Word<T>;
+  static constexpr bool kIsBackwards = true;
+
+  template <size_t N> auto get(size_t at) const { return flipped<kWords<T>>(load(Lanes<Lane, N>(), this->end() - at - N)); }
   template <size_t N> auto get(size_t, size_t n) const {
-    return flippedFirst<sizeof(T)>(loadFirst(Lanes<Lane, N>(), p, n), n / kWords<T>);
+    return flippedFirst<sizeof(T)>(loadFirst(Lanes<Lane, N>(), this->end() - n, n), n / kWords<T>);
   }
 };
 
@@ -21,7 +33,7 @@ template <class Op, class T> QvxStatus flip(const T* src, T* dst, int len, Op op
   const QvxStatus status = check(len, src, dst);
   if (status != qvxStatOk) return status;
   const size_t lanes = elements(len) * kWords<T>;
-  const Flipped<T> flipped{words(src), lanes};
+  const Flipped<T> flipped{{words(src), lanes}};
   if constexpr (kWords<T> == 1) return loop(op, destination(words(dst)), lanes, flipped);
   else return loop(op, destination(dst), lanes, flipped);
 }

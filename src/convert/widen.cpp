@@ -23,8 +23,8 @@ template <class T, class From> QvxStatus scaledFloat(const From* src, T* dst, in
   if (status != qvxStatOk) return status;
   if (scaleFactor == 0) return loop(Into<T>(), destination(dst), elements(len), source(src));
   const T factor = powerOfTwo<T>(sizeof(T) == 4 ? -std::clamp(scaleFactor, -112, 126) : -std::clamp(scaleFactor, -1008, 1022));
-  return loop([factor](auto v) { return convertLanes<T>(v) * hn::Set(hn::Rebind<T, TagOf<decltype(v)>>(), factor); },
-              destination(dst), elements(len), source(src));
+  return AsIs{}.run([factor](auto v) { return convertLanes<T>(v) * hn::Set(hn::Rebind<T, TagOf<decltype(v)>>(), factor); },
+                    destination(dst), elements(len), source(src));
 }
 
 }  // namespace
