@@ -95,7 +95,7 @@ struct Chosen {
       const auto q = u * u + v * v;
       const auto isInside = q < hn::Set(d, 1.0);
       const uint64_t bits = maskBits(d, hn::AndNot(q == hn::Zero(d), isInside));
-      const auto add = [&](auto lanes, double* to) { store(as<double>(parted(as<uint64_t>(lanes), bits)), d, to + count); };
+      const auto add = [&](auto lanes, double* to) { store(as<double>(partitioned(as<uint64_t>(lanes), bits)), d, to + count); };
       add(v, first);
       add(u, second);
       add(q, square);

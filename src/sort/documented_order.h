@@ -23,7 +23,7 @@ template <Order kOrder, class T> class DocumentedOrder {
         r = pending[--count];
         continue;
       }
-      const auto [i, j] = part(r);
+      const auto [i, j] = partition(r);
       const Range left = {r.low, i}, right = {j, r.high};
       if (i - r.low < r.high - j) {
         r = i == r.low ? right : (pending[count++] = right, left);
@@ -57,7 +57,7 @@ template <Order kOrder, class T> class DocumentedOrder {
   }
 
   // The end of the left part and the start of the right one.
-  std::pair<ptrdiff_t, ptrdiff_t> part(Range r) {
+  std::pair<ptrdiff_t, ptrdiff_t> partition(Range r) {
     const ptrdiff_t middle = r.low + ((r.high - r.low + 1) >> 1);
     arrange(r.low, r.high);
     arrange(middle, r.high);

@@ -53,10 +53,10 @@ template <size_t kValues, class K> size_t countedOut(K* x, size_t n, K* others, 
           kHasMasks ? hn::IfThenElse(isEqual, counts[j] + same<V>(1), counts[j]) : counts[j] - hn::VecFromMask(d, isEqual);
     });
     if (hn::AllTrue(d, isOften)) continue;
-    constexpr size_t kPart = kPartedLanes<K>;
+    constexpr size_t kPart = kPartitionLanes<K>;
     K rest[kPart];
     if constexpr (kPart == N) {
-      others += qvx::separate(v, hn::Not(isOften), others, rest);
+      others += partitionLanesUp(v, hn::Not(isOften), others, rest);
     } else {
       const Lanes<K, kPart> part;
       K keys[N];
@@ -64,7 +64,7 @@ template <size_t kValues, class K> size_t countedOut(K* x, size_t n, K* others, 
       const uint64_t bits = ~maskBits(d, isOften);
       for (size_t k = 0; k < N; k += kPart) {
         const auto isOther = hn::LoadMaskBits(part, reinterpret_cast<const uint8_t*>(&bits) + k / 8);
-        others += qvx::separate(load(part, keys + k), isOther, others, rest);
+        others += partitionLanesUp(load(part, keys + k), isOther, others, rest);
       }
     }
   }

@@ -7,7 +7,7 @@ using namespace qvx;
 
 namespace {
 
-constexpr size_t N = kPartLanes<int32_t>;
+constexpr size_t N = kPartitionLanes<int32_t>;
 constexpr size_t kNetworkPairs = kNetworkKeys<int64_t>;
 using D = Lanes<int32_t, N>;
 using V = Vec<D>;

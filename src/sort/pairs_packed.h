@@ -66,7 +66,7 @@ template <class K> class Packing {
 };
 
 template <class K> bool areAscending(const K* keys, size_t n) {
-  constexpr size_t N = kPartLanes<K>;
+  constexpr size_t N = kPartitionLanes<K>;
   const Lanes<K, N> d;
   size_t i = 1;
   auto all = hn::FirstN(d, N);

@@ -1,15 +1,15 @@
-// Keys and numbers, which lie apart, parted by a pivot: partitions look at the keys alone and move both.
+// Keys and numbers, which lie apart, partitioned by a pivot: partitions look at the keys alone and move both.
 #pragma once
 
 #include "sort/partition.h"
 
 namespace qvx {
 
-template <class K> using KeysOf = Vec<Lanes<K, kPartLanes<K>>>;
-template <class K> using NumbersOf = Vec<Lanes<int32_t, kPartLanes<K>>>;
+template <class K> using KeysOf = Vec<Lanes<K, kPartitionLanes<K>>>;
+template <class K> using NumbersOf = Vec<Lanes<int32_t, kPartitionLanes<K>>>;
 
 template <class K> struct Pairs {
-  static constexpr size_t N = kPartLanes<K>;
+  static constexpr size_t N = kPartitionLanes<K>;
   K* keys;
   int32_t* numbers;
 
@@ -28,19 +28,19 @@ inline constexpr size_t kPairBuffer = 1024;
 namespace detail {
 
 // The numbers' lanes have a mask of their own where they are narrower than the keys'.
-template <class M> auto forNumbers(Lanes<int32_t, kPartLanes<int32_t>>, M isLow) { return isLow; }
-template <class M> uint64_t forNumbers(Lanes<int64_t, kPartLanes<int64_t>> d, M isLow) { return maskBits(d, isLow); }
+template <class M> auto forNumbers(Lanes<int32_t, kPartitionLanes<int32_t>>, M isLow) { return isLow; }
+template <class M> uint64_t forNumbers(Lanes<int64_t, kPartitionLanes<int64_t>> d, M isLow) { return maskBits(d, isLow); }
 
 // The pairs of src whose keys are below the pivot to `low`, the others to `high`; how many are below. low or high may be src.
-template <class K> size_t separate(Pairs<K> src, size_t n, K pivot, Pairs<K> low, Pairs<K> high) {
+template <class K> size_t partitionPairsUp(Pairs<K> src, size_t n, K pivot, Pairs<K> low, Pairs<K> high) {
   constexpr size_t N = Pairs<K>::N;
   size_t below = 0;
   size_t i = 0;
   for (; i + N <= n; i += N) {
     const auto keys = src.keysAt(i);
     const auto isLow = keys < same<KeysOf<K>>(pivot);
-    qvx::separate(src.numbersAt(i), forNumbers(Lanes<K, N>(), isLow), low.numbers + below, high.numbers + i - below);
-    below += qvx::separate(keys, isLow, low.keys + below, high.keys + i - below);
+    partitionLanesUp(src.numbersAt(i), forNumbers(Lanes<K, N>(), isLow), low.numbers + below, high.numbers + i - below);
+    below += partitionLanesUp(keys, isLow, low.keys + below, high.keys + i - below);
   }
   for (; i < n; ++i) {
     const K key = src.keys[i];
@@ -56,10 +56,10 @@ template <class K> size_t separate(Pairs<K> src, size_t n, K pivot, Pairs<K> low
 
 template <class K> size_t partitionPairs(Pairs<K> x, size_t n, K pivot, Pairs<K> buffer) {
   constexpr size_t N = Pairs<K>::N;
-  constexpr size_t kStep = kPartVectors<K> * N;
+  constexpr size_t kStep = kPartitionVectors<K> * N;
   static_assert(3 * kStep <= kPairBuffer);
   if (n <= kPairBuffer) {
-    const size_t below = detail::separate(x, n, pivot, x, buffer);
+    const size_t below = detail::partitionPairsUp(x, n, pivot, x, buffer);
     buffer.copyTo(x.from(below), n - below);
     return below;
   }
@@ -86,12 +86,12 @@ template <class K> size_t partitionPairs(Pairs<K> x, size_t n, K pivot, Pairs<K>
     unrolled<kStep / N>([&](auto i) __attribute__((always_inline)) {
       const auto isLow = keys[i] < same<KeysOf<K>>(pivot);
       Pairs<K> high = low.from(gap - i * N);
-      part(numbers[i], detail::forNumbers(Lanes<K, N>(), isLow), low.numbers, high.numbers);
-      part(keys[i], isLow, low.keys, high.keys);
+      partitionLanes(numbers[i], detail::forNumbers(Lanes<K, N>(), isLow), low.numbers, high.numbers);
+      partitionLanes(keys[i], isLow, low.keys, high.keys);
     });
     gap -= kStep;
   }
-  const size_t below = detail::separate(buffer, gap, pivot, low, buffer);
+  const size_t below = detail::partitionPairsUp(buffer, gap, pivot, low, buffer);
   buffer.copyTo(low.from(below), gap - below);
   return static_cast<size_t>(low.keys - x.keys) + below;
 }

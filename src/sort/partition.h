@@ -1,4 +1,4 @@
-// A vector of keys parted by a pivot, in place.
+// A vector of keys partitioned by a pivot, in place.
 #pragma once
 
 #include <bit>
@@ -9,14 +9,13 @@
 
 namespace qvx {
 
-template <class K> inline constexpr size_t kPartLanes = kPartedLanes<K>;
 // Vectors read from one side before the side is chosen again: the choice is an unpredictable branch.
-template <class K> inline constexpr size_t kPartVectors = kPartLanes<K> > 8 ? 4 : 8;
+template <class K> inline constexpr size_t kPartitionVectors = kPartitionLanes<K> > 8 ? 4 : 8;
 // Keys of working memory.
 template <class K> inline constexpr size_t kSortBuffer = (sizeof(K) == 2 ? 16384 : 8192) / sizeof(K);
 
 // Keys up to which those above the pivot are copied to the buffer and back; whole vectors are stored.
-template <class K> inline constexpr size_t kApart = std::min(kSortBuffer<K> - 2 * kPartLanes<K>, size_t{1024});
+template <class K> inline constexpr size_t kFewKeys = std::min(kSortBuffer<K> - 2 * kPartitionLanes<K>, size_t{1024});
 // How far ahead keys are fetched.
 template <class K> inline constexpr size_t kAhead = 1024 / sizeof(K);
 
@@ -33,7 +32,7 @@ template <class K> void copyKeys(const K* src, size_t n, K* dst) {
 
 // Few enough that the buffer holds those that are not below the pivot; a vector at least.
 template <class K, class Map> size_t partitionFew(K* x, size_t n, K pivot, Map in, K* buffer) {
-  constexpr size_t N = kPartLanes<K>;
+  constexpr size_t N = kPartitionLanes<K>;
   const Lanes<K, N> d;
   using V = Vec<Lanes<K, N>>;
   // From the buffer's end down, one shuffle of a vector serves both parts. Where the parts are gathered by themselves they go up:
@@ -43,11 +42,11 @@ template <class K, class Map> size_t partitionFew(K* x, size_t n, K pivot, Map i
   K* high = kGoesUp ? buffer : buffer + kSortBuffer<K>;
   const auto put = [&, pivots = same<V>(pivot) ](V v) __attribute__((always_inline)) {
     if constexpr (kGoesUp) {
-      const size_t count = qvx::separate(v, v < pivots, low, high);
+      const size_t count = partitionLanesUp(v, v < pivots, low, high);
       low += count;
       high += N - count;
     } else {
-      part(v, v < pivots, low, high);
+      partitionLanes(v, v < pivots, low, high);
     }
   };
   // The rest goes first, its vector filled with the greatest key: at the buffer's end that does no harm. From then on a vector is
@@ -69,10 +68,10 @@ template <class K, class Map> size_t partitionFew(K* x, size_t n, K pivot, Map i
 }
 
 template <class K, class Map> size_t partition(K* x, size_t n, K pivot, Map in, K* buffer) {
-  constexpr size_t N = kPartLanes<K>;
-  constexpr size_t kStep = kPartVectors<K> * N;
-  static_assert(3 * kStep <= kApart<K>);
-  if (n <= kApart<K>) return partitionFew(x, n, pivot, in, buffer);
+  constexpr size_t N = kPartitionLanes<K>;
+  constexpr size_t kStep = kPartitionVectors<K> * N;
+  static_assert(3 * kStep <= kFewKeys<K>);
+  if (n <= kFewKeys<K>) return partitionFew(x, n, pivot, in, buffer);
   // A step from either end waits in the buffer. So there is room for two, and one of the ends always has room for the step that
   // is read from the other.
   const Lanes<K, N> d;
@@ -96,11 +95,11 @@ template <class K, class Map> size_t partition(K* x, size_t n, K pivot, Map in, 
       src = to -= kStep;
       prefetchLines<kStep * sizeof(K)>(src - kAhead<K>);
     }
-    V v[kPartVectors<K>];
-    unrolled<kPartVectors<K>>([&](auto i) __attribute__((always_inline)) { v[i] = in.keys(load(d, src + i * N)); });
-    unrolled<kPartVectors<K>>([&](auto i) __attribute__((always_inline)) {
+    V v[kPartitionVectors<K>];
+    unrolled<kPartitionVectors<K>>([&](auto i) __attribute__((always_inline)) { v[i] = in.keys(load(d, src + i * N)); });
+    unrolled<kPartitionVectors<K>>([&](auto i) __attribute__((always_inline)) {
       K* high = low + (gap - i * N);
-      part(v[i], v[i] < pivots, low, high);
+      partitionLanes(v[i], v[i] < pivots, low, high);
     });
     gap -= kStep;
   }
@@ -116,7 +115,7 @@ template <class K, class Map> size_t partition(K* x, size_t n, K pivot, Map in, 
   }
   for (; low < high; waiting += N) {
     const V v = in.keys(load(d, waiting));
-    part(v, v < pivots, low, high);
+    partitionLanes(v, v < pivots, low, high);
   }
   return static_cast<size_t>(low - x);
 }

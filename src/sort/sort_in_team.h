@@ -1,4 +1,4 @@
-// Keys sorted by two threads: parted once by a pivot, each side is sorted by whoever comes first.
+// Keys sorted by two threads: partitioned once by a pivot, each side is sorted by whoever comes first.
 #pragma once
 
 #include "frame/team.h"
