@@ -121,6 +121,15 @@ template <class T> void indexRow(Suite& s, const std::string& name, QvxStatus (*
   s.add(std::move(c));
 }
 
+// With working memory, by one thread.
+template <class T> void roomRow(Suite& s, const std::string& name, QvxStatus (*ours)(T*, T*, int)) {
+  Case c = sortCase<T>(name + ", one thread", Pattern::kRandom);
+  c.sizes = {100, 1000, 10000, 100000, 1000000};
+  c.contenders.push_back(sorter<T>("ours", [ours](T* x, int n, Qvx32s* room) { ours(x, reinterpret_cast<T*>(room), n); }));
+  c.contenders.push_back(sorter<T>("radix", [](T* x, int n, Qvx32s*) { plain::radixSort(x, static_cast<size_t>(n)); }));
+  s.add(std::move(c));
+}
+
 template <class T> void teamRow(Suite& s, const std::string& name, QvxStatus (*ours)(T*, T*, int)) {
   Case c = sortCase<T>(name, Pattern::kRandom);
   c.table = Table::kTeam;
@@ -145,8 +154,15 @@ void sort(Suite& s) {
   indexRow<Qvx32s>(s, "SortIndexAscend_32s_I", qvxsSortIndexAscend_32s_I);
   indexRow<Qvx32f>(s, "SortIndexAscend_32f_I", qvxsSortIndexAscend_32f_I);
   indexRow<Qvx64f>(s, "SortIndexAscend_64f_I", qvxsSortIndexAscend_64f_I);
+  roomRow<Qvx16u>(s, "SortRadixAscend_16u_I", qvxsSortRadixAscend_16u_I);
+  roomRow<Qvx16s>(s, "SortRadixAscend_16s_I", qvxsSortRadixAscend_16s_I);
+  roomRow<Qvx32s>(s, "SortRadixAscend_32s_I", qvxsSortRadixAscend_32s_I);
+  roomRow<Qvx32u>(s, "SortRadixAscend_32u_I", qvxsSortRadixAscend_32u_I);
+  roomRow<Qvx32f>(s, "SortRadixAscend_32f_I", qvxsSortRadixAscend_32f_I);
+  roomRow<Qvx64f>(s, "SortRadixAscend_64f_I", qvxsSortRadixAscend_64f_I);
   teamRow<Qvx32f>(s, "SortRadixAscend_32f_I", qvxsSortRadixAscend_32f_I);
   teamRow<Qvx32s>(s, "SortRadixAscend_32s_I", qvxsSortRadixAscend_32s_I);
+  teamRow<Qvx32u>(s, "SortRadixAscend_32u_I", qvxsSortRadixAscend_32u_I);
   teamRow<Qvx64f>(s, "SortRadixAscend_64f_I", qvxsSortRadixAscend_64f_I);
 }
 
