@@ -1,8 +1,8 @@
 // Forward transforms of integers beside the usual way: to floats, through FFTW, and back, rounded and saturated.
 #include <limits>
-#include <memory>
 
 #include "frame/families.h"
+#include "frame/transforms.h"
 #include "peers/fftw.h"
 
 namespace bench {
@@ -11,12 +11,6 @@ namespace {
 
 // With one place for every second order, results of full-scale noise fill half of the range.
 int scaleFactorOf(int n) { return std::countr_zero(static_cast<unsigned>(n)) / 2 + 2; }
-
-template <class Record> struct Life {
-  QvxStatus (*initAlloc)(Record**, int, int, int);
-  QvxStatus (*free)(Record*);
-  QvxStatus (*getBufSize)(const Record*, int*);
-};
 
 // Through T, all in one vector. Real spectra come with X[N/2] after, as ours do.
 template <class T, bool kReal> class Plainly {
@@ -42,11 +36,9 @@ template <class T, bool kReal> class Plainly {
   fftw::Plan<T, kReal> plan_;
 };
 
-// Parts: what a vector of C is, in numbers of In and of Out.
-template <class T, class In, class Out, class CIn, class COut, class Record>
-void row(Suite& suite, const std::string& name, QvxStatus (*transform)(const CIn*, COut*, const Record*, int, Qvx8u*),
-         Life<Record> life) {
-  constexpr bool kReal = std::is_same_v<In, CIn>;
+// life: what makes and releases the record.
+template <class T, class In, class Out, bool kReal, class F, class... Life>
+void row(Suite& suite, const std::string& name, F transform, Life... life) {
   Case c;
   c.name = name;
   c.table = Table::kTransforms;
@@ -79,26 +71,9 @@ void row(Suite& suite, const std::string& name, QvxStatus (*transform)(const CIn
                             },
                             Agreement::kDiffers});
   };
-  struct Own {
-    Record* record = nullptr;
-    Qvx8u* buffer = nullptr;
-    decltype(transform) call;
-    Life<Record> life;
-    Own(int n, decltype(transform) f, Life<Record> l) : call(f), life(l) {
-      int bytes = 0;
-      life.initAlloc(&record, std::countr_zero(static_cast<unsigned>(n)), QVX_FFT_SCALE_NONE, 2);
-      life.getBufSize(record, &bytes);
-      buffer = qvxsMalloc_8u(bytes);
-    }
-    ~Own() {
-      life.free(record);
-      qvxsFree(buffer);
-    }
-    void run(const In* src, Out* dst, int scaleFactor) const {
-      call(reinterpret_cast<const CIn*>(src), reinterpret_cast<COut*>(dst), record, scaleFactor, buffer);
-    }
-  };
-  contend("ours", [=](int n) { return std::make_shared<Own>(n, transform, life); });
+  contend("ours", [make = maker(transform, life..., QVX_FFT_SCALE_NONE, 2)](int n) {
+    return make(std::countr_zero(static_cast<unsigned>(n)), nullptr, nullptr);
+  });
   contend("through FFTW", [](int n) { return std::make_shared<Plainly<T, kReal>>(n); });
   suite.add(std::move(c));
 }
@@ -107,11 +82,11 @@ void row(Suite& suite, const std::string& name, QvxStatus (*transform)(const CIn
 
 // clang-format off
 void integerFft(Suite& suite) {
-  row<Qvx32f, Qvx16s, Qvx16s>(suite, "FFTFwd_CToC_16sc_Sfs", qvxsFFTFwd_CToC_16sc_Sfs, Life<QvxsFFTSpec_C_16sc>{qvxsFFTInitAlloc_C_16sc, qvxsFFTFree_C_16sc, qvxsFFTGetBufSize_C_16sc});
-  row<Qvx64f, Qvx32s, Qvx32s>(suite, "FFTFwd_CToC_32sc_Sfs", qvxsFFTFwd_CToC_32sc_Sfs, Life<QvxsFFTSpec_C_32sc>{qvxsFFTInitAlloc_C_32sc, qvxsFFTFree_C_32sc, qvxsFFTGetBufSize_C_32sc});
-  row<Qvx32f, Qvx16s, Qvx16s>(suite, "FFTFwd_RToCCS_16s_Sfs", qvxsFFTFwd_RToCCS_16s_Sfs, Life<QvxsFFTSpec_R_16s>{qvxsFFTInitAlloc_R_16s, qvxsFFTFree_R_16s, qvxsFFTGetBufSize_R_16s});
-  row<Qvx64f, Qvx32s, Qvx32s>(suite, "FFTFwd_RToCCS_32s_Sfs", qvxsFFTFwd_RToCCS_32s_Sfs, Life<QvxsFFTSpec_R_32s>{qvxsFFTInitAlloc_R_32s, qvxsFFTFree_R_32s, qvxsFFTGetBufSize_R_32s});
-  row<Qvx32f, Qvx16s, Qvx32s>(suite, "FFTFwd_RToCCS_16s32s_Sfs", qvxsFFTFwd_RToCCS_16s32s_Sfs, Life<QvxsFFTSpec_R_16s32s>{qvxsFFTInitAlloc_R_16s32s, qvxsFFTFree_R_16s32s, qvxsFFTGetBufSize_R_16s32s});
+  row<Qvx32f, Qvx16s, Qvx16s, false>(suite, "FFTFwd_CToC_16sc_Sfs", qvxsFFTFwd_CToC_16sc_Sfs, qvxsFFTInitAlloc_C_16sc, qvxsFFTFree_C_16sc, qvxsFFTGetBufSize_C_16sc);
+  row<Qvx64f, Qvx32s, Qvx32s, false>(suite, "FFTFwd_CToC_32sc_Sfs", qvxsFFTFwd_CToC_32sc_Sfs, qvxsFFTInitAlloc_C_32sc, qvxsFFTFree_C_32sc, qvxsFFTGetBufSize_C_32sc);
+  row<Qvx32f, Qvx16s, Qvx16s, true>(suite, "FFTFwd_RToCCS_16s_Sfs", qvxsFFTFwd_RToCCS_16s_Sfs, qvxsFFTInitAlloc_R_16s, qvxsFFTFree_R_16s, qvxsFFTGetBufSize_R_16s);
+  row<Qvx64f, Qvx32s, Qvx32s, true>(suite, "FFTFwd_RToCCS_32s_Sfs", qvxsFFTFwd_RToCCS_32s_Sfs, qvxsFFTInitAlloc_R_32s, qvxsFFTFree_R_32s, qvxsFFTGetBufSize_R_32s);
+  row<Qvx32f, Qvx16s, Qvx32s, true>(suite, "FFTFwd_RToCCS_16s32s_Sfs", qvxsFFTFwd_RToCCS_16s32s_Sfs, qvxsFFTInitAlloc_R_16s32s, qvxsFFTFree_R_16s32s, qvxsFFTGetBufSize_R_16s32s);
 }
 // clang-format on
 

@@ -92,7 +92,7 @@ template <class T, bool kInverse, class F = Api<T>> class Cosines {
   ~Cosines() { F::destroy(plan_); }
   Cosines(const Cosines&) = delete;
   Cosines& operator=(const Cosines&) = delete;
-  void run() const { F::execute(plan_); }
+  void run(const T*, T*) const { F::execute(plan_); }
 
  private:
   decltype(F::planCosines(0, nullptr, nullptr, FFTW_REDFT10, 0)) plan_;
@@ -112,7 +112,7 @@ class Analytic {
   }
   Analytic(const Analytic&) = delete;
   Analytic& operator=(const Analytic&) = delete;
-  void run() const {
+  void run(const float*, float*) const {
     fftwf_execute(there_);
     const float factor = 1 / static_cast<float>(n_);
     const int above = n_ / 2 + 1;
