@@ -1,5 +1,6 @@
 // All exports whose name contains a filter, as a table on the screen; or one family into a file, and such files into a page.
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <filesystem>
@@ -44,15 +45,16 @@ int measure(const std::string& filter) {
   bench::Report report;
   report.head(bench::environment());
   const int mismatches = bench::run(suite, std::regex(filter), report);
+  if (report.measurements().empty()) throw std::runtime_error("no name contains " + filter);
   report.tail();
   return mismatches;
 }
 
 int measureFamily(const std::string& name, const std::string& filter, bool brief, const std::string& output) {
+  const auto* family = std::ranges::find(bench::kFamilies, name, &bench::Family::name);
+  if (family == std::end(bench::kFamilies)) throw std::runtime_error("no family " + name);
   bench::Suite suite;
-  for (const bench::Family& family : bench::kFamilies) {
-    if (family.name == name) family.rows(suite);
-  }
+  family->rows(suite);
   suite.keepPeers();
   if (brief) suite.keepBrief();
   const bench::Effort& effort = brief ? bench::kBrief : bench::kThorough;
