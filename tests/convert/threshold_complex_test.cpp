@@ -195,6 +195,24 @@ TEST(ComplexThreshold, FloatsAreRoundedFromDoubles) {
   }
 }
 
+// One element next to the level, on either side of it, among others that stay.
+TEST(ComplexThreshold, OneElementNextToTheLevel) {
+  for (const float level : {1.0F, 750.0F, 0x1p-60F, 1e-30F, 0x1p-126F, 1e12F, 3e37F}) {
+    for (const int relOp : {0, 4}) {
+      const float kept = relOp == 0 ? 2 * level : level / 2;
+      for (const float to : {0.0F, level, INFINITY}) {
+        std::vector<Qvx32fc> v(64, Qvx32fc{kept, 0}), d(v.size());
+        v[37] = {0, std::nextafter(level, to)};
+        std::vector<Qvx32fc> want = v;
+        if (to == (relOp == 0 ? 0.0F : INFINITY)) want[37].im = level;
+        ASSERT_EQ(qvxsThreshold_32fc(v.data(), d.data(), 64, level, relOp), qvxStatOk);
+        EXPECT_EQ(std::memcmp(d.data(), want.data(), sizeof(Qvx32fc) * v.size()), 0)
+            << "level " << level << ", relation " << relOp << ", next to it towards " << to;
+      }
+    }
+  }
+}
+
 // An element of just the level is on neither side, and a level of 0 copies or clears without looking for NaN.
 TEST(ComplexThreshold, AtTheLevelAndLevelZero) {
   const Qvx32fc v[3] = {{3, 4}, {-5, 0}, {0, -5}};
