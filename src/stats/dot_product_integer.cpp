@@ -123,11 +123,24 @@ template <class Product> struct ExactSum : Reduction {
   }
 };
 
-// Most sums fit 64 bits, in which scaling takes a third of the time.
 template <class R> R scaledSum(int64_t sum, int scaleFactor) { return scaled<R>(sum, scaleFactor); }
+
+// Sums of 32-bit products, below 2^94, are scaled in 64 bits: 10 or 20 elements take 0.8 of the time.
+template <class R> R scaledSum(Sum96 sum, int scaleFactor) {
+  static_assert(sizeof(R) == 4);
+  constexpr int kLow = 31;
+  const auto high = 2 * sum.upper + static_cast<int64_t>(sum.rest >> kLow);
+  const auto low = static_cast<int64_t>((static_cast<uint64_t>(sum.upper) << 32) + sum.rest);
+  if (scaleFactor <= kLow + 1) {
+    if (low >> kLow == high) return scaled<R>(low, scaleFactor);
+    return high < 0 ? std::numeric_limits<R>::min() : std::numeric_limits<R>::max();
+  }
+  // The last bit stands for all those below it, which come to less than half a unit.
+  const bool isInexact = (low & ((int64_t{1} << kLow) - 1)) != 0;
+  return scaled<R>(high | isInexact, scaleFactor - kLow);
+}
 template <class R> R scaledSum(__int128 sum, int scaleFactor) {
-  const auto low = static_cast<int64_t>(sum);
-  return low == sum ? scaled<R>(low, scaleFactor) : scaled<R>(sum, scaleFactor);
+  return scaledSum<R>(Sum96{static_cast<int64_t>(sum >> 32), static_cast<uint32_t>(sum)}, scaleFactor);
 }
 
 template <class D, class Finish, class Sum> D eachPart(Finish finish, Sum sum) {
@@ -141,16 +154,25 @@ template <class Product, class D, class... Src> QvxStatus dotProduct(D* result, 
   return reduceTo<ExactSum<Product>>(result, len, finish, src...);
 }
 
-template <class Product, class D, class... Src> QvxStatus scaledDotProduct(D* result, int len, int scaleFactor, Src... src) {
+template <class Product, class D, class... Src> QvxStatus scaledTo(D* result, int len, int scaleFactor, Src... src) {
   const auto finish = [=](auto sum) {
     return eachPart<D>([=](auto part) { return scaledSum<Part<D>>(part, scaleFactor); }, sum);
   };
-  if constexpr (requires { Product::kFetchesAhead; }) {
-    if (len >= 0 && elements(len) * sizeof(D) >= FetchedAhead<D>::kWorthIt) {
-      return reduceTo<ExactSum<Product>>(result, len, finish, fetchedAhead(src)...);
-    }
-  }
   return reduceTo<ExactSum<Product>>(result, len, finish, src...);
+}
+
+// A function of its own, which leaves the other one without a stack frame.
+template <class Product, class D, class... Src>
+[[gnu::noinline]] QvxStatus longDotProduct(D* result, int len, int scaleFactor, Src... src) {
+  return scaledTo<Product>(result, len, scaleFactor, fetchedAhead(src)...);
+}
+
+template <class Product, class D, class... Src> QvxStatus scaledDotProduct(D* result, int len, int scaleFactor, Src... src) {
+  if constexpr (requires { Product::kFetchesAhead; }) {
+    constexpr int kLong = FetchedAhead<D>::kWorthIt / sizeof(D);
+    if (len >= kLong) return longDotProduct<Product>(result, len, scaleFactor, src...);
+  }
+  return scaledTo<Product>(result, len, scaleFactor, src...);
 }
 
 QvxStatus scaledDotProduct16By32(const Qvx16s* a, const Qvx32s* b, int len, Qvx32s* dp, int scaleFactor) {

@@ -8,8 +8,8 @@ namespace qvx {
 
 inline constexpr int kFast = 1;  // the hint that asks for speed; any other asks for accuracy
 
-// 2^-scaleFactor, kept finite: large enough to saturate any integer but 0, which stays 0.
-inline double scaleFactorOf(int scaleFactor) { return powerOfTwo<double>(std::min(-int64_t{scaleFactor}, int64_t{1023})); }
+// 2^-scaleFactor, kept finite and normal: the ends bring any integer but 0 out of every range, or to 0.
+inline double scaleFactorOf(int scaleFactor) { return powerOfTwo<double>(-std::clamp(scaleFactor, -1023, 1022)); }
 
 // The total of interleaved complex lanes.
 template <class T> struct ComplexTotal {

@@ -22,27 +22,26 @@ template <class M> double deviation(M m, double n) {
   return std::sqrt((numerator < 0 ? 0 : numerator) / (n * (n - 1)));
 }
 
-template <class T> Moments<double> moments(const T* src, int len, int hint) {
+template <class T, class Finish> QvxStatus finishedMoments(const T* src, int len, T* dev, int hint, Finish finish) {
   if constexpr (sizeof(T) == 4) {
-    if (hint == kFast) return reduce(MomentsInFloats(), elements(len), source(src));
+    if (hint == kFast) return reducedTo<MomentsInFloats>(dev, elements(len), finish, source(src));
   }
-  return reduce(MomentsInDoubles(), elements(len), source(src));
+  return reducedTo<MomentsInDoubles>(dev, elements(len), finish, source(src));
 }
 
 template <class T> QvxStatus deviationOfFloats(const T* src, int len, T* dev, int hint) {
   const QvxStatus status = checkTwo(len, src, dev);
   if (status != qvxStatOk) return status;
-  *dev = static_cast<T>(deviation(moments(src, len, hint), len));
-  return qvxStatOk;
+  return finishedMoments(src, len, dev, hint, [len](Moments<double> m) { return static_cast<T>(deviation(m, len)); });
 }
 
 template <class T> QvxStatus meanAndDeviationOfFloats(const T* src, int len, T* mean, T* dev, int hint) {
   const QvxStatus status = checkTwo(len, src, mean, dev);
   if (status != qvxStatOk) return status;
-  const Moments<double> m = moments(src, len, hint);
-  *mean = static_cast<T>(m.sum / len);
-  *dev = static_cast<T>(deviation(m, len));
-  return qvxStatOk;
+  return finishedMoments(src, len, dev, hint, [=](Moments<double> m) {
+    *mean = static_cast<T>(m.sum / len);
+    return static_cast<T>(deviation(m, len));
+  });
 }
 
 // Sums of more than 53 bits are rounded as they become doubles: that belongs in the rounding scope too.
@@ -53,23 +52,25 @@ Moments<double> pinned(Moments<int64_t> m) {
 template <class R> QvxStatus deviationOfIntegers(const Qvx16s* src, int len, R* dev, int scaleFactor) {
   const QvxStatus status = checkTwo(len, src, dev);
   if (status != qvxStatOk) return status;
-  const Moments<int64_t> exact = reduce(Moments16(), elements(len), source(src));
-  const RoundingScope nearest(Rounding::kNearest);
-  const Moments<double> m = pinned(exact);
-  *dev = roundedTo<R>(deviation(m, len) * scaleFactorOf(scaleFactor));
-  return qvxStatOk;
+  const auto finish = [=](Moments<int64_t> exact) {
+    const RoundingScope nearest(Rounding::kNearest);
+    return RoundingScope::pinned(roundedTo<R>(deviation(pinned(exact), len) * scaleFactorOf(scaleFactor)));
+  };
+  return reducedTo<Moments16>(dev, elements(len), finish, source(src));
 }
 
 template <class R> QvxStatus meanAndDeviationOfIntegers(const Qvx16s* src, int len, R* mean, R* dev, int scaleFactor) {
   const QvxStatus status = checkTwo(len, src, mean, dev);
   if (status != qvxStatOk) return status;
-  const Moments<int64_t> exact = reduce(Moments16(), elements(len), source(src));
-  const RoundingScope nearest(Rounding::kNearest);
-  const double factor = scaleFactorOf(scaleFactor);
-  const Moments<double> m = pinned(exact);
-  *mean = roundedTo<R>(m.sum / len * factor);
-  *dev = roundedTo<R>(deviation(m, len) * factor);
-  return qvxStatOk;
+  // Captured in this order, they fit two registers; one more would send them through memory.
+  const auto finish = [mean, len, scaleFactor](Moments<int64_t> exact) {
+    const RoundingScope nearest(Rounding::kNearest);
+    const double factor = scaleFactorOf(scaleFactor);
+    const Moments<double> m = pinned(exact);
+    *mean = roundedTo<R>(m.sum / len * factor);
+    return RoundingScope::pinned(roundedTo<R>(deviation(m, len) * factor));
+  };
+  return reducedTo<Moments16>(dev, elements(len), finish, source(src));
 }
 
 }  // namespace
