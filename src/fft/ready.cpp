@@ -67,6 +67,9 @@ template <class T> constexpr Plan<T> passesOf(size_t n) {
 template <class T, size_t kPoints> constexpr size_t twiddlesOf() {
   if (kPoints <= size_t{1} << kShortOrder<Interleaved<T, false>>) return 0;
   if (foldOf<T>(kPoints) == Fold::kHalves) return kPoints - kWidest<T>;
+  if constexpr (kServesInterleaved<Interleaved<T, false>>) {
+    if (isInterleavedLength<T>(kPoints)) return interleavedTwiddles<T>(kPoints);
+  }
   const Plan<T> plan = passesOf<T>(kPoints);
   size_t rows = plan.rows;
   size_t count = kPoints - rows;

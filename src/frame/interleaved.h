@@ -1,4 +1,4 @@
-// Fused products of complex numbers with their parts side by side.
+// Products of complex numbers with their parts side by side, fused where the processor can.
 #pragma once
 
 #include "frame/map.h"
@@ -19,9 +19,12 @@ inline __m256d plusMinus(__m256d a, __m256d b, __m256d c) { return _mm256_fmsuba
 
 }  // namespace detail
 
-// a * b - c in the even lanes and a * b + c in the odd ones, rounded once; and the other way round.
+// a * b - c in the even lanes and a * b + c in the odd ones, rounded once where products are fused; and the other way round.
 template <class V> V minusPlus(V a, V b, V c) { return V{detail::minusPlus(a.raw, b.raw, c.raw)}; }
 template <class V> V plusMinus(V a, V b, V c) { return V{detail::plusMinus(a.raw, b.raw, c.raw)}; }
+#else
+template <class V> V minusPlus(V a, V b, V c) { return minusPlus(a * b, c); }
+template <class V> V plusMinus(V a, V b, V c) { return minusPlus(a * b, hn::Neg(c)); }
 #endif
 
 }  // namespace qvx
