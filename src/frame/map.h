@@ -163,8 +163,9 @@ struct AsIs {
         return Pair<std::remove_const_t<decltype(lo)>>{lo, op(wide.hi...)};
       };
       return loop([halves](auto... v) { return halves(widenedWhole<Lane>(v)...); }, ByHalves<Dst>{dst}, n, src...);
+    } else {
+      return loop(prepared([](auto v) { return widened<Lane>(v); }, op), dst, n, src...);
     }
-    return loop(prepared([](auto v) { return widened<typename Dst::Lane>(v); }, op), dst, n, src...);
   }
 };
 
