@@ -323,7 +323,7 @@ QVXS_API(QvxStatus, qvxsIIRSetTaps64fc_16sc, (const Qvx64fc* pTaps, QvxsIIRState
  *  through any of these functions. _I and _ISfs work in place, One takes one sample.
  *  Floats: outputs differ from those of the plain recursion by rounding. 32-bit memory is computed in 64-bit floats, but for a
  *  few samples, which leaves less than the plain recursion's error; with 64-bit memory, and in sections of 32f on SSSE3, the error
- *  is at most 4 times as large.
+ *  is at most 4 times as large, in the mean over signals longer than the filter's memory.
  *  What is beyond the range of the type turns infinite and stays in the delay line.
  *  Integers: the output times 2^-scaleFactor, rounded to nearest with ties to even, saturated. Neither scale nor saturation comes
  *  back into the filter.

@@ -207,17 +207,18 @@ TEST(IirFilter, IntegersAreScaledRoundedAndSaturated) {
 
 // ---- near the unit circle
 
-// The root of the mean square error of y; what it is if only the truth is rounded.
+// The mean square error of y; what it is if only the truth is rounded.
 template <class T> long double error(const std::vector<T>& y, const std::vector<Exact<T>>& truth) {
   long double all = 0;
   for (size_t i = 0; i < y.size(); ++i) all += std::norm(std::complex<long double>(exact(y[i]) - truth[i]));
-  return std::sqrt(all / y.size());
+  return all / y.size();
 }
 
 template <class T> long double rounding(const std::vector<Exact<T>>& truth) {
+  constexpr long double kRounding = std::numeric_limits<Part<T>>::epsilon() / 4;
   long double squares = 0;
   for (const auto& v : truth) squares += std::norm(std::complex<long double>(v));
-  return std::sqrt(squares / truth.size()) * std::numeric_limits<Part<T>>::epsilon() / 4;
+  return squares / truth.size() * kRounding * kRounding;
 }
 
 template <class N, class T> std::vector<N> through(std::vector<Recursion<N>> sections, const std::vector<T>& x) {
@@ -266,26 +267,34 @@ TEST(IirFilter, IsAsAccurateAsThePlainLoopNearTheUnitCircle) {
               const bool isFar = others() % 2 == 0;
               taps = inOneForm<T>(taps, section<T>(random, isFar ? uniform(others, 0.1, 0.6) : radius, second));
             }
-            const auto x = samples<T>(3000, random);
-            const auto truth = through(tests::recursions<Exact<T>>(taps, n, form == 0 ? 0 : n), x);
-            // No filter is closer than the rounding of its output. At a quarter of the sampling rate the errors of separately
-            // rounded products happen to cancel; those of a fused loop are 3 times as large.
-            long double plain = rounding<T>(truth);
-            for (const bool fuses : {false, true}) {
-              auto loop = tests::recursions<Plain>(taps, n, form == 0 ? 0 : n);
-              for (auto& r : loop) r.fuses = fuses;
-              std::vector<T> y;
-              for (const Plain v : through(loop, x)) y.push_back(tests::rounded<T>(static_cast<Exact<T>>(v)));
-              plain = std::max(plain, error(y, truth));
+            const size_t piece = random() % 2 == 0 ? 8 : 3000;  // the least that goes by vectors, or all
+            // The error of one signal is a matter of chance where the filter remembers a third of it or more: of equal means one
+            // may be five times the other.
+            const int signals = radius > 0.9995 ? 8 : radius > 0.98 ? 2 : 1;
+            long double errors = 0;
+            long double plain[3] = {};  // of the output's rounding, of the loop, of the loop with fused multiplications
+            for (int signal = 0; signal < signals; ++signal) {
+              const auto x = samples<T>(3000, random);
+              const auto truth = through(tests::recursions<Exact<T>>(taps, n, form == 0 ? 0 : n), x);
+              // No filter is closer than the rounding of its output. At a quarter of the sampling rate the errors of separately
+              // rounded products happen to cancel; those of a fused loop are 3 times as large.
+              plain[0] += rounding<T>(truth);
+              for (const bool fuses : {false, true}) {
+                auto loop = tests::recursions<Plain>(taps, n, form == 0 ? 0 : n);
+                for (auto& r : loop) r.fuses = fuses;
+                std::vector<T> y;
+                for (const Plain v : through(loop, x)) y.push_back(tests::rounded<T>(static_cast<Exact<T>>(v)));
+                plain[fuses ? 2 : 1] += error(y, truth);
+              }
+              typename M::State* s = nullptr;
+              ASSERT_EQ(m.initAlloc[form](&s, taps.data(), n, nullptr), qvxStatOk);
+              auto y = x;
+              for (size_t at = 0; at < y.size(); at += piece)
+                ASSERT_EQ(m.inPlace(&y[at], static_cast<int>(std::min(piece, y.size() - at)), s), qvxStatOk);
+              m.free(s);
+              errors += error(y, truth);
             }
-            typename M::State* s = nullptr;
-            ASSERT_EQ(m.initAlloc[form](&s, taps.data(), n, nullptr), qvxStatOk);
-            auto y = x;
-            const size_t piece = random() % 2 == 0 ? 8 : y.size();  // the least that goes by vectors, or all
-            for (size_t at = 0; at < y.size(); at += piece)
-              ASSERT_EQ(m.inPlace(&y[at], static_cast<int>(std::min(piece, y.size() - at)), s), qvxStatOk);
-            m.free(s);
-            const auto ratio = static_cast<double>(error(y, truth) / plain);
+            const auto ratio = static_cast<double>(std::sqrt(errors / *std::max_element(std::begin(plain), std::end(plain))));
             EXPECT_LE(ratio, 4) << m.name << ", form " << form << ", sections " << n << ", radius " << radius << ", angle "
                                 << angle;
           }
