@@ -140,7 +140,8 @@ template <Side kSide, bool kDivides> struct ClipSingle {
   }
 
  private:
-  // Squares of floats on its side are on that of the level's too: it stays away from those that underflow or overflow.
+  // A square of floats that lies on the far side of it is not clipped, however it was rounded; one that underflows or overflows
+  // never does.
   static double boundOf(double square) {
     if constexpr (kSide == Side::kBelow) return std::max(square * (1 + 0x1p-20), 0x1p-100);
     else return square < 0x1p-100 ? 0 : std::min(square * (1 - 0x1p-20), 0x1p127);

@@ -31,9 +31,10 @@ template <int kBits, class V> V timesSuccessor(V k) {
   else return k * next;
 }
 
-// k + 1 in the lanes where x is beyond the tie.
+// k + 1 in the lanes where x is beyond the tie. Both may have wrapped.
 template <class V> V decided(V k, V x, V tie) {
-  if constexpr (sizeof(LaneOf<V>) == 8 && !QVXS_AVX2) return k + as<int64_t>(hn::ShiftRight<63>(as<uint64_t>(tie - x)));
+  if constexpr (kHasMasks) return hn::IfThenElse(x - tie > hn::Zero(TagOf<V>()), k + same<V>(1), k);
+  else if constexpr (sizeof(LaneOf<V>) == 8 && !QVXS_AVX2) return k + as<int64_t>(hn::ShiftRight<63>(as<uint64_t>(tie - x)));
   else return k - hn::VecFromMask(TagOf<V>(), x - tie > hn::Zero(TagOf<V>()));
 }
 
@@ -50,14 +51,17 @@ template <int kBits> struct RootEnlarged {
   }
 };
 
-// sqrt(x) * 2^-s for s from 0 on. At a tie only an odd k goes up.
-struct RootReduced {
-  int s;
-  int places() const { return -s; }
+// sqrt(x) * 2^-s for s from 0 on; that of 0, by far the most frequent, without a scale: 4096 magnitudes of 16 bits take 366 ns,
+// not 405. At a tie only an odd k goes up.
+template <bool kIsScaled> struct RootReduced {
+  static constexpr bool kScales = kIsScaled;
+  int scale;
+  int places() const { return kScales ? -scale : 0; }
 
   template <class V> V operator()(V x) const {
     using T = LaneOf<V>;
-    const V k = integerPart<false>(x, powerOfTwo<double>(-s));
+    const int s = -places();
+    const V k = integerPart<false>(x, powerOfTwo<double>(places()));
     V tie = timesSuccessor<32>(k);
     if (s > 0) tie = hn::ShiftLeftSame(hn::ShiftLeftSame(tie, s), s) + same<V>(T{1} << (2 * s - 2)) - (k & same<V>(1));
     return decided(k, x, tie);
@@ -103,14 +107,19 @@ struct ScaledRoot {
     const RoundingScope scope(Op::kInDoubles ? kRootMode : Rounding::kCallers);
     const auto with = [&](auto root) { return loop(Op::kernel(root), dst, n, src...); };
     if (scaleFactor > Op::kMaxScale) return with(NoRoot());
-    const RootReduced reduced = {scaleFactor};
-    const RootEnlarged<Op::kBits> enlarged = {scaleFactor < -Op::kBits ? Op::kBits : -scaleFactor};
     // Squares of lanes cost AVX-512 less than the test of NearRoot, but for ties that are shifted.
-    if constexpr (Op::kInDoubles) {
-      if (scaleFactor > 0 || (!kHasMasks && scaleFactor == 0)) return with(NearRoot{reduced});
-      if (!kHasMasks && enlarged.s <= kNearRootPlaces) return with(NearRoot{enlarged});
+    constexpr bool kNear = Op::kInDoubles && !kHasMasks;
+    const auto reduced = [&](auto root) {
+      if constexpr (Op::kInDoubles && (kNear || decltype(root)::kScales)) return with(NearRoot{root});
+      else return with(root);
+    };
+    if (scaleFactor == 0) return reduced(RootReduced<false>{0});
+    if (scaleFactor > 0) return reduced(RootReduced<true>{scaleFactor});
+    const RootEnlarged<Op::kBits> enlarged = {scaleFactor < -Op::kBits ? Op::kBits : -scaleFactor};
+    if constexpr (kNear) {
+      if (enlarged.s <= kNearRootPlaces) return with(NearRoot{enlarged});
     }
-    return scaleFactor >= 0 ? with(reduced) : with(enlarged);
+    return with(enlarged);
   }
 };
 
