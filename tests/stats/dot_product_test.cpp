@@ -120,6 +120,22 @@ TEST(DotProductOfIntegers, Of32BitsIsExact) {
   expectExact<Qvx16s, Qvx32s>([](auto... v) { check(qvxsDotProd_16s32s32s_Sfs, v..., kAnyLeast, 93); });
 }
 
+// Halves of a unit, and what is nearest to them on either side, wherever the last bits of the sum come to lie.
+TEST(DotProductOfIntegers, Of32BitsRoundsHalvesToEven) {
+  for (int scaleFactor = 1; scaleFactor <= 60; ++scaleFactor) {
+    const int places = scaleFactor - 1;
+    const Qvx32s halves = 1 << places / 2;
+    for (const Qvx32s odd : {-3, -1, 1, 3}) {
+      for (const Qvx32s beside : {-1, 0, 1}) {
+        const Qvx32s a[] = {odd * halves, beside};
+        const Qvx32s b[] = {1 << (places - places / 2), 1};
+        const Wide sum = Wide{odd} * (Wide{1} << places) + beside;
+        check(qvxsDotProd_32s_Sfs, a, b, 2, sum, Wide{0}, kAnyLeast, 93, {scaleFactor});
+      }
+    }
+  }
+}
+
 // 2^31 - 1 elements: no sum on the way may overflow.
 TEST(DotProductOfIntegers, OfTheLongestVectors) {
   constexpr size_t kPeriod = 1 << 20;
