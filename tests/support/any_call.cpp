@@ -117,7 +117,8 @@ void AnyCall::fill(uint8_t* p, size_t bytes, const Parameter& parameter, Choices
     for (const auto& [count, order] :
          {Counted("nzTapsLenB", "orderB"), Counted("nzTapsLenA", "orderA"), Counted("nzTapsLen", "order")}) {
       if (shape(count) == 0) continue;
-      int at = order[5] == 'B' ? 0 : 1;
+      // Feedback begins at 1, and so does a filter of one tap, whose size is that of a tap at 1.
+      int at = order == std::string("orderB") || (order == std::string("order") && shape(count) > 1) ? 0 : 1;
       for (int64_t i = 0; i < shape(count); ++i, at += static_cast<int>(choices.between(1, 9))) shape_[order] = *position++ = at;
     }
   }

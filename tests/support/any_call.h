@@ -77,6 +77,22 @@ class AnyCall : public Arguments {
     }
   }
 
+  // Makes another number of each part of a source's last element, in one of many ways; false if it has none.
+  bool changeLast(size_t index, int way) {
+    const auto isSource = [&](const Vector& v) { return v.at == pointers_.at(index) && v.role == Role::kSource; };
+    const auto source = std::find_if(vectors_.begin(), vectors_.end(), isSource);
+    const size_t parts = source == vectors_.end() || !source->part.isComplex ? 1 : 2;
+    if (source == vectors_.end() || source->bytes < parts * source->part.bytes) return false;
+    const PartType& type = source->part;
+    for (size_t k = 1; k <= parts; ++k) {
+      uint8_t* const part = source->at + source->bytes - k * type.bytes;
+      const double value = type.get(part);
+      if (type.isFloat) type.put(part, std::isfinite(value) && value != 0 ? value * (way % 2 == 0 ? -3 - way : 3 + way) : 1);
+      else std::for_each(part, part + type.bytes, [&](uint8_t& byte) { byte ^= static_cast<uint8_t>(0x55 + 83 * way); });
+    }
+    return true;
+  }
+
   // The bytes of a parameter's vector as they are, or as they were before the call; null if it has none.
   const uint8_t* bytesOf(size_t index, bool before) const {
     for (const Vector& v : vectors_) {
