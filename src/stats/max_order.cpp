@@ -63,13 +63,16 @@ template <class T> struct GreatestFiniteUpper : GreatestUpper<T> {
   template <class A, class V> static A add(A a, V v) { return hn::Max(a, start(v)); }
 };
 
-// Whether there is a number so small that its upper 16 bits are zeros. Asked only where no finite element has others.
+// Whether there is a number so small that its upper 16 bits are zeros. Asked only where no finite element has others. Bits are
+// compared, since to the processor it may be a zero.
 template <class T> bool hasTiny(const T* src, size_t n) {
+  using Bits = hwy::SignedFromSize<sizeof(T)>;
   const auto isTiny = [](auto v) {
     using V = decltype(v);
-    return hn::And(v != same<V>(0), hn::Abs(v) < same<V>(std::numeric_limits<T>::min()));
+    const V magnitude = v & same<V>(std::numeric_limits<Bits>::max());
+    return hn::And(magnitude > same<V>(0), magnitude < same<V>(std::bit_cast<Bits>(std::numeric_limits<T>::min())));
   };
-  return firstWhere(isTiny, n, source(src)) < n;
+  return firstWhere(isTiny, n, source(reinterpret_cast<const Bits*>(src))) < n;
 }
 
 template <class T> QvxStatus orderOfFloats(const T* src, int len, int* order) {

@@ -1,5 +1,6 @@
 // Orders, counts and nearest entries.
 #include <gtest/gtest.h>
+#include <immintrin.h>
 #include <qvx/qvxs.h>
 
 #include <algorithm>
@@ -86,6 +87,23 @@ TEST(MaxOrder, IsTheDigitsOfTheLargestMagnitude) {
   expectOrdersOfPowers(qvxsMaxOrder_32s);
   expectOrdersOfFloats(qvxsMaxOrder_32f);
   expectOrdersOfFloats(qvxsMaxOrder_64f);
+}
+
+TEST(MaxOrder, OfSubnormalNumbersIsTheSameWhereTheCallerFlushesThem) {
+  const auto expect = [](auto function, auto least) {
+    using T = decltype(least);
+    std::vector<T> v(100, T(0));
+    v[70] = least;
+    int order = 0;
+    const unsigned control = _mm_getcsr();
+    _mm_setcsr(control | 0x8040);
+    const QvxStatus status = function(v.data(), 100, &order);
+    _mm_setcsr(control);
+    EXPECT_EQ(status, qvxStatOk);
+    EXPECT_EQ(order, std::numeric_limits<T>::min_exponent - 1);
+  };
+  expect(qvxsMaxOrder_32f, std::numeric_limits<Qvx32f>::denorm_min());
+  expect(qvxsMaxOrder_64f, std::numeric_limits<Qvx64f>::denorm_min());
 }
 
 // ---- counts
