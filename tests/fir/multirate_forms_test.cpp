@@ -262,6 +262,58 @@ TEST(Multirate, StreamsWithoutADelayLine) {
   }
 }
 
+// Outputs one by one in calls of all kinds: the memory for their samples is filled in place, then samples stay where they are;
+// phases put the first sample of an output at any distance from those of a call. Whole numbers, so that sums are exact.
+template <class T, class State, class Init, class Filter>
+void expectExactDecimation(Init init, Filter filter, QvxStatus (*inPlace)(T*, int, State*), QvxStatus (*free)(State*)) {
+  constexpr std::pair<int, bool> kCalls[] = {{64, true},   {3, false}, {60, false}, {16, true},
+                                             {100, false}, {1, false}, {17, false}};
+  Random random(seed());
+  const auto whole = [&](int n) {
+    std::vector<T> x(static_cast<size_t>(n));
+    for (T& v : x) v = static_cast<T>(static_cast<int>(random() % 7) - 3);
+    return x;
+  };
+  Vectors<T> vectors;
+  for (const auto& [down, tapsLen] : {std::pair{4, 16}, {4, 60}, {8, 8}, {8, 16}, {8, 40}, {100, 700}}) {
+    for (int phase = 0; phase < down; phase += std::max(1, down / 8)) {
+      const Case c = {tapsLen, {1, 0, down, phase}};
+      const auto h = whole(tapsLen);
+      State* state = nullptr;
+      ASSERT_EQ(init(&state, h.data(), c), qvxStatOk);
+      std::vector<T> signal(static_cast<size_t>(tapsLen));
+      for (const auto& [groups, isInPlace] : kCalls) {
+        const auto x = whole(groups * down);
+        vectors.place(x, static_cast<size_t>(groups), isInPlace);
+        const T* const src = vectors.src;
+        EXPECT_EQ(isInPlace ? inPlace(vectors.dst, groups, state) : filter(src, vectors.dst, groups, state), qvxStatOk);
+        const size_t done = signal.size();
+        signal.insert(signal.end(), x.begin(), x.end());
+        for (int j = 0; j < groups; ++j) {
+          const auto newest = signal.begin() + static_cast<ptrdiff_t>(done) + j * down + phase;
+          T sum = 0;
+          for (int k = 0; k < tapsLen; ++k) sum = static_cast<T>(sum + h[static_cast<size_t>(k)] * newest[-k]);
+          ASSERT_EQ(vectors.dst[j], sum) << describe("", c) << ", output " << j << " of " << groups;
+        }
+      }
+      EXPECT_EQ(free(state), qvxStatOk);
+    }
+  }
+}
+
+TEST(Multirate, DecimatesExactlyInCallsOfAllKinds) {
+  const auto init = [](auto f, auto... scale) {
+    return [=](auto** state, const auto* h, const Case& c) {
+      return f(state, h, c.tapsLen, scale..., 1, 0, c.factors.down, c.factors.downPhase, nullptr);
+    };
+  };
+  expectExactDecimation<Qvx32f>(init(qvxsFIRMRInitAlloc_32f), qvxsFIR_32f, qvxsFIR_32f_I, qvxsFIRFree_32f);
+  expectExactDecimation<Qvx64f>(init(qvxsFIRMRInitAlloc_64f), qvxsFIR_64f, qvxsFIR_64f_I, qvxsFIRFree_64f);
+  expectExactDecimation<Qvx16s, QvxsFIRState_16s>(
+      init(qvxsFIRMRInitAlloc_16s, 0), [](auto... arguments) { return qvxsFIR_16s_Sfs(arguments..., 0); },
+      [](Qvx16s* x, int groups, QvxsFIRState_16s* state) { return qvxsFIR_16s_ISfs(x, groups, state, 0); }, qvxsFIRFree_16s);
+}
+
 // Long ones in place go through memory of their own, piece by piece: no last piece is too short for a vector.
 TEST(Multirate, LongStreamsInPlace) {
   Random random(seed());
