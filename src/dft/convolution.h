@@ -36,7 +36,7 @@ template <class T> uint32_t lengthOfConvolution(uint32_t n, int64_t told) {
   const uint32_t least = 2 * n - 1;
   uint32_t best = std::bit_ceil(least);
   if (bytesOfPoints<T>(best) + bytesOfFft<T>(best).work + Carver::kLine - fft::kWorkSlack > told) best = 2 * best;
-  double cost = isInNearestCache<T>(best) ? 0.7 * best : best;
+  double cost = isInNearestCache<T>(best / 2) ? 0.7 * best : best;  // half, since it goes in place
   for (const uint32_t odd : {3, 5, 7, 9, 15, 21, 25, 27, 45, 63, 75, 81, 125, 135, 225}) {
     uint32_t length = odd * 16;
     while (length < least) length *= 2;
