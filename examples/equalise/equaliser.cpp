@@ -11,7 +11,8 @@ std::vector<Qvx32f> readTaps(const std::string& path) {
   for (std::string line; std::getline(file, line);) {
     std::istringstream numbers(line.substr(0, line.find('#')));
     while (!(numbers >> std::ws).eof()) {
-      if (!(numbers >> taps.emplace_back())) throw std::runtime_error(path + ": not a number in line: " + line);
+      if (!(numbers >> taps.emplace_back()))
+        throw std::runtime_error(std::string(path).append(": not a number in line: ").append(line));
     }
   }
   if (taps.empty()) throw std::runtime_error(path + ": no taps");

@@ -33,7 +33,7 @@ int AudioReader::got(sf_count_t frames) const {
 }
 
 int AudioReader::readRounded(Qvx16s* dst) {
-  floats_.resize(static_cast<size_t>(kBlockFrames * channels()));
+  floats_.resize(size_t{kBlockFrames} * static_cast<size_t>(channels()));
   const int frames = read(floats_.data());
   if (frames > 0) check(qvxsConvert_32f16s_Sfs(floats_.data(), dst, frames * channels(), qvxRoundNearestEven, -15));
   return frames;
