@@ -72,7 +72,8 @@ template <size_t G> struct Tile16 {
     else return i % 2 == 0 ? hn::LowerHalf(Row(), v[i / 2]) : hn::UpperHalf(Row(), v[i / 2]);
   }
 
-  template <bool kWhole, class Sample> static void join(Sample sample, const Qvx32f* const* src, const Tile& t, Qvx16s* dst) {
+  template <Rows kRows, class Sample> static void join(Sample sample, const Qvx32f* const* src, const Tile& t, Qvx16s* dst) {
+    constexpr bool kWhole = kRows != Rows::kInParts;
     Vec<Eight16> v[G];
 #pragma GCC unroll 8
     for (size_t c = 0; c < G; ++c) {
@@ -86,11 +87,13 @@ template <size_t G> struct Tile16 {
     }
   }
 
-  template <bool kWhole> static void split(const Qvx16s* src, const Tile& t, Qvx32f* const* dst) {
+  template <Rows kRows> static void split(const Qvx16s* src, const Tile& t, Qvx32f* const* dst) {
+    constexpr bool kWhole = kRows != Rows::kInParts;
     Vec<Row> rows[8];
 #pragma GCC unroll 8
     for (size_t i = 0; i < 8; ++i) {
-      if (kWhole || i < t.whole) rows[i] = load(Row(), src + t.at(i));
+      if (kRows == Rows::kLastEarly && i == 7) rows[i] = loadRow(Row(), src + t.at(i), t.early);
+      else if (kWhole || i < t.whole) rows[i] = load(Row(), src + t.at(i));
       else rows[i] = loadFirst(Row(), src + t.at(std::min(i, t.frames - 1)), t.channels);
     }
     Vec<Eight16> v[G];
@@ -126,8 +129,8 @@ template <class Sample> void join16(Sample sample, const Qvx32f* const* src, siz
   } else {
     byWidth16(channels, [=](auto width) {
       constexpr size_t G = decltype(width)::value;
-      forEachTile<8, G, 2 * G>(channels, n, 2, true, [=](const Tile& t, auto whole) {
-        Tile16<G>::template join<decltype(whole)::value>(sample, src, t, dst);
+      forEachTile<8, G, 2 * G, true>(channels, n, 2, [=](const Tile& t, auto rows) {
+        Tile16<G>::template join<decltype(rows)::value>(sample, src, t, dst);
       });
     });
   }
@@ -189,9 +192,8 @@ void split16(const Qvx16s* src, size_t channels, size_t n, Qvx32f* const* dst) {
   } else {
     byWidth16(channels, [=](auto width) {
       constexpr size_t G = decltype(width)::value;
-      forEachTile<8, G, 2 * G>(channels, n, 2, false, [=](const Tile& t, auto whole) {
-        Tile16<G>::template split<decltype(whole)::value>(src, t, dst);
-      });
+      forEachTile<8, G, 2 * G, false>(
+          channels, n, 2, [=](const Tile& t, auto rows) { Tile16<G>::template split<decltype(rows)::value>(src, t, dst); });
     });
   }
 }

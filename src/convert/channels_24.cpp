@@ -108,7 +108,8 @@ struct PackedTo {
   }
 };
 
-template <bool kWhole> void join24Tile(const Qvx32f* const* src, const Tile& t, Qvx8u* dst) {
+template <Rows kRows> void join24Tile(const Qvx32f* const* src, const Tile& t, Qvx8u* dst) {
+  constexpr bool kWhole = kRows != Rows::kInParts;
   const Lanes<float, 4> d;
   Vec<Four32> v[4];
 #pragma GCC unroll 4
@@ -125,12 +126,14 @@ template <bool kWhole> void join24Tile(const Qvx32f* const* src, const Tile& t, 
   }
 }
 
-template <bool kWhole> void split24Tile(const Qvx8u* src, const Tile& t, Qvx32f* const* dst) {
+template <Rows kRows> void split24Tile(const Qvx8u* src, const Tile& t, Qvx32f* const* dst) {
+  constexpr bool kWhole = kRows != Rows::kInParts;
   Vec<Four32> v[4];
 #pragma GCC unroll 4
   for (size_t i = 0; i < 4; ++i) {
     const Qvx8u* row = src + 3 * t.at(std::min(i, t.frames - 1));
-    v[i] = unpacked24(kWhole || i < t.whole ? load(Row24(), row) : loadFirst(Row24(), row, 3 * t.channels));
+    if (kRows == Rows::kLastEarly && i == 3) v[i] = unpacked24(loadRow(Row24(), row, t.early));
+    else v[i] = unpacked24(kWhole || i < t.whole ? load(Row24(), row) : loadFirst(Row24(), row, 3 * t.channels));
   }
   shuffle<2>(v);
 #pragma GCC unroll 4
@@ -156,8 +159,8 @@ QvxStatus qvxsJoinScaled_32f24s_D2L(const Qvx32f* const* src, int channels, int 
     return loop([](auto quad) { return each(quad, Scaled24()); }, PackedTo{{dst}}, elements(frames),
                 TwoChannels<const Qvx32f>{src});
   }
-  forEachTile<4, 4, 16>(elements(channels), elements(frames), 3, true,
-                        [=](const Tile& t, auto whole) { join24Tile<decltype(whole)::value>(src, t, dst); });
+  forEachTile<4, 4, 16, true>(elements(channels), elements(frames), 3,
+                              [=](const Tile& t, auto rows) { join24Tile<decltype(rows)::value>(src, t, dst); });
   return qvxStatOk;
 }
 
@@ -171,7 +174,7 @@ QvxStatus qvxsSplitScaled_24s32f_D2L(const Qvx8u* src, Qvx32f* const* dst, int c
     return loop([](auto quad) { return each(quad, FullScaleOf24()); }, TwoChannels<Qvx32f>{dst}, elements(frames),
                 PackedFrom{{src}});
   }
-  forEachTile<4, 4, 16>(elements(channels), elements(frames), 3, false,
-                        [=](const Tile& t, auto whole) { split24Tile<decltype(whole)::value>(src, t, dst); });
+  forEachTile<4, 4, 16, false>(elements(channels), elements(frames), 3,
+                               [=](const Tile& t, auto rows) { split24Tile<decltype(rows)::value>(src, t, dst); });
   return qvxStatOk;
 }
