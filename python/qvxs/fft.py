@@ -106,7 +106,8 @@ def _apply(call, record, size, source, target, workers):
 
 def _complex(x, n, axis, norm, forward, overwrite, workers):
     """Complex numbers to complex numbers; the real ones by way of half a spectrum."""
-    if x.__class__ is _ndarray and n is None and x.ndim == 1 and x.dtype in _COMPLEX and x.size and x.flags.carray and workers is None:
+    if x.__class__ is _ndarray and n is None and x.ndim == 1 and x.dtype in _COMPLEX and 0 < x.size <= _LONGEST and (
+            x.flags.carray and workers is None):
         # The usual call, without the checks below.
         tag = _COMPLEX[x.dtype]
         record, size = _record("DFT", "C_" + tag, check_axis(axis, 1) or x.size, _flag(norm))
@@ -160,7 +161,8 @@ _EXPAND = {tag: getattr(raw, f"qvxsConjCcs_{tag}c_I") for tag in ("32f", "64f")}
 
 def _half_spectrum(x, n, axis, flag, workers):
     """Real numbers to the first half of their spectrum."""
-    if x.__class__ is _ndarray and n is None and x.ndim == 1 and x.dtype in _REAL and x.size and x.flags.carray and workers is None:
+    if x.__class__ is _ndarray and n is None and x.ndim == 1 and x.dtype in _REAL and 0 < x.size <= _LONGEST and (
+            x.flags.carray and workers is None):
         tag = _REAL[x.dtype]
         record, size = _record("DFT", "R_" + tag, check_axis(axis, 1) or x.size, flag)
         target = np.empty(x.size // 2 + 1, _COMPLEX_OF[x.dtype])

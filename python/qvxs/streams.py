@@ -367,9 +367,12 @@ class Resampler(_Stream):
     def reset(self):
         """Begins anew, after zeros."""
         with self._lock:
-            self._record = getattr(raw, "qvxsFIRMRInitAlloc" + self._tail)(self.taps, len(self.taps), self.up, 0, self.down, 0, None)
-            self._waiting = np.empty(0, self.dtype)  # fewer than down samples
-            self._taken = self._given = 0
+            self._begin()
+
+    def _begin(self):
+        self._record = getattr(raw, "qvxsFIRMRInitAlloc" + self._tail)(self.taps, len(self.taps), self.up, 0, self.down, 0, None)
+        self._waiting = np.empty(0, self.dtype)  # fewer than down samples
+        self._taken = self._given = 0
 
     @property
     def state(self):
@@ -412,7 +415,7 @@ class Resampler(_Stream):
             zeros = np.zeros(-(-missing // self.up) * self.down, self.dtype)
             zeros[:self._waiting.size] = self._waiting[:zeros.size]
             result = self._groups(zeros)[:missing]
-        self.reset()
+            self._begin()
         return result
 
 
