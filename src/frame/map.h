@@ -121,22 +121,34 @@ template <class Lane, class V> auto widened(Pair<V> v) {
   return each(v, [](auto part) { return widened<Lane>(part); });
 }
 
-// A destination of Pairs, whose halves follow each other.
-template <class Dst> struct ByHalves {
-  using Lane = hwy::UnsignedFromSize<sizeof(typename Dst::Lane) / 2>;
-  Dst dst;
+// Two vectors at a time of a source or a destination that has one.
+template <class One> struct InTwos {
+  using Lane = hwy::UnsignedFromSize<sizeof(typename One::Lane) / 2>;
+  static constexpr size_t kParts = 1;
+  One one;
 
+  template <size_t N> auto get(size_t at) const {
+    const auto lo = one.template get<N / 2>(at);
+    return Pair<std::remove_const_t<decltype(lo)>>{lo, one.template get<N / 2>(at + N / 2)};
+  }
+  template <size_t N> auto get(size_t at, size_t n) const {
+    const size_t low = std::min(n, N / 2);
+    const auto lo = one.template get<N / 2>(at, low);
+    return Pair<std::remove_const_t<decltype(lo)>>{lo, one.template get<N / 2>(at + low, n - low)};
+  }
   template <size_t N, class V> void put(Pair<V> v, size_t at) const {
-    dst.template put<N / 2>(v.lo, at);
-    dst.template put<N / 2>(v.hi, at + N / 2);
+    one.template put<N / 2>(v.lo, at);
+    one.template put<N / 2>(v.hi, at + N / 2);
   }
   template <size_t N, class V> void put(Pair<V> v, size_t at, size_t n) const {
     const size_t low = std::min(n, N / 2);
-    dst.template put<N / 2>(v.lo, at, low);
-    if (n > low) dst.template put<N / 2>(v.hi, at + low, n - low);
+    one.template put<N / 2>(v.lo, at, low);
+    if (n > low) one.template put<N / 2>(v.hi, at + low, n - low);
   }
-  template <size_t N> size_t misaligned() const { return dst.template misaligned<N / 2>(); }
+  template <size_t N> size_t misaligned() const { return one.template misaligned<N / 2>(); }
+  InTwos from(size_t at) const { return {one.from(at)}; }
 };
+template <class One> InTwos(One) -> InTwos<One>;
 
 // Whether sources are widened a whole register at a time. SSSE3 takes two instructions to widen half a register as it is loaded,
 // and three to four for both halves: 4096 integers of 16 bits to 32 take 0.7 of the time.
@@ -162,7 +174,7 @@ struct AsIs {
         const auto lo = op(wide.lo...);
         return Pair<std::remove_const_t<decltype(lo)>>{lo, op(wide.hi...)};
       };
-      return loop([halves](auto... v) { return halves(widenedWhole<Lane>(v)...); }, ByHalves<Dst>{dst}, n, src...);
+      return loop([halves](auto... v) { return halves(widenedWhole<Lane>(v)...); }, InTwos{dst}, n, src...);
     } else {
       return loop(prepared([](auto v) { return widened<Lane>(v); }, op), dst, n, src...);
     }

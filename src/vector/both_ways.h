@@ -14,40 +14,12 @@
 //     too. The tests try all b and a for which it is just one of them.
 #pragma once
 
+#include "frame/map.h"
 #include "frame/processor.h"
 #include "frame/simd.h"
 #include "frame/team.h"
 
 namespace qvx {
-
-// Two vectors at a time of a source or a destination that has one.
-template <class One> struct InTwos {
-  using Lane = hwy::UnsignedFromSize<sizeof(typename One::Lane) / 2>;
-  static constexpr size_t kParts = 1;
-  One one;
-
-  template <size_t N> auto get(size_t at) const {
-    const auto lo = one.template get<N / 2>(at);
-    return Pair<std::remove_const_t<decltype(lo)>>{lo, one.template get<N / 2>(at + N / 2)};
-  }
-  template <size_t N> auto get(size_t at, size_t n) const {
-    const size_t low = std::min(n, N / 2);
-    const auto lo = one.template get<N / 2>(at, low);
-    return Pair<std::remove_const_t<decltype(lo)>>{lo, one.template get<N / 2>(at + low, n - low)};
-  }
-  template <size_t N, class V> void put(Pair<V> v, size_t at) const {
-    one.template put<N / 2>(v.lo, at);
-    one.template put<N / 2>(v.hi, at + N / 2);
-  }
-  template <size_t N, class V> void put(Pair<V> v, size_t at, size_t n) const {
-    const size_t low = std::min(n, N / 2);
-    one.template put<N / 2>(v.lo, at, low);
-    if (n > low) one.template put<N / 2>(v.hi, at + low, n - low);
-  }
-  template <size_t N> size_t misaligned() const { return one.template misaligned<N / 2>(); }
-  InTwos from(size_t at) const { return {one.from(at)}; }
-};
-template <class One> InTwos(One) -> InTwos<One>;
 
 // The ways to take a root or a quotient, and which operands they serve.
 struct Divider {
