@@ -206,8 +206,8 @@ inline void stepsInMemory(Qvx32f* taps, size_t n, const Qvx32f* x, const Qvx32f*
 
 }  // namespace detail
 
-// count steps: dst[i] is the sum of taps[t] x[i + t], then taps[t] += (ref[i] - dst[i]) rate x[i + t]. The taps are filled up with
-// zeros to whole vectors; samples after the last may be read as far, and not used.
+// count steps: dst[i] is the sum of taps[t] x[i + t], then taps[t] += (ref[i] - dst[i]) rate x[i + t]. The taps are filled up to
+// whole vectors with zeros; samples after the last may be read as far, and not used.
 inline void steps(Qvx32f* taps, size_t n, const Qvx32f* x, const Qvx32f* ref, Qvx32f* dst, size_t count, Qvx32f rate) {
   using namespace detail;
   using Steps = void (*)(Qvx32f*, size_t, const Qvx32f*, const Qvx32f*, Qvx32f*, size_t, Qvx32f);
