@@ -49,7 +49,7 @@ template <class V> struct Split {
   V factor;
 };
 struct SplitProducts {
-  static constexpr size_t kSlice = 1 << 16;
+  [[maybe_unused]] static constexpr size_t kSlice = 1 << 16;  // in SSSE3 alone
   template <class U, class V> static auto of(U a, Pair<V> b) {
     const Pair<U> halves = deinterleaved(each(b, [](V v) { return as<int16_t>(v); }));
     const U low = halves.lo ^ same<U>(INT16_MIN);
