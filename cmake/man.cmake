@@ -4,7 +4,8 @@ if(NOT QVXS_MAN)
 endif()
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 file(GLOB manual_sources CONFIGURE_DEPENDS include/qvx/*.h traits/*.traits)
-set(manual_tools ${PROJECT_SOURCE_DIR}/tools/docs/man.py ${PROJECT_SOURCE_DIR}/tools/docs/headers.py)
+set(manual_tools tools/docs/man.py tools/interface/headers.py tools/interface/traits.py)
+list(TRANSFORM manual_tools PREPEND ${PROJECT_SOURCE_DIR}/)
 add_custom_command(OUTPUT ${PROJECT_BINARY_DIR}/man/man7/qvxs.7.gz
   COMMAND ${CMAKE_COMMAND} -E env PYTHONDONTWRITEBYTECODE=1 ${Python3_EXECUTABLE} tools/docs/man.py include/qvx traits ${PROJECT_VERSION}
     ${PROJECT_BINARY_DIR}/man

@@ -11,13 +11,14 @@ it, the others are checked against their extents, a result of one element is a r
 with a record keeps the arguments it has in C; the classes of qvxs_transforms.hpp and its like, which know the record's lengths, call it.
 """
 import ast
-import fnmatch
 import re
 import sys
 import textwrap
 from collections import defaultdict
-from dataclasses import dataclass, field
 from pathlib import Path
+
+from interface import headers
+from interface.traits import Traits, expression
 
 ROOT = Path(__file__).resolve().parent.parent
 INCLUDE = ROOT / 'include' / 'qvx'
@@ -29,108 +30,30 @@ NOT_NEGATIVE = {'qvxsSortRadixIndexAscend_8u': 'srcStride', 'qvxsSortRadixIndexD
 FRACTIONS = {'qvxsMulC_64f64s_ISfs': 'val'}
 
 
-@dataclass
-class Parameter:
-    type: str
-    name: str
-
-    @property
-    def pointee(self):
-        return re.sub(r'\bconst\b|\*', '', self.type).strip()
-
-    @property
-    def is_const(self):
-        return self.type.startswith('const')
-
-    @property
-    def depth(self):
-        return self.type.count('*')
-
-    @property
-    def is_record(self):
-        return self.depth > 0 and self.type.replace('const ', '').startswith('Qvxs')
-
-    @property
-    def plain(self):
-        """The name without the p of pointers."""
-        return re.sub(r'^pp?(?=[A-Z])', '', self.name)[0].lower() + re.sub(r'^pp?(?=[A-Z])', '', self.name)[1:]
+FAMILIES = headers.read_families(INCLUDE)
+TRAITS = Traits(ROOT / 'traits')
 
 
-@dataclass
-class Export:
-    name: str
-    result: str
-    parameters: list
-    header: str
-    block: str  # the documentation block above it
-
-    @property
-    def key(self):
-        """The name without the types and forms that C needs in it."""
-        first, *rest = self.name[4:].split('_')
-        forms = {'I', 'Sfs', 'ISfs', 'D2L', 'P', 'IP', 'PSfs', 'IPSfs'}
-        if any(p.is_record for p in self.parameters):
-            forms |= {'C', 'R'}  # which the record's type determines
-        tokens = [first] + [t for t in rest if t not in forms]
-        key = '_'.join(t for t in (re.sub(f'(?:{ELEMENT})+$', '', t) for t in tokens) if t)
-        return 'Ten' + key[2:] if key.startswith('10') else key
-
-    @property
-    def elements(self):
-        """The element types in its name, in their order."""
-        return [f'Qvx{t}' for token in self.name[4:].split('_') for t in re.findall(ELEMENT, (re.search(f'(?:{ELEMENT})+$', token) or [''])[0])]
+def plain(parameter):
+    """The name without the p of pointers."""
+    name = re.sub(r'^pp?(?=[A-Z])', '', parameter.name)
+    return name[0].lower() + name[1:]
 
 
-@dataclass
-class Row:
-    names: list
-    extents: dict = field(default_factory=dict)
-    optional: set = field(default_factory=set)
-    scratch: set = field(default_factory=set)
+def key_of(export):
+    """The name without the types and forms that C needs in it."""
+    first, *rest = export.name[4:].split('_')
+    forms = {'I', 'Sfs', 'ISfs', 'D2L', 'P', 'IP', 'PSfs', 'IPSfs'}
+    if any(p.is_record for p in export.parameters):
+        forms |= {'C', 'R'}  # which the record's type determines
+    tokens = [first] + [t for t in rest if t not in forms]
+    key = '_'.join(t for t in (re.sub(f'(?:{ELEMENT})+$', '', t) for t in tokens) if t)
+    return 'Ten' + key[2:] if key.startswith('10') else key
 
 
-def exports():
-    found = []
-    for header in re.findall(r'<qvx/(qvxs_\w+\.h)>', (INCLUDE / 'qvxs.h').read_text()):
-        text = (INCLUDE / header).read_text()
-        for match in re.finditer(r'(/\*\*.*?\*/)|^(?:QVXS_SLOTLESS\()?QVXS_API\(([^,]+), (\w+),\s*\((.*?)\)\)', text, re.M | re.S):
-            if match[1]:
-                block = match[1]
-                continue
-            parameters = []
-            for one in re.sub(r'\s+', ' ', match[4]).split(','):
-                if one.strip() != 'void':
-                    type_, name = re.match(r'\s*(.*?)\s*(\w+)$', one).groups()
-                    parameters.append(Parameter(re.sub(r' \*', '*', type_), name))
-            found.append(Export(match[3], match[2], parameters, header, block))
-    return found
-
-
-def rows(path):
-    found = []
-    for line in path.read_text().splitlines():
-        if not line or line.startswith('#'):
-            continue
-        if not line[0].isspace():
-            found.append(Row(line.split()))
-            continue
-        what, *values = line.split()
-        if what == 'extent':
-            found[-1].extents.update(v.split('=', 1) for v in values)
-        elif what in ('optional', 'scratch'):
-            getattr(found[-1], what).update(values)
-    return found
-
-
-ROWS = [row for path in sorted((ROOT / 'traits').glob('*.traits')) if path.stem != 'parameters' for row in rows(path)]
-COMMON = rows(ROOT / 'traits' / 'parameters.traits')[0]
-
-
-def row_of(export):
-    for row in ROWS:
-        if any(fnmatch.fnmatchcase(export.name[4:], pattern) for pattern in row.names):
-            return row
-    sys.exit(f'{export.name} has no row in traits/')
+def elements_of(export):
+    """The element types in its name, in their order."""
+    return [f'Qvx{t}' for token in export.name[4:].split('_') for t in re.findall(ELEMENT, (re.search(f'(?:{ELEMENT})+$', token) or [''])[0])]
 
 
 def wrapped(text, indent):
@@ -150,9 +73,6 @@ class Expression(ast.NodeVisitor):
 
     def __init__(self, values):
         self.values = values
-
-    def visit_Expression(self, node):
-        return self.visit(node.body)
 
     def visit_Constant(self, node):
         return str(node.value)
@@ -182,7 +102,7 @@ class Overload:
 
     def __init__(self, export):
         self.export = export
-        self.row = row_of(export)
+        self.row = TRAITS.of(export.name)
         names = {p.name for p in export.parameters}
         self.standard = 'len' if 'len' in names else 'numIters' if 'numIters' in names else '1'
         self.kinds = {p.name: self.kind(p) for p in export.parameters}
@@ -190,20 +110,21 @@ class Overload:
         self.givers = {}
         for p in export.parameters:
             extent = self.extent(p)
-            if self.kinds[p.name] == 'vector' and extent in names and p.name not in self.row.optional | self.row.scratch:
+            if self.kinds[p.name] == 'vector' and extent in names and p.name not in self.row.words['optional'] + self.row.words['scratch']:
                 self.givers.setdefault(extent, p)
         for p in export.parameters:
             if self.kinds[p.name] == 'vectors':
                 self.givers.setdefault('nChannels', p)
 
     def extent(self, p):
-        text = self.row.extents.get(p.name) or COMMON.extents.get(p.name) or self.row.extents.get('*') or self.standard
+        text = TRAITS.extent(self.row, p.name)
+        if text == TRAITS.common.values('extent')['*']:
+            return self.standard
         return text[2:] if self.packed(p) else text
 
     def packed(self, p):
         """Whether three bytes are an element."""
-        text = self.row.extents.get(p.name) or self.row.extents.get('*') or ''
-        return p.pointee == 'Qvx8u' and text.startswith('3*')
+        return p.pointee == 'Qvx8u' and TRAITS.extent(self.row, p.name).startswith('3*')
 
     def element(self, p):
         if self.packed(p):
@@ -221,32 +142,32 @@ class Overload:
         kind, const = self.kinds[p.name], 'const ' if p.is_const else ''
         if kind == 'value':
             if p.type == 'QvxRoundMode':
-                return f'Rounding {p.plain}'
+                return f'Rounding {plain(p)}'
             wrapper = 'Fraction' if FRACTIONS.get(self.export.name) == p.name else 'Value'
-            return f'{wrapper}<{p.type}> {p.plain}' + (' = 0' if p.name == 'hint' else '')
+            return f'{wrapper}<{p.type}> {plain(p)}' + (' = 0' if p.name == 'hint' else '')
         if kind == 'reference':
-            return f'{const}{p.pointee}& {p.plain}'
+            return f'{const}{p.pointee}& {plain(p)}'
         if kind == 'vectors':
-            return f'In<{const}{p.pointee}*> {p.plain}'
-        return f'{"In" if p.is_const else "Out"}<{self.element(p)}> {p.plain}'
+            return f'In<{const}{p.pointee}*> {plain(p)}'
+        return f'{"In" if p.is_const else "Out"}<{self.element(p)}> {plain(p)}'
 
     def passed(self, p):
         if p.name in self.givers:
-            giver = self.givers[p.name].plain
+            giver = plain(self.givers[p.name])
             return f'length({giver}.size())' if p.type == 'int' else f'unsignedLength({giver}.size())'
         kind = self.kinds[p.name]
         if kind == 'value':
-            return f'static_cast<QvxRoundMode>({p.plain})' if p.type == 'QvxRoundMode' else f'{p.plain}.number'
+            return f'static_cast<QvxRoundMode>({plain(p)})' if p.type == 'QvxRoundMode' else f'{plain(p)}.number'
         if kind == 'reference':
-            return f'&{p.plain}'
-        if p.name in self.row.optional:
-            return f'optional({p.plain})'
-        return f'pointer({p.plain})' if kind == 'vector' and self.element(p) != p.pointee else f'{p.plain}.data()'
+            return f'&{plain(p)}'
+        if p.name in self.row.words['optional']:
+            return f'optional({plain(p)})'
+        return f'pointer({plain(p)})' if kind == 'vector' and self.element(p) != p.pointee else f'{plain(p)}.data()'
 
     def value(self, p):
         if p.name in self.givers:
-            return f'int64_t({self.givers[p.name].plain}.size())'
-        return f'int64_t({p.plain}.number)'
+            return f'int64_t({plain(self.givers[p.name])}.size())'
+        return f'int64_t({plain(p)}.number)'
 
     def requirements(self):
         parts = []
@@ -254,24 +175,24 @@ class Overload:
         values['phase'] = 'int64_t(phase)'
         for length, giver in self.givers.items():
             type_ = next(p.type for p in self.export.parameters if p.name == length)
-            parts.append(f'{"countable" if type_ == "int" else "countableUnsigned"}({giver.plain}.size())')
+            parts.append(f'{"countable" if type_ == "int" else "countableUnsigned"}({plain(giver)}.size())')
         if self.export.name in NOT_NEGATIVE:
             parts.append(f'{NOT_NEGATIVE[self.export.name]}.number >= 0')
         for p in self.export.parameters:
             extent = self.extent(p)
             if self.kinds[p.name] != 'vector' or self.givers.get(extent) is p:
                 continue
-            if extent in self.givers and p.name not in self.row.scratch:
-                test = f'{p.plain}.size() == {self.givers[extent].plain}.size()'
+            if extent in self.givers and p.name not in self.row.words['scratch']:
+                test = f'{plain(p)}.size() == {plain(self.givers[extent])}.size()'
             else:
-                tree = ast.parse(extent.replace('/', '//').replace('^', '**'), mode='eval')
+                tree = expression(extent)
                 unknown = {n.id for n in ast.walk(tree) if isinstance(n, ast.Name)} - set(values) - {'max'}
                 if unknown == {'totalBits'}:
                     values['totalBits'] = 'totalBits(srcBitLen)'
                 elif unknown:
                     sys.exit(f'{self.export.name}: {p.name} has {extent} elements, and nothing tells {unknown}')
-                test = f'atLeast({p.plain}.size(), {Expression(values).visit(tree)})'
-            parts.append(f'({p.plain}.empty() || {test})' if p.name in self.row.optional else test)
+                test = f'atLeast({plain(p)}.size(), {Expression(values).visit(tree)})'
+            parts.append(f'({plain(p)}.empty() || {test})' if p.name in self.row.words['optional'] else test)
         return parts
 
     def kept(self):
@@ -300,7 +221,7 @@ def has_record(export):
 
 def heading(export):
     """The first sentence or formula of a documentation block."""
-    line = export.block[3:-2].strip().splitlines()[0].strip()
+    line = export.block.text.splitlines()[0]
     return line if len(line) < COLUMNS - 30 else textwrap.shorten(line, COLUMNS - 30, placeholder=' ...')
 
 
@@ -334,7 +255,7 @@ def functions(all_exports):
     stems = defaultdict(list)
     for e in all_exports:
         if e.result == 'QvxStatus' and not has_record(e):
-            stems[e.key].append(Overload(e))
+            stems[key_of(e)].append(Overload(e))
     text = TOP.format(what='All functions without a record, as overloads by stem.', guard='QVXS_FUNCTIONS_HPP')
     text += '\n#include <qvx/qvxs_result.hpp>\n#include <qvx/qvxs_vectors.hpp>\n\n'
     text += 'namespace qvx {\ninline namespace QVX_POLICY {\nnamespace exports {\nusing namespace qvx::detail;\n}\n\n'
@@ -355,10 +276,10 @@ def functions(all_exports):
 def typed(export, known):
     """The argument that determines the types where nothing else does."""
     # QvxsFIRState_32s is another name of a type.
-    signature = (export.key, *(p.type.replace('FIRState_32s', 'FIRState64f_32s') for p in export.parameters))
+    signature = (key_of(export), *(p.type.replace('FIRState_32s', 'FIRState64f_32s') for p in export.parameters))
     unclear = signature in known or not any(p.is_record for p in export.parameters)
     known.add(signature)
-    return f'Types<{", ".join(export.elements)}>' if export.elements and unclear else None
+    return f'Types<{", ".join(elements_of(export))}>' if elements_of(export) and unclear else None
 
 
 def handles(all_exports):
@@ -367,24 +288,26 @@ def handles(all_exports):
                       guard='QVXS_HANDLES_HPP')
     text += '\n#include <qvx/qvxs_vectors.hpp>\n\nnamespace qvx::handles {\n'
     stem = None
-    known = set()
+    first, known = {}, set()
     for e in all_exports:
         if e.result == 'QvxStatus' and not has_record(e):
             continue
-        if e.key != stem:
-            text += f'\n// {e.header}: {heading(e)}\n'
-            stem = e.key
+        if key_of(e) != stem:
+            # A block that leans on another ("The same for 16-bit samples") says less than that of the stem's first function.
+            same = first.setdefault(key_of(e), e)
+            text += f'\n// {e.header}: {heading(same if e.block.leans else e)}\n'
+            stem = key_of(e)
         parameters = [f'{p.type} {p.name}' for p in e.parameters]
         types = typed(e, known)
         if types:
             parameters.insert(0, types)
         call = f'{e.name}({", ".join(p.name for p in e.parameters)})'
-        text += wrapped(f'inline {e.result} {e.key}({", ".join(parameters)}) {{ return {call}; }}', 0) + '\n'
+        text += wrapped(f'inline {e.result} {key_of(e)}({", ".join(parameters)}) {{ return {call}; }}', 0) + '\n'
     text += '\n// The record of a stem for element types, in the order of its name: taps first.\n'
     text += 'template <class Stem, class... T>\nstruct RecordOf;\n'
     seen = set()
-    for header in re.findall(r'<qvx/(qvxs_\w+\.h)>', (INCLUDE / 'qvxs.h').read_text()):
-        for name in re.findall(r'^typedef (?:struct )?\w+ (Qvxs\w+);', (INCLUDE / header).read_text(), re.M):
+    for family in FAMILIES:
+        for name in family.types:
             stem, elements = re.match(rf'Qvxs(\w+?)(?:State|Spec)_?((?:[CR]_)?(?:_?{ELEMENT})*)$', name).groups()
             kind = re.match(r'[CR](?=_)', elements)
             stem += f'_{kind[0]}' if kind else ''
@@ -399,8 +322,8 @@ def handles(all_exports):
 def names():
     text = TOP.format(what='The names of statuses, and what they say.', guard='QVXS_NAMES_HPP')
     text += '\n#include <qvx/qvxdefs.h>\n\nnamespace qvx {\n\ninline const char* describe(QvxStatus status) {\n  switch (status) {\n'
-    for name, says in re.findall(r'^  (qvx(?:Stat|Warn)\w+) = -?\d+,?(?: +/\* (.*?) \*/)?$', (INCLUDE / 'qvxdefs.h').read_text(), re.M):
-        text += f'    case {name}: return "{name}{": " + says if says else ""}";\n'
+    for status in headers.read_statuses(INCLUDE):
+        text += f'    case {status.name}: return "{status.name}{": " + status.meaning if status.value else ""}";\n'
     return text + '  }\n  return "an unknown status";\n}\n\n}  // namespace qvx\n\n#endif\n'
 
 
@@ -445,9 +368,9 @@ def calls(all_exports):
         stubs.append(f'extern "C" {e.result} {e.name}({parameters}) {{ {end} }}')
         if e.result == 'QvxStatus' and not has_record(e):
             overload = Overload(e)
-            types, callee, first = [overload.argument(p) for p in overload.kept()], e.key, []
+            types, callee, first = [overload.argument(p) for p in overload.kept()], key_of(e), []
         else:
-            types, callee, first = [p.type for p in e.parameters], f'handles::{e.key}', [t for t in [typed(e, known)] if t]
+            types, callee, first = [p.type for p in e.parameters], f'handles::{key_of(e)}', [t for t in [typed(e, known)] if t]
         declared = ' '.join(f'std::remove_const_t<{t}> a{i}{{}};' for i, t in enumerate(types))
         arguments = ', '.join([f'{t}()' for t in first] + [f'a{i}' for i in range(len(types))])
         lines.append(f'  expect("{e.name}", {number}, [] {{ {declared} return {callee}({arguments}); }});')
@@ -455,7 +378,7 @@ def calls(all_exports):
 
 
 def main():
-    every = exports()
+    every = [export for family in FAMILIES for export in family.exports]
     if sys.argv[1:2] == ['--calls']:
         Path(sys.argv[2]).write_text(calls(every))
         return False

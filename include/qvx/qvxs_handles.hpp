@@ -1505,23 +1505,23 @@ inline QvxStatus FIRLMSSetDlyLine(QvxsFIRLMSState_32f* pState, const Qvx32f* pDl
 // qvxs_lms.h: Releases the record, whose identity is not tested; null is taken. Returns qvxStatOk.
 inline QvxStatus FIRLMSFree(QvxsFIRLMSState_32f* pState) { return qvxsFIRLMSFree_32f(pState); }
 
-// qvxs_lms.h: Releases the record, whose identity is not tested; null is taken. Returns qvxStatOk.
+// qvxs_lms.h: A record in a block of its own. pTaps: h[0] first; null for zeros. pDlyLine: tapsLen samples, ...
 inline QvxStatus FIRLMSInitAlloc(QvxsFIRLMSState32f_16s** ppState, const Qvx32f* pTaps, int tapsLen, const Qvx16s* pDlyLine, int
     dlyLineIndex) { return qvxsFIRLMSInitAlloc32f_16s(ppState, pTaps, tapsLen, pDlyLine, dlyLineIndex); }
 
-// qvxs_lms.h: Releases the record, whose identity is not tested; null is taken. Returns qvxStatOk.
+// qvxs_lms.h: len steps: pDst = the outputs for pSrc, while the taps follow pRef.
 inline QvxStatus FIRLMS(const Qvx16s* pSrc, const Qvx16s* pRef, Qvx16s* pDst, int len, QvxsFIRLMSState32f_16s* pState, Qvx32f mu)
     { return qvxsFIRLMS32f_16s(pSrc, pRef, pDst, len, pState, mu); }
 
-// qvxs_lms.h: Releases the record, whose identity is not tested; null is taken. Returns qvxStatOk.
+// qvxs_lms.h: pOutTaps = the taps as they are now, h[0] first.
 inline QvxStatus FIRLMSGetTaps(const QvxsFIRLMSState32f_16s* pState, Qvx32f* pOutTaps) { return qvxsFIRLMSGetTaps32f_16s(pState,
     pOutTaps); }
 
-// qvxs_lms.h: Releases the record, whose identity is not tested; null is taken. Returns qvxStatOk.
+// qvxs_lms.h: Reads or replaces the delay line and its index, as qvxsFIRLMSInitAlloc takes them.
 inline QvxStatus FIRLMSGetDlyLine(const QvxsFIRLMSState32f_16s* pState, Qvx16s* pDlyLine, int* pDlyLineIndex) { return
     qvxsFIRLMSGetDlyLine32f_16s(pState, pDlyLine, pDlyLineIndex); }
 
-// qvxs_lms.h: Releases the record, whose identity is not tested; null is taken. Returns qvxStatOk.
+// qvxs_lms.h: Reads or replaces the delay line and its index, as qvxsFIRLMSInitAlloc takes them.
 inline QvxStatus FIRLMSSetDlyLine(QvxsFIRLMSState32f_16s* pState, const Qvx16s* pDlyLine, int dlyLineIndex) { return
     qvxsFIRLMSSetDlyLine32f_16s(pState, pDlyLine, dlyLineIndex); }
 
@@ -1582,54 +1582,54 @@ inline QvxStatus FIRLMSMRUpdateTaps(Qvx16s err, QvxsFIRLMSMRState32s_16s* pState
 inline QvxStatus FIRLMSMR(const Qvx16s* pSrc, const Qvx16s* pRef, Qvx16s* pDst, int numIters, QvxsFIRLMSMRState32s_16s* pState,
     int scaleFactor) { return qvxsFIRLMSMR32s_16s_Sfs(pSrc, pRef, pDst, numIters, pState, scaleFactor); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: *pSize = the bytes of a record, for a block of any alignment: 128 + 4 * (2 * P + 512) for ...
 inline QvxStatus FIRLMSMRGetStateSize(Types<Qvx32sc, Qvx16sc>, int tapsLen, int downFactor, int* pSize) { return
     qvxsFIRLMSMRGetStateSize32sc_16sc(tapsLen, downFactor, pSize); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: Builds a record in pBuffer and stores its address in *ppState. pTaps: h[0] first; null for ...
 inline QvxStatus FIRLMSMRInit(QvxsFIRLMSMRState32sc_16sc** ppState, const Qvx32sc* pTaps, int tapsLen, int downFactor, Qvx32f mu,
     const Qvx16sc* pDlyLine, Qvx8u* pBuffer) { return qvxsFIRLMSMRInit32sc_16sc(ppState, pTaps, tapsLen, downFactor, mu, pDlyLine,
     pBuffer); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: The same in a block of its own. Returns also qvxStatNoMem.
 inline QvxStatus FIRLMSMRInitAlloc(QvxsFIRLMSMRState32sc_16sc** ppState, const Qvx32sc* pTaps, int tapsLen, int downFactor, Qvx32f
     mu, const Qvx16sc* pDlyLine) { return qvxsFIRLMSMRInitAlloc32sc_16sc(ppState, pTaps, tapsLen, downFactor, mu, pDlyLine); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: Releases the block of a record from InitAlloc; does nothing to one from Init.
 inline QvxStatus FIRLMSMRFree(QvxsFIRLMSMRState32sc_16sc* pState) { return qvxsFIRLMSMRFree32sc_16sc(pState); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: Sets the step size; reads or replaces the taps, h[0] first.
 inline QvxStatus FIRLMSMRSetMu(QvxsFIRLMSMRState32sc_16sc* pState, Qvx32f mu) { return qvxsFIRLMSMRSetMu32sc_16sc(pState, mu); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: Sets the step size; reads or replaces the taps, h[0] first.
 inline QvxStatus FIRLMSMRGetTaps(const QvxsFIRLMSMRState32sc_16sc* pState, Qvx32sc* pTaps) { return
     qvxsFIRLMSMRGetTaps32sc_16sc(pState, pTaps); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: Sets the step size; reads or replaces the taps, h[0] first.
 inline QvxStatus FIRLMSMRSetTaps(const Qvx32sc* pTaps, QvxsFIRLMSMRState32sc_16sc* pState) { return
     qvxsFIRLMSMRSetTaps32sc_16sc(pTaps, pState); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: Reads or replaces the delay line, newest first; null sets zeros. GetDlyVal reads one sample of ...
 inline QvxStatus FIRLMSMRGetDlyLine(const QvxsFIRLMSMRState32sc_16sc* pState, Qvx16sc* pDlyLine) { return
     qvxsFIRLMSMRGetDlyLine32sc_16sc(pState, pDlyLine); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: Reads or replaces the delay line, newest first; null sets zeros. GetDlyVal reads one sample of ...
 inline QvxStatus FIRLMSMRSetDlyLine(QvxsFIRLMSMRState32sc_16sc* pState, const Qvx16sc* pDlyLine) { return
     qvxsFIRLMSMRSetDlyLine32sc_16sc(pState, pDlyLine); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: Reads or replaces the delay line, newest first; null sets zeros. GetDlyVal reads one sample of ...
 inline QvxStatus FIRLMSMRGetDlyVal(const QvxsFIRLMSMRState32sc_16sc* pState, Qvx16sc* pVal, int index) { return
     qvxsFIRLMSMRGetDlyVal32sc_16sc(pState, pVal, index); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: The three parts of a step: PutVal takes a sample, One gives the output of the last tapsLen, ...
 inline QvxStatus FIRLMSMRPutVal(Qvx16sc val, QvxsFIRLMSMRState32sc_16sc* pState) { return qvxsFIRLMSMRPutVal32sc_16sc(val,
     pState); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: The three parts of a step: PutVal takes a sample, One gives the output of the last tapsLen, ...
 inline QvxStatus FIRLMSMROne(Qvx16sc* pDstVal, QvxsFIRLMSMRState32sc_16sc* pState, int scaleFactor) { return
     qvxsFIRLMSMROne32sc_16sc_Sfs(pDstVal, pState, scaleFactor); }
 
-// qvxs_lms.h: numIters steps: take downFactor samples, give an output, adapt to reference - output.
+// qvxs_lms.h: The three parts of a step: PutVal takes a sample, One gives the output of the last tapsLen, ...
 inline QvxStatus FIRLMSMRUpdateTaps(Qvx16sc err, QvxsFIRLMSMRState32sc_16sc* pState) { return qvxsFIRLMSMRUpdateTaps32sc_16sc(err,
     pState); }
 
@@ -2242,80 +2242,80 @@ inline QvxStatus WTFwdGetDlyLine(const QvxsWTFwdState_32f* pState, Qvx32f* pDlyL
 // qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
 inline QvxStatus WTFwdFree(QvxsWTFwdState_32f* pState) { return qvxsWTFwdFree_32f(pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: A record of a forward stage in a block of its own. The taps are copied, h[0] first.
 inline QvxStatus WTFwdInitAlloc(QvxsWTFwdState_8u32f** ppState, const Qvx32f* pTapsLow, int lenLow, int offsLow, const Qvx32f*
     pTapsHigh, int lenHigh, int offsHigh) { return qvxsWTFwdInitAlloc_8u32f(ppState, pTapsLow, lenLow, offsLow, pTapsHigh,
     lenHigh, offsHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: pDstLow, pDstHigh = the two bands of the next 2 * dstLen samples.
 inline QvxStatus WTFwd(const Qvx8u* pSrc, Qvx32f* pDstLow, Qvx32f* pDstHigh, int dstLen, QvxsWTFwdState_8u32f* pState) { return
     qvxsWTFwd_8u32f(pSrc, pDstLow, pDstHigh, dstLen, pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps of the stream: its last L + o - 1 samples, oldest first ...
 inline QvxStatus WTFwdSetDlyLine(QvxsWTFwdState_8u32f* pState, const Qvx32f* pDlyLow, const Qvx32f* pDlyHigh) { return
     qvxsWTFwdSetDlyLine_8u32f(pState, pDlyLow, pDlyHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps of the stream: its last L + o - 1 samples, oldest first ...
 inline QvxStatus WTFwdGetDlyLine(const QvxsWTFwdState_8u32f* pState, Qvx32f* pDlyLow, Qvx32f* pDlyHigh) { return
     qvxsWTFwdGetDlyLine_8u32f(pState, pDlyLow, pDlyHigh); }
 
 // qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
 inline QvxStatus WTFwdFree(QvxsWTFwdState_8u32f* pState) { return qvxsWTFwdFree_8u32f(pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: A record of a forward stage in a block of its own. The taps are copied, h[0] first.
 inline QvxStatus WTFwdInitAlloc(QvxsWTFwdState_8s32f** ppState, const Qvx32f* pTapsLow, int lenLow, int offsLow, const Qvx32f*
     pTapsHigh, int lenHigh, int offsHigh) { return qvxsWTFwdInitAlloc_8s32f(ppState, pTapsLow, lenLow, offsLow, pTapsHigh,
     lenHigh, offsHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: pDstLow, pDstHigh = the two bands of the next 2 * dstLen samples.
 inline QvxStatus WTFwd(const Qvx8s* pSrc, Qvx32f* pDstLow, Qvx32f* pDstHigh, int dstLen, QvxsWTFwdState_8s32f* pState) { return
     qvxsWTFwd_8s32f(pSrc, pDstLow, pDstHigh, dstLen, pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps of the stream: its last L + o - 1 samples, oldest first ...
 inline QvxStatus WTFwdSetDlyLine(QvxsWTFwdState_8s32f* pState, const Qvx32f* pDlyLow, const Qvx32f* pDlyHigh) { return
     qvxsWTFwdSetDlyLine_8s32f(pState, pDlyLow, pDlyHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps of the stream: its last L + o - 1 samples, oldest first ...
 inline QvxStatus WTFwdGetDlyLine(const QvxsWTFwdState_8s32f* pState, Qvx32f* pDlyLow, Qvx32f* pDlyHigh) { return
     qvxsWTFwdGetDlyLine_8s32f(pState, pDlyLow, pDlyHigh); }
 
 // qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
 inline QvxStatus WTFwdFree(QvxsWTFwdState_8s32f* pState) { return qvxsWTFwdFree_8s32f(pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: A record of a forward stage in a block of its own. The taps are copied, h[0] first.
 inline QvxStatus WTFwdInitAlloc(QvxsWTFwdState_16u32f** ppState, const Qvx32f* pTapsLow, int lenLow, int offsLow, const Qvx32f*
     pTapsHigh, int lenHigh, int offsHigh) { return qvxsWTFwdInitAlloc_16u32f(ppState, pTapsLow, lenLow, offsLow, pTapsHigh,
     lenHigh, offsHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: pDstLow, pDstHigh = the two bands of the next 2 * dstLen samples.
 inline QvxStatus WTFwd(const Qvx16u* pSrc, Qvx32f* pDstLow, Qvx32f* pDstHigh, int dstLen, QvxsWTFwdState_16u32f* pState) { return
     qvxsWTFwd_16u32f(pSrc, pDstLow, pDstHigh, dstLen, pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps of the stream: its last L + o - 1 samples, oldest first ...
 inline QvxStatus WTFwdSetDlyLine(QvxsWTFwdState_16u32f* pState, const Qvx32f* pDlyLow, const Qvx32f* pDlyHigh) { return
     qvxsWTFwdSetDlyLine_16u32f(pState, pDlyLow, pDlyHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps of the stream: its last L + o - 1 samples, oldest first ...
 inline QvxStatus WTFwdGetDlyLine(const QvxsWTFwdState_16u32f* pState, Qvx32f* pDlyLow, Qvx32f* pDlyHigh) { return
     qvxsWTFwdGetDlyLine_16u32f(pState, pDlyLow, pDlyHigh); }
 
 // qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
 inline QvxStatus WTFwdFree(QvxsWTFwdState_16u32f* pState) { return qvxsWTFwdFree_16u32f(pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: A record of a forward stage in a block of its own. The taps are copied, h[0] first.
 inline QvxStatus WTFwdInitAlloc(QvxsWTFwdState_16s32f** ppState, const Qvx32f* pTapsLow, int lenLow, int offsLow, const Qvx32f*
     pTapsHigh, int lenHigh, int offsHigh) { return qvxsWTFwdInitAlloc_16s32f(ppState, pTapsLow, lenLow, offsLow, pTapsHigh,
     lenHigh, offsHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: pDstLow, pDstHigh = the two bands of the next 2 * dstLen samples.
 inline QvxStatus WTFwd(const Qvx16s* pSrc, Qvx32f* pDstLow, Qvx32f* pDstHigh, int dstLen, QvxsWTFwdState_16s32f* pState) { return
     qvxsWTFwd_16s32f(pSrc, pDstLow, pDstHigh, dstLen, pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps of the stream: its last L + o - 1 samples, oldest first ...
 inline QvxStatus WTFwdSetDlyLine(QvxsWTFwdState_16s32f* pState, const Qvx32f* pDlyLow, const Qvx32f* pDlyHigh) { return
     qvxsWTFwdSetDlyLine_16s32f(pState, pDlyLow, pDlyHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps of the stream: its last L + o - 1 samples, oldest first ...
 inline QvxStatus WTFwdGetDlyLine(const QvxsWTFwdState_16s32f* pState, Qvx32f* pDlyLow, Qvx32f* pDlyHigh) { return
     qvxsWTFwdGetDlyLine_16s32f(pState, pDlyLow, pDlyHigh); }
 
@@ -2342,80 +2342,80 @@ inline QvxStatus WTInvGetDlyLine(const QvxsWTInvState_32f* pState, Qvx32f* pDlyL
 // qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
 inline QvxStatus WTInvFree(QvxsWTInvState_32f* pState) { return qvxsWTInvFree_32f(pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: A record of an inverse stage, made as that of a forward stage, with the same refusals.
 inline QvxStatus WTInvInitAlloc(QvxsWTInvState_32f8u** ppState, const Qvx32f* pTapsLow, int lenLow, int offsLow, const Qvx32f*
     pTapsHigh, int lenHigh, int offsHigh) { return qvxsWTInvInitAlloc_32f8u(ppState, pTapsLow, lenLow, offsLow, pTapsHigh,
     lenHigh, offsHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: pDst = the next 2 * srcLen samples of the two bands joined.
 inline QvxStatus WTInv(const Qvx32f* pSrcLow, const Qvx32f* pSrcHigh, int srcLen, Qvx8u* pDst, QvxsWTInvState_32f8u* pState) {
     return qvxsWTInv_32f8u(pSrcLow, pSrcHigh, srcLen, pDst, pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps: its last (L + o - 1) / 2 values, rounded down, oldest ...
 inline QvxStatus WTInvSetDlyLine(QvxsWTInvState_32f8u* pState, const Qvx32f* pDlyLow, const Qvx32f* pDlyHigh) { return
     qvxsWTInvSetDlyLine_32f8u(pState, pDlyLow, pDlyHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps: its last (L + o - 1) / 2 values, rounded down, oldest ...
 inline QvxStatus WTInvGetDlyLine(const QvxsWTInvState_32f8u* pState, Qvx32f* pDlyLow, Qvx32f* pDlyHigh) { return
     qvxsWTInvGetDlyLine_32f8u(pState, pDlyLow, pDlyHigh); }
 
 // qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
 inline QvxStatus WTInvFree(QvxsWTInvState_32f8u* pState) { return qvxsWTInvFree_32f8u(pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: A record of an inverse stage, made as that of a forward stage, with the same refusals.
 inline QvxStatus WTInvInitAlloc(QvxsWTInvState_32f8s** ppState, const Qvx32f* pTapsLow, int lenLow, int offsLow, const Qvx32f*
     pTapsHigh, int lenHigh, int offsHigh) { return qvxsWTInvInitAlloc_32f8s(ppState, pTapsLow, lenLow, offsLow, pTapsHigh,
     lenHigh, offsHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: pDst = the next 2 * srcLen samples of the two bands joined.
 inline QvxStatus WTInv(const Qvx32f* pSrcLow, const Qvx32f* pSrcHigh, int srcLen, Qvx8s* pDst, QvxsWTInvState_32f8s* pState) {
     return qvxsWTInv_32f8s(pSrcLow, pSrcHigh, srcLen, pDst, pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps: its last (L + o - 1) / 2 values, rounded down, oldest ...
 inline QvxStatus WTInvSetDlyLine(QvxsWTInvState_32f8s* pState, const Qvx32f* pDlyLow, const Qvx32f* pDlyHigh) { return
     qvxsWTInvSetDlyLine_32f8s(pState, pDlyLow, pDlyHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps: its last (L + o - 1) / 2 values, rounded down, oldest ...
 inline QvxStatus WTInvGetDlyLine(const QvxsWTInvState_32f8s* pState, Qvx32f* pDlyLow, Qvx32f* pDlyHigh) { return
     qvxsWTInvGetDlyLine_32f8s(pState, pDlyLow, pDlyHigh); }
 
 // qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
 inline QvxStatus WTInvFree(QvxsWTInvState_32f8s* pState) { return qvxsWTInvFree_32f8s(pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: A record of an inverse stage, made as that of a forward stage, with the same refusals.
 inline QvxStatus WTInvInitAlloc(QvxsWTInvState_32f16u** ppState, const Qvx32f* pTapsLow, int lenLow, int offsLow, const Qvx32f*
     pTapsHigh, int lenHigh, int offsHigh) { return qvxsWTInvInitAlloc_32f16u(ppState, pTapsLow, lenLow, offsLow, pTapsHigh,
     lenHigh, offsHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: pDst = the next 2 * srcLen samples of the two bands joined.
 inline QvxStatus WTInv(const Qvx32f* pSrcLow, const Qvx32f* pSrcHigh, int srcLen, Qvx16u* pDst, QvxsWTInvState_32f16u* pState) {
     return qvxsWTInv_32f16u(pSrcLow, pSrcHigh, srcLen, pDst, pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps: its last (L + o - 1) / 2 values, rounded down, oldest ...
 inline QvxStatus WTInvSetDlyLine(QvxsWTInvState_32f16u* pState, const Qvx32f* pDlyLow, const Qvx32f* pDlyHigh) { return
     qvxsWTInvSetDlyLine_32f16u(pState, pDlyLow, pDlyHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps: its last (L + o - 1) / 2 values, rounded down, oldest ...
 inline QvxStatus WTInvGetDlyLine(const QvxsWTInvState_32f16u* pState, Qvx32f* pDlyLow, Qvx32f* pDlyHigh) { return
     qvxsWTInvGetDlyLine_32f16u(pState, pDlyLow, pDlyHigh); }
 
 // qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
 inline QvxStatus WTInvFree(QvxsWTInvState_32f16u* pState) { return qvxsWTInvFree_32f16u(pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: A record of an inverse stage, made as that of a forward stage, with the same refusals.
 inline QvxStatus WTInvInitAlloc(QvxsWTInvState_32f16s** ppState, const Qvx32f* pTapsLow, int lenLow, int offsLow, const Qvx32f*
     pTapsHigh, int lenHigh, int offsHigh) { return qvxsWTInvInitAlloc_32f16s(ppState, pTapsLow, lenLow, offsLow, pTapsHigh,
     lenHigh, offsHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: pDst = the next 2 * srcLen samples of the two bands joined.
 inline QvxStatus WTInv(const Qvx32f* pSrcLow, const Qvx32f* pSrcHigh, int srcLen, Qvx16s* pDst, QvxsWTInvState_32f16s* pState) {
     return qvxsWTInv_32f16s(pSrcLow, pSrcHigh, srcLen, pDst, pState); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps: its last (L + o - 1) / 2 values, rounded down, oldest ...
 inline QvxStatus WTInvSetDlyLine(QvxsWTInvState_32f16s* pState, const Qvx32f* pDlyLow, const Qvx32f* pDlyHigh) { return
     qvxsWTInvSetDlyLine_32f16s(pState, pDlyLow, pDlyHigh); }
 
-// qvxs_wavelet.h: Releases the record. Returns qvxStatOk; qvxStatNullPtr; qvxStatContextMismatch (no such record).
+// qvxs_wavelet.h: Replaces or reads what each band keeps: its last (L + o - 1) / 2 values, rounded down, oldest ...
 inline QvxStatus WTInvGetDlyLine(const QvxsWTInvState_32f16s* pState, Qvx32f* pDlyLow, Qvx32f* pDlyHigh) { return
     qvxsWTInvGetDlyLine_32f16s(pState, pDlyLow, pDlyHigh); }
 

@@ -1,4 +1,4 @@
-// What the extension knows of each export: rows that generate.py makes from the public headers and traits/.
+// What the extension knows of each export: rows that tools/python_table.py makes from the public headers and traits/.
 #pragma once
 
 #include <algorithm>

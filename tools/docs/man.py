@@ -11,7 +11,10 @@ import sys
 import textwrap
 from pathlib import Path
 
-import headers
+sys.path.insert(0, str(Path(__file__).parent.parent))
+
+from interface import headers  # noqa: E402
+from interface.traits import Traits  # noqa: E402
 
 WIDTH = 76
 
@@ -56,13 +59,13 @@ def title(name, section, version):
     return f'.TH "{name}" {section} "" "qvxs {version}" "Signal processing"'
 
 
-def page(stem, families, statuses, tables, version):
+def page(stem, families, statuses, traits, version):
     blocks = [block for family in families for block in family.documented if stem in block.stems]
     family = blocks[0].family
     out = [title(stem, 3, version), ".nh", ".ad l", ".SH NAME", rf"{stem} \- {roff(headers.summary(stem, blocks))}",
            ".SH LIBRARY", r"libqvxs, \-lqvxs", ".SH SYNOPSIS", ".nf", r"\fB#include <qvx/qvxs.h>\fP", ".sp"]
     for block in blocks:
-        out += [roff(wrapped(export.prototype())) for export in block.exports if export.stem == stem]
+        out += [roff(wrapped(export.prototype() + ";")) for export in block.exports if export.stem == stem]
     out += [".fi", ".SH DESCRIPTION"]
     shown = []
     for block in blocks:
@@ -87,7 +90,7 @@ def page(stem, families, statuses, tables, version):
         out.append(".SH CONVENTIONS")
         for note in notes:
             out += described(note)
-    names = set().union(*(headers.returned(block, tables, families) for block in shown))
+    names = set().union(*(headers.returned(block, traits, families) for block in shown))
     if any(export.result == "QvxStatus" for block in blocks for export in block.exports):
         out.append(".SH RETURN VALUE")
         for status in statuses:
@@ -126,14 +129,14 @@ def write(path, text):
     path.write_bytes(gzip.compress(text.encode(), 9, mtime=0))
 
 
-def main(include, traits, version, output):
-    families, statuses, tables = headers.read_families(include), headers.read_statuses(include), headers.read_traits(traits)
+def main(include, tables, version, output):
+    families, statuses, traits = headers.read_families(include), headers.read_statuses(include), Traits(tables)
     output = Path(output)
     for section in ("man3", "man7"):
         shutil.rmtree(output / section, ignore_errors=True)
     stems = dict.fromkeys(stem for family in families for stem in family.stems)
     for stem in stems:
-        write(output / f"man3/{stem}.3.gz", page(stem, families, statuses, tables, version))
+        write(output / f"man3/{stem}.3.gz", page(stem, families, statuses, traits, version))
     for family in families:
         for export in family.exports:
             if export.name not in stems:

@@ -11,6 +11,7 @@ import html
 import json
 import re
 import shutil
+import sys
 from pathlib import Path
 
 import jinja2
@@ -22,8 +23,12 @@ from pygments.lexers import CLexer, CppLexer
 
 import examples
 import formula
-import headers
 import pictures
+
+sys.path.insert(0, str(Path(__file__).parent.parent))
+
+from interface import headers  # noqa: E402
+from interface.traits import Traits  # noqa: E402
 
 HERE = Path(__file__).parent
 ROOT = HERE.parent.parent
@@ -40,7 +45,7 @@ class Site:
         self.stems = {stem for family in self.families for stem in family.stems}  # those of the FFT are in two families
         self.statuses = headers.read_statuses(ROOT / "include/qvx")
         self.core = headers.read_core(ROOT / "include/qvx")
-        self.tables = headers.read_traits(ROOT / "traits")
+        self.traits = Traits(ROOT / "traits")
         self.docs = {path.stem: path for path in sorted((ROOT / "docs").glob("*.md"))}
         self.pictures = pictures.draw()
         for family in self.families:
@@ -124,7 +129,7 @@ class Site:
 
     def returned(self, block):
         """The statuses of a block's functions that its text leaves to another block's."""
-        found = headers.returned(block, self.tables, self.families)
+        found = headers.returned(block, self.traits, self.families)
         return [status for status in self.statuses if status.name in found and not re.search(rf"\b{status.name}\b", block.text)]
 
     def prototype(self, export):
@@ -163,7 +168,7 @@ class Site:
         returns = {status.name: {} for status in self.statuses}
         for family in self.families:
             for block in family.documented:
-                for name in headers.returned(block, self.tables, self.families) & set(returns):
+                for name in headers.returned(block, self.traits, self.families) & set(returns):
                     returns[name].setdefault(family.name, {}).update(dict.fromkeys(block.stems))
         rows = []
         for status in self.statuses:

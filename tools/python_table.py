@@ -1,17 +1,16 @@
-"""Writes table.cpp: a row for each export, from the public headers and the tables of traits/.
+"""Writes table.cpp of the Python package: a row for each export, from the public headers and the tables of traits/.
 
-usage: generate.py INCLUDE TRAITS OUTPUT
+usage: python_table.py INCLUDE TRAITS OUTPUT
 """
 
 import ast
-import collections
 import fnmatch
-import pathlib
 import re
 import sys
+from pathlib import Path
 
-Parameter = collections.namedtuple("Parameter", "type name")
-Export = collections.namedtuple("Export", "result name parameters declaration")
+from interface import headers
+from interface.traits import Traits, expression
 
 # Conditions that no extent expresses, by name of the export: on the arguments, and the message where they do not hold.
 GUARDS = {
@@ -34,119 +33,38 @@ CONTENT_NAMES = {"phase": 0, "totalBits": 0}
 
 
 def die(what):
-    sys.exit("generate.py: " + what)
-
-
-# ---- headers
-
-
-def read_headers(folder):
-    text = "".join((folder / name).read_text() for name in re.findall(r"#include <(qvx/\w+\.h)>", (folder / "qvx/qvxs.h").read_text()))
-    exports = []
-    for result, name, arguments in re.findall(r"QVXS_API\(([^,]+),\s*(\w+),\s*\(([^)]*)\)\)", text):
-        parameters = []
-        for one in " ".join(arguments.split()).split(","):
-            if one.strip() == "void":
-                continue
-            kind, name_of = re.fullmatch(r"\s*(.*?)\s*(\w+)", one).groups()
-            parameters.append(Parameter(re.sub(r"\s+(?=\*)", "", kind), name_of))
-        listed = ", ".join(f"{p.type} {p.name}" for p in parameters)
-        exports.append(Export(result, name, parameters, f"{result} {name}({listed})"))
-    # The first line of qvxdefs.h is the definition.
-    if len(exports) != len(re.findall(r"^(?:QVXS_SLOTLESS\()?QVXS_API\(", text, re.M)):
-        die("a line of the headers that is no declaration")
-    aliases = dict((b, a) for a, b in re.findall(r"^typedef (Qvxs\w+) (\w+);", text, re.M))
-    statuses = re.findall(r"^\s*(qvx(?:Stat|Warn)\w+) = (-?\d+),?\s*(?:/\* (.*?) \*/)?$", (folder / "qvx/qvxdefs.h").read_text(), re.M)
-    return exports, aliases, statuses
-
-
-# ---- traits
-
-
-class Row:
-    def __init__(self, names):
-        self.names = names
-        self.words = collections.defaultdict(list)
-
-    def values(self, key):
-        return dict(word.split("=", 1) for word in self.words[key])
-
-
-def read_traits(folder):
-    rows = []
-    for file in sorted(folder.glob("*.traits")):
-        for line in file.read_text().splitlines():
-            if not line or line.startswith("#"):
-                continue
-            if line[0] != " ":
-                rows.append(Row(line.split()))
-            else:
-                key, *words = line.split()
-                rows[-1].words[key] += words or [""]
-    common = next(row for row in rows if row.names == ["*"])
-    rows.remove(common)
-    return rows, common
-
-
-# ---- parameters
-
-
-def pointee(kind):
-    return re.sub(r"^const ", "", kind).split("*")[0].strip()
-
-
-def is_record(kind):
-    return "State" in kind or "Spec" in kind
+    sys.exit("python_table.py: " + what)
 
 
 def element_of(kind):
-    kind = pointee(kind)
     return "k32s" if kind in ("int", "QvxRoundMode") else "k" + kind.removeprefix("Qvx")
 
 
 def is_maker(export):
-    return "Init" in export.name and bool(export.parameters) and is_record(export.parameters[0].type) and export.result == "QvxStatus"
+    return "Init" in export.name and bool(export.parameters) and export.parameters[0].is_record and export.result == "QvxStatus"
 
 
 class Table:
-    def __init__(self, exports, aliases, rows, common):
-        self.exports = exports
-        self.by_name = {export.name: export for export in exports}
-        self.aliases = aliases
-        self.rows = rows
-        self.common = common
+    def __init__(self, families, traits):
+        self.exports = [export for family in families for export in family.exports]
+        self.by_name = {export.name: export for export in self.exports}
+        self.structures = {name: structure for family in families for name, structure in family.types.items()}
+        self.traits = traits
         self.types = []  # of records
         self.record_names = []  # what records bring to extents
         self.extents = {}  # functions by their text
         self.sizes = []
 
-    def row_of(self, export):
-        for row in self.rows:
-            if any(fnmatch.fnmatchcase(export.name[4:], pattern) for pattern in row.names):
-                return row
-        die(f"no row for {export.name}")
-
-    def canonical(self, kind):
-        kind = pointee(kind)
-        return self.aliases.get(kind, kind)
-
-    def type_number(self, kind):
-        kind = self.canonical(kind)
+    def type_number(self, parameter):
+        kind = self.structures[parameter.pointee]
         if kind not in self.types:
             self.types.append(kind)
         return self.types.index(kind)
 
-    def extent_text(self, row, name):
-        for wanted in (name, "*"):
-            for one in (row, self.common):
-                if wanted in one.values("extent"):
-                    return one.values("extent")[wanted]
-        die(f"no extent of {name}")
-
     # An expression of traits/ as one of C++.
     def translate(self, text, export, row):
         places = {p.name: i for i, p in enumerate(export.parameters)}
-        takes_record = any(is_record(p.type) for p in export.parameters) and not is_maker(export)
+        takes_record = any(p.is_record for p in export.parameters) and not is_maker(export)
         fills = row.values("fill")
 
         def name_of(name):
@@ -185,10 +103,10 @@ class Table:
                 return result
             die("what is " + text + "?")
 
-        return emit(ast.parse(text.replace("^", "**").replace("/", "//"), mode="eval").body)
+        return emit(expression(text))
 
-    def extent_function(self, expression):
-        return self.extents.setdefault(expression, f"extent{len(self.extents)}")
+    def extent_function(self, text):
+        return self.extents.setdefault(text, f"extent{len(self.extents)}")
 
     # A call of the function that reports the size of a maker's block.
     def block_size(self, export, wanted):
@@ -199,7 +117,7 @@ class Table:
         else:
             die(f"no size of {export.name}")
         places = {p.name: i for i, p in enumerate(export.parameters)}
-        fills = self.row_of(export).values("fill")
+        fills = self.traits.of(export.name).values("fill")
         arguments, sum_of = [], []
         for p in teller.parameters:
             if p.type == "int*":
@@ -230,19 +148,19 @@ class Table:
         optional = p.name in row.words["optional"] or f"{p.name}=null:Ok" in refused
         element, kind, extent, number = "k8u", "kVector", None, -1
         if "**" in p.type:
-            kind, number = "kHandle", self.type_number(p.type)
+            kind, number = "kHandle", self.type_number(p)
         elif maker and p.name in work and p.name != "pInit":
             kind = "kBlock"
         elif p.type.count("*") == 2:
-            kind = "kRecords" if is_record(p.type) else "kVectors"
+            kind = "kRecords" if p.is_record else "kVectors"
         elif "*" not in p.type:
             kind = "kNumber"
-        elif is_record(p.type):
+        elif p.is_record:
             kind = "kRecord"
-        if kind in ("kRecord", "kRecords") or (kind == "kBlock" and is_record(p.type)):
-            number = self.type_number(p.type)
+        if kind in ("kRecord", "kRecords") or (kind == "kBlock" and p.is_record):
+            number = self.type_number(p)
         if kind in ("kVector", "kVectors", "kNumber"):
-            element = element_of(p.type) if p.type != "void*" else "k8u"
+            element = element_of(p.pointee) if p.type != "void*" else "k8u"
         content = "kNone"
         if kind in ("kVector", "kVectors") and export.result == "QvxStatus":
             content = CONTENTS.get(fills.get(p.name), "kNone")
@@ -253,7 +171,7 @@ class Table:
                     self.record_names.append("work")
                 extent = self.extent_function(f"Extent(r[{self.record_names.index('work')}])")
             else:
-                extent = self.extent_function(self.translate(self.extent_text(row, p.name), export, row))
+                extent = self.extent_function(self.translate(self.traits.extent(row, p.name), export, row))
         is_const = re.search(r"const ?\*$", p.type) is not None and p.type.count("*") == 2
         is_const = p.type.startswith("const ") if kind != "kNumber" else is_const
         boolean = {False: "false", True: "true"}
@@ -264,7 +182,7 @@ class Table:
         body, rows = [], []
         remembers = []
         for number, export in enumerate(self.exports):
-            row = self.row_of(export)
+            row = self.traits.of(export.name)
             parameters = [self.parameter(export, row, i) for i in range(len(export.parameters))]
             if parameters:
                 body.append(f"const Parameter parameters{number}[] = {{{', '.join(parameters)}}};")
@@ -298,13 +216,13 @@ class Table:
                 remembers.append((remember, export, row))
                 body.append(f"void {remember}(const int64_t* n, int64_t* r);")
             result = {"QvxStatus": "kStatus", "void": "kNothing", "const QvxLibraryVersion*": "kVersion"}.get(export.result, "kVector")
-            element = element_of(export.result) if result == "kVector" else "k8u"
+            element = element_of(re.sub(r"^const |\*", "", export.result)) if result == "kVector" else "k8u"
             erased = [re.sub(r".*\*$", "void*", p.type) for p in export.parameters]
             call = f"call<{', '.join(['QvxStatus', *erased])}>" if result == "kStatus" else "nullptr"
             is_free = result == "kStatus" and "Free" in export.name
             one_of = lambda patterns: any(fnmatch.fnmatchcase(export.name[4:], p) for p in patterns)
-            flags = [is_free, one_of(APART), one_of(UNLIKE), "allocates" in row.words or is_maker(export)]
-            rows.append(f'{{"{export.name}", "{export.declaration}", reinterpret_cast<Function>(&{export.name}), {call}, Result::{result}, '
+            flags = [is_free, one_of(APART), one_of(UNLIKE), row.has("allocates") or is_maker(export)]
+            rows.append(f'{{"{export.name}", "{export.prototype()}", reinterpret_cast<Function>(&{export.name}), {call}, Result::{result}, '
                         f"Element::{element}, {f'parameters{number}' if parameters else 'nullptr'}, {len(parameters)}, "
                         f"{f'refusals{number}' if refusals else 'nullptr'}, {len(refusals)}, {guard}, {size}, {remember}, {strangers}, "
                         f"{', '.join(str(flag).lower() for flag in flags)}}}")
@@ -316,14 +234,14 @@ class Table:
                     continue
                 p = export.parameters[places[0]]
                 if wanted.startswith("made.") and "*" in p.type:
-                    expression = self.translate(self.extent_text(row, p.name), export, row)
+                    expression = self.translate(self.traits.extent(row, p.name), export, row)
                     lines.append(f"  r[{i}] = {expression}.value();\n")
                 elif "*" not in p.type:
                     lines.append(f"  r[{i}] = n[{places[0]}];\n")
             body.append(f"void {name}([[maybe_unused]] const int64_t* n, [[maybe_unused]] int64_t* r) {{\n{''.join(lines)}}}")
         types = []
         for kind in self.types:
-            alike = [e for e in self.exports if any(self.canonical(p.type) == kind for p in e.parameters)]
+            alike = [e for e in self.exports if any(self.structures.get(p.pointee) == kind for p in e.parameters)]
             release = [e for e in alike if "Free" in e.name]
             teller = [e for e in alike if "GetBufSize" in e.name]
             size = "nullptr"
@@ -333,13 +251,13 @@ class Table:
             types.append(f'{{"{kind}", {f"reinterpret_cast<Function>(&{release[0].name})" if release else "nullptr"}, {size}}}')
         if len(self.record_names) > 24 or max(len(e.parameters) for e in self.exports) > 16:
             die("too many names or parameters for table.h and record.h")
-        texts = ",\n  ".join(f'{{{value}, "{name}", "{text or "done"}"}}' for name, value, text in statuses)
+        texts = ",\n  ".join(f'{{{status.value}, "{status.name}", "{status.meaning}"}}' for status in statuses)
         work = self.record_names.index("work")
         extents = "".join(f"Extent {name}([[maybe_unused]] const int64_t* n, [[maybe_unused]] const int64_t* r) {{ return {text}; }}\n"
                           for text, name in self.extents.items())
         newline = ",\n  "
         output.write_text(
-            "// Made by generate.py from the public headers and traits/.\n#include <qvx/qvxs.h>\n\n#include \"table.h\"\n\n"
+            "// Made by python_table.py from the public headers and traits/.\n#include <qvx/qvxs.h>\n\n#include \"table.h\"\n\n"
             "namespace raw {\n\nnamespace {\n\n" + "\n".join(self.sizes) + "\n" + extents + "\n" + "\n".join(body) + "\n\n}  // namespace\n\n"
             f"const Export kExports[] = {{\n  {newline.join(rows)}}};\nconst int kExportCount = {len(rows)};\n"
             f"const RecordType kRecordTypes[] = {{\n  {newline.join(types)}}};\n"
@@ -348,9 +266,9 @@ class Table:
 
 
 def main():
-    include, traits, output = map(pathlib.Path, sys.argv[1:])
-    exports, aliases, statuses = read_headers(include)
-    Table(exports, aliases, *read_traits(traits)).write(output, statuses)
+    include, traits, output = map(Path, sys.argv[1:])
+    include /= "qvx"
+    Table(headers.read_families(include), Traits(traits)).write(output, headers.read_statuses(include))
 
 
 if __name__ == "__main__":

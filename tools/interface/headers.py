@@ -1,4 +1,5 @@
-"""The public headers as data: families, blocks and exports, which the site and the manual pages are made of.
+"""The public headers as data: families, blocks and exports, of which the C++ face, the Python package, the site and the manual pages
+are made.
 
 A header is one family. Its first comment is the title, each `/** ... */` a block, which documents the QVXS_API lines up to the next
 comment. A plain comment that stands directly before such lines is a block too ("The same for complex samples"); any other one is a
@@ -14,14 +15,45 @@ TOKEN = re.compile(
     r"/\*(?P<comment>.*?)\*/"
     r"|#define\s+(?P<constant>QVX_(?!QVXS_)\w+)\s+(?P<value>\d+)[ \t]*/\*(?P<meaning>.*?)\*/"
     r"|QVXS_API\((?P<result>[^,]+),\s*(?P<name>\w+),\s*\((?P<arguments>[^()]*)\)\)"
-    r"|typedef\s+struct\s+(?P<record>\w+)\s+\w+;", re.S)
+    r"|typedef\s+(?:struct\s+)?(?P<record>\w+)\s+(?P<type>\w+);", re.S)
+
+
+@dataclass
+class Parameter:
+    type: str  # const Qvx16s*
+    name: str
+
+    @property
+    def pointee(self):
+        return re.sub(r"\bconst\b|\*", "", self.type).strip()
+
+    @property
+    def is_const(self):
+        return self.type.startswith("const")
+
+    @property
+    def depth(self):
+        return self.type.count("*")
+
+    @property
+    def is_record(self):
+        return self.depth > 0 and self.pointee.startswith("Qvxs")
 
 
 @dataclass
 class Export:
     name: str
     result: str
-    arguments: list
+    parameters: list
+    block: "Block"
+
+    @property
+    def arguments(self):
+        return [f"{parameter.type} {parameter.name}" for parameter in self.parameters]
+
+    @property
+    def header(self):
+        return f"qvxs_{self.block.family.name}.h"
 
     @property
     def stem(self):
@@ -29,7 +61,7 @@ class Export:
         return re.match(rf"\w+?(?={ELEMENT}|_|$)", self.name)[0]
 
     def prototype(self):
-        return f"{self.result} {self.name}({', '.join(self.arguments)});"
+        return f"{self.result} {self.name}({', '.join(self.arguments)})"
 
 
 @dataclass
@@ -59,7 +91,7 @@ class Family:
     name: str  # arith
     title: str
     blocks: list = field(default_factory=list)  # in order, notes among them: a note has no exports
-    records: list = field(default_factory=list)
+    types: dict = field(default_factory=dict)  # of records: their structures by name; one structure may have two
 
     @property
     def documented(self):
@@ -124,15 +156,14 @@ def parts(text):
     return result
 
 
-def arguments_of(text):
-    text = re.sub(r"\s+", " ", text.strip())
-    text = re.sub(r"\s*\*\s*", "*", text)
-    text = re.sub(r"\*(?=\w)", "* ", text)
-    return [] if text == "void" else text.split(", ")
+def parameters_of(text):
+    text = re.sub(r"\s*\*", "*", re.sub(r"\s+", " ", text.strip()))
+    return [] if text == "void" else [Parameter(*re.match(r"(.*?) ?(\w+)$", one).groups()) for one in text.split(", ")]
 
 
 def read_family(path):
-    tokens = list(TOKEN.finditer(path.read_text()))
+    text = path.read_text()
+    tokens = list(TOKEN.finditer(text))
     words = clean(tokens[0]["comment"])
     title, _, rest = words.partition(". ")
     family = Family(path.stem.removeprefix("qvxs_"), re.sub(r"\s+", " ", title).rstrip("."))
@@ -155,10 +186,12 @@ def read_family(path):
         elif token["constant"]:
             block.constants.append((token["constant"], int(token["value"]), token["meaning"].strip()))
         elif token["record"]:
-            family.records.append(token["record"])
+            family.types[token["type"]] = token["record"]
         else:
             result = re.sub(r"\s+", " ", token["result"].strip())
-            block.exports.append(Export(token["name"], result, arguments_of(token["arguments"])))
+            block.exports.append(Export(token["name"], result, parameters_of(token["arguments"]), block))
+    if len(family.exports) != len(re.findall(r"^(?:QVXS_SLOTLESS\()?QVXS_API\(", text, re.M)):
+        raise SystemExit(f"{path}: a line that is no declaration")
     return family
 
 
@@ -186,53 +219,10 @@ def summary(stem, blocks):
     return textwrap.shorten(sentence, 110, placeholder=" ...") or stem
 
 
-# What refuses a call, from traits: only they list it for each function by name.
-
-def read_traits(folder):
-    """A table for each file: its rows, each the patterns of names that it is for and its indented lines, in words."""
-    tables = []
-    for path in sorted(Path(folder).glob("*.traits")):
-        if path.stem == "parameters":
-            continue
-        rows = []
-        for line in path.read_text().split("\n"):
-            if not line.strip() or line.startswith("#"):
-                continue
-            if not line.startswith(" "):
-                rows.append((line.split(), []))
-            else:
-                rows[-1][1].append(line.split())
-        tables.append(rows)
-    return tables
-
-
-def refusals(tables, name):
-    short = name.removeprefix("qvxs")
-    for rows in tables:
-        for patterns, lines in rows:
-            if any(re.fullmatch(re.escape(p).replace(r"\*", ".*"), short) for p in patterns):
-                found = []
-                for line in lines:
-                    if line[0] == "allocates":
-                        found.append("qvxStatNoMem")
-                    if line[0] != "refuses":
-                        continue
-                    for rule in line[1:]:
-                        if rule.startswith("null"):
-                            found.append("qvxStatNullPtr")
-                        elif rule.startswith("foreign"):
-                            found.append("qvxStatContextMismatch")
-                        status = re.search(r":([A-Z]\w+)$", rule)
-                        if status and status[1] != "Ok":
-                            found.append("qvxStat" + status[1])
-                return found
-    return []
-
-
-def returned(block, tables, families):
+def returned(block, traits, families):
     """The names of the statuses that the functions of a block return beside qvxStatOk: refusals by traits, the others by the text, or by
     that of the block whose returns it says it has."""
-    found = {name for export in block.exports for name in refusals(tables, export.name)}
+    found = {name for export in block.exports for name in traits.of(export.name).statuses()}
     found |= set(re.findall(r"\bqvx(?:Stat|Warn)\w+", block.text)) - {"qvxStatOk"}
     for stem in re.findall(r"(?:[Rr]eturns|[Oo]therwise) as (qvxs[A-Z]\w*)", block.text):
         for other in (b for family in families for b in family.documented if stem in b.stems and b is not block):
