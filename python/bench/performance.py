@@ -65,7 +65,7 @@ def recorded(x, real):
     tag = qvxs.forms.TAGS[x.dtype]
     n = x.shape[-1]
     kind, call = ("R_" + tag, "RToCCS_" + tag) if real else ("C_" + tag, "CToC_" + tag)
-    record, size = qvxs.fft._record("DFT", kind, n, 2)
+    record, size = qvxs.transforms.record_for("DFT", kind, n, 2)
     target = np.empty(x.shape[:-1] + (2 * (n // 2 + 1) if real else n,), x.dtype)
     export, work = getattr(qvxs.raw, "qvxsDFTFwd_" + call), np.empty(size, np.uint8) if size else None
     if x.ndim == 1:

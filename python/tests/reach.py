@@ -26,7 +26,8 @@ class Noted(types.ModuleType):
 
 
 sys.modules["qvxs.raw"] = Noted("qvxs.raw")
-for name in ("vectors", "stems", "fft", "spectra", "streams", "convolution", "design", "filters", "multirate", "periodograms"):
+for name in ("elementwise", "reductions", "sorting", "generators", "stems", "shapes", "fft", "cosine", "spectra", "streams", "convolution",
+             "design", "filters", "multirate", "periodograms"):
     doctest.testmod(importlib.import_module("qvxs." + name), optionflags=doctest.NORMALIZE_WHITESPACE, report=False)
 
 # What the examples leave out.
