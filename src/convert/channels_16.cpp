@@ -4,7 +4,7 @@
 // quarter of the time of tiles. Any other number goes through transposed tiles: 8 frames by 8 channels, by 4 up to four channels.
 #include <array>
 
-#include "convert/interleave.h"
+#include "convert/few_frames.h"
 #include "frame/rounding.h"
 
 using namespace qvx;
@@ -116,23 +116,31 @@ template <class F> void byWidth16(size_t channels, F f) {
   else f(std::integral_constant<size_t, 8>());
 }
 
+// Three channels or more. Apart from fewer, whose short calls would save registers that only tiles need.
+template <class Sample>
+[[gnu::noinline]] void joinTiles16(Sample sample, const Qvx32f* const* src, size_t channels, size_t n, Qvx16s* dst) {
+  const RoundingScope scope(Sample::kNeeds);
+  if (n < kFewFrames) {
+    return joinFewFrames<2>(src, channels, n, dst, [sample](auto v) { return hn::DemoteTo(Lanes<int16_t, 4>(), sample(v)); });
+  }
+  byWidth16(channels, [=](auto width) {
+    constexpr size_t G = decltype(width)::value;
+    forEachTile<8, G, 2 * G, true>(
+        channels, n, 2, [=](const Tile& t, auto rows) { Tile16<G>::template join<decltype(rows)::value>(sample, src, t, dst); });
+  });
+}
+
 template <class Sample> void join16(Sample sample, const Qvx32f* const* src, size_t channels, size_t n, Qvx16s* dst) {
+  if (channels > 2) return joinTiles16(sample, src, channels, n, dst);
   const RoundingScope scope(Sample::kNeeds);
   if (channels == 1) {
     loop([sample](auto pair) { return narrowInOrder<int16_t>(each(pair, sample)); }, destination(dst), n, InPairs{src[0]});
-  } else if (channels == 2) {
+  } else {
     const auto both = [sample](auto left, auto right) {
       const auto low = sample(left);
       return (low & same<std::remove_const_t<decltype(low)>>(0xFFFF)) | hn::ShiftLeft<16>(sample(right));
     };
     loop(both, destination(reinterpret_cast<Qvx32s*>(dst)), n, source(src[0]), source(src[1]));
-  } else {
-    byWidth16(channels, [=](auto width) {
-      constexpr size_t G = decltype(width)::value;
-      forEachTile<8, G, 2 * G, true>(channels, n, 2, [=](const Tile& t, auto rows) {
-        Tile16<G>::template join<decltype(rows)::value>(sample, src, t, dst);
-      });
-    });
   }
 }
 
@@ -174,6 +182,14 @@ template <size_t K> struct Frames {
   }
 };
 
+[[gnu::noinline]] void splitTiles16(const Qvx16s* src, size_t channels, size_t n, Qvx32f* const* dst) {
+  if (n < kFewFrames) {
+    return splitFewFrames<2>(src, channels, n, dst, [](auto row) { return FullScaleOf16()(hn::LowerHalf(as<int16_t>(row))); });
+  }
+  forEachTile<8, 8, 16, false>(channels, n, 2,
+                               [=](const Tile& t, auto rows) { Tile16<8>::template split<decltype(rows)::value>(src, t, dst); });
+}
+
 void split16(const Qvx16s* src, size_t channels, size_t n, Qvx32f* const* dst) {
   if (channels == 1) {
     loop(FullScaleOf16(), destination(dst[0]), n, source(src));
@@ -190,11 +206,7 @@ void split16(const Qvx16s* src, size_t channels, size_t n, Qvx32f* const* dst) {
     const auto fullScaled = [to = FullScaleOf16()](auto v) { return std::array{to(v[0]), to(v[1]), to(v[2]), to(v[3])}; };
     loop(fullScaled, Channels<4>{dst}, n, Frames<4>{src});
   } else {
-    byWidth16(channels, [=](auto width) {
-      constexpr size_t G = decltype(width)::value;
-      forEachTile<8, G, 2 * G, false>(
-          channels, n, 2, [=](const Tile& t, auto rows) { Tile16<G>::template split<decltype(rows)::value>(src, t, dst); });
-    });
+    splitTiles16(src, channels, n, dst);
   }
 }
 

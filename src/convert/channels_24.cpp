@@ -2,7 +2,7 @@
 //
 // One channel is a conversion. Two are interleaved in registers. Any other number goes through transposed tiles of 4 frames by 4
 // channels.
-#include "convert/interleave.h"
+#include "convert/few_frames.h"
 #include "frame/packed24.h"
 #include "frame/rounding.h"
 
@@ -146,35 +146,45 @@ template <Rows kRows> void split24Tile(const Qvx8u* src, const Tile& t, Qvx32f* 
   }
 }
 
+// Three channels or more.
+[[gnu::noinline]] void joinTiles24(const Qvx32f* const* src, size_t channels, size_t n, Qvx8u* dst) {
+  const RoundingScope scope(Scaled24::kNeeds);
+  if (n < kFewFrames) {
+    return joinFewFrames<3>(src, channels, n, dst, [](auto v) { return packed24(Scaled24()(v)); });
+  }
+  forEachTile<4, 4, 16, true>(channels, n, 3, [=](const Tile& t, auto rows) { join24Tile<decltype(rows)::value>(src, t, dst); });
+}
+[[gnu::noinline]] void splitTiles24(const Qvx8u* src, size_t channels, size_t n, Qvx32f* const* dst) {
+  if (n < kFewFrames) {
+    return splitFewFrames<3>(src, channels, n, dst, [](auto row) { return FullScaleOf24()(unpacked24(row)); });
+  }
+  forEachTile<4, 4, 16, false>(channels, n, 3,
+                               [=](const Tile& t, auto rows) { split24Tile<decltype(rows)::value>(src, t, dst); });
+}
+
 }  // namespace
 
 QvxStatus qvxsJoinScaled_32f24s_D2L(const Qvx32f* const* src, int channels, int frames, Qvx8u* dst) {
   const QvxStatus status = checkChannels(dst, channels, frames, src);
   if (status != qvxStatOk) return status;
+  if (channels > 2) {
+    joinTiles24(src, elements(channels), elements(frames), dst);
+    return qvxStatOk;
+  }
   const RoundingScope scope(Scaled24::kNeeds);
-  if (channels == 1) {
-    return loop([](auto quad) { return each(quad, Scaled24()); }, To24<Qvx32s>{dst}, elements(frames), Quads{src[0]});
-  }
-  if (channels == 2) {
-    return loop([](auto quad) { return each(quad, Scaled24()); }, PackedTo{{dst}}, elements(frames),
-                TwoChannels<const Qvx32f>{src});
-  }
-  forEachTile<4, 4, 16, true>(elements(channels), elements(frames), 3,
-                              [=](const Tile& t, auto rows) { join24Tile<decltype(rows)::value>(src, t, dst); });
-  return qvxStatOk;
+  const auto kernel = [](auto quad) { return each(quad, Scaled24()); };
+  if (channels == 1) return loop(kernel, To24<Qvx32s>{dst}, elements(frames), Quads{src[0]});
+  return loop(kernel, PackedTo{{dst}}, elements(frames), TwoChannels<const Qvx32f>{src});
 }
 
 QvxStatus qvxsSplitScaled_24s32f_D2L(const Qvx8u* src, Qvx32f* const* dst, int channels, int frames) {
   const QvxStatus status = checkChannels(src, channels, frames, dst);
   if (status != qvxStatOk) return status;
-  if (channels == 1) {
-    return loop([](auto quad) { return each(quad, FullScaleOf24()); }, Quads{dst[0]}, elements(frames), From24<Qvx32s>{src});
+  if (channels > 2) {
+    splitTiles24(src, elements(channels), elements(frames), dst);
+    return qvxStatOk;
   }
-  if (channels == 2) {
-    return loop([](auto quad) { return each(quad, FullScaleOf24()); }, TwoChannels<Qvx32f>{dst}, elements(frames),
-                PackedFrom{{src}});
-  }
-  forEachTile<4, 4, 16, false>(elements(channels), elements(frames), 3,
-                               [=](const Tile& t, auto rows) { split24Tile<decltype(rows)::value>(src, t, dst); });
-  return qvxStatOk;
+  const auto kernel = [](auto quad) { return each(quad, FullScaleOf24()); };
+  if (channels == 1) return loop(kernel, Quads{dst[0]}, elements(frames), From24<Qvx32s>{src});
+  return loop(kernel, TwoChannels<Qvx32f>{dst}, elements(frames), PackedFrom{{src}});
 }
