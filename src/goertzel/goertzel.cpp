@@ -45,8 +45,6 @@ template <class T> Complex<V> loadWide(const T* p, size_t n) {
   }
 }
 
-SinCos<V> rotation(double turns) { return sinCosOfTurns(same<V>(turns)); }
-
 // a z + x
 template <class T> Complex<V> advanced(Complex<V> a, SinCos<V> z, Complex<V> x) {
   const V re = hn::MulAdd(a.re, z.cosine, hn::NegMulAdd(a.im, z.sine, x.re));
@@ -54,18 +52,36 @@ template <class T> Complex<V> advanced(Complex<V> a, SinCos<V> z, Complex<V> x) 
   else return {re, hn::MulAdd(a.re, z.sine, a.im * z.cosine)};
 }
 
-template <size_t kCount, class T> [[gnu::noinline]] void transform(const T* src, size_t n, Component (&components)[kCount]) {
-  SinCos<V> step[kCount];
+// z^N and z^S.
+struct Steps {
+  SinCos<V> chain;
+  SinCos<V> all;
+
+  static Steps of(double frequency) {
+    const Lanes<double, 2> d;
+    alignas(16) static constexpr double kPlaces[] = {N, S};
+    const auto z = sinCosOfTurns(load(d, kPlaces) * hn::Set(d, frequency));
+    const auto lane = [&](size_t i) {
+      return SinCos<V>{same<V>(hn::ExtractLane(z.sine, i)), same<V>(hn::ExtractLane(z.cosine, i))};
+    };
+    return {lane(0), lane(1)};
+  }
+};
+
+// Flattened: as calls, the sines and the separation of parts return through memory. 16 samples take 29 ns in SSSE3, not 44.
+template <size_t kCount, class T>
+[[gnu::noinline, gnu::flatten]] void transform(const T* src, size_t n, Component (&components)[kCount]) {
+  Steps steps[kCount];
   Complex<V> sums[kCount][kChains];
   unrolled<kCount>([&](auto k) {
-    step[k] = rotation(components[k].frequency * static_cast<double>(S));
+    steps[k] = Steps::of(components[k].frequency);
     unrolled<kChains>([&](auto c) { sums[k][c] = {hn::Zero(Lanes<double, N>()), hn::Zero(Lanes<double, N>())}; });
   });
   size_t at = 0;
   const auto advance = [&](auto get) {
     unrolled<kChains>([&](auto c) {
       const Complex<V> x = get(c * N);
-      unrolled<kCount>([&](auto k) { sums[k][c] = advanced<T>(sums[k][c], step[k], x); });
+      unrolled<kCount>([&](auto k) { sums[k][c] = advanced<T>(sums[k][c], steps[k].all, x); });
     });
   };
   for (; at + S <= n; at += S) advance([&](size_t lane) { return loadWide(src + at + lane, N); });
@@ -75,18 +91,18 @@ template <size_t kCount, class T> [[gnu::noinline]] void transform(const T* src,
     r = n - at;
     advance([&](size_t lane) { return loadWide(src + at + std::min(lane, r), lane < r ? r - lane : 0); });
   }
+  // What comes once need not be better than the result.
+  constexpr int kDigits = std::is_same_v<Part<T>, double> ? 53 : 24;
+  const V places = same<V>(static_cast<double>(static_cast<int>(r))) - hn::Iota(Lanes<double, N>(), 0);
   unrolled<kCount>([&](auto k) {
-    V re = hn::Zero(Lanes<double, N>());
-    V im = re;
-    unrolled<kChains>([&](auto c) {
-      const V places = same<V>(static_cast<double>(r) - static_cast<double>(c * N)) - hn::Iota(Lanes<double, N>(), 0);
-      const SinCos<V> z = sinCosOfTurns(places * same<V>(components[k].frequency));
-      const Complex<V> a = sums[k][c];
-      re = re + hn::NegMulAdd(a.im, z.sine, a.re * z.cosine);
-      im = im + hn::MulAdd(a.re, z.sine, a.im * z.cosine);
-    });
-    components[k].re = sumOfLanes(re);
-    components[k].im = sumOfLanes(im);
+    const SinCos<V> z = sinCosOfTurns<kDigits>(places * same<V>(components[k].frequency));
+    // The second chain is N places nearer to the end.
+    const Complex<V> b = sums[k][1];
+    const SinCos<V> back = steps[k].chain;
+    const V aRe = sums[k][0].re + hn::MulAdd(b.re, back.cosine, b.im * back.sine);
+    const V aIm = sums[k][0].im + hn::NegMulAdd(b.re, back.sine, b.im * back.cosine);
+    components[k].re = sumOfLanes(hn::NegMulAdd(aIm, z.sine, aRe * z.cosine));
+    components[k].im = sumOfLanes(hn::MulAdd(aRe, z.sine, aIm * z.cosine));
   });
 }
 

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "frame/redo.h"
+#include "frame/to_int64.h"
 #include "math/polynomial.h"
 
 namespace qvx {
@@ -65,7 +66,7 @@ template <int kDigits, class V> SinCos<V> sinCosOfQuarters(V k, V r, V rest) {
 
 // For an angle in turns, of which quarters and their remainder are exact. Error below 1 ULP, or as above.
 template <int kDigits = 53, class V> SinCos<V> sinCosOfTurns(V turns) {
-  const V k = hn::Round(turns * same<V>(4));
+  const V k = shortNearest(turns * same<V>(4));
   const V r = hn::NegMulAdd(k, same<V>(0.25), turns) * same<V>(0x1.921fb54442d18p+2);
   return sinCosOfQuarters<kDigits>(k, r, hn::Zero(TagOf<V>()));
 }
