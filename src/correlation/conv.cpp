@@ -30,15 +30,12 @@ QvxStatus checkOperands(const void* a, int aLen, const void* b, int bLen, const 
 
 template <class C> QvxStatus checkedConvolve(const C* a, int aLen, const C* b, int bLen, C* y) {
   const QvxStatus status = checkOperands(a, aLen, b, bLen, y);
-#if QVXS_AVX512
-  constexpr int kMost = kVectorElements<C>;
-  if (status == qvxStatOk && aLen <= kMost && bLen <= kMost) {
-    const Band<C> band = bandOf(a, elements(aLen), b, elements(bLen), 0, elements(aLen + bLen - 1));
-    if (correlateInRegisters(band, y)) [[unlikely]]
-      mendEnds(band, y);
-    return qvxStatOk;
+  if constexpr (constexpr int kMost = kInRegisters<C>; kMost > 0) {
+    if (status == qvxStatOk && aLen <= kMost && bLen <= kMost) {
+      const Band<C> band = bandOf(a, elements(aLen), b, elements(bLen), 0, elements(aLen + bLen - 1));
+      if (correlateInRegisters(band, y)) return qvxStatOk;
+    }
   }
-#endif
   return status == qvxStatOk ? convolve(a, elements(aLen), b, elements(bLen), y) : status;
 }
 

@@ -45,16 +45,10 @@ QvxStatus checkCall(const void* a, int aLen, const void* b, int bLen, const void
 template <class C> QvxStatus checkedCorrelate(const C* a, int aLen, const C* b, int bLen, C* y, int lags, int lowLag) {
   const QvxStatus status = checkCall(a, aLen, b, bLen, y, lags);
   if (status != qvxStatOk) return status;
-#if QVXS_AVX512
-  if constexpr (PartsOf<C>::kCount == 1) {
+  if constexpr (kInRegisters < C >> 0) {
     const Band<C> band{b, elements(bLen), a, elements(aLen), false, lowLag, elements(lags)};
-    if (fitsRegisters(band)) {
-      if (correlateInRegisters(band, y)) [[unlikely]]
-        mendEnds(band, y);
-      return qvxStatOk;
-    }
+    if (fitsRegisters(band) && correlateInRegisters(band, y)) return qvxStatOk;
   }
-#endif
   return crossCorrelate(a, elements(aLen), b, elements(bLen), y, elements(lags), lowLag, kDirectTo<C>);
 }
 
