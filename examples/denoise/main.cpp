@@ -31,7 +31,7 @@ int run(int argc, char** argv) {
   if (added.isGiven()) {
     const std::vector<float> all = noise(clean.size(), std::pow(10, level / 20), 1);
     check(qvxsAdd_32f_I(all.data(), noisy.data(), static_cast<int>(noisy.size())));
-    if (!noisyOutput.empty()) writeRecording(noisy, noisyOutput, in.sampleRate(), {input});
+    if (!noisyOutput.empty()) writeRecording(noisy, noisyOutput, in.sampleRate(), {input, output});
   }
   const Denoised result = denoised(noisy, levels, strength, in.sampleRate());
   writeRecording(result.samples, output, in.sampleRate(), {input});

@@ -8,10 +8,17 @@ namespace {
 constexpr int64_t kWavBytes = UINT32_MAX - 1024;
 constexpr size_t kMostFrames = size_t{1} << 27;
 
-const std::string& other(const std::string& path, const std::vector<std::string>& inputs) {
-  for (const std::string& input : inputs) {
-    std::error_code missing;  // the usual case: there is no output yet
-    if (std::filesystem::equivalent(path, input, missing)) throw std::runtime_error(path + ": is a file to read as well");
+// Files that are not there yet are one if their paths are.
+bool areOne(const std::string& path, const std::string& other) {
+  namespace fs = std::filesystem;
+  std::error_code none;
+  return fs::equivalent(path, other, none) ||
+         fs::absolute(path, none).lexically_normal() == fs::absolute(other, none).lexically_normal();
+}
+
+const std::string& apart(const std::string& path, const std::vector<std::string>& others) {
+  for (const std::string& other : others) {
+    if (areOne(path, other)) throw std::runtime_error(path + ": is named for another file as well");
   }
   return path;
 }
@@ -51,9 +58,15 @@ std::vector<Qvx32f> readFirstChannel(AudioReader& in) {
 }
 
 AudioWriter::AudioWriter(const std::string& path, int format, int channels, int sampleRate,
-                         const std::vector<std::string>& inputs)
-    : path_(path), file_(other(path, inputs), SFM_WRITE, format, channels, sampleRate) {
+                         const std::vector<std::string>& others)
+    : path_(path), file_(apart(path, others), SFM_WRITE, format, channels, sampleRate) {
   verify(file_.error() == SF_ERR_NO_ERROR);
+}
+
+AudioWriter::~AudioWriter() {
+  std::error_code gone;  // pipes and devices stay
+  if (std::uncaught_exceptions() > exceptions_ && std::filesystem::is_regular_file(path_, gone))
+    std::filesystem::remove(path_, gone);
 }
 
 void AudioWriter::write(const Qvx16s* samples, int frames) {
@@ -84,8 +97,8 @@ void AudioWriter::verify(bool written) const {
 }
 
 void writeRecording(const std::vector<Qvx32f>& samples, const std::string& path, int sampleRate,
-                    const std::vector<std::string>& inputs) {
-  AudioWriter out(path, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1, sampleRate, inputs);
+                    const std::vector<std::string>& others) {
+  AudioWriter out(path, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1, sampleRate, others);
   std::vector<Qvx16s> block(kBlockFrames);
   for (size_t at = 0; at < samples.size(); at += kBlockFrames) {
     const int n = static_cast<int>(std::min<size_t>(kBlockFrames, samples.size() - at));

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <exception>
 #include <memory>
 #include <new>
 #include <sndfile.hh>
@@ -68,10 +69,14 @@ class AudioReader {
 // All of a file's first channel. Throws if there are no samples, or more than 2^27: 45 minutes at 48 kHz.
 std::vector<Qvx32f> readFirstChannel(AudioReader& in);
 
+// A file that is whole or not there: what an exception ends is removed, whether a write failed or what was to be read.
 class AudioWriter {
  public:
-  // The file to write must not be one of those that are read.
-  AudioWriter(const std::string& path, int format, int channels, int sampleRate, const std::vector<std::string>& inputs);
+  // The file to write must not be another one of the program's, to be read or written.
+  AudioWriter(const std::string& path, int format, int channels, int sampleRate, const std::vector<std::string>& others);
+  AudioWriter(const AudioWriter&) = delete;
+  AudioWriter& operator=(const AudioWriter&) = delete;
+  ~AudioWriter();
 
   void write(const Qvx16s* samples, int frames);
   void write(const Qvx32f* samples, int frames);
@@ -84,8 +89,9 @@ class AudioWriter {
   std::string path_;
   SndfileHandle file_;
   int64_t bytes_ = 0;
+  int exceptions_ = std::uncaught_exceptions();
 };
 
 // A WAV file of one channel and 16 bits, of samples whose full scale is 1.
 void writeRecording(const std::vector<Qvx32f>& samples, const std::string& path, int sampleRate,
-                    const std::vector<std::string>& inputs);
+                    const std::vector<std::string>& others);

@@ -68,7 +68,8 @@ TEST_F(Denoise, refusesWhatItCannotDo) {
                  {"x.wav", "output"},
                  {"x.wav -o out.wav --levels 0", "levels"},
                  {"x.wav -o out.wav --add-noise 1", "add-noise"},
-                 {"x.wav -o out.wav --noisy n.wav", "add-noise"}});
+                 {"x.wav -o out.wav --noisy n.wav", "add-noise"},
+                 {"x.wav -o out.wav --add-noise -20 --noisy ./out.wav", "./out.wav: is named for another file as well"}});
   expectOutputsGuarded("", "x.wav");
 }
 

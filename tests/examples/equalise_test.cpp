@@ -68,7 +68,9 @@ TEST_F(Equalise, refusesWhatItCannotUse) {
   std::ofstream(at("huge.txt")) << "1 1e60\n";
   std::ofstream(at("none.txt")) << "# nothing\n";
   std::ofstream(at("one.txt")) << "1\n";
-  expectRefused({{"in.wav -t words.txt -o out.wav", "words.txt: not a number in line: 0.5 half"},
+  write("nan.wav", endingInNan(), SF_FORMAT_WAV | SF_FORMAT_FLOAT);
+  expectRefused({{"nan.wav -t one.txt -o out.wav", "nan.wav: holds samples that are not finite numbers"},
+                 {"in.wav -t words.txt -o out.wav", "words.txt: not a number in line: 0.5 half"},
                  {"in.wav -t huge.txt -o out.wav", "huge.txt: not a number"},
                  {"in.wav -t none.txt -o out.wav", "none.txt"},
                  {"in.wav -t missing.txt -o out.wav", "missing.txt"},

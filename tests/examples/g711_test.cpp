@@ -233,7 +233,9 @@ TEST_F(G711, refusesWhatItCannotDo) {
   std::ofstream(at("empty.wav"));
   std::filesystem::copy(at("mono.wav"), at("cut.wav"));
   std::filesystem::resize_file(at("cut.wav"), 20);
+  write("nan.wav", endingInNan(), SF_FORMAT_WAV | SF_FORMAT_FLOAT);
   expectRefused({{"", "subcommand is required"},
+                 {"encode nan.wav -o out.wav", "nan.wav: holds samples that are not finite numbers"},
                  {"encode absent.wav -o out.wav", "File does not exist: absent.wav"},
                  {"encode text.wav -o out.wav", "text.wav: Format not recognised"},
                  {"encode empty.wav -o out.wav", "empty.wav: "},

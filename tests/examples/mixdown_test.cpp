@@ -121,7 +121,9 @@ TEST_F(Mixdown, refusesWhatItCannotMix) {
   write("three.wav", SF_FORMAT_PCM_16, 3, 100);
   write("fast.wav", SF_FORMAT_PCM_16, 1, 100, 44100);
   std::ofstream(at("text.wav")) << "no sound at all";
-  expectRefused({{"absent.wav -o out.wav", "File does not exist: absent.wav"},
+  ProgramTest::write("nan.wav", endingInNan(), SF_FORMAT_WAV | SF_FORMAT_FLOAT);
+  expectRefused({{"mono.wav nan.wav -o out.wav", "nan.wav: holds samples that are not finite numbers"},
+                 {"absent.wav -o out.wav", "File does not exist: absent.wav"},
                  {"mono.wav text.wav -o out.wav", "text.wav: Format not recognised"},
                  {"mono.wav fast.wav -o out.wav", "fast.wav has 44100 Hz, but mono.wav has 8000 Hz"},
                  {"mono.wav stereo.wav three.wav -o out.wav", "stereo.wav has 2 channels, but three.wav has 3 channels"},

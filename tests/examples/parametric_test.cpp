@@ -54,13 +54,15 @@ TEST_F(Parametric, PrintsAndDraws) {
 
 TEST_F(Parametric, SaysWhatItCannotDo) {
   writeSines("in.wav", {100}, 10);
-  expectRefused({{"low -f 24000", "half the sampling rate"},
+  write("nan.wav", endingInNan(), SF_FORMAT_WAV | SF_FORMAT_FLOAT, 1, 48000);
+  expectRefused({{"low -f 100 nan.wav -o out.wav", "nan.wav: holds samples that are not finite numbers"},
+                 {"low -f 24000", "half the sampling rate"},
                  {"low -f 100 -n 13", "13 not in range"},
                  {"low -f 100 -n -5", "-5 not in range"},
                  {"low -f 100 -r 30", "30 not in range"},
                  {"low -f 100 --plot x.gif", ".png or .svg"},
                  {"low -f 100 -s 8000 in.wav -o out.wav", "48000 Hz"},
-                 {"low -f 100 in.wav -o in.wav", "is a file to read"}},
+                 {"low -f 100 in.wav -o in.wav", "is named for another file"}},
                 /*isSilent=*/false);
 }
 

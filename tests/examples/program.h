@@ -5,6 +5,7 @@
 #include <stdlib.h>
 #include <sys/wait.h>
 
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <sndfile.hh>
@@ -46,10 +47,10 @@ class ProgramTest : public ::testing::Test {
       EXPECT_FALSE(std::filesystem::exists(at("out.wav"))) << arguments;
     }
   }
-  // A file that is read as well is not written, a write that fails is reported.
+  // A file that is read as well is not written, a write that fails is reported and leaves nothing.
   void expectOutputsGuarded(const std::string& command, const std::string& source) const {
     const auto size = std::filesystem::file_size(at(source));
-    EXPECT_NE(run(command + " " + source + " -o ./" + source).err.find("is a file to read as well"), std::string::npos);
+    EXPECT_NE(run(command + " " + source + " -o ./" + source).err.find("is named for another file as well"), std::string::npos);
     EXPECT_EQ(std::filesystem::file_size(at(source)), size);
     EXPECT_GT(run(command + " " + source + " -o no/folder.wav").exitCode, 0);
   }
@@ -57,6 +58,13 @@ class ProgramTest : public ::testing::Test {
     const Outcome result = run(command + " -o full.wav", "(trap '' XFSZ; ulimit -f 8; %)");
     EXPECT_GT(result.exitCode, 0);
     EXPECT_NE(result.err.find("full.wav: "), std::string::npos) << result.err;
+    EXPECT_FALSE(std::filesystem::exists(at("full.wav")));
+  }
+  // What programs that read and write in blocks notice after the first two.
+  static std::vector<float> endingInNan() {
+    std::vector<float> x(10000, 0.25F);
+    x.back() = NAN;
+    return x;
   }
 
   // Interleaved samples.

@@ -75,7 +75,9 @@ TEST_F(Resample, measuresWhatItsLevelsPromise) {
 
 TEST_F(Resample, refusesWhatItCannotUse) {
   write("in.wav", std::vector<float>(10), SF_FORMAT_WAV | SF_FORMAT_FLOAT, 1, 44100);
-  expectRefused({{"in.wav -r 48000 -l 90 -o out.wav", "60, 100 and 140"},
+  write("nan.wav", endingInNan(), SF_FORMAT_WAV | SF_FORMAT_FLOAT);
+  expectRefused({{"nan.wav -r 48000 -o out.wav", "nan.wav: holds samples that are not finite numbers"},
+                 {"in.wav -r 48000 -l 90 -o out.wav", "60, 100 and 140"},
                  {"in.wav -r 10 -o out.wav", "10 not in range"},
                  {"missing.wav -r 48000 -o out.wav", "missing.wav"}});
   expectOutputsGuarded("-r 48000", "in.wav");

@@ -60,7 +60,9 @@ TEST_F(Reverb, refusesWhatItCannotUse) {
   write("in.wav", std::vector<short>(10, 1), SF_FORMAT_WAV | SF_FORMAT_PCM_16);
   write("silent.wav", std::vector<short>(10, 0), SF_FORMAT_WAV | SF_FORMAT_PCM_16);
   write("other.wav", std::vector<short>(10, 1), SF_FORMAT_WAV | SF_FORMAT_PCM_16, 1, 44100);
-  expectRefused({{"in.wav -r silent.wav -o out.wav", "silent.wav: silent"},
+  write("nan.wav", endingInNan(), SF_FORMAT_WAV | SF_FORMAT_FLOAT);
+  expectRefused({{"nan.wav -o out.wav", "nan.wav: holds samples that are not finite numbers"},
+                 {"in.wav -r silent.wav -o out.wav", "silent.wav: silent"},
                  {"in.wav -w 1e9 -o out.wav", "not in range"},
                  {"in.wav -r other.wav -o out.wav", "other.wav: another sampling rate"},
                  {"in.wav -s 0 -o out.wav", "0 not in range"},
