@@ -102,7 +102,7 @@ template <class T> void sortIndices(T* x, int n, Qvx32s* indices) {
 }
 
 // Different elements: a permutation, as far as the type goes.
-template <class T> void indexRow(Suite& s, const std::string& name, QvxStatus (*ours)(T*, Qvx32s*, int)) {
+template <class T> Case indexCase(const std::string& name) {
   Case c = sortCase<T>(name + ", all different", Pattern::kRandom);
   c.sizes = {10, 100, 1000, 10000, 100000, 1000000};
   c.fillSources = [](const Vectors& v) {
@@ -116,6 +116,10 @@ template <class T> void indexRow(Suite& s, const std::string& name, QvxStatus (*
       for (size_t i = 0; i < n; ++i) x[order[i]] = static_cast<T>(i);
     }
   };
+  return c;
+}
+template <class T> void indexRow(Suite& s, const std::string& name, QvxStatus (*ours)(T*, Qvx32s*, int)) {
+  Case c = indexCase<T>(name);
   c.contenders.push_back(sorter<T>("ours", [ours](T* x, int n, Qvx32s* indices) { ours(x, indices, n); }));
   c.contenders.push_back(sorter<T>("std::sort", sortIndices<T>));
   s.add(std::move(c));
@@ -130,16 +134,22 @@ template <class T> void roomRow(Suite& s, const std::string& name, QvxStatus (*o
   s.add(std::move(c));
 }
 
-template <class T> void teamRow(Suite& s, const std::string& name, QvxStatus (*ours)(T*, T*, int)) {
-  Case c = sortCase<T>(name, Pattern::kRandom);
+// sort(x, n, room)
+template <class T> void teamRow(Suite& s, Case c, const std::function<void(T*, int, Qvx32s*)>& sort) {
   c.table = Table::kTeam;
   c.inRealTime = true;
   c.sizes = {8192, 16384, 32768, 100000, 1000000};
-  const auto call = [ours](T* x, int n, Qvx32s* room) { ours(x, reinterpret_cast<T*>(room), n); };
-  c.contenders.push_back(sorter<T>("ours", call, 2));
-  c.contenders.push_back(sorter<T>("one thread", call));
+  c.contenders.push_back(sorter<T>("ours", sort, 2));
+  c.contenders.push_back(sorter<T>("one thread", sort));
   c.contenders.back().isPeer = false;
   s.add(std::move(c));
+}
+template <class T> void roomTeamRow(Suite& s, const std::string& name, QvxStatus (*ours)(T*, T*, int)) {
+  teamRow<T>(s, sortCase<T>(name, Pattern::kRandom),
+             [ours](T* x, int n, Qvx32s* room) { ours(x, reinterpret_cast<T*>(room), n); });
+}
+template <class T> void indexTeamRow(Suite& s, const std::string& name, QvxStatus (*ours)(T*, Qvx32s*, int)) {
+  teamRow<T>(s, indexCase<T>(name), [ours](T* x, int n, Qvx32s* indices) { ours(x, indices, n); });
 }
 
 }  // namespace
@@ -160,10 +170,14 @@ void sort(Suite& s) {
   roomRow<Qvx32u>(s, "SortRadixAscend_32u_I", qvxsSortRadixAscend_32u_I);
   roomRow<Qvx32f>(s, "SortRadixAscend_32f_I", qvxsSortRadixAscend_32f_I);
   roomRow<Qvx64f>(s, "SortRadixAscend_64f_I", qvxsSortRadixAscend_64f_I);
-  teamRow<Qvx32f>(s, "SortRadixAscend_32f_I", qvxsSortRadixAscend_32f_I);
-  teamRow<Qvx32s>(s, "SortRadixAscend_32s_I", qvxsSortRadixAscend_32s_I);
-  teamRow<Qvx32u>(s, "SortRadixAscend_32u_I", qvxsSortRadixAscend_32u_I);
-  teamRow<Qvx64f>(s, "SortRadixAscend_64f_I", qvxsSortRadixAscend_64f_I);
+  roomTeamRow<Qvx32f>(s, "SortRadixAscend_32f_I", qvxsSortRadixAscend_32f_I);
+  roomTeamRow<Qvx32s>(s, "SortRadixAscend_32s_I", qvxsSortRadixAscend_32s_I);
+  roomTeamRow<Qvx32u>(s, "SortRadixAscend_32u_I", qvxsSortRadixAscend_32u_I);
+  roomTeamRow<Qvx64f>(s, "SortRadixAscend_64f_I", qvxsSortRadixAscend_64f_I);
+  indexTeamRow<Qvx32f>(s, "SortIndexAscend_32f_I", qvxsSortIndexAscend_32f_I);
+  indexTeamRow<Qvx64f>(s, "SortIndexAscend_64f_I", qvxsSortIndexAscend_64f_I);
+  teamRow<Qvx32f>(s, sortCase<Qvx32f>("SortRadixIndexAscend_32f", Pattern::kRandom),
+                  [](Qvx32f* x, int n, Qvx32s* room) { qvxsSortRadixIndexAscend_32f(x, sizeof(Qvx32f), room, room + n, n); });
 }
 
 }  // namespace bench

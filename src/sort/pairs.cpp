@@ -2,6 +2,7 @@
 #include "sort/pairs.h"
 
 #include "sort/pairs_packed.h"
+#include "sort/sort_in_team.h"
 
 using namespace qvx;
 
@@ -38,13 +39,13 @@ using V = Vec<D>;
 
 // As Quicksort (quicksort.h). Equal keys end up side by side, and their numbers are sorted. To pack pairs is tried where keys are
 // different: with equal ones it fails, and 1000 pairs took 1.2 to 1.5 times as long.
-template <bool kAreDifferent> void sortRange(Pairs<int32_t> x, size_t n, Pairs<int32_t> buffer, int32_t least) {
-  for (int levels = 4 * static_cast<int>(std::bit_width(n)); n > kNetworkPairs;) {
-    if (kAreDifferent && n <= kPackedPairs && sortPacked(x, n, buffer.keys, buffer.numbers + kPairBuffer)) return;
-    if (levels-- == 0) return sortHeap(x, n);
-    const int32_t pivot = pivotOf<int32_t>(x.keys, n, {});
+template <bool kAreDifferent>
+void sortRange(Pairs<int32_t> x, size_t n, Pairs<int32_t> buffer, int32_t least, int32_t most, int levels) {
+  for (; n > kNetworkPairs; --levels) {
+    if (kAreDifferent && n <= kPackedPairs && sortPacked(x, n, buffer.keys, buffer.keys + kSortBuffer<int32_t>)) return;
+    const int32_t pivot = levels > 0 ? pivotOf<int32_t>(x.keys, n, {}) : middleOf(least, most);
     if (pivot == least) {
-      const bool isLast = pivot == INT32_MAX;
+      const bool isLast = pivot == most;
       const size_t equal = isLast ? n : partitionPairs(x, n, pivot + 1, buffer);
       Quicksort<int32_t>({}, buffer.keys).sort(x.numbers, equal, {});
       if (isLast) return;
@@ -55,26 +56,32 @@ template <bool kAreDifferent> void sortRange(Pairs<int32_t> x, size_t n, Pairs<i
     }
     const size_t below = partitionPairs(x, n, pivot, buffer);
     if (below <= n - below) {
-      if (below > 0) sortRange<kAreDifferent>(x, below, buffer, least);
+      if (below > 0) sortRange<kAreDifferent>(x, below, buffer, least, pivot - 1, levels - 1);
       x = x.from(below);
       n -= below;
       least = pivot;
     } else {
-      if (below < n) sortRange<kAreDifferent>(x.from(below), n - below, buffer, pivot);
+      if (below < n) sortRange<kAreDifferent>(x.from(below), n - below, buffer, pivot, most, levels - 1);
       n = below;
+      most = pivot - 1;
     }
   }
   if (n > 0) sortFewPairs(x, n);
 }
 
-template <bool kAreDifferent> void sort(int32_t* keys, int32_t* numbers, size_t n) {
-  if (n <= kNetworkPairs) return sortFewPairs({keys, numbers}, n);
-  static_assert(2 * kPairBuffer == kSortBuffer<int32_t>);
-  alignas(64) int32_t buffer[2 * kPairBuffer + kPackedPairs];
-  sortRange<kAreDifferent>({keys, numbers}, n, {buffer, buffer + kPairBuffer}, INT32_MIN);
+template <bool kAreDifferent> void sortAlone(Pairs<int32_t> x, size_t n) {
+  if (n <= kNetworkPairs) return sortFewPairs(x, n);
+  static_assert(2 * kPairBuffer <= kSortBuffer<int32_t>);
+  alignas(64) int32_t buffer[kSortBuffer<int32_t> + kPackedPairs];
+  sortRange<kAreDifferent>(x, n, {buffer, buffer + kPairBuffer}, INT32_MIN, INT32_MAX, levelsByMedians(n));
+}
+
+template <bool kAreDifferent> void sort(Pairs<int32_t> x, size_t n) {
+  if (!isSortedInTeam(n)) return sortAlone<kAreDifferent>(x, n);
+  sortPairsInTeam(x, n, [](Pairs<int32_t> part, size_t count) { return sortAlone<kAreDifferent>(part, count), true; });
 }
 
 }  // namespace
 
-void qvx::sortPairs(int32_t* keys, int32_t* numbers, size_t n) { sort<false>(keys, numbers, n); }
-bool qvx::sortDifferentPairs(int32_t* keys, int32_t* numbers, size_t n) { return sort<true>(keys, numbers, n), true; }
+void qvx::sortPairs(int32_t* keys, int32_t* numbers, size_t n) { sort<false>({keys, numbers}, n); }
+bool qvx::sortDifferentPairs(int32_t* keys, int32_t* numbers, size_t n) { return sort<true>({keys, numbers}, n), true; }

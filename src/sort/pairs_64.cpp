@@ -1,6 +1,7 @@
 // Quicksort of 64-bit keys and their numbers, all keys different.
 #include "sort/pairs.h"
 #include "sort/pairs_packed.h"
+#include "sort/sort_in_team.h"
 
 using namespace qvx;
 
@@ -35,32 +36,37 @@ bool sortByRanks(Pairs<K> x, size_t n) {
 }
 
 // As Quicksort (quicksort.h), until equal keys are seen.
-bool sortRange(Pairs<K> x, size_t n, Pairs<K> buffer, K least) {
-  for (int levels = 4 * static_cast<int>(std::bit_width(n)); n > kFewPairs;) {
+bool sortRange(Pairs<K> x, size_t n, Pairs<K> buffer, K least, K most, int levels) {
+  for (; n > kFewPairs; --levels) {
     if (n <= kPackedPairs && sortPacked(x, n, reinterpret_cast<int32_t*>(buffer.keys), buffer.numbers)) return true;
-    if (levels-- == 0) return sortHeap(x, n), true;
-    const K pivot = pivotOf<K>(x.keys, n, {});
+    const K pivot = levels > 0 ? pivotOf<K>(x.keys, n, {}) : middleOf(least, most);
     if (pivot == least) return false;
     const size_t below = partitionPairs(x, n, pivot, buffer);
     if (below <= n - below) {
-      if (below > 0 && !sortRange(x, below, buffer, least)) return false;
+      if (below > 0 && !sortRange(x, below, buffer, least, pivot - 1, levels - 1)) return false;
       x = x.from(below);
       n -= below;
       least = pivot;
     } else {
-      if (below < n && !sortRange(x.from(below), n - below, buffer, pivot)) return false;
+      if (below < n && !sortRange(x.from(below), n - below, buffer, pivot, most, levels - 1)) return false;
       n = below;
+      most = pivot - 1;
     }
   }
   return n == 0 || sortByRanks(x, n);
 }
 
+bool sortAlone(Pairs<K> x, size_t n) {
+  if (n <= kFewPairs) return sortByRanks(x, n);
+  static_assert(kPackedPairs <= kPairBuffer);
+  alignas(64) K keys[std::max(kPairBuffer, kSortBuffer<int32_t> / 2)];  // packed ones, too
+  alignas(64) int32_t numbers[kPairBuffer];
+  return sortRange(x, n, {keys, numbers}, std::numeric_limits<K>::min(), std::numeric_limits<K>::max(), levelsByMedians(n));
+}
+
 }  // namespace
 
 bool qvx::sortDifferentPairs(int64_t* keys, int32_t* numbers, size_t n) {
-  if (n <= kFewPairs) return sortByRanks({keys, numbers}, n);
-  static_assert(kPackedPairs <= kPairBuffer);
-  alignas(64) int64_t keyBuffer[kPairBuffer];
-  alignas(64) int32_t numberBuffer[kPairBuffer];
-  return sortRange({keys, numbers}, n, {keyBuffer, numberBuffer}, std::numeric_limits<K>::min());
+  const Pairs<K> x = {keys, numbers};
+  return isSortedInTeam(n) ? sortPairsInTeam(x, n, sortAlone) : sortAlone(x, n);
 }

@@ -96,26 +96,4 @@ template <class K> size_t partitionPairs(Pairs<K> x, size_t n, K pivot, Pairs<K>
   return static_cast<size_t>(low.keys - x.keys) + below;
 }
 
-template <class K> [[gnu::noinline]] void sortHeap(Pairs<K> x, size_t n) {
-  const auto isLess = [&](size_t a, size_t b) {
-    return x.keys[a] != x.keys[b] ? x.keys[a] < x.keys[b] : x.numbers[a] < x.numbers[b];
-  };
-  const auto exchange = [&](size_t a, size_t b) {
-    std::swap(x.keys[a], x.keys[b]);
-    std::swap(x.numbers[a], x.numbers[b]);
-  };
-  const auto sift = [&](size_t at, size_t end) {
-    for (size_t child; (child = 2 * at + 1) < end; at = child) {
-      if (child + 1 < end && isLess(child, child + 1)) ++child;
-      if (!isLess(at, child)) return;
-      exchange(at, child);
-    }
-  };
-  for (size_t i = n / 2; i-- > 0;) sift(i, n);
-  for (size_t end = n; end-- > 1;) {
-    exchange(0, end);
-    sift(0, end);
-  }
-}
-
 }  // namespace qvx

@@ -5,14 +5,14 @@
 
 #include "frame/stream.h"
 #include "frame/unroll.h"
-#include "sort/keys.h"
+#include "sort/radix.h"
 
 namespace qvx {
 
 // Vectors read from one side before the side is chosen again: the choice is an unpredictable branch.
 template <class K> inline constexpr size_t kPartitionVectors = kPartitionLanes<K> > 8 ? 4 : 8;
-// Keys of working memory.
-template <class K> inline constexpr size_t kSortBuffer = (sizeof(K) == 2 ? 16384 : 8192) / sizeof(K);
+// Keys of working memory. In SSSE3 it is also the room of a radix sort, whose counts take 10 KiB more of the stack.
+template <class K> inline constexpr size_t kSortBuffer = (sizeof(K) == 2 ? 16384 : kHasRadixSort ? 10240 : 8192) / sizeof(K);
 
 // Keys up to which those above the pivot are copied to the buffer and back; whole vectors are stored.
 template <class K> inline constexpr size_t kFewKeys = std::min(kSortBuffer<K> - 2 * kPartitionLanes<K>, size_t{1024});

@@ -1,4 +1,5 @@
-// Quicksort on partitions in vectors, down to what a network sorts in registers.
+// Quicksort on partitions in vectors, down to what a network sorts in registers or, in SSSE3, a radix sort with the buffer for
+// room.
 #pragma once
 
 #include <algorithm>
@@ -8,6 +9,7 @@
 #include "sort/network.h"
 #include "sort/often.h"
 #include "sort/partition.h"
+#include "sort/radix.h"
 
 namespace qvx {
 
@@ -21,9 +23,20 @@ template <class K> size_t equalNeighbours(const K* keys, size_t n) {
   return count + countLanes<N>(maskBits(d, loadFirstOr(d, keys + i, rest, K{0}) == loadFirstOr(d, keys + i + 1, rest, K{1})));
 }
 
-// A fixed place in each stretch of a vector would meet whatever has its period: by the golden ratio, of 2^32, the places go on
-// without one, and none waits for the one before.
-inline constexpr uint32_t kGolden = 2654435769;
+// Places all over n keys. A fixed one in each stretch would meet whatever has its period: by the golden ratio, of 2^32,
+// they go on without one, and none waits for the one before.
+class SamplePlaces {
+ public:
+  explicit SamplePlaces(size_t n) : fraction_(static_cast<uint32_t>(n) * kGolden) {}
+  size_t nextBelow(size_t count) {
+    fraction_ += kGolden;
+    return static_cast<size_t>(uint64_t{fraction_} * count >> 32);
+  }
+
+ private:
+  static constexpr uint32_t kGolden = 2654435769;
+  uint32_t fraction_;
+};
 
 template <class K> inline constexpr size_t kMostSample = std::min<size_t>(64, kNetworkKeys<K>);
 
@@ -31,10 +44,8 @@ template <class K> inline constexpr size_t kMostSample = std::min<size_t>(64, kN
 template <class K> size_t takeSample(const K* x, size_t n, KeyMap<K> in, K (&sample)[kMostSample<K>]) {
   const size_t count = n < 4096 ? 16 : kMostSample<K>;
   const size_t stretch = n / count;
-  auto fraction = static_cast<uint32_t>(n) * kGolden;
-  for (size_t i = 0; i < count; ++i, fraction += kGolden) {
-    sample[i] = in.key(x[i * stretch + (uint64_t{fraction} * stretch >> 32)]);
-  }
+  SamplePlaces places(n);
+  for (size_t i = 0; i < count; ++i) sample[i] = in.key(x[i * stretch + places.nextBelow(stretch)]);
   sortByNetwork(sample, count, {}, {});
   return count;
 }
@@ -49,11 +60,8 @@ template <class K> [[gnu::always_inline]] inline auto medians(const K* x, size_t
   constexpr size_t N = kPivotLanes<K>;
   const Lanes<K, N> d;
   using V = Vec<Lanes<K, N>>;
-  auto fraction = static_cast<uint32_t>(n) * kGolden;
-  const auto next = [&]() __attribute__((always_inline)) {
-    fraction += kGolden;
-    return in.keys(load(d, x + (uint64_t{fraction} * (n - N + 1) >> 32)));
-  };
+  SamplePlaces places(n);
+  const auto next = [&]() __attribute__((always_inline)) { return in.keys(load(d, x + places.nextBelow(n - N + 1))); };
   const auto middle = [](V a, V b, V c) __attribute__((always_inline)) {
     const auto both = By::ordered(a, b);
     return By::ordered(both.least, By::ordered(both.most, c).least).most;
@@ -90,31 +98,47 @@ template <class K> K pivotOf(const K* x, size_t n, KeyMap<K> in) {
   return pivotOf(x, n, in, often);
 }
 
+// The pivot that halves the values there can be, above `least` unless there is one alone.
+template <class K> constexpr K middleOf(K least, K most) { return static_cast<K>((least | most) - ((least ^ most) >> 1)); }
+static_assert(middleOf(INT32_MIN, INT32_MAX) == 0 && middleOf(-2, -1) == -1 &&
+              middleOf(INT64_MIN, INT64_MIN + 1) == INT64_MIN + 1);
+
+// Pivots from the same places of n keys may be bad ones once, but no more than so many times by accident. After that values are
+// halved, which ends when there is one: a sort takes O(n (log n + bits of a key)) whatever it is given.
+inline int levelsByMedians(size_t n) { return 4 * static_cast<int>(std::bit_width(n)); }
+
 template <class K> class Quicksort {
  public:
   // `buffer`: kSortBuffer keys.
   Quicksort(KeyMap<K> map, K* buffer) : map_(map), buffer_(buffer) {}
 
-  // x, as `in` maps it, comes to be in order, and its elements what they were. All keys are from `least` to `most`.
-  void sort(K* x, size_t n, KeyMap<K> in, K least = Limits::min(), K most = Limits::max()) {
-    // Bad pivots from random places are no accident more than so many times: then it is a heap's turn.
-    for (int levels = 4 * static_cast<int>(std::bit_width(n)); n > kNetworkKeys<K>; in = {}) {
+  // x, as `in` maps it, comes to be in order, and its elements what they were.
+  void sort(K* x, size_t n, KeyMap<K> in) {
+    sort(x, n, in, std::numeric_limits<K>::min(), std::numeric_limits<K>::max(), levelsByMedians(n));
+  }
+
+ private:
+  // All keys are from `least` to `most`.
+  void sort(K* x, size_t n, KeyMap<K> in, K least, K most, int levels) {
+    for (; n > kNetworkKeys<K>; in = {}, --levels) {
       if constexpr (sizeof(K) == 2) {
         if (isCounted<K>(n, least, most)) return sortByCounting(x, n, in, map_, least, most, buffer_);
       }
-      if (levels-- == 0) return sortHeap(x, n, in);
+      if constexpr (kHasRadixSort) {
+        if (n >= kRadixFrom<K> && n <= kSortBuffer<K>) return radixSort(x, buffer_, n, in, map_);
+      }
       Often<K> often;
       K pivot = pivotOf(x, n, in, often);
       if (often.count > 0) {
         const size_t others = countOut(x, n, in, often);
         if (others <= n / 2) {
-          if (others > 0) sort(x, others, {}, least, most);
+          if (others > 0) sort(x, others, {}, least, most, levels - 1);
           return mergeRuns(x, n, others, often, map_);
         }
         putBack(x, others, often);  // the sample misled
         in = {};
       }
-      if (isDense(n, least, most)) pivot = static_cast<K>((least + most + 1) >> 1);
+      if (levels <= 0 || isDense(n, least, most)) pivot = middleOf(least, most);
       // A pivot that is the least key there can be: those equal to it are done.
       if (pivot == least) {
         if (pivot == most) return fill(x, n, pivot);
@@ -127,12 +151,12 @@ template <class K> class Quicksort {
       }
       const size_t below = partition(x, n, pivot, in, buffer_);
       if (below <= n - below) {
-        if (below > 0) sort(x, below, {}, least, static_cast<K>(pivot - 1));
+        if (below > 0) sort(x, below, {}, least, static_cast<K>(pivot - 1), levels - 1);
         x += below;
         n -= below;
         least = pivot;
       } else {
-        if (below < n) sort(x + below, n - below, {}, pivot, most);
+        if (below < n) sort(x + below, n - below, {}, pivot, most, levels - 1);
         n = below;
         most = static_cast<K>(pivot - 1);
       }
@@ -140,16 +164,7 @@ template <class K> class Quicksort {
     if (n > 0) sortByNetwork(x, n, in, map_);
   }
 
- private:
-  using Limits = std::numeric_limits<K>;
-
   void fill(K* x, size_t n, K key) const { fillRun(x, n, map_.original(key)); }
-  [[gnu::noinline]] void sortHeap(K* x, size_t n, KeyMap<K> in) const {
-    std::transform(x, x + n, x, [=](K v) { return in.key(v); });
-    std::make_heap(x, x + n);
-    std::sort_heap(x, x + n);
-    std::transform(x, x + n, x, [map = map_](K k) { return map.original(k); });
-  }
 
   KeyMap<K> map_;
   K* buffer_;
@@ -170,6 +185,14 @@ template <class K> bool isSortedByReversal(K* x, size_t n, KeyMap<K> map) {
 }
 template <class K> void quicksort(K* x, size_t n, KeyMap<K> map) {
   if (!isSortedByReversal(x, n, map)) quicksort(x, n, map, map);
+}
+
+// The faster of both; `room`: for n keys.
+template <class K> void sortThrough(K* x, K* room, size_t n, KeyMap<K> in, KeyMap<K> out) {
+  if constexpr (kHasRadixSort) {
+    if (n >= kRadixFrom<K>) return radixSort(x, room, n, in, out);
+  }
+  quicksort(x, n, in, out);
 }
 
 }  // namespace qvx

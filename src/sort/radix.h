@@ -4,7 +4,8 @@
 #include <utility>
 
 #include "frame/map.h"
-#include "sort/quicksort.h"
+#include "frame/unroll.h"
+#include "sort/keys.h"
 
 namespace qvx {
 
@@ -12,7 +13,7 @@ namespace qvx {
 // wider ones it takes 2.5, and on another make 2.7 where the passes take 4.
 inline constexpr bool kHasRadixSort = kVectorBytes == 16;
 // Keys from which it is faster.
-template <class K> inline constexpr size_t kRadixFrom = sizeof(K) == 2 ? 400 : sizeof(K) == 4 ? 900 : 1500;
+template <class K> inline constexpr size_t kRadixFrom = sizeof(K) == 2 ? 400 : 700;
 
 namespace detail {
 
@@ -33,20 +34,37 @@ template <size_t kPart, size_t kDigit, class K> [[gnu::always_inline]] inline si
   return (part >> kDigit * kDigitBits<K>) % valuesOf<K>(kDigit);
 }
 
-// Three passes at most, between x and room; true if they end in room. A digit that all keys share is left out.
-template <size_t kPart, class K> [[gnu::noinline]] bool sortByPart(K* x, K* room, size_t n) {
+// Counts become the sums of those before them, by vectors: one by one, those of 5120 values took a tenth of the time of 1000
+// keys.
+template <class Count> void sumCounts(Count* counts, size_t values) {
+  constexpr size_t N = 16 / sizeof(Count);
+  const Lanes<Count, N> d;
+  auto before = hn::Zero(d);
+  for (size_t i = 0; i < values; i += N) {
+    const auto v = load(d, counts + i);
+    auto sums = v + hn::ShiftLeftLanes<1>(d, v);
+    sums = sums + hn::ShiftLeftLanes<2>(d, sums);
+    if constexpr (N > 4) sums = sums + hn::ShiftLeftLanes<4>(d, sums);
+    sums = sums + before;
+    store(sums - v, d, counts + i);
+    before = hn::Broadcast<N - 1>(sums);
+  }
+}
+
+// Three passes at most, between x and room; true if they end in room. A digit that all keys share is left out. All digits are
+// counted at once: one before each pass, for which a third of the tables would do, 10^4 keys took 1.1 of the time.
+template <class Count, size_t kPart, class K> [[gnu::noinline]] bool sortByPart(K* x, K* room, size_t n) {
   constexpr size_t kHighest = kDigits<K> - 1;
-  alignas(64) uint32_t counts[countsBelow<K>(kHighest) + valuesOf<K>(kHighest)] = {};
+  alignas(64) Count counts[countsBelow<K>(kHighest) + valuesOf<K>(kHighest)] = {};
   for (size_t i = 0; i < n; ++i) {
     unrolled<kDigits<K>>([&](auto digit)
                              __attribute__((always_inline)) { ++counts[countsBelow<K>(digit) + digitOf<kPart, digit>(x[i])]; });
   }
   K *from = x, *to = room;
   unrolled<kDigits<K>>([&](auto digit) __attribute__((always_inline)) {
-    uint32_t* const at = counts + countsBelow<K>(digit);
+    Count* const at = counts + countsBelow<K>(digit);
     if (at[digitOf<kPart, digit>(x[0])] == n) return;
-    uint32_t before = 0;
-    for (size_t value = 0; value < valuesOf<K>(digit); ++value) before += std::exchange(at[value], before);
+    sumCounts(at, valuesOf<K>(digit));
     for (size_t i = 0; i < n; ++i) to[at[digitOf<kPart, digit>(from[i])]++] = from[i];
     std::swap(from, to);
   });
@@ -63,17 +81,11 @@ template <class K> void radixSort(K* x, K* room, size_t n, KeyMap<K> in, KeyMap<
   loop([in](auto v) { return in.keys(v); }, destination(x), n, source(x));
   K *from = x, *to = room;
   unrolled<detail::kPartsOfKey<K>>([&](auto part) {
-    if (detail::sortByPart<part>(from, to, n)) std::swap(from, to);
+    const bool isInRoom =
+        n <= UINT16_MAX ? detail::sortByPart<uint16_t, part>(from, to, n) : detail::sortByPart<uint32_t, part>(from, to, n);
+    if (isInRoom) std::swap(from, to);
   });
   loop([out](auto v) { return out.originals(v); }, destination(x), n, source(from));
-}
-
-// The faster of both; `room`: for n keys.
-template <class K> void sortThrough(K* x, K* room, size_t n, KeyMap<K> in, KeyMap<K> out) {
-  if constexpr (kHasRadixSort) {
-    if (n >= kRadixFrom<K>) return radixSort(x, room, n, in, out);
-  }
-  quicksort(x, n, in, out);
 }
 
 }  // namespace qvx

@@ -5,8 +5,8 @@
 
 namespace qvx {
 
-// x, n elements as integers of their size, in the order of the keys that the map gives. Nothing is allocated. O(n log n) whatever
-// the order and however many keys are equal; the result follows from the keys alone.
+// x, n elements as integers of their size, in the order of the keys that the map gives. Nothing is allocated.
+// O(n (log n + bits of a key)) whatever the order and however many keys are equal; the result follows from the keys alone.
 void sortKeys(int8_t* x, size_t n, KeyMap<int8_t> map);
 void sortKeys(int16_t* x, size_t n, KeyMap<int16_t> map);
 void sortKeys(int32_t* x, size_t n, KeyMap<int32_t> map);

@@ -1,5 +1,5 @@
 // 16-bit keys, and 8-bit ones, which are counted, or widened where they are few.
-#include "sort/radix.h"
+#include "sort/quicksort.h"
 #include "sort/sort_keys.h"
 
 using namespace qvx;
