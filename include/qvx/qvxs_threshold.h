@@ -15,7 +15,7 @@ extern "C" {
  *  16sc: compared exactly, and rounded once, to nearest even, whatever the caller's rounding mode.
  *  32fc: compared by squares and clipped in Qvx64f, which no magnitude overflows. 64fc: the same after a scaling of every
  *  element by a power of two of its own, so that nothing overflows there either; squares that differ by less than 2 roundings
- *  may compare as equal. level is finite.
+ *  may compare as equal, and a part below 1e-307 of the other may lose digits. level is finite.
  *  Here and below a NaN is neither below nor above: it stays, bit by bit, and a level that is a NaN leaves everything as it is. A
  *  complex element with a NaN as a part counts as one. -0 is not below 0.
  *  pSrc, pDst: len elements each, any alignment; pDst may be pSrc, which the _I forms have as pSrcDst.
@@ -128,9 +128,9 @@ QVXS_API(QvxStatus, qvxsThreshold_GTAbs_64f, (const Qvx64f* pSrc, Qvx64f* pDst, 
 QVXS_API(QvxStatus, qvxsThreshold_GTAbs_64f_I, (Qvx64f* pSrcDst, int len, Qvx64f level));
 
 /** dst[n] = 1 / src[n], where the magnitude of src[n] is raised to level first, its sign or phase kept.
- *  Real forms round once. Complex forms compute as the complex threshold does: 32fc in Qvx64f, 64fc to a few roundings; an
- *  infinite element gives zeros, a NaN as a part gives two. A zero at level 0, or at a NaN, becomes an infinity of
- *  its sign; the complex one has both parts +infinity.
+ *  Real forms round once. Complex forms compute as the complex threshold does: 32fc in Qvx64f, 64fc to a few roundings, but for
+ *  parts below 1e-307 of the other; an infinite element gives zeros, a NaN as a part gives two. A zero at level 0, or at a NaN,
+ *  becomes an infinity of its sign; the complex one has both parts +infinity.
  *  All rounds to nearest whatever the mode. No floating-point exception reaches the caller: neither flag nor trap.
  *  Long vectors (32f: 8192; 64f and 32fc: 2048; 64fc: 512 elements) may be divided between two threads.
  *  Returns as above; if there was a zero at level 0 (the vector is complete), qvxWarnInvZero below those lengths,
