@@ -1,4 +1,5 @@
 // dst = src1 * src2 and dst = src * val, exact
+#include "frame/complex.h"
 #include "frame/past_caches.h"
 #include "vector/product.h"
 
@@ -7,6 +8,14 @@ using namespace qvx;
 namespace {
 
 const uint16_t* bits(const Qvx16s* p) { return reinterpret_cast<const uint16_t*>(p); }
+
+QvxStatus realByComplex(const Qvx32f* a, const Qvx32fc* b, Qvx32fc* dst, int len) {
+  if (QVXS_AVX2 || len < 32) return map<Product>(dst, len, AsIs{}, Doubled{a}, b);
+  const QvxStatus status = check(len, a, b, dst);
+  if (status != qvxStatOk) return status;
+  const auto products = [](auto v, auto w) { return decltype(v){v.lo * w.lo, v.hi * w.hi}; };
+  return loop(products, InTwos{destination(dst)}, 2 * elements(len), DoubledInTwos{a}, InTwos{source(b)});
+}
 
 }  // namespace
 
@@ -33,8 +42,8 @@ QvxStatus qvxsMul_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { re
 QvxStatus qvxsMul_32f_I(const Qvx32f* a, Qvx32f* d, int len) { return map<Product>(d, len, AsIs{}, a, d); }
 QvxStatus qvxsMul_32fc(const Qvx32fc* a, const Qvx32fc* b, Qvx32fc* d, int len) { return map<ComplexProduct>(d, len, PastCaches{}, a, b); }
 QvxStatus qvxsMul_32fc_I(const Qvx32fc* a, Qvx32fc* d, int len) { return map<ComplexProduct>(d, len, AsIs{}, a, d); }
-QvxStatus qvxsMul_32f32fc(const Qvx32f* a, const Qvx32fc* b, Qvx32fc* d, int len) { return map<Product>(d, len, AsIs{}, Doubled{a}, b); }
-QvxStatus qvxsMul_32f32fc_I(const Qvx32f* a, Qvx32fc* d, int len) { return map<Product>(d, len, AsIs{}, Doubled{a}, d); }
+QvxStatus qvxsMul_32f32fc(const Qvx32f* a, const Qvx32fc* b, Qvx32fc* d, int len) { return realByComplex(a, b, d, len); }
+QvxStatus qvxsMul_32f32fc_I(const Qvx32f* a, Qvx32fc* d, int len) { return realByComplex(a, d, d, len); }
 QvxStatus qvxsMul_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Product>(d, len, PastCaches{}, a, b); }
 QvxStatus qvxsMul_64f_I(const Qvx64f* a, Qvx64f* d, int len) { return map<Product>(d, len, AsIs{}, a, d); }
 QvxStatus qvxsMul_64fc(const Qvx64fc* a, const Qvx64fc* b, Qvx64fc* d, int len) { return map<ComplexProduct>(d, len, PastCaches{}, a, b); }
