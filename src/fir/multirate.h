@@ -59,11 +59,14 @@ template <class R> void setLineTaps(R& record, const typename R::Kernel* reverse
   if (isNull(record.line)) return;
   const Ratio& q = record.ratio;
   const auto count = static_cast<size_t>(q.taps);
-  const size_t length = dotsLen<C>(count);
-  std::fill_n(record.lineTaps, length * static_cast<size_t>(q.up), C{});
+  const size_t before = dotsLen<C>(count) - count;
+  const size_t each = dotsTapsLen<C>(count);
+  std::fill_n(record.lineTaps, each * static_cast<size_t>(q.up), C{});
   forEachBranch(q, [&](const Branch& branch, int number) {
-    C* const taps = record.lineTaps + static_cast<size_t>(number + 1) * length - count;
-    for (int t = 0; t < q.taps; ++t) taps[t] = q.tapOf(reversed, record.tapsLen, branch.tap, t);
+    C* const taps = record.lineTaps + static_cast<size_t>(number) * each;
+    for (int t = 0; t < q.taps; ++t) {
+      setDotsTap(q.tapOf(reversed, record.tapsLen, branch.tap, t), before + static_cast<size_t>(t), taps);
+    }
   });
 }
 

@@ -196,7 +196,7 @@ template <class R> class LineBranches {
     if constexpr (std::is_integral_v<C>) convolveApart(x_, first, down, taps_, taps, periods_, sums, places_);
     else convolveApart(x_, first, down, taps_, taps, periods_, sums);
     if (ratio_.up == 1) return;
-    taps_ += dotsLen<C>(taps);
+    taps_ += dotsTapsLen<C>(taps);
     branch_.advance(ratio_.up, ratio_.down);
   }
 

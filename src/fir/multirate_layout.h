@@ -130,7 +130,8 @@ template <class R> bool placeRows(R& record, Carver& carver, const Qvx8u* begin,
 // The most outputs of a call that are added up one by one. Rows give vectors of outputs, once the samples are dealt: where an
 // output drops many samples and has few taps that is most of the time, so calls of any length go one by one: 8:1 takes 0.4 of it
 // with 16 taps, 0.75 with 64, and 4:1 0.65 with 16. Up to 64 outputs it is the call for each branch: 42 to 63 outputs of two or
-// three branches take 0.65 to 0.9, of 4:1 with 64 taps 0.6.
+// three branches take 0.65 to 0.9, of 4:1 with 64 taps 0.6. Complex ones 0.55 to 0.9, but for 4:1 with 256 taps or more in
+// AVX-512, where 16 outputs take 1.05 to 1.1; in SSSE3, where rows save least, 256 outputs of 4:1 take 0.85 and less.
 inline constexpr int kMostDots = 64;
 template <class C> int mostDots(const Ratio& q) {
   constexpr int kAny = std::numeric_limits<int>::max();
@@ -138,6 +139,10 @@ template <class C> int mostDots(const Ratio& q) {
   constexpr bool kIsLong = kVectorBytes > 16;
   if (q.up > 1) return q.taps <= 128 || kIsInteger ? kMostDots : 16;
   if (q.down == 2) return kVectorElements<C> <= 8 && q.taps <= (kHasMasks ? 16 : 64) ? 32 : 8;
+  if constexpr (PartsOf<C>::kCount == 2) {
+    if (!kIsLong && q.down >= 4 && q.taps <= 64) return kAny;
+    if (kHasMasks && q.down >= 4 && q.down < 8 && q.taps > 64) return 8;
+  }
   if (q.down >= 8 && q.taps <= 64) return kIsInteger && kHasMasks ? kMostDots : kAny;
   if (q.down < 4 || q.taps > 64 || (kIsInteger && kHasMasks)) return 16;
   return q.taps <= 16 && kIsLong != kIsInteger ? kAny : kMostDots;
@@ -164,7 +169,7 @@ template <class R> bool placeLine(R& record, Carver& carver) {
   record.staysIfFew = -first <= kMostApart * q.down;
   const int64_t whole = record.lineHistory() + (q.taps > 4 * N ? first : 0);
   record.line = carver.takeLines<C>(2 * N + lineLen(record)) + N + (N - whole % N) % N;
-  record.lineTaps = carver.takeLines<C>(q.up * length);
+  record.lineTaps = carver.takeLines<C>(q.up * static_cast<int64_t>(dotsTapsLen<C>(static_cast<size_t>(q.taps))));
   return true;
 }
 
