@@ -16,20 +16,18 @@ inline auto loadedParts(const float* p) {
   return Complex<Vec<decltype(half)>>{hn::LowerHalf(half, parts.re), hn::LowerHalf(half, parts.im)};
 }
 
-// A real source beside InTwos of complex ones: one load for both vectors. SSSE3 loads half registers otherwise, which bounds its
-// products: 4096 floats by complex ones take 556 ns, not 669.
-template <class T> struct DoubledInTwos {
+// A real source beside InTwos of complex ones: one load for both vectors, which eachTwice() shuffles. SSSE3 loads half registers
+// otherwise, which bounds its products: 4096 floats by complex ones take 556 ns, not 669.
+template <class T> struct BesideTwos {
   using Lane = hwy::UnsignedFromSize<sizeof(T) / 2>;
   const T* p;
 
-  template <size_t N> auto get(size_t at) const { return eachTwice(load(Lanes<T, N / 2>(), p + at / 2)); }
-  template <size_t N> auto get(size_t at, size_t n) const { return eachTwice(loadFirst(Lanes<T, N / 2>(), p + at / 2, n / 2)); }
-  DoubledInTwos from(size_t at) const { return {p + at / 2}; }
-
- private:
-  template <class V> static Pair<V> eachTwice(V v) { return interleaved(Pair<V>{v, v}); }
+  template <size_t N> auto get(size_t at) const { return load(Lanes<T, N / 2>(), p + at / 2); }
+  template <size_t N> auto get(size_t at, size_t n) const { return loadFirst(Lanes<T, N / 2>(), p + at / 2, n / 2); }
+  BesideTwos from(size_t at) const { return {p + at / 2}; }
 };
-template <class T> DoubledInTwos(const T*) -> DoubledInTwos<T>;
+template <class T> BesideTwos(const T*) -> BesideTwos<T>;
+template <class V> Pair<V> eachTwice(V v) { return interleaved(Pair<V>{v, v}); }
 
 // Interleaved parts, loaded as a Pair of real and imaginary parts. kPastEnd: the real part of the elements past the end.
 template <class T, int kPastEnd = 0> struct Deinterleaved {
@@ -149,6 +147,16 @@ template <class T> struct InterleavedDestination {
   }
   InterleavedDestination from(size_t at) const { return {p + 2 * at}; }
 };
+
+// A part of ByParts, or a result of both, in the order of the elements.
+template <class V> V inOrder(V v) {
+  static_assert(sizeof(V) <= 32);
+#if QVXS_AVX2
+  if constexpr (sizeof(V) == 32)
+    return as<LaneOf<V>>(Vec<Lanes<int64_t, 4>>{_mm256_permute4x64_epi64(as<int64_t>(v).raw, 0xD8)});
+#endif
+  return v;
+}
 
 template <class T, int kPastEnd> Deinterleaved<T, kPastEnd> source(Deinterleaved<T, kPastEnd> v) { return v; }
 template <class T, int kPastEnd> const T* pointerOf(Deinterleaved<T, kPastEnd> v) { return v.p; }

@@ -13,8 +13,11 @@ QvxStatus realByComplex(const Qvx32f* a, const Qvx32fc* b, Qvx32fc* dst, int len
   if (QVXS_AVX2 || len < 32) return map<Product>(dst, len, AsIs{}, Doubled{a}, b);
   const QvxStatus status = check(len, a, b, dst);
   if (status != qvxStatOk) return status;
-  const auto products = [](auto v, auto w) { return decltype(v){v.lo * w.lo, v.hi * w.hi}; };
-  return loop(products, InTwos{destination(dst)}, 2 * elements(len), DoubledInTwos{a}, InTwos{source(b)});
+  const auto products = [](auto v, auto w) {
+    const auto both = eachTwice(v);
+    return decltype(w){both.lo * w.lo, both.hi * w.hi};
+  };
+  return loop(products, InTwos{destination(dst)}, 2 * elements(len), BesideTwos{a}, InTwos{source(b)});
 }
 
 }  // namespace
