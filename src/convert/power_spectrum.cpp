@@ -5,8 +5,7 @@ using namespace qvx;
 
 namespace {
 
-// AVX2 puts only the result in order, by one shuffle, and not both parts by one each: 16 doubles take 12 cycles, not 16, where one
-// port shuffles.
+// AVX2 puts only the result in order, by one shuffle, not both parts: 16 doubles take 12 cycles, not 16, where one port shuffles.
 struct PowerOfParts {
   template <class V> V operator()(Complex<V> z) const { return inOrder(Power()(z.re, z.im)); }
 };

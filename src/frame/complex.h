@@ -152,8 +152,7 @@ template <class T> struct InterleavedDestination {
 template <class V> V inOrder(V v) {
   static_assert(sizeof(V) <= 32);
 #if QVXS_AVX2
-  if constexpr (sizeof(V) == 32)
-    return as<LaneOf<V>>(Vec<Lanes<int64_t, 4>>{_mm256_permute4x64_epi64(as<int64_t>(v).raw, 0xD8)});
+  if constexpr (sizeof(V) == 32) return as<LaneOf<V>>(Vec<Lanes<int64_t, 4>>{_mm256_permute4x64_epi64(as<int64_t>(v).raw, 0xD8)});
 #endif
   return v;
 }
