@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """The numbers of src/math/*.h: minimax polynomials, and the logarithm's tables of reciprocals. Needs mpmath.
 
-usage: minimax.py exp | ln | tables | arctan | sin | sine
+usage: minimax.py exp | ln | tables | half | arctan | sin | sine
 
 A polynomial p of degree n is fitted by Remez exchange so that the largest |weight(x) * (p(x) - f(x))| on the interval is least;
 its coefficients are then rounded to the lane's type, lowest power first. "error" is what remains of that largest value after
@@ -144,6 +144,24 @@ def tables():
         print('  ln 2: ' + float(high).hex() + ' + ' + rounded(log(2) - high, lane).hex())
 
 
+def half_ln():
+    """Half the logarithm: intervals around 1, 1 + 1/entries and so on, for each half of a reciprocal whose logarithm is next to a float."""
+    random.seed(1)
+    def q(r):  # ln(1 + 2 r) / 2 = r + r^2 q(r)
+        return series(r, lambda r: (log1p(2 * r) / 2 - r) / r**2, lambda k: mpf((-1)**(k + 1)) * 2**(k + 1) / (k + 2))
+    for entries, degree in ((32, 2), (8, 4)):
+        fit(f'half, {entries} entries', 'float', q, lambda r: abs(r) + mpf(10)**-30, degree, -mpf('1.07') / 4 / entries, mpf('1.07') / 4 / entries)
+        chosen, worst = [(1.0, 0.0)], 0
+        for i in range(1, entries):
+            low, high = 1 + (mpf(i) - 0.5) / entries, 1 + (mpf(i) + 0.5) / entries
+            chosen.append(near_multiple(2 / (low + high), (1 / low - 1 / high) / 32, 16, 'float', 150000))
+            unit = mpf(2)**(mp.floor(log(chosen[-1][1], 2)) + 1 - PLACES['float'])
+            worst = max(worst, abs(-log(mpf(chosen[-1][0])) - chosen[-1][1]) / unit)
+        print(f'half, {entries} entries: off by at most {float(worst):.3g} ULP')
+        for numbers in zip(*chosen):
+            print('  ' + ', '.join((v / 2).hex() for v in numbers))
+
+
 def fit_arctan():
     def q(z):  # atan t = t + t z q(z), z = t^2
         return series(z, lambda z: (atan(sqrt(z)) / sqrt(z) - 1) / z, lambda k: mpf((-1)**(k + 1)) / (2 * k + 3))
@@ -178,4 +196,4 @@ def fit_sine():
 
 
 if __name__ == '__main__':
-    {'exp': fit_exp, 'ln': fit_ln, 'tables': tables, 'arctan': fit_arctan, 'sin': fit_sin, 'sine': fit_sine}[sys.argv[1]]()
+    {'exp': fit_exp, 'ln': fit_ln, 'tables': tables, 'half': half_ln, 'arctan': fit_arctan, 'sin': fit_sin, 'sine': fit_sine}[sys.argv[1]]()

@@ -167,39 +167,6 @@ template <class V, class OnBad> V ln(V x, OnBad onBad) {
   return y;
 }
 
-namespace detail {
-
-// The numbers of a half of the logarithm, by a half of r.
-struct HalfLnNumbers {
-  alignas(64) float logarithms[std::size(LnNumbers<float>::kLogarithms)];
-  float q[std::size(LnNumbers<float>::kQ)];
-
-  constexpr HalfLnNumbers() : logarithms(), q() {
-    using C = LnNumbers<float>;
-    for (size_t i = 0; i < std::size(logarithms); ++i) logarithms[i] = C::kLogarithms[i] / 2;
-    float power = 2;
-    for (size_t i = 0; i < std::size(q); ++i, power *= 2) q[i] = C::kQ[i] * power;
-  }
-};
-inline constexpr HalfLnNumbers kHalfLn;
-
-}  // namespace detail
-
-// ln(x + rest) / 2 for x from 1 to below infinity and a rest that is hardly more than half of its last place. With a rest within
-// 2^-26 of its own the error is below 1.6 ULP.
-template <class V> V halfLnOfSum(V x, V rest) {
-  using I = Vec<Lanes<int32_t, kLanesOf<V>>>;
-  const auto bits = as<int32_t>(x);
-  const auto i = hn::ShiftRight<23 - 5>(as<uint32_t>(x));
-  // k where a float has its exponent: mantissas from 1.5 on count to the next.
-  const auto k = (bits - same<I>(0x3F400000)) & same<I>(-0x800000);
-  const auto reciprocal = lookup<V>(i, detail::LnNumbers<float>::kReciprocals);
-  const V scaled = as<float>(as<int32_t>(reciprocal) - (k + same<I>(0x800000)));  // by 2^-k / 2
-  const V r = hn::MulAdd(rest, scaled, hn::MulSub(x, scaled, same<V>(0.5F)));
-  const V high = hn::MulAdd(hn::ConvertTo(TagOf<V>(), k), same<V>(0x1.62E43p-25F), lookup<V>(i, detail::kHalfLn.logarithms));
-  return high + hn::MulAdd(r * r, polynomial(r, detail::kHalfLn.q), r);
-}
-
 #else
 
 template <class V, class OnBad> V ln(V x, OnBad onBad) {
@@ -238,23 +205,6 @@ template <class V, class OnBad> V ln(V x, OnBad onBad) {
     y = detail::lnOfBad(given, y, isBad);
   }
   return y;
-}
-
-template <class V> V halfLnOfSum(V x, V rest) {
-  using C = detail::LnNumbers<float>;
-  const auto integer = [&](uint32_t value) { return hn::Set(hn::Repartition<uint32_t, TagOf<V>>(), value); };
-  const auto fromRoot = as<uint32_t>(x) + integer(C::kOne - C::kRootOfHalf);
-  const V m = as<float>((fromRoot & integer((1U << 23) - 1)) + integer(C::kRootOfHalf));
-  const auto exponent = as<int32_t>(x) - as<int32_t>(m);
-  const V k = hn::ConvertTo(TagOf<V>(), exponent) * same<V>(0x1p-23F);
-  const V scale = as<float>(as<int32_t>(same<V>(1)) - exponent);
-  const V f = hn::MulAdd(rest, scale, m - same<V>(1));
-  const V s = f / (f + same<V>(2));
-  const V z = s * s;
-  const V half = f * f * same<V>(0.5F);
-  const V more = hn::MulAdd(z, polynomial(z, C::kP), half);
-  const V low = hn::MulAdd(s, more, k * same<V>(C::kLn2Low));
-  return hn::MulSub(k, same<V>(C::kLn2High), (half - low) - f) * same<V>(0.5F);
 }
 
 #endif
