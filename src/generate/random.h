@@ -172,6 +172,50 @@ template <class Take, class TakeLast>
   }
 }
 
+// The next n numbers one after the other, by the rule: take(at, four) gets four at a time, takeLast(at, count, four) what is
+// left. 2.6 cycles a number with all that becomes of it; 3.2 if the congruential part too were made of single numbers.
+template <class Take, class TakeLast>
+[[gnu::always_inline]] inline void advanceByRule(Generator& state, size_t n, Take take, TakeLast takeLast) {
+  using namespace detail;
+  const Lanes<uint32_t, 4> d;
+  const Lanes<uint64_t, 2> d64;
+  Generator now = state;
+  const auto next = [&]() __attribute__((always_inline)) {
+    uint32_t difference = now.lag2 - now.lag3;
+    __asm__("" : "+r"(difference));  // else the borrow, which all waits for, is added before the subtraction
+    const uint32_t t = difference + now.borrow;
+    now.borrow = signOf(t);
+    now.lag3 = now.lag2;
+    now.lag2 = now.lag1;
+    now.lag1 = t - (now.borrow & 18);
+    return uint64_t{now.lag1};
+  };
+  const auto congs = [&](size_t i) __attribute__((always_inline)) {
+    return hn::Set(d, now.cong) * load(d, kStepsOn.factor + i) + load(d, kStepsOn.term + i);
+  };
+  const auto together = [&](uint64_t lower, uint64_t upper, size_t i) __attribute__((always_inline)) {
+    const auto both = hn::InterleaveLower(d64, hn::Set(d64, lower), hn::Set(d64, upper));
+    return as<int32_t>(as<uint32_t>(both) + congs(i));
+  };
+  for (size_t from = 0; from < n; from += kBlock) {
+    const size_t count = std::min(n - from, kBlock);
+    size_t i = 0;
+    for (; i + 4 <= count; i += 4) {
+      const uint64_t first = next();
+      const uint64_t lower = next() << 32 | first;
+      const uint64_t third = next();
+      take(from + i, together(lower, next() << 32 | third, i));
+    }
+    if (i < count) {
+      uint64_t parts[2] = {};
+      for (size_t k = 0; i + k < count; ++k) parts[k / 2] |= next() << (32 * (k % 2));
+      takeLast(from + i, count - i, together(parts[0], parts[1], i));
+    }
+    now.cong = now.cong * kStepsOn.factor[count - 1] + kStepsOn.term[count - 1];
+  }
+  state = now;
+}
+
 // Reals to the elements of T, in the mode to nearest; limited to their range.
 template <class T, class V> auto rounded(V v) {
   if constexpr (std::is_floating_point_v<T>) {

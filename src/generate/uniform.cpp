@@ -41,14 +41,43 @@ struct Mapping {
   static Mapping between(double low, double high) { return {(high - low) * 2.3283064365387e-10, (low + high) * 0.5}; }
 };
 
-template <class T> void fill(T* dst, size_t n, Mapping map, Generator& source) {
-  constexpr size_t kWide = kVectorBytes / sizeof(double);
-  const RoundingScope mode(std::is_integral_v<T> ? Rounding::kNearest : Rounding::kCallers);
-  const auto mapped = [map](auto v) {
+// Up to here numbers follow the rule, which does not wait for a block: 16 floats take 15 ns, not 18.7, 4 take 7.6, not 17.9. In
+// SSSE3, without a product of 32-bit lanes, blocks never pay: 4096 take 2.5 us, not 4.1.
+constexpr size_t kFew = QVXS_AVX2 ? 20 : SIZE_MAX;
+
+template <class T> struct Mapped {
+  Mapping map;
+
+  template <class V> auto operator()(V v) const {
     const auto wide = convertLanes<double>(v);
     using W = std::remove_const_t<decltype(wide)>;
     return rounded<T>(wide * same<W>(map.scale) + same<W>(map.mid));
+  }
+};
+
+template <class T> [[gnu::noinline]] void fillByRule(T* dst, size_t n, Mapped<T> mapped, Generator& source) {
+  const auto put = [=](T* to, auto four) {
+    if constexpr (kVectorBytes > 16) {
+      store(mapped(four), Lanes<T, 4>(), to);
+    } else {
+      store(mapped(hn::LowerHalf(Lanes<int32_t, 2>(), four)), Lanes<T, 2>(), to);
+      store(mapped(upperHalf(four)), Lanes<T, 2>(), to + 2);
+    }
   };
+  advanceByRule(
+      source, n, [=](size_t at, auto four) { put(dst + at, four); },
+      [=](size_t at, size_t count, auto four) {
+        T last[4];
+        put(last, four);
+        for (size_t i = 0; i < count; ++i) dst[at + i] = last[i];
+      });
+}
+
+template <class T> void fill(T* dst, size_t n, Mapping map, Generator& source) {
+  constexpr size_t kWide = kVectorBytes / sizeof(double);
+  const RoundingScope mode(std::is_integral_v<T> ? Rounding::kNearest : Rounding::kCallers);
+  const Mapped<T> mapped = {map};
+  if (n <= kFew) return fillByRule(dst, n, mapped, source);
   const auto whole = [=](size_t at, const int32_t* r) {
     unrolled<kBlock / kWide>([&](auto v) {
       constexpr size_t i = v * kWide;
