@@ -4,6 +4,7 @@
 #include "frame/lane_numbers.h"
 #include "frame/map.h"
 #include "frame/rounding.h"
+#include "frame/to_int64.h"
 #include "frame/unroll.h"
 #include "math/sine.h"
 
@@ -125,7 +126,7 @@ template <int kDigits> struct Chirp {
   Chirp(double magn, int len) : magn(magn), period(4.0 * len) {}
   template <class V> V operator()(V n) const {
     const V square = n * n;
-    const V turns = hn::Round(square * same<V>(1 / period));
+    const V turns = shortNearest(square * same<V>(1 / period));
     const V rest = hn::NegMulAdd(turns, same<V>(period), square);
     return same<V>(magn) * sineOfHalfTurn<kDigits>(rest * same<V>(1 / period));
   }

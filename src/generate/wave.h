@@ -4,6 +4,7 @@
 #include "frame/complex.h"
 #include "frame/each_vector.h"
 #include "frame/rounding.h"
+#include "frame/to_int64.h"
 #include "frame/unroll.h"
 
 namespace qvx::generate {
@@ -74,7 +75,7 @@ template <class Real, size_t kVectors = kTogether> class Phases {
   [[gnu::always_inline]] auto operator()(uint64_t first, size_t i) const {
     const auto sum = hn::Set(d_, lane(first)) + load(d_, steps_ + i * N);
     if constexpr (kCounts) return hn::ConvertTo(Lanes<Real, N>(), sum);
-    else return sum - hn::Round(sum);
+    else return sum - shortNearest(sum);
   }
 
  private:

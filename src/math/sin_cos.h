@@ -75,7 +75,7 @@ template <int kDigits, class V> SinCos<V> sinCos(V x) {
   const TagOf<V> d;
   const V signBit = same<V>(-0.0);
   const V size = hn::AndNot(signBit, x);
-  const V k = hn::Round(size * same<V>(0x1.45F306DC9C883p-1));
+  const V k = shortNearest(size * same<V>(0x1.45F306DC9C883p-1));
   const V first = hn::NegMulAdd(k, same<V>(0x1.921fb544p+0), size);
   const V kB = same<V>(0x1.0b4611a6p-34);
   const V kC = same<V>(0x1.3198a2e037073p-69);

@@ -19,7 +19,7 @@
 namespace qvx {
 
 // Angles are counted in turns, which are reduced without loss.
-template <class V> V fractionOfTurns(V turns) { return turns - hn::Round(turns); }
+template <class V> V fractionOfTurns(V turns) { return turns - shortNearest(turns); }
 
 // For turns up to an eighth: nothing to reduce or to swap, half the latency.
 template <int kDigits, class V> SinCos<V> sinCosOfEighth(V turns) {

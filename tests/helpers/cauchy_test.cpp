@@ -20,7 +20,7 @@ long double first(long double x, long double c) { return x / (c * c + x * x); }
 long double second(long double x, long double c) { return (c - x) * (c + x) / ((c * c + x * x) * (c * c + x * x)); }
 
 // All magnitudes of a float, those around C, and its next neighbours, where the second derivative passes zero. And some that,
-// with C = 0x1.000f5ap+0 or 0x1.67e9bp-8, tell whether C^2 or 1 / C^2 was rounded to a float, with 0x1.41ba38p+0 the first part
+// with C = 0x1.000f5ap+0 or 0x1.67e9bp-8, tell whether C^2 or 1 / C^2 was rounded to a float, with 0x1.261feep+0 the first part
 // of the logarithm's sum.
 std::vector<Qvx32f> arguments(Qvx32f c, Random& random) {
   std::vector<Qvx32f> x = {0.0F,
@@ -35,7 +35,7 @@ std::vector<Qvx32f> arguments(Qvx32f c, Random& random) {
                            0x1.fbf0f4p-10F,
                            0x1.5e7e2cp-20F,
                            0x1.61352ep-20F,
-                           0x1.46a962p-2F};
+                           0x1.26cefp-3F};
   for (int i = 0; i < 30; ++i) x.push_back(c + static_cast<float>(i - 15) * std::max(c * 0x1p-23F, 0x1p-149F));
   for (int i = 0; i < 4000; ++i) {
     const auto any = std::bit_cast<Qvx32f>(static_cast<uint32_t>(random()));
@@ -59,7 +59,7 @@ template <class Call> void inParts(int n, Call call) {
 
 TEST(Cauchy, IsWithinTwoUlpInAnyRoundingMode) {
   Random random(tests::seed());
-  for (const Qvx32f c : {1.0F, 1.5F, 0.37F, 2.3849F, 0x1.000f5ap+0F, 0x1.67e9bp-8F, 0x1.41ba38p+0F, 1e-3F, 1e19F, 1e20F, 3.4e38F,
+  for (const Qvx32f c : {1.0F, 1.5F, 0.37F, 2.3849F, 0x1.000f5ap+0F, 0x1.67e9bp-8F, 0x1.261feep+0F, 1e-3F, 1e19F, 1e20F, 3.4e38F,
                          1e-19F, 1e-23F, 1e-38F, 1e-45F}) {
     const auto x = arguments(c, random);
     const auto n = static_cast<int>(x.size());
