@@ -108,17 +108,21 @@ template <class T, class Kernel> struct BothEnds {
     Destination<T>{dst}.template put<2 * N>(last, back);
   }
   // Of which the first `rest` count: whole halves as far as they go. 16-bit numbers under a mask go at once: 20 of them take 15
-  // ns, by halves 41, since the last few wait for what was stored before them.
+  // ns, by halves 41, since the last few wait for what was stored before them. Just a half needs no mask: 16 take 5.5 ns, not 7.4.
   template <class V> void operator()(size_t at, V weights, size_t rest) const {
     const TagOf<V> d;
     constexpr size_t kHalf = kLanesOf<V> / 2;
-    if constexpr (2 * kHalf * sizeof(Part<T>) > 16 && !(kHasMasks && sizeof(Part<T>) == 2)) {
+    constexpr bool kUnderMask = kHasMasks && sizeof(Part<T>) == 2;
+    if constexpr (2 * kHalf * sizeof(Part<T>) > 16 && !kUnderMask) {
       const hn::Half<decltype(d)> half;
       const auto lower = hn::LowerHalf(half, weights);
       if (rest < kHalf) return (*this)(at, lower, rest);
       (*this)(at, lower);
       if (rest > kHalf) (*this)(at + kHalf, upperHalf(weights), rest - kHalf);
     } else {
+      if constexpr (kUnderMask && kHalf * sizeof(Part<T>) == 16) {
+        if (rest == kHalf) return (*this)(at, hn::LowerHalf(hn::Half<decltype(d)>(), weights));
+      }
       const hn::RebindToSigned<decltype(d)> places;
       const auto last = hn::Set(places, static_cast<hn::TFromD<decltype(places)>>(rest - 1));
       const auto order = hn::Max(last - hn::Iota(places, 0), hn::Zero(places));
