@@ -39,9 +39,9 @@ template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, 
     plan.direct.n = n;
     return {0, 0};
   }
-  if (n <= kMostDirect && isPrime(n)) {
+  if (n <= kMostDirect<2, T> && isPrime(n)) {
     plan.way = Way::kDirect;
-    return chooseDirect(plan.direct, n, false);
+    return chooseDirect<2>(plan.direct, n);
   }
   if (!isApart && chooseGrid(plan.grid, n)) {
     plan.way = Way::kGrid;
@@ -69,7 +69,7 @@ template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* blo
       else makeFft<T>(plan.fft, Fft<T>::kInit, plan.n, flag, block);
       break;
     case Way::kDirect:
-      if (plan.n > kMostSmall) writeDirect(plan.direct, false, block);
+      if (plan.n > kMostSmall) writeDirect<2>(plan.direct, block);
       break;
     case Way::kGrid:
       writeGrid(plan.grid, reinterpret_cast<T*>(block));
@@ -144,7 +144,7 @@ void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* sr
   if (plan.way == Way::kConvolution) return convolve(plan.convolution, plan.n, srcRe, srcIm, dstRe, dstIm, factor, work);
   const size_t n = plan.n;
   if (plan.way == Way::kDirect) {
-    T points[2 * kMostDirect];
+    T points[2 * kMostDirect<2, T>];
     for (size_t i = 0; i < n; ++i) points[2 * i] = srcRe[i], points[2 * i + 1] = srcIm[i];
     small(plan.direct, false, points, points, factor);
     for (size_t i = 0; i < n; ++i) dstRe[i] = points[2 * i], dstIm[i] = points[2 * i + 1];

@@ -66,8 +66,21 @@ template <bool kInverse, class T> void recombinePairs(const T* src, T* dst, size
   dst[h + 1] = -src[h + 1];
 }
 
-// Up to here the definition was measured to be faster.
-template <class T> inline constexpr uint32_t kMostDirectReal = std::max<uint32_t>(16, 2 * kWidest<T>);
+// Up to here any odd number goes by the definition, beyond only one with a prime factor for which no kernel of registers serves:
+// half of what complex points compute is lost on reals.
+template <class T>
+inline constexpr uint32_t kMostDirectOdd = kWidest<T> == 2   ? 55
+                                           : kWidest<T> == 4 ? 69
+                                           : kWidest<T> == 8 ? 99
+                                                             : 135;
+template <class T> bool isDirect(uint32_t n) {
+  if (n % 2 == 0 || n > kMostDirect<1, T>) return false;
+  if (n <= kMostDirectOdd<T>) return true;
+  for (const uint32_t p : {3, 5, 7, 11, 13}) {
+    while (n % p == 0) n /= p;
+  }
+  return n > 1;
+}
 
 template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
   plan.n = n;
@@ -87,9 +100,9 @@ template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
     plan.way = Way::kRegisters;
     return {0, 0};
   }
-  if (n <= kMostDirectReal<T> || (n <= kMostDirect && isPrime(n))) {
+  if (isDirect<T>(n)) {
     plan.way = Way::kDirect;
-    return chooseDirect(plan.direct, n, true);
+    return chooseDirect<1>(plan.direct, n);
   }
   Bytes bytes = choose(plan.complex, n % 2 == 0 ? n / 2 : n, false, QVX_FFT_SCALE_NONE);
   if (n % 2 == 0) bytes.tables += (n + 3) / 4 * 2 * static_cast<int64_t>(sizeof(T)) + Carver::kLine;
@@ -102,7 +115,7 @@ template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
 template <class T> void writeTables(RealPlan<T>& plan, int flag, uint8_t* block, uint8_t* work) {
   const size_t n = plan.n;
   if (plan.way == Way::kRegisters) return;
-  if (plan.way == Way::kDirect) return writeDirect(plan.direct, true, block);
+  if (plan.way == Way::kDirect) return writeDirect<1>(plan.direct, block);
   if (plan.way == Way::kFft) {
     RealFft<T>::kInit(&plan.fft, std::countr_zero(n), flag, 0, block, block);
     return;
