@@ -11,8 +11,9 @@ namespace qvx {
 
 // Vectors read from one side before the side is chosen again: the choice is an unpredictable branch.
 template <class K> inline constexpr size_t kPartitionVectors = kPartitionLanes<K> > 8 ? 4 : 8;
-// Keys of working memory. In SSSE3 it is also the room of a radix sort, whose counts take 10 KiB more of the stack.
-template <class K> inline constexpr size_t kSortBuffer = (sizeof(K) == 2 ? 16384 : kHasRadixSort ? 10240 : 8192) / sizeof(K);
+// Bytes of working memory, and the keys that they hold. As room of a radix sort they leave its counts 10 KiB of the stack.
+template <class K> inline constexpr size_t kSortBytes = sizeof(K) == 2 ? 16384 : kHasRoomInBuffer<K> ? 10240 : 8192;
+template <class K> inline constexpr size_t kSortBuffer = kSortBytes<K> / sizeof(K);
 
 // Keys up to which those above the pivot are copied to the buffer and back; whole vectors are stored.
 template <class K> inline constexpr size_t kFewKeys = std::min(kSortBuffer<K> - 2 * kPartitionLanes<K>, size_t{1024});
@@ -67,6 +68,25 @@ template <class K, class Map> size_t partitionFew(K* x, size_t n, K pivot, Map i
   return below;
 }
 
+// Keys that waited fill the gap to the last one: one by one until whole vectors are left, each of which is stored at both ends.
+// Where those that are not below the pivot begin.
+template <class K, class Map> [[gnu::always_inline]] inline K* fillGap(K* low, K* high, const K* waiting, K pivot, Map in) {
+  constexpr size_t N = kPartitionLanes<K>;
+  const Lanes<K, N> d;
+  for (; static_cast<size_t>(high - low) % N != 0; ++waiting) {
+    const K k = in.key(*waiting);
+    const bool isLow = k < pivot;
+    *low = high[-1] = k;
+    low += isLow;
+    high -= !isLow;
+  }
+  for (; low < high; waiting += N) {
+    const auto v = in.keys(load(d, waiting));
+    partitionLanes(v, v < same<decltype(v)>(pivot), low, high);
+  }
+  return low;
+}
+
 template <class K, class Map> size_t partition(K* x, size_t n, K pivot, Map in, K* buffer) {
   constexpr size_t N = kPartitionLanes<K>;
   constexpr size_t kStep = kPartitionVectors<K> * N;
@@ -103,21 +123,7 @@ template <class K, class Map> size_t partition(K* x, size_t n, K pivot, Map in, 
     });
     gap -= kStep;
   }
-  K* high = low + gap;
-  // What waited fills the gap to the last key: one by one until whole vectors are left, each of which is stored at both ends.
-  const K* waiting = buffer;
-  for (; static_cast<size_t>(high - low) % N != 0; ++waiting) {
-    const K k = in.key(*waiting);
-    const bool isLow = k < pivot;
-    *low = high[-1] = k;
-    low += isLow;
-    high -= !isLow;
-  }
-  for (; low < high; waiting += N) {
-    const V v = in.keys(load(d, waiting));
-    partitionLanes(v, v < pivots, low, high);
-  }
-  return static_cast<size_t>(low - x);
+  return static_cast<size_t>(fillGap(low, low + gap, buffer, pivot, in) - x);
 }
 
 }  // namespace detail

@@ -124,19 +124,14 @@ template <class K> class Quicksort {
       if constexpr (sizeof(K) == 2) {
         if (isCounted<K>(n, least, most)) return sortByCounting(x, n, in, map_, least, most, buffer_);
       }
-      if constexpr (kHasRadixSort) {
-        if (n >= kRadixFrom<K> && n <= kSortBuffer<K>) return radixSort(x, buffer_, n, in, map_);
-      }
       Often<K> often;
       K pivot = pivotOf(x, n, in, often);
       if (often.count > 0) {
-        const size_t others = countOut(x, n, in, often);
-        if (others <= n / 2) {
-          if (others > 0) sort(x, others, {}, least, most, levels - 1);
-          return mergeRuns(x, n, others, often, map_);
-        }
-        putBack(x, others, often);  // the sample misled
+        if (sortByCounts(x, n, in, often, least, most, levels)) return;
         in = {};
+      }
+      if constexpr (kHasRoomInBuffer<K>) {
+        if (n >= kRadixFrom<K> && n <= kSortBuffer<K>) return radixSort(x, buffer_, n, in, map_);
       }
       if (levels <= 0 || isDense(n, least, most)) pivot = middleOf(least, most);
       // A pivot that is the least key there can be: those equal to it are done.
@@ -164,6 +159,13 @@ template <class K> class Quicksort {
     if (n > 0) sortByNetwork(x, n, in, map_);
   }
 
+  // False, with all keys still there, if the sample misled.
+  bool sortByCounts(K* x, size_t n, KeyMap<K> in, Often<K>& often, K least, K most, int levels) {
+    const size_t others = countOut(x, n, in, often);
+    if (others > n / 2) return putBack(x, others, often), false;
+    if (others > 0) sort(x, others, {}, least, most, levels - 1);
+    return mergeRuns(x, n, others, often, map_), true;
+  }
   void fill(K* x, size_t n, K key) const { fillRun(x, n, map_.original(key)); }
 
   KeyMap<K> map_;
