@@ -37,7 +37,8 @@ QVXS_API(QvxStatus, qvxsSortDescend_64f_I, (Qvx64f* pSrcDst, int len));
  *    i = lo + 1, j = hi; while i < j: skip x[i] <= p; lower j past x[j] > p; exchange x[i] and x[j], ++i, --j;
  *    lower i past x[i] >= p, raise j past x[j] <= p, no further than lo and hi; go on with lo..i and j..hi;
  *  shorter ranges by taking the first of the largest elements to the end. If there are equal elements, vectors made to defeat the median of
- *  three take O(len^2) steps. Where stability matters use qvxsSortRadixIndex.
+ *  three take O(len^2) steps. Where stability matters use qvxsSortRadixIndex. Long vectors of different elements of 32 and 64 bits are divided
+ *  between two threads.
  *  With a NaN among the elements their order is not defined; each still has its index.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
 QVXS_API(QvxStatus, qvxsSortIndexAscend_8u_I, (Qvx8u* pSrcDst, Qvx32s* pDstIndx, int len));
@@ -66,7 +67,7 @@ QVXS_API(QvxStatus, qvxsSortRadixAscend_32f_I, (Qvx32f* pSrcDst, Qvx32f* pTmp, i
 QVXS_API(QvxStatus, qvxsSortRadixAscend_64f_I, (Qvx64f* pSrcDst, Qvx64f* pTmp, int len));
 
 /** pDstIndx[i] = the number, 0 to len-1, of the element that is in place i in ascending order; equal elements in the order of their numbers.
- *  Nothing is moved.
+ *  Nothing is moved. Long vectors of elements longer than a byte are divided between two threads.
  *  pSrc: len elements, srcStride bytes from the start of one to that of the next, any alignment; a negative stride goes down from pSrc.
  *  pDstIndx, pTmpIndx: len elements each, apart; what pTmpIndx holds afterwards is not defined.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1; 8u: srcStride 0; 16s, 16u: srcStride < 2; 32s, 32u, 32f: srcStride 0 to 3). */
