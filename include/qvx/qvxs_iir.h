@@ -443,9 +443,10 @@ QVXS_API(QvxStatus, qvxsIIRSparse_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int le
  *  rFreq: the cut-off relative to the sampling rate, inside (0, 0.5).
  *  filterType 0: Butterworth, gain 1 far inside the pass band and 1/sqrt(2) at rFreq; ripple is not looked at. 1: Chebyshev type I,
  *  gain between 1 and 10^(-ripple/20) in the pass band and the latter at rFreq; ripple in dB, inside (0, 29].
- *  Each tap is the correctly expanded one rounded to double. A high order at a low cut-off is ill-conditioned in this form whoever
- *  computes it: order 12 at 0.01 is unstable even though each tap is right to the last bit. Up to order 4 any cut-off from 0.001 to
- *  0.499 is sound, up to order 12 any from 0.05 to 0.45.
+ *  Each tap is the correctly expanded one rounded to double; an a that nearly vanishes, as every second one does near 0.25, is
+ *  within 2^-60 of the largest. A high order at a low cut-off is ill-conditioned in this form whoever computes it: order 12 at 0.01
+ *  is unstable even though each tap is right to the last bit. Up to order 4 any cut-off from 0.001 to 0.499 is sound, up to order
+ *  12 any from 0.05 to 0.45.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadGenOrder (order outside 1 to 12); qvxStatBadCutoff (rFreq); qvxStatBadGenParam
  *  (filterType, or the ripple of a Chebyshev filter). */
 QVXS_API(QvxStatus, qvxsIIRGenLowpass_64f, (Qvx64f rFreq, Qvx64f ripple, int order, Qvx64f* pTaps, int filterType));

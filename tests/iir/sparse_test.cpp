@@ -144,6 +144,24 @@ TEST(IirDesign, HasThePrototypesResponse) {
   }
 }
 
+// The taps of orders 1 and 2 in terms of tan(pi f), where poles are next to 1 or -1.
+TEST(IirDesign, KeepsItsDigitsNextToTheEndsOfTheBand) {
+  for (const double end : {1e-4, 1e-7, 1e-9, 1e-12}) {
+    for (const bool isLow : {true, false}) {
+      const double edge = isLow ? end : 0.5 - end;
+      const long double near = std::tan(kPi * (isLow ? edge : 0.5 - edge));  // small; a high-pass has the taps of 1 / near
+      for (const int order : {1, 2}) {
+        Qvx64f t[6];
+        ASSERT_EQ((isLow ? qvxsIIRGenLowpass_64f : qvxsIIRGenHighpass_64f)(edge, 1, order, t, 0), qvxStatOk);
+        const long double below = order == 1 ? 1 + near : 1 + std::numbers::sqrt2_v<long double> * near + near * near;
+        const auto first = static_cast<double>((order == 1 ? near : near * near) / below);
+        EXPECT_DOUBLE_EQ(t[0], first) << "order " << order << ", edge " << edge;
+        EXPECT_DOUBLE_EQ(std::abs(t[1]), order * first) << "order " << order << ", edge " << edge;
+      }
+    }
+  }
+}
+
 TEST(IirDesign, RefusesARippleThatIsNone) {
   Qvx64f t[26];
   for (const auto design : {qvxsIIRGenLowpass_64f, qvxsIIRGenHighpass_64f}) {
