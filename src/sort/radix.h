@@ -81,14 +81,14 @@ template <class K> void radixSort(K* x, K* room, size_t n, KeyMap<K> in, KeyMap<
   // The least key becomes zeros.
   in.flip ^= std::numeric_limits<K>::min();
   out.flip ^= std::numeric_limits<K>::min();
-  loop([in](auto v) { return in.keys(v); }, destination(x), n, source(x));
+  if (!in.isIdentity()) loop([in](auto v) { return in.keys(v); }, destination(x), n, source(x));
   K *from = x, *to = room;
   unrolled<detail::kPartsOfKey<K>>([&](auto part) {
     const bool isInRoom =
         n <= UINT16_MAX ? detail::sortByPart<uint16_t, part>(from, to, n) : detail::sortByPart<uint32_t, part>(from, to, n);
     if (isInRoom) std::swap(from, to);
   });
-  loop([out](auto v) { return out.originals(v); }, destination(x), n, source(from));
+  if (!out.isIdentity() || from != x) loop([out](auto v) { return out.originals(v); }, destination(x), n, source(from));
 }
 
 }  // namespace qvx
