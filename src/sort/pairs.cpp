@@ -47,7 +47,7 @@ void sortRange(Pairs<int32_t> x, size_t n, Pairs<int32_t> buffer, int32_t least,
     if (pivot == least) {
       const bool isLast = pivot == most;
       const size_t equal = isLast ? n : partitionPairs(x, n, pivot + 1, buffer);
-      Quicksort<int32_t>({}, buffer.keys).sort(x.numbers, equal, {});
+      Quicksort<int32_t, false>({}, buffer.keys).sort(x.numbers, equal, {});
       if (isLast) return;
       x = x.from(equal);
       n -= equal;

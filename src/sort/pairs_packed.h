@@ -103,7 +103,7 @@ template <class K> [[gnu::noinline]] bool sortPacked(Pairs<K> x, size_t n, int32
   const detail::Packing<K> packing(x.keys, n);
   alignas(64) K keys[kPackedPairs];
   packing.pack(x, n, {keys, numbers});
-  Quicksort<int32_t>({}, buffer).sort(x.numbers, n, {});
+  Quicksort<int32_t, false>({}, buffer).sort(x.numbers, n, {});
   const uint32_t placeMask = packing.placeMask();
   for (size_t i = 0; i < n; ++i) {
     const size_t place = static_cast<uint32_t>(x.numbers[i]) & placeMask;

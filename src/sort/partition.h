@@ -11,8 +11,9 @@ namespace qvx {
 
 // Vectors read from one side before the side is chosen again: the choice is an unpredictable branch.
 template <class K> inline constexpr size_t kPartitionVectors = kPartitionLanes<K> > 8 ? 4 : 8;
-// Bytes of working memory, and the keys that they hold. As room of a radix sort they leave its counts 10 KiB of the stack.
-template <class K> inline constexpr size_t kSortBytes = sizeof(K) == 2 ? 16384 : kHasRoomInBuffer<K> ? 10240 : 8192;
+// Bytes of working memory, and the keys that they hold. As room of a radix sort they leave its counts 10 KiB of the
+// stack, and the ranges of long vectors 5.
+template <class K> inline constexpr size_t kSortBytes = sizeof(K) == 2 ? 16384 : kHasRoomInBuffer<K> ? 9216 : 8192;
 template <class K> inline constexpr size_t kSortBuffer = kSortBytes<K> / sizeof(K);
 
 // Keys up to which those above the pivot are copied to the buffer and back; whole vectors are stored.

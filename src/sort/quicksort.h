@@ -107,7 +107,8 @@ static_assert(middleOf(INT32_MIN, INT32_MAX) == 0 && middleOf(-2, -1) == -1 &&
 // halved, which ends when there is one: a sort takes O(n (log n + bits of a key)) whatever it is given.
 inline int levelsByMedians(size_t n) { return 4 * static_cast<int>(std::bit_width(n)); }
 
-template <class K> class Quicksort {
+// kHasRoom: the stack has room for the counts of a radix sort.
+template <class K, bool kHasRoom = kHasRoomInBuffer<K>> class Quicksort {
  public:
   // `buffer`: kSortBuffer keys.
   Quicksort(KeyMap<K> map, K* buffer) : map_(map), buffer_(buffer) {}
@@ -130,7 +131,7 @@ template <class K> class Quicksort {
         if (sortByCounts(x, n, in, often, least, most, levels)) return;
         in = {};
       }
-      if constexpr (kHasRoomInBuffer<K>) {
+      if constexpr (kHasRoom) {
         if (n >= kRadixFrom<K> && n <= kSortBuffer<K>) return radixSort(x, buffer_, n, in, map_);
       }
       if (levels <= 0 || isDense(n, least, most)) pivot = middleOf(least, most);

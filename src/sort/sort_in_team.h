@@ -16,7 +16,7 @@ inline bool isSortedInTeam(size_t n) { return n >= kSortTeam.worthIt && kSortTea
 
 // The median of so many keys that the sides differ by a few percent: the larger one decides how long it takes.
 template <class K> [[gnu::noinline]] K evenPivotOf(const K* x, size_t n, KeyMap<K> in) {
-  K sample[1023];
+  K sample[511];
   const size_t count = n < 65536 ? 255 : std::size(sample);
   const size_t stretch = n / count;
   for (size_t i = 0; i < count; ++i) sample[i] = in.key(x[i * stretch + i * i % stretch]);

@@ -459,6 +459,8 @@ TEST_F(EveryCall, NeedsLittleStack) {
   forEach([&](const Export& e, const Choices& choices) {
     Surroundings around;
     if (++calls % 8 == 0) around.length = 5000;  // some ways are for long vectors
+    // Sorts have ways for longer ones, and go on from range to range.
+    if (calls % 8 == 4 && std::string_view(e.name).find("Sort") != std::string_view::npos) around.length = 70000;
     AnyCall call(e, choices, memory_, around);
     std::fill(stack.begin(), stack.end(), kPaint);
     ucontext_t here, there;
