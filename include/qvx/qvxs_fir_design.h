@@ -36,7 +36,9 @@ QVXS_API(QvxStatus, qvxsFIRSparse_32f, (const Qvx32f* pSrc, Qvx32f* pDst, int le
  *  Hann windows are 0 at the ends.
  *  doNormal: 0 leaves the gain as it is, any other value makes it 1 (in magnitude): at frequency 0 for Lowpass and Bandstop, 0.5
  *  for Highpass, half way between the two for Bandpass.
- *  Each tap is the true value to a few units in the last place of the largest, and to what its window's weight is true to.
+ *  Each tap is the true value to a few units in the last place of the largest, and to what its window's weight is true to. A
+ *  high-pass or band-pass filter of even length with its frequencies next to 0.5, whose taps before normalisation nearly vanish, has
+ *  them to 2^-52 of 1.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (tapsLen < 5; a frequency outside (0, 0.5); rLowFreq >= rHighFreq). */
 QVXS_API(QvxStatus, qvxsFIRGenLowpass_64f, (Qvx64f rFreq, Qvx64f* pTaps, int tapsLen, int winType, int doNormal));
 QVXS_API(QvxStatus, qvxsFIRGenHighpass_64f, (Qvx64f rFreq, Qvx64f* pTaps, int tapsLen, int winType, int doNormal));
