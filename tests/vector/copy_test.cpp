@@ -56,7 +56,8 @@ TEST(Copy, LargeVectors) {
   std::vector<uint8_t> source(kMost + 64);
   for (size_t i = 0; i < source.size(); ++i) source[i] = static_cast<uint8_t>(i * 2654435761U >> 13);
   Block block(kMost + 64);
-  for (const size_t bytes : {(size_t{32} << 10) - 1, size_t{32} << 10, size_t{1} << 20, (size_t{1} << 20) + 3, kMost}) {
+  constexpr size_t kKi = 1 << 10, kMi = 1 << 20;
+  for (const size_t bytes : {32 * kKi - 1, 32 * kKi, kMi - 5, kMi, kMi + 3, kMost}) {
     for (const size_t offset : {0, 1, 24}) {
       SCOPED_TRACE(std::to_string(bytes) + " bytes at " + std::to_string(offset));
       const int n = static_cast<int>(bytes);
