@@ -67,11 +67,12 @@ struct SplitProducts {
   }
 };
 
+// SSSE3 lifts these (lifted_products.h).
 struct ComplexProducts32 {
-  static constexpr size_t kFlight = kFlightOfParts;
-  static constexpr bool kFetchesAhead = true;
-  static constexpr size_t kSlice = kMostElements;
-  static constexpr bool kImOfPairs = true;
+  [[maybe_unused]] static constexpr size_t kFlight = kFlightOfParts;
+  [[maybe_unused]] static constexpr bool kFetchesAhead = true;
+  [[maybe_unused]] static constexpr size_t kSlice = kMostElements;
+  [[maybe_unused]] static constexpr bool kImOfPairs = true;
   template <class V> static auto of(V a, V b) {
     const auto straight = wideProduct(a, b);
     const auto crossed = wideProduct(a, swapped(b));
@@ -80,9 +81,9 @@ struct ComplexProducts32 {
   }
 };
 struct MixedProducts32 {
-  static constexpr size_t kFlight = kFlightOfParts;
-  static constexpr size_t kSlice = kMostElements;
-  static constexpr bool kImOfPairs = false;
+  [[maybe_unused]] static constexpr size_t kFlight = kFlightOfParts;
+  [[maybe_unused]] static constexpr size_t kSlice = kMostElements;
+  [[maybe_unused]] static constexpr bool kImOfPairs = false;
   template <class U, class V> static auto of(U a, V b) {
     const auto even = as<int32_t>(hn::PromoteTo(hn::RepartitionToWide<hn::RebindToUnsigned<TagOf<V>>>(), as<uint32_t>(a)));
     const auto re = evenProducts(even, b);
