@@ -23,7 +23,7 @@ struct IntoFour {
   double factor;
 
   template <class V> auto operator()(V v) const {
-    return each(widen<int32_t>(v), [this](auto words) { return inTwo(words); });
+    return each(widen<int32_t>(v), [this](auto words) { return this->inTwo(words); });
   }
 
  private:
