@@ -285,26 +285,6 @@ template <class C> class LongProduct {
   T* rowTwiddles_;
 };
 
-// Which elements of x a band meets, and where in their product with the taps, reversed or not, its outputs lie.
-template <class C> struct Section {
-  size_t from;
-  size_t count;
-  int64_t first;
-  size_t room;  // the shortest cycle in which no other element of the product falls on an output
-
-  explicit Section(const Band<C>& band) {
-    const auto taps = static_cast<int64_t>(band.count);
-    const auto outputs = static_cast<int64_t>(band.outputs);
-    const int64_t begin = std::max<int64_t>(0, band.from);
-    const int64_t end = std::min(static_cast<int64_t>(band.length), band.from + outputs + taps - 1);
-    const int64_t shift = band.from - begin;
-    from = static_cast<size_t>(begin);
-    count = static_cast<size_t>(end - begin);
-    first = shift + (band.isReversed ? taps - 1 : 0);
-    room = static_cast<size_t>(std::max({end - band.from, shift + taps - 1 + outputs, taps}));
-  }
-};
-
 // How a band is cut: products of `fresh` outputs each.
 struct LongCut {
   Grid grid;

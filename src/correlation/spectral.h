@@ -17,6 +17,26 @@ inline constexpr size_t kBlocksWorthTeam = 16384;
 
 inline size_t dividedUp(size_t n, size_t by) { return (n + by - 1) / by; }
 
+// Which elements of x a band meets, and where in their product with the taps, reversed or not, its outputs lie.
+template <class C> struct Section {
+  size_t from;
+  size_t count;
+  int64_t first;
+  size_t room;  // the shortest cycle in which no other element of the product falls on an output
+
+  explicit Section(const Band<C>& band) {
+    const auto taps = static_cast<int64_t>(band.count);
+    const auto outputs = static_cast<int64_t>(band.outputs);
+    const int64_t begin = std::max<int64_t>(0, band.from);
+    const int64_t end = std::min(static_cast<int64_t>(band.length), band.from + outputs + taps - 1);
+    const int64_t shift = band.from - begin;
+    from = static_cast<size_t>(begin);
+    count = static_cast<size_t>(end - begin);
+    first = shift + (band.isReversed ? taps - 1 : 0);
+    room = static_cast<size_t>(std::max({end - band.from, shift + taps - 1 + outputs, taps}));
+  }
+};
+
 // How a band is cut: steps of `fresh` outputs (or taps) each, in transforms of one length.
 struct Cut {
   int order;
@@ -174,14 +194,11 @@ template <class C> QvxStatus byPieces(const Band<C>& band, const Cut& cut, C* y)
 // One step in the least cycle whose wrapped end meets nothing but the zeros around x: 500 by 500 floats take 3 transforms of
 // 1024, where blocks of as many take 5.
 template <class C> Cut wholeCut(const Band<C>& band) {
-  const auto needed = static_cast<int64_t>(band.outputs + band.count - 1);
-  const int64_t read = std::min(static_cast<int64_t>(band.length) - band.from, needed);
-  const int64_t wrapped = needed - std::max<int64_t>(-band.from, 0);
-  const size_t least = std::max(band.outputs, static_cast<size_t>(std::max(read, wrapped)));
+  const size_t least = std::max(Section<C>(band).room, band.outputs);
   const int order = std::max<int>(std::bit_width(least - 1), 6);
   const size_t length = size_t{1} << order;
-  return {order, length, band.outputs, 1,
-          static_cast<double>(length) * (transformsOf(band, 1) * (order + 8) + recordCost<C>(order))};
+  const double cost = static_cast<double>(length) * (transformsOf(band, 1) * (order + 8) + recordCost<C>(order));
+  return {order, length, band.outputs, 1, cost};
 }
 
 template <class C> Cut cutOf(const Band<C>& band) {
