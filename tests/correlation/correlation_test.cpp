@@ -128,8 +128,8 @@ TYPED_TEST(Correlation, StaysWithinTheErrorOfATransform) {
   }
 }
 
-// Every lag, by an operand of three elements among zeros: lengths that fill the cycle of a long product to the last element, and
-// one more, which must not come round; and the ends of the parts that a long one is cut into.
+// Every lag, by an operand of three elements among zeros: lengths that fill the cycle of a long product, or of 1024, to the last
+// element, and one more, which must not come round; and the ends of the parts that a long one is cut into.
 TYPED_TEST(Correlation, FillsCyclesToTheLastElement) {
   using T = typename TypeParam::T;
   constexpr int kCycle = 2 * 25 * 1024;
@@ -158,7 +158,8 @@ TYPED_TEST(Correlation, FillsCyclesToTheLastElement) {
   };
   for (const int more : {0, 1}) {
     for (const Call& c : {Call{kCycle / 2, kCycle / 2 + 1 + more, kCycle + more, 1 - kCycle / 2},
-                          Call{kCycle / 2, 60000, kCycle / 2 + 1 + more, 1000}, Call{20000, 120000, 130000 + more, -11000}}) {
+                          Call{kCycle / 2, 60000, kCycle / 2 + 1 + more, 1000}, Call{20000, 120000, 130000 + more, -11000},
+                          Call{400, 900, 725 + more, -100}, Call{400, 924 + more, 700, -100}}) {
       const auto a = spikes(static_cast<size_t>(c.aLen)), b = wholeNumbers<T>(static_cast<size_t>(c.bLen), 20, random);
       std::vector<T> y(static_cast<size_t>(c.lags));
       ASSERT_EQ(TypeParam::kCross(a.data(), c.aLen, b.data(), c.bLen, y.data(), c.lags, c.lowLag), qvxStatOk);
