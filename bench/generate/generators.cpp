@@ -48,6 +48,8 @@ QvxStatus toneQ15(Qvx16s* dst, int len) { return qvxsToneQ15_Direct_16s(dst, len
 template <class T> auto cosines() {
   return [](T* dst, int n) { ofast::tone(dst, n, T(0.5), T(0.0773), T(1)); };
 }
+void cosines16s(Qvx16s* dst, int n) { ofast::tone(dst, n, 30000, 0.0773F, 1); }
+void chirp(Qvx32f* dst, int n) { ofast::chirp(dst, n, 1); }
 
 }  // namespace
 
@@ -68,14 +70,17 @@ void generators(Suite& s) {
   s.row("Tone_64f", tone<Qvx64f, qvxsTone_Direct_64f>)
       .against("-Ofast", cosines<Qvx64f>(), kOther)
       .against("a fill", plain::Fill<Qvx64f>(), kOther);
-  s.row("Tone_16s", tone16s).against("a fill", plain::Fill<Qvx16s>(), kOther);
-  s.row("ToneQ15_16s", toneQ15).against("a fill", plain::Fill<Qvx16s>(), kOther);
+  s.row("Tone_16s", tone16s).against("-Ofast", cosines16s, kOther).against("a fill", plain::Fill<Qvx16s>(), kOther);
+  s.row("ToneQ15_16s", toneQ15).against("-Ofast", cosines16s, kOther).against("a fill", plain::Fill<Qvx16s>(), kOther);
   s.row("Triangle_32f", triangle<Qvx32f, qvxsTriangle_Direct_32f>).against("a fill", plain::Fill<Qvx32f>(), kOther);
   s.row("Triangle_64f", triangle<Qvx64f, qvxsTriangle_Direct_64f>).against("a fill", plain::Fill<Qvx64f>(), kOther);
   s.row("Triangle_16s", triangle16s).against("a fill", plain::Fill<Qvx16s>(), kOther);
   s.row("VectorSlope_32f", qvxsVectorSlope_32f, 1.5F, 0.001F).against("a fill", plain::Fill<Qvx32f>(), kOther);
   s.row("VectorSlope_16s", qvxsVectorSlope_16s, 1.5F, 0.01F).against("a fill", plain::Fill<Qvx16s>(), kOther);
-  s.row("VectorJaehne_32f", qvxsVectorJaehne_32f, 1.0F).against("a fill", plain::Fill<Qvx32f>(), kOther);
+  s.row("VectorJaehne_32f", qvxsVectorJaehne_32f, 1.0F)
+      .against(
+          "-Ofast", [](Qvx32f* dst, int n, auto...) { chirp(dst, n); }, kOther)
+      .against("a fill", plain::Fill<Qvx32f>(), kOther);
 }
 
 }  // namespace bench

@@ -56,6 +56,13 @@ void product(const Qvx32fc* __restrict a, const Qvx32fc* __restrict b, Qvx32fc* 
 }
 void tone(float* d, int n, float magn, float w, float phase) { cosines(d, n, magn, w, phase); }
 void tone(double* d, int n, double magn, double w, double phase) { cosines(d, n, magn, w, phase); }
+void tone(Qvx16s* __restrict d, int n, float magn, float w, float phase) {
+  for (int i = 0; i < n; ++i) d[i] = static_cast<Qvx16s>(magn * std::cos(w * static_cast<float>(i) + phase));
+}
+void chirp(float* __restrict d, int n, float magn) {
+  const double rate = 1.5707963267948966 / n;
+  for (int i = 0; i < n; ++i) d[i] = magn * static_cast<float>(std::sin(rate * i * i));
+}
 void hann(float* x, int n) {
   weigh(x, n, [](float c) { return 0.5F - 0.5F * c; });
 }

@@ -30,6 +30,8 @@ void normalize(const Qvx16s* a, Qvx16s* d, int n, Qvx16s vSub, int vDiv, int sca
 // magn cos(w i + phase), and x[i] times a window: a cosine for each element.
 void tone(float* d, int n, float magn, float w, float phase);
 void tone(double* d, int n, double magn, double w, double phase);
+void tone(Qvx16s* d, int n, float magn, float w, float phase);
+void chirp(float* d, int n, float magn);  // magn sin(pi i^2 / (2 n))
 void hann(float* x, int n);
 void hann(double* x, int n);
 void hamming(float* x, int n);
