@@ -108,7 +108,8 @@ template <class T, class Kernel> struct BothEnds {
     Destination<T>{dst}.template put<2 * N>(last, back);
   }
   // Of which the first `rest` count: whole halves as far as they go. 16-bit numbers under a mask go at once: 20 of them take 15
-  // ns, by halves 41, since the last few wait for what was stored before them. Just a half needs no mask: 16 take 5.5 ns, not 7.4.
+  // ns, by halves 41, since the last few wait for what was stored before them. Just a half needs no mask: 16 take 5.5 ns,
+  // not 7.4.
   template <class V> void operator()(size_t at, V weights, size_t rest) const {
     const TagOf<V> d;
     constexpr size_t kHalf = kLanesOf<V> / 2;
