@@ -47,12 +47,15 @@ template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, 
     plan.way = Way::kGrid;
     return {static_cast<int64_t>(tableLength(plan.grid) * sizeof(T)), 0};
   }
-  if (n > kLongestByFactors<T> && planBlocks(n, plan.blocks.columns, plan.blocks.rows)) {
+  const auto planOf = [&](auto points) {
+    return planBlocks<typename decltype(points)::type>(n, plan.blocks.columns, plan.blocks.rows);
+  };
+  if (n > kLongestByFactors<T> && (isApart ? planOf(std::type_identity<Planes<T>>()) : withBlockPoints<T>(n, planOf))) {
     plan.way = Way::kBlocks;
     return {static_cast<int64_t>(tableLength(plan.blocks.columns, plan.blocks.rows) * sizeof(T)),
             bytesOfPoints<T>(n) + Carver::kLine};
   }
-  if (planMixed(n, plan.mixed)) {
+  if (isApart ? planMixed<Planes<T>>(n, plan.mixed) : planMixed<PointsInMemory<T>>(n, plan.mixed)) {
     plan.way = Way::kFactors;
     return {static_cast<int64_t>(tableLength(plan.mixed) * sizeof(T)), bytesOfPoints<T>(n) + Carver::kLine};
   }
@@ -76,11 +79,12 @@ template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* blo
       break;
     case Way::kFactors:
       if (plan.isApart) writeMixed<Planes<T>>(plan.mixed, reinterpret_cast<T*>(block));
-      else writeMixed<Conjugable<T>>(plan.mixed, reinterpret_cast<T*>(block));
+      else writeMixed<PointsInMemory<T>>(plan.mixed, reinterpret_cast<T*>(block));
       break;
     case Way::kBlocks:
-      writeBlocks(plan.blocks, reinterpret_cast<T*>(block));
-      break;
+      if (plan.isApart) return writeBlocks<Planes<T>>(plan.blocks, reinterpret_cast<T*>(block));
+      return withBlockPoints<T>(
+          plan.n, [&](auto points) { writeBlocks<typename decltype(points)::type>(plan.blocks, reinterpret_cast<T*>(block)); });
     case Way::kConvolution:
       return writeTables(plan.convolution, plan.n, block, work);
   }
@@ -109,20 +113,27 @@ template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T*
   }
   const T sign = isInverse ? T(-0.0) : T(0);
   T* const y = Carver(work, Carver::kLine).template take<T>(0);
-  if constexpr (kHasOwnOrder<T>) {
-    if (plan.isOutOfOrder) return (isInverse ? inverseOutOfOrder<T> : forwardOutOfOrder<T>)(plan.blocks, src, dst, y, factor);
-  }
   if (plan.way == Way::kBlocks) {
-    const Conjugable<const T> from = {src, sign};
-    const Conjugable<T> to = {dst, sign};
-    return src == dst ? runBlocksInPlace(plan.blocks, from, to, y, factor) : runBlocks(plan.blocks, from, to, y, factor);
+    return withBlockPoints<T>(n, [&](auto points) {
+      const typename decltype(points)::type from = {const_cast<T*>(src), sign};
+      const typename decltype(points)::type to = {dst, sign};
+      if constexpr (kHasOwnOrder<T>) {
+        if (plan.isOutOfOrder && isInverse) return inverseOutOfOrder(plan.blocks, asConst(from), to, y, factor);
+        if (plan.isOutOfOrder) return forwardOutOfOrder(plan.blocks, asConst(from), to, y, factor);
+      }
+      if (src == dst) runBlocksInPlace(plan.blocks, asConst(from), to, y, factor);
+      else runBlocks(plan.blocks, asConst(from), to, y, factor);
+    });
   }
-  const Conjugable<const T> points = {src, sign};
-  const Planes<T> inWork = planes(y, y + n);
-  const Planes<T> inDst = planes(dst, dst + n);
+  using Points = PointsInMemory<T>;
+  const PointsInMemory<const T> points = {src, sign};
+  const auto between = [&](T* p) {
+    if constexpr (kAreNumbers<Points>) return Numbers<T>{p};
+    else return planes(p, p + n);
+  };
   if (src != dst || plan.mixed.count % 2 == 0)
-    return runMixed(plan.mixed, points, Conjugable<T>{dst, sign}, inWork, inDst, factor);
-  runMixed(plan.mixed, points, Conjugable<T>{y, sign}, inDst, inWork, factor);
+    return runMixed(plan.mixed, points, Points{dst, sign}, between(y), between(dst), factor);
+  runMixed(plan.mixed, points, Points{y, sign}, between(dst), between(y), factor);
   std::copy_n(y, 2 * n, dst);
 }
 

@@ -80,7 +80,7 @@ template <class T> Bytes choose(ConvolutionPlan<T>& plan, uint32_t n) {
     const Bytes fft = bytesOfFft<T>(length);
     return {bytes.tables + fft.tables, bytes.work + fft.work - fft::kWorkSlack};
   }
-  planMixed(plan.length, plan.mixed);
+  planMixed<Planes<T>>(plan.length, plan.mixed);
   return {bytes.tables + static_cast<int64_t>(tableLength(plan.mixed) * sizeof(T)), bytes.work + planes};
 }
 

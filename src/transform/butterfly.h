@@ -34,6 +34,10 @@ template <class V> QVX_INLINE Complex<V> differenceWith(double factor, Complex<V
   return {hn::NegMulAdd(f, b.re, a.re), hn::NegMulAdd(f, b.im, a.im)};
 }
 
+template <class V> QVX_INLINE Complex<V> addProduct(V factor, Complex<V> a, Complex<V> b) {
+  return {hn::MulAdd(factor, b.re, a.re), hn::MulAdd(factor, b.im, a.im)};
+}
+
 // Z: a vector of real and one of imaginary parts, or of both side by side.
 template <class Z> QVX_INLINE void dft4(Z& x0, Z& x1, Z& x2, Z& x3) {
   const Z even = sum(x0, x2);
@@ -117,7 +121,7 @@ template <class Z, size_t R, class Get> QVX_INLINE void dft(Z (&x)[R], Get get) 
   if constexpr (R == 16) {
     dft16(x, get);
   } else {
-    unrolled<R>([&](auto n) { x[n] = get(n); });
+    unrolled<R>([&](auto n) __attribute__((always_inline)) { x[n] = get(n); });
     dft(x);
   }
 }
@@ -128,13 +132,13 @@ template <size_t R, class Get, class Put> QVX_INLINE void transformPoints(Get ge
   decltype(get(std::integral_constant<size_t, 0>())) x[R];
   if constexpr (R == 16) {
     dft16Columns(x, get);
-    unrolled<4>([&](auto i) {
+    unrolled<4>([&](auto i) __attribute__((always_inline)) {
       dft4(x[4 * i], x[4 * i + 1], x[4 * i + 2], x[4 * i + 3]);
-      unrolled<4>([&](auto m) { put(std::integral_constant<size_t, i + 4 * m>(), x[4 * i + m]); });
+      unrolled<4>([&](auto m) __attribute__((always_inline)) { put(std::integral_constant<size_t, i + 4 * m>(), x[4 * i + m]); });
     });
   } else {
     dft(x, get);
-    unrolled<R>([&](auto k) { put(k, x[k]); });
+    unrolled<R>([&](auto k) __attribute__((always_inline)) { put(k, x[k]); });
   }
 }
 

@@ -11,20 +11,6 @@
 
 namespace qvx::transform {
 
-// Of parts side by side with one rounding less: the sine with both signs.
-template <class T, size_t kTurn, size_t N> struct SignedSine {
-  T v[16];
-  constexpr SignedSine() : v() {
-    for (size_t i = 0; i < 16; ++i) v[i] = static_cast<T>((i % 2 == 0 ? 1 : -1) * sineOfTurn(kTurn, N));
-  }
-};
-template <class T, size_t kTurn, size_t N> alignas(64) inline constexpr SignedSine<T, kTurn, N> kSignedSine;
-template <size_t kTurn, size_t N, class V> QVX_INLINE ComplexVector<V, false> rotated(ComplexVector<V, false> z) {
-  constexpr double kCosine = cosineOfTurn(kTurn, N);
-  const V cosine = same<V>(static_cast<LaneOf<V>>(kCosine));
-  return {hn::MulAdd(swapped(z.v), load(TagOf<V>(), kSignedSine<LaneOf<V>, kTurn, N>.v), z.v * cosine)};
-}
-
 inline constexpr size_t kWidestGrid = 32;
 inline constexpr uint8_t kGridRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16, 18, 20, 24, 25, 27, 30, 32};
 template <class Step> QVX_INLINE void withGridRadix(size_t radix, Step step) {
@@ -61,6 +47,8 @@ constexpr uint32_t costInGrid(size_t radix) {
       return costOfRadix(radix);
   }
 }
+constexpr uint32_t costDownGrid(uint32_t radix) { return kHasMasks ? costInGrid(radix) + 4 * radix : costInterleaved(radix); }
+constexpr uint32_t costAcrossGrid(uint32_t radix) { return kHasMasks ? costDownGrid(radix) : costOfLastInterleaved(radix); }
 inline constexpr size_t kMostWithShortRows = 3 << 10;  // bytes of points
 // Columns in a vector: half of the widest register, since 5 columns are seldom worth 8; or twice as many.
 template <class T> inline constexpr size_t kGridColumns = std::min<size_t>(kVectorBytes, 32) / (2 * sizeof(T));
@@ -96,8 +84,7 @@ template <class T> constexpr bool chooseGrid(GridPlan<T>& plan, uint32_t n) {
     for (const uint32_t across : kGridRadices) {
       const uint32_t down = n / across;
       if (n % across != 0 || down < P || !std::binary_search(std::begin(kGridRadices), std::end(kGridRadices), down)) continue;
-      uint64_t cost =
-          vectorsOf(across, P) * (costInGrid(down) + 4 * down) + vectorsOf(down, P) * (costInGrid(across) + 4 * across);
+      uint64_t cost = vectorsOf(across, P) * costDownGrid(down) + vectorsOf(down, P) * costAcrossGrid(across);
       // Measured: registers of 64 bytes take half as long again as the count says, the way through memory 150 more, 300 where
       // there are 32 registers.
       if (P > kGridColumns<T>) cost = cost * 3 / 2;
@@ -118,6 +105,7 @@ template <class T> constexpr bool chooseGrid(GridPlan<T>& plan, uint32_t n) {
 // takes.
 template <class T, size_t P> struct GridRadices {
   bool down[kWidestGrid + 1] = {};
+  bool downOfFew[kWidestGrid + 1] = {};
   bool across[kWidestGrid + 1] = {};
   bool inRegisters[kWidestGrid + 1] = {};
   size_t vectors = 1;
@@ -130,7 +118,7 @@ template <class T, size_t P> struct GridRadices {
         if (isInRegisters<T>(plan.down, plan.across, P)) {
           inRegisters[plan.across] = true;
         } else {
-          down[plan.down] = across[plan.across] = true;
+          (plan.across < P ? downOfFew : down)[plan.down] = across[plan.across] = true;
           vectors = std::max(vectors, vectorsOf(plan.across, P) * plan.down);
         }
       }
@@ -205,70 +193,67 @@ template <class T> void writeGrid(GridPlan<T>& plan, T* block) {
   writeGridTwiddles(plan, out, BySines());
 }
 
-// What a transform does beside: conjugates its points and its results where it is inverse, and multiplies results by a factor.
-// Plain ones, forward and not scaled, do neither: 20 to 768 complex doubles take 0.80 to 0.97 of the time.
-template <class V, bool kPlain> struct GridEnds {
-  V sign;
-  V factor;
-
-  QVX_INLINE GridEnds(bool isInverse, LaneOf<V> by) {
-    const V turn = isInverse ? alternating<V>() : same<V>(LaneOf<V>(1));
-    sign = hn::And(turn, same<V>(LaneOf<V>(-0.0)));
-    factor = turn * same<V>(by);
-  }
-  QVX_INLINE V point(V v) const { return hn::Xor(v, sign); }
-  QVX_INLINE V result(V v) const { return v * factor; }
-};
-template <class V> struct GridEnds<V, true> {
-  QVX_INLINE GridEnds(bool, LaneOf<V>) {}
-  QVX_INLINE V point(V v) const { return v; }
-  QVX_INLINE V result(V v) const { return v; }
-};
 template <class T, size_t P> using GridVector = Vec<Lanes<T, 2 * P>>;
 
-// P columns from `column` on, transformed and rotated.
-template <size_t R, size_t P, class T, class Ends>
-QVX_INLINE void transformColumns(ComplexVector<GridVector<T, P>, false> (&x)[R], const T* column, size_t across,
-                                 const T* twiddles, const Ends& ends) {
+// put(j, z): P columns from `column` on, transformed and rotated. kFew: there are fewer.
+template <size_t R, size_t P, bool kFew, class T, class Ends, class Put>
+QVX_INLINE void transformColumns(const T* column, size_t across, const T* twiddles, const Ends& ends, Put put) {
   const Lanes<T, 2 * P> d;
-  if (across >= P) {
-    unrolled<R>([&](auto j) __attribute__((always_inline)) { x[j].v = ends.point(load(d, column + j * 2 * across)); });
-  } else {
-    unrolled<R>([&](auto j)
-                    __attribute__((always_inline)) { x[j].v = ends.point(firstLanes(d, column + j * 2 * across, 2 * across)); });
-  }
-  anyDft(x);
-  unrolled<R - 1>([&](auto j) __attribute__((always_inline)) { x[j + 1].v = twiddled<false>(x[j + 1].v, twiddles + j * 4 * P); });
+  using Z = ComplexVector<GridVector<T, P>, false>;
+  transformAny<R>(
+      [=](auto j) __attribute__((always_inline)) {
+        const T* const at = column + j * 2 * across;
+        return Z{point(ends.point(kFew ? firstLanes(d, at, 2 * across) : load(d, at)))};
+      },
+      [=](auto j, Z z) __attribute__((always_inline)) {
+        if constexpr (j > 0) z.v = twiddled<false>(z.v, twiddles + (j - 1) * 4 * P);
+        put(j, z.v);
+      });
 }
 
-template <size_t R, size_t P, class T, class Ends>
+template <size_t R, size_t P, bool kFew, class T, class Ends>
 [[gnu::noinline]] void downGrid(const T* src, T* y, size_t across, const T* twiddles, const Ends& given) {
-  const Lanes<T, 2 * P> d;
+  using V = GridVector<T, P>;
   const Ends ends = given;
   for (size_t h = 0; h < vectorsOf(across, P); ++h, y += R * 2 * P, twiddles += (R - 1) * 4 * P) {
-    ComplexVector<GridVector<T, P>, false> x[R];
-    transformColumns<R, P>(x, src + 2 * gridColumn(h, across, P), across, twiddles, ends);
-    unrolled<R>([&](auto j) __attribute__((always_inline)) { store(x[j].v, d, y + j * 2 * P); });
+    const auto put = [=](auto j, V v) __attribute__((always_inline)) { store(v, TagOf<V>(), y + j * 2 * P); };
+    transformColumns<R, P, kFew>(src + 2 * gridColumn(h, across, P), across, twiddles, ends, put);
   }
 }
+
+// Two rows of numbers of 64 or 128 bits need no shuffle: a point of both is two loads.
+template <class T, size_t P> inline constexpr bool kJoinsRows = !kHasMasks && P == 2;
 
 template <size_t C, size_t P, class T, class Ends>
 [[gnu::noinline]] void acrossGrid(const T* y, T* dst, size_t down, const Ends& given) {
   const Lanes<T, 2 * P> d;
   using V = GridVector<T, P>;
+  using Z = ComplexVector<V, false>;
   const Ends ends = given;
   for (size_t q = 0; q < down; q += P) {
     const size_t row = std::min(q, down - P);
-    ComplexVector<V, false> x[C];
-    unrolled<vectorsOf(C, P)>([&](auto h) __attribute__((always_inline)) {
-      V r[P];
-      unrolled<P>([&](auto l) __attribute__((always_inline)) { r[l] = load(d, y + (h * down + row + l) * 2 * P); });
-      transposePoints(r);
-      constexpr size_t kFirst = gridColumn(h, C, P);
-      unrolled<std::min(P, C)>([&](auto l) __attribute__((always_inline)) { x[kFirst + l].v = r[l]; });
-    });
-    anyDft(x);
-    unrolled<C>([&](auto k) __attribute__((always_inline)) { store(ends.result(x[k].v), d, dst + 2 * (row + k * down)); });
+    const auto put = [=](auto k, Z z) __attribute__((always_inline)) { store(ends.result(z.v), d, dst + 2 * (row + k * down)); };
+    if constexpr (P == 1 || kJoinsRows<T, P>) {
+      transformAny<C>(
+          [=](auto k) __attribute__((always_inline)) {
+            constexpr size_t h = k / P;
+            const T* const at = y + (h * down + row) * 2 * P + 2 * (k - gridColumn(h, C, P));
+            if constexpr (P == 1) return Z{point(load(d, at))};
+            else return Z{fromHalves<V>(at, at + 2 * P)};
+          },
+          put);
+    } else {
+      Z x[C];
+      unrolled<vectorsOf(C, P)>([&](auto h) __attribute__((always_inline)) {
+        V r[P];
+        unrolled<P>([&](auto l) __attribute__((always_inline)) { r[l] = load(d, y + (h * down + row + l) * 2 * P); });
+        transposePoints(r);
+        constexpr size_t kFirst = gridColumn(h, C, P);
+        unrolled<std::min(P, C)>([&](auto l) __attribute__((always_inline)) { x[kFirst + l].v = r[l]; });
+      });
+      transformAny<C>(
+          [&](auto k) __attribute__((always_inline)) { return x[k]; }, put);
+    }
   }
 }
 
@@ -276,19 +261,19 @@ template <size_t C, size_t P, class T, class Ends>
 template <size_t C, size_t P, bool kPlain, class T>
 [[gnu::noinline]] void gridInRegisters(const T* src, T* dst, const T* twiddles, bool isInverse, T factor) {
   using V = GridVector<T, P>;
-  const GridEnds<V, kPlain> ends(isInverse, factor);
+  const InterleavedEnds<V, kPlain> ends(isInverse, factor);
   ComplexVector<V, false> x[C];
   unrolled<vectorsOf(C, P)>([&](auto h) __attribute__((always_inline)) {
     constexpr size_t kFirst = gridColumn(h, C, P);
-    ComplexVector<V, false> column[P];
-    transformColumns<P, P>(column, src + 2 * kFirst, C, twiddles + h * (P - 1) * 4 * P, ends);
     V r[P];
-    unrolled<P>([&](auto l) __attribute__((always_inline)) { r[l] = column[l].v; });
+    const auto put = [&](auto l, V v) __attribute__((always_inline)) { r[l] = v; };
+    transformColumns<P, P, (C < P)>(src + 2 * kFirst, C, twiddles + h * (P - 1) * 4 * P, ends, put);
     transposePoints(r);
     unrolled<std::min(P, C)>([&](auto l) __attribute__((always_inline)) { x[kFirst + l].v = r[l]; });
   });
-  anyDft(x);
-  unrolled<C>([&](auto k) __attribute__((always_inline)) { store(ends.result(x[k].v), Lanes<T, 2 * P>(), dst + 2 * k * P); });
+  transformAny<C>(
+      [&](auto k) __attribute__((always_inline)) { return x[k]; },
+      [&](auto k, auto z) __attribute__((always_inline)) { store(ends.result(z.v), Lanes<T, 2 * P>(), dst + 2 * k * P); });
 }
 
 template <size_t P, bool kPlain, class T> void runGrid(const GridPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {
@@ -301,9 +286,12 @@ template <size_t P, bool kPlain, class T> void runGrid(const GridPlan<T>& plan, 
     }
   }
   alignas(64) T y[kUsed.vectors * 2 * P];
-  const GridEnds<GridVector<T, P>, kPlain> ends(isInverse, factor);
+  const InterleavedEnds<GridVector<T, P>, kPlain> ends(isInverse, factor);
   withGridRadix(plan.down, [&](auto R) {
-    if constexpr (kUsed.down[R]) downGrid<R, P>(src, y, plan.across, plan.twiddles, ends);
+    if constexpr (kUsed.downOfFew[R]) {
+      if (plan.across < P) return downGrid<R, P, true>(src, y, plan.across, plan.twiddles, ends);
+    }
+    if constexpr (kUsed.down[R]) downGrid<R, P, false>(src, y, plan.across, plan.twiddles, ends);
   });
   withGridRadix(plan.across, [&](auto C) {
     if constexpr (kUsed.across[C]) acrossGrid<C, P>(y, dst, plan.down, ends);

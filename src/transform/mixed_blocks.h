@@ -44,9 +44,9 @@ template <class T, class Step> void forEachTile(const MixedBlocks<T>& blocks, si
 // The first dimension, of the columns from `first` on that stand in src, in rows that are `apart`.
 template <class T, class Src, class Dst>
 void columnsToRows(const MixedBlocks<T>& blocks, Src src, size_t apart, size_t first, size_t count, TilePair<T> tiles, Dst dst) {
-  const Tile<T> results = freeTile(blocks.columns, tiles, count);
+  const auto results = freeTile<Dst>(blocks.columns, tiles, count);
   transformTile(blocks.columns, src, apart, count, tiles, results.points, results.wide, T(1));
-  putColumnsAsRows<kWidest<T>>(blocks, results, dst, first, count);
+  putColumnsAsRows(blocks, results, dst, first, count);
 }
 
 // The second dimension, in place.
@@ -67,7 +67,8 @@ template <class T, class Src, class Dst> void runBlocks(const MixedBlocks<T>& bl
 }
 
 // Columns of rows that are `apart`, without what is between them.
-template <size_t L, class Src, class T> void packColumns(Src src, size_t apart, size_t columns, Conjugable<T> to, size_t rows) {
+template <class Src, class Dst> void packColumns(Src src, size_t apart, size_t columns, Dst to, size_t rows) {
+  constexpr size_t L = kPointsIn<Src>;
   for (size_t row = 0; row < rows; ++row, src = src.from(apart), to = to.from(columns)) {
     for (size_t at = 0; at < columns; at += L) {
       const size_t here = std::min(L, columns - at);
@@ -77,7 +78,7 @@ template <size_t L, class Src, class T> void packColumns(Src src, size_t apart, 
 }
 
 // Room for two tiles at the end of N points.
-template <class T> TilePair<T> tilesAtEnd(Conjugable<T> dst, size_t n, size_t tile) {
+template <class Points, class T = typename Points::Lane> TilePair<T> tilesAtEnd(Points dst, size_t n, size_t tile) {
   T* const first = alignedUp(dst.p + 2 * (n - tile) - Carver::kLine / sizeof(T), Carver::kLine);
   return {first, first + tile};
 }
@@ -93,14 +94,15 @@ template <class T, class Src, class Dst> void runBlocksInPlace(const MixedBlocks
   const size_t columns = blocks.rows.n;
   const size_t wide = columnsOfTile(blocks);
   const size_t tile = 2 * wide * rows;
+  using Packed = std::conditional_t<kAreNumbers<Src>, ConjugableNumbers<T>, Conjugable<T>>;
   const auto packed = [=](size_t c) { return y + 2 * c * rows; };
   const auto countFrom = [=](size_t c) { return std::min(wide, columns - c); };
   forEachTile(blocks, columns, [=](size_t c, size_t count, size_t) {
-    packColumns<kWidest<T>>(src.from(c), columns, count, Conjugable<T>{packed(c), 0}, rows);
+    packColumns(src.from(c), columns, count, Packed{packed(c), 0}, rows);
   });
   for (size_t c = 0; c < columns; c += wide) {
     const TilePair<T> tiles = c < 2 * wide ? tilesAtEnd(dst, rows * columns, tile) : TilePair<T>{y, y + tile};
-    columnsToRows(blocks, Conjugable<const T>{packed(c), 0}, countFrom(c), c, countFrom(c), tiles, dst);
+    columnsToRows(blocks, asConst(Packed{packed(c), 0}), countFrom(c), c, countFrom(c), tiles, dst);
   }
   downRows(blocks, dst, y, factor);
 }
@@ -108,40 +110,40 @@ template <class T, class Src, class Dst> void runBlocksInPlace(const MixedBlocks
 // ---- Out of order: src may be dst
 
 // Transforms along the rows, in place: the results of a tile's rows stay where these were, result by result.
-template <class T> void transformRows(const MixedBlocks<T>& blocks, T* points, TilePair<T> tiles, T factor) {
+template <class Points, class T> void transformRows(const MixedBlocks<T>& blocks, Points points, TilePair<T> tiles, T factor) {
   const size_t rows = blocks.columns.n;
   const size_t length = blocks.rows.n;
   const size_t wide = columnsOfTile(blocks);
   for (size_t r = 0; r < rows; r += wide) {
     const size_t count = std::min(wide, rows - r);
-    const Tile<T> tile(tiles[1], length, count);
-    takeRows<kWidest<T>>(blocks, Conjugable<const T>{points, 0}, r, count, tile);
-    transformTile(blocks.rows, asConst(tile.points), tile.wide, count, tiles, Conjugable<T>{points, 0}.from(r * length), count,
-                  factor);
+    const TileOf<Points> tile(tiles[1], length, count);
+    takeRows(blocks, asConst(points), r, count, tile);
+    transformTile(blocks.rows, asConst(tile.points), tile.wide, count, tiles, points.from(r * length), count, factor);
   }
 }
 
-template <class T> void forwardOutOfOrder(const MixedBlocks<T>& blocks, const T* src, T* dst, T* work, T factor) {
+template <class T, class Src, class Dst>
+void forwardOutOfOrder(const MixedBlocks<T>& blocks, Src src, Dst dst, T* work, T factor) {
   const TilePair<T> tiles = tilesIn(blocks, work);
-  transformColumns(blocks.columns, Conjugable<const T>{src, 0}, Conjugable<T>{dst, 0}, blocks.rows.n, tiles, T(1));
+  transformColumns(blocks.columns, src, dst, blocks.rows.n, tiles, T(1));
   transformRows(blocks, dst, tiles, factor);
 }
 
-// The same steps from the end to the beginning.
-template <class T> void inverseOutOfOrder(const MixedBlocks<T>& blocks, const T* src, T* dst, T* work, T factor) {
-  const T sign = T(-0.0);
+// The same steps from the end to the beginning. src and dst are conjugate, what is between is not.
+template <class T, class Src, class Dst>
+void inverseOutOfOrder(const MixedBlocks<T>& blocks, Src src, Dst dst, T* work, T factor) {
+  const Dst between = {dst.p, 0};
   const size_t rows = blocks.columns.n;
   const size_t length = blocks.rows.n;
   const size_t wide = columnsOfTile(blocks);
   const TilePair<T> tiles = tilesIn(blocks, work);
   for (size_t r = 0; r < rows; r += wide) {
     const size_t count = std::min(wide, rows - r);
-    const Tile<T> results = freeTile(blocks.rows, tiles, count);
-    transformTile(blocks.rows, Conjugable<const T>{src, sign}.from(r * length), count, count, tiles, results.points, results.wide,
-                  T(1));
-    putRows<kWidest<T>>(blocks, results, Conjugable<T>{dst, 0}, r, count);
+    const auto results = freeTile<Dst>(blocks.rows, tiles, count);
+    transformTile(blocks.rows, src.from(r * length), count, count, tiles, results.points, results.wide, T(1));
+    putRows(blocks, results, between, r, count);
   }
-  transformColumns(blocks.columns, Conjugable<const T>{dst, 0}, Conjugable<T>{dst, sign}, length, tiles, factor);
+  transformColumns(blocks.columns, asConst(between), dst, length, tiles, factor);
 }
 
 }  // namespace qvx::transform

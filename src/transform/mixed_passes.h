@@ -29,6 +29,7 @@ template <class D> QVX_INLINE void putFirstLanes(Vec<D> v, D d, hn::TFromD<D>* p
 // Points in two planes.
 template <class T> struct Planes : Split<T> {
   using Lane = std::remove_const_t<T>;
+  static constexpr size_t kLanesOfPoint = 1;
 
   template <size_t L> QVX_INLINE auto getFirst(size_t at, size_t n) const {
     const Lanes<Lane, L> d;
@@ -40,6 +41,20 @@ template <class T> struct Planes : Split<T> {
   }
   template <size_t L> QVX_INLINE auto getInOrder(size_t at) const { return this->template get<L>(at); }
   template <size_t L> QVX_INLINE auto getInOrder(size_t at, size_t n) const { return getFirst<L>(at, n); }
+  // Of the elements of a vector from Src the first `count`, `apart` from each other.
+  template <class Src, class V> QVX_INLINE void putApart(Complex<V> z, size_t at, size_t apart, size_t count) const {
+    constexpr size_t L = kLanesOf<V>;
+    T re[L];
+    T im[L];
+    store(z.re, TagOf<V>(), re);
+    store(z.im, TagOf<V>(), im);
+    for (size_t lane = 0; lane < L; ++lane) {
+      const size_t i = Src::template element<L>(lane);
+      if (i >= count) continue;
+      this->re[at + i * apart] = re[lane];
+      this->im[at + i * apart] = im[lane];
+    }
+  }
   Planes from(size_t at) const { return {{this->re + at, this->im + at}}; }
 };
 template <class T> Planes<T> planes(T* re, T* im) { return {{re, im}}; }
@@ -48,6 +63,7 @@ template <class T> Planes<const T> asConst(Planes<T> p) { return {{p.re, p.im}};
 // Interleaved points, conjugate if `sign` is -0: so an inverse transform is a forward one, by the same code.
 template <class T> struct Conjugable {
   using Lane = std::remove_const_t<T>;
+  static constexpr size_t kLanesOfPoint = 1;
   T* p;
   Lane sign;
 
@@ -89,6 +105,8 @@ template <class T> struct Conjugable {
   Conjugable from(size_t at) const { return {p + 2 * at, sign}; }
 };
 template <class T> Conjugable<const T> asConst(Conjugable<T> z) { return {z.p, z.sign}; }
+
+template <class Points, size_t P> using VectorOf = Vec<Lanes<typename Points::Lane, P * Points::kLanesOfPoint>>;
 
 template <size_t L, class Src> constexpr size_t laneOfElement(size_t element) {
   size_t lane = 0;
@@ -198,6 +216,11 @@ template <size_t R, size_t L, class T, class Src>
     unrolled<R - 1>([&](auto j)
                         __attribute__((always_inline)) { made[j + 1] = product(x[j + 1], group<L>(twiddles + j * 2 * L)); });
   }
+}
+
+// Twiddles of columns, one for each lane.
+template <class V> QVX_INLINE Complex<V> rotatedBy(Complex<V> z, const LaneOf<V>* twiddles) {
+  return product(z, group<kLanesOf<V>>(twiddles));
 }
 
 // Up to here all vectors of a butterfly are read after one test of their length, and written after one: with a test for each, 2 R

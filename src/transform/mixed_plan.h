@@ -6,6 +6,7 @@
 #include <span>
 
 #include "transform/large_prime_passes.h"
+#include "transform/mixed_interleaved.h"
 #include "transform/plan.h"
 
 namespace qvx::transform {
@@ -76,6 +77,13 @@ template <class T> struct MixedPlan {
   const T* tables;  // a pass's after another's: the matrix of a large radix, then twiddles
 };
 
+// Points of a vector whose parts stand side by side are transformed as such where 16 registers are all.
+template <class T> using PointsInMemory = std::conditional_t<kHasMasks, Conjugable<T>, ConjugableNumbers<T>>;
+template <class Points> inline constexpr bool kAreNumbers = Points::kLanesOfPoint == 2;
+// In the widest vector, and in one of a large prime's pass.
+template <class Points> inline constexpr size_t kPointsIn = kWidest<typename Points::Lane> / Points::kLanesOfPoint;
+template <class Points> inline constexpr size_t kManyPoints = kManyLanes<typename Points::Lane> / Points::kLanesOfPoint;
+
 // What a pass takes of time, in operations of a vector, on processors with 32 registers of 64 bytes: between those that spill at
 // the price of the count and those where radices from 20 on take a third more (5000 complex doubles take 0.9 by 8, 5, 25 and 5 of
 // what they take by 8, 25 and 25).
@@ -86,10 +94,22 @@ constexpr uint32_t costOfRadix(size_t radix) {
   return kHasMasks || radix < 8 ? kCosts[radix] : kCosts[radix] * 5 / 4;
 }
 
+// The same of Numbers, in tenths of a nanosecond with AVX2 (SSSE3: 0.9 to 1.2 of that), and without twiddles. Radix 16 of doubles
+// takes twice as long as 15 where its results go.
+constexpr uint32_t costInterleaved(size_t radix) {
+  constexpr uint16_t kCosts[] = {0, 8,   8, 14,  18,  33, 35, 60,  45,  88, 76,  133, 86, 183, 135, 148, 330,
+                                 0, 190, 0, 186, 240, 0,  0,  214, 328, 0,  373, 0,   0,  335, 0,   370};
+  return isLargePrime(radix) ? costOfRadix(radix) : kCosts[radix];
+}
+constexpr uint32_t costOfLastInterleaved(size_t radix) { return costInterleaved(radix) - static_cast<uint32_t>(radix * 5 / 2); }
+
 // Whether the first-level cache holds what each pass takes its n points from, and what its results go into.
 template <class T> constexpr bool isInNearestCache(size_t n) { return n * 4 * sizeof(T) <= 48 << 10; }
 
-template <class T> class MixedPlanner {
+// Points: of the transform.
+template <class Points> class MixedPlanner {
+  using T = typename Points::Lane;
+
  public:
   static constexpr size_t kMostDivisors = 720;
 
@@ -100,7 +120,7 @@ template <class T> class MixedPlanner {
     findDivisors();
     for (size_t i = 1; i < divisors_; ++i) {
       best_[i] = UINT64_MAX;
-      if (divisor_[i] == n || columns > 1) consider(i, n, kRadices);
+      if (kAreNumbers<Points> ? divisor_[i] == n && columns > 1 : divisor_[i] == n || columns > 1) consider(i, n, kRadices);
       else consider(i, n, kLaterRadices);
       consider(i, n, std::span(large_, larges_));
     }
@@ -144,9 +164,14 @@ template <class T> class MixedPlanner {
     for (const uint8_t radix : radices) {
       if (d % radix != 0) continue;
       const uint32_t m = d / radix;
+      if (kAreNumbers<Points> && d == n && columns_ == 1 && !fillVectors(radix, m)) continue;
       const uint64_t after = m == 1 ? 0 : best_[indexOf(m)];
       if (after == UINT64_MAX) continue;
       const uint64_t s = n / d * columns_;
+      if constexpr (kAreNumbers<Points>) {
+        take(i, radix, costOfInterleaved(n, s, m, radix) + after);
+        continue;
+      }
       const bool isAligned = s % kWidest<T> == 0 || (m == 1 && s <= kMostPadded);
       const uint32_t memory = columns_ > 1 ? kAwayFromNearest : isAligned ? 0 : kUnaligned;
       const uint64_t here =
@@ -157,12 +182,27 @@ template <class T> class MixedPlanner {
       // and 10.
       const bool isLarge = radix >= (!kHasMasks || columns_ > 1 ? 24 : fitsNearest ? 15 : 6);
       const uint64_t last = !isLarge ? here - vectors(s) * radix : radix < 24 ? here : here + here / 16;
-      const uint64_t cost = (m > 1 ? here : last) + after + pass;
-      if (cost < best_[i]) {
-        best_[i] = cost;
-        radix_[i] = radix;
-      }
+      take(i, radix, (m > 1 ? here : last) + after + pass);
     }
+  }
+  // A first pass of Numbers takes whole vectors of columns, and leaves runs of that length.
+  static bool fillVectors(size_t radix, size_t m) {
+    return isLargePrime(radix) || (radix >= kPointsIn<Points> && m >= kPointsIn<Points>);
+  }
+  void take(size_t i, uint8_t radix, uint64_t cost) {
+    if (cost >= best_[i]) return;
+    best_[i] = cost;
+    radix_[i] = radix;
+  }
+  // A vector that the first-level cache does not hold, in a tile or not, and one in two lines of it, take a nanosecond.
+  uint64_t costOfInterleaved(uint32_t n, uint64_t s, uint32_t m, size_t radix) const {
+    constexpr size_t P = kPointsIn<Points>;
+    const uint64_t all = s == 1 ? (m + P - 1) / P : (s + P - 1) / P * m;
+    const bool isFar = columns_ > 1 || !isInNearestCache<T>(n);
+    const bool isAligned = s % P == 0 || s == 1;
+    const size_t rows = s == 1 && P > 1 ? radix : 0;
+    const size_t cost = m == 1 ? costOfLastInterleaved(radix) : costInterleaved(radix);
+    return all * (cost + radix * (isFar + !isAligned) + rows) + kPass;
   }
   // With two transpositions most vectors of 64 bytes wait on the stack: 4800 complex doubles take 0.92 by 8, 5, 10 and 12 of what
   // they take by 16, 15 and 20.
@@ -193,7 +233,9 @@ template <class T> class MixedPlanner {
 };
 
 // The planner is some KiB of the stack, which callers need not hold while they go on.
-template <class T> [[gnu::noinline]] bool planMixed(uint32_t n, MixedPlan<T>& plan) { return MixedPlanner<T>().plan(n, 1, plan); }
+template <class Points> [[gnu::noinline]] bool planMixed(uint32_t n, MixedPlan<typename Points::Lane>& plan) {
+  return MixedPlanner<Points>().plan(n, 1, plan);
+}
 
 // The numbers of a plan's tables, with what aligns the first.
 template <class T> size_t matrixLength(size_t radix) { return isLargePrime(radix) ? radix / 2 * (radix / 2) * 2 : 0; }
@@ -269,23 +311,29 @@ template <class Src, class T> void writeMixed(MixedPlan<T>& plan, T* block) {
       continue;
     }
     const auto write = [&](auto L) {
-      const bool overlaps = radix <= kWidestMixed && m >= L;  // the last vector ends where the columns do
+      const bool overlaps = !isLargePrime(radix) && m >= L;  // the last vector ends where the columns do
       const auto column = [=](size_t group, size_t lane) {
         return (overlaps ? std::min<size_t>(group * L, m - L) : group * L) + Src::template element<L>(lane);
       };
       const size_t count = (m + L - 1) / L * L * others;
-      writeTwiddles(n, count, inTurn(L, others, column), intoGroups<L>(out));
+      if constexpr (kAreNumbers<Src>) writeTwiddles(n, count, inTurn(L, others, column), intoPairs(out));
+      else writeTwiddles(n, count, inTurn(L, others, column), intoGroups<L>(out));
       out += 2 * count;
     };
-    if (isLargePrime(radix)) write(std::integral_constant<size_t, kManyLanes<T>>());
-    else write(std::integral_constant<size_t, kWidest<T>>());
+    if (isLargePrime(radix)) write(std::integral_constant<size_t, kManyPoints<Src>>());
+    else write(std::integral_constant<size_t, kPointsIn<Src>>());
   }
 }
 
 // Lanes for runs of up to half a vector, such as 8 floats after a first pass of radix 8.
 template <class T> inline constexpr size_t kNarrow = kVectorBytes == 64 && sizeof(T) == 4 ? kWidest<T> / 2 : kWidest<T>;
 
-// The passes of one radix, which is a large prime or one of kLaterRadices.
+// The passes of one radix, which is a large prime, one of kRadices or, after the first pass, of kLaterRadices.
+template <class T, class Src>
+void runFirstPass(size_t radix, const T* tables, Src src, Planes<T> to, size_t m, const T* twiddles) {
+  if (isLargePrime(radix)) return firstPassOfMany<kManyLanes<T>>(radix, tables, src, to, m, twiddles);
+  withMixedRadix(radix, [=](auto R) { firstMixedPass<R, kWidest<T>>(src, to, m, twiddles, false); });
+}
 template <class T>
 void runMiddlePass(size_t radix, const T* tables, Planes<const T> from, Planes<T> to, size_t s, size_t m, const T* twiddles) {
   if (isLargePrime(radix)) return middlePassOfMany<kManyLanes<T>>(radix, tables, from, to, s, m, twiddles);
@@ -300,33 +348,61 @@ void runLastPass(size_t radix, const T* tables, Planes<const T> from, Dst dst, L
   withLaterRadix(radix, [=](auto R) { lastMixedPass<R, kWidest<T>>(from, dst, steps, factor); });
 }
 
-// From src to dst, which may be the same, by way of `even` and `odd`, each with room for n points in planes: the last pass but
-// one goes to `even`, the one before to `odd`, and so on. src is not read after the first pass, dst written by the last only.
-template <class T, class Src, class Dst>
-void runMixed(const MixedPlan<T>& plan, Src src, Dst dst, Planes<T> even, Planes<T> odd, T factor) {
+// The same of Numbers: any of kLaterRadices.
+template <class T, class Step> void withEnds(T sign, T factor, Step step) {
+  using V = typename Numbers<T>::V;
+  if (!std::signbit(sign) && factor == 1) step(InterleavedEnds<V, true>(false, 1));
+  else step(InterleavedEnds<V, false>(std::signbit(sign), factor));
+}
+template <class T>
+void runFirstPass(size_t radix, const T* tables, ConjugableNumbers<const T> src, Numbers<T> to, size_t m, const T* twiddles) {
+  if (isLargePrime(radix)) return firstPassOfMany<Numbers<T>::kPoints>(radix, tables, src, to, m, twiddles);
+  withEnds(src.sign, T(1), [=](const auto& ends) {
+    withLaterRadix(radix, [=](auto R) { firstInterleavedPass<R>(src.p, to.p, m, twiddles, ends); });
+  });
+}
+template <class T>
+void runMiddlePass(size_t radix, const T* tables, Numbers<const T> from, Numbers<T> to, size_t s, size_t m, const T* twiddles) {
+  if (isLargePrime(radix)) return middlePassOfMany<Numbers<T>::kPoints>(radix, tables, from, to, s, m, twiddles);
+  withLaterRadix(radix, [=](auto R) { middleInterleavedPass<R>(from.p, to.p, s, m, twiddles); });
+}
+template <class T, class Dst>
+void runLastPass(size_t radix, const T* tables, Numbers<const T> from, Dst dst, LastSteps steps, T factor) {
+  if (isLargePrime(radix)) return lastPassOfMany<Numbers<T>::kPoints>(radix, tables, from, dst, steps, factor);
+  withEnds(dst.sign, factor,
+           [=](const auto& ends) { withLaterRadix(radix, [=](auto R) { lastInterleavedPass<R>(from.p, dst.p, steps, ends); }); });
+}
+
+// A short transform by two passes, with whole vectors between them. False where there are too many points.
+template <class T, class Src, class Dst> bool runPadded(const MixedPlan<T>& plan, Src src, Dst dst, T factor) {
   constexpr size_t L = kWidest<T>;
-  constexpr size_t M = kManyLanes<T>;
+  if (plan.count != 2 || plan.radix[0] > kMostPadded || plan.radix[1] > kMostPaddedRows) return false;
+  alignas(64) T rows[2 * kMostPadded * kMostPaddedRows];
+  const Planes<T> padded = planes(rows, rows + kMostPadded * kMostPaddedRows);
+  const size_t stride = up<static_cast<int64_t>(L)>(plan.radix[0]);
+  withMixedRadix(plan.radix[0], [=](auto R) { firstMixedPass<R, L>(src, padded, plan.radix[1], plan.tables, true); });
+  const LastSteps steps = {.columns = plan.radix[0], .points = stride, .results = plan.radix[0], .isPadded = true};
+  const T* const tables = plan.tables + (plan.radix[1] + L - 1) / L * L * (plan.radix[0] - 1U) * 2;
+  runLastPass(plan.radix[1], tables, asConst(padded), dst, steps, factor);
+  return true;
+}
+
+// From src to dst, which may be the same, by way of `even` and `odd`, each with room for n points as they are between passes: the
+// last pass but one goes to `even`, the one before to `odd`, and so on. src is not read after the first pass, dst written by the
+// last only.
+template <class T, class Src, class Dst, class Between>
+void runMixed(const MixedPlan<T>& plan, Src src, Dst dst, Between even, Between odd, T factor) {
+  if constexpr (!kAreNumbers<Src>) {
+    if (runPadded(plan, src, dst, factor)) return;
+  }
   const T* tables = plan.tables;
-  if (plan.count == 2 && plan.radix[0] <= kMostPadded && plan.radix[1] <= kMostPaddedRows) {
-    alignas(64) T rows[2 * kMostPadded * kMostPaddedRows];
-    const Planes<T> padded = planes(rows, rows + kMostPadded * kMostPaddedRows);
-    const size_t stride = up<static_cast<int64_t>(L)>(plan.radix[0]);
-    withMixedRadix(plan.radix[0], [=](auto R) { firstMixedPass<R, L>(src, padded, plan.radix[1], tables, true); });
-    const LastSteps steps = {.columns = plan.radix[0], .points = stride, .results = plan.radix[0], .isPadded = true};
-    tables += (plan.radix[1] + L - 1) / L * L * (plan.radix[0] - 1U) * 2;
-    return runLastPass(plan.radix[1], tables, asConst(padded), dst, steps, factor);
-  }
-  Planes<T> from = plan.count % 2 == 0 ? even : odd;
-  Planes<T> to = plan.count % 2 == 0 ? odd : even;
+  Between from = plan.count % 2 == 0 ? even : odd;
+  Between to = plan.count % 2 == 0 ? odd : even;
   const size_t first = plan.radix[0];
+  const size_t columns = isLargePrime(first) ? kManyPoints<Src> : kPointsIn<Src>;
   size_t m = plan.n / first;
-  if (isLargePrime(first)) {
-    firstPassOfMany<M>(first, tables, src, from, m, tables + matrixLength<T>(first));
-    tables += matrixLength<T>(first) + (m + M - 1) / M * M * (first - 1) * 2;
-  } else {
-    withMixedRadix(first, [=](auto R) { firstMixedPass<R, L>(src, from, m, tables, false); });
-    tables += (m + L - 1) / L * L * (first - 1) * 2;
-  }
+  runFirstPass(first, tables, src, from, m, tables + matrixLength<T>(first));
+  tables += matrixLength<T>(first) + (m + columns - 1) / columns * columns * (first - 1) * 2;
   size_t s = first;
   for (size_t pass = 1; pass + 1 < plan.count; ++pass) {
     const size_t radix = plan.radix[pass];

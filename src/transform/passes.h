@@ -141,6 +141,11 @@ template <class V> QVX_INLINE void storeHalves(V v, LaneOf<V>* low, LaneOf<V>* h
   store(hn::UpperHalf(half, v), half, high);
 }
 
+template <class V> QVX_INLINE V fromHalves(const LaneOf<V>* low, const LaneOf<V>* high) {
+  const hn::Half<TagOf<V>> half;
+  return hn::Combine(TagOf<V>(), load(half, high), load(half, low));
+}
+
 // Where the row pass writes its rows: one after another, or, of A * B rows, row q + B * m as row q * A + m.
 struct InOrder {
   constexpr size_t base(size_t j) const { return j; }

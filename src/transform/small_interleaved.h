@@ -7,6 +7,7 @@
 
 #include "frame/interleaved.h"
 #include "transform/folded.h"
+#include "transform/odd_butterfly.h"
 
 namespace qvx::transform {
 
@@ -61,9 +62,47 @@ template <class V, bool kSwapped> QVX_INLINE auto product(ComplexVector<V, kSwap
   if constexpr (kFuses && !kHasMasks) return product(z, same<V>(re), same<V>(im));
   else return ComplexVector<V, kSwapped>{minusPlus(z.v * same<V>(re), swapped(z.v) * same<V>(kSwapped ? -im : im))};
 }
+// a + factor * b
+template <class V> QVX_INLINE auto addProduct(V factor, ComplexVector<V, false> a, ComplexVector<V, false> b) {
+  return ComplexVector<V, false>{hn::MulAdd(factor, b.v, a.v)};
+}
 template <class V, bool kSwapped> QVX_INLINE auto timesMinusI(ComplexVector<V, kSwapped> z) {
   return ComplexVector<V, kSwapped>{swapped(z.v) * alternating < V, kSwapped ? -2 : 2 > ()};
 }
+
+// Of parts side by side with one rounding less: the sine with both signs.
+template <class T, size_t kTurn, size_t N> struct SignedSine {
+  T v[16];
+  constexpr SignedSine() : v() {
+    for (size_t i = 0; i < 16; ++i) v[i] = static_cast<T>((i % 2 == 0 ? 1 : -1) * sineOfTurn(kTurn, N));
+  }
+};
+template <class T, size_t kTurn, size_t N> alignas(64) inline constexpr SignedSine<T, kTurn, N> kSignedSine;
+template <size_t kTurn, size_t N, class V> QVX_INLINE ComplexVector<V, false> rotated(ComplexVector<V, false> z) {
+  constexpr double kCosine = cosineOfTurn(kTurn, N);
+  const V cosine = same<V>(static_cast<LaneOf<V>>(kCosine));
+  return {hn::MulAdd(swapped(z.v), load(TagOf<V>(), kSignedSine<LaneOf<V>, kTurn, N>.v), z.v * cosine)};
+}
+
+// What a transform does beside: conjugates its points and its results where it is inverse, and multiplies results by a factor.
+// Plain ones, forward and not scaled, do neither: 20 to 768 complex doubles take 0.80 to 0.97 of the time.
+template <class V, bool kPlain> struct InterleavedEnds {
+  V sign;
+  V factor;
+
+  QVX_INLINE InterleavedEnds(bool isInverse, LaneOf<V> by) {
+    const V turn = isInverse ? alternating<V>() : same<V>(LaneOf<V>(1));
+    sign = hn::And(turn, same<V>(LaneOf<V>(-0.0)));
+    factor = turn * same<V>(by);
+  }
+  QVX_INLINE V point(V v) const { return hn::Xor(v, sign); }
+  QVX_INLINE V result(V v) const { return v * factor; }
+};
+template <class V> struct InterleavedEnds<V, true> {
+  QVX_INLINE InterleavedEnds(bool, LaneOf<V>) {}
+  QVX_INLINE V point(V v) const { return v; }
+  QVX_INLINE V result(V v) const { return v; }
+};
 
 // Twiddles for vectors of P numbers, number l of vector i being exp(-2 pi i x(i, l) / 128) times `factor`: the real part twice,
 // the imaginary part with both signs.
