@@ -177,7 +177,7 @@ template <class V, class OnBad> V ln(V x, OnBad onBad) {
   constexpr T kUnit = static_cast<T>(uint64_t{1} << kBits);  // of which the last bits are a number
   constexpr T kSubnormalScale = static_cast<T>(uint64_t{1} << (kBits + 1));
   const TagOf<V> d;
-  const hn::Repartition<U, TagOf<V>> du;
+  const hn::Repartition<U, TagOf<V> > du;
   const V given = x;
   V bias = same<V>(kUnit + C::kBias);
   const auto isPlain = hn::And(x >= same<V>(C::kLeastNormal), x < same<V>(kInfinity<T>));
