@@ -10,27 +10,18 @@ a vector of complex numbers. All along the last axis. Transforms are unscaled, i
 results are times 2^-scale, rounded and saturated.
 """
 
-from functools import lru_cache
-
 import numpy as np
 
 from . import raw
 from .forms import TAGS, complex_int16
 from .rows import contiguous, native, scratch
+from .transforms import record_for
 
 __all__ = ["forward", "inverse", "multiply", "expand", "fft_integer"]
 _LAYOUTS = {"perm": "Perm", "pack": "Pack", "ccs": "CCS"}
 _INVERSE_DIVIDES = 2
 _COMPLEX_TAGS = {"32f": "32fc", "64f": "64fc", "16s": "16sc"}
 _COMPLEX = {"32f": np.dtype(np.complex64), "64f": np.dtype(np.complex128), "16s": complex_int16}
-
-
-@lru_cache(maxsize=32)
-def _record(kind, n):
-    record = getattr(raw, "qvxsDFTInitAlloc_" + kind)(n, _INVERSE_DIVIDES, 0)
-    size = np.zeros(1, np.int32)
-    getattr(raw, "qvxsDFTGetBufSize_" + kind)(record, size)
-    return record, int(size[0])
 
 
 def _layout(layout):
@@ -66,7 +57,7 @@ def forward(x, layout="ccs", scale=0):
     n = x.shape[-1]
     call, scales = _export("DFTFwd_RTo" + _layout(layout), tag, scale)
     result = np.empty(x.shape[:-1] + (2 * (n // 2 + 1) if layout == "ccs" else n,), x.dtype)
-    record, size = _record("R_" + tag, n)
+    record, size = record_for("DFT", "R_" + tag, n, _INVERSE_DIVIDES)
     if x.size:
         raw.rows(call, x.reshape(-1, n), result.reshape(-1, result.shape[-1]), record, *scales, scratch(size))
     return result
@@ -86,7 +77,7 @@ def inverse(spectrum, layout="ccs", n=None, scale=0):
         raise ValueError(f"{have} numbers are no spectrum of {n} in the layout {layout}")
     call, scales = _export(f"DFTInv_{_layout(layout)}ToR", tag, scale)
     result = np.empty(spectrum.shape[:-1] + (n,), spectrum.dtype)
-    record, size = _record("R_" + tag, n)
+    record, size = record_for("DFT", "R_" + tag, n, _INVERSE_DIVIDES)
     if result.size:
         raw.rows(call, spectrum.reshape(-1, have), result.reshape(-1, n), record, *scales, scratch(size))
     return result
@@ -152,7 +143,7 @@ def fft_integer(x, inverse=False, scale=0):
     x = contiguous(native(x))
     if x.dtype != complex_int16 or not x.ndim or not x.shape[-1]:
         raise TypeError(f"fft_integer has no form for {x.dtype} of shape {x.shape}")
-    record, size = _record("C_16sc", x.shape[-1])
+    record, size = record_for("DFT", "C_16sc", x.shape[-1], _INVERSE_DIVIDES)
     result = np.empty_like(x)
     call = raw.qvxsDFTInv_CToC_16sc_Sfs if inverse else raw.qvxsDFTFwd_CToC_16sc_Sfs
     if x.size:
