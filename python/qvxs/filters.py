@@ -11,8 +11,9 @@ from . import raw
 from .convolution import convolve_rows
 from .fallback import NotHere, TAGS, common, or_scipy
 from .fft import ifft, rfft
+from .filter_records import filter_record, section_record
 from .rows import back, check_axis, contiguous, last, native
-from .streams import Fir, filter_record, section_record
+from .streams import Fir
 
 _ndarray = np.ndarray
 

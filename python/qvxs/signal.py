@@ -20,7 +20,8 @@ from .design import butter, cheby1, firwin, get_window
 from .filters import filtfilt, hilbert, lfilter, medfilt, sosfilt, sosfiltfilt
 from .multirate import resample_poly, upfirdn
 from .periodograms import spectrogram, welch
-from .streams import Fir, Iir, Lms, Resampler, Sos, SparseFir, SparseIir, WaveletJoin, WaveletSplit
+from .streams import Fir, Iir, Lms, Resampler, Sos, SparseFir, SparseIir
+from .wavelets import WaveletJoin, WaveletSplit
 
 COVERED = ["lfilter", "sosfilt", "filtfilt", "sosfiltfilt", "upfirdn", "resample_poly", "convolve", "fftconvolve", "oaconvolve",
            "correlate", "medfilt", "hilbert", "firwin", "get_window", "butter", "cheby1", "welch", "spectrogram"]

@@ -41,6 +41,20 @@ def _real(x, name):
     return x, tag
 
 
+def _numbers(layout, n):
+    """The numbers in the spectrum of n samples."""
+    return 2 * (n // 2 + 1) if layout == "ccs" else n
+
+
+def _samples(spectrum, layout, n):
+    """The samples that a spectrum is of; even in "ccs" unless n tells."""
+    have = spectrum.shape[-1]
+    n = have - 2 * (layout == "ccs") if n is None else n
+    if n < 1 or have != _numbers(layout, n):
+        raise ValueError(f"{have} numbers are no spectrum of {n} in the layout {layout}")
+    return n
+
+
 def _export(stem, tag, scale):
     """The export, and the scale if it takes one."""
     call = getattr(raw, f"qvxs{stem}_{tag}", None)
@@ -56,7 +70,7 @@ def forward(x, layout="ccs", scale=0):
     x, tag = _real(x, "forward")
     n = x.shape[-1]
     call, scales = _export("DFTFwd_RTo" + _layout(layout), tag, scale)
-    result = np.empty(x.shape[:-1] + (2 * (n // 2 + 1) if layout == "ccs" else n,), x.dtype)
+    result = np.empty(x.shape[:-1] + (_numbers(layout, n),), x.dtype)
     record, size = record_for("DFT", "R_" + tag, n, _INVERSE_DIVIDES)
     if x.size:
         raw.rows(call, x.reshape(-1, n), result.reshape(-1, result.shape[-1]), record, *scales, scratch(size))
@@ -71,15 +85,12 @@ def inverse(spectrum, layout="ccs", n=None, scale=0):
         array([1., 2., 3.], dtype=float32)
     """
     spectrum, tag = _real(spectrum, "inverse")
-    have = spectrum.shape[-1]
-    n = have - 2 * (layout == "ccs") if n is None else n
-    if n < 1 or have != (2 * (n // 2 + 1) if layout == "ccs" else n):
-        raise ValueError(f"{have} numbers are no spectrum of {n} in the layout {layout}")
+    n = _samples(spectrum, layout, n)
     call, scales = _export(f"DFTInv_{_layout(layout)}ToR", tag, scale)
     result = np.empty(spectrum.shape[:-1] + (n,), spectrum.dtype)
     record, size = record_for("DFT", "R_" + tag, n, _INVERSE_DIVIDES)
     if result.size:
-        raw.rows(call, spectrum.reshape(-1, have), result.reshape(-1, n), record, *scales, scratch(size))
+        raw.rows(call, spectrum.reshape(-1, spectrum.shape[-1]), result.reshape(-1, n), record, *scales, scratch(size))
     return result
 
 
@@ -122,13 +133,10 @@ def expand(spectrum, layout="ccs", n=None):
         array([10.+0.j, -2.+2.j, -2.+0.j, -2.-2.j], dtype=complex64)
     """
     spectrum, tag = _real(spectrum, "expand")
-    have = spectrum.shape[-1]
-    n = have - 2 * (layout == "ccs") if n is None else n
-    if n < 1 or have != (2 * (n // 2 + 1) if layout == "ccs" else n):
-        raise ValueError(f"{have} numbers are no spectrum of {n} in the layout {layout}")
+    n = _samples(spectrum, layout, n)
     result = np.empty(spectrum.shape[:-1] + (n,), _COMPLEX[tag])
     if result.size:
-        raw.rows(getattr(raw, f"qvxsConj{_layout(layout).capitalize()}_{_COMPLEX_TAGS[tag]}"), spectrum.reshape(-1, have), result.reshape(-1, n), n)
+        raw.rows(getattr(raw, f"qvxsConj{_layout(layout).capitalize()}_{_COMPLEX_TAGS[tag]}"), spectrum.reshape(-1, spectrum.shape[-1]), result.reshape(-1, n), n)
     return result
 
 

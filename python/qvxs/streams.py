@@ -16,59 +16,11 @@ import threading
 import numpy as np
 
 from . import raw
-from .forms import TAGS
+from .filter_records import SAME, WIDE, filter_record, runner_of, section_record, tail_of, wide_type
 from .rows import contiguous, native
 
-# The tail of an export's name by that of the samples' type: filters with taps of that type, and those whose taps and memory are doubles.
-_SAME = {"32f": "_32f", "64f": "_64f", "32fc": "_32fc", "64fc": "_64fc"}
-_WIDE = {"32f": "64f_32f", "64f": "_64f", "32fc": "64fc_32fc", "64fc": "_64fc",
-         "16s": "64f_16s", "32s": "64f_32s", "16sc": "64fc_16sc", "32sc": "64fc_32sc"}
 
-
-def _tail(dtype, *tables):
-    for tails in tables:
-        tail = tails.get(TAGS.get(np.dtype(dtype)))
-        if tail is not None:
-            return tail
-    raise TypeError(f"filters take float32, float64, complex64, complex128 and, as streams, integers of 16 and 32 bits, not {np.dtype(dtype)}")
-
-
-def _wide(dtype):
-    return np.float64 if np.dtype(dtype).kind in "fi" else np.complex128
-
-
-def _runner(name):
-    """The export that runs a filter, and whether it takes a scale: those of integers do."""
-    call = getattr(raw, name, None)
-    return call or getattr(raw, name + "_Sfs")
-
-
-def _calls(tail):
-    return _runner("qvxsIIR" + tail), *(getattr(raw, f"qvxsIIR{what}{tail}") for what in ("GetDlyLine", "SetDlyLine"))
-
-
-def filter_record(b, a, dtype, wide=True):
-    """A record of the direct form and the exports that run it, read its state and write it.
-
-    wide: taps and state are doubles; else they are of the samples' type: 3.4 ns a sample of float32 at order 4, 10 through doubles.
-    """
-    tail = _tail(dtype, _WIDE if wide else _SAME)
-    order = max(len(a), len(b)) - 1
-    taps = np.zeros(2 * (order + 1), _wide(dtype) if wide else dtype)
-    taps[:len(b)] = b
-    taps[order + 1:order + 1 + len(a)] = a
-    return getattr(raw, "qvxsIIRInitAlloc" + tail)(taps, order, None), *_calls(tail)
-
-
-def section_record(sos, dtype, wide=True):
-    """The same for second-order sections."""
-    tail = _tail(dtype, _WIDE if wide else _SAME)
-    stem, _, samples = tail.partition("_")
-    taps = contiguous(sos, _wide(dtype) if wide else dtype).reshape(-1)
-    return getattr(raw, f"qvxsIIRInitAlloc{stem}_BiQuad_{samples}")(taps, len(taps) // 6, None), *_calls(tail)
-
-
-class _Stream:
+class Stream:
     """What all filters have: a lock, the dtype, and blocks converted to vectors of it."""
 
     def __init__(self, dtype):
@@ -90,7 +42,7 @@ class _Stream:
         raise TypeError(f"a {type(self).__name__} is not copied: take its state")
 
 
-class _OneToOne(_Stream):
+class _OneToOne(Stream):
     """As many outputs as samples, of a record with a delay line: _record, _run, _read, _write."""
 
     scale = 0
@@ -127,11 +79,11 @@ class Fir(_OneToOne):
         taps = np.atleast_1d(taps)
         super().__init__(np.result_type(taps, np.float32) if dtype is None else dtype)
         self.scale = scale
-        tail = _tail(self.dtype, _SAME, _WIDE)
+        tail = tail_of(self.dtype, SAME, WIDE)
         self._taps = len(taps)
-        typed = contiguous(taps, self.dtype if self.dtype.kind in "fc" else _wide(self.dtype))
+        typed = contiguous(taps, self.dtype if self.dtype.kind in "fc" else wide_type(self.dtype))
         self._record = getattr(raw, "qvxsFIRInitAlloc" + tail)(typed, len(taps), None)
-        self._run = _runner("qvxsFIR" + tail)
+        self._run = runner_of("qvxsFIR" + tail)
         self._read, self._write = (getattr(raw, f"qvxsFIR{what}{tail}") for what in ("GetDlyLine", "SetDlyLine"))
 
     @property
@@ -157,14 +109,14 @@ class _Recursive(_OneToOne):
 
     @property
     def state(self):
-        line = np.empty(self._memory, _wide(self.dtype))
+        line = np.empty(self._memory, wide_type(self.dtype))
         with self._lock:
             self._read(self._record, line.reshape(-1))
         return line
 
     @state.setter
     def state(self, line):
-        line = contiguous(line, _wide(self.dtype))
+        line = contiguous(line, wide_type(self.dtype))
         if line.shape != self._memory:
             raise ValueError(f"the state has the shape {self._memory}, not {line.shape}")
         with self._lock:
@@ -256,90 +208,7 @@ class SparseIir(_Sparse):
         super().__init__("IIRSparse", [(b, b_positions), (a, a_positions)])
 
 
-class _Bank(_Stream):
-    def __init__(self, stem, pair, dtype, low, high, offsets):
-        tail = TAGS.get(np.dtype(dtype))
-        if tail not in ("32f", "8u", "8s", "16u", "16s"):
-            raise TypeError(f"a filter bank takes no {np.dtype(dtype)}")
-        tail = tail if tail == "32f" else pair.format(tail)
-        super().__init__(dtype)
-        self._taps = [contiguous(np.atleast_1d(taps), np.float32) for taps in (low, high)]
-        self._offsets = offsets
-        self._make, self._run = getattr(raw, f"qvxs{stem}InitAlloc_{tail}"), getattr(raw, f"qvxs{stem}_{tail}")
-        self._read, self._write = (getattr(raw, f"qvxs{stem}{what}DlyLine_{tail}") for what in ("Get", "Set"))
-        self.reset()
-
-    def reset(self):
-        """Begins anew, after zeros."""
-        with self._lock:
-            self._record = self._make(*(part for taps, offset in zip(self._taps, self._offsets) for part in (taps, taps.size, offset)))
-
-    @property
-    def state(self):
-        lines = [np.zeros(max(self._kept(taps.size + offset - 1), 0), np.float32) for taps, offset in zip(self._taps, self._offsets)]
-        with self._lock:
-            self._read(self._record, *lines)
-        return tuple(lines)
-
-    @state.setter
-    def state(self, lines):
-        with self._lock:
-            self._write(self._record, *(contiguous(line, np.float32) for line in lines))
-
-
-class WaveletSplit(_Bank):
-    """One stage of a wavelet filter bank: pairs of samples become one value in the low band and one in the high band.
-
-    low, high: the taps; offsets: of both bands; dtype of the samples: float32, uint8, int8, uint16, int16. Exports: qvxsWTFwdInitAlloc_, qvxsWTFwd_.
-
-        >>> WaveletSplit([0.5, 0.5], [0.5, -0.5]).process(np.float32([0, 2, 4, 8]))
-        (array([0., 3.], dtype=float32), array([0., 1.], dtype=float32))
-    """
-
-    def __init__(self, low, high, offsets=(0, 0), dtype=np.float32):
-        super().__init__("WTFwd", "{}32f", dtype, low, high, offsets)
-
-    def _kept(self, count):
-        return count
-
-    def process(self, block):
-        """The two bands of the next samples, of which there must be an even number."""
-        block = self._vector(block)
-        if block.size % 2:
-            raise ValueError("a filter bank takes pairs of samples")
-        bands = np.empty(block.size // 2, np.float32), np.empty(block.size // 2, np.float32)
-        if block.size:
-            with self._lock:
-                self._run(block, *bands, block.size // 2, self._record)
-        return bands
-
-
-class WaveletJoin(_Bank):
-    """The inverse stage: with the taps reversed and the same offsets the signal comes back, later. Exports: qvxsWTInvInitAlloc_, qvxsWTInv_.
-
-        >>> WaveletJoin([1, 1], [-1, 1]).process(np.float32([1, 3]), np.float32([1, 1]))
-        array([0., 2., 2., 4.], dtype=float32)
-    """
-
-    def __init__(self, low, high, offsets=(0, 0), dtype=np.float32):
-        super().__init__("WTInv", "32f{}", dtype, low, high, offsets)
-
-    def _kept(self, count):
-        return count // 2
-
-    def process(self, low, high):
-        """Two samples for each pair of values."""
-        low, high = (contiguous(band, np.float32) for band in (low, high))
-        if low.ndim != 1 or low.shape != high.shape:
-            raise ValueError(f"the bands have the shapes {low.shape} and {high.shape}")
-        result = np.empty(2 * low.size, self.dtype)
-        if low.size:
-            with self._lock:
-                self._run(low, high, low.size, result, self._record)
-        return result
-
-
-class Resampler(_Stream):
+class Resampler(Stream):
     """Resampling of a stream by up / down through taps, as upfirdn; what is due later comes with later blocks or with `flush`.
 
     taps: None for those of resample_poly, which are for up / down in lowest terms. Exports: qvxsFIRMRInitAlloc_ and qvxsFIR_ of 32f, 64f, 32fc, 64fc.
@@ -359,7 +228,7 @@ class Resampler(_Stream):
         self.up, self.down = up, down
         taps = np.atleast_1d(taps)
         super().__init__(np.result_type(taps, np.float32) if dtype is None else dtype)
-        self._tail = _tail(self.dtype, _SAME)
+        self._tail = tail_of(self.dtype, SAME)
         self.taps = contiguous(taps, self.dtype)
         self._run = getattr(raw, "qvxsFIR" + self._tail)
         self.reset()
@@ -419,7 +288,7 @@ class Resampler(_Stream):
         return result
 
 
-class Lms(_Stream):
+class Lms(Stream):
     """An adaptive FIR filter of float32 samples: its taps follow a reference by the least-mean-squares rule.
 
     taps: a number of zeros, or the first taps; step: the step size. Exports: qvxsFIRLMSInitAlloc_32f, qvxsFIRLMS_32f.

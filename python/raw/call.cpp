@@ -1,75 +1,14 @@
 // The steps of a call: numbers first, because converting them may run Python; then records and their locks; then vectors, whose
 // lengths are checked by the table. From then on no Python code runs until the library has returned.
+#include "call.h"
+
 #include <qvx/qvxcore.h>
 #include <qvx/qvxdefs.h>
 
+#include <algorithm>
 #include <cstring>
-#include <vector>
-
-#include "raw.h"
 
 namespace raw {
-
-namespace {
-
-const int64_t kNothingBrought[kMostBrought] = {};
-
-class Call {
- public:
-  explicit Call(const Export& e) : e_(e) {}
-  Call(const Call&) = delete;
-  ~Call() { end(); }
-
-  // For rows, of which the arguments are the first and steps the bytes from one to the next.
-  PyObject* run(PyObject* const* arguments, npy_intp rows, const npy_intp* steps);
-
- private:
-  struct Range {
-    const unsigned char *from, *to;
-    bool isConst;
-  };
-  struct Copy {
-    std::vector<int32_t> numbers;
-    unsigned char* original;
-    bool isConst;
-  };
-
-  bool takeNumbers(PyObject* const* arguments);
-  bool takeRecords();
-  bool takeRecord(int index, PyObject* object, void*& address);
-  bool takeVectors(bool withContents);
-  bool takeVector(int index, PyObject* object, void*& pointer);
-  bool takeBlock(int index);
-  bool takeCopy(const Parameter& p, const Vector& vector, int64_t needed, void*& pointer);
-  bool isApart();
-  bool isNull(int index, PyObject* object, bool& isTaken);
-  void tooShort(const Parameter& p, int64_t count, int64_t needed);
-  int64_t integerNamed(const char* name) const;
-  int invoke(npy_intp rows, const npy_intp* steps);
-  int callAll(npy_intp rows, const npy_intp* steps);
-  PyObject* result(int status);
-  void end();
-
-  const Export& e_;
-  Slot slots_[kMostParameters];
-  Integers integers_ = {};
-  PyObject* objects_[kMostParameters] = {};  // by place; tuples are the call's own
-  const int64_t* brought_ = kNothingBrought;
-  int64_t elements_ = 0;
-  void* handle_ = nullptr;
-  Record* made_ = nullptr;
-  Record* record_ = nullptr;
-  bool isExclusive_ = false, hasContents_ = false;
-  std::vector<Record*> records_;              // of many channels
-  std::vector<std::vector<void*>> pointers_;  // to them, and to their vectors
-  std::vector<Copy> copies_;
-  Range ranges_[kMostParameters];
-  int rangeCount_ = 0;
-  PyObject* tuples_[kMostParameters];
-  int tupleCount_ = 0;
-};
-
-bool isSequence(Kind kind) { return kind == Kind::kVectors || kind == Kind::kRecords; }
 
 void Call::end() {
   if (record_ != nullptr) endUse(record_, isExclusive_);
@@ -114,81 +53,6 @@ bool Call::isNull(int index, PyObject* object, bool& isTaken) {
   if (object != Py_None) return false;
   isTaken = e_.parameters[index].isOptional;
   if (!isTaken) raiseStatus(e_, qvxStatNullPtr);
-  return true;
-}
-
-// ---- records
-
-bool isStranger(const Export& e, const Record& record) {
-  for (const char* const* part = e.strangers; part != nullptr && *part != nullptr; ++part) {
-    if (std::strstr(record.maker->name, *part) != nullptr) return true;
-  }
-  return false;
-}
-
-bool Call::takeRecord(int index, PyObject* object, void*& address) {
-  const Parameter& p = e_.parameters[index];
-  auto* record = reinterpret_cast<Record*>(object);
-  if (!Py_IS_TYPE(object, &recordType) || record->type != p.type) {
-    PyErr_Format(PyExc_TypeError, "%s: %s takes a %s", e_.name, p.name, kRecordTypes[p.type].name);
-    return false;
-  }
-  if (isStranger(e_, *record)) {
-    PyErr_Format(PyExc_ValueError, "%s: %s takes no record of %s", e_.name, p.name, record->maker->name);
-    return false;
-  }
-  if (!isSequence(p.kind)) {
-    isExclusive_ = !p.isConst || std::strstr(kRecordTypes[p.type].name, "State") != nullptr;
-    if (!beginUse(record, e_, isExclusive_)) return false;
-    record_ = record;
-    brought_ = record->brought;
-  }
-  address = record->address;
-  return true;
-}
-
-bool Call::takeRecords() {
-  for (int i = 0; i < e_.count; ++i) {
-    const Parameter& p = e_.parameters[i];
-    if (p.kind != Kind::kRecord && p.kind != Kind::kRecords) continue;
-    bool isTaken = false;
-    if (isNull(i, objects_[i], isTaken)) {
-      if (!isTaken) return false;
-      slots_[i].set<void*>(nullptr);
-      continue;
-    }
-    if (p.kind == Kind::kRecord) {
-      void* address = nullptr;
-      if (!takeRecord(i, objects_[i], address)) return false;
-      slots_[i].set(address);
-      continue;
-    }
-    const auto count = static_cast<size_t>(PyTuple_GET_SIZE(objects_[i]));
-    std::vector<void*>& addresses = pointers_.emplace_back(count);
-    std::vector<Record*> wanted;
-    records_.reserve(count);
-    for (size_t k = 0; k < count; ++k) {
-      PyObject* item = PyTuple_GET_ITEM(objects_[i], static_cast<Py_ssize_t>(k));
-      if (!takeRecord(i, item, addresses[k])) return false;
-      wanted.push_back(reinterpret_cast<Record*>(item));
-    }
-    // Locks are taken in one order, whatever the order of the arguments.
-    std::sort(wanted.begin(), wanted.end());
-    if (std::adjacent_find(wanted.begin(), wanted.end()) != wanted.end()) {
-      PyErr_Format(PyExc_ValueError, "%s: %s has one record twice", e_.name, p.name);
-      return false;
-    }
-    for (Record* record : wanted) {
-      if (!beginUse(record, e_, true)) return false;
-      records_.push_back(record);
-    }
-    if (!wanted.empty()) brought_ = wanted[0]->brought;
-    slots_[i].set<void*>(addresses.data());
-    if (static_cast<int64_t>(count) < integerNamed("nChannels")) {
-      tooShort(p, static_cast<int64_t>(count), integerNamed("nChannels"));
-      return false;
-    }
-  }
   return true;
 }
 
@@ -392,6 +256,7 @@ PyObject* Call::run(PyObject* const* arguments, npy_intp rows, const npy_intp* s
 
 // ---- the few functions that return no status
 
+namespace {
 void freeVector(PyObject* capsule) { qvxFree(PyCapsule_GetPointer(capsule, nullptr)); }
 
 // An array over memory of the library, which is released with the last view of it.
