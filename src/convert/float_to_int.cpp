@@ -69,6 +69,16 @@ template <class T> QvxStatus toNarrow(const Qvx32f* src, T* dst, int len, QvxRou
   });
 }
 
+template <class T> QvxStatus to32(const T* src, Qvx32s* dst, int len, QvxRoundMode mode, int scaleFactor) {
+  const QvxStatus status = check(len, src, dst);
+  if (status != qvxStatOk) return status;
+  const T factor = powerOfTwo<T>(-int64_t{scaleFactor});
+  return byMode(mode, Rounding::kCallers, len, [=](auto convert) {
+    return loop([=](auto v) { return toIntsBelow<Qvx32s>(v * same<decltype(v)>(factor), convert); }, destination(dst),
+                elements(len), source(src));
+  });
+}
+
 // 24 bits: clipped from below first, so that NaN becomes the lower limit.
 template <class T> QvxStatus to24(const Qvx32f* src, Qvx8u* dst, int len, int scaleFactor) {
   using Range = Range24<T>;
@@ -117,26 +127,6 @@ QvxStatus toInt64ByMode(QvxRoundMode mode, double factor1, double factor2, const
 
 }  // namespace
 
-QvxStatus qvxsConvert_32f32s_Sfs(const Qvx32f* a, Qvx32s* d, int len, QvxRoundMode mode, int sf) {
-  const QvxStatus status = check(len, a, d);
-  if (status != qvxStatOk) return status;
-  const Qvx32f factor = powerOfTwo<Qvx32f>(-int64_t{sf});
-  return byMode(mode, Rounding::kCallers, len, [=](auto convert) {
-    return loop([=](auto v) { return toIntsBelow<Qvx32s>(v * same<decltype(v)>(factor), convert); }, destination(d),
-                elements(len), source(a));
-  });
-}
-
-QvxStatus qvxsConvert_64f32s_Sfs(const Qvx64f* a, Qvx32s* d, int len, QvxRoundMode mode, int sf) {
-  const QvxStatus status = check(len, a, d);
-  if (status != qvxStatOk) return status;
-  const Qvx64f factor = powerOfTwo<Qvx64f>(-int64_t{sf});
-  return byMode(mode, Rounding::kCallers, len, [=](auto convert) {
-    return loop([=](auto v) { return toIntsBelow<Qvx32s>(v * same<decltype(v)>(factor), convert); }, destination(d),
-                elements(len), source(a));
-  });
-}
-
 QvxStatus qvxsConvert_64f16s_Sfs(const Qvx64f* a, Qvx16s* d, int len, QvxRoundMode mode, int sf) {
   const QvxStatus status = check(len, a, d);
   if (status != qvxStatOk) return status;
@@ -169,6 +159,8 @@ QvxStatus qvxsConvert_32f8s_Sfs(const Qvx32f* a, Qvx8s* d, int len, QvxRoundMode
 QvxStatus qvxsConvert_32f8u_Sfs(const Qvx32f* a, Qvx8u* d, int len, QvxRoundMode mode, int sf) { return toNarrow(a, d, len, mode, sf); }
 QvxStatus qvxsConvert_32f16s_Sfs(const Qvx32f* a, Qvx16s* d, int len, QvxRoundMode mode, int sf) { return toNarrow(a, d, len, mode, sf); }
 QvxStatus qvxsConvert_32f16u_Sfs(const Qvx32f* a, Qvx16u* d, int len, QvxRoundMode mode, int sf) { return toNarrow(a, d, len, mode, sf); }
+QvxStatus qvxsConvert_32f32s_Sfs(const Qvx32f* a, Qvx32s* d, int len, QvxRoundMode mode, int sf) { return to32(a, d, len, mode, sf); }
+QvxStatus qvxsConvert_64f32s_Sfs(const Qvx64f* a, Qvx32s* d, int len, QvxRoundMode mode, int sf) { return to32(a, d, len, mode, sf); }
 QvxStatus qvxsConvert_32f24u_Sfs(const Qvx32f* a, Qvx8u* d, int len, int sf) { return to24<Qvx32u>(a, d, len, sf); }
 QvxStatus qvxsConvert_32f24s_Sfs(const Qvx32f* a, Qvx8u* d, int len, int sf) { return to24<Qvx32s>(a, d, len, sf); }
 // clang-format on

@@ -4,19 +4,6 @@
 using namespace qvx;
 using namespace qvx::iir;
 
-// Contract: these three accept the identities of other records, or report a mismatch even where they did their work.
-QvxStatus qvxsIIRSetTaps32s_16s(const Qvx32s* taps, QvxsIIRState32s_16s* state, int tapsFactor) {
-  if (isNull(taps)) return qvxStatNullPtr;
-  const QvxStatus status = checkState(state);
-  if (status != qvxStatOk) return status;
-  const Form form = state->isDirect() ? Form::kDirect : Form::kBiQuad;
-  const int n = state->isDirect() ? state->order : state->numBq;
-  return withFloatTaps(taps, tapsOf(form, n), tapsFactor, [state](const Qvx32f* converted) {
-    setTaps(*state, converted);
-    return qvxStatContextMismatch;
-  });
-}
-
 namespace {
 
 QvxStatus checkAsFloats(const QvxsIIRState32sc_16sc* state) {
@@ -24,18 +11,27 @@ QvxStatus checkAsFloats(const QvxsIIRState32sc_16sc* state) {
   return checkRecord(state, kMagics.direct, kMagics.biQuad);
 }
 
-}  // namespace
-
-QvxStatus qvxsIIRSetTaps32sc_16sc(const Qvx32sc* taps, QvxsIIRState32sc_16sc* state, int tapsFactor) {
+// Contract: reports a mismatch even where it did its work.
+template <class State, class Taps> QvxStatus setIntegerTaps(const Taps* taps, State* state, QvxStatus ofState, int tapsFactor) {
   if (isNull(taps)) return qvxStatNullPtr;
-  const QvxStatus status = checkAsFloats(state);
-  if (status != qvxStatOk) return status;
+  if (ofState != qvxStatOk) return ofState;
   const Form form = state->isDirect() ? Form::kDirect : Form::kBiQuad;
   const int n = state->isDirect() ? state->order : state->numBq;
-  return withFloatTaps(taps, tapsOf(form, n), tapsFactor, [state](const Qvx32fc* converted) {
+  return withFloatTaps(taps, tapsOf(form, n), tapsFactor, [state](const auto* converted) {
     setTaps(*state, converted);
     return qvxStatContextMismatch;
   });
+}
+
+}  // namespace
+
+QvxStatus qvxsIIRSetTaps32s_16s(const Qvx32s* taps, QvxsIIRState32s_16s* state, int tapsFactor) {
+  return setIntegerTaps(taps, state, checkState(state), tapsFactor);
+}
+
+// Contract: these two accept the identities of other records.
+QvxStatus qvxsIIRSetTaps32sc_16sc(const Qvx32sc* taps, QvxsIIRState32sc_16sc* state, int tapsFactor) {
+  return setIntegerTaps(taps, state, checkAsFloats(state), tapsFactor);
 }
 
 QvxStatus qvxsIIRSetTaps32sc_16sc32fc(const Qvx32fc* taps, QvxsIIRState32sc_16sc* state) {

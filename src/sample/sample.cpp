@@ -2,7 +2,7 @@
 #include <bit>
 #include <cstring>
 
-#include "frame/map.h"
+#include "frame/words.h"
 
 using namespace qvx;
 
@@ -14,12 +14,6 @@ QvxStatus checkSampling(const void* src, int srcLen, const void* dst, const int*
   if (factor < 1) return qvxStatBadSampleFactor;
   return *phase < 0 || *phase >= factor ? qvxStatBadSamplePhase : qvxStatOk;
 }
-
-// Elements as integers of their size, where there are such; those of 16 bytes are vectors in themselves.
-template <class T> inline constexpr bool kIsWord = sizeof(T) <= 8;
-template <class T> using Word = hwy::UnsignedFromSize<sizeof(T)>;
-template <class T> Word<T>* words(T* p) { return reinterpret_cast<Word<T>*>(p); }
-template <class T> const Word<T>* words(const T* p) { return reinterpret_cast<const Word<T>*>(p); }
 
 // A zero before or after each sample; returns how many samples are done, as many as fill vectors.
 template <class W> size_t spreadByTwo(const W* src, size_t n, W* dst, bool isAfterZero) {
@@ -66,7 +60,7 @@ template <class T> QvxStatus sampleUp(const T* src, int srcLen, T* dst, int* dst
   *dstLen = static_cast<int>(static_cast<uint32_t>(srcLen) * static_cast<uint32_t>(factor));
   if (apart == 1) return std::copy_n(src, n, dst), qvxStatOk;
   size_t at = 0;
-  if constexpr (kIsWord<T>) {
+  if constexpr (kWords<T> == 1) {
     if (apart == 2) at = spreadByTwo(words(src), n, words(dst), first != 0);
   }
   const size_t slice = std::max<size_t>(1, kSlice / sizeof(T) / apart);
@@ -113,7 +107,7 @@ template <class T> QvxStatus sampleDown(const T* src, int srcLen, T* dst, int* d
   *phase = static_cast<int>(first + count * apart - n);
   src += first;
   size_t i = 0;
-  if constexpr (kIsWord<T>) {
+  if constexpr (kWords<T> == 1) {
     if (apart == 2 && n > first) i = everySecond(words(src), n - first, words(dst));
     if (apart == 4 && n > first) i = everyFourth(words(src), n - first, words(dst));
   }
