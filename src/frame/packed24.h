@@ -72,6 +72,51 @@ alignas(64) inline constexpr int32_t kDense24[3][16] = {{0, 1, 2, 4, 5, 6, 8, 9,
                                                         {5, 6, 8, 9, 10, 12, 13, 14, 16, 17, 18, 20, 21, 22, 24, 25},
                                                         {10, 12, 13, 14, 16, 17, 18, 20, 21, 22, 24, 25, 26, 28, 29, 30}};
 
+// A byte order table whose bytes begin later in the block, in each block of a register of two by another number.
+struct Order24 {
+  alignas(32) int8_t bytes[32];
+};
+constexpr Order24 later24(const int8_t (&table)[16], int8_t inLower, int8_t inUpper) {
+  Order24 order{};
+  for (size_t i = 0; i < 16; ++i) {
+    order.bytes[i] = static_cast<int8_t>(table[i] < 0 ? -1 : table[i] + inLower);
+    order.bytes[i + 16] = static_cast<int8_t>(table[i] < 0 ? -1 : table[i] + inUpper);
+  }
+  return order;
+}
+
+// Stores four registers, each block of which holds 12 bytes, as three.
+template <class V> void storeDense(Quad<V> q, uint8_t* to) {
+  const TagOf<V> d;
+#if QVXS_AVX512
+  if constexpr (sizeof(q.a.raw) == 64) {
+    store(lanesOfTwo(q.a, q.b, kDense24[0]), d, to);
+    store(lanesOfTwo(q.b, q.c, kDense24[1]), d, to + 64);
+    store(lanesOfTwo(q.c, q.d, kDense24[2]), d, to + 128);
+    return;
+  }
+#endif
+#if QVXS_AVX2
+  if constexpr (sizeof(q.a.raw) == 32) {
+    // Each register in the order in which its dwords are stored; those marked 7 come from its neighbour.
+    const __m256i a = _mm256_permutevar8x32_epi32(q.a.raw, _mm256_setr_epi32(0, 1, 2, 4, 5, 6, 7, 7));
+    const __m256i b = _mm256_permutevar8x32_epi32(q.b.raw, _mm256_setr_epi32(2, 4, 5, 6, 7, 7, 0, 1));
+    const __m256i c = _mm256_permutevar8x32_epi32(q.c.raw, _mm256_setr_epi32(5, 6, 7, 7, 0, 1, 2, 4));
+    const __m256i last = _mm256_permutevar8x32_epi32(q.d.raw, _mm256_setr_epi32(7, 7, 0, 1, 2, 4, 5, 6));
+    store(V{_mm256_blend_epi32(a, b, 0b11000000)}, d, to);
+    store(V{_mm256_blend_epi32(b, c, 0b11110000)}, d, to + 32);
+    store(V{_mm256_blend_epi32(c, last, 0b11111100)}, d, to + 64);
+    return;
+  }
+#endif
+  if constexpr (sizeof(q.a.raw) == 16) {
+    const auto middle = _mm_shuffle_ps(_mm_castsi128_ps(q.b.raw), _mm_castsi128_ps(q.c.raw), 0b01001001);
+    store(q.a | hn::ShiftLeftBytes<12>(d, q.b), d, to);
+    store(V{_mm_castps_si128(middle)}, d, to + 16);
+    store(hn::CombineShiftRightBytes<12>(d, q.d, hn::ShiftLeftBytes<4>(d, q.c)), d, to + 32);
+  }
+}
+
 }  // namespace detail
 
 // packed24: the four 32-bit lanes of each block to 12 bytes and 4 zeros. unpacked24: 12 bytes to four signed lanes.
@@ -100,44 +145,48 @@ template <class T, Block24 kBlock = Block24::kLanes> struct From24 {
       return quadOf([bytes, d](size_t k) {
         const auto packed = as<int32_t>(load(Lanes<uint8_t, N>(), bytes + (k < 3 ? 48 * k : 128)));
         const auto spread = hn::TableLookupLanes(packed, hn::SetTableIndices(d, detail::kSpread24[k / 3]));
-        return ordered<N / 4>(as<uint8_t>(spread), 0);
+        return ordered(as<uint8_t>(spread), kFromStart);
       });
     } else
 #endif
-    {
-      return quadOf([bytes](size_t k) { return one<N / 4>(bytes + k * 3 * N / 4); });
+    if constexpr (N == 32) {
+      return quadOf([bytes](size_t k) {
+        const Lanes<uint8_t, 16> half;
+        const uint8_t* from = bytes + 24 * k;
+        return ordered(hn::Combine(Lanes<uint8_t, N>(), load(half, from + 8), load(half, from)), kFromBothEnds);
+      });
+    } else {
+      static_assert(N == 16);
+      const auto block = [bytes](size_t at, const detail::Order24& order) {
+        return ordered(load(Lanes<uint8_t, N>(), bytes + at), order);
+      };
+      using V = decltype(block(0, kFromStart));
+      return Quad<V>{block(0, kFromStart), block(12, kFromStart), block(24, kFromStart), block(32, kFromFour)};
     }
   }
   template <size_t N> auto get(size_t at, size_t n) const {
     static_assert(N == 16);
-    return quadOf([bytes = p + 3 * at, n](size_t k) { return some(bytes + 3 * std::min(n, 4 * k), shareOf<4>(k, n)); });
+    return quadOf([bytes = p + 3 * at, n](size_t k) {
+      return ordered(loadFirst(Lanes<uint8_t, 16>(), bytes + 3 * std::min(n, 4 * k), 3 * shareOf<4>(k, n)), kFromStart);
+    });
   }
 
  private:
-  // One register: four elements or eight.
-  template <size_t N> static auto one(const uint8_t* bytes) {
-    const Lanes<uint8_t, 16> half;
-    if constexpr (N == 8) {
-      return ordered<N>(hn::Combine(Lanes<uint8_t, 4 * N>(), load(half, bytes + 8), load(half, bytes)), 4);
-    } else {
-      return some(bytes, N);
-    }
-  }
-  static auto some(const uint8_t* bytes, size_t n) { return ordered<4>(loadFirst(Lanes<uint8_t, 16>(), bytes, 3 * n), 0); }
+  static constexpr const int8_t (&kTable)[16] = kBlock == Block24::kReversed ? detail::kReversed24
+                                                : std::is_signed_v<T>        ? detail::kSigned24
+                                                                             : detail::kUnsigned24;
+  // Where the elements begin in each block. The last block of a register ends with it, so that nothing past it is read.
+  static constexpr detail::Order24 kFromStart = detail::later24(kTable, 0, 0);
+  static constexpr detail::Order24 kFromFour = detail::later24(kTable, 4, 4);
+  static constexpr detail::Order24 kFromBothEnds = detail::later24(kTable, 0, 4);
 
-  // highOffset: where the elements begin in the upper block of two.
-  template <size_t N> static auto ordered(Vec<Lanes<uint8_t, 4 * N>> bytes, int8_t highOffset) {
-    const Lanes<int8_t, 4 * N> d;
-    constexpr bool kSigned = std::is_signed_v<T>;
-    const int8_t* table = kSigned ? detail::kSigned24 : detail::kUnsigned24;
-    if constexpr (kBlock == Block24::kReversed) table = detail::kReversed24;
-    auto order = hn::LoadDup128(d, table);
-    if constexpr (N == 8) {
-      const auto offset = hn::ConcatUpperLower(d, hn::Set(d, highOffset), hn::Zero(d));
-      order = hn::IfThenElse(order < hn::Zero(d), order, order + offset);
-    }
-    const auto lanes = as<T>(hn::TableLookupBytesOr0(bytes, as<uint8_t>(order)));
-    if constexpr (kSigned) return hn::ShiftRight<8>(lanes);
+  template <class V> static auto ordered(V bytes, const detail::Order24& order) {
+    const hn::Repartition<int8_t, TagOf<V>> d;
+    Vec<decltype(d)> indices;
+    if constexpr (kLanesOf<V> == 64) indices = hn::LoadDup128(d, order.bytes);
+    else indices = load(d, order.bytes);
+    const auto lanes = as<T>(hn::TableLookupBytesOr0(bytes, as<uint8_t>(indices)));
+    if constexpr (std::is_signed_v<T>) return hn::ShiftRight<8>(lanes);
     else return lanes;
   }
 };
@@ -154,19 +203,7 @@ template <class T, Block24 kBlock = Block24::kLanes> struct To24 {
     return bytes / 3;
   }
   template <size_t N, class V> void put(Quad<V> q, size_t at) const {
-    uint8_t* bytes = p + 3 * at;
-    const auto blocks = each(q, [](V v) { return packed(v); });
-#if QVXS_AVX512
-    if constexpr (N == 64) {
-      const Lanes<uint8_t, N> d;
-      store(lanesOfTwo(blocks.a, blocks.b, detail::kDense24[0]), d, bytes);
-      store(lanesOfTwo(blocks.b, blocks.c, detail::kDense24[1]), d, bytes + N);
-      store(lanesOfTwo(blocks.c, blocks.d, detail::kDense24[2]), d, bytes + 2 * N);
-    } else
-#endif
-    {
-      forEach(blocks, [bytes](auto v, size_t k) { one(v, bytes + k * 3 * N / 4); });
-    }
+    detail::storeDense(each(q, [](V v) { return packed(v); }), p + 3 * at);
   }
   template <size_t N, class V> void put(Quad<V> q, size_t at, size_t n) const {
     static_assert(N == 16);
@@ -179,15 +216,6 @@ template <class T, Block24 kBlock = Block24::kLanes> struct To24 {
   template <class V> static auto packed(V v) {
     if constexpr (kBlock == Block24::kReversed) return as<uint8_t>(v);
     else return packed24(v);
-  }
-  template <class V> static void one(V blocks, uint8_t* bytes) {
-    const Lanes<uint8_t, 16> half;
-    if constexpr (sizeof(blocks.raw) == 32) {
-      store(hn::LowerHalf(half, blocks), half, bytes);  // four bytes more than the block has; the next store overwrites them
-      storeFirst(hn::UpperHalf(half, blocks), half, bytes + 12, 12);
-    } else {
-      storeFirst(blocks, half, bytes, 12);
-    }
   }
 };
 
