@@ -89,6 +89,39 @@ inline constexpr size_t kFew = 4;
 inline constexpr size_t kMany = 8;
 inline constexpr size_t kWorthMany = 16;  // vectors of taps
 
+// Outputs a vector apart meet the same vectors of samples, of which each is loaded once for all of them: 128 outputs of 64
+// doubles take 190 ns in AVX-512, not 316, of 64 floats 157, not 231, in AVX2. SSSE3 gains nothing.
+template <class C> inline constexpr bool kShares = kVectorBytes > 16 && !std::is_integral_v<C>;
+inline constexpr size_t kMostShared = 8;  // vectors of taps
+
+// As many outputs as there are sets of kMany; returns their number. Apart from run, whose short calls it would slow down by a
+// tenth.
+template <size_t kVectors, class C, class Sum, size_t kFolded, class Put>
+[[gnu::noinline, gnu::flatten]] size_t runShared(const C* x, const C* p, size_t taps, size_t count, Put put) {
+  constexpr size_t N = kVectorElements<C>;
+  const auto beforeTaps = hn::FirstN(kTag<C>, (kVectors * N - taps) * PartsOf<C>::kCount);
+  size_t n = 0;
+  for (; n + kMany <= count; n += kMany) {
+    Sum sum[kMany / kFolded][kFolded];
+    unrolled<kMany + kVectors - 1>([&](auto j) {
+      const auto v = load(kTag<C>, parts(x + (n + j) * N));
+      unrolled<kMany>([&](auto i) {
+        Sum& s = sum[i / kFolded][i % kFolded];
+        if constexpr (i == j) s = onto(none<Sum>(), tapsAt(p, 0), hn::IfThenZeroElse(beforeTaps, v));
+        else if constexpr (i < j && j < i + kVectors) s = onto(s, tapsAt(p, (j - i) * N), v);
+      });
+    });
+    unrolled<kMany / kFolded>([&](auto i) { put(sumsOfLanes(sum[i]), n + i * kFolded); });
+  }
+  return n;
+}
+template <class C, class Sum, size_t kFolded, size_t kVectors = 1, class Put>
+size_t shared(size_t vectors, const C* x, const C* p, size_t taps, size_t count, Put put) {
+  if (vectors == kVectors) return runShared<kVectors, C, Sum, kFolded>(x, p, taps, count, put);
+  if constexpr (kVectors < kMostShared) return shared<C, Sum, kFolded, kVectors + 1>(vectors, x, p, taps, count, put);
+  return 0;
+}
+
 // put(sums, at) takes kFolded outputs, whose sums fill 16 bytes, put(sums, at, n) the first n of them.
 template <class C, class Sum, size_t kFolded, class Put>
 [[gnu::flatten]] void run(Samples<C> x, ptrdiff_t first, size_t apart, const C* p, size_t taps, size_t count, Put put) {
@@ -126,6 +159,14 @@ template <class C, class Sum, size_t kFolded, class Put>
     const InTwoLines<C> both{x};
     while (n + kFolded <= count && first < 0) together(kFold, both);
     if (n < count && n + kFolded > count) return together(kFold, both, count - n);
+  }
+  if constexpr (kShares<C>) {
+    if (apart == N && length <= kMostShared * N && n + kMany <= count) {
+      const size_t done =
+          shared<C, Sum, kFolded>(length / N, x.x + first, p, taps, count - n, [=](auto sums, size_t at) { put(sums, n + at); });
+      n += done;
+      first += static_cast<ptrdiff_t>(done) * step;
+    }
   }
   const InOneLine<C> one{x.x};
   if constexpr (PartsOf<C>::kCount == 1) {
