@@ -8,19 +8,19 @@ using namespace qvx;
 namespace {
 
 // Accumulators of several vectors in flight: four of them exceed 16 registers (4096 16-bit reals by complex ones in AVX2: 360 ns,
-// not 550). Of complex numbers by complex ones of 16 bits four are as fast.
+// not 550).
 constexpr size_t kFlightOfParts = kHasMasks ? 4 : 2;
 
 // A product's lanes hold sums of two products, or real and imaginary parts. Every real part fits its lane; kImOfPairs says
 // whether an imaginary one may be twice the square of the most negative number, which does not.
 
 struct Products16 {
-  static constexpr size_t kFlight = 4;
+  static constexpr size_t kFlight = kFlightOfParts;
   static constexpr size_t kSlice = 1 << 16;
   template <class V> static auto of(V a, V b) { return pairProducts(a, b); }
 };
 struct ComplexProducts16 {
-  static constexpr size_t kFlight = 4;
+  static constexpr size_t kFlight = kHasMasks ? 2 : 1;
   static constexpr bool kFetchesAhead = true;
   static constexpr size_t kSlice = 1 << 16;
   static constexpr bool kImOfPairs = true;
@@ -58,7 +58,7 @@ template <class V> struct Split {
   V factor;
 };
 struct SplitProducts {
-  [[maybe_unused]] static constexpr size_t kFlight = kFlightOfParts;
+  [[maybe_unused]] static constexpr size_t kFlight = 1;
   [[maybe_unused]] static constexpr size_t kSlice = 1 << 16;  // in SSSE3 alone
   template <class U, class V> static auto of(U a, Pair<V> b) {
     const Pair<U> halves = deinterleaved(each(b, [](V v) { return as<int16_t>(v); }));

@@ -62,6 +62,7 @@ struct Sum16 : Reduction {
   template <class A> int64_t total(A a) const { return sumOfLanes(halvesAdded<int64_t>(a)); }
 };
 struct Sum16Complex : Reduction {
+  static constexpr size_t kFlight = kHasMasks ? 4 : 2;
   static constexpr size_t kSlice = 1 << 17;
   template <class V> auto start(V v) const {
     using A = decltype(pairProducts(v, v));
@@ -125,6 +126,7 @@ struct MomentsInFloats : Reduction {
 
 // 16-bit integers, exactly. A pair of squares is at most 2^31, an unsigned number.
 struct Moments16 : Reduction {
+  static constexpr size_t kFlight = kHasMasks ? 4 : 2;
   static constexpr size_t kSlice = 1 << 17;
 
   template <class V> struct Lanes {

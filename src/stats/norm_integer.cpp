@@ -66,6 +66,7 @@ struct SumOfSquares : ExactReduction {
 
 // A distance d from 2^15 on, squared as the signed number it reads as, comes to (2^16 - d)^2: 2^17 * (d - 2^15) are missing.
 struct SumOfSquaredDistances : ExactReduction {
+  static constexpr size_t kFlight = kHasMasks ? 4 : 1;
   template <class V> struct Squared {
     SquareSum<V> squares;
     Vec<hn::RepartitionToWide<TagOf<V>>> missing;
