@@ -1,12 +1,10 @@
-// Recursive filters against the recursion in long double: streams cut anywhere, filters near the unit circle, rounding.
+// Recursive filters against the recursion in long double: streams cut anywhere, rounding, the direct form I.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
-#include <numbers>
 
-#include "iir/members.h"
+#include "iir/signals.h"
 #include "support/blocks.h"
 
 namespace {
@@ -17,41 +15,9 @@ using tests::forEachStem;
 using tests::isComplex;
 using tests::Part;
 using tests::Random;
-using tests::Recursion;
-
-double uniform(Random& random, double low, double high) { return low + (high - low) * 0x1p-64 * static_cast<double>(random()); }
-
-// A section with its poles and zeros at random, real or complex.
-template <class T> std::vector<T> section(Random& random, double radius, double angle, long double gain = 0.5) {
-  using N = std::complex<long double>;
-  const N p = std::polar<long double>(radius, angle);
-  const N q = isComplex<T> ? std::polar<long double>(radius * uniform(random, 0.3, 1), uniform(random, -3, 3)) : std::conj(p);
-  const N z = std::polar<long double>(uniform(random, 0.2, 1), uniform(random, 0, 3.1));
-  const N w = isComplex<T> ? std::polar<long double>(uniform(random, 0.2, 1), uniform(random, -3, 3)) : std::conj(z);
-  const N a0 = isComplex<T> ? N(0, 2) : N(2);
-  std::vector<T> t;
-  for (const N v : {N(gain), -gain * (z + w), gain * z * w, N(1), -(p + q), p * q}) {
-    const N scaled = v * a0;
-    if constexpr (isComplex<T>) t.push_back({static_cast<Part<T>>(scaled.real()), static_cast<Part<T>>(scaled.imag())});
-    else t.push_back(static_cast<T>(scaled.real()));
-  }
-  return t;
-}
-
-// Two sections as one direct form.
-template <class T> std::vector<T> inOneForm(const std::vector<T>& s, const std::vector<T>& t) {
-  std::vector<T> all;
-  for (size_t side = 0; side < 6; side += 3) {
-    for (size_t k = 0; k < 5; ++k) {
-      Exact<T> v = 0;
-      for (size_t i = 0; i < 3; ++i) {
-        if (k >= i && k - i < 3) v += exact(s[side + i]) * exact(t[side + k - i]);
-      }
-      all.push_back(tests::rounded<T>(v));
-    }
-  }
-  return all;
-}
+using tests::samples;
+using tests::section;
+using tests::uniform;
 
 // A stable direct form: feedback that shrinks whatever the order.
 template <class T> std::vector<T> direct(Random& random, int order) {
@@ -65,15 +31,6 @@ template <class T> std::vector<T> direct(Random& random, int order) {
   if constexpr (isComplex<T>) t[static_cast<size_t>(order) + 1] = {0, 2};
   else t[static_cast<size_t>(order) + 1] = 2;
   return t;
-}
-
-template <class T> std::vector<T> samples(size_t n, Random& random) {
-  std::vector<T> x(n);
-  const double most = std::is_integral_v<Part<T>> ? std::min<double>(std::numeric_limits<Part<T>>::max(), 1e9) / 8 : 1;
-  for (size_t i = 0; i < n * sizeof(T) / sizeof(Part<T>); ++i) {
-    reinterpret_cast<Part<T>*>(x.data())[i] = static_cast<Part<T>>(uniform(random, -most, most));
-  }
-  return x;
 }
 
 long double partsDiffer(long double got, long double expected, long double unit, bool isInteger, long double least,
@@ -205,215 +162,6 @@ TEST(IirFilter, IntegersAreScaledRoundedAndSaturated) {
   });
 }
 
-// ---- near the unit circle
-
-// The mean square error of y; what it is if only the truth is rounded.
-template <class T> long double error(const std::vector<T>& y, const std::vector<Exact<T>>& truth) {
-  long double all = 0;
-  for (size_t i = 0; i < y.size(); ++i) all += std::norm(std::complex<long double>(exact(y[i]) - truth[i]));
-  return all / y.size();
-}
-
-template <class T> long double rounding(const std::vector<Exact<T>>& truth) {
-  constexpr long double kRounding = std::numeric_limits<Part<T>>::epsilon() / 4;
-  long double squares = 0;
-  for (const auto& v : truth) squares += std::norm(std::complex<long double>(v));
-  return squares / truth.size() * kRounding * kRounding;
-}
-
-template <class N, class T> std::vector<N> through(std::vector<Recursion<N>> sections, const std::vector<T>& x) {
-  std::vector<N> y;
-  for (const T& v : x) {
-    N in = static_cast<N>(exact(v));
-    for (auto& r : sections) in = r(in);
-    y.push_back(in);
-  }
-  return y;
-}
-
-template <class T> struct PlainOf { using Type = T; };
-template <class T>
-requires isComplex<T>
-struct PlainOf<T> {
-  using Type = std::complex<Part<T>>;
-};
-
-TEST(IirFilter, IsAsAccurateAsThePlainLoopNearTheUnitCircle) {
-  forEachStem([](const auto& m) {
-    using M = std::decay_t<decltype(m)>;
-    using T = typename M::Internal;
-    if constexpr (std::is_same_v<T, typename M::Data>) {
-      using Plain = typename PlainOf<T>::Type;
-      Random random(tests::seed());
-      Random others(tests::seed() + 1);
-      for (const double radius : {0.5, 0.9, 0.99, 0.999, 0.9999}) {
-        std::vector<double> angles = {0.001, 0.003, 0.01, 0.03, 0.1, 0.3, 1, 2, 3, 3.1, 3.13, 3.14};
-        for (int k = 1; k < 16; ++k) {  // where the poles that look-ahead adds come close to the true ones
-          for (const double off : {0.0, 0.0002, 0.004, 0.05}) angles.push_back(std::numbers::pi * k / 16 + off);
-        }
-        for (const double angle : angles) {
-          for (const int form : {0, 1}) {
-            const bool isLong = random() % 4 == 0;
-            const int n = form == 0 ? (isLong ? 4 : 2) : isLong ? (random() % 2 ? 6 : 2) : 1;
-            std::vector<T> taps;
-            for (int k = 0; k < (form == 0 ? 1 : n); ++k) {
-              const bool isAtEase = k > 0 && k == n - 1;  // it must not speak for those before it
-              const auto one = section<T>(random, isAtEase ? 0.5 : radius, angle, 0.1);
-              taps.insert(taps.end(), one.begin(), one.end());
-            }
-            if (form == 0 && isLong) {
-              // Two pairs near the circle seldom go by vectors, one often.
-              const auto second = uniform(random, 0.1, 3);
-              const bool isFar = others() % 2 == 0;
-              taps = inOneForm<T>(taps, section<T>(random, isFar ? uniform(others, 0.1, 0.6) : radius, second));
-            }
-            const size_t piece = random() % 2 == 0 ? 8 : 3000;  // the least that goes by vectors, or all
-            // The error of one signal is a matter of chance where the filter remembers a third of it or more: of equal means one
-            // may be five times the other.
-            const int signals = radius > 0.9995 ? 8 : radius > 0.98 ? 2 : 1;
-            long double errors = 0;
-            long double plain[3] = {};  // of the output's rounding, of the loop, of the loop with fused multiplications
-            for (int signal = 0; signal < signals; ++signal) {
-              const auto x = samples<T>(3000, random);
-              const auto truth = through(tests::recursions<Exact<T>>(taps, n, form == 0 ? 0 : n), x);
-              // No filter is closer than the rounding of its output. At a quarter of the sampling rate the errors of separately
-              // rounded products happen to cancel; those of a fused loop are 3 times as large.
-              plain[0] += rounding<T>(truth);
-              for (const bool fuses : {false, true}) {
-                auto loop = tests::recursions<Plain>(taps, n, form == 0 ? 0 : n);
-                for (auto& r : loop) r.fuses = fuses;
-                std::vector<T> y;
-                for (const Plain v : through(loop, x)) y.push_back(tests::rounded<T>(static_cast<Exact<T>>(v)));
-                plain[fuses ? 2 : 1] += error(y, truth);
-              }
-              typename M::State* s = nullptr;
-              ASSERT_EQ(m.initAlloc[form](&s, taps.data(), n, nullptr), qvxStatOk);
-              auto y = x;
-              for (size_t at = 0; at < y.size(); at += piece)
-                ASSERT_EQ(m.inPlace(&y[at], static_cast<int>(std::min(piece, y.size() - at)), s), qvxStatOk);
-              m.free(s);
-              errors += error(y, truth);
-            }
-            const auto ratio = static_cast<double>(std::sqrt(errors / *std::max_element(std::begin(plain), std::end(plain))));
-            EXPECT_LE(ratio, 4) << m.name << ", form " << form << ", sections " << n << ", radius " << radius << ", angle "
-                                << angle;
-          }
-        }
-      }
-    }
-  });
-}
-
-TEST(IirFilter, WhatIsNotFiniteComesInWhereItStands) {
-  for (const int order : {1, 2, 3, 12}) {
-    QvxsIIRState_64f* s = nullptr;
-    std::vector<Qvx64f> t;
-    for (int i = 0; i <= order; ++i) t.push_back(1.0 / (1 << i));
-    for (int i = 0; i <= order; ++i) t.push_back(std::pow(-0.5, i));
-    ASSERT_EQ(qvxsIIRInitAlloc_64f(&s, t.data(), order, nullptr), qvxStatOk);
-    for (const Qvx64f value : {static_cast<Qvx64f>(NAN), static_cast<Qvx64f>(INFINITY)}) {
-      for (size_t at = 0; at < 24; ++at) {
-        std::vector<Qvx64f> x(24, 1.0);
-        x[at] = value;
-        qvxsIIRSetDlyLine_64f(s, nullptr);
-        ASSERT_EQ(qvxsIIR_64f_I(x.data(), 24, s), qvxStatOk);
-        for (size_t i = 0; i < 24; ++i)
-          EXPECT_EQ(std::isfinite(x[i]), i < at) << "order " << order << ", " << value << " at " << at << ", output " << i;
-      }
-      for (size_t at = 0; at < static_cast<size_t>(order); ++at) {
-        std::vector<Qvx64f> x(24, 1.0);
-        std::vector<Qvx64f> line(static_cast<size_t>(order), 1.0);
-        line[at] = value;
-        qvxsIIRSetDlyLine_64f(s, line.data());
-        ASSERT_EQ(qvxsIIR_64f_I(x.data(), 24, s), qvxStatOk);
-        for (size_t i = 0; i < 24; ++i)
-          EXPECT_EQ(std::isfinite(x[i]), i < at)
-              << "order " << order << ", " << value << " in the line at " << at << ", output " << i;
-      }
-    }
-    qvxsIIRFree_64f(s);
-  }
-}
-
-// What a tap that is not finite reaches is not finite; the outputs before it are.
-TEST(IirFilter, TapsThatAreNotFiniteComeInWhereTheyStand) {
-  forEachStem([](const auto& m) {
-    using M = std::decay_t<decltype(m)>;
-    using T = typename M::Data;
-    if constexpr (std::is_floating_point_v<T> && std::is_same_v<T, typename M::Internal>) {
-      // taps: all others. isDivisor(i): tap i is what others are divided by. firstOf(i): the first output that tap i reaches.
-      const auto expectFrom = [&](int form, int n, const std::vector<T>& taps, auto isDivisor, auto firstOf) {
-        typename M::State* s = nullptr;
-        ASSERT_EQ(m.initAlloc[form](&s, taps.data(), n, nullptr), qvxStatOk);
-        for (const auto value : {std::numeric_limits<T>::quiet_NaN(), std::numeric_limits<T>::infinity()}) {
-          for (size_t at = 0; at < taps.size(); ++at) {
-            if (isDivisor(at)) continue;
-            auto wrong = taps;
-            wrong[at] = value;
-            ASSERT_EQ(m.setTaps(wrong.data(), s), qvxStatOk);
-            ASSERT_EQ(m.setLine(s, nullptr), qvxStatOk);
-            std::vector<T> x(40, 1);
-            ASSERT_EQ(m.inPlace(x.data(), 40, s), qvxStatOk);
-            for (size_t i = 0; i < x.size(); ++i)
-              ASSERT_EQ(std::isfinite(x[i]), i < firstOf(at))
-                  << m.name << ", form " << form << ", " << n << ", " << value << " at " << at << ", output " << i;
-          }
-        }
-        m.free(s);
-      };
-      for (const int order : {1, 2, 3, 7, 12, 20}) {
-        const auto n = static_cast<size_t>(order);
-        std::vector<T> taps(2 * n + 2, T(0.125));
-        taps[n + 1] = 1;
-        expectFrom(
-            0, order, taps, [=](size_t i) { return i == n + 1; }, [=](size_t i) { return i % (n + 1); });
-      }
-      for (const int sections : {1, 2, 5, 9, 17}) {
-        std::vector<T> taps(static_cast<size_t>(6 * sections), T(0.125));
-        for (size_t i = 0; i < taps.size(); i += 3) taps[i] = 1;
-        expectFrom(
-            1, sections, taps, [](size_t i) { return i % 6 == 3; }, [](size_t i) { return i % 3; });
-      }
-    }
-  });
-}
-
-// Powers of such taps are infinite, and so are products with a gain; zeros times infinity would not be silence.
-TEST(IirFilter, SilenceThroughHugeFeedbackIsSilence) {
-  forEachStem([](const auto& m) {
-    using M = std::decay_t<decltype(m)>;
-    using T = typename M::Internal;
-    using D = typename M::Data;
-    const auto expectSilence = [&](auto initAlloc, int n, const std::vector<T>& taps, const char* form) {
-      typename M::State* s = nullptr;
-      ASSERT_EQ(initAlloc(&s, taps.data(), n, nullptr), qvxStatOk);
-      std::vector<D> x(33), y(33);
-      reinterpret_cast<Part<D>&>(x.back()) = 1;
-      ASSERT_EQ(m.filter(x.data(), y.data(), 33, s), qvxStatOk);
-      EXPECT_EQ(std::memcmp(x.data(), y.data(), 32 * sizeof(D)), 0) << m.name << form << n;
-      EXPECT_NE(std::memcmp(&x[0], &y[32], sizeof(D)), 0) << m.name << form << n;
-      m.free(s);
-    };
-    constexpr auto kMost = std::numeric_limits<Part<T>>::max();
-    for (const Part<T> feedback : {kMost / 4, std::sqrt(std::sqrt(kMost))}) {
-      for (const int n : {1, 6}) {
-        const Part<T> section[6] = {8, 0, 0, 1, feedback, feedback};
-        std::vector<T> taps(static_cast<size_t>(6 * n), T{});
-        for (size_t i = 0; i < taps.size(); ++i) reinterpret_cast<Part<T>&>(taps[i]) = section[i % 6];
-        if (n == 1) expectSilence(m.initAlloc[0], 2, taps, ", direct form, ");
-        expectSilence(m.initAlloc[1], n, taps, ", sections, ");
-        if constexpr (std::is_same_v<typename M::State, QvxsIIRState_32f>) {
-          expectSilence(qvxsIIRInitAlloc_BiQuad_DF1_32f, n, taps, ", direct form I, ");
-        } else if constexpr (std::is_same_v<typename M::State, QvxsIIRState64f_32s>) {
-          expectSilence(qvxsIIRInitAlloc64f_BiQuad_DF1_32s, n, taps, ", direct form I, ");
-        }
-      }
-    }
-  });
-}
-
-// ---- the direct form I
-
 // Several sections of the direct form I are those of the BiQuad form, whatever the cut.
 TEST(IirDf1, IsTheSameFilter) {
   Random random(tests::seed());
@@ -431,7 +179,7 @@ TEST(IirDf1, IsTheSameFilter) {
     ASSERT_EQ(qvxsIIRInitAlloc64f_BiQuad_32s(&reference, wide.data(), n, nullptr), qvxStatOk);
     const auto x = samples<Qvx32f>(3000, random);
     const auto integers = samples<Qvx32s>(3000, random);
-    const auto truth = through(tests::recursions<long double>(t, 2, n), x);
+    const auto truth = tests::through(tests::recursions<long double>(t, 2, n), x);
     auto y = x;
     auto z = integers;
     auto expected = integers;
