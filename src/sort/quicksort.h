@@ -121,33 +121,30 @@ template <class K, bool kHasRoom = kHasRoomInBuffer<K>> class Quicksort {
  private:
   // All keys are from `least` to `most`.
   void sort(K* x, size_t n, KeyMap<K> in, K least, K most, int levels) {
-    for (; n > kNetworkKeys<K>; in = {}, --levels) {
+    for (;; in = {}, --levels) {
       if constexpr (sizeof(K) == 2) {
         if (isCounted<K>(n, least, most)) return sortByCounting(x, n, in, map_, least, most, buffer_);
+      }
+      if (n <= kApartKeys<K>) {
+        first_ = x;
+        return sortApart(x, false, n, in, least, most, levels);
       }
       Often<K> often;
       K pivot = pivotOf(x, n, in, often);
       if (often.count > 0) {
-        if (sortByCounts(x, n, in, often, least, most, levels)) return;
+        const auto sortOthers = [&](size_t others) { sort(x, others, {}, least, most, levels - 1); };
+        if (sortByCounts(x, n, in, often, sortOthers)) return;
         in = {};
-      }
-      if constexpr (kHasRoom) {
-        if (n >= kRadixFrom<K> && n <= kSortBuffer<K>) return radixSort(x, buffer_, n, in, map_);
       }
       if (levels <= 0 || isDense(n, least, most)) pivot = middleOf(least, most);
       // A pivot that is the least key there can be: those equal to it are done.
-      if (pivot == least) {
-        if (pivot == most) return fill(x, n, pivot);
-        const size_t equal = partition(x, n, static_cast<K>(pivot + 1), in, buffer_);
-        fill(x, equal, pivot);
-        x += equal;
-        n -= equal;
-        least = static_cast<K>(pivot + 1);
-        continue;
-      }
+      const bool isLeast = pivot == least;
+      if (isLeast && pivot == most) return fill(x, n, pivot);
+      if (isLeast) ++pivot;
       const size_t below = partition(x, n, pivot, in, buffer_);
-      if (below <= n - below) {
-        if (below > 0) sort(x, below, {}, least, static_cast<K>(pivot - 1), levels - 1);
+      if (isLeast || below <= n - below) {
+        if (isLeast) fill(x, below, least);
+        else if (below > 0) sort(x, below, {}, least, static_cast<K>(pivot - 1), levels - 1);
         x += below;
         n -= below;
         least = pivot;
@@ -157,20 +154,59 @@ template <class K, bool kHasRoom = kHasRoomInBuffer<K>> class Quicksort {
         most = static_cast<K>(pivot - 1);
       }
     }
-    if (n > 0) sortByNetwork(x, n, in, map_);
   }
 
-  // False, with all keys still there, if the sample misled.
-  bool sortByCounts(K* x, size_t n, KeyMap<K> in, Often<K>& often, K least, K most, int levels) {
+  // The same of keys that the buffer has room for. They are in x or, where they were not below a pivot, in the buffer.
+  void sortApart(K* x, bool isInRoom, size_t n, KeyMap<K> in, K least, K most, int levels) {
+    for (; n > kNetworkKeys<K>; in = {}, --levels) {
+      K* const room = roomOf(x);
+      Often<K> often;
+      K pivot = pivotOf(isInRoom ? room : x, n, in, often);
+      if (often.count > 0) {
+        if (isInRoom) std::copy_n(room, n, x);
+        isInRoom = false;
+        const auto sortOthers = [&](size_t others) { sortApart(x, false, others, {}, least, most, levels - 1); };
+        if (sortByCounts(x, n, in, often, sortOthers)) return;
+        in = {};
+      }
+      if constexpr (kHasRoom) {
+        if (n >= kRadixFrom<K> && !isInRoom) return radixSort(x, room, n, in, map_);
+      }
+      if (levels <= 0) pivot = middleOf(least, most);
+      const bool isLeast = pivot == least;
+      if (isLeast && pivot == most) return fill(x, n, pivot);
+      if (isLeast) ++pivot;
+      const size_t below = partitionApart(x, room, isInRoom, n, pivot, in);
+      if (isLeast || below <= n - below) {
+        if (isLeast) fill(x, below, least);
+        else if (below > 0) sortApart(x, false, below, {}, least, static_cast<K>(pivot - 1), levels - 1);
+        x += below;
+        isInRoom = true;
+        n -= below;
+        least = pivot;
+      } else {
+        if (below < n) sortApart(x + below, true, n - below, {}, pivot, most, levels - 1);
+        isInRoom = false;
+        n = below;
+        most = static_cast<K>(pivot - 1);
+      }
+    }
+    if (n > 0) sortByNetwork(isInRoom ? roomOf(x) : x, x, n, in, map_);
+  }
+
+  // sortOthers(n) sorts the first n of x. False, with all keys still there, if the sample misled.
+  template <class Sort> bool sortByCounts(K* x, size_t n, KeyMap<K> in, Often<K>& often, Sort sortOthers) {
     const size_t others = countOut(x, n, in, often);
     if (others > n / 2) return putBack(x, others, often), false;
-    if (others > 0) sort(x, others, {}, least, most, levels - 1);
+    if (others > 0) sortOthers(others);
     return mergeRuns(x, n, others, often, map_), true;
   }
+  K* roomOf(K* x) const { return buffer_ + (x - first_); }
   void fill(K* x, size_t n, K key) const { fillRun(x, n, map_.original(key)); }
 
   KeyMap<K> map_;
   K* buffer_;
+  K* first_ = nullptr;  // of the keys that the buffer has room for
 };
 
 template <class K> void quicksort(K* x, size_t n, KeyMap<K> in, KeyMap<K> out) {
