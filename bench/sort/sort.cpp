@@ -172,6 +172,9 @@ template <class T> void roomTeamRow(Suite& s, const std::string& name, QvxStatus
   teamRow<T>(s, sortCase<T>(name, Pattern::kRandom),
              [ours](T* x, int n, Qvx32s* room) { ours(x, reinterpret_cast<T*>(room), n); });
 }
+template <class T> void valueTeamRow(Suite& s, const std::string& name, QvxStatus (*ours)(T*, int)) {
+  teamRow<T>(s, sortCase<T>(name, Pattern::kRandom), [ours](T* x, int n, Qvx32s*) { ours(x, n); });
+}
 template <class T> void indexTeamRow(Suite& s, const std::string& name, QvxStatus (*ours)(T*, Qvx32s*, int)) {
   teamRow<T>(s, indexCase<T>(name), [ours](T* x, int n, Qvx32s* indices) { ours(x, indices, n); });
 }
@@ -200,6 +203,8 @@ void sort(Suite& s) {
   roomTeamRow<Qvx32s>(s, "SortRadixAscend_32s_I", qvxsSortRadixAscend_32s_I);
   roomTeamRow<Qvx32u>(s, "SortRadixAscend_32u_I", qvxsSortRadixAscend_32u_I);
   roomTeamRow<Qvx64f>(s, "SortRadixAscend_64f_I", qvxsSortRadixAscend_64f_I);
+  valueTeamRow<Qvx32f>(s, "SortAscend_32f_I", qvxsSortAscend_32f_I);
+  valueTeamRow<Qvx64f>(s, "SortAscend_64f_I", qvxsSortAscend_64f_I);
   indexTeamRow<Qvx32f>(s, "SortIndexAscend_32f_I", qvxsSortIndexAscend_32f_I);
   indexTeamRow<Qvx64f>(s, "SortIndexAscend_64f_I", qvxsSortIndexAscend_64f_I);
   teamRow<Qvx32f>(s, sortCase<Qvx32f>("SortRadixIndexAscend_32f", Pattern::kRandom),

@@ -14,7 +14,7 @@ extern "C" {
 
 /** The elements of pSrcDst in ascending or descending order.
  *  pSrcDst: len elements, any alignment. No more than O(len log len) steps in any case, and no slower where many elements are equal;
- *  8-bit and long 16-bit vectors in O(len).
+ *  8-bit and long 16-bit vectors in O(len). Long vectors of 32-bit and 64-bit elements are divided between two threads.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadSize (len < 1). */
 QVXS_API(QvxStatus, qvxsSortAscend_8u_I, (Qvx8u* pSrcDst, int len));
 QVXS_API(QvxStatus, qvxsSortAscend_16s_I, (Qvx16s* pSrcDst, int len));

@@ -63,15 +63,25 @@ template <class K> [[gnu::noinline]] size_t partitionBuffered(K* x, size_t n, K 
   return partition(x, n, pivot, in, buffer);
 }
 
-// `room`: for n keys.
-template <class K> void sortWithRoom(K* x, K* room, size_t n, KeyMap<K> map) {
-  if (isSortedByReversal(x, n, map)) return;
-  if (!isSortedInTeam(n)) return sortThrough(x, room, n, map, map);
+// alone(from, n) sorts a range of x, which are keys.
+template <class K, class Sort> [[gnu::noinline]] void sortKeysInTeam(K* x, size_t n, KeyMap<K> map, Sort alone) {
   const K pivot = evenPivotOf(x, n, map);
   sortInTeam(
       n, [=](size_t from, size_t count) { return partitionBuffered(x + from, count, pivot, map); },
       [=](size_t a, size_t b, size_t count) { exchangeRanges(x + a, x + b, count); },
-      [=](size_t from, size_t count) { sortThrough<K>(x + from, room + from, count, {}, map); });
+      [=](size_t from, size_t count) { alone(from, count); });
+}
+
+template <class K> void sortInPlace(K* x, size_t n, KeyMap<K> map) {
+  if (isSortedByReversal(x, n, map)) return;
+  if (!isSortedInTeam(n)) return quicksort(x, n, map, map);
+  sortKeysInTeam(x, n, map, [=](size_t from, size_t count) { quicksort<K>(x + from, count, {}, map); });
+}
+// `room`: for n keys.
+template <class K> void sortWithRoom(K* x, K* room, size_t n, KeyMap<K> map) {
+  if (isSortedByReversal(x, n, map)) return;
+  if (!isSortedInTeam(n)) return sortThrough(x, room, n, map, map);
+  sortKeysInTeam(x, n, map, [=](size_t from, size_t count) { sortThrough<K>(x + from, room + from, count, {}, map); });
 }
 
 template <class K> [[gnu::noinline]] size_t partitionBuffered(Pairs<K> x, size_t n, K pivot) {

@@ -4,5 +4,5 @@
 
 using namespace qvx;
 
-void qvx::sortKeys(int32_t* x, size_t n, KeyMap<int32_t> map) { quicksort(x, n, map); }
+void qvx::sortKeys(int32_t* x, size_t n, KeyMap<int32_t> map) { sortInPlace(x, n, map); }
 void qvx::sortKeys(int32_t* x, int32_t* room, size_t n, KeyMap<int32_t> map) { sortWithRoom(x, room, n, map); }
