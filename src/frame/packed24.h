@@ -147,7 +147,7 @@ template <class T, Block24 kBlock = Block24::kLanes> struct From24 {
         const auto spread = hn::TableLookupLanes(packed, hn::SetTableIndices(d, detail::kSpread24[k / 3]));
         return ordered(as<uint8_t>(spread), kFromStart);
       });
-    } else
+    }
 #endif
     if constexpr (N == 32) {
       return quadOf([bytes](size_t k) {
@@ -155,8 +155,7 @@ template <class T, Block24 kBlock = Block24::kLanes> struct From24 {
         const uint8_t* from = bytes + 24 * k;
         return ordered(hn::Combine(Lanes<uint8_t, N>(), load(half, from + 8), load(half, from)), kFromBothEnds);
       });
-    } else {
-      static_assert(N == 16);
+    } else if constexpr (N == 16) {
       const auto block = [bytes](size_t at, const detail::Order24& order) {
         return ordered(load(Lanes<uint8_t, N>(), bytes + at), order);
       };

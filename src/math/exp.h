@@ -1,7 +1,7 @@
 // The exponential function of whole vectors of float or double.
 //
-// Error below 0.81 ULP where a register holds a table (w4), below 1.0 ULP elsewhere, subnormal results included. -infinity gives
-// 0, an overflow infinity, NaN itself. The rounding mode must be to nearest where kRoundsByInstruction is not set.
+// Error below 0.81 ULP where there is a table (w4, doubles of u8), below 1.0 ULP elsewhere, subnormal results included. -infinity
+// gives 0, an overflow infinity, NaN itself. The rounding mode must be to nearest where kRoundsByInstruction is not set.
 //
 // e^x = 2^k * 2^(i/steps) * e^r, k and i from the nearest multiple of 1/steps to x / ln 2. A table of 16 steps, which a register
 // holds in w4 and memory for doubles in u8, keeps r within 0.022; elsewhere there is one step and r stays within 0.347.
