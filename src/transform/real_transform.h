@@ -9,7 +9,7 @@
 namespace qvx::transform {
 
 // Orders up to this one stay in registers, with twiddles that are constants.
-inline constexpr int kShortReal = 5;
+inline constexpr int kShortReal = 7;
 
 // The plan of n real numbers: that of half as many complex ones, and what makes a spectrum of theirs.
 template <class T> struct RealPlan {
@@ -80,7 +80,7 @@ void longInverse(const RealPlan<T>& plan, const T* src, T* dst, T* y, Scale scal
   complexTransform(plan.half, Interleaved<const T, true>{dst}, Interleaved<T, true>{dst}, y, doubled<T>(scale));
 }
 
-// Of up to 32 numbers.
+// Up to kShortReal.
 template <bool kInverse, SpectrumLayout kLayout, class T, class Src, class Dst, class Scale>
 QVX_INLINE QvxStatus shortReal(int order, Src src, Dst dst, Scale scale) {
   const auto of = [=](auto n) __attribute__((always_inline)) {
@@ -102,8 +102,12 @@ QVX_INLINE QvxStatus shortReal(int order, Src src, Dst dst, Scale scale) {
       return of(std::integral_constant<size_t, 8>());
     case 4:
       return of(std::integral_constant<size_t, 16>());
-    default:
+    case 5:
       return of(std::integral_constant<size_t, 32>());
+    case 6:
+      return of(std::integral_constant<size_t, 64>());
+    default:
+      return of(std::integral_constant<size_t, 128>());
   }
 }
 

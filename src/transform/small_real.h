@@ -1,4 +1,4 @@
-// Transforms of up to 32 real numbers, as half as many complex ones that stay in registers.
+// Transforms of up to 128 real numbers, as half as many complex ones that stay in registers.
 //
 // Between the transform Z of the complex ones and the spectrum X there is, with a = Z[k], b = Z[H - k], N = 2H,
 //
@@ -16,9 +16,33 @@ namespace qvx::transform {
 // Where the real part of pair k stands.
 template <SpectrumLayout kLayout> constexpr size_t placeOf(size_t k) { return placeOfPair(kLayout, 2, k); }
 
-template <class V> QVX_INLINE V exchanged(V v) { return hn::ConcatLowerUpper(TagOf<V>(), v, v); }
 template <class V> QVX_INLINE auto firstLane(V v) { return hn::Set(Lanes<LaneOf<V>, 1>(), hn::GetLane(v)); }
-template <class V> QVX_INLINE V firstAndSecond(V a, V b) { return hn::ConcatUpperLower(TagOf<V>(), b, a); }
+
+// Of vectors of 2 or 4 numbers: in the opposite order, and so after the first of another.
+template <class V> QVX_INLINE V numbersReversed(V v) {
+  if constexpr (kLanesOf<V> == 4) return hn::ConcatLowerUpper(TagOf<V>(), v, v);
+  else if constexpr (sizeof(LaneOf<V>) == 4) return as<float>(reversed(as<double>(v)));
+  else return hn::ReverseBlocks(TagOf<V>(), v);
+}
+template <class V> QVX_INLINE V firstThenReversed(V a, V b) {
+  if constexpr (kLanesOf<V> == 4) return hn::ConcatUpperLower(TagOf<V>(), b, a);
+  else if constexpr (sizeof(LaneOf<V>) == 4)
+    return as<float>(delayed<1>(as<double>(numbersReversed(a)), as<double>(numbersReversed(b))));
+  else return delayed<2>(numbersReversed(a), numbersReversed(b));
+}
+template <class V> QVX_INLINE auto number(V v) {
+  if constexpr (kLanesOf<V> == 2) return v;
+  else return number(hn::LowerHalf(hn::Half<TagOf<V>>(), v));
+}
+template <class V> QVX_INLINE auto secondNumber(V v) {
+  if constexpr (kLanesOf<V> == 4) return hn::UpperHalf(hn::Half<TagOf<V>>(), v);
+  else return secondNumber(hn::LowerHalf(hn::Half<TagOf<V>>(), v));
+}
+// The same number everywhere.
+template <class D> QVX_INLINE Vec<D> everyNumber(D d, Vec<Lanes<hn::TFromD<D>, 2>> v) {
+  if constexpr (hn::MaxLanes(D()) == 2) return v;
+  else return hn::Combine(d, everyNumber(hn::Half<D>(), v), everyNumber(hn::Half<D>(), v));
+}
 
 // f W^k
 template <class T_, size_t H, bool kInverse> struct RealShape {
@@ -81,27 +105,30 @@ template <SpectrumLayout kLayout, size_t N, class T, class Src, class Dst, class
       put(H - k, b);
     });
   } else {
-    const Lanes<T, 2> one;
-    put(H / 2, hn::LowerHalf(one, z[kVectors / 2] * alternating<V>()));
+    put(H / 2, number(z[kVectors / 2] * alternating<V>()));
     unrolled<kVectors / 2>([&](auto q) __attribute__((always_inline)) {
-      constexpr size_t k = 2 * q;
+      constexpr size_t k = P * q;
       V a = z[q];
-      V b = firstAndSecond(z[(kVectors - q) % kVectors], z[kVectors - 1 - q]);
+      V b = firstThenReversed(z[(kVectors - q) % kVectors], z[kVectors - 1 - q]);
       recombinePairs<false>(a, b, kInterleavedTwiddles<S, kVectors>.twiddle[q]);
-      if constexpr (k == 0) {
-        put(1, hn::UpperHalf(one, a));
-        put(H - 1, hn::UpperHalf(one, b));
-      } else {
+      if constexpr (k > 0) {
         put(k, a);
-        put(H - k - 1, exchanged(b));
+        put(H - k - (P - 1), numbersReversed(b));
+        return;
+      }
+      put(1, secondNumber(a));
+      put(H - 1, secondNumber(b));
+      if constexpr (P == 4) {
+        const hn::Half<TagOf<V>> half;
+        put(2, hn::UpperHalf(half, a));
+        put(H - 3, hn::LowerHalf(half, numbersReversed(b)));
       }
     });
   }
   if constexpr (P == 1) {
     putEnds<kLayout, N>(scale(first), scale(last), dst);
   } else {
-    const Lanes<T, 2> pair;
-    putEnds<kLayout, N>(hn::LowerHalf(pair, scale(first)), hn::LowerHalf(pair, scale(last)), dst);
+    putEnds<kLayout, N>(number(scale(first)), number(scale(last)), dst);
   }
   return qvxStatOk;
 }
@@ -141,15 +168,12 @@ template <SpectrumLayout kLayout, size_t N, class T, class Src, class Dst, class
   const TagOf<V> d;
   const Lanes<T, 2> one;
   const auto get = [=](auto tag, size_t k) __attribute__((always_inline)) { return src.get(tag, placeOf<kLayout>(k)); };
-  const auto both = [=](size_t k) __attribute__((always_inline)) {
-    if constexpr (P == 1) return get(one, k);
-    else return hn::Combine(d, get(one, k), get(one, k));
-  };
+  const auto all = [=](size_t k) __attribute__((always_inline)) { return everyNumber(d, get(one, k)); };
   V z[kVectors];
   const auto everywhere = [=](size_t at) __attribute__((always_inline)) {
     return same<V>(hn::GetLane(src.get(Lanes<T, 1>(), at)));
   };
-  V mirrored[kVectors];  // numbers H - k and H - k - 1, k = 0, 2 ..
+  V mirrored[kVectors];  // numbers H - k, H - k - 1 .., k = 0, P ..
   const V ends = swapped(minusPlus(everywhere(0), everywhere(placeOfMiddle(kLayout, N))));
   z[0] = ends;
   if constexpr (P == 1) {
@@ -161,16 +185,25 @@ template <SpectrumLayout kLayout, size_t N, class T, class Src, class Dst, class
     });
     if constexpr (H > 1) z[H / 2] = get(d, H / 2) * alternating<V, 4>();
   } else {
-    mirrored[kVectors / 2] = both(H / 2) * alternating<V, 4>();
+    mirrored[kVectors / 2] = all(H / 2) * alternating<V, 4>();
     unrolled<kVectors / 2>([&](auto q) __attribute__((always_inline)) {
-      constexpr size_t k = 2 * q;
-      z[q] = k == 0 ? both(1) : get(d, k);
-      mirrored[q] = k == 0 ? both(H - 1) : exchanged(get(d, H - k - 1));
+      constexpr size_t k = P * q;
+      if constexpr (k > 0) {
+        z[q] = get(d, k);
+        mirrored[q] = numbersReversed(get(d, H - k - (P - 1)));
+      } else if constexpr (P == 2) {
+        z[0] = all(1);
+        mirrored[0] = all(H - 1);
+      } else {
+        const hn::Half<TagOf<V>> half;
+        z[0] = hn::Combine(d, get(half, 2), everyNumber(half, get(one, 1)));
+        mirrored[0] = numbersReversed(hn::Combine(d, everyNumber(half, get(one, H - 1)), get(half, H - 3)));
+      }
       recombinePairs<true>(z[q], mirrored[q], kInterleavedTwiddles<S, kVectors>.twiddle[q]);
     });
-    z[0] = firstAndSecond(ends, z[0]);
+    z[0] = hn::IfThenElse(hn::FirstN(d, 2), ends, z[0]);
     unrolled<kVectors / 2>([&](auto q) __attribute__((always_inline)) {
-      z[kVectors - 1 - q] = firstAndSecond(mirrored[q + 1], mirrored[q]);
+      z[kVectors - 1 - q] = firstThenReversed(mirrored[q + 1], mirrored[q]);
     });
   }
   transformInterleavedPoints<H, true, T>(
