@@ -3,7 +3,7 @@
 #pragma once
 
 #include "dft/plan.h"
-#include "dft/precise.h"
+#include "dft/powers.h"
 #include "dft/sizes.h"
 #include "fft/record.h"
 
@@ -47,25 +47,19 @@ template <class T> uint32_t lengthOfConvolution(uint32_t n, int64_t told) {
   return best;
 }
 
-// The points of a prime number but the first, in the order of the powers of a generator g, go through a circular convolution that
-// is one point shorter than they are: half of what a chirp takes. With factors up to 13 it takes 0.2 to 0.8 of the time: 8191
-// complex doubles 0.51, in registers of 32 bytes 0.41, of 16 bytes 0.44. Points go to the other order and back one by one, so
-// wide vectors lose by it where transforms are short: 379 complex floats would take 1.5 in registers of 64 bytes, 127 1.3 in
-// those of 32.
-template <class T> inline constexpr uint32_t kLeastPermuted = kWidest<T> <= 4 ? 0 : kWidest<T> == 8 ? 180 : 2300;
+// By powers a convolution is one point shorter than they are: half of what a chirp takes. With factors up to 13 it takes 0.2 to
+// 0.8 of the time: 8191 complex doubles 0.51, in registers of 32 bytes 0.41, of 16 bytes 0.44. Points go to the other order and
+// back one by one, so wide vectors lose by it where transforms are short: 241 complex floats would take 1.3 in registers of 64
+// bytes, 127 doubles 1.2.
+template <class T> inline constexpr uint32_t kLeastPermuted = kWidest<T> <= 4 ? 0 : kWidest<T> == 8 ? 128 : 500;
 template <class T> bool isPermuted(uint32_t n) {
-  uint32_t rest = n - 1;
-  for (const uint8_t p : kPreciseFactors) {
-    while (rest % p == 0) rest /= p;
-  }
   const uint32_t odd = (n - 1) >> std::countr_zero(n - 1);
-  return rest == 1 && (n > kLeastPermuted<T> || odd <= 3) && isPrime(n);
+  return (n > kLeastPermuted<T> || odd <= 3) && isPrimeByPowers(n);
 }
 
-// From real parts to imaginary ones. Two lines between them, so that they do not share sets of the cache: 65537 complex doubles
-// take 0.9 of the time. A chirp's reported size has no room for more than its points.
-template <class T> int64_t planeOf(const ConvolutionPlan<T>& plan) {
-  return plan.length + (plan.isPermuted ? 2 * Carver::kLine / static_cast<int64_t>(sizeof(T)) : 0);
+// Points between passes, in lines of the cache. A chirp's lengths are multiples of 16.
+template <class T> constexpr int64_t inLines(int64_t points) {
+  return up<Carver::kLine / static_cast<int64_t>(sizeof(T))>(points);
 }
 
 template <class T> Bytes choose(ConvolutionPlan<T>& plan, uint32_t n) {
@@ -73,110 +67,72 @@ template <class T> Bytes choose(ConvolutionPlan<T>& plan, uint32_t n) {
   const uint32_t length = plan.isPermuted ? n - 1 : lengthOfConvolution<T>(n, *complexWork<T>(n));
   plan.length = length;
   const int64_t spare = kVectorBytes * 3;  // past the chirp, for whole vectors
-  const int64_t ofPoints = plan.isPermuted ? int64_t{length} * 4 : bytesOfPoints<T>(n) + spare;
-  const int64_t planes = bytesOfPoints<T>(planeOf(plan));
-  const Bytes bytes = {bytesOfPoints<T>(length) + ofPoints + 3 * Carver::kLine, planes + Carver::kLine};
+  const int64_t ofPoints = plan.isPermuted ? int64_t{length} * 8 : bytesOfPoints<T>(n) + spare;
+  const int64_t points = bytesOfPoints<T>(inLines<T>(length));
+  const Bytes bytes = {bytesOfPoints<T>(length) + ofPoints + 4 * Carver::kLine, points + Carver::kLine};
   if (std::has_single_bit(length)) {
     const Bytes fft = bytesOfFft<T>(length);
     return {bytes.tables + fft.tables, bytes.work + fft.work - fft::kWorkSlack};
   }
-  planMixed<Planes<T>>(plan.length, plan.mixed);
-  return {bytes.tables + static_cast<int64_t>(tableLength(plan.mixed) * sizeof(T)), bytes.work + planes};
+  planMixed<PointsInMemory<T>>(plan.length, plan.mixed);
+  return {bytes.tables + static_cast<int64_t>(tableLength(plan.mixed) * sizeof(T)), bytes.work + points};
 }
 
 // The points of a convolution, and room for a transform: y is in its place, and where it leaves its results becomes y.
 template <class T> struct ConvolutionWork {
-  Planes<T> y;
-  Planes<T> other;
-  uint8_t* rest;
+  T* y;
+  T* other;
 
   ConvolutionWork(const ConvolutionPlan<T>& plan, uint8_t* work) {
-    const int64_t plane = planeOf(plan);
     Carver carver(work, Carver::kLine);
-    T* const re = carver.take<T>(2 * plane);
-    y = planes(re, re + plane);
-    rest = carver.rest();
-    auto* const next = reinterpret_cast<T*>(rest);
-    other = planes(next, next + plane);
+    y = carver.take<T>(2 * inLines<T>(plan.length));
+    other = reinterpret_cast<T*>(carver.rest());
   }
-  void transform(const ConvolutionPlan<T>& plan) {
+  void transform(const ConvolutionPlan<T>& plan, bool isInverse) {
     if (!isNull(plan.fft)) {
-      Fft<T>::kForwardApart(y.re, y.im, y.re, y.im, plan.fft, rest);
-    } else if (plan.mixed.count % 2 == 0) {
-      runMixed(plan.mixed, asConst(y), y, other, y, T(1));
-    } else {
-      runMixed(plan.mixed, asConst(y), other, y, other, T(1));
-      std::swap(y, other);
+      using C = typename FftOf<T>::C;
+      auto* const points = reinterpret_cast<C*>(y);
+      (isInverse ? Fft<T>::kInverse : Fft<T>::kForward)(points, points, plan.fft, reinterpret_cast<uint8_t*>(other));
+      return;
     }
+    using Points = PointsInMemory<T>;
+    const T sign = isInverse ? T(-0.0) : T(0);
+    const auto between = [plane = inLines<T>(plan.length)](T* p) {
+      if constexpr (kAreNumbers<Points>) return Numbers<T>{p};
+      else return planes(p, p + plane);
+    };
+    const PointsInMemory<const T> src = {y, sign};
+    if (plan.mixed.count % 2 == 0) return runMixed(plan.mixed, src, Points{y, sign}, between(other), between(y), T(1));
+    runMixed(plan.mixed, src, Points{other, sign}, between(y), between(other), T(1));
+    std::swap(y, other);
   }
   // by the spectrum
   void multiply(const ConvolutionPlan<T>& plan) {
     constexpr size_t L = kWidest<T>;
-    const size_t length = plan.length;
-    const Planes<const T> spectrum = planes(plan.spectrum, plan.spectrum + length);
-    size_t k = 0;
-    for (; k + L <= length; k += L) y.template put<L>(product(y.template get<L>(k), spectrum.template get<L>(k)), k);
-    if (k == length) return;
-    y.template putFirst<L>(product(y.template getFirst<L>(k, length - k), spectrum.template getFirst<L>(k, length - k)), k,
-                           length - k);
-  }
-  void exchangeParts() {
-    std::swap(y.re, y.im);
-    std::swap(other.re, other.im);
+    const Lanes<T, L> d;
+    using V = Vec<Lanes<T, L>>;
+    const auto times = [](V z, V w) { return product(ComplexVector<V, false>{z}, evensTwice(w), oddsTwice(w)).v; };
+    const size_t parts = 2 * plan.length;
+    size_t i = 0;
+    for (; i + L <= parts; i += L) store(times(load(d, y + i), load(d, plan.spectrum + i)), d, y + i);
+    if (i == parts) return;
+    putFirstLanes(times(firstLanes(d, y + i, parts - i), firstLanes(d, plan.spectrum + i, parts - i)), d, y + i, parts - i);
   }
 };
 
-// The spectrum of numbers in a wider type, put(k, re, im): fill(re, im) writes those that are not 0. Real parts stand where the
-// spectrum will, imaginary ones in the work memory.
-template <class T, class Fill, class Put> void writeSpectrum(size_t length, T* spectrum, uint8_t* work, Fill fill, Put put) {
-  using Wide = Wider<T>;
-  auto* const re = reinterpret_cast<Wide*>(spectrum);
-  auto* const im = Carver(work, Carver::kLine).template take<Wide>(static_cast<int64_t>(length));
-  std::fill_n(re, length, Wide(0));
-  std::fill_n(im, length, Wide(0));
-  fill(re, im);
-  const PreciseTransform transform(length);
-  transform.run(re, im);
-  transform.forEachResult<T>(re, im, put);
-}
-template <class T> constexpr auto intoPlanes(T* out, size_t length) {
-  return [=](size_t k, T re, T im) { out[k] = re, out[length + k] = im; };
-}
-
-// ---- Of a prime number of points, in the order of the powers of a generator g:
-//
-//   X[0] = sum of all x     X[g^-q] = x[0] + sum over m of x[g^m] w^(g^(m - q)), w = exp(-2 pi i / n)
-
-inline uint32_t generatorOf(uint32_t n) {
-  const auto power = [n](uint64_t base, uint32_t exponent) {
-    uint64_t result = 1;
-    for (; exponent > 0; exponent /= 2, base = base * base % n) {
-      if (exponent % 2 != 0) result = result * base % n;
-    }
-    return result;
-  };
-  uint32_t g = 2;
-  const auto generates = [&] {
-    for (const uint8_t p : kPreciseFactors) {
-      if ((n - 1) % p == 0 && power(g, (n - 1) / p) == 1) return false;
-    }
-    return true;
-  };
-  while (!generates()) ++g;
-  return g;
-}
+// ---- Of a prime number of points, by powers
 
 template <class T> void writePermuted(ConvolutionPlan<T>& plan, uint32_t n, uint8_t* block, uint8_t* work) {
   const size_t length = plan.length;
   Carver carver(block, Carver::kLine);
   T* const spectrum = carver.takeLines<T>(2 * static_cast<int64_t>(length));
   auto* const powers = carver.takeLines<uint32_t>(static_cast<int64_t>(length));
-  if (std::has_single_bit(plan.length)) makeFft<T>(plan.fft, Fft<T>::kInitApart, plan.length, QVX_FFT_SCALE_NONE, carver.rest());
-  else writeMixed<Planes<T>>(plan.mixed, reinterpret_cast<T*>(carver.rest()));
-  const uint64_t g = generatorOf(n);
-  uint64_t power = 1;
-  for (size_t m = 0; m < length; ++m, power = power * g % n) powers[m] = static_cast<uint32_t>(power);
+  auto* const places = carver.takeLines<uint32_t>(static_cast<int64_t>(length));
+  if (std::has_single_bit(plan.length)) makeFft<T>(plan.fft, Fft<T>::kInit, plan.length, QVX_FFT_SCALE_NONE, carver.rest());
+  else writeMixed<PointsInMemory<T>>(plan.mixed, reinterpret_cast<T*>(carver.rest()));
+  writePowers(n, powers, places);
   plan.powers = powers;
+  plan.places = places;
   plan.spectrum = spectrum;
   const Wider<T> factor = 1 / static_cast<Wider<T>>(length);
   const auto fill = [=](auto* re, auto* im) {
@@ -184,41 +140,47 @@ template <class T> void writePermuted(ConvolutionPlan<T>& plan, uint32_t n, uint
         n, length, [=](size_t m) { return powers[m == 0 ? 0 : length - m]; },
         [=](size_t m, double cosine, double sine) { re[m] = factor * cosine, im[m] = factor * sine; });
   };
-  writeSpectrum(length, spectrum, work, fill, intoPlanes(spectrum, length));
+  writeSpectrum(length, spectrum, work, fill, [=](size_t k, T re, T im) { spectrum[2 * k] = re, spectrum[2 * k + 1] = im; });
 }
 
-// get(k), put(k, z): points and results from the second on. Takes the first point, returns the first result.
-template <class T, class Get, class Put>
-Complex<T> convolveByPowers(const ConvolutionPlan<T>& plan, Complex<T> first, Get get, Put put, uint8_t* work) {
-  const size_t length = plan.length;
+// get(k): points from the second on, `first` the one before. Where the results are; the first one is returned.
+//
+// Results are fetched from all over in the order of the destination, not left there in their own: loads wait for the cache side
+// by side, stores one after another.
+template <class T, class Get>
+T* convolveByPowers(const ConvolutionPlan<T>& plan, Complex<T> first, Complex<T>& sum, Get get, uint8_t* work) {
   ConvolutionWork<T> points(plan, work);
-  for (size_t m = 0; m < length; ++m) {
-    const Complex<T> z = get(plan.powers[m]);
-    points.y.re[m] = z.re;
-    points.y.im[m] = z.im;
-  }
-  points.transform(plan);
-  const Complex<T> sum = {first.re + points.y.re[0], first.im + points.y.im[0]};
+  const size_t length = plan.length;
+  const uint32_t* const powers = plan.powers;
+  for (size_t m = 0; m < length; ++m) get(powers[m], points.y + 2 * m);
+  points.transform(plan, false);
+  sum = {first.re + points.y[0], first.im + points.y[1]};
   points.multiply(plan);
-  points.y.re[0] += first.re;  // and so each result is greater by it
-  points.y.im[0] += first.im;
-  points.exchangeParts();
-  points.transform(plan);
-  points.exchangeParts();
-  put(plan.powers[0], Complex<T>{points.y.re[0], points.y.im[0]});
-  for (size_t m = 1; m < length; ++m) put(plan.powers[m], Complex<T>{points.y.re[length - m], points.y.im[length - m]});
-  return sum;
+  points.y[0] += first.re;  // and so each result is greater by it
+  points.y[1] += first.im;
+  points.transform(plan, true);
+  return points.y;
 }
 
-// kStep: from a number to the next. src may be dst: all is read before the first result is written.
-template <size_t kStep, class T>
-void convolvePermuted(const ConvolutionPlan<T>& plan, Planes<const T> src, Planes<T> dst, T factor, uint8_t* work) {
-  const auto put = [=](size_t k, Complex<T> z) {
-    dst.re[kStep * k] = factor * z.re;
-    dst.im[kStep * k] = factor * z.im;
+// src may be dst. Inverse: results in the opposite order.
+template <class T>
+void convolvePermuted(const ConvolutionPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor, uint8_t* work) {
+  const Lanes<T, 2> d;
+  using V = Vec<Lanes<T, 2>>;
+  Complex<T> sum;
+  const auto get = [=](size_t k, T* to) { store(load(d, src + 2 * k), d, to); };
+  const T* const results = convolveByPowers(plan, {src[0], src[1]}, sum, get, work);
+  dst[0] = factor * sum.re;
+  dst[1] = factor * sum.im;
+  const size_t length = plan.length;
+  const auto put = [=, places = plan.places](size_t i, size_t k) {
+    store(load(d, results + 2 * places[i]) * same<V>(factor), d, dst + 2 * k);
   };
-  const auto get = [=](size_t k) { return Complex<T>{src.re[kStep * k], src.im[kStep * k]}; };
-  put(0, convolveByPowers(plan, get(0), get, put, work));
+  if (isInverse) {
+    for (size_t i = 0; i < length; ++i) put(i, length - i);
+  } else {
+    for (size_t i = 0; i < length; ++i) put(i, i + 1);
+  }
 }
 
 // ---- With a chirp
@@ -231,8 +193,8 @@ template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_
   Carver carver(block, Carver::kLine);
   T* const chirp = carver.take<T>(2 * int64_t{n} + 2 * static_cast<int64_t>(kWidest<T>));
   T* const spectrum = carver.takeLines<T>(2 * static_cast<int64_t>(length));
-  if (std::has_single_bit(plan.length)) makeFft<T>(plan.fft, Fft<T>::kInitApart, plan.length, QVX_FFT_SCALE_NONE, carver.rest());
-  else writeMixed<Planes<T>>(plan.mixed, reinterpret_cast<T*>(carver.rest()));
+  if (std::has_single_bit(plan.length)) makeFft<T>(plan.fft, Fft<T>::kInit, plan.length, QVX_FFT_SCALE_NONE, carver.rest());
+  else writeMixed<PointsInMemory<T>>(plan.mixed, reinterpret_cast<T*>(carver.rest()));
   // exp(-pi i k^2 / n): k^2 mod 2n never exceeds 2^55.
   writeTwiddles(
       2 * size_t{n}, n, [n](size_t k) { return k * k % (2 * size_t{n}); },
@@ -251,7 +213,7 @@ template <class T> void writeTables(ConvolutionPlan<T>& plan, uint32_t n, uint8_
       im[k] = im[mirrored] = -factor * chirp[n + k];
     }
   };
-  writeSpectrum(length, spectrum, work, fill, intoPlanes(spectrum, length));
+  writeSpectrum(length, spectrum, work, fill, [=](size_t k, T re, T im) { spectrum[2 * k] = re, spectrum[2 * k + 1] = im; });
 }
 
 // get(k, count), put(z, k, count): points k on, in vectors.
@@ -264,26 +226,21 @@ void convolve(const ConvolutionPlan<T>& plan, size_t n, size_t results, Get get,
   const Planes<const T> chirp = planes(plan.chirp, plan.chirp + n);
   for (size_t k = 0; k < n; k += L) {
     const Complex<V> z = product(get(k, std::min(L, n - k)), chirp.template get<L>(k));
-    points.y.template put<L>(z, k);
+    Interleaved<T, false>{points.y}.template putInOrder<L>(z, k);
   }
-  std::fill(points.y.re + n, points.y.re + length, T(0));
-  std::fill(points.y.im + n, points.y.im + length, T(0));
-  points.transform(plan);
+  std::fill(points.y + 2 * n, points.y + 2 * length, T(0));
+  points.transform(plan, false);
   points.multiply(plan);
-  points.exchangeParts();
-  points.transform(plan);
-  points.exchangeParts();
+  points.transform(plan, true);
+  const Interleaved<const T, false> y = {points.y};
   for (size_t j = 0; j < results; j += L) {
-    put(product(points.y.template get<L>(j), chirp.template get<L>(j)), j, std::min(L, results - j));
+    put(product(y.template getInOrder<L>(j), chirp.template get<L>(j)), j, std::min(L, results - j));
   }
 }
 
 template <class T>
 void convolve(const ConvolutionPlan<T>& plan, size_t n, bool isInverse, const T* src, T* dst, T factor, uint8_t* work) {
-  if (plan.isPermuted) {  // inverse: with the parts exchanged
-    const Planes<const T> from = planes(src + isInverse, src + !isInverse);
-    return convolvePermuted<2>(plan, from, planes(dst + isInverse, dst + !isInverse), factor, work);
-  }
+  if (plan.isPermuted) return convolvePermuted(plan, isInverse, src, dst, factor, work);
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   const T sign = isInverse ? T(-0.0) : T(0);
@@ -303,7 +260,19 @@ void convolve(const ConvolutionPlan<T>& plan, size_t n, bool isInverse, const T*
 template <class T>
 void convolve(const ConvolutionPlan<T>& plan, size_t n, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, T factor,
               uint8_t* work) {
-  if (plan.isPermuted) return convolvePermuted<1>(plan, planes(srcRe, srcIm), planes(dstRe, dstIm), factor, work);
+  if (plan.isPermuted) {
+    Complex<T> sum;
+    const auto get = [=](size_t k, T* to) { to[0] = srcRe[k], to[1] = srcIm[k]; };
+    const T* const results = convolveByPowers(plan, {srcRe[0], srcIm[0]}, sum, get, work);
+    dstRe[0] = factor * sum.re;
+    dstIm[0] = factor * sum.im;
+    for (size_t i = 0; i < plan.length; ++i) {
+      const T* const result = results + 2 * plan.places[i];
+      dstRe[i + 1] = factor * result[0];
+      dstIm[i + 1] = factor * result[1];
+    }
+    return;
+  }
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   convolve(
@@ -316,15 +285,6 @@ void convolve(const ConvolutionPlan<T>& plan, size_t n, const T* srcRe, const T*
 
 // Of real numbers, forward: the half of the spectrum that is not conjugate to the other, as pairs.
 template <class T> void convolveReals(const ConvolutionPlan<T>& plan, size_t n, const T* src, T* dst, T factor, uint8_t* work) {
-  if (plan.isPermuted) {
-    const auto put = [=](size_t k, Complex<T> z) {
-      if (k > n / 2) return;
-      dst[2 * k] = factor * z.re;
-      dst[2 * k + 1] = factor * z.im;
-    };
-    const auto get = [=](size_t k) { return Complex<T>{src[k], 0}; };
-    return put(0, convolveByPowers(plan, get(0), get, put, work));
-  }
   constexpr size_t L = kWidest<T>;
   using V = Vec<Lanes<T, L>>;
   const Lanes<T, L> d;

@@ -56,10 +56,11 @@ template <> struct Fft<double> {
 template <class T> struct ConvolutionPlan {
   uint32_t length;
   bool isPermuted;
-  typename FftOf<T>::SplitSpec* fft;  // null where `mixed` serves
+  typename FftOf<T>::Spec* fft;  // null where `mixed` serves
   MixedPlan<T> mixed;
   const T* chirp;          // n real parts, n imaginary ones
   const uint32_t* powers;  // the other order
+  const uint32_t* places;  // where the convolution leaves results, from the second on
   const T* spectrum;       // of what the points are convolved with, divided by the length
 };
 
@@ -107,15 +108,27 @@ template <class T> struct RealFftOf;
 template <> struct RealFftOf<float> { using Spec = QvxsFFTSpec_R_32f; };
 template <> struct RealFftOf<double> { using Spec = QvxsFFTSpec_R_64f; };
 
+// Of a prime number of reals (real_convolution.h).
+template <class T> struct RealConvolution {
+  uint32_t n;
+  const uint32_t* powers;
+  const uint32_t* places;
+  const T* spectrum;  // of what the points are convolved with: their product's two factors, each for n / 2 points
+  ComplexPlan<T> half;
+};
+
 // Of n real numbers: half as many complex ones where n is even.
 template <class T> struct RealPlan {
   uint32_t n;
   T forwardFactor;
   T inverseFactor;
-  Way way;  // kFactors: through complex points
+  Way way;  // kFactors: through complex points; kConvolution: of reals
   typename RealFftOf<T>::Spec* fft;
   DirectPlan<T> direct;
-  ComplexPlan<T> complex;
+  union {
+    ComplexPlan<T> complex;
+    RealConvolution<T> convolution;
+  };
   const T* recombination;  // of k = 1 .. n/4: all 0.5 cos, then all 0.5 - 0.5 sin of 2 pi k / n
 };
 template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag);

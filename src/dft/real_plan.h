@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "dft/plan.h"
+#include "dft/real_convolution.h"
 #include "dft/small_real.h"
 #include "transform/real_transform.h"
 
@@ -82,6 +83,15 @@ template <class T> bool isDirect(uint32_t n) {
   return n > 1;
 }
 
+// Beyond, a prime number whose neighbour has good factors goes by powers: 127 doubles take 0.56 of the time of the definition in
+// registers of 16 bytes, 0.52 in those of 64; 181 floats 0.49 and 0.59.
+template <class T>
+inline constexpr uint32_t kLeastRealByPowers = kWidest<T> == 2    ? 70
+                                               : kWidest<T> == 4  ? 90
+                                               : kWidest<T> == 16 ? 160
+                                               : sizeof(T) == 4   ? 150
+                                                                  : 110;
+
 template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
   plan.n = n;
   const auto factors = factorsOf<T>(n, flag);
@@ -100,6 +110,10 @@ template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
     plan.way = Way::kRegisters;
     return {0, 0};
   }
+  if (n > kLeastRealByPowers<T> && isPrimeByPowers(n)) {
+    plan.way = Way::kConvolution;
+    return choose(plan.convolution, n);
+  }
   if (isDirect<T>(n)) {
     plan.way = Way::kDirect;
     return chooseDirect<1>(plan.direct, n);
@@ -116,6 +130,7 @@ template <class T> void writeTables(RealPlan<T>& plan, int flag, uint8_t* block,
   const size_t n = plan.n;
   if (plan.way == Way::kRegisters) return;
   if (plan.way == Way::kDirect) return writeDirect<1>(plan.direct, block);
+  if (plan.way == Way::kConvolution) return writeTables(plan.convolution, block, work);
   if (plan.way == Way::kFft) {
     RealFft<T>::kInit(&plan.fft, std::countr_zero(n), flag, 0, block, block);
     return;
@@ -153,6 +168,11 @@ template <class T> void forward(const RealPlan<T>& plan, SpectrumLayout layout, 
     recombinePairs<false>(dst, dst, n / 2, c, c + (n + 3) / 4);
     if (layout == SpectrumLayout::kPack) fromPerm<SpectrumLayout::kPack>(dst, n);
     if (layout == SpectrumLayout::kCcs) fromPerm<SpectrumLayout::kCcs>(dst, n);
+    return;
+  }
+  if (plan.way == Way::kConvolution) {
+    dst[0] = convolveForward(plan.convolution, src, dst + placeOfPair(layout, n, 1), plan.forwardFactor, work);
+    if (layout == SpectrumLayout::kCcs) dst[1] = 0;
     return;
   }
   if (plan.complex.way == Way::kConvolution && layout == SpectrumLayout::kCcs) {
@@ -194,9 +214,10 @@ template <class T> void inverse(const RealPlan<T>& plan, SpectrumLayout layout, 
     run(plan.complex, true, dst, dst, work);
     return;
   }
+  const T* pairs = src + placeOfPair(layout, n, 1);
+  if (plan.way == Way::kConvolution) return convolveInverse(plan.convolution, src[0], pairs, dst, plan.inverseFactor, work);
   Carver carver(work, Carver::kLine);
   T* const points = carver.take<T>(static_cast<int64_t>(2 * n));
-  const T* pairs = src + placeOfPair(layout, n, 1);
   points[0] = src[0];
   points[1] = 0;
   for (size_t k = 1; k <= n / 2; ++k, pairs += 2) {

@@ -16,6 +16,12 @@ inline __m128 plusMinus(__m128 a, __m128 b, __m128 c) { return _mm_fmsubadd_ps(a
 inline __m128d plusMinus(__m128d a, __m128d b, __m128d c) { return _mm_fmsubadd_pd(a, b, c); }
 inline __m256 plusMinus(__m256 a, __m256 b, __m256 c) { return _mm256_fmsubadd_ps(a, b, c); }
 inline __m256d plusMinus(__m256d a, __m256d b, __m256d c) { return _mm256_fmsubadd_pd(a, b, c); }
+#if QVXS_AVX512
+inline __m512 minusPlus(__m512 a, __m512 b, __m512 c) { return _mm512_fmaddsub_ps(a, b, c); }
+inline __m512d minusPlus(__m512d a, __m512d b, __m512d c) { return _mm512_fmaddsub_pd(a, b, c); }
+inline __m512 plusMinus(__m512 a, __m512 b, __m512 c) { return _mm512_fmsubadd_ps(a, b, c); }
+inline __m512d plusMinus(__m512d a, __m512d b, __m512d c) { return _mm512_fmsubadd_pd(a, b, c); }
+#endif
 
 }  // namespace detail
 

@@ -13,8 +13,8 @@ namespace qvx::transform {
 
 // Radices of first passes and of tiles, and of later passes: from 20 on half of their vectors wait on the stack, which costs less
 // than two passes over more than the first-level cache holds. Larger primes go through memory.
-inline constexpr uint8_t kRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16};
-inline constexpr uint8_t kLaterRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15, 16, 20, 21, 24, 25, 27};
+inline constexpr uint8_t kRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16};
+inline constexpr uint8_t kLaterRadices[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 20, 21, 24, 25, 27};
 inline constexpr size_t kWidestMixed = 16;
 constexpr bool isLargePrime(size_t radix) { return radix > kWidestMixed && radix % 2 != 0 && radix % 3 != 0 && radix % 5 != 0; }
 
@@ -45,6 +45,8 @@ template <class Step> QVX_INLINE void withMixedRadix(size_t radix, Step step) {
       return with(std::integral_constant<size_t, 12>());
     case 13:
       return with(std::integral_constant<size_t, 13>());
+    case 14:
+      return with(std::integral_constant<size_t, 14>());
     case 15:
       return with(std::integral_constant<size_t, 15>());
     default:
@@ -88,8 +90,8 @@ template <class Points> inline constexpr size_t kManyPoints = kManyLanes<typenam
 // the price of the count and those where radices from 20 on take a third more (5000 complex doubles take 0.9 by 8, 5, 25 and 5 of
 // what they take by 8, 25 and 25).
 constexpr uint32_t costOfRadix(size_t radix) {
-  constexpr uint16_t kCosts[] = {0, 0,   12,  24, 32, 48, 64,  88,  80, 130, 120, 190, 150, 250,
-                                 0, 225, 236, 0,  0,  0,  345, 470, 0,  0,   470, 520, 0,   640};
+  constexpr uint16_t kCosts[] = {0,   0,   12,  24, 32, 48, 64,  88,  80, 130, 120, 190, 150, 250,
+                                 250, 225, 236, 0,  0,  0,  345, 470, 0,  0,   470, 520, 0,   640};
   if (isLargePrime(radix)) return static_cast<uint32_t>(radix / 2 * (radix / 2) * 6 + 20 * radix);
   return kHasMasks || radix < 8 ? kCosts[radix] : kCosts[radix] * 5 / 4;
 }
