@@ -20,5 +20,6 @@ const bool kDividesFast = family() >= 23;
 
 // Measured on one of family 26.
 const bool kStoresInFours = family() >= 26;
+const bool kTilesFillFarCache = family() < 26;
 
 }  // namespace qvx

@@ -69,8 +69,8 @@ template <class LaneOrder, class T> T* writePlan(ComplexPlan<T>& plan, size_t n,
   plan.n = static_cast<uint32_t>(n);
   if (n <= size_t{1} << kShortOrder<LaneOrder>) return block;
   constexpr size_t L = kWidest<T>;
-  if constexpr (isTiled<T, LaneOrder>(size_t{1} << 16)) {
-    if (isTiled<T, LaneOrder>(n)) return writeTiledTwiddles<L, LaneOrder>(plan.blocked, n, alignedUp(block, Carver::kLine));
+  if constexpr (kHasTiles<T, LaneOrder>) {
+    if (isTiled<T>(n)) return writeTiledTwiddles<L, LaneOrder>(plan.blocked, n, alignedUp(block, Carver::kLine));
   }
   if (n <= kLongestInCache<T>) return writePasses<LaneOrder>(plan.plan, n, block);
   const size_t m = n / kBlockPoints / kBlockPoints;
@@ -88,8 +88,8 @@ template <class T, class Src, class Dst, class Scale>
 [[gnu::noinline]] void longTransform(const ComplexPlan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
   constexpr size_t L = kWidest<T>;
   const int threads = plan.threads();
-  if constexpr (isTiled<T, Src>(size_t{1} << 16)) {
-    if (isTiled<T, Src>(plan.n)) {
+  if constexpr (kHasTiles<T, Src>) {
+    if (isTiled<T>(plan.n)) {
       return tiledTransform<L>(static_cast<size_t>(threads), plan.blocked, plan.n, src, dst, y, scale);
     }
   }

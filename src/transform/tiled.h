@@ -9,6 +9,7 @@
 
 #include <cstring>
 
+#include "frame/processor.h"
 #include "transform/transposed.h"
 
 namespace qvx::transform {
@@ -17,8 +18,10 @@ inline constexpr size_t kTileRows = 256;
 inline constexpr size_t kLastRadix = 16;
 
 // Whether n points go this way: with registers for 16 of them. 2^15 floats take 1.02 of the time of passes, 2^13 doubles 0.99.
-template <class T, class Points> constexpr bool isTiled(size_t n) {
-  return kHasMasks && kIsInterleaved<Points> && n <= size_t{1} << 16 && n >= size_t{1} << (sizeof(T) == 4 ? 16 : 15);
+template <class T, class Points> inline constexpr bool kHasTiles = kHasMasks&& kIsInterleaved<Points>;
+template <class T> bool isTiled(size_t n) {
+  constexpr size_t kMost = size_t{1} << 16;
+  return sizeof(T) == 4 ? n == kMost : n == kMost / 2 || (n == kMost && kTilesFillFarCache);
 }
 
 // The twiddles of number ka = L * v + l of row c: exp(-2 pi i c l / n) in groups, one for each c, and exp(-2 pi i c L v / n) for
