@@ -24,27 +24,40 @@ inline Exact product(const Exact& x, const Exact& y) {
   return {x.real() * y.real() - x.imag() * y.imag(), x.real() * y.imag() + x.imag() * y.real()};
 }
 
-// twiddles: those of the whole transform, `step` apart.
-inline std::vector<Exact> dft(const std::vector<Exact>& x, const std::vector<Exact>& twiddles, size_t step) {
-  const size_t n = x.size();
-  std::vector<Exact> result(n);
-  if (n <= 4 || n % 2 != 0) {
+// Of n points, `step` apart; twiddles: those of the whole transform. By fours, since what takes most of the time is to store
+// numbers of 80 bits: a transform of 2^20 takes 0.4 of the time by twos.
+inline void dft(const Exact* x, size_t n, size_t step, const std::vector<Exact>& twiddles, Exact* result) {
+  if (n == 1) {
+    *result = *x;
+    return;
+  }
+  const size_t parts = n % 4 == 0 ? 4 : n % 2 == 0 ? 2 : n;
+  if (parts == n) {
     for (size_t k = 0; k < n; ++k) {
-      for (size_t i = 0; i < n; ++i) result[k] += product(x[i], twiddles[i * k % n * step]);
+      result[k] = 0;
+      for (size_t i = 0; i < n; ++i) result[k] += product(x[i * step], twiddles[i * k % n * step]);
     }
-    return result;
+    return;
   }
-  std::vector<Exact> even(n / 2);
-  std::vector<Exact> odd(n / 2);
-  for (size_t i = 0; i < n / 2; ++i) even[i] = x[2 * i], odd[i] = x[2 * i + 1];
-  even = dft(even, twiddles, 2 * step);
-  odd = dft(odd, twiddles, 2 * step);
-  for (size_t k = 0; k < n / 2; ++k) {
-    const Exact term = product(twiddles[k * step], odd[k]);
-    result[k] = even[k] + term;
-    result[k + n / 2] = even[k] - term;
+  const size_t m = n / parts;
+  for (size_t i = 0; i < parts; ++i) dft(x + i * step, m, parts * step, twiddles, result + i * m);
+  for (size_t k = 0; k < m; ++k) {
+    Exact* const z = result + k;
+    const Exact a = z[0];
+    const Exact b = product(twiddles[k * step], z[m]);
+    if (parts == 2) {
+      z[0] = a + b;
+      z[m] = a - b;
+      continue;
+    }
+    const Exact c = product(twiddles[2 * k * step], z[2 * m]);
+    const Exact d = product(twiddles[3 * k * step], z[3 * m]);
+    const Exact turned = product(twiddles[m * step], b - d);
+    z[0] = (a + c) + (b + d);
+    z[m] = (a - c) + turned;
+    z[2 * m] = (a + c) - (b + d);
+    z[3 * m] = (a - c) - turned;
   }
-  return result;
 }
 }  // namespace detail
 
@@ -54,7 +67,7 @@ inline size_t largestPrimeFactor(size_t n) {
   return largest;
 }
 
-// sum of x[n] exp(sign 2 pi i n k / N) for all k; even lengths above 4 by the sums over the even and the odd elements.
+// sum of x[n] exp(sign 2 pi i n k / N) for all k; even lengths above 4 by the sums over every fourth or second element.
 inline std::vector<Exact> dft(const std::vector<Exact>& x, int sign) {
   const size_t n = x.size();
   const Exact quarter(0, sign);
@@ -67,7 +80,9 @@ inline std::vector<Exact> dft(const std::vector<Exact>& x, int sign) {
     const Exact root = rootOfUnity(k, n);
     twiddles[k] = sign < 0 ? std::conj(root) : root;
   }
-  return detail::dft(x, twiddles, 1);
+  std::vector<Exact> result(n);
+  detail::dft(x.data(), n, 1, twiddles, result.data());
+  return result;
 }
 
 }  // namespace tests
