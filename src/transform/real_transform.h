@@ -86,6 +86,7 @@ QVX_INLINE QvxStatus shortReal(int order, Src src, Dst dst, Scale scale) {
   const auto of = [=](auto n) __attribute__((always_inline)) {
     if constexpr (kInverse) return smallInverse<kLayout, n, T>(src, dst, scale);
     else if constexpr (n == 8) return forwardOfEight<kLayout, T>(src, dst, scale);
+    else if constexpr (n == 16) return forwardOfSixteen<kLayout, T>(src, dst, scale);
     else return smallForward<kLayout, n, T>(src, dst, scale);
   };
   const Lanes<T, 1> one;

@@ -133,17 +133,12 @@ template <SpectrumLayout kLayout, size_t N, class T, class Src, class Dst, class
   return qvxStatOk;
 }
 
-// Of eight numbers, by sums of their own: from load to store 11 cycles instead of 25.
-template <SpectrumLayout kLayout, class T, class Src, class Dst, class Scale>
-[[gnu::noinline]] QvxStatus forwardOfEight(Src src, Dst dst, Scale scale) {
+// Of eight numbers, in pairs, by sums of their own: from load to store 11 cycles instead of 25. Result k is that of kStep * k.
+template <SpectrumLayout kLayout, size_t kStep, class V, class Dst, class Scale>
+QVX_INLINE void transformEight(V x0, V x2, V x4, V x6, Dst dst, Scale scale) {
+  using T = LaneOf<V>;
   constexpr T kHalf = 0.70710678118654752440;
   alignas(16) static constexpr T kTurn[] = {kHalf, -kHalf};
-  const Lanes<T, 2> d;
-  using V = Vec<Lanes<T, 2>>;
-  const V x0 = src.get(d, 0);
-  const V x2 = src.get(d, 2);
-  const V x4 = src.get(d, 4);
-  const V x6 = src.get(d, 6);
   const V a0 = x0 + x4;
   const V a2 = x2 + x6;
   const V b0 = x0 - x4;
@@ -151,10 +146,54 @@ template <SpectrumLayout kLayout, class T, class Src, class Dst, class Scale>
   const V mean = a0 + a2;
   const V even = hn::InterleaveLower(b0, b2);
   const V odd = minusPlus(hn::DupOdd(b0), hn::DupOdd(b2));
-  dst.put(scale(hn::MulAdd(odd, load(d, kTurn), even * alternating<V>())), placeOf<kLayout>(1));
-  dst.put(scale((a0 - a2) * alternating<V>()), placeOf<kLayout>(2));
-  dst.put(scale(hn::NegMulAdd(odd, same<V>(kHalf), even)), placeOf<kLayout>(3));
-  putEnds<kLayout, 8>(scale(mean + swapped(mean)), scale(mean - swapped(mean)), dst);
+  dst.put(scale(hn::MulAdd(odd, load(TagOf<V>(), kTurn), even * alternating<V>())), placeOf<kLayout>(kStep));
+  dst.put(scale((a0 - a2) * alternating<V>()), placeOf<kLayout>(2 * kStep));
+  dst.put(scale(hn::NegMulAdd(odd, same<V>(kHalf), even)), placeOf<kLayout>(3 * kStep));
+  putEnds<kLayout, 8 * kStep>(scale(mean + swapped(mean)), scale(mean - swapped(mean)), dst);
+}
+
+template <SpectrumLayout kLayout, class T, class Src, class Dst, class Scale>
+[[gnu::noinline]] QvxStatus forwardOfEight(Src src, Dst dst, Scale scale) {
+  const Lanes<T, 2> d;
+  transformEight<kLayout, 1>(src.get(d, 0), src.get(d, 2), src.get(d, 4), src.get(d, 6), dst, scale);
+  return qvxStatOk;
+}
+
+// exp(-2 pi i n / 16) and -i times that
+template <class T, size_t n>
+alignas(16) inline constexpr T kSixteenth[] = {static_cast<T>(cosineOf128(8 * n)), static_cast<T>(cosineOf128(8 * n + 32)),
+                                               static_cast<T>(cosineOf128(8 * n + 32)), static_cast<T>(-cosineOf128(8 * n))};
+
+// Of sixteen. With b the differences of numbers 8 apart, X[1], X[5], conj X[7] and conj X[3] are the transform of (b[n] - i b[n +
+// 4]) exp(-2 pi i n / 16), n = 0 .. 3; where one call works on the last one's result, 0.8 of the time by complex numbers.
+template <SpectrumLayout kLayout, class T, class Src, class Dst, class Scale>
+[[gnu::noinline]] QvxStatus forwardOfSixteen(Src src, Dst dst, Scale scale) {
+  const Lanes<T, 2> d;
+  using V = Vec<Lanes<T, 2>>;
+  V a[4];
+  V b[4];
+  unrolled<4>([&](auto i) __attribute__((always_inline)) {
+    const V x = src.get(d, 2 * i);
+    const V y = src.get(d, 2 * i + 8);
+    a[i] = x + y;
+    b[i] = x - y;
+  });
+  const auto turned = [&](auto n, V x, V y) __attribute__((always_inline)) {
+    return hn::MulAdd(x, load(d, kSixteenth<T, n>), y * load(d, kSixteenth<T, n> + 2));
+  };
+  const V z0 = hn::InterleaveLower(b[0], b[2]) * alternating<V>();
+  const V z1 = turned(Index<1>(), hn::DupOdd(b[0]), hn::DupOdd(b[2]));
+  const V z2 = turned(Index<2>(), hn::DupEven(b[1]), hn::DupEven(b[3]));
+  const V z3 = turned(Index<3>(), hn::DupOdd(b[1]), hn::DupOdd(b[3]));
+  transformEight<kLayout, 2>(a[0], a[1], a[2], a[3], dst, scale);
+  const V evens = z0 + z2;
+  const V odds = z1 + z3;
+  const V even = z0 - z2;
+  const V odd = z1 - z3;
+  dst.put(scale(evens + odds), placeOf<kLayout>(1));
+  dst.put(scale(plusI(even, odd) * alternating<V>()), placeOf<kLayout>(3));
+  dst.put(scale(minusI(even, odd)), placeOf<kLayout>(5));
+  dst.put(scale((evens - odds) * alternating<V>()), placeOf<kLayout>(7));
   return qvxStatOk;
 }
 
