@@ -116,10 +116,76 @@ template <class F> void byWidth16(size_t channels, F f) {
   else f(std::integral_constant<size_t, 8>());
 }
 
+// Two samples of 16 bits in each 32-bit lane.
+struct ToPair {
+  template <class V> auto operator()(V low, V high) const { return (low & same<V>(0xFFFF)) | hn::ShiftLeft<16>(high); }
+};
+struct OfPair {
+  template <class V> auto operator()(V v) const {
+    const auto low = FullScaleOf16()(hn::ShiftRight<16>(hn::ShiftLeft<16>(v)));
+    return std::array{low, FullScaleOf16()(hn::ShiftRight<16>(v))};
+  }
+};
+
+// Six and eight channels are three and four of pairs, which take a third to two thirds of the time of tiles.
+inline constexpr size_t kFewestPairs = 4;  // frames: 2 take 14 ns, of a tile 5
+
+// N frames of channels of their own.
+template <size_t K> struct Channels {
+  using Lane = Qvx32f;
+  const Qvx32f* const* p;
+
+  template <size_t N> auto get(size_t at) const {
+    return gathered([=](const Qvx32f* channel) { return load(Lanes<Lane, N>(), channel + at); });
+  }
+  template <size_t N> auto get(size_t at, size_t n) const {
+    return gathered([=](const Qvx32f* channel) { return loadFirst(Lanes<Lane, N>(), channel + at, n); });
+  }
+
+ private:
+  template <class Load> auto gathered(Load load) const {
+    std::array<decltype(load(p[0])), K> v;
+#pragma GCC unroll 8
+    for (size_t c = 0; c < K; ++c) v[c] = load(p[c]);
+    return v;
+  }
+};
+// N frames of K pairs.
+template <size_t K> struct ToFrames {
+  using Lane = Qvx32s;
+  Qvx32s* p;
+
+  template <size_t N, class V> void put(const std::array<V, K>& v, size_t at) const { store(v, p + K * at); }
+  template <size_t N, class V> void put(const std::array<V, K>& v, size_t at, size_t n) const {
+    Qvx32s some[K * N];
+    store(v, some);
+    std::memcpy(p + K * at, some, K * n * sizeof(Qvx32s));
+  }
+  template <size_t N> size_t misaligned() const { return 0; }
+
+ private:
+  template <class V> static void store(const std::array<V, K>& v, Qvx32s* to) {
+    if constexpr (K == 3) hn::StoreInterleaved3(v[0], v[1], v[2], TagOf<V>(), to);
+    else hn::StoreInterleaved4(v[0], v[1], v[2], v[3], TagOf<V>(), to);
+  }
+};
+template <size_t K, class Sample>
+[[gnu::noinline]] void joinPairs(Sample sample, const Qvx32f* const* src, size_t n, Qvx16s* dst) {
+  const auto pairs = [sample](auto v) {
+    std::array<decltype(ToPair()(sample(v[0]), sample(v[0]))), K> all;
+#pragma GCC unroll 4
+    for (size_t i = 0; i < K; ++i) all[i] = ToPair()(sample(v[2 * i]), sample(v[2 * i + 1]));
+    return all;
+  };
+  loop(pairs, ToFrames<K>{reinterpret_cast<Qvx32s*>(dst)}, n, Channels<2 * K>{src});
+}
+
 // Three channels or more. Apart from fewer, whose short calls would save registers that only tiles need.
 template <class Sample>
 [[gnu::noinline]] void joinTiles16(Sample sample, const Qvx32f* const* src, size_t channels, size_t n, Qvx16s* dst) {
   const RoundingScope scope(Sample::kNeeds);
+  if (channels == 6 && n >= kFewestPairs) return joinPairs<3>(sample, src, n, dst);
+  if (channels == 8 && n >= kFewestPairs) return joinPairs<4>(sample, src, n, dst);
   if (n < kFewFrames) {
     return joinFewFrames<2>(src, channels, n, dst, [sample](auto v) { return hn::DemoteTo(Lanes<int16_t, 4>(), sample(v)); });
   }
@@ -136,45 +202,42 @@ template <class Sample> void join16(Sample sample, const Qvx32f* const* src, siz
   if (channels == 1) {
     loop([sample](auto pair) { return narrowInOrder<int16_t>(each(pair, sample)); }, destination(dst), n, InPairs{src[0]});
   } else {
-    const auto both = [sample](auto left, auto right) {
-      const auto low = sample(left);
-      return (low & same<std::remove_const_t<decltype(low)>>(0xFFFF)) | hn::ShiftLeft<16>(sample(right));
-    };
+    const auto both = [sample](auto left, auto right) { return ToPair()(sample(left), sample(right)); };
     loop(both, destination(reinterpret_cast<Qvx32s*>(dst)), n, source(src[0]), source(src[1]));
   }
 }
 
 // Destinations: a channel for each vector that a kernel gives.
-template <size_t K> struct Channels {
+template <size_t K> struct ToChannels {
   using Lane = Qvx32f;
   Qvx32f* const* p;
 
   template <size_t N, class V> void put(const std::array<V, K>& v, size_t at) const {
-#pragma GCC unroll 4
+#pragma GCC unroll 8
     for (size_t c = 0; c < K; ++c) store(v[c], TagOf<V>(), p[c] + at);
   }
   template <size_t N, class V> void put(const std::array<V, K>& v, size_t at, size_t n) const {
-#pragma GCC unroll 4
+#pragma GCC unroll 8
     for (size_t c = 0; c < K; ++c) storeFirst(v[c], TagOf<V>(), p[c] + at, n);
   }
   template <size_t N> size_t misaligned() const { return destination(p[0]).template misaligned<N>(); }
 };
 
-// N frames of three or four channels.
-template <size_t K> struct Frames {
-  using Lane = Qvx16s;
-  const Qvx16s* p;
+// N frames of three or four channels, or pairs of channels.
+template <size_t K, class T = Qvx16s> struct Frames {
+  using Lane = T;
+  const T* p;
 
   template <size_t N> auto get(size_t at) const { return channelsOf<N>(p + K * at); }
   template <size_t N> auto get(size_t at, size_t n) const {
-    Qvx16s some[K * N] = {};
-    std::memcpy(some, p + K * at, K * n * sizeof(Qvx16s));
+    T some[K * N] = {};
+    std::memcpy(some, p + K * at, K * n * sizeof(T));
     return channelsOf<N>(some);
   }
 
  private:
-  template <size_t N> static auto channelsOf(const Qvx16s* from) {
-    const Lanes<Qvx16s, N> d;
+  template <size_t N> static auto channelsOf(const T* from) {
+    const Lanes<T, N> d;
     std::array<Vec<decltype(d)>, K> v;
     if constexpr (K == 3) hn::LoadInterleaved3(d, from, v[0], v[1], v[2]);
     else hn::LoadInterleaved4(d, from, v[0], v[1], v[2], v[3]);
@@ -190,21 +253,37 @@ template <size_t K> struct Frames {
                                [=](const Tile& t, auto rows) { Tile16<8>::template split<decltype(rows)::value>(src, t, dst); });
 }
 
+// 2 * K channels.
+template <size_t K> [[gnu::noinline]] void splitPairs(const Qvx32s* src, size_t n, Qvx32f* const* dst) {
+  const auto ofPairs = [](auto v) {
+    std::array<decltype(FullScaleOf16()(v[0])), 2 * K> all;
+#pragma GCC unroll 4
+    for (size_t i = 0; i < K; ++i) {
+      const auto two = OfPair()(v[i]);
+      all[2 * i] = two[0];
+      all[2 * i + 1] = two[1];
+    }
+    return all;
+  };
+  loop(ofPairs, ToChannels<2 * K>{dst}, n, Frames<K, Qvx32s>{src});
+}
+
 void split16(const Qvx16s* src, size_t channels, size_t n, Qvx32f* const* dst) {
+  const auto* pairs = reinterpret_cast<const Qvx32s*>(src);
   if (channels == 1) {
     loop(FullScaleOf16(), destination(dst[0]), n, source(src));
   } else if (channels == 2) {
-    const auto both = [](auto v) {
-      const auto left = FullScaleOf16()(hn::ShiftRight<16>(hn::ShiftLeft<16>(v)));
-      return std::array{left, FullScaleOf16()(hn::ShiftRight<16>(v))};
-    };
-    loop(both, Channels<2>{dst}, n, source(reinterpret_cast<const Qvx32s*>(src)));
+    loop(OfPair(), ToChannels<2>{dst}, n, source(pairs));
   } else if (channels == 3) {
     const auto fullScaled = [to = FullScaleOf16()](auto v) { return std::array{to(v[0]), to(v[1]), to(v[2])}; };
-    loop(fullScaled, Channels<3>{dst}, n, Frames<3>{src});
+    loop(fullScaled, ToChannels<3>{dst}, n, Frames<3>{src});
   } else if (channels == 4) {
     const auto fullScaled = [to = FullScaleOf16()](auto v) { return std::array{to(v[0]), to(v[1]), to(v[2]), to(v[3])}; };
-    loop(fullScaled, Channels<4>{dst}, n, Frames<4>{src});
+    loop(fullScaled, ToChannels<4>{dst}, n, Frames<4>{src});
+  } else if (channels == 6 && n >= kFewestPairs) {
+    splitPairs<3>(pairs, n, dst);
+  } else if (channels == 8 && n >= kFewestPairs) {
+    splitPairs<4>(pairs, n, dst);
   } else {
     splitTiles16(src, channels, n, dst);
   }
