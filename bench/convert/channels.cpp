@@ -53,7 +53,9 @@ void channels(Suite& s) {
   rows<2>(s);
   rows<3>(s);
   rows<4>(s);
+  rows<5>(s);
   rows<6>(s);
+  rows<7>(s);
   rows<8>(s);
   s.row("PackBits_32u8u", packed<qvxsPackBits_32u8u>).against("bit by bit", packed<plain::packBits>, Agreement::kDiffers);
 }
