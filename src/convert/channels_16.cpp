@@ -1,7 +1,8 @@
 // Channels of floats joined to interleaved 16-bit integers, and split again.
 //
-// One channel is a conversion. Two are 32-bit lanes with a sample in each half. Three and four are split by whole registers, in a
-// quarter of the time of tiles. Any other number goes through transposed tiles: 8 frames by 8 channels, by 4 up to four channels.
+// One channel is a conversion. Two are 32-bit lanes with a sample in each half; six and eight are three and four of such. Three
+// and four are split by whole registers, in a quarter of the time of tiles. Any other number goes through transposed tiles: 8
+// frames by 8 channels, by 4 up to four channels.
 #include <array>
 
 #include "convert/few_frames.h"
@@ -127,7 +128,8 @@ struct OfPair {
   }
 };
 
-// Six and eight channels are three and four of pairs, which take a third to two thirds of the time of tiles.
+// Six and eight channels are three and four of pairs: they take 0.2 to 0.45 of the time of tiles in AVX-512, 0.4 to 0.75 in AVX2,
+// 0.6 to 0.95 in SSSE3.
 inline constexpr size_t kFewestPairs = 4;  // frames: 2 take 14 ns, of a tile 5
 
 // N frames of channels of their own.
