@@ -9,6 +9,56 @@
 
 namespace qvx::median {
 
+// Whether vectors of floats have a lane that is a NaN or -0.0.
+template <class V, bool = kHasMasks> class OddLanes {
+ public:
+  [[gnu::always_inline]] void add(V v, bool) { marks_ = hn::IfThenElse(areNanOrMinusZero(v), same<V>(1), marks_); }
+  bool any() const { return !hn::AllFalse(TagOf<V>(), marks_ == same<V>(1)); }
+
+ private:
+  // A vector: combining mask registers would take the port of the minima.
+  V marks_ = hn::Zero(TagOf<V>());
+};
+// In four instructions for two vectors, not eight: NaN of both are found by one comparison, and -0.0 has the least upper 16 bits
+// that there are. So have a few negative numbers next to it, which then take the longer way too.
+template <class V> class OddLanes<V, false> {
+ public:
+  // `isSecond`: v and the one before are compared now.
+  [[gnu::always_inline]] void add(V v, bool isSecond) {
+    least_ = hn::Min(least_, as<int16_t>(v));
+    if (isSecond) areNan_ = hn::Or(areNan_, unordered(last_, v));
+    last_ = v;
+  }
+  bool any() const {
+    const auto mayBeZero = hn::VecFromMask(TagOf<Halves>(), least_ == same<Halves>(INT16_MIN));
+    return maskBits(TagOf<V>(), hn::MaskFromVec(hn::Or(areNan_, as<LaneOf<V>>(mayBeZero)))) != 0;  // of lanes' highest bits
+  }
+
+ private:
+  using Halves = decltype(as<int16_t>(V()));
+  static V unordered(V a, V b) {
+#if QVXS_AVX2
+    if constexpr (sizeof(a.raw) == 32) {
+      if constexpr (sizeof(LaneOf<V>) == 4) return V{_mm256_cmp_ps(a.raw, b.raw, _CMP_UNORD_Q)};
+      else return V{_mm256_cmp_pd(a.raw, b.raw, _CMP_UNORD_Q)};
+    } else
+#endif
+        if constexpr (sizeof(LaneOf<V>) == 4)
+      return V{_mm_cmpunord_ps(a.raw, b.raw)};
+    else return V{_mm_cmpunord_pd(a.raw, b.raw)};
+  }
+
+  Halves least_ = hn::Zero(TagOf<Halves>());
+  V areNan_ = hn::Zero(TagOf<V>());
+  V last_ = hn::Zero(TagOf<V>());
+};
+
+// Integers have none.
+struct NoOddLanes {
+  template <class V> void add(V, bool) {}
+  static bool any() { return false; }
+};
+
 template <class T> class Three {
  public:
   // n elements, at least 3. Every step ends in a jump to the next, and passes on the status that the last one returns.
@@ -20,7 +70,6 @@ template <class T> class Three {
  private:
   static constexpr size_t N = kVectorBytes / sizeof(T);
   static constexpr size_t kBlock = 4;  // vectors
-  static constexpr bool kMayNeedKeys = std::is_floating_point_v<T>;
 
   template <size_t L, size_t M> using Vectors = std::array<Vec<Lanes<T, L>>, M>;
 
@@ -30,26 +79,19 @@ template <class T> class Three {
   [[gnu::always_inline]] static inline Vectors<L, M> medians(const T* p, Place at, bool isFirst, bool& needsKeys) {
     using V = Vec<Lanes<T, L>>;
     constexpr Lanes<T, L> d;
-    const V one = same<V>(T(1));
-    V marks = hn::Zero(d);
-    // Masks are collected in a vector: combining mask registers would take the port of the minima.
-    const auto mark = [&](V v) __attribute__((always_inline)) {
-      if constexpr (!kMayNeedKeys) return;
-      else if constexpr (kHasMasks) marks = hn::IfThenElse(areNanOrMinusZero(v), one, marks);
-      else marks = hn::Or(marks, hn::VecFromMask(d, areNanOrMinusZero(v)));
-    };
+    std::conditional_t<std::is_floating_point_v<T>, OddLanes<V>, NoOddLanes> odd;
     Vectors<L, M> out;
     unrolled<M>([&](auto v) __attribute__((always_inline)) {
       const T* const window = p + at(v);
       const V low = held(load(d, window));
       const V mid = held(load(d, window + 1));
       const V high = held(load(d, window + 2));
-      mark(high);
-      if (L == 1) mark(mid);
-      if (isFirst && v == 0) mark(low);
+      odd.add(high, v % 2 == 1 || v + 1 == M);
+      if (L == 1) odd.add(mid, true);
+      if (isFirst && v == 0) odd.add(low, true);
       out[v] = middle(low, mid, high);
     });
-    if constexpr (kMayNeedKeys) needsKeys = !hn::AllFalse(d, kHasMasks ? marks == one : hn::MaskFromVec(marks));
+    needsKeys = odd.any();
     return out;
   }
   template <size_t L> [[gnu::noinline, gnu::cold]] static Vec<Lanes<T, L>> mediansByKeys(const T* window) {

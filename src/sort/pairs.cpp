@@ -77,7 +77,7 @@ template <bool kAreDifferent> void sortAlone(Pairs<int32_t> x, size_t n) {
 }
 
 template <bool kAreDifferent> void sort(Pairs<int32_t> x, size_t n) {
-  if (!isSortedInTeam(n)) return sortAlone<kAreDifferent>(x, n);
+  if (!isWorthTeam(kPairTeam, n)) return sortAlone<kAreDifferent>(x, n);
   sortPairsInTeam(x, n, [](Pairs<int32_t> part, size_t count) { return sortAlone<kAreDifferent>(part, count), true; });
 }
 

@@ -68,5 +68,5 @@ bool sortAlone(Pairs<K> x, size_t n) {
 
 bool qvx::sortDifferentPairs(int64_t* keys, int32_t* numbers, size_t n) {
   const Pairs<K> x = {keys, numbers};
-  return isSortedInTeam(n) ? sortPairsInTeam(x, n, sortAlone) : sortAlone(x, n);
+  return isWorthTeam(kPairTeam, n) ? sortPairsInTeam(x, n, sortAlone) : sortAlone(x, n);
 }

@@ -80,11 +80,11 @@ const Divided kDivided[] = {
     {"qvxsSortRadixAscend_32u_I", 16384}, {"qvxsSortRadixDescend_32u_I", 16384},
     {"qvxsSortRadixAscend_32f_I", 16384}, {"qvxsSortRadixDescend_32f_I", 16384},
     {"qvxsSortRadixAscend_64f_I", 16384}, {"qvxsSortRadixDescend_64f_I", 16384},
-    {"qvxsSortRadixIndexAscend_16s", 16384}, {"qvxsSortRadixIndexDescend_16s", 16384},
-    {"qvxsSortRadixIndexAscend_16u", 16384}, {"qvxsSortRadixIndexDescend_16u", 16384},
-    {"qvxsSortRadixIndexAscend_32s", 16384}, {"qvxsSortRadixIndexDescend_32s", 16384},
-    {"qvxsSortRadixIndexAscend_32u", 16384}, {"qvxsSortRadixIndexDescend_32u", 16384},
-    {"qvxsSortRadixIndexAscend_32f", 16384}, {"qvxsSortRadixIndexDescend_32f", 16384},
+    {"qvxsSortRadixIndexAscend_16s", 32768}, {"qvxsSortRadixIndexDescend_16s", 32768},
+    {"qvxsSortRadixIndexAscend_16u", 32768}, {"qvxsSortRadixIndexDescend_16u", 32768},
+    {"qvxsSortRadixIndexAscend_32s", 32768}, {"qvxsSortRadixIndexDescend_32s", 32768},
+    {"qvxsSortRadixIndexAscend_32u", 32768}, {"qvxsSortRadixIndexDescend_32u", 32768},
+    {"qvxsSortRadixIndexAscend_32f", 32768}, {"qvxsSortRadixIndexDescend_32f", 32768},
 };
 // clang-format on
 
