@@ -127,7 +127,7 @@ template <class K, bool kHasRoom = kHasRoomInBuffer<K>> class Quicksort {
       }
       if (n <= kApartKeys<K>) {
         first_ = x;
-        return sortApart(x, false, n, in, least, most, levels);
+        return sortApart(x, false, n, in, least, most);
       }
       Often<K> often;
       K pivot = pivotOf(x, n, in, often);
@@ -137,9 +137,9 @@ template <class K, bool kHasRoom = kHasRoomInBuffer<K>> class Quicksort {
         in = {};
       }
       if (levels <= 0 || isDense(n, least, most)) pivot = middleOf(least, most);
-      // A pivot that is the least key there can be: those equal to it are done.
+      // A pivot that is the least key there can be: those equal to it are done. There are others, else they would have been
+      // counted.
       const bool isLeast = pivot == least;
-      if (isLeast && pivot == most) return fill(x, n, pivot);
       if (isLeast) ++pivot;
       const size_t below = partition(x, n, pivot, in, buffer_);
       if (isLeast || below <= n - below) {
@@ -156,36 +156,35 @@ template <class K, bool kHasRoom = kHasRoomInBuffer<K>> class Quicksort {
     }
   }
 
-  // The same of keys that the buffer has room for. They are in x or, where they were not below a pivot, in the buffer.
-  void sortApart(K* x, bool isInRoom, size_t n, KeyMap<K> in, K least, K most, int levels) {
-    for (; n > kNetworkKeys<K>; in = {}, --levels) {
+  // The same of keys that the buffer has room for: too few for bad pivots to matter. They are in x or, where they were not below
+  // a pivot, in the buffer.
+  void sortApart(K* x, bool isInRoom, size_t n, KeyMap<K> in, K least, K most) {
+    for (; n > kNetworkKeys<K>; in = {}) {
       K* const room = roomOf(x);
       Often<K> often;
       K pivot = pivotOf(isInRoom ? room : x, n, in, often);
       if (often.count > 0) {
         if (isInRoom) std::copy_n(room, n, x);
         isInRoom = false;
-        const auto sortOthers = [&](size_t others) { sortApart(x, false, others, {}, least, most, levels - 1); };
+        const auto sortOthers = [&](size_t others) { sortApart(x, false, others, {}, least, most); };
         if (sortByCounts(x, n, in, often, sortOthers)) return;
         in = {};
       }
       if constexpr (kHasRoom) {
         if (n >= kRadixFrom<K> && !isInRoom) return radixSort(x, room, n, in, map_);
       }
-      if (levels <= 0) pivot = middleOf(least, most);
       const bool isLeast = pivot == least;
-      if (isLeast && pivot == most) return fill(x, n, pivot);
       if (isLeast) ++pivot;
       const size_t below = partitionApart(x, room, isInRoom, n, pivot, in);
       if (isLeast || below <= n - below) {
         if (isLeast) fill(x, below, least);
-        else if (below > 0) sortApart(x, false, below, {}, least, static_cast<K>(pivot - 1), levels - 1);
+        else if (below > 0) sortApart(x, false, below, {}, least, static_cast<K>(pivot - 1));
         x += below;
         isInRoom = true;
         n -= below;
         least = pivot;
       } else {
-        if (below < n) sortApart(x + below, true, n - below, {}, pivot, most, levels - 1);
+        if (below < n) sortApart(x + below, true, n - below, {}, pivot, most);
         isInRoom = false;
         n = below;
         most = static_cast<K>(pivot - 1);

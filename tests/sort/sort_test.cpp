@@ -132,6 +132,17 @@ TEST(Sort, KeepsZerosAndSubnormalNumbers) {
   expectRareOnesKept<Qvx64f>(qvxsSortDescend_64f_I, true);
 }
 
+// More equal elements than 16 bits count in all lanes of a vector.
+TEST(Sort, CountsMillions) {
+  Random random(tests::seed());
+  std::vector<Qvx16s> x(5000011);
+  for (Qvx16s& v : x) v = static_cast<Qvx16s>(random() % 64 == 0 ? random() : random() % 2 * 1000);
+  std::vector<Qvx16s> expected = x;
+  std::sort(expected.begin(), expected.end());
+  ASSERT_EQ(qvxsSortAscend_16s_I(x.data(), static_cast<int>(x.size())), qvxStatOk);
+  EXPECT_TRUE(x == expected);
+}
+
 TEST(SortRadix, OfAllTypes) {
   expectRadixSorts(qvxsSortRadixAscend_8u_I, qvxsSortRadixDescend_8u_I);
   expectRadixSorts(qvxsSortRadixAscend_16s_I, qvxsSortRadixDescend_16s_I);
