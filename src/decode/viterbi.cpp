@@ -99,7 +99,7 @@ template <size_t kBranches> void selectInTurn(const Step& s) {
 
 // A branch as a number of 32 bits, such that the least number wins: the error, saturated where it cannot win, then the branch's
 // place in the order. Places count from 1, because the old value wins against an equal error.
-constexpr size_t kMostInOrder = 4094;  // states
+constexpr size_t kMostInOrder = 2046;  // states
 
 // As numbers, so that the best branch into a state is a minimum, without mispredicted jumps.
 template <size_t kBranches> void selectLeast(const Step& s) {
@@ -107,7 +107,7 @@ template <size_t kBranches> void selectLeast(const Step& s) {
   const Lanes<Qvx16u, kWords> d;
   alignas(64) Qvx16u costs[2][2 * kBranches];  // of even and of odd states
   for (size_t j = 0; j < 2 * kBranches; ++j) {
-    costs[j & 1][2 * (j / 2)] = static_cast<Qvx16u>(j / 2 + 1);
+    costs[j & 1][2 * (j / 2)] = static_cast<Qvx16u>(j + 1);
     costs[j & 1][2 * (j / 2) + 1] = s.points[2 * j + 1];
   }
   const Qvx8u last = reduce(Extreme<Greatest>(), s.states * kBranches, source(s.nextState));
@@ -115,7 +115,7 @@ template <size_t kBranches> void selectLeast(const Step& s) {
   for (size_t n = 0; n <= last; ++n) best[n] = static_cast<Qvx32u>(s.branchError[n]) << 16;
   for (size_t i = 0; i < s.states; ++i) {
     alignas(64) Qvx32u branches[kBranches];
-    const auto path = as<Qvx16u>(hn::Set(Lanes<Qvx32u, kWords / 2>(), static_cast<Qvx32u>(s.pathError[i]) << 16 | i << 4));
+    const auto path = as<Qvx16u>(hn::Set(Lanes<Qvx32u, kWords / 2>(), static_cast<Qvx32u>(s.pathError[i]) << 16 | i << 5));
     for (size_t k = 0; k < 2 * kBranches; k += kWords) {
       store(hn::SaturatedAdd(load(d, costs[i & 1] + k), path), d, reinterpret_cast<Qvx16u*>(branches) + k);
     }
@@ -125,9 +125,8 @@ template <size_t kBranches> void selectLeast(const Step& s) {
   for (size_t n = 0; n <= last; ++n) {
     const Qvx32u order = best[n] & 0xFFFF;
     if (order == 0) continue;
-    const size_t i = (order - 1) >> 4;
     s.branchError[n] = static_cast<Qvx16u>(best[n] >> 16);
-    s.pathTable[n] = s.points[2 * (2 * ((order - 1) & 15) + (i & 1))] | static_cast<Qvx32u>(i) << 16;
+    s.pathTable[n] = s.points[2 * ((order - 1) & 31)] | (order - 1) >> 5 << 16;
   }
 }
 
