@@ -100,6 +100,12 @@ template <class Network, class T> struct Windows {
       const auto from = static_cast<ptrdiff_t>(i + k) - static_cast<ptrdiff_t>(kReach);
       if constexpr (kIsAll) {
         return k == kReach ? all : shuffled(all, static_cast<ptrdiff_t>(k) - static_cast<ptrdiff_t>(kReach));
+      } else if constexpr (sizeof(Lane) == 8 && kEnd == 2) {
+        // Each by itself: 16 doubles by masks of 7 take 0.8 of the time that a shuffle takes which is not known before.
+        const auto one = [&](ptrdiff_t place) {
+          return hn::Set(d, x[std::clamp<ptrdiff_t>(place, 0, static_cast<ptrdiff_t>(n - 1))]);
+        };
+        return hn::InterleaveLower(d, one(from), one(from + 1));
       } else {
         const auto base = std::clamp<ptrdiff_t>(from, 0, static_cast<ptrdiff_t>(n - kEnd));
         const auto v = convertLanes<Lane>(load(narrow, x + base));

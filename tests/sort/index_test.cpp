@@ -82,24 +82,6 @@ TEST(SortIndex, LeavesEqualElementsAsTheDocumentedStepsDo) {
   expectDocumentedOrder(qvxsSortIndexAscend_64f_I, qvxsSortIndexDescend_64f_I);
 }
 
-// Two alone, which one thread of two has to see.
-TEST(SortIndex, SeesTwoEqualElementsOnEitherSide) {
-  Random random(tests::seed());
-  constexpr int kLength = 40000;
-  qvxSetNumThreads(2);
-  for (const int equal : {50, 100, 150, kLength - 150, kLength - 100, kLength - 50}) {
-    std::vector<std::pair<Qvx64f, Qvx32s>> expected;
-    std::vector<Qvx64f> x;
-    for (int i = 0; i < kLength; ++i) x.push_back(i == equal + 1 ? equal : i);
-    std::shuffle(x.begin(), x.end(), random);
-    for (int i = 0; i < kLength; ++i) expected.emplace_back(x[static_cast<size_t>(i)], i);
-    reference::quicksort(expected, 0, kLength - 1, [](const auto& a, const auto& b) { return a.first > b.first; });
-    const Sorted<Qvx64f> s = sorted<Qvx64f>(qvxsSortIndexAscend_64f_I, x);
-    for (size_t i = 0; i < x.size(); ++i) ASSERT_EQ(s.places[i], expected[i].second) << "in place " << i << ", equal " << equal;
-  }
-  qvxSetNumThreads(0);
-}
-
 TEST(SortIndex, KeepsElementsBesideTheirPlacesWhateverNaNDoes) {
   Random random(tests::seed());
   const auto expect = [&](auto ascend, auto descend, auto zero) {
