@@ -93,7 +93,7 @@ _binary("minimum", "MinEvery", "The less of a and b; a NaN in b stays, one in a 
 
 def _unary(name, stem, summary, example, extra=()):
     """A function of one source and numbers after it, named as Python has them: level for `level`."""
-    found = forms(stem)
+    found = [form for form in forms(stem) if len(form.sources) == 1]
 
     choose = chooser_of(name, found)
 

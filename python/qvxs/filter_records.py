@@ -34,17 +34,23 @@ def _calls(tail):
     return runner_of("qvxsIIR" + tail), *(getattr(raw, f"qvxsIIR{what}{tail}") for what in ("GetDlyLine", "SetDlyLine"))
 
 
+def direct_taps(b, a, dtype):
+    """b and a as one vector, the shorter with zeros at its end."""
+    count = max(len(a), len(b))
+    taps = np.zeros(2 * count, dtype)
+    taps[:len(b)] = b
+    taps[count:count + len(a)] = a
+    return taps
+
+
 def filter_record(b, a, dtype, wide=True):
     """A record of the direct form and the exports that run it, read its state and write it.
 
     wide: taps and state are doubles; else they are of the samples' type: 3.4 ns a sample of float32 at order 4, 10 through doubles.
     """
     tail = tail_of(dtype, WIDE if wide else SAME)
-    order = max(len(a), len(b)) - 1
-    taps = np.zeros(2 * (order + 1), wide_type(dtype) if wide else dtype)
-    taps[:len(b)] = b
-    taps[order + 1:order + 1 + len(a)] = a
-    return getattr(raw, "qvxsIIRInitAlloc" + tail)(taps, order, None), *_calls(tail)
+    taps = direct_taps(b, a, wide_type(dtype) if wide else dtype)
+    return getattr(raw, "qvxsIIRInitAlloc" + tail)(taps, len(taps) // 2 - 1, None), *_calls(tail)
 
 
 def section_record(sos, dtype, wide=True):

@@ -11,7 +11,7 @@ __all__ = ["tone", "triangle", "ramp", "chirp", "uniform", "gauss"]
 
 def _generator(stem, n, dtype, choices, out):
     """The vector that a generator fills, and the tail of its export's name: of `out`, or of n elements of the type."""
-    dtype = np.dtype(dtype if out is None else out.dtype)
+    dtype = np.dtype(dtype) if out is None else np.asarray(out).dtype
     tag = TAGS.get(dtype)
     if tag not in choices:
         raise TypeError(f"there is no {stem} of {dtype}")
@@ -29,14 +29,30 @@ def _wave(stem, n, dtype, phase, out, arguments):
 def tone(n, magnitude, frequency, phase=0.0, dtype=np.float32, out=None):
     """n samples of magnitude * cos(2 pi frequency n + phase), with the sine as imaginary part of complex types.
 
-    frequency: in [0, 0.5), relative to the sampling rate; phase: in [0, 2 pi). Integers saturate.
-    Exports: qvxsTone_Direct_16s, 16sc, 32f, 32fc, 64f, 64fc.
+    frequency: in [0, 0.5), relative to the sampling rate, of complex types in (-0.5, 0.5); phase: in [0, 2 pi). Integers saturate.
+    Exports: qvxsTone_Direct_16s, 16sc, 32f, 32fc, 64f, 64fc; qvxsConj_.
 
     >>> import numpy as np, qvxs
     >>> qvxs.tone(4, 1, 0.25, dtype=np.float64).round(6) + 0
     array([ 1.,  0., -1.,  0.])
+    >>> qvxs.tone(2, 1, -0.25, dtype=np.complex128).round(6) + 0
+    array([1.+0.j, 0.-1.j])
     """
-    return _wave("Tone", n, dtype, phase, out, lambda start: (magnitude, frequency, start, 2))
+    def wave(frequency, phase, out):
+        return _wave("Tone", n, dtype, phase, out, lambda start: (magnitude, frequency, start, 2))
+
+    dtype = np.dtype(dtype) if out is None else np.asarray(out).dtype
+    tag = TAGS.get(dtype, "")
+    if frequency >= 0 or not tag.endswith("c"):
+        return wave(frequency, phase, out)
+    # The conjugate of the tone with the opposite frequency and phase.
+    if 0 <= phase < 2 * np.pi:
+        phase = (np.float64 if "64" in tag else np.float32)(-phase % (2 * np.pi))
+        phase = phase if phase < 2 * np.pi else 0  # to which a float may be rounded
+    result = wave(-frequency, phase, None)
+    if n:
+        getattr(raw, f"qvxsConj_{tag}_I")(result, n)
+    return deliver(result, out)
 
 
 def triangle(n, magnitude, frequency, asymmetry=0.0, phase=0.0, dtype=np.float32, out=None):

@@ -7,7 +7,7 @@ import numpy as np
 from . import raw
 from .forms import forms
 from .rows import check_axis, contiguous, last, native
-from .stem import deliver, deliver_all, names_of, numbers_of, publish, told, types_of
+from .stem import deliver, deliver_all, names_of, no_form, numbers_of, publish, told, types_of
 
 __all__ = []
 _SETUP = ">>> import numpy as np, qvxs\n        "
@@ -30,7 +30,7 @@ def _reduction(name, stem, results, summary, example, overflow=False, widest=Fal
         common = arrays[0].dtype if sources == 1 else np.result_type(*arrays)
         form = best.get((common, bool(scale)))
         if form is None:
-            raise TypeError(f"{name} has no form for {common}{' with a scale' if scale else ''}")
+            raise no_form(name, [common], best.values(), scale)
         if sources == 2:
             arrays = np.broadcast_arrays(*(array.astype(common, copy=False) for array in arrays))
         rows = [contiguous(x).reshape(1, -1) if axis is None else last(x, check_axis(axis, x.ndim)) for x in arrays]
@@ -136,7 +136,7 @@ def std(x, axis=None, ddof=0, out=None):
     x = native(x)
     if x.dtype.kind != "f":
         raise TypeError(f"std has no form for {x.dtype}")
-    n = x.size if axis is None else x.shape[axis]
+    n = x.size if axis is None else x.shape[check_axis(axis, x.ndim)]
     if n == 1:
         made = np.zeros(np.delete(x.shape, axis) if axis is not None else (), x.dtype)[()] * (0.0 if ddof == 0 else np.nan)
     else:

@@ -11,7 +11,7 @@ import numpy as np
 from . import raw
 from .forms import TAGS, forms
 from .rows import contiguous, native
-from .stem import choose_for, deliver_all
+from .stem import choose_for, deliver_all, no_form
 
 __all__ = ["inverse_haar", "goertzel_two", "sample_up", "sample_down", "pack_bits", "copy_bits", "join_channels", "split_channels", "find_nearest",
            "convolve_cyclic", "convolve_part", "autocorrelate", "sum_window", "demodulate_fm", "running_mean", "running_power"]
@@ -26,10 +26,11 @@ def _rows(x, dtype=None):
     return x, x.reshape(-1, x.shape[-1])
 
 
-def _export(name, stem, tag):
+def _export(name, stem, dtype, to=""):
+    tag = f"{TAGS.get(dtype)}{to}"
     call = getattr(raw, f"qvxs{stem}_{tag}", None) or getattr(raw, f"qvxs{stem}_{tag}_Sfs", None)
     if call is None:
-        raise TypeError(f"{name} has no form for {tag}")
+        raise no_form(name, [dtype], forms(stem))
     return call
 
 
@@ -50,6 +51,8 @@ def inverse_haar(low, high, scale=0, out=None):
     """
     low = contiguous(native(low))
     high = contiguous(high, low.dtype)
+    if not low.ndim or not high.ndim:
+        raise ValueError("inverse_haar takes rows, not numbers")
     n = low.shape[-1] + high.shape[-1]
     if low.shape[:-1] != high.shape[:-1] or low.shape[-1] != (n + 1) // 2:
         raise ValueError(f"low and high of the shapes {low.shape} and {high.shape} are no halves of rows")
@@ -79,7 +82,7 @@ def goertzel_two(x, first, second, scale=0, out=None):
 
 def _sample(name, stem, x, factor, phase, lengths, out):
     x, rows = _rows(x)
-    call = _export(name, stem, TAGS.get(x.dtype))
+    call = _export(name, stem, x.dtype)
     n = rows.shape[1]
     phases, counts = np.full((len(rows), 1), phase, np.int32), np.empty((len(rows), 1), np.int32)
     if factor < 1 or not 0 <= phase < factor:
@@ -250,7 +253,7 @@ def autocorrelate(x, count, norm=None, scale=0):
     kinds = {None: "AutoCorr", "biased": "AutoCorr_NormA", "unbiased": "AutoCorr_NormB"}
     if norm not in kinds or count < 1:
         raise ValueError(f"autocorrelate: norm {norm!r}, {count} lags")
-    call = _export("autocorrelate", kinds[norm], TAGS.get(x.dtype))
+    call = _export("autocorrelate", kinds[norm], x.dtype)
     result = np.empty(x.shape[:-1] + (count,), x.dtype)
     raw.rows(call, rows, rows.shape[1], result.reshape(-1, count), count, *_scale(call, scale, "autocorrelate"))
     return result
@@ -267,7 +270,7 @@ def sum_window(x, size):
     n = x.shape[-1] - size + 1
     if size < 1 or n < 1:
         raise ValueError(f"sums of {size} in rows of {x.shape[-1]}")
-    call = _export("sum_window", "SumWindow", f"{TAGS.get(x.dtype)}32f")
+    call = _export("sum_window", "SumWindow", x.dtype, "32f")
     result = np.empty(x.shape[:-1] + (n,), np.float32)
     raw.rows(call, rows, result.reshape(-1, n), n, size)
     return result

@@ -16,14 +16,20 @@ def publish(module, function, name, doc):
     module["__all__"].append(name)
 
 
+def no_form(name, dtypes, found, scale=0, to=None):
+    """The exception for types that no form takes; it tells those that some form takes."""
+    found = [form for form in found if form.scaled or not scale]
+    asked = ", ".join(map(dtype_name, dtypes)) + ("" if to is None else f" to {dtype_name(np.dtype(to))}") + (" with a scale" if scale else "")
+    return TypeError(f"{name} has no form for {asked}" + (f"; it takes {types_of(found)}" if found else ""))
+
+
 def choose(name, candidates, source, scale, dtype):
     """The form for a source's type: with the wanted type of result, else with the source's own, else the first one."""
     fitting = [form for form in candidates if form.source == source and (form.scaled or not scale)]
     if dtype is not None:
         fitting = [form for form in fitting if form.target == np.dtype(dtype)]
     if not fitting:
-        wanted = "" if dtype is None else f" to {np.dtype(dtype)}"
-        raise TypeError(f"{name} has no form for {source}{wanted}{' with a scale' if scale else ''}")
+        raise no_form(name, [source], candidates, scale, dtype)
     own = [form for form in fitting if form.target == source]
     return (own or fitting)[0]
 
@@ -47,17 +53,22 @@ def choose_for(name, found, arrays, scale, dtype):
         common = np.result_type(*arrays)
         own = [form for form in fitting if all(form.types[source] == common for source in form.sources)]
     if not own:
-        wanted = "" if dtype is None else f" to {np.dtype(dtype)}"
-        raise TypeError(f"{name} has no form for {', '.join(str(x.dtype) for x in arrays)}{wanted}{' with a scale' if scale else ''}")
+        raise no_form(name, [x.dtype for x in arrays], found, scale, dtype)
     return own[0]
+
+
+def _check_out(out, shape):
+    if not isinstance(out, np.ndarray):
+        raise TypeError(f"out is an array, not {out!r}")
+    if out.shape != shape:
+        raise ValueError(f"out has the shape {out.shape}, the result {shape}")
 
 
 def destination(out, shape, dtype, *sources):
     """The array to write into: `out` itself where it is contiguous and apart from the sources."""
     if out is None:
         return np.empty(shape, dtype)
-    if out.shape != shape:
-        raise ValueError(f"out has the shape {out.shape}, the result {shape}")
+    _check_out(out, shape)
     if out.dtype == dtype and out.flags.carray and not any(np.may_share_memory(out, source) for source in sources):
         return out
     return np.empty(shape, dtype)
@@ -67,8 +78,7 @@ def deliver(result, out):
     """The result, in `out` if the caller gave one."""
     if out is None or out is result:
         return result
-    if out.shape != result.shape:
-        raise ValueError(f"out has the shape {out.shape}, the result {result.shape}")
+    _check_out(out, result.shape)
     np.copyto(out, result, casting="same_kind")
     return out
 
@@ -82,10 +92,13 @@ def deliver_all(out, made):
     return out
 
 
+def dtype_name(dtype):
+    return f"complex_int{TAGS[dtype][:-2]}" if dtype.names is not None and dtype in TAGS else str(dtype)
+
+
 def types_of(found):
     """For the text of a function: what its first sources may hold."""
-    sources = dict.fromkeys(form.types[form.sources[0]] for form in found)
-    return ", ".join(str(source) if source.names is None else "complex_int" + TAGS[source][:-2] for source in sources)
+    return ", ".join(map(dtype_name, dict.fromkeys(form.types[form.sources[0]] for form in found)))
 
 
 def names_of(found):

@@ -16,12 +16,14 @@ import threading
 import numpy as np
 
 from . import raw
-from .filter_records import SAME, WIDE, filter_record, runner_of, section_record, tail_of, wide_type
+from .filter_records import SAME, WIDE, direct_taps, filter_record, runner_of, section_record, tail_of, wide_type
 from .rows import contiguous, native
 
 
 class Stream:
-    """What all filters have: a lock, the dtype, and blocks converted to vectors of it."""
+    """What all filters have: a lock, the dtype, blocks converted to vectors of it, and a scale of integers."""
+
+    scale = 0
 
     def __init__(self, dtype):
         self.dtype = np.dtype(dtype)
@@ -38,14 +40,15 @@ class Stream:
             raise ValueError(f"a block is a vector, not an array of shape {block.shape}")
         return block
 
+    def _scales(self):
+        return () if self.dtype.kind in "fc" else (self.scale,)
+
     def __getstate__(self):
         raise TypeError(f"a {type(self).__name__} is not copied: take its state")
 
 
 class _OneToOne(Stream):
     """As many outputs as samples, of a record with a delay line: _record, _run, _read, _write."""
-
-    scale = 0
 
     def process(self, block, out=None):
         """The outputs for the next samples, as many."""
@@ -56,13 +59,21 @@ class _OneToOne(Stream):
                 self._run(block, result, block.size, self._record, *self._scales())
         return result
 
-    def _scales(self):
-        return () if self.dtype.kind in "fc" else (self.scale,)
-
     def reset(self):
         """Begins anew, after zeros."""
         with self._lock:
             self._write(self._record, None)
+
+    def _replace(self, stem, tail, taps, count):
+        """New taps from the next sample on, as many as before; the state stays."""
+        if taps.size != count:
+            raise ValueError(f"the stream has {count} taps, not {taps.size}")
+        with self._lock:
+            getattr(raw, f"qvxs{stem}SetTaps{tail}")(taps, self._record)
+
+
+def _fir_taps(taps, dtype):
+    return contiguous(taps, dtype if dtype.kind in "fc" else wide_type(dtype))
 
 
 class Fir(_OneToOne):
@@ -79,12 +90,22 @@ class Fir(_OneToOne):
         taps = np.atleast_1d(taps)
         super().__init__(np.result_type(taps, np.float32) if dtype is None else dtype)
         self.scale = scale
-        tail = tail_of(self.dtype, SAME, WIDE)
+        tail = self._tail = tail_of(self.dtype, SAME, WIDE)
         self._taps = len(taps)
-        typed = contiguous(taps, self.dtype if self.dtype.kind in "fc" else wide_type(self.dtype))
-        self._record = getattr(raw, "qvxsFIRInitAlloc" + tail)(typed, len(taps), None)
+        self._record = getattr(raw, "qvxsFIRInitAlloc" + tail)(_fir_taps(taps, self.dtype), len(taps), None)
         self._run = runner_of("qvxsFIR" + tail)
         self._read, self._write = (getattr(raw, f"qvxsFIR{what}{tail}") for what in ("GetDlyLine", "SetDlyLine"))
+
+    def set_taps(self, taps):
+        """Other taps from the next sample on, as many; the state stays. Exports: qvxsFIRSetTaps_.
+
+            >>> fir = Fir([1., 1.])
+            >>> first = fir.process([1., 2.])
+            >>> fir.set_taps([0.5, 0.25])
+            >>> fir.process([0.])
+            array([0.5])
+        """
+        self._replace("FIR", self._tail, _fir_taps(np.atleast_1d(taps), self.dtype), self._taps)
 
     @property
     def state(self):
@@ -103,8 +124,8 @@ class Fir(_OneToOne):
 
 
 class _Recursive(_OneToOne):
-    def _begin(self, memory, calls):
-        self._memory = memory
+    def _begin(self, memory, taps, calls):
+        self._memory, self._taps = memory, taps
         self._record, self._run, self._read, self._write = calls
 
     @property
@@ -141,7 +162,12 @@ class Iir(_Recursive):
         order = max(len(a), len(b)) - 1
         if order < 1:
             raise ValueError("a filter of order 0 is a factor")
-        self._begin((order,), filter_record(b, a, self.dtype))
+        self._begin((order,), 2 * order + 2, filter_record(b, a, self.dtype))
+
+    def set_taps(self, b, a):
+        """Another filter of the same order from the next sample on; the state stays. Exports: qvxsIIRSetTaps."""
+        taps = direct_taps(np.atleast_1d(b), np.atleast_1d(a), wide_type(self.dtype))
+        self._replace("IIR", tail_of(self.dtype, WIDE), taps, self._taps)
 
 
 class Sos(_Recursive):
@@ -160,7 +186,18 @@ class Sos(_Recursive):
         if sos.ndim != 2 or sos.shape[1] != 6:
             raise ValueError("sos array must be shape (n_sections, 6)")
         super().__init__(np.result_type(sos, np.float32) if dtype is None else dtype)
-        self._begin((len(sos), 2), section_record(sos, self.dtype))
+        self._begin((len(sos), 2), sos.size, section_record(sos, self.dtype))
+
+    def set_taps(self, sos):
+        """Other sections from the next sample on, as many; the state stays: a stream whose equaliser is turned. Exports: qvxsIIRSetTaps.
+
+            >>> sos = Sos([[1., 0, 0, 1, -0.5, 0]])
+            >>> first = sos.process([1., 0])
+            >>> sos.set_taps([[1., 0, 0, 1, 0.5, 0]])
+            >>> sos.process([0., 0])
+            array([ 0.25 , -0.125])
+        """
+        self._replace("IIR", tail_of(self.dtype, WIDE), contiguous(sos, wide_type(self.dtype)).reshape(-1), self._taps)
 
 
 class _Sparse(_OneToOne):
@@ -211,14 +248,16 @@ class SparseIir(_Sparse):
 class Resampler(Stream):
     """Resampling of a stream by up / down through taps, as upfirdn; what is due later comes with later blocks or with `flush`.
 
-    taps: None for those of resample_poly, which are for up / down in lowest terms. Exports: qvxsFIRMRInitAlloc_ and qvxsFIR_ of 32f, 64f, 32fc, 64fc.
+    taps: None for those of resample_poly, which are for up / down in lowest terms. Exports: qvxsFIRMRInitAlloc_ and qvxsFIR_ of 32f, 64f, 32fc, 64fc;
+    of integers those with taps in doubles: results times 2^-scale are rounded and saturated.
 
         >>> double = Resampler(2, 1, [1., 1])
         >>> double.process([1., 2.]), double.process([3.])
         (array([1., 1., 2., 2.]), array([3., 3.]))
     """
 
-    def __init__(self, up, down, taps=None, dtype=None):
+    def __init__(self, up, down, taps=None, dtype=None, scale=0):
+        self.scale = scale
         if taps is None:
             from .design import resampling_taps  # with SciPy, which streams do without else
             common = math.gcd(up, down)
@@ -228,9 +267,9 @@ class Resampler(Stream):
         self.up, self.down = up, down
         taps = np.atleast_1d(taps)
         super().__init__(np.result_type(taps, np.float32) if dtype is None else dtype)
-        self._tail = tail_of(self.dtype, SAME)
-        self.taps = contiguous(taps, self.dtype)
-        self._run = getattr(raw, "qvxsFIR" + self._tail)
+        self._tail = tail_of(self.dtype, SAME, WIDE)
+        self.taps = _fir_taps(taps, self.dtype)
+        self._run = runner_of("qvxsFIR" + self._tail)
         self.reset()
 
     def reset(self):
@@ -262,7 +301,7 @@ class Resampler(Stream):
         groups = samples.size // self.down
         result = np.empty(groups * self.up, self.dtype)
         if groups:
-            self._run(contiguous(samples[:groups * self.down]), result, groups, self._record)
+            self._run(contiguous(samples[:groups * self.down]), result, groups, self._record, *self._scales())
         return result
 
     def process(self, block):
@@ -289,9 +328,10 @@ class Resampler(Stream):
 
 
 class Lms(Stream):
-    """An adaptive FIR filter of float32 samples: its taps follow a reference by the least-mean-squares rule.
+    """An adaptive FIR filter of float32 or int16 samples: its taps, float32, follow a reference by the least-mean-squares rule.
 
-    taps: a number of zeros, or the first taps; step: the step size. Exports: qvxsFIRLMSInitAlloc_32f, qvxsFIRLMS_32f.
+    taps: a number of zeros, or the first taps; step: the step size, which goes with 1 / the power of the samples. Exports:
+    qvxsFIRLMSInitAlloc, qvxsFIRLMS of 32f and 32f_16s.
 
         >>> rng = np.random.default_rng(1)
         >>> x = rng.standard_normal(4000).astype(np.float32)
@@ -301,12 +341,16 @@ class Lms(Stream):
         array([0.5, 0. ], dtype=float32)
     """
 
-    def __init__(self, taps, step):
-        super().__init__(np.float32)
+    def __init__(self, taps, step, dtype=np.float32):
+        super().__init__(dtype)
+        tail = {np.dtype(np.float32): "_32f", np.dtype(np.int16): "32f_16s"}.get(self.dtype)
+        if tail is None:
+            raise TypeError(f"an adaptive filter takes float32 and int16, not {self.dtype}")
         first = np.zeros(taps, np.float32) if np.ndim(taps) == 0 else contiguous(taps, np.float32)
         self.step = step
         self._taps = len(first)
-        self._record = raw.qvxsFIRLMSInitAlloc_32f(first, len(first), None, 0)
+        self._record = getattr(raw, "qvxsFIRLMSInitAlloc" + tail)(first, len(first), None, 0)
+        self._run, self._read = (getattr(raw, f"qvxsFIRLMS{what}{tail}") for what in ("", "GetTaps"))
 
     def process(self, block, reference):
         """The outputs for the next samples, each with the taps as the step before left them."""
@@ -316,12 +360,12 @@ class Lms(Stream):
         result = np.empty_like(block)
         if block.size:
             with self._lock:
-                raw.qvxsFIRLMS_32f(block, reference, result, block.size, self._record, self.step)
+                self._run(block, reference, result, block.size, self._record, self.step)
         return result
 
     @property
     def taps(self):
         taps = np.empty(self._taps, np.float32)
         with self._lock:
-            raw.qvxsFIRLMSGetTaps_32f(self._record, taps)
+            self._read(self._record, taps)
         return taps

@@ -188,6 +188,22 @@ def test_streams_may_be_cut_anywhere(dtype):
         assert np.allclose(stream.process(x[1000:]), rest, atol=tolerance) and np.allclose(rest, whole[1000:], atol=tolerance)
 
 
+@pytest.mark.parametrize("dtype", [*TYPES, np.int16])
+def test_new_taps_leave_the_state(dtype):
+    """As a filter that is made with the new taps and the old state."""
+    x = (1000 * noise(300, "d")).astype(dtype)
+    designs = [scipy.signal.butter(3, edge) for edge in (0.2, 0.4)]
+    sections = [scipy.signal.butter(4, edge, output="sos") for edge in (0.2, 0.4)]
+    for make, old, new in ((Fir, (noise(20, "d", 1),), (noise(20, "d", 2),)), (Iir, *designs), (Sos, (sections[0],), (sections[1],))):
+        stream, other = make(*old, dtype), make(*new, dtype)
+        stream.process(x)
+        other.state = stream.state
+        stream.set_taps(*new)
+        assert np.array_equal(stream.process(x), other.process(x))
+        with pytest.raises(ValueError):
+            stream.set_taps(*(np.concatenate((part, part)) for part in new))
+
+
 @pytest.mark.parametrize("dtype", TYPES)
 @pytest.mark.parametrize("up, down", [(1, 1), (2, 1), (1, 4), (3, 2), (7, 16), (4, 6), (3, 3)])
 def test_resampled_streams(dtype, up, down):
@@ -202,13 +218,14 @@ def test_resampled_streams(dtype, up, down):
             assert joined.shape == whole.shape and np.allclose(joined, whole, atol=1e-3 if dtype in "fF" else 1e-11)
 
 
-def test_lms_finds_an_echo():
-    x = noise(20000, "f")
+@pytest.mark.parametrize("dtype, full, near", [(np.float32, 1, 1e-2), (np.int16, 4000, 2)])
+def test_lms_finds_an_echo(dtype, full, near):
+    x = np.rint(full * noise(20000, "d")).astype(dtype) if full > 1 else noise(20000, "f")
     echo = np.float32([0.5, 0, -0.3, 0.1])
-    lms = Lms(8, 0.005)
-    reference = scipy.signal.lfilter(echo, [1], x).astype("f")
+    lms = Lms(8, 0.005 / full**2, dtype)
+    reference = scipy.signal.lfilter(echo, [1], x).astype(dtype)
     error = np.concatenate([reference[a:b] - lms.process(x[a:b], reference[a:b]) for a, b in cuts(len(x))])
-    assert np.allclose(lms.taps[:4], echo, atol=1e-3) and np.abs(error[-100:]).max() < 1e-2
+    assert np.allclose(lms.taps[:4], echo, atol=1e-3) and np.abs(error[-100:]).max() < near and error.dtype == dtype
 
 
 @pytest.mark.parametrize("dtype", [np.int16, np.int32])
@@ -226,6 +243,9 @@ def test_streams_of_integers(dtype):
             ours = np.concatenate([stream.process(x[first:past]) for first, past in cuts(len(x))])
             theirs = np.clip(np.rint(exact * 2.0**-scale), limits.min, limits.max)
             assert ours.dtype == dtype and np.abs(ours - theirs).max() <= 1 and (ours == theirs).mean() > 0.999
+    stream, whole = Resampler(3, 2, taps, dtype, 1), scipy.signal.upfirdn(taps, x.astype(float), 3, 2)
+    ours = np.concatenate([stream.process(x[first:past]) for first, past in cuts(len(x))] + [stream.flush()])
+    assert ours.dtype == dtype and np.abs(ours - np.rint(whole / 2)).max() <= 1 and (ours == np.rint(whole / 2)).mean() > 0.999
     pairs = np.zeros(4, qvxs.complex_int16)
     pairs["re"], pairs["im"] = (100, 0, 0, 0), (0, 0, 40, 0)
     result = Fir([1, 0.5j], qvxs.complex_int16).process(pairs)
@@ -277,7 +297,7 @@ def test_one_stream_from_many_threads():
 
 
 def test_streams_refuse_what_they_are_not_for():
-    for call in (lambda: Fir([1, 2], np.int8), lambda: Fir([1, 2], np.int16).process(np.ones(3)), lambda: pickle.dumps(Fir([1.0])), lambda: Lms(3, 0.1).process(1j * np.ones(2), np.ones(2))):
+    for call in (lambda: Fir([1, 2], np.int8), lambda: Fir([1, 2], np.int16).process(np.ones(3)), lambda: pickle.dumps(Fir([1.0])), lambda: Lms(3, 0.1, np.int32), lambda: Lms(3, 0.1, np.int16).process(np.ones(2), np.ones(2)), lambda: Lms(3, 0.1).process(1j * np.ones(2), np.ones(2))):
         with pytest.raises(TypeError):
             call()
     for call in (lambda: Fir([1.0]).process(np.ones((2, 2))), lambda: Sos(np.ones((1, 5))), lambda: Iir([1.0], [1.0]),

@@ -21,7 +21,7 @@ LEFT = {
     "a transform by DFT goes the same way where the length is a power of two": ["FFT*"],
     "the order of the points is nobody's": ["DFTOutOrd*"],
     "streams take blocks, and keep the delay line themselves": ["FIROne*", "IIROne*", "*_Direct", "*BiQuadDirect", "*Stream*"],
-    "a stream is made anew for other taps": ["FIRGetTaps", "FIRSetTaps", "IIRSetTaps"],
+    "the caller has the taps": ["FIRGetTaps"],
     "sample by sample, between which the caller decides": ["FIRLMSMR*", "FIRLMSOne_Direct*", "FIRLMSGetDlyLine", "FIRLMSSetDlyLine"],
     "another arithmetic for the same sections": ["*_DF1"],
     "the same with a float for the number in Q15": ["*Q15*"],

@@ -1,6 +1,7 @@
 """Vectors by stem beside NumPy and beside their definitions in wide integers."""
 
 import inspect
+import math
 import pickle
 import warnings
 
@@ -217,11 +218,41 @@ def test_sorting(dtype):
             assert (qvxs.argsort(x, axis) == np.argsort(x, axis, kind="stable")).all()
 
 
+REFUSALS = (TypeError, ValueError, OverflowError, qvxs.Error, NotImplementedError)
+
+
+@pytest.mark.filterwarnings("ignore")
+@pytest.mark.parametrize("dtype", ["u1", "i2", "u4", "i8", "f2", "f4", "F", "?", "g", "O", "U3", qvxs.complex_int8, qvxs.complex_int16])
+def test_wrong_arguments_are_refused_by_name(dtype):
+    """No function stumbles over types, shapes and numbers that it does not take: other exceptions would be faults."""
+    functions = {name: thing for name in dir(qvxs) if callable(thing := getattr(qvxs, name)) and not isinstance(thing, type) and name[0] != "_"}
+    assert len(functions) > 100
+    for shape in ((5,), (0,), (), (2, 3)):
+        x = np.zeros(shape, dtype)
+        for name, function in functions.items():
+            for arguments in ((x,), (x, x), (x, x, x), (x, 2), (x, 2, 3), (x, x, 2), (x, 2, 3, 1), (5, x), (x, -1), (x, None), (x, "x"), (x, 10**30), (x, math.nan)):
+                try:
+                    function(*arguments)
+                except REFUSALS:
+                    pass
+                except Exception as fault:
+                    raise AssertionError(f"{name} of {[getattr(a, 'shape', a) for a in arguments]}") from fault
+
+
 def test_generators():
     n = np.arange(1000)
     for dtype in ("f", "d", "D"):
         theirs = 3 * np.exp(1j * (2 * np.pi * 0.01 * n + 0.5))
         assert np.allclose(qvxs.tone(1000, 3, 0.01, 0.5, dtype), theirs if dtype == "D" else theirs.real, atol=1e-5)
+    for dtype in ("F", "D", qvxs.complex_int16):  # below zero frequencies of complex tones alone
+        for phase in (0, 1e-9, 0.5, 6.2831853):
+            out = np.empty((1000, 2), dtype)[:, 0]
+            qvxs.tone(1000, 3000, -1 / 128, phase, out=out)
+            made = out["re"] + 1j * out["im"] if out.dtype.names else out
+            assert np.abs(made - 3000 * np.exp(1j * (-2 * np.pi * n / 128 + phase))).max() < (1e-8 if dtype == "D" else 2e-3 if dtype == "F" else 0.8)
+    for call in (lambda: qvxs.tone(9, 1, -0.1), lambda: qvxs.tone(9, 1, -0.5, dtype="D"), lambda: qvxs.tone(9, 1, -0.1, 7, "D"), lambda: qvxs.tone(9, 1, -0.1, -1, "D")):
+        with pytest.raises(qvxs.Error):
+            call()
     assert (qvxs.ramp(300, -5, 2, np.int8) == np.clip(-5 + 2 * n[:300], -128, 127)).all()
     for make in (qvxs.uniform, qvxs.gauss):
         assert (make(100, seed=7) == make(100, seed=7)).all() and (make(100, seed=7) != make(100, seed=8)).any() and make(0).size == 0
