@@ -24,7 +24,10 @@ extern "C" {
  *   this way in calls that bring three quarters of the samples that a transform takes beside the taps, or more.
  * - By partitions of the taps, each of which meets the samples as a product of spectra: filters with 512 or more taps of 32f or
  *   64f, in shorter calls, as soon as such have brought 64 samples since the taps or the delay line were set, or since a call of
- *   the second way. From then on one-sample forms go this way as well.
+ *   the second way. From then on one-sample forms go this way as well. The call that turns to partitions transforms all taps:
+ *   1.5 ns for each in AVX-512, 7 in a new block, 0.6 ms for 96000. A stream that cannot wait for that filters zeros first, as
+ *   many as its calls will bring, 64 at least. Where a partition is longer than a call, the calls that fill one take longer than
+ *   the others: 13 us, not 0.3, of 96000 taps with 64 samples.
  *
  * To the bit: in place equals out of place, and no result depends on the address of a vector or on the number of threads.
  * Results of integer arithmetic do not depend on how the stream is cut, either. Floats that are filtered directly are added up
@@ -77,7 +80,7 @@ QVXS_API(QvxStatus, qvxsFIRGetStateSize_16s, (int tapsLen, int* pSize));
 
 /** Builds a record in pBuffer, of the size that qvxsFIRGetStateSize gives, and stores its address in *ppState. The taps are
  *  copied. pDlyLine: the tapsLen samples before the first, newest first; null for zeros.
- *  Integer taps are taken times 2^tapsFactor and reduced to 16 bits. 16s: if one of them is -32768, all are shifted right by one
+ *  Integer taps are taken times 2^tapsFactor (those of recursive filters times 2^-tapsFactor) and reduced to 16 bits. 16s: if one of them is -32768, all are shifted right by one
  *  place; 32s, 32sc: by as many as bring the largest magnitude to 32766 or less (-2147483648 does not count as large, and of what
  *  it is shifted to the filters take the low 16 bits). The factor grows by as much.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadTapsLen (tapsLen < 1). */

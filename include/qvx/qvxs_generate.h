@@ -95,7 +95,8 @@ typedef struct QvxsToneState QvxsToneState;
 typedef struct QvxsTriangleState QvxsTriangleState;
 
 /** dst[n] = magn * cos(2 pi rFreq n + phase); the imaginary part of complex elements is magn * sin(...).
- *  magn above 0; rFreq in [0, 0.5); *pPhase in [0, 2 pi); any hint. Integers are rounded, halves away from zero, and saturated.
+ *  magn above 0; rFreq in [0, 0.5); *pPhase in [0, 2 pi); any hint. Integers are rounded, halves away from zero, and saturated. A
+ *  complex tone of a negative frequency is the conjugate (qvxsConj) of that with -rFreq and the phase 2 pi - phase.
  *  hint 1 promises the error of a recursion that starts anew every 1024 (64f, 64fc: 2048) samples; there is no faster way with more,
  *  so other hints give the same. The error is below magn * 2^-21.5 (64f, 64fc: 2^-45) at any length, and that of rFreq's and phase's
  *  own representation; phase is rounded at a cut.

@@ -87,7 +87,8 @@ QVXS_API(QvxStatus, qvxsIIRGetStateSize64fc_BiQuad_16sc, (int numBq, int* pState
 /** Builds a record of the direct form in the caller's block.
  *  *ppState: the record, inside pBuf. pBuf: as many bytes as qvxsIIRGetStateSize says, any alignment.
  *  pTaps: b[0..order], a[0..order]; all are multiplied by 1 / a[0], a complex a[0] by its reciprocal. Qvx32s taps count times
- *  2^-tapsFactor. pDlyLine: order values, or null for zeros. Neither is read again.
+ *  2^-tapsFactor, where those of FIR filters count times 2^tapsFactor. pDlyLine: order values, or null for zeros. Neither is read
+ *  again.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadIIROrder (order < 1); qvxStatNoMem (Qvx32s taps: no room to convert them);
  *  qvxStatDivByZero (a[0] is 0: *ppState is set, but the filter is not to be used until its taps are set). */
 QVXS_API(QvxStatus, qvxsIIRInit_32f,
