@@ -80,9 +80,10 @@ QVXS_API(QvxStatus, qvxsFIRGetStateSize_16s, (int tapsLen, int* pSize));
 
 /** Builds a record in pBuffer, of the size that qvxsFIRGetStateSize gives, and stores its address in *ppState. The taps are
  *  copied. pDlyLine: the tapsLen samples before the first, newest first; null for zeros.
- *  Integer taps are taken times 2^tapsFactor (those of recursive filters times 2^-tapsFactor) and reduced to 16 bits. 16s: if one of them is -32768, all are shifted right by one
- *  place; 32s, 32sc: by as many as bring the largest magnitude to 32766 or less (-2147483648 does not count as large, and of what
- *  it is shifted to the filters take the low 16 bits). The factor grows by as much.
+ *  Integer taps are taken times 2^tapsFactor (those of recursive filters times 2^-tapsFactor) and reduced to 16 bits. 16s: if one
+ *  of them is -32768, all are shifted right by one place; 32s, 32sc: by as many as bring the largest magnitude to 32766 or less
+ *  (-2147483648 does not count as large, and of what it is shifted to the filters take the low 16 bits). The factor grows by as
+ *  much.
  *  Returns qvxStatOk; qvxStatNullPtr; qvxStatBadTapsLen (tapsLen < 1). */
 QVXS_API(QvxStatus, qvxsFIRInit_32f, (QvxsFIRState_32f** ppState, const Qvx32f* pTaps, int tapsLen, const Qvx32f* pDlyLine, Qvx8u* pBuffer));
 QVXS_API(QvxStatus, qvxsFIRInit_32fc, (QvxsFIRState_32fc** ppState, const Qvx32fc* pTaps, int tapsLen, const Qvx32fc* pDlyLine, Qvx8u* pBuffer));
