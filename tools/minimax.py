@@ -87,7 +87,7 @@ def fit_exp():
 def fit_ln():
     def q(r):  # ln(1+r) = r + r^2 q(r)
         return series(r, lambda r: (log1p(r) - r) / r**2, lambda k: mpf((-1)**(k + 1)) / (k + 2))
-    for lane, entries, at_one, degree in (('float', 32, 2, 3), ('double', 16, 1, 8)):
+    for lane, entries, at_one, degree in (('float', 32, 2, 3), ('double', 16, 1, 8), ('float', 8, 1, 4)):
         fit(f'ln, {entries} entries', lane, q, lambda r: abs(r) + mpf(10)**-30, degree, -max(mpf(at_one) / 2, mpf('0.63')) / entries, mpf(at_one) / entries)
     def p(z):  # ln((1+s)/(1-s)) = 2s + s z p(z), z = s^2
         return series(z, lambda z: (2 * atanh(sqrt(z)) / sqrt(z) - 2) / z, lambda k: mpf(2) / (2 * k + 3))
@@ -123,7 +123,7 @@ def near_multiple(middle, reach, places, lane, tries):
 def tables():
     """For each interval of the mantissa, 1 for those next to 1, a reciprocal whose logarithm is next to a multiple of 2^-places."""
     random.seed(1)
-    for lane, entries, at_one, places, tries in (('float', 32, 2, 16, 150000), ('double', 16, 1, 41, 200000)):
+    for lane, entries, at_one, places, tries in (('float', 32, 2, 16, 150000), ('double', 16, 1, 41, 200000), ('float', 8, 1, 16, 150000)):
         reciprocals, logarithms, worst = [], [], 0
         for i in range(entries):
             scale = 1 if i < entries // 2 else 2

@@ -3,7 +3,7 @@
 
 #include "frame/constants.h"
 #include "frame/map.h"
-#include "math/polynomial.h"
+#include "math/ln.h"
 
 namespace qvx {
 
@@ -77,13 +77,6 @@ struct HalfLnNumbers {
   alignas(32) static constexpr float kHalfLogarithms[8] = {
       0, 0x1.ec8p-5F, 0x1.c978p-4F, 0x1.4724p-3F, 0x1.9ca4p-3F, 0x1.f28cp-3F, 0x1.1db4p-2F, 0x1.41a4p-2F};
 };
-
-template <class V> V entryOf(const float (&table)[8], Vec<Lanes<uint32_t, kLanesOf<V>>> index) {
-  const Lanes<float, 8> d;
-  const auto at = [&](auto whole) { return hn::TableLookupLanes(load(d, table), hn::Indices256<float>{whole.raw}); };
-  if constexpr (kLanesOf<V> == 8) return at(index);
-  else return hn::LowerHalf(TagOf<V>(), at(hn::ZeroExtendVector(Lanes<uint32_t, 8>(), index)));
-}
 
 #endif
 

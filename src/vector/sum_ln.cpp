@@ -65,7 +65,9 @@ class SumOfLogarithms {
   FirstFlag flag_;
 };
 
-template <class T, class R> QvxStatus sumLn(const T* src, int len, R* result) {
+// Flattened: around a logarithm that is called, vector and sum go through memory, and 4096 doubles of AVX-512 take 1.85 us, not
+// 1.04, of AVX2 4.6, not 3.2.
+template <class T, class R> [[gnu::flatten]] QvxStatus sumLn(const T* src, int len, R* result) {
   const QvxStatus status = check(len, src, result);
   if (status != qvxStatOk) return status;
   SumOfLogarithms sum;
