@@ -44,7 +44,7 @@ typedef enum {
   qvxWarnBadBitLen = 27, /* a bit length was outside 0 to 32 */
 
   qvxStatBadArg = -5,             /* an enumerated argument or an index is outside its set */
-  qvxStatBadSize = -6,            /* a length is below 1 */
+  qvxStatBadSize = -6,            /* a length is below 1, or does not fit */
   qvxStatBadRange = -7,           /* unknown crossing type */
   qvxStatNullPtr = -8,            /* a required pointer is null */
   qvxStatNoMem = -9,              /* an allocation failed */

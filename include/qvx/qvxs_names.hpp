@@ -20,7 +20,7 @@ inline const char* describe(QvxStatus status) {
     case qvxWarnNotFinite: return "qvxWarnNotFinite: a source element was infinite or a NaN";
     case qvxWarnBadBitLen: return "qvxWarnBadBitLen: a bit length was outside 0 to 32";
     case qvxStatBadArg: return "qvxStatBadArg: an enumerated argument or an index is outside its set";
-    case qvxStatBadSize: return "qvxStatBadSize: a length is below 1";
+    case qvxStatBadSize: return "qvxStatBadSize: a length is below 1, or does not fit";
     case qvxStatBadRange: return "qvxStatBadRange: unknown crossing type";
     case qvxStatNullPtr: return "qvxStatNullPtr: a required pointer is null";
     case qvxStatNoMem: return "qvxStatNoMem: an allocation failed";
