@@ -3,6 +3,7 @@
 // The element is always the second operand of a maximum or minimum: that is what the instruction gives when the two are equal or
 // one of them is a NaN, so that it stays as it is, to the bit.
 #include "convert/level.h"
+#include "frame/past_caches.h"
 
 using namespace qvx;
 
@@ -109,18 +110,18 @@ QvxStatus qvxsThreshold_LT_16s(const Qvx16s* a, Qvx16s* d, int len, Qvx16s level
 QvxStatus qvxsThreshold_LT_16s_I(Qvx16s* d, int len, Qvx16s level) { return map<RaiseTo>(d, len, AsIs{}, d, Constant{level}); }
 QvxStatus qvxsThreshold_LT_32s(const Qvx32s* a, Qvx32s* d, int len, Qvx32s level) { return map<RaiseTo>(d, len, AsIs{}, a, Constant{level}); }
 QvxStatus qvxsThreshold_LT_32s_I(Qvx32s* d, int len, Qvx32s level) { return map<RaiseTo>(d, len, AsIs{}, d, Constant{level}); }
-QvxStatus qvxsThreshold_LT_32f(const Qvx32f* a, Qvx32f* d, int len, Qvx32f level) { return map<RaiseTo>(d, len, AsIs{}, a, Constant{level}); }
+QvxStatus qvxsThreshold_LT_32f(const Qvx32f* a, Qvx32f* d, int len, Qvx32f level) { return map<RaiseTo>(d, len, PastCaches{}, a, Constant{level}); }
 QvxStatus qvxsThreshold_LT_32f_I(Qvx32f* d, int len, Qvx32f level) { return map<RaiseTo>(d, len, AsIs{}, d, Constant{level}); }
-QvxStatus qvxsThreshold_LT_64f(const Qvx64f* a, Qvx64f* d, int len, Qvx64f level) { return map<RaiseTo>(d, len, AsIs{}, a, Constant{level}); }
+QvxStatus qvxsThreshold_LT_64f(const Qvx64f* a, Qvx64f* d, int len, Qvx64f level) { return map<RaiseTo>(d, len, PastCaches{}, a, Constant{level}); }
 QvxStatus qvxsThreshold_LT_64f_I(Qvx64f* d, int len, Qvx64f level) { return map<RaiseTo>(d, len, AsIs{}, d, Constant{level}); }
 
 QvxStatus qvxsThreshold_GT_16s(const Qvx16s* a, Qvx16s* d, int len, Qvx16s level) { return map<LowerTo>(d, len, AsIs{}, a, Constant{level}); }
 QvxStatus qvxsThreshold_GT_16s_I(Qvx16s* d, int len, Qvx16s level) { return map<LowerTo>(d, len, AsIs{}, d, Constant{level}); }
 QvxStatus qvxsThreshold_GT_32s(const Qvx32s* a, Qvx32s* d, int len, Qvx32s level) { return map<LowerTo>(d, len, AsIs{}, a, Constant{level}); }
 QvxStatus qvxsThreshold_GT_32s_I(Qvx32s* d, int len, Qvx32s level) { return map<LowerTo>(d, len, AsIs{}, d, Constant{level}); }
-QvxStatus qvxsThreshold_GT_32f(const Qvx32f* a, Qvx32f* d, int len, Qvx32f level) { return map<LowerTo>(d, len, AsIs{}, a, Constant{level}); }
+QvxStatus qvxsThreshold_GT_32f(const Qvx32f* a, Qvx32f* d, int len, Qvx32f level) { return map<LowerTo>(d, len, PastCaches{}, a, Constant{level}); }
 QvxStatus qvxsThreshold_GT_32f_I(Qvx32f* d, int len, Qvx32f level) { return map<LowerTo>(d, len, AsIs{}, d, Constant{level}); }
-QvxStatus qvxsThreshold_GT_64f(const Qvx64f* a, Qvx64f* d, int len, Qvx64f level) { return map<LowerTo>(d, len, AsIs{}, a, Constant{level}); }
+QvxStatus qvxsThreshold_GT_64f(const Qvx64f* a, Qvx64f* d, int len, Qvx64f level) { return map<LowerTo>(d, len, PastCaches{}, a, Constant{level}); }
 QvxStatus qvxsThreshold_GT_64f_I(Qvx64f* d, int len, Qvx64f level) { return map<LowerTo>(d, len, AsIs{}, d, Constant{level}); }
 
 QvxStatus qvxsThreshold_LTVal_16s(const Qvx16s* a, Qvx16s* d, int len, Qvx16s level, Qvx16s value) { return map<ReplaceBelow>(d, len, AsIs{}, a, Constant{level}, Constant{value}); }

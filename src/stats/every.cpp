@@ -1,5 +1,5 @@
 // The maximum and the minimum of two vectors, element by element.
-#include "frame/map.h"
+#include "frame/past_caches.h"
 
 using namespace qvx;
 
@@ -17,8 +17,8 @@ struct Less {
 // clang-format off
 QvxStatus qvxsMaxEvery_8u (const Qvx8u*  a, const Qvx8u*  b, Qvx8u*  d, int len) { return map<Greater>(d, len, AsIs{}, a, b); }
 QvxStatus qvxsMaxEvery_16u(const Qvx16u* a, const Qvx16u* b, Qvx16u* d, int len) { return map<Greater>(d, len, AsIs{}, a, b); }
-QvxStatus qvxsMaxEvery_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Greater>(d, len, AsIs{}, a, b); }
-QvxStatus qvxsMaxEvery_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Greater>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsMaxEvery_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Greater>(d, len, PastCaches{}, a, b); }
+QvxStatus qvxsMaxEvery_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Greater>(d, len, PastCaches{}, a, b); }
 QvxStatus qvxsMaxEvery_8u_I (const Qvx8u*  a, Qvx8u*  d, int len) { return map<Greater>(d, len, AsIs{}, a, d); }
 QvxStatus qvxsMaxEvery_16u_I(const Qvx16u* a, Qvx16u* d, int len) { return map<Greater>(d, len, AsIs{}, a, d); }
 QvxStatus qvxsMaxEvery_16s_I(const Qvx16s* a, Qvx16s* d, int len) { return map<Greater>(d, len, AsIs{}, a, d); }
@@ -28,8 +28,8 @@ QvxStatus qvxsMaxEvery_64f_I(const Qvx64f* a, Qvx64f* d, int len) { return map<G
 
 QvxStatus qvxsMinEvery_8u (const Qvx8u*  a, const Qvx8u*  b, Qvx8u*  d, int len) { return map<Less>(d, len, AsIs{}, a, b); }
 QvxStatus qvxsMinEvery_16u(const Qvx16u* a, const Qvx16u* b, Qvx16u* d, int len) { return map<Less>(d, len, AsIs{}, a, b); }
-QvxStatus qvxsMinEvery_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Less>(d, len, AsIs{}, a, b); }
-QvxStatus qvxsMinEvery_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Less>(d, len, AsIs{}, a, b); }
+QvxStatus qvxsMinEvery_32f(const Qvx32f* a, const Qvx32f* b, Qvx32f* d, int len) { return map<Less>(d, len, PastCaches{}, a, b); }
+QvxStatus qvxsMinEvery_64f(const Qvx64f* a, const Qvx64f* b, Qvx64f* d, int len) { return map<Less>(d, len, PastCaches{}, a, b); }
 QvxStatus qvxsMinEvery_8u_I (const Qvx8u*  a, Qvx8u*  d, int len) { return map<Less>(d, len, AsIs{}, a, d); }
 QvxStatus qvxsMinEvery_16u_I(const Qvx16u* a, Qvx16u* d, int len) { return map<Less>(d, len, AsIs{}, a, d); }
 QvxStatus qvxsMinEvery_16s_I(const Qvx16s* a, Qvx16s* d, int len) { return map<Less>(d, len, AsIs{}, a, d); }

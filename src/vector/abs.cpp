@@ -1,5 +1,5 @@
 // dst = |src|
-#include "frame/map.h"
+#include "frame/past_caches.h"
 
 using namespace qvx;
 
@@ -22,8 +22,8 @@ QvxStatus qvxsAbs_16s(const Qvx16s* a, Qvx16s* d, int len) { return map<Magnitud
 QvxStatus qvxsAbs_16s_I(Qvx16s* d, int len) { return map<Magnitude>(d, len, AsIs{}, d); }
 QvxStatus qvxsAbs_32s(const Qvx32s* a, Qvx32s* d, int len) { return map<Magnitude>(d, len, AsIs{}, a); }
 QvxStatus qvxsAbs_32s_I(Qvx32s* d, int len) { return map<Magnitude>(d, len, AsIs{}, d); }
-QvxStatus qvxsAbs_32f(const Qvx32f* a, Qvx32f* d, int len) { return map<Magnitude>(d, len, AsIs{}, a); }
+QvxStatus qvxsAbs_32f(const Qvx32f* a, Qvx32f* d, int len) { return map<Magnitude>(d, len, PastCaches{}, a); }
 QvxStatus qvxsAbs_32f_I(Qvx32f* d, int len) { return map<Magnitude>(d, len, AsIs{}, d); }
-QvxStatus qvxsAbs_64f(const Qvx64f* a, Qvx64f* d, int len) { return map<Magnitude>(d, len, AsIs{}, a); }
+QvxStatus qvxsAbs_64f(const Qvx64f* a, Qvx64f* d, int len) { return map<Magnitude>(d, len, PastCaches{}, a); }
 QvxStatus qvxsAbs_64f_I(Qvx64f* d, int len) { return map<Magnitude>(d, len, AsIs{}, d); }
 // clang-format on

@@ -1,5 +1,5 @@
 // And, or, exclusive or, not. Without a constant the element's width does not matter: all vectors are byte vectors.
-#include "frame/map.h"
+#include "frame/past_caches.h"
 
 using namespace qvx;
 
@@ -20,7 +20,8 @@ template <class Op, class T> QvxStatus bitwise(const T* a, const T* b, T* d, int
   if (status != qvxStatOk) return status;
   const auto* bytesA = reinterpret_cast<const Qvx8u*>(a);
   const auto* bytesB = reinterpret_cast<const Qvx8u*>(b);
-  return loop(Op(), destination(reinterpret_cast<Qvx8u*>(d)), elements(len) * sizeof(T), source(bytesA), source(bytesB));
+  return PastCaches().run(Op(), destination(reinterpret_cast<Qvx8u*>(d)), elements(len) * sizeof(T), source(bytesA),
+                          source(bytesB));
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // dst = src * src
+#include "frame/past_caches.h"
 #include "vector/product.h"
 
 using namespace qvx;
@@ -39,13 +40,13 @@ using ComplexSquare = WithItself<ComplexProduct>;
 }  // namespace
 
 // clang-format off
-QvxStatus qvxsSqr_32f(const Qvx32f* a, Qvx32f* d, int len) { return map<Square>(d, len, AsIs{}, a); }
+QvxStatus qvxsSqr_32f(const Qvx32f* a, Qvx32f* d, int len) { return map<Square>(d, len, PastCaches{}, a); }
 QvxStatus qvxsSqr_32f_I(Qvx32f* d, int len) { return map<Square>(d, len, AsIs{}, d); }
-QvxStatus qvxsSqr_32fc(const Qvx32fc* a, Qvx32fc* d, int len) { return map<ComplexSquare>(d, len, AsIs{}, a); }
+QvxStatus qvxsSqr_32fc(const Qvx32fc* a, Qvx32fc* d, int len) { return map<ComplexSquare>(d, len, PastCaches{}, a); }
 QvxStatus qvxsSqr_32fc_I(Qvx32fc* d, int len) { return map<ComplexSquare>(d, len, AsIs{}, d); }
-QvxStatus qvxsSqr_64f(const Qvx64f* a, Qvx64f* d, int len) { return map<Square>(d, len, AsIs{}, a); }
+QvxStatus qvxsSqr_64f(const Qvx64f* a, Qvx64f* d, int len) { return map<Square>(d, len, PastCaches{}, a); }
 QvxStatus qvxsSqr_64f_I(Qvx64f* d, int len) { return map<Square>(d, len, AsIs{}, d); }
-QvxStatus qvxsSqr_64fc(const Qvx64fc* a, Qvx64fc* d, int len) { return map<ComplexSquare>(d, len, AsIs{}, a); }
+QvxStatus qvxsSqr_64fc(const Qvx64fc* a, Qvx64fc* d, int len) { return map<ComplexSquare>(d, len, PastCaches{}, a); }
 QvxStatus qvxsSqr_64fc_I(Qvx64fc* d, int len) { return map<ComplexSquare>(d, len, AsIs{}, d); }
 QvxStatus qvxsSqr_8u_Sfs(const Qvx8u* a, Qvx8u* d, int len, int sf) { return map<Square>(d, len, Scaled{sf}, a); }
 QvxStatus qvxsSqr_8u_ISfs(Qvx8u* d, int len, int sf) { return map<Square>(d, len, Scaled{sf}, d); }

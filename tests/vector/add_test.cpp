@@ -99,6 +99,8 @@ template <class T, class F> void isAsItsPieces(F f) {
 
 TEST(Add, VectorsThatNoCacheHolds) {
   isAsItsPieces<Qvx32f>(qvxsAdd_32f);
+  isAsItsPieces<Qvx32u>(qvxsAnd_32u);
+  isAsItsPieces<Qvx32fc>([](const Qvx32fc*, const Qvx32fc* b, Qvx32fc* d, int n) { return qvxsSqr_32fc(b, d, n); });
   isAsItsPieces<Qvx64fc>([](const Qvx64fc*, const Qvx64fc* b, Qvx64fc* d, int n) { return qvxsMulC_64fc(b, {2, 3}, d, n); });
 }
 
