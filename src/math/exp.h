@@ -171,7 +171,7 @@ template <class V> V exp(V x) {
   constexpr int kStepBits = detail::kLooksUp<T> ? 4 : 0;
   // Where 2^k or the result may not be normal, k is split into two factors.
   const TagOf<V> d;
-  const bool isFar = maskBits(d, hn::Not(hn::Abs(x) < same<V>(C::kNear))) != 0;
+  const bool isFar = !hn::AllTrue(d, hn::Abs(x) < same<V>(C::kNear));
   if (isFar) x = clamp(x, C::kLeast, C::kMost);
   // The last bits of the sum are k, and before it i.
   const V magic = same<V>(static_cast<T>(int64_t{3} << (detail::kFractionBits<T> - 1 - kStepBits)));

@@ -51,7 +51,7 @@ class SumOfLogarithms {
       arePositive = hn::And(arePositive, hn::And(c > zero, d > zero));
       product = product * (c * d);
     }
-    if (maskBits(Wide(), hn::Not(arePositive)) == 0) [[likely]] {
+    if (hn::AllTrue(Wide(), arePositive)) [[likely]] {
       sum_ = sum_ + ln(product);
     } else {
       for (size_t k = 0; k < kCount; ++k) addOne(at(k), {i + k * kLanes, kLanes});
