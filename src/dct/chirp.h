@@ -33,7 +33,7 @@ inline size_t shortPeriodOf(size_t n) {
 }
 
 template <class T> Needs needsOfChirp(size_t n, size_t period) {
-  const auto plan = needsOfPlan<T>(period);
+  const auto plan = needsOfPlan<dft::ComplexPlan<T>>(period);
   constexpr int64_t kPair = 2 * sizeof(T);
   return {static_cast<int64_t>(sizeof(Chirp<T>)) + static_cast<int64_t>(n + n / 2 + 1 + period) * kPair + plan.tables,
           static_cast<int64_t>(period) * kPair + plan.work, plan.work};
@@ -42,7 +42,7 @@ template <class T> Needs needsOfChirp(size_t n, size_t period) {
 // The same where the spectrum is computed in a wider type: in its own place and in that of the plan, which is made later.
 template <class T> Needs needsOfPrecise(size_t n, size_t period) {
   Needs needs = needsOfChirp<T>(n, period);
-  const auto beyond = static_cast<int64_t>(2 * period * sizeof(T)) - needsOfPlan<T>(period).tables;
+  const auto beyond = static_cast<int64_t>(2 * period * sizeof(T)) - needsOfPlan<dft::ComplexPlan<T>>(period).tables;
   needs.tables += std::max<int64_t>(beyond, 0) + Carver::kRecordAlignment;
   return needs;
 }
@@ -79,7 +79,7 @@ void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool i
   if (!isPrecise) {
     std::fill_n(spectrum, 2 * period, T(0));
     fill([=](size_t at, Wide re, Wide im) { spectrum[2 * at] = static_cast<T>(re), spectrum[2 * at + 1] = static_cast<T>(im); });
-    chirp = {period, makePlan<T>(period, tables, work), c, twiddles, spectrum};
+    chirp = {period, makePlan<dft::ComplexPlan<T>>(period, tables, work), c, twiddles, spectrum};
     dft::run(*chirp.plan, false, spectrum, spectrum, work);
     return;
   }
@@ -90,7 +90,7 @@ void writeChirp(Chirp<T>& chirp, size_t n, size_t period, bool isInverse, bool i
   const dft::PreciseTransform transform(period);
   transform.run(re, im);
   transform.forEachResult<T>(re, im, [=](size_t k, T zRe, T zIm) { spectrum[2 * k] = zRe, spectrum[2 * k + 1] = zIm; });
-  chirp = {period, makePlan<T>(period, tables, work), c, twiddles, spectrum};
+  chirp = {period, makePlan<dft::ComplexPlan<T>>(period, tables, work), c, twiddles, spectrum};
 }
 
 // Pairs of numbers, in place: by those of another vector.

@@ -1,5 +1,5 @@
-// Odd lengths with small factors, and primes whose points go through a convolution in another order: by a complex transform of
-// the numbers in halves (even.h), whose spectrum is that of a real sequence.
+// Odd lengths with small factors, and primes whose points go through a convolution in another order: by a real transform of
+// the numbers in halves (even.h).
 #pragma once
 
 #include "dct/even.h"
@@ -48,19 +48,7 @@ template <class T> void cosinesToSpectrumOdd(const T* y, T* z, size_t n, const T
         const Complex<V> v{half * load(d, y + k), hn::Neg(half * reversed(load(d, y + n - k - L + 1)))};
         const auto spectrum = productWithConjugate(v, Complex<V>{load(d, twiddles + i), load(d, twiddles + h + i)});
         to.template putInOrder<L>(spectrum, k);
-        to.template putInOrder<L>(mirrored(conjugate(spectrum)), n - k - L + 1);
       });
-}
-
-// The numbers in halves as real parts.
-template <class T> void toPoints(const T* x, T* z, size_t n) {
-  for (size_t j = 0; j < n; ++j) {
-    z[2 * j] = x[2 * j < n ? 2 * j : 2 * (n - j) - 1];
-    z[2 * j + 1] = 0;
-  }
-}
-template <class T> void fromPoints(const T* z, T* x, size_t n) {
-  for (size_t j = 0; j < n; ++j) x[2 * j < n ? 2 * j : 2 * (n - j) - 1] = z[2 * j];
 }
 
 }  // namespace qvx::dct

@@ -1,4 +1,4 @@
-// The complex transforms that cosine transforms use, packed as tightly as their records require.
+// The transforms that cosine transforms use, packed as tightly as their records require.
 #pragma once
 
 #include "dft/adapter.h"
@@ -19,18 +19,32 @@ struct PlanNeeds {
   int64_t work;
   int64_t making;
 };
-template <class T> PlanNeeds needsOfPlan(size_t n) {
-  dft::ComplexPlan<T> plan = {};
-  const dft::Bytes bytes = dft::choosePlan(plan, static_cast<int>(n), QVX_FFT_SCALE_NONE);
-  constexpr int64_t kSlack = alignof(dft::ComplexPlan<T>) - 1;
-  const bool isConvolution = plan.way == dft::Way::kConvolution;
-  return {isConvolution && !plan.convolution.isPermuted, static_cast<int64_t>(sizeof(plan)) + kSlack + bytes.tables, bytes.work,
-          isConvolution ? bytes.work : 0};
+template <class T> dft::Bytes choosePlan(dft::ComplexPlan<T>& plan, size_t n) {
+  return dft::choose(plan, static_cast<uint32_t>(n), false, QVX_FFT_SCALE_NONE);
 }
-template <class T> const dft::ComplexPlan<T>* makePlan(size_t n, Carver& tables, Qvx8u* work) {
-  auto* const plan = tables.take<dft::ComplexPlan<T>>(1);
+template <class T> dft::Bytes choosePlan(dft::RealPlan<T>& plan, size_t n) {
+  return dft::chooseLong(plan, static_cast<uint32_t>(n), QVX_FFT_SCALE_NONE);
+}
+template <class T> bool isConvolution(const dft::ComplexPlan<T>& plan) { return plan.way == dft::Way::kConvolution; }
+template <class T> bool isConvolution(const dft::RealPlan<T>& plan) {
+  return plan.way == dft::Way::kConvolution || isConvolution(plan.complex);
+}
+template <class T> bool isByChirp(const dft::RealPlan<T>& plan) {
+  return plan.way != dft::Way::kConvolution && isByChirp(plan.complex);
+}
+
+// Plan: ComplexPlan<T>, or RealPlan<T> of an odd number of reals.
+template <class Plan> PlanNeeds needsOfPlan(size_t n) {
+  Plan plan = {};
+  const dft::Bytes bytes = choosePlan(plan, n);
+  constexpr int64_t kSlack = alignof(Plan) - 1;
+  return {isByChirp(plan), static_cast<int64_t>(sizeof(plan)) + kSlack + bytes.tables, bytes.work,
+          isConvolution(plan) ? bytes.work : 0};
+}
+template <class Plan> const Plan* makePlan(size_t n, Carver& tables, Qvx8u* work) {
+  auto* const plan = tables.take<Plan>(1);
   *plan = {};
-  dft::choosePlan(*plan, static_cast<int>(n), QVX_FFT_SCALE_NONE);
+  choosePlan(*plan, n);
   dft::writeTables(*plan, QVX_FFT_SCALE_NONE, tables.rest(), work);
   return plan;
 }

@@ -14,7 +14,7 @@ enum class Way : uint8_t {
   kKernel,  // a product with a matrix of constants
   kHalf,    // a complex transform of half the length
   kRows,
-  kOdd,  // a complex transform of the length
+  kOdd,  // a real transform of the length
   kChirp,
 };
 
@@ -27,7 +27,8 @@ template <class T_, bool kInverse_, uint32_t kIdentity> struct Spec : RecordHead
   int32_t workSize;  // as reported
   T mean;            // 1 / sqrt(len)
   union {
-    const dft::ComplexPlan<T>* plan;  // of kHalf, kOdd
+    const dft::ComplexPlan<T>* points;  // of kHalf
+    const dft::RealPlan<T>* reals;      // of kOdd
     const Rows<T>* rows;
     const Chirp<T>* chirp;
   };
@@ -42,7 +43,7 @@ template <class Record> QvxStatus check(const Record* spec) { return checkRecord
 inline constexpr int64_t kWorkOnStack = 4096;
 
 template <class T> Needs needsOfHalf(size_t n) {
-  const auto plan = needsOfPlan<T>(n / 2);
+  const auto plan = needsOfPlan<dft::ComplexPlan<T>>(n / 2);
   const int64_t numbers = sizeof(T);
   return {plan.tables + static_cast<int64_t>(evenTableLength<T>(n)) * numbers, plan.work + static_cast<int64_t>(n) * numbers,
           plan.making};
@@ -61,9 +62,9 @@ template <class Record> Way wayOf(int len, Sizes sizes) {
   if (len % 2 == 0 && fits<Record>(needsOfHalf<T>(n), sizes)) return Way::kHalf;
   if (len <= kLongestByRows) return Way::kRows;
   if (len % 2 != 0) {
-    const auto plan = needsOfPlan<T>(n);
+    const auto plan = needsOfPlan<dft::RealPlan<T>>(n);
     constexpr int64_t kNumber = sizeof(T);
-    const Needs needs = {plan.tables + len * kNumber, plan.work + 2 * len * kNumber, plan.making};
+    const Needs needs = {plan.tables + len * kNumber, plan.work + (len + 1) * kNumber, plan.making};
     if (!plan.isByChirp && fits<Record>(needs, sizes)) return Way::kOdd;
   }
   return Way::kChirp;
@@ -110,7 +111,7 @@ template <class Record> [[gnu::noinline]] void writeWay(Record& spec, Sizes size
       T* const twiddles = tables.take<T>(static_cast<int64_t>(evenTableLength<T>(n)));
       writeEvenTwiddles(twiddles, n);
       spec.twiddles = twiddles;
-      spec.plan = makePlan<T>(n / 2, tables, making);
+      spec.points = makePlan<dft::ComplexPlan<T>>(n / 2, tables, making);
       break;
     }
     case Way::kRows: {
@@ -123,7 +124,7 @@ template <class Record> [[gnu::noinline]] void writeWay(Record& spec, Sizes size
       T* const twiddles = tables.take<T>(spec.len);
       writeOddTwiddles(twiddles, n);
       spec.twiddles = twiddles;
-      spec.plan = makePlan<T>(n, tables, making);
+      spec.reals = makePlan<dft::RealPlan<T>>(n, tables, making);
       break;
     }
     default: {
@@ -182,25 +183,26 @@ template <class Record, class T> void halfTransform(const Record& spec, const T*
   T* const v = work.take<T>(spec.len);
   if constexpr (Record::kInverse) {
     cosinesToSpectrum(src, v, n, spec.twiddles, spec.mean);
-    run(*spec.plan, true, v, v, work.rest());
+    run(*spec.points, true, v, v, work.rest());
     fromHalves(v, dst, n);
   } else {
     toHalves(src, v, n);
-    run(*spec.plan, false, v, v, work.rest());
+    run(*spec.points, false, v, v, work.rest());
     spectrumToCosines(v, dst, n, spec.twiddles, spec.mean);
   }
 }
 template <class Record, class T> void oddTransform(const Record& spec, const T* src, T* dst, Carver work) {
+  constexpr auto kCcs = transform::SpectrumLayout::kCcs;
   const auto n = static_cast<size_t>(spec.len);
-  T* const z = work.take<T>(2 * int64_t{spec.len});
+  T* const v = work.take<T>(int64_t{spec.len} + 1);
   if constexpr (Record::kInverse) {
-    cosinesToSpectrumOdd(src, z, n, spec.twiddles, spec.mean);
-    run(*spec.plan, true, z, z, work.rest());
-    fromPoints(z, dst, n);
+    cosinesToSpectrumOdd(src, v, n, spec.twiddles, spec.mean);
+    inverse(*spec.reals, kCcs, v, v, work.rest());
+    fromHalves(v, dst, n);
   } else {
-    toPoints(src, z, n);
-    run(*spec.plan, false, z, z, work.rest());
-    spectrumToCosinesOdd(z, dst, n, spec.twiddles, spec.mean);
+    toHalves(src, v, n);
+    forward(*spec.reals, kCcs, v, v, work.rest());
+    spectrumToCosinesOdd(v, dst, n, spec.twiddles, spec.mean);
   }
 }
 

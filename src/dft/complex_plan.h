@@ -180,8 +180,8 @@ void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* sr
   std::copy_n(inWork.im, n, dstIm);
 }
 
-template <class T> void spectrumByConvolution(const ComplexPlan<T>& plan, const T* src, T* dst, uint8_t* work) {
-  convolveReals(plan.convolution, plan.n, src, dst, plan.forwardFactor, work);
+template <class T> void spectrumByChirp(const ComplexPlan<T>& plan, const T* src, T* dst, T factor, uint8_t* work) {
+  convolveReals(plan.convolution, plan.n, src, dst, factor, work);
 }
 
 }  // namespace qvx::dft

@@ -11,6 +11,6 @@ template void run<T>(const ComplexPlan<T>& plan, bool isInverse, const T* src, T
 template QvxStatus runSmall<T>(const ComplexPlan<T>& plan, bool isInverse, const T* src, T* dst);
 template void run<T>(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm,
                      uint8_t* work);
-template void spectrumByConvolution<T>(const ComplexPlan<T>& plan, const T* src, T* dst, uint8_t* work);
+template void spectrumByChirp<T>(const ComplexPlan<T>& plan, const T* src, T* dst, T factor, uint8_t* work);
 
 }  // namespace qvx::dft

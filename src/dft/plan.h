@@ -4,6 +4,7 @@
 #include "dft/small_complex.h"
 #include "transform/grid.h"
 #include "transform/mixed_blocks.h"
+#include "transform/real_columns.h"
 
 namespace qvx::dft {
 
@@ -91,6 +92,9 @@ template <class T> inline constexpr bool kHasOwnOrder = sizeof(T) == 4;
 template <class T> Bytes choose(ComplexPlan<T>& plan, uint32_t n, bool isApart, int flag);
 // Completes a chosen plan. block, work: of the reported sizes, any alignment.
 template <class T> void writeTables(ComplexPlan<T>& plan, int flag, uint8_t* block, uint8_t* work);
+template <class T> bool isByChirp(const ComplexPlan<T>& plan) {
+  return plan.way == Way::kConvolution && !plan.convolution.isPermuted;
+}
 
 // work: of the reported size, any alignment. src may be dst. Interleaved points:
 template <class T> void run(const ComplexPlan<T>& plan, bool isInverse, const T* src, T* dst, uint8_t* work);
@@ -101,8 +105,8 @@ template <class T> QvxStatus runSmall(const ComplexPlan<T>& plan, bool isInverse
 template <class T>
 void run(const ComplexPlan<T>& plan, bool isInverse, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, uint8_t* work);
 
-// Of n real numbers by a convolution: n / 2 + 1 points of the spectrum.
-template <class T> void spectrumByConvolution(const ComplexPlan<T>& plan, const T* src, T* dst, uint8_t* work);
+// Of n real numbers by a chirp: n / 2 + 1 points of the spectrum. src may be dst.
+template <class T> void spectrumByChirp(const ComplexPlan<T>& plan, const T* src, T* dst, T factor, uint8_t* work);
 
 template <class T> struct RealFftOf;
 template <> struct RealFftOf<float> { using Spec = QvxsFFTSpec_R_32f; };
@@ -117,7 +121,7 @@ template <class T> struct RealConvolution {
   ComplexPlan<T> half;
 };
 
-// Of n real numbers: half as many complex ones where n is even.
+// Of n real numbers: half as many complex ones where n is even; where it is odd, by columns.
 template <class T> struct RealPlan {
   uint32_t n;
   T forwardFactor;
@@ -129,9 +133,13 @@ template <class T> struct RealPlan {
     ComplexPlan<T> complex;
     RealConvolution<T> convolution;
   };
+  RealColumns<T> columns;
+  bool rowsHaveRoom;       // in the destination, to be transformed
   const T* recombination;  // of k = 1 .. n/4: all 0.5 cos, then all 0.5 - 0.5 sin of 2 pi k / n
 };
 template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag);
+// The same of no power of two and not by the definition: for records without room for its tables.
+template <class T> Bytes chooseLong(RealPlan<T>& plan, uint32_t n, int flag);
 template <class T> void writeTables(RealPlan<T>& plan, int flag, uint8_t* block, uint8_t* work);
 // src and dst may be the same.
 template <class T> void forward(const RealPlan<T>& plan, SpectrumLayout layout, const T* src, T* dst, uint8_t* work);

@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "dft/plan.h"
+#include "dft/odd_real.h"
 #include "dft/real_convolution.h"
 #include "dft/small_real.h"
 #include "transform/real_transform.h"
@@ -67,37 +67,35 @@ template <bool kInverse, class T> void recombinePairs(const T* src, T* dst, size
   dst[h + 1] = -src[h + 1];
 }
 
-// Up to here any odd number goes by the definition, beyond only one with a prime factor for which no kernel of registers serves:
-// half of what complex points compute is lost on reals.
+// Up to here any odd number goes by the definition, beyond only primes.
 template <class T>
-inline constexpr uint32_t kMostDirectOdd = kWidest<T> == 2   ? 55
+inline constexpr uint32_t kMostDirectOdd = kWidest<T> == 2   ? 43
                                            : kWidest<T> == 4 ? 69
-                                           : kWidest<T> == 8 ? 99
-                                                             : 135;
-template <class T> bool isDirect(uint32_t n) {
-  if (n % 2 == 0 || n > kMostDirect<1, T>) return false;
-  if (n <= kMostDirectOdd<T>) return true;
-  for (const uint32_t p : {3, 5, 7, 11, 13}) {
-    while (n % p == 0) n /= p;
-  }
-  return n > 1;
-}
-
+                                           : kWidest<T> == 8 ? 95
+                                                             : 145;
 // Beyond, a prime number whose neighbour has good factors goes by powers: 127 doubles take 0.56 of the time of the definition in
 // registers of 16 bytes, 0.52 in those of 64; 181 floats 0.49 and 0.59. 73 to 89 doubles would take 0.8 to 0.9 in those of 16,
 // with a third more error.
 template <class T>
-inline constexpr uint32_t kLeastRealByPowers = kWidest<T> <= 4    ? 90
-                                               : kWidest<T> == 16 ? 160
-                                               : sizeof(T) == 4   ? 150
-                                                                  : 110;
+inline constexpr uint32_t kMostDirectPrime = kWidest<T> <= 4    ? 90
+                                             : kWidest<T> == 16 ? 160
+                                             : sizeof(T) == 4   ? 150
+                                                                : 110;
+// Not where the convolution is a transform of 81 points and more by threes: of 1459 doubles it is off by 2.05 eps, complex points
+// by 1.95.
+inline bool isByPowers(uint32_t n) { return isPrimeByPowers(n) && (n - 1) % 81 != 0; }
+template <class T> bool isDirect(uint32_t n) {
+  if (n % 2 == 0 || n > kMostDirect<1, T> || (n > kMostDirectPrime<T> && isByPowers(n))) return false;
+  return n <= kMostDirectOdd<T> || isPrime(n);
+}
 
-template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
-  plan.n = n;
-  const auto factors = factorsOf<T>(n, flag);
+template <class T> void setFactors(RealPlan<T>& plan, int flag) {
+  const auto factors = factorsOf<T>(plan.n, flag);
   plan.forwardFactor = factors.forward;
   plan.inverseFactor = factors.inverse;
-  plan.way = Way::kFactors;
+}
+template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
+  plan.n = n;
   if (std::has_single_bit(n)) {
     plan.way = Way::kFft;
     int spec = 0;
@@ -106,23 +104,27 @@ template <class T> Bytes choose(RealPlan<T>& plan, uint32_t n, int flag) {
     RealFft<T>::kGetSize(std::countr_zero(n), flag, 0, &spec, &init, &work);
     return {spec, work};
   }
-  if (isInRegisters(n)) {
-    plan.way = Way::kRegisters;
-    return {0, 0};
-  }
-  if (n > kLeastRealByPowers<T> && isPrimeByPowers(n)) {
+  if (!isInRegisters(n) && !isDirect<T>(n)) return chooseLong(plan, n, flag);
+  setFactors(plan, flag);
+  plan.way = isInRegisters(n) ? Way::kRegisters : Way::kDirect;
+  return plan.way == Way::kRegisters ? Bytes{0, 0} : chooseDirect<1>(plan.direct, n);
+}
+template <class T> Bytes chooseLong(RealPlan<T>& plan, uint32_t n, int flag) {
+  plan.n = n;
+  setFactors(plan, flag);
+  if (isByPowers(n)) {
     plan.way = Way::kConvolution;
     return choose(plan.convolution, n);
   }
-  if (isDirect<T>(n)) {
-    plan.way = Way::kDirect;
-    return chooseDirect<1>(plan.direct, n);
-  }
+  plan.way = Way::kFactors;
+  if (n % 2 != 0) chooseRealColumns(plan.columns, n);
+  if (plan.columns.radix != 0) return chooseOddReals(plan);
   Bytes bytes = choose(plan.complex, n % 2 == 0 ? n / 2 : n, false, QVX_FFT_SCALE_NONE);
-  if (n % 2 == 0) bytes.tables += (n + 3) / 4 * 2 * static_cast<int64_t>(sizeof(T)) + Carver::kLine;
-  else bytes.work += 2 * int64_t{n} * static_cast<int64_t>(sizeof(T)) + Carver::kLine;
-  plan.complex.forwardFactor = factors.forward;
-  plan.complex.inverseFactor = n % 2 == 0 ? 2 * factors.inverse : factors.inverse;
+  constexpr int64_t kNumber = sizeof(T);
+  if (n % 2 == 0) bytes.tables += (n + 3) / 4 * 2 * kNumber + Carver::kLine;
+  else bytes.work += (isByChirp(plan.complex) ? n + 1 : 2 * int64_t{n}) * kNumber + Carver::kLine;
+  plan.complex.forwardFactor = plan.forwardFactor;
+  plan.complex.inverseFactor = n % 2 == 0 ? 2 * plan.inverseFactor : plan.inverseFactor;
   return bytes;
 }
 
@@ -147,6 +149,7 @@ template <class T> void writeTables(RealPlan<T>& plan, int flag, uint8_t* block,
           c[count + i] = static_cast<T>(0.5 + 0.5 * im);
         });
   }
+  if (plan.columns.radix != 0) carver = Carver(writeRealColumns(plan.columns, carver.take<T>(0)), 1);
   writeTables(plan.complex, QVX_FFT_SCALE_NONE, carver.rest(), work);
 }
 
@@ -175,11 +178,8 @@ template <class T> void forward(const RealPlan<T>& plan, SpectrumLayout layout, 
     if (layout == SpectrumLayout::kCcs) dst[1] = 0;
     return;
   }
-  if (plan.complex.way == Way::kConvolution && layout == SpectrumLayout::kCcs) {
-    spectrumByConvolution(plan.complex, src, dst, work);
-    dst[1] = 0;
-    return;
-  }
+  if (plan.columns.radix != 0) return forwardOddReals(plan, layout, src, dst, work);
+  if (isByChirp(plan.complex)) return forwardByChirp(plan, layout, src, dst, work);
   Carver carver(work, Carver::kLine);
   T* const points = carver.take<T>(static_cast<int64_t>(2 * n));
   for (size_t i = 0; i < n; ++i) {
@@ -216,6 +216,8 @@ template <class T> void inverse(const RealPlan<T>& plan, SpectrumLayout layout, 
   }
   const T* pairs = src + placeOfPair(layout, n, 1);
   if (plan.way == Way::kConvolution) return convolveInverse(plan.convolution, src[0], pairs, dst, plan.inverseFactor, work);
+  if (plan.columns.radix != 0) return inverseOddReals(plan, layout, src, dst, work);
+  if (isByChirp(plan.complex)) return inverseByChirp(plan, layout, src, dst, work);
   Carver carver(work, Carver::kLine);
   T* const points = carver.take<T>(static_cast<int64_t>(2 * n));
   points[0] = src[0];

@@ -211,7 +211,7 @@ TEST(Dft, AnyNumberOfThreadsGivesTheSame) {
 }
 
 TEST(Dft, OfLongReals) {
-  for (const size_t n : {2003, 59049, 65537, 96000, 177147, 2 * 177147}) {
+  for (const size_t n : {375, 625, 729, 1459, 2003, 3125, 59049, 65537, 96000, 177147, 2 * 177147}) {
     checkLongReal(tests::kRealDft32f, tests::kDft32fc, n);
     checkLongReal(tests::kRealDft64f, tests::kDft64fc, n);
   }
