@@ -1,5 +1,5 @@
 // Lengths, and the sizes of working memory reported to callers: fixed values of the interface. No transform needs more, except of
-// odd numbers of reals.
+// odd numbers of reals with a prime factor above 13.
 //
 // They follow from steps of mixed radix: fours, one two where the power of two is odd, odd primes up to a limit, the last factor
 // last. Where a length has no such steps, it is that of the definition, or of a convolution.
