@@ -6,6 +6,7 @@
 #include "dft/powers.h"
 #include "dft/sizes.h"
 #include "fft/record.h"
+#include "transform/mixed_run.h"
 
 namespace qvx::dft {
 

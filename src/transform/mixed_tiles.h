@@ -3,6 +3,7 @@
 #pragma once
 
 #include "transform/mixed_block_plan.h"
+#include "transform/mixed_run.h"
 #include "transform/small_interleaved.h"
 
 namespace qvx::transform {

@@ -38,12 +38,12 @@ constexpr double sineOfTurn(size_t k, size_t n) {
   return static_cast<double>(detail::sineOrCosine(detail::angleOf(k, n), 1));
 }
 
+// Of all turns; those of k and P - k are the same to the last digit, but for the sine's sign.
 template <size_t P> struct OddTwiddles {
-  static constexpr size_t kHalf = P / 2;
-  double cosine[kHalf + 1] = {};
-  double sine[kHalf + 1] = {};
+  double cosine[P] = {};
+  double sine[P] = {};
   constexpr OddTwiddles() {
-    for (size_t k = 0; k <= kHalf; ++k) {
+    for (size_t k = 0; k < P; ++k) {
       cosine[k] = cosineOfTurn(k, P);
       sine[k] = sineOfTurn(k, P);
     }
@@ -101,11 +101,10 @@ template <size_t P, class Get, class Put> QVX_INLINE void transformPairs(Get get
     unrolled<H - 1>([&](auto i) __attribute__((always_inline)) {
       constexpr size_t k = i + 1;
       constexpr size_t turn = j * (k + 1) % P;
-      constexpr size_t folded = turn <= H ? turn : P - turn;
-      constexpr double kRatio = kOddTwiddles<P>.sine[folded] / kOddTwiddles<P>.sine[j];
-      even = sumWith(kOddTwiddles<P>.cosine[folded], even, sums[k]);
-      if constexpr (turn <= H) odd = sumWith(kRatio, odd, differences[k]);
-      else odd = differenceWith(kRatio, odd, differences[k]);
+      constexpr double kRatio = kOddTwiddles<P>.sine[turn] / kOddTwiddles<P>.sine[j];
+      even = sumWith(kOddTwiddles<P>.cosine[turn], even, sums[k]);
+      if constexpr (kRatio > 0) odd = sumWith(kRatio, odd, differences[k]);
+      else odd = differenceWith(-kRatio, odd, differences[k]);
     });
     Z minus;
     Z plus;

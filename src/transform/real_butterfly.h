@@ -12,12 +12,6 @@ namespace qvx::transform {
 template <size_t R, class Get, class Put> QVX_INLINE void transformReals(Get get, Put put);
 template <size_t R, class Get, class Put> QVX_INLINE void transformToReals(Get get, Put put);
 
-// cos and sin of 2 pi k / P for any k.
-template <size_t P> constexpr double oddCosine(size_t k) { return kOddTwiddles<P>.cosine[std::min(k % P, P - k % P)]; }
-template <size_t P> constexpr double oddSine(size_t k) {
-  return k % P <= P / 2 ? kOddTwiddles<P>.sine[k % P] : -kOddTwiddles<P>.sine[P - k % P];
-}
-
 // Sums and differences of the numbers at equal distances from the first, by the definition.
 template <size_t P, class Get, class Put> QVX_INLINE void transformRealPairs(Get get, Put put) {
   constexpr size_t H = P / 2;
@@ -37,12 +31,12 @@ template <size_t P, class Get, class Put> QVX_INLINE void transformRealPairs(Get
   put(Index<0>(), Complex<V>{total, hn::Zero(TagOf<V>())});
   unrolled<H>([&](auto at) __attribute__((always_inline)) {
     constexpr size_t j = at + 1;
-    V re = hn::MulAdd(same<V>(static_cast<T>(oddCosine<P>(j))), sums[0], first);
-    V im = same<V>(static_cast<T>(oddSine<P>(j))) * differences[0];
+    V re = hn::MulAdd(same<V>(static_cast<T>(kOddTwiddles<P>.cosine[j])), sums[0], first);
+    V im = same<V>(static_cast<T>(kOddTwiddles<P>.sine[j])) * differences[0];
     unrolled<H - 1>([&](auto i) __attribute__((always_inline)) {
       constexpr size_t k = i + 1;
-      re = hn::MulAdd(same<V>(static_cast<T>(oddCosine<P>(j * (k + 1)))), sums[k], re);
-      im = hn::MulAdd(same<V>(static_cast<T>(oddSine<P>(j * (k + 1)))), differences[k], im);
+      re = hn::MulAdd(same<V>(static_cast<T>(kOddTwiddles<P>.cosine[j * (k + 1) % P])), sums[k], re);
+      im = hn::MulAdd(same<V>(static_cast<T>(kOddTwiddles<P>.sine[j * (k + 1) % P])), differences[k], im);
     });
     put(Index<j>(), Complex<V>{re, im});
   });
@@ -63,12 +57,12 @@ template <size_t P, class Get, class Put> QVX_INLINE void transformPairsToReals(
   put(Index<0>(), total);
   unrolled<H>([&](auto at) __attribute__((always_inline)) {
     constexpr size_t j = at + 1;
-    V even = hn::MulAdd(same<V>(static_cast<T>(oddCosine<P>(j))), z[0].re, first);
-    V odd = same<V>(static_cast<T>(oddSine<P>(j))) * z[0].im;
+    V even = hn::MulAdd(same<V>(static_cast<T>(kOddTwiddles<P>.cosine[j])), z[0].re, first);
+    V odd = same<V>(static_cast<T>(kOddTwiddles<P>.sine[j])) * z[0].im;
     unrolled<H - 1>([&](auto i) __attribute__((always_inline)) {
       constexpr size_t k = i + 1;
-      even = hn::MulAdd(same<V>(static_cast<T>(oddCosine<P>(j * (k + 1)))), z[k].re, even);
-      odd = hn::MulAdd(same<V>(static_cast<T>(oddSine<P>(j * (k + 1)))), z[k].im, odd);
+      even = hn::MulAdd(same<V>(static_cast<T>(kOddTwiddles<P>.cosine[j * (k + 1) % P])), z[k].re, even);
+      odd = hn::MulAdd(same<V>(static_cast<T>(kOddTwiddles<P>.sine[j * (k + 1) % P])), z[k].im, odd);
     });
     put(Index<j>(), even - odd);
     put(Index<P - j>(), even + odd);
