@@ -136,8 +136,9 @@ template <class T, class Tap = T> class Fir : public records::FirRecord<T, Tap> 
 
  private:
   template <class Init> static Result<Fir> build(size_t tapsLen, const Init& init) {
+    QVX_REQUIRE(detail::countable(tapsLen));
     Fir made;
-    const Status status = made.made(init(made.owner_.slot(), static_cast<int>(tapsLen)), tapsLen, tapsLen);
+    const Status status = made.made(init(made.owner_.slot(), detail::length(tapsLen)), tapsLen, tapsLen);
     if (status.refused()) return status;
     return made;
   }
@@ -185,9 +186,9 @@ template <class T, class Tap = T> class Resampler : public records::FirRecord<T,
   static Result<Resampler> build(size_t tapsLen, const Rates& rates, std::span<const T> delayLine, const Init& init) {
     const size_t up = rates.up < 1 ? 1 : static_cast<size_t>(rates.up);
     const size_t delayLen = (tapsLen + up - 1) / up;
-    QVX_REQUIRE(delayLine.empty() || delayLine.size() == delayLen);
+    QVX_REQUIRE(detail::countable(tapsLen) && (delayLine.empty() || delayLine.size() == delayLen));
     Resampler made;
-    const Status status = made.made(init(made.owner_.slot(), static_cast<int>(tapsLen)), tapsLen, delayLen);
+    const Status status = made.made(init(made.owner_.slot(), detail::length(tapsLen)), tapsLen, delayLen);
     if (status.refused()) return status;
     made.rates_ = rates;
     return made;
@@ -227,9 +228,10 @@ template <class T> class StreamFir {
 
  private:
   template <class Init> static Result<StreamFir> build(size_t tapsLen, const Rates& rates, const Init& init) {
+    QVX_REQUIRE(detail::countable(tapsLen));
     StreamFir made;
     int bytes = 0;
-    const int len = static_cast<int>(tapsLen);
+    const int len = detail::length(tapsLen);
     Status status = handles::FIRMRStreamGetStateSize(Types<T>(), len, rates.up, rates.down, &bytes);
     if (status.refused()) return status;
     Result<Vector<Qvx8u>> block = Vector<Qvx8u>::make(static_cast<size_t>(bytes));
@@ -254,8 +256,9 @@ class SparseFir {
   // delayLine: as many samples as the last position says, newest first, or none for zeros.
   static Result<SparseFir> make(detail::Source<Qvx32f> taps, detail::Source<Qvx32s> positions,
                                 detail::Source<Qvx32f> delayLine = {}) {
+    QVX_REQUIRE(detail::countable(taps.size()) && taps.size() == positions.size());
     const int order = positions.empty() ? 0 : positions.back();
-    QVX_REQUIRE(taps.size() == positions.size() && (delayLine.empty() || detail::atLeast(delayLine.size(), order)));
+    QVX_REQUIRE(delayLine.empty() || detail::atLeast(delayLine.size(), order));
     int bytes = 0;
     Status status = handles::FIRSparseGetStateSize(Types<Qvx32f>(), detail::length(taps.size()), order < 1 ? 1 : order, &bytes);
     if (status.refused()) return status;
@@ -283,7 +286,8 @@ class SparseIir {
  public:
   static Result<SparseIir> make(detail::Source<Qvx32f> taps, detail::Source<Qvx32s> positions, int tapsB,
                                 detail::Source<Qvx32f> delayLine = {}) {
-    QVX_REQUIRE(taps.size() == positions.size() && tapsB > 0 && detail::atLeast(positions.size(), int64_t{tapsB} + 1));
+    QVX_REQUIRE(detail::countable(taps.size()) && taps.size() == positions.size() && tapsB > 0 &&
+                detail::atLeast(positions.size(), int64_t{tapsB} + 1));
     const int orderB = positions[static_cast<size_t>(tapsB) - 1];
     const int orderA = positions.back();
     QVX_REQUIRE(delayLine.empty() || detail::atLeast(delayLine.size(), int64_t{orderA} + orderB));
@@ -344,7 +348,7 @@ template <class T, class Tap = T> class Iir {
     QVX_REQUIRE(taps.size() >= 6 && taps.size() % 6 == 0);
     const size_t count = taps.size() / 6;
     return build(taps.size(), 4 * count, {}, [&](Record** record, const Memory*) {
-      return handles::IIRInitAlloc_BiQuad_DF1(record, taps.data(), static_cast<int>(count), nullptr);
+      return handles::IIRInitAlloc_BiQuad_DF1(record, taps.data(), detail::length(count), nullptr);
     });
   }
 
@@ -388,7 +392,7 @@ template <class T, class Tap = T> class Iir {
     QVX_REQUIRE(taps.size() >= 4 && taps.size() % 2 == 0);
     const size_t order = taps.size() / 2 - 1;
     return build(taps.size(), order, delayLine, [&](Record** record, const Memory* memory) {
-      return handles::IIRInitAlloc(record, taps.data(), static_cast<int>(order), tapsFactor..., memory);
+      return handles::IIRInitAlloc(record, taps.data(), detail::length(order), tapsFactor..., memory);
     });
   }
   template <class... Factor>
@@ -396,12 +400,12 @@ template <class T, class Tap = T> class Iir {
     QVX_REQUIRE(taps.size() >= 6 && taps.size() % 6 == 0);
     const size_t count = taps.size() / 6;
     return build(taps.size(), 2 * count, delayLine, [&](Record** record, const Memory* memory) {
-      return handles::IIRInitAlloc_BiQuad(record, taps.data(), static_cast<int>(count), tapsFactor..., memory);
+      return handles::IIRInitAlloc_BiQuad(record, taps.data(), detail::length(count), tapsFactor..., memory);
     });
   }
   template <class Init>
   static Result<Iir> build(size_t tapsLen, size_t delayLen, std::span<const Memory> delayLine, const Init& init) {
-    QVX_REQUIRE(delayLine.empty() || delayLine.size() == delayLen);
+    QVX_REQUIRE(detail::countable(tapsLen) && (delayLine.empty() || delayLine.size() == delayLen));
     Iir made;
     Record* record = nullptr;
     const Status status = init(&record, detail::optional(delayLine));
@@ -451,8 +455,9 @@ template <class T> class Lms {
 
  private:
   static Result<Lms> build(size_t tapsLen, const Qvx32f* taps, const T* delayLine, int index) {
+    QVX_REQUIRE(detail::countable(tapsLen));
     Lms made;
-    const Status status = handles::FIRLMSInitAlloc(made.owner_.slot(), taps, static_cast<int>(tapsLen), delayLine, index);
+    const Status status = handles::FIRLMSInitAlloc(made.owner_.slot(), taps, detail::length(tapsLen), delayLine, index);
     if (status.refused()) return status;
     made.tapsLen_ = tapsLen;
     return made;
@@ -471,7 +476,7 @@ template <class T> class LmsDecimator {
 
   // taps: h[0] first. delayLine: as many samples, newest first, or none for zeros.
   static Result<LmsDecimator> make(detail::Source<Tap> taps, int downFactor, Qvx32f mu, detail::Source<T> delayLine = {}) {
-    QVX_REQUIRE(delayLine.empty() || delayLine.size() == taps.size());
+    QVX_REQUIRE(detail::countable(taps.size()) && (delayLine.empty() || delayLine.size() == taps.size()));
     LmsDecimator made;
     const Status status = handles::FIRLMSMRInitAlloc(made.owner_.slot(), taps.data(), detail::length(taps.size()), downFactor, mu,
                                                      detail::optional<const T>(delayLine));
@@ -533,6 +538,7 @@ template <class T> class WaveletForward {
 
  public:
   static Result<WaveletForward> make(const Band& low, const Band& high) {
+    QVX_REQUIRE(detail::countable(low.taps.size()) && detail::countable(high.taps.size()));
     WaveletForward made;
     const Status status = handles::WTFwdInitAlloc(made.owner_.slot(), low.taps.data(), detail::length(low.taps.size()),
                                                   low.offset, high.taps.data(), detail::length(high.taps.size()), high.offset);
@@ -573,6 +579,7 @@ template <class T> class WaveletInverse {
 
  public:
   static Result<WaveletInverse> make(const Band& low, const Band& high) {
+    QVX_REQUIRE(detail::countable(low.taps.size()) && detail::countable(high.taps.size()));
     WaveletInverse made;
     const Status status = handles::WTInvInitAlloc(made.owner_.slot(), low.taps.data(), detail::length(low.taps.size()),
                                                   low.offset, high.taps.data(), detail::length(high.taps.size()), high.offset);

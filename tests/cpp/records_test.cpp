@@ -147,6 +147,31 @@ TEST(Records, RefuseWhatTheyCannotDo) {
   EXPECT_EQ(bank.delayLines(std::span(y).first(4), y), qvxStatBadSize);
 }
 
+// Of 2^32 + 8 taps an int would hold 8, a filter like any other. They are refused before anyone reads them.
+TEST(Records, RefuseMoreTapsThanAnIntCounts) {
+  static const std::vector<Qvx64fc> some(8, {1, 1});
+  const auto many = []<class T>(T) { return std::span(reinterpret_cast<const T*>(some.data()), (size_t{1} << 32) + 8); };
+  const auto reals = many(Qvx32f());
+  EXPECT_EQ(qvx::Fir<Qvx32f>::make(reals).error(), qvxStatBadSize);
+  EXPECT_EQ(qvx::Fir<Qvx16s>::make(many(Qvx16s()), 0).error(), qvxStatBadSize);
+  EXPECT_EQ(qvx::Resampler<Qvx64fc>::make(many(Qvx64fc()), {.up = 2}).error(), qvxStatBadSize);
+  EXPECT_EQ(qvx::StreamFir<Qvx32f>::make(reals).error(), qvxStatBadSize);
+  EXPECT_EQ(qvx::SparseFir::make(reals, many(Qvx32s())).error(), qvxStatBadSize);
+  EXPECT_EQ(qvx::SparseIir::make(reals, many(Qvx32s()), 4).error(), qvxStatBadSize);
+  EXPECT_EQ(qvx::Iir<Qvx32f>::make(reals).error(), qvxStatBadSize);
+  const auto sections = std::span(reals.data(), size_t{6} * ((size_t{1} << 32) + 1));
+  EXPECT_EQ(qvx::Iir<Qvx32f>::makeSections(sections).error(), qvxStatBadSize);
+  EXPECT_EQ(qvx::Iir<Qvx32f>::makeSectionsDirect1(sections).error(), qvxStatBadSize);
+  EXPECT_EQ(qvx::Lms<Qvx32f>::make(reals).error(), qvxStatBadSize);
+  EXPECT_EQ(qvx::LmsDecimator<Qvx16s>::make(many(Qvx32s()), 2, 1).error(), qvxStatBadSize);
+  const qvx::Band few = {reals.first(4), 0};
+  const qvx::Band band = {reals, 0};
+  for (const auto& [low, high] : {std::pair(few, band), std::pair(band, few)}) {
+    EXPECT_EQ(qvx::WaveletForward<Qvx32f>::make(low, high).error(), qvxStatBadSize);
+    EXPECT_EQ(qvx::WaveletInverse<Qvx32f>::make(low, high).error(), qvxStatBadSize);
+  }
+}
+
 // One that is empty or was moved from is refused by whatever it is used for. What it had before is gone: by the record of a
 // longer filter its vectors would be too short.
 TEST(Records, AreEmptyOnceMovedFrom) {
