@@ -4,9 +4,9 @@
 namespace qvx::transform {
 
 using T = Qvx64f;
-template void longTransform(const ComplexPlan<T>&, Interleaved<const T, false>, Interleaved<T, false>, T*, Unscaled);
-template void longTransform(const ComplexPlan<T>&, Interleaved<const T, false>, Interleaved<T, false>, T*, ScaledBy<T>);
-template void longTransform(const ComplexPlan<T>&, Interleaved<const T, true>, Interleaved<T, true>, T*, ScaledBy<T>);
+template void complexTransform(const ComplexPlan<T>&, Interleaved<const T, false>, Interleaved<T, false>, T*, Unscaled);
+template void complexTransform(const ComplexPlan<T>&, Interleaved<const T, false>, Interleaved<T, false>, T*, ScaledBy<T>);
+template void complexTransform(const ComplexPlan<T>&, Interleaved<const T, true>, Interleaved<T, true>, T*, ScaledBy<T>);
 
 }  // namespace qvx::transform
 

@@ -130,24 +130,24 @@ template <class T, class Src, class Dst, class Scale>
   withLanes<T>(plan.n, [&](auto L) { runPasses<L>(plan.plan, src, dst, y, scale); });
 }
 
-// Instantiated where the exports of complex numbers are; those of real ones call the same.
-extern template void longTransform(const ComplexPlan<float>&, Interleaved<const float, false>, Interleaved<float, false>, float*,
-                                   Unscaled);
-extern template void longTransform(const ComplexPlan<float>&, Interleaved<const float, false>, Interleaved<float, false>, float*,
-                                   ScaledBy<float>);
-extern template void longTransform(const ComplexPlan<float>&, Interleaved<const float, true>, Interleaved<float, true>, float*,
-                                   ScaledBy<float>);
-extern template void longTransform(const ComplexPlan<double>&, Interleaved<const double, false>, Interleaved<double, false>,
-                                   double*, Unscaled);
-extern template void longTransform(const ComplexPlan<double>&, Interleaved<const double, false>, Interleaved<double, false>,
-                                   double*, ScaledBy<double>);
-extern template void longTransform(const ComplexPlan<double>&, Interleaved<const double, true>, Interleaved<double, true>,
-                                   double*, ScaledBy<double>);
-
 template <class T, class Src, class Dst, class Scale>
-QVX_INLINE void complexTransform(const ComplexPlan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
+[[gnu::noinline]] void complexTransform(const ComplexPlan<T>& plan, Src src, Dst dst, T* y, Scale scale) {
   if (plan.n <= size_t{1} << kShortOrder<Src>) smallTransform(log2Of(plan.n), src, dst, scale);
   else longTransform(plan, src, dst, y, scale);
 }
+
+// Instantiated where the exports of complex numbers are; those of real ones call the same.
+extern template void complexTransform(const ComplexPlan<float>&, Interleaved<const float, false>, Interleaved<float, false>,
+                                      float*, Unscaled);
+extern template void complexTransform(const ComplexPlan<float>&, Interleaved<const float, false>, Interleaved<float, false>,
+                                      float*, ScaledBy<float>);
+extern template void complexTransform(const ComplexPlan<float>&, Interleaved<const float, true>, Interleaved<float, true>, float*,
+                                      ScaledBy<float>);
+extern template void complexTransform(const ComplexPlan<double>&, Interleaved<const double, false>, Interleaved<double, false>,
+                                      double*, Unscaled);
+extern template void complexTransform(const ComplexPlan<double>&, Interleaved<const double, false>, Interleaved<double, false>,
+                                      double*, ScaledBy<double>);
+extern template void complexTransform(const ComplexPlan<double>&, Interleaved<const double, true>, Interleaved<double, true>,
+                                      double*, ScaledBy<double>);
 
 }  // namespace qvx::transform

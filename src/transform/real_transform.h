@@ -84,10 +84,11 @@ void longInverse(const RealPlan<T>& plan, const T* src, T* dst, T* y, Scale scal
 template <bool kInverse, SpectrumLayout kLayout, class T, class Src, class Dst, class Scale>
 QVX_INLINE QvxStatus shortReal(int order, Src src, Dst dst, Scale scale) {
   const auto of = [=](auto n) __attribute__((always_inline)) {
-    if constexpr (kInverse) return smallInverse<kLayout, n, T>(src, dst, scale);
-    else if constexpr (n == 8) return forwardOfEight<kLayout, T>(src, dst, scale);
-    else if constexpr (n == 16) return forwardOfSixteen<kLayout, T>(src, dst, scale);
-    else return smallForward<kLayout, n, T>(src, dst, scale);
+    constexpr auto layout = layoutFor<kLayout, n>();
+    if constexpr (kInverse) return smallInverse<n, T>(layout, src, dst, scale);
+    else if constexpr (n == 8) return forwardOfEight<T>(layout, src, dst, scale);
+    else if constexpr (n == 16) return forwardOfSixteen<T>(layout, src, dst, scale);
+    else return smallForward<n, T>(layout, src, dst, scale);
   };
   const Lanes<T, 1> one;
   switch (order) {

@@ -13,8 +13,16 @@
 
 namespace qvx::transform {
 
+// A layout that is known when a kernel is compiled. Kernels of 64 numbers and more take one as a value: three of each would be
+// half of what is compiled for real transforms.
+template <SpectrumLayout kLayout> using KnownLayout = std::integral_constant<SpectrumLayout, kLayout>;
+template <SpectrumLayout kLayout, size_t N> constexpr auto layoutFor() {
+  if constexpr (N < 64) return KnownLayout<kLayout>();
+  else return kLayout;
+}
+
 // Where the real part of pair k stands.
-template <SpectrumLayout kLayout> constexpr size_t placeOf(size_t k) { return placeOfPair(kLayout, 2, k); }
+constexpr size_t placeOf(SpectrumLayout layout, size_t k) { return placeOfPair(layout, 2, k); }
 
 template <class V> QVX_INLINE auto firstLane(V v) { return hn::Set(Lanes<LaneOf<V>, 1>(), hn::GetLane(v)); }
 
@@ -68,11 +76,11 @@ template <bool kInverse, class V> QVX_INLINE void recombinePairs(V& a, V& b, con
 
 // X[0] and X[N/2], each first in its pair. Whole pairs go out, where a call that works on this one's result loads pairs: of a
 // number from two stores it would wait twice as long.
-template <SpectrumLayout kLayout, size_t N, class V, class Dst> QVX_INLINE void putEnds(V first, V last, Dst dst) {
-  if constexpr (kLayout == SpectrumLayout::kCcs) {
+template <size_t N, class Layout, class V, class Dst> QVX_INLINE void putEnds(Layout layout, V first, V last, Dst dst) {
+  if (layout == SpectrumLayout::kCcs) {
     dst.put(hn::InterleaveLower(first, hn::Zero(TagOf<V>())), 0);
     dst.put(hn::InterleaveLower(last, hn::Zero(TagOf<V>())), N);
-  } else if constexpr (kLayout == SpectrumLayout::kPerm) {
+  } else if (layout == SpectrumLayout::kPerm) {
     dst.put(hn::InterleaveLower(first, last), 0);
   } else {
     dst.put(firstLane(first), 0);
@@ -80,8 +88,8 @@ template <SpectrumLayout kLayout, size_t N, class V, class Dst> QVX_INLINE void 
   }
 }
 
-template <SpectrumLayout kLayout, size_t N, class T, class Src, class Dst, class Scale>
-[[gnu::noinline]] QvxStatus smallForward(Src src, Dst dst, Scale scale) {
+template <size_t N, class T, class Layout, class Src, class Dst, class Scale>
+[[gnu::noinline]] QvxStatus smallForward(Layout layout, Src src, Dst dst, Scale scale) {
   constexpr size_t H = N / 2;
   using S = RealShape<T, H, false>;
   using V = typename S::V;
@@ -92,7 +100,7 @@ template <SpectrumLayout kLayout, size_t N, class T, class Src, class Dst, class
       [=](size_t at) __attribute__((always_inline)) { return src.get(TagOf<V>(), 2 * at); },
       [&](size_t at, V v) __attribute__((always_inline)) { z[at / P] = v; });
 
-  const auto put = [=](size_t k, auto v) __attribute__((always_inline)) { dst.put(scale(v), placeOf<kLayout>(k)); };
+  const auto put = [=](size_t k, auto v) __attribute__((always_inline)) { dst.put(scale(v), placeOf(layout, k)); };
   const V first = z[0] + swapped(z[0]);
   const V last = z[0] - swapped(z[0]);
   if constexpr (P == 1) {
@@ -126,16 +134,16 @@ template <SpectrumLayout kLayout, size_t N, class T, class Src, class Dst, class
     });
   }
   if constexpr (P == 1) {
-    putEnds<kLayout, N>(scale(first), scale(last), dst);
+    putEnds<N>(layout, scale(first), scale(last), dst);
   } else {
-    putEnds<kLayout, N>(number(scale(first)), number(scale(last)), dst);
+    putEnds<N>(layout, number(scale(first)), number(scale(last)), dst);
   }
   return qvxStatOk;
 }
 
 // Of eight numbers, in pairs, by sums of their own: from load to store 11 cycles instead of 25. Result k is that of kStep * k.
-template <SpectrumLayout kLayout, size_t kStep, class V, class Dst, class Scale>
-QVX_INLINE void transformEight(V x0, V x2, V x4, V x6, Dst dst, Scale scale) {
+template <size_t kStep, class Layout, class V, class Dst, class Scale>
+QVX_INLINE void transformEight(Layout layout, V x0, V x2, V x4, V x6, Dst dst, Scale scale) {
   using T = LaneOf<V>;
   constexpr T kHalf = 0.70710678118654752440;
   alignas(16) static constexpr T kTurn[] = {kHalf, -kHalf};
@@ -146,16 +154,16 @@ QVX_INLINE void transformEight(V x0, V x2, V x4, V x6, Dst dst, Scale scale) {
   const V mean = a0 + a2;
   const V even = hn::InterleaveLower(b0, b2);
   const V odd = minusPlus(hn::DupOdd(b0), hn::DupOdd(b2));
-  dst.put(scale(hn::MulAdd(odd, load(TagOf<V>(), kTurn), even * alternating<V>())), placeOf<kLayout>(kStep));
-  dst.put(scale((a0 - a2) * alternating<V>()), placeOf<kLayout>(2 * kStep));
-  dst.put(scale(hn::NegMulAdd(odd, same<V>(kHalf), even)), placeOf<kLayout>(3 * kStep));
-  putEnds<kLayout, 8 * kStep>(scale(mean + swapped(mean)), scale(mean - swapped(mean)), dst);
+  dst.put(scale(hn::MulAdd(odd, load(TagOf<V>(), kTurn), even * alternating<V>())), placeOf(layout, kStep));
+  dst.put(scale((a0 - a2) * alternating<V>()), placeOf(layout, 2 * kStep));
+  dst.put(scale(hn::NegMulAdd(odd, same<V>(kHalf), even)), placeOf(layout, 3 * kStep));
+  putEnds<8 * kStep>(layout, scale(mean + swapped(mean)), scale(mean - swapped(mean)), dst);
 }
 
-template <SpectrumLayout kLayout, class T, class Src, class Dst, class Scale>
-[[gnu::noinline]] QvxStatus forwardOfEight(Src src, Dst dst, Scale scale) {
+template <class T, class Layout, class Src, class Dst, class Scale>
+[[gnu::noinline]] QvxStatus forwardOfEight(Layout layout, Src src, Dst dst, Scale scale) {
   const Lanes<T, 2> d;
-  transformEight<kLayout, 1>(src.get(d, 0), src.get(d, 2), src.get(d, 4), src.get(d, 6), dst, scale);
+  transformEight<1>(layout, src.get(d, 0), src.get(d, 2), src.get(d, 4), src.get(d, 6), dst, scale);
   return qvxStatOk;
 }
 
@@ -166,8 +174,8 @@ alignas(16) inline constexpr T kSixteenth[] = {static_cast<T>(cosineOf128(8 * n)
 
 // Of sixteen. With b the differences of numbers 8 apart, X[1], X[5], conj X[7] and conj X[3] are the transform of (b[n] - i b[n +
 // 4]) exp(-2 pi i n / 16), n = 0 .. 3; where one call works on the last one's result, 0.8 of the time by complex numbers.
-template <SpectrumLayout kLayout, class T, class Src, class Dst, class Scale>
-[[gnu::noinline]] QvxStatus forwardOfSixteen(Src src, Dst dst, Scale scale) {
+template <class T, class Layout, class Src, class Dst, class Scale>
+[[gnu::noinline]] QvxStatus forwardOfSixteen(Layout layout, Src src, Dst dst, Scale scale) {
   const Lanes<T, 2> d;
   using V = Vec<Lanes<T, 2>>;
   V a[4];
@@ -185,20 +193,20 @@ template <SpectrumLayout kLayout, class T, class Src, class Dst, class Scale>
   const V z1 = turned(Index<1>(), hn::DupOdd(b[0]), hn::DupOdd(b[2]));
   const V z2 = turned(Index<2>(), hn::DupEven(b[1]), hn::DupEven(b[3]));
   const V z3 = turned(Index<3>(), hn::DupOdd(b[1]), hn::DupOdd(b[3]));
-  transformEight<kLayout, 2>(a[0], a[1], a[2], a[3], dst, scale);
+  transformEight<2>(layout, a[0], a[1], a[2], a[3], dst, scale);
   const V evens = z0 + z2;
   const V odds = z1 + z3;
   const V even = z0 - z2;
   const V odd = z1 - z3;
-  dst.put(scale(evens + odds), placeOf<kLayout>(1));
-  dst.put(scale(plusI(even, odd) * alternating<V>()), placeOf<kLayout>(3));
-  dst.put(scale(minusI(even, odd)), placeOf<kLayout>(5));
-  dst.put(scale((evens - odds) * alternating<V>()), placeOf<kLayout>(7));
+  dst.put(scale(evens + odds), placeOf(layout, 1));
+  dst.put(scale(plusI(even, odd) * alternating<V>()), placeOf(layout, 3));
+  dst.put(scale(minusI(even, odd)), placeOf(layout, 5));
+  dst.put(scale((evens - odds) * alternating<V>()), placeOf(layout, 7));
   return qvxStatOk;
 }
 
-template <SpectrumLayout kLayout, size_t N, class T, class Src, class Dst, class Scale>
-[[gnu::noinline]] QvxStatus smallInverse(Src src, Dst dst, Scale scale) {
+template <size_t N, class T, class Layout, class Src, class Dst, class Scale>
+[[gnu::noinline]] QvxStatus smallInverse(Layout layout, Src src, Dst dst, Scale scale) {
   constexpr size_t H = N / 2;
   using S = RealShape<T, H, true>;
   using V = typename S::V;
@@ -206,14 +214,14 @@ template <SpectrumLayout kLayout, size_t N, class T, class Src, class Dst, class
   constexpr size_t kVectors = S::kVectors;
   const TagOf<V> d;
   const Lanes<T, 2> one;
-  const auto get = [=](auto tag, size_t k) __attribute__((always_inline)) { return src.get(tag, placeOf<kLayout>(k)); };
+  const auto get = [=](auto tag, size_t k) __attribute__((always_inline)) { return src.get(tag, placeOf(layout, k)); };
   const auto all = [=](size_t k) __attribute__((always_inline)) { return everyNumber(d, get(one, k)); };
   V z[kVectors];
   const auto everywhere = [=](size_t at) __attribute__((always_inline)) {
     return same<V>(hn::GetLane(src.get(Lanes<T, 1>(), at)));
   };
   V mirrored[kVectors];  // numbers H - k, H - k - 1 .., k = 0, P ..
-  const V ends = swapped(minusPlus(everywhere(0), everywhere(placeOfMiddle(kLayout, N))));
+  const V ends = swapped(minusPlus(everywhere(0), everywhere(placeOfMiddle(layout, N))));
   z[0] = ends;
   if constexpr (P == 1) {
     unrolled<(H > 2 ? H / 2 - 1 : 0)>([&](auto i) __attribute__((always_inline)) {
