@@ -195,34 +195,52 @@ template <class T> void writeGrid(GridPlan<T>& plan, T* block) {
 
 template <class T, size_t P> using GridVector = Vec<Lanes<T, 2 * P>>;
 
-// put(j, z): P columns from `column` on, transformed and rotated. kFew: there are fewer.
-template <size_t R, size_t P, bool kFew, class T, class Ends, class Put>
-QVX_INLINE void transformColumns(const T* column, size_t across, const T* twiddles, const Ends& ends, Put put) {
-  const Lanes<T, 2 * P> d;
-  using Z = ComplexVector<GridVector<T, P>, false>;
-  transformAny<R>(
-      [=](auto j) __attribute__((always_inline)) {
-        const T* const at = column + j * 2 * across;
-        return Z{point(ends.point(kFew ? firstLanes(d, at, 2 * across) : load(d, at)))};
-      },
-      [=](auto j, Z z) __attribute__((always_inline)) {
-        if constexpr (j > 0) z.v = twiddled<false>(z.v, twiddles + (j - 1) * 4 * P);
-        put(j, z.v);
-      });
-}
-
+// Points of P columns, `apart` from each other. kFew: there are fewer columns.
+template <size_t P, bool kFew, class T, class Ends> struct GridColumns {
+  const T* first;
+  size_t apart;
+  const Ends& ends;
+  QVX_INLINE auto operator()(auto j) const {
+    const Lanes<T, 2 * P> d;
+    const T* const at = first + j * apart;
+    return ComplexVector<GridVector<T, P>, false>{point(ends.point(kFew ? firstLanes(d, at, apart) : load(d, at)))};
+  }
+};
+// Their results, rotated, to vectors of an array or in memory.
+template <size_t P, class T, class To> struct GridTwiddles {
+  const T* twiddles;
+  To to;
+  template <class Z> QVX_INLINE void operator()(auto j, Z z) const {
+    if constexpr (j > 0) z.v = twiddled<false>(z.v, twiddles + (j - 1) * 4 * P);
+    to(j, z.v);
+  }
+};
+template <size_t kApart, class T> struct InMemory {
+  T* first;
+  template <class V> QVX_INLINE void operator()(auto k, V v) const { store(v, TagOf<V>(), first + k * kApart); }
+};
 template <size_t R, size_t P, bool kFew, class T, class Ends>
 [[gnu::noinline]] void downGrid(const T* src, T* y, size_t across, const T* twiddles, const Ends& given) {
-  using V = GridVector<T, P>;
   const Ends ends = given;
   for (size_t h = 0; h < vectorsOf(across, P); ++h, y += R * 2 * P, twiddles += (R - 1) * 4 * P) {
-    const auto put = [=](auto j, V v) __attribute__((always_inline)) { store(v, TagOf<V>(), y + j * 2 * P); };
-    transformColumns<R, P, kFew>(src + 2 * gridColumn(h, across, P), across, twiddles, ends, put);
+    transformAny<R>(GridColumns<P, kFew, T, Ends>{src + 2 * gridColumn(h, across, P), 2 * across, ends},
+                    GridTwiddles<P, T, InMemory<2 * P, T>>{twiddles, {y}});
   }
 }
 
 // Two rows of numbers of 64 or 128 bits need no shuffle: a point of both is two loads.
 template <class T, size_t P> inline constexpr bool kJoinsRows = !kHasMasks && P == 2;
+template <size_t C, size_t P, class T> struct JoinedRows {
+  const T* first;
+  size_t down;
+  QVX_INLINE auto operator()(auto k) const {
+    using V = GridVector<T, P>;
+    constexpr size_t h = k / P;
+    const T* const at = first + h * down * 2 * P + 2 * (k - gridColumn(h, C, P));
+    if constexpr (P == 1) return ComplexVector<V, false>{point(load(TagOf<V>(), at))};
+    else return ComplexVector<V, false>{fromHalves<V>(at, at + 2 * P)};
+  }
+};
 
 template <size_t C, size_t P, class T, class Ends>
 [[gnu::noinline]] void acrossGrid(const T* y, T* dst, size_t down, const Ends& given) {
@@ -232,16 +250,9 @@ template <size_t C, size_t P, class T, class Ends>
   const Ends ends = given;
   for (size_t q = 0; q < down; q += P) {
     const size_t row = std::min(q, down - P);
-    const auto put = [=](auto k, Z z) __attribute__((always_inline)) { store(ends.result(z.v), d, dst + 2 * (row + k * down)); };
+    const ResultsApart<T, Ends> results{dst + 2 * row, 2 * down, ends};
     if constexpr (P == 1 || kJoinsRows<T, P>) {
-      transformAny<C>(
-          [=](auto k) __attribute__((always_inline)) {
-            constexpr size_t h = k / P;
-            const T* const at = y + (h * down + row) * 2 * P + 2 * (k - gridColumn(h, C, P));
-            if constexpr (P == 1) return Z{point(load(d, at))};
-            else return Z{fromHalves<V>(at, at + 2 * P)};
-          },
-          put);
+      transformAny<C>(JoinedRows<C, P, T>{y + row * 2 * P, down}, results);
     } else {
       Z x[C];
       unrolled<vectorsOf(C, P)>([&](auto h) __attribute__((always_inline)) {
@@ -251,8 +262,7 @@ template <size_t C, size_t P, class T, class Ends>
         constexpr size_t kFirst = gridColumn(h, C, P);
         unrolled<std::min(P, C)>([&](auto l) __attribute__((always_inline)) { x[kFirst + l].v = r[l]; });
       });
-      transformAny<C>(
-          [&](auto k) __attribute__((always_inline)) { return x[k]; }, put);
+      transformAny<C>(InArray<1, Z>{x}, results);
     }
   }
 }
@@ -261,19 +271,19 @@ template <size_t C, size_t P, class T, class Ends>
 template <size_t C, size_t P, bool kPlain, class T>
 [[gnu::noinline]] void gridInRegisters(const T* src, T* dst, const T* twiddles, bool isInverse, T factor) {
   using V = GridVector<T, P>;
-  const InterleavedEnds<V, kPlain> ends(isInverse, factor);
-  ComplexVector<V, false> x[C];
+  using Z = ComplexVector<V, false>;
+  using Ends = InterleavedEnds<V, kPlain>;
+  const Ends ends(isInverse, factor);
+  Z x[C];
   unrolled<vectorsOf(C, P)>([&](auto h) __attribute__((always_inline)) {
     constexpr size_t kFirst = gridColumn(h, C, P);
     V r[P];
-    const auto put = [&](auto l, V v) __attribute__((always_inline)) { r[l] = v; };
-    transformColumns<P, P, (C < P)>(src + 2 * kFirst, C, twiddles + h * (P - 1) * 4 * P, ends, put);
+    transformAny<P>(GridColumns<P, (C < P), T, Ends>{src + 2 * kFirst, 2 * C, ends},
+                    GridTwiddles<P, T, InArray<1, V>>{twiddles + h * (P - 1) * 4 * P, {r}});
     transposePoints(r);
     unrolled<std::min(P, C)>([&](auto l) __attribute__((always_inline)) { x[kFirst + l].v = r[l]; });
   });
-  transformAny<C>(
-      [&](auto k) __attribute__((always_inline)) { return x[k]; },
-      [&](auto k, auto z) __attribute__((always_inline)) { store(ends.result(z.v), Lanes<T, 2 * P>(), dst + 2 * k * P); });
+  transformAny<C>(InArray<1, Z>{x}, ResultsApart<T, Ends>{dst, 2 * P, ends});
 }
 
 template <size_t P, bool kPlain, class T> void runGrid(const GridPlan<T>& plan, bool isInverse, const T* src, T* dst, T factor) {

@@ -99,26 +99,59 @@ template <class V> QVX_INLINE void putPair(V a, V b, LaneOf<V>* y, size_t row) {
     storeHalves(as<float>(odd), y + row, y + 3 * row);
   }
 }
+// Points and results of a transform, `apart` lanes from each other, as `ends` has them on either way.
+template <class V, class Ends> struct PointsApart {
+  const LaneOf<V>* first;
+  size_t apart;
+  const Ends& ends;
+  QVX_INLINE auto operator()(auto k) const {
+    return ComplexVector<V, false>{point(ends.point(load(TagOf<V>(), first + k * apart)))};
+  }
+};
+template <class T, class Ends> struct ResultsApart {
+  T* first;
+  size_t apart;
+  const Ends& ends;
+  template <class V> QVX_INLINE void operator()(auto k, ComplexVector<V, false> z) const {
+    store(ends.result(z.v), TagOf<V>(), first + k * apart);
+  }
+};
+// Results times the twiddles of a run.
+template <class T> struct TurnedApart {
+  T* first;
+  size_t apart;
+  const T* twiddles;
+  template <class V> QVX_INLINE void operator()(auto k, ComplexVector<V, false> z) const {
+    if constexpr (k > 0) z = product(z, same<V>(twiddles[2 * k - 2]), same<V>(twiddles[2 * k - 1]));
+    store(z.v, TagOf<V>(), first + k * apart);
+  }
+};
+// Results of a first pass to rows of R numbers. Doubles go at once: of floats two results are transposed, later.
+template <size_t R, class V> struct IntoRows {
+  LaneOf<V>* rows;
+  ComplexVector<V, false>* made;
+  const LaneOf<V>* twiddles;
+  const LaneOf<V>* again;
+  QVX_INLINE void operator()(auto k, ComplexVector<V, false> z) const {
+    if constexpr (k > 0) z = rotatedBy(z, twiddles + (k - 1) * kLanesOf<V>, again + (k - 1) * kLanesOf<V>);
+    if constexpr (sizeof(LaneOf<V>) == 8) putOne(z.v, rows + 2 * k, 2 * R);
+    else made[k] = z;
+  }
+};
+
 // m is P or more.
 template <size_t R, class T, class Ends>
 [[gnu::noinline, gnu::flatten]] void firstInterleavedPass(const T* src, T* y, size_t m, const T* twiddles, const Ends& given) {
-  using Z = typename Numbers<T>::Z;
+  using V = typename Numbers<T>::V;
   constexpr size_t P = Numbers<T>::kPoints;
   const Ends ends = given;
   const T* again = twiddles;
   __asm__("" : "+r"(again));
   for (size_t begin = 0; begin < m; begin += P, twiddles += (R - 1) * 2 * P, again += (R - 1) * 2 * P) {
     const size_t p = std::min(begin, m - P);
-    const T* const from = src + 2 * p;
     T* const to = y + 2 * p * R;
-    Z made[R];
-    transformAny<R>([=](auto k) { return Z{point(ends.point(load(TagOf<decltype(Z::v)>(), from + 2 * k * m)))}; },
-                    [&](auto k, Z z) {
-                      if constexpr (k > 0) z = rotatedBy(z, twiddles + (k - 1) * 2 * P, again + (k - 1) * 2 * P);
-                      // Doubles go at once: of floats two results are transposed.
-                      if constexpr (sizeof(T) == 8) putOne(z.v, to + 2 * k, 2 * R);
-                      else made[k] = z;
-                    });
+    typename Numbers<T>::Z made[R];
+    transformAny<R>(PointsApart<V, Ends>{src + 2 * p, 2 * m, ends}, IntoRows<R, V>{to, made, twiddles, again});
     if constexpr (sizeof(T) == 4) {
       unrolled<R / 2>([&](auto i) { putPair(made[2 * i].v, made[2 * i + 1].v, to + 4 * i, 2 * R); });
       if constexpr (R % 2 != 0) putOne(made[R - 1].v, to + 2 * (R - 1), 2 * R);
@@ -126,44 +159,32 @@ template <size_t R, class T, class Ends>
   }
 }
 
-// R points, `apart` from each other, to R results; what becomes of a vector on either way.
-template <size_t R, class T, class Point, class Result>
-QVX_INLINE void transformColumn(const T* from, size_t apart, T* to, size_t toApart, Point pointOf, Result resultOf) {
-  using Z = typename Numbers<T>::Z;
-  const TagOf<decltype(Z::v)> d;
-  transformAny<R>([=](auto k) { return Z{point(pointOf(load(d, from + 2 * k * apart)))}; },
-                  [=](auto k, Z z) { store(resultOf(k, z), d, to + 2 * k * toApart); });
-}
 template <class T> QVX_INLINE void copyRows(const T* from, size_t apart, T* to, size_t toApart, size_t rows, size_t count) {
   for (size_t row = 0; row < rows; ++row) std::copy_n(from + 2 * row * apart, 2 * count, to + 2 * row * toApart);
 }
-template <class T> struct TwiddlesOfRun {
-  const T* twiddles;
-  template <class V> QVX_INLINE V operator()(auto k, ComplexVector<V, false> z) const {
-    if constexpr (k == 0) return z.v;
-    else return product(z, same<V>(twiddles[2 * k - 2]), same<V>(twiddles[2 * k - 1])).v;
-  }
-};
-struct AsItIs {
-  template <class V> QVX_INLINE V operator()(V v) const { return v; }
-};
 
 // s is P or more.
 template <size_t R, class T>
 [[gnu::noinline, gnu::flatten]] void middleInterleavedPass(const T* x, T* y, size_t s, size_t m, const T* twiddles) {
+  using V = typename Numbers<T>::V;
+  using Ends = InterleavedEnds<V, true>;
   constexpr size_t P = Numbers<T>::kPoints;
+  const Ends asTheyAre(false, 1);
   for (size_t p = 0; p < m; ++p, x += 2 * s, y += 2 * s * R, twiddles += (R - 1) * 2) {
     for (size_t begin = 0; begin < s; begin += P) {
       const size_t q = 2 * std::min(begin, s - P);
-      transformColumn<R>(x + q, s * m, y + q, s, AsItIs(), TwiddlesOfRun<T>{twiddles});
+      transformAny<R>(PointsApart<V, Ends>{x + q, 2 * s * m, asTheyAre}, TurnedApart<T>{y + q, 2 * s, twiddles});
     }
   }
 }
 
 template <size_t R, class T, class Ends>
 [[gnu::noinline, gnu::flatten]] void lastInterleavedPass(const T* x, T* dst, LastSteps steps, const Ends& given) {
+  using V = typename Numbers<T>::V;
+  using Plain = InterleavedEnds<V, true>;
   constexpr size_t P = Numbers<T>::kPoints;
   const Ends ends = given;
+  const Plain asTheyAre(false, 1);
   const size_t columns = steps.columns;
   T edge[2][R * 2 * P];
   for (size_t run = 0; run < steps.runs; ++run, x += 2 * steps.fromRun, dst += 2 * steps.toRun) {
@@ -172,8 +193,8 @@ template <size_t R, class T, class Ends>
       const size_t wide = std::min(P, columns - q);
       const bool isWhole = wide == P;
       if (!isWhole) copyRows(x + 2 * q, steps.points, edge[0], P, R, wide);
-      transformColumn<R>(isWhole ? x + 2 * q : edge[0], isWhole ? steps.points : P, isWhole ? dst + 2 * q : edge[1],
-                         isWhole ? steps.results : P, AsItIs(), [=](auto, auto z) { return ends.result(z.v); });
+      transformAny<R>(PointsApart<V, Plain>{isWhole ? x + 2 * q : edge[0], 2 * (isWhole ? steps.points : P), asTheyAre},
+                      ResultsApart<T, Ends>{isWhole ? dst + 2 * q : edge[1], 2 * (isWhole ? steps.results : P), ends});
       if (!isWhole) copyRows(edge[1], P, dst + 2 * q, steps.results, R, wide);
     }
   }
@@ -183,6 +204,7 @@ template <size_t R, class T, class Ends>
 template <size_t R, class T, class Ends>
 [[gnu::noinline, gnu::flatten]] void firstInterleavedTilePass(const T* src, size_t apart, size_t columns, T* tile, size_t wide,
                                                               size_t m, const T* twiddles, const Ends& given) {
+  using V = typename Numbers<T>::V;
   constexpr size_t P = Numbers<T>::kPoints;
   const Ends ends = given;
   T edge[R * 2 * P];
@@ -190,9 +212,8 @@ template <size_t R, class T, class Ends>
     for (size_t at = 0; at < columns; at += P) {
       const size_t here = std::min(P, columns - at);
       if (here < P) copyRows(src + 2 * at, apart * m, edge, P, R, here);
-      transformColumn<R>(
-          here < P ? edge : src + 2 * at, here < P ? P : apart * m, tile + 2 * at, wide, [=](auto v) { return ends.point(v); },
-          TwiddlesOfRun<T>{twiddles});
+      transformAny<R>(PointsApart<V, Ends>{here < P ? edge : src + 2 * at, 2 * (here < P ? P : apart * m), ends},
+                      TurnedApart<T>{tile + 2 * at, 2 * wide, twiddles});
     }
   }
 }

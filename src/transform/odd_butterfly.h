@@ -114,6 +114,20 @@ template <size_t P, class Get, class Put> QVX_INLINE void transformPairs(Get get
   });
 }
 
+// What the transforms within a longer one of N points take and leave: points or results kFirst + kStep * k of its own, or every
+// kApart-th vector of an array. Named, since a lambda's type repeats those that its function has for parameters, twice a level:
+// the compiler took half of its time for such names.
+template <size_t kFirst, size_t kStep, size_t N, class Ends> struct Within {
+  const Ends& ends;
+  QVX_INLINE auto operator()(auto k) const { return ends(Index<(kFirst + kStep * k) % N>()); }
+  template <class Z> QVX_INLINE void operator()(auto k, Z z) const { ends(Index<(kFirst + kStep * k) % N>(), z); }
+};
+template <size_t kApart, class Z> struct InArray {
+  Z* first;
+  QVX_INLINE Z operator()(auto k) const { return first[k * kApart]; }
+  QVX_INLINE void operator()(auto k, Z z) const { first[k * kApart] = z; }
+};
+
 // A * B points without common factors: two dimensions without twiddles between them.
 template <size_t A, size_t B, class Get, class Put> QVX_INLINE void transformCoprimes(Get get, Put put) {
   constexpr size_t N = A * B;
@@ -125,16 +139,11 @@ template <size_t A, size_t B, class Get, class Put> QVX_INLINE void transformCop
   constexpr size_t kStepA = B * inverseOf(B % A, A);
   constexpr size_t kStepB = A * inverseOf(A % B, B);
   using Z = decltype(get(Index<0>()));
-  Z y[A][B];
-  unrolled<B>([&](auto b) __attribute__((always_inline)) {
-    transformAny<A>(
-        [&](auto a) __attribute__((always_inline)) { return get(Index<(B * a + A * b) % N>()); },
-        [&](auto a, Z z) __attribute__((always_inline)) { y[a][b] = z; });
-  });
+  Z y[N];
+  unrolled<B>([&](auto b)
+                  __attribute__((always_inline)) { transformAny<A>(Within<A * b, B, N, Get>{get}, InArray<B, Z>{y + b}); });
   unrolled<A>([&](auto a) __attribute__((always_inline)) {
-    transformAny<B>(
-        [&](auto b) __attribute__((always_inline)) { return y[a][b]; },
-        [&](auto b, Z z) __attribute__((always_inline)) { put(Index<(kStepA * a + kStepB * b) % N>(), z); });
+    transformAny<B>(InArray<1, Z>{y + B * a}, Within<kStepA * a, kStepB, N, Put>{put});
   });
 }
 
@@ -144,24 +153,23 @@ template <size_t kTurn, size_t N, class Z> QVX_INLINE Z rotated(Z z) {
   constexpr double kSine = sineOfTurn(kTurn, N);
   return product(z, kCosine, -kSine);
 }
+template <size_t kTurn, size_t N, size_t kApart, class Z> struct Rotated {
+  Z* first;
+  QVX_INLINE void operator()(auto k, Z z) const {
+    if constexpr (k * kTurn > 0) first[k * kApart] = rotated<k * kTurn, N>(z);
+    else first[k * kApart] = z;
+  }
+};
 
 // A * B points of any factors: B transforms of A points, twiddles, A transforms of B points.
 template <size_t A, size_t B, class Get, class Put> QVX_INLINE void transformProduct(Get get, Put put) {
+  constexpr size_t N = A * B;
   using Z = decltype(get(Index<0>()));
-  Z y[A][B];
-  unrolled<B>([&](auto b) __attribute__((always_inline)) {
-    transformAny<A>(
-        [&](auto a) __attribute__((always_inline)) { return get(Index<B * a + b>()); },
-        [&](auto k, Z z) __attribute__((always_inline)) {
-          if constexpr (b > 0 && k > 0) y[k][b] = rotated<b * k, A * B>(z);
-          else y[k][b] = z;
-        });
-  });
-  unrolled<A>([&](auto k) __attribute__((always_inline)) {
-    transformAny<B>(
-        [&](auto b) __attribute__((always_inline)) { return y[k][b]; }, [&](auto b, Z z) __attribute__((
-                                                                            always_inline)) { put(Index<k + A * b>(), z); });
-  });
+  Z y[N];
+  unrolled<B>([&](auto b)
+                  __attribute__((always_inline)) { transformAny<A>(Within<b, B, N, Get>{get}, Rotated<b, N, B, Z>{y + b}); });
+  unrolled<A>([&](auto k)
+                  __attribute__((always_inline)) { transformAny<B>(InArray<1, Z>{y + B * k}, Within<k, A, N, Put>{put}); });
 }
 
 template <size_t R, class Get, class Put> QVX_INLINE void transformAny(Get get, Put put) {
@@ -186,8 +194,7 @@ template <size_t R, class Get, class Put> QVX_INLINE void transformAny(Get get, 
 // x[k] = sum of x[n] exp(-2 pi i n k / R)
 template <size_t R, class Z> QVX_INLINE void anyDft(Z (&x)[R]) {
   Z y[R];
-  transformAny<R>(
-      [&](auto k) __attribute__((always_inline)) { return x[k]; }, [&](auto k, Z z) __attribute__((always_inline)) { y[k] = z; });
+  transformAny<R>(InArray<1, Z>{x}, InArray<1, Z>{y});
   unrolled<R>([&](auto k) __attribute__((always_inline)) { x[k] = y[k]; });
 }
 
